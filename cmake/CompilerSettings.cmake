@@ -1,0 +1,14 @@
+# Settings that every target of ours links to.
+add_library(folvero-settings INTERFACE)
+target_compile_options(folvero-settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+    -Wno-sign-conversion -Werror)
+target_compile_definitions(folvero-settings INTERFACE
+    QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
+
+set(FOLVERO_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
+if(FOLVERO_SANITIZE)
+    add_compile_options(-fsanitize=${FOLVERO_SANITIZE} -fno-omit-frame-pointer
+        -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${FOLVERO_SANITIZE})
+endif()

@@ -1,0 +1,21 @@
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui)
+find_package(OpenSSL 3 REQUIRED)
+find_package(ZLIB REQUIRED)
+find_package(pugixml REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(GTest REQUIRED)
+find_package(Threads REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(nettle REQUIRED IMPORTED_TARGET nettle)
+pkg_check_modules(tidy REQUIRED IMPORTED_TARGET tidy)
+pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
+pkg_check_modules(turbojpeg REQUIRED IMPORTED_TARGET libturbojpeg)
+
+# Debian ships the PDF engine as a static library without a pkg-config file.
+find_path(MUPDF_INCLUDE_DIR mupdf/fitz.h REQUIRED)
+find_library(MUPDF_LIBRARY mupdf REQUIRED)
+find_library(MUPDF_THIRD_LIBRARY mupdf-third REQUIRED)
+add_library(mupdf INTERFACE)
+target_include_directories(mupdf SYSTEM INTERFACE ${MUPDF_INCLUDE_DIR})
+target_link_libraries(mupdf INTERFACE ${MUPDF_LIBRARY} ${MUPDF_THIRD_LIBRARY}
+    harfbuzz freetype jbig2dec jpeg openjp2 gumbo mujs z m)

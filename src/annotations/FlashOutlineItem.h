@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <pugixml.hpp>
+#include <vector>
+
+// One entry of a book's table of contents, with the entries beneath it.
+class FlashOutlineItem {
+public:
+    QString caption() const { return iCaption; }
+    void setCaption(const QString& caption) { iCaption = caption; }
+    // One-based PDF page number; 0 when none was set.
+    int pageIndex() const { return iPageIndex; }
+    void setPageIndex(int index) { iPageIndex = index; }
+    // The entry above, not owned; nullptr at the top level.
+    FlashOutlineItem* parent() const { return iParent; }
+    void setParent(FlashOutlineItem* parent) { iParent = parent; }
+    // Depth; 1 for top-level entries read from a PDF.
+    int level() const { return iLevel; }
+    void setLevel(int level) { iLevel = level; }
+
+    using Items = std::vector<std::shared_ptr<FlashOutlineItem>>;
+    const Items& childItems() const { return iChildItems; }
+    void setChildItems(const Items& items) { iChildItems = items; }
+    void addChild(const std::shared_ptr<FlashOutlineItem>& child);
+    void removeChild(const std::shared_ptr<FlashOutlineItem>& child);
+
+    // Appends this entry's "o" element, with those of its children, to a parent and returns it.
+    pugi::xml_node outlineItemAsXMLNode(pugi::xml_node parent) const;
+    // Throws PlatformException "ERROR_INIT_OUTLINE_ITEM" for an element of another name.
+    void loadItemFromXMLNode(const pugi::xml_node& element);
+
+private:
+    QString iCaption;
+    int iPageIndex = 0;
+    FlashOutlineItem* iParent = nullptr;
+    Items iChildItems;
+    int iLevel = 0;
+};

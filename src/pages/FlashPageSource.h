@@ -1,0 +1,69 @@
+#pragma once
+
+#include "pages/FlashPage.h"
+
+#include <QString>
+#include <atomic>
+#include <memory>
+#include <vector>
+
+// The ordered set of page files that a book is made of. It is filled once, by generatePages() and
+// then generateNormalPages(), and read by the publisher any number of times.
+class FlashPageSource {
+public:
+    using Pages = std::vector<std::shared_ptr<FlashPage>>;
+
+    FlashPageSource() = default;
+    virtual ~FlashPageSource() = default;
+    FlashPageSource(const FlashPageSource&) = delete;
+    FlashPageSource& operator=(const FlashPageSource&) = delete;
+
+    const Pages& pages() const { return iPages; }
+    void setPages(const Pages& pages) { iPages = pages; }
+    const Pages& normalPages() const { return iNormalPages; }
+    void setNormalPages(const Pages& pages) { iNormalPages = pages; }
+    const Pages& zoomedPages() const { return iZoomedPages; }
+    void setZoomedPages(const Pages& pages) { iZoomedPages = pages; }
+    const Pages& thumbPages() const { return iThumbPages; }
+    void setThumbPages(const Pages& pages) { iThumbPages = pages; }
+
+    // The file or folder that the pages come from; empty until set.
+    const QString& sourceFile() const { return iSourceFile; }
+    void setSourceFile(const QString& path) { iSourceFile = path; }
+
+    // Asks a running generation to end early. May be set from any thread; never cleared here.
+    bool stop() const { return iStoped; }
+    void setStop(bool stop) { iStoped = stop; }
+
+    void clearPages();
+
+    virtual void generatePages() {}
+    virtual void generateNormalPages() {}
+
+    // Zero-based position into pages(); no page past the end.
+    virtual std::shared_ptr<FlashPage> getPageAtIndex(int index) const;
+    // The normal page with that one-based page number, or no page.
+    virtual std::shared_ptr<FlashPage> getNormalPageAtIndex(int pageIndex) const;
+    // No source makes these; the publisher derives them from the normal pages.
+    virtual std::shared_ptr<FlashPage> getZoomedPageAtIndex(int pageIndex) const;
+    virtual std::shared_ptr<FlashPage> getThumbPageAtIndex(int pageIndex) const;
+
+    // True when the page files are working files of our own that nothing changes once written, so
+    // that a publisher may give them a second name instead of a copy.
+    virtual bool ownsPageFiles() const { return false; }
+
+    // The sorted one-based page numbers that a text such as "3,1-2" names, without duplicates; all
+    // of 1 to atTotalPage for "ALL". Numbers beyond the document pass through. Throws
+    // PlatformException when the text names more than a million pages.
+    static std::vector<int> parsePageRange(const QString& expression, int atTotalPage);
+
+protected:
+    Pages iPages;
+    Pages iNormalPages;
+    Pages iZoomedPages;
+    Pages iThumbPages;
+
+private:
+    QString iSourceFile = QStringLiteral("");
+    std::atomic<bool> iStoped{false};
+};

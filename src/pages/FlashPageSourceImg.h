@@ -1,0 +1,11 @@
+#pragma once
+
+#include "pages/FlashPageSource.h"
+
+// A page source over image files.
+class FlashPageSourceImg : public FlashPageSource {
+public:
+    // Appends a page numbered in order of adding.
+    void addImgPageFromFile(const QString& path);
+    void generateNormalPages() override;
+};

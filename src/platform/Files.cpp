@@ -1,0 +1,116 @@
+#include "platform/Files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+class Descriptor {
+public:
+    explicit Descriptor(int number) : iNumber(number) {}
+    ~Descriptor() {
+        if (iNumber >= 0)
+            ::close(iNumber);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int number() const { return iNumber; }
+    bool isOpen() const { return iNumber >= 0; }
+
+private:
+    int iNumber;
+};
+
+bool fail(QString* error) {
+    if (error)
+        *error = QString::fromLocal8Bit(std::strerror(errno));
+    return false;
+}
+
+bool copyBytes(int from, int to) {
+    struct stat info {};
+    if (::fstat(from, &info) != 0)
+        return false;
+    if (::ioctl(to, FICLONE, from) == 0)
+        return true;
+    off_t left = info.st_size;
+    while (left > 0) {
+        const ssize_t count = ::copy_file_range(from, nullptr, to, nullptr, left, 0);
+        if (count <= 0)
+            break;
+        left -= count;
+    }
+    char buffer[1 << 16];
+    for (;;) {
+        const ssize_t count = ::read(from, buffer, sizeof buffer);
+        if (count <= 0)
+            return count == 0;
+        for (ssize_t done = 0; done < count;) {
+            const ssize_t written = ::write(to, buffer + done, count - done);
+            if (written < 0)
+                return false;
+            done += written;
+        }
+    }
+}
+
+} // namespace
+
+bool Files::writeAtomically(const QString& path, const QByteArray& data, QString* error) {
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit())
+        return true;
+    if (error)
+        *error = file.errorString();
+    return false;
+}
+
+bool Files::copy(const QString& source, const QString& target, QString* error) {
+    const Descriptor from(::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC));
+    if (!from.isOpen())
+        return fail(error);
+    const QByteArray name = QFile::encodeName(target);
+    const Descriptor to(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!to.isOpen())
+        return fail(error);
+    if (copyBytes(from.number(), to.number()))
+        return true;
+    const bool result = fail(error);
+    ::unlink(name.constData());
+    return result;
+}
+
+bool Files::linkOrCopy(const QString& source, const QString& target, QString* error) {
+    if (::link(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) == 0)
+        return true;
+    return copy(source, target, error);
+}
+
+QString Files::join(const QString& folder, const QString& name) {
+    if (name.isEmpty())
+        return folder;
+    if (folder.isEmpty())
+        return name;
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+QString Files::pathExtension(const QString& path) {
+    const QString name = lastPathComponent(path);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot <= 0 ? QStringLiteral("") : name.mid(dot + 1);
+}
+
+QString Files::lastPathComponent(const QString& path) {
+    qsizetype end = path.size();
+    while (end > 1 && path[end - 1] == u'/')
+        --end;
+    return path.mid(0, end).section(u'/', -1);
+}

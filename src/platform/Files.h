@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// Whole-file operations that never leave a half-written file behind.
+namespace Files {
+
+// Writes beside the target and renames over it. On failure the old file stays, false comes back and
+// *error (when given) tells why in words.
+bool writeAtomically(const QString& path, const QByteArray& data, QString* error = nullptr);
+
+// Copies a file in the cheapest way that yields an independent file: a shared-extent clone where
+// the file system has it, a copy otherwise. Fails when the target exists.
+bool copy(const QString& source, const QString& target, QString* error = nullptr);
+
+// As copy(), but may make a second name for the same file. Only for sources that nothing will
+// change in place afterwards.
+bool linkOrCopy(const QString& source, const QString& target, QString* error = nullptr);
+
+// "FOLDER/NAME" whether or not the folder ends in a separator; FOLDER when the name is empty.
+QString join(const QString& folder, const QString& name);
+
+// The part after the last dot of the last path component, or the empty text (not null).
+QString pathExtension(const QString& path);
+
+// The last path component; a trailing separator is ignored.
+QString lastPathComponent(const QString& path);
+
+} // namespace Files

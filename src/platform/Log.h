@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <source_location>
+#include <utility>
+#include <vector>
+
+// A named logger. Every record carries the file, line and function of the call.
+class Log {
+public:
+    enum class Level { debug, info, warn, error };
+
+    struct Record {
+        Level level;
+        QString logger;
+        QString text;
+        std::source_location where;
+    };
+
+    explicit Log(const char* name);
+
+    // Use before building an expensive text.
+    bool isDebugEnabled() const;
+
+    void debug(const QString& text,
+               std::source_location where = std::source_location::current()) const;
+    void info(const QString& text,
+              std::source_location where = std::source_location::current()) const;
+    void warn(const QString& text,
+              std::source_location where = std::source_location::current()) const;
+    void error(const QString& text,
+               std::source_location where = std::source_location::current()) const;
+
+    // For the few messages that belong in the operating system's log rather than in ours.
+    static void system(const QString& text);
+
+    // Configures the loggers from a properties file with the given keys replaced or added. Returns
+    // false when the file can't be read.
+    static bool configure(const QString& propertiesFile,
+                          const std::vector<std::pair<QString, QString>>& overrides = {});
+
+    // What the headless program does: records below the level are dropped, the others go to
+    // standard error. Nothing at all is written before this or configure() was called.
+    static void configureForTerminal(Level lowest);
+
+    // Tests watch the records (system messages arrive under the logger name "system"). An empty
+    // function ends it.
+    static void setWatcher(std::function<void(const Record&)> watcher);
+
+private:
+    void write(Level level, const QString& text, const std::source_location& where) const;
+
+    const char* iName;
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QThreadPool>
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+// A piece of work that runs once on an operation queue.
+class Operation {
+public:
+    virtual ~Operation() = default;
+
+    // The work itself. It is called also after a cancel and looks at isCancelled() on its own.
+    virtual void main() = 0;
+
+    virtual void cancel() { iCancelled = true; }
+    bool isCancelled() const { return iCancelled; }
+    bool isFinished() const { return iFinished; }
+
+    // Called once, on the operation's thread, when isFinished() has turned true. Set it before the
+    // operation is queued; hop to the main thread before touching a window.
+    void setFinishedObserver(std::function<void()> observer) { iObserver = std::move(observer); }
+
+    // Runs main() and then counts as finished, even when main() throws (the exception is logged).
+    void start();
+
+private:
+    std::atomic<bool> iCancelled{false};
+    std::atomic<bool> iFinished{false};
+    std::function<void()> iObserver;
+};
+
+// Runs operations one after the other on a thread of its own. Its destructor cancels what is left
+// and waits for it.
+class OperationQueue {
+public:
+    OperationQueue();
+    ~OperationQueue();
+    OperationQueue(const OperationQueue&) = delete;
+    OperationQueue& operator=(const OperationQueue&) = delete;
+
+    void addOperation(std::shared_ptr<Operation> operation);
+    void cancelAllOperations();
+    void waitUntilAllOperationsAreFinished();
+
+    // Waits at most that long; true when nothing is left.
+    bool waitFor(int milliseconds);
+
+    // Operations queued or running.
+    std::size_t operationCount() const;
+
+private:
+    void forget(const Operation* operation);
+
+    mutable std::mutex iMutex;
+    std::vector<std::shared_ptr<Operation>> iOperations;
+    QThreadPool iPool;
+};
