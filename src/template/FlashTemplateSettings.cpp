@@ -1,9 +1,9 @@
 #include "platform/Files.h"
 #include "platform/Log.h"
 #include "template/FlashTemplate.h"
+#include "template/TextDecoding.h"
 
 #include <QFile>
-#include <QStringDecoder>
 
 namespace {
 
@@ -15,17 +15,9 @@ const Log& logger() {
 // The order of the two is part of the format.
 const QString recordStart = QStringLiteral("\n\r");
 
-// Users edit these files with all kinds of editors: a byte order mark is taken off (and tells
-// UTF-16 from UTF-8), and what is not valid UTF-8 is read as Latin-1.
-QString decoded(const QByteArray& data) {
-    QStringDecoder decode(QStringConverter::encodingForData(data).value_or(QStringConverter::Utf8));
-    const QString text = decode(data);
-    return decode.hasError() ? QString::fromLatin1(data) : text;
-}
-
 QString textOfFile(const QString& path) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? decoded(file.readAll()) : QString();
+    return file.open(QIODevice::ReadOnly) ? TextDecoding::decoded(file.readAll()) : QString();
 }
 
 QString recordOf(const FlashTemplateProperty& node) {

@@ -24,9 +24,10 @@ private:
     std::string iText;
 };
 
-pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& data) {
+pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& data,
+                             pugi::xml_encoding encoding) {
     return document.load_buffer(data.constData(), static_cast<std::size_t>(data.size()),
-                                pugi::parse_default | pugi::parse_ws_pcdata);
+                                pugi::parse_default | pugi::parse_ws_pcdata, encoding);
 }
 
 QString causeOf(const pugi::xml_parse_result& result, const QByteArray& data) {
@@ -47,13 +48,13 @@ QByteArray contentsOf(const QString& path) {
 std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
     const QByteArray data = contentsOf(path);
     auto document = std::make_unique<pugi::xml_document>();
-    const pugi::xml_parse_result first = parse(*document, data);
+    const pugi::xml_parse_result first = parse(*document, data, pugi::encoding_auto);
     if (first)
         return document;
     // The place in the file as the user wrote it helps more than one in its repaired form.
     const QString cause = causeOf(first, data);
     const QByteArray repaired = XMLRepair::repaired(data);
-    if (repaired.isEmpty() || !parse(*document, repaired))
+    if (repaired.isEmpty() || !parse(*document, repaired, pugi::encoding_utf8))
         throw PlatformException(errorName, cause);
     Log("TemplateFile")
         .warn(QStringLiteral("repaired the template file \"%1\" (%2)").arg(path, cause));

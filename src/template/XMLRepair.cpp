@@ -1,5 +1,8 @@
 #include "template/XMLRepair.h"
 
+#include "template/TextDecoding.h"
+
+#include <QRegularExpression>
 #include <QThread>
 #include <memory>
 #include <tidy/tidy.h>
@@ -34,8 +37,20 @@ void setOptions(TidyDoc document) {
     tidyOptSetBool(document, TidyForceOutput, yes);
     tidyOptSetBool(document, TidyMark, no);
     tidyOptSetInt(document, TidyWrapLen, 0);
+    tidyOptSetInt(document, TidyVertSpace, TidyAutoState);
+    tidyOptSetBool(document, TidyKeepTabs, yes);
     tidyOptSetValue(document, TidyNewline, "LF");
     tidySetCharEncoding(document, "utf8");
+}
+
+// Without this attribute at the root the library reflows all text.
+QByteArray withSpacePreserved(const QByteArray& text) {
+    static const QRegularExpression rootTag(QStringLiteral("<[\\pL_][^\\s/>]*"));
+    QString result = TextDecoding::decoded(text);
+    const auto match = rootTag.match(result);
+    if (match.hasMatch())
+        result.insert(match.capturedEnd(), QStringLiteral(" xml:space=\"preserve\""));
+    return result.toUtf8();
 }
 
 QByteArray repairHere(const QByteArray& text) {
@@ -47,7 +62,7 @@ QByteArray repairHere(const QByteArray& text) {
     const std::unique_ptr<const _TidyDoc, Release> document(tidyCreate(), release);
     setOptions(document.get());
     tidySetErrorBuffer(document.get(), messages.get());
-    if (tidyParseString(document.get(), text.constData()) < 0 ||
+    if (tidyParseString(document.get(), withSpacePreserved(text).constData()) < 0 ||
         tidySaveBuffer(document.get(), output.get()) < 0)
         return {};
     return output.bytes();

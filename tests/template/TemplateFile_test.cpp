@@ -56,10 +56,19 @@ TEST_F(TemplateFileTest, RepairsWhatIsNotWellFormed) {
     EXPECT_TRUE(tmpl.loadError().isNull()) << tmpl.loadError().toStdString();
     ASSERT_EQ(tmpl.properties().size(), 2U);
     EXPECT_EQ(tmpl.properties()[1]->key(), u"b");
-    EXPECT_EQ(tmpl.properties()[1]->value().trimmed(), u"v");
+    EXPECT_EQ(tmpl.properties()[1]->value(), u" v ");
     EXPECT_EQ(tmpl.properties()[1]->propertyType(), pt_number);
     ASSERT_EQ(log.texts().size(), 1);
     EXPECT_TRUE(log.texts()[0].contains(u"line 2"));
+}
+
+TEST_F(TemplateFileTest, KeepsTextAsItIsInARepair) {
+    const QByteArray value = "\n  two  \xE4<![CDATA[ <b> ]]>\t";
+    QByteArray xml = withProperties(property("a")).replace(" v ", value);
+    xml.replace("utf-8", "iso-8859-1").replace("\"pt_text\"", "pt_text");
+    load(xml);
+    ASSERT_EQ(tmpl.properties().size(), 1U) << tmpl.loadError().toStdString();
+    EXPECT_EQ(tmpl.properties()[0]->value(), QStringLiteral("\n  two  ä <b> \t"));
 }
 
 TEST_F(TemplateFileTest, ReportsWhatCantBeRepaired) {
