@@ -2,6 +2,7 @@
 
 #include "platform/PlatformException.h"
 #include "template/TemplateFile.h"
+#include "util/XMLText.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +15,7 @@ QString describe(const pugi::xml_node& element) {
     const pugi::xml_node key = element.child("key");
     if (!key)
         return QStringLiteral("\"property\" element");
-    return QStringLiteral("\"property\" element of key \"%1\"").arg(TemplateFile::text(key));
+    return QStringLiteral("\"property\" element of key \"%1\"").arg(XMLText::textOf(key));
 }
 
 QString requiredText(const pugi::xml_node& element, const char* name) {
@@ -42,7 +43,7 @@ void FlashTemplateProperty::load(const pugi::xml_node& element, int depth) {
     iValueSource = requiredText(element, "valueSource");
     iDefaultValue = requiredText(element, "defaultValue");
     const pugi::xml_node caption = element.child("aTitle");
-    iATitle = caption ? TemplateFile::text(caption) : QStringLiteral("");
+    iATitle = caption ? XMLText::textOf(caption) : QStringLiteral("");
     iPropertyType = StringUtil::flashTemplatePropertyTypeFromString(
         QString::fromUtf8(element.attribute("type").value()));
     // Templates mark a boolean by the mere presence of this attribute.

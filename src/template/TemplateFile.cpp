@@ -3,6 +3,7 @@
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
 #include "template/XMLRepair.h"
+#include "util/XMLText.h"
 
 #include <QFile>
 #include <algorithm>
@@ -10,19 +11,6 @@
 namespace {
 
 const QString errorName = QStringLiteral("ERROR_TEMPLATE_FILE");
-
-class TextCollector : public pugi::xml_tree_walker {
-public:
-    bool for_each(pugi::xml_node& node) override {
-        if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
-            iText += node.value();
-        return true;
-    }
-    const std::string& text() const { return iText; }
-
-private:
-    std::string iText;
-};
 
 pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& data,
                              pugi::xml_encoding encoding) {
@@ -61,13 +49,6 @@ std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
     return document;
 }
 
-QString TemplateFile::text(const pugi::xml_node& element) {
-    TextCollector collector;
-    pugi::xml_node start = element;
-    start.traverse(collector);
-    return QString::fromStdString(collector.text());
-}
-
 pugi::xml_node TemplateFile::required(const pugi::xml_node& parent, const char* name,
                                       const std::function<QString()>& describeParent) {
     const pugi::xml_node child = parent.child(name);
@@ -79,5 +60,5 @@ pugi::xml_node TemplateFile::required(const pugi::xml_node& parent, const char* 
 
 QString TemplateFile::requiredText(const pugi::xml_node& parent, const char* name,
                                    const std::function<QString()>& describeParent) {
-    return text(required(parent, name, describeParent));
+    return XMLText::textOf(required(parent, name, describeParent));
 }

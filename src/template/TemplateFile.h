@@ -13,13 +13,11 @@ namespace TemplateFile {
 // the line where there is one, when neither attempt yields a document.
 std::unique_ptr<pugi::xml_document> read(const QString& path);
 
-// All text within an element, CDATA sections and nested elements included; never null.
-QString text(const pugi::xml_node& element);
-
 // The first child element of that name. Throws PlatformException when there is none; the exception
 // names the parent as the function describes it.
 pugi::xml_node required(const pugi::xml_node& parent, const char* name,
                         const std::function<QString()>& describeParent);
+// All text within that child; never null.
 QString requiredText(const pugi::xml_node& parent, const char* name,
                      const std::function<QString()>& describeParent);
 
