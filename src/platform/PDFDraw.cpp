@@ -123,6 +123,36 @@ struct DrawnPage {
     int isColour = 0;
 };
 
+// Notices whether anything is blended into what lies beneath it other than by covering it.
+struct BlendWatch {
+    fz_device super;
+    bool blends;
+};
+
+void watchGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
+                int /*isolated*/, int /*knockout*/, int blendMode, float /*alpha*/) {
+    if (blendMode != FZ_BLEND_NORMAL)
+        reinterpret_cast<BlendWatch*>(device)->blends = true;
+}
+
+bool blends(fz_context* ctx, fz_display_list* list) {
+    auto* watch = fz_new_derived_device(ctx, BlendWatch);
+    watch->super.begin_group = watchGroup;
+    bool result = true;
+    fz_try(ctx) {
+        fz_run_display_list(ctx, list, &watch->super, fz_identity, fz_infinite_rect, nullptr);
+        fz_close_device(ctx, &watch->super);
+        result = watch->blends;
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, &watch->super);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+    return result;
+}
+
 // Interprets the page once, which also tells whether it asks for any colour.
 void recordPage(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& drawn) {
     fz_device* recorder = nullptr;
@@ -144,6 +174,22 @@ void recordPage(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& dr
     fz_catch(ctx) {
         fz_rethrow(ctx);
     }
+}
+
+// A page that may blend is drawn as a picture of its own first, which is then laid on the paper.
+// Many a document says so of all its pages and means a few. Without blending the paper can be drawn
+// on directly, to the same effect in less time.
+void recordPageSimply(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& drawn) {
+    pdf_page* pdfPage = pdf_page_from_fz_page(ctx, page);
+    const int transparency = pdfPage->transparency;
+    pdfPage->transparency = 0;
+    recordPage(ctx, page, cookie, drawn);
+    if (!transparency || !blends(ctx, drawn.list))
+        return;
+    fz_drop_display_list(ctx, drawn.list);
+    drawn = {};
+    pdfPage->transparency = transparency;
+    recordPage(ctx, page, cookie, drawn);
 }
 
 void drawList(fz_context* ctx, fz_display_list* list, const fz_matrix& matrix, PageBitmap& bitmap,
@@ -187,7 +233,7 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
     engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
         page = fz_load_page(ctx, &engine.document->super, iIndex);
         bounds = fz_bound_page(ctx, page);
-        recordPage(ctx, page, watch.cookie(), drawn);
+        recordPageSimply(ctx, page, watch.cookie(), drawn);
     });
     watch.throwIfEnded(iIndex + 1);
 
