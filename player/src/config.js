@@ -103,8 +103,12 @@ function decipher(bytes) {
  * @returns {BookConfig}
  */
 export function parseConfiguration(xml) {
-  const root = new DOMParser().parseFromString(xml, 'application/xml').documentElement;
-  if (root.nodeName !== 'SlidePowerPoint') throw damaged('unexpected content');
+  const parsed = new DOMParser().parseFromString(xml, 'application/xml');
+  const root = parsed.documentElement;
+  // What stands before a fault is kept beside the note of the fault.
+  if (root.nodeName !== 'SlidePowerPoint' || parsed.querySelector('parsererror')) {
+    throw damaged('unexpected content');
+  }
   /** @param {string} path */
   const text = (path) => root.querySelector(path)?.textContent?.trim() ?? '';
   /** @param {string} side */

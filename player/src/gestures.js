@@ -5,7 +5,9 @@
 const DRAG_START = 7;
 const FLICK_SPEED = 0.35;
 const TAP_MS = 450;
-const WHEEL_GUARD_MS = 450;
+
+/** Wheel events closer together belong to one push, which turns one page. */
+const WHEEL_PAUSE_MS = 160;
 
 /** Turns what pointers, wheel and keys do on the book into turns of pages. */
 export class Gestures {
@@ -195,9 +197,9 @@ export class Gestures {
   #wheel(event) {
     const way = Math.abs(event.deltaY) > Math.abs(event.deltaX) ? event.deltaY : event.deltaX;
     if (event.ctrlKey || Math.abs(way) < 8) return;
-    if (event.timeStamp - this.lastWheel < WHEEL_GUARD_MS) return;
+    const pause = event.timeStamp - this.lastWheel;
     this.lastWheel = event.timeStamp;
-    this.turner.step(way > 0 ? 1 : -1);
+    if (pause >= WHEEL_PAUSE_MS) this.turner.step(way > 0 ? 1 : -1);
   }
 
   /** @param {KeyboardEvent} event */
