@@ -8,6 +8,10 @@
 // One entry of a book's table of contents, with the entries beneath it.
 class FlashOutlineItem {
 public:
+    // How deep the entries of an XML form may be nested; it keeps a hostile one from exhausting the
+    // stack of whoever walks the tree.
+    static constexpr int maximumDepth = 1000;
+
     QString caption() const { return iCaption; }
     void setCaption(const QString& caption) { iCaption = caption; }
     // One-based PDF page number; 0 when none was set.
@@ -23,15 +27,19 @@ public:
     using Items = std::vector<std::shared_ptr<FlashOutlineItem>>;
     const Items& childItems() const { return iChildItems; }
     void setChildItems(const Items& items) { iChildItems = items; }
+    // Appends; the caller sets the child's parent.
     void addChild(const std::shared_ptr<FlashOutlineItem>& child);
     void removeChild(const std::shared_ptr<FlashOutlineItem>& child);
 
     // Appends this entry's "o" element, with those of its children, to a parent and returns it.
     pugi::xml_node outlineItemAsXMLNode(pugi::xml_node parent) const;
-    // Throws PlatformException "ERROR_INIT_OUTLINE_ITEM" for an element of another name.
+    // Throws PlatformException "ERROR_INIT_OUTLINE_ITEM" for an element of another name or one with
+    // entries nested deeper than maximumDepth.
     void loadItemFromXMLNode(const pugi::xml_node& element);
 
 private:
+    void load(const pugi::xml_node& element, int depth);
+
     QString iCaption;
     int iPageIndex = 0;
     FlashOutlineItem* iParent = nullptr;

@@ -58,6 +58,8 @@ public:
     static std::vector<int> parsePageRange(const QString& expression, int atTotalPage);
 
 protected:
+    const std::atomic<bool>& stopFlag() const { return iStoped; }
+
     Pages iPages;
     Pages iNormalPages;
     Pages iZoomedPages;

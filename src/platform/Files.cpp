@@ -35,6 +35,17 @@ bool fail(QString* error) {
     return false;
 }
 
+bool writeAll(int to, const void* data, std::size_t size) {
+    const auto* bytes = static_cast<const unsigned char*>(data);
+    for (std::size_t done = 0; done < size;) {
+        const ssize_t written = ::write(to, bytes + done, size - done);
+        if (written < 0)
+            return false;
+        done += std::size_t(written);
+    }
+    return true;
+}
+
 bool copyBytes(int from, int to) {
     struct stat info {};
     if (::fstat(from, &info) != 0)
@@ -53,12 +64,8 @@ bool copyBytes(int from, int to) {
         const ssize_t count = ::read(from, buffer, sizeof buffer);
         if (count <= 0)
             return count == 0;
-        for (ssize_t done = 0; done < count;) {
-            const ssize_t written = ::write(to, buffer + done, count - done);
-            if (written < 0)
-                return false;
-            done += written;
-        }
+        if (!writeAll(to, buffer, std::size_t(count)))
+            return false;
     }
 }
 
@@ -71,6 +78,21 @@ bool Files::writeAtomically(const QString& path, const QByteArray& data, QString
     if (error)
         *error = file.errorString();
     return false;
+}
+
+bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char> data,
+                             QString* error) {
+    const QByteArray name = QFile::encodeName(path);
+    const QByteArray part = name + ".part";
+    const Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (!file.isOpen())
+        return fail(error);
+    if (writeAll(file.number(), data.data(), data.size()) &&
+        ::rename(part.constData(), name.constData()) == 0)
+        return true;
+    const bool result = fail(error);
+    ::unlink(part.constData());
+    return result;
 }
 
 bool Files::copy(const QString& source, const QString& target, QString* error) {

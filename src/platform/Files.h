@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <span>
 
 // Whole-file operations that never leave a half-written file behind.
 namespace Files {
@@ -9,6 +10,10 @@ namespace Files {
 // Writes beside the target and renames over it. On failure the old file stays, false comes back and
 // *error (when given) tells why in words.
 bool writeAtomically(const QString& path, const QByteArray& data, QString* error = nullptr);
+
+// The same for a working file that need not survive a power cut: it does not wait for the disk.
+bool writeWorkingFile(const QString& path, std::span<const unsigned char> data,
+                      QString* error = nullptr);
 
 // Copies a file in the cheapest way that yields an independent file: a shared-extent clone where
 // the file system has it, a copy otherwise. Fails when the target exists.

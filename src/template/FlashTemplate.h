@@ -84,6 +84,8 @@ public:
     void setNeedThumbs(bool needed) { iNeedThumbs = needed; }
 
 private:
+    void loadTemplateFile(const QString& path);
+
     QString iTmplName;
     Properties iProperties;
     QString iTmplVersion = QStringLiteral("3.0.0");

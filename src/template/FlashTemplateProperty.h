@@ -27,11 +27,16 @@ enum FlashTemplatePropertyType : int {
 // and its child nodes.
 class FlashTemplateProperty {
 public:
+    // How deep properties may be nested in a template file, the top level counting as 1. Code all
+    // over the program walks the tree recursively; this keeps a hostile file from exhausting the
+    // stack.
+    static constexpr int maximumDepth = 200;
+
     FlashTemplateProperty() = default;
 
     // Fills the node and its children from a "property" element; an absent element or one of
     // another name leaves the node as it is. Throws PlatformException when one of the six required
-    // child elements is missing, with the node partly filled.
+    // child elements is missing or the nesting exceeds maximumDepth, with the node partly filled.
     void loadFromNode(const pugi::xml_node& element);
 
     std::size_t childCount() const { return iChildProperties.size(); }
@@ -66,6 +71,8 @@ public:
     void addChildProperty(std::unique_ptr<FlashTemplateProperty> child);
 
 private:
+    void load(const pugi::xml_node& element, int depth);
+
     FlashTemplateProperty* iParent = nullptr;
     int iPropertyType = pt_text;
     QString iKey;

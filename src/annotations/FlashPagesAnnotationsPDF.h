@@ -1,0 +1,35 @@
+#pragma once
+
+#include "annotations/FlashPagesAnnotations.h"
+#include "platform/NotificationCenter.h"
+#include "platform/PDFDocument.h"
+
+#include <QString>
+#include <memory>
+#include <vector>
+
+// Reads the link annotations of a PDF's pages.
+class FlashPagesAnnotationsPDF : public FlashPagesAnnotations {
+public:
+    // Reads all pages that the range expression names, at once. Without a document every listed
+    // page stays without links. Throws PlatformException for a page that the document lacks.
+    void loadLinksFromPDF(std::shared_ptr<PDFDocument> document, const QString& pageRange);
+
+    // The same, one page at a time whenever the main thread's event loop is idle.
+    void loadLinksSyncsFromPDF(std::shared_ptr<PDFDocument> document, const QString& pageRange);
+    void scheduledScanPage(const Notification& notification);
+
+    // Reads the page at the current position of the list.
+    void parsePage();
+
+    const std::shared_ptr<PDFDocument>& pdfDoc() const { return iPDFDoc; }
+    void setPdfDoc(std::shared_ptr<PDFDocument> document) { iPDFDoc = std::move(document); }
+
+private:
+    void begin(std::shared_ptr<PDFDocument> document, const QString& pageRange);
+
+    std::vector<int> iNeedToImportPages;
+    std::shared_ptr<PDFDocument> iPDFDoc;
+    int iCurrentIndex = 0; // zero-based position in the list
+    NotificationCenter::Subscription iScan;
+};

@@ -1,0 +1,84 @@
+#include "app/AppSettings.h"
+
+#include "platform/Log.h"
+
+#include <QMetaProperty>
+#include <QSettings>
+#include <vector>
+
+namespace {
+
+constexpr int startPageWidth = 1080;
+constexpr int startPageHeight = 1440;
+
+std::vector<QMetaProperty> declaredProperties() {
+    const QMetaObject& meta = AppSettings::staticMetaObject;
+    std::vector<QMetaProperty> properties;
+    for (int index = meta.propertyOffset(); index < meta.propertyCount(); ++index)
+        properties.push_back(meta.property(index));
+    return properties;
+}
+
+bool isText(const QMetaProperty& property) {
+    return property.metaType().id() == QMetaType::QString;
+}
+
+// The store hands out a list for a text with commas that was typed into its file by hand.
+QString textOf(const QVariant& stored) {
+    return stored.typeId() == QMetaType::QStringList ? stored.toStringList().join(u',')
+                                                     : stored.toString();
+}
+
+} // namespace
+
+AppSettings::AppSettings() {
+    loadSettings();
+    for (QString* text : {&iLastImportedFile, &iImportPageRange, &iLastOutputFileFolder,
+                          &iLastOutputFileName, &iLastOutputFileTitle}) {
+        if (text->isNull())
+            *text = QStringLiteral("");
+    }
+    iPageWidth = startPageWidth;
+    iPageHeight = startPageHeight;
+}
+
+AppSettings& AppSettings::shareInstance() {
+    static AppSettings instance;
+    return instance;
+}
+
+void AppSettings::saveSettings() {
+    autoSave();
+}
+
+void AppSettings::loadSettings() {
+    autoLoad();
+}
+
+void AppSettings::autoSave() {
+    QSettings store;
+    for (const QMetaProperty& property : declaredProperties()) {
+        const QVariant value = property.read(this);
+        const QString name = QString::fromLatin1(property.name());
+        // The store itself can't tell a null text from an empty one.
+        if (isText(property) && value.toString().isNull())
+            store.remove(name);
+        else
+            store.setValue(name, value);
+    }
+    store.sync();
+    if (store.status() != QSettings::NoError)
+        Log("AppSettings")
+            .warn(QStringLiteral("can't write the settings to \"%1\"").arg(store.fileName()));
+}
+
+void AppSettings::autoLoad() {
+    const QSettings store;
+    for (const QMetaProperty& property : declaredProperties()) {
+        const QVariant stored = store.value(QString::fromLatin1(property.name()));
+        if (isText(property))
+            property.write(this, stored.isValid() ? textOf(stored) : QString());
+        else if (stored.isValid())
+            property.write(this, stored.toInt());
+    }
+}

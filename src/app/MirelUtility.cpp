@@ -1,0 +1,82 @@
+#include "app/MirelUtility.h"
+
+#include "platform/Files.h"
+#include "platform/FolderList.h"
+#include "platform/Folders.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QUrl>
+#include <cstdlib>
+#include <sys/stat.h>
+
+namespace {
+
+QByteArray md5(const QByteArray& data) {
+    return QCryptographicHash::hash(data, QCryptographicHash::Md5);
+}
+
+} // namespace
+
+QString MirelUtility::tmpDiractoryForCurrentUser() {
+    const QString folder = Folders::temporary();
+    return folder.isNull() ? QStringLiteral("/tmp") : folder;
+}
+
+QString MirelUtility::forceTmpDiractory(const QString& name) {
+    // Here on purpose, wherever the user's own temporary folder is.
+    const QString parent = Files::join(QStringLiteral("/tmp"), name);
+    // Open to all users like the folder above it, or the first user would lock out the others.
+    if (QDir().mkdir(parent))
+        ::chmod(QFile::encodeName(parent).constData(), 01777);
+    QByteArray path = QFile::encodeName(Files::join(parent, QStringLiteral("temp.XXXXXX")));
+    ::mkdtemp(path.data());
+    const QString folder = QFile::decodeName(path);
+    QDir().mkpath(folder);
+    return folder;
+}
+
+void MirelUtility::openFolderFromFolderOrFile(const QString& path) {
+    const QFileInfo info(path);
+    const QString absolute = QDir::cleanPath(info.absoluteFilePath());
+    // The file manager's interface can select an entry; where none answers, the desktop opens the
+    // folder. A comma would separate two addresses.
+    const QString address = QString::fromLatin1(
+        QUrl::fromLocalFile(absolute).toEncoded(QUrl::FullyEncoded).replace(',', "%2C"));
+    const QString folder = info.isDir() ? absolute : QFileInfo(absolute).path();
+    const QString script = QStringLiteral(
+        "dbus-send --session --print-reply --dest=org.freedesktop.FileManager1 "
+        "/org/freedesktop/FileManager1 org.freedesktop.FileManager1.ShowItems "
+        "\"array:string:$1\" string: >/dev/null 2>&1 || exec xdg-open \"$2\" >/dev/null 2>&1");
+    QProcess::startDetached(QStringLiteral("/bin/sh"),
+                            {QStringLiteral("-c"), script, QStringLiteral("sh"), address, folder});
+}
+
+QStringList MirelUtility::imageFilesOfDiractoryAtPath(const QString& folder) {
+    QStringList images;
+    for (const QString& name : QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot |
+                                                      QDir::Hidden | QDir::System)) {
+        if (name.endsWith(u".jpg") || name.endsWith(u".png"))
+            images << name;
+    }
+    return images;
+}
+
+QStringList MirelUtility::subFolderOfFolder(const QString& folder) {
+    return FolderList::foldersBeneath(folder);
+}
+
+QString MirelUtility::MD5StringOfString(const QString& text) {
+    return MD5StringOfData(text.toUtf8());
+}
+
+QString MirelUtility::MD5StringOfData(const QByteArray& data) {
+    return QString::fromLatin1(md5(data).toHex());
+}
+
+QByteArray MirelUtility::MD5DataOfString(const QString& text) {
+    return md5(text.toUtf8());
+}

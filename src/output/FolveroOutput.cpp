@@ -1,0 +1,355 @@
+#include "output/FolveroOutput.h"
+
+#include "output/BookName.h"
+#include "platform/Files.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+#include "util/NSData+CommonCrypto.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QScopeGuard>
+#include <sstream>
+
+using Copy = PublishTransaction::Copy;
+using Phase = PublishTransaction::Phase;
+
+namespace {
+
+// The player holds the same key.
+constexpr char configurationKey[] = "zq4mk2pw7rxv1bn8ty";
+
+struct Cancelled {};
+
+const Log& logger() {
+    static const Log log("FolveroOutput");
+    return log;
+}
+
+bool isReadableFile(const QString& path) {
+    const QFileInfo info(path);
+    return !path.contains(QChar::Null) && info.isFile() && info.isReadable();
+}
+
+QString parentOf(const QString& path) {
+    return QFileInfo(path).path();
+}
+
+} // namespace
+
+FolveroOutput::FolveroOutput(std::shared_ptr<FlashPageSource> pageSource,
+                             std::shared_ptr<FlashTemplate> flashTemplate,
+                             const QString& saveToFolder, const QString& toName)
+    : iFlashTemplate(std::move(flashTemplate)),
+      iFlashPageSource(std::move(pageSource)),
+      iSaveToFolder(saveToFolder),
+      iSaveToFileName(toName) {}
+
+QString FolveroOutput::outputHTMLFileName() const {
+    return Files::join(iSaveToFolder,
+                       iSaveToFileName.isNull() ? QStringLiteral("index.html") : iSaveToFileName);
+}
+
+QString FolveroOutput::outputFileName() const {
+    return outputHTMLFileName();
+}
+
+QString FolveroOutput::outputSWFName() const {
+    return Files::join(iSaveToFolder, QStringLiteral("book.swf"));
+}
+
+void FolveroOutput::ouputTheBook() {
+    forgetLastRun();
+    if (!QFileInfo(iSaveToFolder).isDir())
+        return;
+    perform(iSaveToFolder, [this] { publish(); });
+}
+
+void FolveroOutput::publish() {
+    const QString base = QStringLiteral("");
+    removeExtFiles(base);
+    prepaireNomalPage(base);
+    prepaireZoomendPage(base);
+    prepaireThumbPage(base);
+    prepaireExtFiles(base);
+    PrepareAnnotationFiles(base);
+    writeHTMLPage();
+    ouputBookXML(resourceFolder(iSaveToFolder, QStringLiteral("UserConfig.bin")));
+    copyTemplateFile(QStringLiteral("book.swf"), &FlashTemplate::copyBookSWFToFile,
+                     outputSWFName());
+    const QString sound = QStringLiteral("moveSound.mp3");
+    copyTemplateFile(sound, &FlashTemplate::copyBookSoundFile,
+                     Files::join(resourceFolder(iSaveToFolder, iExterFilesFolder), sound));
+}
+
+bool FolveroOutput::perform(const QString& folder, const std::function<void()>& work) {
+    if (iTransaction) {
+        work();
+        return true;
+    }
+    forgetLastRun();
+    try {
+        PublishTransaction run(folder);
+        iTransaction = &run;
+        const auto end = qScopeGuard([this] { iTransaction = nullptr; });
+        work();
+        checkCancelled();
+        run.commit();
+        return true;
+    } catch (const PlatformException& failure) {
+        iPublishErrors << failure.reason();
+        logger().error(QStringLiteral("the book was not published: %1").arg(failure.reason()));
+    } catch (const Cancelled&) {
+        iWasCancelled = true;
+        logger().info(QStringLiteral("publishing was cancelled"));
+    }
+    return false;
+}
+
+void FolveroOutput::forgetLastRun() {
+    iPublishErrors.clear();
+    iMissingPages.clear();
+    iWasCancelled = false;
+}
+
+void FolveroOutput::checkCancelled() const {
+    if (iIsCancelled && iIsCancelled())
+        throw Cancelled();
+}
+
+QString FolveroOutput::resourceFolder(const QString& root, const QString& name) const {
+    return Files::join(Files::join(root, iResourceFolder), name);
+}
+
+bool FolveroOutput::replaceWithCopy(const QString& source, const QString& folder,
+                                    const QString& name, Copy kind) {
+    checkCancelled();
+    if (!BookName::staysInFolder(name)) {
+        logger().warn(QStringLiteral("left out, not a file name: %1").arg(name));
+        return false;
+    }
+    const QString target = Files::join(folder, name);
+    if (!isReadableFile(source)) {
+        transaction().remove(target);
+        return false;
+    }
+    transaction().copy(source, target, kind);
+    return true;
+}
+
+void FolveroOutput::prepaireNomalPage(const QString& base) {
+    const QString root = base.isEmpty() ? iSaveToFolder : base;
+    perform(root, [&] {
+        const QString folder = resourceFolder(root, iNormalPageFolder);
+        transaction().makeFolder(folder);
+        if (!iFlashPageSource)
+            return;
+        const Copy kind = iFlashPageSource->ownsPageFiles() ? Copy::mayShare : Copy::independent;
+        for (const auto& page : iFlashPageSource->normalPages()) {
+            if (!page)
+                continue;
+            const QString name =
+                BookName::withExtensionOf(QString::number(page->pageIndex()), page->pageFilePath());
+            if (replaceWithCopy(page->pageFilePath(), folder, name, kind))
+                continue;
+            iMissingPages.push_back(page->pageIndex());
+            logger().warn(QStringLiteral("page %1 was left out, no file %2")
+                              .arg(page->pageIndex())
+                              .arg(page->pageFilePath()));
+        }
+    });
+}
+
+void FolveroOutput::prepaireZoomendPage(const QString& base) {
+    if (iZoomedPageSameAsNormalPage || !iFlashPageSource)
+        return;
+    const QString root = base.isEmpty() ? iSaveToFolder : base;
+    perform(root, [&] {
+        const QString folder = resourceFolder(root, iZoomedPageFolder);
+        if (!transaction().willExist(folder))
+            return;
+        for (const auto& page : iFlashPageSource->zoomedPages()) {
+            checkCancelled();
+            if (!page || !isReadableFile(page->pageFilePath()))
+                continue;
+            const QString target =
+                Files::join(folder, QStringLiteral("%1.swf").arg(page->pageIndex()));
+            if (!transaction().willExist(target))
+                transaction().copy(page->pageFilePath(), target, Copy::independent);
+        }
+    });
+}
+
+void FolveroOutput::prepaireThumbPage(const QString& /*base*/) {}
+
+void FolveroOutput::prepaireExtFiles(const QString& base) {
+    const QString root = base.isEmpty() ? iSaveToFolder : QString();
+    perform(root, [&] {
+        const QString folder = resourceFolder(root, iExterFilesFolder);
+        transaction().makeFolder(folder);
+        if (!iFlashTemplate)
+            return;
+        for (const auto& property : iFlashTemplate->properties()) {
+            if (!property)
+                continue;
+            if (property->propertyType() == pt_file)
+                copyExtFile(*property, folder);
+            copyExtFilesOfChildren(*property, folder);
+        }
+    });
+}
+
+void FolveroOutput::prepaireExtFiles(const QString& base, const FlashTemplateProperty& atChildPro) {
+    const QString root = base.isEmpty() ? iSaveToFolder : QString();
+    perform(root,
+            [&] { copyExtFilesOfChildren(atChildPro, resourceFolder(root, iExterFilesFolder)); });
+}
+
+void FolveroOutput::copyExtFilesOfChildren(const FlashTemplateProperty& property,
+                                           const QString& folder) {
+    for (const auto& child : property.childProperties()) {
+        if (!child)
+            continue;
+        const bool namesFile = child->propertyType() == pt_file && !child->value().isEmpty();
+        if (namesFile) {
+            copyExtFile(*child, folder);
+            // What belongs to a missing file is left out with it.
+            if (!isReadableFile(child->value()))
+                continue;
+        }
+        copyExtFilesOfChildren(*child, folder);
+    }
+}
+
+void FolveroOutput::copyExtFile(const FlashTemplateProperty& property, const QString& folder) {
+    const QString name = BookName::withExtensionOf(property.key(), property.value());
+    if (!replaceWithCopy(property.value(), folder, name, Copy::independent) &&
+        !property.value().isEmpty())
+        logger().warn(QStringLiteral("the file of setting %1 was left out: %2")
+                          .arg(property.key(), property.value()));
+}
+
+void FolveroOutput::PrepareAnnotationFiles(const QString& base) {
+    if (!iFlashPagesAnnotations)
+        return;
+    const QString root = base.isEmpty() ? iSaveToFolder : QString();
+    perform(root, [&] {
+        const QString folder = resourceFolder(root, iAnnotationFilesFolder);
+        transaction().makeFolder(folder);
+        for (const QString& source : iFlashPagesAnnotations->needFiles()) {
+            checkCancelled();
+            const QString name = Files::lastPathComponent(source);
+            if (!isReadableFile(source) || !BookName::staysInFolder(name)) {
+                logger().warn(QStringLiteral("a link's file was left out: %1").arg(source));
+                continue;
+            }
+            const QString target = Files::join(folder, name);
+            if (!transaction().willExist(target))
+                transaction().copy(source, target, Copy::independent);
+        }
+    });
+}
+
+void FolveroOutput::removeExtFiles(const QString& base) {
+    const QString root = base.isEmpty() ? iSaveToFolder : QString();
+    const QString folder = resourceFolder(root, iExterFilesFolder);
+    QStringList leftovers;
+    const auto collect = [&](const QString& key, const QStringList& extensions) {
+        if (!templateValue(key, QStringLiteral("")).isEmpty())
+            return;
+        for (const QString& extension : extensions) {
+            const QString path = Files::join(folder, key + u'.' + extension);
+            if (QFileInfo::exists(path))
+                leftovers << path;
+        }
+    };
+    const QStringList images{QStringLiteral("jpg"), QStringLiteral("png"), QStringLiteral("gif")};
+    collect(QStringLiteral("innerMainbgImgUrl"), images);
+    collect(QStringLiteral("mainbgImgUrl"), images);
+    collect(QStringLiteral("backgroundSoundURL"), {QStringLiteral("mp3")});
+    if (leftovers.isEmpty())
+        return;
+    perform(root, [&] {
+        for (const QString& path : leftovers)
+            transaction().remove(path);
+    });
+}
+
+void FolveroOutput::writeHTMLPage() {
+    checkCancelled();
+    const QString page = outputHTMLFileName();
+    if (!BookName::staysInFolder(Files::lastPathComponent(page)) ||
+        QDir::cleanPath(parentOf(page)) != QDir::cleanPath(iSaveToFolder)) {
+        logger().error(
+            QStringLiteral("no HTML page: not a file in the book's folder: %1").arg(page));
+        return;
+    }
+    const QString source = iFlashTemplate ? iFlashTemplate->tmplHTMLFilePath() : QString();
+    QString error;
+    if (iHTMLConfig) {
+        if (!iHTMLConfig->generateHTMLFrom(source, transaction().stage(page, Phase::page), &error))
+            PublishTransaction::fail(page, error);
+    } else if (isReadableFile(source)) {
+        transaction().copy(source, page, Copy::independent, Phase::page);
+    } else {
+        transaction().remove(page);
+    }
+}
+
+void FolveroOutput::copyTemplateFile(const QString& name, TemplateCopy copy,
+                                     const QString& target) {
+    checkCancelled();
+    if (!iFlashTemplate)
+        return;
+    const QString staged = transaction().stage(target);
+    (iFlashTemplate.get()->*copy)(staged);
+    if (QFileInfo::exists(staged))
+        return;
+    // The template says nothing about its failures.
+    const QString source = FlashTemplate::tmplPathForName(iFlashTemplate->tmplName()) + name;
+    if (isReadableFile(source))
+        transaction().copy(source, target, Copy::independent);
+    else
+        transaction().remove(target);
+}
+
+void FolveroOutput::ouputBookXML(const QString& path) {
+    const QString failureMessage = QStringLiteral("Could not write document out...");
+    bool done = false;
+    try {
+        done = perform(parentOf(path), [&] { stageBookXML(path); });
+    } catch (const PlatformException&) {
+        Log::system(failureMessage);
+        throw;
+    }
+    if (!done && !iWasCancelled)
+        Log::system(failureMessage);
+}
+
+void FolveroOutput::stageBookXML(const QString& path) {
+    checkCancelled();
+    std::ostringstream xml;
+    bookXML()->save(xml, "    ", pugi::format_indent, pugi::encoding_utf8);
+    const QByteArray bytes = CommonCryptor::RC4EncryptedDataUsingKey(
+        QByteArray::fromStdString(xml.str()), configurationKey);
+    transaction().write(path, bytes, Phase::configuration);
+    const QFileInfo info(path);
+    const QString script =
+        Files::join(info.path(), info.completeBaseName() + QStringLiteral(".js"));
+    transaction().write(script, "window.FolveroUserConfig = \"" + bytes.toBase64() + "\";\n",
+                        Phase::configuration);
+}
+
+QString FolveroOutput::getNormalPageURL(const FlashPage& page) const {
+    return QStringLiteral("page/") +
+           BookName::withExtensionOf(QString::number(page.pageIndex()), page.pageFilePath());
+}
+
+QString FolveroOutput::getZoomedPageURL(const FlashPage& page) const {
+    // Zoomed pages go by the folder of the normal ones, whatever folder they lie in.
+    return getNormalPageURL(page);
+}
+
+QString FolveroOutput::getThumbPageURL(const FlashPage& page) const {
+    return getNormalPageURL(page);
+}

@@ -1,0 +1,214 @@
+#include "output/PublishTransaction.h"
+
+#include "platform/Files.h"
+#include "platform/PlatformException.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+const QString stagingPrefix = QStringLiteral(".folvero-publish-");
+
+[[noreturn]] void failWithErrno(const QString& path) {
+    PublishTransaction::fail(path, QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+// Symbolic links count as what they are, not as what they point to.
+bool exists(const QString& path) {
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+}
+
+bool isFolder(const QString& path) {
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+bool moveFile(const QString& from, const QString& to) {
+    return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+QString parentOf(const QString& path) {
+    return QDir::cleanPath(path).section(u'/', 0, -2);
+}
+
+} // namespace
+
+void PublishTransaction::fail(const QString& path, const QString& cause) {
+    throw PlatformException(QStringLiteral("PublishError"),
+                            QStringLiteral("%1: %2").arg(path, cause));
+}
+
+PublishTransaction::PublishTransaction(const QString& folder)
+    : iFolder(folder.isEmpty() ? QStringLiteral(".") : folder) {
+    try {
+        makeFolderNow(iFolder);
+        removeStaleFolders();
+        makeStagingFolder();
+    } catch (...) {
+        removeMadeFolders();
+        throw;
+    }
+}
+
+PublishTransaction::~PublishTransaction() {
+    if (!iCommitted)
+        undo();
+    QDir(iStaging).removeRecursively();
+    if (!iCommitted)
+        removeMadeFolders();
+}
+
+void PublishTransaction::makeStagingFolder() {
+    // The process's number tells a later publish whether the folder is still in use.
+    const QString pattern =
+        Files::join(iFolder, QStringLiteral("%1%2-XXXXXX").arg(stagingPrefix).arg(::getpid()));
+    QByteArray name = QFile::encodeName(pattern);
+    if (!::mkdtemp(name.data()))
+        failWithErrno(iFolder);
+    iStaging = QFile::decodeName(name);
+}
+
+void PublishTransaction::removeStaleFolders() const {
+    const QDir folder(iFolder);
+    const auto names = folder.entryList({stagingPrefix + u'*'}, QDir::Dirs | QDir::Hidden);
+    for (const QString& name : names) {
+        const pid_t process = name.mid(stagingPrefix.size()).section(u'-', 0, 0).toInt();
+        if (process > 0 && ::kill(process, 0) != 0 && errno == ESRCH)
+            QDir(folder.filePath(name)).removeRecursively();
+    }
+}
+
+void PublishTransaction::makeFolder(const QString& path) {
+    iFoldersToMake << QDir::cleanPath(path);
+}
+
+void PublishTransaction::copy(const QString& source, const QString& target, Copy kind,
+                              Phase phase) {
+    const QString staged = stage(target, phase);
+    QString error;
+    const bool done = kind == Copy::mayShare ? Files::linkOrCopy(source, staged, &error)
+                                             : Files::copy(source, staged, &error);
+    if (!done)
+        fail(target, error);
+}
+
+void PublishTransaction::write(const QString& target, const QByteArray& data, Phase phase) {
+    QString error;
+    if (!Files::writeAtomically(stage(target, phase), data, &error))
+        fail(target, error);
+}
+
+QString PublishTransaction::stage(const QString& target, Phase phase) {
+    Change& change = changeOf(target);
+    if (!change.staged.isNull())
+        QFile::remove(change.staged);
+    change.staged = newName();
+    change.phase = phase;
+    return change.staged;
+}
+
+void PublishTransaction::remove(const QString& target) {
+    Change& change = changeOf(target);
+    if (!change.staged.isNull())
+        QFile::remove(change.staged);
+    change.staged = QString();
+}
+
+bool PublishTransaction::willExist(const QString& path) const {
+    const QString clean = QDir::cleanPath(path);
+    const auto found = iIndexOfTarget.constFind(clean);
+    if (found != iIndexOfTarget.cend())
+        return !iChanges[*found].staged.isNull();
+    return exists(clean) || iFoldersToMake.contains(clean);
+}
+
+QString PublishTransaction::newName() {
+    return Files::join(iStaging, QString::number(++iNameCount));
+}
+
+PublishTransaction::Change& PublishTransaction::changeOf(const QString& target) {
+    const QString clean = QDir::cleanPath(target);
+    const auto found = iIndexOfTarget.constFind(clean);
+    if (found != iIndexOfTarget.cend())
+        return iChanges[*found];
+    iIndexOfTarget.insert(clean, iChanges.size());
+    iChanges.push_back({clean, QString(), Phase::contents});
+    return iChanges.back();
+}
+
+void PublishTransaction::commit() {
+    std::stable_sort(iChanges.begin(), iChanges.end(),
+                     [](const Change& a, const Change& b) { return a.phase < b.phase; });
+    for (const QString& path : iFoldersToMake)
+        makeFolderNow(path);
+    for (const Change& change : iChanges) {
+        if (!change.staged.isNull())
+            putInPlace(change);
+    }
+    // Last, since the earlier book may still speak of these files.
+    for (const Change& change : iChanges) {
+        if (change.staged.isNull())
+            takeAway(change);
+    }
+    iCommitted = true;
+}
+
+void PublishTransaction::makeFolderNow(const QString& path) {
+    if (path.isEmpty() || QFileInfo(path).isDir())
+        return;
+    makeFolderNow(parentOf(path));
+    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0)
+        failWithErrno(path);
+    iMadeFolders << path;
+}
+
+// The earlier file gets a second name first: so the target never goes missing, and can come back.
+void PublishTransaction::putInPlace(const Change& change) {
+    makeFolderNow(parentOf(change.target));
+    if (isFolder(change.target))
+        fail(change.target, QStringLiteral("There is a folder of that name"));
+    QString backup;
+    if (exists(change.target)) {
+        QString error;
+        backup = newName();
+        if (!Files::linkOrCopy(change.target, backup, &error))
+            fail(change.target, error);
+    }
+    if (!moveFile(change.staged, change.target))
+        failWithErrno(change.target);
+    iDone.push_back({change.target, backup});
+}
+
+void PublishTransaction::takeAway(const Change& change) {
+    if (!exists(change.target) || isFolder(change.target))
+        return;
+    const QString backup = newName();
+    if (!moveFile(change.target, backup))
+        failWithErrno(change.target);
+    iDone.push_back({change.target, backup});
+}
+
+void PublishTransaction::undo() {
+    for (auto step = iDone.rbegin(); step != iDone.rend(); ++step) {
+        if (step->backup.isNull())
+            QFile::remove(step->target);
+        else
+            moveFile(step->backup, step->target);
+    }
+}
+
+void PublishTransaction::removeMadeFolders() {
+    for (auto path = iMadeFolders.crbegin(); path != iMadeFolders.crend(); ++path)
+        ::rmdir(QFile::encodeName(*path).constData());
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+// The changes that one publish makes to a folder, made all at once at its end or not at all. New
+// content is staged in a hidden folder inside the folder, which a later transaction clears away if
+// this process dies. Every function but the destructor throws PlatformException with the file and
+// the cause in its reason; the folder is then as it was before.
+class PublishTransaction {
+public:
+    // The order in which files are put in place: a book is never seen with a configuration or a
+    // page that speaks of files not there yet.
+    enum class Phase { contents, configuration, page };
+
+    // What a copy may be: another name for a file that nothing changes in place, or a file of its
+    // own.
+    enum class Copy { independent, mayShare };
+
+    // The folder must exist.
+    explicit PublishTransaction(const QString& folder);
+    // Unless a commit came to its end, undoes all that was done.
+    ~PublishTransaction();
+    PublishTransaction(const PublishTransaction&) = delete;
+    PublishTransaction& operator=(const PublishTransaction&) = delete;
+
+    // Paths are full paths (or relative to the current folder) beneath the transaction's folder.
+    // Folders for staged files need not be made.
+    void makeFolder(const QString& path);
+    void copy(const QString& source, const QString& target, Copy kind,
+              Phase phase = Phase::contents);
+    void write(const QString& target, const QByteArray& data, Phase phase = Phase::contents);
+    // A path where the caller writes the target's new content. What was staged for it is dropped.
+    QString stage(const QString& target, Phase phase = Phase::contents);
+    void remove(const QString& target);
+
+    // Whether the file or folder will be there after a commit.
+    bool willExist(const QString& path) const;
+
+    void commit();
+
+    [[noreturn]] static void fail(const QString& path, const QString& cause);
+
+private:
+    struct Change {
+        QString target;
+        QString staged; // null for a removal
+        Phase phase = Phase::contents;
+    };
+    struct Undo {
+        QString target;
+        QString backup; // null when there was no such file
+    };
+
+    void makeStagingFolder();
+    void removeStaleFolders() const;
+    void makeFolderNow(const QString& path);
+    QString newName();
+    Change& changeOf(const QString& target);
+    void putInPlace(const Change& change);
+    void takeAway(const Change& change);
+    void undo();
+    void removeMadeFolders();
+
+    QString iFolder;
+    QString iStaging;
+    int iNameCount = 0;
+    std::vector<Change> iChanges;
+    QHash<QString, std::size_t> iIndexOfTarget;
+    QStringList iFoldersToMake;
+    QStringList iMadeFolders;
+    std::vector<Undo> iDone;
+    bool iCommitted = false;
+};

@@ -1,0 +1,73 @@
+#include "output/TextTemplate.h"
+
+namespace {
+
+constexpr QStringView opening = u"${";
+constexpr QStringView closing = u"}";
+// Where the copying of an unsubstituted rest ends.
+constexpr QStringView endOfRest = u"___${__";
+
+// Takes views off the front of a text, skipping white space before each.
+class Scanner {
+public:
+    explicit Scanner(QStringView text) : iLeft(text) {}
+
+    bool isAtEnd() {
+        skipSpace();
+        return iLeft.isEmpty();
+    }
+
+    // The text before the next mark, or the whole rest when there is none.
+    QStringView upTo(QStringView mark) {
+        skipSpace();
+        return take(iLeft.indexOf(mark));
+    }
+
+    bool startsWith(QStringView mark) const { return iLeft.startsWith(mark); }
+
+    void skip(QStringView mark) {
+        if (startsWith(mark))
+            iLeft = iLeft.sliced(mark.size());
+    }
+
+private:
+    void skipSpace() {
+        while (!iLeft.isEmpty() && iLeft.front().isSpace())
+            iLeft = iLeft.sliced(1);
+    }
+
+    QStringView take(qsizetype length) {
+        const QStringView taken = length < 0 ? iLeft : iLeft.first(length);
+        iLeft = iLeft.sliced(taken.size());
+        return taken;
+    }
+
+    QStringView iLeft;
+};
+
+QStringView withoutTrailingSpace(QStringView text) {
+    while (!text.isEmpty() && text.back().isSpace())
+        text.chop(1);
+    return text;
+}
+
+} // namespace
+
+QString TextTemplate::parse() const {
+    QString result = QStringLiteral("");
+    result.reserve(iFromStr.size());
+    Scanner scanner(iFromStr);
+    while (!scanner.isAtEnd()) {
+        const QStringView prefix = scanner.upTo(opening);
+        if (prefix.isEmpty())
+            return result.append(withoutTrailingSpace(scanner.upTo(endOfRest)));
+        if (!scanner.startsWith(opening))
+            return result.append(withoutTrailingSpace(prefix));
+        scanner.skip(opening);
+        const QStringView name = scanner.upTo(closing);
+        scanner.skip(closing);
+        result += prefix;
+        result += iKeyAndValues.value(name.toString());
+    }
+    return result;
+}

@@ -1,0 +1,59 @@
+#include "pages/FlashPageSourcePDF.h"
+
+#include "platform/Log.h"
+#include "platform/NotificationCenter.h"
+#include "platform/PlatformException.h"
+
+FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi,
+                                       int quality)
+    : iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
+    setSourceFile(pdfPath);
+    try {
+        iPDFDoc = PDFDocument::open(sourceFile());
+    } catch (const PlatformException& failure) {
+        iOpenError = failure.reason();
+        Log("FlashPageSourcePDF").warn(iOpenError);
+    }
+    iToPageConverter = std::make_shared<PDFToSWFPageConverter>(pdfPath, iPDFDoc, iQuality);
+    iNeedToImportPages = parsePageRange(iPageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
+}
+
+void FlashPageSourcePDF::postProgress(std::size_t step, const char* type) const {
+    NotificationCenter::defaultCenter().post(
+        QString::fromUtf16(ImportProgressInfoMSG), nullptr,
+        {{QStringLiteral("pageIndex"), int(step)},
+         {QStringLiteral("totalPage"), int(iNeedToImportPages.size())},
+         {QStringLiteral("type"), QString::fromLatin1(type)}});
+}
+
+void FlashPageSourcePDF::generatePages() {
+    iToPageConverter->drawAhead(iNeedToImportPages, stopFlag());
+    for (std::size_t i = 1; i - 1 < iNeedToImportPages.size() && !stop(); ++i) {
+        const int number = iNeedToImportPages[i - 1];
+        auto page = std::make_shared<FlashPage>();
+        page->setPageIndex(number);
+        page->setPageFilePath(iToPageConverter->generatePage(number));
+        iPages.push_back(std::move(page));
+        postProgress(i, "geneatePage");
+    }
+    iToPageConverter->endDrawingAhead();
+}
+
+void FlashPageSourcePDF::generateNormalPages() {
+    for (std::size_t i = 1; i - 1 < iPages.size() && !stop(); ++i) {
+        const auto& page = iPages[i - 1];
+        if (!getNormalPageAtIndex(page->pageIndex()))
+            iNormalPages.push_back(page->copyPage(100, 100));
+        postProgress(i, "geneateNormalPage");
+    }
+}
+
+std::shared_ptr<FlashPage> FlashPageSourcePDF::getNormalPageAtIndex(int pageIndex) const {
+    for (const auto& page : iNormalPages) {
+        if (stop())
+            return nullptr;
+        if (page->pageIndex() == pageIndex)
+            return page;
+    }
+    return nullptr;
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "pages/FlashPageSource.h"
+#include "pages/PDFToSWFPageConverter.h"
+
+#include <QString>
+#include <memory>
+#include <vector>
+
+// Progress of an import, posted on the import's thread. User information: "pageIndex" (one-based
+// step), "totalPage" (number of steps), "type" ("geneatePage" while pages are drawn, then
+// "geneateNormalPage").
+inline constexpr char16_t ImportProgressInfoMSG[] = u"ImportProgressInfoMSG";
+// Kept for listeners of old; an import's end shows in its operation instead.
+inline constexpr char16_t ImportPDFDidFinish[] = u"ImportPDFDidFinish";
+
+// The chosen pages of a PDF. Its page files live as long as it does.
+class FlashPageSourcePDF : public FlashPageSource {
+public:
+    // A file that can't be opened leaves the source without a document; openError() says why.
+    // dpi is kept but has no effect. Throws PlatformException for a page range beyond all bounds.
+    FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi, int quality);
+
+    const std::shared_ptr<PDFToSWFPageConverter>& toPageConverter() const {
+        return iToPageConverter;
+    }
+
+    // Draws the pages in order. A page that can't be drawn is listed all the same, with a file that
+    // does not exist. Throws PlatformException for a page that the document lacks.
+    void generatePages() override;
+    void generateNormalPages() override;
+
+    // Returns no page as soon as stop() is set.
+    std::shared_ptr<FlashPage> getNormalPageAtIndex(int pageIndex) const override;
+
+    bool ownsPageFiles() const override { return true; }
+
+    // Why the document could not be opened; null when it could.
+    const QString& openError() const { return iOpenError; }
+    const std::vector<int>& needToImportPages() const { return iNeedToImportPages; }
+
+private:
+    void postProgress(std::size_t step, const char* type) const;
+
+    std::shared_ptr<PDFDocument> iPDFDoc;
+    QString iPageRange;
+    int iDPI;
+    int iQuality;
+    std::shared_ptr<PDFToSWFPageConverter> iToPageConverter;
+    std::vector<int> iNeedToImportPages;
+    QString iOpenError;
+};

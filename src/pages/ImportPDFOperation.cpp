@@ -1,0 +1,96 @@
+#include "pages/ImportPDFOperation.h"
+
+#include "annotations/FlashOutlinePDF.h"
+#include "annotations/FlashPagesAnnotationsPDF.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+
+namespace {
+
+const Log& operationLog() {
+    static const Log log("ImportPDFOperation");
+    return log;
+}
+
+} // namespace
+
+ImportPDFOperation::ImportPDFOperation(const QString& pdfPath, const QString& pageRange, int dpi,
+                                       int quality)
+    : iDPI(dpi), iQuality(quality), iPDFPath(pdfPath), iPageRange(pageRange) {}
+
+void ImportPDFOperation::setPageSource(std::shared_ptr<FlashPageSourcePDF> source) {
+    const std::lock_guard lock(iMutex);
+    iFlashPageSource = std::move(source);
+    // A cancel that came before there was a source to stop.
+    if (iFlashPageSource && isCancelled())
+        iFlashPageSource->setStop(true);
+}
+
+void ImportPDFOperation::cancel() {
+    // In this order setPageSource() can't miss a cancel that finds no source.
+    Operation::cancel();
+    const std::lock_guard lock(iMutex);
+    if (iFlashPageSource)
+        iFlashPageSource->setStop(true);
+}
+
+void ImportPDFOperation::main() {
+    if (isCancelled())
+        return;
+    importPages();
+    const auto document =
+        iFlashPageSource ? iFlashPageSource->toPageConverter()->PDFDoc() : nullptr;
+    if (!isCancelled() && iImportLinks)
+        importPageLinks(document);
+    if (!isCancelled() && iImportBookmarks)
+        importOutline(document);
+    if (isCancelled()) {
+        operationLog().debug(QStringLiteral("import pdf is cancelled"));
+        setPageSource(nullptr);
+        iFlashPagesAnnotation = nullptr;
+        iFlashOutline = nullptr;
+    }
+}
+
+void ImportPDFOperation::importPages() {
+    try {
+        setPageSource(std::make_shared<FlashPageSourcePDF>(iPDFPath, iPageRange, iDPI, iQuality));
+        if (!iFlashPageSource->openError().isNull())
+            iFailures << iFlashPageSource->openError();
+        operationLog().debug(QStringLiteral("before generate pages"));
+        iFlashPageSource->generatePages();
+        operationLog().debug(QStringLiteral("after generate pages"));
+        operationLog().debug(QStringLiteral("before generateNormalPages"));
+        iFlashPageSource->generateNormalPages();
+        operationLog().debug(QStringLiteral("after generateNormalPages"));
+    } catch (const PlatformException& failure) {
+        operationLog().error(
+            QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
+        iFailures << QStringLiteral("%1: %2").arg(iPDFPath, failure.reason());
+        setPageSource(nullptr);
+    }
+}
+
+void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& document) {
+    const auto annotations = std::make_shared<FlashPagesAnnotationsPDF>();
+    try {
+        annotations->loadLinksFromPDF(document, iPageRange);
+        iFlashPagesAnnotation = annotations;
+    } catch (const PlatformException& failure) {
+        operationLog().error(
+            QStringLiteral("Run Import PDF Operation error,import links:%1").arg(failure.reason()));
+        iFailures << QStringLiteral("%1: links: %2").arg(iPDFPath, failure.reason());
+    }
+}
+
+void ImportPDFOperation::importOutline(const std::shared_ptr<PDFDocument>& document) {
+    const auto outline = std::make_shared<FlashOutlinePDF>();
+    try {
+        outline->loadOutlineFromPDF(document);
+        iFlashOutline = outline;
+    } catch (const PlatformException& failure) {
+        operationLog().error(QStringLiteral("Run Import PDF Operation error,import outline:%1")
+                                 .arg(failure.reason()));
+        iFailures << QStringLiteral("%1: bookmarks: %2").arg(iPDFPath, failure.reason());
+    }
+}

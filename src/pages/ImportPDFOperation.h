@@ -1,0 +1,55 @@
+#pragma once
+
+#include "annotations/FlashOutline.h"
+#include "annotations/FlashPagesAnnotations.h"
+#include "pages/FlashPageSourcePDF.h"
+#include "platform/Operation.h"
+
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <mutex>
+
+// Imports one PDF in the background: its pages, and its links and outline when asked to. Read the
+// results once it is finished; a part that failed is none.
+class ImportPDFOperation : public Operation {
+public:
+    ImportPDFOperation(const QString& pdfPath, const QString& pageRange, int dpi, int quality);
+
+    // Set before the operation is queued.
+    bool importLinks() const { return iImportLinks; }
+    void setImportLinks(bool on) { iImportLinks = on; }
+    bool importBookmarks() const { return iImportBookmarks; }
+    void setImportBookmarks(bool on) { iImportBookmarks = on; }
+
+    void main() override;
+    // Also ends a page that is being drawn. From any thread.
+    void cancel() override;
+
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotation() const {
+        return iFlashPagesAnnotation;
+    }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
+
+    // What went wrong, in words for the user, one text per part that failed.
+    const QStringList& failures() const { return iFailures; }
+
+private:
+    void setPageSource(std::shared_ptr<FlashPageSourcePDF> source);
+    void importPages();
+    void importPageLinks(const std::shared_ptr<PDFDocument>& document);
+    void importOutline(const std::shared_ptr<PDFDocument>& document);
+
+    std::mutex iMutex; // guards the page source, which cancel() reaches from another thread
+    std::shared_ptr<FlashPageSourcePDF> iFlashPageSource;
+    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotation;
+    std::shared_ptr<FlashOutline> iFlashOutline;
+    int iDPI;
+    int iQuality;
+    QString iPDFPath;
+    QString iPageRange;
+    bool iImportBookmarks = false;
+    bool iImportLinks = false;
+    QStringList iFailures;
+};

@@ -1,0 +1,21 @@
+#include "pages/PDFToPageConverter.h"
+
+#include "app/MirelUtility.h"
+
+#include <QDir>
+
+PDFToPageConverter::PDFToPageConverter(const QString& pdfPath, std::shared_ptr<PDFDocument> pdfDoc,
+                                       int quality)
+    : iQuality(quality),
+      iPDFPath(pdfPath),
+      iConverterWorkFolder(MirelUtility::forceTmpDiractory(QStringLiteral("Lumivex"))),
+      iPDFDoc(std::move(pdfDoc)) {}
+
+PDFToPageConverter::~PDFToPageConverter() {
+    if (!iConverterWorkFolder.isEmpty())
+        QDir(iConverterWorkFolder).removeRecursively();
+}
+
+QString PDFToPageConverter::generatePage(int /*page*/) {
+    return {};
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/PDFDocument.h"
+
+#include <QString>
+#include <memory>
+#include <vector>
+
+// What a converter of PDF pages needs: the document, the quality, and a private work folder, which
+// it deletes with every page file in it when it goes. Whoever publishes the pages keeps it alive.
+class PDFToPageConverter {
+public:
+    // pdfDoc may be none. quality is 0 to 100.
+    PDFToPageConverter(const QString& pdfPath, std::shared_ptr<PDFDocument> pdfDoc, int quality);
+    virtual ~PDFToPageConverter();
+    PDFToPageConverter(const PDFToPageConverter&) = delete;
+    PDFToPageConverter& operator=(const PDFToPageConverter&) = delete;
+
+    // Makes the page file of a one-based page number and returns its path; a null text here, in the
+    // base.
+    virtual QString generatePage(int page);
+    virtual void generateAllPage() {}
+    virtual void generatePages(const std::vector<int>& /*pages*/) {}
+
+    const QString& PDFPath() const { return iPDFPath; }
+    void setPDFPath(const QString& path) { iPDFPath = path; }
+    int quality() const { return iQuality; }
+    void setQuality(int quality) { iQuality = quality; }
+    const QString& converterWorkFolder() const { return iConverterWorkFolder; }
+    void setConverterWorkFolder(const QString& folder) { iConverterWorkFolder = folder; }
+    int DPI() const { return iDPI; }
+    void setDPI(int dpi) { iDPI = dpi; }
+    const std::shared_ptr<PDFDocument>& PDFDoc() const { return iPDFDoc; }
+    void setPDFDoc(std::shared_ptr<PDFDocument> document) { iPDFDoc = std::move(document); }
+
+private:
+    int iQuality;
+    QString iPDFPath;
+    QString iConverterWorkFolder;
+    int iDPI = 144;
+    std::shared_ptr<PDFDocument> iPDFDoc;
+};

@@ -1,0 +1,82 @@
+#include "pages/PDFToSWFPageConverter.h"
+
+#include "pages/PageQuality.h"
+#include "platform/Bundle.h"
+#include "platform/EngineLimits.h"
+#include "platform/Files.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+
+#include <QFileInfo>
+
+PDFToSWFPageConverter::~PDFToSWFPageConverter() {
+    endDrawingAhead(); // before the work folder goes
+}
+
+QString PDFToSWFPageConverter::getPDF2swfLibPath() {
+    return Bundle::pathForResource(QStringLiteral("pdf2swf"), QString(), QStringLiteral("lib"));
+}
+
+QString PDFToSWFPageConverter::workFile(int page, const char* extension) const {
+    return Files::join(converterWorkFolder(),
+                       QStringLiteral("%1.%2").arg(page).arg(QLatin1String(extension)));
+}
+
+void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
+                                      const std::atomic<bool>& stop) {
+    iStop = &stop;
+    std::vector<int> toDraw;
+    for (const int page : pages) {
+        if (PDFDoc() && page >= 1 && page <= PDFDoc()->pageCount() &&
+            !QFileInfo::exists(workFile(page, "swf")))
+            toDraw.push_back(page);
+    }
+    iWorkers = std::make_unique<PageWorkers>(PDFPath(), converterWorkFolder(), quality(),
+                                             std::move(toDraw), stop);
+    if (!iWorkers->start())
+        iWorkers.reset();
+    iWorkerCount = iWorkers ? iWorkers->workerCount() : 0;
+}
+
+void PDFToSWFPageConverter::endDrawingAhead() {
+    iWorkers.reset();
+    iStop = nullptr;
+}
+
+QString PDFToSWFPageConverter::generatePage(int page) {
+    const QString swf = workFile(page, "swf");
+    if (QFileInfo::exists(swf) || !PDFDoc())
+        return swf;
+    const QString jpg = workFile(page, "jpg");
+    pdfPageToImage(page, jpg);
+    return jpg;
+}
+
+void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) {
+    if (!PDFDoc())
+        return;
+    if (page < 1 || page > PDFDoc()->pageCount()) {
+        throw PlatformException(QStringLiteral("PDFPageMissing"),
+                                QStringLiteral("page %1 does not exist; the document has %2")
+                                    .arg(page)
+                                    .arg(PDFDoc()->pageCount()));
+    }
+    const PageResult result = iWorkers ? iWorkers->waitFor(page) : drawHere(page);
+    iTiming.draw += result.timing.draw;
+    iTiming.encode += result.timing.encode;
+    iTiming.write += result.timing.write;
+    if (!result.error.isNull())
+        iFailedPages.push_back({page, result.error});
+}
+
+PageResult PDFToSWFPageConverter::drawHere(int page) {
+    if (!iPDFRep)
+        iPDFRep = std::make_unique<PageImageMaker>(*PDFDoc(), compressionFactor(quality()));
+    try {
+        return {QString(),
+                iPDFRep->make(page, workFile(page, "jpg"), {iStop, EngineLimits::maxPageTime})};
+    } catch (const PlatformException& failure) {
+        Log("PDFToSWFPageConverter").warn(failure.reason());
+        return {failure.reason(), {}};
+    }
+}

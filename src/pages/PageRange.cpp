@@ -1,0 +1,82 @@
+#include "pages/PageRange.h"
+
+#include "pages/FlashPageSource.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+
+#include <QList>
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+namespace {
+
+// No book has more pages; a longer list is a slip of the keyboard or an attempt to exhaust memory.
+constexpr std::int64_t maxListedPages = 1'000'000;
+
+} // namespace
+
+int lenientInteger(QStringView text) {
+    qsizetype position = 0;
+    while (position < text.size() && text[position].isSpace())
+        ++position;
+    bool negative = false;
+    if (position < text.size() && (text[position] == u'-' || text[position] == u'+'))
+        negative = text[position++] == u'-';
+    std::int64_t value = 0;
+    for (; position < text.size(); ++position) {
+        const char16_t digit = text[position].unicode();
+        if (digit < u'0' || digit > u'9')
+            break;
+        value = std::min<std::int64_t>(value * 10 + (digit - u'0'),
+                                       std::int64_t{std::numeric_limits<int>::max()} + 1);
+    }
+    value = negative ? -value : value;
+    return static_cast<int>(std::min<std::int64_t>(value, std::numeric_limits<int>::max()));
+}
+
+std::vector<PageRun> pageRunsFromExpression(const QString& expression, int total) {
+    if (expression.toUpper() == QStringLiteral("ALL"))
+        return total > 0 ? std::vector<PageRun>{{1, total}} : std::vector<PageRun>{};
+    std::vector<PageRun> runs;
+    for (const QStringView piece : QStringView(expression).split(u',')) {
+        PageRun run{};
+        if (piece.contains(u'-')) {
+            const auto ends = piece.split(u'-');
+            run = {lenientInteger(ends[0]), lenientInteger(ends[1])};
+        } else {
+            run.first = run.last = lenientInteger(piece);
+        }
+        if (run.first <= run.last)
+            runs.push_back(run);
+    }
+    return runs;
+}
+
+std::vector<int> FlashPageSource::parsePageRange(const QString& expression, int atTotalPage) {
+    const auto runs = pageRunsFromExpression(expression, atTotalPage);
+    std::int64_t count = 0;
+    for (const PageRun& run : runs)
+        count += std::int64_t{run.last} - run.first + 1;
+    if (count > maxListedPages) {
+        throw PlatformException(
+            QStringLiteral("PageRangeTooLong"),
+            QStringLiteral("the page range \"%1\" names %2 pages").arg(expression).arg(count));
+    }
+
+    std::vector<int> numbers;
+    numbers.reserve(static_cast<std::size_t>(count));
+    for (const PageRun& run : runs) {
+        for (std::int64_t number = run.first; number <= run.last; ++number)
+            numbers.push_back(static_cast<int>(number));
+    }
+    std::sort(numbers.begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+
+    const Log log("FlashPageSource");
+    if (expression.toUpper() != QStringLiteral("ALL") && log.isDebugEnabled()) {
+        for (std::size_t i = 0; i < numbers.size(); ++i)
+            log.debug(QStringLiteral("range[%1]=%2").arg(i).arg(numbers[i]));
+    }
+    return numbers;
+}

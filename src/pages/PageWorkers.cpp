@@ -1,0 +1,178 @@
+#include "pages/PageWorkers.h"
+
+#include "platform/EngineLimits.h"
+#include "platform/Files.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <algorithm>
+#include <poll.h>
+#include <thread>
+
+namespace {
+
+// How often a waiting import looks at the stop flag.
+constexpr int pollMilliseconds = 20;
+
+// Made pages wait on disk, not in memory; the bound keeps a stopped import from having drawn far
+// more than was ever asked for.
+constexpr std::size_t maxPagesAhead = 64;
+
+// A worker gives a page up by itself; one that does not even do that is ended.
+constexpr auto patience = EngineLimits::maxPageTime + std::chrono::seconds(10);
+
+constexpr std::size_t maxWorkers = 16;
+
+const Log& workersLog() {
+    static const Log log("PageWorkers");
+    return log;
+}
+
+QString workerProgram() {
+    return Files::join(QCoreApplication::applicationDirPath(),
+                       QStringLiteral("folvero-page-worker"));
+}
+
+} // namespace
+
+PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vector<int> pages,
+                         const std::atomic<bool>& stop)
+    : iPDFPath(std::move(pdfPath)),
+      iFolder(std::move(folder)),
+      iQuality(quality),
+      iWaiting(pages.begin(), pages.end()),
+      iStop(stop),
+      iPageCount(pages.size()) {}
+
+PageWorkers::~PageWorkers() = default;
+
+std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
+    const std::vector<std::string> arguments{QFile::encodeName(iPDFPath).toStdString(),
+                                             QFile::encodeName(iFolder).toStdString(),
+                                             std::to_string(iQuality)};
+    try {
+        return std::make_unique<ChildProcess>(QFile::encodeName(workerProgram()).toStdString(),
+                                              arguments);
+    } catch (const PlatformException& failure) {
+        workersLog().warn(failure.reason());
+        return nullptr;
+    }
+}
+
+bool PageWorkers::start() {
+    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
+    const std::size_t count = std::min({cores, maxWorkers, iPageCount});
+    for (std::size_t i = 0; i < count; ++i) {
+        if (auto process = startProcess())
+            iWorkers.push_back({std::move(process), {}, {}});
+    }
+    feedAll();
+    return !iWorkers.empty();
+}
+
+PageResult PageWorkers::waitFor(int page) {
+    for (;;) {
+        if (const auto found = iResults.find(page); found != iResults.end()) {
+            PageResult result = std::move(found->second);
+            iResults.erase(found);
+            feedAll();
+            return result;
+        }
+        if (iStop)
+            endAll(QStringLiteral("stopped"));
+        else if (iWorkers.empty())
+            endAll(QStringLiteral("no page worker is left"));
+        else
+            collect();
+        if (iWorkers.empty() && !iResults.contains(page))
+            return {QStringLiteral("page %1 was not drawn").arg(page), {}};
+    }
+}
+
+// Keeps one page waiting at the worker behind the one that it draws, so that it never waits for us.
+// Near the end each page goes to whoever is free.
+void PageWorkers::feed(Worker& worker) {
+    const std::size_t depth = iWaiting.size() > 2 * iWorkers.size() ? 2 : 1;
+    while (!iWaiting.empty() && worker.pages.size() < depth && iResults.size() < maxPagesAhead) {
+        if (worker.pages.empty())
+            worker.since = std::chrono::steady_clock::now();
+        worker.pages.push_back(iWaiting.front());
+        iWaiting.pop_front();
+        if (!worker.process->writeLine(QByteArray::number(worker.pages.back())))
+            return; // its end shows when it is read
+    }
+}
+
+void PageWorkers::feedAll() {
+    for (Worker& worker : iWorkers)
+        feed(worker);
+}
+
+// Waits a moment for answers and takes those that came.
+void PageWorkers::collect() {
+    std::vector<pollfd> descriptors;
+    for (const Worker& worker : iWorkers)
+        descriptors.push_back({worker.process->readDescriptor(), POLLIN, 0});
+    ::poll(descriptors.data(), descriptors.size(), pollMilliseconds);
+    const auto now = std::chrono::steady_clock::now();
+    for (std::size_t i = 0; i < iWorkers.size(); ++i) {
+        Worker& worker = iWorkers[i];
+        if (descriptors[i].revents)
+            readAnswers(worker);
+        else if (!worker.pages.empty() && now - worker.since > patience)
+            replace(worker, QStringLiteral("took too long"));
+    }
+    std::erase_if(iWorkers, [](const Worker& worker) { return !worker.process; });
+}
+
+void PageWorkers::readAnswers(Worker& worker) {
+    if (!worker.process->readAvailable()) {
+        replace(worker, QStringLiteral("ended the page worker"));
+        return;
+    }
+    while (const auto line = worker.process->takeLine())
+        takeAnswer(worker, *line);
+    feed(worker);
+}
+
+// An answer is "ok DRAW ENCODE WRITE" in seconds, or "fail REASON", for the first page asked for.
+void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
+    if (worker.pages.empty())
+        return;
+    PageResult result;
+    const auto fields = line.split(' ');
+    if (fields[0] == "ok" && fields.size() == 4)
+        result.timing = {fields[1].toDouble(), fields[2].toDouble(), fields[3].toDouble()};
+    else
+        result.error = QString::fromUtf8(line.mid(5));
+    iResults[worker.pages.front()] = std::move(result);
+    worker.pages.pop_front();
+    worker.since = std::chrono::steady_clock::now();
+}
+
+// Gives up the page being drawn, hands the ones behind it back, and lets a new process take over.
+void PageWorkers::replace(Worker& worker, const QString& reason) {
+    if (!worker.pages.empty()) {
+        const int page = worker.pages.front();
+        iResults[page].error = QStringLiteral("page %1 %2").arg(page).arg(reason);
+        workersLog().warn(iResults[page].error);
+        iWaiting.insert(iWaiting.begin(), worker.pages.begin() + 1, worker.pages.end());
+        worker.pages.clear();
+        worker.process = startProcess();
+    } else {
+        worker.process = nullptr; // died idle: it could not even open the file
+    }
+    if (worker.process)
+        feed(worker);
+}
+
+void PageWorkers::endAll(const QString& reason) {
+    for (const Worker& worker : iWorkers) {
+        for (const int page : worker.pages)
+            iResults[page].error = QStringLiteral("page %1: %2").arg(page).arg(reason);
+    }
+    iWorkers.clear();
+    iWaiting.clear();
+}

@@ -1,0 +1,114 @@
+#include "platform/ChildProcess.h"
+
+#include "platform/PlatformException.h"
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ; // NOLINT(readability-redundant-declaration): POSIX leaves it to the user
+
+namespace {
+
+[[noreturn]] void fail(const std::string& program, int error) {
+    throw PlatformException(
+        QStringLiteral("ProcessStartFailed"),
+        QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(program.c_str()),
+                                     QString::fromLocal8Bit(std::strerror(error))));
+}
+
+// Sockets rather than pipes: a write to a socket whose reader is gone can be told to fail instead
+// of raising a signal.
+std::array<int, 2> makeChannel(const std::string& program) {
+    std::array<int, 2> ends{};
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+        fail(program, errno);
+    return ends;
+}
+
+} // namespace
+
+ChildProcess::ChildProcess(const std::string& program, const std::vector<std::string>& arguments) {
+    const auto input = makeChannel(program);
+    const auto output = makeChannel(program);
+    std::vector<char*> argv{const_cast<char*>(program.c_str())};
+    for (const auto& argument : arguments)
+        argv.push_back(const_cast<char*>(argument.c_str()));
+    argv.push_back(nullptr);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, input[1], STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
+    posix_spawnattr_setpgroup(&attributes, 0);
+    const int error =
+        posix_spawn(&iProcess, program.c_str(), &actions, &attributes, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    posix_spawnattr_destroy(&attributes);
+    ::close(input[1]);
+    ::close(output[1]);
+    iToChild = input[0];
+    iFromChild = output[0];
+    if (error != 0) {
+        ::close(iToChild);
+        ::close(iFromChild);
+        fail(program, error);
+    }
+}
+
+ChildProcess::~ChildProcess() {
+    kill();
+    ::close(iToChild);
+    ::close(iFromChild);
+}
+
+bool ChildProcess::writeLine(const QByteArray& line) {
+    const QByteArray data = line + '\n';
+    for (qsizetype done = 0; done < data.size();) {
+        const ssize_t count = ::send(iToChild, data.constData() + done,
+                                     std::size_t(data.size() - done), MSG_NOSIGNAL);
+        if (count < 0 && errno != EINTR)
+            return false;
+        done += std::max<ssize_t>(count, 0);
+    }
+    return true;
+}
+
+bool ChildProcess::readAvailable() {
+    char buffer[4096];
+    ssize_t count = 0;
+    do {
+        count = ::read(iFromChild, buffer, sizeof buffer);
+    } while (count < 0 && errno == EINTR);
+    if (count <= 0)
+        return false;
+    iBuffer.append(buffer, count);
+    return true;
+}
+
+std::optional<QByteArray> ChildProcess::takeLine() {
+    const qsizetype end = iBuffer.indexOf('\n');
+    if (end < 0)
+        return std::nullopt;
+    QByteArray line = iBuffer.left(end);
+    iBuffer.remove(0, end + 1);
+    return line;
+}
+
+void ChildProcess::kill() {
+    if (iProcess <= 0)
+        return;
+    ::kill(iProcess, SIGKILL);
+    while (::waitpid(iProcess, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    iProcess = -1;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <optional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+// A program of ours that runs beside us and speaks in lines: we write lines to its standard input
+// and read lines from its standard output. It is ended when this object goes. A Ctrl-C at the
+// terminal does not reach it.
+class ChildProcess {
+public:
+    // Throws PlatformException "ProcessStartFailed".
+    ChildProcess(const std::string& program, const std::vector<std::string>& arguments);
+    ~ChildProcess();
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    // False when the other side is gone.
+    bool writeLine(const QByteArray& line);
+
+    // Readable (or at its end) when a call of readAvailable() would not wait; for poll().
+    int readDescriptor() const { return iFromChild; }
+
+    // Reads what has arrived, waiting for something if need be. False at the end of the stream.
+    bool readAvailable();
+
+    // The next complete line that has been read, without its line end.
+    std::optional<QByteArray> takeLine();
+
+    // Ends the process at once.
+    void kill();
+
+private:
+    pid_t iProcess = -1;
+    int iToChild = -1;
+    int iFromChild = -1;
+    QByteArray iBuffer;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+
+// What one page may cost. A page beyond a limit is drawn smaller or given up; the book is still
+// made.
+namespace EngineLimits {
+
+// A poster of A0 size at twice its point size has 32 million pixels; colour at the limit takes
+// 150 MB, which two workers can hold on any machine of today.
+inline constexpr std::size_t maxBitmapPixels = 50'000'000;
+
+// The JPEG format ends at 65,535; the engine's own arithmetic is safe well below that.
+inline constexpr int maxBitmapSide = 32'000;
+
+// Ordinary pages take a few hundredths of a second. A page that has drawn for this long is built to
+// never end.
+inline constexpr std::chrono::seconds maxPageTime{60};
+
+// Memory that one engine instance may hold beside the bitmap.
+inline constexpr std::size_t maxEngineMemory = std::size_t{1} << 30;
+
+// Cache of decoded images and glyphs within that. More doesn't make real documents faster.
+inline constexpr std::size_t engineStore = std::size_t{64} << 20;
+
+} // namespace EngineLimits

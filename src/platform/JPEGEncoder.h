@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/PageBitmap.h"
+
+#include <memory>
+#include <span>
+
+// Encodes page pictures as JPEG. One object encodes picture after picture into the same memory.
+class JPEGEncoder {
+public:
+    JPEGEncoder();
+    ~JPEGEncoder();
+    JPEGEncoder(const JPEGEncoder&) = delete;
+    JPEGEncoder& operator=(const JPEGEncoder&) = delete;
+
+    // factor is 0 (strongest compression) to 1 (best). The result is valid until the next call.
+    // Throws PlatformException "JPEGEncodeFailed".
+    std::span<const unsigned char> encode(const PageBitmap& bitmap, double factor);
+
+private:
+    struct State;
+    std::unique_ptr<State> iState;
+};

@@ -1,0 +1,226 @@
+#include "platform/PDFDocument.h"
+
+#include "platform/EngineLimits.h"
+#include "platform/Log.h"
+#include "platform/PDFEngine.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <cstdlib>
+#include <fcntl.h>
+#include <malloc.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace {
+
+const Log& engineLog() {
+    static const Log log("PDFEngine");
+    return log;
+}
+
+// The allocator counts what the engine holds and refuses to go past the limit. The engine then
+// empties its cache and tries again before it gives the page up.
+void* limitedRealloc(void* user, void* old, std::size_t size) {
+    auto& held = *static_cast<std::size_t*>(user);
+    const std::size_t before = old ? ::malloc_usable_size(old) : 0;
+    if (held - before + size > EngineLimits::maxEngineMemory)
+        return nullptr;
+    void* memory = std::realloc(old, size);
+    if (memory)
+        held += ::malloc_usable_size(memory) - before;
+    return memory;
+}
+
+void* limitedMalloc(void* user, std::size_t size) {
+    return limitedRealloc(user, nullptr, size);
+}
+
+void countedFree(void* user, void* memory) {
+    if (!memory)
+        return;
+    *static_cast<std::size_t*>(user) -= ::malloc_usable_size(memory);
+    std::free(memory);
+}
+
+void logEngineMessage(void* /*user*/, const char* message) {
+    if (engineLog().isDebugEnabled())
+        engineLog().debug(QString::fromUtf8(message));
+}
+
+[[noreturn]] void failToOpen(const QString& path, const QString& cause) {
+    throw PlatformException(QStringLiteral("PDFOpenFailed"),
+                            QStringLiteral("%1: %2").arg(path, cause));
+}
+
+void checkFile(const QString& path) {
+    const QFileInfo info(path);
+    if (!info.exists())
+        failToOpen(path, QStringLiteral("no such file"));
+    if (info.isDir())
+        failToOpen(path, QStringLiteral("is a folder, not a PDF file"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        failToOpen(path, QStringLiteral("can't be read (%1)").arg(file.errorString()));
+    if (info.isFile() && info.size() == 0)
+        failToOpen(path, QStringLiteral("the file is empty"));
+}
+
+bool hasPDFHeader(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(1024).contains("%PDF-");
+}
+
+} // namespace
+
+PDFDocument::Engine::Engine(QString filePath) : path(std::move(filePath)) {
+    const fz_alloc_context allocator{&allocated, limitedMalloc, limitedRealloc, countedFree};
+    context = fz_new_context(&allocator, nullptr, EngineLimits::engineStore);
+    if (!context)
+        throw std::bad_alloc();
+    fz_set_warning_callback(context, logEngineMessage, nullptr);
+    fz_set_error_callback(context, logEngineMessage, nullptr);
+}
+
+PDFDocument::Engine::~Engine() {
+    if (pageTable)
+        pdf_drop_page_tree(context, document);
+    pdf_drop_document(context, document);
+    fz_drop_context(context);
+    if (mapping)
+        ::munmap(mapping, mappingSize);
+}
+
+void PDFDocument::Engine::open(Access access) {
+    checkFile(path);
+    const QByteArray name = QFile::encodeName(path);
+    if (access == Access::mapped) {
+        const int file = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+        mappingSize = static_cast<std::size_t>(QFileInfo(path).size());
+        void* memory = ::mmap(nullptr, mappingSize, PROT_READ, MAP_PRIVATE, file, 0);
+        ::close(file);
+        mapping = memory == MAP_FAILED ? nullptr : memory;
+    }
+    try {
+        run("PDFOpenFailed", [&](fz_context* ctx) {
+            if (!mapping) {
+                document = pdf_open_document(ctx, name.constData());
+                return;
+            }
+            fz_stream* stream =
+                fz_open_memory(ctx, static_cast<const unsigned char*>(mapping), mappingSize);
+            fz_try(ctx) {
+                document = pdf_open_document_with_stream(ctx, stream);
+            }
+            fz_always(ctx) {
+                fz_drop_stream(ctx, stream);
+            }
+            fz_catch(ctx) {
+                fz_rethrow(ctx);
+            }
+        });
+    } catch (const PlatformException& failure) {
+        if (!hasPDFHeader(path))
+            failToOpen(path, QStringLiteral("is not a PDF document"));
+        failToOpen(path, QStringLiteral("is damaged beyond repair (%1)").arg(failure.reason()));
+    }
+    if (get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
+        failToOpen(path, QStringLiteral("is protected by a password"));
+}
+
+pdf_obj* PDFDocument::Engine::entry(pdf_obj* dictionary, const char* key) const {
+    return get([&](fz_context* ctx) { return pdf_dict_gets(ctx, dictionary, key); },
+               static_cast<pdf_obj*>(nullptr));
+}
+
+QString PDFDocument::Engine::text(pdf_obj* string) const {
+    if (!get([&](fz_context* ctx) { return pdf_is_string(ctx, string); }, 0))
+        return {};
+    const char* bytes = get([&](fz_context* ctx) { return pdf_to_text_string(ctx, string); },
+                            static_cast<const char*>(nullptr));
+    return bytes ? QString::fromUtf8(bytes) : QString();
+}
+
+QString PDFDocument::Engine::name(pdf_obj* object) const {
+    return QString::fromUtf8(get([&](fz_context* ctx) { return pdf_to_name(ctx, object); }, ""));
+}
+
+void PDFDocument::Engine::loadPageTable() const {
+    if (pageTable)
+        return;
+    pageTable = get(
+        [this](fz_context* ctx) {
+            pdf_load_page_tree(ctx, document);
+            return true;
+        },
+        false);
+}
+
+std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) const {
+    loadPageTable();
+    const int count = get([this](fz_context* ctx) { return pdf_count_pages(ctx, document); }, 0);
+    const int page = get(
+        [&](fz_context* ctx) {
+            pdf_obj* target = destination;
+            if (pdf_is_name(ctx, target) || pdf_is_string(ctx, target))
+                target = pdf_lookup_dest(ctx, document, target);
+            if (pdf_is_dict(ctx, target))
+                target = pdf_dict_get(ctx, target, PDF_NAME(D));
+            if (!pdf_is_array(ctx, target))
+                return -1;
+            pdf_obj* first = pdf_array_get(ctx, target, 0);
+            return pdf_is_int(ctx, first) ? pdf_to_int(ctx, first)
+                                          : pdf_lookup_page_number(ctx, document, first);
+        },
+        -1);
+    return page >= 0 && page < count ? std::optional(page) : std::nullopt;
+}
+
+std::optional<int> PDFDocument::Engine::targetPage(pdf_obj* dictionary) const {
+    if (pdf_obj* destination = entry(dictionary, "Dest"))
+        return destinationPage(destination);
+    pdf_obj* action = entry(dictionary, "A");
+    if (action && name(entry(action, "S")) == QStringLiteral("GoTo"))
+        return destinationPage(entry(action, "D"));
+    return std::nullopt;
+}
+
+PDFDocument::PDFDocument(std::unique_ptr<Engine> engine) : iEngine(std::move(engine)) {}
+
+PDFDocument::~PDFDocument() = default;
+
+std::shared_ptr<PDFDocument> PDFDocument::open(const QString& path, Access access) {
+    auto engine = std::make_unique<Engine>(path);
+    engine->open(access);
+    return std::shared_ptr<PDFDocument>(new PDFDocument(std::move(engine)));
+}
+
+QString PDFDocument::path() const {
+    return iEngine->path;
+}
+
+int PDFDocument::pageCount() const {
+    return iEngine->get([this](fz_context* ctx) { return pdf_count_pages(ctx, iEngine->document); },
+                        0);
+}
+
+PDFPage PDFDocument::page(int index) const {
+    if (index < 0 || index >= pageCount()) {
+        throw PlatformException(QStringLiteral("PDFPageMissing"),
+                                QStringLiteral("page %1 does not exist; the document has %2")
+                                    .arg(qint64(index) + 1)
+                                    .arg(pageCount()));
+    }
+    pdf_obj* object = nullptr;
+    iEngine->run("PDFPageUnreadable", [&](fz_context* ctx) {
+        object = pdf_lookup_page_obj(ctx, iEngine->document, index);
+    });
+    return {*this, index, object};
+}
+
+QString PDFDocument::information(const char* key) const {
+    pdf_obj* trailer =
+        iEngine->get([this](fz_context* ctx) { return pdf_trailer(ctx, iEngine->document); },
+                     static_cast<pdf_obj*>(nullptr));
+    return iEngine->text(iEngine->entry(iEngine->entry(trailer, "Info"), key));
+}

@@ -1,0 +1,253 @@
+#include "platform/EngineLimits.h"
+#include "platform/PDFEngine.h"
+
+#include <algorithm>
+#include <cmath>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace {
+
+// Colour values closer together than this count as gray. It is the step of an 8-bit channel, so
+// nobody can see it.
+constexpr float grayTolerance = 1.0F / 256;
+
+// Ends a drawing when its time is up or it is to stop, by raising the engine's abort flag.
+class DrawWatch {
+public:
+    explicit DrawWatch(const DrawControl& control)
+        : iControl(control),
+          iDeadline(std::chrono::steady_clock::now() + control.timeLimit),
+          iThread([this] { watch(); }) {}
+
+    ~DrawWatch() {
+        {
+            const std::lock_guard lock(iMutex);
+            iDone = true;
+        }
+        iWake.notify_one();
+        iThread.join();
+    }
+    DrawWatch(const DrawWatch&) = delete;
+    DrawWatch& operator=(const DrawWatch&) = delete;
+
+    fz_cookie* cookie() { return &iCookie; }
+
+    void throwIfEnded(int page) const {
+        if (isStopped()) {
+            throw PlatformException(QStringLiteral("PDFPageStopped"),
+                                    QStringLiteral("page %1 was stopped").arg(page));
+        }
+        if (iCookie.abort) {
+            throw PlatformException(
+                QStringLiteral("PDFPageTimeout"),
+                QStringLiteral("page %1 was given up after %2 seconds")
+                    .arg(page)
+                    .arg(std::chrono::duration<double>(iControl.timeLimit).count()));
+        }
+    }
+
+private:
+    bool isStopped() const { return iControl.stop && *iControl.stop; }
+
+    void watch() {
+        std::unique_lock lock(iMutex);
+        while (!iDone) {
+            const auto now = std::chrono::steady_clock::now();
+            if (now >= iDeadline || isStopped()) {
+                iCookie.abort = 1;
+                return;
+            }
+            const auto next = iControl.stop
+                                  ? std::min(iDeadline, now + std::chrono::milliseconds(20))
+                                  : iDeadline;
+            iWake.wait_until(lock, next);
+        }
+    }
+
+    const DrawControl iControl;
+    const std::chrono::steady_clock::time_point iDeadline;
+    fz_cookie iCookie{};
+    std::mutex iMutex;
+    std::condition_variable iWake;
+    bool iDone = false;
+    std::thread iThread;
+};
+
+struct PixelSize {
+    int width;
+    int height;
+};
+
+// The pixels of a page at a scale, or at the largest scale within the limits.
+PixelSize pixelSize(double width, double height, double scale) {
+    using namespace EngineLimits;
+    const double pixels = width * scale * height * scale;
+    const double side = std::max(width, height) * scale;
+    double factor = 1;
+    if (pixels > double(maxBitmapPixels))
+        factor = std::sqrt(double(maxBitmapPixels) / pixels);
+    if (side * factor > maxBitmapSide)
+        factor = maxBitmapSide / side;
+    const auto whole = [&](double length) {
+        return std::max(1, int(std::lround(length * scale * factor)));
+    };
+    return {whole(width), whole(height)};
+}
+
+// Whether any pixel of a colour picture is more than gray.
+bool hasColour(const PageBitmap& bitmap) {
+    const unsigned char* pixel = bitmap.data();
+    for (int y = 0; y < bitmap.height(); ++y) {
+        unsigned difference = 0;
+        for (int x = 0; x < bitmap.width(); ++x, pixel += 3)
+            difference |= unsigned(pixel[0] ^ pixel[1]) | unsigned(pixel[1] ^ pixel[2]);
+        if (difference > 1)
+            return true;
+    }
+    return false;
+}
+
+// Keeps the first component of every pixel, in place.
+void dropColour(PageBitmap& bitmap) {
+    const std::size_t count = std::size_t(bitmap.width()) * std::size_t(bitmap.height());
+    unsigned char* samples = bitmap.data();
+    for (std::size_t i = 0; i < count; ++i)
+        samples[i] = samples[3 * i];
+    bitmap.resize(bitmap.width(), bitmap.height(), 1);
+}
+
+struct DrawnPage {
+    fz_display_list* list = nullptr;
+    int isColour = 0;
+};
+
+// Notices whether anything is blended into what lies beneath it other than by covering it.
+struct BlendWatch {
+    fz_device super;
+    bool blends;
+};
+
+void watchGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
+                int /*isolated*/, int /*knockout*/, int blendMode, float /*alpha*/) {
+    if (blendMode != FZ_BLEND_NORMAL)
+        reinterpret_cast<BlendWatch*>(device)->blends = true;
+}
+
+bool blends(fz_context* ctx, fz_display_list* list) {
+    auto* watch = fz_new_derived_device(ctx, BlendWatch);
+    watch->super.begin_group = watchGroup;
+    bool result = true;
+    fz_try(ctx) {
+        fz_run_display_list(ctx, list, &watch->super, fz_identity, fz_infinite_rect, nullptr);
+        fz_close_device(ctx, &watch->super);
+        result = watch->blends;
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, &watch->super);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+    return result;
+}
+
+// Interprets the page once, which also tells whether it asks for any colour.
+void recordPage(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& drawn) {
+    fz_device* recorder = nullptr;
+    fz_device* test = nullptr;
+    fz_var(recorder);
+    fz_var(test);
+    fz_try(ctx) {
+        drawn.list = fz_new_display_list(ctx, fz_bound_page(ctx, page));
+        recorder = fz_new_list_device(ctx, drawn.list);
+        test = fz_new_test_device(ctx, &drawn.isColour, grayTolerance, 0, recorder);
+        fz_run_page(ctx, page, test, fz_identity, cookie);
+        fz_close_device(ctx, test);
+        fz_close_device(ctx, recorder);
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, test);
+        fz_drop_device(ctx, recorder);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+}
+
+// A page that may blend is drawn as a picture of its own first, which is then laid on the paper.
+// Many a document says so of all its pages and means a few. Without blending the paper can be drawn
+// on directly, to the same effect in less time.
+void recordPageSimply(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& drawn) {
+    pdf_page* pdfPage = pdf_page_from_fz_page(ctx, page);
+    const int transparency = pdfPage->transparency;
+    pdfPage->transparency = 0;
+    recordPage(ctx, page, cookie, drawn);
+    if (!transparency || !blends(ctx, drawn.list))
+        return;
+    fz_drop_display_list(ctx, drawn.list);
+    drawn = {};
+    pdfPage->transparency = transparency;
+    recordPage(ctx, page, cookie, drawn);
+}
+
+void drawList(fz_context* ctx, fz_display_list* list, const fz_matrix& matrix, PageBitmap& bitmap,
+              fz_cookie* cookie) {
+    fz_pixmap* pixmap = nullptr;
+    fz_device* device = nullptr;
+    fz_var(pixmap);
+    fz_var(device);
+    fz_try(ctx) {
+        pixmap = fz_new_pixmap_with_data(
+            ctx, bitmap.components() == 1 ? fz_device_gray(ctx) : fz_device_rgb(ctx),
+            bitmap.width(), bitmap.height(), nullptr, 0, bitmap.stride(), bitmap.data());
+        fz_clear_pixmap_with_value(ctx, pixmap, 0xFF);
+        device = fz_new_draw_device(ctx, matrix, pixmap);
+        fz_run_display_list(ctx, list, device, fz_identity, fz_infinite_rect, cookie);
+        fz_close_device(ctx, device);
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, device);
+        fz_drop_pixmap(ctx, pixmap);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+}
+
+} // namespace
+
+void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control) const {
+    const auto& engine = *iDocument->iEngine;
+    DrawWatch watch(control);
+    DrawnPage drawn;
+    fz_page* page = nullptr;
+    fz_rect bounds = fz_empty_rect;
+    const auto drop = [&](void*) {
+        fz_drop_display_list(engine.context, drawn.list);
+        fz_drop_page(engine.context, page);
+    };
+    const std::unique_ptr<void, decltype(drop)> cleanup(&drawn, drop);
+
+    engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
+        page = fz_load_page(ctx, &engine.document->super, iIndex);
+        bounds = fz_bound_page(ctx, page);
+        recordPageSimply(ctx, page, watch.cookie(), drawn);
+    });
+    watch.throwIfEnded(iIndex + 1);
+
+    const double width = double(bounds.x1) - bounds.x0;
+    const double height = double(bounds.y1) - bounds.y0;
+    const PixelSize size = pixelSize(width, height, scale);
+    bitmap.resize(size.width, size.height, drawn.isColour ? 3 : 1);
+    // Stretched by less than a pixel so that the page fills the bitmap to its edges.
+    const fz_matrix matrix = fz_pre_translate(
+        fz_scale(float(size.width / width), float(size.height / height)), -bounds.x0, -bounds.y0);
+    engine.run("PDFPageUnreadable",
+               [&](fz_context* ctx) { drawList(ctx, drawn.list, matrix, bitmap, watch.cookie()); });
+    watch.throwIfEnded(iIndex + 1);
+    // A colour space alone makes a page count as coloured; scans often are gray all the same.
+    if (bitmap.components() == 3 && !hasColour(bitmap))
+        dropColour(bitmap);
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/PDFDocument.h"
+#include "platform/PlatformException.h"
+
+#include <QByteArray>
+#include <mupdf/fitz.h>
+#include <mupdf/pdf.h>
+#include <optional>
+#include <set>
+
+// The open file behind a PDFDocument, shared by the files of this folder that speak to the PDF
+// engine.
+//
+// The engine reports errors by jumping out of its functions, past C++ destructors. So engine calls
+// stand in small lambdas passed to run() or get(), which hold no object that needs one.
+struct PDFDocument::Engine {
+    explicit Engine(QString path);
+    ~Engine();
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    void open(Access access);
+
+    // Runs engine calls; an engine error becomes a PlatformException of that name.
+    template <class Body>
+    void run(const char* errorName, Body body) const {
+        fz_try(context) {
+            body(context);
+        }
+        fz_catch(context) {
+            throw PlatformException(QString::fromLatin1(errorName),
+                                    QString::fromUtf8(fz_caught_message(context)));
+        }
+    }
+
+    // The value of an engine call, or the fallback when it reports an error.
+    template <class Body, class Value>
+    Value get(Body body, Value fallback) const {
+        Value value = fallback;
+        fz_var(value);
+        fz_try(context) {
+            value = body(context);
+        }
+        fz_catch(context) {
+            value = fallback;
+        }
+        return value;
+    }
+
+    pdf_obj* entry(pdf_obj* dictionary, const char* key) const;
+    QString text(pdf_obj* string) const;
+    QString name(pdf_obj* name) const;
+
+    // Zero-based page that an explicit or named destination, or a go-to action, leads to.
+    std::optional<int> destinationPage(pdf_obj* destination) const;
+    // The destination of an annotation or outline entry: its "Dest", or that of its go-to action.
+    std::optional<int> targetPage(pdf_obj* dictionary) const;
+
+    // The entries of one outline level, from the first one on, with those beneath them. A file may
+    // chain its entries into a ring, so each is read once only.
+    std::vector<PDFOutlineNode> outlineLevel(pdf_obj* first, int depth,
+                                             std::set<pdf_obj*>& seen) const;
+
+    // Keeps the engine's table of page numbers, so that looking one up does not walk the page tree.
+    void loadPageTable() const;
+
+    QString path;
+    std::size_t allocated = 0; // bytes held by the engine
+    fz_context* context = nullptr;
+    pdf_document* document = nullptr;
+    void* mapping = nullptr;
+    std::size_t mappingSize = 0;
+    mutable bool pageTable = false;
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/PageBitmap.h"
+
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <vector>
+
+class PDFDocument;
+struct pdf_obj;
+
+// One annotation of a page.
+struct PDFAnnotation {
+    QString type;  // "Link", "Text" ...
+    QRectF bounds; // points in page space: x() and y() are the lower left corner
+    QString url;   // null when the annotation opens no address
+    std::optional<int> destinationPage; // zero-based; none when it leads to no page
+};
+
+// What ends a drawing before it is done.
+struct DrawControl {
+    const std::atomic<bool>* stop = nullptr; // given up as soon as this turns true
+    std::chrono::milliseconds timeLimit{60'000};
+};
+
+// One page of an open document. Boxes are in points, in the page's own space (origin at the lower
+// left, before rotation).
+class PDFPage {
+public:
+    QRectF mediaBox() const;
+
+    // The part of the page that is shown: the crop box within the media box.
+    QRectF cropBox() const;
+
+    // Degrees clockwise as the file says, brought into 0 to 359. Not necessarily a multiple of 90.
+    int rotation() const;
+
+    // Size in points as drawn: rotated, and in the page's own unit of length.
+    QSizeF displaySize() const;
+
+    std::vector<PDFAnnotation> annotations() const;
+
+    // Draws the page as a reader sees it, rotated and with its annotations, on white. scale is
+    // pixels per point; a page too large for the limits is drawn at a smaller one. The bitmap has
+    // one component when the page holds no colour. Throws PlatformException when the page can't be
+    // read ("PDFPageUnreadable"), "PDFPageTimeout" or "PDFPageStopped".
+    void draw(double scale, PageBitmap& bitmap, const DrawControl& control = {}) const;
+
+private:
+    friend class PDFDocument;
+    PDFPage(const PDFDocument& document, int index, pdf_obj* object)
+        : iDocument(&document), iIndex(index), iObject(object) {}
+
+    QRectF box(pdf_obj* key) const;
+
+    const PDFDocument* iDocument;
+    int iIndex;
+    pdf_obj* iObject; // owned by the document
+};

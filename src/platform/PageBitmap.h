@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+// An uncompressed page picture, rows top-down without padding. One object is used for page after
+// page: it keeps its memory, since fresh memory for every page costs as much as clearing it.
+class PageBitmap {
+public:
+    // Makes room for a picture; the pixels are left as they are. components is 1 (gray) or 3 (red,
+    // green, blue).
+    void resize(int width, int height, int components) {
+        const std::size_t size = std::size_t(width) * std::size_t(height) * std::size_t(components);
+        if (size > iCapacity) {
+            iData.reset();
+            iData.reset(new unsigned char[size]);
+            iCapacity = size;
+        }
+        iWidth = width;
+        iHeight = height;
+        iComponents = components;
+    }
+
+    int width() const { return iWidth; }
+    int height() const { return iHeight; }
+    int components() const { return iComponents; }
+    int stride() const { return iWidth * iComponents; }
+    unsigned char* data() { return iData.get(); }
+    const unsigned char* data() const { return iData.get(); }
+
+private:
+    std::unique_ptr<unsigned char[]> iData;
+    std::size_t iCapacity = 0;
+    int iWidth = 0;
+    int iHeight = 0;
+    int iComponents = 0;
+};

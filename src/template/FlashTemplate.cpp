@@ -1,0 +1,182 @@
+#include "template/FlashTemplate.h"
+
+#include "platform/Bundle.h"
+#include "platform/Files.h"
+#include "platform/FolderList.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+#include "template/TemplateFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <filesystem>
+
+namespace {
+
+const Log& logger() {
+    static const Log log("FlashTemplate");
+    return log;
+}
+
+// One separator between the two, none at the end.
+QString appendPathComponent(const QString& folder, const QString& component) {
+    qsizetype start = 0;
+    qsizetype end = component.size();
+    while (start < end && component[start] == u'/')
+        ++start;
+    while (end > start && component[end - 1] == u'/')
+        --end;
+    return Files::join(folder, component.mid(start, end - start));
+}
+
+QString stylesFolder(const QString& tmplName) {
+    const QString styles =
+        appendPathComponent(Bundle::resourcePath(), QStringLiteral("AppFiles/Styles/"));
+    return appendPathComponent(styles, tmplName);
+}
+
+// Whoever reads the target meanwhile sees the old file or the new one, never a part of it.
+void replaceFile(const QString& source, const QString& target) {
+    if (!QFileInfo::exists(source)) {
+        QFile::remove(target);
+        return;
+    }
+    const QString partial = target + QStringLiteral(".part");
+    QFile::remove(partial);
+    if (!Files::copy(source, partial))
+        return;
+    std::error_code error;
+    std::filesystem::rename(QFile::encodeName(partial).toStdString(),
+                            QFile::encodeName(target).toStdString(), error);
+    if (error)
+        QFile::remove(partial);
+}
+
+} // namespace
+
+FlashTemplate::FlashTemplate() {
+    loadTemplate(QStringLiteral("float"));
+    logger().debug(QStringLiteral("self is:<FlashTemplate: 0x%1>")
+                       .arg(reinterpret_cast<quintptr>(this), 0, 16));
+}
+
+QStringList FlashTemplate::tmplNames() {
+    return FolderList::foldersBeneath(
+        appendPathComponent(Bundle::resourcePath(), QStringLiteral("AppFiles/Templates/")));
+}
+
+QStringList FlashTemplate::tmplStyleNamesForTmpl(const QString& name) {
+    return FolderList::foldersBeneath(stylesFolder(name));
+}
+
+QString FlashTemplate::stylePathFor(const QString& tmplName, const QString& styleName) {
+    return appendPathComponent(stylesFolder(tmplName), styleName);
+}
+
+QString FlashTemplate::tmplPathForName(const QString& name) {
+    const QString folder = QStringLiteral("AppFiles/Templates/%1/").arg(name);
+    return appendPathComponent(Bundle::resourcePath(), folder) + u'/';
+}
+
+QString FlashTemplate::tmplMetaPathForName(const QString& name) {
+    return tmplPathForName(name) + QStringLiteral("flashTemplate.xml");
+}
+
+void FlashTemplate::loadTemplate(const QString& name) {
+    iProperties.clear();
+    iTmplName = name;
+    iLoadError = QString();
+    const QString path = tmplMetaPathForName(name);
+    if (path.contains(QChar::Null)) {
+        iLoadError = QStringLiteral("Can't create an URL from file %1.").arg(path);
+        logger().error(iLoadError);
+        return;
+    }
+    try {
+        loadTemplateFile(path);
+    } catch (const PlatformException& failure) {
+        iLoadError =
+            QStringLiteral("Can't load the template file \"%1\": %2").arg(path, failure.reason());
+        logger().error(iLoadError);
+    }
+}
+
+void FlashTemplate::loadTemplateFile(const QString& path) {
+    const auto document = TemplateFile::read(path);
+    const auto root = document->document_element();
+    const auto inRoot = [] { return QStringLiteral("root element"); };
+    const auto info = TemplateFile::required(root, "info", inRoot);
+    const auto infoText = [&info](const char* name) {
+        return TemplateFile::requiredText(info, name,
+                                          [] { return QStringLiteral("\"info\" element"); });
+    };
+    iHTMLFilePath = infoText("htmlPath");
+    iSWFFilePath = infoText("swfPath");
+    iDefaultSytleName = infoText("defaultStyle");
+    iMacAppFilesFolder = infoText("macAppFilesFolder");
+    iMobileTmplFilesPath = infoText("mobileTmplFilesPath");
+
+    const auto properties = TemplateFile::required(root, "properties", inRoot);
+    for (const pugi::xml_node& element : properties.children("property")) {
+        auto property = std::make_unique<FlashTemplateProperty>();
+        property->loadFromNode(element);
+        iProperties.push_back(std::move(property));
+    }
+}
+
+void FlashTemplate::changeTmplTo(const QString& name, const QString& stylePath) {
+    const QString pageWidth = propertyValueFor(QStringLiteral("pageWidth"), QStringLiteral("960"));
+    const QString pageHeight =
+        propertyValueFor(QStringLiteral("pageHeight"), QStringLiteral("600"));
+    const QString language =
+        propertyValueFor(QStringLiteral("languageSetting"), QStringLiteral(""));
+    loadTemplate(name);
+    loadStyleByStylePath(stylePath);
+    setPropertyValue(QStringLiteral("pageWidth"), pageWidth);
+    setPropertyValue(QStringLiteral("pageHeight"), pageHeight);
+    setPropertyValue(QStringLiteral("languageSetting"), language);
+}
+
+void FlashTemplate::loadStyleByStyleName(const QString& styleName) {
+    loadStyleByStylePath(stylePathFor(iTmplName, styleName));
+}
+
+void FlashTemplate::loadStyleByStylePath(const QString& stylePath) {
+    // First, because the style's values refer to files of this style.
+    iStyleName = Files::lastPathComponent(stylePath);
+    importPropertiesSettingsFrom(Files::join(stylePath, QStringLiteral("tmplSetting.txt")));
+}
+
+QString FlashTemplate::tmplHTMLFilePath() const {
+    // Template files may be written with the separators of another system.
+    QString relative = iHTMLFilePath;
+    relative.replace(u'\\', u'/');
+    const QString library =
+        appendPathComponent(Bundle::resourcePath(), QStringLiteral("AppFiles/")) + u'/';
+    for (const QString& folder : {tmplPathForName(iTmplName), library}) {
+        if (QFileInfo(folder + relative).isFile())
+            return folder + relative;
+    }
+    return {};
+}
+
+QString FlashTemplate::valueAsFilePath(const QString& value) const {
+    const QString prefix = QStringLiteral("STYLE_RESOURCE:");
+    const qsizetype found = value.indexOf(prefix);
+    if (found < 0)
+        return value;
+    return appendPathComponent(stylePathFor(iTmplName, iStyleName),
+                               value.mid(found + prefix.size()));
+}
+
+void FlashTemplate::copyBookSWFToFile(const QString& destination) const {
+    replaceFile(tmplPathForName(iTmplName) + QStringLiteral("book.swf"), destination);
+}
+
+void FlashTemplate::copyBookSoundFile(const QString& destination) const {
+    replaceFile(tmplPathForName(iTmplName) + QStringLiteral("moveSound.mp3"), destination);
+}
+
+void FlashTemplate::copyBookJSFile(const QString& destination) const {
+    replaceFile(tmplPathForName(iTmplName) + QStringLiteral("swfobject.js"), destination);
+}

@@ -1,0 +1,88 @@
+#include "template/FlashTemplateProperty.h"
+
+#include "platform/PlatformException.h"
+#include "template/TemplateFile.h"
+#include "util/XMLText.h"
+
+#include <algorithm>
+#include <array>
+#include <pugixml.hpp>
+#include <string_view>
+
+namespace {
+
+QString describe(const pugi::xml_node& element) {
+    const pugi::xml_node key = element.child("key");
+    if (!key)
+        return QStringLiteral("\"property\" element");
+    return QStringLiteral("\"property\" element of key \"%1\"").arg(XMLText::textOf(key));
+}
+
+QString requiredText(const pugi::xml_node& element, const char* name) {
+    return TemplateFile::requiredText(element, name, [&] { return describe(element); });
+}
+
+} // namespace
+
+void FlashTemplateProperty::loadFromNode(const pugi::xml_node& element) {
+    load(element, 1);
+}
+
+void FlashTemplateProperty::load(const pugi::xml_node& element, int depth) {
+    if (std::string_view(element.name()) != "property")
+        return;
+    if (depth > maximumDepth)
+        throw PlatformException(
+            QStringLiteral("ERROR_TEMPLATE_PROPERTY"),
+            QStringLiteral("properties are nested more than %1 deep").arg(maximumDepth));
+    iParent = nullptr;
+    iKey = requiredText(element, "key");
+    iTitle = requiredText(element, "title");
+    iDesc = requiredText(element, "desc");
+    iValue = requiredText(element, "value");
+    iValueSource = requiredText(element, "valueSource");
+    iDefaultValue = requiredText(element, "defaultValue");
+    const pugi::xml_node caption = element.child("aTitle");
+    iATitle = caption ? XMLText::textOf(caption) : QStringLiteral("");
+    iPropertyType = StringUtil::flashTemplatePropertyTypeFromString(
+        QString::fromUtf8(element.attribute("type").value()));
+    // Templates mark a boolean by the mere presence of this attribute.
+    if (element.attribute("aType"))
+        iPropertyType = pt_bool;
+
+    iChildProperties.clear();
+    for (const pugi::xml_node& node : element.child("childProperties").children("property")) {
+        auto child = std::make_unique<FlashTemplateProperty>();
+        child->load(node, depth + 1);
+        addChildProperty(std::move(child));
+    }
+}
+
+void FlashTemplateProperty::addChildProperty(std::unique_ptr<FlashTemplateProperty> child) {
+    child->setParent(this);
+    iChildProperties.push_back(std::move(child));
+}
+
+int StringUtil::flashTemplatePropertyTypeFromString(const QString& name) {
+    // In the order of their numbers.
+    static constexpr std::array<QLatin1StringView, 11> names{
+        QLatin1StringView("pt_text"),
+        QLatin1StringView("pt_number"),
+        QLatin1StringView("pt_color"),
+        QLatin1StringView("pt_list"),
+        QLatin1StringView("pt_composite"),
+        QLatin1StringView("pt_file"),
+        QLatin1StringView("pt_list_fromFunction"),
+        QLatin1StringView("pt_form_security"),
+        QLatin1StringView("pt_font"),
+        QLatin1StringView("pt_form_contactabout"),
+        QLatin1StringView("pt_bool"),
+    };
+    const auto found = std::find(names.begin(), names.end(), name);
+    return found == names.end() ? pt_text : static_cast<int>(found - names.begin());
+}
+
+bool StringUtil::valueAsBool(const QString& value) {
+    const QString upper = value.toUpper();
+    return upper == u"YES" || upper == u"SHOW" || upper == u"ENABLE" || upper == u"TRUE";
+}

@@ -1,0 +1,66 @@
+#include "platform/Files.h"
+#include "platform/Log.h"
+#include "template/FlashTemplate.h"
+#include "template/TextDecoding.h"
+
+#include <QFile>
+
+namespace {
+
+const Log& logger() {
+    static const Log log("FlashTemplate");
+    return log;
+}
+
+// The order of the two is part of the format.
+const QString recordStart = QStringLiteral("\n\r");
+
+QString textOfFile(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? TextDecoding::decoded(file.readAll()) : QString();
+}
+
+QString recordOf(const FlashTemplateProperty& node) {
+    return node.key().replace(recordStart, QStringLiteral("|||")) + u'=' + node.value();
+}
+
+} // namespace
+
+void FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
+    const QString pageWidth = propertyValueFor(QStringLiteral("pageWidth"), QStringLiteral("960"));
+    const QString pageHeight =
+        propertyValueFor(QStringLiteral("pageHeight"), QStringLiteral("600"));
+    for (QString& line : textOfFile(path).split(u'\n')) {
+        line.remove(u'\r');
+        const qsizetype equals = line.indexOf(u'=');
+        if (equals < 0)
+            continue;
+        const QString key = line.left(equals);
+        const QString value = line.mid(equals + 1);
+        if (key == u"innerMainbgImgUrl")
+            logger().debug(QStringLiteral("key 0[%1=%2]").arg(key, value));
+        setPropertyValue(key, value);
+    }
+    // The page size belongs to the imported document, not to a style.
+    setPropertyValue(QStringLiteral("pageWidth"), pageWidth);
+    setPropertyValue(QStringLiteral("pageHeight"), pageHeight);
+}
+
+void FlashTemplate::exportPropertiesSettingsTo(const QString& path) const {
+    QStringList records;
+    exportPropertiesSettingsToArray(records, nullptr);
+    QString text;
+    for (const QString& record : records)
+        text += recordStart + record;
+    QString error;
+    if (!Files::writeAtomically(path, text.toUtf8(), &error))
+        logger().warn(QStringLiteral("can't write the settings file \"%1\": %2").arg(path, error));
+}
+
+void FlashTemplate::exportPropertiesSettingsToArray(QStringList& records,
+                                                    const FlashTemplateProperty* fromPro) const {
+    if (fromPro)
+        records << recordOf(*fromPro);
+    for (const auto& child : fromPro ? fromPro->childProperties() : iProperties)
+        exportPropertiesSettingsToArray(records, child.get());
+}

@@ -1,0 +1,64 @@
+#include "template/TemplateFile.h"
+
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+#include "template/XMLRepair.h"
+#include "util/XMLText.h"
+
+#include <QFile>
+#include <algorithm>
+
+namespace {
+
+const QString errorName = QStringLiteral("ERROR_TEMPLATE_FILE");
+
+pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& data,
+                             pugi::xml_encoding encoding) {
+    return document.load_buffer(data.constData(), static_cast<std::size_t>(data.size()),
+                                pugi::parse_default | pugi::parse_ws_pcdata, encoding);
+}
+
+QString causeOf(const pugi::xml_parse_result& result, const QByteArray& data) {
+    const auto end = data.begin() + std::clamp<qsizetype>(result.offset, 0, data.size());
+    const auto line = 1 + std::count(data.begin(), end, '\n');
+    return QStringLiteral("line %1: %2").arg(line).arg(QString::fromUtf8(result.description()));
+}
+
+QByteArray contentsOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw PlatformException(errorName, file.errorString());
+    return file.readAll();
+}
+
+} // namespace
+
+std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
+    const QByteArray data = contentsOf(path);
+    auto document = std::make_unique<pugi::xml_document>();
+    const pugi::xml_parse_result first = parse(*document, data, pugi::encoding_auto);
+    if (first)
+        return document;
+    // The place in the file as the user wrote it helps more than one in its repaired form.
+    const QString cause = causeOf(first, data);
+    const QByteArray repaired = XMLRepair::repaired(data);
+    if (repaired.isEmpty() || !parse(*document, repaired, pugi::encoding_utf8))
+        throw PlatformException(errorName, cause);
+    Log("TemplateFile")
+        .warn(QStringLiteral("repaired the template file \"%1\" (%2)").arg(path, cause));
+    return document;
+}
+
+pugi::xml_node TemplateFile::required(const pugi::xml_node& parent, const char* name,
+                                      const std::function<QString()>& describeParent) {
+    const pugi::xml_node child = parent.child(name);
+    if (!child)
+        throw PlatformException(errorName, QStringLiteral("%1 lacks its \"%2\" element")
+                                               .arg(describeParent(), QString::fromUtf8(name)));
+    return child;
+}
+
+QString TemplateFile::requiredText(const pugi::xml_node& parent, const char* name,
+                                   const std::function<QString()>& describeParent) {
+    return XMLText::textOf(required(parent, name, describeParent));
+}

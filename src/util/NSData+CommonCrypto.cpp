@@ -1,0 +1,150 @@
+#include "util/NSData+CommonCrypto.h"
+
+#include "platform/PlatformException.h"
+
+using Error = CommonCryptoErrorDomain::Error;
+using Operation = Cryptor::Operation;
+
+namespace {
+
+QByteArray run(Operation operation, const QByteArray& data, CCAlgorithm algorithm,
+               const CipherBytes& key, const CipherBytes& vector, int options, int* error) {
+    if (key.isNull())
+        throw PlatformException(QStringLiteral("InvalidParameter"),
+                                QStringLiteral("Invalid parameter not satisfying: key"));
+    QByteArray keyBytes = key.bytes();
+    QByteArray vectorBytes = vector.bytes();
+    LowLevelCommonCryptor::FixKeyLengths(algorithm, keyBytes, vectorBytes);
+    const auto cryptor =
+        Cryptor::create(operation, algorithm, options, keyBytes, vectorBytes, error);
+    return cryptor ? LowLevelCommonCryptor::_runCryptor(data, *cryptor, error) : QByteArray();
+}
+
+QByteArray runPadded(Operation operation, const QByteArray& data, CCAlgorithm algorithm,
+                     const CipherBytes& key, Error* error) {
+    int status = CCSuccess;
+    const QByteArray result =
+        run(operation, data, algorithm, key, nullptr, CCOptionPKCS7Padding, &status);
+    if (result.isNull() && error)
+        *error = CommonCryptoErrorDomain::errorWithCCCryptorStatus(status);
+    return result;
+}
+
+} // namespace
+
+QByteArray CommonCryptor::RC4EncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                                   Error* error) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmRC4, key, error);
+}
+
+QByteArray CommonCryptor::decryptedRC4DataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                                   Error* error) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmRC4, key, error);
+}
+
+QByteArray CommonCryptor::AES256EncryptedDataUsingKey(const QByteArray& data,
+                                                      const CipherBytes& key, Error* error) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmAES, key, error);
+}
+
+QByteArray CommonCryptor::decryptedAES256DataUsingKey(const QByteArray& data,
+                                                      const CipherBytes& key, Error* error) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmAES, key, error);
+}
+
+QByteArray CommonCryptor::DESEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                                   Error* error) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmDES, key, error);
+}
+
+QByteArray CommonCryptor::decryptedDESDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                                   Error* error) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmDES, key, error);
+}
+
+QByteArray CommonCryptor::CASTEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                                    Error* error) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmCAST, key, error);
+}
+
+QByteArray CommonCryptor::decryptedCASTDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                                    Error* error) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmCAST, key, error);
+}
+
+void LowLevelCommonCryptor::FixKeyLengths(CCAlgorithm algorithm, QByteArray& key,
+                                          QByteArray& vector) {
+    qsizetype length = key.size();
+    switch (algorithm) {
+    case CCAlgorithmAES:
+        // A key of exactly 16 bytes counts as one that is short of 24.
+        length = length <= 15 ? 16 : length <= 23 ? 24 : 32;
+        break;
+    case CCAlgorithmDES:
+        length = 8;
+        break;
+    case CCAlgorithm3DES:
+        length = 24;
+        break;
+    case CCAlgorithmCAST:
+        length = qBound(qsizetype(5), length, qsizetype(16));
+        break;
+    case CCAlgorithmRC4:
+        length = qMin(length, qsizetype(512));
+        break;
+    }
+    key.resize(length, '\0');
+    if (!vector.isNull())
+        vector.resize(length, '\0');
+}
+
+QByteArray LowLevelCommonCryptor::dataEncryptedUsingAlgorithm(const QByteArray& data,
+                                                              CCAlgorithm algorithm,
+                                                              const CipherBytes& key, int* error) {
+    return run(Operation::encrypt, data, algorithm, key, nullptr, 0, error);
+}
+
+QByteArray LowLevelCommonCryptor::dataEncryptedUsingAlgorithm(const QByteArray& data,
+                                                              CCAlgorithm algorithm,
+                                                              const CipherBytes& key, int options,
+                                                              int* error) {
+    return run(Operation::encrypt, data, algorithm, key, nullptr, options, error);
+}
+
+QByteArray LowLevelCommonCryptor::dataEncryptedUsingAlgorithm(
+    const QByteArray& data, CCAlgorithm algorithm, const CipherBytes& key,
+    const CipherBytes& initializationVector, int options, int* error) {
+    return run(Operation::encrypt, data, algorithm, key, initializationVector, options, error);
+}
+
+QByteArray LowLevelCommonCryptor::decryptedDataUsingAlgorithm(const QByteArray& data,
+                                                              CCAlgorithm algorithm,
+                                                              const CipherBytes& key, int* error) {
+    return run(Operation::decrypt, data, algorithm, key, nullptr, 0, error);
+}
+
+QByteArray LowLevelCommonCryptor::decryptedDataUsingAlgorithm(const QByteArray& data,
+                                                              CCAlgorithm algorithm,
+                                                              const CipherBytes& key, int options,
+                                                              int* error) {
+    return run(Operation::decrypt, data, algorithm, key, nullptr, options, error);
+}
+
+QByteArray LowLevelCommonCryptor::decryptedDataUsingAlgorithm(
+    const QByteArray& data, CCAlgorithm algorithm, const CipherBytes& key,
+    const CipherBytes& initializationVector, int options, int* error) {
+    return run(Operation::decrypt, data, algorithm, key, initializationVector, options, error);
+}
+
+QByteArray LowLevelCommonCryptor::_runCryptor(const QByteArray& data, Cryptor& cryptor,
+                                              int* result) {
+    QByteArray output("");
+    CCCryptorStatus status = cryptor.update(data, output);
+    if (status == CCSuccess)
+        status = cryptor.final(output);
+    if (status == CCSuccess)
+        return output;
+    if (result)
+        *result = status;
+    return {};
+}

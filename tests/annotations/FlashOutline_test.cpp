@@ -1,0 +1,145 @@
+#include "annotations/FlashOutline.h"
+
+#include "platform/PlatformException.h"
+
+#include <climits>
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace {
+
+std::shared_ptr<FlashOutlineItem> entry(const QString& caption, int page, int level) {
+    auto item = std::make_shared<FlashOutlineItem>();
+    item->setCaption(caption);
+    item->setPageIndex(page);
+    item->setLevel(level);
+    return item;
+}
+
+std::string written(const FlashOutline& outline) {
+    std::ostringstream text;
+    outline.outlineAsXMLNode()->save(text, "", pugi::format_raw | pugi::format_no_declaration);
+    return text.str();
+}
+
+void load(FlashOutline& outline, const std::string& xml) {
+    pugi::xml_document document;
+    ASSERT_TRUE(document.load_string(xml.c_str(), pugi::parse_default | pugi::parse_ws_pcdata));
+    outline.loadFromXMLNode(document.document_element());
+}
+
+QString nameOfFailure(const std::string& xml) {
+    FlashOutline outline;
+    try {
+        load(outline, xml);
+    } catch (const PlatformException& failure) {
+        return failure.name();
+    }
+    return {};
+}
+
+} // namespace
+
+TEST(FlashOutline, WritesFourElementsAnEntry) {
+    FlashOutline outline;
+    EXPECT_EQ(written(outline), "<ols/>");
+    outline.setItems({entry(QStringLiteral("Intro"), 1, 1), entry(QString(), -2, 0)});
+    EXPECT_EQ(written(outline), "<ols><o><c>Intro</c><p>1</p><l>1</l><ci/></o>"
+                                "<o><c>(null)</c><p>-2</p><l>0</l><ci/></o></ols>");
+}
+
+TEST(FlashOutline, ReadsBackWhatItWrites) {
+    const QString odd = QStringLiteral(" <a & b> Größe\n\t\u0001 ");
+    FlashOutline outline;
+    const auto top = entry(odd, 3, 1);
+    const auto middle = entry(QStringLiteral(""), 4, 2);
+    middle->addChild(entry(QStringLiteral("leaf"), 5, 3));
+    top->addChild(middle);
+    top->addChild(entry(QStringLiteral("second"), 6, 2));
+    outline.setItems({top, entry(QStringLiteral("last"), 7, 1)});
+
+    FlashOutline copy;
+    copy.setItems({entry(QStringLiteral("replaced"), 1, 1)});
+    load(copy, written(outline));
+    EXPECT_EQ(written(copy), written(outline));
+    ASSERT_EQ(copy.items().size(), 2U);
+    const auto& first = *copy.items()[0];
+    EXPECT_EQ(first.caption(), odd);
+    EXPECT_EQ(first.parent(), nullptr);
+    ASSERT_EQ(first.childItems().size(), 2U);
+    EXPECT_EQ(first.childItems()[0]->parent(), &first);
+    EXPECT_EQ(first.childItems()[0]->childItems()[0]->parent(), first.childItems()[0].get());
+}
+
+TEST(FlashOutline, RefusesElementsOfAnotherName) {
+    EXPECT_EQ(nameOfFailure("<o/>"), u"ERROR_INIT_OUTLINES");
+    EXPECT_EQ(nameOfFailure("<ols><x/></ols>"), QString());
+    FlashOutline outline;
+    EXPECT_THROW(outline.loadFromXMLNode(pugi::xml_node()), PlatformException);
+    pugi::xml_document document;
+    FlashOutlineItem item;
+    try {
+        item.loadItemFromXMLNode(document.append_child("ols"));
+        ADD_FAILURE() << "loaded an entry from another element";
+    } catch (const PlatformException& failure) {
+        EXPECT_EQ(failure.name(), u"ERROR_INIT_OUTLINE_ITEM");
+        EXPECT_EQ(failure.reason(), u"Not a flash outline item");
+    }
+}
+
+TEST(FlashOutline, KeepsFieldsThatAnElementLacks) {
+    pugi::xml_document document;
+    const auto item = entry(QStringLiteral("kept"), 5, 2);
+    item->addChild(entry(QStringLiteral("dropped"), 1, 3));
+    item->loadItemFromXMLNode(document.append_child("o"));
+    EXPECT_EQ(item->caption(), u"kept");
+    EXPECT_EQ(item->pageIndex(), 5);
+    EXPECT_EQ(item->level(), 2);
+    EXPECT_TRUE(item->childItems().empty());
+}
+
+TEST(FlashOutline, ReadsTheNumberThatATextBeginsWith) {
+    const struct {
+        const char* text;
+        int number;
+    } cases[] = {{"12", 12},
+                 {" \n-3x", -3},
+                 {"+4", 4},
+                 {"+-4", 0},
+                 {"x1", 0},
+                 {"", 0},
+                 {"2.9", 2},
+                 {"<![CDATA[6]]>7", 67},
+                 {"9999999999", INT_MAX},
+                 {"-9999999999", INT_MIN}};
+    for (const auto& [text, number] : cases) {
+        FlashOutline outline;
+        load(outline, std::string("<ols><o><p>") + text + "</p></o></ols>");
+        EXPECT_EQ(outline.items()[0]->pageIndex(), number) << text;
+    }
+}
+
+TEST(FlashOutline, RefusesEntriesNestedTooDeep) {
+    const auto nested = [](int depth) {
+        std::string open;
+        std::string close;
+        for (int level = 0; level < depth; ++level) {
+            open += "<o><ci>";
+            close += "</ci></o>";
+        }
+        return "<ols>" + open + close + "</ols>";
+    };
+    EXPECT_EQ(nameOfFailure(nested(FlashOutlineItem::maximumDepth)), QString());
+    EXPECT_EQ(nameOfFailure(nested(100'000)), u"ERROR_INIT_OUTLINE_ITEM");
+}
+
+TEST(FlashOutlineItem, RemovesAChild) {
+    FlashOutlineItem item;
+    const auto first = entry(QStringLiteral("a"), 1, 1);
+    const auto second = entry(QStringLiteral("a"), 1, 1);
+    item.addChild(first);
+    item.addChild(second);
+    item.removeChild(first);
+    ASSERT_EQ(item.childItems().size(), 1U);
+    EXPECT_EQ(item.childItems()[0], second);
+}

@@ -1,0 +1,108 @@
+#include "output/ImageSize.h"
+
+#include "support/TemplateLibrary.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+QByteArray encoded(const char* format, int dotsPerMeter) {
+    QImage image(300, 150, QImage::Format_RGB32);
+    image.fill(Qt::gray);
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(image.save(&buffer, format));
+    return buffer.data();
+}
+
+// Drops the chunk or segment that states the resolution.
+QByteArray pngWithoutResolution() {
+    QByteArray data = encoded("PNG", 11811);
+    const qsizetype type = data.indexOf("pHYs");
+    EXPECT_GT(type, 0);
+    return data.remove(type - 4, 21);
+}
+
+QByteArray jpegWithoutJfif() {
+    QByteArray data = encoded("JPG", 11811);
+    EXPECT_EQ(data.mid(2, 2), "\xff\xe0");
+    return data.remove(2, 18);
+}
+
+// An Exif segment: a TIFF head, one directory with XResolution, YResolution and ResolutionUnit.
+QByteArray exif(int dots, char unit) {
+    QByteArray tiff = QByteArray::fromHex("4d4d002a00000008"
+                                          "0003"
+                                          "011a00050000000100000032"
+                                          "011b00050000000100000032"
+                                          "0128000300000001") +
+                      QByteArray(1, '\0') + QByteArray(1, unit) + QByteArray(2, '\0') +
+                      QByteArray(4, '\0');
+    tiff += QByteArray(2, '\0') + static_cast<char>(dots >> 8) + static_cast<char>(dots) +
+            QByteArray::fromHex("00000001");
+    const QByteArray body = QByteArray("Exif\0\0", 6) + tiff;
+    const qsizetype length = body.size() + 2;
+    return QByteArray("\xff\xe1") + static_cast<char>(length >> 8) + static_cast<char>(length) +
+           body;
+}
+
+QSize measured(const QByteArray& data, const char* name = "image.png") {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QString::fromLatin1(name));
+    TestFiles::write(path, data);
+    return ImageSize::inPoints(path);
+}
+
+TEST(ImageSize, IsInPixelsAt72DotsPerInch) {
+    EXPECT_EQ(measured(encoded("PNG", 2835)), QSize(300, 150));
+    EXPECT_EQ(measured(encoded("JPG", 2835)), QSize(300, 150));
+    EXPECT_EQ(measured(encoded("BMP", 2835)), QSize(300, 150));
+}
+
+TEST(ImageSize, IsInPointsAtOtherResolutions) {
+    EXPECT_EQ(measured(encoded("PNG", 3780)), QSize(225, 112));
+    EXPECT_EQ(measured(encoded("PNG", 11811)), QSize(72, 36));
+    EXPECT_EQ(measured(encoded("JPG", 11811)), QSize(72, 36));
+    EXPECT_EQ(measured(encoded("BMP", 11811)), QSize(72, 36));
+}
+
+TEST(ImageSize, TakesAnUnstatedResolutionFor72) {
+    EXPECT_EQ(measured(pngWithoutResolution()), QSize(300, 150));
+    EXPECT_EQ(measured(jpegWithoutJfif()), QSize(300, 150));
+    EXPECT_EQ(measured(QByteArray(encoded("JPG", 11811)).replace(13, 1, QByteArray(1, '\0'))),
+              QSize(300, 150));
+}
+
+TEST(ImageSize, ReadsTheResolutionThatCamerasWrite) {
+    EXPECT_EQ(measured(jpegWithoutJfif().insert(2, exif(300, 2))), QSize(72, 36));
+    EXPECT_EQ(measured(jpegWithoutJfif().insert(2, exif(100, 3))), QSize(85, 42));
+    EXPECT_EQ(measured(jpegWithoutJfif().insert(2, exif(300, 1))), QSize(300, 150));
+    EXPECT_EQ(measured(jpegWithoutJfif().insert(2, exif(0, 2))), QSize(300, 150));
+}
+
+TEST(ImageSize, GoesByTheContentNotTheName) {
+    EXPECT_EQ(measured(encoded("JPG", 2835), "image.png"), QSize(300, 150));
+}
+
+TEST(ImageSize, IsZeroForWhatIsNoImage) {
+    EXPECT_EQ(ImageSize::inPoints(QStringLiteral("/no/such/file.png")), QSize(0, 0));
+    EXPECT_EQ(measured(""), QSize(0, 0));
+    EXPECT_EQ(measured("\x89PNG and then something else"), QSize(0, 0));
+    EXPECT_EQ(measured("\xff\xd8\xff\xe1\xff"), QSize(0, 0));
+}
+
+TEST(ImageSize, SurvivesHeadsCutAnywhere) {
+    const QByteArray jpeg = jpegWithoutJfif().insert(2, exif(300, 2));
+    const QByteArray png = encoded("PNG", 11811);
+    for (int length = 0; length < 120; ++length) {
+        measured(jpeg.left(length));
+        measured(png.left(length));
+    }
+}
+
+} // namespace

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+
+// The standard security handler of PDF 1.1 (40-bit RC4), as far as a test needs it to make
+// encrypted files. It stands on its own so that a fault in the program's ciphers cannot hide.
+class PDFEncryption {
+public:
+    PDFEncryption(const QByteArray& userPassword, const QByteArray& ownerPassword);
+
+    // The Encrypt dictionary; it stays unencrypted itself.
+    QByteArray dictionary() const;
+    // The trailer's ID array, which the key depends on.
+    QByteArray fileIdentifier() const;
+
+    QByteArray encrypted(int objectNumber, const QByteArray& data) const;
+    // An object's text with the hexadecimal strings in it encrypted. Literal strings in parentheses
+    // are not looked for.
+    QByteArray withStringsEncrypted(int objectNumber, const QByteArray& body) const;
+
+private:
+    QByteArray iOwnerEntry;
+    QByteArray iUserEntry;
+    QByteArray iKey;
+};
