@@ -1,0 +1,162 @@
+import { drawFace, drawShowThrough, fitted, missingText } from './face.js';
+import { PageImages } from './images.js';
+import { fittingMargins, layOut } from './layout.js';
+import { Views } from './views.js';
+
+/** @typedef {import('./config.js').BookConfig} BookConfig */
+/** @typedef {import('./layout.js').Layout} Layout */
+/** @typedef {'left' | 'right'} Side */
+
+/** @type {Side[]} */
+const SIDES = ['left', 'right'];
+
+/** Widest edge of the stack of pages that lies under each side, in CSS pixels. */
+const WIDEST_STACK = 9;
+
+/** The standing pages: what lies on the table while no leaf is in the air. */
+export class Book {
+  /**
+   * @param {BookConfig} config
+   * @param {HTMLElement} root
+   */
+  constructor(config, root) {
+    this.config = config;
+    this.root = root;
+    this.element = /** @type {HTMLElement} */ (root.querySelector('.book'));
+    this.images = new PageImages(config.pages, (page) => this.#imageChanged(page));
+    this.aspect = config.pages[0].width / config.pages[0].height;
+    this.views = new Views(config.pages.length, false, config.rightToLeft);
+    /** @type {Layout} */
+    this.layout = { spread: false, pageWidth: 1, pageHeight: 1, bookLeft: 0, bookTop: 0, spineX: 0 };
+    this.shown = { left: 0, right: 0 };
+    /** @type {(page: number) => void} */
+    this.onImage = () => {};
+  }
+
+  /** The page aspect comes from the first real image; the configuration only guesses. */
+  async measure() {
+    const { image, settled } = this.images.get(1);
+    await settled;
+    if (image.naturalWidth > 0) this.aspect = image.naturalWidth / image.naturalHeight;
+  }
+
+  /** Fits the book to the window. */
+  resize() {
+    const width = this.root.clientWidth;
+    const height = this.root.clientHeight;
+    const { rightToLeft, hideBar, pages } = this.config;
+    const margins = fittingMargins(this.config.margins, width, height);
+    this.layout = layOut({
+      width, height, margins, aspect: this.aspect, pageCount: pages.length, rightToLeft,
+      hasBar: !hideBar,
+    });
+    this.views = new Views(pages.length, this.layout.spread, rightToLeft);
+    const style = this.root.style;
+    for (const [side, margin] of Object.entries(margins)) {
+      style.setProperty('--margin-' + side, margin + 'px');
+    }
+    style.setProperty('--page-width', this.layout.pageWidth + 'px');
+    style.setProperty('--page-height', this.layout.pageHeight + 'px');
+    style.setProperty('--spine-x', this.layout.spineX + 'px');
+    style.setProperty('--book-top', this.layout.bookTop + 'px');
+    this.root.dataset.layout = this.layout.spread ? 'spread' : 'single';
+    // A single page of a right-to-left book is bound at its right edge, so it takes the left side.
+    this.root.dataset.side = !this.layout.spread && rightToLeft ? 'left' : 'right';
+  }
+
+  /**
+   * How far the book is moved aside so that a page standing alone is in the middle.
+   * @param {number} view
+   */
+  shiftFor(view) {
+    if (!this.layout.spread) return 0;
+    const { left, right } = this.views.at(view);
+    const half = this.layout.pageWidth / 2;
+    return left ? (right ? 0 : half) : -half;
+  }
+
+  /** @param {number} shift CSS pixels */
+  moveTo(shift) {
+    this.element.style.transform = 'translateX(' + shift + 'px)';
+  }
+
+  /**
+   * @param {{left: number, right: number}} pages
+   * @param {number} turned share of the book that lies on the side where it begins
+   */
+  show(pages, turned) {
+    this.shown = pages;
+    for (const side of SIDES) this.#fill(side);
+    const thickness = Math.min(WIDEST_STACK, 1 + this.config.pages.length / 12);
+    const begun = this.config.rightToLeft ? 1 - turned : turned;
+    const stacks = this.layout.spread ? { left: begun, right: 1 - begun } : { left: 0, right: 0 };
+    for (const side of SIDES) {
+      this.root.style.setProperty('--stack-' + side,
+        (pages[side] ? Math.round(stacks[side] * thickness) : 0) + 'px');
+    }
+  }
+
+  /**
+   * Loads a view and the views around it and drops the rest.
+   * @param {number[]} views the most urgent first
+   */
+  keep(views) {
+    const around = views.slice(0, 1).flatMap((view) => [view + 1, view - 1, view + 2, view - 2]);
+    this.images.want([...views, ...around]
+      .filter((view) => view >= 0 && view < this.views.count)
+      .flatMap((view) => this.views.pagesOf(view)));
+  }
+
+  /**
+   * Both sides of a leaf as the turning leaf shows them.
+   * @param {number} front
+   * @param {number} back 0 for a single page
+   * @param {Side} side on which the leaf lies before it is turned
+   * @param {number} density
+   */
+  faces(front, back, side, density) {
+    const { pageWidth: width, pageHeight: height, spread } = this.layout;
+    const paper = this.config.pageColour;
+    const other = side === 'left' ? 'right' : 'left';
+    /** @param {number} page @param {Side} gutter */
+    const face = (page, gutter) => drawFace({
+      page, width, height, density, paper,
+      entry: page ? this.images.get(page) : null, gutter: spread ? gutter : 'none',
+    });
+    const frontFace = face(front, other);
+    return { front: frontFace, back: spread ? face(back, side) : drawShowThrough(frontFace, paper) };
+  }
+
+  /** @param {number} page */
+  #imageChanged(page) {
+    for (const side of SIDES) {
+      if (this.shown[side] === page) this.#fill(side);
+    }
+    this.onImage(page);
+  }
+
+  /** @param {Side} side */
+  #fill(side) {
+    const slot = /** @type {HTMLElement} */ (this.element.querySelector('.page.' + side));
+    const page = this.shown[side];
+    slot.hidden = page === 0;
+    slot.dataset.page = String(page);
+    if (page === 0) {
+      slot.replaceChildren();
+      return;
+    }
+    const { image, state } = this.images.get(page);
+    slot.dataset.image = state;
+    if (state !== 'ready') {
+      slot.replaceChildren();
+      if (state === 'missing') slot.textContent = missingText(page);
+      return;
+    }
+    const { pageWidth, pageHeight } = this.layout;
+    const place = fitted(image.naturalWidth, image.naturalHeight, pageWidth, pageHeight);
+    image.style.inset = place.y + 'px auto auto ' + place.x + 'px';
+    image.style.width = place.width + 'px';
+    image.style.height = place.height + 'px';
+    if (image.parentNode !== slot) slot.replaceChildren(image);
+  }
+}

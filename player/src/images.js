@@ -1,0 +1,80 @@
+import { fileAddress } from './values.js';
+
+/** @typedef {import('./config.js').PageEntry} PageEntry */
+/**
+ * @typedef {object} PageImage
+ * @property {HTMLImageElement} image
+ * @property {'loading' | 'ready' | 'missing'} state
+ * @property {Promise<void>} settled kept when the image has arrived or failed
+ */
+
+/** Page images kept at a time, whatever the length of the book. */
+const MOST_IMAGES = 12;
+
+/** Loads page images and keeps the ones that are wanted. */
+export class PageImages {
+  /**
+   * @param {PageEntry[]} pages
+   * @param {(page: number) => void} changed called when an image has arrived or failed
+   */
+  constructor(pages, changed) {
+    this.pages = pages;
+    this.changed = changed;
+    /** @type {Map<number, PageImage>} */
+    this.kept = new Map();
+  }
+
+  /**
+   * Starts loading pages and drops all others.
+   * @param {number[]} wanted page numbers, the most urgent first
+   */
+  want(wanted) {
+    const pages = [...new Set(wanted)].slice(0, MOST_IMAGES);
+    for (const [page, entry] of this.kept) {
+      if (!pages.includes(page)) this.#drop(page, entry);
+    }
+    for (const page of pages) this.get(page);
+  }
+
+  /**
+   * @param {number} page
+   * @returns {PageImage}
+   */
+  get(page) {
+    let entry = this.kept.get(page);
+    if (!entry) {
+      entry = { image: new Image(), state: 'loading', settled: Promise.resolve() };
+      this.kept.set(page, entry);
+      entry.settled = this.#load(page, entry);
+    }
+    return entry;
+  }
+
+  /**
+   * @param {number} page
+   * @param {PageImage} entry
+   */
+  async #load(page, entry) {
+    entry.image.alt = 'Page ' + page;
+    entry.image.draggable = false;
+    entry.image.decoding = 'async';
+    entry.image.src = fileAddress(this.pages[page - 1].path);
+    try {
+      await entry.image.decode();
+      entry.state = 'ready';
+    } catch {
+      entry.state = 'missing';
+    }
+    if (this.kept.get(page) === entry) this.changed(page);
+  }
+
+  /**
+   * @param {number} page
+   * @param {PageImage} entry
+   */
+  #drop(page, entry) {
+    this.kept.delete(page);
+    entry.image.remove();
+    if (entry.state === 'loading') entry.image.removeAttribute('src');
+  }
+}

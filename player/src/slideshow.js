@@ -1,0 +1,44 @@
+/** @typedef {import('./turner.js').Turner} Turner */
+
+/** Turns pages by itself, a while after the last one has landed. */
+export class Slideshow {
+  /**
+   * @param {Turner} turner
+   * @param {number} interval seconds
+   * @param {boolean} loop
+   */
+  constructor(turner, interval, loop) {
+    this.turner = turner;
+    this.interval = interval;
+    this.loop = loop;
+    this.running = false;
+    this.timer = 0;
+    this.onChange = () => {};
+  }
+
+  /** @param {boolean} running */
+  run(running) {
+    this.running = running;
+    this.wait();
+    this.onChange();
+  }
+
+  /** Starts the time until the next turn anew. */
+  wait() {
+    clearTimeout(this.timer);
+    if (this.running) this.timer = window.setTimeout(() => this.#next(), this.interval * 1000);
+  }
+
+  #next() {
+    const { turner } = this;
+    if (document.hidden || turner.turning) {
+      this.wait();
+    } else if (turner.current < turner.book.views.count - 1) {
+      turner.step(1);
+    } else if (this.loop) {
+      turner.go(0);
+    } else {
+      this.run(false);
+    }
+  }
+}

@@ -1,0 +1,385 @@
+import { reachable, turnedShare } from './fold.js';
+import { LeafPainter } from './leaf.js';
+
+/** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('./book.js').Side} Side */
+/** @typedef {import('./fold.js').Point} Point */
+
+/**
+ * A way of the grabbed point that runs by itself.
+ * @typedef {object} Motion
+ * @property {number} start time stamp of the first frame, 0 before it
+ * @property {number} time milliseconds
+ * @property {Point} from
+ * @property {Point} to
+ * @property {number} lift how far the way bends towards the middle of the leaf
+ * @property {number} slideFrom
+ * @property {number} slideTo
+ * @property {'over' | 'back' | 'peek'} end
+ */
+
+/**
+ * The leaf in the air.
+ * @typedef {object} Leaf
+ * @property {number} from view that is left
+ * @property {number} to
+ * @property {Side} side on which the leaf lies while it is flat
+ * @property {boolean} reversed comes back from being turned over (single pages, backwards)
+ * @property {number} front page
+ * @property {number} back page, 0 for none
+ * @property {import('./leaf.js').LeafLook} look
+ * @property {Point} edge
+ * @property {Point} held
+ * @property {number} slide 0 to 1: how far the book has moved to where the new view stands
+ * @property {Motion | null} motion none while a pointer holds the leaf
+ */
+
+const QUICK_MS = 220;
+const HURRIED_MS = 110;
+const FADE_MS = 260;
+
+/** Turns leaves: by itself, under a pointer, or fading for readers who want little motion. */
+export class Turner {
+  /**
+   * @param {Book} book
+   * @param {HTMLCanvasElement} canvas
+   */
+  constructor(book, canvas) {
+    this.book = book;
+    this.canvas = canvas;
+    this.context = /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
+    this.current = 0;
+    /** @type {Leaf | null} */
+    this.leaf = null;
+    /** @type {number | null} view asked for while a leaf was on its way */
+    this.pending = null;
+    this.density = 1;
+    this.frame = 0;
+    this.calm = matchMedia('(prefers-reduced-motion: reduce)');
+    /** @type {Animation | null} */
+    this.fading = null;
+    this.onTurn = () => {};
+    this.onLanded = () => {};
+    book.onImage = (page) => this.#imageArrived(page);
+  }
+
+  /** View that the reader will see once everything in the air has landed. */
+  get destination() {
+    if (this.pending !== null) return this.pending;
+    return this.leaf?.motion?.end === 'over' ? this.leaf.to : this.current;
+  }
+
+  get turning() {
+    return this.leaf !== null && this.leaf.motion?.end !== 'peek';
+  }
+
+  /**
+   * Shows a view at once.
+   * @param {number} view
+   */
+  stand(view) {
+    this.#dropLeaf();
+    this.pending = null;
+    this.current = this.book.views.clamp(view);
+    this.book.keep([this.current]);
+    this.#showStanding();
+    this.onLanded();
+  }
+
+  /**
+   * Turns to a view; asked while a leaf is on its way, that leaf hurries and the turn follows.
+   * @param {number} wanted
+   */
+  go(wanted) {
+    const view = this.book.views.clamp(wanted);
+    if (this.leaf && !this.leaf.motion) return;
+    if (this.leaf?.motion?.end === 'over') {
+      this.pending = view;
+      this.#hurry();
+      return;
+    }
+    if (view === this.current) return;
+    if (this.leaf && this.leaf.to !== view) this.#dropLeaf();
+    if (this.calm.matches) this.#fadeTo(view);
+    else this.#turnOver(view, this.book.config.moveTime * 1000);
+  }
+
+  /** @param {number} steps views forward, negative: backward */
+  step(steps) {
+    this.go(this.destination + steps);
+  }
+
+  /**
+   * A pointer takes the leaf that leads to a view.
+   * @param {number} view
+   * @param {number} edgeShare where it takes the edge, 0 (top) to 1
+   * @returns {boolean} whether there is such a leaf
+   */
+  grab(view, edgeShare) {
+    if (view !== this.book.views.clamp(view) || this.calm.matches) return false;
+    if (this.leaf?.motion?.end === 'over') return false;
+    if (this.leaf && this.leaf.to !== view) this.#dropLeaf();
+    if (!this.leaf) this.#lift(view, edgeShare);
+    if (this.leaf) /** @type {Leaf} */ (this.leaf).motion = null;
+    return true;
+  }
+
+  /**
+   * @param {Point} held where the pointer drags the edge to, in the leaf's coordinates
+   * @param {number} slide
+   */
+  drag(held, slide) {
+    if (!this.leaf || this.leaf.motion) return;
+    this.leaf.held = reachable(held, this.leaf.edge, this.book.layout.pageHeight);
+    this.leaf.slide = slide;
+    this.#requestFrame();
+  }
+
+  /** @param {boolean} over whether the held leaf goes on to the new view or falls back */
+  release(over) {
+    if (!this.leaf || this.leaf.motion) return;
+    const config = this.book.config;
+    if (over) this.#finish('over', config.moveTime * 700);
+    else this.#finish('back', config.riseTime * 800);
+  }
+
+  /**
+   * Lifts a corner a little to show that the page can be turned.
+   * @param {number} view
+   * @param {number} edgeShare 0 or 1
+   */
+  peek(view, edgeShare) {
+    if (this.leaf || this.calm.matches || view !== this.book.views.clamp(view)) return;
+    const leaf = this.#lift(view, edgeShare);
+    const { pageWidth } = this.book.layout;
+    const inward = edgeShare < 0.5 ? 1 : -1;
+    this.#move(leaf, {
+      end: 'peek', time: this.book.config.riseTime * 700, lift: 0, slideTo: 0,
+      to: { x: leaf.edge.x - pageWidth * 0.1, y: leaf.edge.y + inward * pageWidth * 0.045 },
+    });
+  }
+
+  /** Lets a lifted corner fall. */
+  endPeek() {
+    if (this.leaf?.motion?.end === 'peek') this.#finish('back', this.book.config.riseTime * 700);
+  }
+
+  /** Follows the window's size; a leaf in the air lands first. */
+  resized() {
+    this.density = Math.min(2, window.devicePixelRatio || 1);
+    this.canvas.width = Math.round(this.canvas.clientWidth * this.density);
+    this.canvas.height = Math.round(this.canvas.clientHeight * this.density);
+  }
+
+  #showStanding() {
+    const { views } = this.book;
+    this.book.show(views.at(this.current), this.current / Math.max(1, views.count - 1));
+    this.book.moveTo(this.book.shiftFor(this.current));
+  }
+
+  /**
+   * @param {number} view
+   * @param {number} time
+   */
+  #turnOver(view, time) {
+    if (!this.leaf) this.#lift(view, 1);
+    this.#finish('over', time);
+  }
+
+  /**
+   * Takes a leaf off the table, still lying flat.
+   * @param {number} to
+   * @param {number} edgeShare
+   * @returns {Leaf}
+   */
+  #lift(to, edgeShare) {
+    const { book, current: from } = this;
+    const { spread, pageWidth, pageHeight } = book.layout;
+    const { rightToLeft } = book.config;
+    const forward = to > from;
+    const reversed = !spread && !forward;
+    /** @type {Side} */
+    const side = (spread ? forward !== rightToLeft : !rightToLeft) ? 'right' : 'left';
+    const other = side === 'left' ? 'right' : 'left';
+    const here = book.views.at(from);
+    const there = book.views.at(to);
+    book.keep([to, from]);
+    const front = reversed ? there[side] : here[side];
+    const back = spread ? there[other] : 0;
+    const beneath = reversed ? here : { ...there, [other]: here[other] };
+    const edge = { x: pageWidth, y: edgeShare * pageHeight };
+    const look = {
+      ...book.faces(front, back, side, this.density),
+      width: pageWidth, height: pageHeight, mirrored: side === 'left', overPage: beneath[side] > 0,
+    };
+    const held = reversed ? { x: -edge.x, y: edge.y } : { ...edge };
+    this.leaf = {
+      from, to, side, reversed, front, back, look, edge, held, slide: 0, motion: null,
+    };
+    this.#draw();
+    book.show(beneath, Math.min(from, to) / Math.max(1, book.views.count - 1));
+    return this.leaf;
+  }
+
+  /**
+   * @param {'over' | 'back'} end
+   * @param {number} fullTime of a leaf that has the whole way before it
+   */
+  #finish(end, fullTime) {
+    const leaf = this.leaf;
+    if (!leaf) return;
+    const { pageWidth } = this.book.layout;
+    const turned = (end === 'over') !== leaf.reversed;
+    const to = { x: turned ? -pageWidth : pageWidth, y: leaf.edge.y };
+    const way = Math.min(1, Math.abs(leaf.held.x - to.x) / (2 * pageWidth));
+    const inward = leaf.edge.y < this.book.layout.pageHeight / 2 ? 1 : -1;
+    this.#move(leaf, {
+      end, to, time: Math.max(Math.min(fullTime, QUICK_MS), fullTime * way ** 0.6),
+      lift: inward * pageWidth * 0.2 * way, slideTo: end === 'over' ? 1 : 0,
+    });
+    if (end === 'over') this.onTurn();
+  }
+
+  /**
+   * @param {Leaf} leaf
+   * @param {Pick<Motion, 'end' | 'time' | 'to' | 'lift' | 'slideTo'>} motion
+   */
+  #move(leaf, motion) {
+    leaf.motion = { ...motion, start: 0, from: { ...leaf.held }, slideFrom: leaf.slide };
+    this.#requestFrame();
+  }
+
+  #hurry() {
+    const motion = this.leaf?.motion;
+    if (!motion || !motion.start) return;
+    const now = performance.now();
+    const passed = Math.min(1, (now - motion.start) / motion.time);
+    const time = Math.min(motion.time, HURRIED_MS / Math.max(0.05, 1 - passed));
+    motion.start = now - passed * time;
+    motion.time = time;
+  }
+
+  #requestFrame() {
+    if (!this.frame) this.frame = requestAnimationFrame((now) => this.#tick(now));
+  }
+
+  /** @param {number} now */
+  #tick(now) {
+    this.frame = 0;
+    const leaf = this.leaf;
+    if (!leaf) return;
+    const { motion } = leaf;
+    if (motion) {
+      if (!motion.start) motion.start = this.pending === null ? now : now - 1;
+      const passed = Math.min(1, Math.max(0, (now - motion.start) / motion.time));
+      this.#advance(leaf, motion, passed);
+      if (passed === 1 && motion.end !== 'peek') {
+        this.#land(motion.end === 'over');
+        return;
+      }
+      if (passed < 1) this.#requestFrame();
+    }
+    this.#draw();
+  }
+
+  /**
+   * @param {Leaf} leaf
+   * @param {Motion} motion
+   * @param {number} passed
+   */
+  #advance(leaf, motion, passed) {
+    const fresh = Math.abs(motion.from.x) > this.book.layout.pageWidth * 0.8;
+    const eased = fresh ? easeInOut(passed) : 1 - (1 - passed) ** 3;
+    const wanted = {
+      x: motion.from.x + (motion.to.x - motion.from.x) * eased,
+      y: motion.from.y + (motion.to.y - motion.from.y) * eased
+        + motion.lift * Math.sin(Math.PI * eased),
+    };
+    leaf.held = reachable(wanted, leaf.edge, this.book.layout.pageHeight);
+    leaf.slide = motion.slideFrom + (motion.slideTo - motion.slideFrom) * eased;
+  }
+
+  /** @param {boolean} over */
+  #land(over) {
+    const leaf = /** @type {Leaf} */ (this.leaf);
+    if (over) this.current = leaf.to;
+    this.leaf = null;
+    this.book.keep([this.current]);
+    this.#showStanding();
+    this.#clear();
+    this.onLanded();
+    const next = this.pending;
+    this.pending = null;
+    if (next !== null && next !== this.current) {
+      this.#turnOver(next, Math.min(QUICK_MS * 1.6, this.book.config.moveTime * 1000));
+    }
+  }
+
+  #dropLeaf() {
+    if (this.fading) this.fading.finish();
+    if (!this.leaf) return;
+    this.leaf = null;
+    this.#showStanding();
+    this.#clear();
+  }
+
+  #clear() {
+    this.context.setTransform(1, 0, 0, 1, 0, 0);
+    this.context.clearRect(0, 0, this.canvas.width, this.canvas.height);
+  }
+
+  #draw() {
+    const leaf = this.leaf;
+    if (!leaf) return;
+    const { book, context, density } = this;
+    const { spineX, bookTop } = book.layout;
+    const fromShift = book.shiftFor(leaf.from);
+    const shift = fromShift + (book.shiftFor(leaf.to) - fromShift) * leaf.slide;
+    this.#clear();
+    context.setTransform(density, 0, 0, density, (spineX + shift) * density, bookTop * density);
+    if (!book.layout.spread) {
+      const gone = turnedShare(leaf.held, book.layout.pageWidth);
+      context.globalAlpha = Math.min(1, (1 - gone) * 6);
+    }
+    new LeafPainter(context, density).draw(leaf.look, leaf.held, leaf.edge);
+    context.globalAlpha = 1;
+    book.moveTo(shift);
+  }
+
+  /** @param {number} page */
+  #imageArrived(page) {
+    const leaf = this.leaf;
+    if (!leaf || (leaf.front !== page && leaf.back !== page)) return;
+    Object.assign(leaf.look, this.book.faces(leaf.front, leaf.back, leaf.side, this.density));
+    this.#requestFrame();
+  }
+
+  /** @param {number} view */
+  #fadeTo(view) {
+    if (this.fading) this.fading.finish();
+    const { book, context, density } = this;
+    const { spineX, bookTop, pageWidth, pageHeight, spread } = book.layout;
+    const { left, right } = book.views.at(this.current);
+    const { front, back } = spread
+      ? book.faces(left, right, 'left', density) : book.faces(left || right, 0, 'left', density);
+    const originX = (spineX + book.shiftFor(this.current)) * density;
+    context.setTransform(density, 0, 0, density, originX, bookTop * density);
+    if (left) context.drawImage(front, -pageWidth, 0, pageWidth, pageHeight);
+    if (right) context.drawImage(spread ? back : front, 0, 0, pageWidth, pageHeight);
+    this.fading = this.canvas.animate({ opacity: [1, 0] }, FADE_MS);
+    this.fading.onfinish = () => {
+      this.fading = null;
+      this.#clear();
+    };
+    this.onTurn();
+    this.current = view;
+    book.keep([view]);
+    this.#showStanding();
+    this.onLanded();
+  }
+}
+
+/** @param {number} t */
+function easeInOut(t) {
+  return t < 0.5 ? 4 * t ** 3 : 1 - (-2 * t + 2) ** 3 / 2;
+}

@@ -1,0 +1,52 @@
+/**
+ * How pages (numbered from 1) are dealt out to views (numbered from 0). In spread mode the first
+ * page stands alone on the side where a book begins; in single mode every page is a view.
+ */
+export class Views {
+  /**
+   * @param {number} pageCount
+   * @param {boolean} spread
+   * @param {boolean} rightToLeft
+   */
+  constructor(pageCount, spread, rightToLeft) {
+    this.pageCount = pageCount;
+    this.spread = spread;
+    this.rightToLeft = rightToLeft;
+  }
+
+  get count() {
+    return this.spread ? Math.floor(this.pageCount / 2) + 1 : this.pageCount;
+  }
+
+  /**
+   * @param {number} view
+   * @returns {{left: number, right: number}} page numbers, 0 where there is no page
+   */
+  at(view) {
+    /** @param {number} page */
+    const existing = (page) => (page >= 1 && page <= this.pageCount ? page : 0);
+    const first = this.spread ? existing(2 * view) : 0;
+    const second = this.spread ? existing(2 * view + 1) : existing(view + 1);
+    return this.rightToLeft ? { left: second, right: first } : { left: first, right: second };
+  }
+
+  /**
+   * Pages of a view in reading order.
+   * @param {number} view
+   */
+  pagesOf(view) {
+    const { left, right } = this.at(view);
+    return [left, right].filter((page) => page > 0).sort((a, b) => a - b);
+  }
+
+  /** @param {number} page */
+  viewOf(page) {
+    const within = Math.min(this.pageCount, Math.max(1, page));
+    return this.spread ? Math.floor(within / 2) : within - 1;
+  }
+
+  /** @param {number} view */
+  clamp(view) {
+    return Math.min(this.count - 1, Math.max(0, view));
+  }
+}

@@ -1,0 +1,93 @@
+import assert from 'node:assert/strict';
+import { after, before, test } from 'node:test';
+import { colourOf, plainPages } from './support/book.mjs';
+import { PHONE, Reader } from './support/reader.mjs';
+
+let reader;
+before(async () => { reader = await Reader.start(); });
+after(() => reader.stop());
+
+const near = (actual, wanted, by, what) =>
+  assert.ok(Math.abs(actual - wanted) <= by, `${what}: ${actual} instead of ${wanted}`);
+
+test('a window that becomes narrow changes to single pages and back, at the same page', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(9) }), { hash: '#page=5' });
+  assert.deepEqual(await book.pages(), [4, 5]);
+  await book.page.setViewportSize({ width: 420, height: 800 });
+  await book.waitForPages(5);
+  assert.deepEqual(await book.colourOf('right'), colourOf(5));
+  await book.page.setViewportSize({ width: 1100, height: 700 });
+  await book.waitForPages(4, 5);
+  assert.deepEqual(await book.colourOf('left'), colourOf(4));
+});
+
+const ends = [[1, [[1]]], [2, [[1], [2]]], [3, [[1], [2, 3]]], [4, [[1], [2, 3], [4]]], [5, [[1], [2, 3], [4, 5]]]];
+for (const [count, views] of ends) {
+  test(`${count} pages lie as ${JSON.stringify(views)}`, async () => {
+    const book = await reader.openFromDisk(await reader.book({ pages: plainPages(count) }));
+    for (const view of views) {
+      assert.deepEqual(await book.pages(), view);
+      await book.page.keyboard.press('ArrowRight');
+    }
+    assert.deepEqual(await book.pages(), views.at(-1));
+    await book.page.close();
+  });
+}
+
+test('a page that stands alone is in the middle of the window', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(4) }));
+  const cover = await book.box('right');
+  near(cover.x + cover.width / 2, 640, 1, 'middle of the cover');
+  await book.page.keyboard.press('End');
+  await book.waitForPages(4);
+  const last = await book.box('left');
+  near(last.x + last.width / 2, 640, 1, 'middle of the last page');
+});
+
+for (const [name, view] of [['desk', { viewport: { width: 1280, height: 800 } }], ['phone', PHONE],
+  ['phone on its side', { viewport: { width: 844, height: 390 } }], ['small window', { viewport: { width: 320, height: 300 } }]]) {
+  test(`the book lies within the window: ${name}`, async () => {
+    const book = await reader.openFromDisk(await reader.book({ pages: plainPages(5) }), { view, hash: '#page=2' });
+    const { width, height } = view.viewport;
+    for (const side of ['left', 'right']) {
+      const box = await book.box(side);
+      if (!box) continue;
+      assert.ok(box.x >= 0 && box.y >= 0 && box.x + box.width <= width && box.y + box.height <= height,
+        `${side}: ${JSON.stringify(box)}`);
+      assert.ok(box.height > height * 0.3, 'as large as fits');
+    }
+    await book.page.close();
+  });
+}
+
+test('pages take their shape from the pictures, whatever the configuration claims', async () => {
+  const folder = await reader.book({ pages: plainPages(3, 200, 100), declaredSize: [100, 200] });
+  const { width, height } = await (await reader.openFromDisk(folder)).box('right');
+  near(width / height, 2, 0.02, 'shape of the page');
+});
+
+test('a page of another shape is shown whole in its half', async () => {
+  const pages = plainPages(3);
+  [, pages[1]] = plainPages(2, 160, 80);
+  const book = await reader.openFromDisk(await reader.book({ pages, values: { PageBackgroundColor: '0x336699' } }),
+    { hash: '#page=2' });
+  const half = await book.box('left');
+  const picture = await book.picture('left');
+  near(picture.width / picture.height, 2, 0.02, 'shape of the picture');
+  near(picture.width, half.width, 1, 'width of the picture');
+  near(picture.y + picture.height / 2, half.y + half.height / 2, 1, 'middle of the picture');
+  assert.deepEqual(await book.colourAt(half.x + 30, half.y + 30), [0x33, 0x66, 0x99], 'paper around it');
+});
+
+test('a long book keeps few pages and shows the right ones', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(300, 12, 16) }));
+  for (const page of [150, 299, 20]) {
+    await book.page.evaluate((number) => window.folvero.goTo(number), page);
+    await book.page.waitForFunction((number) => window.folvero.pages.includes(number), page);
+    const kept = await book.page.evaluate(() => window.folvero.imagesKept);
+    assert.ok(kept <= 12, `${kept} images`);
+    const side = page % 2 === 0 ? 'left' : 'right';
+    await book.pages();
+    assert.match((await book.picture(side)).source, new RegExp(`/page/${page}\\.jpg$`));
+  }
+});

@@ -1,0 +1,108 @@
+import assert from 'node:assert/strict';
+import { rm, writeFile } from 'node:fs/promises';
+import path from 'node:path';
+import { after, before, test } from 'node:test';
+import { colourOf, plainPages, writeConfiguration } from './support/book.mjs';
+import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
+import { PHONE, Reader } from './support/reader.mjs';
+
+let reader;
+before(async () => { reader = await Reader.start(); });
+after(() => reader.stop());
+
+const messageOf = (book) => book.page.locator('.message').innerText();
+
+test('the cipher of these tests agrees with a published example', () => {
+  assert.equal(rc4(Buffer.from('Plaintext'), 'Key').toString('hex'), 'bbf316e8d940af0ad3');
+});
+
+test('a book opened from disk shows its cover', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(5), title: 'My title' }));
+  assert.deepEqual(await book.pages(), [1]);
+  assert.deepEqual(await book.colourOf('right'), colourOf(1));
+  assert.equal(await book.box('left'), null);
+  assert.equal(await book.page.title(), 'My title');
+  assert.deepEqual(book.errors, []);
+});
+
+test('a book opened over http shows its cover', async () => {
+  const book = await reader.openOverHttp(await reader.book({ pages: plainPages(5) }));
+  assert.deepEqual(await book.pages(), [1]);
+  assert.deepEqual(await book.colourOf('right'), colourOf(1));
+});
+
+test('the address says which page is opened', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(7) }), { hash: '#page=5' });
+  assert.deepEqual(await book.pages(), [4, 5]);
+  assert.deepEqual(await book.colourOf('left'), colourOf(4));
+  assert.deepEqual(await book.colourOf('right'), colourOf(5));
+});
+
+test('a book asks for nothing but its own files', async () => {
+  const book = await reader.openOverHttp(await reader.book({ pages: plainPages(6) }));
+  await book.page.keyboard.press('ArrowRight');
+  await book.waitForPages(2, 3);
+  const own = /^\/(index\.html|files\/UserConfig\.bin|files\/page\/\d\.jpg|files\/extfiles\/moveSound\.mp3)?$/;
+  for (const url of book.requests) {
+    if (url.startsWith('data:')) continue;
+    assert.ok(url.startsWith(book.server.address), url);
+    assert.match(new URL(url).pathname, own);
+  }
+  assert.ok(book.server.requests.some((request) => request.path === '/files/UserConfig.bin'));
+});
+
+test('a server that withholds the binary file is answered with the script copy', async () => {
+  const folder = await reader.book({ pages: plainPages(3) });
+  await rm(path.join(folder, 'files/UserConfig.bin'));
+  const book = await reader.openOverHttp(folder);
+  assert.deepEqual(await book.pages(), [1]);
+});
+
+test('a page without a file leaves a note in its place', async () => {
+  const folder = await reader.book({ pages: plainPages(5) });
+  await rm(path.join(folder, 'files/page/3.jpg'));
+  const book = await reader.openFromDisk(folder, { hash: '#page=2' });
+  assert.equal(await book.page.locator('.page.right').innerText(), 'Page 3 could not be shown');
+  assert.deepEqual(await book.colourOf('left'), colourOf(2));
+  await book.page.keyboard.press('ArrowRight');
+  await book.waitForPages(4, 5);
+  assert.deepEqual(await book.colourOf('right'), colourOf(5));
+});
+
+test('a page file that is no picture leaves a note in its place', async () => {
+  const folder = await reader.book({ pages: plainPages(3) });
+  await writeFile(path.join(folder, 'files/page/1.jpg'), 'not a picture');
+  const book = await reader.openFromDisk(folder);
+  assert.equal(await book.page.locator('.page.right').innerText(), 'Page 1 could not be shown');
+});
+
+const empty = '<SlidePowerPoint><Properties/><BackgroundConfig/><Ppts/></SlidePowerPoint>';
+const damages = [
+  ['noise', Buffer.from('this is no configuration'), /damaged/i],
+  ['nothing', Buffer.alloc(0), /damaged/i],
+  ['half of the document', rc4(Buffer.from('<SlidePowerPoint><Properties><Search>No</Sea'), CONFIG_KEY), /damaged/i],
+  ['no pages', rc4(Buffer.from(empty), CONFIG_KEY), /no pages/i],
+];
+for (const [name, bytes, words] of damages) {
+  test(`a configuration of ${name} is explained to the reader`, async () => {
+    const folder = await reader.book({ pages: plainPages(2) });
+    await writeConfiguration(folder, bytes);
+    assert.match(await messageOf(await reader.openFromDisk(folder)), words);
+    assert.match(await messageOf(await reader.openOverHttp(folder)), words);
+  });
+}
+
+test('a book without its files folder says what is missing', async () => {
+  const folder = await reader.book({ pages: plainPages(2) });
+  await rm(path.join(folder, 'files'), { recursive: true });
+  assert.match(await messageOf(await reader.openFromDisk(folder)), /incomplete/i);
+  assert.match(await messageOf(await reader.openOverHttp(folder, { view: PHONE })), /incomplete/i);
+});
+
+test('bytes after the document do no harm', async () => {
+  const folder = await reader.book({ pages: plainPages(2) });
+  const { configurationXml } = await import('./support/book.mjs');
+  const padded = Buffer.concat([Buffer.from(configurationXml(2)), Buffer.alloc(9, 9)]);
+  await writeConfiguration(folder, rc4(padded, CONFIG_KEY));
+  assert.deepEqual(await (await reader.openFromDisk(folder)).pages(), [1]);
+});

@@ -1,0 +1,145 @@
+import { mkdtemp, rm } from 'node:fs/promises';
+import { tmpdir } from 'node:os';
+import path from 'node:path';
+import { fileURLToPath, pathToFileURL } from 'node:url';
+import { inflateSync } from 'node:zlib';
+import { writeBook } from './book.mjs';
+import { launchChromium } from './chromium.mjs';
+import { serve } from './server.mjs';
+
+const here = path.dirname(fileURLToPath(import.meta.url));
+
+export const TEMPLATE = process.env.FOLVERO_TEMPLATE_DIR
+  ?? path.join(here, '../../../build/release/share/folvero/AppFiles/Templates/float');
+
+export const DESK = { viewport: { width: 1280, height: 800 } };
+export const PHONE = { viewport: { width: 390, height: 844 }, hasTouch: true, isMobile: true };
+
+/** A reader with a browser: opens books and tells what it sees. */
+export class Reader {
+  static async start() {
+    const reader = new Reader();
+    reader.browser = await launchChromium();
+    reader.folder = await mkdtemp(path.join(tmpdir(), 'folvero-browser-'));
+    reader.servers = [];
+    reader.books = 0;
+    return reader;
+  }
+
+  async stop() {
+    await this.browser.close();
+    for (const server of this.servers) await server.close();
+    await rm(this.folder, { recursive: true });
+  }
+
+  /** Writes a book and gives its folder; options as for writeBook. */
+  async book(options) {
+    this.books += 1;
+    return writeBook(path.join(this.folder, String(this.books)), { template: TEMPLATE, ...options });
+  }
+
+  /** Opens a book folder from disk. */
+  async openFromDisk(folder, { view = DESK, hash = '', reducedMotion } = {}) {
+    return this.#open(pathToFileURL(path.join(folder, 'index.html')).href + hash, view, reducedMotion);
+  }
+
+  /** Opens a book folder over http; the result's server tells the requests. */
+  async openOverHttp(folder, { view = DESK, hash = '', reducedMotion } = {}) {
+    const server = await serve(folder);
+    this.servers.push(server);
+    const opened = await this.#open(server.address + hash, view, reducedMotion);
+    opened.server = server;
+    return opened;
+  }
+
+  async #open(address, view, reducedMotion) {
+    const page = await this.browser.newPage({ ...view, reducedMotion });
+    const opened = new OpenBook(page);
+    await page.goto(address);
+    await page.waitForSelector('#folvero:is([data-state="ready"], [data-state="error"])', { timeout: 20000 });
+    return opened;
+  }
+}
+
+/** A book in a browser page. */
+class OpenBook {
+  constructor(page) {
+    this.page = page;
+    this.errors = [];
+    this.requests = [];
+    page.on('pageerror', (error) => this.errors.push(error.message));
+    page.on('request', (request) => this.requests.push(request.url()));
+  }
+
+  /** Page numbers in view once nothing moves any more. */
+  async pages() {
+    await this.page.waitForFunction(() => !window.folvero.turning);
+    return this.page.evaluate(() => window.folvero.pages);
+  }
+
+  async waitForPages(...pages) {
+    await this.page.waitForFunction(
+      (wanted) => !window.folvero.turning && String(window.folvero.pages) === wanted, String(pages));
+  }
+
+  /** Where the page on a side lies in the window, or null. */
+  async box(side) {
+    return this.page.locator(`.page.${side}`).boundingBox();
+  }
+
+  /** The picture of the page on a side: its address, its own size and its place. */
+  async picture(side) {
+    return this.page.locator(`.page.${side} img`).evaluate((image) => {
+      const { x, y, width, height } = image.getBoundingClientRect();
+      return { source: image.src, loaded: image.complete && image.naturalWidth > 0, x, y, width, height };
+    });
+  }
+
+  /** Colour that is really on the screen at a place. */
+  async colourAt(x, y) {
+    const shot = await this.page.screenshot({ clip: { x: Math.round(x), y: Math.round(y), width: 1, height: 1 } });
+    return pixelOf(shot);
+  }
+
+  /** Colour in the middle of the page on a side. */
+  async colourOf(side) {
+    const { x, y, width, height } = await this.box(side);
+    return this.colourAt(x + width / 2, y + height / 2);
+  }
+
+  async drag(from, to, { steps = 10, pause = 0 } = {}) {
+    const { mouse } = this.page;
+    await mouse.move(...from);
+    await mouse.down();
+    for (let step = 1; step <= steps; step += 1) {
+      await mouse.move(from[0] + ((to[0] - from[0]) * step) / steps, from[1] + ((to[1] - from[1]) * step) / steps);
+    }
+    if (pause) await this.page.waitForTimeout(pause);
+    await mouse.up();
+  }
+
+  /** A finger that moves across a touch screen. */
+  async swipe(from, to) {
+    const session = await this.page.context().newCDPSession(this.page);
+    const touch = (type, points) => session.send('Input.dispatchTouchEvent', { type, touchPoints: points });
+    await touch('touchStart', [{ x: from[0], y: from[1] }]);
+    for (let step = 1; step <= 6; step += 1) {
+      await touch('touchMove', [{
+        x: from[0] + ((to[0] - from[0]) * step) / 6, y: from[1] + ((to[1] - from[1]) * step) / 6,
+      }]);
+      await this.page.waitForTimeout(16);
+    }
+    await touch('touchEnd', []);
+  }
+}
+
+/** Colour of a PNG file of one pixel. */
+function pixelOf(file) {
+  const parts = [];
+  for (let at = 8; at < file.length;) {
+    const length = file.readUInt32BE(at);
+    if (file.toString('latin1', at + 4, at + 8) === 'IDAT') parts.push(file.subarray(at + 8, at + 8 + length));
+    at += length + 12;
+  }
+  return [...inflateSync(Buffer.concat(parts)).subarray(1, 4)];
+}

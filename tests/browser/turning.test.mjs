@@ -1,0 +1,209 @@
+import assert from 'node:assert/strict';
+import { after, before, test } from 'node:test';
+import { colourOf, plainPages } from './support/book.mjs';
+import { PHONE, Reader } from './support/reader.mjs';
+
+let reader;
+before(async () => { reader = await Reader.start(); });
+after(() => reader.stop());
+
+async function open(count, { values, hash, view, reducedMotion } = {}) {
+  return reader.openFromDisk(await reader.book({ pages: plainPages(count), values }), { hash, view, reducedMotion });
+}
+
+async function edges(book) {
+  const left = await book.box('left');
+  const right = await book.box('right');
+  return { left: [left.x + 20, left.y + 150], right: [right.x + right.width - 20, right.y + 150] };
+}
+
+test('a click on a page edge turns that way', async () => {
+  const book = await open(8, { hash: '#page=4' });
+  const at = await edges(book);
+  await book.page.mouse.click(...at.right);
+  await book.waitForPages(6, 7);
+  assert.deepEqual(await book.colourOf('left'), colourOf(6));
+  assert.deepEqual(await book.colourOf('right'), colourOf(7));
+  await book.page.mouse.click(...at.left);
+  await book.waitForPages(4, 5);
+  assert.deepEqual(await book.colourOf('left'), colourOf(4));
+});
+
+test('a click on the margin beside the book turns that way', async () => {
+  const book = await open(8, { hash: '#page=4' });
+  await book.page.mouse.click(1240, 200);
+  await book.waitForPages(6, 7);
+  await book.page.mouse.click(30, 200);
+  await book.waitForPages(4, 5);
+});
+
+const keys = [
+  ['ArrowRight', [6, 7]], ['ArrowLeft', [2, 3]], ['PageDown', [6, 7]], ['PageUp', [2, 3]],
+  ['Space', [6, 7]], ['Shift+Space', [2, 3]], ['Home', [1]], ['End', [8, 9]],
+];
+for (const [key, pages] of keys) {
+  test(`the key ${key} turns to ${pages}`, async () => {
+    const book = await open(9, { hash: '#page=4' });
+    await book.page.keyboard.press(key);
+    await book.waitForPages(...pages);
+    await book.page.close();
+  });
+}
+
+test('a page dragged across is turned, and shows its back on the way', async () => {
+  const book = await open(8, { hash: '#page=2', values: { PageMoveTime: '1' } });
+  const { right: [x, y] } = await edges(book);
+  const { page } = book;
+  await page.mouse.move(x, y + 150);
+  await page.mouse.down();
+  await page.mouse.move(x - 300, y + 150, { steps: 5 });
+  await page.mouse.move(x - 700, y + 150, { steps: 5 });
+  await page.waitForTimeout(100);
+  const right = await book.box('right');
+  assert.deepEqual(await book.colourAt(right.x + right.width * 0.9, y + 150), colourOf(5), 'the page beneath');
+  const back = await book.colourAt(x - 640, y + 150);
+  colourOf(4).forEach((part, index) => assert.ok(Math.abs(part - back[index]) < 24, `back of the leaf: ${back}`));
+  await page.mouse.up();
+  await book.waitForPages(4, 5);
+});
+
+test('a page let go early falls back', async () => {
+  const book = await open(8, { hash: '#page=2' });
+  const { right: [x, y] } = await edges(book);
+  await book.drag([x, y + 200], [x - 200, y + 180], { pause: 250 });
+  assert.deepEqual(await book.pages(), [2, 3]);
+  assert.deepEqual(await book.colourOf('right'), colourOf(3));
+});
+
+test('a page dragged back before it is let go falls back', async () => {
+  const book = await open(8, { hash: '#page=2' });
+  const { right: [x, y] } = await edges(book);
+  const { mouse } = book.page;
+  await mouse.move(x, y);
+  await mouse.down();
+  await mouse.move(x - 800, y, { steps: 6 });
+  await mouse.move(x - 100, y, { steps: 6 });
+  await book.page.waitForTimeout(200);
+  await mouse.up();
+  assert.deepEqual(await book.pages(), [2, 3]);
+});
+
+test('nothing can be dragged beyond the ends', async () => {
+  const book = await open(4, { hash: '#page=4' });
+  await book.drag([600, 300], [200, 300]);
+  assert.deepEqual(await book.pages(), [4]);
+  await book.page.keyboard.press('ArrowRight');
+  assert.deepEqual(await book.pages(), [4]);
+});
+
+test('a swipe turns on a phone', async () => {
+  const book = await open(5, { view: PHONE, hash: '#page=2' });
+  await book.swipe([320, 400], [90, 410]);
+  await book.waitForPages(3);
+  assert.deepEqual(await book.colourOf('right'), colourOf(3));
+  await book.swipe([80, 400], [320, 390]);
+  await book.waitForPages(2);
+  assert.deepEqual(await book.colourOf('right'), colourOf(2));
+});
+
+test('a tap at the side turns on a phone, a tap in the middle shows and hides the bar', async () => {
+  const book = await open(5, { view: PHONE });
+  await book.page.touchscreen.tap(370, 400);
+  await book.waitForPages(2);
+  const idle = () => book.page.locator('#folvero').getAttribute('data-idle');
+  const first = await idle();
+  await book.page.touchscreen.tap(195, 400);
+  assert.notEqual(await idle(), first);
+});
+
+test('turning quickly ends where the presses lead, with the right pages', async () => {
+  const book = await open(40);
+  for (let press = 0; press < 9; press += 1) await book.page.keyboard.press('ArrowRight');
+  await book.waitForPages(18, 19);
+  assert.deepEqual(await book.colourOf('left'), colourOf(18));
+  for (const key of ['ArrowLeft', 'ArrowRight', 'ArrowLeft', 'ArrowLeft', 'End', 'ArrowLeft']) {
+    await book.page.keyboard.press(key);
+    await book.page.waitForTimeout(25);
+  }
+  await book.waitForPages(38, 39);
+  assert.deepEqual(await book.colourOf('right'), colourOf(39));
+  assert.deepEqual(book.errors, []);
+});
+
+test('clicking and dragging while a page turns does not jam', async () => {
+  const book = await open(30);
+  const box = await book.box('right');
+  for (let round = 0; round < 6; round += 1) {
+    await book.page.mouse.click(1200, 300);
+    await book.drag([box.x + box.width, 400], [box.x - 200, 380], { steps: 3 });
+  }
+  const before = (await book.pages())[0];
+  await book.page.keyboard.press('PageUp');
+  assert.ok((await book.pages())[0] < before);
+});
+
+test('a right-to-left book begins at the right', async () => {
+  const book = await open(6, { values: { RightToLeft: 'YES' } });
+  assert.deepEqual(await book.colourOf('left'), colourOf(1));
+  await book.page.keyboard.press('ArrowLeft');
+  await book.waitForPages(2, 3);
+  assert.deepEqual(await book.colourOf('right'), colourOf(2));
+  assert.deepEqual(await book.colourOf('left'), colourOf(3));
+  await book.drag([200, 300], [1000, 300]);
+  await book.waitForPages(4, 5);
+  await book.page.mouse.click(1250, 300);
+  await book.waitForPages(2, 3);
+});
+
+test('a right-to-left book turns on a phone', async () => {
+  const book = await open(4, { values: { RightToLeft: 'yes' }, view: PHONE });
+  await book.swipe([90, 400], [320, 410]);
+  await book.waitForPages(2);
+  assert.deepEqual(await book.colourOf('left'), colourOf(2));
+});
+
+test('the page box jumps to a page and the address follows', async () => {
+  const book = await open(30);
+  await book.page.locator('.page-box').fill('17');
+  await book.page.keyboard.press('Enter');
+  await book.waitForPages(16, 17);
+  assert.match(book.page.url(), /#page=16$/);
+  await book.page.evaluate(() => { window.location.hash = '#page=3'; });
+  await book.waitForPages(2, 3);
+});
+
+test('one push of the wheel turns one page', async () => {
+  const book = await open(9, { hash: '#page=4' });
+  await book.page.mouse.move(640, 400);
+  for (let part = 0; part < 5; part += 1) await book.page.mouse.wheel(0, 40);
+  await book.waitForPages(6, 7);
+  await book.page.waitForTimeout(300);
+  await book.page.mouse.wheel(0, -40);
+  await book.waitForPages(4, 5);
+});
+
+test('a book that plays by itself turns, starts over, and stops when told', async () => {
+  const values = { AutoPlay: 'Yes', SlideInterval: '1.2', LoopPlay: 'Yes' };
+  const book = await open(3, { values });
+  await book.waitForPages(2, 3);
+  await book.waitForPages(1);
+  await book.page.locator('.play').click();
+  const stopped = await book.pages();
+  await book.page.waitForTimeout(2000);
+  assert.deepEqual(await book.pages(), stopped);
+});
+
+test('a book that does not loop stops at its end', async () => {
+  const book = await open(3, { values: { AutoPlay: 'Yes', SlideInterval: '0.2', LoopPlay: 'No' } });
+  await book.waitForPages(2, 3);
+  await book.page.waitForTimeout(900);
+  assert.deepEqual(await book.pages(), [2, 3]);
+});
+
+test('readers who want little motion see pages change without a leaf', async () => {
+  const book = await open(6, { reducedMotion: 'reduce', values: { PageMoveTime: '9' } });
+  await book.page.keyboard.press('ArrowRight');
+  await book.waitForPages(2, 3);
+  await book.page.waitForTimeout(400);
+  assert.deepEqual(await book.colourOf('left'), colourOf(2));
+});
