@@ -1,3 +1,164 @@
-int main() {
-    return 0;
+// folvero: makes page-flip books from PDF files without a window.
+
+#include "cli/CommandError.h"
+#include "cli/DecodeCommand.h"
+#include "cli/InfoCommand.h"
+#include "cli/PublishCommand.h"
+#include "cli/TemplatesCommand.h"
+#include "cli/Terminal.h"
+#include "platform/Bundle.h"
+#include "platform/Log.h"
+
+#include <CLI/CLI.hpp>
+#include <QCoreApplication>
+#include <QFile>
+#include <string>
+#include <vector>
+
+namespace {
+
+// The command line as it was typed; texts are in the encoding of the terminal.
+struct CommandLine {
+    std::string pdf;
+    std::string outputFolder;
+    std::string name = "index";
+    std::string title;
+    std::string pages = "ALL";
+    int quality = 100;
+    bool links = false;
+    bool bookmarks = false;
+    std::string templateName = "float";
+    std::string styleName;
+    std::vector<std::string> assignments;
+    std::string settingsFile;
+    std::string timingFile;
+    bool quiet = false;
+    bool json = false;
+    std::string book;
+};
+
+QString text(const std::string& typed) {
+    return QString::fromLocal8Bit(typed.data(), qsizetype(typed.size()));
+}
+
+QString path(const std::string& typed) {
+    return QFile::decodeName(QByteArray::fromStdString(typed));
+}
+
+void publish(const CommandLine& line, const CLI::App& command) {
+    PublishOptions options;
+    options.pdf = path(line.pdf);
+    options.outputFolder = path(line.outputFolder);
+    options.name = path(line.name);
+    if (command.count("--title") > 0)
+        options.title = text(line.title).isNull() ? QStringLiteral("") : text(line.title);
+    options.pages = text(line.pages);
+    options.quality = line.quality;
+    options.links = line.links;
+    options.bookmarks = line.bookmarks;
+    options.templateName = text(line.templateName);
+    options.styleName = text(line.styleName);
+    if (!line.settingsFile.empty())
+        options.settingsFile = path(line.settingsFile);
+    for (const std::string& assignment : line.assignments)
+        options.assignments << text(assignment);
+    if (!line.timingFile.empty())
+        options.timingFile = path(line.timingFile);
+    options.quiet = line.quiet;
+    runPublish(options);
+}
+
+void addPublish(CLI::App& app, CommandLine& line) {
+    auto* command = app.add_subcommand("publish", "Make a page-flip book from a PDF file");
+    command->add_option("PDF", line.pdf, "The PDF file")->required();
+    command
+        ->add_option("FOLDER", line.outputFolder,
+                     "The folder that the book goes into; made if it is missing")
+        ->required();
+    command->add_option("--name", line.name, "Name of the HTML page, without its extension")
+        ->capture_default_str();
+    command->add_option("--title", line.title,
+                        "Title of the book; by default the title of the document");
+    command->add_option("--pages", line.pages, "Pages to take, for example 1-3,7 or ALL")
+        ->capture_default_str();
+    command
+        ->add_option("--quality", line.quality,
+                     "100 for the sharpest pages, below that for the smallest files")
+        ->check(CLI::Range(0, 100))
+        ->capture_default_str();
+    command->add_flag("--links", line.links, "Read the links of the pages");
+    command->add_flag("--bookmarks", line.bookmarks, "Read the bookmarks of the document");
+    command->add_option("--template", line.templateName, "Template of the book")
+        ->capture_default_str();
+    command->add_option("--style", line.styleName, "Style of the template");
+    command->add_option("--settings", line.settingsFile, "A settings file to apply");
+    command
+        ->add_option("--set", line.assignments,
+                     "KEY=VALUE: set one property of the template; may be given many times")
+        ->allow_extra_args(false);
+    command->add_flag("--quiet", line.quiet, "Show no progress");
+    command->add_option("--timing", line.timingFile,
+                        "Write how long the steps took to this file, as JSON");
+    command->callback([&line, command] { publish(line, *command); });
+}
+
+void addTemplates(CLI::App& app, CommandLine& line) {
+    auto* command = app.add_subcommand("templates", "List templates, styles and properties");
+    command->add_flag("--json", line.json, "Print JSON");
+    command->callback([&line] { runTemplates(line.json); });
+}
+
+void addInfo(CLI::App& app, CommandLine& line) {
+    auto* command =
+        app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file");
+    command->add_option("PDF", line.pdf, "The PDF file")->required();
+    command->add_flag("--json", line.json, "Print JSON");
+    command->callback([&line] { runInfo(path(line.pdf), line.json); });
+}
+
+void addDecode(CLI::App& app, CommandLine& line) {
+    auto* command =
+        app.add_subcommand("decode", "Print the deciphered configuration of a published book");
+    command->add_option("BOOK", line.book, "The book's folder")->required();
+    command->add_flag("--json", line.json, "Print JSON");
+    command->callback([&line] { runDecode(path(line.book), line.json); });
+}
+
+int run(int argc, char** argv) {
+    CLI::App app("Turns PDF files into page-flip books.", "folvero");
+    CommandLine line;
+    app.set_version_flag("--version", "folvero " + Bundle::version().toStdString());
+    app.require_subcommand(1);
+    app.add_flag_callback(
+        "--verbose", [] { Log::configureForTerminal(Log::Level::debug); },
+        "Tell in detail what is done, on standard error");
+    app.footer("Exit codes: 0 done, 1 nothing was made, 2 command line not understood, 3 the book "
+               "was made\nbut pages are missing from it, 130 cancelled.");
+    addPublish(app, line);
+    addTemplates(app, line);
+    addInfo(app, line);
+    addDecode(app, line);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? 0 : int(ExitCode::usage);
+    } catch (const CommandError& error) {
+        Terminal::note(QStringLiteral("folvero: %1").arg(error.message()));
+        return int(error.code());
+    }
+    return int(ExitCode::ok);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Folvero"));
+    QCoreApplication::setApplicationName(QStringLiteral("Folvero"));
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& failure) {
+        Terminal::note(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
+        return int(ExitCode::failed);
+    }
 }

@@ -2,8 +2,8 @@
 #include "output/BookName.h"
 #include "output/FolveroOutput.h"
 #include "output/ImageSize.h"
-#include "output/XMLText.h"
 #include "platform/Files.h"
+#include "util/XMLText.h"
 
 #include <cstdint>
 

@@ -1,6 +1,7 @@
 #include "output/FolveroOutput.h"
 
 #include "output/BookName.h"
+#include "output/UserConfig.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
@@ -17,8 +18,6 @@ using Phase = PublishTransaction::Phase;
 namespace {
 
 // The player holds the same key.
-constexpr char configurationKey[] = "zq4mk2pw7rxv1bn8ty";
-
 struct Cancelled {};
 
 const Log& logger() {
@@ -336,7 +335,7 @@ void FolveroOutput::stageBookXML(const QString& path) {
     std::ostringstream xml;
     bookXML()->save(xml, "    ", pugi::format_indent, pugi::encoding_utf8);
     const QByteArray bytes = CommonCryptor::RC4EncryptedDataUsingKey(
-        QByteArray::fromStdString(xml.str()), configurationKey);
+        QByteArray::fromStdString(xml.str()), userConfigKey);
     transaction().write(path, bytes, Phase::configuration);
     const QFileInfo info(path);
     const QString script =

@@ -162,8 +162,12 @@ std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) co
     const int page = get(
         [&](fz_context* ctx) {
             pdf_obj* target = destination;
-            if (pdf_is_name(ctx, target) || pdf_is_string(ctx, target))
-                target = pdf_lookup_dest(ctx, document, target);
+            // The engine doesn't look into the name tree of a document that has the older
+            // dictionary of names as well.
+            if (pdf_is_string(ctx, destination))
+                target = pdf_lookup_name(ctx, document, PDF_NAME(Dests), destination);
+            if (pdf_is_name(ctx, destination) || !target)
+                target = pdf_lookup_dest(ctx, document, destination);
             if (pdf_is_dict(ctx, target))
                 target = pdf_dict_get(ctx, target, PDF_NAME(D));
             if (!pdf_is_array(ctx, target))

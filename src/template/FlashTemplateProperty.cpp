@@ -22,6 +22,21 @@ QString requiredText(const pugi::xml_node& element, const char* name) {
     return TemplateFile::requiredText(element, name, [&] { return describe(element); });
 }
 
+// In the order of their numbers.
+constexpr std::array<QLatin1StringView, 11> typeNames{
+    QLatin1StringView("pt_text"),
+    QLatin1StringView("pt_number"),
+    QLatin1StringView("pt_color"),
+    QLatin1StringView("pt_list"),
+    QLatin1StringView("pt_composite"),
+    QLatin1StringView("pt_file"),
+    QLatin1StringView("pt_list_fromFunction"),
+    QLatin1StringView("pt_form_security"),
+    QLatin1StringView("pt_font"),
+    QLatin1StringView("pt_form_contactabout"),
+    QLatin1StringView("pt_bool"),
+};
+
 } // namespace
 
 void FlashTemplateProperty::loadFromNode(const pugi::xml_node& element) {
@@ -64,22 +79,13 @@ void FlashTemplateProperty::addChildProperty(std::unique_ptr<FlashTemplateProper
 }
 
 int StringUtil::flashTemplatePropertyTypeFromString(const QString& name) {
-    // In the order of their numbers.
-    static constexpr std::array<QLatin1StringView, 11> names{
-        QLatin1StringView("pt_text"),
-        QLatin1StringView("pt_number"),
-        QLatin1StringView("pt_color"),
-        QLatin1StringView("pt_list"),
-        QLatin1StringView("pt_composite"),
-        QLatin1StringView("pt_file"),
-        QLatin1StringView("pt_list_fromFunction"),
-        QLatin1StringView("pt_form_security"),
-        QLatin1StringView("pt_font"),
-        QLatin1StringView("pt_form_contactabout"),
-        QLatin1StringView("pt_bool"),
-    };
-    const auto found = std::find(names.begin(), names.end(), name);
-    return found == names.end() ? pt_text : static_cast<int>(found - names.begin());
+    const auto found = std::find(typeNames.begin(), typeNames.end(), name);
+    return found == typeNames.end() ? pt_text : static_cast<int>(found - typeNames.begin());
+}
+
+QString StringUtil::flashTemplatePropertyTypeName(int type) {
+    return type >= 0 && type < int(typeNames.size()) ? QString(typeNames[std::size_t(type)])
+                                                     : QString();
 }
 
 bool StringUtil::valueAsBool(const QString& value) {

@@ -91,6 +91,9 @@ namespace StringUtil {
 // The enumeration value of a type name of the template file; pt_text for any other text.
 int flashTemplatePropertyTypeFromString(const QString& name);
 
+// The type name of an enumeration value; a null text for any other number.
+QString flashTemplatePropertyTypeName(int type);
+
 // True for YES, SHOW, ENABLE and TRUE in any letter case.
 bool valueAsBool(const QString& value);
 

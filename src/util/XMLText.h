@@ -9,4 +9,8 @@ namespace XMLText {
 // null. Nesting of any depth is safe.
 QString textOf(const pugi::xml_node& element);
 
+// The text without the characters that XML 1.0 can't hold: most control characters, lone
+// surrogates and non-characters of the basic plane.
+QString legal(const QString& text);
+
 } // namespace XMLText

@@ -4,11 +4,14 @@
 
 #include <QStringList>
 
-// Collects what is logged while it lives.
+// Collects what is logged from a level on, by any thread, while it lives.
 class RecordedLog {
 public:
-    RecordedLog() {
-        Log::setWatcher([this](const Log::Record& record) { iTexts << record.text; });
+    explicit RecordedLog(Log::Level lowest = Log::Level::debug) {
+        Log::setWatcher([this, lowest](const Log::Record& record) {
+            if (record.level >= lowest)
+                iTexts << record.text;
+        });
     }
     ~RecordedLog() { Log::setWatcher({}); }
     RecordedLog(const RecordedLog&) = delete;

@@ -1,0 +1,43 @@
+# The two commands of a fresh machine: `make book` and `make test`. `make help` lists the others.
+
+PRESET ?= release
+BUILD := build/$(PRESET)
+OUT ?= out
+PDF ?= $(BUILD)/samples/sample.pdf
+
+.PHONY: book test bench packages build format format-check tidy help
+
+help:
+	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
+	@echo "make test                               build and run every test"
+	@echo "make bench                              measure, see docs/performance.md"
+	@echo "make format-check                       check the format of the C++ code"
+	@echo "make tidy                               run clang-tidy"
+	@echo "PRESET=debug|asan-ubsan|tsan            build and test another way"
+
+packages:
+	@tools/install-packages.sh
+
+build: packages
+	@mkdir -p build
+	@cmake --preset $(PRESET) >$(BUILD).log 2>&1 || { cat $(BUILD).log; exit 1; }
+	@cmake --build --preset $(PRESET)
+
+book: build
+	@$(BUILD)/bin/folvero publish "$(PDF)" "$(OUT)" --links --bookmarks
+	@echo "Open the page above with a double-click, or put the folder on a web server."
+
+test: build format-check
+	@ctest --preset $(PRESET)
+
+format-check: packages
+	@git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror
+
+format:
+	@git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format -i
+
+tidy: build
+	@git ls-files -z 'src/*.cpp' | xargs -0 -n 8 -P 2 clang-tidy --quiet -p $(BUILD)
+
+bench: build
+	@bench/run.sh $(BUILD)

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <exception>
+
+// What the program's exit code tells a script. Documented in docs/command-line.md.
+enum class ExitCode : int {
+    ok = 0,
+    failed = 1,      // nothing was made
+    usage = 2,       // the command line was not understood
+    incomplete = 3,  // the book was made, but pages are missing from it
+    cancelled = 130, // ended by Ctrl-C, as a shell reports it; nothing was made
+};
+
+// Ends a command: the message goes to standard error, the code to the caller of the program.
+class CommandError : public std::exception {
+public:
+    explicit CommandError(QString message, ExitCode code = ExitCode::failed)
+        : iMessage(std::move(message)), iCode(code) {}
+
+    const QString& message() const { return iMessage; }
+    ExitCode code() const { return iCode; }
+    const char* what() const noexcept override { return "command failed"; }
+
+private:
+    QString iMessage;
+    ExitCode iCode;
+};

@@ -1,0 +1,70 @@
+#include "cli/DecodeCommand.h"
+
+#include "cli/CommandError.h"
+#include "cli/Terminal.h"
+#include "output/UserConfig.h"
+#include "platform/Files.h"
+#include "util/NSData+CommonCrypto.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <pugixml.hpp>
+
+namespace {
+
+QByteArray decipheredConfiguration(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw CommandError(QStringLiteral("%1: %2").arg(path, file.errorString()));
+    return CommonCryptor::decryptedRC4DataUsingKey(file.readAll(), userConfigKey);
+}
+
+// An element as its text, or as an object of its children; children that share a name are a list.
+QJsonValue elementAsJson(const pugi::xml_node& element) {
+    QJsonObject object;
+    for (const pugi::xml_node child : element.children()) {
+        if (child.type() != pugi::node_element)
+            continue;
+        const QString name = QString::fromUtf8(child.name());
+        const QJsonValue value = elementAsJson(child);
+        if (!object.contains(name)) {
+            object[name] = value;
+            continue;
+        }
+        QJsonArray list =
+            object[name].isArray() ? object[name].toArray() : QJsonArray{object[name]};
+        list.append(value);
+        object[name] = list;
+    }
+    if (object.isEmpty())
+        return QString::fromUtf8(element.text().get());
+    return object;
+}
+
+} // namespace
+
+void runDecode(const QString& book, bool json) {
+    const QString path =
+        QFileInfo(book).isDir() ? Files::join(book, QStringLiteral("files/UserConfig.bin")) : book;
+    if (!QFileInfo(path).isFile()) {
+        throw CommandError(
+            QStringLiteral("%1: is not a published book (it has no files/UserConfig.bin)")
+                .arg(book));
+    }
+    const QByteArray xml = decipheredConfiguration(path);
+    pugi::xml_document document;
+    if (!document.load_buffer(xml.constData(), std::size_t(xml.size()))) {
+        throw CommandError(
+            QStringLiteral("%1: is damaged, or not the configuration of a book").arg(path));
+    }
+    if (!json) {
+        Terminal::print(QString::fromUtf8(xml).trimmed());
+        return;
+    }
+    const pugi::xml_node root = document.document_element();
+    const QJsonObject object{{QString::fromUtf8(root.name()), elementAsJson(root)}};
+    Terminal::print(QString::fromUtf8(QJsonDocument(object).toJson()).trimmed());
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+// Shows what a PDF holds: pages with their sizes, rotations and links, and the outline. Throws
+// CommandError.
+void runInfo(const QString& pdf, bool json);

@@ -1,0 +1,26 @@
+#include "cli/Interrupt.h"
+
+#include <csignal>
+
+namespace {
+
+volatile std::sig_atomic_t requested = 0;
+
+void raiseFlag(int /*signal*/) {
+    requested = 1;
+}
+
+} // namespace
+
+void Interrupt::watch() {
+    struct sigaction action {};
+    action.sa_handler = raiseFlag;
+    ::sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    ::sigaction(SIGINT, &action, nullptr);
+    ::sigaction(SIGTERM, &action, nullptr);
+}
+
+bool Interrupt::wasRequested() {
+    return requested != 0;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+// The folder that a book goes into. It is made at once, so that a folder that can't be written
+// shows before an hour of drawing; unless it is kept, whatever had to be made is removed again.
+class OutputFolder {
+public:
+    // Throws CommandError when the folder can't be made or written.
+    explicit OutputFolder(const QString& path);
+    ~OutputFolder();
+    OutputFolder(const OutputFolder&) = delete;
+    OutputFolder& operator=(const OutputFolder&) = delete;
+
+    const QString& path() const { return iPath; }
+    void keep() { iKept = true; }
+
+private:
+    QString iPath;
+    QString iFirstMade; // the outermost folder that did not exist; null when all did
+    bool iKept = false;
+};

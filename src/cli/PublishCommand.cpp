@@ -1,0 +1,171 @@
+#include "cli/PublishCommand.h"
+
+#include "app/AppSettings.h"
+#include "cli/CommandError.h"
+#include "cli/Interrupt.h"
+#include "cli/OutputFolder.h"
+#include "cli/PageSelection.h"
+#include "cli/PublishTiming.h"
+#include "cli/TemplateChoice.h"
+#include "cli/Terminal.h"
+#include "output/FolveroOutput.h"
+#include "output/HTMLConfigInfo.h"
+#include "pages/ImportPDFOperation.h"
+#include "platform/Files.h"
+#include "platform/NotificationCenter.h"
+#include "platform/PDFDocument.h"
+#include "platform/PlatformException.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr int importDPI = 144;
+constexpr int interruptPollMilliseconds = 25;
+
+std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options) {
+    auto tmpl = TemplateChoice::load(options.templateName, options.styleName);
+    if (!options.settingsFile.isNull())
+        TemplateChoice::applySettingsFile(*tmpl, options.settingsFile);
+    for (const QString& assignment : options.assignments)
+        TemplateChoice::applyAssignment(*tmpl, assignment);
+    return tmpl;
+}
+
+QString htmlName(const PublishOptions& options) {
+    QString name = options.name;
+    if (name.endsWith(QStringLiteral(".html")))
+        name.chop(5);
+    if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.')) {
+        throw CommandError(
+            QStringLiteral("--name: \"%1\" can't be the name of a file").arg(options.name),
+            ExitCode::usage);
+    }
+    return name + QStringLiteral(".html");
+}
+
+std::shared_ptr<PDFDocument> openDocument(const QString& path) {
+    try {
+        auto document = PDFDocument::open(path);
+        if (document->pageCount() == 0)
+            throw CommandError(QStringLiteral("%1: the document has no pages").arg(path));
+        return document;
+    } catch (const PlatformException& failure) {
+        throw CommandError(failure.reason());
+    }
+}
+
+QString bookTitle(const PublishOptions& options, const PDFDocument& document) {
+    if (!options.title.isNull())
+        return options.title;
+    const QString own = document.information("Title").trimmed();
+    return own.isEmpty() ? QFileInfo(options.pdf).completeBaseName() : own;
+}
+
+// Runs the import on its queue and waits for it, passing Ctrl-C on.
+void importPages(const std::shared_ptr<ImportPDFOperation>& operation, bool quiet) {
+    ProgressDisplay progress(QStringLiteral("Drawing pages"), quiet);
+    const auto subscription = NotificationCenter::defaultCenter().addObserver(
+        QString::fromUtf16(ImportProgressInfoMSG), nullptr, [&](const Notification& message) {
+            if (message.userInfo[QStringLiteral("type")] == QStringLiteral("geneatePage")) {
+                progress.show(message.userInfo[QStringLiteral("pageIndex")].toInt(),
+                              message.userInfo[QStringLiteral("totalPage")].toInt());
+            }
+        });
+    OperationQueue queue;
+    queue.addOperation(operation);
+    while (!queue.waitFor(interruptPollMilliseconds)) {
+        if (Interrupt::wasRequested())
+            operation->cancel();
+    }
+}
+
+// The page source of a finished import, or the reason why there is none.
+std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& operation) {
+    if (operation.isCancelled())
+        throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
+    const auto source = std::dynamic_pointer_cast<FlashPageSourcePDF>(operation.flashPageSource());
+    if (!source)
+        throw CommandError(operation.failures().join(u'\n'));
+    for (const QString& failure : operation.failures())
+        Terminal::note(QStringLiteral("folvero: %1").arg(failure));
+    const auto& failed = source->toPageConverter()->failedPages();
+    if (failed.size() == source->pages().size()) {
+        throw CommandError(QStringLiteral("%1: none of the pages could be drawn (%2)")
+                               .arg(source->sourceFile(), failed.front().reason));
+    }
+    return source;
+}
+
+// The book's page size is that of the document's first page; it also goes into the template.
+void takePageSize(const PDFDocument& document, FlashTemplate& tmpl) {
+    const QRectF box = document.page(0).cropBox();
+    auto& settings = AppSettings::shareInstance();
+    settings.setPageWidth(int(box.width()));
+    settings.setPageHeight(int(box.height()));
+    tmpl.setPropertyValue(QStringLiteral("pageWidth"), QString::number(settings.PageWidth()));
+    tmpl.setPropertyValue(QStringLiteral("pageHeight"), QString::number(settings.PageHeight()));
+}
+
+void writeBook(FolveroOutput& output, const QString& title) {
+    auto html = std::make_shared<HTMLConfigInfo>();
+    html->setHTMLTitle(title.toHtmlEscaped());
+    output.setHTMLConfig(html);
+    output.setCancelled(Interrupt::wasRequested);
+    output.ouputTheBook();
+    if (output.wasCancelled())
+        throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
+    if (!output.publishErrors().isEmpty())
+        throw CommandError(output.publishErrors().join(u'\n'));
+}
+
+void reportFailedPages(const PDFToSWFPageConverter& converter) {
+    if (converter.failedPages().empty())
+        return;
+    QStringList lines;
+    for (const auto& page : converter.failedPages())
+        lines << QStringLiteral("  page %1: %2").arg(page.page).arg(page.reason);
+    throw CommandError(
+        QStringLiteral("the book was made, but %1 of its pages could not be drawn:\n")
+                .arg(converter.failedPages().size()) +
+            lines.join(u'\n'),
+        ExitCode::incomplete);
+}
+
+} // namespace
+
+void runPublish(const PublishOptions& options) {
+    PublishTiming timing;
+    Interrupt::watch();
+    const QString fileName = htmlName(options);
+    const auto tmpl = prepareTemplate(options);
+    const auto document = openDocument(options.pdf);
+    const PageSelection pages = selectPages(options.pages, document->pageCount());
+    if (!pages.missing.isEmpty()) {
+        Terminal::note(QStringLiteral("folvero: %1 has no page %2; the book goes without")
+                           .arg(options.pdf, pages.missing));
+    }
+    OutputFolder folder(options.outputFolder);
+    timing.opened();
+
+    const auto operation =
+        std::make_shared<ImportPDFOperation>(options.pdf, pages.range, importDPI, options.quality);
+    operation->setImportLinks(options.links);
+    operation->setImportBookmarks(options.bookmarks);
+    importPages(operation, options.quiet);
+    const auto source = importedPages(*operation);
+    timing.imported(*source);
+
+    takePageSize(*document, *tmpl);
+    FolveroOutput output(source, tmpl, folder.path(), fileName);
+    output.setFlashPagesAnnotations(operation->flashPagesAnnotation());
+    output.setFlashOutline(operation->flashOutline());
+    writeBook(output, bookTitle(options, *document));
+    folder.keep();
+    timing.published();
+    if (!options.timingFile.isNull())
+        timing.write(options.timingFile);
+
+    Terminal::print(output.outputFileName());
+    reportFailedPages(*source->toPageConverter());
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+// What "folvero publish" was asked to do.
+struct PublishOptions {
+    QString pdf;
+    QString outputFolder;
+    QString name = QStringLiteral("index");
+    QString title; // null: the document's own title, or else its file name
+    QString pages = QStringLiteral("ALL");
+    int quality = 100;
+    bool links = false;
+    bool bookmarks = false;
+    QString templateName = QStringLiteral("float");
+    QString styleName;
+    QString settingsFile;
+    QStringList assignments; // "key=value"
+    QString timingFile;
+    bool quiet = false;
+};
+
+// Makes a book from a PDF. Throws CommandError.
+void runPublish(const PublishOptions& options);

@@ -1,0 +1,44 @@
+#include "cli/PublishTiming.h"
+
+#include "cli/CommandError.h"
+#include "pages/FlashPageSourcePDF.h"
+#include "platform/Files.h"
+
+#include <QJsonDocument>
+#include <algorithm>
+
+double PublishTiming::lap() {
+    const auto now = std::chrono::steady_clock::now();
+    const double seconds = std::chrono::duration<double>(now - iLap).count();
+    iLap = now;
+    iSeconds[QStringLiteral("total")] = iSeconds[QStringLiteral("total")].toDouble() + seconds;
+    return seconds;
+}
+
+void PublishTiming::opened() {
+    iSeconds[QStringLiteral("open")] = lap();
+}
+
+void PublishTiming::imported(const FlashPageSourcePDF& source) {
+    const double seconds = lap();
+    const PageTiming& pages = source.toPageConverter()->timing();
+    const auto workers = double(std::max<std::size_t>(1, source.toPageConverter()->workerCount()));
+    iSeconds[QStringLiteral("import")] = seconds;
+    iSeconds[QStringLiteral("pages")] = double(source.pages().size());
+    iSeconds[QStringLiteral("workers")] = workers;
+    iSeconds[QStringLiteral("draw")] = pages.draw;
+    iSeconds[QStringLiteral("encode")] = pages.encode;
+    iSeconds[QStringLiteral("write")] = pages.write;
+    iSeconds[QStringLiteral("idle")] =
+        std::max(0.0, workers * seconds - pages.draw - pages.encode - pages.write);
+}
+
+void PublishTiming::published() {
+    iSeconds[QStringLiteral("publish")] = lap();
+}
+
+void PublishTiming::write(const QString& path) const {
+    QString error;
+    if (!Files::writeAtomically(path, QJsonDocument(iSeconds).toJson(), &error))
+        throw CommandError(QStringLiteral("%1: %2").arg(path, error));
+}

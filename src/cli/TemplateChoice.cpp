@@ -1,0 +1,143 @@
+#include "cli/TemplateChoice.h"
+
+#include "cli/CommandError.h"
+#include "platform/Files.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace {
+
+const FlashTemplateProperty* findIn(const FlashTemplate::Properties& nodes, const QString& key) {
+    for (const auto& node : nodes) {
+        if (node->key() == key)
+            return node.get();
+        if (const auto* found = findIn(node->childProperties(), key))
+            return found;
+    }
+    return nullptr;
+}
+
+[[noreturn]] void refuse(const QString& key, const QString& value, const QString& expected) {
+    throw CommandError(QStringLiteral("--set %1: \"%2\" is not %3").arg(key, value, expected),
+                       ExitCode::usage);
+}
+
+// The value as it is stored; files become full paths, since a book may be made from anywhere.
+QString checkedValue(const FlashTemplateProperty& property, const QString& value) {
+    static const QRegularExpression number(QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)$"));
+    static const QRegularExpression colour(QStringLiteral("^(0[xX]|#)?[0-9a-fA-F]{6}$"));
+    static const QRegularExpression boolean(QStringLiteral("^(yes|no|true|false)$"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    const QString key = property.key();
+    switch (property.propertyType()) {
+    case pt_number:
+        if (!number.match(value).hasMatch())
+            refuse(key, value, QStringLiteral("a number"));
+        return value;
+    case pt_color:
+        if (!colour.match(value).hasMatch())
+            refuse(key, value, QStringLiteral("a colour such as 0x1E90FF"));
+        return QStringLiteral("0x") + value.right(6);
+    case pt_list:
+        if (!TemplateChoice::choices(property).contains(value)) {
+            refuse(key, value,
+                   QStringLiteral("one of: %1")
+                       .arg(TemplateChoice::choices(property).join(QStringLiteral(", "))));
+        }
+        return value;
+    case pt_file:
+        if (value.isEmpty() || value.contains(QStringLiteral("STYLE_RESOURCE:")))
+            return value;
+        if (!QFileInfo(value).isFile())
+            refuse(key, value, QStringLiteral("an existing file"));
+        return QFileInfo(value).absoluteFilePath();
+    case pt_bool:
+        if (!boolean.match(value).hasMatch())
+            refuse(key, value, QStringLiteral("YES or NO"));
+        return StringUtil::valueAsBool(value) ? QStringLiteral("YES") : QStringLiteral("NO");
+    default:
+        return value;
+    }
+}
+
+} // namespace
+
+QStringList TemplateChoice::templateNames() {
+    QStringList names;
+    for (const QString& path : FlashTemplate::tmplNames()) {
+        if (QFileInfo::exists(Files::join(path, QStringLiteral("flashTemplate.xml"))))
+            names << Files::lastPathComponent(path);
+    }
+    names.sort();
+    return names;
+}
+
+QStringList TemplateChoice::styleNames(const QString& templateName) {
+    QStringList names;
+    for (const QString& path : FlashTemplate::tmplStyleNamesForTmpl(templateName)) {
+        if (QFileInfo::exists(Files::join(path, QStringLiteral("tmplSetting.txt"))))
+            names << Files::lastPathComponent(path);
+    }
+    names.sort();
+    return names;
+}
+
+const FlashTemplateProperty* TemplateChoice::findProperty(const FlashTemplate& tmpl,
+                                                          const QString& key) {
+    return findIn(tmpl.properties(), key);
+}
+
+QStringList TemplateChoice::choices(const FlashTemplateProperty& property) {
+    return property.propertyType() == pt_list ? property.valueSource().split(u',') : QStringList();
+}
+
+std::shared_ptr<FlashTemplate> TemplateChoice::load(const QString& templateName,
+                                                    const QString& styleName) {
+    if (!templateNames().contains(templateName)) {
+        throw CommandError(QStringLiteral("there is no template \"%1\"; there are: %2")
+                               .arg(templateName, templateNames().join(QStringLiteral(", "))));
+    }
+    if (!styleName.isEmpty() && !styleNames(templateName).contains(styleName)) {
+        throw CommandError(
+            QStringLiteral("the template \"%1\" has no style \"%2\"; it has: %3")
+                .arg(templateName, styleName, styleNames(templateName).join(QStringLiteral(", "))));
+    }
+    auto tmpl = std::make_shared<FlashTemplate>();
+    if (!styleName.isEmpty())
+        tmpl->changeTmplTo(templateName, FlashTemplate::stylePathFor(templateName, styleName));
+    else if (templateName != tmpl->tmplName())
+        tmpl->loadTemplate(templateName);
+    if (!tmpl->loadError().isNull())
+        throw CommandError(tmpl->loadError());
+    return tmpl;
+}
+
+void TemplateChoice::applySettingsFile(FlashTemplate& tmpl, const QString& path) {
+    QFile file(path);
+    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
+        throw CommandError(QStringLiteral("%1: the settings file can't be read (%2)")
+                               .arg(path, QFileInfo(path).isDir() ? QStringLiteral("is a folder")
+                                                                  : file.errorString()));
+    }
+    file.close();
+    tmpl.importPropertiesSettingsFrom(path);
+}
+
+void TemplateChoice::applyAssignment(FlashTemplate& tmpl, const QString& assignment) {
+    const qsizetype equals = assignment.indexOf(u'=');
+    if (equals <= 0) {
+        throw CommandError(QStringLiteral("--set takes KEY=VALUE, not \"%1\"").arg(assignment),
+                           ExitCode::usage);
+    }
+    const QString key = assignment.left(equals);
+    const FlashTemplateProperty* property = findProperty(tmpl, key);
+    if (!property) {
+        throw CommandError(QStringLiteral("--set: the template \"%1\" has no property \"%2\"; "
+                                          "\"folvero templates\" lists them")
+                               .arg(tmpl.tmplName(), key),
+                           ExitCode::usage);
+    }
+    tmpl.setPropertyValue(key, checkedValue(*property, assignment.mid(equals + 1)));
+}

@@ -1,0 +1,58 @@
+#include "cli/Terminal.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+constexpr int barWidth = 30;
+constexpr std::chrono::milliseconds redrawInterval{50};
+
+void write(std::FILE* file, const QString& text) {
+    const QByteArray bytes = text.toLocal8Bit();
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), file);
+    std::fflush(file);
+}
+
+} // namespace
+
+void Terminal::print(const QString& line) {
+    write(stdout, line + u'\n');
+}
+
+void Terminal::note(const QString& line) {
+    write(stderr, line + u'\n');
+}
+
+ProgressDisplay::ProgressDisplay(QString title, bool quiet)
+    : iTitle(std::move(title)), iQuiet(quiet), iTerminal(::isatty(STDERR_FILENO) != 0) {}
+
+ProgressDisplay::~ProgressDisplay() {
+    if (iBarShown)
+        write(stderr, QStringLiteral("\r\033[K"));
+}
+
+void ProgressDisplay::show(int done, int total) {
+    if (iQuiet || total <= 0)
+        return;
+    if (iTerminal) {
+        drawBar(done, total);
+        return;
+    }
+    const int tenth = int(10LL * done / total);
+    if (tenth > iLastTenth) {
+        iLastTenth = tenth;
+        Terminal::note(QStringLiteral("%1: %2 of %3").arg(iTitle).arg(done).arg(total));
+    }
+}
+
+void ProgressDisplay::drawBar(int done, int total) {
+    const auto now = std::chrono::steady_clock::now();
+    if (now < iNextDraw && done < total)
+        return;
+    iNextDraw = now + redrawInterval;
+    const int filled = int(qint64(barWidth) * done / total);
+    const QString bar = QString(filled, u'#') + QString(barWidth - filled, u'.');
+    write(stderr, QStringLiteral("\r%1 [%2] %3/%4\033[K").arg(iTitle, bar).arg(done).arg(total));
+    iBarShown = true;
+}

@@ -1,0 +1,158 @@
+#include "annotations/FlashPagesAnnotationsPDF.h"
+
+#include "platform/PlatformException.h"
+#include "support/PDFBuilder.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <map>
+#include <sstream>
+
+namespace {
+
+class FlashPagesAnnotationsPDFTest : public testing::Test {
+protected:
+    std::shared_ptr<PDFDocument> open(const PDFBuilder& builder) {
+        const QString path = iFolder.filePath(QStringLiteral("links.pdf"));
+        EXPECT_TRUE(builder.write(path));
+        return PDFDocument::open(path);
+    }
+
+    QTemporaryDir iFolder;
+};
+
+std::string asText(const pugi::xml_node& node) {
+    std::ostringstream stream;
+    node.print(stream, "", pugi::format_raw);
+    return stream.str();
+}
+
+std::string location(const pugi::xml_node& anno) {
+    std::string text;
+    for (const auto& attribute : anno.child("location").attributes())
+        text += std::string(attribute.name()) + '=' + attribute.value() + ' ';
+    return text;
+}
+
+PDFBuilder::Page pageOf(const QSizeF& size, std::vector<QByteArray> annotations = {}) {
+    PDFBuilder::Page page;
+    page.mediaBox = QRectF({0, 0}, size);
+    page.annotations = std::move(annotations);
+    return page;
+}
+
+} // namespace
+
+TEST_F(FlashPagesAnnotationsPDFTest, WritesWebAndPageLinksPerImportedPage) {
+    PDFBuilder builder;
+    const QRectF rect(60, 700, 120, 40);
+    builder.addPage(pageOf({600, 800}));
+    builder.addPage(pageOf({600, 800}));
+    builder.addPage(
+        pageOf({600, 800},
+               {PDFBuilder::link(rect, PDFBuilder::toURL("https://example.org/?a=1&b=2")),
+                PDFBuilder::link(rect, PDFBuilder::toDestination(builder.destination(4))),
+                PDFBuilder::link(rect, {}), PDFBuilder::annotation("Text", rect),
+                PDFBuilder::link(rect, PDFBuilder::toURL("https://example.org/") +
+                                           PDFBuilder::toDestination(builder.destination(0)))}));
+    builder.addPage(pageOf({600, 800}));
+    builder.addPage(pageOf({600, 800}));
+
+    FlashPagesAnnotationsPDF annotations;
+    annotations.setNeedFiles({QStringLiteral("/left/over")});
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("3,1"));
+    EXPECT_TRUE(annotations.needFiles().isEmpty());
+    const std::string place = R"(<location x="0.100000" y="0.075000" width="0.200000" )"
+                              R"(height="0.050000"/></anno>)";
+    const std::string link = R"(<anno annotype="com.quenlix.flipbook.pageeditor.TAnnoLink">)"
+                             R"(<action triggerEventType="mouseDown" actionType=")"
+                             R"(com.quenlix.flipbook.pageeditor.)";
+    EXPECT_EQ(asText(annotations.pagesAnnotationsNode()),
+              R"(<pagesAnnos><pageAnnos pageIndex="1"/><pageAnnos pageIndex="2">)" + link +
+                  R"(TAnnoActionOpenURL"><url>https://example.org/?a=1&amp;b=2</url></action>)" +
+                  place + link + R"(TAnnoActionGotoPage"><pageIndex>5</pageIndex></action>)" +
+                  place + link + R"(TAnnoActionOpenURL"><url>https://example.org/</url></action>)" +
+                  place + "</pageAnnos></pagesAnnos>");
+}
+
+TEST_F(FlashPagesAnnotationsPDFTest, FollowsEveryFormOfDestination) {
+    PDFBuilder builder;
+    const QRectF rect(0, 0, 10, 10);
+    builder.addNamedDestination("new", builder.destination(1));
+    builder.addOldNamedDestination("old", builder.destination(2));
+    builder.addPage(
+        pageOf({100, 100},
+               {PDFBuilder::link(rect, PDFBuilder::toName("new")),
+                PDFBuilder::link(rect, PDFBuilder::toOldName("old")),
+                PDFBuilder::link(rect, PDFBuilder::toDestinationByAction(builder.destination(2))),
+                PDFBuilder::link(rect, PDFBuilder::toName("unknown"))}));
+    builder.addPage(pageOf({100, 100}));
+    builder.addPage(pageOf({100, 100}));
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("1"));
+    std::string targets;
+    for (const auto& anno : annotations.pagesAnnotationsNode().first_child().children())
+        targets += anno.child("action").child("pageIndex").text().get() + std::string(" ");
+    EXPECT_EQ(targets, "2 3 3 ");
+}
+
+TEST_F(FlashPagesAnnotationsPDFTest, KeepsThePlayersArithmeticOnTurnedAndCroppedPages) {
+    struct Case {
+        int rotate;
+        const char* location;
+    };
+    // Bounds x 60, y 700, w 120, h 40 on a page of 600 by 800.
+    const std::vector<Case> cases{
+        {0, "x=0.100000 y=0.075000 width=0.200000 height=0.050000 "},
+        {90, "x=0.300000 y=0.075000 width=0.066667 height=0.150000 "},
+        {180, "x=0.300000 y=0.125000 width=0.200000 height=0.050000 "},
+        {270, "x=0.100000 y=0.125000 width=0.066667 height=0.150000 "},
+        {45, "x=0.000000 y=1.000000 width=0.000000 height=0.000000 "},
+    };
+    PDFBuilder builder;
+    const auto link =
+        PDFBuilder::link(QRectF(60, 700, 120, 40), PDFBuilder::toURL("https://example.org/"));
+    for (const Case& each : cases) {
+        auto page = pageOf({600, 800}, {link});
+        page.rotate = each.rotate;
+        builder.addPage(page);
+    }
+    // Only the size of the crop box counts, not its origin.
+    auto cropped = pageOf({900, 900}, {link});
+    cropped.cropBox = QRectF(30, 40, 600, 800);
+    builder.addPage(cropped);
+
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("ALL"));
+    auto page = annotations.pagesAnnotationsNode().first_child();
+    for (const Case& each : cases) {
+        EXPECT_EQ(location(page.first_child()), each.location) << each.rotate;
+        page = page.next_sibling();
+    }
+    EXPECT_EQ(location(page.first_child()), cases[0].location);
+}
+
+TEST_F(FlashPagesAnnotationsPDFTest, FailsOnAPageThatTheDocumentLacks) {
+    PDFBuilder builder;
+    builder.addPage(pageOf({100, 100}));
+    FlashPagesAnnotationsPDF annotations;
+    EXPECT_THROW(annotations.loadLinksFromPDF(open(builder), QStringLiteral("2")),
+                 PlatformException);
+}
+
+TEST_F(FlashPagesAnnotationsPDFTest, ReadsTheSameLinksOnePageAtATimeWhenIdle) {
+    PDFBuilder builder;
+    const auto link = PDFBuilder::link(QRectF(0, 0, 9, 9), PDFBuilder::toURL("https://a.org/"));
+    for (int i = 0; i < 3; ++i)
+        builder.addPage(pageOf({100, 100}, {link}));
+    const auto document = open(builder);
+    FlashPagesAnnotationsPDF atOnce;
+    atOnce.loadLinksFromPDF(document, QStringLiteral("ALL"));
+    FlashPagesAnnotationsPDF whenIdle;
+    whenIdle.loadLinksSyncsFromPDF(document, QStringLiteral("ALL"));
+    EXPECT_FALSE(whenIdle.pagesAnnotationsNode().first_child());
+    for (int i = 0; i < 20; ++i)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(asText(whenIdle.pagesAnnotationsNode()), asText(atOnce.pagesAnnotationsNode()));
+}

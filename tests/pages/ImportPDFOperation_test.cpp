@@ -1,0 +1,106 @@
+#include "pages/ImportPDFOperation.h"
+
+#include "platform/NotificationCenter.h"
+#include "support/PDFBuilder.h"
+#include "support/RecordedLog.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+class ImportPDFOperationTest : public testing::Test {
+protected:
+    void SetUp() override {
+        PDFBuilder builder;
+        for (int i = 0; i < 3; ++i) {
+            PDFBuilder::Page page;
+            page.mediaBox = QRectF(0, 0, 100, 100);
+            page.annotations = {PDFBuilder::link(QRectF(10, 10, 20, 20),
+                                                 PDFBuilder::toURL("https://example.org/"))};
+            builder.addPage(page);
+        }
+        builder.setOutline({{QStringLiteral("Start"), {}, {}}});
+        iPath = iFolder.filePath(QStringLiteral("three.pdf"));
+        ASSERT_TRUE(builder.write(iPath));
+    }
+
+    QTemporaryDir iFolder;
+    QString iPath;
+};
+
+// Cancels the operation as soon as a page was drawn.
+class CancellingObserver {
+public:
+    explicit CancellingObserver(ImportPDFOperation& operation)
+        : iSubscription(NotificationCenter::defaultCenter().addObserver(
+              QString::fromUtf16(ImportProgressInfoMSG), nullptr,
+              [&operation](const Notification&) { operation.cancel(); })) {}
+
+private:
+    NotificationCenter::Subscription iSubscription;
+};
+
+} // namespace
+
+TEST_F(ImportPDFOperationTest, LeavesOutWhatWasNotAskedFor) {
+    ImportPDFOperation operation(iPath, QStringLiteral("ALL"), 144, 100);
+    operation.main();
+    ASSERT_TRUE(operation.flashPageSource());
+    EXPECT_EQ(operation.flashPageSource()->normalPages().size(), 3U);
+    EXPECT_FALSE(operation.flashPagesAnnotation());
+    EXPECT_FALSE(operation.flashOutline());
+    EXPECT_TRUE(operation.failures().isEmpty());
+}
+
+TEST_F(ImportPDFOperationTest, ReadsLinksAndBookmarksWhenAskedToAndTellsWhenItIsFinished) {
+    const auto operation =
+        std::make_shared<ImportPDFOperation>(iPath, QStringLiteral("2-3"), 144, 100);
+    operation->setImportLinks(true);
+    operation->setImportBookmarks(true);
+    bool finishedWhenTold = false;
+    operation->setFinishedObserver([&] { finishedWhenTold = operation->isFinished(); });
+    OperationQueue queue;
+    queue.addOperation(operation);
+    queue.waitUntilAllOperationsAreFinished();
+
+    EXPECT_TRUE(finishedWhenTold);
+    const auto pages = operation->flashPagesAnnotation()->pagesAnnotationsNode();
+    EXPECT_EQ(std::distance(pages.begin(), pages.end()), 2);
+    ASSERT_EQ(operation->flashOutline()->items().size(), 1U);
+    EXPECT_EQ(operation->flashOutline()->items()[0]->caption(), QStringLiteral("Start"));
+}
+
+TEST_F(ImportPDFOperationTest, DropsThePagesWhenOneIsMissingAndStillListsPagesForLinks) {
+    const RecordedLog log(Log::Level::error);
+    ImportPDFOperation operation(iPath, QStringLiteral("2,9"), 144, 100);
+    operation.setImportLinks(true);
+    operation.setImportBookmarks(true);
+    operation.main();
+    EXPECT_FALSE(operation.flashPageSource());
+    ASSERT_EQ(log.texts().size(), 1);
+    EXPECT_TRUE(
+        log.texts()[0].startsWith(QStringLiteral("Run Import PDF Operation error,import pages:")));
+    EXPECT_TRUE(operation.failures()[0].contains(QStringLiteral("page 9 does not exist")));
+
+    const auto pages = operation.flashPagesAnnotation()->pagesAnnotationsNode();
+    ASSERT_EQ(std::distance(pages.begin(), pages.end()), 2);
+    EXPECT_FALSE(pages.first_child().first_child()); // no document is left to read links from
+    EXPECT_TRUE(operation.flashOutline()->items().empty());
+}
+
+TEST_F(ImportPDFOperationTest, EmptiesItsResultsWhenCancelled) {
+    ImportPDFOperation beforehand(iPath, QStringLiteral("ALL"), 144, 100);
+    beforehand.cancel();
+    beforehand.main();
+    EXPECT_FALSE(beforehand.flashPageSource());
+
+    ImportPDFOperation underway(iPath, QStringLiteral("ALL"), 144, 100);
+    underway.setImportLinks(true);
+    underway.setImportBookmarks(true);
+    const CancellingObserver observer(underway);
+    underway.main();
+    EXPECT_FALSE(underway.flashPageSource());
+    EXPECT_FALSE(underway.flashPagesAnnotation());
+    EXPECT_FALSE(underway.flashOutline());
+}

@@ -1,0 +1,225 @@
+#include "platform/PDFDocument.h"
+
+#include "platform/EngineLimits.h"
+#include "platform/PlatformException.h"
+#include "support/PDFBuilder.h"
+#include "support/PixelCheck.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+class PDFDocumentTest : public testing::Test {
+protected:
+    QString writeBytes(const QByteArray& bytes) {
+        const QString path = iFolder.filePath(QStringLiteral("test.pdf"));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return path;
+    }
+
+    std::shared_ptr<PDFDocument> open(const PDFBuilder& builder) {
+        return PDFDocument::open(writeBytes(builder.build()));
+    }
+
+    QString openFailure(const QByteArray& bytes) {
+        try {
+            PDFDocument::open(writeBytes(bytes));
+        } catch (const PlatformException& failure) {
+            return failure.reason();
+        }
+        return QStringLiteral("opened");
+    }
+
+    QTemporaryDir iFolder;
+};
+
+PDFBuilder::Page pageWith(const QByteArray& content, const QRectF& box = {0, 0, 200, 100}) {
+    PDFBuilder::Page page;
+    page.mediaBox = box;
+    page.content = content;
+    return page;
+}
+
+// A page with its lower left quarter red.
+constexpr char redCorner[] = "1 0 0 rg 0 0 100 50 re f";
+
+QImage draw(const PDFDocument& document, int index, double scale = 1) {
+    PageBitmap bitmap;
+    document.page(index).draw(scale, bitmap);
+    const bool gray = bitmap.components() == 1;
+    return QImage(bitmap.data(), bitmap.width(), bitmap.height(), bitmap.stride(),
+                  gray ? QImage::Format_Grayscale8 : QImage::Format_RGB888)
+        .copy();
+}
+
+} // namespace
+
+TEST_F(PDFDocumentTest, SaysWhyAFileCannotBeOpened) {
+    PDFBuilder locked;
+    locked.addPage(pageWith("0 0 1 1 re f"));
+    locked.encrypt("secret", "owner");
+
+    EXPECT_TRUE(openFailure("").endsWith(QStringLiteral("test.pdf: the file is empty")));
+    EXPECT_TRUE(openFailure("Dear reader, this is a letter.")
+                    .endsWith(QStringLiteral("test.pdf: is not a PDF document")));
+    EXPECT_TRUE(openFailure("%PDF-1.4\nnothing follows")
+                    .contains(QStringLiteral("test.pdf: is damaged beyond repair")));
+    EXPECT_TRUE(openFailure(locked.build())
+                    .endsWith(QStringLiteral("test.pdf: is protected by a password")));
+    EXPECT_THROW(PDFDocument::open(iFolder.path()), PlatformException);
+}
+
+TEST_F(PDFDocumentTest, OpensADocumentLockedWithAnEmptyPassword) {
+    PDFBuilder builder;
+    builder.addPage(pageWith(redCorner));
+    builder.encrypt("", "owner");
+    EXPECT_TRUE(isNear(colourAt(draw(*open(builder), 0), 0.1, 0.9), Qt::red));
+}
+
+TEST_F(PDFDocumentTest, RepairsADocumentWithoutItsCrossReferences) {
+    PDFBuilder builder;
+    builder.addPage(pageWith(redCorner));
+    QByteArray bytes = builder.build();
+    bytes.truncate(bytes.lastIndexOf("xref\n0"));
+    EXPECT_EQ(PDFDocument::open(writeBytes(bytes))->pageCount(), 1);
+}
+
+TEST_F(PDFDocumentTest, DrawsPagesTheWayTheyAreTurned) {
+    struct Case {
+        int rotate;
+        int reported;
+        QSizeF size;
+        QPointF red; // fractions from the upper left corner
+    };
+    const std::vector<Case> cases{
+        {0, 0, {200, 100}, {0.1, 0.9}},     {90, 90, {100, 200}, {0.1, 0.1}},
+        {180, 180, {200, 100}, {0.9, 0.1}}, {270, 270, {100, 200}, {0.9, 0.9}},
+        {-90, 270, {100, 200}, {0.9, 0.9}}, {450, 90, {100, 200}, {0.1, 0.1}},
+    };
+    PDFBuilder builder;
+    for (const Case& each : cases) {
+        auto page = pageWith(redCorner);
+        page.rotate = each.rotate;
+        builder.addPage(page);
+    }
+    const auto document = open(builder);
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const Case& each = cases[i];
+        const PDFPage page = document->page(int(i));
+        EXPECT_EQ(page.rotation(), each.reported) << each.rotate;
+        EXPECT_EQ(page.displaySize(), each.size) << each.rotate;
+        const QImage image = draw(*document, int(i));
+        EXPECT_EQ(image.size(), each.size.toSize()) << each.rotate;
+        EXPECT_TRUE(isNear(colourAt(image, each.red.x(), each.red.y()), Qt::red)) << each.rotate;
+        EXPECT_TRUE(isNear(colourAt(image, 1 - each.red.x(), each.red.y()), Qt::white))
+            << each.rotate;
+    }
+}
+
+TEST_F(PDFDocumentTest, ShowsTheCropBoxWithinTheMediaBox) {
+    auto shifted = pageWith("0 0 1 rg 50 20 50 30 re f", {0, 0, 200, 100});
+    shifted.cropBox = QRectF(50, 20, 50, 30);
+    auto beyond = pageWith("", {-10, -10, 100, 100});
+    beyond.cropBox = QRectF(0, 0, 500, 500);
+    PDFBuilder builder;
+    builder.addPage(shifted);
+    builder.addPage(beyond);
+    PDFBuilder::PageAttributes inherited;
+    inherited.rotate = 90;
+    builder.setInherited(inherited);
+    const auto document = open(builder);
+
+    EXPECT_EQ(document->page(0).cropBox(), QRectF(50, 20, 50, 30));
+    EXPECT_EQ(document->page(0).mediaBox(), QRectF(0, 0, 200, 100));
+    EXPECT_EQ(document->page(1).cropBox(), QRectF(0, 0, 90, 90));
+    EXPECT_EQ(document->page(0).rotation(), 90);
+    const QImage image = draw(*document, 0);
+    EXPECT_EQ(image.size(), QSize(30, 50));
+    EXPECT_TRUE(isNear(colourAt(image, 0.02, 0.02), Qt::blue));
+    EXPECT_TRUE(isNear(colourAt(image, 0.97, 0.97), Qt::blue));
+}
+
+TEST_F(PDFDocumentTest, DrawsWithoutColourWhatHasNone) {
+    PDFBuilder builder;
+    const QByteArray grayPixels(3 * 4, char(0x80));
+    auto grayButRGB = pageWith("200 0 0 100 0 0 cm /I Do");
+    grayButRGB.xObjects["I"] = builder.addRGBImage({2, 2}, grayPixels);
+    builder.addPage(pageWith("0.5 g 0 0 200 100 re f"));
+    builder.addPage(grayButRGB);
+    builder.addPage(pageWith("0.5 0.5 0.51 rg 0 0 200 100 re f"));
+    builder.addPage(pageWith("0.5 0.4 0.6 rg 0 0 1 1 re f"));
+    const auto document = open(builder);
+    EXPECT_EQ(draw(*document, 0).format(), QImage::Format_Grayscale8);
+    const QImage scan = draw(*document, 1);
+    EXPECT_EQ(scan.format(), QImage::Format_Grayscale8);
+    EXPECT_TRUE(isNear(colourAt(scan, 0.9, 0.9), QColor(128, 128, 128)));
+    EXPECT_EQ(draw(*document, 2).format(), QImage::Format_RGB888);
+    EXPECT_EQ(draw(*document, 3).format(), QImage::Format_RGB888);
+}
+
+// Blending needs the page as a picture of its own: on white paper the difference to white shows.
+TEST_F(PDFDocumentTest, BlendsWithinThePageNotWithThePaper) {
+    PDFBuilder builder;
+    auto plain = pageWith("0 0 1 rg 0 0 200 100 re f");
+    plain.extraEntries = "/Group << /S /Transparency /I true /CS /DeviceRGB >>";
+    builder.addPage(plain);
+    auto blended = pageWith("/D gs 1 1 0 rg 0 0 200 100 re f");
+    const int state = builder.addObject("<< /BM /Difference >>");
+    blended.extraEntries = "/Resources << /ExtGState << /D " + PDFBuilder::reference(state) +
+                           " >> >> /Group << /S /Transparency /I true /CS /DeviceRGB >>";
+    builder.addPage(blended);
+    const auto document = open(builder);
+    EXPECT_TRUE(isNear(colourAt(draw(*document, 0), 0.5, 0.5), Qt::blue));
+    EXPECT_TRUE(isNear(colourAt(draw(*document, 1), 0.5, 0.5), Qt::yellow));
+}
+
+TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
+    PDFBuilder builder;
+    builder.addPage(pageWith(redCorner, {0, 0, 14400, 14400}));
+    builder.addPage(pageWith("", {0, 0, 30000, 10}));
+    const auto document = open(builder);
+    PageBitmap bitmap;
+    document->page(0).draw(2, bitmap);
+    EXPECT_LE(std::size_t(bitmap.width()) * std::size_t(bitmap.height()),
+              EngineLimits::maxBitmapPixels * 101 / 100);
+    EXPECT_EQ(bitmap.width(), bitmap.height());
+    document->page(1).draw(2, bitmap);
+    EXPECT_EQ(bitmap.width(), EngineLimits::maxBitmapSide);
+}
+
+TEST_F(PDFDocumentTest, GivesUpAPageThatNeverEnds) {
+    PDFBuilder builder;
+    builder.addPage(pageWith(QByteArray("0 0 200 100 re f ").repeated(3'000'000)));
+    PageBitmap bitmap;
+    DrawControl control;
+    control.timeLimit = std::chrono::milliseconds(50);
+    try {
+        open(builder)->page(0).draw(2, bitmap, control);
+        FAIL() << "the page was drawn";
+    } catch (const PlatformException& failure) {
+        EXPECT_EQ(failure.name(), QStringLiteral("PDFPageTimeout"));
+    }
+}
+
+TEST_F(PDFDocumentTest, ReadsOutlinesThatRunInCirclesOnce) {
+    PDFBuilder builder;
+    builder.addPage(pageWith(""));
+    const int outlines = builder.reserveObject();
+    const int first = builder.reserveObject();
+    const int second = builder.reserveObject();
+    const auto entry = [](const char* title, const QByteArray& links) {
+        return QByteArray("<< /Title (") + title + ") " + links + " >>";
+    };
+    builder.setObject(outlines, "<< /First " + PDFBuilder::reference(first) + " >>");
+    builder.setObject(first, entry("one", "/Next " + PDFBuilder::reference(second) + " /First " +
+                                              PDFBuilder::reference(first)));
+    builder.setObject(second, entry("two", "/Next " + PDFBuilder::reference(first)));
+    builder.addCatalogEntries("/Outlines " + PDFBuilder::reference(outlines));
+    const auto outline = open(builder)->outline();
+    ASSERT_EQ(outline.size(), 2U);
+    EXPECT_EQ(outline[1].label, QStringLiteral("two"));
+    EXPECT_TRUE(outline[0].children.empty());
+}

@@ -1,0 +1,34 @@
+#!/bin/sh
+# Installs the Debian packages of tools/packages.txt that are missing, and Node.js with npm where the
+# machine has none. Quick when nothing is missing.
+set -eu
+cd "$(dirname "$0")/.."
+
+wanted=$(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' tools/packages.txt)
+command -v node >/dev/null 2>&1 || wanted="$wanted nodejs"
+command -v npm >/dev/null 2>&1 || wanted="$wanted npm"
+
+# shellcheck disable=SC2086 # one word a package
+installed=$(dpkg-query -W -f '${Package} ${Status}\n' $wanted 2>/dev/null |
+    sed -n 's/ install ok installed$//p' | sort -u)
+missing=
+for package in $wanted; do
+    printf '%s\n' "$installed" | grep -qx "$package" || missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+if [ "$(id -u)" -eq 0 ]; then
+    as_root=env
+elif command -v sudo >/dev/null 2>&1; then
+    as_root='sudo env'
+else
+    echo "These Debian packages are missing:$missing" >&2
+    echo "Install them as root (apt-get install$missing), or install sudo, and try again." >&2
+    exit 1
+fi
+echo "Installing Debian packages:$missing"
+# shellcheck disable=SC2086
+{
+    $as_root apt-get update -qq
+    $as_root DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends -qq $missing >/dev/null
+}
