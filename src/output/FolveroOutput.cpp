@@ -315,15 +315,20 @@ void FolveroOutput::copyTemplateFile(const QString& name, TemplateCopy copy,
 
 void FolveroOutput::ouputBookXML(const QString& path) {
     const QString failureMessage = QStringLiteral("Could not write document out...");
-    bool done = false;
+    const QString folder = parentOf(path);
+    if (!iTransaction && !QFileInfo(folder).isDir()) {
+        forgetLastRun();
+        iPublishErrors << QStringLiteral("%1: There is no such folder").arg(folder);
+        Log::system(failureMessage);
+        return;
+    }
     try {
-        done = perform(parentOf(path), [&] { stageBookXML(path); });
+        if (!perform(folder, [&] { stageBookXML(path); }) && !iWasCancelled)
+            Log::system(failureMessage);
     } catch (const PlatformException&) {
         Log::system(failureMessage);
         throw;
     }
-    if (!done && !iWasCancelled)
-        Log::system(failureMessage);
 }
 
 void FolveroOutput::stageBookXML(const QString& path) {

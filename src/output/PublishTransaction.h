@@ -20,7 +20,7 @@ public:
     // own.
     enum class Copy { independent, mayShare };
 
-    // The folder must exist.
+    // Makes the folder if it is missing.
     explicit PublishTransaction(const QString& folder);
     // Unless a commit came to its end, undoes all that was done.
     ~PublishTransaction();

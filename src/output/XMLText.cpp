@@ -15,8 +15,8 @@ QString XMLText::legal(const QString& text) {
     QString result;
     result.reserve(text.size());
     for (qsizetype i = 0; i < text.size(); ++i) {
-        const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() &&
-                            text[i + 1].isLowSurrogate();
+        const bool isPair =
+            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         if (isPair)
             result += text[i++];
         if (isPair || isLegal(text[i]))

@@ -10,6 +10,7 @@
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -24,6 +25,8 @@ public:
     Descriptor& operator=(const Descriptor&) = delete;
     int number() const { return iNumber; }
     bool isOpen() const { return iNumber >= 0; }
+    // Network file systems tell only now that the disk is full.
+    bool close() { return ::close(std::exchange(iNumber, -1)) == 0; }
 
 private:
     int iNumber;
@@ -73,7 +76,9 @@ bool copyBytes(int from, int to) {
 
 bool Files::writeAtomically(const QString& path, const QByteArray& data, QString* error) {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit())
+    // commit() flushes too, but takes no notice of a failure.
+    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush() &&
+        file.commit())
         return true;
     if (error)
         *error = file.errorString();
@@ -100,10 +105,10 @@ bool Files::copy(const QString& source, const QString& target, QString* error) {
     if (!from.isOpen())
         return fail(error);
     const QByteArray name = QFile::encodeName(target);
-    const Descriptor to(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    Descriptor to(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (!to.isOpen())
         return fail(error);
-    if (copyBytes(from.number(), to.number()))
+    if (copyBytes(from.number(), to.number()) && to.close())
         return true;
     const bool result = fail(error);
     ::unlink(name.constData());

@@ -2,6 +2,7 @@
 
 #include "template/TextDecoding.h"
 
+#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QThread>
 #include <memory>
@@ -16,6 +17,9 @@ constexpr qsizetype maximumBytes = 4 << 20;
 constexpr qsizetype maximumTags = 20'000;
 constexpr uint stackBytes = 64U << 20;
 
+// Some malformed text costs the library time that grows with the square of its length.
+constexpr qint64 maximumMilliseconds = 2000;
+
 class Buffer {
 public:
     Buffer() { tidyBufInit(&iBuffer); }
@@ -29,6 +33,40 @@ public:
 
 private:
     TidyBuffer iBuffer{};
+};
+
+// Feeds text to the library until the time is up.
+class Source {
+public:
+    explicit Source(const QByteArray& text) : iText(text) {
+        iClock.start();
+        tidyInitSource(&iSource, this, &Source::next, &Source::back, &Source::atEnd);
+    }
+    Source(const Source&) = delete;
+    Source& operator=(const Source&) = delete;
+    TidyInputSource* get() { return &iSource; }
+    bool isLate() const { return iClock.hasExpired(maximumMilliseconds); }
+
+private:
+    static int next(void* data) {
+        auto& self = *static_cast<Source*>(data);
+        constexpr qsizetype bytesBetweenChecks = 64;
+        if (self.iPosition % bytesBetweenChecks == 0 && self.isLate())
+            self.iPosition = self.iText.size();
+        if (self.iPosition == self.iText.size())
+            return static_cast<int>(EndOfStream);
+        return static_cast<unsigned char>(self.iText[self.iPosition++]);
+    }
+    static void back(void* data, byte) { --static_cast<Source*>(data)->iPosition; }
+    static Bool atEnd(void* data) {
+        const auto& self = *static_cast<const Source*>(data);
+        return self.iPosition == self.iText.size() ? yes : no;
+    }
+
+    const QByteArray iText;
+    qsizetype iPosition = 0;
+    QElapsedTimer iClock;
+    TidyInputSource iSource{};
 };
 
 void setOptions(TidyDoc document) {
@@ -62,7 +100,8 @@ QByteArray repairHere(const QByteArray& text) {
     const std::unique_ptr<const _TidyDoc, Release> document(tidyCreate(), release);
     setOptions(document.get());
     tidySetErrorBuffer(document.get(), messages.get());
-    if (tidyParseString(document.get(), withSpacePreserved(text).constData()) < 0 ||
+    Source source(withSpacePreserved(text));
+    if (tidyParseSource(document.get(), source.get()) < 0 || source.isLate() ||
         tidySaveBuffer(document.get(), output.get()) < 0)
         return {};
     return output.bytes();

@@ -1,11 +1,13 @@
 #include "output/ImageSize.h"
 
+#include "output/ImageResolution.h"
 #include "support/TemplateLibrary.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
@@ -96,12 +98,16 @@ TEST(ImageSize, IsZeroForWhatIsNoImage) {
     EXPECT_EQ(measured("\xff\xd8\xff\xe1\xff"), QSize(0, 0));
 }
 
-TEST(ImageSize, SurvivesHeadsCutAnywhere) {
-    const QByteArray jpeg = jpegWithoutJfif().insert(2, exif(300, 2));
-    const QByteArray png = encoded("PNG", 11811);
-    for (int length = 0; length < 120; ++length) {
-        measured(jpeg.left(length));
-        measured(png.left(length));
+TEST(ImageResolution, IsReadFromHeadsCutAnywhere) {
+    for (QByteArray whole : {jpegWithoutJfif().insert(2, exif(300, 2)), encoded("PNG", 11811)}) {
+        std::set<int> seen;
+        for (int length = 0; length < 120; ++length) {
+            QByteArray head = whole.left(length);
+            QBuffer buffer(&head);
+            buffer.open(QIODevice::ReadOnly);
+            seen.insert(qRound(ImageResolution::ofFile(buffer).dotsPerInchX));
+        }
+        EXPECT_EQ(seen, (std::set<int>{72, 300}));
     }
 }
 

@@ -70,6 +70,10 @@ int PDFBuilder::addStream(const QByteArray& entries, const QByteArray& data,
     return object;
 }
 
+void PDFBuilder::setRawStream(int number, const QByteArray& dictionary, const QByteArray& data) {
+    iObjects[number] = {dictionary, data};
+}
+
 QByteArray PDFBuilder::reference(int number) {
     return QByteArray::number(number) + " 0 R";
 }

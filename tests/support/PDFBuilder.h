@@ -20,26 +20,27 @@ public:
 
     // What a page may also inherit from the node above it.
     struct PageAttributes {
-        std::optional<QRectF> mediaBox;
-        std::optional<QRectF> cropBox;
-        std::optional<int> rotate;
-        std::map<QByteArray, QByteArray> fonts; // resource name -> one of the 14 standard fonts
-        std::map<QByteArray, int> fontObjects;  // resource name -> object number
-        std::map<QByteArray, int> xObjects;     // resource name -> object number
+        std::optional<QRectF> mediaBox = {};
+        std::optional<QRectF> cropBox = {};
+        std::optional<int> rotate = {};
+        std::map<QByteArray, QByteArray> fonts = {}; // resource name -> standard font
+        std::map<QByteArray, int> fontObjects = {};  // resource name -> object number
+        std::map<QByteArray, int> xObjects = {};     // resource name -> object number
     };
 
     struct Page : PageAttributes {
-        std::optional<double> userUnit;
-        QByteArray content;
+        std::optional<double> userUnit = {};
+        QByteArray content = {};
         Compression compression = Compression::None;
-        std::vector<QByteArray> annotations; // dictionaries, as the functions below make them
-        QByteArray extraEntries;             // further entries of the page dictionary
+        std::vector<QByteArray> annotations = {}; // dictionaries, as the functions below make them
+        QByteArray extraEntries = {};             // further entries of the page dictionary
     };
 
     struct OutlineEntry {
         QString title;
-        QByteArray target; // "/Dest ..." or "/A ..." as the functions below make them, or nothing
-        std::vector<OutlineEntry> children;
+        // "/Dest ..." or "/A ..." as the functions below make them, or nothing.
+        QByteArray target = {};
+        std::vector<OutlineEntry> children = {};
     };
 
     // -- Objects. Numbers are counted from 1.
@@ -49,6 +50,8 @@ public:
     // The dictionary's entries without Length and Filter, which are added here.
     int addStream(const QByteArray& entries, const QByteArray& data,
                   Compression compression = Compression::None);
+    // A stream whose dictionary is complete already, Length and Filter included.
+    void setRawStream(int number, const QByteArray& dictionary, const QByteArray& data);
     static QByteArray reference(int number);
     static QByteArray rectangle(const QRectF& rect);
     // A text string of any characters.

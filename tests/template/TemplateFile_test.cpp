@@ -141,6 +141,14 @@ TEST_F(TemplateFileTest, SurvivesDeepNestingQuickly) {
     EXPECT_LT(clock.elapsed(), 10'000);
 }
 
+TEST_F(TemplateFileTest, GivesUpARepairThatTakesTooLong) {
+    QElapsedTimer clock;
+    clock.start();
+    load("<a " + QByteArray("x=1 ").repeated(1'000'000) + "/>");
+    expectErrorAbout("line 1");
+    EXPECT_LT(clock.elapsed(), 30'000);
+}
+
 TEST_F(TemplateFileTest, FetchesNoEntity) {
     library.addFile(QStringLiteral("secret"), "secret");
     const QByteArray path = library.path().toUtf8() + "/secret";

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "support/PDFBuilder.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+#include <vector>
+
+// Pages drawn with a painter, with real embedded fonts, that are then added to a PDFBuilder.
+// Coordinates are points with the origin at the upper left, as a painter has them.
+class DrawnPages {
+public:
+    // The first page is begun; its index is the builder's next one.
+    DrawnPages(PDFBuilder& pdf, QSizeF pageSize);
+
+    QPainter& painter() { return iPainter; }
+    void nextPage();
+    // A link on the current page; the target as PDFBuilder makes it.
+    void addLink(const QRectF& area, const QByteArray& target);
+    // Ends drawing and adds the pages.
+    void finish();
+
+private:
+    PDFBuilder& iPdf;
+    QSizeF iSize;
+    QBuffer iFile;
+    QPdfWriter iWriter;
+    QPainter iPainter;
+    std::vector<std::vector<QByteArray>> iAnnotations;
+};
