@@ -1,10 +1,11 @@
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { after, afterEach, before, test } from 'node:test';
 import { colourOf, plainPages } from './support/book.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
 let reader;
 before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
 after(() => reader.stop());
 
 const near = (actual, wanted, by, what) =>
@@ -30,7 +31,6 @@ for (const [count, views] of ends) {
       await book.page.keyboard.press('ArrowRight');
     }
     assert.deepEqual(await book.pages(), views.at(-1));
-    await book.page.close();
   });
 }
 
@@ -56,7 +56,6 @@ for (const [name, view] of [['desk', { viewport: { width: 1280, height: 800 } }]
         `${side}: ${JSON.stringify(box)}`);
       assert.ok(box.height > height * 0.3, 'as large as fits');
     }
-    await book.page.close();
   });
 }
 

@@ -1,13 +1,14 @@
 import assert from 'node:assert/strict';
 import { rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
-import { after, before, test } from 'node:test';
+import { after, afterEach, before, test } from 'node:test';
 import { colourOf, plainPages, writeConfiguration } from './support/book.mjs';
 import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
 let reader;
 before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
 after(() => reader.stop());
 
 const messageOf = (book) => book.page.locator('.message').innerText();

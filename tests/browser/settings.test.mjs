@@ -1,11 +1,12 @@
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { after, afterEach, before, test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { png } from './support/png.mjs';
 import { Reader } from './support/reader.mjs';
 
 let reader;
 before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
 after(() => reader.stop());
 
 async function open(values, extras) {
@@ -45,7 +46,6 @@ for (const [position, inside, outside] of positions) {
     await book.page.waitForTimeout(150);
     for (const [x, y] of inside) assert.deepEqual(await book.colourAt(x, y), [250, 10, 10], `${x},${y}`);
     for (const [x, y] of outside) assert.deepEqual(await book.colourAt(x, y), [0, 0, 255], `${x},${y}`);
-    await book.page.close();
   });
 }
 

@@ -1,10 +1,11 @@
 import assert from 'node:assert/strict';
-import { after, before, test } from 'node:test';
+import { after, afterEach, before, test } from 'node:test';
 import { colourOf, plainPages } from './support/book.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
 let reader;
 before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
 after(() => reader.stop());
 
 async function open(count, { values, hash, view, reducedMotion } = {}) {
@@ -46,7 +47,6 @@ for (const [key, pages] of keys) {
     const book = await open(9, { hash: '#page=4' });
     await book.page.keyboard.press(key);
     await book.waitForPages(...pages);
-    await book.page.close();
   });
 }
 
@@ -174,11 +174,13 @@ test('the page box jumps to a page and the address follows', async () => {
 
 test('one push of the wheel turns one page', async () => {
   const book = await open(9, { hash: '#page=4' });
-  await book.page.mouse.move(640, 400);
-  for (let part = 0; part < 5; part += 1) await book.page.mouse.wheel(0, 40);
+  const push = (deltaY) => book.page.locator('.stage').evaluate((stage, way) => {
+    for (let part = 0; part < 5; part += 1) stage.dispatchEvent(new WheelEvent('wheel', { deltaY: way }));
+  }, deltaY);
+  await push(40);
   await book.waitForPages(6, 7);
   await book.page.waitForTimeout(300);
-  await book.page.mouse.wheel(0, -40);
+  await push(-40);
   await book.waitForPages(4, 5);
 });
 
@@ -187,6 +189,7 @@ test('a book that plays by itself turns, starts over, and stops when told', asyn
   const book = await open(3, { values });
   await book.waitForPages(2, 3);
   await book.waitForPages(1);
+  await book.page.mouse.move(640, 500);
   await book.page.locator('.play').click();
   const stopped = await book.pages();
   await book.page.waitForTimeout(2000);

@@ -27,9 +27,15 @@ export class Reader {
   }
 
   async stop() {
+    await this.closeBooks();
     await this.browser.close();
-    for (const server of this.servers) await server.close();
     await rm(this.folder, { recursive: true });
+  }
+
+  /** Closes what is open, so that one test's book does not run beside the next one's. */
+  async closeBooks() {
+    for (const context of this.browser.contexts()) await context.close();
+    for (const server of this.servers.splice(0)) await server.close();
   }
 
   /** Writes a book and gives its folder; options as for writeBook. */
