@@ -40,4 +40,5 @@ tidy: build
 	@git ls-files -z 'src/*.cpp' | xargs -0 -n 8 -P 2 clang-tidy --quiet -p $(BUILD)
 
 bench: build
+	@tools/install-packages.sh bench/packages.txt
 	@bench/run.sh $(BUILD)

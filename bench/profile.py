@@ -1,10 +1,9 @@
 #!/usr/bin/python3
 """Where an import's time goes: shares of drawing, encoding, writing and waiting.
 
-Reads what `folvero publish --timing FILE` writes: seconds in all ("total"), to open the document
-("open"), to publish ("publish"), and per worker ("workers") to draw, encode, write and wait
-("draw", "encode", "write", "idle"). Without workers in the file, the same keys at its top are
-taken as those of a single worker.
+Reads what `folvero publish --timing FILE` writes: seconds by the clock to open the document ("open"),
+to import ("import"), to publish ("publish") and in all ("total"), and seconds that all page workers
+together drew, encoded, wrote and waited ("draw", "encode", "write", "idle").
 """
 
 import json
@@ -24,22 +23,17 @@ def timing(program, document, first, last):
         return json.loads(file.read_text())
 
 
-def stage_seconds(record):
-    workers = record.get("workers") or [record]
-    return {stage: sum(worker[stage] for worker in workers) for stage in STAGES}
-
-
 def report(program, document, pages, rounds):
     first, last = clamped_range(pages, document)
     records = [timing(program, document, first, last) for _ in range(rounds)]
-    stages = [stage_seconds(record) for record in records]
+    stages = [{stage: record[stage] for stage in STAGES} for record in records]
     print(f"## {document.name}, pages {first}-{last}, {rounds} rounds\n")
     rows = []
     for stage in STAGES:
         seconds = median([record[stage] for record in stages])
         share = median([record[stage] / sum(record.values()) for record in stages])
         rows.append((f"{stage} (all workers)", f"{seconds:.3f}", f"{share:.1%}"))
-    for key in ("open", "publish", "total"):
+    for key in ("open", "import", "publish", "total"):
         seconds = median([record[key] for record in records])
         share = median([record[key] / record["total"] for record in records])
         rows.append((f"{key} (by the clock)", f"{seconds:.3f}", f"{share:.1%}"))

@@ -19,3 +19,10 @@ add_library(mupdf INTERFACE)
 target_include_directories(mupdf SYSTEM INTERFACE ${MUPDF_INCLUDE_DIR})
 target_link_libraries(mupdf INTERFACE ${MUPDF_LIBRARY} ${MUPDF_THIRD_LIBRARY}
     harfbuzz freetype jbig2dec jpeg openjp2 gumbo mujs z m)
+
+# The library that scales pixels comes without one as well.
+find_path(YUV_INCLUDE_DIR libyuv.h REQUIRED)
+find_library(YUV_LIBRARY yuv REQUIRED)
+add_library(yuv INTERFACE)
+target_include_directories(yuv SYSTEM INTERFACE ${YUV_INCLUDE_DIR})
+target_link_libraries(yuv INTERFACE ${YUV_LIBRARY})

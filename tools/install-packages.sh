@@ -1,10 +1,10 @@
 #!/bin/sh
-# Installs the Debian packages of tools/packages.txt that are missing, and Node.js with npm where the
-# machine has none. Quick when nothing is missing.
+# Installs the Debian packages of tools/packages.txt, and of further lists named as arguments, that are
+# missing, and Node.js with npm where the machine has none. Quick when nothing is missing.
 set -eu
 cd "$(dirname "$0")/.."
 
-wanted=$(sed -e 's/#.*//' -e '/^[[:space:]]*$/d' tools/packages.txt)
+wanted=$(cat tools/packages.txt "$@" | sed -e 's/#.*//' -e '/^[[:space:]]*$/d')
 command -v node >/dev/null 2>&1 || wanted="$wanted nodejs"
 command -v npm >/dev/null 2>&1 || wanted="$wanted npm"
 

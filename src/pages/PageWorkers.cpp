@@ -46,7 +46,16 @@ PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vect
       iStop(stop),
       iPageCount(pages.size()) {}
 
-PageWorkers::~PageWorkers() = default;
+PageWorkers::~PageWorkers() {
+    killAll();
+}
+
+// All at once, so that the system clears them away side by side.
+void PageWorkers::killAll() {
+    for (const Worker& worker : iWorkers)
+        worker.process->kill();
+    iWorkers.clear();
+}
 
 std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
     const std::vector<std::string> arguments{QFile::encodeName(iPDFPath).toStdString(),
@@ -173,6 +182,6 @@ void PageWorkers::endAll(const QString& reason) {
         for (const int page : worker.pages)
             iResults[page].error = QStringLiteral("page %1: %2").arg(page).arg(reason);
     }
-    iWorkers.clear();
+    killAll();
     iWaiting.clear();
 }

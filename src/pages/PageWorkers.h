@@ -50,6 +50,7 @@ private:
     void readAnswers(Worker& worker);
     void takeAnswer(Worker& worker, const QByteArray& line);
     void replace(Worker& worker, const QString& reason);
+    void killAll();
     void endAll(const QString& reason);
 
     QString iPDFPath;

@@ -67,6 +67,8 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
 
 ChildProcess::~ChildProcess() {
     kill();
+    while (::waitpid(iProcess, nullptr, 0) < 0 && errno == EINTR) {
+    }
     ::close(iToChild);
     ::close(iFromChild);
 }
@@ -105,10 +107,5 @@ std::optional<QByteArray> ChildProcess::takeLine() {
 }
 
 void ChildProcess::kill() {
-    if (iProcess <= 0)
-        return;
     ::kill(iProcess, SIGKILL);
-    while (::waitpid(iProcess, nullptr, 0) < 0 && errno == EINTR) {
-    }
-    iProcess = -1;
 }

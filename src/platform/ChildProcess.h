@@ -29,7 +29,8 @@ public:
     // The next complete line that has been read, without its line end.
     std::optional<QByteArray> takeLine();
 
-    // Ends the process at once.
+    // Ends the process at once, without waiting for the system to clear it away; the destructor
+    // waits.
     void kill();
 
 private:

@@ -17,7 +17,7 @@ constexpr int lowestQuality = 25;
 // Half-size colour planes save a third of the time and a quarter of the file, and show only where
 // saturated colours meet within two pixels: coloured text and line art. Those are found by the
 // difference of colour inside blocks of 2 by 2 pixels; a handful of blocks is noise.
-constexpr int visibleColourStep = 96;
+constexpr int visibleColourStep = 128;
 constexpr std::size_t toleratedBlocks = 64;
 
 int colourStep(const unsigned char* a, const unsigned char* b) {

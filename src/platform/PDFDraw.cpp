@@ -1,5 +1,6 @@
 #include "platform/EngineLimits.h"
 #include "platform/PDFEngine.h"
+#include "platform/PDFImages.h"
 
 #include <algorithm>
 #include <cmath>
@@ -176,6 +177,30 @@ void recordPage(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& dr
     }
 }
 
+// Takes the links off a page. They don't show, but loading the page would follow each of them to
+// its destination, which takes longer than drawing on pages full of references.
+void dropLinks(fz_context* ctx, pdf_obj* page) {
+    pdf_obj* annotations = pdf_dict_get(ctx, page, PDF_NAME(Annots));
+    const int count = pdf_array_len(ctx, annotations);
+    if (count == 0)
+        return;
+    pdf_obj* kept = pdf_new_array(ctx, pdf_get_bound_document(ctx, page), count);
+    fz_try(ctx) {
+        for (int i = 0; i < count; ++i) {
+            pdf_obj* annotation = pdf_array_get(ctx, annotations, i);
+            if (!pdf_name_eq(ctx, pdf_dict_get(ctx, annotation, PDF_NAME(Subtype)), PDF_NAME(Link)))
+                pdf_array_push(ctx, kept, annotation);
+        }
+        pdf_dict_put(ctx, page, PDF_NAME(Annots), kept);
+    }
+    fz_always(ctx) {
+        pdf_drop_obj(ctx, kept);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+}
+
 // A page that may blend is drawn as a picture of its own first, which is then laid on the paper.
 // Many a document says so of all its pages and means a few. Without blending the paper can be drawn
 // on directly, to the same effect in less time.
@@ -203,8 +228,10 @@ void drawList(fz_context* ctx, fz_display_list* list, const fz_matrix& matrix, P
             ctx, bitmap.components() == 1 ? fz_device_gray(ctx) : fz_device_rgb(ctx),
             bitmap.width(), bitmap.height(), nullptr, 0, bitmap.stride(), bitmap.data());
         fz_clear_pixmap_with_value(ctx, pixmap, 0xFF);
-        device = fz_new_draw_device(ctx, matrix, pixmap);
-        fz_run_display_list(ctx, list, device, fz_identity, fz_infinite_rect, cookie);
+        // The list brings the matrix along, so that the device sees final positions of images.
+        device = fz_new_draw_device(ctx, fz_identity, pixmap);
+        scaleImagesFast(device);
+        fz_run_display_list(ctx, list, device, matrix, fz_infinite_rect, cookie);
         fz_close_device(ctx, device);
     }
     fz_always(ctx) {
@@ -231,6 +258,8 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
     const std::unique_ptr<void, decltype(drop)> cleanup(&drawn, drop);
 
     engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
+        if (engine.mapping)
+            dropLinks(ctx, iObject);
         page = fz_load_page(ctx, &engine.document->super, iIndex);
         bounds = fz_bound_page(ctx, page);
         recordPageSimply(ctx, page, watch.cookie(), drawn);

@@ -160,6 +160,61 @@ TEST_F(PDFDocumentTest, DrawsWithoutColourWhatHasNone) {
     EXPECT_EQ(draw(*document, 3).format(), QImage::Format_RGB888);
 }
 
+// Pictures in four colours, one a quarter, far larger than they come out.
+TEST_F(PDFDocumentTest, ReducesImagesInEveryPlacementAndEncoding) {
+    const QSize size(420, 420);
+    QByteArray rgb;
+    QByteArray gray;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            const bool left = x < size.width() / 2;
+            const bool top = y < size.height() / 2;
+            const QColor colour =
+                top ? (left ? Qt::red : Qt::green) : (left ? Qt::blue : Qt::white);
+            rgb += char(colour.red());
+            rgb += char(colour.green());
+            rgb += char(colour.blue());
+            gray += char(top ? (left ? 0 : 80) : (left ? 160 : 240));
+        }
+    }
+    PDFBuilder builder;
+    const std::vector<int> images{
+        builder.addRGBImage(size, rgb), builder.addGrayImage(size, gray),
+        builder.addJPEGImage(size, 3, PDFBuilder::encodeJPEG(size, 3, rgb, 95)),
+        builder.addJPEGImage(size, 1, PDFBuilder::encodeJPEG(size, 1, gray, 95))};
+    struct Placement {
+        QByteArray matrix;
+        int rotate;
+        double x; // where the image's upper left quarter comes out
+        double y;
+    };
+    const std::vector<Placement> placements{
+        {"101.3 0 0 99.6 0 0 cm", 0, 0.25, 0.25}, {"101.3 0 0 99.6 0 0 cm", 90, 0.75, 0.25},
+        {"-100 0 0 100 100 0 cm", 0, 0.75, 0.25}, {"100 0 0 -100 0 100 cm", 0, 0.25, 0.75},
+        {"0 100 -100 0 100 0 cm", 0, 0.25, 0.75},
+    };
+    for (const int image : images) {
+        for (const Placement& placement : placements) {
+            auto page = pageWith(placement.matrix + " /I Do", {0, 0, 100, 100});
+            page.xObjects["I"] = image;
+            page.rotate = placement.rotate;
+            builder.addPage(page);
+        }
+    }
+    const auto document = open(builder);
+    for (std::size_t i = 0; i < images.size() * placements.size(); ++i) {
+        const Placement& placement = placements[i % placements.size()];
+        const bool isGray = i / placements.size() % 2 == 1;
+        const QImage drawn = draw(*document, int(i));
+        EXPECT_TRUE(isNear(colourAt(drawn, placement.x, placement.y),
+                           isGray ? QColor(Qt::black) : QColor(Qt::red)))
+            << i;
+        EXPECT_TRUE(isNear(colourAt(drawn, 1 - placement.x, 1 - placement.y),
+                           isGray ? QColor(240, 240, 240) : QColor(Qt::white)))
+            << i;
+    }
+}
+
 // Blending needs the page as a picture of its own: on white paper the difference to white shows.
 TEST_F(PDFDocumentTest, BlendsWithinThePageNotWithThePaper) {
     PDFBuilder builder;

@@ -1,0 +1,12 @@
+#!/bin/sh
+# Runs every benchmark and prints Markdown tables; docs/performance.md holds the figures of one run.
+set -eu
+cd "$(dirname "$0")/.."
+build=${1:-build/release}
+
+bench/import.py
+bench/profile.py
+bench/sharpness.py
+bench/memory.py
+cmake --build "$build" --target folvero-bench-republish >/dev/null
+"$build/bin/folvero-bench-republish" "$build/samples/thousand.pdf" 1-500
