@@ -3,6 +3,7 @@
 #include "pages/FlashPageSource.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
+#include "util/XMLText.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ void appendAction(pugi::xml_node anno, const char* type, const char* element,
     pugi::xml_node action = anno.append_child("action");
     action.append_attribute("triggerEventType") = "mouseDown";
     action.append_attribute("actionType") = type;
-    action.append_child(element).text().set(value.toUtf8().constData());
+    action.append_child(element).text().set(XMLText::legal(value).toUtf8().constData());
 }
 
 // True when the annotation is a link that leads somewhere.

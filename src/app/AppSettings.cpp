@@ -4,9 +4,13 @@
 
 #include <QMetaProperty>
 #include <QSettings>
+#include <memory>
+#include <mutex>
 #include <vector>
 
 namespace {
+
+std::unique_ptr<AppSettings> gSetting;
 
 constexpr int startPageWidth = 1080;
 constexpr int startPageHeight = 1440;
@@ -43,8 +47,11 @@ AppSettings::AppSettings() {
 }
 
 AppSettings& AppSettings::shareInstance() {
-    static AppSettings instance;
-    return instance;
+    static std::mutex creation;
+    const std::lock_guard lock(creation);
+    if (!gSetting)
+        gSetting = std::make_unique<AppSettings>();
+    return *gSetting;
 }
 
 void AppSettings::saveSettings() {

@@ -17,7 +17,6 @@ using Phase = PublishTransaction::Phase;
 
 namespace {
 
-// The player holds the same key.
 struct Cancelled {};
 
 const Log& logger() {
@@ -277,7 +276,7 @@ void FolveroOutput::removeExtFiles(const QString& base) {
 void FolveroOutput::writeHTMLPage() {
     checkCancelled();
     const QString page = outputHTMLFileName();
-    if (!BookName::staysInFolder(Files::lastPathComponent(page)) ||
+    if (page.endsWith(u'/') || !BookName::staysInFolder(Files::lastPathComponent(page)) ||
         QDir::cleanPath(parentOf(page)) != QDir::cleanPath(iSaveToFolder)) {
         logger().error(
             QStringLiteral("no HTML page: not a file in the book's folder: %1").arg(page));

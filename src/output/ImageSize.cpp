@@ -3,6 +3,7 @@
 #include "output/ImageResolution.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <cmath>
 
@@ -16,7 +17,7 @@ int inPoints(int pixels, double dotsPerInch) {
 
 QSize ImageSize::inPoints(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {0, 0};
     const ImageResolution resolution = ImageResolution::ofFile(file);
     file.seek(0);

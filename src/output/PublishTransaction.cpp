@@ -1,6 +1,7 @@
 #include "output/PublishTransaction.h"
 
 #include "platform/Files.h"
+#include "platform/Log.h"
 #include "platform/PlatformException.h"
 
 #include <QDir>
@@ -62,11 +63,23 @@ PublishTransaction::PublishTransaction(const QString& folder)
 }
 
 PublishTransaction::~PublishTransaction() {
-    if (!iCommitted)
-        undo();
+    if (!iCommitted && !undo()) {
+        rescueBackups();
+        return;
+    }
     QDir(iStaging).removeRecursively();
     if (!iCommitted)
         removeMadeFolders();
+}
+
+// Under a name that no later run takes for a leftover.
+void PublishTransaction::rescueBackups() const {
+    const QString rescue =
+        Files::join(iFolder, QStringLiteral("folvero-rescued-%1").arg(::getpid()));
+    const bool moved = moveFile(iStaging, rescue);
+    Log("PublishTransaction")
+        .error(QStringLiteral("earlier files could not be put back; they are in %1")
+                   .arg(moved ? rescue : iStaging));
 }
 
 void PublishTransaction::makeStagingFolder() {
@@ -199,13 +212,15 @@ void PublishTransaction::takeAway(const Change& change) {
     iDone.push_back({change.target, backup});
 }
 
-void PublishTransaction::undo() {
+bool PublishTransaction::undo() {
+    bool complete = true;
     for (auto step = iDone.rbegin(); step != iDone.rend(); ++step) {
         if (step->backup.isNull())
             QFile::remove(step->target);
         else
-            moveFile(step->backup, step->target);
+            complete = moveFile(step->backup, step->target) && complete;
     }
+    return complete;
 }
 
 void PublishTransaction::removeMadeFolders() {

@@ -55,6 +55,7 @@ private:
         QString backup; // null when there was no such file
     };
 
+    void rescueBackups() const;
     void makeStagingFolder();
     void removeStaleFolders() const;
     void makeFolderNow(const QString& path);
@@ -62,7 +63,8 @@ private:
     Change& changeOf(const QString& target);
     void putInPlace(const Change& change);
     void takeAway(const Change& change);
-    void undo();
+    // False when an earlier file could not be put back.
+    bool undo();
     void removeMadeFolders();
 
     QString iFolder;

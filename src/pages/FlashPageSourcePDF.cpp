@@ -4,6 +4,8 @@
 #include "platform/NotificationCenter.h"
 #include "platform/PlatformException.h"
 
+#include <QScopeGuard>
+
 FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi,
                                        int quality)
     : iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
@@ -28,6 +30,7 @@ void FlashPageSourcePDF::postProgress(std::size_t step, const char* type) const 
 
 void FlashPageSourcePDF::generatePages() {
     iToPageConverter->drawAhead(iNeedToImportPages, stopFlag());
+    const auto end = qScopeGuard([this] { iToPageConverter->endDrawingAhead(); });
     for (std::size_t i = 1; i - 1 < iNeedToImportPages.size() && !stop(); ++i) {
         const int number = iNeedToImportPages[i - 1];
         auto page = std::make_shared<FlashPage>();
@@ -36,7 +39,6 @@ void FlashPageSourcePDF::generatePages() {
         iPages.push_back(std::move(page));
         postProgress(i, "geneatePage");
     }
-    iToPageConverter->endDrawingAhead();
 }
 
 void FlashPageSourcePDF::generateNormalPages() {

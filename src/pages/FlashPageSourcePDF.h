@@ -37,7 +37,6 @@ public:
 
     // Why the document could not be opened; null when it could.
     const QString& openError() const { return iOpenError; }
-    const std::vector<int>& needToImportPages() const { return iNeedToImportPages; }
 
 private:
     void postProgress(std::size_t step, const char* type) const;

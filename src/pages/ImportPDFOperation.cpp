@@ -19,11 +19,20 @@ ImportPDFOperation::ImportPDFOperation(const QString& pdfPath, const QString& pa
     : iDPI(dpi), iQuality(quality), iPDFPath(pdfPath), iPageRange(pageRange) {}
 
 void ImportPDFOperation::setPageSource(std::shared_ptr<FlashPageSourcePDF> source) {
-    const std::lock_guard lock(iMutex);
-    iFlashPageSource = std::move(source);
-    // A cancel that came before there was a source to stop.
-    if (iFlashPageSource && isCancelled())
-        iFlashPageSource->setStop(true);
+    {
+        const std::lock_guard lock(iMutex);
+        iFlashPageSource.swap(source);
+        // A cancel that came before there was a source to stop.
+        if (iFlashPageSource && isCancelled())
+            iFlashPageSource->setStop(true);
+    }
+    // The former source goes only here: clearing it away takes time, and cancel() must not wait.
+}
+
+void ImportPDFOperation::clearResults() {
+    setPageSource(nullptr);
+    iFlashPagesAnnotation = nullptr;
+    iFlashOutline = nullptr;
 }
 
 void ImportPDFOperation::cancel() {
@@ -37,6 +46,20 @@ void ImportPDFOperation::cancel() {
 void ImportPDFOperation::main() {
     if (isCancelled())
         return;
+    try {
+        importStages();
+    } catch (const std::exception& failure) {
+        iFailures << QStringLiteral("%1: %2").arg(iPDFPath, QString::fromUtf8(failure.what()));
+        clearResults();
+        throw;
+    }
+    if (isCancelled()) {
+        operationLog().debug(QStringLiteral("import pdf is cancelled"));
+        clearResults();
+    }
+}
+
+void ImportPDFOperation::importStages() {
     importPages();
     const auto document =
         iFlashPageSource ? iFlashPageSource->toPageConverter()->PDFDoc() : nullptr;
@@ -44,12 +67,6 @@ void ImportPDFOperation::main() {
         importPageLinks(document);
     if (!isCancelled() && iImportBookmarks)
         importOutline(document);
-    if (isCancelled()) {
-        operationLog().debug(QStringLiteral("import pdf is cancelled"));
-        setPageSource(nullptr);
-        iFlashPagesAnnotation = nullptr;
-        iFlashOutline = nullptr;
-    }
 }
 
 void ImportPDFOperation::importPages() {

@@ -37,6 +37,8 @@ public:
 
 private:
     void setPageSource(std::shared_ptr<FlashPageSourcePDF> source);
+    void clearResults();
+    void importStages();
     void importPages();
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);

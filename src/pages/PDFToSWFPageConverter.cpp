@@ -61,7 +61,8 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
                                     .arg(page)
                                     .arg(PDFDoc()->pageCount()));
     }
-    const PageResult result = iWorkers ? iWorkers->waitFor(page) : drawHere(page);
+    const auto drawn = iWorkers ? iWorkers->waitFor(page) : std::nullopt;
+    const PageResult result = drawn ? *drawn : drawHere(page);
     iTiming.draw += result.timing.draw;
     iTiming.encode += result.timing.encode;
     iTiming.write += result.timing.write;
@@ -70,13 +71,15 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
 }
 
 PageResult PDFToSWFPageConverter::drawHere(int page) {
-    if (!iPDFRep)
-        iPDFRep = std::make_unique<PageImageMaker>(*PDFDoc(), compressionFactor(quality()));
     try {
+        if (!iPDFRep)
+            iPDFRep = std::make_unique<PageImageMaker>(*PDFDoc(), compressionFactor(quality()));
         return {QString(),
                 iPDFRep->make(page, workFile(page, "jpg"), {iStop, EngineLimits::maxPageTime})};
     } catch (const PlatformException& failure) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
         return {failure.reason(), {}};
+    } catch (const std::exception& failure) {
+        return {QStringLiteral("page %1: %2").arg(page).arg(QString::fromUtf8(failure.what())), {}};
     }
 }

@@ -3,11 +3,11 @@
 #include "pages/FlashPageSource.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
+#include "util/LenientInteger.h"
 
 #include <QList>
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 
 namespace {
 
@@ -15,25 +15,6 @@ namespace {
 constexpr std::int64_t maxListedPages = 1'000'000;
 
 } // namespace
-
-int lenientInteger(QStringView text) {
-    qsizetype position = 0;
-    while (position < text.size() && text[position].isSpace())
-        ++position;
-    bool negative = false;
-    if (position < text.size() && (text[position] == u'-' || text[position] == u'+'))
-        negative = text[position++] == u'-';
-    std::int64_t value = 0;
-    for (; position < text.size(); ++position) {
-        const char16_t digit = text[position].unicode();
-        if (digit < u'0' || digit > u'9')
-            break;
-        value = std::min<std::int64_t>(value * 10 + (digit - u'0'),
-                                       std::int64_t{std::numeric_limits<int>::max()} + 1);
-    }
-    value = negative ? -value : value;
-    return static_cast<int>(std::min<std::int64_t>(value, std::numeric_limits<int>::max()));
-}
 
 std::vector<PageRun> pageRunsFromExpression(const QString& expression, int total) {
     if (expression.toUpper() == QStringLiteral("ALL"))

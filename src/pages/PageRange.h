@@ -12,7 +12,3 @@ struct PageRun {
 // Reads a page range expression as it stands, before it is sorted or expanded: "3,1-2" is the runs
 // 3 to 3 and 1 to 2. Runs that name no page (5-3) are left out. For "ALL" it is 1 to total.
 std::vector<PageRun> pageRunsFromExpression(const QString& expression, int total);
-
-// Reads an integer leniently: leading blanks are skipped, reading ends at the first character that
-// is no digit, and no digits at all are 0. Numbers beyond 32 bits stay at the nearest end.
-int lenientInteger(QStringView text);

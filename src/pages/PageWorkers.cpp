@@ -30,7 +30,7 @@ const Log& workersLog() {
     return log;
 }
 
-QString workerProgram() {
+QString installedWorker() {
     return Files::join(QCoreApplication::applicationDirPath(),
                        QStringLiteral("folvero-page-worker"));
 }
@@ -39,7 +39,8 @@ QString workerProgram() {
 
 PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vector<int> pages,
                          const std::atomic<bool>& stop)
-    : iPDFPath(std::move(pdfPath)),
+    : iProgram(installedWorker()),
+      iPDFPath(std::move(pdfPath)),
       iFolder(std::move(folder)),
       iQuality(quality),
       iWaiting(pages.begin(), pages.end()),
@@ -62,8 +63,7 @@ std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
                                              QFile::encodeName(iFolder).toStdString(),
                                              std::to_string(iQuality)};
     try {
-        return std::make_unique<ChildProcess>(QFile::encodeName(workerProgram()).toStdString(),
-                                              arguments);
+        return std::make_unique<ChildProcess>(QFile::encodeName(iProgram).toStdString(), arguments);
     } catch (const PlatformException& failure) {
         workersLog().warn(failure.reason());
         return nullptr;
@@ -75,28 +75,28 @@ bool PageWorkers::start() {
     const std::size_t count = std::min({cores, maxWorkers, iPageCount});
     for (std::size_t i = 0; i < count; ++i) {
         if (auto process = startProcess())
-            iWorkers.push_back({std::move(process), {}, {}});
+            iWorkers.push_back({std::move(process), false, {}, {}});
     }
     feedAll();
     return !iWorkers.empty();
 }
 
-PageResult PageWorkers::waitFor(int page) {
+std::optional<PageResult> PageWorkers::waitFor(int page) {
+    iAwaited = page;
     for (;;) {
+        feedAll();
         if (const auto found = iResults.find(page); found != iResults.end()) {
             PageResult result = std::move(found->second);
             iResults.erase(found);
-            feedAll();
             return result;
         }
-        if (iStop)
-            endAll(QStringLiteral("stopped"));
-        else if (iWorkers.empty())
-            endAll(QStringLiteral("no page worker is left"));
-        else
-            collect();
-        if (iWorkers.empty() && !iResults.contains(page))
-            return {QStringLiteral("page %1 was not drawn").arg(page), {}};
+        if (iStop) {
+            killAll();
+            return PageResult{QStringLiteral("page %1 was stopped").arg(page), {}};
+        }
+        if (iWorkers.empty())
+            return std::nullopt;
+        collect();
     }
 }
 
@@ -104,7 +104,8 @@ PageResult PageWorkers::waitFor(int page) {
 // Near the end each page goes to whoever is free.
 void PageWorkers::feed(Worker& worker) {
     const std::size_t depth = iWaiting.size() > 2 * iWorkers.size() ? 2 : 1;
-    while (!iWaiting.empty() && worker.pages.size() < depth && iResults.size() < maxPagesAhead) {
+    while (!iWaiting.empty() && worker.pages.size() < depth &&
+           (iResults.size() < maxPagesAhead || iWaiting.front() <= iAwaited)) {
         if (worker.pages.empty())
             worker.since = std::chrono::steady_clock::now();
         worker.pages.push_back(iWaiting.front());
@@ -146,8 +147,13 @@ void PageWorkers::readAnswers(Worker& worker) {
     feed(worker);
 }
 
-// An answer is "ok DRAW ENCODE WRITE" in seconds, or "fail REASON", for the first page asked for.
+// The first line is "ready". An answer is "ok DRAW ENCODE WRITE" in seconds, or "fail REASON", for
+// the first page asked for.
 void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
+    if (!worker.ready) {
+        worker.ready = true;
+        return;
+    }
     if (worker.pages.empty())
         return;
     PageResult result;
@@ -162,26 +168,21 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
 }
 
 // Gives up the page being drawn, hands the ones behind it back, and lets a new process take over.
+// No page is to blame for a process that did not even get ready; then there is none to take over.
 void PageWorkers::replace(Worker& worker, const QString& reason) {
-    if (!worker.pages.empty()) {
+    const bool wasReady = worker.ready;
+    if (wasReady && !worker.pages.empty()) {
         const int page = worker.pages.front();
+        worker.pages.pop_front();
         iResults[page].error = QStringLiteral("page %1 %2").arg(page).arg(reason);
         workersLog().warn(iResults[page].error);
-        iWaiting.insert(iWaiting.begin(), worker.pages.begin() + 1, worker.pages.end());
-        worker.pages.clear();
-        worker.process = startProcess();
-    } else {
-        worker.process = nullptr; // died idle: it could not even open the file
     }
-    if (worker.process)
-        feed(worker);
+    handBack(worker);
+    worker = {wasReady ? startProcess() : nullptr, false, {}, {}};
 }
 
-void PageWorkers::endAll(const QString& reason) {
-    for (const Worker& worker : iWorkers) {
-        for (const int page : worker.pages)
-            iResults[page].error = QStringLiteral("page %1: %2").arg(page).arg(reason);
-    }
-    killAll();
-    iWaiting.clear();
+void PageWorkers::handBack(Worker& worker) {
+    iWaiting.insert(iWaiting.begin(), worker.pages.begin(), worker.pages.end());
+    std::sort(iWaiting.begin(), iWaiting.end());
+    worker.pages.clear();
 }

@@ -9,6 +9,7 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 // What became of one page.
@@ -19,26 +20,31 @@ struct PageResult {
 
 // Draws pages of one PDF ahead of the walk that collects them, on processes of our own: one per
 // core, each with the file open by itself, so that a page that crashes the engine costs that page
-// only. For one thread.
+// only. The walk goes through the pages in ascending order. For one thread.
 class PageWorkers {
 public:
-    // Pages (one-based) are made in that order, as "N.jpg" in the folder. stop, watched while
-    // waiting, ends everything. No process is started before the first start().
+    // Pages (one-based, ascending) are made as "N.jpg" in the folder. stop, watched while waiting,
+    // ends everything. No process is started before start().
     PageWorkers(QString pdfPath, QString folder, int quality, std::vector<int> pages,
                 const std::atomic<bool>& stop);
     ~PageWorkers();
+
+    // The worker to start instead of the one that is installed beside the running program.
+    void setProgram(const QString& path) { iProgram = path; }
 
     // Starts the processes. False when none could be started.
     bool start();
 
     // Waits for a page that was handed to the constructor. After a stop the result is an error.
-    PageResult waitFor(int page);
+    // Nothing comes back when no worker is left to draw it: then the caller has to.
+    std::optional<PageResult> waitFor(int page);
 
     std::size_t workerCount() const { return iWorkers.size(); }
 
 private:
     struct Worker {
         std::unique_ptr<ChildProcess> process;
+        bool ready = false;    // it has opened the document
         std::deque<int> pages; // asked for; the first one is being drawn
         std::chrono::steady_clock::time_point since;
     };
@@ -50,13 +56,15 @@ private:
     void readAnswers(Worker& worker);
     void takeAnswer(Worker& worker, const QByteArray& line);
     void replace(Worker& worker, const QString& reason);
+    void handBack(Worker& worker);
     void killAll();
-    void endAll(const QString& reason);
 
+    QString iProgram;
     QString iPDFPath;
     QString iFolder;
     int iQuality;
-    std::deque<int> iWaiting; // not yet handed to a worker
+    std::deque<int> iWaiting; // not yet handed to a worker, ascending
+    int iAwaited = 0;         // the page that the walk stands at
     const std::atomic<bool>& iStop;
     std::size_t iPageCount;
     std::vector<Worker> iWorkers;

@@ -11,6 +11,7 @@
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 extern char** environ; // NOLINT(readability-redundant-declaration): POSIX leaves it to the user
 
@@ -25,18 +26,34 @@ namespace {
 
 // Sockets rather than pipes: a write to a socket whose reader is gone can be told to fail instead
 // of raising a signal.
-std::array<int, 2> makeChannel(const std::string& program) {
-    std::array<int, 2> ends{};
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
-        fail(program, errno);
-    return ends;
-}
+class Channel {
+public:
+    explicit Channel(const std::string& program) {
+        if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, iEnds.data()) != 0)
+            fail(program, errno);
+    }
+    ~Channel() {
+        for (const int end : iEnds) {
+            if (end >= 0)
+                ::close(end);
+        }
+    }
+    Channel(const Channel&) = delete;
+    Channel& operator=(const Channel&) = delete;
+
+    int theirs() const { return iEnds[1]; }
+    // Hands our end over to the caller.
+    int takeOurs() { return std::exchange(iEnds[0], -1); }
+
+private:
+    std::array<int, 2> iEnds{-1, -1};
+};
 
 } // namespace
 
 ChildProcess::ChildProcess(const std::string& program, const std::vector<std::string>& arguments) {
-    const auto input = makeChannel(program);
-    const auto output = makeChannel(program);
+    Channel input(program);
+    Channel output(program);
     std::vector<char*> argv{const_cast<char*>(program.c_str())};
     for (const auto& argument : arguments)
         argv.push_back(const_cast<char*>(argument.c_str()));
@@ -44,8 +61,8 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
 
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, input[1], STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, input.theirs(), STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output.theirs(), STDOUT_FILENO);
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
@@ -54,15 +71,10 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
         posix_spawn(&iProcess, program.c_str(), &actions, &attributes, argv.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     posix_spawnattr_destroy(&attributes);
-    ::close(input[1]);
-    ::close(output[1]);
-    iToChild = input[0];
-    iFromChild = output[0];
-    if (error != 0) {
-        ::close(iToChild);
-        ::close(iFromChild);
+    if (error != 0)
         fail(program, error);
-    }
+    iToChild = input.takeOurs();
+    iFromChild = output.takeOurs();
 }
 
 ChildProcess::~ChildProcess() {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -42,9 +43,9 @@ bool writeAll(int to, const void* data, std::size_t size) {
     const auto* bytes = static_cast<const unsigned char*>(data);
     for (std::size_t done = 0; done < size;) {
         const ssize_t written = ::write(to, bytes + done, size - done);
-        if (written < 0)
+        if (written < 0 && errno != EINTR)
             return false;
-        done += std::size_t(written);
+        done += std::size_t(std::max<ssize_t>(written, 0));
     }
     return true;
 }
@@ -89,10 +90,10 @@ bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char>
                              QString* error) {
     const QByteArray name = QFile::encodeName(path);
     const QByteArray part = name + ".part";
-    const Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
     if (!file.isOpen())
         return fail(error);
-    if (writeAll(file.number(), data.data(), data.size()) &&
+    if (writeAll(file.number(), data.data(), data.size()) && file.close() &&
         ::rename(part.constData(), name.constData()) == 0)
         return true;
     const bool result = fail(error);

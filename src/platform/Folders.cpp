@@ -18,7 +18,8 @@ QString Folders::userApplicationSupport() {
 }
 
 QString Folders::machineApplicationSupport() {
-    return machineRoot() + QStringLiteral("/usr/local/share");
+    const QString path = machineRoot() + QStringLiteral("/usr/local/share");
+    return QDir(path).exists() ? path : QString();
 }
 
 QString Folders::temporary() {

@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <cstdlib>
 #include <fcntl.h>
 #include <malloc.h>
@@ -43,9 +44,14 @@ void countedFree(void* user, void* memory) {
     std::free(memory);
 }
 
-void logEngineMessage(void* /*user*/, const char* message) {
-    if (engineLog().isDebugEnabled())
-        engineLog().debug(QString::fromUtf8(message));
+// Called from inside the engine, which no exception may cross.
+void logEngineMessage(void* /*user*/, const char* message) noexcept {
+    try {
+        if (engineLog().isDebugEnabled())
+            engineLog().debug(QString::fromUtf8(message));
+    } catch (const std::exception&) {
+        return; // a lost warning harms nobody
+    }
 }
 
 [[noreturn]] void failToOpen(const QString& path, const QString& cause) {
@@ -59,10 +65,12 @@ void checkFile(const QString& path) {
         failToOpen(path, QStringLiteral("no such file"));
     if (info.isDir())
         failToOpen(path, QStringLiteral("is a folder, not a PDF file"));
+    if (!info.isFile())
+        failToOpen(path, QStringLiteral("is a device or a pipe, not a file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         failToOpen(path, QStringLiteral("can't be read (%1)").arg(file.errorString()));
-    if (info.isFile() && info.size() == 0)
+    if (info.size() == 0)
         failToOpen(path, QStringLiteral("the file is empty"));
 }
 
@@ -145,6 +153,14 @@ QString PDFDocument::Engine::name(pdf_obj* object) const {
     return QString::fromUtf8(get([&](fz_context* ctx) { return pdf_to_name(ctx, object); }, ""));
 }
 
+int PDFDocument::Engine::pageCount() const {
+    return get(
+        [this](fz_context* ctx) {
+            return std::clamp(pdf_count_pages(ctx, document), 0, pdf_xref_len(ctx, document));
+        },
+        0);
+}
+
 void PDFDocument::Engine::loadPageTable() const {
     if (pageTable)
         return;
@@ -158,7 +174,7 @@ void PDFDocument::Engine::loadPageTable() const {
 
 std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) const {
     loadPageTable();
-    const int count = get([this](fz_context* ctx) { return pdf_count_pages(ctx, document); }, 0);
+    const int count = pageCount();
     const int page = get(
         [&](fz_context* ctx) {
             pdf_obj* target = destination;
@@ -204,8 +220,7 @@ QString PDFDocument::path() const {
 }
 
 int PDFDocument::pageCount() const {
-    return iEngine->get([this](fz_context* ctx) { return pdf_count_pages(ctx, iEngine->document); },
-                        0);
+    return iEngine->pageCount();
 }
 
 PDFPage PDFDocument::page(int index) const {

@@ -40,7 +40,7 @@ public:
             throw PlatformException(QStringLiteral("PDFPageStopped"),
                                     QStringLiteral("page %1 was stopped").arg(page));
         }
-        if (iCookie.abort) {
+        if (iTimedOut) {
             throw PlatformException(
                 QStringLiteral("PDFPageTimeout"),
                 QStringLiteral("page %1 was given up after %2 seconds")
@@ -57,6 +57,7 @@ private:
         while (!iDone) {
             const auto now = std::chrono::steady_clock::now();
             if (now >= iDeadline || isStopped()) {
+                iTimedOut = now >= iDeadline;
                 iCookie.abort = 1;
                 return;
             }
@@ -70,6 +71,7 @@ private:
     const DrawControl iControl;
     const std::chrono::steady_clock::time_point iDeadline;
     fz_cookie iCookie{};
+    std::atomic<bool> iTimedOut{false};
     std::mutex iMutex;
     std::condition_variable iWake;
     bool iDone = false;

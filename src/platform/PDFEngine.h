@@ -48,6 +48,9 @@ struct PDFDocument::Engine {
         return value;
     }
 
+    // What the document says, but no more than it has objects.
+    int pageCount() const;
+
     pdf_obj* entry(pdf_obj* dictionary, const char* key) const;
     QString text(pdf_obj* string) const;
     QString name(pdf_obj* name) const;

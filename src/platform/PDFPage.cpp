@@ -4,7 +4,10 @@
 
 namespace {
 
+// Without a rectangle the engine gives an inside-out one, which becomes zeros.
 QRectF toRect(const fz_rect& rect) {
+    if (!fz_is_valid_rect(rect))
+        return {};
     return {rect.x0, rect.y0, double(rect.x1) - rect.x0, double(rect.y1) - rect.y0};
 }
 

@@ -2,8 +2,9 @@
 //
 //     folvero-page-worker PDF FOLDER QUALITY
 //
-// It reads one-based page numbers, one a line, from standard input, writes the page file "N.jpg"
-// into the folder and answers with one line: "ok DRAW ENCODE WRITE" (seconds) or "fail REASON".
+// It says "ready" once the document is open. Then it reads one-based page numbers, one a line, from
+// standard input, writes the page file "N.jpg" into the folder and answers each with one line: "ok
+// DRAW ENCODE WRITE" (seconds) or "fail REASON".
 
 #include "pages/PageImage.h"
 #include "pages/PageQuality.h"
@@ -66,6 +67,7 @@ int main(int argc, char** argv) {
         const auto document =
             PDFDocument::open(QFile::decodeName(argv[1]), PDFDocument::Access::mapped);
         PageImageMaker maker(*document, compressionFactor(std::atoi(argv[3])));
+        std::cout << "ready" << std::endl;
         servePages(maker, QFile::decodeName(argv[2]));
     } catch (const std::exception& failure) {
         std::cerr << "folvero-page-worker: " << failure.what() << '\n';

@@ -133,6 +133,17 @@ TEST_F(FlashPagesAnnotationsPDFTest, KeepsThePlayersArithmeticOnTurnedAndCropped
     EXPECT_EQ(location(page.first_child()), cases[0].location);
 }
 
+TEST_F(FlashPagesAnnotationsPDFTest, TakesAMissingRectangleForAnEmptyOne) {
+    PDFBuilder builder;
+    builder.addPage(pageOf({100, 100}, {"<< /Type /Annot /Subtype /Link " +
+                                        PDFBuilder::toURL("https://example.org/\001") + " >>"}));
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("1"));
+    const auto anno = annotations.pagesAnnotationsNode().first_child().first_child();
+    EXPECT_EQ(location(anno), "x=0.000000 y=1.000000 width=0.000000 height=0.000000 ");
+    EXPECT_STREQ(anno.child("action").child("url").text().get(), "https://example.org/");
+}
+
 TEST_F(FlashPagesAnnotationsPDFTest, FailsOnAPageThatTheDocumentLacks) {
     PDFBuilder builder;
     builder.addPage(pageOf({100, 100}));

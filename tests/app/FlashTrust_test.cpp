@@ -14,6 +14,7 @@ class FlashTrustTest : public testing::Test {
 protected:
     FlashTrustTest() {
         Folders::setMachineRoot(iRoot.path());
+        QDir(iRoot.path()).mkpath(QStringLiteral("usr/local/share"));
         iPath = Folders::machineApplicationSupport() +
                 QStringLiteral("/Macromedia/FlashPlayerTrust/PT.cfg");
     }
@@ -90,4 +91,15 @@ TEST_F(FlashTrustTest, TellsWhenThereIsNoFile) {
     const RecordedLog log;
     MirelUtility::makeDiractoryTrustByFlash(iFolder);
     EXPECT_EQ(log.texts().last(), u"file doest not exits!!!!!!!!!");
+}
+
+TEST_F(FlashTrustTest, FallsBackToTheLibraryOnAMachineWithoutItsOwnFolder) {
+    QDir(iRoot.filePath(QStringLiteral("usr"))).removeRecursively();
+    MirelUtility::makeDiractoryTrustByFlash(iFolder);
+    const QString trust =
+        iRoot.filePath(QStringLiteral("Library/Application Support/Macromedia/FlashPlayerTrust"));
+    iPath = trust + QStringLiteral("/PT.cfg");
+    expectText(iFolder);
+    iPath = trust + QStringLiteral(".PT.cfg");
+    expectText(iFolder);
 }

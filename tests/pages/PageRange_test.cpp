@@ -1,8 +1,8 @@
-#include "pages/PageRange.h"
-
 #include "pages/FlashPageSource.h"
+
 #include "platform/PlatformException.h"
 #include "support/RecordedLog.h"
+#include "util/LenientInteger.h"
 
 #include <climits>
 #include <gtest/gtest.h>
