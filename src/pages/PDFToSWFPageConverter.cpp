@@ -80,6 +80,6 @@ PageResult PDFToSWFPageConverter::drawHere(int page) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
         return {failure.reason(), {}};
     } catch (const std::exception& failure) {
-        return {QStringLiteral("page %1: %2").arg(page).arg(QString::fromUtf8(failure.what())), {}};
+        return {QString::fromUtf8(failure.what()), {}};
     }
 }

@@ -92,7 +92,7 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
         }
         if (iStop) {
             killAll();
-            return PageResult{QStringLiteral("page %1 was stopped").arg(page), {}};
+            return PageResult{QStringLiteral("drawing it was stopped"), {}};
         }
         if (iWorkers.empty())
             return std::nullopt;
@@ -132,14 +132,14 @@ void PageWorkers::collect() {
         if (descriptors[i].revents)
             readAnswers(worker);
         else if (!worker.pages.empty() && now - worker.since > patience)
-            replace(worker, QStringLiteral("took too long"));
+            replace(worker, QStringLiteral("drawing it took too long"));
     }
     std::erase_if(iWorkers, [](const Worker& worker) { return !worker.process; });
 }
 
 void PageWorkers::readAnswers(Worker& worker) {
     if (!worker.process->readAvailable()) {
-        replace(worker, QStringLiteral("ended the page worker"));
+        replace(worker, QStringLiteral("the program that draws pages ended at this page"));
         return;
     }
     while (const auto line = worker.process->takeLine())
@@ -174,8 +174,8 @@ void PageWorkers::replace(Worker& worker, const QString& reason) {
     if (wasReady && !worker.pages.empty()) {
         const int page = worker.pages.front();
         worker.pages.pop_front();
-        iResults[page].error = QStringLiteral("page %1 %2").arg(page).arg(reason);
-        workersLog().warn(iResults[page].error);
+        iResults[page].error = reason;
+        workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason));
     }
     handBack(worker);
     worker = {wasReady ? startProcess() : nullptr, false, {}, {}};

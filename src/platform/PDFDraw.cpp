@@ -35,16 +35,15 @@ public:
 
     fz_cookie* cookie() { return &iCookie; }
 
-    void throwIfEnded(int page) const {
+    void throwIfEnded() const {
         if (isStopped()) {
             throw PlatformException(QStringLiteral("PDFPageStopped"),
-                                    QStringLiteral("page %1 was stopped").arg(page));
+                                    QStringLiteral("drawing it was stopped"));
         }
         if (iTimedOut) {
             throw PlatformException(
                 QStringLiteral("PDFPageTimeout"),
-                QStringLiteral("page %1 was given up after %2 seconds")
-                    .arg(page)
+                QStringLiteral("drawing it took longer than %1 seconds")
                     .arg(std::chrono::duration<double>(iControl.timeLimit).count()));
         }
     }
@@ -266,7 +265,7 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
         bounds = fz_bound_page(ctx, page);
         recordPageSimply(ctx, page, watch.cookie(), drawn);
     });
-    watch.throwIfEnded(iIndex + 1);
+    watch.throwIfEnded();
 
     const double width = double(bounds.x1) - bounds.x0;
     const double height = double(bounds.y1) - bounds.y0;
@@ -277,7 +276,7 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
         fz_scale(float(size.width / width), float(size.height / height)), -bounds.x0, -bounds.y0);
     engine.run("PDFPageUnreadable",
                [&](fz_context* ctx) { drawList(ctx, drawn.list, matrix, bitmap, watch.cookie()); });
-    watch.throwIfEnded(iIndex + 1);
+    watch.throwIfEnded();
     // A colour space alone makes a page count as coloured; scans often are gray all the same.
     if (bitmap.components() == 3 && !hasColour(bitmap))
         dropColour(bitmap);
