@@ -90,13 +90,13 @@ PageResult PageWorkers::waitFor(int page) {
             return result;
         }
         if (iStop)
-            endAll(QStringLiteral("stopped"));
+            endAll(QStringLiteral("was stopped"));
         else if (iWorkers.empty())
-            endAll(QStringLiteral("no page worker is left"));
+            endAll(QStringLiteral("the programs that draw pages could not be kept running"));
         else
             collect();
         if (iWorkers.empty() && !iResults.contains(page))
-            return {QStringLiteral("page %1 was not drawn").arg(page), {}};
+            return {QStringLiteral("was not drawn"), {}};
     }
 }
 
@@ -131,14 +131,14 @@ void PageWorkers::collect() {
         if (descriptors[i].revents)
             readAnswers(worker);
         else if (!worker.pages.empty() && now - worker.since > patience)
-            replace(worker, QStringLiteral("took too long"));
+            replace(worker, QStringLiteral("drawing it took too long"));
     }
     std::erase_if(iWorkers, [](const Worker& worker) { return !worker.process; });
 }
 
 void PageWorkers::readAnswers(Worker& worker) {
     if (!worker.process->readAvailable()) {
-        replace(worker, QStringLiteral("ended the page worker"));
+        replace(worker, QStringLiteral("the program that draws pages ended at this page"));
         return;
     }
     while (const auto line = worker.process->takeLine())
@@ -165,8 +165,8 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
 void PageWorkers::replace(Worker& worker, const QString& reason) {
     if (!worker.pages.empty()) {
         const int page = worker.pages.front();
-        iResults[page].error = QStringLiteral("page %1 %2").arg(page).arg(reason);
-        workersLog().warn(iResults[page].error);
+        iResults[page].error = reason;
+        workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason));
         iWaiting.insert(iWaiting.begin(), worker.pages.begin() + 1, worker.pages.end());
         worker.pages.clear();
         worker.process = startProcess();
@@ -180,7 +180,7 @@ void PageWorkers::replace(Worker& worker, const QString& reason) {
 void PageWorkers::endAll(const QString& reason) {
     for (const Worker& worker : iWorkers) {
         for (const int page : worker.pages)
-            iResults[page].error = QStringLiteral("page %1: %2").arg(page).arg(reason);
+            iResults[page].error = reason;
     }
     killAll();
     iWaiting.clear();
