@@ -1,8 +1,7 @@
 #include "cli/InfoCommand.h"
 
-#include "cli/CommandError.h"
+#include "cli/InputFile.h"
 #include "cli/Terminal.h"
-#include "platform/PDFDocument.h"
 #include "platform/PlatformException.h"
 
 #include <QJsonArray>
@@ -54,8 +53,9 @@ QJsonObject linkAsJson(const PDFAnnotation& link) {
 QJsonArray outlineAsJson(const std::vector<PDFOutlineNode>& nodes) {
     QJsonArray array;
     for (const PDFOutlineNode& node : nodes) {
-        QJsonObject object{{QStringLiteral("title"), node.label},
-                           {QStringLiteral("page"), node.destinationPage + 1}};
+        QJsonObject object{{QStringLiteral("title"), node.label}};
+        if (node.destinationPage >= 0)
+            object[QStringLiteral("page")] = node.destinationPage + 1;
         if (!node.children.empty())
             object[QStringLiteral("children")] = outlineAsJson(node.children);
         array.append(object);
@@ -136,12 +136,7 @@ void printOutline(const std::vector<PDFOutlineNode>& nodes, int depth) {
 } // namespace
 
 void runInfo(const QString& pdf, bool json) {
-    std::shared_ptr<PDFDocument> document;
-    try {
-        document = PDFDocument::open(pdf);
-    } catch (const PlatformException& failure) {
-        throw CommandError(failure.reason());
-    }
+    const auto document = InputFile::open(pdf);
     if (json) {
         printAsJson(*document);
         return;

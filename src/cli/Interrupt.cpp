@@ -19,6 +19,9 @@ void Interrupt::watch() {
     action.sa_flags = SA_RESTART;
     ::sigaction(SIGINT, &action, nullptr);
     ::sigaction(SIGTERM, &action, nullptr);
+    ::sigaction(SIGHUP, &action, nullptr);
+    // Nobody to read the progress is no reason to stop.
+    ::signal(SIGPIPE, SIG_IGN);
 }
 
 bool Interrupt::wasRequested() {

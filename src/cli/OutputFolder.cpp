@@ -3,8 +3,14 @@
 #include "cli/CommandError.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 
@@ -22,14 +28,44 @@ void removeEmptyFolders(const QString& path, const QString& outermost) {
 
 OutputFolder::OutputFolder(const QString& path)
     : iPath(QDir::cleanPath(QFileInfo(path).absoluteFilePath())) {
+    if (path.isEmpty())
+        throw CommandError(QStringLiteral("the name of the output folder is empty"),
+                           ExitCode::usage);
+    try {
+        make(path);
+        lock(path);
+        tryToWrite(path);
+    } catch (...) {
+        giveUp();
+        throw;
+    }
+}
+
+OutputFolder::~OutputFolder() {
+    giveUp();
+}
+
+void OutputFolder::make(const QString& path) {
     for (QString folder = iPath; !QFileInfo::exists(folder); folder = QFileInfo(folder).path())
         iFirstMade = folder;
     if (!iFirstMade.isNull() && !QDir().mkpath(iPath)) {
-        removeEmptyFolders(iPath, iFirstMade);
-        throw CommandError(QStringLiteral("%1: the output folder can't be made").arg(path));
+        throw CommandError(QStringLiteral("%1: the output folder can't be made (%2)")
+                               .arg(path, QString::fromLocal8Bit(std::strerror(errno))));
     }
     if (!QFileInfo(iPath).isDir())
         throw CommandError(QStringLiteral("%1: is a file, not a folder").arg(path));
+}
+
+void OutputFolder::lock(const QString& path) {
+    iLock = ::open(QFile::encodeName(iPath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    // Some network folders know no locks; two books at once are then up to the user.
+    if (iLock >= 0 && ::flock(iLock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        throw CommandError(
+            QStringLiteral("%1: another folvero is making a book in this folder").arg(path));
+    }
+}
+
+void OutputFolder::tryToWrite(const QString& path) const {
     QTemporaryFile probe(iPath + QStringLiteral("/.folvero-XXXXXX"));
     if (!probe.open()) {
         throw CommandError(QStringLiteral("%1: the output folder can't be written (%2)")
@@ -37,7 +73,9 @@ OutputFolder::OutputFolder(const QString& path)
     }
 }
 
-OutputFolder::~OutputFolder() {
+void OutputFolder::giveUp() {
     if (!iKept && !iFirstMade.isNull())
         removeEmptyFolders(iPath, iFirstMade);
+    if (iLock >= 0)
+        ::close(iLock);
 }

@@ -4,9 +4,10 @@
 
 // The folder that a book goes into. It is made at once, so that a folder that can't be written
 // shows before an hour of drawing; unless it is kept, whatever had to be made is removed again.
+// While this lives, no other run of the program gets the same folder.
 class OutputFolder {
 public:
-    // Throws CommandError when the folder can't be made or written.
+    // Throws CommandError when the folder can't be made or written, or is in use.
     explicit OutputFolder(const QString& path);
     ~OutputFolder();
     OutputFolder(const OutputFolder&) = delete;
@@ -16,7 +17,13 @@ public:
     void keep() { iKept = true; }
 
 private:
+    void make(const QString& path);
+    void lock(const QString& path);
+    void tryToWrite(const QString& path) const;
+    void giveUp();
+
     QString iPath;
     QString iFirstMade; // the outermost folder that did not exist; null when all did
+    int iLock = -1;
     bool iKept = false;
 };

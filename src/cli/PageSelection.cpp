@@ -3,6 +3,7 @@
 #include "cli/CommandError.h"
 #include "pages/PageRange.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 #include <vector>
@@ -11,6 +12,18 @@ namespace {
 
 QString runText(int first, int last) {
     return first == last ? QString::number(first) : QStringLiteral("%1-%2").arg(first).arg(last);
+}
+
+// The pieces of the range that are no page number and no run of pages, quoted.
+QStringList unclearPieces(const QString& expression) {
+    static const QRegularExpression clear(QStringLiteral("^\\s*(\\d+\\s*(-\\s*\\d+\\s*)?|all)$"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    QStringList pieces;
+    for (const QString& piece : expression.split(u',', Qt::SkipEmptyParts)) {
+        if (!clear.match(piece).hasMatch())
+            pieces << QStringLiteral("\"%1\"").arg(piece);
+    }
+    return pieces;
 }
 
 } // namespace
@@ -23,8 +36,6 @@ PageSelection selectPages(const QString& expression, int pageCount) {
         const int last = std::min(run.last, pageCount);
         if (first <= last)
             kept << runText(first, last);
-        if (run.first < 1)
-            missing << runText(run.first, std::min(run.last, 0));
         if (run.last > pageCount)
             missing << runText(std::max(run.first, pageCount + 1), run.last);
     }
@@ -34,5 +45,16 @@ PageSelection selectPages(const QString& expression, int pageCount) {
                                .arg(expression)
                                .arg(pageCount));
     }
-    return {kept.join(u','), missing.join(QStringLiteral(", "))};
+    PageSelection selection{kept.join(u','), {}};
+    const QStringList unclear = unclearPieces(expression);
+    if (!unclear.isEmpty()) {
+        selection.remarks << QStringLiteral("the page range is not clear at %1; taking pages %2")
+                                 .arg(unclear.join(QStringLiteral(", ")), selection.range);
+    }
+    if (!missing.isEmpty()) {
+        selection.remarks << QStringLiteral("has only %1 pages; left out: %2")
+                                 .arg(pageCount)
+                                 .arg(missing.join(QStringLiteral(", ")));
+    }
+    return selection;
 }

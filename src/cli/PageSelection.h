@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // A page range as typed, against a document.
 struct PageSelection {
-    QString range;   // names existing pages only
-    QString missing; // the numbers left out because the document lacks them; empty when none are
+    QString range;       // names existing pages only
+    QStringList remarks; // what was left out, in words for the user
 };
 
 // Leaves out what the document lacks. Throws CommandError when no page is left.

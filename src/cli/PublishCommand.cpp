@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "cli/CommandError.h"
+#include "cli/InputFile.h"
 #include "cli/Interrupt.h"
 #include "cli/OutputFolder.h"
 #include "cli/PageSelection.h"
@@ -13,10 +14,10 @@
 #include "pages/ImportPDFOperation.h"
 #include "platform/Files.h"
 #include "platform/NotificationCenter.h"
-#include "platform/PDFDocument.h"
 #include "platform/PlatformException.h"
 
 #include <QFileInfo>
+#include <map>
 
 namespace {
 
@@ -45,14 +46,10 @@ QString htmlName(const PublishOptions& options) {
 }
 
 std::shared_ptr<PDFDocument> openDocument(const QString& path) {
-    try {
-        auto document = PDFDocument::open(path);
-        if (document->pageCount() == 0)
-            throw CommandError(QStringLiteral("%1: the document has no pages").arg(path));
-        return document;
-    } catch (const PlatformException& failure) {
-        throw CommandError(failure.reason());
-    }
+    auto document = InputFile::open(path);
+    if (document->pageCount() == 0)
+        throw CommandError(QStringLiteral("%1: the document has no pages").arg(path));
+    return document;
 }
 
 QString bookTitle(const PublishOptions& options, const PDFDocument& document) {
@@ -85,8 +82,11 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
     if (operation.isCancelled())
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
     const auto source = std::dynamic_pointer_cast<FlashPageSourcePDF>(operation.flashPageSource());
-    if (!source)
-        throw CommandError(operation.failures().join(u'\n'));
+    if (!source || source->pages().empty() || !source->openError().isNull()) {
+        const QStringList& failures = operation.failures();
+        throw CommandError(failures.isEmpty() ? QStringLiteral("the pages could not be drawn")
+                                              : failures.join(u'\n'));
+    }
     for (const QString& failure : operation.failures())
         Terminal::note(QStringLiteral("folvero: %1").arg(failure));
     const auto& failed = source->toPageConverter()->failedPages();
@@ -97,9 +97,21 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
     return source;
 }
 
+// That of the first page, or of the first one that can be read.
+QRectF firstCropBox(const PDFDocument& document) {
+    for (int i = 0; i + 1 < document.pageCount(); ++i) {
+        try {
+            return document.page(i).cropBox();
+        } catch (const PlatformException&) {
+            continue;
+        }
+    }
+    return document.page(document.pageCount() - 1).cropBox();
+}
+
 // The book's page size is that of the document's first page; it also goes into the template.
 void takePageSize(const PDFDocument& document, FlashTemplate& tmpl) {
-    const QRectF box = document.page(0).cropBox();
+    const QRectF box = firstCropBox(document);
     auto& settings = AppSettings::shareInstance();
     settings.setPageWidth(int(box.width()));
     settings.setPageHeight(int(box.height()));
@@ -119,15 +131,21 @@ void writeBook(FolveroOutput& output, const QString& title) {
         throw CommandError(output.publishErrors().join(u'\n'));
 }
 
-void reportFailedPages(const PDFToSWFPageConverter& converter) {
-    if (converter.failedPages().empty())
+// Pages that could not be drawn, and those whose file was gone before it was published.
+void reportMissingPages(const PDFToSWFPageConverter& converter, const FolveroOutput& output) {
+    std::map<int, QString> reasons;
+    for (const int page : output.missingPages())
+        reasons[page] = QStringLiteral("its file is missing");
+    for (const auto& page : converter.failedPages())
+        reasons[page.page] = page.reason;
+    if (reasons.empty())
         return;
     QStringList lines;
-    for (const auto& page : converter.failedPages())
-        lines << QStringLiteral("  page %1: %2").arg(page.page).arg(page.reason);
+    for (const auto& [page, reason] : reasons)
+        lines << QStringLiteral("  page %1: %2").arg(page).arg(reason);
     throw CommandError(
         QStringLiteral("the book was made, but %1 of its pages could not be drawn:\n")
-                .arg(converter.failedPages().size()) +
+                .arg(reasons.size()) +
             lines.join(u'\n'),
         ExitCode::incomplete);
 }
@@ -136,15 +154,14 @@ void reportFailedPages(const PDFToSWFPageConverter& converter) {
 
 void runPublish(const PublishOptions& options) {
     PublishTiming timing;
-    Interrupt::watch();
     const QString fileName = htmlName(options);
     const auto tmpl = prepareTemplate(options);
     const auto document = openDocument(options.pdf);
     const PageSelection pages = selectPages(options.pages, document->pageCount());
-    if (!pages.missing.isEmpty()) {
-        Terminal::note(QStringLiteral("folvero: %1 has no page %2; the book goes without")
-                           .arg(options.pdf, pages.missing));
-    }
+    for (const QString& remark : pages.remarks)
+        Terminal::note(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
+    // Until here a signal ends the program at once, as it should: nothing is there to clear away.
+    Interrupt::watch();
     OutputFolder folder(options.outputFolder);
     timing.opened();
 
@@ -167,5 +184,5 @@ void runPublish(const PublishOptions& options) {
         timing.write(options.timingFile);
 
     Terminal::print(output.outputFileName());
-    reportFailedPages(*source->toPageConverter());
+    reportMissingPages(*source->toPageConverter(), output);
 }

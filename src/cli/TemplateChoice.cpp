@@ -1,6 +1,7 @@
 #include "cli/TemplateChoice.h"
 
 #include "cli/CommandError.h"
+#include "platform/Bundle.h"
 #include "platform/Files.h"
 
 #include <QFile>
@@ -95,6 +96,11 @@ QStringList TemplateChoice::choices(const FlashTemplateProperty& property) {
 
 std::shared_ptr<FlashTemplate> TemplateChoice::load(const QString& templateName,
                                                     const QString& styleName) {
+    if (templateNames().isEmpty()) {
+        throw CommandError(QStringLiteral("%1: holds no templates; the program is not installed "
+                                          "completely")
+                               .arg(Bundle::resourcePath()));
+    }
     if (!templateNames().contains(templateName)) {
         throw CommandError(QStringLiteral("there is no template \"%1\"; there are: %2")
                                .arg(templateName, templateNames().join(QStringLiteral(", "))));

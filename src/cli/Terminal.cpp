@@ -1,5 +1,7 @@
 #include "cli/Terminal.h"
 
+#include "cli/CommandError.h"
+
 #include <cstdio>
 #include <unistd.h>
 
@@ -18,6 +20,11 @@ void write(std::FILE* file, const QString& text) {
 
 void Terminal::print(const QString& line) {
     write(stdout, line + u'\n');
+}
+
+void Terminal::checkOutput() {
+    if (std::ferror(stdout))
+        throw CommandError(QStringLiteral("standard output can't be written"));
 }
 
 void Terminal::note(const QString& line) {

@@ -9,6 +9,9 @@ namespace Terminal {
 // A line on standard output: what was asked for.
 void print(const QString& line);
 
+// Throws CommandError when some line did not reach standard output.
+void checkOutput();
+
 // A line on standard error: everything else.
 void note(const QString& line);
 

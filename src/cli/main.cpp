@@ -12,7 +12,9 @@
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <QFile>
+#include <fcntl.h>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -69,64 +71,118 @@ void publish(const CommandLine& line, const CLI::App& command) {
 }
 
 void addPublish(CLI::App& app, CommandLine& line) {
-    auto* command = app.add_subcommand("publish", "Make a page-flip book from a PDF file");
-    command->add_option("PDF", line.pdf, "The PDF file")->required();
+    auto* command =
+        app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
+    command->add_option("PDF", line.pdf, "The PDF file")->type_name("")->required();
     command
         ->add_option("FOLDER", line.outputFolder,
                      "The folder that the book goes into; made if it is missing")
+        ->type_name("")
         ->required();
     command->add_option("--name", line.name, "Name of the HTML page, without its extension")
+        ->type_name("NAME")
         ->capture_default_str();
-    command->add_option("--title", line.title,
-                        "Title of the book; by default the title of the document");
+    command
+        ->add_option("--title", line.title,
+                     "Title of the book; by default the title of the document")
+        ->type_name("TEXT");
     command->add_option("--pages", line.pages, "Pages to take, for example 1-3,7 or ALL")
+        ->type_name("PAGES")
         ->capture_default_str();
     command
         ->add_option("--quality", line.quality,
                      "100 for the sharpest pages, below that for the smallest files")
-        ->check(CLI::Range(0, 100))
+        ->check(CLI::Range(0, 100, "0-100"))
+        ->type_name("N")
         ->capture_default_str();
     command->add_flag("--links", line.links, "Read the links of the pages");
     command->add_flag("--bookmarks", line.bookmarks, "Read the bookmarks of the document");
     command->add_option("--template", line.templateName, "Template of the book")
+        ->type_name("NAME")
         ->capture_default_str();
-    command->add_option("--style", line.styleName, "Style of the template");
-    command->add_option("--settings", line.settingsFile, "A settings file to apply");
+    command->add_option("--style", line.styleName, "Style of the template")->type_name("NAME");
+    command->add_option("--settings", line.settingsFile, "A settings file to apply")
+        ->type_name("FILE");
     command
         ->add_option("--set", line.assignments,
-                     "KEY=VALUE: set one property of the template; may be given many times")
+                     "Set one property of the template, see folvero templates; may be given\n"
+                     "many times")
+        ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
     command->add_flag("--quiet", line.quiet, "Show no progress");
-    command->add_option("--timing", line.timingFile,
-                        "Write how long the steps took to this file, as JSON");
+    command
+        ->add_option("--timing", line.timingFile,
+                     "Write how long the steps took to this file, as JSON")
+        ->type_name("FILE");
     command->callback([&line, command] { publish(line, *command); });
 }
 
 void addTemplates(CLI::App& app, CommandLine& line) {
-    auto* command = app.add_subcommand("templates", "List templates, styles and properties");
+    auto* command =
+        app.add_subcommand("templates", "List templates, styles and properties")->group("Commands");
     command->add_flag("--json", line.json, "Print JSON");
-    command->callback([&line] { runTemplates(line.json); });
+    command->callback([&line] {
+        runTemplates(line.json);
+        Terminal::checkOutput();
+    });
 }
 
 void addInfo(CLI::App& app, CommandLine& line) {
     auto* command =
-        app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file");
-    command->add_option("PDF", line.pdf, "The PDF file")->required();
+        app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file")
+            ->group("Commands");
+    command->add_option("PDF", line.pdf, "The PDF file")->type_name("")->required();
     command->add_flag("--json", line.json, "Print JSON");
-    command->callback([&line] { runInfo(path(line.pdf), line.json); });
+    command->callback([&line] {
+        runInfo(path(line.pdf), line.json);
+        Terminal::checkOutput();
+    });
 }
 
 void addDecode(CLI::App& app, CommandLine& line) {
     auto* command =
-        app.add_subcommand("decode", "Print the deciphered configuration of a published book");
-    command->add_option("BOOK", line.book, "The book's folder")->required();
+        app.add_subcommand("decode", "Print the deciphered configuration of a published book")
+            ->group("Commands");
+    command->add_option("BOOK", line.book, "The book's folder, or its files/UserConfig.bin")
+        ->type_name("")
+        ->required();
     command->add_flag("--json", line.json, "Print JSON");
-    command->callback([&line] { runDecode(path(line.book), line.json); });
+    command->callback([&line] {
+        runDecode(path(line.book), line.json);
+        Terminal::checkOutput();
+    });
+}
+
+// What is wrong with the command line, and where to read on.
+std::string explain(const CLI::App* app, const CLI::Error& error) {
+    std::string cause = error.what();
+    std::string help = "folvero --help";
+    if (const auto commands = app->get_subcommands(); !commands.empty()) {
+        help = "folvero " + commands.front()->get_name() + " --help";
+    } else {
+        const auto words = app->remaining();
+        cause = words.empty() ? "a command is needed" : "there is no command " + words.front();
+    }
+    return "folvero: " + cause + "; see " + help + "\n";
+}
+
+// A file opened later must not end up under the number of a standard stream that the caller closed.
+void openStandardStreams() {
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        if (::fcntl(stream, F_GETFD) < 0)
+            ::open("/dev/null", O_RDWR);
+    }
 }
 
 int run(int argc, char** argv) {
     CLI::App app("Turns PDF files into page-flip books.", "folvero");
     CommandLine line;
+    app.failure_message(explain);
+    for (const auto& [label, shown] : {std::pair{"SUBCOMMAND", "COMMAND"},
+
+                                       {"Positionals", "Arguments"},
+                                       {"REQUIRED", ""}})
+        app.get_formatter()->label(label, shown);
     app.set_version_flag("--version", "folvero " + Bundle::version().toStdString());
     app.require_subcommand(1);
     app.add_flag_callback(
@@ -152,6 +208,7 @@ int run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    openStandardStreams();
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Folvero"));
     QCoreApplication::setApplicationName(QStringLiteral("Folvero"));

@@ -1,0 +1,151 @@
+#include "support/BookReader.h"
+#include "support/Program.h"
+#include "support/TemplateLibrary.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class InterruptTest : public testing::Test {
+protected:
+    QString folder() const { return iRoot.filePath(QStringLiteral("book")); }
+
+    // Starts to publish a thousand pages and returns once that many are drawn.
+    void start(QProcess& process, int pages = 60) const {
+        process.start(Program::path(), {QStringLiteral("publish"),
+                                        Program::sample(QStringLiteral("thousand.pdf")), folder()});
+        ASSERT_TRUE(process.waitForStarted());
+        for (int i = 0; i < 500 && pagesDrawn(process) < pages; ++i)
+            std::this_thread::sleep_for(10ms);
+        ASSERT_GE(pagesDrawn(process), pages);
+    }
+
+    // Process numbers of its page workers.
+    static QStringList workers(const QProcess& process) {
+        QStringList numbers;
+        const QString text = QString::fromUtf8(
+            Program::runOther(QStringLiteral("pgrep"),
+                              {QStringLiteral("-P"), QString::number(process.processId())})
+                .output);
+        return text.split(u'\n', Qt::SkipEmptyParts);
+    }
+
+    static bool isRunning(const QString& number) {
+        return QFileInfo::exists(QStringLiteral("/proc/%1/exe").arg(number)) &&
+               !QFileInfo(QStringLiteral("/proc/%1/exe").arg(number)).symLinkTarget().isEmpty();
+    }
+
+    // The work folder of a run, as its workers are told it.
+    static QString workFolder(const QProcess& process) {
+        for (const QString& worker : workers(process)) {
+            const auto words =
+                TestFiles::read(QStringLiteral("/proc/%1/cmdline").arg(worker)).split('\0');
+            if (words.size() > 2)
+                return QString::fromUtf8(words[2]);
+        }
+        return {};
+    }
+
+    static int pagesDrawn(const QProcess& process) {
+        const QString work = workFolder(process);
+        return work.isEmpty() ? 0 : int(QDir(work).entryList({QStringLiteral("*.jpg")}).size());
+    }
+
+    QByteArray contents() const {
+        QByteArray all;
+        for (const QString& name : BookReader::filesBeneath(folder()))
+            all += name.toUtf8() + '\n' + TestFiles::read(folder() + u'/' + name);
+        return all;
+    }
+
+    QTemporaryDir iRoot;
+};
+
+} // namespace
+
+TEST_F(InterruptTest, LeavesNothingBehindWhenItIsToldToStop) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        SCOPED_TRACE(signal);
+        QProcess process;
+        start(process);
+        const QString work = workFolder(process);
+        const QStringList running = workers(process);
+        ASSERT_FALSE(work.isEmpty());
+        ASSERT_FALSE(running.isEmpty());
+        ::kill(pid_t(process.processId()), signal);
+        const auto result = Program::finish(process);
+        EXPECT_EQ(result.exitCode, 130);
+        EXPECT_TRUE(result.errors.contains("cancelled")) << result.errors.constData();
+        EXPECT_FALSE(QFileInfo::exists(folder()));
+        EXPECT_FALSE(QFileInfo::exists(work));
+        for (const QString& worker : running)
+            EXPECT_FALSE(isRunning(worker));
+    }
+}
+
+TEST_F(InterruptTest, LeavesTheEarlierBookAsItWas) {
+    ASSERT_EQ(Program::run({QStringLiteral("publish"),
+                            Program::sample(QStringLiteral("outline.pdf")), folder()})
+                  .exitCode,
+              0);
+    const QByteArray before = contents();
+    QProcess process;
+    start(process);
+    ::kill(pid_t(process.processId()), SIGINT);
+    EXPECT_EQ(Program::finish(process).exitCode, 130);
+    EXPECT_TRUE(contents() == before);
+}
+
+TEST_F(InterruptTest, TakesItsWorkersAlongWhenItIsKilled) {
+    QProcess process;
+    start(process);
+    const QString work = workFolder(process);
+    const QStringList running = workers(process);
+    process.kill();
+    EXPECT_EQ(Program::finish(process).exitCode, -1);
+    for (const QString& worker : running) {
+        for (int i = 0; i < 200 && isRunning(worker); ++i)
+            std::this_thread::sleep_for(10ms);
+        EXPECT_FALSE(isRunning(worker));
+    }
+    QDir(work).removeRecursively(); // nobody is left to do it
+}
+
+TEST_F(InterruptTest, GoesOnWhenAWorkerDies) {
+    QProcess process;
+    start(process, 1);
+    const QStringList running = workers(process);
+    ASSERT_FALSE(running.isEmpty());
+    ::kill(running.first().toInt(), SIGKILL);
+    const auto result = Program::finish(process);
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_TRUE(result.errors.contains("1 of its pages")) << result.errors.constData();
+    EXPECT_EQ(QDir(folder() + QStringLiteral("/files/page")).entryList(QDir::Files).size(), 999);
+}
+
+TEST_F(InterruptTest, MakesOneBookAtATimeInAFolder) {
+    QProcess first;
+    start(first);
+    const auto second = Program::run(
+        {QStringLiteral("publish"), Program::sample(QStringLiteral("outline.pdf")), folder()});
+    EXPECT_EQ(second.exitCode, 1);
+    EXPECT_TRUE(second.errors.contains("another folvero")) << second.errors.constData();
+    ::kill(pid_t(first.processId()), SIGINT);
+    EXPECT_EQ(Program::finish(first).exitCode, 130);
+}
+
+TEST_F(InterruptTest, GoesOnWhenNobodyReadsItsProgress) {
+    const auto result = Program::runOther(
+        QStringLiteral("/bin/sh"),
+        {QStringLiteral("-c"), QStringLiteral("\"$0\" publish \"$1\" \"$2\" 2>&1 >&- | true"),
+         Program::path(), Program::sample(QStringLiteral("outline.pdf")), folder()});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(QFileInfo::exists(folder() + QStringLiteral("/index.html")));
+}
