@@ -95,8 +95,10 @@ void addPublish(CLI::App& app, CommandLine& line) {
         ->check(CLI::Range(0, 100, "0-100"))
         ->type_name("N")
         ->capture_default_str();
-    command->add_flag("--links", line.links, "Read the links of the pages");
-    command->add_flag("--bookmarks", line.bookmarks, "Read the bookmarks of the document");
+    command->add_flag("--links", line.links,
+                      "Read the links of the pages; the book does not show them yet");
+    command->add_flag("--bookmarks", line.bookmarks,
+                      "Read the bookmarks of the document; the book does not show them yet");
     command->add_option("--template", line.templateName, "Template of the book")
         ->type_name("NAME")
         ->capture_default_str();

@@ -1,4 +1,5 @@
 #include "support/BookReader.h"
+#include "support/PDFBuilder.h"
 #include "support/PixelCheck.h"
 #include "support/Program.h"
 #include "support/TemplateLibrary.h"
@@ -147,6 +148,22 @@ TEST_F(PublishTest, MakesABookWithoutThePagesThatCannotBeDrawn) {
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_TRUE(result.errors.contains("page 3: ")) << result.errors.constData();
     EXPECT_EQ(pageFiles().size(), 4);
+}
+
+TEST_F(PublishTest, TakesThePageSizeOfTheFirstPageThatCanBeRead) {
+    PDFBuilder pdf;
+    const int first = pdf.addMissingPage();
+    pdf.setObject(pdf.pageObject(first), "<< /Type /Pages /Count 1 /Kids [] >>");
+    PDFBuilder::Page page;
+    page.mediaBox = QRectF(0, 0, 210, 300);
+    pdf.addPage(page);
+    const QString path = iRoot.filePath(QStringLiteral("first.pdf"));
+    ASSERT_TRUE(pdf.write(path));
+    const auto result = Program::run({QStringLiteral("publish"), path, folder()});
+    EXPECT_EQ(result.exitCode, 3);
+    EXPECT_TRUE(result.errors.contains("page 1: ")) << result.errors.constData();
+    const BookElement book = BookReader::configuration(folder());
+    EXPECT_EQ(book.textAt(QStringLiteral("Ppts/Ppt/Normal/Width")), QStringLiteral("210"));
 }
 
 TEST_F(PublishTest, DrawsAHugePageSmaller) {
