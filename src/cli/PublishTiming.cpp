@@ -1,6 +1,6 @@
 #include "cli/PublishTiming.h"
 
-#include "cli/CommandError.h"
+#include "cli/Terminal.h"
 #include "pages/FlashPageSourcePDF.h"
 #include "platform/Files.h"
 
@@ -40,5 +40,5 @@ void PublishTiming::published() {
 void PublishTiming::write(const QString& path) const {
     QString error;
     if (!Files::writeAtomically(path, QJsonDocument(iSeconds).toJson(), &error))
-        throw CommandError(QStringLiteral("%1: %2").arg(path, error));
+        Terminal::note(QStringLiteral("folvero: %1: %2").arg(path, error));
 }

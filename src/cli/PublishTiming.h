@@ -15,7 +15,7 @@ public:
 
     // Writes seconds as JSON: "open", "import", "publish" and "total" by the clock; "draw",
     // "encode" and "write" summed over the "workers" page workers, and "idle", what they waited
-    // during the import. Throws CommandError.
+    // during the import. A file that can't be written is reported: the book is there all the same.
     void write(const QString& path) const;
 
 private:

@@ -1,11 +1,13 @@
 #include "cli/TemplatesCommand.h"
 
+#include "cli/CommandError.h"
 #include "cli/TemplateChoice.h"
 #include "cli/Terminal.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <functional>
 
 namespace {
 
@@ -27,19 +29,29 @@ QJsonObject propertyAsJson(const FlashTemplateProperty& property) {
     return object;
 }
 
+// A damaged template is reported; the others are listed all the same.
+void forEachTemplate(const std::function<void(const FlashTemplate&)>& action) {
+    for (const QString& name : TemplateChoice::templateNames()) {
+        try {
+            action(*TemplateChoice::load(name, QString()));
+        } catch (const CommandError& failure) {
+            Terminal::note(QStringLiteral("folvero: %1").arg(failure.message()));
+        }
+    }
+}
+
 void printAsJson() {
     QJsonArray templates;
-    for (const QString& name : TemplateChoice::templateNames()) {
-        const auto tmpl = TemplateChoice::load(name, QString());
+    forEachTemplate([&](const FlashTemplate& tmpl) {
         QJsonArray properties;
-        for (const auto& property : tmpl->properties())
+        for (const auto& property : tmpl.properties())
             properties.append(propertyAsJson(*property));
-        templates.append(QJsonObject{{QStringLiteral("name"), name},
-                                     {QStringLiteral("defaultStyle"), tmpl->defaultSytleName()},
-                                     {QStringLiteral("styles"),
-                                      QJsonArray::fromStringList(TemplateChoice::styleNames(name))},
+        const QStringList styles = TemplateChoice::styleNames(tmpl.tmplName());
+        templates.append(QJsonObject{{QStringLiteral("name"), tmpl.tmplName()},
+                                     {QStringLiteral("defaultStyle"), tmpl.defaultSytleName()},
+                                     {QStringLiteral("styles"), QJsonArray::fromStringList(styles)},
                                      {QStringLiteral("properties"), properties}});
-    }
+    });
     Terminal::print(QString::fromUtf8(QJsonDocument(templates).toJson()).trimmed());
 }
 
@@ -69,12 +81,11 @@ void runTemplates(bool json) {
         printAsJson();
         return;
     }
-    for (const QString& name : TemplateChoice::templateNames()) {
-        const auto tmpl = TemplateChoice::load(name, QString());
-        Terminal::print(name);
-        Terminal::print(QStringLiteral("  Styles: %1")
-                            .arg(TemplateChoice::styleNames(name).join(QStringLiteral(", "))));
-        for (const auto& property : tmpl->properties())
+    forEachTemplate([](const FlashTemplate& tmpl) {
+        const QStringList styles = TemplateChoice::styleNames(tmpl.tmplName());
+        Terminal::print(tmpl.tmplName());
+        Terminal::print(QStringLiteral("  Styles: %1").arg(styles.join(QStringLiteral(", "))));
+        for (const auto& property : tmpl.properties())
             printProperty(*property, 1);
-    }
+    });
 }

@@ -65,8 +65,9 @@ void checkFile(const QString& path) {
         failToOpen(path, QStringLiteral("no such file"));
     if (info.isDir())
         failToOpen(path, QStringLiteral("is a folder, not a PDF file"));
+    // It may never end.
     if (!info.isFile())
-        failToOpen(path, QStringLiteral("is a device or a pipe, not a file"));
+        failToOpen(path, QStringLiteral("is a pipe or a device, not a PDF file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         failToOpen(path, QStringLiteral("can't be read (%1)").arg(file.errorString()));
@@ -151,6 +152,12 @@ QString PDFDocument::Engine::text(pdf_obj* string) const {
 
 QString PDFDocument::Engine::name(pdf_obj* object) const {
     return QString::fromUtf8(get([&](fz_context* ctx) { return pdf_to_name(ctx, object); }, ""));
+}
+
+QString PDFDocument::Engine::caughtReason() const {
+    if (fz_caught(context) == FZ_ERROR_MEMORY)
+        return QStringLiteral("it takes more memory than a page may have");
+    return QString::fromUtf8(fz_caught_message(context));
 }
 
 int PDFDocument::Engine::pageCount() const {

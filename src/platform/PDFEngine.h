@@ -29,8 +29,7 @@ struct PDFDocument::Engine {
             body(context);
         }
         fz_catch(context) {
-            throw PlatformException(QString::fromLatin1(errorName),
-                                    QString::fromUtf8(fz_caught_message(context)));
+            throw PlatformException(QString::fromLatin1(errorName), caughtReason());
         }
     }
 
@@ -47,6 +46,9 @@ struct PDFDocument::Engine {
         }
         return value;
     }
+
+    // The engine error just caught, in words.
+    QString caughtReason() const;
 
     // What the document says, but no more than it has objects.
     int pageCount() const;
