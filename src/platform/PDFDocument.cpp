@@ -92,8 +92,6 @@ PDFDocument::Engine::Engine(QString filePath) : path(std::move(filePath)) {
 }
 
 PDFDocument::Engine::~Engine() {
-    if (pageTable)
-        pdf_drop_page_tree(context, document);
     pdf_drop_document(context, document);
     fz_drop_context(context);
     if (mapping)
@@ -168,19 +166,7 @@ int PDFDocument::Engine::pageCount() const {
         0);
 }
 
-void PDFDocument::Engine::loadPageTable() const {
-    if (pageTable)
-        return;
-    pageTable = get(
-        [this](fz_context* ctx) {
-            pdf_load_page_tree(ctx, document);
-            return true;
-        },
-        false);
-}
-
 std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) const {
-    loadPageTable();
     const int count = pageCount();
     const int page = get(
         [&](fz_context* ctx) {

@@ -67,14 +67,10 @@ struct PDFDocument::Engine {
     std::vector<PDFOutlineNode> outlineLevel(pdf_obj* first, int depth,
                                              std::set<pdf_obj*>& seen) const;
 
-    // Keeps the engine's table of page numbers, so that looking one up does not walk the page tree.
-    void loadPageTable() const;
-
     QString path;
     std::size_t allocated = 0; // bytes held by the engine
     fz_context* context = nullptr;
     pdf_document* document = nullptr;
     void* mapping = nullptr;
     std::size_t mappingSize = 0;
-    mutable bool pageTable = false;
 };
