@@ -80,9 +80,11 @@ private:
 struct PixelSize {
     int width;
     int height;
+    double scale; // pixels per point
 };
 
-// The pixels of a page at a scale, or at the largest scale within the limits.
+// The whole pixels of a page at a scale, or at the largest scale within the limits. A fraction of a
+// pixel at the right and lower edge is left out: drawn in part, it would show as a light seam.
 PixelSize pixelSize(double width, double height, double scale) {
     using namespace EngineLimits;
     const double pixels = width * scale * height * scale;
@@ -92,10 +94,11 @@ PixelSize pixelSize(double width, double height, double scale) {
         factor = std::sqrt(double(maxBitmapPixels) / pixels);
     if (side * factor > maxBitmapSide)
         factor = maxBitmapSide / side;
+    constexpr double rounding = 1e-3; // of the engine's single-precision numbers
     const auto whole = [&](double length) {
-        return std::max(1, int(std::lround(length * scale * factor)));
+        return std::max(1, int(length * scale * factor + rounding));
     };
-    return {whole(width), whole(height)};
+    return {whole(width), whole(height), scale * factor};
 }
 
 // Whether any pixel of a colour picture is more than gray.
@@ -271,9 +274,8 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
     const double height = double(bounds.y1) - bounds.y0;
     const PixelSize size = pixelSize(width, height, scale);
     bitmap.resize(size.width, size.height, drawn.isColour ? 3 : 1);
-    // Stretched by less than a pixel so that the page fills the bitmap to its edges.
-    const fz_matrix matrix = fz_pre_translate(
-        fz_scale(float(size.width / width), float(size.height / height)), -bounds.x0, -bounds.y0);
+    const fz_matrix matrix =
+        fz_pre_translate(fz_scale(float(size.scale), float(size.scale)), -bounds.x0, -bounds.y0);
     engine.run("PDFPageUnreadable",
                [&](fz_context* ctx) { drawList(ctx, drawn.list, matrix, bitmap, watch.cookie()); });
     watch.throwIfEnded();
