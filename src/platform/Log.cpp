@@ -22,7 +22,7 @@ Watcher& watcher() {
 }
 
 void tellWatcher(Log::Level level, const char* logger, const QString& text,
-                 const std::source_location& where) {
+                 const CodeLocation& where) {
     const std::lock_guard lock(watcher().mutex);
     if (watcher().function)
         watcher().function({level, QString::fromLatin1(logger), text, where});
@@ -70,33 +70,33 @@ bool Log::isDebugEnabled() const {
            log4cplus::Logger::getInstance(iName).isEnabledFor(log4cplus::DEBUG_LOG_LEVEL);
 }
 
-void Log::debug(const QString& text, std::source_location where) const {
+void Log::debug(const QString& text, CodeLocation where) const {
     write(Level::debug, text, where);
 }
 
-void Log::info(const QString& text, std::source_location where) const {
+void Log::info(const QString& text, CodeLocation where) const {
     write(Level::info, text, where);
 }
 
-void Log::warn(const QString& text, std::source_location where) const {
+void Log::warn(const QString& text, CodeLocation where) const {
     write(Level::warn, text, where);
 }
 
-void Log::error(const QString& text, std::source_location where) const {
+void Log::error(const QString& text, CodeLocation where) const {
     write(Level::error, text, where);
 }
 
-void Log::write(Level level, const QString& text, const std::source_location& where) const {
+void Log::write(Level level, const QString& text, const CodeLocation& where) const {
     tellWatcher(level, iName, text, where);
     auto logger = log4cplus::Logger::getInstance(iName);
     if (!logger.isEnabledFor(libraryLevel(level)))
         return;
-    logger.forcedLog(libraryLevel(level), text.toStdString(), where.file_name(),
-                     static_cast<int>(where.line()), where.function_name());
+    logger.forcedLog(libraryLevel(level), text.toStdString(), where.file,
+                     static_cast<int>(where.line), where.function);
 }
 
 void Log::system(const QString& text) {
-    tellWatcher(Level::warn, "system", text, std::source_location::current());
+    tellWatcher(Level::warn, "system", text, CodeLocation::current());
     ::syslog(LOG_USER | LOG_NOTICE, "%s", text.toUtf8().constData());
 }
 

@@ -2,9 +2,23 @@
 
 #include <QString>
 #include <functional>
-#include <source_location>
 #include <utility>
 #include <vector>
+
+// A place in the code. The library's own type for it does not compile with every compiler that we
+// check the code with.
+struct CodeLocation {
+    const char* file;
+    const char* function;
+    unsigned line;
+
+    // The place of the call.
+    static constexpr CodeLocation current(const char* file = __builtin_FILE(),
+                                          const char* function = __builtin_FUNCTION(),
+                                          unsigned line = __builtin_LINE()) {
+        return {file, function, line};
+    }
+};
 
 // A named logger. Every record carries the file, line and function of the call.
 class Log {
@@ -15,7 +29,7 @@ public:
         Level level;
         QString logger;
         QString text;
-        std::source_location where;
+        CodeLocation where;
     };
 
     explicit Log(const char* name);
@@ -23,14 +37,10 @@ public:
     // Use before building an expensive text.
     bool isDebugEnabled() const;
 
-    void debug(const QString& text,
-               std::source_location where = std::source_location::current()) const;
-    void info(const QString& text,
-              std::source_location where = std::source_location::current()) const;
-    void warn(const QString& text,
-              std::source_location where = std::source_location::current()) const;
-    void error(const QString& text,
-               std::source_location where = std::source_location::current()) const;
+    void debug(const QString& text, CodeLocation where = CodeLocation::current()) const;
+    void info(const QString& text, CodeLocation where = CodeLocation::current()) const;
+    void warn(const QString& text, CodeLocation where = CodeLocation::current()) const;
+    void error(const QString& text, CodeLocation where = CodeLocation::current()) const;
 
     // For the few messages that belong in the operating system's log rather than in ours.
     static void system(const QString& text);
@@ -49,7 +59,7 @@ public:
     static void setWatcher(std::function<void(const Record&)> watcher);
 
 private:
-    void write(Level level, const QString& text, const std::source_location& where) const;
+    void write(Level level, const QString& text, const CodeLocation& where) const;
 
     const char* iName;
 };
