@@ -128,7 +128,7 @@ void printOutline(const std::vector<PDFOutlineNode>& nodes, int depth) {
         const QString page = node.destinationPage < 0
                                  ? QString()
                                  : QStringLiteral(" (page %1)").arg(node.destinationPage + 1);
-        Terminal::print(QString(2 * depth, u' ') + node.label + page);
+        Terminal::print(QString(qsizetype{2} * depth, u' ') + node.label + page);
         printOutline(node.children, depth + 1);
     }
 }

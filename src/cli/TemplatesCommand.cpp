@@ -56,7 +56,7 @@ void printAsJson() {
 }
 
 void printProperty(const FlashTemplateProperty& property, int depth) {
-    const QString indent(2 * depth, u' ');
+    const QString indent(qsizetype{2} * depth, u' ');
     if (property.propertyType() == pt_composite) {
         Terminal::print(QStringLiteral("%1%2").arg(indent, property.title()));
     } else {

@@ -3,5 +3,6 @@
 // The JPEG compression factor (0 smallest, 1 best) for a quality of 0 to 100. The division is in
 // whole numbers, so every quality below 100 gives the smallest files.
 constexpr float compressionFactor(int quality) {
-    return static_cast<float>(quality / 100);
+    const int wholeHundreds = quality / 100;
+    return static_cast<float>(wholeHundreds);
 }
