@@ -1,4 +1,14 @@
-import { crc32, deflateSync } from 'node:zlib';
+import { deflateSync } from 'node:zlib';
+
+// The Node.js of Debian 12 does not have it in zlib yet.
+function crc32(bytes) {
+  let crc = ~0;
+  for (const byte of bytes) {
+    crc ^= byte;
+    for (let bit = 0; bit < 8; bit += 1) crc = (crc >>> 1) ^ (crc & 1 ? 0xedb88320 : 0);
+  }
+  return ~crc >>> 0;
+}
 
 const SIGNATURE = Buffer.from([0x89, 0x50, 0x4e, 0x47, 0x0d, 0x0a, 0x1a, 0x0a]);
 
