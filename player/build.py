@@ -1,12 +1,17 @@
 #!/usr/bin/env python3
 """Puts the player's script and style into its page, so that a book needs no further file.
 
-Usage: build.py SHELL STYLE_DIR SCRIPT_DIR OUTPUT
+Usage: build.py PLAYER_DIR TEMPLATE OUTPUT
+
+The template's look.css comes after the player's own style. From its template.json the page learns
+how leaves turn ("turn"), whether two pages may lie side by side ("pages") and whether the pages are
+bound in the middle ("binding"); style and script find these as data attributes of the root.
 
 The page passes through a text template that takes every dollar sign followed by an opening brace
 for a placeholder, so the page may hold exactly the three that the template knows.
 """
 
+import json
 import pathlib
 import re
 import sys
@@ -50,12 +55,22 @@ def check(page, script):
         sys.exit("player: a placeholder stands where the text template would stop")
 
 
+def attributes(template, name):
+    binding = "yes" if template["binding"] else "no"
+    return (f'data-template="{name}" data-turn="{template["turn"]}" '
+            f'data-pages="{template["pages"]}" data-binding="{binding}"')
+
+
 def main():
-    shell, style_dir, script_dir, output = map(pathlib.Path, sys.argv[1:])
-    style = "\n".join((style_dir / name).read_text(encoding="utf-8") for name in STYLES)
-    script = join_script(script_dir)
-    page = shell.read_text(encoding="utf-8")
-    page = page.replace("/*style*/", style.strip()).replace("/*script*/", script)
+    player, name, output = pathlib.Path(sys.argv[1]), sys.argv[2], pathlib.Path(sys.argv[3])
+    folder = player / "templates" / name
+    template = json.loads((folder / "template.json").read_text(encoding="utf-8"))
+    sheets = [player / "style" / sheet for sheet in STYLES] + [folder / "look.css"]
+    style = "\n".join(sheet.read_text(encoding="utf-8").strip() for sheet in sheets)
+    script = join_script(player / "src")
+    page = (player / "shell.html").read_text(encoding="utf-8")
+    page = page.replace("/*style*/", style).replace("/*script*/", script)
+    page = page.replace('data-template=""', attributes(template, name))
     check(page, script)
     output.parent.mkdir(parents=True, exist_ok=True)
     output.write_text(page, encoding="utf-8")
