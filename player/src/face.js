@@ -70,6 +70,20 @@ export function drawFace({ page, entry, width, height, density, paper, gutter })
 }
 
 /**
+ * @param {HTMLCanvasElement} left
+ * @param {HTMLCanvasElement} right
+ */
+export function sideBySide(left, right) {
+  const canvas = document.createElement('canvas');
+  canvas.width = left.width + right.width;
+  canvas.height = left.height;
+  const context = /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
+  context.drawImage(left, 0, 0);
+  context.drawImage(right, left.width, 0);
+  return canvas;
+}
+
+/**
  * Back of a single page: paper through which the print of the front is faintly seen.
  * @param {HTMLCanvasElement} front
  * @param {string} paper
