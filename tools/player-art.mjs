@@ -48,6 +48,7 @@ const PICTURES = [
   ['desk/Slate/slate.jpg', WIDE, slate],
   ['desk/Linen/linen.jpg', [480, 480], linen],
   ['desk/Green baize/baize.jpg', [500, 500], baize],
+  ['desk/Green baize/rail.jpg', WIDE, () => boards({ early: '#6d4226', late: '#3c2112', height: 400, seed: 17 })],
   ['desk/Beach/sand.jpg', WIDE, sand],
   ['gallery/Morning light/wall.jpg', WIDE, windowLight],
   ['cinema/Velvet/curtain.jpg', WIDE, curtain],
