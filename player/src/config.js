@@ -186,11 +186,16 @@ function textAt(root, path) {
  */
 function readPages(root) {
   const entries = [];
-  for (const group of root.children) {
+  for (let group = root.firstElementChild; group; group = group.nextElementSibling) {
     if (group.nodeName !== 'Ppts') continue;
     for (let ppt = group.firstElementChild; ppt; ppt = ppt.nextElementSibling) {
-      const page = readEntry(ppt, 'Normal', { path: '', width: 600, height: 800 });
-      const thumb = readEntry(ppt, 'Thumb', { path: page.path, width: 85, height: 113 });
+      const page = { path: '', width: 600, height: 800 };
+      const thumb = { path: '', width: 85, height: 113 };
+      for (let kind = ppt.firstElementChild; kind; kind = kind.nextElementSibling) {
+        if (kind.nodeName === 'Normal') readEntry(kind, page);
+        if (kind.nodeName === 'Thumb') readEntry(kind, thumb);
+      }
+      thumb.path ||= page.path;
       entries.push({ page, thumb });
     }
   }
@@ -198,21 +203,14 @@ function readPages(root) {
 }
 
 /**
- * @param {Element} ppt
- * @param {string} name
- * @param {PageEntry} fallback
- * @returns {PageEntry}
+ * @param {Element} element
+ * @param {PageEntry} entry takes what the element says
  */
-function readEntry(ppt, name, fallback) {
-  const entry = { ...fallback };
-  for (const kind of ppt.children) {
-    if (kind.nodeName !== name) continue;
-    for (let one = kind.firstElementChild; one; one = one.nextElementSibling) {
-      const text = one.textContent ?? '';
-      if (one.nodeName === 'ImgPath') entry.path = ownFile(text) || fallback.path;
-      if (one.nodeName === 'Width') entry.width = numberIn(text, fallback.width, 1, 1e5);
-      if (one.nodeName === 'Height') entry.height = numberIn(text, fallback.height, 1, 1e5);
-    }
+function readEntry(element, entry) {
+  for (let one = element.firstElementChild; one; one = one.nextElementSibling) {
+    const text = one.textContent ?? '';
+    if (one.nodeName === 'ImgPath') entry.path = ownFile(text);
+    if (one.nodeName === 'Width') entry.width = numberIn(text, entry.width, 1, 1e5);
+    if (one.nodeName === 'Height') entry.height = numberIn(text, entry.height, 1, 1e5);
   }
-  return entry;
 }
