@@ -7,6 +7,8 @@ import { Slideshow } from './slideshow.js';
 import { Sounds } from './sound.js';
 import { Toolbar } from './toolbar.js';
 import { Turner } from './turner.js';
+import { Zoom } from './zoom.js';
+import { ZoomGestures } from './zoomgestures.js';
 
 /** @typedef {import('./config.js').BookConfig} BookConfig */
 
@@ -97,7 +99,10 @@ async function openBook(root) {
   const sounds = new Sounds(config.sound);
   const slideshow = new Slideshow(turner, config.slideInterval, config.loopPlay);
   const toolbar = new Toolbar(root, turner, slideshow, sounds);
-  new Gestures(book, turner, part(root, '.stage'), () => toolbar.toggle());
+  const zoom = new Zoom(book, turner);
+  const stage = part(root, '.stage');
+  const gestures = new Gestures(book, turner, stage, zoom, () => toolbar.toggle());
+  new ZoomGestures(zoom, stage, () => gestures.drop());
 
   let page = Math.min(config.pages.length, Math.max(1, pageInAddress()));
   turner.onTurn = () => sounds.playTurn();
