@@ -33,6 +33,7 @@ export function dress(root, config) {
   paintSurface(root, '--bar', config.windowColour);
   paintSurface(root, '--drawer', config.thumbsColour);
   root.style.setProperty('--paper', config.pageColour);
+  root.style.setProperty('--read-from', config.rightToLeft ? '100%' : '0%');
   root.dataset.bar = config.hideBar ? 'no' : 'yes';
   writeCaption(part(root, '.caption'), config.caption);
 }

@@ -7,7 +7,6 @@ import { say } from './words.js';
 /** @type {[keys: string[], word: Word][]} keys of the book; the bar's buttons tell their own */
 const KEYS = [
   [['\u2190', '\u2192', 'Page \u2191', 'Page \u2193', 'space'], 'turn'], [['Home', 'End'], 'ends'],
-  [['G'], 'goTo'],
 ];
 
 /** @type {[gesture: Word, effect: Word][]} */
@@ -27,10 +26,11 @@ export class Helping {
     part(this.panel.dialog, '.keys').replaceChildren(
       ...KEYS.map(([names, word]) => row(caps(names), say(word))));
     const letters = [...this.root.querySelectorAll('[data-does][data-key]:not([hidden])')];
-    part(this.panel.dialog, '.letters').replaceChildren(...letters.map((button) => {
+    const commands = letters.map((button) => {
       const { key = '', name } = /** @type {HTMLElement} */ (button).dataset;
       return row(caps([key]), say(/** @type {Word} */ (name)));
-    }));
+    });
+    part(this.panel.dialog, '.letters').replaceChildren(row(caps(['G']), say('goTo')), ...commands);
     part(this.panel.dialog, '.gestures').replaceChildren(
       ...GESTURES.map(([gesture, effect]) => row([say(gesture)], say(effect))));
     this.panel.open();
