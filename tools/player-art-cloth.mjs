@@ -2,13 +2,13 @@
 
 import { blend, clamp, clouds, Field, layers, lit, mix, noise, rgb, smooth } from './player-art-kit.mjs';
 
-/** Plain weave of uneven threads; a tile of size pixels, threads of 5 pixels. */
+/** Plain weave of uneven threads; a tile of size pixels, threads of 4 pixels. */
 export function linen(size) {
-  const pitch = 5;
+  const pitch = 4;
   const count = size / pitch;
   const relief = new Field(size, size, (x, y) => {
-    const drift = (noise(x / 40, y / 8, 3, size / 40, size / 8) - 0.5) * 1.6;
-    const sway = (noise(x / 8, y / 40, 13, size / 8, size / 40) - 0.5) * 1.6;
+    const drift = (noise(x / 40, y / 8, 3, size / 40, size / 8) - 0.5) * 2.2;
+    const sway = (noise(x / 8, y / 40, 13, size / 8, size / 40) - 0.5) * 2.2;
     const column = (x + sway) / pitch;
     const row = (y + drift) / pitch;
     const warp = Math.sin(Math.PI * (column - Math.floor(column)));
@@ -24,7 +24,7 @@ export function linen(size) {
   return (x, y) => {
     const column = noise(Math.floor(x / pitch) + 0.5, y / 60, 43, count, size / 60);
     const row = noise(x / 60, Math.floor(y / pitch) + 0.5, 53, size / 60, count);
-    return lit(blend(pale, dark, (column + row) / 2), clamp(relief.light(x, y, 0.3), 0.72, 1.16));
+    return lit(blend(pale, dark, (column + row) / 2), clamp(relief.light(x, y, 0.13), 0.8, 1.12));
   };
 }
 

@@ -36,7 +36,7 @@ const BRIGHT = `<svg width="1920" height="1200"><filter id="b" x="-50%" y="-50%"
   <rect width="1920" height="1200" fill="#e9718f"/><g filter="url(#b)">${BLOBS.map(([fill, x, y, r]) =>
     `<circle cx="${x}" cy="${y}" r="${r * 0.82}" fill="${fill}"/>`).join('')}</g></svg>`;
 
-const WALNUT = { early: '#7d5236', late: '#472a19' };
+const WALNUT = { early: '#75503a', late: '#50301f', rings: 0.042, tone: 0.07 };
 
 /** Each picture: where it goes, its size, and either SVG or a colour for every pixel. */
 const PICTURES = [

@@ -7,7 +7,7 @@
 import { cp, readdir, readFile } from 'node:fs/promises';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
-import { demoSlides, SLIDE } from './player-demo-slides.mjs';
+import { demoSlides, iconPages, SLIDE } from './player-demo-slides.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 const support = path.join(here, '../tests/browser/support');
@@ -48,17 +48,17 @@ async function readStyle(folder) {
   return { values, extras };
 }
 
-/** Draws the slides as JPEG files at twice their size. */
-async function drawSlides() {
+/** Draws documents as JPEG files at twice their size. */
+async function drawPages(documents, size) {
   const browser = await launchChromium();
-  const view = await browser.newPage({ viewport: SLIDE, deviceScaleFactor: 2 });
-  const slides = [];
-  for (const html of demoSlides()) {
+  const view = await browser.newPage({ viewport: size, deviceScaleFactor: 2 });
+  const pages = [];
+  for (const html of documents) {
     await view.setContent(html);
-    slides.push({ bytes: await view.screenshot({ type: 'jpeg', quality: 88 }) });
+    pages.push({ bytes: await view.screenshot({ type: 'jpeg', quality: 88 }) });
   }
   await browser.close();
-  return slides;
+  return pages;
 }
 
 async function demoPages() {
@@ -69,18 +69,23 @@ async function demoPages() {
 
 const drawn = new Map();
 
-/** What a template is shown with: slides where pages come singly, the demo book elsewhere. */
-async function pagesFor(template) {
+/** What a template is shown with: slides where pages come singly, a book elsewhere; plain pages for an icon. */
+async function pagesFor(template, asIcon) {
   const isDeck = (await readFile(path.join(template, 'index.html'), 'utf8')).includes('data-pages="single"');
-  if (!drawn.has(isDeck)) drawn.set(isDeck, isDeck ? await drawSlides() : await demoPages());
-  return { pages: drawn.get(isDeck), declaredSize: isDeck ? [SLIDE.width, SLIDE.height] : [600, 800] };
+  const size = isDeck ? SLIDE : { width: 600, height: 800 };
+  const name = `${isDeck} ${asIcon}`;
+  if (!drawn.has(name)) {
+    if (asIcon) drawn.set(name, await drawPages(iconPages(size), size));
+    else drawn.set(name, isDeck ? await drawPages(demoSlides(), size) : await demoPages());
+  }
+  return { pages: drawn.get(name), declaredSize: [size.width, size.height] };
 }
 
 /** Writes a demo book in the look of a style; values replace the style's, by element name. */
-export async function writeDemoBook({ template, style, book, values = {} }) {
+export async function writeDemoBook({ template, style, book, values = {}, asIcon = false }) {
   const own = await readStyle(style);
   await writeBook(book, {
-    template, ...(await pagesFor(template)), values: { ...own.values, ...values }, extras: own.extras, title: 'Folvero',
+    template, ...(await pagesFor(template, asIcon)), values: { ...own.values, ...values }, extras: own.extras, title: 'Folvero',
   });
   await cp(path.join(template, 'book.swf'), path.join(book, 'book.swf'));
   await cp(path.join(template, 'moveSound.mp3'), path.join(book, 'files/extfiles/moveSound.mp3'));

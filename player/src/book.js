@@ -30,6 +30,9 @@ export class Book {
     /** @type {Layout} */
     this.layout = { spread: false, pageWidth: 1, pageHeight: 1, bookLeft: 0, bookTop: 0, spineX: 0 };
     this.shown = { left: 0, right: 0 };
+    this.shift = 0;
+    /** @type {import('./zoom.js').ZoomState} */
+    this.zoom = { level: 1, x: 0, y: 0 };
     /** @type {(page: number) => void} */
     this.onImage = () => {};
   }
@@ -78,7 +81,22 @@ export class Book {
 
   /** @param {number} shift CSS pixels */
   moveTo(shift) {
-    this.element.style.transform = 'translateX(' + shift + 'px)';
+    this.shift = shift;
+    this.#place();
+  }
+
+  /** @param {import('./zoom.js').ZoomState} state */
+  zoomTo(state) {
+    this.zoom = state;
+    this.#place();
+  }
+
+  #place() {
+    const { level, x, y } = this.zoom;
+    const { spineX, bookTop } = this.layout;
+    this.element.style.transform = level === 1 ? 'translateX(' + this.shift + 'px)'
+      : 'translate(' + ((level - 1) * spineX + level * this.shift + x) + 'px, '
+        + ((level - 1) * bookTop + y) + 'px) scale(' + level + ')';
   }
 
   /**

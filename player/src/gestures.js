@@ -1,10 +1,15 @@
 /** @typedef {import('./turner.js').Turner} Turner */
 /** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('./zoom.js').Zoom} Zoom */
 /** @typedef {'left' | 'right'} Side */
 
 const DRAG_START = 7;
 const FLICK_SPEED = 0.35;
 const TAP_MS = 450;
+
+/** Two taps in the middle, that near to each other in time and place, are a double tap. */
+const DOUBLE_TAP_MS = 350;
+const DOUBLE_TAP_REACH = 30;
 
 /** Wheel events closer together belong to one push, which turns one page. */
 const WHEEL_PAUSE_MS = 160;
@@ -15,21 +20,28 @@ export class Gestures {
    * @param {Book} book
    * @param {Turner} turner
    * @param {HTMLElement} stage
+   * @param {Zoom} zoom
    * @param {() => void} onTapMiddle
    */
-  constructor(book, turner, stage, onTapMiddle) {
+  constructor(book, turner, stage, zoom, onTapMiddle) {
     this.book = book;
     this.turner = turner;
     this.stage = stage;
+    this.zoom = zoom;
     this.onTapMiddle = onTapMiddle;
     this.lastWheel = 0;
     /** @type {Press | null} */
     this.press = null;
+    /** @type {{x: number, y: number, time: number} | null} last tap that a second may follow */
+    this.lastTap = null;
     stage.addEventListener('pointerdown', (event) => this.#down(event));
     stage.addEventListener('pointermove', (event) => this.#move(event));
     stage.addEventListener('pointerup', (event) => this.#up(event));
-    stage.addEventListener('pointercancel', () => this.#cancel());
-    stage.addEventListener('lostpointercapture', () => this.#cancel());
+    for (const name of ['pointercancel', 'lostpointercapture']) {
+      stage.addEventListener(name, (event) => {
+        if (/** @type {PointerEvent} */ (event).pointerId === this.press?.id) this.drop();
+      });
+    }
     stage.addEventListener('pointerleave', () => this.turner.endPeek());
     stage.addEventListener('wheel', (event) => this.#wheel(event), { passive: true });
     window.addEventListener('keydown', (event) => this.#key(event));
@@ -126,7 +138,8 @@ export class Gestures {
       && Math.abs(event.clientX - press.x) < DRAG_START) this.#tap(event);
   }
 
-  #cancel() {
+  /** Lets go of everything: the pointer now means something else. */
+  drop() {
     if (this.press?.grip) this.turner.release(false);
     this.press = null;
   }
@@ -148,9 +161,20 @@ export class Gestures {
 
   /** @param {PointerEvent} event */
   #tap(event) {
-    const side = this.#sideAt(event.clientX);
-    if (side) this.turner.step((side === 'right') !== this.book.config.rightToLeft ? 1 : -1);
-    else this.onTapMiddle();
+    const { clientX: x, clientY: y, timeStamp: time } = event;
+    const side = this.zoom.active ? null : this.#sideAt(x);
+    if (side) {
+      this.lastTap = null;
+      this.turner.step((side === 'right') !== this.book.config.rightToLeft ? 1 : -1);
+      return;
+    }
+    const { lastTap } = this;
+    const second = lastTap !== null && time - lastTap.time < DOUBLE_TAP_MS
+      && Math.hypot(x - lastTap.x, y - lastTap.y) < DOUBLE_TAP_REACH;
+    this.lastTap = second ? null : { x, y, time };
+    // What the first tap did to the bar at once, the second undoes.
+    this.onTapMiddle();
+    if (second) this.zoom.toggleAt(x, y);
   }
 
   /**
@@ -172,7 +196,7 @@ export class Gestures {
   #hover(event) {
     const { layout, config } = this.book;
     const { turner } = this;
-    this.stage.style.cursor = this.#sideAt(event.clientX) ? 'pointer' : '';
+    this.stage.style.cursor = !this.zoom.active && this.#sideAt(event.clientX) ? 'pointer' : '';
     if (turner.leaf && turner.leaf.motion?.end !== 'peek') return;
     const shift = this.book.shiftFor(turner.current);
     const half = layout.pageWidth;
@@ -190,7 +214,7 @@ export class Gestures {
   /** @param {WheelEvent} event */
   #wheel(event) {
     const way = Math.abs(event.deltaY) > Math.abs(event.deltaX) ? event.deltaY : event.deltaX;
-    if (event.ctrlKey || Math.abs(way) < 8) return;
+    if (event.ctrlKey || this.zoom.active || Math.abs(way) < 8) return;
     const pause = event.timeStamp - this.lastWheel;
     this.lastWheel = event.timeStamp;
     if (pause >= WHEEL_PAUSE_MS) this.turner.step(way > 0 ? 1 : -1);

@@ -19,6 +19,8 @@ import { Toast } from './toast.js';
 import { Toolbar } from './toolbar.js';
 import { Turner } from './turner.js';
 import { say, sayEverywhere } from './words.js';
+import { Zoom } from './zoom.js';
+import { ZoomGestures } from './zoomgestures.js';
 
 /** Page that the address asks for, 0 when it asks for none. */
 function pageInAddress() {
@@ -92,18 +94,24 @@ function addControls(root, turner, sounds) {
     help: () => helping.open(),
     more: () => menu.open(),
     goTo: () => toolbar.askForPage(),
-    escape: () => drawer.hide(),
+    escape: () => {
+      if (drawer.open) drawer.hide();
+      else zoom.reset();
+    },
   };
   const toolbar = new Toolbar(root, turner, commands);
   wireKeys(root, commands);
-  new Gestures(book, turner, part(root, '.stage'), () => {
+  const stage = part(root, '.stage');
+  const zoom = new Zoom(book, turner);
+  const gestures = new Gestures(book, turner, stage, zoom, () => {
     if (drawer.open) drawer.hide();
     else toolbar.toggle();
   });
+  new ZoomGestures(zoom, stage, () => gestures.drop());
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
-  return { toolbar, slideshow, drawer, sheets };
+  return { toolbar, slideshow, drawer, sheets, zoom };
 }
 
 /** @param {HTMLElement} root */

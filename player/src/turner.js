@@ -32,6 +32,10 @@ export class Turner {
     this.fading = null;
     this.onTurn = () => {};
     this.onLanded = () => {};
+    /** Whether views change without any movement, as they do while pages are enlarged. */
+    this.atOnce = () => false;
+    this.onStood = () => {};
+    this.onJumped = () => {};
     book.onImage = (page) => this.#imageArrived(page);
   }
 
@@ -55,7 +59,13 @@ export class Turner {
     this.current = this.book.views.clamp(view);
     this.book.keep([this.current]);
     this.#showStanding();
+    this.onStood();
     this.onLanded();
+  }
+
+  /** Whatever is in the air lands now. */
+  settle() {
+    if (this.leaf || this.fading) this.stand(this.destination);
   }
 
   /**
@@ -64,6 +74,10 @@ export class Turner {
    */
   go(wanted) {
     const view = this.book.views.clamp(wanted);
+    if (this.atOnce()) {
+      this.#jump(view);
+      return;
+    }
     if (this.leaf && !this.leaf.motion) return;
     if (this.leaf?.motion?.end === 'over') {
       this.pending = view;
@@ -74,6 +88,14 @@ export class Turner {
     if (this.leaf && this.leaf.to !== view) this.#dropLeaf();
     if (this.calm.matches) this.#fadeTo(view);
     else this.#turnOver(view, this.book.config.moveTime * 1000);
+  }
+
+  /** @param {number} view */
+  #jump(view) {
+    if (view === this.current) return;
+    this.onTurn();
+    this.stand(view);
+    this.onJumped();
   }
 
   /** @param {number} steps views forward, negative: backward */
@@ -88,7 +110,7 @@ export class Turner {
    * @returns {boolean} whether there is such a leaf
    */
   grab(view, edgeShare) {
-    if (view !== this.book.views.clamp(view) || this.calm.matches) return false;
+    if (view !== this.book.views.clamp(view) || !this.#mayLift()) return false;
     if (this.leaf?.motion?.end === 'over') return false;
     if (this.leaf && this.leaf.to !== view) this.#dropLeaf();
     if (!this.leaf) this.#lift(view, edgeShare);
@@ -113,13 +135,17 @@ export class Turner {
     else this.#finish('back', config.riseTime * 800);
   }
 
+  #mayLift() {
+    return !this.calm.matches && !this.atOnce();
+  }
+
   /**
    * Lifts a corner a little to show that the page can be turned.
    * @param {number} view
    * @param {number} edgeShare 0 or 1
    */
   peek(view, edgeShare) {
-    if (this.leaf || this.calm.matches || view !== this.book.views.clamp(view)) return;
+    if (this.leaf || !this.#mayLift() || view !== this.book.views.clamp(view)) return;
     const leaf = this.#lift(view, edgeShare);
     const { peek } = this.painter;
     const inward = edgeShare < 0.5 ? 1 : -1;
