@@ -1,4 +1,5 @@
-import { drawFace, drawShowThrough, fitted, missingText, sideBySide } from './face.js';
+import { drawFace, drawShowThrough, drawSideBySide, fitted, missingText } from './face.js';
+import { FaceCache } from './facecache.js';
 import { PageImages } from './images.js';
 import { fittingMargins, layOut } from './layout.js';
 import { Views } from './views.js';
@@ -30,6 +31,7 @@ export class Book {
     /** @type {Layout} */
     this.layout = { spread: false, pageWidth: 1, pageHeight: 1, bookLeft: 0, bookTop: 0, spineX: 0 };
     this.shown = { left: 0, right: 0 };
+    this.drawn = new FaceCache();
     this.shift = 0;
     /** @type {import('./zoom.js').ZoomState} */
     this.zoom = { level: 1, x: 0, y: 0 };
@@ -55,6 +57,7 @@ export class Book {
       hasBar: !hideBar, maySpread: this.root.dataset.pages !== 'single',
     });
     this.views = new Views(pages.length, this.layout.spread, rightToLeft);
+    this.drawn.clear();
     const style = this.root.style;
     for (const [side, margin] of Object.entries(margins)) {
       style.setProperty('--margin-' + side, margin + 'px');
@@ -127,17 +130,25 @@ export class Book {
   }
 
   /**
+   * Whether all pictures of a view have arrived.
+   * @param {number} view
+   */
+  ready(view) {
+    return this.views.pagesOf(view).every((page) => this.images.kept.get(page)?.state === 'ready');
+  }
+
+  /**
    * One page as a picture.
-   * @param {number} page 0 for the back of a single page, of which no page is printed
+   * @param {number} page 0 for the back of a leaf that has none
    * @param {Side} gutter side of the binding
    * @param {number} density device pixels per CSS pixel
    */
   #face(page, gutter, density) {
     const { pageWidth: width, pageHeight: height, spread } = this.layout;
-    return drawFace({
+    return this.drawn.get(page, gutter, (canvas) => drawFace(canvas, {
       page, width, height, density, paper: this.config.pageColour,
       entry: page ? this.images.get(page) : null, gutter: spread && this.bound ? gutter : 'none',
-    });
+    }));
   }
 
   /**
@@ -148,11 +159,12 @@ export class Book {
    * @param {number} density
    */
   faces(front, back, side, density) {
-    const frontFace = this.#face(front, side === 'left' ? 'right' : 'left', density);
+    const face = this.#face(front, side === 'left' ? 'right' : 'left', density);
+    if (this.layout.spread) return { front: face, back: this.#face(back, side, density) };
     return {
-      front: frontFace,
-      back: this.layout.spread
-        ? this.#face(back, side, density) : drawShowThrough(frontFace, this.config.pageColour),
+      front: face,
+      back: this.drawn.get(front, 'through',
+        (canvas) => drawShowThrough(canvas, face, this.config.pageColour)),
     };
   }
 
@@ -162,14 +174,17 @@ export class Book {
    * @param {number} density
    */
   viewFace({ left, right }, density) {
-    const faces = [];
-    if (left) faces.push(this.#face(left, 'right', density));
-    if (right) faces.push(this.#face(right, 'left', density));
-    return faces.length === 2 ? sideBySide(faces[0], faces[1]) : faces[0];
+    if (!left) return this.#face(right, 'left', density);
+    const leftFace = this.#face(left, 'right', density);
+    if (!right) return leftFace;
+    const rightFace = this.#face(right, 'left', density);
+    return this.drawn.get(left, 'both', (canvas) => drawSideBySide(canvas, leftFace, rightFace));
   }
 
   /** @param {number} page */
   #imageChanged(page) {
+    this.drawn.drop(page);
+    if (this.layout.spread) this.drawn.drop(page - 1);
     for (const side of SIDES) {
       if (this.shown[side] === page) this.#fill(side);
     }

@@ -1,20 +1,26 @@
-import { foldOf, reachable, seenAt } from './fold.js';
+import { foldOf, reachable, seenAt, within } from './fold.js';
+import { Roll } from './roll.js';
 
 /** @typedef {import('./fold.js').Point} Point */
 /** @typedef {import('./fold.js').Fold} Fold */
 /** @typedef {import('./leaf.js').Leaf} Leaf */
 
-/** Strips that each quarter of the roll is drawn in. */
-const STRIPS = 12;
-
 /** Straight pieces that each edge of the turned part's outline is drawn in. */
-const EDGE_STEPS = 24;
+const EDGE_STEPS = 10;
+
+/** Shade of the paper that rolls up, by the share of the quarter of the roll: opacity of white, black. */
+const RISING = [[0, 0, 0], [0.35, 0.1, 0], [0.6, 0, 0.04], [0.85, 0, 0.2], [1, 0, 0.42]];
+
+/** The same of the paper that has come over, up to where it lies flat again. */
+const COMING_OVER = [[0, 0, 0.3], [0.26, 0, 0.12], [0.57, 0.28, 0], [0.94, 0.08, 0], [1, 0.06, 0.01]];
 
 /** Paper that bends as it is turned. */
 export class CurlPainter {
   whole = false;
   enough = 0.45;
   peek = { x: 0.1, y: 0.045 };
+  rising = new Roll();
+  comingOver = new Roll();
 
   /**
    * @param {Point} wanted
@@ -39,200 +45,180 @@ export class CurlPainter {
    * @param {number} density
    */
   draw(context, leaf, density) {
-    this.context = context;
-    this.density = density;
+    if (!leaf.front || !leaf.back) return;
+    const fold = foldOf(leaf.held, leaf.edge, leaf.width, leaf.height);
     context.save();
     if (leaf.alone) context.globalAlpha = Math.min(1, (1 - leaf.turned) * 6);
     if (leaf.mirrored) context.scale(-1, 1);
-    const fold = foldOf(leaf.held, leaf.edge, leaf.width, leaf.height);
-    if (fold) this.#drawFolded(leaf, fold, leaf.turned);
-    else this.#drawFace(leaf, leaf.front, leaf.mirrored);
-    context.restore();
-  }
-
-  /**
-   * @param {Leaf} look
-   * @param {Fold} fold
-   * @param {number} share
-   */
-  #drawFolded(look, fold, share) {
-    const quarter = (Math.PI / 2) * fold.radius;
-    const far = 2 * (look.width + look.height);
-    this.#shadeBeneath(look, fold, share);
-    const plain = 'transparent';
-    this.#drawStrip(look, fold, -far, -quarter, look.front, false, plain);
-    const frontShade = this.#shade(fold, -quarter, 0,
-      [[0, 'rgba(0,0,0,0)'], [0.35, 'rgba(255,255,255,.10)'], [0.6, 'rgba(0,0,0,.04)'],
-        [0.85, 'rgba(0,0,0,.2)'], [1, 'rgba(0,0,0,.42)']]);
-    this.#drawRoll(look, fold, -quarter, look.front, false, frontShade);
-    this.#castShadow(look, fold, share);
-    const backShade = this.#shade(fold, 0, quarter * 2.6,
-      [[0, 'rgba(0,0,0,.3)'], [0.1, 'rgba(0,0,0,.12)'], [0.22, 'rgba(255,255,255,.28)'],
-        [0.36, 'rgba(255,255,255,.08)'], [0.5, 'rgba(0,0,0,.05)'], [1, 'rgba(0,0,0,0)']]);
-    this.#drawRoll(look, fold, 0, look.back, true, backShade);
-    this.#drawStrip(look, fold, quarter, far, look.back, true, backShade);
-  }
-
-  /**
-   * One quarter of the roll, from u onwards.
-   * @param {Leaf} look
-   * @param {Fold} fold
-   * @param {number} from
-   * @param {HTMLCanvasElement} face
-   * @param {boolean} isBack
-   * @param {string | CanvasGradient} shade
-   */
-  #drawRoll(look, fold, from, face, isBack, shade) {
-    const step = ((Math.PI / 2) * fold.radius) / STRIPS;
-    if (step * this.density < 0.02) return;
-    for (let strip = 0; strip < STRIPS; strip++) {
-      const u = from + strip * step;
-      this.#drawStrip(look, fold, u, u + step, face, isBack, shade);
+    if (!fold) {
+      drawPart(context, leaf, leaf.front, leaf.mirrored, leafCorners(leaf));
+    } else {
+      shadeBeneath(context, leaf, fold);
+      drawLying(context, leaf, fold, density);
+      this.rising.draw(context, leaf, fold, density, false, RISING);
+      castShadow(context, leaf, fold, density);
+      this.comingOver.draw(context, leaf, fold, density, true, COMING_OVER);
+      drawTurned(context, leaf, fold, density);
     }
-  }
-
-  /**
-   * The paper between two distances from the fold line, as seen from above.
-   * @param {Leaf} look
-   * @param {Fold} fold
-   * @param {number} from
-   * @param {number} to
-   * @param {HTMLCanvasElement} face
-   * @param {boolean} isBack
-   * @param {string | CanvasGradient} shade
-   */
-  #drawStrip(look, fold, from, to, face, isBack, shade) {
-    const { context } = this;
-    const seenFrom = seenAt(from, fold.radius);
-    const scale = (seenAt(to, fold.radius) - seenFrom) / (to - from);
-    if (Math.abs(scale) < 0.001) return;
-    const far = 2 * (look.width + look.height);
-    const overlap = Math.min(3, 0.6 / Math.abs(scale) / this.density);
-    context.save();
-    context.translate(fold.middle.x, fold.middle.y);
-    context.rotate(fold.angle);
-    context.translate(seenFrom, 0);
-    context.scale(scale, 1);
-    context.translate(-from, 0);
-    context.beginPath();
-    context.rect(from - overlap, -far, to - from + 2 * overlap, 2 * far);
-    context.clip();
-    context.rotate(-fold.angle);
-    context.translate(-fold.middle.x, -fold.middle.y);
-    this.#drawFace(look, face, look.mirrored !== isBack);
-    if (shade !== 'transparent') {
-      context.fillStyle = shade;
-      context.fillRect(0, 0, look.width, look.height);
-    }
-    context.restore();
-  }
-
-  /**
-   * @param {Leaf} look
-   * @param {HTMLCanvasElement} face
-   * @param {boolean} flipped
-   */
-  #drawFace(look, face, flipped) {
-    const { context } = this;
-    context.save();
-    if (flipped) {
-      context.translate(look.width, 0);
-      context.scale(-1, 1);
-    }
-    context.drawImage(face, 0, 0, look.width, look.height);
-    context.restore();
-  }
-
-  /**
-   * A gradient across the fold, between two distances from its line.
-   * @param {Fold} fold
-   * @param {number} from
-   * @param {number} to
-   * @param {[number, string][]} stops
-   */
-  #shade(fold, from, to, stops) {
-    const along = { x: Math.cos(fold.angle), y: Math.sin(fold.angle) };
-    const { x, y } = fold.middle;
-    const shade = this.context.createLinearGradient(
-      x + along.x * from, y + along.y * from, x + along.x * to, y + along.y * to);
-    for (const [at, colour] of stops) shade.addColorStop(at, colour);
-    return shade;
-  }
-
-  /**
-   * The shadow of the roll on the page that comes to light.
-   * @param {Leaf} look
-   * @param {Fold} fold
-   * @param {number} share
-   */
-  #shadeBeneath(look, fold, share) {
-    if (!look.overPage) return;
-    const { context } = this;
-    const front = seenAt(0, fold.radius);
-    const reach = front + Math.min(look.width * 0.35, fold.radius * 3.2 + 4);
-    const strength = 0.5 * Math.min(1, 4 * share) * (1 - share * 0.6);
-    context.fillStyle = this.#shade(fold, front - 1, reach,
-      [[0, 'rgba(0,0,0,' + strength + ')'], [0.18, 'rgba(0,0,0,' + strength * 0.55 + ')'],
-        [0.5, 'rgba(0,0,0,' + strength * 0.18 + ')'], [1, 'rgba(0,0,0,0)']]);
-    context.fillRect(0, 0, look.width, look.height);
-  }
-
-  /**
-   * The shadow of the paper that has come over, on everything that it comes over.
-   * @param {Leaf} look
-   * @param {Fold} fold
-   * @param {number} share
-   */
-  #castShadow(look, fold, share) {
-    const outline = turnedOutline(look, fold);
-    if (outline.length < 3) return;
-    const { context } = this;
-    const height = Math.sin(Math.PI * share);
-    context.save();
-    context.shadowColor = 'rgba(0, 0, 0, ' + (0.16 + 0.3 * height) + ')';
-    context.shadowBlur = (4 + 30 * height) * this.density;
-    context.shadowOffsetY = (1 + 6 * height) * this.density;
-    context.fillStyle = '#888';
-    context.beginPath();
-    outline.forEach(({ x, y }) => context.lineTo(x, y));
-    context.closePath();
-    context.fill();
     context.restore();
   }
 }
 
+/** @param {{width: number, height: number}} leaf */
+function leafCorners({ width, height }) {
+  return [{ x: 0, y: 0 }, { x: width, y: 0 }, { x: width, y: height }, { x: 0, y: height }];
+}
+
+/**
+ * A part of one side of the leaf, where it lies in the flat leaf.
+ * @param {CanvasRenderingContext2D} context
+ * @param {Leaf} leaf
+ * @param {HTMLCanvasElement} face
+ * @param {boolean} flipped the picture runs from the edge to the binding
+ * @param {Point[]} part
+ */
+function drawPart(context, leaf, face, flipped, part) {
+  if (part.length < 3) return;
+  const across = leaf.width / face.width;
+  const pattern = leaf.patternOf(context, face);
+  pattern.setTransform(new DOMMatrix(
+    [flipped ? -across : across, 0, 0, leaf.height / face.height, flipped ? leaf.width : 0, 0]));
+  context.fillStyle = pattern;
+  traceOutline(context, part);
+  context.fill();
+}
+
+/**
+ * @param {CanvasRenderingContext2D} context
+ * @param {Point[]} outline
+ */
+function traceOutline(context, outline) {
+  context.beginPath();
+  outline.forEach(({ x, y }) => context.lineTo(x, y));
+  context.closePath();
+}
+
+/**
+ * What still lies flat, a hair's breadth into the roll, so that no gap is seen between them.
+ * @param {CanvasRenderingContext2D} context
+ * @param {Leaf} leaf
+ * @param {Fold} fold
+ * @param {number} density
+ */
+function drawLying(context, leaf, fold, density) {
+  const part = within(leafCorners(leaf), fold, -Infinity, (-Math.PI / 2) * fold.radius + 1 / density);
+  drawPart(context, leaf, /** @type {HTMLCanvasElement} */ (leaf.front), leaf.mirrored, part);
+}
+
+/**
+ * What has come over and lies flat on its face.
+ * @param {CanvasRenderingContext2D} context
+ * @param {Leaf} leaf
+ * @param {Fold} fold
+ * @param {number} density
+ */
+function drawTurned(context, leaf, fold, density) {
+  const quarter = (Math.PI / 2) * fold.radius;
+  const part = within(leafCorners(leaf), fold, quarter - 1 / density, Infinity);
+  if (part.length < 3) return;
+  context.save();
+  context.translate(fold.middle.x, fold.middle.y);
+  context.rotate(fold.angle);
+  context.scale(-1, 1);
+  context.rotate(-fold.angle);
+  context.translate(-fold.middle.x, -fold.middle.y);
+  drawPart(context, leaf, /** @type {HTMLCanvasElement} */ (leaf.back), !leaf.mirrored, part);
+  context.restore();
+  const glow = acrossFold(context, fold, -quarter, -quarter * 2.6,
+    [[0, 'rgba(255, 255, 255, .06)'], [0.3, 'rgba(0, 0, 0, .05)'], [1, 'rgba(0, 0, 0, 0)']]);
+  context.fillStyle = glow;
+  const near = within(leafCorners(leaf), fold, quarter - 1 / density, quarter * 2.6);
+  traceOutline(context, near.map((point) => seenPoint(point, fold)));
+  context.fill();
+}
+
+/**
+ * A gradient across the fold, between two distances from its line as they are seen.
+ * @param {CanvasRenderingContext2D} context
+ * @param {Fold} fold
+ * @param {number} from
+ * @param {number} to
+ * @param {[number, string][]} stops
+ */
+function acrossFold(context, fold, from, to, stops) {
+  const { x, y } = fold.middle;
+  const cos = Math.cos(fold.angle);
+  const sin = Math.sin(fold.angle);
+  const shade = context.createLinearGradient(
+    x + cos * from, y + sin * from, x + cos * to, y + sin * to);
+  for (const [at, colour] of stops) shade.addColorStop(at, colour);
+  return shade;
+}
+
+/**
+ * The shadow of the roll on the page that comes to light.
+ * @param {CanvasRenderingContext2D} context
+ * @param {Leaf} leaf
+ * @param {Fold} fold
+ */
+function shadeBeneath(context, leaf, fold) {
+  if (!leaf.overPage) return;
+  const share = leaf.turned;
+  const front = seenAt(0, fold.radius);
+  const reach = front + Math.min(leaf.width * 0.35, fold.radius * 3.2 + 4);
+  const strength = 0.5 * Math.min(1, 4 * share) * (1 - share * 0.6);
+  context.fillStyle = acrossFold(context, fold, front - 1, reach,
+    [[0, 'rgba(0,0,0,' + strength + ')'], [0.18, 'rgba(0,0,0,' + strength * 0.55 + ')'],
+      [0.5, 'rgba(0,0,0,' + strength * 0.18 + ')'], [1, 'rgba(0,0,0,0)']]);
+  traceOutline(context, within(leafCorners(leaf), fold, front - 2, reach));
+  context.fill();
+}
+
+/**
+ * The shadow of the paper that has come over, on everything that it comes over.
+ * @param {CanvasRenderingContext2D} context
+ * @param {Leaf} leaf
+ * @param {Fold} fold
+ * @param {number} density
+ */
+function castShadow(context, leaf, fold, density) {
+  const outline = turnedOutline(leaf, fold);
+  if (outline.length < 3) return;
+  const height = Math.sin(Math.PI * leaf.turned);
+  context.save();
+  context.shadowColor = 'rgba(0, 0, 0, ' + (0.16 + 0.3 * height) + ')';
+  context.shadowBlur = (4 + 30 * height) * density;
+  context.shadowOffsetY = (1 + 6 * height) * density;
+  context.fillStyle = '#888';
+  traceOutline(context, outline);
+  context.fill();
+  context.restore();
+}
+
 /**
  * Outline of the part of a leaf that lies beyond the fold line, as seen from above.
- * @param {{width: number, height: number}} look
+ * @param {{width: number, height: number}} leaf
  * @param {Fold} fold
  * @returns {Point[]}
  */
-export function turnedOutline(look, fold) {
-  const along = { x: Math.cos(fold.angle), y: Math.sin(fold.angle) };
-  /** @param {Point} point */
-  const beyond = (point) =>
-    (point.x - fold.middle.x) * along.x + (point.y - fold.middle.y) * along.y;
-  const corners = [{ x: 0, y: 0 }, { x: look.width, y: 0 },
-    { x: look.width, y: look.height }, { x: 0, y: look.height }];
-  /** @type {Point[]} */
-  const outline = [];
-  corners.forEach((corner, index) => {
-    const next = corners[(index + 1) % corners.length];
-    const here = beyond(corner);
-    const there = beyond(next);
-    if (here >= 0) outline.push(corner);
-    if (here >= 0 !== there >= 0) {
-      const part = here / (here - there);
-      outline.push({ x: corner.x + (next.x - corner.x) * part,
-        y: corner.y + (next.y - corner.y) * part });
-    }
-  });
-  return outline.flatMap((point, index) => steps(point, outline[(index + 1) % outline.length]))
-    .map((point) => {
-      const u = beyond(point);
-      const shift = seenAt(u, fold.radius) - u;
-      return { x: point.x + along.x * shift, y: point.y + along.y * shift };
-    });
+function turnedOutline(leaf, fold) {
+  const part = within(leafCorners(leaf), fold, 0, Infinity);
+  return part.flatMap((point, index) => steps(point, part[(index + 1) % part.length]))
+    .map((point) => seenPoint(point, fold));
+}
+
+/**
+ * Where a point of the flat leaf is seen when the leaf is folded.
+ * @param {Point} point
+ * @param {Fold} fold
+ * @returns {Point}
+ */
+function seenPoint(point, fold) {
+  const cos = Math.cos(fold.angle);
+  const sin = Math.sin(fold.angle);
+  const u = (point.x - fold.middle.x) * cos + (point.y - fold.middle.y) * sin;
+  const shift = seenAt(u, fold.radius) - u;
+  return { x: point.x + cos * shift, y: point.y + sin * shift };
 }
 
 /**

@@ -53,6 +53,8 @@ export class Leaf {
     this.slide = 0;
     /** @type {Motion | null} none while a pointer holds the leaf */
     this.motion = null;
+    /** @type {Map<HTMLCanvasElement, CanvasPattern>} */
+    this.patterns = new Map();
     const upper = book.views.at(this.reversed ? to : from);
     const lower = book.views.at(this.reversed ? from : to);
     const other = this.mirrored ? 'right' : 'left';
@@ -68,6 +70,7 @@ export class Leaf {
    * @param {number} density device pixels per CSS pixel
    */
   drawFaces(density) {
+    this.patterns.clear();
     if (this.whole) {
       this.front = this.book.viewFace(this.pages, density);
       this.back = this.front;
@@ -77,7 +80,22 @@ export class Leaf {
     Object.assign(this, this.book.faces(this.pages[this.side], this.pages[other], this.side, density));
   }
 
-  /** View over which the book stands: where it moves to along with the leaf, or stays. */
+  /**
+   * A face to fill outlines with.
+   * @param {CanvasRenderingContext2D} context
+   * @param {HTMLCanvasElement} face
+   * @returns {CanvasPattern}
+   */
+  patternOf(context, face) {
+    let pattern = this.patterns.get(face);
+    if (!pattern) {
+      pattern = /** @type {CanvasPattern} */ (context.createPattern(face, 'no-repeat'));
+      this.patterns.set(face, pattern);
+    }
+    return pattern;
+  }
+
+  /** Where the book stands meanwhile, in CSS pixels from the middle; it may move along. */
   get shift() {
     const { book } = this;
     if (this.whole) return book.shiftFor(this.reversed ? this.from : this.to);

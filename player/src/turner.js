@@ -135,6 +135,20 @@ export class Turner {
     else this.#finish('back', config.riseTime * 800);
   }
 
+  /** Draws the pages of the next turns while nothing moves, so that those begin at once. */
+  #prepareSoon() {
+    const idle = window.requestIdleCallback ?? ((/** @type {() => void} */ act) => setTimeout(act, 60));
+    const view = this.current;
+    for (const to of [view + 1, view - 1]) {
+      idle(() => {
+        if (this.leaf || view !== this.current || to !== this.book.views.clamp(to)) return;
+        if (this.#mayLift() && this.book.ready(to)) {
+          new Leaf(this.book, this.painter, view, to, 0).drawFaces(this.density);
+        }
+      });
+    }
+  }
+
   #mayLift() {
     return !this.calm.matches && !this.atOnce();
   }
@@ -172,6 +186,7 @@ export class Turner {
     const { views } = this.book;
     this.book.show(views.at(this.current), this.current / Math.max(1, views.count - 1));
     this.book.moveTo(this.book.shiftFor(this.current));
+    this.#prepareSoon();
   }
 
   /**
@@ -323,6 +338,7 @@ export class Turner {
   /** @param {number} page */
   #imageArrived(page) {
     const leaf = this.leaf;
+    if (!leaf) this.#prepareSoon();
     if (!leaf?.shows(page)) return;
     leaf.drawFaces(this.density);
     this.#requestFrame();
