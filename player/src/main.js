@@ -83,6 +83,8 @@ function addControls(root, turner, sounds) {
   const menu = new Menu(root, () => toolbar.folding.folded);
   const commands = {
     thumbs: () => drawer.toggle(),
+    zoomIn: () => zoom.in(),
+    zoomOut: () => zoom.out(),
     play: () => slideshow.run(!slideshow.running),
     sound: () => {
       sounds.switchTo(!sounds.on);
@@ -108,6 +110,7 @@ function addControls(root, turner, sounds) {
     else toolbar.toggle();
   });
   new ZoomGestures(zoom, stage, () => gestures.drop());
+  zoom.onChange = () => toolbar.enable('zoomOut', zoom.active);
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
