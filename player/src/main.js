@@ -55,10 +55,16 @@ function announcement(pages, pageCount) {
  * @param {() => number} page
  */
 function followWindow(root, book, turner, page) {
+  let size = '';
   const fit = () => {
+    const now = root.clientWidth + ' ' + root.clientHeight;
+    // Observers report once without a change, which must not undo a turn that is under way.
+    if (now === size) return;
+    size = now;
+    const wanted = turner.turning ? book.views.pagesOf(turner.destination)[0] : page();
     book.resize();
     turner.resized();
-    turner.stand(book.views.viewOf(page()));
+    turner.stand(book.views.viewOf(wanted));
   };
   new ResizeObserver(fit).observe(root);
   fit();
