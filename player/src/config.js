@@ -67,13 +67,20 @@ function loadScriptCopy() {
       const text = /** @type {any} */ (window).FolveroUserConfig;
       try {
         if (typeof text !== 'string') throw new Error('no text');
-        resolve(Uint8Array.from(atob(text), (letter) => letter.charCodeAt(0)));
+        resolve(bytesOf(atob(text)));
       } catch {
         reject(new BookError('damaged'));
       }
     };
     document.head.append(script);
   });
+}
+
+/** @param {string} binary one letter a byte */
+function bytesOf(binary) {
+  const bytes = new Uint8Array(binary.length);
+  for (let at = 0; at < bytes.length; at++) bytes[at] = binary.charCodeAt(at);
+  return bytes;
 }
 
 /** @returns {Promise<BookConfig>} */
@@ -103,7 +110,11 @@ function decipher(bytes) {
  * @returns {BookConfig}
  */
 export function parseConfiguration(xml) {
-  const parsed = new DOMParser().parseFromString(xml, 'application/xml');
+  const begin = xml.indexOf('<Ppts>');
+  const end = xml.lastIndexOf('</Ppts>');
+  const [rest, list] = begin >= 0 && begin < end
+    ? [xml.slice(0, begin) + xml.slice(end + '</Ppts>'.length), xml.slice(begin, end)] : [xml, ''];
+  const parsed = new DOMParser().parseFromString(rest, 'application/xml');
   const root = parsed.documentElement;
   // What stands before a fault is kept beside the note of the fault.
   if (root.nodeName !== 'SlidePowerPoint' || parsed.getElementsByTagName('parsererror').length) {
@@ -113,7 +124,7 @@ export function parseConfiguration(xml) {
   const text = (path) => textAt(root, path);
   /** @param {string} side */
   const margin = (side) => numberIn(text('Properties ' + side), 10, 0, 400);
-  const entries = readPages(root);
+  const entries = readPages(list);
   if (entries.length === 0) throw new BookError('empty');
   return {
     margins: {
@@ -166,8 +177,7 @@ function readGround(text, which, from, to) {
 }
 
 /**
- * Text of the element to which child names lead; empty when there is none. The search never enters
- * the list of pages.
+ * Text of the element to which child names lead; empty when there is none.
  * @param {Element} root
  * @param {string} path names with blanks between them
  */
@@ -180,37 +190,37 @@ function textAt(root, path) {
   return element?.textContent?.trim() ?? '';
 }
 
+/** @type {Record<string, string>} */
+const ENTITIES = { amp: '&', lt: '<', gt: '>', quot: '"', apos: "'" };
+
 /**
- * @param {Element} root
+ * Reads the list of pages in one pass. A tree of elements for thousands of pages would take longer
+ * than all the rest of opening a book.
+ * @param {string} list
  * @returns {{page: PageEntry, thumb: PageEntry}[]}
  */
-function readPages(root) {
+function readPages(list) {
+  /** @type {{page: PageEntry, thumb: PageEntry}[]} */
   const entries = [];
-  for (let group = root.firstElementChild; group; group = group.nextElementSibling) {
-    if (group.nodeName !== 'Ppts') continue;
-    for (let ppt = group.firstElementChild; ppt; ppt = ppt.nextElementSibling) {
-      const page = { path: '', width: 600, height: 800 };
-      const thumb = { path: '', width: 85, height: 113 };
-      for (let kind = ppt.firstElementChild; kind; kind = kind.nextElementSibling) {
-        if (kind.nodeName === 'Normal') readEntry(kind, page);
-        if (kind.nodeName === 'Thumb') readEntry(kind, thumb);
-      }
-      thumb.path ||= page.path;
-      entries.push({ page, thumb });
+  let entry = { path: '', width: 0, height: 0 };
+  for (const [, name, text] of list.matchAll(/<(Ppt|Normal|Thumb|ImgPath|Width|Height)>([^<]*)/g)) {
+    if (name === 'Ppt') {
+      entries.push({
+        page: { path: '', width: 600, height: 800 }, thumb: { path: '', width: 85, height: 113 },
+      });
     }
+    const last = entries[entries.length - 1];
+    if (name === 'Normal' && last) entry = last.page;
+    if (name === 'Thumb' && last) entry = last.thumb;
+    if (name === 'ImgPath') entry.path = ownFile(plainText(text));
+    if (name === 'Width') entry.width = numberIn(text, entry.width, 1, 1e5);
+    if (name === 'Height') entry.height = numberIn(text, entry.height, 1, 1e5);
   }
+  for (const { page, thumb } of entries) thumb.path ||= page.path;
   return entries;
 }
 
-/**
- * @param {Element} element
- * @param {PageEntry} entry takes what the element says
- */
-function readEntry(element, entry) {
-  for (let one = element.firstElementChild; one; one = one.nextElementSibling) {
-    const text = one.textContent ?? '';
-    if (one.nodeName === 'ImgPath') entry.path = ownFile(text);
-    if (one.nodeName === 'Width') entry.width = numberIn(text, entry.width, 1, 1e5);
-    if (one.nodeName === 'Height') entry.height = numberIn(text, entry.height, 1, 1e5);
-  }
+/** @param {string} text with the five entities that every XML document knows */
+function plainText(text) {
+  return text.includes('&') ? text.replace(/&(\w+);/g, (all, name) => ENTITIES[name] ?? all) : text;
 }

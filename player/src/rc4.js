@@ -11,11 +11,15 @@ export function rc4(bytes, key) {
     [state[i], state[j]] = [state[j], state[i]];
   }
   const result = new Uint8Array(bytes.length);
+  // Exchanged by hand: this runs once a byte, and a list for each would be felt in a long book.
   for (let n = 0, i = 0, j = 0; n < bytes.length; n++) {
     i = (i + 1) & 255;
-    j = (j + state[i]) & 255;
-    [state[i], state[j]] = [state[j], state[i]];
-    result[n] = bytes[n] ^ state[(state[i] + state[j]) & 255];
+    const one = state[i];
+    j = (j + one) & 255;
+    const other = state[j];
+    state[i] = other;
+    state[j] = one;
+    result[n] = bytes[n] ^ state[(one + other) & 255];
   }
   return result;
 }
