@@ -1,3 +1,5 @@
+import { say } from './words.js';
+
 /** @typedef {import('./images.js').PageImage} PageImage */
 
 /**
@@ -8,7 +10,7 @@ export const GUTTER = [[0, 0.26], [0.012, 0.16], [0.04, 0.075], [0.09, 0.03], [0
 
 /** @param {number} page */
 export function missingText(page) {
-  return 'Page ' + page + ' could not be shown';
+  return say('pageMissing', page);
 }
 
 /**

@@ -53,7 +53,7 @@ export function layOut(of) {
   const roomy = Math.min(area.width, area.height) >= 480;
   const air = roomy ? Math.round(Math.min(area.width, area.height) * 0.045) : 10;
   const below = hasBar && area.height >= BAR_ROOM_LEAST_HEIGHT ? Math.max(BAR_ROOM, air) : air;
-  const sides = spread && roomy ? Math.max(air, 56) : air;
+  const sides = (spread || !maySpread) && roomy ? Math.max(air, 56) : air;
   const mostWidth = Math.max(40, (area.width - 2 * sides) / (spread ? 2 : 1));
   const mostHeight = Math.max(40, area.height - air - below);
   const scale = Math.min(mostWidth, mostHeight * aspect);

@@ -1,179 +1,141 @@
+import Views.Pages;
 import flash.display.Sprite;
-import flash.events.Event;
-import flash.filters.DropShadowFilter;
 import flash.geom.Rectangle;
 
-/** The open book: two pages, and the leaf that is being turned. **/
+/** The standing pages: what lies on the table while no leaf is in the air. **/
 class Book extends Sprite {
-	public var current(default, null) = 0;
-	public var onTurn:Void->Void = () -> {};
-	public var onLanded:Void->Void = () -> {};
+	/** Widest edge of the stack of pages that lies under each side. **/
+	static inline final WIDEST_STACK = 9;
 
-	final config:Config;
-	final pages = new Map<Int, PageImage>();
-	final standing = new Sprite();
-	final leaf = new Sprite();
-	var area = new Rectangle(0, 0, 960, 600);
-	var pageWidth = 100.0;
-	var pageHeight = 100.0;
-	var target = 0;
-	var started = 0.0;
-	var pending = -1;
+	public final config:Config;
+	public final images:PageImages;
+	public var views(default, null):Views;
+	public var layout(default, null):Layout;
+
+	/** Called with a page whose picture has arrived or failed. **/
+	public var onImage:Int->Void = _ -> {};
+
+	final shadow = new Sprite();
+	final left = new StandingPage(true);
+	final right = new StandingPage(false);
+	var shown:Pages = {left: 0, right: 0};
+	var turned = 0.0;
 
 	public function new(config:Config) {
 		super();
 		this.config = config;
-		standing.filters = [new DropShadowFilter(6, 90, 0, 0.45, 18, 18)];
-		leaf.filters = [new DropShadowFilter(2, 90, 0, 0.4, 14, 14)];
-		addChild(standing);
-		addChild(leaf);
-		addEventListener(Event.ENTER_FRAME, advance);
-	}
-
-	public var viewCount(get, never):Int;
-
-	function get_viewCount():Int {
-		return Std.int(config.pages.length / 2) + 1;
-	}
-
-	public var turning(get, never):Bool;
-
-	function get_turning():Bool {
-		return target != current;
+		images = new PageImages(config.pages);
+		images.onChange = page -> {
+			if (page == shown.left || page == shown.right)
+				paint();
+			onImage(page);
+		};
+		mouseEnabled = mouseChildren = false;
+		addChild(shadow);
+		addChild(left);
+		addChild(right);
 	}
 
 	public function fitInto(area:Rectangle) {
-		this.area = area;
-		layOut();
+		var first = images.get(1);
+		var aspect = first.width > 0 && first.height > 0 ? first.width / first.height : 0.75;
+		layout = new Layout(area, aspect, config);
+		views = new Views(config.pages.length, layout.spread, config.rightToLeft);
+		y = layout.top;
 	}
 
-	public function go(wanted:Int) {
-		var view = Std.int(Math.max(0, Math.min(viewCount - 1, wanted)));
-		if (turning) {
-			pending = view;
-			return;
-		}
-		if (view == current)
-			return;
-		target = view;
-		started = flash.Lib.getTimer();
-		onTurn();
-		layOut();
-	}
-
-	public function step(steps:Int) {
-		go((pending >= 0 ? pending : target) + steps);
-	}
-
-	/** Page on the left or right of a view, 0 when there is none. **/
-	function pageAt(view:Int, onRight:Bool):Int {
-		var page = 2 * view + (onRight != config.rightToLeft ? 1 : 0);
-		return page >= 1 && page <= config.pages.length ? page : 0;
-	}
-
-	function image(page:Int):PageImage {
-		if (!pages.exists(page))
-			pages.set(page, new PageImage(page, config.pages[page - 1], config.pageColor, layOut));
-		return pages.get(page);
-	}
-
-	function place(into:Sprite, page:Int, onRight:Bool) {
-		if (page == 0)
-			return;
-		var picture = image(page);
-		picture.layOut(pageWidth, pageHeight, onRight);
-		picture.scaleX = 1;
-		into.addChild(picture);
-	}
-
-	function measure() {
-		var first = image(1);
-		var aspect = first.pictureWidth > 0 ? first.pictureWidth / first.pictureHeight : 0.75;
-		var air = Math.min(area.width, area.height) * 0.05;
-		pageHeight = Math.min(area.height - 2 * air, (area.width - 2 * air) / 2 / aspect);
-		pageWidth = pageHeight * aspect;
-		y = area.y + (area.height - pageHeight) / 2;
-	}
-
-	function layOut() {
-		measure();
-		standing.removeChildren();
-		leaf.removeChildren();
-		var leafIsRight = (target > current) != config.rightToLeft;
-		for (onRight in [false, true]) {
-			var covered = turning && onRight == leafIsRight;
-			place(standing, pageAt(covered ? target : current, onRight), onRight);
-		}
-		if (turning)
-			showLeaf();
-		for (view in [current + 1, current - 1])
-			for (onRight in [false, true])
-				if (pageAt(view, onRight) > 0)
-					image(pageAt(view, onRight));
-		dropFarPages();
-		x = area.x + area.width / 2 + shift();
-	}
-
-	/** Moves a page that stands alone to the middle. **/
-	function shift():Float {
-		var share = turnedShare();
-		return shiftFor(current) * (1 - share) + shiftFor(target) * share;
-	}
-
-	function shiftFor(view:Int):Float {
-		if (pageAt(view, false) == 0)
-			return -pageWidth / 2;
-		return pageAt(view, true) == 0 ? pageWidth / 2 : 0;
-	}
-
-	function turnedShare():Float {
-		if (!turning)
+	/** How far the book is moved aside so that a page standing alone is in the middle. **/
+	public function shiftFor(view:Int):Float {
+		if (!layout.spread)
 			return 0;
-		var passed = Math.min(1, (flash.Lib.getTimer() - started) / 1000 / Math.max(0.1, config.moveTime));
-		return (1 - Math.cos(Math.PI * passed)) / 2;
+		var pages = views.at(view);
+		if (pages.left == 0)
+			return -layout.pageWidth / 2;
+		return pages.right == 0 ? layout.pageWidth / 2 : 0;
 	}
 
-	/** The leaf seen from above: narrowing until it stands upright, then widening on the other side. **/
-	function showLeaf() {
-		var share = turnedShare();
-		var fromRight = (target > current) != config.rightToLeft;
-		var over = share > 0.5;
-		var onRight = over ? !fromRight : fromRight;
-		var page = pageAt(over ? target : current, onRight);
-		leaf.removeChildren();
-		place(leaf, page, onRight);
-		var upright = Math.cos(Math.PI * share);
-		leaf.scaleX = Math.max(0.001, Math.abs(upright));
-		var rise = 1 - Math.abs(upright);
-		var lean = (onRight ? -1 : 1) * rise * 0.1;
-		leaf.transform.matrix = new flash.geom.Matrix(leaf.scaleX, lean, 0, 1, 0, 0);
-		var light = 1 - 0.35 * rise;
-		leaf.transform.colorTransform = new flash.geom.ColorTransform(light, light, light);
+	public function moveTo(shift:Float) {
+		x = layout.spineX + shift;
 	}
 
-	function dropFarPages() {
-		var far = [
-			for (page in pages.keys())
-				if (page != 1 && Math.abs(page / 2 - current) > 3 && Math.abs(page / 2 - target) > 3) page
-		];
-		for (page in far)
-			pages.remove(page);
+	/** @param turned share of the book that lies on the side where it begins **/
+	public function show(pages:Pages, turned:Float) {
+		shown = pages;
+		this.turned = turned;
+		paint();
 	}
 
-	function advance(_) {
-		if (!turning)
-			return;
-		if (turnedShare() < 1) {
-			showLeaf();
-			x = area.x + area.width / 2 + shift();
-			return;
+	/** Loads views and what lies around the first of them, and drops the rest. **/
+	public function keep(wanted:Array<Int>) {
+		var around = [for (step in [1, -1, 2, -2]) wanted[0] + step];
+		var pages = [for (view in wanted.concat(around)) if (views.has(view)) for (page in views.pagesOf(view)) page];
+		images.want(pages);
+	}
+
+	/** A side of a leaf, as page standing or in the air. **/
+	public function face(page:Int):Face {
+		return new Face(page > 0 ? images.get(page) : null, layout.pageWidth, layout.pageHeight, config.pageColor, bound);
+	}
+
+	/** The unprinted back of a single page. **/
+	public function backOf(page:Int):Face {
+		return new Face(images.get(page), layout.pageWidth, layout.pageHeight, config.pageColor, false, true);
+	}
+
+	/** Place of the page on the left or right in the window, null where there is none. **/
+	public function placeOf(onLeft:Bool):Null<Rectangle> {
+		if ((onLeft ? shown.left : shown.right) == 0)
+			return null;
+		return new Rectangle(onLeft ? x - layout.pageWidth : x, y, layout.pageWidth, layout.pageHeight);
+	}
+
+	var bound(get, never):Bool;
+
+	function get_bound():Bool {
+		return layout.spread && Options.BOUND;
+	}
+
+	function paint() {
+		for (side in [left, right]) {
+			var page = side.onLeft ? shown.left : shown.right;
+			side.show(page > 0 ? face(page) : null, page > 0 ? images.get(page) : null);
 		}
-		current = target;
-		layOut();
-		onLanded();
-		var next = pending;
-		pending = -1;
-		if (next >= 0)
-			go(next);
+		paintShadow();
+	}
+
+	function paintShadow() {
+		var graphics = shadow.graphics;
+		graphics.clear();
+		var from = shown.left > 0 ? -layout.pageWidth : 0;
+		var to = shown.right > 0 ? layout.pageWidth : 0;
+		if (from == to)
+			return;
+		var box = new Rectangle(from, 0, to - from, layout.pageHeight);
+		SoftShadow.beneath(graphics, shifted(box, 12, 18), 44, 0.4);
+		SoftShadow.beneath(graphics, shifted(box, 0, 2), 7, 0.34);
+		if (!layout.spread)
+			return;
+		var thickness = Math.min(WIDEST_STACK, 1 + config.pages.length / 12);
+		var begun = config.rightToLeft ? 1 - turned : turned;
+		if (shown.left > 0)
+			paintStack(-1, Math.round(begun * thickness));
+		if (shown.right > 0)
+			paintStack(1, Math.round((1 - begun) * thickness));
+	}
+
+	/** A box made smaller all round and moved down. **/
+	static function shifted(box:Rectangle, smaller:Float, down:Float):Rectangle {
+		return new Rectangle(box.x + smaller, box.y + smaller + down, box.width - 2 * smaller, box.height - 2 * smaller);
+	}
+
+	/** Edges of the pages that lie under the one that is seen. **/
+	function paintStack(sign:Int, thickness:Int) {
+		var graphics = shadow.graphics;
+		for (index in 0...thickness) {
+			graphics.beginFill(index % 2 == 0 ? 0xcfcbc4 : 0xf7f5f1);
+			var x = layout.pageWidth + index;
+			graphics.drawRect(sign > 0 ? x : -x - 1, 1, 1, layout.pageHeight - 2);
+			graphics.endFill();
+		}
 	}
 }

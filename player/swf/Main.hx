@@ -4,129 +4,116 @@ import flash.display.StageAlign;
 import flash.display.StageScaleMode;
 import flash.events.Event;
 import flash.events.IOErrorEvent;
-import flash.events.KeyboardEvent;
-import flash.events.MouseEvent;
 import flash.events.SecurityErrorEvent;
 import flash.geom.Rectangle;
-import flash.media.Sound;
 import flash.net.URLLoader;
 import flash.net.URLLoaderDataFormat;
 import flash.net.URLRequest;
-import flash.text.TextField;
-import flash.text.TextFormat;
-import flash.ui.Keyboard;
-import flash.utils.ByteArray;
 
 /** Opens the book beside the movie. **/
 class Main {
-	static final root = new Sprite();
-	static var config:Config;
-	static var book:Book;
-	static var outer:Backdrop;
-	static var inner:Backdrop;
-	static var turnSound:Sound;
-	static var landedAt = 0.0;
-
 	static function main() {
 		var stage = Lib.current.stage;
 		stage.scaleMode = StageScaleMode.NO_SCALE;
 		stage.align = StageAlign.TOP_LEFT;
-		Lib.current.addChild(root);
+		Api.offer();
 		var loader = new URLLoader();
 		loader.dataFormat = URLLoaderDataFormat.BINARY;
-		loader.addEventListener(Event.COMPLETE, _ -> open(loader.data));
-		loader.addEventListener(IOErrorEvent.IO_ERROR, _ -> tell("This book is incomplete: its configuration is missing."));
-		loader.addEventListener(SecurityErrorEvent.SECURITY_ERROR, _ -> tell("The Flash Player may not read this book's files."));
+		loader.addEventListener(Event.COMPLETE, _ -> {
+			try {
+				open(new Config(loader.data));
+			} catch (error:BookError) {
+				tell(error);
+			}
+		});
+		loader.addEventListener(IOErrorEvent.IO_ERROR, _ -> tellIncomplete());
+		loader.addEventListener(SecurityErrorEvent.SECURITY_ERROR, _ -> tellIncomplete());
 		loader.load(new URLRequest("files/UserConfig.bin"));
 	}
 
-	static function open(enciphered:ByteArray) {
-		try {
-			config = new Config(enciphered);
-		} catch (error:Dynamic) {
-			tell("This book is damaged: its configuration could not be read.");
-			return;
-		}
-		outer = new Backdrop(config.outer);
-		inner = new Backdrop(config.inner);
-		book = new Book(config);
-		for (part in [outer, inner, book])
-			root.addChild(part);
-		turnSound = soundOf("extfiles/moveSound.mp3");
-		book.onTurn = () -> turnSound.play();
-		book.onLanded = () -> landedAt = Lib.getTimer();
-		if (config.soundFile != "" && config.soundLoops != 0)
-			soundOf(config.soundFile).play(0, config.soundLoops < 0 ? 0x7fffffff : config.soundLoops);
-		listen();
-		fit();
+	/** The first picture gives the pages their shape, so the book is laid out once it is there. **/
+	static function open(config:Config) {
+		var outer = new Backdrop(config.outer, false);
+		var inner = new Backdrop(config.inner, true);
+		Lib.current.addChild(outer);
+		Lib.current.addChild(inner);
+		whenResized(() -> {
+			outer.layOut(wholeStage());
+			inner.layOut(table(config));
+		});
+		var book = new Book(config);
+		var opened = false;
+		book.onImage = page -> {
+			if (page != 1 || opened)
+				return;
+			opened = true;
+			begin(config, book);
+		};
+		book.images.get(1);
 	}
 
-	static function listen() {
+	static function begin(config:Config, book:Book) {
 		var stage = Lib.current.stage;
-		stage.addEventListener(Event.RESIZE, _ -> fit());
-		stage.addEventListener(MouseEvent.CLICK, event -> turnTo(event.stageX > stage.stageWidth / 2));
-		stage.addEventListener(KeyboardEvent.KEY_DOWN, pressed);
+		var table = new Sprite();
+		var turner = new Turner(book);
+		var slideshow = new Slideshow(book, turner, stage);
+		var sounds = new Sounds();
+		var controls = new Controls(book, turner, slideshow, sounds);
+		table.addChild(book);
+		table.addChild(turner);
+		Lib.current.addChild(table);
+		Lib.current.addChild(controls);
+		turner.onTurn = sounds.playTurn;
+		turner.onLanded = () -> {
+			controls.update();
+			slideshow.wait();
+		};
+		book.onImage = _ -> turner.refresh();
+		fit(config, book, turner, controls);
+		new Gestures(book, turner, stage);
+		Keys.listen(stage, book, turner);
+		Opening.bringIn(table, config.initialShow);
+		sounds.playMusic(config.soundFile, config.soundLoops);
 		if (config.autoPlay)
-			stage.addEventListener(Event.ENTER_FRAME, playOn);
+			slideshow.run(true);
+		Api.ready(book, turner, slideshow, sounds);
 	}
 
-	static function turnTo(right:Bool) {
-		book.step(right != config.rightToLeft ? 1 : -1);
+	/** Keeps the page in view when the window changes between one page and two. **/
+	static function fit(config:Config, book:Book, turner:Turner, controls:Controls) {
+		whenResized(() -> {
+			var page = book.views == null ? 1 : book.views.pagesOf(turner.current)[0];
+			turner.halt();
+			book.fitInto(table(config));
+			turner.stand(book.views.viewOf(page));
+			controls.layOut(table(config));
+		});
 	}
 
-	static function pressed(event:KeyboardEvent) {
-		switch event.keyCode {
-			case Keyboard.RIGHT:
-				turnTo(true);
-			case Keyboard.LEFT:
-				turnTo(false);
-			case Keyboard.PAGE_DOWN, Keyboard.SPACE:
-				book.step(1);
-			case Keyboard.PAGE_UP:
-				book.step(-1);
-			case Keyboard.HOME:
-				book.go(0);
-			case Keyboard.END:
-				book.go(book.viewCount - 1);
-			default:
-		}
+	static function whenResized(action:Void->Void) {
+		Lib.current.stage.addEventListener(Event.RESIZE, _ -> action());
+		action();
 	}
 
-	static function playOn(_) {
-		if (book.turning || Lib.getTimer() - landedAt < config.slideInterval * 1000)
-			return;
-		landedAt = Lib.getTimer();
-		if (book.current < book.viewCount - 1)
-			book.step(1);
-		else if (config.loopPlay)
-			book.go(0);
-	}
-
-	static function fit() {
+	static function wholeStage():Rectangle {
 		var stage = Lib.current.stage;
-		var margins = config.margins;
-		var area = new Rectangle(margins.left, margins.top, Math.max(80, stage.stageWidth - margins.left - margins.right),
-			Math.max(80, stage.stageHeight - margins.top - margins.bottom));
-		outer.layOut(new Rectangle(0, 0, stage.stageWidth, stage.stageHeight));
-		inner.layOut(area);
-		book.fitInto(area);
+		return new Rectangle(0, 0, stage.stageWidth, stage.stageHeight);
 	}
 
-	static function soundOf(path:String):Sound {
-		var sound = new Sound();
-		sound.addEventListener(IOErrorEvent.IO_ERROR, _ -> {});
-		sound.load(new URLRequest("files/" + path));
-		return sound;
+	static function table(config:Config):Rectangle {
+		var stage = Lib.current.stage;
+		return Layout.within(config.margins, stage.stageWidth, stage.stageHeight);
 	}
 
-	static function tell(message:String) {
-		var field = new TextField();
-		field.defaultTextFormat = new TextFormat("_sans", 16, 0x2a2f36);
-		field.width = Math.max(200, Lib.current.stage.stageWidth - 40);
-		field.wordWrap = true;
-		field.x = 20;
-		field.y = 20;
-		field.text = message;
-		root.addChild(field);
+	static function tellIncomplete() {
+		tell(new BookError("This book is incomplete",
+			"The folder \u201cfiles\u201d beside this movie holds the pages and the configuration of the book, but it could not be read. Keep the movie together with that folder."));
+	}
+
+	static function tell(error:BookError) {
+		Api.failed(error);
+		var message = new Message(error);
+		Lib.current.addChild(message);
+		whenResized(() -> message.layOut(Lib.current.stage.stageWidth, Lib.current.stage.stageHeight));
 	}
 }

@@ -1,74 +1,84 @@
 import flash.display.Bitmap;
+import flash.display.BitmapData;
 import flash.display.Loader;
-import flash.display.Sprite;
 import flash.events.Event;
 import flash.events.IOErrorEvent;
+import flash.events.SecurityErrorEvent;
+import flash.geom.Matrix;
 import flash.net.URLRequest;
-import flash.text.TextField;
-import flash.text.TextFormat;
 
-/** One page: its paper and, once loaded, its picture, fitted into the page. **/
-class PageImage extends Sprite {
-	public var pictureWidth(default, null) = 0.0;
-	public var pictureHeight(default, null) = 0.0;
+enum ImageState {
+	Loading;
+	Ready;
+	Missing;
+}
 
-	final number:Int;
-	final paper:Int;
+/** The picture of one page. **/
+class PageImage {
+	public final page:Int;
+	public var state(default, null) = Loading;
+	public var width(default, null) = 0.0;
+	public var height(default, null) = 0.0;
+
 	final loader = new Loader();
-	final onSettled:Void->Void;
-	var failed = false;
+	final onSettled:PageImage->Void;
+	var picture:BitmapData;
+	var reduced:BitmapData;
 
-	public function new(number:Int, path:String, paper:Int, onSettled:Void->Void) {
-		super();
-		this.number = number;
-		this.paper = paper;
+	public function new(page:Int, address:String, onSettled:PageImage->Void) {
+		this.page = page;
 		this.onSettled = onSettled;
-		loader.contentLoaderInfo.addEventListener(Event.COMPLETE, loaded);
-		loader.contentLoaderInfo.addEventListener(IOErrorEvent.IO_ERROR, notLoaded);
-		loader.load(new URLRequest("files/" + path));
+		var info = loader.contentLoaderInfo;
+		info.addEventListener(Event.COMPLETE, _ -> arrived());
+		info.addEventListener(IOErrorEvent.IO_ERROR, _ -> settle(Missing));
+		info.addEventListener(SecurityErrorEvent.SECURITY_ERROR, _ -> settle(Missing));
+		loader.load(new URLRequest(address));
 	}
 
-	/** Draws the page with its binding at x = 0, to the right of it or to the left. **/
-	public function layOut(width:Float, height:Float, toTheRight:Bool) {
-		removeChildren();
-		var left = toTheRight ? 0 : -width;
-		graphics.clear();
-		graphics.beginFill(paper);
-		graphics.drawRect(left, 0, width, height);
-		graphics.endFill();
-		if (pictureWidth > 0) {
-			var scale = Math.min(width / pictureWidth, height / pictureHeight);
-			loader.scaleX = loader.scaleY = scale;
-			loader.x = left + (width - pictureWidth * scale) / 2;
-			loader.y = (height - pictureHeight * scale) / 2;
-			addChild(loader);
-		} else if (failed) {
-			addChild(notice(left, width, height));
+	/** The picture, with about as many pixels as are shown so that nothing glitters. **/
+	public function shownAt(width:Float):BitmapData {
+		if (reduced == null || reduced.width < width || reduced.width >= 2 * width && reduced.width > 1) {
+			forgetReduced();
+			reduced = Reduction.of(picture, width);
 		}
-		addChild(new Gutter(width, height, toTheRight));
+		return reduced;
 	}
 
-	function notice(left:Float, width:Float, height:Float):TextField {
-		var field = new TextField();
-		field.defaultTextFormat = new TextFormat("_sans", 14, 0x6c6c6c, null, null, null, null, null, CENTER);
-		field.text = 'Page $number could not be shown';
-		field.selectable = false;
-		field.width = width;
-		field.x = left;
-		field.y = height / 2 - 10;
-		return field;
+	public function drop() {
+		forgetReduced();
+		if (state == Loading)
+			try {
+				loader.close();
+			} catch (_:Dynamic) {}
+		loader.unload();
+		if (picture != null)
+			picture.dispose();
+		picture = null;
+		state = Missing;
 	}
 
-	function loaded(_) {
-		pictureWidth = loader.contentLoaderInfo.width;
-		pictureHeight = loader.contentLoaderInfo.height;
-		if (Std.isOfType(loader.content, Bitmap))
-			cast(loader.content, Bitmap).smoothing = true;
-		onSettled();
+	function forgetReduced() {
+		if (reduced != null && reduced != picture)
+			reduced.dispose();
+		reduced = null;
 	}
 
-	function notLoaded(_) {
-		failed = true;
-		onSettled();
+	function arrived() {
+		width = loader.contentLoaderInfo.width;
+		height = loader.contentLoaderInfo.height;
+		picture = Std.isOfType(loader.content, Bitmap) ? cast(loader.content, Bitmap).bitmapData : drawn();
+		settle(picture != null && width > 0 && height > 0 ? Ready : Missing);
+	}
+
+	/** A page may also be a movie of its own. **/
+	function drawn():BitmapData {
+		var bitmap = new BitmapData(Math.ceil(2 * width), Math.ceil(2 * height), false);
+		bitmap.draw(loader, new Matrix(2, 0, 0, 2));
+		return bitmap;
+	}
+
+	function settle(state:ImageState) {
+		this.state = state;
+		onSettled(this);
 	}
 }
