@@ -1,18 +1,18 @@
 #!/usr/bin/env node
-// Writes a picture book with pages of our own, to look at the player with.
+// Writes the demo book in the look of a style, to look at the player with.
 // Usage: player-demo-book.mjs TEMPLATE_DIR STYLE_DIR BOOK_DIR
 //
-// TEMPLATE_DIR is a built template; values of STYLE_DIR/tmplSetting.txt are put into the book.
+// TEMPLATE_DIR is a built template, STYLE_DIR the built style with its pictures and sounds.
 
-import { cp, readFile } from 'node:fs/promises';
+import { cp, readdir, readFile } from 'node:fs/promises';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
+import { demoSlides, iconPages, SLIDE } from './player-demo-slides.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 const support = path.join(here, '../tests/browser/support');
 const { writeBook } = await import(path.join(support, 'book.mjs'));
 const { launchChromium } = await import(path.join(support, 'chromium.mjs'));
-const { demoPages } = await import(path.join(here, 'player-demo-pages.mjs'));
 
 /** Element of the configuration for each key of a template. */
 const ELEMENTS = {
@@ -48,12 +48,12 @@ async function readStyle(folder) {
   return { values, extras };
 }
 
-/** Draws the pages as JPEG files at twice their size. */
-async function drawPages() {
+/** Draws documents as JPEG files at twice their size. */
+async function drawPages(documents, size) {
   const browser = await launchChromium();
-  const view = await browser.newPage({ viewport: { width: 560, height: 740 }, deviceScaleFactor: 2 });
+  const view = await browser.newPage({ viewport: size, deviceScaleFactor: 2 });
   const pages = [];
-  for (const html of demoPages()) {
+  for (const html of documents) {
     await view.setContent(html);
     pages.push({ bytes: await view.screenshot({ type: 'jpeg', quality: 88 }) });
   }
@@ -61,11 +61,31 @@ async function drawPages() {
   return pages;
 }
 
-/** Writes the picture book in the look of a style. */
-export async function writeDemoBook({ template, style, book }) {
-  const { values, extras } = await readStyle(style);
+async function demoPages() {
+  const folder = path.join(here, '../resources/DemoImgs');
+  const names = (await readdir(folder)).filter((name) => name.endsWith('.jpg')).sort();
+  return Promise.all(names.map(async (name) => ({ bytes: await readFile(path.join(folder, name)) })));
+}
+
+const drawn = new Map();
+
+/** What a template is shown with: slides where pages come singly, a book elsewhere; plain pages for an icon. */
+async function pagesFor(template, asIcon) {
+  const isDeck = (await readFile(path.join(template, 'index.html'), 'utf8')).includes('data-pages="single"');
+  const size = isDeck ? SLIDE : { width: 600, height: 800 };
+  const name = `${isDeck} ${asIcon}`;
+  if (!drawn.has(name)) {
+    if (asIcon) drawn.set(name, await drawPages(iconPages(size), size));
+    else drawn.set(name, isDeck ? await drawPages(demoSlides(), size) : await demoPages());
+  }
+  return { pages: drawn.get(name), declaredSize: [size.width, size.height] };
+}
+
+/** Writes a demo book in the look of a style; values replace the style's, by element name. */
+export async function writeDemoBook({ template, style, book, values = {}, asIcon = false }) {
+  const own = await readStyle(style);
   await writeBook(book, {
-    template, pages: await drawPages(), values, extras, declaredSize: [560, 740], title: 'Tides',
+    template, ...(await pagesFor(template, asIcon)), values: { ...own.values, ...values }, extras: own.extras, title: 'Folvero',
   });
   await cp(path.join(template, 'book.swf'), path.join(book, 'book.swf'));
   await cp(path.join(template, 'moveSound.mp3'), path.join(book, 'files/extfiles/moveSound.mp3'));

@@ -1,4 +1,5 @@
-import { drawFace, drawShowThrough, fitted, missingText } from './face.js';
+import { drawFace, drawShowThrough, drawSideBySide, fitted, missingText } from './face.js';
+import { FaceCache } from './facecache.js';
 import { PageImages } from './images.js';
 import { fittingMargins, layOut } from './layout.js';
 import { Views } from './views.js';
@@ -22,6 +23,7 @@ export class Book {
   constructor(config, root) {
     this.config = config;
     this.root = root;
+    this.bound = root.dataset.binding !== 'no';
     this.element = /** @type {HTMLElement} */ (root.querySelector('.book'));
     this.images = new PageImages(config.pages, (page) => this.#imageChanged(page));
     this.aspect = config.pages[0].width / config.pages[0].height;
@@ -29,6 +31,10 @@ export class Book {
     /** @type {Layout} */
     this.layout = { spread: false, pageWidth: 1, pageHeight: 1, bookLeft: 0, bookTop: 0, spineX: 0 };
     this.shown = { left: 0, right: 0 };
+    this.drawn = new FaceCache();
+    this.shift = 0;
+    /** @type {import('./zoom.js').ZoomState} */
+    this.zoom = { level: 1, x: 0, y: 0 };
     /** @type {(page: number) => void} */
     this.onImage = () => {};
   }
@@ -48,9 +54,10 @@ export class Book {
     const margins = fittingMargins(this.config.margins, width, height);
     this.layout = layOut({
       width, height, margins, aspect: this.aspect, pageCount: pages.length, rightToLeft,
-      hasBar: !hideBar,
+      hasBar: !hideBar, maySpread: this.root.dataset.pages !== 'single',
     });
     this.views = new Views(pages.length, this.layout.spread, rightToLeft);
+    this.drawn.clear();
     const style = this.root.style;
     for (const [side, margin] of Object.entries(margins)) {
       style.setProperty('--margin-' + side, margin + 'px');
@@ -77,7 +84,22 @@ export class Book {
 
   /** @param {number} shift CSS pixels */
   moveTo(shift) {
-    this.element.style.transform = 'translateX(' + shift + 'px)';
+    this.shift = shift;
+    this.#place();
+  }
+
+  /** @param {import('./zoom.js').ZoomState} state */
+  zoomTo(state) {
+    this.zoom = state;
+    this.#place();
+  }
+
+  #place() {
+    const { level, x, y } = this.zoom;
+    const { spineX, bookTop } = this.layout;
+    this.element.style.transform = level === 1 ? 'translateX(' + this.shift + 'px)'
+      : 'translate(' + ((level - 1) * spineX + level * this.shift + x) + 'px, '
+        + ((level - 1) * bookTop + y) + 'px) scale(' + level + ')';
   }
 
   /**
@@ -89,7 +111,7 @@ export class Book {
     for (const side of SIDES) this.#fill(side);
     const thickness = Math.min(WIDEST_STACK, 1 + this.config.pages.length / 12);
     const begun = this.config.rightToLeft ? 1 - turned : turned;
-    const stacks = this.layout.spread ? { left: begun, right: 1 - begun } : { left: 0, right: 0 };
+    const stacks = this.layout.spread && this.bound ? { left: begun, right: 1 - begun } : { left: 0, right: 0 };
     for (const side of SIDES) {
       this.root.style.setProperty('--stack-' + side,
         (pages[side] ? Math.round(stacks[side] * thickness) : 0) + 'px');
@@ -102,9 +124,33 @@ export class Book {
    */
   keep(views) {
     const around = views.slice(0, 1).flatMap((view) => [view + 1, view - 1, view + 2, view - 2]);
-    this.images.want([...views, ...around]
-      .filter((view) => view >= 0 && view < this.views.count)
-      .flatMap((view) => this.views.pagesOf(view)));
+    /** @param {number[]} of */
+    const pages = (of) => of.filter((view) => view >= 0 && view < this.views.count)
+      .flatMap((view) => this.views.pagesOf(view));
+    const seen = pages(views);
+    this.images.want([...seen, ...pages(around)], seen.length);
+  }
+
+  /**
+   * Whether all pictures of a view have arrived.
+   * @param {number} view
+   */
+  ready(view) {
+    return this.views.pagesOf(view).every((page) => this.images.kept.get(page)?.state === 'ready');
+  }
+
+  /**
+   * One page as a picture.
+   * @param {number} page 0 for the back of a leaf that has none
+   * @param {Side} gutter side of the binding
+   * @param {number} density device pixels per CSS pixel
+   */
+  #face(page, gutter, density) {
+    const { pageWidth: width, pageHeight: height, spread } = this.layout;
+    return this.drawn.get(page, gutter, (canvas) => drawFace(canvas, {
+      page, width, height, density, paper: this.config.pageColour,
+      entry: page ? this.images.get(page) : null, gutter: spread && this.bound ? gutter : 'none',
+    }));
   }
 
   /**
@@ -115,20 +161,32 @@ export class Book {
    * @param {number} density
    */
   faces(front, back, side, density) {
-    const { pageWidth: width, pageHeight: height, spread } = this.layout;
-    const paper = this.config.pageColour;
-    const other = side === 'left' ? 'right' : 'left';
-    /** @param {number} page @param {Side} gutter */
-    const face = (page, gutter) => drawFace({
-      page, width, height, density, paper,
-      entry: page ? this.images.get(page) : null, gutter: spread ? gutter : 'none',
-    });
-    const frontFace = face(front, other);
-    return { front: frontFace, back: spread ? face(back, side) : drawShowThrough(frontFace, paper) };
+    const face = this.#face(front, side === 'left' ? 'right' : 'left', density);
+    if (this.layout.spread) return { front: face, back: this.#face(back, side, density) };
+    return {
+      front: face,
+      back: this.drawn.get(front, 'through',
+        (canvas) => drawShowThrough(canvas, face, this.config.pageColour)),
+    };
+  }
+
+  /**
+   * All pages of a view as one picture.
+   * @param {{left: number, right: number}} pages
+   * @param {number} density
+   */
+  viewFace({ left, right }, density) {
+    if (!left) return this.#face(right, 'left', density);
+    const leftFace = this.#face(left, 'right', density);
+    if (!right) return leftFace;
+    const rightFace = this.#face(right, 'left', density);
+    return this.drawn.get(left, 'both', (canvas) => drawSideBySide(canvas, leftFace, rightFace));
   }
 
   /** @param {number} page */
   #imageChanged(page) {
+    this.drawn.drop(page);
+    if (this.layout.spread) this.drawn.drop(page - 1);
     for (const side of SIDES) {
       if (this.shown[side] === page) this.#fill(side);
     }

@@ -1,3 +1,5 @@
+import { say } from './words.js';
+
 /** @typedef {import('./images.js').PageImage} PageImage */
 
 /**
@@ -8,7 +10,7 @@ export const GUTTER = [[0, 0.26], [0.012, 0.16], [0.04, 0.075], [0.09, 0.03], [0
 
 /** @param {number} page */
 export function missingText(page) {
-  return 'Page ' + page + ' could not be shown';
+  return say('pageMissing', page);
 }
 
 /**
@@ -41,15 +43,12 @@ export function fitted(imageWidth, imageHeight, width, height) {
  */
 
 /**
+ * @param {HTMLCanvasElement} canvas
  * @param {FaceOptions} options
- * @returns {HTMLCanvasElement}
  */
-export function drawFace({ page, entry, width, height, density, paper, gutter }) {
-  const canvas = document.createElement('canvas');
-  canvas.width = Math.max(1, Math.round(width * density));
-  canvas.height = Math.max(1, Math.round(height * density));
-  const context = /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
-  context.scale(canvas.width / width, canvas.height / height);
+export function drawFace(canvas, { page, entry, width, height, density, paper, gutter }) {
+  const context = sized(canvas, Math.round(width * density), Math.round(height * density));
+  context.setTransform(canvas.width / width, 0, 0, canvas.height / height, 0, 0);
   context.fillStyle = paper;
   context.fillRect(0, 0, width, height);
   if (entry?.state === 'ready') {
@@ -64,26 +63,47 @@ export function drawFace({ page, entry, width, height, density, paper, gutter })
     context.fillText(missingText(page), width / 2, height / 2);
   }
   if (gutter !== 'none') drawGutter(context, width, height, gutter === 'right');
-  return canvas;
+}
+
+/**
+ * @param {HTMLCanvasElement} canvas
+ * @param {HTMLCanvasElement} left
+ * @param {HTMLCanvasElement} right
+ */
+export function drawSideBySide(canvas, left, right) {
+  const context = sized(canvas, left.width + right.width, left.height);
+  context.drawImage(left, 0, 0);
+  context.drawImage(right, left.width, 0);
 }
 
 /**
  * Back of a single page: paper through which the print of the front is faintly seen.
+ * @param {HTMLCanvasElement} canvas
  * @param {HTMLCanvasElement} front
  * @param {string} paper
  */
-export function drawShowThrough(front, paper) {
-  const canvas = document.createElement('canvas');
-  canvas.width = front.width;
-  canvas.height = front.height;
-  const context = /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
+export function drawShowThrough(canvas, front, paper) {
+  const context = sized(canvas, front.width, front.height);
   context.fillStyle = paper;
   context.fillRect(0, 0, canvas.width, canvas.height);
   context.globalAlpha = 0.14;
-  context.translate(canvas.width, 0);
-  context.scale(-1, 1);
+  context.setTransform(-1, 0, 0, 1, canvas.width, 0);
   context.drawImage(front, 0, 0);
-  return canvas;
+  context.globalAlpha = 1;
+}
+
+/**
+ * The canvas, of that size and ready to be drawn over; one of the same size keeps its memory.
+ * @param {HTMLCanvasElement} canvas
+ * @param {number} width device pixels
+ * @param {number} height
+ */
+function sized(canvas, width, height) {
+  if (canvas.width !== Math.max(1, width)) canvas.width = Math.max(1, width);
+  if (canvas.height !== Math.max(1, height)) canvas.height = Math.max(1, height);
+  const context = /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
+  context.setTransform(1, 0, 0, 1, 0, 0);
+  return context;
 }
 
 /**

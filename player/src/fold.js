@@ -69,10 +69,40 @@ export function seenAt(u, radius) {
 }
 
 /**
- * How far a leaf has been turned, 0 (flat) to 1 (turned over).
- * @param {Point} held
- * @param {number} width
+ * The part of a convex outline between two distances from the fold line, before folding.
+ * @param {Point[]} outline
+ * @param {Fold} fold
+ * @param {number} from
+ * @param {number} to
+ * @returns {Point[]}
  */
-export function turnedShare(held, width) {
-  return Math.min(1, Math.max(0, (width - held.x) / (2 * width)));
+export function within(outline, fold, from, to) {
+  const cos = Math.cos(fold.angle);
+  const sin = Math.sin(fold.angle);
+  /** @param {Point} point */
+  const beyond = (point) => (point.x - fold.middle.x) * cos + (point.y - fold.middle.y) * sin;
+  let part = outline;
+  if (from > -Infinity) part = cutOff(part, (point) => beyond(point) - from);
+  if (to < Infinity) part = cutOff(part, (point) => to - beyond(point));
+  return part;
+}
+
+/**
+ * @param {Point[]} outline
+ * @param {(point: Point) => number} inside negative outside
+ * @returns {Point[]}
+ */
+function cutOff(outline, inside) {
+  /** @type {Point[]} */
+  const kept = [];
+  outline.forEach((point, index) => {
+    const next = outline[(index + 1) % outline.length];
+    const here = inside(point);
+    const there = inside(next);
+    if (here >= 0) kept.push(point);
+    if (here >= 0 === there >= 0) return;
+    const part = here / (here - there);
+    kept.push({ x: point.x + (next.x - point.x) * part, y: point.y + (next.y - point.y) * part });
+  });
+  return kept;
 }

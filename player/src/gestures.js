@@ -1,10 +1,15 @@
 /** @typedef {import('./turner.js').Turner} Turner */
 /** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('./zoom.js').Zoom} Zoom */
 /** @typedef {'left' | 'right'} Side */
 
 const DRAG_START = 7;
 const FLICK_SPEED = 0.35;
 const TAP_MS = 450;
+
+/** Two taps in the middle, that near to each other in time and place, are a double tap. */
+const DOUBLE_TAP_MS = 350;
+const DOUBLE_TAP_REACH = 30;
 
 /** Wheel events closer together belong to one push, which turns one page. */
 const WHEEL_PAUSE_MS = 160;
@@ -15,21 +20,28 @@ export class Gestures {
    * @param {Book} book
    * @param {Turner} turner
    * @param {HTMLElement} stage
+   * @param {Zoom} zoom
    * @param {() => void} onTapMiddle
    */
-  constructor(book, turner, stage, onTapMiddle) {
+  constructor(book, turner, stage, zoom, onTapMiddle) {
     this.book = book;
     this.turner = turner;
     this.stage = stage;
+    this.zoom = zoom;
     this.onTapMiddle = onTapMiddle;
     this.lastWheel = 0;
     /** @type {Press | null} */
     this.press = null;
+    /** @type {{x: number, y: number, time: number} | null} last tap that a second may follow */
+    this.lastTap = null;
     stage.addEventListener('pointerdown', (event) => this.#down(event));
     stage.addEventListener('pointermove', (event) => this.#move(event));
     stage.addEventListener('pointerup', (event) => this.#up(event));
-    stage.addEventListener('pointercancel', () => this.#cancel());
-    stage.addEventListener('lostpointercapture', () => this.#cancel());
+    for (const name of ['pointercancel', 'lostpointercapture']) {
+      stage.addEventListener(name, (event) => {
+        if (/** @type {PointerEvent} */ (event).pointerId === this.press?.id) this.drop();
+      });
+    }
     stage.addEventListener('pointerleave', () => this.turner.endPeek());
     stage.addEventListener('wheel', (event) => this.#wheel(event), { passive: true });
     window.addEventListener('keydown', (event) => this.#key(event));
@@ -87,17 +99,15 @@ export class Gestures {
    */
   #grip(press, moved) {
     const { layout, config } = this.book;
+    const { turner } = this;
     const leftward = moved < 0;
     const steps = leftward !== config.rightToLeft ? 1 : -1;
     const edgeShare = snapped((press.y - layout.bookTop) / layout.pageHeight);
-    if (!this.turner.grab(this.turner.current + steps, edgeShare)) return null;
-    const leaf = /** @type {import('./turner.js').Leaf} */ (this.turner.leaf);
-    const sign = leaf.side === 'right' ? 1 : -1;
-    const shift = this.book.shiftFor(this.turner.current);
-    const pressX = sign * (press.x - layout.spineX - shift);
-    const within = Math.max(layout.pageWidth * 0.35, pressX);
-    const gain = layout.spread ? (2 * layout.pageWidth) / (layout.pageWidth + within) : 2;
-    return { sign, gain: Math.max(1, gain), pressX, held: { ...leaf.held } };
+    if (!turner.grab(turner.current + steps, edgeShare)) return null;
+    const leaf = /** @type {import('./leaf.js').Leaf} */ (turner.leaf);
+    const sign = leaf.mirrored ? -1 : 1;
+    const pressX = sign * (press.x - layout.spineX - leaf.shift);
+    return { sign, gain: turner.painter.gain(leaf, pressX), pressX, held: { ...leaf.held } };
   }
 
   /**
@@ -109,15 +119,13 @@ export class Gestures {
     const { leaf } = turner;
     if (!press || !leaf) return;
     const { layout } = book;
-    const slide = Math.min(1, Math.abs(event.clientX - press.x) / (layout.pageWidth * 1.4));
-    const fromShift = book.shiftFor(leaf.from);
-    const shift = fromShift + (book.shiftFor(leaf.to) - fromShift) * slide;
-    const x = grip.sign * (event.clientX - layout.spineX - shift);
+    leaf.slide = Math.min(1, Math.abs(event.clientX - press.x) / (layout.pageWidth * 1.4));
+    const x = grip.sign * (event.clientX - layout.spineX - leaf.shift);
     const held = {
       x: grip.held.x + (x - grip.pressX) * grip.gain,
       y: grip.held.y + (event.clientY - press.y),
     };
-    turner.drag(held, slide);
+    turner.drag(held);
   }
 
   /** @param {PointerEvent} event */
@@ -130,7 +138,8 @@ export class Gestures {
       && Math.abs(event.clientX - press.x) < DRAG_START) this.#tap(event);
   }
 
-  #cancel() {
+  /** Lets go of everything: the pointer now means something else. */
+  drop() {
     if (this.press?.grip) this.turner.release(false);
     this.press = null;
   }
@@ -147,16 +156,25 @@ export class Gestures {
     const speed = first && lasted > 0 ? (event.clientX - first.x) / lasted : 0;
     const onward = Math.sign(event.clientX - press.x) * speed;
     if (Math.abs(onward) > FLICK_SPEED) return onward > 0;
-    const turned = (this.book.layout.pageWidth - leaf.held.x) / (2 * this.book.layout.pageWidth);
-    const done = leaf.reversed ? 1 - turned : turned;
-    return done > 0.45;
+    return leaf.done > this.turner.painter.enough;
   }
 
   /** @param {PointerEvent} event */
   #tap(event) {
-    const side = this.#sideAt(event.clientX);
-    if (side) this.turner.step((side === 'right') !== this.book.config.rightToLeft ? 1 : -1);
-    else this.onTapMiddle();
+    const { clientX: x, clientY: y, timeStamp: time } = event;
+    const side = this.zoom.active ? null : this.#sideAt(x);
+    if (side) {
+      this.lastTap = null;
+      this.turner.step((side === 'right') !== this.book.config.rightToLeft ? 1 : -1);
+      return;
+    }
+    const { lastTap } = this;
+    const second = lastTap !== null && time - lastTap.time < DOUBLE_TAP_MS
+      && Math.hypot(x - lastTap.x, y - lastTap.y) < DOUBLE_TAP_REACH;
+    this.lastTap = second ? null : { x, y, time };
+    // What the first tap did to the bar at once, the second undoes.
+    this.onTapMiddle();
+    if (second) this.zoom.toggleAt(x, y);
   }
 
   /**
@@ -178,7 +196,7 @@ export class Gestures {
   #hover(event) {
     const { layout, config } = this.book;
     const { turner } = this;
-    this.stage.style.cursor = this.#sideAt(event.clientX) ? 'pointer' : '';
+    this.stage.style.cursor = !this.zoom.active && this.#sideAt(event.clientX) ? 'pointer' : '';
     if (turner.leaf && turner.leaf.motion?.end !== 'peek') return;
     const shift = this.book.shiftFor(turner.current);
     const half = layout.pageWidth;
@@ -188,7 +206,7 @@ export class Gestures {
     const reach = Math.abs(x) > 0.84 && Math.abs(x) < 1.02;
     const side = x > 0 ? 'right' : 'left';
     const steps = (side === 'right') !== config.rightToLeft ? 1 : -1;
-    const lifts = layout.spread || steps === 1;
+    const lifts = layout.spread || turner.painter.whole || steps === 1;
     if (!nearCorner || !reach || !lifts) turner.endPeek();
     else turner.peek(turner.current + steps, y < 0.5 ? 0 : 1);
   }
@@ -196,7 +214,7 @@ export class Gestures {
   /** @param {WheelEvent} event */
   #wheel(event) {
     const way = Math.abs(event.deltaY) > Math.abs(event.deltaX) ? event.deltaY : event.deltaX;
-    if (event.ctrlKey || Math.abs(way) < 8) return;
+    if (event.ctrlKey || this.zoom.active || Math.abs(way) < 8) return;
     const pause = event.timeStamp - this.lastWheel;
     this.lastWheel = event.timeStamp;
     if (pause >= WHEEL_PAUSE_MS) this.turner.step(way > 0 ? 1 : -1);

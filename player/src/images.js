@@ -1,4 +1,5 @@
 import { fileAddress } from './values.js';
+import { say } from './words.js';
 
 /** @typedef {import('./config.js').PageEntry} PageEntry */
 /**
@@ -8,8 +9,8 @@ import { fileAddress } from './values.js';
  * @property {Promise<void>} settled kept when the image has arrived or failed
  */
 
-/** Page images kept at a time, whatever the length of the book. */
-const MOST_IMAGES = 12;
+/** Page images kept at a time, whatever the length of the book; one more is left for thumbnails. */
+const MOST_IMAGES = 11;
 
 /** Loads page images and keeps the ones that are wanted. */
 export class PageImages {
@@ -27,23 +28,26 @@ export class PageImages {
   /**
    * Starts loading pages and drops all others.
    * @param {number[]} wanted page numbers, the most urgent first
+   * @param {number} urgent how many of them are to be seen now
    */
-  want(wanted) {
+  want(wanted, urgent) {
     const pages = [...new Set(wanted)].slice(0, MOST_IMAGES);
     for (const [page, entry] of this.kept) {
       if (!pages.includes(page)) this.#drop(page, entry);
     }
-    for (const page of pages) this.get(page);
+    pages.forEach((page, index) => this.get(page, index < urgent));
   }
 
   /**
    * @param {number} page
+   * @param {boolean} urgent seen now, not only likely to be seen next
    * @returns {PageImage}
    */
-  get(page) {
+  get(page, urgent = true) {
     let entry = this.kept.get(page);
     if (!entry) {
       entry = { image: new Image(), state: 'loading', settled: Promise.resolve() };
+      entry.image.fetchPriority = urgent ? 'high' : 'low';
       this.kept.set(page, entry);
       entry.settled = this.#load(page, entry);
     }
@@ -55,13 +59,15 @@ export class PageImages {
    * @param {PageImage} entry
    */
   async #load(page, entry) {
-    entry.image.alt = 'Page ' + page;
+    entry.image.alt = say('page', page);
     entry.image.draggable = false;
     entry.image.decoding = 'async';
     entry.image.src = fileAddress(this.pages[page - 1].path);
     try {
       await entry.image.decode();
       entry.state = 'ready';
+      // It is decoded; put into the page it is to be there in the same frame.
+      entry.image.decoding = 'sync';
     } catch {
       entry.state = 'missing';
     }

@@ -3,12 +3,12 @@
 const WAYS = {
   'fade in': [{ opacity: 0 }, { opacity: 1 }],
   'rise': [
-    { opacity: 0, translate: '0 60px', scale: '0.94' },
-    { opacity: 1, translate: '0 0', scale: '1' },
+    { transformOrigin: '0 60%', opacity: 0, translate: '0 60px', scale: '0.94' },
+    { transformOrigin: '0 60%', opacity: 1, translate: '0 0', scale: '1' },
   ],
   'drop': [
-    { opacity: 0, translate: '0 -40px', scale: '1.12' },
-    { opacity: 1, translate: '0 0', scale: '1' },
+    { transformOrigin: '0 60%', opacity: 0, translate: '0 -40px', scale: '1.12' },
+    { transformOrigin: '0 60%', opacity: 1, translate: '0 0', scale: '1' },
   ],
 };
 

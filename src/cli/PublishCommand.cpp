@@ -10,6 +10,7 @@
 #include "cli/TemplateChoice.h"
 #include "cli/Terminal.h"
 #include "output/FolveroOutput.h"
+#include "output/FolveroOutputApp.h"
 #include "output/HTMLConfigInfo.h"
 #include "pages/ImportPDFOperation.h"
 #include "platform/Files.h"
@@ -33,10 +34,16 @@ std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options) {
     return tmpl;
 }
 
-QString htmlName(const PublishOptions& options) {
+// What the book is called in its folder. The page's ending marks where the name ends: an
+// application's name may have dots in it.
+QString bookName(const PublishOptions& options) {
     QString name = options.name;
-    if (name.endsWith(QStringLiteral(".html")))
-        name.chop(5);
+    if (name.isNull())
+        name = options.asApp ? QFileInfo(options.pdf).completeBaseName() : QStringLiteral("index");
+    for (const QString& ending : {QStringLiteral(".html"), QStringLiteral(".app")}) {
+        if (name.endsWith(ending))
+            name.chop(ending.size());
+    }
     if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.')) {
         throw CommandError(
             QStringLiteral("--name: \"%1\" can't be the name of a file").arg(options.name),
@@ -119,6 +126,16 @@ void takePageSize(const PDFDocument& document, FlashTemplate& tmpl) {
     tmpl.setPropertyValue(QStringLiteral("pageHeight"), QString::number(settings.PageHeight()));
 }
 
+std::unique_ptr<FolveroOutput> makeOutput(const PublishOptions& options,
+                                          const std::shared_ptr<FlashPageSource>& source,
+                                          const std::shared_ptr<FlashTemplate>& tmpl,
+                                          const QString& folder) {
+    const QString name = bookName(options);
+    if (options.asApp)
+        return std::make_unique<FolveroOutputApp>(source, tmpl, folder, name);
+    return std::make_unique<FolveroOutput>(source, tmpl, folder, name);
+}
+
 void writeBook(FolveroOutput& output, const QString& title) {
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(title.toHtmlEscaped());
@@ -154,7 +171,7 @@ void reportMissingPages(const PDFToSWFPageConverter& converter, const FolveroOut
 
 void runPublish(const PublishOptions& options) {
     PublishTiming timing;
-    const QString fileName = htmlName(options);
+    bookName(options); // a wrong name shows before an hour of drawing
     const auto tmpl = prepareTemplate(options);
     const auto document = openDocument(options.pdf);
     const PageSelection pages = selectPages(options.pages, document->pageCount());
@@ -174,15 +191,15 @@ void runPublish(const PublishOptions& options) {
     timing.imported(*source);
 
     takePageSize(*document, *tmpl);
-    FolveroOutput output(source, tmpl, folder.path(), fileName);
-    output.setFlashPagesAnnotations(operation->flashPagesAnnotation());
-    output.setFlashOutline(operation->flashOutline());
-    writeBook(output, bookTitle(options, *document));
+    const auto output = makeOutput(options, source, tmpl, folder.path());
+    output->setFlashPagesAnnotations(operation->flashPagesAnnotation());
+    output->setFlashOutline(operation->flashOutline());
+    writeBook(*output, bookTitle(options, *document));
     folder.keep();
     timing.published();
     if (!options.timingFile.isNull())
         timing.write(options.timingFile);
 
-    Terminal::print(output.outputFileName());
-    reportMissingPages(*source->toPageConverter(), output);
+    Terminal::print(output->outputFileName());
+    reportMissingPages(*source->toPageConverter(), *output);
 }

@@ -7,8 +7,9 @@
 struct PublishOptions {
     QString pdf;
     QString outputFolder;
-    QString name = QStringLiteral("index");
-    QString title; // null: the document's own title, or else its file name
+    bool asApp = false; // a Mac application instead of a folder with an HTML page
+    QString name;       // null: "index" for a page, the PDF's name for an application
+    QString title;      // null: the document's own title, or else its file name
     QString pages = QStringLiteral("ALL");
     int quality = 100;
     bool links = false;

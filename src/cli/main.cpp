@@ -23,7 +23,8 @@ namespace {
 struct CommandLine {
     std::string pdf;
     std::string outputFolder;
-    std::string name = "index";
+    std::string type = "html";
+    std::string name;
     std::string title;
     std::string pages = "ALL";
     int quality = 100;
@@ -51,7 +52,9 @@ void publish(const CommandLine& line, const CLI::App& command) {
     PublishOptions options;
     options.pdf = path(line.pdf);
     options.outputFolder = path(line.outputFolder);
-    options.name = path(line.name);
+    options.asApp = line.type == "app";
+    if (command.count("--name") > 0)
+        options.name = path(line.name).isNull() ? QStringLiteral("") : path(line.name);
     if (command.count("--title") > 0)
         options.title = text(line.title).isNull() ? QStringLiteral("") : text(line.title);
     options.pages = text(line.pages);
@@ -79,9 +82,17 @@ void addPublish(CLI::App& app, CommandLine& line) {
                      "The folder that the book goes into; made if it is missing")
         ->type_name("")
         ->required();
-    command->add_option("--name", line.name, "Name of the HTML page, without its extension")
-        ->type_name("NAME")
+    command
+        ->add_option("--type", line.type,
+                     "html: a page with its files, for disk and web; app: a Mac application")
+        ->check(CLI::IsMember({"html", "app"}))
+        ->type_name("TYPE")
         ->capture_default_str();
+    command
+        ->add_option("--name", line.name,
+                     "Name of the HTML page (by default index) or of the application (by\n"
+                     "default that of the PDF file), without its extension")
+        ->type_name("NAME");
     command
         ->add_option("--title", line.title,
                      "Title of the book; by default the title of the document")

@@ -95,8 +95,7 @@ bool FolveroOutput::perform(const QString& folder, const std::function<void()>& 
         run.commit();
         return true;
     } catch (const PlatformException& failure) {
-        iPublishErrors << failure.reason();
-        logger().error(QStringLiteral("the book was not published: %1").arg(failure.reason()));
+        reportFailure(failure.reason());
     } catch (const Cancelled&) {
         iWasCancelled = true;
         logger().info(QStringLiteral("publishing was cancelled"));
@@ -108,6 +107,15 @@ void FolveroOutput::forgetLastRun() {
     iPublishErrors.clear();
     iMissingPages.clear();
     iWasCancelled = false;
+}
+
+void FolveroOutput::reportFailure(const QString& reason) {
+    iPublishErrors << reason;
+    logger().error(QStringLiteral("the book was not published: %1").arg(reason));
+}
+
+void FolveroOutput::renameInErrors(const QString& working, const QString& final) {
+    iPublishErrors.replaceInStrings(working, final);
 }
 
 void FolveroOutput::checkCancelled() const {

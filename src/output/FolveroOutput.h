@@ -98,6 +98,7 @@ public:
     void setHTMLConfig(std::shared_ptr<HTMLConfigInfo> value) { iHTMLConfig = std::move(value); }
 
 protected:
+    void forgetLastRun();
     // All steps of a run; a subclass may add its own around them.
     virtual void publish();
 
@@ -111,6 +112,12 @@ protected:
     // folder.
     bool replaceWithCopy(const QString& source, const QString& folder, const QString& name,
                          PublishTransaction::Copy kind);
+
+    // For what goes wrong outside of perform(): ends up in publishErrors() and in the log.
+    void reportFailure(const QString& reason);
+    // For a subclass that publishes somewhere else than into saveToFolder() at first: puts the
+    // final path in place of the working one in publishErrors().
+    void renameInErrors(const QString& working, const QString& final);
 
     // Appends an "item" for each descendant of the property, parents first, all to one element.
     void appendChildPropertyToNode(pugi::xml_node element,
@@ -135,7 +142,6 @@ protected:
 private:
     using TemplateCopy = void (FlashTemplate::*)(const QString&) const;
 
-    void forgetLastRun();
     void checkCancelled() const;
     QString resourceFolder(const QString& root, const QString& name) const;
     QString extFileURL(const QString& key, const QString& value) const;

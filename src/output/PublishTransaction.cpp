@@ -1,5 +1,6 @@
 #include "output/PublishTransaction.h"
 
+#include "output/StagingFolder.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
@@ -9,16 +10,12 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
-
-const QString stagingPrefix = QStringLiteral(".folvero-publish-");
 
 [[noreturn]] void failWithErrno(const QString& path) {
     PublishTransaction::fail(path, QString::fromLocal8Bit(std::strerror(errno)));
@@ -54,8 +51,10 @@ PublishTransaction::PublishTransaction(const QString& folder)
     : iFolder(folder.isEmpty() ? QStringLiteral(".") : folder) {
     try {
         makeFolderNow(iFolder);
-        removeStaleFolders();
-        makeStagingFolder();
+        StagingFolder::removeStale(iFolder);
+        iStaging = StagingFolder::make(iFolder);
+        if (iStaging.isNull())
+            failWithErrno(iFolder);
     } catch (...) {
         removeMadeFolders();
         throw;
@@ -80,26 +79,6 @@ void PublishTransaction::rescueBackups() const {
     Log("PublishTransaction")
         .error(QStringLiteral("earlier files could not be put back; they are in %1")
                    .arg(moved ? rescue : iStaging));
-}
-
-void PublishTransaction::makeStagingFolder() {
-    // The process's number tells a later publish whether the folder is still in use.
-    const QString pattern =
-        Files::join(iFolder, QStringLiteral("%1%2-XXXXXX").arg(stagingPrefix).arg(::getpid()));
-    QByteArray name = QFile::encodeName(pattern);
-    if (!::mkdtemp(name.data()))
-        failWithErrno(iFolder);
-    iStaging = QFile::decodeName(name);
-}
-
-void PublishTransaction::removeStaleFolders() const {
-    const QDir folder(iFolder);
-    const auto names = folder.entryList({stagingPrefix + u'*'}, QDir::Dirs | QDir::Hidden);
-    for (const QString& name : names) {
-        const pid_t process = name.mid(stagingPrefix.size()).section(u'-', 0, 0).toInt();
-        if (process > 0 && ::kill(process, 0) != 0 && errno == ESRCH)
-            QDir(folder.filePath(name)).removeRecursively();
-    }
 }
 
 void PublishTransaction::makeFolder(const QString& path) {

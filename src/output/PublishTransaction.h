@@ -56,8 +56,6 @@ private:
     };
 
     void rescueBackups() const;
-    void makeStagingFolder();
-    void removeStaleFolders() const;
     void makeFolderNow(const QString& path);
     QString newName();
     Change& changeOf(const QString& target);

@@ -1,8 +1,9 @@
 import assert from 'node:assert/strict';
-import { rm, writeFile } from 'node:fs/promises';
+import { readFile, rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { after, afterEach, before, test } from 'node:test';
-import { colourOf, plainPages, writeConfiguration } from './support/book.mjs';
+import { gzipSync } from 'node:zlib';
+import { colourOf, configurationXml, plainPages, writeConfiguration } from './support/book.mjs';
 import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
@@ -102,8 +103,79 @@ test('a book without its files folder says what is missing', async () => {
 
 test('bytes after the document do no harm', async () => {
   const folder = await reader.book({ pages: plainPages(2) });
-  const { configurationXml } = await import('./support/book.mjs');
   const padded = Buffer.concat([Buffer.from(configurationXml(2)), Buffer.alloc(9, 9)]);
   await writeConfiguration(folder, rc4(padded, CONFIG_KEY));
   assert.deepEqual(await (await reader.openFromDisk(folder)).pages(), [1]);
+});
+
+const emptyHanded = async () => {
+  const folder = await reader.book({ pages: plainPages(3) });
+  await rm(path.join(folder, 'files/UserConfig.bin'));
+  await rm(path.join(folder, 'files/UserConfig.js'));
+  return folder;
+};
+
+test('a book that the server could not give may be asked for again', async () => {
+  const folder = await emptyHanded();
+  const book = await reader.openOverHttp(folder);
+  const again = book.page.locator('.message button');
+  assert.equal(await again.innerText(), 'Try again');
+  await writeConfiguration(folder, rc4(Buffer.from(configurationXml(3)), CONFIG_KEY));
+  await again.click();
+  await book.page.waitForSelector('#folvero[data-state="ready"]');
+  assert.deepEqual(await book.pages(), [1]);
+});
+
+test('trying again is not offered where it cannot help', async () => {
+  const book = await reader.openFromDisk(await emptyHanded());
+  assert.equal(await book.page.locator('.message button').isVisible(), false);
+});
+
+test('a server that gives no answer is named as the cause', async () => {
+  const book = await reader.openOverHttp(await reader.book({ pages: plainPages(3) }),
+    { before: (page) => page.route(/UserConfig/, (route) => route.abort('connectionrefused')) });
+  assert.match(await messageOf(book), /could not be loaded[^]*connection[^]*Try again/);
+});
+
+test('a browser without script says what is missing', async () => {
+  const folder = await reader.book({ pages: plainPages(3) });
+  const context = await reader.browser.newContext({ javaScriptEnabled: false });
+  const page = await context.newPage();
+  await page.goto(`file://${folder}/index.html`);
+  assert.match(await page.locator('body').innerText(), /needs JavaScript/);
+  assert.equal(await page.locator('.wait').isVisible(), false);
+});
+
+test('a browser that does not understand the script says so', async () => {
+  const folder = await reader.book({ pages: plainPages(3) });
+  const file = path.join(folder, 'index.html');
+  await writeFile(file, (await readFile(file, 'utf8')).replace("'use strict';", 'a script of tomorrow;'));
+  const page = await reader.browser.newPage();
+  await page.goto(`file://${file}`);
+  assert.match(await page.locator('body').innerText(), /needs a newer browser/);
+});
+
+const leadingOut = ['../secret.jpg', 'page/../../secret.jpg', 'http://127.0.0.1:9/a.jpg', '//127.0.0.1:9/a.jpg', '/etc/a.jpg',
+  'javascript:alert(1)', 'data:image/png;base64,AAAA', '..\\secret.jpg', './../secret.jpg'];
+test('files outside the book are never asked for', async () => {
+  const count = leadingOut.length;
+  const folder = await reader.book({ pages: plainPages(count) });
+  const [first, second, third] = leadingOut;
+  const xml = configurationXml(count, { OuterBackgroundFile: first, InnerBackgroundFile: second, SoundFile: third })
+    .replaceAll(/page\/(\d)\.jpg/g, (_, page) => leadingOut[page - 1]);
+  await writeConfiguration(folder, rc4(Buffer.from(xml), CONFIG_KEY));
+  const book = await reader.openOverHttp(folder);
+  assert.equal(await book.page.locator('.page.right').innerText(), 'Page 1 could not be shown');
+  await book.page.keyboard.press('t');
+  await book.page.waitForFunction((all) => document.querySelectorAll('.thumb-picture.missing').length === all, count);
+  const own = /^(\/|\/index\.html|\/files\/UserConfig\.bin|\/files\/extfiles\/moveSound\.mp3)$/;
+  for (const url of book.requests.filter((one) => !one.startsWith('data:image/svg'))) {
+    assert.ok(url.startsWith(book.server.address) && own.test(new URL(url).pathname), url);
+  }
+});
+
+test('the player in a book is light', async () => {
+  const page = await readFile(path.join(await reader.book({ pages: plainPages(1) }), 'index.html'));
+  const size = gzipSync(page).length;
+  assert.ok(size <= 60 * 1024, `${size} bytes`);
 });

@@ -104,6 +104,16 @@ TEST_F(PublishTest, PutsTheTitleIntoThePageSafely) {
     EXPECT_TRUE(page.contains("<title>Ünïcödé 概要 &lt;b&gt;&amp;&quot; ${index.title}</title>"));
 }
 
+TEST_F(PublishTest, MakesAnApplicationNamedAfterTheDocument) {
+    const auto result = publish(QStringLiteral("outline.pdf"), {QStringLiteral("--type=app")});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.constData();
+    EXPECT_EQ(QString::fromUtf8(result.output).trimmed(), file(QStringLiteral("outline.app")));
+    const QString book = QStringLiteral("outline.app/Contents/Resources");
+    EXPECT_TRUE(QFileInfo::exists(file(book + QStringLiteral("/index.html"))));
+    EXPECT_EQ(BookReader::configuration(file(book)).at(QStringLiteral("Ppts")).children.size(), 9U);
+    EXPECT_EQ(publish(QStringLiteral("outline.pdf"), {QStringLiteral("--type=exe")}).exitCode, 2);
+}
+
 TEST_F(PublishTest, TakesNamesOfAnyKindInAPlainEnvironment) {
     const QString odd = iRoot.filePath(QStringLiteral("Größe 概要\nzwei"));
     ASSERT_TRUE(QDir().mkpath(odd));

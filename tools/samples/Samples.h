@@ -11,6 +11,8 @@ struct Sample {
 };
 
 std::vector<Sample> bookSamples();
+// A novel, a picture book and slides, as people have them.
+std::vector<Sample> documentSamples();
 std::vector<Sample> textSamples();
 std::vector<Sample> navigationSamples();
 std::vector<Sample> boxSamples();

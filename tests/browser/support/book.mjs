@@ -50,17 +50,20 @@ function elements(values) {
 /**
  * The configuration document of a book.
  * values: texts by element name that replace the defaults; declaredSize: [width, height] that the
- * document claims for every page, whatever the images measure.
+ * document claims for every page, whatever the images measure; thumb: { path, width, height } that it
+ * names as the thumbnail of every page.
  */
-export function configurationXml(pageCount, values = {}, declaredSize = [120, 160]) {
+export function configurationXml(pageCount, values = {}, declaredSize = [120, 160], thumb = undefined) {
   const group = (name) => {
     const merged = Object.entries(DEFAULTS[name]).map(([key, value]) => [key, values[key] ?? value]);
     return elements(Object.fromEntries(merged));
   };
-  const size = `<Width>${declaredSize[0]}</Width><Height>${declaredSize[1]}</Height>`;
+  const picture = (file, width, height) =>
+    `<ImgPath>${escaped(file)}</ImgPath><Width>${width}</Width><Height>${height}</Height>`;
   const pages = Array.from({ length: pageCount }, (_, index) => {
-    const url = `<ImgPath>page/${index + 1}.jpg</ImgPath>`;
-    return `<Ppt><Normal>${url}${size}</Normal><Thumb>${url}${size}</Thumb></Ppt>`;
+    const normal = picture(`page/${index + 1}.jpg`, ...declaredSize);
+    const small = thumb ? picture(thumb.path, thumb.width, thumb.height) : normal;
+    return `<Ppt><Normal>${normal}</Normal><Thumb>${small}</Thumb></Ppt>`;
   });
   return `<?xml version="1.0" encoding="UTF-8"?>
 <SlidePowerPoint>
@@ -84,13 +87,17 @@ export async function writeConfiguration(folder, bytes) {
 
 /**
  * Writes a book as the publisher would, from the built template.
- * extras: further files by their path in the files folder.
+ * extras: further files by their path in the files folder; look: how the template turns and lays out
+ * pages, in place of what it says itself, as { turn, pages, binding }.
  */
-export async function writeBook(folder, { template, pages, values, declaredSize, extras = {}, title = 'Test book' }) {
+export async function writeBook(folder, options) {
+  const { template, pages, values, declaredSize, thumb, extras = {}, look = {}, title = 'Test book' } = options;
   await mkdir(path.join(folder, 'files/page'), { recursive: true });
   await mkdir(path.join(folder, 'files/extfiles'), { recursive: true });
   const shell = await readFile(path.join(template, 'index.html'), 'utf8');
-  const html = shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => (name === 'index.title' ? title : ''));
+  const html = Object.entries(look).reduce((page, [name, value]) => page.replace(
+    new RegExp(`(<main id="folvero"[^>]* data-${name}=")[^"]*`), (_, before) => before + value),
+  shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => (name === 'index.title' ? title : '')));
   await writeFile(path.join(folder, 'index.html'), html);
   for (const [index, page] of pages.entries()) {
     await writeFile(path.join(folder, 'files/page', `${index + 1}.jpg`), page.bytes);
@@ -98,7 +105,7 @@ export async function writeBook(folder, { template, pages, values, declaredSize,
   for (const [name, bytes] of Object.entries(extras)) {
     await writeFile(path.join(folder, 'files', name), bytes);
   }
-  const xml = configurationXml(pages.length, values, declaredSize);
+  const xml = configurationXml(pages.length, values, declaredSize, thumb);
   await writeConfiguration(folder, rc4(Buffer.from(xml, 'utf8'), CONFIG_KEY));
   return folder;
 }

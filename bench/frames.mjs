@@ -1,0 +1,128 @@
+#!/usr/bin/env node
+// Frame times of turning pages in headless Chromium, without a graphics card, at 1280 x 800.
+// Usage: frames.mjs BOOK_DIR [--json FILE] [--turns 20] [--density 1]
+//
+// Turns the pages of a published book by key and by drag in each way of turning, and prints the time from
+// frame to frame (requestAnimationFrame) and the script's share of it, both in milliseconds.
+
+import { cp, mkdtemp, readFile, rm, writeFile } from 'node:fs/promises';
+import { loadavg, tmpdir } from 'node:os';
+import path from 'node:path';
+import { fileURLToPath, pathToFileURL } from 'node:url';
+
+const here = path.dirname(fileURLToPath(import.meta.url));
+const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
+
+const KINDS = ['curl', 'flip', 'slide'];
+
+function option(name, fallback) {
+  const at = process.argv.indexOf(`--${name}`);
+  return at < 0 ? fallback : process.argv[at + 1];
+}
+
+const book = process.argv[2];
+if (!book || book.startsWith('--')) {
+  console.error('usage: frames.mjs BOOK_DIR [--json FILE] [--turns 20] [--density 1]');
+  process.exit(2);
+}
+const turns = Number(option('turns', '20'));
+const density = Number(option('density', '1'));
+
+/** Copies the book and has it turn its pages in another way. */
+async function bookTurning(kind, folder) {
+  await cp(book, folder, { recursive: true });
+  const file = path.join(folder, 'index.html');
+  const page = await readFile(file, 'utf8');
+  await writeFile(file, page.replace(/(<div id="folvero"[^>]* data-turn=")[^"]*/, `$1${kind}`));
+}
+
+/** In the page: notes when frames begin and how long their callbacks run, while a page is in the air. */
+function watchFrames() {
+  const ask = window.requestAnimationFrame.bind(window);
+  window.frames = { intervals: [], scripts: [] };
+  let script = 0;
+  window.requestAnimationFrame = (callback) => ask((now) => {
+    const start = performance.now();
+    callback(now);
+    script += performance.now() - start;
+  });
+  let last = 0;
+  const note = (now) => {
+    if (window.folvero?.turning) {
+      if (last) {
+        window.frames.intervals.push(now - last);
+        window.frames.scripts.push(script);
+      }
+      last = now;
+    } else {
+      last = 0;
+    }
+    script = 0;
+    ask(note);
+  };
+  ask(note);
+}
+
+const settled = (page) => page.waitForFunction(() => !window.folvero.turning);
+
+async function turnByKey(page) {
+  for (let turn = 0; turn < turns; turn += 1) {
+    await page.keyboard.press(turn % 8 < 4 ? 'ArrowRight' : 'ArrowLeft');
+    await settled(page);
+    await page.waitForTimeout(120);
+  }
+}
+
+async function turnByDrag(page) {
+  for (let turn = 0; turn < turns; turn += 1) {
+    const way = turn % 8 < 4 ? -1 : 1;
+    await page.mouse.move(640 - way * 460, 640);
+    await page.mouse.down();
+    for (let step = 1; step <= 24; step += 1) {
+      await page.mouse.move(640 - way * 460 + way * step * 33, 640 - 120 * Math.sin((Math.PI * step) / 24));
+    }
+    await page.mouse.up();
+    await settled(page);
+    await page.waitForTimeout(120);
+  }
+}
+
+function figures(values) {
+  const sorted = [...values].sort((a, b) => a - b);
+  const at = (share) => sorted[Math.min(sorted.length - 1, Math.floor(sorted.length * share))];
+  const round = (value) => Math.round(value * 10) / 10;
+  return { median: round(at(0.5)), p95: round(at(0.95)), max: round(sorted.at(-1)), frames: sorted.length };
+}
+
+async function measure(browser, kind, by) {
+  const folder = await mkdtemp(path.join(tmpdir(), 'folvero-frames-'));
+  await bookTurning(kind, folder);
+  const page = await browser.newPage({ viewport: { width: 1280, height: 800 }, deviceScaleFactor: density });
+  await page.addInitScript(watchFrames);
+  await page.goto(pathToFileURL(path.join(folder, 'index.html')).href);
+  await page.waitForSelector('#folvero[data-state="ready"]');
+  await page.waitForTimeout(1500);
+  const load = loadavg()[0];
+  await (by === 'key' ? turnByKey(page) : turnByDrag(page));
+  const frames = await page.evaluate(() => window.frames);
+  await page.close();
+  await rm(folder, { recursive: true });
+  return { kind, by, load, interval: figures(frames.intervals), script: figures(frames.scripts) };
+}
+
+const browser = await launchChromium();
+const results = [];
+console.log('| way | by | frames | interval: median | p95 | max | script: median | p95 | max | load before |');
+console.log('| --- | --- | ---: | ---: | ---: | ---: | ---: | ---: | ---: | ---: |');
+for (const kind of KINDS) {
+  for (const by of ['key', 'drag']) {
+    const result = await measure(browser, kind, by);
+    results.push(result);
+    const { interval, script, load } = result;
+    console.log(`| ${kind} | ${by} | ${interval.frames} | ${interval.median} | ${interval.p95} | ${interval.max} | `
+      + `${script.median} | ${script.p95} | ${script.max} | ${load.toFixed(1)} |`);
+  }
+}
+await browser.close();
+const file = option('json', '');
+if (file) await writeFile(file, `${JSON.stringify({ density, turns, results }, null, 2)}\n`);

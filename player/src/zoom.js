@@ -1,0 +1,288 @@
+/** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('./turner.js').Turner} Turner */
+/** @typedef {import('./fold.js').Point} Point */
+/**
+ * The book as it is enlarged: a place of the window that was at p is at level * p + (x, y).
+ * @typedef {{level: number, x: number, y: number}} ZoomState
+ */
+
+const MOST_ZOOM = 5;
+const TAP_ZOOM = 2.5;
+const ZOOM_STEP = 1.5;
+const ZOOM_MS = 240;
+
+/** Time in which a page that was thrown loses two thirds of its speed, in milliseconds. */
+const GLIDE_MS = 300;
+
+/** Room between an enlarged page's edge and the window's, in CSS pixels. */
+const ZOOM_AIR = 14;
+
+/** Enlarges the standing pages. While it does, pages change at once instead of turning. */
+export class Zoom {
+  /**
+   * @param {Book} book
+   * @param {Turner} turner
+   */
+  constructor(book, turner) {
+    this.book = book;
+    this.turner = turner;
+    this.onChange = () => {};
+    /** @type {ZoomState} */
+    this.now = { level: 1, x: 0, y: 0 };
+    /** @type {ZoomState} where the movement under way leads */
+    this.goal = this.now;
+    /** Place of the book that is in the middle of the window, as shares of the shown pages. */
+    this.middle = { x: 0.5, y: 0.5 };
+    this.frame = 0;
+    turner.atOnce = () => this.active;
+    turner.onStood = () => this.#refit();
+    turner.onJumped = () => this.#toReadingStart();
+  }
+
+  /** 1 while whole pages are seen. */
+  get level() {
+    return this.goal.level;
+  }
+
+  get active() {
+    return this.goal.level > 1;
+  }
+
+  in() {
+    this.#glideTo(this.#about(this.#windowMiddle(), this.level * ZOOM_STEP));
+  }
+
+  out() {
+    this.#glideTo(this.#about(this.#windowMiddle(), this.level / ZOOM_STEP));
+  }
+
+  reset() {
+    if (this.active) this.#glideTo({ level: 1, x: 0, y: 0 });
+  }
+
+  /**
+   * Enlarges what lies at a place of the window, or shows whole pages again.
+   * @param {number} clientX
+   * @param {number} clientY
+   */
+  toggleAt(clientX, clientY) {
+    if (this.active) this.reset();
+    else this.#glideTo(this.#about({ x: clientX, y: clientY }, TAP_ZOOM));
+  }
+
+  /**
+   * Changes the level about a place of the window, at once.
+   * @param {Point} place
+   * @param {number} factor
+   */
+  scaleAt(place, factor) {
+    this.#set(this.#about(place, this.now.level * factor));
+  }
+
+  /**
+   * @param {number} dx CSS pixels
+   * @param {number} dy
+   */
+  panBy(dx, dy) {
+    this.#set({ level: this.now.level, x: this.now.x + dx, y: this.now.y + dy });
+  }
+
+  /**
+   * Lets the page glide on after a finger has let go of it.
+   * @param {Point} speed CSS pixels a millisecond
+   */
+  glide(speed) {
+    const from = this.now;
+    let start = 0;
+    this.#animate((time) => {
+      start = start || time;
+      const gone = GLIDE_MS * (1 - Math.exp((start - time) / GLIDE_MS));
+      const before = this.now;
+      this.#apply(this.#limited({
+        level: from.level, x: from.x + speed.x * gone, y: from.y + speed.y * gone,
+      }));
+      this.goal = this.now;
+      const still = Math.abs(before.x - this.now.x) + Math.abs(before.y - this.now.y) < 0.2;
+      return time - start < 40 || !still;
+    });
+  }
+
+  /** @returns {Point} */
+  #windowMiddle() {
+    return { x: this.book.root.clientWidth / 2, y: this.book.root.clientHeight / 2 };
+  }
+
+  /**
+   * @param {Point} place that keeps still
+   * @param {number} wanted level
+   * @returns {ZoomState}
+   */
+  #about(place, wanted) {
+    // A level just above 1 would change how the book behaves and not how it looks.
+    const level = wanted < 1.04 ? 1 : Math.min(MOST_ZOOM, wanted);
+    const { now } = this;
+    const ratio = level / now.level;
+    return this.#limited({
+      level, x: place.x - (place.x - now.x) * ratio, y: place.y - (place.y - now.y) * ratio,
+    });
+  }
+
+  /**
+   * The nearest state in which the pages do not leave the window.
+   * @param {ZoomState} state
+   * @returns {ZoomState}
+   */
+  #limited({ level, x, y }) {
+    if (level === 1) return { level, x: 0, y: 0 };
+    const { left, top, right, bottom } = this.#pagesBox();
+    const { clientWidth, clientHeight } = this.book.root;
+    return {
+      level, x: heldInside(x, level, left, right, clientWidth),
+      y: heldInside(y, level, top, bottom, clientHeight),
+    };
+  }
+
+  /** Where the standing pages lie in the window when they are not enlarged. */
+  #pagesBox() {
+    const { layout, views } = this.book;
+    const { left, right } = views.at(this.turner.current);
+    const origin = layout.spineX + this.book.shiftFor(this.turner.current);
+    return {
+      left: origin - (left ? layout.pageWidth : 0), right: origin + (right ? layout.pageWidth : 0),
+      top: layout.bookTop, bottom: layout.bookTop + layout.pageHeight,
+    };
+  }
+
+  /** @param {ZoomState} state */
+  #set(state) {
+    this.#stop();
+    this.#aim(state);
+    this.#apply(this.#limited(state));
+    this.goal = this.now;
+    this.#restSoon();
+  }
+
+  /** @param {ZoomState} goal */
+  #glideTo(goal) {
+    this.#stop();
+    const from = this.now;
+    this.#aim(goal);
+    if (this.turner.calm.matches) {
+      this.#apply(goal);
+      return;
+    }
+    let start = 0;
+    this.#animate((time) => {
+      start = start || time;
+      const passed = Math.min(1, (time - start) / ZOOM_MS);
+      this.#apply(between(from, goal, 1 - (1 - passed) ** 3));
+      return passed < 1;
+    });
+  }
+
+  /** @param {ZoomState} goal */
+  #aim(goal) {
+    const before = this.level;
+    if (before === 1 && goal.level > 1) this.turner.settle();
+    this.goal = goal;
+    this.book.root.dataset.zoomed = goal.level > 1 ? 'yes' : 'no';
+    if (goal.level !== before) this.onChange();
+  }
+
+  /** @param {ZoomState} state */
+  #apply(state) {
+    this.now = state;
+    const { left, top, right, bottom } = this.#pagesBox();
+    const middle = this.#windowMiddle();
+    this.middle = {
+      x: ((middle.x - state.x) / state.level - left) / (right - left),
+      y: ((middle.y - state.y) / state.level - top) / (bottom - top),
+    };
+    this.book.zoomTo(state);
+  }
+
+  /** Keeps the same part of the pages in view when the window has changed. */
+  #refit() {
+    if (!this.active) return;
+    this.#stop();
+    const { left, top, right, bottom } = this.#pagesBox();
+    const { level } = this.goal;
+    const middle = this.#windowMiddle();
+    this.#apply(this.#limited({
+      level, x: middle.x - level * (left + this.middle.x * (right - left)),
+      y: middle.y - level * (top + this.middle.y * (bottom - top)),
+    }));
+    this.goal = this.now;
+  }
+
+  /** A page that has just been opened is read from its top. */
+  #toReadingStart() {
+    this.#stop();
+    const far = this.book.config.rightToLeft ? -1e6 : 1e6;
+    this.#apply(this.#limited({ level: this.goal.level, x: far, y: 1e6 }));
+    this.goal = this.now;
+  }
+
+  /** @param {(time: number) => boolean} step draws a frame and tells whether more follow */
+  #animate(step) {
+    this.#stop();
+    this.#move(true);
+    /** @param {number} time */
+    const tick = (time) => {
+      this.frame = 0;
+      if (step(time)) this.frame = requestAnimationFrame(tick);
+      else this.#move(false);
+    };
+    this.frame = requestAnimationFrame(tick);
+  }
+
+  #stop() {
+    if (this.frame) cancelAnimationFrame(this.frame);
+    this.frame = 0;
+    this.#move(false);
+  }
+
+  /**
+   * A layer of its own moves smoothly, but keeps the sharpness at which it was last drawn.
+   * @param {boolean} moving
+   */
+  #move(moving) {
+    clearTimeout(this.rest);
+    this.book.element.style.willChange = moving ? 'transform' : '';
+  }
+
+  #restSoon() {
+    this.#move(true);
+    this.rest = window.setTimeout(() => this.#move(false), 140);
+  }
+}
+
+/**
+ * @param {number} offset
+ * @param {number} level
+ * @param {number} from where the pages begin on this axis
+ * @param {number} to
+ * @param {number} extent of the window
+ */
+function heldInside(offset, level, from, to, extent) {
+  const size = level * (to - from);
+  const room = extent - 2 * ZOOM_AIR;
+  if (size > room) {
+    return Math.min(ZOOM_AIR, Math.max(extent - ZOOM_AIR - size, offset + level * from)) - level * from;
+  }
+  const centre = Math.min(extent - ZOOM_AIR - size / 2, Math.max(ZOOM_AIR + size / 2, (from + to) / 2));
+  return centre - (level * (from + to)) / 2;
+}
+
+/**
+ * @param {ZoomState} from
+ * @param {ZoomState} to
+ * @param {number} share
+ * @returns {ZoomState}
+ */
+function between(from, to, share) {
+  // The place that keeps still keeps still all the way only if the offset follows the level.
+  const level = from.level * (to.level / from.level) ** share;
+  const part = to.level === from.level ? share : (level - from.level) / (to.level - from.level);
+  return { level, x: from.x + (to.x - from.x) * part, y: from.y + (to.y - from.y) * part };
+}

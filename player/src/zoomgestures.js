@@ -1,0 +1,119 @@
+/** @typedef {import('./zoom.js').Zoom} Zoom */
+/** @typedef {import('./fold.js').Point} Point */
+
+/** Pixels that an arrow key moves an enlarged page. */
+const KEY_PAN = 90;
+
+/** Slowest throw after which a page glides on, in pixels a millisecond. */
+const LEAST_THROW = 0.08;
+
+/** Fingers, wheel and keys that enlarge pages and move enlarged ones. */
+export class ZoomGestures {
+  /**
+   * @param {Zoom} zoom
+   * @param {HTMLElement} stage
+   * @param {() => void} onPinch called when a second finger comes down
+   */
+  constructor(zoom, stage, onPinch) {
+    this.zoom = zoom;
+    this.stage = stage;
+    this.onPinch = onPinch;
+    /** @type {Map<number, Point>} */
+    this.pointers = new Map();
+    /** @type {{x: number, y: number, time: number}[]} */
+    this.trail = [];
+    stage.addEventListener('pointerdown', (event) => this.#down(event));
+    stage.addEventListener('pointermove', (event) => this.#move(event));
+    for (const name of ['pointerup', 'pointercancel', 'lostpointercapture']) {
+      stage.addEventListener(name, (event) => this.#up(/** @type {PointerEvent} */ (event)));
+    }
+    stage.addEventListener('wheel', (event) => this.#wheel(event), { passive: false });
+    // One browser enlarges its whole page by these whatever touch-action says.
+    stage.addEventListener('gesturestart', (event) => event.preventDefault());
+    window.addEventListener('keydown', (event) => this.#key(event));
+  }
+
+  /** @param {PointerEvent} event */
+  #down(event) {
+    if (event.button !== 0 || this.pointers.size === 2) return;
+    this.pointers.set(event.pointerId, { x: event.clientX, y: event.clientY });
+    this.trail = [];
+    if (this.zoom.active) this.zoom.panBy(0, 0);
+    if (this.pointers.size === 2) {
+      this.stage.setPointerCapture(event.pointerId);
+      this.onPinch();
+    }
+  }
+
+  /** @param {PointerEvent} event */
+  #move(event) {
+    const before = this.pointers.get(event.pointerId);
+    if (!before) return;
+    const here = { x: event.clientX, y: event.clientY };
+    const other = [...this.pointers].find(([id]) => id !== event.pointerId)?.[1];
+    this.pointers.set(event.pointerId, here);
+    if (other) this.#pinch(before, here, other);
+    else if (this.zoom.active) {
+      this.zoom.panBy(here.x - before.x, here.y - before.y);
+      this.trail.push({ ...here, time: event.timeStamp });
+      if (this.trail.length > 8) this.trail.shift();
+    }
+  }
+
+  /**
+   * One of two fingers has moved: the place between them stays between them.
+   * @param {Point} before
+   * @param {Point} here
+   * @param {Point} other
+   */
+  #pinch(before, here, other) {
+    const apart = Math.max(20, Math.hypot(before.x - other.x, before.y - other.y));
+    const now = Math.max(20, Math.hypot(here.x - other.x, here.y - other.y));
+    this.zoom.panBy((here.x - before.x) / 2, (here.y - before.y) / 2);
+    this.zoom.scaleAt({ x: (here.x + other.x) / 2, y: (here.y + other.y) / 2 }, now / apart);
+  }
+
+  /** @param {PointerEvent} event */
+  #up(event) {
+    if (!this.pointers.delete(event.pointerId)) return;
+    const recent = this.trail.filter(({ time }) => event.timeStamp - time < 90);
+    this.trail = [];
+    const [first] = recent;
+    const last = recent[recent.length - 1];
+    if (!this.zoom.active || !first || last.time <= first.time) return;
+    const passed = last.time - first.time;
+    const speed = { x: (last.x - first.x) / passed, y: (last.y - first.y) / passed };
+    if (Math.hypot(speed.x, speed.y) > LEAST_THROW) this.zoom.glide(speed);
+  }
+
+  /** @param {WheelEvent} event */
+  #wheel(event) {
+    const unit = event.deltaMode === 1 ? 20 : 1;
+    if (event.ctrlKey) {
+      event.preventDefault();
+      const way = Math.min(50, Math.max(-50, event.deltaY * unit));
+      this.zoom.scaleAt({ x: event.clientX, y: event.clientY }, Math.exp(-way / 100));
+    } else if (this.zoom.active) {
+      event.preventDefault();
+      this.zoom.panBy(-event.deltaX * unit, -event.deltaY * unit);
+    }
+  }
+
+  /** @param {KeyboardEvent} event */
+  #key(event) {
+    const { zoom } = this;
+    if (event.defaultPrevented || event.ctrlKey || event.altKey || event.metaKey) return;
+    if (event.target instanceof HTMLInputElement) return;
+    /** @type {Record<string, () => void>} */
+    const actions = { '+': () => zoom.in(), '=': () => zoom.in(), '-': () => zoom.out(), '0': () => zoom.reset() };
+    if (zoom.active) {
+      actions.Escape = () => zoom.reset();
+      actions.ArrowUp = () => zoom.panBy(0, KEY_PAN);
+      actions.ArrowDown = () => zoom.panBy(0, -KEY_PAN);
+    }
+    const action = actions[event.key];
+    if (!action) return;
+    event.preventDefault();
+    action();
+  }
+}

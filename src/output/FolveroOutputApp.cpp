@@ -1,0 +1,118 @@
+#include "output/FolveroOutputApp.h"
+
+#include "output/StagingFolder.h"
+#include "platform/Bundle.h"
+#include "platform/Files.h"
+#include "platform/Log.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QScopeGuard>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <unistd.h>
+
+namespace {
+
+const QString resourcesInBundle = QStringLiteral("Contents/Resources/");
+
+QString bundleName(const QString& name) {
+    const QString extension = Files::pathExtension(name);
+    const QString base = extension.isEmpty() ? name : name.chopped(extension.size() + 1);
+    return base + QStringLiteral(".app");
+}
+
+QString lastErrorText() {
+    return QString::fromLocal8Bit(std::strerror(errno));
+}
+
+// The shell's files keep their permissions: one of them has to be executable.
+void copyShell(const QString& contents) {
+    const QString shell =
+        Files::join(Bundle::resourcePath(), QStringLiteral("AppFiles/TmplData/mac.app/Contents/"));
+    std::error_code error;
+    std::filesystem::copy(QFile::encodeName(shell).toStdString(),
+                          QFile::encodeName(contents).toStdString(),
+                          std::filesystem::copy_options::recursive, error);
+    if (error) {
+        Log("FolveroOutputApp")
+            .error(QStringLiteral("ouput the book,copy failed:%1")
+                       .arg(QString::fromStdString(error.message())));
+    }
+}
+
+// At no moment is there neither the old bundle nor the new one, where the file system can exchange
+// two names. The old one ends up under the working path.
+bool exchange(const QString& working, const QString& final) {
+    const QByteArray from = QFile::encodeName(working);
+    const QByteArray to = QFile::encodeName(final);
+    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_EXCHANGE) == 0)
+        return true;
+    const QByteArray old = from + ".old";
+    const bool hadOld = std::rename(to.constData(), old.constData()) == 0;
+    if (std::rename(from.constData(), to.constData()) == 0)
+        return true;
+    const int cause = errno;
+    if (hadOld)
+        std::rename(old.constData(), to.constData());
+    errno = cause;
+    return false;
+}
+
+} // namespace
+
+FolveroOutputApp::FolveroOutputApp(std::shared_ptr<FlashPageSource> pageSource,
+                                   std::shared_ptr<FlashTemplate> flashTemplate,
+                                   const QString& saveToFolder, const QString& toName)
+    : FolveroOutput(std::move(pageSource), std::move(flashTemplate),
+                    Files::join(Files::join(saveToFolder, bundleName(toName)), resourcesInBundle),
+                    bundleName(toName)) {}
+
+QString FolveroOutputApp::outputHTMLFileName() const {
+    return Files::join(iSaveToFolder, QStringLiteral("index.html"));
+}
+
+QString FolveroOutputApp::outputFileName() const {
+    return QFileInfo(QFileInfo(QDir::cleanPath(iSaveToFolder)).path()).path();
+}
+
+void FolveroOutputApp::ouputTheBook() {
+    forgetLastRun();
+    const QString bundle = outputFileName();
+    const QString folder = QFileInfo(bundle).path();
+    if (!QDir().mkpath(folder)) {
+        reportFailure(QStringLiteral("%1: %2").arg(folder, lastErrorText()));
+        return;
+    }
+    StagingFolder::removeStale(folder);
+    const QString staging = StagingFolder::make(folder);
+    if (staging.isNull()) {
+        reportFailure(QStringLiteral("%1: %2").arg(folder, lastErrorText()));
+        return;
+    }
+    const auto end = qScopeGuard([&] { QDir(staging).removeRecursively(); });
+    const QString working = Files::join(staging, QFileInfo(bundle).fileName());
+    publishInto(working);
+    renameInErrors(working, bundle);
+    if (!publishErrors().isEmpty() || wasCancelled())
+        return;
+    if (!exchange(working, bundle))
+        reportFailure(QStringLiteral("%1: %2").arg(bundle, lastErrorText()));
+}
+
+void FolveroOutputApp::publishInto(const QString& bundle) {
+    const QString contents = Files::join(bundle, QStringLiteral("Contents"));
+    QDir().mkpath(bundle);
+    copyShell(contents);
+    const QString final = iSaveToFolder;
+    const auto end = qScopeGuard([&] { iSaveToFolder = final; });
+    iSaveToFolder = Files::join(bundle, resourcesInBundle);
+    if (!QDir().mkpath(iSaveToFolder)) {
+        reportFailure(QStringLiteral("%1: %2").arg(iSaveToFolder, lastErrorText()));
+        return;
+    }
+    FolveroOutput::ouputTheBook();
+}

@@ -1,0 +1,48 @@
+#include "ui/FlashTmplColorCell.h"
+
+#include "util/ColorCategory.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr qreal titleLeft = 24;
+constexpr qreal titleKept = 41;
+constexpr qreal tallest = 17;
+
+} // namespace
+
+FlashTmplColorCell::FlashTmplColorCell(const QString& text)
+    : TextFieldCell(text), iColor(Qt::red) {}
+
+void FlashTmplColorCell::setColor2(const QColor& color) {
+    iColor = color;
+    setTitle(MyColorOper::colorToHexRGB(color));
+}
+
+QRectF FlashTmplColorCell::imageRectForBounds(const QRectF& bounds) const {
+    return {bounds.x() + 5, bounds.y() + 1, 15, 15};
+}
+
+QRectF FlashTmplColorCell::titleRectForBounds(const QRectF& bounds) const {
+    return titleRect(bounds, titleLeft, 1, titleKept);
+}
+
+QRectF FlashTmplColorCell::infoButtonRectForBounds(const QRectF& bounds) const {
+    return imageRectForBounds(bounds);
+}
+
+QSizeF FlashTmplColorCell::cellSizeForBounds(const QRectF& bounds) const {
+    return cellSize(bounds, titleLeft, tallest);
+}
+
+void FlashTmplColorCell::drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const {
+    const QRectF swatch = imageRectForBounds(frame);
+    painter.setPen(QPen(Qt::gray, 1));
+    painter.setBrush(Qt::NoBrush);
+    // A line of one pixel lies inside the rectangle that it frames.
+    painter.drawRect(swatch.adjusted(0.5, 0.5, -0.5, -0.5));
+    if (iColor.isValid())
+        painter.fillRect(swatch.adjusted(1, 1, -1, -1), iColor);
+    drawTitle(painter, frame);
+}

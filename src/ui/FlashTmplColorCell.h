@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ui/TextFieldCell.h"
+
+#include <QColor>
+
+// A colour as a swatch and as text; the swatch is the button.
+class FlashTmplColorCell : public TextFieldCell {
+public:
+    FlashTmplColorCell() = default;
+    // Starts with red.
+    explicit FlashTmplColorCell(const QString& text);
+
+    QColor color() const { return iColor; }
+    void setColor(const QColor& color) { iColor = color; }
+    // Takes a colour that was picked: the text follows.
+    void setColor2(const QColor& color);
+
+    QRectF imageRectForBounds(const QRectF& bounds) const;
+    QRectF titleRectForBounds(const QRectF& bounds) const override;
+    QRectF infoButtonRectForBounds(const QRectF& bounds) const override;
+    QSizeF cellSizeForBounds(const QRectF& bounds) const override;
+    void drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const override;
+
+private:
+    QColor iColor;
+};

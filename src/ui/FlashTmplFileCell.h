@@ -1,0 +1,18 @@
+#pragma once
+
+#include "ui/FlashTmplCell.h"
+
+// A file's path with a button that chooses another file.
+class FlashTmplFileCell : public FlashTmplCell {
+public:
+    using FlashTmplCell::FlashTmplCell;
+
+    // Takes a file that was chosen: the text is its path.
+    void setFileName2(const QString& path) { setTitle(path); }
+
+    QRectF titleRectForBounds(const QRectF& bounds) const override;
+    QRectF infoButtonRectForBounds(const QRectF& bounds) const override;
+    QRectF rectForInfoButtonBasedOnTitleRect(const QRectF& titleRect, const QRectF& inBounds) const;
+    QSizeF cellSizeForBounds(const QRectF& bounds) const override;
+    void drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const override;
+};

@@ -1,0 +1,57 @@
+#include "util/ColorCategory.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace {
+
+// The largest float below 256: all of [0, 1] falls into 256 equal steps.
+constexpr float steps = 255.99998474121094F;
+
+int hexDigit(QChar letter) {
+    const char16_t c = letter.unicode();
+    if (c >= u'0' && c <= u'9')
+        return c - u'0';
+    if (c >= u'a' && c <= u'f')
+        return c - u'a' + 10;
+    if (c >= u'A' && c <= u'F')
+        return c - u'A' + 10;
+    return -1;
+}
+
+// Numbers that do not fit are taken for the largest one.
+std::uint32_t scanHexInt(QStringView text) {
+    text = text.trimmed();
+    if (text.startsWith(u"0x", Qt::CaseInsensitive))
+        text = text.mid(2);
+    std::uint64_t value = 0;
+    for (const QChar letter : text) {
+        const int digit = hexDigit(letter);
+        if (digit < 0)
+            break;
+        value = std::min<std::uint64_t>(value * 16 + std::uint64_t(digit), UINT32_MAX);
+    }
+    return std::uint32_t(value);
+}
+
+QString componentText(quint16 stored) {
+    // A colour keeps its components in 65535 steps, rounded. The lower end of a step is taken, so
+    // that a half, which lies on the border of two bytes, still ends up in the lower one.
+    const float value = std::max(0.0F, (float(stored) - 0.5F) / 65535.0F);
+    return QStringLiteral("%1").arg(int(value * steps), 2, 16, QLatin1Char('0'));
+}
+
+} // namespace
+
+QColor MyColorOper::colorFromHexRGB(const QString& text) {
+    const std::uint32_t value = scanHexInt(text);
+    return {int(value >> 16U & 255U), int(value >> 8U & 255U), int(value & 255U)};
+}
+
+QString MyColorOper::colorToHexRGB(const QColor& color) {
+    if (!color.isValid())
+        return {};
+    const QRgba64 rgb = color.toRgb().rgba64();
+    return QStringLiteral("0x") + componentText(rgb.red()) + componentText(rgb.green()) +
+           componentText(rgb.blue());
+}

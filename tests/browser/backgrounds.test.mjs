@@ -1,0 +1,143 @@
+import assert from 'node:assert/strict';
+import { after, afterEach, before, test } from 'node:test';
+import { plainPages } from './support/book.mjs';
+import { png } from './support/png.mjs';
+import { Reader } from './support/reader.mjs';
+import { silence } from './support/wav.mjs';
+
+let reader;
+before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
+after(() => reader.stop());
+
+async function open(values, extras) {
+  return reader.openFromDisk(await reader.book({ pages: plainPages(4), values, extras }));
+}
+
+const directions = [['0', 5, 400, 1275, 400], ['90', 640, 5, 640, 795], ['180', 1275, 400, 5, 400], ['-90', 640, 795, 640, 5]];
+for (const which of ['Outer', 'Inner']) {
+  test(`the ${which.toLowerCase()} gradient runs from colour A to B in the direction of its angle`, async () => {
+    for (const [angle, ax, ay, bx, by] of directions) {
+      const book = await open({ Top: '0', Left: '0', Right: '0', Bottom: '0', [`${which}GradiantColorA`]: '0x200000',
+        [`${which}GradiantColorB`]: '0xf0ffff', [`${which}GradiantAngle`]: angle });
+      const rest = which === 'Outer' ? '.inner' : '.outer, .inner::after';
+      await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage { display: none !important }` });
+      const [from, to] = [await book.colourAt(ax, ay), await book.colourAt(bx, by)];
+      assert.ok(from[1] < 12 && to[1] > 240, `${angle}: ${from} to ${to}`);
+      await reader.closeBooks();
+    }
+  });
+}
+
+/** A picture with a red field at its upper left, half as wide and a third as high; the rest is green. */
+const picture = png(60, 60, (x, y) => (x < 30 && y < 18 ? [250, 10, 10] : [10, 250, 10]));
+const RED = [250, 10, 10];
+const GREEN = [10, 250, 10];
+const NONE = [0, 0, 255];
+const points = [[3, 3], [1276, 3], [3, 796], [1276, 796], [3, 200], [300, 5], [620, 375]];
+const seen = {
+  'Scale to fit': [RED, GREEN, GREEN, GREEN, RED, RED, GREEN], Fill: [RED, GREEN, GREEN, GREEN, GREEN, RED, GREEN],
+  Fit: [NONE, NONE, NONE, NONE, NONE, RED, GREEN], Tile: [RED, RED, RED, RED, GREEN, RED, RED],
+  Center: [NONE, NONE, NONE, NONE, NONE, NONE, RED], 'Top left': [RED, NONE, NONE, NONE, NONE, NONE, NONE],
+  'Top right': [NONE, GREEN, NONE, NONE, NONE, NONE, NONE], 'Bottom left': [NONE, NONE, GREEN, NONE, NONE, NONE, NONE],
+  'Bottom right': [NONE, NONE, NONE, GREEN, NONE, NONE, NONE],
+  'something else': [RED, GREEN, GREEN, GREEN, RED, RED, GREEN],
+};
+for (const [which, key] of [['Outer', 'mainbgImgUrl'], ['Inner', 'innerMainbgImgUrl']]) {
+  test(`the ${which.toLowerCase()} picture lies as its position says`, async () => {
+    for (const [position, colours] of Object.entries(seen)) {
+      const file = `extfiles/${key}.png`;
+      const book = await open({ Top: '0', Left: '0', Right: '0', Bottom: '0', [`${which}BackgroundFile`]: file,
+        [`${which}BackgroundPosition`]: position, [`${which}GradiantColorA`]: '0x0000ff', [`${which}GradiantColorB`]: '0x0000ff' },
+      { [file]: picture });
+      const rest = which === 'Outer' ? '.inner' : '.outer, .inner::after';
+      await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage, .leaf { display: none !important }
+        .outer, .inner { border-radius: 0 !important; image-rendering: pixelated }` });
+      await loaded(book, which === 'Outer' ? '.outer' : '.inner');
+      for (const [index, [x, y]] of points.entries()) {
+        assert.deepEqual(await book.colourAt(x, y), colours[index], `${position} at ${x},${y}`);
+      }
+      await reader.closeBooks();
+    }
+  });
+}
+
+/** Waits until the picture of a ground is decoded. */
+function loaded(book, ground) {
+  return book.page.evaluate(async (selector) => {
+    const image = new Image();
+    image.src = /url\("([^"]+)"\)/.exec(getComputedStyle(document.querySelector(selector)).backgroundImage)[1];
+    await image.decode();
+    await new Promise((resolve) => { requestAnimationFrame(() => requestAnimationFrame(resolve)); });
+  }, ground);
+}
+
+const sizes = [['0', '0', 60, 60], ['30', '40', 30, 40], ['30', '0', 60, 60]];
+for (const which of ['Outer', 'Inner']) {
+  test(`${which}ImgWidth and ${which}ImgHeight are the size in which the picture is shown`, async () => {
+    for (const [width, height, wide, high] of sizes) {
+      const book = await open({ Top: '0', Left: '0', Right: '0', Bottom: '0', [`${which}BackgroundFile`]: 'extfiles/a.png',
+        [`${which}BackgroundPosition`]: 'Top left', [`${which}ImgWidth`]: width, [`${which}ImgHeight`]: height,
+        [`${which}GradiantColorA`]: '0x0000ff', [`${which}GradiantColorB`]: '0x0000ff' }, { 'extfiles/a.png': picture });
+      const rest = which === 'Outer' ? '.inner' : '.outer, .inner::after';
+      await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage { display: none !important }
+        .outer, .inner { border-radius: 0 !important }` });
+      await loaded(book, which === 'Outer' ? '.outer' : '.inner');
+      assert.deepEqual(await book.colourAt(wide - 2, high - 2), GREEN, `${width} by ${height}: within`);
+      assert.deepEqual(await book.colourAt(wide + 2, 2), NONE, `${width} by ${height}: beside`);
+      assert.deepEqual(await book.colourAt(2, high + 2), NONE, `${width} by ${height}: below`);
+      await reader.closeBooks();
+    }
+  });
+}
+
+/** Notes each beginning and end of a sound file. */
+const noteSounds = (page) => page.addInitScript(() => {
+  window.sounds = [];
+  const { play } = HTMLMediaElement.prototype;
+  HTMLMediaElement.prototype.play = function noted() {
+    window.sounds.push(this.src.split('/').at(-1));
+    return play.call(this);
+  };
+});
+const music = 'backgroundSoundURL.mp3';
+const sound = { SoundFile: `extfiles/${music}` };
+const soundFiles = { [`extfiles/${music}`]: silence(0.05), 'extfiles/moveSound.mp3': silence(0.05) };
+const plays = (book, file) => book.page.evaluate((name) => window.sounds.filter((one) => one === name).length, file);
+
+async function openWithSound(loops, options = {}) {
+  const folder = await reader.book({ pages: plainPages(6), values: { ...sound, SoundLoops: loops }, extras: soundFiles });
+  return reader.openOverHttp(folder, { ...options, before: noteSounds });
+}
+
+test('sounds begin with the first gesture and not before', async () => {
+  const book = await openWithSound('-1');
+  assert.deepEqual(await book.page.evaluate(() => window.sounds), []);
+  assert.ok(!book.server.requests.some((request) => request.path.endsWith('.mp3')));
+  await book.page.keyboard.press('ArrowRight');
+  await book.waitForPages(2, 3);
+  assert.ok(await plays(book, music) > 0 && await plays(book, 'moveSound.mp3') > 0);
+});
+
+for (const [loops, times] of [['0', 0], ['1', 1], ['3', 3]]) {
+  test(`SoundLoops ${loops} plays the sound so many times`, async () => {
+    const book = await openWithSound(loops);
+    await book.page.keyboard.press('Shift');
+    await book.page.waitForFunction(([name, wanted]) => window.sounds.filter((one) => one === name).length >= wanted, [music, times]);
+    await book.page.waitForTimeout(400);
+    assert.equal(await plays(book, music), times);
+  });
+}
+
+test('SoundLoops below 0 plays the sound on and on, until the reader switches it off', async () => {
+  const book = await openWithSound('-1');
+  await book.page.keyboard.press('Shift');
+  await book.page.waitForFunction((name) => window.sounds.filter((one) => one === name).length >= 4, music);
+  await book.page.keyboard.press('s');
+  const before = await book.page.evaluate(() => window.sounds.length);
+  await book.page.keyboard.press('ArrowRight');
+  await book.waitForPages(2, 3);
+  assert.equal(await book.page.evaluate(() => window.sounds.length), before, 'nor does the turning page sound');
+  await book.page.keyboard.press('s');
+  assert.ok(await plays(book, music) > before - 1);
+});

@@ -1,0 +1,145 @@
+import assert from 'node:assert/strict';
+import { after, afterEach, before, test } from 'node:test';
+import { colourOf, plainPages } from './support/book.mjs';
+import { png } from './support/png.mjs';
+import { PHONE, Reader } from './support/reader.mjs';
+
+let reader;
+before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
+after(() => reader.stop());
+
+async function open(count, { values, thumb, extras, ...options } = {}) {
+  return reader.openFromDisk(await reader.book({ pages: plainPages(count), values, thumb, extras }), options);
+}
+
+async function openDrawer(book) {
+  await book.page.locator('.bar [data-does="thumbs"]').click();
+  await drawn(book);
+}
+
+/** Waits until all thumbnails in the document are drawn. */
+function drawn(book) {
+  return book.page.waitForFunction(() => window.folvero.drawerImages === 0
+    && [...document.querySelectorAll('.thumb-picture')].every((one) => one.matches('.drawn, .missing')));
+}
+
+const marked = (book) => book.page.locator('.thumb[aria-current]').evaluateAll((all) => all
+  .map((one) => Number(one.dataset.page)).sort((a, b) => a - b));
+const active = (book) => book.page.locator('.strip').evaluate((strip) => Number(document.getElementById(
+  strip.getAttribute('aria-activedescendant')).dataset.page));
+
+/** Colour in the middle of the thumbnail of a page. */
+async function thumbColour(book, page) {
+  const { x, y, width, height } = await book.page.locator(`#thumb-${page} .thumb-picture`).boundingBox();
+  await book.page.evaluate(() => Promise.all(document.getAnimations()
+    .filter(({ effect }) => Number.isFinite(effect.getComputedTiming().endTime)).map(({ finished }) => finished)));
+  return book.colourAt(x + width / 2, y + height / 2);
+}
+
+test('thumbnails show the pages and lead to them', async () => {
+  const book = await open(9);
+  await openDrawer(book);
+  for (const page of [1, 2, 7]) assert.deepEqual(await thumbColour(book, page), colourOf(page), `page ${page}`);
+  assert.deepEqual(await marked(book), [1]);
+  await book.page.locator('#thumb-6').click();
+  await book.waitForPages(6, 7);
+  assert.deepEqual(await marked(book), [6, 7]);
+});
+
+test('on a phone the thumbnails make room for the page that was chosen', async () => {
+  const book = await open(9, { view: PHONE });
+  await openDrawer(book);
+  await book.page.locator('#thumb-3').tap();
+  await book.waitForPages(3);
+  assert.equal(await book.page.locator('.drawer').isVisible(), false);
+});
+
+const keys = [['ArrowRight', 2], ['ArrowRight', 3], ['ArrowLeft', 2], ['End', 40], ['ArrowRight', 40], ['Home', 1],
+  ['ArrowLeft', 1]];
+test('keys walk along the thumbnails, choose one and close them', async () => {
+  const book = await open(40);
+  await book.page.keyboard.press('t');
+  for (const [key, page] of keys) {
+    await book.page.keyboard.press(key);
+    assert.equal(await active(book), page, key);
+  }
+  assert.deepEqual(await book.pages(), [1], 'the book stays where it is');
+  await book.page.keyboard.press('PageDown');
+  const further = await active(book);
+  assert.ok(further > 4, `a screenful: ${further}`);
+  const { x, width } = await book.page.locator(`#thumb-${further}`).boundingBox();
+  assert.ok(x >= 0 && x + width <= 1280, 'is scrolled into sight');
+  await book.page.keyboard.press('Enter');
+  await book.page.waitForFunction((page) => window.folvero.pages.includes(page), further);
+  await book.page.keyboard.press('Escape');
+  assert.equal(await book.page.locator('.drawer').isVisible(), false);
+  assert.equal(await book.page.evaluate(() => document.activeElement.dataset.does), 'thumbs');
+});
+
+test('the thumbnails of a book that is read from the right lie from right to left', async () => {
+  const book = await open(40, { values: { RightToLeft: 'Yes' } });
+  await openDrawer(book);
+  const left = async (page) => (await book.page.locator(`#thumb-${page}`).boundingBox()).x;
+  assert.ok(await left(1) > await left(2) && await left(2) > await left(3));
+  await book.page.keyboard.press('ArrowLeft');
+  assert.equal(await active(book), 2);
+  await book.page.keyboard.press('End');
+  assert.ok(await left(40) >= 0 && await left(40) < await left(39));
+});
+
+test('the thumbnails of a very long book open at once and never hold many pages', async () => {
+  const book = await open(2000, { hash: '#page=1500' });
+  await book.page.evaluate(() => {
+    window.most = 0;
+    const NativeImage = window.Image;
+    window.Image = function CountedImage() {
+      const { imagesKept, drawerImages } = window.folvero;
+      window.most = Math.max(window.most, imagesKept + drawerImages);
+      return new NativeImage();
+    };
+  });
+  await openDrawer(book);
+  assert.deepEqual(await marked(book), [1500, 1501]);
+  assert.deepEqual(await thumbColour(book, 1500), colourOf(1500));
+  for (const key of ['Home', 'End', 'PageUp', 'PageUp']) {
+    await book.page.keyboard.press(key);
+    const shown = await book.page.locator('.thumb').count();
+    assert.ok(shown > 4 && shown < 60, `${shown} thumbnails in the document`);
+  }
+  await drawn(book);
+  const page = await active(book);
+  assert.deepEqual(await thumbColour(book, page), colourOf(page));
+  await book.page.keyboard.press('Enter');
+  await book.page.waitForFunction((wanted) => !window.folvero.turning && window.folvero.pages.includes(wanted), page);
+  const most = await book.page.evaluate(() => window.most);
+  assert.ok(most > 1 && most <= 12, `${most} page images at a time`);
+});
+
+const small = png(30, 20, () => [1, 200, 99]);
+test('Thumb names the picture of a thumbnail and its size', async () => {
+  const book = await open(3, { thumb: { path: 'extfiles/small.png', width: 90, height: 60 },
+    extras: { 'extfiles/small.png': small } });
+  await openDrawer(book);
+  assert.deepEqual(await thumbColour(book, 2), [1, 200, 99]);
+  const { width, height } = await book.page.locator('#thumb-2 .thumb-picture').boundingBox();
+  assert.deepEqual([width, height], [90, 60]);
+});
+
+const unfit = ['extfiles/missing.png', '', '../secret.png', 'https://example.org/a.png'];
+test('a thumbnail that cannot be had is made from the page', async () => {
+  for (const path of unfit) {
+    const book = await open(3, { thumb: { path, width: 85, height: 113 } });
+    await openDrawer(book);
+    assert.deepEqual(await thumbColour(book, 3), colourOf(3), path);
+    await reader.closeBooks();
+  }
+});
+
+test('ThumbnailsBgColor is the ground of the thumbnails', async () => {
+  const book = await open(3, { values: { ThumbnailsBgColor: '0x4a1530' } });
+  await book.page.addStyleTag({ content: '.drawer::before { opacity: 1 !important; }' });
+  await openDrawer(book);
+  const { x, y } = await book.page.locator('.drawer').boundingBox();
+  assert.deepEqual(await book.colourAt(x + 8, y + 60), [0x4a, 0x15, 0x30]);
+});

@@ -1,0 +1,157 @@
+#include "util/NSData+CocoaDevUsersAdditions.h"
+
+#include "support/Program.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+using namespace NSDataExtension;
+
+namespace {
+
+QByteArray hex(const char* text) {
+    return QByteArray::fromHex(text);
+}
+
+QByteArray noise(qsizetype size) {
+    std::mt19937 random(unsigned(size) + 1);
+    QByteArray bytes(size, '\0');
+    for (char& byte : bytes)
+        byte = char(random() % 7 == 0 ? 0 : random());
+    return bytes;
+}
+
+QByteArray runOn(const QString& program, const QStringList& arguments, const QByteArray& input) {
+    const auto result =
+        Program::runOther(program, arguments, QProcessEnvironment::systemEnvironment(), input);
+    EXPECT_EQ(result.exitCode, 0) << result.errors.constData();
+    return result.output;
+}
+
+} // namespace
+
+TEST(NullTerminatedBytes, ReachFromTheStartToTheNextZero) {
+    struct Case {
+        const char* bytes;
+        qsizetype start, location, length;
+    };
+    constexpr qsizetype none = 2147483647;
+    for (const auto& [bytes, start, location, length] :
+         {Case{"41424300", 2, 2, 1}, Case{"41424300", 3, 3, 0}, Case{"00410042", 1, 1, 1},
+          Case{"41424300", 4, none, 0}, Case{"414243", 0, none, 0}, Case{"", 0, none, 0},
+          Case{"00", -1, none, 0}}) {
+        const Range range = rangeOfNullTerminatedBytesFrom(hex(bytes), start);
+        EXPECT_EQ(range.location, location) << bytes << ' ' << start;
+        EXPECT_EQ(range.length, length) << bytes << ' ' << start;
+    }
+}
+
+TEST(Base32, AgreesWithTheStandardsExamplesWithoutTheirPadding) {
+    const std::pair<const char*, const char*> examples[] = {{"", ""},
+                                                            {"f", "MY"},
+                                                            {"fo", "MZXQ"},
+                                                            {"foo", "MZXW6"},
+                                                            {"foob", "MZXW6YQ"},
+                                                            {"fooba", "MZXW6YTB"},
+                                                            {"foobar", "MZXW6YTBOI"}};
+    for (const auto& [plain, encoded] : examples) {
+        EXPECT_EQ(base32String(plain), QString::fromLatin1(encoded));
+        EXPECT_EQ(dataWithBase32String(QString::fromLatin1(encoded)), QByteArray(plain));
+    }
+    EXPECT_FALSE(base32String(QByteArray("")).isNull());
+}
+
+TEST(Base32, ReadsSmallLettersAndSkipsWhatIsNotInTheAlphabet) {
+    for (const char* text :
+         {"mzxw6ytboi", "MZXW6YTBOI======", "MZ XW\n6Y=TB-1089OI", "=MZXW6YTBOI~"})
+        EXPECT_EQ(dataWithBase32String(QString::fromLatin1(text)), "foobar") << text;
+    EXPECT_EQ(dataWithBase32String(QStringLiteral("MZXWé6YTBOI")), "foobar");
+    const QByteArray bytes = noise(1000);
+    EXPECT_EQ(dataWithBase32String(base32String(bytes)), bytes);
+    EXPECT_EQ(base32String(bytes).size(), (8 * 1000 + 4) / 5);
+}
+
+TEST(COBS, StuffsAsPublished) {
+    const std::pair<const char*, const char*> examples[] = {
+        {"11220033", "0311220233"}, {"00", "0101"},
+        {"0000", "010101"},         {"", "01"},
+        {"11000000", "0211010101"}, {"11223344", "0511223344"}};
+    for (const auto& [plain, encoded] : examples) {
+        EXPECT_EQ(encodeCOBS(hex(plain)).toHex(), QByteArray(encoded));
+        EXPECT_EQ(decodeCOBS(hex(encoded)).toHex(), QByteArray(plain) + "00");
+    }
+    EXPECT_EQ(encodeCOBS(QByteArray(254, 'a')), '\xff' + QByteArray(254, 'a') + '\1');
+    EXPECT_EQ(encodeCOBS(QByteArray(255, 'a')), '\xff' + QByteArray(254, 'a') + "\2a");
+}
+
+TEST(COBS, DecodingRestoresWhatWasEncodedAndOneZero) {
+    for (const qsizetype size : {1, 253, 254, 255, 508, 509, 100000}) {
+        for (const QByteArray& bytes : {noise(size), QByteArray(size, 'x')}) {
+            const QByteArray encoded = encodeCOBS(bytes);
+            EXPECT_FALSE(encoded.contains('\0'));
+            EXPECT_LE(encoded.size(), size + size / 254 + 1);
+            EXPECT_EQ(decodeCOBS(encoded), bytes + '\0');
+        }
+    }
+    EXPECT_EQ(decodeCOBS(hex("00")), hex("00"));
+    EXPECT_TRUE(decodeCOBS(hex("0511")).isNull());
+}
+
+TEST(Deflate, OthersReadWhatItWrites) {
+    const QByteArray bytes = noise(300000) + QByteArray(300000, 'z');
+    EXPECT_EQ(runOn(QStringLiteral("gzip"), {QStringLiteral("-dc")}, gzipDeflate(bytes)), bytes);
+    const QString script = QStringLiteral("import sys, zlib; b = sys.stdin.buffer.read(); "
+                                          "sys.stdout.buffer.write(zlib.decompress(b))");
+    EXPECT_EQ(runOn(QStringLiteral("python3"), {QStringLiteral("-c"), script}, zlibDeflate(bytes)),
+              bytes);
+    EXPECT_TRUE(zlibDeflate(QByteArray()).isNull());
+    EXPECT_TRUE(gzipDeflate("").isEmpty() && !gzipDeflate("").isNull());
+}
+
+TEST(Inflate, RestoresStreamsOfAnySize) {
+    for (const qsizetype size : {1, 2, 1000, 16384, 1000000}) {
+        for (const QByteArray& bytes : {noise(size), QByteArray(size, 'z')}) {
+            EXPECT_EQ(zlibInflate(zlibDeflate(bytes)), bytes);
+            EXPECT_EQ(gzipInflate(gzipDeflate(bytes)), bytes);
+            EXPECT_EQ(gzipInflate(zlibDeflate(bytes)), bytes);
+        }
+    }
+    const QByteArray outside = runOn(QStringLiteral("gzip"), {QStringLiteral("-c9")}, "hello");
+    EXPECT_EQ(gzipInflate(outside), "hello");
+    const QByteArray nothing = zlibInflate(hex("789c030000000001"));
+    EXPECT_TRUE(nothing.isEmpty() && !nothing.isNull());
+}
+
+TEST(Inflate, HasNoResultForDamagedStreams) {
+    const QByteArray stream = zlibDeflate(noise(5000));
+    QByteArray flipped = stream;
+    flipped[2500] = char(flipped[2500] ^ 0x55);
+    for (const QByteArray& bad :
+         {stream.chopped(1), stream.left(1), flipped, QByteArray("no stream")}) {
+        EXPECT_TRUE(zlibInflate(bad).isNull());
+        EXPECT_TRUE(gzipInflate(bad).isNull());
+    }
+    EXPECT_TRUE(zlibInflate(gzipDeflate("gzip has another header")).isNull());
+    EXPECT_TRUE(zlibInflate("").isEmpty());
+}
+
+TEST(Inflate, StopsAtItsLimit) {
+    const QByteArray bomb = zlibDeflate(QByteArray(300 * 1024 * 1024, '\0'));
+    EXPECT_LT(bomb.size(), 400 * 1024);
+    EXPECT_TRUE(zlibInflate(bomb).isNull());
+    const QByteArray stream = gzipDeflate(QByteArray(1000, 'z'));
+    EXPECT_TRUE(gzipInflate(stream, 999).isNull());
+    EXPECT_EQ(gzipInflate(stream, 1000).size(), 1000);
+}
+
+TEST(Checksums, AgreeWithPublishedValues) {
+    EXPECT_EQ(crc32("123456789"), 0xCBF43926U);
+    EXPECT_EQ(crc32(""), 0U);
+    EXPECT_EQ(md5DigestString("abc"), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
+    EXPECT_EQ(sha1DigestString("abc"), QStringLiteral("a9993e364706816aba3e25717850c26c9cd0d89d"));
+    EXPECT_EQ(ripemd160DigestString("abc"),
+              QStringLiteral("8eb208f7e05d987a9b044a8e98c6b087f15a0bfc"));
+    EXPECT_EQ(md5DigestString(""), QStringLiteral("d41d8cd98f00b204e9800998ecf8427e"));
+    EXPECT_EQ(md5Digest("abc").size() + sha1Digest("abc").size() + ripemd160Digest("abc").size(),
+              16 + 20 + 20);
+}

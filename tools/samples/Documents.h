@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QByteArray>
+
+// Documents of the kinds that people have; each function makes one.
+QByteArray makeNovel();       // 300 pages of text
+QByteArray makePictureBook(); // 24 square pages, pictures to the edge
+QByteArray makeSlides();      // 14 wide pages
