@@ -56,6 +56,7 @@ function announcement(pages, pageCount) {
  */
 function followWindow(root, book, turner, page) {
   const fit = () => {
+    turner.settle();
     book.resize();
     turner.resized();
     turner.stand(book.views.viewOf(page()));
