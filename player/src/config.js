@@ -67,13 +67,21 @@ function loadScriptCopy() {
       const text = /** @type {any} */ (window).FolveroUserConfig;
       try {
         if (typeof text !== 'string') throw new Error('no text');
-        resolve(Uint8Array.from(atob(text), (letter) => letter.charCodeAt(0)));
+        resolve(bytesOf(atob(text)));
       } catch {
         reject(new BookError('damaged'));
       }
     };
     document.head.append(script);
   });
+}
+
+/** @param {string} letters one for each byte */
+function bytesOf(letters) {
+  // A book of thousands of pages has a million of them, so no function is called for each.
+  const bytes = new Uint8Array(letters.length);
+  for (let at = 0; at < letters.length; at++) bytes[at] = letters.charCodeAt(at);
+  return bytes;
 }
 
 /** @returns {Promise<BookConfig>} */

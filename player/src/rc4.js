@@ -13,9 +13,12 @@ export function rc4(bytes, key) {
   const result = new Uint8Array(bytes.length);
   for (let n = 0, i = 0, j = 0; n < bytes.length; n++) {
     i = (i + 1) & 255;
-    j = (j + state[i]) & 255;
-    [state[i], state[j]] = [state[j], state[i]];
-    result[n] = bytes[n] ^ state[(state[i] + state[j]) & 255];
+    const here = state[i];
+    j = (j + here) & 255;
+    const there = state[j];
+    state[i] = there;
+    state[j] = here;
+    result[n] = bytes[n] ^ state[(here + there) & 255];
   }
   return result;
 }
