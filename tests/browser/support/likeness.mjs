@@ -26,13 +26,17 @@ export class Likeness {
   }
 
   /**
-   * Mean difference of a page on the screen from a JPEG file, 0 to 255. Only the upper two thirds
+   * Mean differences of a page on the screen from JPEG files, 0 to 255. Only the upper two thirds
    * count, because controls may lie over the foot of a page.
    */
-  async differenceOf(book, side, file) {
+  async differencesOf(book, side, files) {
     const clip = await book.box(side);
     const shot = await book.page.screenshot({ clip, type: 'jpeg', quality: 90 });
     const data = (bytes) => `data:image/jpeg;base64,${bytes.toString('base64')}`;
-    return this.page.evaluate(compare, [data(shot), data(await readFile(file)), 2 / 3]);
+    const differences = [];
+    for (const file of files) {
+      differences.push(await this.page.evaluate(compare, [data(shot), data(await readFile(file)), 2 / 3]));
+    }
+    return differences;
   }
 }
