@@ -17,7 +17,7 @@ import re
 import sys
 
 PLACEHOLDERS = ["index.title", "meta.keywords", "meta.description"]
-STYLES = ["book.css", "controls.css"]
+STYLES = ["book.css", "controls.css", "drawer.css", "panels.css", "print.css"]
 IMPORT = re.compile(r"^import \{[^}]*\} from '\./([a-z0-9]+)\.js';\n", re.MULTILINE)
 COMMENT = re.compile(r"^[ \t]*/\*\*(?:(?!\*/).)*\*/\n", re.MULTILINE | re.DOTALL)
 

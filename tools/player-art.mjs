@@ -1,67 +1,86 @@
 #!/usr/bin/env node
-// Draws the pictures of the template library that are kept in the repository: the template's icon
-// and the background pictures of its styles.
-// Usage: player-art.mjs RESOURCES_DIR
+// Draws the background pictures of the template library's styles, which are kept in the repository.
+// Usage: player-art.mjs RESOURCES_DIR [PART_OF_A_NAME] [--png FOLDER]
+//
+// With part of a name only the pictures whose path holds it are drawn. With --png they go to a
+// folder as PNG files instead, to look at.
 
+import { mkdir } from 'node:fs/promises';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
+import { baize, curtain, linen } from './player-art-cloth.mjs';
+import { chalkboard, sand, slate, watercolour, windowLight } from './player-art-ground.mjs';
+import { garden, nightSky, projectorBeam, rainyWindow } from './player-art-light.mjs';
+import { boards, panelledWall } from './player-art-wood.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
-const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
+const support = path.join(here, '../tests/browser/support');
+const { launchChromium } = await import(path.join(support, 'chromium.mjs'));
+const { png } = await import(path.join(support, 'png.mjs'));
 
-const ICON = `<svg width="64" height="64" viewBox="0 0 64 64">
-<defs><linearGradient id="g" x2="0" y2="1"><stop offset="0" stop-color="#e9eef4"/>
-<stop offset="1" stop-color="#a9b7c6"/></linearGradient>
-<linearGradient id="p" x2="1"><stop offset="0" stop-color="#fff"/><stop offset=".86" stop-color="#f4f4f2"/>
-<stop offset="1" stop-color="#c9ccd0"/></linearGradient>
-<linearGradient id="q" x1="1" x2="0"><stop offset="0" stop-color="#fff"/><stop offset=".86" stop-color="#f4f4f2"/>
-<stop offset="1" stop-color="#c9ccd0"/></linearGradient>
-<filter id="s" x="-30%" y="-30%" width="160%" height="180%"><feDropShadow dy="2.4" stdDeviation="2.4" flood-opacity=".4"/></filter>
-</defs><rect x="1" y="1" width="62" height="62" rx="13" fill="url(#g)"/>
-<g filter="url(#s)"><path d="M9 17h23v31H9z" fill="url(#p)"/><path d="M32 17h23v31H32z" fill="url(#q)"/></g>
-<path d="M13 22h15M13 26h15M13 30h11" stroke="#9aa7b5" stroke-width="1.6" stroke-linecap="round"/>
-<path d="M36 22h15v10H36z" fill="#4fa3b8"/><path d="M36 32c4-4 7-3 9-1s4 1 6-1v7H36z" fill="#1d6683"/>
-<path d="M55 34 41 48h14z" fill="#dfe5ec"/><path d="M55 34c-5 3-8 2-10 1 2 4 1 9-4 13z" fill="#fff" stroke="#c3ccd6" stroke-width=".6"/>
-</svg>`;
+const WIDE = [1920, 1200];
 
-/** Long, slightly wavy grain in three layers, boards with dark joints, and lamp light. */
-const DESK = `<svg width="1920" height="1200" viewBox="0 0 1920 1200">
-<defs>
-<filter id="grain" x="0" y="0" width="100%" height="100%" color-interpolation-filters="sRGB">
-  <feTurbulence type="fractalNoise" baseFrequency="0.0016 0.055" numOctaves="5" seed="11"/>
-  <feColorMatrix values="0 0 0 0 .16  0 0 0 0 .085  0 0 0 0 .04  1.35 0 0 0 -.5"/></filter>
-<filter id="fibre" x="0" y="0" width="100%" height="100%" color-interpolation-filters="sRGB">
-  <feTurbulence type="fractalNoise" baseFrequency="0.006 0.62" numOctaves="3" seed="4"/>
-  <feColorMatrix values="0 0 0 0 .1  0 0 0 0 .05  0 0 0 0 .02  0 1.1 0 0 -.5"/></filter>
-<filter id="sheen" x="0" y="0" width="100%" height="100%" color-interpolation-filters="sRGB">
-  <feTurbulence type="fractalNoise" baseFrequency="0.0011 0.016" numOctaves="3" seed="29"/>
-  <feColorMatrix values="0 0 0 0 .82  0 0 0 0 .56  0 0 0 0 .34  0 0 1.1 0 -.5"/></filter>
-<radialGradient id="lamp" cx=".5" cy=".36" r=".78"><stop offset="0" stop-color="#ffdca8" stop-opacity=".34"/>
-<stop offset=".45" stop-color="#ffce92" stop-opacity=".1"/><stop offset=".75" stop-color="#000" stop-opacity=".12"/>
-<stop offset="1" stop-color="#000" stop-opacity=".52"/></radialGradient>
-<linearGradient id="joint" x2="0" y2="1"><stop offset="0" stop-color="#000" stop-opacity="0"/>
-<stop offset=".55" stop-color="#0b0502" stop-opacity=".75"/><stop offset=".7" stop-color="#e2b285" stop-opacity=".25"/>
-<stop offset="1" stop-color="#e2b285" stop-opacity="0"/></linearGradient></defs>
-${[0, 1, 2, 3].map((board) => `<svg y="${board * 300}" width="1920" height="300" overflow="hidden">
-  <rect width="1920" height="300" fill="${['#71492f', '#7a5034', '#6b442b', '#754b30'][board]}"/>
-  <g transform="translate(${-board * 431} ${-board * 517})">
-  <rect width="3600" height="2400" filter="url(#sheen)"/><rect width="3600" height="2400" filter="url(#grain)"/>
-  <rect width="3600" height="2400" filter="url(#fibre)"/></g></svg>`).join('')}
-${[300, 600, 900].map((y) => `<rect y="${y - 5}" width="1920" height="9" fill="url(#joint)"/>`).join('')}
-<rect width="1920" height="1200" fill="url(#lamp)"/></svg>`;
+/** Blue paper with white lines every 24 pixels and bolder ones every 120. */
+function blueprint(x, y) {
+  const line = (every, strength) => (x % every === 0 || y % every === 0 ? strength : 0);
+  const white = Math.max(line(24, 0.1), line(120, 0.22));
+  return [31, 79, 137].map((part) => part + (255 - part) * white);
+}
 
+const BLOBS = [['#ff8a5c', 180, 120, 640], ['#f9c46b', 760, -80, 520], ['#ff5f8f', 1000, 520, 620],
+  ['#7b5cff', 1780, 200, 720], ['#3aa8ff', 1500, 1120, 700], ['#8be0c8', 420, 1180, 560]];
+
+/** Broad pools of colour that run into each other. */
+const BRIGHT = `<svg width="1920" height="1200"><filter id="b" x="-50%" y="-50%" width="200%" height="200%"
+  color-interpolation-filters="sRGB"><feGaussianBlur stdDeviation="150"/></filter>
+  <rect width="1920" height="1200" fill="#e9718f"/><g filter="url(#b)">${BLOBS.map(([fill, x, y, r]) =>
+    `<circle cx="${x}" cy="${y}" r="${r * 0.82}" fill="${fill}"/>`).join('')}</g></svg>`;
+
+const WALNUT = { early: '#7d5236', late: '#472a19' };
+
+/** Each picture: where it goes, its size, and either SVG or a colour for every pixel. */
 const PICTURES = [
-  { svg: ICON, width: 64, height: 64, file: 'AppFiles/Templates/float/icon.png' },
-  { svg: DESK, width: 1920, height: 1200, file: 'AppFiles/Styles/float/Writing desk/desk.jpg' },
+  ['float/Writing desk/desk.jpg', WIDE, () => boards({ ...WALNUT, height: 300, seed: 5 })],
+  ['float/Garden/garden.jpg', WIDE, garden],
+  ['float/Rainy window/window.jpg', WIDE, rainyWindow],
+  ['float/Watercolour/paper.jpg', WIDE, watercolour],
+  ['desk/Oak/oak.jpg', WIDE, () => boards({ early: '#cfa878', late: '#a67a4b', height: 200, seed: 3, gap: 0.45 })],
+  ['desk/Slate/slate.jpg', WIDE, slate],
+  ['desk/Linen/linen.jpg', [480, 480], linen],
+  ['desk/Green baize/baize.jpg', [500, 500], baize],
+  ['desk/Green baize/rail.jpg', WIDE, () => boards({ early: '#6d4226', late: '#3c2112', height: 400, seed: 17 })],
+  ['desk/Beach/sand.jpg', WIDE, sand],
+  ['gallery/Morning light/wall.jpg', WIDE, windowLight],
+  ['cinema/Velvet/curtain.jpg', WIDE, curtain],
+  ['cinema/Midnight/sky.jpg', WIDE, nightSky],
+  ['cinema/Projector/beam.jpg', WIDE, projectorBeam],
+  ['deck/Boardroom/wall.jpg', WIDE, () => panelledWall({ early: '#8a6245', late: '#55351f', width: 240, seed: 9,
+    lamps: [120, 540, 960, 1380, 1800] })],
+  ['deck/Chalkboard/board.jpg', WIDE, chalkboard],
+  ['deck/Chalkboard/frame.jpg', WIDE, () => boards({ early: '#c39a68', late: '#94693d', height: 400, seed: 7 })],
+  ['deck/Bright/colours.jpg', WIDE, BRIGHT],
+  ['deck/Blueprint/grid.png', [120, 120], () => blueprint],
 ];
 
-const resources = process.argv[2];
+function drawing(picture, width, height) {
+  if (typeof picture === 'string') return picture;
+  const colour = picture(width, height);
+  const bytes = png(width, height, (x, y) => colour(x, y).map((part) => Math.min(255, Math.max(0, part))));
+  return `<img src="data:image/png;base64,${bytes.toString('base64')}">`;
+}
+
+const [resources, ...options] = process.argv.slice(2);
+const lookAt = options.includes('--png') ? options[options.indexOf('--png') + 1] : null;
+const wanted = options[0] && options[0] !== '--png' ? options[0] : '';
 const browser = await launchChromium();
 const page = await browser.newPage();
-for (const { svg, width, height, file } of PICTURES) {
+for (const [name, [width, height], picture] of PICTURES.filter(([name]) => name.includes(wanted))) {
   await page.setViewportSize({ width, height });
-  await page.setContent(`<style>body { margin: 0; background: transparent } svg { display: block }</style>${svg}`);
-  const asPhoto = file.endsWith('.jpg') ? { type: 'jpeg', quality: 80 } : { omitBackground: true };
-  await page.screenshot({ path: path.join(resources, file), ...asPhoto });
+  await page.setContent(`<style>body { margin: 0 } img, svg { display: block }</style>${drawing(picture, width, height)}`);
+  await page.waitForFunction(() => [...document.images].every((image) => image.complete));
+  const target = lookAt ? path.join(lookAt, name.replaceAll('/', ' - ').replace('.jpg', '.png'))
+    : path.join(resources, 'AppFiles/Styles', name);
+  await mkdir(path.dirname(target), { recursive: true });
+  await page.screenshot({ path: target, ...(target.endsWith('.jpg') ? { type: 'jpeg', quality: 80 } : {}) });
 }
 await browser.close();

@@ -1,18 +1,18 @@
 #!/usr/bin/env node
-// Writes a picture book with pages of our own, to look at the player with.
+// Writes the demo book in the look of a style, to look at the player with.
 // Usage: player-demo-book.mjs TEMPLATE_DIR STYLE_DIR BOOK_DIR
 //
-// TEMPLATE_DIR is a built template; values of STYLE_DIR/tmplSetting.txt are put into the book.
+// TEMPLATE_DIR is a built template, STYLE_DIR the built style with its pictures and sounds.
 
-import { cp, readFile } from 'node:fs/promises';
+import { cp, readdir, readFile } from 'node:fs/promises';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
+import { demoSlides, SLIDE } from './player-demo-slides.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 const support = path.join(here, '../tests/browser/support');
 const { writeBook } = await import(path.join(support, 'book.mjs'));
 const { launchChromium } = await import(path.join(support, 'chromium.mjs'));
-const { demoPages } = await import(path.join(here, 'player-demo-pages.mjs'));
 
 /** Element of the configuration for each key of a template. */
 const ELEMENTS = {
@@ -48,24 +48,39 @@ async function readStyle(folder) {
   return { values, extras };
 }
 
-/** Draws the pages as JPEG files at twice their size. */
-async function drawPages() {
+/** Draws the slides as JPEG files at twice their size. */
+async function drawSlides() {
   const browser = await launchChromium();
-  const view = await browser.newPage({ viewport: { width: 560, height: 740 }, deviceScaleFactor: 2 });
-  const pages = [];
-  for (const html of demoPages()) {
+  const view = await browser.newPage({ viewport: SLIDE, deviceScaleFactor: 2 });
+  const slides = [];
+  for (const html of demoSlides()) {
     await view.setContent(html);
-    pages.push({ bytes: await view.screenshot({ type: 'jpeg', quality: 88 }) });
+    slides.push({ bytes: await view.screenshot({ type: 'jpeg', quality: 88 }) });
   }
   await browser.close();
-  return pages;
+  return slides;
 }
 
-/** Writes the picture book in the look of a style. */
-export async function writeDemoBook({ template, style, book }) {
-  const { values, extras } = await readStyle(style);
+async function demoPages() {
+  const folder = path.join(here, '../resources/DemoImgs');
+  const names = (await readdir(folder)).filter((name) => name.endsWith('.jpg')).sort();
+  return Promise.all(names.map(async (name) => ({ bytes: await readFile(path.join(folder, name)) })));
+}
+
+const drawn = new Map();
+
+/** What a template is shown with: slides where pages come singly, the demo book elsewhere. */
+async function pagesFor(template) {
+  const isDeck = (await readFile(path.join(template, 'index.html'), 'utf8')).includes('data-pages="single"');
+  if (!drawn.has(isDeck)) drawn.set(isDeck, isDeck ? await drawSlides() : await demoPages());
+  return { pages: drawn.get(isDeck), declaredSize: isDeck ? [SLIDE.width, SLIDE.height] : [600, 800] };
+}
+
+/** Writes a demo book in the look of a style; values replace the style's, by element name. */
+export async function writeDemoBook({ template, style, book, values = {} }) {
+  const own = await readStyle(style);
   await writeBook(book, {
-    template, pages: await drawPages(), values, extras, declaredSize: [560, 740], title: 'Tides',
+    template, ...(await pagesFor(template)), values: { ...own.values, ...values }, extras: own.extras, title: 'Folvero',
   });
   await cp(path.join(template, 'book.swf'), path.join(book, 'book.swf'));
   await cp(path.join(template, 'moveSound.mp3'), path.join(book, 'files/extfiles/moveSound.mp3'));

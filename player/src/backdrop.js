@@ -1,26 +1,49 @@
-import { fileAddress, luminance } from './values.js';
+import { writingOn } from './contrast.js';
+import { part } from './dom.js';
+import { fileAddress } from './values.js';
 
+/** @typedef {import('./config.js').BookConfig} BookConfig */
 /** @typedef {import('./config.js').Ground} Ground */
 
+/** Where a picture lies and how large it is; "own": as large as the configuration says. */
 /** @type {Record<string, [position: string, size: string, repeat: string]>} */
 const POSITIONS = {
   'scale to fit': ['center', '100% 100%', 'no-repeat'],
   'fill': ['center', 'cover', 'no-repeat'],
   'fit': ['center', 'contain', 'no-repeat'],
-  'tile': ['left top', 'auto', 'repeat'],
-  'center': ['center', 'auto', 'no-repeat'],
-  'top left': ['left top', 'auto', 'no-repeat'],
-  'top right': ['right top', 'auto', 'no-repeat'],
-  'bottom left': ['left bottom', 'auto', 'no-repeat'],
-  'bottom right': ['right bottom', 'auto', 'no-repeat'],
+  'tile': ['left top', 'own', 'repeat'],
+  'center': ['center', 'own', 'no-repeat'],
+  'top left': ['left top', 'own', 'no-repeat'],
+  'top right': ['right top', 'own', 'no-repeat'],
+  'bottom left': ['left bottom', 'own', 'no-repeat'],
+  'bottom right': ['right bottom', 'own', 'no-repeat'],
 };
+
+/** Opacity of bar and drawer where their colour allows it. */
+const SURFACE = 0.94;
+
+/**
+ * Gives the book the colours, the pictures and the caption that its maker chose.
+ * @param {HTMLElement} root
+ * @param {BookConfig} config
+ */
+export function dress(root, config) {
+  paintGround(part(root, '.outer'), config.outer);
+  paintGround(part(root, '.inner'), config.inner);
+  paintSurface(root, '--bar', config.windowColour);
+  paintSurface(root, '--drawer', config.thumbsColour);
+  root.style.setProperty('--paper', config.pageColour);
+  root.style.setProperty('--read-from', config.rightToLeft ? '100%' : '0%');
+  root.dataset.bar = config.hideBar ? 'no' : 'yes';
+  writeCaption(part(root, '.caption'), config.caption);
+}
 
 /**
  * Paints one of the two grounds: its picture over its gradient.
  * @param {HTMLElement} element
  * @param {Ground} ground
  */
-export function paintGround(element, ground) {
+function paintGround(element, ground) {
   // The angle counts clockwise from "to the right"; style sheets count from "upwards".
   const gradient = 'linear-gradient(' + (ground.angle + 90) + 'deg, '
     + ground.from + ', ' + ground.to + ')';
@@ -30,19 +53,41 @@ export function paintGround(element, ground) {
   }
   const [position, size, repeat] = POSITIONS[ground.position.toLowerCase()]
     ?? POSITIONS['scale to fit'];
+  const { width, height } = ground.size;
+  const own = width > 0 && height > 0 ? width + 'px ' + height + 'px' : 'auto';
   element.style.background = 'url("' + fileAddress(ground.file) + '") '
-    + position + ' / ' + size + ' ' + repeat + ', ' + gradient;
+    + position + ' / ' + (size === 'own' ? own : size) + ' ' + repeat + ', ' + gradient;
   element.dataset.picture = 'yes';
 }
 
 /**
- * Colours of bar and arrows, readable whatever colour the book's maker chose.
+ * Colours of bar or drawer, readable whatever colour the book's maker chose.
  * @param {HTMLElement} root
+ * @param {'--bar' | '--drawer'} name
  * @param {string} colour
  */
-export function paintWindow(root, colour) {
-  const light = luminance(colour) > 0.3;
-  root.style.setProperty('--bar', colour);
-  root.style.setProperty('--bar-ink', light ? '#1d2126' : '#ffffff');
-  root.style.setProperty('--bar-wash', light ? 'rgba(0,0,0,.08)' : 'rgba(255,255,255,.14)');
+function paintSurface(root, name, colour) {
+  const { ink, opacity, wash } = writingOn(colour, SURFACE);
+  root.style.setProperty(name, colour);
+  root.style.setProperty(name + '-ink', ink);
+  root.style.setProperty(name + '-wash', wash);
+  root.style.setProperty(name + '-opacity', String(opacity));
+}
+
+/**
+ * The caption is text, and a link where it is an address.
+ * @param {HTMLElement} caption
+ * @param {string} text
+ */
+function writeCaption(caption, text) {
+  if (!/^(?:https?:\/\/|mailto:)/i.test(text)) {
+    caption.textContent = text;
+    return;
+  }
+  const link = document.createElement('a');
+  link.href = text;
+  link.textContent = text.replace(/^https?:\/\/|^mailto:|\/$/gi, '');
+  link.rel = 'noopener';
+  link.target = '_blank';
+  caption.replaceChildren(link);
 }

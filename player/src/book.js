@@ -1,4 +1,4 @@
-import { drawFace, drawShowThrough, fitted, missingText } from './face.js';
+import { drawFace, drawShowThrough, fitted, missingText, sideBySide } from './face.js';
 import { PageImages } from './images.js';
 import { fittingMargins, layOut } from './layout.js';
 import { Views } from './views.js';
@@ -22,6 +22,7 @@ export class Book {
   constructor(config, root) {
     this.config = config;
     this.root = root;
+    this.bound = root.dataset.binding !== 'no';
     this.element = /** @type {HTMLElement} */ (root.querySelector('.book'));
     this.images = new PageImages(config.pages, (page) => this.#imageChanged(page));
     this.aspect = config.pages[0].width / config.pages[0].height;
@@ -48,7 +49,7 @@ export class Book {
     const margins = fittingMargins(this.config.margins, width, height);
     this.layout = layOut({
       width, height, margins, aspect: this.aspect, pageCount: pages.length, rightToLeft,
-      hasBar: !hideBar,
+      hasBar: !hideBar, maySpread: this.root.dataset.pages !== 'single',
     });
     this.views = new Views(pages.length, this.layout.spread, rightToLeft);
     const style = this.root.style;
@@ -89,7 +90,7 @@ export class Book {
     for (const side of SIDES) this.#fill(side);
     const thickness = Math.min(WIDEST_STACK, 1 + this.config.pages.length / 12);
     const begun = this.config.rightToLeft ? 1 - turned : turned;
-    const stacks = this.layout.spread ? { left: begun, right: 1 - begun } : { left: 0, right: 0 };
+    const stacks = this.layout.spread && this.bound ? { left: begun, right: 1 - begun } : { left: 0, right: 0 };
     for (const side of SIDES) {
       this.root.style.setProperty('--stack-' + side,
         (pages[side] ? Math.round(stacks[side] * thickness) : 0) + 'px');
@@ -108,6 +109,20 @@ export class Book {
   }
 
   /**
+   * One page as a picture.
+   * @param {number} page 0 for the back of a single page, of which no page is printed
+   * @param {Side} gutter side of the binding
+   * @param {number} density device pixels per CSS pixel
+   */
+  #face(page, gutter, density) {
+    const { pageWidth: width, pageHeight: height, spread } = this.layout;
+    return drawFace({
+      page, width, height, density, paper: this.config.pageColour,
+      entry: page ? this.images.get(page) : null, gutter: spread && this.bound ? gutter : 'none',
+    });
+  }
+
+  /**
    * Both sides of a leaf as the turning leaf shows them.
    * @param {number} front
    * @param {number} back 0 for a single page
@@ -115,16 +130,24 @@ export class Book {
    * @param {number} density
    */
   faces(front, back, side, density) {
-    const { pageWidth: width, pageHeight: height, spread } = this.layout;
-    const paper = this.config.pageColour;
-    const other = side === 'left' ? 'right' : 'left';
-    /** @param {number} page @param {Side} gutter */
-    const face = (page, gutter) => drawFace({
-      page, width, height, density, paper,
-      entry: page ? this.images.get(page) : null, gutter: spread ? gutter : 'none',
-    });
-    const frontFace = face(front, other);
-    return { front: frontFace, back: spread ? face(back, side) : drawShowThrough(frontFace, paper) };
+    const frontFace = this.#face(front, side === 'left' ? 'right' : 'left', density);
+    return {
+      front: frontFace,
+      back: this.layout.spread
+        ? this.#face(back, side, density) : drawShowThrough(frontFace, this.config.pageColour),
+    };
+  }
+
+  /**
+   * All pages of a view as one picture.
+   * @param {{left: number, right: number}} pages
+   * @param {number} density
+   */
+  viewFace({ left, right }, density) {
+    const faces = [];
+    if (left) faces.push(this.#face(left, 'right', density));
+    if (right) faces.push(this.#face(right, 'left', density));
+    return faces.length === 2 ? sideBySide(faces[0], faces[1]) : faces[0];
   }
 
   /** @param {number} page */

@@ -1,27 +1,36 @@
 import { rc4 } from './rc4.js';
-import { cssColour, isYes, numberIn } from './values.js';
+import { cssColour, isYes, numberIn, ownFile } from './values.js';
 
 const CONFIG_KEY = 'zq4mk2pw7rxv1bn8ty';
 
-/** A failure that is told to the reader in its own words. */
+/** A failure that is told to the reader in words of its own. */
 export class BookError extends Error {
   /**
-   * @param {string} title
-   * @param {string} detail
+   * @param {'failed' | 'unreachable' | 'incomplete' | 'damaged' | 'empty'} title
+   * @param {boolean} again whether trying again may help
    */
-  constructor(title, detail) {
+  constructor(title, again = false) {
     super(title);
-    this.detail = detail;
+    this.title = title;
+    this.again = again;
   }
 }
 
 /**
  * @typedef {{path: string, width: number, height: number}} PageEntry
- * @typedef {{from: string, to: string, angle: number, file: string, position: string}} Ground
+ * @typedef {object} Ground
+ * @property {string} from
+ * @property {string} to
+ * @property {number} angle degrees
+ * @property {string} file
+ * @property {{width: number, height: number}} size of the picture in points, 0 for its own
+ * @property {string} position
+ *
  * @typedef {object} BookConfig
  * @property {{top: number, right: number, bottom: number, left: number}} margins CSS pixels
  * @property {string} initialShow
  * @property {string} windowColour
+ * @property {string} thumbsColour
  * @property {string} pageColour
  * @property {string} caption
  * @property {boolean} hideBar
@@ -35,6 +44,7 @@ export class BookError extends Error {
  * @property {Ground} inner
  * @property {{file: string, loops: number}} sound loops below 0: for ever
  * @property {PageEntry[]} pages
+ * @property {PageEntry[]} thumbs as many as pages
  */
 
 /** @returns {Promise<Uint8Array>} the enciphered configuration */
@@ -55,41 +65,31 @@ function loadScriptCopy() {
     script.onerror = () => reject(new Error('not found'));
     script.onload = () => {
       const text = /** @type {any} */ (window).FolveroUserConfig;
-      if (typeof text !== 'string') {
-        reject(damaged('files/UserConfig.js holds no configuration.'));
-        return;
-      }
       try {
+        if (typeof text !== 'string') throw new Error('no text');
         resolve(Uint8Array.from(atob(text), (letter) => letter.charCodeAt(0)));
       } catch {
-        reject(damaged('files/UserConfig.js cannot be decoded.'));
+        reject(new BookError('damaged'));
       }
     };
     document.head.append(script);
   });
 }
 
-/** @param {string} reason */
-function damaged(reason) {
-  return new BookError('This book is damaged',
-    'Its configuration could not be read, so the pages cannot be shown. '
-    + 'Publishing or copying the book again should help. (' + reason + ')');
-}
-
 /** @returns {Promise<BookConfig>} */
 export async function loadConfiguration() {
-  const sources = location.protocol === 'file:'
-    ? [loadScriptCopy] : [fetchBinary, loadScriptCopy];
-  for (const source of sources) {
+  const fromDisk = location.protocol === 'file:';
+  let answered = true;
+  for (const source of fromDisk ? [loadScriptCopy] : [fetchBinary, loadScriptCopy]) {
     try {
       return parseConfiguration(decipher(await source()));
     } catch (error) {
       if (error instanceof BookError) throw error;
+      // Fetching fails with this kind of error only when no server answers.
+      if (error instanceof TypeError) answered = false;
     }
   }
-  throw new BookError('This book is incomplete',
-    'The folder \u201cfiles\u201d beside this page holds the pages and the configuration of the '
-    + 'book, but it could not be read. Keep this page together with that folder.');
+  throw answered ? new BookError('incomplete', !fromDisk) : new BookError('unreachable', true);
 }
 
 /** @param {Uint8Array} bytes */
@@ -106,39 +106,39 @@ export function parseConfiguration(xml) {
   const parsed = new DOMParser().parseFromString(xml, 'application/xml');
   const root = parsed.documentElement;
   // What stands before a fault is kept beside the note of the fault.
-  if (root.nodeName !== 'SlidePowerPoint' || parsed.querySelector('parsererror')) {
-    throw damaged('unexpected content');
+  if (root.nodeName !== 'SlidePowerPoint' || parsed.getElementsByTagName('parsererror').length) {
+    throw new BookError('damaged');
   }
   /** @param {string} path */
-  const text = (path) => root.querySelector(path)?.textContent?.trim() ?? '';
+  const text = (path) => textAt(root, path);
   /** @param {string} side */
-  const margin = (side) => numberIn(text('Properties > ' + side), 10, 0, 400);
-  const pages = readPages(root);
-  if (pages.length === 0) {
-    throw new BookError('This book has no pages', 'Nothing was published into it.');
-  }
+  const margin = (side) => numberIn(text('Properties ' + side), 10, 0, 400);
+  const entries = readPages(root);
+  if (entries.length === 0) throw new BookError('empty');
   return {
     margins: {
       top: margin('Top'), right: margin('Right'), bottom: margin('Bottom'), left: margin('Left'),
     },
-    initialShow: text('InitialShow'),
-    windowColour: cssColour(text('FlashWindowsColor'), '#ffffff'),
-    pageColour: cssColour(text('PageBackgroundColor'), '#ffffff'),
-    caption: text('TutorialTitle'),
-    hideBar: isYes(text('HidePageFrameBar')),
-    riseTime: numberIn(text('PageRiseOrFallTime'), 0.5, 0.05, 5),
-    moveTime: numberIn(text('PageMoveTime'), 1, 0.1, 10),
-    slideInterval: numberIn(text('SlideInterval'), 1, 0.2, 3600),
-    rightToLeft: isYes(text('RightToLeft')),
-    autoPlay: isYes(text('AutoPlay')),
-    loopPlay: isYes(text('LoopPlay')),
+    initialShow: text('Properties InitialShow'),
+    windowColour: cssColour(text('Properties FlashWindowsColor'), '#ffffff'),
+    thumbsColour: cssColour(text('Properties ThumbnailsBgColor'), '#ffffff'),
+    pageColour: cssColour(text('Properties PageBackgroundColor'), '#ffffff'),
+    caption: text('Properties TutorialTitle'),
+    hideBar: isYes(text('Properties HidePageFrameBar')),
+    riseTime: numberIn(text('Properties PageRiseOrFallTime'), 0.5, 0.05, 5),
+    moveTime: numberIn(text('Properties PageMoveTime'), 1, 0.1, 10),
+    slideInterval: numberIn(text('Properties SlideInterval'), 1, 0.2, 3600),
+    rightToLeft: isYes(text('Properties RightToLeft')),
+    autoPlay: isYes(text('Properties AutoPlay')),
+    loopPlay: isYes(text('Properties LoopPlay')),
     outer: readGround(text, 'Outer', '#c0c0c0', '#808080'),
     inner: readGround(text, 'Inner', '#a3cfd1', '#408080'),
     sound: {
-      file: text('BackgroundSound > SoundFile'),
-      loops: numberIn(text('BackgroundSound > SoundLoops'), -1, -1, 10000),
+      file: ownFile(text('BackgroundConfig BackgroundSound SoundFile')),
+      loops: Math.floor(numberIn(text('BackgroundConfig BackgroundSound SoundLoops'), -1, -1, 1e4)),
     },
-    pages,
+    pages: entries.map(({ page }) => page),
+    thumbs: entries.map(({ thumb }) => thumb),
   };
 }
 
@@ -150,23 +150,69 @@ export function parseConfiguration(xml) {
  * @returns {Ground}
  */
 function readGround(text, which, from, to) {
+  const colour = 'BackgroundConfig BackgroundColor ' + which;
+  const image = 'BackgroundConfig BackgroundImage ' + which;
   return {
-    from: cssColour(text('BackgroundColor > ' + which + 'GradiantColorA'), from),
-    to: cssColour(text('BackgroundColor > ' + which + 'GradiantColorB'), to),
-    angle: numberIn(text('BackgroundColor > ' + which + 'GradiantAngle'), 90, -3600, 3600),
-    file: text('BackgroundImage > ' + which + 'BackgroundFile'),
-    position: text('BackgroundImage > ' + which + 'BackgroundPosition'),
+    from: cssColour(text(colour + 'GradiantColorA'), from),
+    to: cssColour(text(colour + 'GradiantColorB'), to),
+    angle: numberIn(text(colour + 'GradiantAngle'), 90, -3600, 3600),
+    file: ownFile(text(image + 'BackgroundFile')),
+    size: {
+      width: numberIn(text(image + 'ImgWidth'), 0, 0, 20000),
+      height: numberIn(text(image + 'ImgHeight'), 0, 0, 20000),
+    },
+    position: text(image + 'BackgroundPosition'),
   };
 }
 
 /**
+ * Text of the element to which child names lead; empty when there is none. The search never enters
+ * the list of pages.
  * @param {Element} root
- * @returns {PageEntry[]}
+ * @param {string} path names with blanks between them
+ */
+function textAt(root, path) {
+  /** @type {Element | undefined} */
+  let element = root;
+  for (const name of path.split(' ')) {
+    element = [...(element?.children ?? [])].find((child) => child.nodeName === name);
+  }
+  return element?.textContent?.trim() ?? '';
+}
+
+/**
+ * @param {Element} root
+ * @returns {{page: PageEntry, thumb: PageEntry}[]}
  */
 function readPages(root) {
-  return Array.from(root.querySelectorAll('Ppts > Ppt > Normal'), (normal) => ({
-    path: normal.querySelector('ImgPath')?.textContent?.trim() ?? '',
-    width: numberIn(normal.querySelector('Width')?.textContent ?? '', 600, 1, 100000),
-    height: numberIn(normal.querySelector('Height')?.textContent ?? '', 800, 1, 100000),
-  }));
+  const entries = [];
+  for (const group of root.children) {
+    if (group.nodeName !== 'Ppts') continue;
+    for (let ppt = group.firstElementChild; ppt; ppt = ppt.nextElementSibling) {
+      const page = readEntry(ppt, 'Normal', { path: '', width: 600, height: 800 });
+      const thumb = readEntry(ppt, 'Thumb', { path: page.path, width: 85, height: 113 });
+      entries.push({ page, thumb });
+    }
+  }
+  return entries;
+}
+
+/**
+ * @param {Element} ppt
+ * @param {string} name
+ * @param {PageEntry} fallback
+ * @returns {PageEntry}
+ */
+function readEntry(ppt, name, fallback) {
+  const entry = { ...fallback };
+  for (const kind of ppt.children) {
+    if (kind.nodeName !== name) continue;
+    for (let one = kind.firstElementChild; one; one = one.nextElementSibling) {
+      const text = one.textContent ?? '';
+      if (one.nodeName === 'ImgPath') entry.path = ownFile(text) || fallback.path;
+      if (one.nodeName === 'Width') entry.width = numberIn(text, fallback.width, 1, 1e5);
+      if (one.nodeName === 'Height') entry.height = numberIn(text, fallback.height, 1, 1e5);
+    }
+  }
+  return entry;
 }

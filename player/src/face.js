@@ -1,3 +1,5 @@
+import { say } from './words.js';
+
 /** @typedef {import('./images.js').PageImage} PageImage */
 
 /**
@@ -8,7 +10,7 @@ export const GUTTER = [[0, 0.26], [0.012, 0.16], [0.04, 0.075], [0.09, 0.03], [0
 
 /** @param {number} page */
 export function missingText(page) {
-  return 'Page ' + page + ' could not be shown';
+  return say('pageMissing', page);
 }
 
 /**
@@ -64,6 +66,20 @@ export function drawFace({ page, entry, width, height, density, paper, gutter })
     context.fillText(missingText(page), width / 2, height / 2);
   }
   if (gutter !== 'none') drawGutter(context, width, height, gutter === 'right');
+  return canvas;
+}
+
+/**
+ * @param {HTMLCanvasElement} left
+ * @param {HTMLCanvasElement} right
+ */
+export function sideBySide(left, right) {
+  const canvas = document.createElement('canvas');
+  canvas.width = left.width + right.width;
+  canvas.height = left.height;
+  const context = /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
+  context.drawImage(left, 0, 0);
+  context.drawImage(right, left.width, 0);
   return canvas;
 }
 

@@ -67,12 +67,3 @@ export function seenAt(u, radius) {
   if (u >= -start) return -u;
   return start + radius * Math.sin((u - start) / radius);
 }
-
-/**
- * How far a leaf has been turned, 0 (flat) to 1 (turned over).
- * @param {Point} held
- * @param {number} width
- */
-export function turnedShare(held, width) {
-  return Math.min(1, Math.max(0, (width - held.x) / (2 * width)));
-}

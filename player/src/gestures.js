@@ -87,17 +87,15 @@ export class Gestures {
    */
   #grip(press, moved) {
     const { layout, config } = this.book;
+    const { turner } = this;
     const leftward = moved < 0;
     const steps = leftward !== config.rightToLeft ? 1 : -1;
     const edgeShare = snapped((press.y - layout.bookTop) / layout.pageHeight);
-    if (!this.turner.grab(this.turner.current + steps, edgeShare)) return null;
-    const leaf = /** @type {import('./turner.js').Leaf} */ (this.turner.leaf);
-    const sign = leaf.side === 'right' ? 1 : -1;
-    const shift = this.book.shiftFor(this.turner.current);
-    const pressX = sign * (press.x - layout.spineX - shift);
-    const within = Math.max(layout.pageWidth * 0.35, pressX);
-    const gain = layout.spread ? (2 * layout.pageWidth) / (layout.pageWidth + within) : 2;
-    return { sign, gain: Math.max(1, gain), pressX, held: { ...leaf.held } };
+    if (!turner.grab(turner.current + steps, edgeShare)) return null;
+    const leaf = /** @type {import('./leaf.js').Leaf} */ (turner.leaf);
+    const sign = leaf.mirrored ? -1 : 1;
+    const pressX = sign * (press.x - layout.spineX - leaf.shift);
+    return { sign, gain: turner.painter.gain(leaf, pressX), pressX, held: { ...leaf.held } };
   }
 
   /**
@@ -109,15 +107,13 @@ export class Gestures {
     const { leaf } = turner;
     if (!press || !leaf) return;
     const { layout } = book;
-    const slide = Math.min(1, Math.abs(event.clientX - press.x) / (layout.pageWidth * 1.4));
-    const fromShift = book.shiftFor(leaf.from);
-    const shift = fromShift + (book.shiftFor(leaf.to) - fromShift) * slide;
-    const x = grip.sign * (event.clientX - layout.spineX - shift);
+    leaf.slide = Math.min(1, Math.abs(event.clientX - press.x) / (layout.pageWidth * 1.4));
+    const x = grip.sign * (event.clientX - layout.spineX - leaf.shift);
     const held = {
       x: grip.held.x + (x - grip.pressX) * grip.gain,
       y: grip.held.y + (event.clientY - press.y),
     };
-    turner.drag(held, slide);
+    turner.drag(held);
   }
 
   /** @param {PointerEvent} event */
@@ -147,9 +143,7 @@ export class Gestures {
     const speed = first && lasted > 0 ? (event.clientX - first.x) / lasted : 0;
     const onward = Math.sign(event.clientX - press.x) * speed;
     if (Math.abs(onward) > FLICK_SPEED) return onward > 0;
-    const turned = (this.book.layout.pageWidth - leaf.held.x) / (2 * this.book.layout.pageWidth);
-    const done = leaf.reversed ? 1 - turned : turned;
-    return done > 0.45;
+    return leaf.done > this.turner.painter.enough;
   }
 
   /** @param {PointerEvent} event */
@@ -188,7 +182,7 @@ export class Gestures {
     const reach = Math.abs(x) > 0.84 && Math.abs(x) < 1.02;
     const side = x > 0 ? 'right' : 'left';
     const steps = (side === 'right') !== config.rightToLeft ? 1 : -1;
-    const lifts = layout.spread || steps === 1;
+    const lifts = layout.spread || turner.painter.whole || steps === 1;
     if (!nearCorner || !reach || !lifts) turner.endPeek();
     else turner.peek(turner.current + steps, y < 0.5 ? 0 : 1);
   }

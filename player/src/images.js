@@ -1,4 +1,5 @@
 import { fileAddress } from './values.js';
+import { say } from './words.js';
 
 /** @typedef {import('./config.js').PageEntry} PageEntry */
 /**
@@ -8,8 +9,8 @@ import { fileAddress } from './values.js';
  * @property {Promise<void>} settled kept when the image has arrived or failed
  */
 
-/** Page images kept at a time, whatever the length of the book. */
-const MOST_IMAGES = 12;
+/** Page images kept at a time, whatever the length of the book; one more is left for thumbnails. */
+const MOST_IMAGES = 11;
 
 /** Loads page images and keeps the ones that are wanted. */
 export class PageImages {
@@ -55,7 +56,7 @@ export class PageImages {
    * @param {PageImage} entry
    */
   async #load(page, entry) {
-    entry.image.alt = 'Page ' + page;
+    entry.image.alt = say('page', page);
     entry.image.draggable = false;
     entry.image.decoding = 'async';
     entry.image.src = fileAddress(this.pages[page - 1].path);

@@ -39,18 +39,21 @@ export function fittingMargins(margins, width, height) {
  * @param {number} of.pageCount
  * @param {boolean} of.rightToLeft
  * @param {boolean} of.hasBar
+ * @param {boolean} of.maySpread two pages may lie side by side
  * @returns {Layout}
  */
-export function layOut({ width, height, margins, aspect, pageCount, rightToLeft, hasBar }) {
+export function layOut(of) {
+  const { width, height, margins, aspect, pageCount, rightToLeft, hasBar, maySpread } = of;
   const area = {
     left: margins.left, top: margins.top,
     width: width - margins.left - margins.right, height: height - margins.top - margins.bottom,
   };
-  const spread = pageCount > 1 && area.width >= 560 && area.width > area.height * 1.05;
+  const spread = maySpread && pageCount > 1 && area.width >= 560
+    && area.width > area.height * 1.05;
   const roomy = Math.min(area.width, area.height) >= 480;
   const air = roomy ? Math.round(Math.min(area.width, area.height) * 0.045) : 10;
   const below = hasBar && area.height >= BAR_ROOM_LEAST_HEIGHT ? Math.max(BAR_ROOM, air) : air;
-  const sides = spread && roomy ? Math.max(air, 56) : air;
+  const sides = (spread || !maySpread) && roomy ? Math.max(air, 56) : air;
   const mostWidth = Math.max(40, (area.width - 2 * sides) / (spread ? 2 : 1));
   const mostHeight = Math.max(40, area.height - air - below);
   const scale = Math.min(mostWidth, mostHeight * aspect);

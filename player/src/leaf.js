@@ -1,244 +1,102 @@
-import { foldOf, seenAt, turnedShare } from './fold.js';
-
+/** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('./book.js').Side} Side */
 /** @typedef {import('./fold.js').Point} Point */
-/** @typedef {import('./fold.js').Fold} Fold */
-
-/** Strips that each quarter of the roll is drawn in. */
-const STRIPS = 12;
-
-/** Straight pieces that each edge of the turned part's outline is drawn in. */
-const EDGE_STEPS = 24;
+/** @typedef {import('./turnings.js').Painter} Painter */
+/** @typedef {{left: number, right: number}} PagePair page numbers, 0 for none */
 
 /**
- * @typedef {object} LeafLook
- * @property {HTMLCanvasElement} front
- * @property {HTMLCanvasElement} back
- * @property {number} width CSS pixels
- * @property {number} height
- * @property {boolean} mirrored bound at its right edge
- * @property {boolean} overPage a page lies beneath the leaf
+ * A way of the grabbed point that runs by itself.
+ * @typedef {object} Motion
+ * @property {number} start time stamp of the first frame, 0 before it
+ * @property {number} time milliseconds
+ * @property {Point} from
+ * @property {Point} to
+ * @property {number} lift how far the way bends towards the middle of the leaf
+ * @property {number} slideFrom
+ * @property {number} slideTo
+ * @property {'over' | 'back' | 'peek'} end
  */
 
-/** Draws a turning leaf, bound at the origin of the context's coordinates. */
-export class LeafPainter {
+/**
+ * What is in the air between two views: a leaf of the book, or the whole view where the book turns
+ * by sliding. Its own coordinates begin at its binding and its top, with the flat leaf at positive x.
+ */
+export class Leaf {
   /**
-   * @param {CanvasRenderingContext2D} context
+   * @param {Book} book
+   * @param {Painter} painter
+   * @param {number} from view that is left
+   * @param {number} to
+   * @param {number} edgeShare where the edge is taken, 0 (top) to 1
+   */
+  constructor(book, painter, from, to, edgeShare) {
+    const { spread, pageWidth, pageHeight } = book.layout;
+    const { rightToLeft } = book.config;
+    const forward = to > from;
+    this.book = book;
+    this.whole = painter.whole;
+    this.from = from;
+    this.to = to;
+    /** Comes back from being turned over. */
+    this.reversed = !forward && (this.whole || !spread);
+    /** @type {Side} on which the leaf lies while it is flat */
+    this.side = (spread && !this.whole ? forward !== rightToLeft : !rightToLeft) ? 'right' : 'left';
+    this.mirrored = this.side === 'left';
+    this.alone = !spread;
+    this.width = pageWidth;
+    this.height = pageHeight;
+    /** @type {Point} */
+    this.edge = { x: pageWidth, y: edgeShare * pageHeight };
+    /** @type {Point} */
+    this.held = this.reversed ? { x: -this.edge.x, y: this.edge.y } : { ...this.edge };
+    /** 0 to 1: how far the book has moved to where the new view stands. */
+    this.slide = 0;
+    /** @type {Motion | null} none while a pointer holds the leaf */
+    this.motion = null;
+    const upper = book.views.at(this.reversed ? to : from);
+    const lower = book.views.at(this.reversed ? from : to);
+    const other = this.mirrored ? 'right' : 'left';
+    /** @type {PagePair} pages that lie still meanwhile */
+    this.beneath = this.whole || this.alone ? lower : { ...lower, [other]: book.views.at(from)[other] };
+    /** @type {PagePair} pages on both sides of the leaf, or of the view that slides */
+    this.pages = this.whole || this.alone ? upper : { ...upper, [other]: book.views.at(to)[other] };
+    this.overPage = this.beneath[this.side] > 0;
+  }
+
+  /**
+   * Pictures of what moves: both sides of the leaf, or the view in the one and nothing in the other.
    * @param {number} density device pixels per CSS pixel
    */
-  constructor(context, density) {
-    this.context = context;
-    this.density = density;
-  }
-
-  /**
-   * @param {LeafLook} look
-   * @param {Point} held
-   * @param {Point} edge
-   */
-  draw(look, held, edge) {
-    const { context } = this;
-    context.save();
-    if (look.mirrored) context.scale(-1, 1);
-    const fold = foldOf(held, edge, look.width, look.height);
-    if (fold) this.#drawFolded(look, fold, turnedShare(held, look.width));
-    else this.#drawFace(look, look.front, look.mirrored);
-    context.restore();
-  }
-
-  /**
-   * @param {LeafLook} look
-   * @param {Fold} fold
-   * @param {number} share
-   */
-  #drawFolded(look, fold, share) {
-    const quarter = (Math.PI / 2) * fold.radius;
-    const far = 2 * (look.width + look.height);
-    this.#shadeBeneath(look, fold, share);
-    const plain = 'transparent';
-    this.#drawStrip(look, fold, -far, -quarter, look.front, false, plain);
-    const frontShade = this.#shade(fold, -quarter, 0,
-      [[0, 'rgba(0,0,0,0)'], [0.35, 'rgba(255,255,255,.10)'], [0.6, 'rgba(0,0,0,.04)'],
-        [0.85, 'rgba(0,0,0,.2)'], [1, 'rgba(0,0,0,.42)']]);
-    this.#drawRoll(look, fold, -quarter, look.front, false, frontShade);
-    this.#castShadow(look, fold, share);
-    const backShade = this.#shade(fold, 0, quarter * 2.6,
-      [[0, 'rgba(0,0,0,.3)'], [0.1, 'rgba(0,0,0,.12)'], [0.22, 'rgba(255,255,255,.28)'],
-        [0.36, 'rgba(255,255,255,.08)'], [0.5, 'rgba(0,0,0,.05)'], [1, 'rgba(0,0,0,0)']]);
-    this.#drawRoll(look, fold, 0, look.back, true, backShade);
-    this.#drawStrip(look, fold, quarter, far, look.back, true, backShade);
-  }
-
-  /**
-   * One quarter of the roll, from u onwards.
-   * @param {LeafLook} look
-   * @param {Fold} fold
-   * @param {number} from
-   * @param {HTMLCanvasElement} face
-   * @param {boolean} isBack
-   * @param {string | CanvasGradient} shade
-   */
-  #drawRoll(look, fold, from, face, isBack, shade) {
-    const step = ((Math.PI / 2) * fold.radius) / STRIPS;
-    if (step * this.density < 0.02) return;
-    for (let strip = 0; strip < STRIPS; strip++) {
-      const u = from + strip * step;
-      this.#drawStrip(look, fold, u, u + step, face, isBack, shade);
+  drawFaces(density) {
+    if (this.whole) {
+      this.front = this.book.viewFace(this.pages, density);
+      this.back = this.front;
+      return;
     }
+    const other = this.mirrored ? 'right' : 'left';
+    Object.assign(this, this.book.faces(this.pages[this.side], this.pages[other], this.side, density));
   }
 
-  /**
-   * The paper between two distances from the fold line, as seen from above.
-   * @param {LeafLook} look
-   * @param {Fold} fold
-   * @param {number} from
-   * @param {number} to
-   * @param {HTMLCanvasElement} face
-   * @param {boolean} isBack
-   * @param {string | CanvasGradient} shade
-   */
-  #drawStrip(look, fold, from, to, face, isBack, shade) {
-    const { context } = this;
-    const seenFrom = seenAt(from, fold.radius);
-    const scale = (seenAt(to, fold.radius) - seenFrom) / (to - from);
-    if (Math.abs(scale) < 0.001) return;
-    const far = 2 * (look.width + look.height);
-    const overlap = Math.min(3, 0.6 / Math.abs(scale) / this.density);
-    context.save();
-    context.translate(fold.middle.x, fold.middle.y);
-    context.rotate(fold.angle);
-    context.translate(seenFrom, 0);
-    context.scale(scale, 1);
-    context.translate(-from, 0);
-    context.beginPath();
-    context.rect(from - overlap, -far, to - from + 2 * overlap, 2 * far);
-    context.clip();
-    context.rotate(-fold.angle);
-    context.translate(-fold.middle.x, -fold.middle.y);
-    this.#drawFace(look, face, look.mirrored !== isBack);
-    if (shade !== 'transparent') {
-      context.fillStyle = shade;
-      context.fillRect(0, 0, look.width, look.height);
-    }
-    context.restore();
+  /** View over which the book stands: where it moves to along with the leaf, or stays. */
+  get shift() {
+    const { book } = this;
+    if (this.whole) return book.shiftFor(this.reversed ? this.from : this.to);
+    const before = book.shiftFor(this.from);
+    return before + (book.shiftFor(this.to) - before) * this.slide;
   }
 
-  /**
-   * @param {LeafLook} look
-   * @param {HTMLCanvasElement} face
-   * @param {boolean} flipped
-   */
-  #drawFace(look, face, flipped) {
-    const { context } = this;
-    context.save();
-    if (flipped) {
-      context.translate(look.width, 0);
-      context.scale(-1, 1);
-    }
-    context.drawImage(face, 0, 0, look.width, look.height);
-    context.restore();
+  /** @param {number} page */
+  shows(page) {
+    return this.pages.left === page || this.pages.right === page;
   }
 
-  /**
-   * A gradient across the fold, between two distances from its line.
-   * @param {Fold} fold
-   * @param {number} from
-   * @param {number} to
-   * @param {[number, string][]} stops
-   */
-  #shade(fold, from, to, stops) {
-    const along = { x: Math.cos(fold.angle), y: Math.sin(fold.angle) };
-    const { x, y } = fold.middle;
-    const shade = this.context.createLinearGradient(
-      x + along.x * from, y + along.y * from, x + along.x * to, y + along.y * to);
-    for (const [at, colour] of stops) shade.addColorStop(at, colour);
-    return shade;
+  /** How far it has been turned: 0 (flat) to 1 (turned over). */
+  get turned() {
+    return Math.min(1, Math.max(0, (this.width - this.held.x) / (2 * this.width)));
   }
 
-  /**
-   * The shadow of the roll on the page that comes to light.
-   * @param {LeafLook} look
-   * @param {Fold} fold
-   * @param {number} share
-   */
-  #shadeBeneath(look, fold, share) {
-    if (!look.overPage) return;
-    const { context } = this;
-    const front = seenAt(0, fold.radius);
-    const reach = front + Math.min(look.width * 0.35, fold.radius * 3.2 + 4);
-    const strength = 0.5 * Math.min(1, 4 * share) * (1 - share * 0.6);
-    context.fillStyle = this.#shade(fold, front - 1, reach,
-      [[0, 'rgba(0,0,0,' + strength + ')'], [0.18, 'rgba(0,0,0,' + strength * 0.55 + ')'],
-        [0.5, 'rgba(0,0,0,' + strength * 0.18 + ')'], [1, 'rgba(0,0,0,0)']]);
-    context.fillRect(0, 0, look.width, look.height);
+  /** How much of the way to the other view is done, 0 to 1. */
+  get done() {
+    return this.reversed ? 1 - this.turned : this.turned;
   }
-
-  /**
-   * The shadow of the paper that has come over, on everything that it comes over.
-   * @param {LeafLook} look
-   * @param {Fold} fold
-   * @param {number} share
-   */
-  #castShadow(look, fold, share) {
-    const outline = turnedOutline(look, fold);
-    if (outline.length < 3) return;
-    const { context } = this;
-    const height = Math.sin(Math.PI * share);
-    context.save();
-    context.shadowColor = 'rgba(0, 0, 0, ' + (0.16 + 0.3 * height) + ')';
-    context.shadowBlur = (4 + 30 * height) * this.density;
-    context.shadowOffsetY = (1 + 6 * height) * this.density;
-    context.fillStyle = '#888';
-    context.beginPath();
-    outline.forEach(({ x, y }) => context.lineTo(x, y));
-    context.closePath();
-    context.fill();
-    context.restore();
-  }
-}
-
-/**
- * Outline of the part of a leaf that lies beyond the fold line, as seen from above.
- * @param {{width: number, height: number}} look
- * @param {Fold} fold
- * @returns {Point[]}
- */
-export function turnedOutline(look, fold) {
-  const along = { x: Math.cos(fold.angle), y: Math.sin(fold.angle) };
-  /** @param {Point} point */
-  const beyond = (point) =>
-    (point.x - fold.middle.x) * along.x + (point.y - fold.middle.y) * along.y;
-  const corners = [{ x: 0, y: 0 }, { x: look.width, y: 0 },
-    { x: look.width, y: look.height }, { x: 0, y: look.height }];
-  /** @type {Point[]} */
-  const outline = [];
-  corners.forEach((corner, index) => {
-    const next = corners[(index + 1) % corners.length];
-    const here = beyond(corner);
-    const there = beyond(next);
-    if (here >= 0) outline.push(corner);
-    if (here >= 0 !== there >= 0) {
-      const part = here / (here - there);
-      outline.push({ x: corner.x + (next.x - corner.x) * part,
-        y: corner.y + (next.y - corner.y) * part });
-    }
-  });
-  return outline.flatMap((point, index) => steps(point, outline[(index + 1) % outline.length]))
-    .map((point) => {
-      const u = beyond(point);
-      const shift = seenAt(u, fold.radius) - u;
-      return { x: point.x + along.x * shift, y: point.y + along.y * shift };
-    });
-}
-
-/**
- * Points from one point towards another: straight edges become curves where the paper rolls.
- * @param {Point} from
- * @param {Point} to
- * @returns {Point[]}
- */
-function steps(from, to) {
-  return Array.from({ length: EDGE_STEPS }, (_, step) => ({
-    x: from.x + ((to.x - from.x) * step) / EDGE_STEPS,
-    y: from.y + ((to.y - from.y) * step) / EDGE_STEPS,
-  }));
 }

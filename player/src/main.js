@@ -1,23 +1,24 @@
-import { paintGround, paintWindow } from './backdrop.js';
+import { dress } from './backdrop.js';
 import { Book } from './book.js';
-import { BookError, loadConfiguration } from './config.js';
+import { loadConfiguration } from './config.js';
+import { part } from './dom.js';
+import { Drawer } from './drawer.js';
 import { Gestures } from './gestures.js';
+import { Helping } from './helping.js';
+import { wireKeys } from './keys.js';
+import { Memory } from './memory.js';
+import { Menu } from './menu.js';
+import { tellReader } from './message.js';
 import { bringIn } from './opening.js';
+import { Printing } from './printing.js';
+import { Sharing } from './sharing.js';
+import { Sheets } from './sheets.js';
 import { Slideshow } from './slideshow.js';
 import { Sounds } from './sound.js';
+import { Toast } from './toast.js';
 import { Toolbar } from './toolbar.js';
 import { Turner } from './turner.js';
-
-/** @typedef {import('./config.js').BookConfig} BookConfig */
-
-/**
- * @param {HTMLElement} root
- * @param {string} selector
- * @returns {HTMLElement}
- */
-function part(root, selector) {
-  return /** @type {HTMLElement} */ (root.querySelector(selector));
-}
+import { say, sayEverywhere } from './words.js';
 
 /** Page that the address asks for, 0 when it asks for none. */
 function pageInAddress() {
@@ -35,39 +36,13 @@ function putPageInAddress(page) {
 }
 
 /**
- * @param {HTMLElement} root
- * @param {unknown} error
+ * What is announced to readers who do not see the pages.
+ * @param {number[]} pages
+ * @param {number} pageCount
  */
-function tellReader(root, error) {
-  const known = error instanceof BookError ? error : new BookError('This book could not be opened',
-    'Something unexpected went wrong. (' + error + ')');
-  part(root, '.message h1').textContent = known.message;
-  part(root, '.message p').textContent = known.detail;
-  part(root, '.message').hidden = false;
-  root.dataset.state = 'error';
-}
-
-/**
- * @param {HTMLElement} root
- * @param {BookConfig} config
- */
-function dress(root, config) {
-  paintGround(part(root, '.outer'), config.outer);
-  paintGround(part(root, '.inner'), config.inner);
-  paintWindow(root, config.windowColour);
-  root.style.setProperty('--paper', config.pageColour);
-  root.dataset.bar = config.hideBar ? 'no' : 'yes';
-  const caption = part(root, '.caption');
-  if (/^https?:\/\//i.test(config.caption)) {
-    const link = document.createElement('a');
-    link.href = config.caption;
-    link.textContent = config.caption.replace(/^https?:\/\/|\/$/gi, '');
-    link.rel = 'noopener';
-    link.target = '_blank';
-    caption.replaceChildren(link);
-  } else {
-    caption.textContent = config.caption;
-  }
+function announcement(pages, pageCount) {
+  return pages.length > 1 ? say('pagesOf', pages[0], pages[1], pageCount)
+    : say('pageOf', pages[0], pageCount);
 }
 
 /**
@@ -87,6 +62,50 @@ function followWindow(root, book, turner, page) {
   fit();
 }
 
+/**
+ * Puts the controls around the book.
+ * @param {HTMLElement} root
+ * @param {Turner} turner
+ * @param {Sounds} sounds
+ */
+function addControls(root, turner, sounds) {
+  const { book } = turner;
+  const { config } = book;
+  const pagesInView = () => book.views.pagesOf(turner.current);
+  const slideshow = new Slideshow(turner, config.slideInterval, config.loopPlay);
+  const drawer = new Drawer(root, book, (page) => turner.go(book.views.viewOf(page)));
+  const sharing = new Sharing(root, () => pagesInView()[0]);
+  const sheets = new Sheets(config.pages, pagesInView);
+  const printing = new Printing(root, sheets, config.pages.length, pagesInView);
+  const helping = new Helping(root);
+  const menu = new Menu(root, () => toolbar.folding.folded);
+  const commands = {
+    thumbs: () => drawer.toggle(),
+    play: () => slideshow.run(!slideshow.running),
+    sound: () => {
+      sounds.switchTo(!sounds.on);
+      toolbar.press('sound', sounds.on);
+    },
+    full: () => toolbar.toggleFullScreen(),
+    share: () => sharing.open(),
+    print: () => printing.open(),
+    help: () => helping.open(),
+    more: () => menu.open(),
+    goTo: () => toolbar.askForPage(),
+    escape: () => drawer.hide(),
+  };
+  const toolbar = new Toolbar(root, turner, commands);
+  wireKeys(root, commands);
+  new Gestures(book, turner, part(root, '.stage'), () => {
+    if (drawer.open) drawer.hide();
+    else toolbar.toggle();
+  });
+  slideshow.onChange = () => toolbar.press('play', slideshow.running);
+  slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
+  drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
+  return { toolbar, slideshow, drawer, sheets };
+}
+
 /** @param {HTMLElement} root */
 async function openBook(root) {
   const config = await loadConfiguration();
@@ -95,39 +114,48 @@ async function openBook(root) {
   await book.measure();
   const turner = new Turner(book, /** @type {HTMLCanvasElement} */ (part(root, '.leaf')));
   const sounds = new Sounds(config.sound);
-  const slideshow = new Slideshow(turner, config.slideInterval, config.loopPlay);
-  const toolbar = new Toolbar(root, turner, slideshow, sounds);
-  new Gestures(book, turner, part(root, '.stage'), () => toolbar.toggle());
+  const controls = addControls(root, turner, sounds);
+  const { toolbar, slideshow, drawer } = controls;
+  const memory = new Memory(config.pages.length);
+  const left = pageInAddress() ? 0 : memory.page;
 
-  let page = Math.min(config.pages.length, Math.max(1, pageInAddress()));
+  let page = Math.min(config.pages.length, Math.max(1, pageInAddress() || left));
   turner.onTurn = () => sounds.playTurn();
   turner.onLanded = () => {
     const pages = book.views.pagesOf(turner.current);
     if (!pages.includes(page)) {
       page = pages[0];
       putPageInAddress(page);
-      part(root, '.live').textContent = 'Page ' + pages.join(' and ');
+      memory.page = page;
+      part(root, '.live').textContent = announcement(pages, config.pages.length);
     }
     toolbar.update();
+    drawer.mark(pages);
     slideshow.wait();
   };
   followWindow(root, book, turner, () => page);
   window.addEventListener('hashchange', () => {
     if (pageInAddress() > 0) turner.go(book.views.viewOf(pageInAddress()));
   });
-  await Promise.all(book.views.pagesOf(turner.current).map((shown) => book.images.get(shown).settled));
+  const inView = book.views.pagesOf(turner.current);
+  await Promise.all(inView.map((shown) => book.images.get(shown).settled));
   root.dataset.state = 'ready';
+  part(root, '.live').textContent = announcement(inView, config.pages.length);
   bringIn(book.element, config.initialShow);
   if (config.autoPlay) slideshow.run(true);
-  expose(book, turner);
+  if (left > 1) {
+    new Toast(root).show(say('wasOn', left), say('startOver'), () => turner.go(0));
+  }
+  expose(book, turner, controls);
 }
 
 /**
  * State of the book for whoever embeds or tests it.
  * @param {Book} book
  * @param {Turner} turner
+ * @param {ReturnType<typeof addControls>} controls
  */
-function expose(book, turner) {
+function expose(book, turner, { drawer, sheets }) {
   Object.defineProperty(window, 'folvero', {
     value: Object.freeze({
       get page() { return book.views.pagesOf(turner.current)[0]; },
@@ -136,6 +164,8 @@ function expose(book, turner) {
       get spread() { return book.layout.spread; },
       get turning() { return turner.turning; },
       get imagesKept() { return book.images.kept.size; },
+      get drawerImages() { return drawer.thumbnails.imagesKept; },
+      get printImages() { return sheets.imagesKept; },
       /** @param {number} page */
       goTo(page) { turner.go(book.views.viewOf(page)); },
     }),
@@ -143,4 +173,6 @@ function expose(book, turner) {
 }
 
 const root = /** @type {HTMLElement} */ (document.getElementById('folvero'));
+sayEverywhere(root);
+part(root, '.book-title').textContent = document.title;
 openBook(root).catch((error) => tellReader(root, error));

@@ -14,6 +14,8 @@ export class Slideshow {
     this.running = false;
     this.timer = 0;
     this.onChange = () => {};
+    /** Whether something keeps the reader from the pages. */
+    this.isHeld = () => false;
   }
 
   /** @param {boolean} running */
@@ -31,7 +33,7 @@ export class Slideshow {
 
   #next() {
     const { turner } = this;
-    if (document.hidden || turner.turning) {
+    if (document.hidden || turner.turning || this.isHeld()) {
       this.wait();
     } else if (turner.current < turner.book.views.count - 1) {
       turner.step(1);

@@ -18,6 +18,10 @@ export class Sounds {
     for (const kind of ['pointerdown', 'keydown']) {
       window.addEventListener(kind, () => this.#allow(), { once: true, capture: true });
     }
+    document.addEventListener('visibilitychange', () => {
+      if (document.hidden) this.music?.pause();
+      else this.#playMusic();
+    });
   }
 
   playTurn() {

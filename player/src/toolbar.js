@@ -1,26 +1,37 @@
+import { part } from './dom.js';
+import { Folding } from './folding.js';
+import { Tips } from './tips.js';
+import { say } from './words.js';
+
 /** @typedef {import('./turner.js').Turner} Turner */
-/** @typedef {import('./slideshow.js').Slideshow} Slideshow */
-/** @typedef {import('./sound.js').Sounds} Sounds */
+/** @typedef {Record<string, () => void>} Commands what the reader can ask for, by name */
 
 const IDLE_MS = 2600;
+const IDLE_TOUCH_MS = 4500;
 
 /** The bar and the arrows at the sides: they come with the pointer and go when it rests. */
 export class Toolbar {
   /**
    * @param {HTMLElement} root
    * @param {Turner} turner
-   * @param {Slideshow} slideshow
-   * @param {Sounds} sounds
+   * @param {Commands} commands
    */
-  constructor(root, turner, slideshow, sounds) {
+  constructor(root, turner, commands) {
     this.root = root;
     this.turner = turner;
-    this.slideshow = slideshow;
-    this.sounds = sounds;
+    this.commands = commands;
     this.timer = 0;
-    this.bar = this.#find('.bar');
-    this.box = /** @type {HTMLInputElement} */ (this.#find('.page-box'));
-    this.#wire();
+    this.idleTime = IDLE_MS;
+    this.cameNow = false;
+    this.bar = part(root, '.bar');
+    this.box = /** @type {HTMLInputElement} */ (part(root, '.page-box'));
+    this.count = part(root, '.page-count');
+    this.#wireButtons();
+    this.#wireComing();
+    this.#wirePageBox();
+    this.#wireFullScreen();
+    this.folding = new Folding(root, this.bar);
+    this.tips = new Tips(root);
     this.show();
   }
 
@@ -28,27 +39,25 @@ export class Toolbar {
   show() {
     this.root.dataset.idle = 'no';
     clearTimeout(this.timer);
-    this.timer = window.setTimeout(() => this.#hide(), IDLE_MS);
+    this.timer = window.setTimeout(() => this.#hide(), this.idleTime);
   }
 
   /** What a tap on the middle of the book does. */
   toggle() {
-    if (this.root.dataset.idle === 'no') this.#hide();
-    else this.show();
+    if (!this.cameNow) this.#hide();
   }
 
   /** Follows the shown page. */
   update() {
     const { views, config } = this.turner.book;
     const { current } = this.turner;
-    const pages = views.pagesOf(current);
-    if (document.activeElement !== this.box) this.box.value = pages.join('\u2013');
-    this.#find('.page-count').textContent = String(views.pageCount);
+    if (document.activeElement !== this.box) this.#writePages();
+    if (this.count.textContent !== String(views.pageCount)) this.#writeCount(views.pageCount);
     const atStart = current === 0;
     const atEnd = current === views.count - 1;
     for (const [side, end] of [['left', config.rightToLeft ? atEnd : atStart],
       ['right', config.rightToLeft ? atStart : atEnd]]) {
-      for (const button of this.root.querySelectorAll('[data-turn="' + side + '"]')) {
+      for (const button of this.root.querySelectorAll('button[data-turn="' + side + '"]')) {
         /** @type {HTMLButtonElement} */ (button).disabled = Boolean(end);
       }
     }
@@ -56,43 +65,66 @@ export class Toolbar {
     this.bar.style.setProperty('--read', String(share));
   }
 
-  #hide() {
-    const inUse = this.bar.matches(':focus-within') && this.bar.querySelector(':focus-visible');
-    if (inUse || this.bar.matches(':hover')) this.show();
-    else this.root.dataset.idle = 'yes';
-  }
-
   /**
-   * @param {string} selector
-   * @returns {HTMLElement}
+   * Shows a switch as on or off.
+   * @param {string} name
+   * @param {boolean} on
    */
-  #find(selector) {
-    return /** @type {HTMLElement} */ (this.root.querySelector(selector));
+  press(name, on) {
+    const attribute = name === 'thumbs' ? 'aria-expanded' : 'aria-pressed';
+    part(this.bar, '[data-does="' + name + '"]').setAttribute(attribute, String(on));
   }
 
-  #wire() {
+  /** Lets the reader type a page number. */
+  askForPage() {
+    this.show();
+    this.box.focus();
+  }
+
+  toggleFullScreen() {
+    const done = document.fullscreenElement
+      ? document.exitFullscreen() : document.documentElement.requestFullscreen();
+    done.catch(() => {});
+  }
+
+  #hide() {
+    const used = this.bar.matches(':hover') || this.bar.querySelector(':focus-visible')
+      || this.root.querySelector('dialog[open], .drawer:not([hidden])');
+    if (used) {
+      this.show();
+      return;
+    }
+    this.root.dataset.idle = 'yes';
+    this.tips.hide();
+  }
+
+  #wireButtons() {
     const { turner, root } = this;
     const { rightToLeft } = turner.book.config;
-    for (const button of root.querySelectorAll('[data-turn]')) {
+    for (const button of root.querySelectorAll('button[data-turn]')) {
       const onward = (/** @type {HTMLElement} */ (button).dataset.turn === 'right') !== rightToLeft;
-      button.setAttribute('aria-label', onward ? 'Next page' : 'Previous page');
-      button.setAttribute('title', onward ? 'Next page' : 'Previous page');
+      button.setAttribute('aria-label', say(onward ? 'next' : 'previous'));
       button.addEventListener('click', () => turner.step(onward ? 1 : -1));
     }
-    root.addEventListener('pointermove', (event) => {
+    for (const button of this.bar.querySelectorAll('[data-does]')) {
+      const { does = '', key } = /** @type {HTMLElement} */ (button).dataset;
+      if (key) button.setAttribute('aria-keyshortcuts', key);
+      button.addEventListener('click', () => this.commands[does]());
+    }
+  }
+
+  /** The bar comes with a pointer, a finger or a key. */
+  #wireComing() {
+    this.root.addEventListener('pointermove', (event) => {
       if (event.pointerType === 'mouse') this.show();
     });
-    window.addEventListener('keydown', () => this.show());
+    this.root.addEventListener('pointerdown', (event) => {
+      this.idleTime = event.pointerType === 'mouse' ? IDLE_MS : IDLE_TOUCH_MS;
+      this.cameNow = this.root.dataset.idle === 'yes';
+      this.show();
+    }, { capture: true });
+    window.addEventListener('keydown', () => this.show(), { capture: true });
     this.bar.addEventListener('focusin', () => this.show());
-    this.#wirePageBox();
-    this.#wireSwitch('.play', () => this.slideshow.run(!this.slideshow.running));
-    this.#wireSwitch('.sound', () => {
-      this.sounds.switchTo(!this.sounds.on);
-      this.#press('.sound', this.sounds.on);
-    });
-    this.#press('.sound', true);
-    this.slideshow.onChange = () => this.#press('.play', this.slideshow.running);
-    this.#wireFullScreen();
   }
 
   #wirePageBox() {
@@ -101,37 +133,39 @@ export class Toolbar {
     this.box.addEventListener('keydown', (event) => {
       if (event.key === 'Escape') this.box.blur();
       if (event.key !== 'Enter') return;
-      const page = Number.parseInt(this.box.value, 10);
-      if (page > 0) this.turner.go(this.turner.book.views.viewOf(page));
+      const page = pageIn(this.box.value);
+      if (page < 1 || page > this.turner.book.views.pageCount) {
+        this.#writePages();
+        this.box.select();
+        return;
+      }
+      this.turner.go(this.turner.book.views.viewOf(page));
       this.box.blur();
     });
   }
 
+  #writePages() {
+    this.box.value = this.turner.book.views.pagesOf(this.turner.current).join('\u2013');
+  }
+
+  /** @param {number} pageCount */
+  #writeCount(pageCount) {
+    this.count.textContent = String(pageCount);
+    this.box.style.width = Math.max(4, 2.4 + String(pageCount).length * 1.22) + 'em';
+  }
+
   #wireFullScreen() {
-    const button = this.#find('.full');
-    button.hidden = !document.fullscreenEnabled;
-    this.#wireSwitch('.full', () => {
-      const done = document.fullscreenElement
-        ? document.exitFullscreen() : document.documentElement.requestFullscreen();
-      done.catch(() => {});
-    });
+    part(this.bar, '[data-does="full"]').hidden = !document.fullscreenEnabled;
     document.addEventListener('fullscreenchange',
-      () => this.#press('.full', document.fullscreenElement !== null));
+      () => this.press('full', document.fullscreenElement !== null));
   }
+}
 
-  /**
-   * @param {string} selector
-   * @param {() => void} action
-   */
-  #wireSwitch(selector, action) {
-    this.#find(selector).addEventListener('click', action);
-  }
-
-  /**
-   * @param {string} selector
-   * @param {boolean} pressed
-   */
-  #press(selector, pressed) {
-    this.#find(selector).setAttribute('aria-pressed', String(pressed));
-  }
+/**
+ * Page that a reader's text names, "12" as well as "4-5"; 0 when it names none.
+ * @param {string} text
+ */
+function pageIn(text) {
+  const match = /^\s*(\d+)\s*(?:[-\u2013\u2014/,]\s*\d+\s*)?$/.exec(text);
+  return match ? Number(match[1]) : 0;
 }

@@ -1,38 +1,9 @@
-import { reachable, turnedShare } from './fold.js';
-import { LeafPainter } from './leaf.js';
+import { Leaf } from './leaf.js';
+import { painterFor } from './turnings.js';
 
 /** @typedef {import('./book.js').Book} Book */
-/** @typedef {import('./book.js').Side} Side */
 /** @typedef {import('./fold.js').Point} Point */
-
-/**
- * A way of the grabbed point that runs by itself.
- * @typedef {object} Motion
- * @property {number} start time stamp of the first frame, 0 before it
- * @property {number} time milliseconds
- * @property {Point} from
- * @property {Point} to
- * @property {number} lift how far the way bends towards the middle of the leaf
- * @property {number} slideFrom
- * @property {number} slideTo
- * @property {'over' | 'back' | 'peek'} end
- */
-
-/**
- * The leaf in the air.
- * @typedef {object} Leaf
- * @property {number} from view that is left
- * @property {number} to
- * @property {Side} side on which the leaf lies while it is flat
- * @property {boolean} reversed comes back from being turned over (single pages, backwards)
- * @property {number} front page
- * @property {number} back page, 0 for none
- * @property {import('./leaf.js').LeafLook} look
- * @property {Point} edge
- * @property {Point} held
- * @property {number} slide 0 to 1: how far the book has moved to where the new view stands
- * @property {Motion | null} motion none while a pointer holds the leaf
- */
+/** @typedef {import('./leaf.js').Motion} Motion */
 
 const QUICK_MS = 220;
 const HURRIED_MS = 110;
@@ -48,6 +19,7 @@ export class Turner {
     this.book = book;
     this.canvas = canvas;
     this.context = /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
+    this.painter = painterFor(book.root.dataset.turn);
     this.current = 0;
     /** @type {Leaf | null} */
     this.leaf = null;
@@ -126,12 +98,10 @@ export class Turner {
 
   /**
    * @param {Point} held where the pointer drags the edge to, in the leaf's coordinates
-   * @param {number} slide
    */
-  drag(held, slide) {
+  drag(held) {
     if (!this.leaf || this.leaf.motion) return;
-    this.leaf.held = reachable(held, this.leaf.edge, this.book.layout.pageHeight);
-    this.leaf.slide = slide;
+    this.leaf.held = this.painter.reach(held, this.leaf);
     this.#requestFrame();
   }
 
@@ -151,11 +121,12 @@ export class Turner {
   peek(view, edgeShare) {
     if (this.leaf || this.calm.matches || view !== this.book.views.clamp(view)) return;
     const leaf = this.#lift(view, edgeShare);
-    const { pageWidth } = this.book.layout;
+    const { peek } = this.painter;
     const inward = edgeShare < 0.5 ? 1 : -1;
     this.#move(leaf, {
       end: 'peek', time: this.book.config.riseTime * 700, lift: 0, slideTo: 0,
-      to: { x: leaf.edge.x - pageWidth * 0.1, y: leaf.edge.y + inward * pageWidth * 0.045 },
+      to: { x: leaf.held.x + (leaf.reversed ? peek.x : -peek.x) * leaf.width,
+        y: leaf.edge.y + inward * peek.y * leaf.width },
     });
   }
 
@@ -194,31 +165,13 @@ export class Turner {
    */
   #lift(to, edgeShare) {
     const { book, current: from } = this;
-    const { spread, pageWidth, pageHeight } = book.layout;
-    const { rightToLeft } = book.config;
-    const forward = to > from;
-    const reversed = !spread && !forward;
-    /** @type {Side} */
-    const side = (spread ? forward !== rightToLeft : !rightToLeft) ? 'right' : 'left';
-    const other = side === 'left' ? 'right' : 'left';
-    const here = book.views.at(from);
-    const there = book.views.at(to);
     book.keep([to, from]);
-    const front = reversed ? there[side] : here[side];
-    const back = spread ? there[other] : 0;
-    const beneath = reversed ? here : { ...there, [other]: here[other] };
-    const edge = { x: pageWidth, y: edgeShare * pageHeight };
-    const look = {
-      ...book.faces(front, back, side, this.density),
-      width: pageWidth, height: pageHeight, mirrored: side === 'left', overPage: beneath[side] > 0,
-    };
-    const held = reversed ? { x: -edge.x, y: edge.y } : { ...edge };
-    this.leaf = {
-      from, to, side, reversed, front, back, look, edge, held, slide: 0, motion: null,
-    };
+    const leaf = new Leaf(book, this.painter, from, to, edgeShare);
+    leaf.drawFaces(this.density);
+    this.leaf = leaf;
     this.#draw();
-    book.show(beneath, Math.min(from, to) / Math.max(1, book.views.count - 1));
-    return this.leaf;
+    book.show(leaf.beneath, Math.min(from, to) / Math.max(1, book.views.count - 1));
+    return leaf;
   }
 
   /**
@@ -295,7 +248,7 @@ export class Turner {
       y: motion.from.y + (motion.to.y - motion.from.y) * eased
         + motion.lift * Math.sin(Math.PI * eased),
     };
-    leaf.held = reachable(wanted, leaf.edge, this.book.layout.pageHeight);
+    leaf.held = this.painter.reach(wanted, leaf);
     leaf.slide = motion.slideFrom + (motion.slideTo - motion.slideFrom) * eased;
   }
 
@@ -333,24 +286,19 @@ export class Turner {
     if (!leaf) return;
     const { book, context, density } = this;
     const { spineX, bookTop } = book.layout;
-    const fromShift = book.shiftFor(leaf.from);
-    const shift = fromShift + (book.shiftFor(leaf.to) - fromShift) * leaf.slide;
+    const { shift } = leaf;
     this.#clear();
-    context.setTransform(density, 0, 0, density, (spineX + shift) * density, bookTop * density);
-    if (!book.layout.spread) {
-      const gone = turnedShare(leaf.held, book.layout.pageWidth);
-      context.globalAlpha = Math.min(1, (1 - gone) * 6);
-    }
-    new LeafPainter(context, density).draw(leaf.look, leaf.held, leaf.edge);
-    context.globalAlpha = 1;
+    context.setTransform(density, 0, 0, density,
+      Math.round((spineX + shift) * density), Math.round(bookTop * density));
+    this.painter.draw(context, leaf, density);
     book.moveTo(shift);
   }
 
   /** @param {number} page */
   #imageArrived(page) {
     const leaf = this.leaf;
-    if (!leaf || (leaf.front !== page && leaf.back !== page)) return;
-    Object.assign(leaf.look, this.book.faces(leaf.front, leaf.back, leaf.side, this.density));
+    if (!leaf?.shows(page)) return;
+    leaf.drawFaces(this.density);
     this.#requestFrame();
   }
 
@@ -358,14 +306,12 @@ export class Turner {
   #fadeTo(view) {
     if (this.fading) this.fading.finish();
     const { book, context, density } = this;
-    const { spineX, bookTop, pageWidth, pageHeight, spread } = book.layout;
-    const { left, right } = book.views.at(this.current);
-    const { front, back } = spread
-      ? book.faces(left, right, 'left', density) : book.faces(left || right, 0, 'left', density);
+    const { spineX, bookTop, pageWidth, pageHeight } = book.layout;
+    const pages = book.views.at(this.current);
     const originX = (spineX + book.shiftFor(this.current)) * density;
     context.setTransform(density, 0, 0, density, originX, bookTop * density);
-    if (left) context.drawImage(front, -pageWidth, 0, pageWidth, pageHeight);
-    if (right) context.drawImage(spread ? back : front, 0, 0, pageWidth, pageHeight);
+    context.drawImage(book.viewFace(pages, density), pages.left ? -pageWidth : 0, 0,
+      (pages.left && pages.right ? 2 : 1) * pageWidth, pageHeight);
     this.fading = this.canvas.animate({ opacity: [1, 0] }, FADE_MS);
     this.fading.onfinish = () => {
       this.fading = null;

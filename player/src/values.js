@@ -41,9 +41,19 @@ export function luminance(colour) {
 }
 
 /**
+ * A path that the configuration names, or nothing when it leads out of the book's files folder.
+ * @param {string} text
+ */
+export function ownFile(text) {
+  const path = text.trim();
+  const leadsOut = /^[a-z][a-z0-9+.-]*:|^\/|\\|(?:^|\/)\.\.?(?:\/|$)/i.test(path);
+  return leadsOut ? '' : path;
+}
+
+/**
  * Address of a file that the configuration names, as the page can load it.
- * @param {string} path relative to the book's files folder
+ * @param {string} path relative to the book's files folder; an empty one has no address
  */
 export function fileAddress(path) {
-  return 'files/' + path.split('/').map(encodeURIComponent).join('/');
+  return path && 'files/' + path.split('/').map(encodeURIComponent).join('/');
 }

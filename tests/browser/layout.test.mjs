@@ -90,3 +90,25 @@ test('a long book keeps few pages and shows the right ones', async () => {
     assert.match((await book.picture(side)).source, new RegExp(`/page/${page}\\.jpg$`));
   }
 });
+
+test('a template of single pages never shows two, however wide the window', async () => {
+  const folder = await reader.book({ pages: plainPages(5, 160, 90), look: { pages: 'single' } });
+  const book = await reader.openFromDisk(folder, { view: { viewport: { width: 1800, height: 500 } } });
+  assert.deepEqual(await book.pages(), [1]);
+  await book.page.keyboard.press('ArrowRight');
+  assert.deepEqual(await book.pages(), [2]);
+  const { x, width } = await book.box('right');
+  near(x + width / 2, 900, 1, 'middle of the page');
+});
+
+for (const [binding, shaded] of [['yes', true], ['no', false]]) {
+  test(`pages darken towards the middle and lie on others, binding: ${binding}`, async () => {
+    const folder = await reader.book({ pages: plainPages(60), look: { binding } });
+    const book = await reader.openFromDisk(folder, { hash: '#page=30' });
+    const { x, y, width } = await book.box('left');
+    const inner = await book.colourAt(x + width - 2, y + 200);
+    assert.equal(String(inner) !== String(colourOf(30)), shaded, `colour at the spine: ${inner}`);
+    const stack = await book.page.locator('.stack.left').evaluate((element) => element.offsetWidth);
+    assert.equal(stack > 0, shaded, `width of the stack: ${stack}`);
+  });
+}

@@ -8,9 +8,12 @@ before(async () => { reader = await Reader.start(); });
 afterEach(() => reader.closeBooks());
 after(() => reader.stop());
 
-async function open(count, { values, hash, view, reducedMotion } = {}) {
-  return reader.openFromDisk(await reader.book({ pages: plainPages(count), values }), { hash, view, reducedMotion });
+async function open(count, { values, look, hash, view, reducedMotion } = {}) {
+  const folder = await reader.book({ pages: plainPages(count), values, look });
+  return reader.openFromDisk(folder, { hash, view, reducedMotion });
 }
+
+const KINDS = ['curl', 'flip', 'slide'];
 
 async function edges(book) {
   const left = await book.box('left');
@@ -209,4 +212,46 @@ test('readers who want little motion see pages change without a leaf', async () 
   await book.waitForPages(2, 3);
   await book.page.waitForTimeout(400);
   assert.deepEqual(await book.colourOf('left'), colourOf(2));
+});
+
+for (const turn of KINDS) {
+  for (const RightToLeft of ['No', 'Yes']) {
+    test(`pages that ${turn} follow keys, drags and flicks, right to left: ${RightToLeft}`, async () => {
+      const book = await open(9, { look: { turn }, values: { RightToLeft }, hash: '#page=2' });
+      const onward = RightToLeft === 'Yes' ? 1 : -1;
+      const [reading, other] = onward < 0 ? ['right', 'left'] : ['left', 'right'];
+      await book.page.keyboard.press('PageDown');
+      await book.waitForPages(4, 5);
+      const from = [640 - onward * 400, 350];
+      await book.drag(from, [640 + onward * 300, 330], { pause: 200 });
+      await book.waitForPages(6, 7);
+      assert.deepEqual(await book.colourOf(other), colourOf(6));
+      assert.deepEqual(await book.colourOf(reading), colourOf(7));
+      await book.drag(from, [from[0] + onward * 60, 350], { pause: 200 });
+      assert.deepEqual(await book.pages(), [6, 7], 'let go early');
+      await book.drag([640 + onward * 400, 350], [640 - onward * 300, 340], { pause: 200 });
+      await book.waitForPages(4, 5);
+      assert.deepEqual(await book.colourOf(reading), colourOf(5));
+      assert.deepEqual(book.errors, []);
+    });
+  }
+}
+
+test('a page that slides keeps under the finger and uncovers the next', async () => {
+  const book = await open(5, { look: { turn: 'slide', pages: 'single' }, hash: '#page=2' });
+  const box = await book.box('right');
+  const { mouse } = book.page;
+  await mouse.move(640, 300);
+  await mouse.down();
+  await mouse.move(500, 300, { steps: 4 });
+  await mouse.move(340, 300, { steps: 4 });
+  await book.page.waitForFunction(() => window.folvero.turning);
+  await book.page.waitForTimeout(150);
+  const trail = [box.x + box.width - 308, box.x + box.width - 292];
+  assert.deepEqual(await book.colourAt(trail[0], 300), colourOf(2), 'what slides ends 300 pixels further left');
+  assert.notDeepEqual(await book.colourAt(trail[1], 300), colourOf(2));
+  await mouse.up();
+  await book.waitForPages(3);
+  await book.drag([500, 300], [800, 300], { pause: 200 });
+  await book.waitForPages(2);
 });

@@ -84,13 +84,17 @@ export async function writeConfiguration(folder, bytes) {
 
 /**
  * Writes a book as the publisher would, from the built template.
- * extras: further files by their path in the files folder.
+ * extras: further files by their path in the files folder; look: how the template turns and lays out
+ * pages, in place of what it says itself, as { turn, pages, binding }.
  */
-export async function writeBook(folder, { template, pages, values, declaredSize, extras = {}, title = 'Test book' }) {
+export async function writeBook(folder, options) {
+  const { template, pages, values, declaredSize, extras = {}, look = {}, title = 'Test book' } = options;
   await mkdir(path.join(folder, 'files/page'), { recursive: true });
   await mkdir(path.join(folder, 'files/extfiles'), { recursive: true });
   const shell = await readFile(path.join(template, 'index.html'), 'utf8');
-  const html = shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => (name === 'index.title' ? title : ''));
+  const html = Object.entries(look).reduce((page, [name, value]) => page.replace(
+    new RegExp(`(<div id="folvero"[^>]* data-${name}=")[^"]*`), (_, before) => before + value),
+  shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => (name === 'index.title' ? title : '')));
   await writeFile(path.join(folder, 'index.html'), html);
   for (const [index, page] of pages.entries()) {
     await writeFile(path.join(folder, 'files/page', `${index + 1}.jpg`), page.bytes);

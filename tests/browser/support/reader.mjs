@@ -45,22 +45,24 @@ export class Reader {
   }
 
   /** Opens a book folder from disk. */
-  async openFromDisk(folder, { view = DESK, hash = '', reducedMotion } = {}) {
-    return this.#open(pathToFileURL(path.join(folder, 'index.html')).href + hash, view, reducedMotion);
+  async openFromDisk(folder, { hash = '', ...options } = {}) {
+    return this.#open(pathToFileURL(path.join(folder, 'index.html')).href + hash, options);
   }
 
   /** Opens a book folder over http; the result's server tells the requests. */
-  async openOverHttp(folder, { view = DESK, hash = '', reducedMotion } = {}) {
+  async openOverHttp(folder, { hash = '', ...options } = {}) {
     const server = await serve(folder);
     this.servers.push(server);
-    const opened = await this.#open(server.address + hash, view, reducedMotion);
+    const opened = await this.#open(server.address + hash, options);
     opened.server = server;
     return opened;
   }
 
-  async #open(address, view, reducedMotion) {
+  /** before: what is done with the browser's page before it goes to the book. */
+  async #open(address, { view = DESK, reducedMotion, before = () => {} }) {
     const page = await this.browser.newPage({ ...view, reducedMotion });
     const opened = new OpenBook(page);
+    await before(page);
     await page.goto(address);
     await page.waitForSelector('#folvero:is([data-state="ready"], [data-state="error"])', { timeout: 20000 });
     return opened;

@@ -1,0 +1,226 @@
+import { make, part } from './dom.js';
+import { Thumbnails } from './thumbnails.js';
+import { say } from './words.js';
+
+/** @typedef {import('./book.js').Book} Book */
+
+/** Room between thumbnails, and how far beyond the edges they are made ready, in CSS pixels. */
+const GAP = 14;
+const AHEAD = 320;
+const LARGEST = { width: 150, height: 128 };
+const LEAST = 36;
+
+/** The thumbnails of all pages; only those in sight are in the document. */
+export class Drawer {
+  /**
+   * @param {HTMLElement} root
+   * @param {Book} book
+   * @param {(page: number) => void} goTo
+   */
+  constructor(root, book, goTo) {
+    this.root = root;
+    this.book = book;
+    this.goTo = goTo;
+    this.element = part(root, '.drawer');
+    this.strip = part(root, '.strip');
+    this.track = part(root, '.track');
+    this.size = thumbSize(book.config.thumbs[0]);
+    this.thumbnails = new Thumbnails(book.config.thumbs, book.config.pages, this.size,
+      (page, picture) => this.#putPicture(page, picture));
+    this.active = 1;
+    /** @type {number[]} */
+    this.inView = [];
+    /** @type {Map<number, HTMLElement>} */
+    this.shown = new Map();
+    this.frame = 0;
+    this.onToggle = () => {};
+    this.#wire();
+  }
+
+  get open() {
+    return !this.element.hidden;
+  }
+
+  toggle() {
+    if (this.open) this.hide();
+    else this.show();
+  }
+
+  show() {
+    this.element.hidden = false;
+    this.active = this.inView[0];
+    this.lay();
+    this.strip.focus({ preventScroll: true });
+    this.onToggle();
+  }
+
+  hide() {
+    if (!this.open) return;
+    const hadFocus = this.element.contains(document.activeElement);
+    this.element.hidden = true;
+    this.onToggle();
+    if (hadFocus) part(this.root, '[data-does="thumbs"]').focus({ preventScroll: true });
+  }
+
+  /**
+   * Marks the pages that the reader sees.
+   * @param {number[]} pages
+   */
+  mark(pages) {
+    this.inView = pages;
+    if (!this.open) return;
+    if (!pages.includes(this.active)) this.#activate(pages[0]);
+    else this.#fill();
+  }
+
+  /** Lays the strip out anew, with the marked page in the middle. */
+  lay() {
+    if (!this.open) return;
+    const { pageCount } = this.book.views;
+    this.strip.dir = this.book.config.rightToLeft ? 'rtl' : 'ltr';
+    this.element.style.setProperty('--thumb-width', this.size.width + 'px');
+    this.element.style.setProperty('--thumb-height', this.size.height + 'px');
+    this.track.style.width = this.#placeOf(pageCount) + this.size.width + 'px';
+    for (const item of this.shown.values()) item.remove();
+    this.shown.clear();
+    const middle = this.#placeOf(this.active) + this.size.width / 2;
+    this.#scrollTo(middle - this.strip.clientWidth / 2);
+    this.#fill();
+  }
+
+  #wire() {
+    const { strip } = this;
+    strip.addEventListener('scroll', () => {
+      if (!this.frame) this.frame = requestAnimationFrame(() => this.#fill());
+    }, { passive: true });
+    strip.addEventListener('wheel', (event) => {
+      if (Math.abs(event.deltaY) <= Math.abs(event.deltaX)) return;
+      this.#scrollTo(Math.abs(strip.scrollLeft) + event.deltaY);
+    }, { passive: true });
+    strip.addEventListener('keydown', (event) => this.#key(event));
+    strip.addEventListener('click', (event) => {
+      const item = /** @type {HTMLElement} */ (event.target).closest('.thumb');
+      if (item) this.#choose(Number(/** @type {HTMLElement} */ (item).dataset.page));
+    });
+  }
+
+  /** @param {KeyboardEvent} event */
+  #key(event) {
+    const { pageCount } = this.book.views;
+    const onward = this.book.config.rightToLeft ? -1 : 1;
+    const screenful = Math.max(1, Math.floor(this.strip.clientWidth / (this.size.width + GAP)));
+    /** @type {Record<string, number>} */
+    const targets = {
+      ArrowRight: this.active + onward, ArrowLeft: this.active - onward,
+      PageDown: this.active + screenful, PageUp: this.active - screenful, Home: 1, End: pageCount,
+    };
+    if (event.key === 'Enter' || event.key === ' ') this.#choose(this.active);
+    else if (event.key in targets) {
+      this.#activate(Math.min(pageCount, Math.max(1, targets[event.key])));
+    } else return;
+    event.preventDefault();
+    event.stopPropagation();
+  }
+
+  /** @param {number} page */
+  #choose(page) {
+    this.active = page;
+    this.goTo(page);
+    if (this.book.layout.spread) this.#fill();
+    else this.hide();
+  }
+
+  /** @param {number} page */
+  #activate(page) {
+    this.active = page;
+    const start = this.#placeOf(page) - GAP;
+    const end = start + this.size.width + 2 * GAP;
+    const left = Math.abs(this.strip.scrollLeft);
+    if (start < left) this.#scrollTo(start);
+    else if (end > left + this.strip.clientWidth) this.#scrollTo(end - this.strip.clientWidth);
+    this.#fill();
+  }
+
+  /**
+   * Where a thumbnail begins; the two pages of a spread lie side by side.
+   * @param {number} page
+   */
+  #placeOf(page) {
+    const { width } = this.size;
+    if (!this.book.layout.spread) return (page - 1) * (width + GAP);
+    return Math.floor(page / 2) * (2 * width + GAP) + (page % 2) * width - width;
+  }
+
+  /** @param {number} distance from where the book begins */
+  #scrollTo(distance) {
+    this.strip.scrollLeft = this.book.config.rightToLeft ? -distance : distance;
+  }
+
+  /** Brings the thumbnails in sight into the document and takes the others out. */
+  #fill() {
+    this.frame = 0;
+    if (!this.open) return;
+    const { pageCount } = this.book.views;
+    const from = Math.abs(this.strip.scrollLeft) - AHEAD;
+    const to = from + this.strip.clientWidth + 2 * AHEAD;
+    const step = this.#placeOf(3) / 2 - this.#placeOf(1) / 2;
+    const pages = new Set([this.active]);
+    for (let page = Math.max(1, Math.floor(from / step)); page <= pageCount; page++) {
+      if (this.#placeOf(page) > to) break;
+      pages.add(page);
+    }
+    for (const [page, item] of this.shown) {
+      if (!pages.has(page)) {
+        item.remove();
+        this.shown.delete(page);
+      }
+    }
+    for (const page of pages) this.#showItem(page);
+    this.strip.setAttribute('aria-activedescendant', 'thumb-' + this.active);
+    const middle = (from + to) / 2;
+    /** @param {number} page */
+    const away = (page) => Math.abs(this.#placeOf(page) - middle);
+    this.thumbnails.want([...pages].sort((a, b) => away(a) - away(b)));
+  }
+
+  /** @param {number} page */
+  #showItem(page) {
+    let item = this.shown.get(page);
+    if (!item) {
+      item = make('div', 'thumb', make('span', 'thumb-picture'), make('span', '', String(page)));
+      item.id = 'thumb-' + page;
+      item.dataset.page = String(page);
+      item.style.insetInlineStart = this.#placeOf(page) + 'px';
+      item.setAttribute('role', 'option');
+      item.setAttribute('aria-label', say('page', page));
+      item.setAttribute('aria-setsize', String(this.book.views.pageCount));
+      item.setAttribute('aria-posinset', String(page));
+      this.shown.set(page, item);
+      this.track.append(item);
+      const picture = this.thumbnails.kept.get(page);
+      if (picture !== undefined) this.#putPicture(page, picture);
+    }
+    item.setAttribute('aria-selected', String(page === this.active));
+    if (this.inView.includes(page)) item.setAttribute('aria-current', 'page');
+    else item.removeAttribute('aria-current');
+  }
+
+  /**
+   * @param {number} page
+   * @param {HTMLCanvasElement | null} picture
+   */
+  #putPicture(page, picture) {
+    const frame = this.shown.get(page)?.querySelector('.thumb-picture');
+    if (!frame) return;
+    frame.replaceChildren(picture ?? '');
+    frame.classList.add(picture ? 'drawn' : 'missing');
+  }
+}
+
+/** @param {{width: number, height: number}} declared */
+function thumbSize({ width, height }) {
+  const least = Math.max(1, LEAST / Math.min(width, height));
+  const most = Math.min(LARGEST.width / width, LARGEST.height / height);
+  const scale = Math.min(least, most);
+  return { width: Math.round(width * scale), height: Math.round(height * scale) };
+}

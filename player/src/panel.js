@@ -1,0 +1,47 @@
+import { part } from './dom.js';
+
+/**
+ * A dialog over the book. The browser keeps what lies behind it out of reach and gives the focus
+ * back when it closes.
+ */
+export class Panel {
+  /** @param {HTMLElement} element a dialog with a button to close it */
+  constructor(element) {
+    this.dialog = /** @type {HTMLDialogElement} */ (element);
+    this.dialog.addEventListener('click', (event) => {
+      if (event.target === this.dialog) this.close();
+    });
+    this.dialog.addEventListener('keydown', (event) => this.#key(event));
+    this.dialog.addEventListener('close', () => this.onClose());
+    part(element, '.close').addEventListener('click', () => this.close());
+    this.onClose = () => {};
+  }
+
+  get shown() {
+    return this.dialog.open;
+  }
+
+  open() {
+    if (!this.dialog.open) this.dialog.showModal();
+  }
+
+  close() {
+    this.dialog.close();
+  }
+
+  /**
+   * Keys typed here do not turn pages, and the tab key stays among the panel's controls.
+   * @param {KeyboardEvent} event
+   */
+  #key(event) {
+    event.stopPropagation();
+    if (event.key !== 'Tab') return;
+    const controls = [...this.dialog.querySelectorAll('button, input')]
+      .filter((control) => control.getClientRects().length && !control.matches(':disabled'));
+    const [end, start] = event.shiftKey ? [controls[0], controls.at(-1)]
+      : [controls.at(-1), controls[0]];
+    if (document.activeElement !== end) return;
+    event.preventDefault();
+    /** @type {HTMLElement} */ (start).focus();
+  }
+}

@@ -1,0 +1,82 @@
+import { part } from './dom.js';
+import { Panel } from './panel.js';
+import { say } from './words.js';
+
+/** @typedef {import('./sheets.js').Sheets} Sheets */
+
+/** The panel in which the reader chooses what to print. */
+export class Printing {
+  /**
+   * @param {HTMLElement} root
+   * @param {Sheets} sheets
+   * @param {number} pageCount
+   * @param {() => number[]} pagesInView
+   */
+  constructor(root, sheets, pageCount, pagesInView) {
+    this.panel = new Panel(part(root, '.print-panel'));
+    this.sheets = sheets;
+    this.pageCount = pageCount;
+    this.pagesInView = pagesInView;
+    this.form = /** @type {HTMLFormElement} */ (part(this.panel.dialog, 'form'));
+    this.from = this.#input('.from');
+    this.to = this.#input('.to');
+    this.note = part(this.form, '.note');
+    this.start = /** @type {HTMLButtonElement} */ (part(this.form, '.main-button'));
+    for (const box of [this.from, this.to]) {
+      box.addEventListener('focus', () => { this.#input('[value="some"]').checked = true; });
+    }
+    this.form.addEventListener('submit', (event) => {
+      event.preventDefault();
+      this.#print();
+    });
+    this.panel.onClose = () => sheets.cancel();
+  }
+
+  open() {
+    const pages = this.pagesInView();
+    part(this.form, '.these').textContent = say(pages.length > 1 ? 'printThese' : 'printThis');
+    part(this.form, '.these-count').textContent = pages.join(' \u2013 ');
+    part(this.form, '.all-count').textContent = String(this.pageCount);
+    this.#input('[value="these"]').checked = true;
+    this.from.value = String(pages[0]);
+    this.to.value = String(pages.at(-1));
+    this.#tell('');
+    this.panel.open();
+  }
+
+  /** @returns {number[] | null} none when the reader's page numbers name no pages */
+  #chosen() {
+    const choice = new FormData(this.form).get('what');
+    if (choice === 'these') return this.pagesInView();
+    const [from, to] = choice === 'all' ? [1, this.pageCount]
+      : [Number(this.from.value), Number(this.to.value)];
+    if (!Number.isInteger(from) || !Number.isInteger(to)) return null;
+    if (from < 1 || to > this.pageCount || from > to) return null;
+    return Array.from({ length: to - from + 1 }, (_, index) => from + index);
+  }
+
+  async #print() {
+    const pages = this.#chosen();
+    if (!pages) {
+      this.#tell(say('printWrong', this.pageCount));
+      this.from.focus();
+      return;
+    }
+    this.start.disabled = true;
+    const printed = await this.sheets.print(pages,
+      (done) => this.#tell(say('printWait', done, pages.length)));
+    this.start.disabled = false;
+    this.#tell('');
+    if (printed) this.panel.dialog.close();
+  }
+
+  /** @param {string} text */
+  #tell(text) {
+    this.note.textContent = text;
+  }
+
+  /** @param {string} selector */
+  #input(selector) {
+    return /** @type {HTMLInputElement} */ (part(this.form, selector));
+  }
+}

@@ -1,0 +1,66 @@
+import { part } from './dom.js';
+import { Panel } from './panel.js';
+import { say } from './words.js';
+
+/** The panel that gives the book's link away. */
+export class Sharing {
+  /**
+   * @param {HTMLElement} root
+   * @param {() => number} currentPage
+   */
+  constructor(root, currentPage) {
+    this.panel = new Panel(part(root, '.share-panel'));
+    this.currentPage = currentPage;
+    this.link = this.#input('.link');
+    this.atPage = this.#input('.at-page');
+    this.copyButton = this.#part('.copy');
+    this.#part('.on-disk').hidden = location.protocol !== 'file:';
+    this.atPage.addEventListener('change', () => this.#write());
+    this.copyButton.addEventListener('click', () => this.#copy());
+    this.link.addEventListener('focus', () => this.link.select());
+    const send = this.#part('.send');
+    send.hidden = !navigator.share || location.protocol === 'file:';
+    send.addEventListener('click', () => {
+      navigator.share({ title: document.title, url: this.link.value }).catch(() => {});
+    });
+  }
+
+  open() {
+    const page = this.currentPage();
+    this.atPage.checked = page > 1;
+    this.#part('.at-page-text').textContent = say('shareAtPage', page);
+    this.#write();
+    this.panel.open();
+  }
+
+  #write() {
+    const book = location.href.split('#')[0];
+    this.link.value = this.atPage.checked ? book + '#page=' + this.currentPage() : book;
+    this.copyButton.textContent = say('copy');
+    this.#part('.by-hand').textContent = '';
+  }
+
+  async #copy() {
+    try {
+      await navigator.clipboard.writeText(this.link.value);
+    } catch {
+      this.link.select();
+      // Pages from disk and over plain http have no clipboard but this older way.
+      if (!document.execCommand('copy')) {
+        this.#part('.by-hand').textContent = say('copyByHand');
+        return;
+      }
+    }
+    this.copyButton.textContent = say('copied');
+  }
+
+  /** @param {string} selector */
+  #part(selector) {
+    return part(this.panel.dialog, selector);
+  }
+
+  /** @param {string} selector */
+  #input(selector) {
+    return /** @type {HTMLInputElement} */ (this.#part(selector));
+  }
+}

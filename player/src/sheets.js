@@ -1,0 +1,93 @@
+import { make, part } from './dom.js';
+import { fileAddress } from './values.js';
+import { say } from './words.js';
+
+/** @typedef {import('./config.js').PageEntry} PageEntry */
+
+/** Pages laid out for the printer, one a sheet; their images are there for the print only. */
+export class Sheets {
+  /**
+   * @param {PageEntry[]} pages
+   * @param {() => number[]} pagesInView printed when the reader uses the browser's own command
+   */
+  constructor(pages, pagesInView) {
+    this.pages = pages;
+    this.element = part(document, '.sheets');
+    this.run = 0;
+    window.addEventListener('beforeprint', () => {
+      if (this.element.childElementCount === 0) this.#lay(pagesInView().map((n) => this.#sheet(n)));
+    });
+    window.addEventListener('afterprint', () => this.clear());
+  }
+
+  get imagesKept() {
+    return this.element.querySelectorAll('img').length;
+  }
+
+  /**
+   * Loads pages one after the other and hands them to the printer.
+   * @param {number[]} pages
+   * @param {(done: number) => void} progress
+   * @returns {Promise<boolean>} false when it was called off
+   */
+  async print(pages, progress) {
+    this.clear();
+    const run = this.run;
+    const sheets = [];
+    for (const page of pages) {
+      progress(sheets.length + 1);
+      const sheet = this.#sheet(page);
+      await arrived(sheet, say('pageMissing', page));
+      if (run !== this.run) return false;
+      sheets.push(sheet);
+    }
+    this.#lay(sheets);
+    window.print();
+    return true;
+  }
+
+  /** Calls off a print that is being prepared. */
+  cancel() {
+    this.run++;
+  }
+
+  /** Lets the images go. */
+  clear() {
+    this.cancel();
+    this.element.replaceChildren();
+  }
+
+  /** @param {HTMLElement[]} sheets */
+  #lay(sheets) {
+    const first = sheets[0].querySelector('img');
+    const wide = first && first.naturalWidth > first.naturalHeight;
+    const paper = make('style', '',
+      '@page { margin: 0; size: ' + (wide ? 'landscape' : 'portrait') + ' }');
+    this.element.replaceChildren(paper, ...sheets);
+  }
+
+  /** @param {number} page */
+  #sheet(page) {
+    const image = new Image();
+    image.alt = say('page', page);
+    image.src = fileAddress(this.pages[page - 1].path);
+    return make('div', 'sheet', image);
+  }
+}
+
+/**
+ * Waits for a sheet's image; in place of one that cannot be had stands a note.
+ * @param {HTMLElement} sheet
+ * @param {string} note
+ * @returns {Promise<unknown>}
+ */
+function arrived(sheet, note) {
+  const image = /** @type {HTMLImageElement} */ (sheet.querySelector('img'));
+  return new Promise((resolve) => {
+    image.addEventListener('load', resolve);
+    image.addEventListener('error', () => {
+      sheet.replaceChildren(note);
+      resolve(note);
+    });
+  });
+}

@@ -1,0 +1,44 @@
+import { make, part } from './dom.js';
+
+const TOAST_MS = 8000;
+
+/** A note at the edge of the window that goes by itself, unless the reader is at it. */
+export class Toast {
+  /** @param {HTMLElement} root */
+  constructor(root) {
+    this.element = part(root, '.toast');
+    this.timer = 0;
+    for (const kind of ['pointerenter', 'focusin']) {
+      this.element.addEventListener(kind, () => clearTimeout(this.timer));
+    }
+    for (const kind of ['pointerleave', 'focusout']) {
+      this.element.addEventListener(kind, () => this.#wait());
+    }
+  }
+
+  /**
+   * @param {string} text
+   * @param {string} offer words on its button
+   * @param {() => void} accept
+   */
+  show(text, offer, accept) {
+    const button = make('button', 'plain-button', offer);
+    button.addEventListener('click', () => {
+      this.hide();
+      accept();
+    });
+    this.element.replaceChildren(make('span', '', text), button);
+    this.element.hidden = false;
+    this.#wait();
+  }
+
+  hide() {
+    clearTimeout(this.timer);
+    this.element.hidden = true;
+  }
+
+  #wait() {
+    clearTimeout(this.timer);
+    this.timer = window.setTimeout(() => this.hide(), TOAST_MS);
+  }
+}

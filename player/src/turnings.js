@@ -1,0 +1,29 @@
+import { CurlPainter } from './curl.js';
+import { FlipPainter } from './flip.js';
+import { SlidePainter } from './slide.js';
+
+/** @typedef {import('./fold.js').Point} Point */
+/** @typedef {import('./leaf.js').Leaf} Leaf */
+
+/**
+ * A way in which pages are turned. It draws with the origin of the context at the leaf's binding.
+ * @typedef {object} Painter
+ * @property {boolean} whole the whole view moves, not one leaf of it
+ * @property {number} enough share of the way from which on a leaf let go slowly goes on
+ * @property {Point} peek how far the edge is lifted to show that the page can be turned, as shares
+ *   of the leaf's width
+ * @property {(wanted: Point, leaf: Leaf) => Point} reach nearest place to which the edge can go
+ * @property {(leaf: Leaf, pressX: number) => number} gain way of the edge for each pixel of the
+ *   pointer, which has taken the leaf at pressX
+ * @property {(context: CanvasRenderingContext2D, leaf: Leaf, density: number) => void} draw
+ */
+
+/**
+ * @param {string | undefined} name
+ * @returns {Painter}
+ */
+export function painterFor(name) {
+  if (name === 'flip') return new FlipPainter();
+  if (name === 'slide') return new SlidePainter();
+  return new CurlPainter();
+}

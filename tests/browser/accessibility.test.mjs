@@ -1,0 +1,88 @@
+import assert from 'node:assert/strict';
+import { readFile } from 'node:fs/promises';
+import { createRequire } from 'node:module';
+import { after, afterEach, before, test } from 'node:test';
+import { plainPages, writeConfiguration } from './support/book.mjs';
+import { DESK, PHONE, Reader } from './support/reader.mjs';
+
+let reader;
+let axe;
+before(async () => {
+  reader = await Reader.start();
+  axe = await readFile(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
+});
+afterEach(() => reader.closeBooks());
+after(() => reader.stop());
+
+/** What a check of the page as it stands finds, one line a fault. */
+async function faults(book) {
+  await book.page.evaluate(() => Promise.all(document.getAnimations()
+    .filter(({ effect }) => Number.isFinite(effect.getComputedTiming().endTime)).map(({ finished }) => finished)));
+  await book.page.evaluate(axe);
+  const { violations } = await book.page.evaluate(() => window.axe.run(document));
+  return violations.flatMap(({ id, help, nodes }) => nodes.map(({ html }) => `${id}: ${help}: ${html}`));
+}
+
+const press = (key) => (book) => book.page.keyboard.press(key);
+const states = [
+  ['the cover', DESK, '', () => {}],
+  ['a spread', DESK, '#page=4', () => {}],
+  ['the thumbnails', DESK, '#page=4', press('t')],
+  ['the share panel', DESK, '', press('l')],
+  ['the print panel', DESK, '', press('p')],
+  ['the help panel', DESK, '', press('?')],
+  ['a phone', PHONE, '#page=3', () => {}],
+  ['the menu of a phone', PHONE, '#page=3', (book) => book.page.locator('[data-does="more"]').tap()],
+];
+const looks = [['dark', '0x20262e'], ['light', '0xf4ead2'], ['middling', '0x767676']];
+for (const [name, view, hash, act] of states) {
+  test(`nothing keeps readers with other senses or hands out: ${name}`, async () => {
+    const book = await reader.openFromDisk(await reader.book({ pages: plainPages(8), values: { TutorialTitle: 'Spring' } }),
+      { view, hash });
+    await act(book);
+    assert.deepEqual(await faults(book), []);
+  });
+}
+for (const [name, colour] of looks) {
+  test(`a ${name} bar and drawer can be read`, async () => {
+    const values = { FlashWindowsColor: colour, ThumbnailsBgColor: colour, TutorialTitle: 'https://example.org/' };
+    const book = await reader.openFromDisk(await reader.book({ pages: plainPages(8), values }));
+    await press('t')(book);
+    assert.deepEqual(await faults(book), []);
+  });
+}
+
+test('nothing keeps readers with other senses or hands out: a message and the note of the last page', async () => {
+  const folder = await reader.book({ pages: plainPages(8) });
+  await reader.openFromDisk(folder, { hash: '#page=4' }).then((book) => press('ArrowRight')(book));
+  await writeConfiguration(folder, Buffer.from('noise'));
+  assert.deepEqual(await faults(await reader.openOverHttp(folder)), []);
+});
+
+/** The accent of least contrast between a surface and its writing, over black and over white. */
+async function leastContrast(book) {
+  return book.page.evaluate(() => {
+    const style = getComputedStyle(document.getElementById('folvero'));
+    const channels = (text) => [1, 3, 5].map((at) => parseInt(text.trim().slice(at, at + 2), 16));
+    const light = (rgb) => rgb.map((part) => (part / 255 <= 0.04045 ? part / 255 / 12.92 : ((part / 255 + 0.055) / 1.055) ** 2.4))
+      .reduce((sum, part, index) => sum + part * [0.2126, 0.7152, 0.0722][index], 0);
+    const bar = channels(style.getPropertyValue('--bar'));
+    const ink = light(channels(style.getPropertyValue('--bar-ink')));
+    const opacity = Number(style.getPropertyValue('--bar-opacity'));
+    const [shade, share] = /rgba\((\d+),\d+,\d+,([.\d]+)\)/.exec(style.getPropertyValue('--bar-wash')).slice(1).map(Number);
+    const over = [0, 255].flatMap((ground) => {
+      const seen = bar.map((part) => part * opacity + ground * (1 - opacity));
+      return [seen, seen.map((part) => shade * share + part * (1 - share))];
+    });
+    return Math.min(...over.map((seen) => (Math.max(light(seen), ink) + 0.05) / (Math.min(light(seen), ink) + 0.05)));
+  });
+}
+
+test('the bar can be read over any ground, whatever its colour', async () => {
+  for (const colour of ['0x000000', '0xffffff', '0x777777', '0x757575', '0xff0000', '0x00a0ff', '0x888800', '0x808080']) {
+    const book = await reader.openFromDisk(await reader.book({ pages: plainPages(2), values: { FlashWindowsColor: colour } }));
+    const least = await leastContrast(book);
+    assert.ok(least >= 4.5, `${colour}: ${least}`);
+    await reader.closeBooks();
+  }
+});

@@ -1,0 +1,181 @@
+import assert from 'node:assert/strict';
+import { after, afterEach, before, test } from 'node:test';
+import { plainPages } from './support/book.mjs';
+import { DESK, PHONE, Reader } from './support/reader.mjs';
+
+let reader;
+before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
+after(() => reader.stop());
+
+async function open(count, options = {}) {
+  return reader.openFromDisk(await reader.book({ pages: plainPages(count), values: options.values }), options);
+}
+
+const does = (book, name) => book.page.locator(`.bar [data-does="${name}"]`);
+const idle = (book) => book.page.locator('#folvero').getAttribute('data-idle');
+
+const typed = [
+  ['12', [12, 13]], ['4-5', [4, 5]], [' 4\u20135 ', [4, 5]], ['20', [20]], ['1', [1]],
+  ['0', [2, 3]], ['21', [2, 3]], ['abc', [2, 3]], ['', [2, 3]], ['-4', [2, 3]], ['1e1', [2, 3]],
+];
+test('a page number that is typed is gone to; what is no page number is put back', async () => {
+  for (const [text, pages] of typed) {
+    const book = await open(20, { hash: '#page=2' });
+    await book.page.keyboard.press('g');
+    await book.page.keyboard.type(text || ' ');
+    await book.page.keyboard.press('Enter');
+    await book.waitForPages(...pages);
+    await book.page.waitForFunction((shown) => document.querySelector('.page-box').value === shown, pages.join('\u2013'));
+    await reader.closeBooks();
+  }
+});
+
+test('the bar goes while the reader is idle and comes back with pointer, finger and key', async () => {
+  const book = await open(4, { view: { ...DESK, hasTouch: true } });
+  const goes = () => book.page.waitForSelector('#folvero[data-idle="yes"]', { timeout: 20000 });
+  for (const come of [() => book.page.mouse.move(640, 300), () => book.page.touchscreen.tap(640, 300),
+    () => book.page.keyboard.press('Shift')]) {
+    await goes();
+    await come();
+    assert.equal(await idle(book), 'no', String(come));
+  }
+  await goes();
+  await book.page.addStyleTag({ content: '.arrow { display: none }' });
+  await book.page.keyboard.press('Tab');
+  assert.equal(await book.page.evaluate(() => document.activeElement.getAttribute('aria-label')), 'Page number');
+});
+
+test('the bar stays while it is in use', async () => {
+  const book = await open(4);
+  await book.page.keyboard.press('t');
+  await book.page.clock.install();
+  await book.page.keyboard.press('Shift');
+  await book.page.clock.runFor(20000);
+  assert.equal(await idle(book), 'no', 'thumbnails are open');
+  await book.page.keyboard.press('Escape');
+  await book.page.clock.runFor(20000);
+  assert.equal(await idle(book), 'no', 'the focus that came back is in the bar');
+});
+
+test('every control is reached with the tab key, in the order in which it stands', async () => {
+  const book = await open(6, { hash: '#page=2', values: { TutorialTitle: 'https://example.org/' } });
+  const names = [];
+  for (let step = 0; step < 13; step += 1) {
+    await book.page.keyboard.press('Tab');
+    names.push(await book.page.evaluate(() => {
+      const { activeElement: at } = document;
+      const seen = getComputedStyle(at).outlineStyle !== 'none' || at.matches('input');
+      return seen ? at.getAttribute('aria-label') ?? at.textContent : `unseen ${at.tagName}`;
+    }));
+  }
+  assert.deepEqual(names, ['Previous page', 'Next page', 'example.org', 'Previous page', 'Page number', 'Next page',
+    'Thumbnails', 'Turn pages by itself', 'Sound', 'Share', 'Print', 'Full screen', 'Help']);
+});
+
+test('a control tells its name and its key', async () => {
+  const book = await open(4);
+  await does(book, 'thumbs').hover();
+  assert.equal(await book.page.locator('.tip').innerText(), 'Thumbnails\nT');
+  assert.equal(await does(book, 'thumbs').getAttribute('aria-keyshortcuts'), 'T');
+  await book.page.mouse.move(640, 300);
+  assert.equal(await book.page.locator('.tip').isVisible(), false);
+});
+
+test('sound, playing and full screen are switched and show it', async () => {
+  const book = await open(6);
+  const pressed = (name) => does(book, name).getAttribute('aria-pressed');
+  assert.deepEqual([await pressed('sound'), await pressed('play')], ['true', 'false']);
+  await book.page.keyboard.press('s');
+  assert.equal(await pressed('sound'), 'false');
+  await book.page.keyboard.press('a');
+  await book.waitForPages(2, 3);
+  assert.equal(await pressed('play'), 'true');
+  await does(book, 'play').click();
+  assert.equal(await pressed('play'), 'false');
+  await does(book, 'full').click();
+  await book.page.waitForFunction(() => document.fullscreenElement);
+  assert.equal(await pressed('full'), 'true');
+  await does(book, 'full').click();
+  await book.page.waitForFunction(() => !document.fullscreenElement);
+});
+
+/** Controls that are cut off by the window, or that lie over one another in the bar. */
+function misplaced(book) {
+  return book.page.evaluate(() => {
+    const shown = [...document.querySelectorAll('.bar button, .bar input, .page-count, .arrow:enabled')]
+      .filter((one) => one.checkVisibility({ visibilityProperty: true }));
+    const boxes = shown.map((one) => ({ one, box: one.getBoundingClientRect() }));
+    const cut = boxes.filter(({ box }) => box.left < 0 || box.top < 0 || box.right > innerWidth + 0.5 || box.bottom > innerHeight);
+    const over = boxes.filter(({ one, box }, index) => one.closest('.bar') && boxes.slice(index + 1).some((next) =>
+      next.one.closest('.bar') && next.box.left < box.right - 0.5 && box.left < next.box.right - 0.5));
+    const box = document.querySelector('.page-box');
+    const clipped = box.scrollWidth > box.clientWidth + 1 ? [{ one: box }] : [];
+    return [...cut, ...over, ...clipped].map(({ one }) => one.outerHTML.slice(0, 80));
+  });
+}
+
+const windows = [
+  ['desk', DESK, 100], ['desk, text twice as large', DESK, 200], ['phone', PHONE, 100],
+  ['phone, text twice as large', PHONE, 200], ['small phone', { ...PHONE, viewport: { width: 320, height: 568 } }, 100],
+  ['phone on its side', { ...PHONE, viewport: { width: 844, height: 390 } }, 100],
+];
+for (const [name, view, size] of windows) {
+  test(`no control is cut off or covered, and none is lost: ${name}`, async () => {
+    const book = await open(120, { view, hash: '#page=114', values: { TutorialTitle: 'A caption' } });
+    await book.page.addStyleTag({ content: `html { font-size: ${size}% }` });
+    await book.page.evaluate(() => new Promise((resolve) => { requestAnimationFrame(() => requestAnimationFrame(resolve)); }));
+    assert.deepEqual(await misplaced(book), []);
+    const more = does(book, 'more');
+    const inBar = await book.page.locator('.bar [data-does]:visible').evaluateAll((all) => all.map((one) => one.dataset.does));
+    let inMenu = 0;
+    if (await more.isVisible()) {
+      await more.click();
+      inMenu = await book.page.locator('.entry').count();
+    }
+    assert.equal(inBar.filter((one) => one !== 'more').length + inMenu, 7, inBar.join());
+    if (name !== 'phone') return;
+    for (const one of ['thumbs', 'more']) assert.ok(inBar.includes(one), `${one} stays in the bar`);
+    assert.match(await book.page.locator('.menu-panel').innerText(), /A caption/);
+  });
+}
+
+test('what is touched is large enough for a finger', async () => {
+  const book = await open(30, { view: PHONE, hash: '#page=4' });
+  const small = await book.page.locator('.bar button:visible').evaluateAll((all) => all
+    .map((one) => one.getBoundingClientRect()).filter(({ width, height }) => width < 44 || height < 44).length);
+  assert.equal(small, 0);
+  await does(book, 'more').tap();
+  for (const height of await book.page.locator('.menu-panel button').evaluateAll((all) => all.map((one) => one.offsetHeight))) {
+    assert.ok(height >= 44, `${height}`);
+  }
+});
+
+test('the menu does what the bar has no room for, and shows the panel that was asked for', async () => {
+  const book = await open(6, { view: PHONE });
+  await does(book, 'more').tap();
+  await book.page.locator('.entry', { hasText: 'Help' }).tap();
+  assert.ok(await book.page.locator('.help-panel').isVisible());
+  assert.equal(await book.page.locator('.menu-panel').isVisible(), false);
+});
+
+const words = [
+  [['de-AT', 'en'], 'de', 'Drucken', 'Seiten 2 und 3 von 6'], [['xx', 'fr-CA'], 'fr', 'Imprimer', 'Pages 2 et 3 sur 6'],
+  [['es'], 'es', 'Imprimir', 'Páginas 2 y 3 de 6'], [['it'], 'it', 'Stampa', 'Pagine 2 e 3 di 6'],
+  [['nl'], 'nl', 'Afdrukken', 'Pagina’s 2 en 3 van 6'], [['pt-BR'], 'pt', 'Imprimir', 'Páginas 2 e 3 de 6'],
+  [['ja'], 'en', 'Print', 'Pages 2 and 3 of 6'],
+];
+test('the book speaks the language that its reader prefers, and announces its pages in it', async () => {
+  const folder = await reader.book({ pages: plainPages(6) });
+  for (const [languages, tag, print, announced] of words) {
+    const book = await reader.openFromDisk(folder, { before: (page) => page.addInitScript((tags) => {
+      Object.defineProperty(navigator, 'languages', { get: () => tags });
+    }, languages) });
+    await book.page.keyboard.press('ArrowRight');
+    await book.waitForPages(2, 3);
+    assert.equal(await book.page.locator('html').getAttribute('lang'), tag);
+    assert.equal(await does(book, 'print').getAttribute('aria-label'), print);
+    assert.equal(await book.page.locator('.live').textContent(), announced);
+    await reader.closeBooks();
+  }
+});
