@@ -15,4 +15,15 @@ std::optional<QString> chooseFile(const QString& proposed, const QStringList& ty
 // The initial colour when the panel is cancelled.
 QColor chooseColor(const QColor& initial);
 
+// None when the panel is cancelled. The prompt names the button.
+std::optional<QString> chooseFolder(const QString& prompt);
+
+// True for "Open it".
+bool askToOpen(const QString& message, const QString& information);
+
+void tell(const QString& message, const QString& information);
+
+// Opens a file or a folder with the program that the system uses for it.
+void open(const QString& path);
+
 } // namespace Panels
