@@ -54,7 +54,7 @@ for (const [way, address] of Object.entries(addresses)) {
       await book.drag([x + width - 20, y + height / 2], [x - width * (second.length > 1 ? 0.9 : 0) + 10, y + height / 2 - 20]);
       await book.waitForPages(...third);
       assert.deepEqual(book.errors, []);
-      await book.page.close();
+      await book.close();
     });
   }
 }

@@ -29,9 +29,13 @@ export async function launchFirefox(executablePath) {
   });
 }
 
-/** Opens a book's address and waits until the player says that it is ready or tells an error. */
+/**
+ * Opens a book's address, as a reader who has never read it, and waits until the player says that
+ * it is ready or tells an error.
+ */
 export async function openBook(browser, address, viewport) {
-  const page = await browser.newPage();
+  const context = await browser.createBrowserContext();
+  const page = await context.newPage();
   await page.setViewport(viewport);
   const errors = [];
   page.on('pageerror', (error) => errors.push(error.message));
@@ -45,6 +49,10 @@ class FirefoxBook {
   constructor(page, errors) {
     this.page = page;
     this.errors = errors;
+  }
+
+  close() {
+    return this.page.browserContext().close();
   }
 
   async waitForPages(...pages) {
