@@ -124,9 +124,11 @@ export class Book {
    */
   keep(views) {
     const around = views.slice(0, 1).flatMap((view) => [view + 1, view - 1, view + 2, view - 2]);
-    this.images.want([...views, ...around]
-      .filter((view) => view >= 0 && view < this.views.count)
-      .flatMap((view) => this.views.pagesOf(view)));
+    /** @param {number[]} of */
+    const pages = (of) => of.filter((view) => view >= 0 && view < this.views.count)
+      .flatMap((view) => this.views.pagesOf(view));
+    const seen = pages(views);
+    this.images.want([...seen, ...pages(around)], seen.length);
   }
 
   /**

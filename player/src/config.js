@@ -76,10 +76,11 @@ function loadScriptCopy() {
   });
 }
 
-/** @param {string} binary one letter a byte */
-function bytesOf(binary) {
-  const bytes = new Uint8Array(binary.length);
-  for (let at = 0; at < bytes.length; at++) bytes[at] = binary.charCodeAt(at);
+/** @param {string} letters one for each byte */
+function bytesOf(letters) {
+  // A book of thousands of pages has a million of them, so no function is called for each.
+  const bytes = new Uint8Array(letters.length);
+  for (let at = 0; at < letters.length; at++) bytes[at] = letters.charCodeAt(at);
   return bytes;
 }
 

@@ -6,6 +6,7 @@
 const DRAG_START = 7;
 const FLICK_SPEED = 0.35;
 const TAP_MS = 450;
+const SWIPE_WAY = 40;
 
 /** Two taps in the middle, that near to each other in time and place, are a double tap. */
 const DOUBLE_TAP_MS = 350;
@@ -133,9 +134,14 @@ export class Gestures {
     const { press } = this;
     if (!press || press.id !== event.pointerId) return;
     this.press = null;
+    const moved = event.clientX - press.x;
     if (press.grip) this.turner.release(this.#goesOver(press, event));
-    else if (event.timeStamp - press.time < TAP_MS
-      && Math.abs(event.clientX - press.x) < DRAG_START) this.#tap(event);
+    else if (Math.abs(moved) > SWIPE_WAY && this.turner.calm.matches && !this.zoom.active) {
+      // Where no leaf follows the finger, the finger's way still says where to.
+      this.turner.step(moved < 0 !== this.book.config.rightToLeft ? 1 : -1);
+    } else if (event.timeStamp - press.time < TAP_MS && Math.abs(moved) < DRAG_START) {
+      this.#tap(event);
+    }
   }
 
   /** Lets go of everything: the pointer now means something else. */

@@ -28,23 +28,26 @@ export class PageImages {
   /**
    * Starts loading pages and drops all others.
    * @param {number[]} wanted page numbers, the most urgent first
+   * @param {number} urgent how many of them are to be seen now
    */
-  want(wanted) {
+  want(wanted, urgent) {
     const pages = [...new Set(wanted)].slice(0, MOST_IMAGES);
     for (const [page, entry] of this.kept) {
       if (!pages.includes(page)) this.#drop(page, entry);
     }
-    for (const page of pages) this.get(page);
+    pages.forEach((page, index) => this.get(page, index < urgent));
   }
 
   /**
    * @param {number} page
+   * @param {boolean} urgent seen now, not only likely to be seen next
    * @returns {PageImage}
    */
-  get(page) {
+  get(page, urgent = true) {
     let entry = this.kept.get(page);
     if (!entry) {
       entry = { image: new Image(), state: 'loading', settled: Promise.resolve() };
+      entry.image.fetchPriority = urgent ? 'high' : 'low';
       this.kept.set(page, entry);
       entry.settled = this.#load(page, entry);
     }
@@ -63,6 +66,8 @@ export class PageImages {
     try {
       await entry.image.decode();
       entry.state = 'ready';
+      // It is decoded; put into the page it is to be there in the same frame.
+      entry.image.decoding = 'sync';
     } catch {
       entry.state = 'missing';
     }

@@ -61,10 +61,10 @@ function followWindow(root, book, turner, page) {
     // Observers report once without a change, which must not undo a turn that is under way.
     if (now === size) return;
     size = now;
-    const wanted = turner.turning ? book.views.pagesOf(turner.destination)[0] : page();
+    turner.settle();
     book.resize();
     turner.resized();
-    turner.stand(book.views.viewOf(wanted));
+    turner.stand(book.views.viewOf(page()));
   };
   new ResizeObserver(fit).observe(root);
   fit();

@@ -11,15 +11,14 @@ export function rc4(bytes, key) {
     [state[i], state[j]] = [state[j], state[i]];
   }
   const result = new Uint8Array(bytes.length);
-  // Exchanged by hand: this runs once a byte, and a list for each would be felt in a long book.
   for (let n = 0, i = 0, j = 0; n < bytes.length; n++) {
     i = (i + 1) & 255;
-    const one = state[i];
-    j = (j + one) & 255;
-    const other = state[j];
-    state[i] = other;
-    state[j] = one;
-    result[n] = bytes[n] ^ state[(one + other) & 255];
+    const here = state[i];
+    j = (j + here) & 255;
+    const there = state[j];
+    state[i] = there;
+    state[j] = here;
+    result[n] = bytes[n] ^ state[(here + there) & 255];
   }
   return result;
 }

@@ -175,7 +175,7 @@ export class Turner {
     if (this.leaf?.motion?.end === 'peek') this.#finish('back', this.book.config.riseTime * 700);
   }
 
-  /** Follows the window's size; a leaf in the air lands first. */
+  /** Follows the window's size. */
   resized() {
     this.density = Math.min(2, window.devicePixelRatio || 1);
     this.canvas.width = Math.round(this.canvas.clientWidth * this.density);

@@ -193,7 +193,7 @@ test('a book that plays by itself turns, starts over, and stops when told', asyn
   await book.waitForPages(2, 3);
   await book.waitForPages(1);
   await book.page.mouse.move(640, 500);
-  await book.page.locator('.play').click();
+  await book.page.locator('[data-does="play"]').click();
   const stopped = await book.pages();
   await book.page.waitForTimeout(2000);
   assert.deepEqual(await book.pages(), stopped);
@@ -255,3 +255,80 @@ test('a page that slides keeps under the finger and uncovers the next', async ()
   await book.drag([500, 300], [800, 300], { pause: 200 });
   await book.waitForPages(2);
 });
+
+test('a swipe changes the page for readers who want little motion', async () => {
+  const book = await open(5, { view: PHONE, hash: '#page=2', reducedMotion: 'reduce' });
+  await book.swipe([320, 400], [90, 410]);
+  await book.waitForPages(3);
+});
+
+test('a window that changes while a page turns shows the page that was turned to', async () => {
+  const book = await open(9, { hash: '#page=2', values: { PageMoveTime: '9' } });
+  await book.page.keyboard.press('PageDown');
+  await book.page.waitForFunction(() => window.folvero.turning);
+  await book.page.setViewportSize({ width: 390, height: 844 });
+  await book.waitForPages(4);
+  assert.deepEqual(await book.colourOf('right'), colourOf(4));
+  await book.page.keyboard.press('PageDown');
+  await book.page.waitForFunction(() => window.folvero.turning);
+  await book.page.setViewportSize({ width: 844, height: 390 });
+  await book.waitForPages(4, 5);
+  assert.deepEqual(await book.colourOf('right'), colourOf(5));
+});
+
+/** The same sequence of numbers from 0 to 1 for the same seed. */
+function sequence(seed) {
+  let state = seed;
+  return () => {
+    state = (state * 1664525 + 1013904223) % 2 ** 32;
+    return state / 2 ** 32;
+  };
+}
+
+const WINDOWS = [[1280, 800], [520, 800], [900, 640]];
+
+/** Does one thing that a reader might do, chosen by chance. */
+async function act(book, chance) {
+  const { page } = book;
+  const { width, height } = page.viewportSize();
+  const within = () => [Math.round(width * chance()), Math.round(height * (0.1 + 0.7 * chance()))];
+  const actions = [
+    () => page.keyboard.press(['ArrowRight', 'ArrowLeft', 'PageDown', 'PageUp', 'Space', 'End', 'Home'][Math.floor(chance() * 7)]),
+    () => page.mouse.click(chance() < 0.5 ? 4 : width - 4, height / 3),
+    () => book.drag(within(), within(), { steps: 3 }),
+    () => page.mouse.move(...within()),
+    () => page.mouse.wheel(0, chance() < 0.5 ? 60 : -60),
+    () => page.evaluate((number) => window.folvero.goTo(number), 1 + Math.floor(chance() * 15)),
+    async () => {
+      const [w, h] = WINDOWS[Math.floor(chance() * WINDOWS.length)];
+      await page.setViewportSize({ width: w, height: h });
+    },
+  ];
+  await actions[Math.floor(chance() * actions.length)]();
+  if (chance() < 0.3) await page.waitForTimeout(chance() * 120);
+}
+
+for (const [index, turn] of KINDS.entries()) {
+  for (const RightToLeft of ['No', 'Yes']) {
+    test(`no order of actions jams pages that ${turn}, right to left: ${RightToLeft}`, async () => {
+      const book = await open(15, { look: { turn }, values: { RightToLeft, PageMoveTime: '0.4' } });
+      const chance = sequence(7 * index + RightToLeft.length);
+      for (let round = 0; round < 3; round += 1) {
+        for (let step = 0; step < 12; step += 1) await act(book, chance);
+        await book.page.mouse.move(2, 2);
+        const shown = await book.pages();
+        for (const side of ['left', 'right']) {
+          const page = Number(await book.page.locator(`.page.${side}`).getAttribute('data-page'));
+          if (page === 0) continue;
+          assert.ok(shown.includes(page), `${page} lies at the ${side}, ${shown} are in view`);
+          assert.deepEqual(await book.colourOf(side), colourOf(page), `page ${page} at the ${side}`);
+        }
+      }
+      await book.page.keyboard.press('Home');
+      await book.waitForPages(1);
+      await book.page.keyboard.press('PageDown');
+      await book.page.waitForFunction(() => !window.folvero.turning && window.folvero.page === 2);
+      assert.deepEqual(book.errors, []);
+    });
+  }
+}
