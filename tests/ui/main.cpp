@@ -5,6 +5,9 @@
 int main(int argc, char** argv) {
     // Keeps the tests off the settings and folders of whoever runs them.
     QStandardPaths::setTestModeEnabled(true);
+    // Neither the tests nor the listing of their names need a screen.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("FolveroTests"));
     QCoreApplication::setApplicationName(QStringLiteral("FolveroTests"));
