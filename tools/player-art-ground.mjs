@@ -37,7 +37,7 @@ export function sand(width, height) {
     const grain = noise(x * 0.85, y * 0.85, 45) - 0.5 + (noise(x * 0.5, y * 0.5, 55) - 0.5) * 0.5;
     const fleck = smooth(0.9, 0.97, noise(x * 0.6, y * 0.6, 65)) * 0.16;
     const ground = blend(dry, damp, layers(x * 0.0018, y * 0.0018, 3, 75));
-    return lit(ground, clamp(relief.light(x, y, 0.3), 0.62, 1.3) + grain * 0.11 - fleck);
+    return lit(ground, clamp(relief.light(x, y, 0.3), 0.62, 1.3) + grain * 0.085 - fleck);
   };
 }
 

@@ -1,14 +1,16 @@
 #!/usr/bin/env node
-// Takes pictures of a published book on a desk and on a phone.
-// Usage: screenshots.mjs BOOK_DIR                    the two pictures of the README, in docs/images
-//        screenshots.mjs BOOK_DIR OUTPUT_DIR [NAME]  every view, to look at the player with
+// Takes pictures of books on a desk and on a phone.
+// Usage: screenshots.mjs --readme BUILT_RESOURCES    the README's pictures, into docs/images
+//        screenshots.mjs BOOK_DIR OUTPUT_DIR [NAME]  every view of a book, to look at the player with
 //
-// The second form writes NAME-desktop-cover, -spread, -drag, -turning and NAME-phone, -phone-turning
-// as PNG files. The README's pictures are of the sample book that `make book` publishes.
+// The first form shows the demo book in three templates. The second one writes NAME-desktop-cover,
+// -spread, -drag, -turning and NAME-phone, -phone-turning as PNG files.
 
-import { mkdir } from 'node:fs/promises';
+import { mkdir, mkdtemp, rm } from 'node:fs/promises';
+import { tmpdir } from 'node:os';
 import path from 'node:path';
 import { fileURLToPath, pathToFileURL } from 'node:url';
+import { writeDemoBook } from './player-demo-book.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
@@ -16,20 +18,19 @@ const { launchChromium } = await import(path.join(here, '../tests/browser/suppor
 const DESKTOP = { viewport: { width: 1280, height: 800 } };
 const PHONE = { viewport: { width: 390, height: 844 }, hasTouch: true, isMobile: true };
 
-const [book, output, name = 'book'] = process.argv.slice(2);
-if (!book) {
-  console.error('usage: screenshots.mjs BOOK_DIR [OUTPUT_DIR [NAME]]');
+const [source, target, name = 'book'] = process.argv.slice(2);
+if (!target) {
+  console.error('usage: screenshots.mjs --readme BUILT_RESOURCES | BOOK_DIR OUTPUT_DIR [NAME]');
   process.exit(2);
 }
-const address = pathToFileURL(path.resolve(book, 'index.html')).href;
 const browser = await launchChromium();
 
-async function open(options, hash = '') {
+async function open(book, options, hash = '') {
   const page = await browser.newPage(options);
   page.on('pageerror', (error) => console.error(error));
-  await page.goto(address + hash);
+  await page.goto(pathToFileURL(path.resolve(book, 'index.html')).href + hash);
   await page.waitForSelector('#folvero[data-state="ready"], #folvero[data-state="error"]');
-  await page.waitForTimeout(1000);
+  await page.waitForTimeout(1500);
   return page;
 }
 
@@ -41,25 +42,39 @@ async function dragAcross(page, from, to) {
   await page.waitForTimeout(600);
 }
 
+/** The README's pictures: what is shown in which look, and how it is taken. */
+const README = [
+  { file: 'desktop.jpg', template: 'float', style: 'Writing desk', view: DESKTOP, hash: '#page=2',
+    drag: [[1130, 690], [780, 560]] },
+  { file: 'phone.jpg', template: 'gallery', style: 'Sand', view: { ...PHONE, deviceScaleFactor: 1.5 }, hash: '#page=9',
+    drag: [[350, 640], [230, 570]] },
+  { file: 'slides.jpg', template: 'deck', style: 'Boardroom', view: DESKTOP, hash: '#page=1' },
+];
+
 async function takeReadmePictures() {
   const folder = path.join(here, '../docs/images');
   await mkdir(folder, { recursive: true });
-  const shoot = (page, file) => page.screenshot({ path: path.join(folder, file), type: 'jpeg', quality: 82 });
-
-  const desk = await open(DESKTOP, '#page=4');
-  await dragAcross(desk, [1130, 690], [760, 560]);
-  await shoot(desk, 'desktop.jpg');
-  const hand = await open({ ...PHONE, deviceScaleFactor: 1.5 }, '#page=6');
-  await dragAcross(hand, [350, 640], [230, 570]);
-  await shoot(hand, 'phone.jpg');
+  const books = await mkdtemp(path.join(tmpdir(), 'folvero-readme-'));
+  for (const { file, template, style, view, hash, drag } of README) {
+    const book = path.join(books, template);
+    const library = path.join(target, 'AppFiles');
+    await writeDemoBook({
+      template: path.join(library, 'Templates', template), style: path.join(library, 'Styles', template, style), book,
+    });
+    const page = await open(book, view, hash);
+    if (drag) await dragAcross(page, ...drag);
+    await page.screenshot({ path: path.join(folder, file), type: 'jpeg', quality: 82 });
+    await page.context().close();
+  }
+  await rm(books, { recursive: true });
 }
 
 async function takeEveryView() {
-  await mkdir(output, { recursive: true });
-  const shoot = (page, part) => page.screenshot({ path: path.join(output, `${name}-${part}.png`) });
+  await mkdir(target, { recursive: true });
+  const shoot = (page, part) => page.screenshot({ path: path.join(target, `${name}-${part}.png`) });
 
-  await shoot(await open(DESKTOP), 'desktop-cover');
-  const desk = await open(DESKTOP, '#page=4');
+  await shoot(await open(source, DESKTOP), 'desktop-cover');
+  const desk = await open(source, DESKTOP, '#page=4');
   await shoot(desk, 'desktop-spread');
   await dragAcross(desk, [1130, 690], [760, 560]);
   await shoot(desk, 'desktop-drag');
@@ -67,11 +82,11 @@ async function takeEveryView() {
   await desk.waitForTimeout(600);
   await shoot(desk, 'desktop-turning');
 
-  const hand = await open({ ...PHONE, deviceScaleFactor: 2 }, '#page=3');
+  const hand = await open(source, { ...PHONE, deviceScaleFactor: 2 }, '#page=3');
   await shoot(hand, 'phone');
   await dragAcross(hand, [350, 640], [210, 560]);
   await shoot(hand, 'phone-turning');
 }
 
-await (output ? takeEveryView() : takeReadmePictures());
+await (source === '--readme' ? takeReadmePictures() : takeEveryView());
 await browser.close();

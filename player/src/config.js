@@ -111,7 +111,11 @@ function decipher(bytes) {
  * @returns {BookConfig}
  */
 export function parseConfiguration(xml) {
-  const parsed = new DOMParser().parseFromString(xml, 'application/xml');
+  const begin = xml.indexOf('<Ppts>');
+  const end = xml.lastIndexOf('</Ppts>');
+  const [rest, list] = begin >= 0 && begin < end
+    ? [xml.slice(0, begin) + xml.slice(end + '</Ppts>'.length), xml.slice(begin, end)] : [xml, ''];
+  const parsed = new DOMParser().parseFromString(rest, 'application/xml');
   const root = parsed.documentElement;
   // What stands before a fault is kept beside the note of the fault.
   if (root.nodeName !== 'SlidePowerPoint' || parsed.getElementsByTagName('parsererror').length) {
@@ -121,7 +125,7 @@ export function parseConfiguration(xml) {
   const text = (path) => textAt(root, path);
   /** @param {string} side */
   const margin = (side) => numberIn(text('Properties ' + side), 10, 0, 400);
-  const entries = readPages(root);
+  const entries = readPages(list);
   if (entries.length === 0) throw new BookError('empty');
   return {
     margins: {
@@ -174,8 +178,7 @@ function readGround(text, which, from, to) {
 }
 
 /**
- * Text of the element to which child names lead; empty when there is none. The search never enters
- * the list of pages.
+ * Text of the element to which child names lead; empty when there is none.
  * @param {Element} root
  * @param {string} path names with blanks between them
  */
@@ -188,39 +191,37 @@ function textAt(root, path) {
   return element?.textContent?.trim() ?? '';
 }
 
+/** @type {Record<string, string>} */
+const ENTITIES = { amp: '&', lt: '<', gt: '>', quot: '"', apos: "'" };
+
 /**
- * @param {Element} root
+ * Reads the list of pages in one pass. A tree of elements for thousands of pages would take longer
+ * than all the rest of opening a book.
+ * @param {string} list
  * @returns {{page: PageEntry, thumb: PageEntry}[]}
  */
-function readPages(root) {
+function readPages(list) {
+  /** @type {{page: PageEntry, thumb: PageEntry}[]} */
   const entries = [];
-  for (const group of root.children) {
-    if (group.nodeName !== 'Ppts') continue;
-    for (let ppt = group.firstElementChild; ppt; ppt = ppt.nextElementSibling) {
-      const page = readEntry(ppt, 'Normal', { path: '', width: 600, height: 800 });
-      const thumb = readEntry(ppt, 'Thumb', { path: page.path, width: 85, height: 113 });
-      entries.push({ page, thumb });
+  let entry = { path: '', width: 0, height: 0 };
+  for (const [, name, text] of list.matchAll(/<(Ppt|Normal|Thumb|ImgPath|Width|Height)>([^<]*)/g)) {
+    if (name === 'Ppt') {
+      entries.push({
+        page: { path: '', width: 600, height: 800 }, thumb: { path: '', width: 85, height: 113 },
+      });
     }
+    const last = entries[entries.length - 1];
+    if (name === 'Normal' && last) entry = last.page;
+    if (name === 'Thumb' && last) entry = last.thumb;
+    if (name === 'ImgPath') entry.path = ownFile(plainText(text));
+    if (name === 'Width') entry.width = numberIn(text, entry.width, 1, 1e5);
+    if (name === 'Height') entry.height = numberIn(text, entry.height, 1, 1e5);
   }
+  for (const { page, thumb } of entries) thumb.path ||= page.path;
   return entries;
 }
 
-/**
- * @param {Element} ppt
- * @param {string} name
- * @param {PageEntry} fallback
- * @returns {PageEntry}
- */
-function readEntry(ppt, name, fallback) {
-  const entry = { ...fallback };
-  for (const kind of ppt.children) {
-    if (kind.nodeName !== name) continue;
-    for (let one = kind.firstElementChild; one; one = one.nextElementSibling) {
-      const text = one.textContent ?? '';
-      if (one.nodeName === 'ImgPath') entry.path = ownFile(text) || fallback.path;
-      if (one.nodeName === 'Width') entry.width = numberIn(text, fallback.width, 1, 1e5);
-      if (one.nodeName === 'Height') entry.height = numberIn(text, fallback.height, 1, 1e5);
-    }
-  }
-  return entry;
+/** @param {string} text with the five entities that every XML document knows */
+function plainText(text) {
+  return text.includes('&') ? text.replace(/&(\w+);/g, (all, name) => ENTITIES[name] ?? all) : text;
 }

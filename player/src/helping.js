@@ -12,6 +12,7 @@ const KEYS = [
 /** @type {[gesture: Word, effect: Word][]} */
 const GESTURES = [
   ['drag', 'turn'], ['tapSide', 'turn'], ['wheel', 'turn'], ['tapMiddle', 'toggleBar'],
+  ['tapTwice', 'zoomIn'],
 ];
 
 /** The panel that lists keys and gestures. */

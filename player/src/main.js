@@ -55,7 +55,12 @@ function announcement(pages, pageCount) {
  * @param {() => number} page
  */
 function followWindow(root, book, turner, page) {
+  let size = '';
   const fit = () => {
+    const now = root.clientWidth + ' ' + root.clientHeight;
+    // Observers report once without a change, which must not undo a turn that is under way.
+    if (now === size) return;
+    size = now;
     turner.settle();
     book.resize();
     turner.resized();
@@ -84,6 +89,8 @@ function addControls(root, turner, sounds) {
   const menu = new Menu(root, () => toolbar.folding.folded);
   const commands = {
     thumbs: () => drawer.toggle(),
+    zoomIn: () => zoom.in(),
+    zoomOut: () => zoom.out(),
     play: () => slideshow.run(!slideshow.running),
     sound: () => {
       sounds.switchTo(!sounds.on);
@@ -109,6 +116,7 @@ function addControls(root, turner, sounds) {
     else toolbar.toggle();
   });
   new ZoomGestures(zoom, stage, () => gestures.drop());
+  zoom.onChange = () => toolbar.enable('zoomOut', zoom.active);
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);

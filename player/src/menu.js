@@ -29,6 +29,7 @@ export class Menu {
     const pressed = button.getAttribute('aria-pressed');
     if (pressed) entry.setAttribute('aria-pressed', pressed);
     entry.setAttribute('type', 'button');
+    /** @type {HTMLButtonElement} */ (entry).disabled = button.matches(':disabled');
     entry.addEventListener('click', () => {
       this.panel.close();
       button.click();

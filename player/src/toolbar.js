@@ -75,6 +75,15 @@ export class Toolbar {
     part(this.bar, '[data-does="' + name + '"]').setAttribute(attribute, String(on));
   }
 
+  /**
+   * @param {string} name
+   * @param {boolean} able
+   */
+  enable(name, able) {
+    const button = part(this.bar, '[data-does="' + name + '"]');
+    /** @type {HTMLButtonElement} */ (button).disabled = !able;
+  }
+
   /** Lets the reader type a page number. */
   askForPage() {
     this.show();

@@ -18,6 +18,7 @@ const ENGLISH = {
   turn: 'Turn the page', ends: 'First and last page', goTo: 'Go to a page',
   drag: 'Drag a page, or swipe', tapSide: 'Click or tap at a side',
   tapMiddle: 'Click or tap in the middle', toggleBar: 'Show or hide the bar',
+  tapTwice: 'Double click, or spread two fingers',
   wheel: 'Mouse wheel', space: 'Space',
   wasOn: 'You were on page {0}', startOver: 'Start over', tryAgain: 'Try again',
   failed: 'This book could not be opened', failedText: 'Something unexpected went wrong.',

@@ -15,6 +15,7 @@ class Backdrop extends Sprite {
 	/** Positions at which a picture keeps its size. **/
 	static final OWN_SIZE = ["tile", "center", "top left", "top right", "bottom left", "bottom right"];
 
+	/** Diameter of the table's corners where its margins leave room for round ones. **/
 	static inline final ROUNDNESS = 20;
 
 	final ground:Ground;
@@ -83,7 +84,7 @@ class Backdrop extends Sprite {
 	}
 
 	function outline(shown:Rectangle) {
-		var round = isTable && shown.equals(area) ? ROUNDNESS : 0;
+		var round = isTable && shown.equals(area) ? Math.min(ROUNDNESS, 2 * Math.min(area.x, area.y)) : 0;
 		graphics.drawRoundRect(shown.x, shown.y, shown.width, shown.height, round, round);
 	}
 

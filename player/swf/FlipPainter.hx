@@ -48,11 +48,25 @@ class FlipPainter implements LeafPainter {
 	}
 
 	function strip(graphics:Graphics, look:Look, base:Matrix, face:Face, isBack:Bool, from:Float, to:Float, angle:Float) {
-		var taller = 1 + NEARNESS * Math.sin(angle) * (from + to) / 2 / look.width;
+		var overlap = Math.min(8, 1 / Math.max(0.1, Math.abs(Math.cos(angle))));
+		var end = Math.min(look.width, to + overlap);
+		var taller = stretch(look, end, angle);
 		var map = new Matrix(Math.cos(angle), 0, 0, taller, 0, look.height * (1 - taller) / 2);
 		map.concat(base);
-		var overlap = to < look.width ? 0.5 : 0;
-		face.paint(graphics, Outline.rectangle(from, 0, to - from + overlap, look.height), map, look.mirrored != isBack);
+		// As tall as the board is at the far end, less at the near one: the edges run straight.
+		var lower = look.height / 2 * (1 - stretch(look, from, angle) / taller);
+		var outline = [
+			new Point(from, lower),
+			new Point(end, 0),
+			new Point(end, look.height),
+			new Point(from, look.height - lower)
+		];
+		face.paint(graphics, outline, map, look.mirrored != isBack);
+	}
+
+	/** How much taller the board looks at a distance from its binding. **/
+	function stretch(look:Look, x:Float, angle:Float):Float {
+		return 1 + NEARNESS * Math.sin(angle) * x / look.width;
 	}
 
 	function shadeBeneath(graphics:Graphics, look:Look, base:Matrix, flat:Float, upright:Float) {

@@ -11,6 +11,9 @@ class Options {
 		return #if (turn == "slide") new SlidePainter() #elseif (turn == "flip") new FlipPainter() #else new CurlPainter() #end;
 	}
 
+	/** A single page fades while it leaves: the higher, the later. **/
+	public static inline final FADE = #if (turn == "slide") 1.6 #else 6.0 #end;
+
 	/** Whether a corner can lift: boards and slides do not bend. **/
 	public static inline final BENDS = #if (turn == "slide" || turn == "flip") false #else true #end;
 }

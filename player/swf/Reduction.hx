@@ -1,4 +1,7 @@
 import flash.display.BitmapData;
+import flash.display.Shape;
+import flash.events.Event;
+import flash.events.EventDispatcher;
 import flash.geom.Matrix;
 
 /**
@@ -26,12 +29,22 @@ class Reduction {
 		return half;
 	}
 
-	/** Some emulators cannot draw into a bitmap; the picture is then used as it is. **/
+	/**
+		Some emulators cannot draw into a bitmap and give up what they were doing when asked to; the
+		picture is then used as it is. A listener of its own keeps them from giving up more than that.
+	**/
 	static function canDraw():Bool {
 		if (possible == null) {
-			var trial = new BitmapData(2, 2, false, 0);
-			trial.draw(new BitmapData(2, 2, false, 0xffffff));
-			possible = trial.getPixel(1, 1) == 0xffffff;
+			possible = false;
+			var dot = new Shape();
+			dot.graphics.beginFill(0);
+			dot.graphics.drawRect(0, 0, 2, 2);
+			var trial = new EventDispatcher();
+			trial.addEventListener(Event.INIT, _ -> {
+				new BitmapData(2, 2, false).draw(dot);
+				possible = true;
+			});
+			trial.dispatchEvent(new Event(Event.INIT));
 		}
 		return possible;
 	}

@@ -11,6 +11,9 @@ class SlidePainter implements LeafPainter {
 	/** Width of the shadow along the edge that moves. **/
 	static inline final SHADOW = 28;
 
+	/** How far a single page goes while it fades, in widths of a page. **/
+	static inline final TRAVEL = 0.75;
+
 	public function new() {}
 
 	public function draw(graphics:Graphics, look:Look, held:Point, edge:Point) {
@@ -25,11 +28,11 @@ class SlidePainter implements LeafPainter {
 			shade(graphics, at, at > 0 ? look.width : 0, look.height, base);
 			return;
 		}
-		var away = at - look.width;
-		var map = new Matrix(1, 0, 0, 1, away / 2 * 1.1, 0);
+		var away = (at - look.width) / 2 * TRAVEL;
+		var map = new Matrix(1, 0, 0, 1, away, 0);
 		map.concat(base);
 		look.front.paint(graphics, sheet, map, look.mirrored);
-		shade(graphics, look.width + away / 2 * 1.1, look.width, look.height, base);
+		shade(graphics, look.width + away, look.width, look.height, base);
 	}
 
 	/** The shadow of the moving edge on what lies beyond it, as far as the page there reaches. **/

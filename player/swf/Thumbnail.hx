@@ -18,22 +18,28 @@ class Thumbnail extends Sprite {
 	final boxHeight:Float;
 	final config:Config;
 
-	public function new(page:Int, config:Config, width:Float, height:Float, isShown:Bool, action:Void->Void) {
+	public function new(page:Int, config:Config, width:Float, height:Float, action:Void->Void) {
 		super();
 		this.page = page;
 		this.config = config;
 		boxWidth = width;
 		boxHeight = height;
-		var ink = Ink.on(config.thumbnailsColor);
-		if (isShown)
-			paintFrame(ink);
 		addChild(print);
-		addChild(label(ink, isShown));
+		addChild(label());
 		buttonMode = true;
 		mouseChildren = false;
 		addEventListener(MouseEvent.CLICK, _ -> action());
 		image = new PageImage(page, config.pages[page - 1], _ -> paint());
 		paint();
+	}
+
+	/** Frames the page that the reader sees. **/
+	public function mark(isInView:Bool) {
+		graphics.clear();
+		if (!isInView)
+			return;
+		graphics.lineStyle(2, Ink.on(config.thumbnailsColor));
+		graphics.drawRect(-3, -3, boxWidth + 6, boxHeight + 6);
 	}
 
 	public function drop() {
@@ -47,14 +53,10 @@ class Thumbnail extends Sprite {
 		face.paint(graphics, Outline.rectangle(0, 0, boxWidth, boxHeight), new Matrix(), false);
 	}
 
-	function paintFrame(ink:Int) {
-		graphics.lineStyle(2, ink);
-		graphics.drawRect(-3, -3, boxWidth + 6, boxHeight + 6);
-	}
-
-	function label(ink:Int, isShown:Bool):TextField {
+	function label():TextField {
+		var ink = Ink.on(config.thumbnailsColor);
 		var field = new TextField();
-		field.defaultTextFormat = new TextFormat("_sans", 12, ink, isShown, null, null, null, null, TextFormatAlign.CENTER);
+		field.defaultTextFormat = new TextFormat("_sans", 12, ink, null, null, null, null, null, TextFormatAlign.CENTER);
 		field.selectable = false;
 		field.text = Std.string(page);
 		field.x = -10;

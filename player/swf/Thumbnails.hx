@@ -2,6 +2,8 @@ import flash.display.Sprite;
 import flash.events.MouseEvent;
 import flash.geom.Rectangle;
 
+using Lambda;
+
 /** A strip of small pages over the bar. It shows as many as fit and pages through the rest. **/
 class Thumbnails extends Sprite {
 	/** Pictures are large before they are made small, so only few are held at a time. **/
@@ -52,15 +54,21 @@ class Thumbnails extends Sprite {
 
 	/** Follows the shown page. **/
 	public function update() {
-		if (visible)
-			showAround(firstPageInView());
+		if (!visible)
+			return;
+		var page = firstPageInView();
+		if (shown.exists(thumbnail -> thumbnail.page == page))
+			mark();
+		else
+			showAround(page);
 	}
 
 	public function layOut(area:Rectangle) {
 		this.area = area;
 		y = area.bottom - Bar.HEIGHT - 20 - stripHeight;
 		x = area.x + 10;
-		update();
+		if (visible)
+			showAround(firstPageInView());
 	}
 
 	var stripHeight(get, never):Float;
@@ -102,21 +110,28 @@ class Thumbnails extends Sprite {
 		var count = book.views.pageCount;
 		first = Std.int(Math.max(1, Math.min(first, count - room + 1)));
 		var last = Std.int(Math.min(count, first + room - 1));
-		var inView = book.views.pagesOf(turner.current);
 		var width = area.width - 20;
 		var taken = (last - first + 1) * (pageWidth + GAP) - GAP;
 		for (page in first...last + 1) {
-			var thumbnail = new Thumbnail(page, book.config, pageWidth, PAGE_HEIGHT, inView.contains(page),
-				() -> turner.go(book.views.viewOf(page)));
+			var thumbnail = new Thumbnail(page, book.config, pageWidth, PAGE_HEIGHT, () -> turner.go(book.views.viewOf(page)));
 			var place = book.config.rightToLeft ? last - page : page - first;
 			thumbnail.x = Math.round((width - taken) / 2 + place * (pageWidth + GAP));
 			thumbnail.y = TOP;
 			strip.addChild(thumbnail);
 			shown.push(thumbnail);
 		}
+		mark();
 		paint(width);
-		var atStart = first <= 1;
-		var atEnd = last >= count;
+		placeButtons(width, first <= 1, last >= count);
+	}
+
+	function mark() {
+		var inView = book.views.pagesOf(turner.current);
+		for (thumbnail in shown)
+			thumbnail.mark(inView.contains(thumbnail.page));
+	}
+
+	function placeButtons(width:Float, atStart:Bool, atEnd:Bool) {
 		back.enabled = !(book.config.rightToLeft ? atEnd : atStart);
 		onward.enabled = !(book.config.rightToLeft ? atStart : atEnd);
 		back.x = 7;

@@ -244,7 +244,7 @@ class Turner extends Sprite {
 		var shift = fromShift + (book.shiftFor(leaf.to) - fromShift) * leaf.slide;
 		x = layout.spineX + shift;
 		y = layout.top;
-		alpha = layout.spread ? 1 : Math.min(1, (1 - Fold.turnedShare(leaf.held, layout.pageWidth)) * 6);
+		alpha = layout.spread ? 1 : Math.min(1, (1 - Fold.turnedShare(leaf.held, layout.pageWidth)) * Options.FADE);
 		graphics.clear();
 		painter.draw(graphics, leaf.look, leaf.held, leaf.edge);
 		book.moveTo(shift);

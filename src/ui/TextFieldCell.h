@@ -1,7 +1,8 @@
 #pragma once
 
+#include "ui/Cell.h"
+
 #include <QFont>
-#include <QPixmap>
 #include <QRectF>
 #include <QString>
 #include <functional>
@@ -16,12 +17,11 @@ enum CellHit { hitNone = 0, hitContentArea = 1, hitEditableTextArea = 2, hitTrac
 // One field of a table or tree: a text and, in some kinds of cells, a small button. A cell draws
 // itself into a rectangle of a view, tells what lies where in it, and follows the mouse over its
 // button. Rectangles are in the view's coordinates, y growing downwards, in logical pixels.
-class TextFieldCell {
+class TextFieldCell : public Cell {
 public:
     using Action = std::function<void(TextFieldCell& sender)>;
 
     explicit TextFieldCell(const QString& text = QString()) : iTitle(text) {}
-    virtual ~TextFieldCell() = default;
 
     QString title() const { return iTitle; }
     void setTitle(const QString& title) { iTitle = title; }
@@ -65,9 +65,6 @@ public:
     void drawWithExpansionFrame(QPainter& painter, const QRectF& frame) const;
 
 protected:
-    TextFieldCell(const TextFieldCell&) = default;
-    TextFieldCell& operator=(const TextFieldCell&) = delete;
-
     // Zero without a text.
     QSizeF textSize(const QString& text) const;
     QRectF titleRect(const QRectF& bounds, qreal left, qreal top, qreal kept) const;

@@ -32,7 +32,7 @@ const states = [
   ['the print panel', DESK, '', press('p')],
   ['the help panel', DESK, '', press('?')],
   ['a phone', PHONE, '#page=3', () => {}],
-  ['the menu of a phone', PHONE, '#page=3', (book) => book.page.locator('[data-does="more"]').tap()],
+  ['the menu of a phone', PHONE, '#page=3', (book) => book.use('more', 'tap')],
 ];
 const looks = [['dark', '0x20262e'], ['light', '0xf4ead2'], ['middling', '0x767676']];
 for (const [name, view, hash, act] of states) {

@@ -112,3 +112,11 @@ for (const [binding, shaded] of [['yes', true], ['no', false]]) {
     assert.equal(stack > 0, shaded, `width of the stack: ${stack}`);
   });
 }
+
+test('a window that changes while a page turns ends at the page that was turned to', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(9), values: { PageMoveTime: '8' } }));
+  await book.page.keyboard.press('ArrowRight');
+  await book.page.waitForFunction(() => window.folvero.turning);
+  await book.page.setViewportSize({ width: 1100, height: 700 });
+  await book.waitForPages(2, 3);
+});

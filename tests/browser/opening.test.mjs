@@ -174,6 +174,15 @@ test('files outside the book are never asked for', async () => {
   }
 });
 
+test('the list of pages is read whatever stands in it', async () => {
+  const folder = await reader.book({ pages: plainPages(3), extras: { 'page/a & b.jpg': plainPages(3)[2].bytes } });
+  const xml = configurationXml(3).replaceAll('>page/3.jpg<', '>\n  page/a &amp; b.jpg\n<').replaceAll('><', '>\n <');
+  await writeConfiguration(folder, rc4(Buffer.from(xml), CONFIG_KEY));
+  const book = await reader.openFromDisk(folder, { hash: '#page=3' });
+  assert.equal(await book.page.evaluate(() => window.folvero.pageCount), 3);
+  assert.deepEqual(await book.colourOf('right'), colourOf(3));
+});
+
 test('the player in a book is light', async () => {
   const page = await readFile(path.join(await reader.book({ pages: plainPages(1) }), 'index.html'));
   const size = gzipSync(page).length;

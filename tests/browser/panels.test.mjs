@@ -23,8 +23,7 @@ const panels = [['l', 'share', 'Share'], ['p', 'print', 'Print'], ['?', 'help', 
 for (const [key, name, label] of panels) {
   test(`the ${name} panel keeps the focus, and gives it back when it closes`, async () => {
     const book = await open(4);
-    const button = book.page.locator(`.bar [data-does="${name}"]`);
-    await button.focus();
+    await book.use(name, 'focus');
     await book.page.keyboard.press(key);
     const dialog = book.page.locator(`.${name}-panel`);
     assert.equal(await dialog.getAttribute('aria-modal'), 'true');
@@ -52,7 +51,7 @@ test('a panel closes with its button and with a click beside it', async () => {
 
 test('the help lists every key that the bar knows', async () => {
   const book = await open(4);
-  await book.page.locator('.bar [data-does="help"]').click();
+  await book.use('help');
   const caps = await book.page.locator('.help-panel kbd').allInnerTexts();
   for (const key of await book.page.locator('.bar [data-does][data-key]').evaluateAll((all) => all.map((one) => one.dataset.key))) {
     assert.ok(caps.includes(key), key);

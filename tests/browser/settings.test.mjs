@@ -43,6 +43,7 @@ test('FlashWindowsColor colours the bar, with signs that can be read', async () 
 for (const [text, hidden] of [['Yes', true], ['show', true], ['No', false], ['', false]]) {
   test(`HidePageFrameBar "${text}" ${hidden ? 'leaves bar and arrows out' : 'keeps the bar'}`, async () => {
     const book = await open({ HidePageFrameBar: text });
+    await book.page.keyboard.press('Shift');
     assert.equal(await book.page.locator('.bar').isVisible(), !hidden);
     assert.equal(await book.page.locator('.arrow.right').isVisible(), !hidden);
     await book.page.keyboard.press('ArrowRight');

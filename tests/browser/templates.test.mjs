@@ -28,6 +28,12 @@ before(async () => { reader = await Reader.start(); });
 afterEach(() => reader.closeBooks());
 after(() => reader.stop());
 
+/** A book of six landscape pages in a template, with the sound of its turning pages. */
+function bookIn(template) {
+  const sound = readFileSync(path.join(templateFolder(template), 'moveSound.mp3'));
+  return reader.book({ template: templateFolder(template), pages: plainPages(6, 160, 120), extras: { 'extfiles/moveSound.mp3': sound } });
+}
+
 /** Values of a style's settings file by key. */
 function settingsOf(template, style) {
   const text = readFileSync(path.join(styleFolder(template, style), 'tmplSetting.txt'), 'utf8');
@@ -122,7 +128,7 @@ test('Blank is what a template looks like before a style is chosen', () => {
 for (const template of templates) {
   for (const [name, view] of [['a desk', DESK], ['a phone', PHONE]]) {
     test(`a book in ${template} opens and turns on ${name}`, async () => {
-      const folder = await reader.book({ template: templateFolder(template), pages: plainPages(6, 160, 120) });
+      const folder = await bookIn(template);
       const book = await reader.openOverHttp(folder, { view });
       assert.deepEqual(await book.pages(), [1]);
       await book.page.keyboard.press('ArrowRight');
@@ -141,7 +147,7 @@ for (const template of templates) {
   }
 
   test(`the bar of ${template} stands clear of the page, and its buttons can be hit`, async () => {
-    const folder = await reader.book({ template: templateFolder(template), pages: plainPages(6, 160, 120) });
+    const folder = await bookIn(template);
     for (const view of [DESK, PHONE]) {
       const book = await reader.openFromDisk(folder, { view, hash: '#page=2' });
       await book.page.mouse.move(view.viewport.width / 2, view.viewport.height / 3);
@@ -160,9 +166,9 @@ for (const template of templates) {
 const EFFECTS = {
   topMargin: ['Top', '31'], bottomMargin: ['Bottom', '32'], leftMargin: ['Left', '33'], rightMargin: ['Right', '34'],
   mainColor: ['FlashWindowsColor', '0x123456'], InitialShow: ['InitialShow', 'None'], pageBackgroundColor: ['PageBackgroundColor', '0xfedcba'],
-  TutorialTitle: ['TutorialTitle', 'A caption'], hidePageFrameBar: ['HidePageFrameBar', 'Yes'],
+  TutorialTitle: ['TutorialTitle', 'A caption'], hidePageFrameBar: ['HidePageFrameBar', 'YES'],
   PageRiseOrFallTime: ['PageRiseOrFallTime', '1.1'], pageMoveTime: ['PageMoveTime', '2.2'], SlideInterval: ['SlideInterval', '33'],
-  RightToLeft: ['RightToLeft', 'Yes'], AutoPlay: ['AutoPlay', 'Yes'], LoopPlay: ['LoopPlay', 'No'],
+  RightToLeft: ['RightToLeft', 'YES'], AutoPlay: ['AutoPlay', 'YES'], LoopPlay: ['LoopPlay', 'NO'],
   bgBeginColor: ['OuterGradiantColorA', '0x010203'], bgEndColor: ['OuterGradiantColorB', '0x040506'], bgMRotation: ['OuterGradiantAngle', '11'],
   inBeginColor: ['InnerGradiantColorA', '0x070809'], inEndColor: ['InnerGradiantColorB', '0x0a0b0c'], inMRotation: ['InnerGradiantAngle', '22'],
   mainbgImgPosition: ['OuterBackgroundPosition', 'Bottom right'], innerMainbgImgPosition: ['InnerBackgroundPosition', 'Top left'],

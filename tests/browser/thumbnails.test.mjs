@@ -14,7 +14,7 @@ async function open(count, { values, thumb, extras, ...options } = {}) {
 }
 
 async function openDrawer(book) {
-  await book.page.locator('.bar [data-does="thumbs"]').click();
+  await book.use('thumbs');
   await drawn(book);
 }
 

@@ -90,6 +90,20 @@ class OpenBook {
       (wanted) => !window.folvero.turning && String(window.folvero.pages) === wanted, String(pages));
   }
 
+  /**
+   * Uses a control of the bar, which a slow machine may have let go before the pointer is there.
+   * how: click, tap, hover or focus.
+   */
+  async use(name, how = 'click') {
+    for (let attempt = 0; ; attempt += 1) {
+      await this.page.keyboard.press('Shift');
+      const failure = await this.page.locator(`.bar [data-does="${name}"]`)[how]({ timeout: 4000 })
+        .then(() => null, (error) => error);
+      if (!failure) return;
+      if (attempt === 8) throw failure;
+    }
+  }
+
   /** Where the page on a side lies in the window, or null. */
   async box(side) {
     return this.page.locator(`.page.${side}`).boundingBox();

@@ -1,0 +1,93 @@
+#include "ui/FlashTemplateModel.h"
+
+#include <QFont>
+
+FlashTemplateModel::FlashTemplateModel(FlashTemplateOutlineDelegate& source, QObject* parent)
+    : QAbstractItemModel(parent), iSource(source) {}
+
+void FlashTemplateModel::reloadData() {
+    beginResetModel();
+    endResetModel();
+}
+
+FlashTemplateProperty* FlashTemplateModel::item(const QModelIndex& index) {
+    return static_cast<FlashTemplateProperty*>(index.internalPointer());
+}
+
+QString FlashTemplateModel::columnName(const QModelIndex& index) {
+    return index.column() == key ? QStringLiteral("key") : QStringLiteral("value");
+}
+
+QModelIndex FlashTemplateModel::index(int row, int column, const QModelIndex& parent) const {
+    FlashTemplateProperty* child = iSource.child(row, item(parent));
+    return child && column >= 0 && column <= value ? createIndex(row, column, child)
+                                                   : QModelIndex();
+}
+
+QModelIndex FlashTemplateModel::parent(const QModelIndex& index) const {
+    FlashTemplateProperty* enclosing = index.isValid() ? item(index)->parent() : nullptr;
+    if (!enclosing)
+        return {};
+    const int count = iSource.numberOfChildrenOfItem(enclosing->parent());
+    for (int row = 0; row < count; ++row) {
+        if (iSource.child(row, enclosing->parent()) == enclosing)
+            return createIndex(row, key, enclosing);
+    }
+    return {};
+}
+
+int FlashTemplateModel::rowCount(const QModelIndex& parent) const {
+    return parent.column() > 0 ? 0 : iSource.numberOfChildrenOfItem(item(parent));
+}
+
+int FlashTemplateModel::columnCount(const QModelIndex& /*parent*/) const {
+    return value + 1;
+}
+
+QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid())
+        return {};
+    const bool isGroup = item(index)->propertyType() == pt_composite;
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return iSource.objectValueForTableColumn(columnName(index), item(index));
+    case Qt::ToolTipRole:
+        return item(index)->desc();
+    case Qt::FontRole: {
+        QFont font;
+        font.setBold(isGroup && index.column() == key);
+        return font;
+    }
+    // What a screen reader says about a value.
+    case Qt::AccessibleTextRole:
+        return index.column() == key ? item(index)->title() : item(index)->value();
+    case Qt::AccessibleDescriptionRole:
+        return item(index)->desc();
+    default:
+        return {};
+    }
+}
+
+bool FlashTemplateModel::setData(const QModelIndex& index, const QVariant& object, int role) {
+    if (!index.isValid() || role != Qt::EditRole)
+        return false;
+    iSource.setObjectValue(object, columnName(index), item(index));
+    Q_EMIT dataChanged(index, index);
+    return true;
+}
+
+Qt::ItemFlags FlashTemplateModel::flags(const QModelIndex& index) const {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    const bool isEdited = index.column() == value && item(index)->propertyType() != pt_composite &&
+                          !item(index)->readOnly();
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    return isEdited ? flags | Qt::ItemIsEditable : flags;
+}
+
+QVariant FlashTemplateModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    return section == key ? tr("Property") : tr("Value");
+}

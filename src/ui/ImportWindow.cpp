@@ -1,0 +1,113 @@
+#include "ui/ImportWindow.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+ImportWindow::ImportWindow(QWidget* parent) : QDialog(parent) {
+    setWindowTitle(tr("Import a PDF"));
+    setWindowModality(Qt::WindowModal);
+    importQuality = new QComboBox;
+    importQuality->addItems(
+        {tr("Best, for zooming in"), tr("High"), tr("Medium"), tr("Low"), tr("Smallest files")});
+    btnImportLinks = new QCheckBox(tr("Import &links"));
+    btnImportBookMark = new QCheckBox(tr("Import &bookmarks as contents"));
+    lblFailure = new QLabel;
+    lblFailure->setObjectName(QStringLiteral("failure"));
+    lblFailure->setWordWrap(true);
+    lblFailure->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    lblFailure->hide();
+
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->addRow(tr("&PDF file:"), fileRow());
+    form->addRow(tr("Pages:"), pagesRow());
+    form->addRow(tr("&Quality:"), importQuality);
+    form->addRow(QString(), btnImportLinks);
+    form->addRow(QString(), btnImportBookMark);
+    static_cast<QLabel*>(form->itemAt(0, QFormLayout::LabelRole)->widget())
+        ->setBuddy(txtImportFile);
+
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(form);
+    all->addWidget(lblFailure);
+    all->addStretch();
+    all->addWidget(progressRow());
+    all->addWidget(buttonRow());
+    resize(560, sizeHint().height());
+}
+
+QWidget* ImportWindow::fileRow() {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    txtImportFile = new QLineEdit;
+    txtImportFile->setMinimumWidth(260);
+    btnBrowseFile = new QPushButton(tr("&Choose…"));
+    btnOpenFile = new QPushButton(tr("&View"));
+    btnOpenFile->setToolTip(tr("Opens the PDF in the program that usually shows it"));
+    for (auto* button : {btnBrowseFile, btnOpenFile})
+        button->setAutoDefault(false);
+    layout->addWidget(txtImportFile, 1);
+    layout->addWidget(btnBrowseFile);
+    layout->addWidget(btnOpenFile);
+    return row;
+}
+
+QWidget* ImportWindow::pagesRow() {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    pageRangeType = new QButtonGroup(this);
+    auto* all = new QRadioButton(tr("&All"));
+    auto* typed = new QRadioButton(tr("&These:"));
+    pageRangeType->addButton(all, allPages);
+    pageRangeType->addButton(typed, typedPages);
+    txtPageRange = new QLineEdit;
+    txtPageRange->setPlaceholderText(tr("for example 1-3,7"));
+    txtPageRange->setAccessibleName(tr("Pages to import"));
+    layout->addWidget(all);
+    layout->addWidget(typed);
+    layout->addWidget(txtPageRange, 1);
+    return row;
+}
+
+// Keeps its place while it is empty, so that the window does not jump.
+QWidget* ImportWindow::progressRow() {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    prgBar = new QProgressBar;
+    prgBar->setTextVisible(false);
+    lblInfo = new QLabel;
+    for (auto* part : std::initializer_list<QWidget*>{prgBar, lblInfo}) {
+        QSizePolicy policy = part->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        part->setSizePolicy(policy);
+    }
+    layout->addWidget(prgBar, 1);
+    layout->addWidget(lblInfo);
+    return row;
+}
+
+QWidget* ImportWindow::buttonRow() {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    btnCancel = new QPushButton(tr("Cancel"));
+    btnCancel->setAutoDefault(false);
+    btnOK = new QPushButton(tr("&Import"));
+    btnOK->setDefault(true);
+    layout->addStretch();
+    layout->addWidget(btnCancel);
+    layout->addWidget(btnOK);
+    return row;
+}

@@ -1,0 +1,254 @@
+#include "ui/ImportWindowDelegate.h"
+
+#include "app/AppSettings.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+#include "ui/ImportWindow.h"
+#include "ui/Panels.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+constexpr int importDPI = 144;
+
+const Log& logger() {
+    static const Log log("ImportWindowDelegate");
+    return log;
+}
+
+// A source that could not be opened, or whose pages all failed, is no book.
+bool hasPages(const FlashPageSource* source) {
+    if (!source || source->pages().empty())
+        return false;
+    const auto* pdf = dynamic_cast<const FlashPageSourcePDF*>(source);
+    return !pdf || (pdf->openError().isNull() &&
+                    pdf->toPageConverter()->failedPages().size() < source->pages().size());
+}
+
+} // namespace
+
+ImportWindowDelegate::ImportWindowDelegate(QWidget* parent)
+    : iWindow(new ImportWindow(parent)), iFilePanel(Panels::chooseFile), iOpenFile(Panels::open) {
+    if (!parent)
+        connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
+    awakeFromNib();
+    wire();
+}
+
+ImportWindowDelegate::~ImportWindowDelegate() {
+    iQueue.cancelAllOperations();
+}
+
+void ImportWindowDelegate::awakeFromNib() {
+    const auto& settings = AppSettings::shareInstance();
+    iWindow->txtImportFile->setText(settings.lastImportedFile());
+    auto* chosen = iWindow->pageRangeType->button(settings.importPageRangeType());
+    (chosen ? chosen : iWindow->pageRangeType->button(ImportWindow::allPages))->setChecked(true);
+    iWindow->txtPageRange->setText(settings.importPageRange());
+    iWindow->importQuality->setCurrentIndex(settings.importQualityLevel());
+    iWindow->btnImportLinks->setChecked(settings.importLinks() != 0);
+    iWindow->btnImportBookMark->setChecked(settings.importBookmark() != 0);
+    iProgress = NotificationCenter::defaultCenter().addObserver(
+        QString::fromUtf16(ImportProgressInfoMSG), nullptr,
+        [this](const Notification& message) { anyThread_handleMSG(message); });
+    enableButtons(true);
+}
+
+void ImportWindowDelegate::wire() {
+    connect(iWindow->btnOK, &QPushButton::clicked, this, &ImportWindowDelegate::onImportAction);
+    connect(iWindow->btnCancel, &QPushButton::clicked, this, &ImportWindowDelegate::onCancelAction);
+    connect(iWindow, &ImportWindow::closeRequested, this, &ImportWindowDelegate::onCancelAction);
+    connect(iWindow->btnBrowseFile, &QPushButton::clicked, this,
+            &ImportWindowDelegate::onBrowseFileAction);
+    connect(iWindow->btnOpenFile, &QPushButton::clicked, this,
+            &ImportWindowDelegate::onOpenTheFileAction);
+    connect(iWindow->pageRangeType, &QButtonGroup::idClicked, this,
+            &ImportWindowDelegate::onPageRangeTypeChangeAction);
+}
+
+void ImportWindowDelegate::beginSheet(std::function<void(int)> onEnd) {
+    iOnEnd = std::move(onEnd);
+    showFailure({});
+    iWindow->open();
+}
+
+void ImportWindowDelegate::endSheet(int returnCode) {
+    iWindow->done(returnCode);
+    if (iOnEnd)
+        iOnEnd(returnCode);
+}
+
+void ImportWindowDelegate::enableButtons(bool idle) {
+    iWindow->btnOK->setEnabled(idle);
+    iWindow->txtImportFile->setEnabled(idle);
+    const bool typed = iWindow->pageRangeType->checkedId() == ImportWindow::typedPages;
+    iWindow->txtPageRange->setEnabled(idle && typed);
+    iWindow->importQuality->setEnabled(idle);
+    iWindow->lblInfo->setVisible(!idle);
+    iWindow->prgBar->setVisible(!idle);
+    // A bar without a range is one that moves by itself.
+    iWindow->prgBar->setRange(0, idle ? 1 : 0);
+}
+
+void ImportWindowDelegate::onPageRangeTypeChangeAction() {
+    enableButtons(true);
+}
+
+void ImportWindowDelegate::onImportAction() {
+    iIsImporting = true;
+    saveChoices();
+    enableButtons(false);
+    AppSettings::shareInstance().saveSettings();
+    iFlashPageSource = nullptr;
+    iFlashPagesAnnotations = nullptr;
+    iFlashOutline = nullptr;
+    iWindow->lblInfo->clear();
+    showFailure({});
+    logger().debug(QStringLiteral("start to import pdf now..."));
+    startImport();
+}
+
+void ImportWindowDelegate::saveChoices() const {
+    auto& settings = AppSettings::shareInstance();
+    settings.setLastImportedFile(iWindow->txtImportFile->text());
+    settings.setImportPageRangeType(iWindow->pageRangeType->checkedId());
+    settings.setImportQualityLevel(iWindow->importQuality->currentIndex());
+    settings.setImportPageRange(iWindow->txtPageRange->text());
+    settings.setImportBookmark(iWindow->btnImportBookMark->isChecked() ? 1 : 0);
+    settings.setImportLinks(iWindow->btnImportLinks->isChecked() ? 1 : 0);
+}
+
+int ImportWindowDelegate::qualityForLevel(int importQualityLevel) {
+    switch (importQualityLevel) {
+    case 1:
+        return 85;
+    case 2:
+        return 65;
+    case 3:
+        return 45;
+    case 4:
+        return 25;
+    default:
+        return 100;
+    }
+}
+
+void ImportWindowDelegate::startImport() {
+    iPageWidth = 0;
+    iPageHeight = 0;
+    iQueue.cancelAllOperations();
+    const bool typed = iWindow->pageRangeType->checkedId() == ImportWindow::typedPages;
+    const QString range = typed ? iWindow->txtPageRange->text() : QStringLiteral("ALL");
+    logger().debug(QStringLiteral("page range is:%1").arg(range));
+    const auto& settings = AppSettings::shareInstance();
+    iImportPDF =
+        std::make_shared<ImportPDFOperation>(iWindow->txtImportFile->text(), range, importDPI,
+                                             qualityForLevel(settings.importQualityLevel()));
+    iImportPDF->setFinishedObserver([this, weak = std::weak_ptr<ImportPDFOperation>(iImportPDF)] {
+        QMetaObject::invokeMethod(
+            this, [this, operation = weak.lock()] { importDidFinish(operation); },
+            Qt::QueuedConnection);
+    });
+    iImportPDF->setImportLinks(settings.importLinks() == 1);
+    iImportPDF->setImportBookmarks(settings.importBookmark() == 1);
+    logger().debug(QStringLiteral("before add operation"));
+    iQueue.addOperation(iImportPDF);
+    logger().debug(QStringLiteral("after add operation"));
+}
+
+void ImportWindowDelegate::anyThread_handleMSG(const Notification& message) {
+    QMetaObject::invokeMethod(
+        this, [this, userInfo = message.userInfo] { mainThread_handleMSG(userInfo); },
+        Qt::QueuedConnection);
+}
+
+void ImportWindowDelegate::mainThread_handleMSG(const QVariantMap& userInfo) {
+    if (iWindow->lblInfo->isHidden())
+        return;
+    iWindow->lblInfo->setText(tr("Importing:%1/%2")
+                                  .arg(userInfo[QStringLiteral("pageIndex")].toInt())
+                                  .arg(userInfo[QStringLiteral("totalPage")].toInt()));
+}
+
+void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation) {
+    // One that was given up for a newer one no longer counts.
+    if (!operation || operation != iImportPDF)
+        return;
+    logger().debug(QStringLiteral("import pdf isFinished."));
+    iFlashPageSource = operation->flashPageSource();
+    iFlashPagesAnnotations = operation->flashPagesAnnotation();
+    iFlashOutline = operation->flashOutline();
+    enableButtons(true);
+    if (!hasPages(iFlashPageSource.get())) {
+        iFlashPageSource = nullptr;
+        iFlashPagesAnnotations = nullptr;
+        iFlashOutline = nullptr;
+    }
+    if (iFlashPageSource) {
+        logger().debug(QStringLiteral("import pdf ok..."));
+        takePageSize();
+        iIsImporting = false;
+        endSheet(1);
+        return;
+    }
+    logger().warn(QStringLiteral("import pdf failed..."));
+    if (!operation->isCancelled())
+        showFailure(operation->failures());
+    iIsImporting = false;
+}
+
+void ImportWindowDelegate::takePageSize() {
+    const auto* source = dynamic_cast<const FlashPageSourcePDF*>(iFlashPageSource.get());
+    const auto document = source ? source->toPageConverter()->PDFDoc() : nullptr;
+    if (!document)
+        return;
+    try {
+        const QRectF box = document->page(0).cropBox();
+        iPageWidth = int(box.width());
+        iPageHeight = int(box.height());
+    } catch (const PlatformException&) {
+        iPageWidth = 0;
+        iPageHeight = 0;
+    }
+    auto& settings = AppSettings::shareInstance();
+    settings.setPageWidth(iPageWidth);
+    settings.setPageHeight(iPageHeight);
+    settings.saveSettings();
+}
+
+void ImportWindowDelegate::showFailure(const QStringList& failures) {
+    iWindow->lblFailure->setText(failures.join(u'\n'));
+    iWindow->lblFailure->setVisible(!failures.isEmpty());
+}
+
+void ImportWindowDelegate::onCancelAction() {
+    Log::system(QStringLiteral("cancel import pdf!!,%1").arg(iWindow->windowTitle()));
+    enableButtons(true);
+    if (iQueue.operationCount() > 0)
+        iQueue.cancelAllOperations();
+    else
+        endSheet(0);
+}
+
+void ImportWindowDelegate::onBrowseFileAction() {
+    openPanelDidEnd(iFilePanel(iWindow->txtImportFile->text(), {QStringLiteral("pdf")}));
+}
+
+// A cancelled panel leaves what was typed.
+void ImportWindowDelegate::openPanelDidEnd(const std::optional<QString>& panelFile) {
+    Log::system(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
+    if (panelFile)
+        iWindow->txtImportFile->setText(*panelFile);
+}
+
+void ImportWindowDelegate::onOpenTheFileAction() {
+    iOpenFile(iWindow->txtImportFile->text());
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "pages/ImportPDFOperation.h"
+#include "platform/NotificationCenter.h"
+#include "platform/Operation.h"
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class ImportWindow;
+
+// Runs the import sheet: takes the user's choices, imports in the background, shows how far it has
+// come, and keeps what came of it. The sheet ends with 1 after an import and 0 without one.
+class ImportWindowDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    explicit ImportWindowDelegate(QWidget* parent = nullptr);
+    ~ImportWindowDelegate() override;
+
+    ImportWindow& window() const { return *iWindow; }
+    // Shows the sheet on its parent; onEnd gets the return code.
+    void beginSheet(std::function<void(int)> onEnd);
+
+    // The results of the last import; none before one and after one that failed.
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
+        iFlashPageSource = std::move(value);
+    }
+    std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
+        return iFlashPagesAnnotations;
+    }
+    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
+        iFlashPagesAnnotations = std::move(value);
+    }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+    // Points; 0 until an import succeeds.
+    int pageWidth() const { return iPageWidth; }
+    void setPageWidth(int width) { iPageWidth = width; }
+    int pageHeight() const { return iPageHeight; }
+    void setPageHeight(int height) { iPageHeight = height; }
+    bool isImporting() const { return iIsImporting; }
+
+    // How a file is asked for (none when the panel is cancelled) and how one is opened.
+    using FilePanel =
+        std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>;
+    void setFilePanel(FilePanel panel) { iFilePanel = std::move(panel); }
+    void setFileOpener(std::function<void(const QString&)> opener) {
+        iOpenFile = std::move(opener);
+    }
+
+    void onImportAction();
+    void onCancelAction();
+    void onBrowseFileAction();
+    void onOpenTheFileAction();
+    void onPageRangeTypeChangeAction();
+    void openPanelDidEnd(const std::optional<QString>& panelFile);
+
+    // Idle or busy.
+    void enableButtons(bool idle);
+
+    // The quality that a choice in the sheet stands for.
+    static int qualityForLevel(int importQualityLevel);
+
+private:
+    void awakeFromNib();
+    void wire();
+    void saveChoices() const;
+    void startImport();
+    void anyThread_handleMSG(const Notification& message);
+    void mainThread_handleMSG(const QVariantMap& userInfo);
+    void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
+    void takePageSize();
+    void showFailure(const QStringList& failures);
+    void endSheet(int returnCode);
+
+    ImportWindow* iWindow;
+    int iPageWidth = 0;
+    int iPageHeight = 0;
+    bool iIsImporting = false;
+    std::shared_ptr<FlashPageSource> iFlashPageSource;
+    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
+    std::shared_ptr<FlashOutline> iFlashOutline;
+    std::shared_ptr<ImportPDFOperation> iImportPDF;
+    NotificationCenter::Subscription iProgress;
+    FilePanel iFilePanel;
+    std::function<void(const QString&)> iOpenFile;
+    std::function<void(int)> iOnEnd;
+    // Last, so that its thread has ended before anything that it might reach goes.
+    OperationQueue iQueue;
+};

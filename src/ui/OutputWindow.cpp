@@ -1,0 +1,79 @@
+#include "ui/OutputWindow.h"
+
+#include <QButtonGroup>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+OutputWindow::OutputWindow(QWidget* parent) : QDialog(parent) {
+    setWindowTitle(tr("Publish the book"));
+    setWindowModality(Qt::WindowModal);
+    txtOutputName = new QLineEdit;
+    txtOutputName->setPlaceholderText(tr("without an ending, for example index"));
+    txtTitle = new QLineEdit;
+    txtTitle->setPlaceholderText(tr("shown in the browser's window"));
+
+    auto* form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->addRow(tr("Kind of book:"), typeRow());
+    form->addRow(tr("&Folder:"), folderRow());
+    form->addRow(tr("File &name:"), txtOutputName);
+    form->addRow(tr("&Title:"), txtTitle);
+    static_cast<QLabel*>(form->itemAt(1, QFormLayout::LabelRole)->widget())
+        ->setBuddy(txtOutputFolder);
+
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(form);
+    all->addStretch();
+    all->addWidget(buttonRow());
+    resize(560, sizeHint().height());
+}
+
+QWidget* OutputWindow::typeRow() {
+    auto* row = new QWidget;
+    auto* layout = new QVBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    mOutputType = new QButtonGroup(this);
+    auto* html = new QRadioButton(tr("&Web page in a folder, for every computer and the web"));
+    auto* app = new QRadioButton(tr("Application for the &Mac"));
+    mOutputType->addButton(html, htmlBook);
+    mOutputType->addButton(app, application);
+    layout->addWidget(html);
+    layout->addWidget(app);
+    return row;
+}
+
+QWidget* OutputWindow::folderRow() {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    txtOutputFolder = new QLineEdit;
+    txtOutputFolder->setMinimumWidth(260);
+    btnSelectFolder = new QPushButton(tr("&Choose…"));
+    btnOpenFolder = new QPushButton(tr("&Show"));
+    btnOpenFolder->setToolTip(tr("Opens the folder in the file manager"));
+    for (auto* button : {btnSelectFolder, btnOpenFolder})
+        button->setAutoDefault(false);
+    layout->addWidget(txtOutputFolder, 1);
+    layout->addWidget(btnSelectFolder);
+    layout->addWidget(btnOpenFolder);
+    return row;
+}
+
+QWidget* OutputWindow::buttonRow() {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    btnCancel = new QPushButton(tr("Cancel"));
+    btnCancel->setAutoDefault(false);
+    btnPublish = new QPushButton(tr("&Publish"));
+    btnPublish->setDefault(true);
+    layout->addStretch();
+    layout->addWidget(btnCancel);
+    layout->addWidget(btnPublish);
+    return row;
+}

@@ -1,0 +1,127 @@
+#include "ui/OutputWindowDelegate.h"
+
+#include "app/AppSettings.h"
+#include "output/FolveroOutputApp.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+#include "ui/OutputWindow.h"
+#include "ui/Panels.h"
+
+#include <QButtonGroup>
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+const Log& logger() {
+    static const Log log("OutputWindowDelegate");
+    return log;
+}
+
+} // namespace
+
+OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
+    : iWindow(new OutputWindow(parent)),
+      iQuestions{Panels::chooseFolder, Panels::askToOpen, Panels::open, Panels::tell} {
+    if (!parent)
+        connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
+    awakeFromNib();
+    connect(iWindow->btnPublish, &QPushButton::clicked, this, &OutputWindowDelegate::onPublish);
+    connect(iWindow->btnCancel, &QPushButton::clicked, this, &OutputWindowDelegate::onCancel);
+    connect(iWindow, &OutputWindow::closeRequested, this, &OutputWindowDelegate::onCancel);
+    connect(iWindow->btnSelectFolder, &QPushButton::clicked, this,
+            &OutputWindowDelegate::onSelectFolder);
+    connect(iWindow->btnOpenFolder, &QPushButton::clicked, this,
+            &OutputWindowDelegate::onOpenFolder);
+}
+
+void OutputWindowDelegate::awakeFromNib() {
+    const auto& settings = AppSettings::shareInstance();
+    iWindow->txtOutputFolder->setText(settings.lastOutputFileFolder());
+    iWindow->txtOutputName->setText(settings.lastOutputFileName());
+    iWindow->txtTitle->setText(settings.lastOutputFileTitle());
+    auto* chosen = iWindow->mOutputType->button(settings.outputType());
+    (chosen ? chosen : iWindow->mOutputType->button(OutputWindow::htmlBook))->setChecked(true);
+}
+
+void OutputWindowDelegate::beginSheet() {
+    iWindow->open();
+}
+
+void OutputWindowDelegate::endSheet(int returnCode) {
+    iWindow->done(returnCode);
+}
+
+void OutputWindowDelegate::saveChoices() const {
+    auto& settings = AppSettings::shareInstance();
+    settings.setLastOutputFileFolder(iWindow->txtOutputFolder->text());
+    settings.setLastOutputFileName(iWindow->txtOutputName->text());
+    settings.setLastOutputFileTitle(iWindow->txtTitle->text());
+    settings.setOutputType(iWindow->mOutputType->checkedId());
+    settings.saveSettings();
+}
+
+// The application takes its name from the same text: it replaces the ending.
+std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() const {
+    const QString folder = iWindow->txtOutputFolder->text();
+    const QString name = iWindow->txtOutputName->text() + QStringLiteral(".html");
+    if (AppSettings::shareInstance().outputType() == OutputWindow::application)
+        return std::make_unique<FolveroOutputApp>(iFlashPageSource, iFlashTmpl, folder, name);
+    if (!QFileInfo::exists(folder))
+        QDir().mkdir(folder);
+    return std::make_unique<FolveroOutput>(iFlashPageSource, iFlashTmpl, folder, name);
+}
+
+void OutputWindowDelegate::onPublish() {
+    saveChoices();
+    {
+        const auto output = makeOutput();
+        try {
+            publish(*output);
+        } catch (const PlatformException& failure) {
+            logger().error(QStringLiteral("publish error:%1").arg(failure.reason()));
+        }
+    }
+    endSheet(1);
+}
+
+void OutputWindowDelegate::publish(FolveroOutput& output) {
+    auto html = std::make_shared<HTMLConfigInfo>();
+    html->setHTMLTitle(AppSettings::shareInstance().lastOutputFileTitle().toHtmlEscaped());
+    output.setHTMLConfig(html);
+    output.setFlashPagesAnnotations(iFlashPagesAnnotations);
+    output.setFlashOutline(iFlashOutline);
+    output.ouputTheBook();
+    const QString result = output.outputFileName();
+    if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
+        const QString cause = output.publishErrors().isEmpty()
+                                  ? tr("The folder %1 could not be made.").arg(result)
+                                  : output.publishErrors().join(u'\n');
+        iQuestions.tell(tr("The book was not published"), cause);
+        return;
+    }
+    if (iQuestions.openResult(tr("Open the result files?"), tr("Publish finished! Open the it?")))
+        iQuestions.open(result);
+}
+
+void OutputWindowDelegate::onCancel() {
+    endSheet(0);
+}
+
+void OutputWindowDelegate::onSelectFolder() {
+    openPanelDidEnd(iQuestions.folder(tr("Choose folder")));
+}
+
+// A cancelled panel leaves what was typed.
+void OutputWindowDelegate::openPanelDidEnd(const std::optional<QString>& panelFile) {
+    logger().debug(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
+    if (panelFile)
+        iWindow->txtOutputFolder->setText(*panelFile);
+}
+
+void OutputWindowDelegate::onOpenFolder() {
+    iQuestions.open(iWindow->txtOutputFolder->text());
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "output/FolveroOutput.h"
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class OutputWindow;
+
+// Runs the publish sheet: takes the user's choices, publishes while the sheet is up, and offers to
+// open the result. The sheet ends with 1 after a publish, whatever came of it, and 0 without one.
+class OutputWindowDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    explicit OutputWindowDelegate(QWidget* parent = nullptr);
+
+    OutputWindow& window() const { return *iWindow; }
+    void beginSheet();
+
+    // What is published; set before the sheet is shown.
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
+        iFlashPageSource = std::move(value);
+    }
+    std::shared_ptr<FlashTemplate> flashTmpl() const { return iFlashTmpl; }
+    void setFlashTmpl(std::shared_ptr<FlashTemplate> value) { iFlashTmpl = std::move(value); }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+    std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
+        return iFlashPagesAnnotations;
+    }
+    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
+        iFlashPagesAnnotations = std::move(value);
+    }
+
+    // How the user is asked: for a folder (none when cancelled), whether to open the result (true
+    // for yes), and how a file or folder is opened and a failure told.
+    struct Questions {
+        std::function<std::optional<QString>(const QString& prompt)> folder;
+        std::function<bool(const QString& message, const QString& information)> openResult;
+        std::function<void(const QString& path)> open;
+        std::function<void(const QString& message, const QString& information)> tell;
+    };
+    void setQuestions(Questions questions) { iQuestions = std::move(questions); }
+
+    void onPublish();
+    void onCancel();
+    void onSelectFolder();
+    void onOpenFolder();
+    void openPanelDidEnd(const std::optional<QString>& panelFile);
+
+private:
+    void awakeFromNib();
+    void saveChoices() const;
+    std::unique_ptr<FolveroOutput> makeOutput() const;
+    void publish(FolveroOutput& output);
+    void endSheet(int returnCode);
+
+    OutputWindow* iWindow;
+    std::shared_ptr<FlashPageSource> iFlashPageSource;
+    std::shared_ptr<FlashTemplate> iFlashTmpl;
+    std::shared_ptr<FlashOutline> iFlashOutline;
+    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
+    Questions iQuestions;
+};

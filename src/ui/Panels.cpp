@@ -1,0 +1,73 @@
+#include "ui/Panels.h"
+
+#include "ui/wxCPWCDelegate.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+namespace {
+
+QString nameFilter(const QStringList& types) {
+    QStringList patterns;
+    for (const QString& type : types) {
+        if (!type.trimmed().isEmpty())
+            patterns << QStringLiteral("*.%1 *.%2").arg(type.trimmed(), type.trimmed().toUpper());
+    }
+    return patterns.isEmpty() ? QString() : QStringLiteral("(%1)").arg(patterns.join(u' '));
+}
+
+} // namespace
+
+std::optional<QString> Panels::chooseFile(const QString& proposed, const QStringList& types) {
+    const QString file = QFileDialog::getOpenFileName(QApplication::activeWindow(), QString(),
+                                                      proposed, nameFilter(types));
+    return file.isEmpty() ? std::nullopt : std::optional(file);
+}
+
+QColor Panels::chooseColor(const QColor& initial) {
+    QColorDialog panel(initial, QApplication::activeWindow());
+    wxCPWCDelegate delegate;
+    QObject::connect(&panel, &QDialog::finished, [&delegate] { delegate.windowShouldClose(); });
+    panel.setModal(true);
+    panel.show();
+    while (!delegate.isClosed())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return panel.result() == QDialog::Accepted ? panel.selectedColor() : initial;
+}
+
+std::optional<QString> Panels::chooseFolder(const QString& prompt) {
+    QFileDialog panel(QApplication::activeWindow());
+    panel.setFileMode(QFileDialog::Directory);
+    panel.setOption(QFileDialog::ShowDirsOnly);
+    panel.setLabelText(QFileDialog::Accept, prompt);
+    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
+        return std::nullopt;
+    return panel.selectedFiles().first();
+}
+
+bool Panels::askToOpen(const QString& message, const QString& information) {
+    QMessageBox alert(QMessageBox::Information, QApplication::applicationDisplayName(), message,
+                      QMessageBox::NoButton, QApplication::activeWindow());
+    alert.setInformativeText(information);
+    const QAbstractButton* openIt =
+        alert.addButton(QCoreApplication::translate("Panels", "Open it"), QMessageBox::AcceptRole);
+    alert.addButton(QCoreApplication::translate("Panels", "No"), QMessageBox::RejectRole);
+    alert.exec();
+    return alert.clickedButton() == openIt;
+}
+
+void Panels::tell(const QString& message, const QString& information) {
+    QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
+                      QMessageBox::Ok, QApplication::activeWindow());
+    alert.setInformativeText(information);
+    alert.exec();
+}
+
+void Panels::open(const QString& path) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}

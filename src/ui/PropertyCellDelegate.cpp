@@ -1,0 +1,302 @@
+#include "ui/PropertyCellDelegate.h"
+
+#include "ui/FlashTmplColorCell.h"
+#include "ui/FlashTmplFileCell.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QTreeView>
+
+namespace {
+
+constexpr int rowHeight = 24;
+constexpr qreal cellHeight = 19;
+constexpr int arrowSide = 12;
+constexpr int textMargin = 4;
+
+// Cells are made for rows of one line; they sit in the middle of higher ones.
+QRectF frameIn(const QRect& row) {
+    return QRectF(row).adjusted(0, std::max(0.0, (row.height() - cellHeight) / 2), 0, 0);
+}
+
+QStyle& styleOf(const QStyleOptionViewItem& option) {
+    return option.widget ? *option.widget->style() : *QApplication::style();
+}
+
+bool isKeyThatActivates(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Space || key == Qt::Key_Select;
+}
+
+bool isLeftButton(const QEvent& event, QEvent::Type type) {
+    return event.type() == type &&
+           static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+}
+
+} // namespace
+
+PropertyCellDelegate::PropertyCellDelegate(QTreeView& view)
+    : QStyledItemDelegate(&view), iView(view) {
+    view.viewport()->setMouseTracking(true);
+    view.viewport()->installEventFilter(this);
+}
+
+std::unique_ptr<Cell> PropertyCellDelegate::cellFor(const QStyleOptionViewItem& option,
+                                                    const QModelIndex& index) const {
+    const auto* model = qobject_cast<const FlashTemplateModel*>(index.model());
+    if (!model)
+        return nullptr;
+    FlashTemplateProperty* item = FlashTemplateModel::item(index);
+    const QString column = FlashTemplateModel::columnName(index);
+    auto cell = model->source().dataCellForTableColumn(column, item);
+    if (!cell)
+        return nullptr;
+    model->source().willDisplayCell(*cell, column, item);
+    if (auto* text = dynamic_cast<TextFieldCell*>(cell.get())) {
+        text->setFont(option.font);
+        text->setHighlighted(option.state.testFlag(QStyle::State_Selected));
+        text->setMouseHoveredInInfoButton(iHoveredIndex == index);
+    }
+    return cell;
+}
+
+std::unique_ptr<TextFieldCell> PropertyCellDelegate::buttonCellFor(const QModelIndex& index) const {
+    QStyleOptionViewItem option;
+    option.font = iView.font();
+    auto cell = cellFor(option, index);
+    if (auto* text = dynamic_cast<TextFieldCell*>(cell.get())) {
+        cell.release();
+        return std::unique_ptr<TextFieldCell>(text);
+    }
+    return nullptr;
+}
+
+void PropertyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const {
+    QStyleOptionViewItem plain(option);
+    initStyleOption(&plain, index);
+    const auto cell = cellFor(plain, index);
+    if (!cell) {
+        QStyledItemDelegate::paint(painter, option, index);
+        return;
+    }
+    plain.text.clear();
+    styleOf(plain).drawControl(QStyle::CE_ItemViewItem, &plain, painter, plain.widget);
+    painter->save();
+    painter->setClipRect(plain.rect);
+    if (const auto* list = dynamic_cast<const PopUpButtonCell*>(cell.get())) {
+        paintList(*painter, plain, list->itemTitles().value(list->indexOfSelectedItem()));
+    } else if (const auto* button = dynamic_cast<const ButtonCell*>(cell.get())) {
+        paintCheckBox(*painter, plain, *button);
+    } else {
+        const bool isHeld = iTracked && iTrackedIndex == index;
+        const auto& text = isHeld ? *iTracked : dynamic_cast<const TextFieldCell&>(*cell);
+        text.drawInteriorWithFrame(*painter, frameIn(plain.rect));
+    }
+    painter->restore();
+}
+
+void PropertyCellDelegate::paintList(QPainter& painter, const QStyleOptionViewItem& option,
+                                     const QString& text) const {
+    QStyleOption arrow(option);
+    arrow.rect = QRect(option.rect.right() - arrowSide - textMargin,
+                       option.rect.center().y() - arrowSide / 2, arrowSide, arrowSide);
+    const QRect room = option.rect.adjusted(textMargin, 0, -arrowSide - 2 * textMargin, 0);
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
+    painter.setFont(option.font);
+    painter.setPen(option.palette.color(role));
+    painter.drawText(room, int(Qt::AlignVCenter | Qt::AlignLeft),
+                     option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
+    arrow.palette.setColor(QPalette::ButtonText, option.palette.color(role));
+    styleOf(option).drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, option.widget);
+}
+
+void PropertyCellDelegate::paintCheckBox(QPainter& painter, const QStyleOptionViewItem& option,
+                                         const ButtonCell& cell) const {
+    QStyleOptionButton box;
+    box.QStyleOption::operator=(option);
+    box.rect = option.rect.adjusted(textMargin, 0, 0, 0);
+    box.text = cell.title();
+    box.fontMetrics = option.fontMetrics;
+    box.state = option.state & ~QStyle::State_HasFocus;
+    box.state |= cell.state() ? QStyle::State_On : QStyle::State_Off;
+    if (option.state.testFlag(QStyle::State_Selected)) {
+        box.palette.setColor(QPalette::WindowText, option.palette.color(QPalette::HighlightedText));
+    }
+    styleOf(option).drawControl(QStyle::CE_CheckBox, &box, &painter, option.widget);
+}
+
+QSize PropertyCellDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                     const QModelIndex& index) const {
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    return {size.width(), std::max(rowHeight, size.height())};
+}
+
+QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                            const QModelIndex& index) const {
+    const FlashTemplateProperty* item = FlashTemplateModel::item(index);
+    if (item->propertyType() == pt_bool)
+        return nullptr;
+    if (item->propertyType() != pt_list) {
+        auto* edit = new QLineEdit(parent);
+        edit->setFrame(false);
+        edit->setAccessibleName(item->title());
+        return edit;
+    }
+    auto* list = new QComboBox(parent);
+    list->addItems(FlashTemplateOutlineDelegate::choices(*item));
+    list->setAccessibleName(item->title());
+    list->setFont(option.font);
+    auto* self = const_cast<PropertyCellDelegate*>(this);
+    connect(list, &QComboBox::activated, self, [self, list] {
+        Q_EMIT self->commitData(list);
+        Q_EMIT self->closeEditor(list);
+    });
+    QTimer::singleShot(0, list, &QComboBox::showPopup);
+    return list;
+}
+
+void PropertyCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    const QString value = FlashTemplateModel::item(index)->value();
+    if (auto* list = qobject_cast<QComboBox*>(editor))
+        list->setCurrentIndex(list->findText(value));
+    else if (auto* edit = qobject_cast<QLineEdit*>(editor))
+        edit->setText(value);
+}
+
+void PropertyCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                        const QModelIndex& index) const {
+    if (const auto* list = qobject_cast<QComboBox*>(editor)) {
+        if (list->currentIndex() >= 0)
+            model->setData(index, list->currentIndex());
+    } else if (const auto* edit = qobject_cast<QLineEdit*>(editor)) {
+        model->setData(index, edit->text());
+    }
+}
+
+// Over the text alone, so that swatch and button stay free; but over all the room that a text may
+// take, since it can grow.
+void PropertyCellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                                const QModelIndex& index) const {
+    QRect rect = option.rect;
+    if (const auto cell = buttonCellFor(index)) {
+        const QRectF frame = frameIn(option.rect);
+        const QRectF button = cell->infoButtonRectForBounds(frame);
+        const QRectF title = cell->titleRectForBounds(frame);
+        rect.setLeft(int(title.left()) - 2);
+        if (button.left() > title.left())
+            rect.setRight(int(button.left()) - 3);
+    }
+    editor->setGeometry(rect);
+}
+
+bool PropertyCellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                                       const QStyleOptionViewItem& option,
+                                       const QModelIndex& index) {
+    if (!index.flags().testFlag(Qt::ItemIsEditable))
+        return false;
+    if (isKeyThatActivates(*event))
+        return activate(index);
+    const int type = FlashTemplateModel::item(index)->propertyType();
+    if (type == pt_bool) {
+        if (isLeftButton(*event, QEvent::MouseButtonRelease))
+            toggle(*model, index);
+        return isLeftButton(*event, QEvent::MouseButtonRelease);
+    }
+    if (type == pt_list && isLeftButton(*event, QEvent::MouseButtonRelease)) {
+        QTimer::singleShot(0, &iView,
+                           [this, at = QPersistentModelIndex(index)] { iView.edit(at); });
+        return true;
+    }
+    if (isLeftButton(*event, QEvent::MouseButtonPress))
+        return trackButton(static_cast<QMouseEvent&>(*event), option, index);
+    return false;
+}
+
+bool PropertyCellDelegate::trackButton(QMouseEvent& event, const QStyleOptionViewItem& option,
+                                       const QModelIndex& index) {
+    const QRectF frame = frameIn(option.rect);
+    auto cell = buttonCellFor(index);
+    if (!cell || !(cell->hitTestForEvent(event.position(), frame) & hitTrackableArea))
+        return false;
+    cell->setHighlighted(option.state.testFlag(QStyle::State_Selected));
+    iTracked = std::move(cell);
+    iTrackedIndex = index;
+    iTracked->trackMouse(event, frame, *iView.viewport());
+    return true;
+}
+
+// The view does not pass on moves with a button down, nor what happens outside of a row.
+bool PropertyCellDelegate::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != iView.viewport())
+        return QStyledItemDelegate::eventFilter(watched, event);
+    if (event->type() == QEvent::Leave)
+        hover(QPointF(-1, -1));
+    const bool isMove = event->type() == QEvent::MouseMove;
+    if (!isMove && event->type() != QEvent::MouseButtonRelease)
+        return false;
+    const auto& mouse = static_cast<const QMouseEvent&>(*event);
+    if (isMove)
+        hover(mouse.position());
+    if (!iTracked)
+        return false;
+    const QRectF frame = frameIn(iView.visualRect(iTrackedIndex));
+    if (isMove) {
+        iTracked->trackMouse(mouse, frame, *iView.viewport());
+        return true;
+    }
+    // What the action opens may handle further events: nothing is held by then.
+    const auto cell = std::move(iTracked);
+    const QPersistentModelIndex index = std::exchange(iTrackedIndex, QPersistentModelIndex());
+    const QString before = cell->title();
+    cell->trackMouse(mouse, frame, *iView.viewport());
+    if (cell->title() != before)
+        commit(*cell, index);
+    return true;
+}
+
+void PropertyCellDelegate::hover(const QPointF& at) {
+    const QModelIndex index = iView.indexAt(at.toPoint());
+    const auto cell = index.isValid() ? buttonCellFor(index) : nullptr;
+    const bool isOver =
+        cell && cell->infoButtonRectForBounds(frameIn(iView.visualRect(index))).contains(at);
+    const QPersistentModelIndex before = iHoveredIndex;
+    iHoveredIndex = isOver ? index : QModelIndex();
+    if (before == iHoveredIndex)
+        return;
+    for (const QModelIndex& changed : {QModelIndex(before), QModelIndex(iHoveredIndex)}) {
+        if (changed.isValid())
+            iView.update(changed);
+    }
+}
+
+bool PropertyCellDelegate::activate(const QModelIndex& index) {
+    if (FlashTemplateModel::item(index)->propertyType() == pt_bool) {
+        toggle(*iView.model(), index);
+        return true;
+    }
+    const auto cell = buttonCellFor(index);
+    if (!cell || !cell->infoButtonAction())
+        return false;
+    const QPersistentModelIndex kept = index;
+    cell->infoButtonAction()(*cell);
+    commit(*cell, kept);
+    return true;
+}
+
+void PropertyCellDelegate::toggle(QAbstractItemModel& model, const QModelIndex& index) const {
+    const bool isOn = StringUtil::valueAsBool(FlashTemplateModel::item(index)->value());
+    model.setData(index, !isOn);
+}
+
+void PropertyCellDelegate::commit(const TextFieldCell& cell, const QModelIndex& index) {
+    if (index.isValid())
+        iView.model()->setData(index, cell.title());
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "ui/FlashTemplateModel.h"
+#include "ui/TextFieldCell.h"
+
+#include <QPersistentModelIndex>
+#include <QStyledItemDelegate>
+
+class QTreeView;
+
+// Puts the outline delegate's cells into the property editor's view: draws them, hands them the
+// mouse and the keyboard, and opens an editor over the text of one.
+class PropertyCellDelegate : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    explicit PropertyCellDelegate(QTreeView& view);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    // Does what a click on the button of a row's value does; false when it has none.
+    bool activate(const QModelIndex& index);
+
+private:
+    std::unique_ptr<Cell> cellFor(const QStyleOptionViewItem& option,
+                                  const QModelIndex& index) const;
+    std::unique_ptr<TextFieldCell> buttonCellFor(const QModelIndex& index) const;
+    void paintList(QPainter& painter, const QStyleOptionViewItem& option,
+                   const QString& text) const;
+    void paintCheckBox(QPainter& painter, const QStyleOptionViewItem& option,
+                       const ButtonCell& cell) const;
+    bool trackButton(QMouseEvent& event, const QStyleOptionViewItem& option,
+                     const QModelIndex& index);
+    void toggle(QAbstractItemModel& model, const QModelIndex& index) const;
+    void hover(const QPointF& at);
+    void commit(const TextFieldCell& cell, const QModelIndex& index);
+
+    QTreeView& iView;
+    // The cell that the mouse holds, and the row that the pointer is over the button of.
+    std::unique_ptr<TextFieldCell> iTracked;
+    QPersistentModelIndex iTrackedIndex;
+    QPersistentModelIndex iHoveredIndex;
+};

@@ -1,0 +1,68 @@
+import assert from 'node:assert/strict';
+import { execFile } from 'node:child_process';
+import { mkdtemp, rm } from 'node:fs/promises';
+import { tmpdir } from 'node:os';
+import path from 'node:path';
+import { after, before, test } from 'node:test';
+import { pathToFileURL } from 'node:url';
+import { promisify } from 'node:util';
+import { writeConfiguration } from './support/book.mjs';
+import { DESK, PHONE, findFirefox, launchFirefox, openBook } from './support/firefox.mjs';
+import { serve } from './support/server.mjs';
+
+const run = promisify(execFile);
+const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
+const firefox = findFirefox();
+const missing = [[firefox, 'Firefox is not installed'], [FOLVERO_BIN, 'FOLVERO_BIN is not set'],
+  [FOLVERO_SAMPLES_DIR, 'FOLVERO_SAMPLES_DIR is not set']].find(([there]) => !there);
+const ready = { skip: missing ? missing[1] : false };
+
+let browser;
+let folder;
+let server;
+
+async function publish(name) {
+  const target = path.join(folder, name);
+  await run(FOLVERO_BIN, ['publish', '--quiet', path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf'), target]);
+  return target;
+}
+
+before(async () => {
+  if (missing) return;
+  folder = await mkdtemp(path.join(tmpdir(), 'folvero-firefox-'));
+  server = await serve(await publish('book'));
+  browser = await launchFirefox(firefox);
+});
+after(async () => {
+  await browser?.close();
+  await server?.close();
+  if (folder) await rm(folder, { recursive: true });
+});
+
+const addresses = { 'from disk': () => pathToFileURL(path.join(folder, 'book/index.html')).href, 'over http': () => server.address };
+const screens = [['a desk', DESK, [[2, 3], [4, 5]]], ['a phone', PHONE, [[2], [3]]]];
+for (const [way, address] of Object.entries(addresses)) {
+  for (const [name, viewport, [second, third]] of screens) {
+    test(`Firefox opens a published book ${way} on ${name}, and turns it`, ready, async () => {
+      const book = await openBook(browser, address(), viewport);
+      await book.waitForPages(1);
+      assert.deepEqual(await book.picture(), { file: '1.jpg', seen: true });
+      await book.page.keyboard.press('ArrowRight');
+      await book.waitForPages(...second);
+      assert.deepEqual(await book.picture(), { file: '2.jpg', seen: true });
+      const { x, y, width, height } = await book.box('right');
+      await book.drag([x + width - 20, y + height / 2], [x - width * (second.length > 1 ? 0.9 : 0) + 10, y + height / 2 - 20]);
+      await book.waitForPages(...third);
+      assert.deepEqual(book.errors, []);
+      await book.close();
+    });
+  }
+}
+
+test('Firefox tells that a book is damaged', ready, async () => {
+  const damaged = await publish('damaged');
+  await writeConfiguration(damaged, Buffer.from('no configuration'));
+  const book = await openBook(browser, pathToFileURL(path.join(damaged, 'index.html')).href, DESK);
+  const words = await book.page.$eval('.message', (message) => message.innerText);
+  assert.match(words, /damaged/);
+});

@@ -1,0 +1,147 @@
+#include "ui/OutputWindow.h"
+#include "ui/OutputWindowDelegate.h"
+
+#include "app/AppSettings.h"
+#include "platform/PlatformException.h"
+#include "support/PublishedBook.h"
+#include "support/RecordedLog.h"
+
+#include <QButtonGroup>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+QString text(const char* latin1) {
+    return QString::fromLatin1(latin1);
+}
+
+class PublishSheet : public testing::Test {
+protected:
+    PublishSheet() {
+        book.addPage(text("1.jpg"), 1, "first");
+        auto& settings = AppSettings::shareInstance();
+        settings.setLastOutputFileFolder(book.folder());
+        settings.setLastOutputFileName(text("mybook"));
+        settings.setLastOutputFileTitle(text("Tea & cake"));
+        settings.setOutputType(OutputWindow::htmlBook);
+    }
+
+    void open() {
+        sheet = std::make_unique<OutputWindowDelegate>();
+        sheet->setFlashTmpl(book.flashTemplate);
+        sheet->setFlashPageSource(book.pageSource);
+        sheet->setQuestions({[this](const QString& prompt) {
+                                 prompts << prompt;
+                                 return folderAnswer;
+                             },
+                             [this](const QString& message, const QString& information) {
+                                 questions << message << information;
+                                 return openAnswer;
+                             },
+                             [this](const QString& path) { opened << path; },
+                             [this](const QString&, const QString& cause) { told << cause; }});
+        sheet->beginSheet();
+        QObject::connect(&window(), &QDialog::finished, [this](int code) { ended << code; });
+    }
+    OutputWindow& window() { return sheet->window(); }
+    void click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+
+    PublishedBook book;
+    std::unique_ptr<OutputWindowDelegate> sheet;
+    std::optional<QString> folderAnswer;
+    bool openAnswer = false;
+    QStringList prompts, questions, opened, told;
+    QList<int> ended;
+};
+
+} // namespace
+
+TEST_F(PublishSheet, ShowsTheChoicesOfLastTime) {
+    AppSettings::shareInstance().setOutputType(OutputWindow::application);
+    open();
+    EXPECT_EQ(window().txtOutputFolder->text(), book.folder());
+    EXPECT_EQ(window().txtOutputName->text(), text("mybook"));
+    EXPECT_EQ(window().txtTitle->text(), text("Tea & cake"));
+    EXPECT_EQ(window().mOutputType->checkedId(), OutputWindow::application);
+}
+
+TEST_F(PublishSheet, PublishesAPageIntoAFolderThatItMakes) {
+    openAnswer = true;
+    open();
+    window().txtOutputFolder->setText(book.folder() + text("/new"));
+    click(window().btnPublish);
+    EXPECT_EQ(book.read(text("new/mybook.html")), "<title>Tea &amp; cake</title>");
+    EXPECT_EQ(book.read(text("new/files/page/1.jpg")), "first");
+    EXPECT_EQ(questions, (QStringList{text("Open the result files?"),
+                                      text("Publish finished! Open the it?")}));
+    EXPECT_EQ(opened, QStringList{book.folder() + text("/new/mybook.html")});
+    EXPECT_EQ(ended, QList<int>{1});
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(PublishSheet, PublishesAnApplication) {
+    open();
+    window().mOutputType->button(OutputWindow::application)->click();
+    click(window().btnPublish);
+    EXPECT_TRUE(book.exists(text("mybook.app/Contents/Resources/index.html")));
+    EXPECT_TRUE(opened.isEmpty()) << "the answer was no";
+    EXPECT_EQ(ended, QList<int>{1});
+    EXPECT_EQ(AppSettings().outputType(), OutputWindow::application);
+}
+
+TEST_F(PublishSheet, RemembersTheChoicesAlsoWhenPublishingFails) {
+    open();
+    window().txtOutputFolder->setText(text("/no/such/folder"));
+    window().txtOutputName->setText(text("other"));
+    window().txtTitle->setText(text("Other"));
+    click(window().btnPublish);
+    const AppSettings stored;
+    EXPECT_EQ(stored.lastOutputFileFolder(), text("/no/such/folder"));
+    EXPECT_EQ(stored.lastOutputFileName(), text("other"));
+    EXPECT_EQ(stored.lastOutputFileTitle(), text("Other"));
+    EXPECT_EQ(told.size(), 1);
+    EXPECT_TRUE(questions.isEmpty());
+    EXPECT_EQ(ended, QList<int>{1});
+}
+
+TEST_F(PublishSheet, AnExceptionIsLoggedAndEndsTheSheet) {
+    open();
+    auto throwing = OutputWindowDelegate::Questions{
+        [](const QString&) { return std::optional<QString>(); },
+        [](const QString&, const QString&) -> bool {
+            throw PlatformException(text("PanelError"), text("no panel"));
+        },
+        [](const QString&) {}, [](const QString&, const QString&) {}};
+    sheet->setQuestions(throwing);
+    const RecordedLog log(Log::Level::error);
+    click(window().btnPublish);
+    EXPECT_EQ(log.texts(), QStringList{text("publish error:no panel")});
+    EXPECT_EQ(ended, QList<int>{1});
+}
+
+TEST_F(PublishSheet, AsksForTheFolderAndShowsIt) {
+    open();
+    folderAnswer = text("/some/where");
+    click(window().btnSelectFolder);
+    EXPECT_EQ(prompts, QStringList{text("Choose folder")});
+    EXPECT_EQ(window().txtOutputFolder->text(), text("/some/where"));
+    folderAnswer = std::nullopt;
+    click(window().btnSelectFolder);
+    EXPECT_EQ(window().txtOutputFolder->text(), text("/some/where"));
+    click(window().btnOpenFolder);
+    EXPECT_EQ(opened, QStringList{text("/some/where")});
+}
+
+TEST_F(PublishSheet, CancellingChangesNothing) {
+    open();
+    window().txtTitle->setText(text("Not kept"));
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    EXPECT_EQ(ended, QList<int>{0});
+    EXPECT_EQ(AppSettings::shareInstance().lastOutputFileTitle(), text("Tea & cake"));
+    EXPECT_FALSE(book.exists(text("files")));
+}
