@@ -34,7 +34,9 @@ async function bookTurning(kind, folder) {
   await cp(book, folder, { recursive: true });
   const file = path.join(folder, 'index.html');
   const page = await readFile(file, 'utf8');
-  await writeFile(file, page.replace(/(<div id="folvero"[^>]* data-turn=")[^"]*/, `$1${kind}`));
+  const root = /(id="folvero"[^>]* data-turn=")[^"]*/;
+  if (!root.test(page)) throw new Error('the book does not say how its pages turn');
+  await writeFile(file, page.replace(root, `$1${kind}`));
 }
 
 /** In the page: notes the time between frames while a page is in the air. */
