@@ -10,3 +10,10 @@ bench/sharpness.py
 bench/memory.py
 cmake --build "$build" --target folvero-bench-republish >/dev/null
 "$build/bin/folvero-bench-republish" "$build/samples/thousand.pdf" 1-500
+
+templates=$build/share/folvero/AppFiles
+book=$(mktemp -d)
+trap 'rm -rf "$book"' EXIT
+node tools/player-demo-book.mjs "$templates/Templates/float" "$templates/Styles/float/Blank" "$book"
+bench/frames.mjs "$book"
+bench/opening.mjs "$templates/Templates/float"

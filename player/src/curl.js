@@ -1,12 +1,10 @@
-import { foldOf, reachable, seenAt, within } from './fold.js';
+import { foldOf, leafCorners, reachable, seenAt, seenOutline, within } from './fold.js';
 import { Roll } from './roll.js';
+import { drawShade, traceOutline } from './shade.js';
 
 /** @typedef {import('./fold.js').Point} Point */
 /** @typedef {import('./fold.js').Fold} Fold */
 /** @typedef {import('./leaf.js').Leaf} Leaf */
-
-/** Straight pieces that each edge of the turned part's outline is drawn in. */
-const EDGE_STEPS = 10;
 
 /** Shade of the paper that rolls up, by the share of the quarter of the roll: opacity of white, black. */
 const RISING = [[0, 0, 0], [0.35, 0.1, 0], [0.6, 0, 0.04], [0.85, 0, 0.2], [1, 0, 0.42]];
@@ -56,17 +54,12 @@ export class CurlPainter {
       shadeBeneath(context, leaf, fold);
       drawLying(context, leaf, fold, density);
       this.rising.draw(context, leaf, fold, density, false, RISING);
-      castShadow(context, leaf, fold, density);
+      castShadow(context, leaf, fold);
       this.comingOver.draw(context, leaf, fold, density, true, COMING_OVER);
       drawTurned(context, leaf, fold, density);
     }
     context.restore();
   }
-}
-
-/** @param {{width: number, height: number}} leaf */
-function leafCorners({ width, height }) {
-  return [{ x: 0, y: 0 }, { x: width, y: 0 }, { x: width, y: height }, { x: 0, y: height }];
 }
 
 /**
@@ -86,16 +79,6 @@ function drawPart(context, leaf, face, flipped, part) {
   context.fillStyle = pattern;
   traceOutline(context, part);
   context.fill();
-}
-
-/**
- * @param {CanvasRenderingContext2D} context
- * @param {Point[]} outline
- */
-function traceOutline(context, outline) {
-  context.beginPath();
-  outline.forEach(({ x, y }) => context.lineTo(x, y));
-  context.closePath();
 }
 
 /**
@@ -132,8 +115,7 @@ function drawTurned(context, leaf, fold, density) {
   const glow = acrossFold(context, fold, -quarter, -quarter * 2.6,
     [[0, 'rgba(255, 255, 255, .06)'], [0.3, 'rgba(0, 0, 0, .05)'], [1, 'rgba(0, 0, 0, 0)']]);
   context.fillStyle = glow;
-  const near = within(leafCorners(leaf), fold, quarter - 1 / density, quarter * 2.6);
-  traceOutline(context, near.map((point) => seenPoint(point, fold)));
+  traceOutline(context, seenOutline(leafCorners(leaf), fold, quarter - 1 / density, quarter * 2.6));
   context.fill();
 }
 
@@ -179,57 +161,11 @@ function shadeBeneath(context, leaf, fold) {
  * @param {CanvasRenderingContext2D} context
  * @param {Leaf} leaf
  * @param {Fold} fold
- * @param {number} density
  */
-function castShadow(context, leaf, fold, density) {
-  const outline = turnedOutline(leaf, fold);
+function castShadow(context, leaf, fold) {
+  const outline = seenOutline(leafCorners(leaf), fold, 0, Infinity);
   if (outline.length < 3) return;
   const height = Math.sin(Math.PI * leaf.turned);
-  context.save();
-  context.shadowColor = 'rgba(0, 0, 0, ' + (0.16 + 0.3 * height) + ')';
-  context.shadowBlur = (4 + 30 * height) * density;
-  context.shadowOffsetY = (1 + 6 * height) * density;
-  context.fillStyle = '#888';
-  traceOutline(context, outline);
-  context.fill();
-  context.restore();
-}
-
-/**
- * Outline of the part of a leaf that lies beyond the fold line, as seen from above.
- * @param {{width: number, height: number}} leaf
- * @param {Fold} fold
- * @returns {Point[]}
- */
-function turnedOutline(leaf, fold) {
-  const part = within(leafCorners(leaf), fold, 0, Infinity);
-  return part.flatMap((point, index) => steps(point, part[(index + 1) % part.length]))
-    .map((point) => seenPoint(point, fold));
-}
-
-/**
- * Where a point of the flat leaf is seen when the leaf is folded.
- * @param {Point} point
- * @param {Fold} fold
- * @returns {Point}
- */
-function seenPoint(point, fold) {
-  const cos = Math.cos(fold.angle);
-  const sin = Math.sin(fold.angle);
-  const u = (point.x - fold.middle.x) * cos + (point.y - fold.middle.y) * sin;
-  const shift = seenAt(u, fold.radius) - u;
-  return { x: point.x + cos * shift, y: point.y + sin * shift };
-}
-
-/**
- * Points from one point towards another: straight edges become curves where the paper rolls.
- * @param {Point} from
- * @param {Point} to
- * @returns {Point[]}
- */
-function steps(from, to) {
-  return Array.from({ length: EDGE_STEPS }, (_, step) => ({
-    x: from.x + ((to.x - from.x) * step) / EDGE_STEPS,
-    y: from.y + ((to.y - from.y) * step) / EDGE_STEPS,
-  }));
+  drawShade(context, outline,
+    { opacity: 0.16 + 0.3 * height, blur: 4 + 30 * height, down: 1 + 6 * height });
 }

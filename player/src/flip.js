@@ -1,3 +1,5 @@
+import { drawShade, traceOutline } from './shade.js';
+
 /** @typedef {import('./fold.js').Point} Point */
 /** @typedef {import('./leaf.js').Leaf} Leaf */
 /**
@@ -13,8 +15,8 @@
 /** Distance of the reader's eye from the book, in widths of a page. */
 const EYE_DISTANCE = 8;
 
-/** How far a board's edge may step from one column to the next, in device pixels. */
-const EDGE_STEP = 0.4;
+/** How much a board's edge may rise from one column to the next, in device pixels. */
+const EDGE_STEP = 0.5;
 
 /** Stiff boards, hinged at the binding. */
 export class FlipPainter {
@@ -56,7 +58,10 @@ export class FlipPainter {
     const other = mirrored ? 'right' : 'left';
     if (leaf.overPage) shadeBesideBoard(context, leaf, stand, outward, sign === outward);
     if (leaf.beneath[other]) shadeBesideBoard(context, leaf, stand, -outward, sign !== outward);
-    else if (sign !== outward) castOnTable(context, leaf, stand, sign, density);
+    else if (sign !== outward) {
+      drawShade(context, boardOutline(leaf, stand, sign),
+        { opacity: 0.4 - 0.2 * stand.sin, blur: 14 + 26 * stand.sin, down: 5 + 10 * stand.sin });
+    }
     drawBoard(context, leaf, stand, stand.cos < 0 ? back : front, sign, density);
     lightBoard(context, leaf, stand, sign);
     context.restore();
@@ -99,31 +104,32 @@ function drawBoard(context, leaf, stand, face, sign, density) {
     return Math.min(width, (s * distance) / (cos * distance + s * sin));
   };
   const scale = face.width / width;
+  // Columns end on whole pixels; the slanted edges are cut.
+  context.save();
+  traceOutline(context, boardOutline(leaf, stand, sign));
+  context.clip();
   for (let at = 0; at < wide; at += column) {
     const end = Math.min(at + column, wide);
     const from = onBoard(at);
     const to = onBoard(end);
-    const tall = (height * distance) / (distance - ((from + to) / 2) * sin);
+    const tall = (height * distance) / (distance - ((from + to) / 2) * sin) + 2 / density;
     const source = sign > 0 ? from : width - to;
     context.drawImage(face, source * scale, 0, Math.max(0.01, (to - from) * scale), face.height,
       (sign > 0 ? at : -end) / density, (height - tall) / 2, (end - at) / density, tall);
   }
+  context.restore();
 }
 
 /**
- * @param {CanvasRenderingContext2D} context
  * @param {Leaf} leaf
  * @param {Stand} stand
  * @param {number} sign
+ * @returns {Point[]}
  */
-function traceBoard(context, leaf, stand, sign) {
+function boardOutline(leaf, stand, sign) {
   const rise = (leaf.height * (stand.near - 1)) / 2;
-  context.beginPath();
-  context.moveTo(0, 0);
-  context.lineTo(sign * stand.reach, -rise);
-  context.lineTo(sign * stand.reach, leaf.height + rise);
-  context.lineTo(0, leaf.height);
-  context.closePath();
+  const x = sign * stand.reach;
+  return [{ x: 0, y: 0 }, { x, y: -rise }, { x, y: leaf.height + rise }, { x: 0, y: leaf.height }];
 }
 
 /**
@@ -140,7 +146,7 @@ function lightBoard(context, leaf, stand, sign) {
   shade.addColorStop(0, 'rgba(0, 0, 0, ' + dark + ')');
   shade.addColorStop(1, 'rgba(0, 0, 0, ' + dark * 0.55 + ')');
   context.fillStyle = shade;
-  traceBoard(context, leaf, stand, sign);
+  traceOutline(context, boardOutline(leaf, stand, sign));
   context.fill();
 }
 
@@ -164,23 +170,4 @@ function shadeBesideBoard(context, leaf, stand, sign, covered) {
   }
   context.fillStyle = shade;
   context.fillRect(Math.min(sign * from, sign * to), 0, to - from, leaf.height);
-}
-
-/**
- * Shadow of the board where it comes down on the bare table.
- * @param {CanvasRenderingContext2D} context
- * @param {Leaf} leaf
- * @param {Stand} stand
- * @param {number} sign
- * @param {number} density
- */
-function castOnTable(context, leaf, stand, sign, density) {
-  context.save();
-  context.shadowColor = 'rgba(0, 0, 0, ' + (0.4 - 0.2 * stand.sin) + ')';
-  context.shadowBlur = (14 + 26 * stand.sin) * density;
-  context.shadowOffsetY = (5 + 10 * stand.sin) * density;
-  context.fillStyle = '#888';
-  traceBoard(context, leaf, stand, sign);
-  context.fill();
-  context.restore();
 }

@@ -9,6 +9,9 @@
  * @property {number} radius of the roll that the paper makes about the fold line
  */
 
+/** Straight pieces that stand for an edge of the paper where it rolls. */
+const EDGE_STEPS = 10;
+
 /** Widest roll, as a share of the leaf's width: paper that bends, not cardboard that snaps. */
 const WIDEST_ROLL = 0.13;
 
@@ -85,6 +88,43 @@ export function within(outline, fold, from, to) {
   if (from > -Infinity) part = cutOff(part, (point) => beyond(point) - from);
   if (to < Infinity) part = cutOff(part, (point) => to - beyond(point));
   return part;
+}
+
+/** @param {{width: number, height: number}} leaf */
+export function leafCorners({ width, height }) {
+  return [{ x: 0, y: 0 }, { x: width, y: 0 }, { x: width, y: height }, { x: 0, y: height }];
+}
+
+/**
+ * The outline of a part of the leaf, between two distances from the fold line, as it is seen folded.
+ * @param {Point[]} outline of the flat leaf
+ * @param {Fold} fold
+ * @param {number} from
+ * @param {number} to
+ * @returns {Point[]}
+ */
+export function seenOutline(outline, fold, from, to) {
+  const cos = Math.cos(fold.angle);
+  const sin = Math.sin(fold.angle);
+  const part = within(outline, fold, from, to);
+  return part.flatMap((point, index) => stepsBetween(point, part[(index + 1) % part.length]))
+    .map((point) => {
+      const u = (point.x - fold.middle.x) * cos + (point.y - fold.middle.y) * sin;
+      const shift = seenAt(u, fold.radius) - u;
+      return { x: point.x + cos * shift, y: point.y + sin * shift };
+    });
+}
+
+/**
+ * @param {Point} from
+ * @param {Point} to
+ * @returns {Point[]}
+ */
+function stepsBetween(from, to) {
+  return Array.from({ length: EDGE_STEPS }, (_, step) => ({
+    x: from.x + ((to.x - from.x) * step) / EDGE_STEPS,
+    y: from.y + ((to.y - from.y) * step) / EDGE_STEPS,
+  }));
 }
 
 /**

@@ -1,13 +1,15 @@
-import { within } from './fold.js';
+import { leafCorners, seenOutline } from './fold.js';
+import { emptied, traceOutline } from './shade.js';
 
 /** @typedef {import('./fold.js').Fold} Fold */
+/** @typedef {import('./fold.js').Point} Point */
 /** @typedef {import('./leaf.js').Leaf} Leaf */
 
 /** Rows of the band taken together, by the share of the quarter: paper that hardly bends hardly shrinks. */
 const TOGETHER = [[0.45, 3], [0.7, 2], [1, 1]];
 
-/** By how much the paper in the roll is made smaller at its edges, in device pixels. */
-const EDGE_INSET = 0.9;
+/** By how much the paper in the roll is made larger at its edges, in device pixels. */
+const EDGE_SPILL = 1;
 
 /**
  * A quarter of the roll that paper makes about a fold line. It is drawn into a band of its own in
@@ -32,8 +34,11 @@ export class Roll {
     const quarter = (Math.PI / 2) * fold.radius;
     const rows = fold.radius * density;
     if (rows < 0.3) return;
-    const extent = this.#extent(leaf, fold, over ? 0 : -quarter, over ? quarter : 0);
-    if (!extent) return;
+    const corners = leafCorners(leaf);
+    const from = over ? 0 : -quarter;
+    const outline = seenOutline(corners, fold, from, from + quarter);
+    if (outline.length < 3) return;
+    const extent = extentAlong(outline, fold);
     const length = Math.ceil((extent.to - extent.from) * density) + 2;
     this.#drawPaper(leaf, fold, density, over, extent.from - 1 / density, length, quarter);
     this.#bend(rows, length, quarter * density, over);
@@ -42,26 +47,12 @@ export class Roll {
     const sin = Math.sin(fold.angle);
     const start = extent.from - 1 / density;
     context.save();
+    traceOutline(context, outline);
+    context.clip();
     context.transform(-sin / density, cos / density, cos / density, sin / density,
       fold.middle.x - cos * quarter - sin * start, fold.middle.y - sin * quarter + cos * start);
     context.drawImage(this.band.canvas, 0, 0, length, Math.ceil(rows), 0, 0, length, Math.ceil(rows));
     context.restore();
-  }
-
-  /**
-   * Where along the fold line the quarter has paper.
-   * @param {Leaf} leaf
-   * @param {Fold} fold
-   * @param {number} from
-   * @param {number} to
-   */
-  #extent({ width, height }, fold, from, to) {
-    const corners = [{ x: 0, y: 0 }, { x: width, y: 0 }, { x: width, y: height }, { x: 0, y: height }];
-    const part = within(corners, fold, from, to);
-    if (part.length < 3) return null;
-    const places = part.map(({ x, y }) =>
-      (y - fold.middle.y) * Math.cos(fold.angle) - (x - fold.middle.x) * Math.sin(fold.angle));
-    return { from: Math.min(...places), to: Math.max(...places) };
   }
 
   /**
@@ -78,17 +69,17 @@ export class Roll {
     const { paper } = this;
     const face = /** @type {HTMLCanvasElement} */ (over ? leaf.back : leaf.front);
     const height = Math.ceil(quarter * density) + 2;
-    renew(paper, length, height);
+    emptied(paper, length, height);
     const cos = Math.cos(fold.angle) * density;
     const sin = Math.sin(fold.angle) * density;
     const { x, y } = fold.middle;
     const first = (over ? 0 : -quarter) * density;
     paper.setTransform(-sin, cos, cos, sin, x * sin - y * cos - start * density,
       -x * cos - y * sin - first + 1);
-    // Edges drawn twice at a slant would stand out of the page by a trace.
-    const inset = EDGE_INSET / density;
-    if (leaf.mirrored !== over) paper.transform(-1, 0, 0, 1, leaf.width - inset, 0);
-    paper.drawImage(face, 0, inset, leaf.width - inset, leaf.height - 2 * inset);
+    // The outline cuts the paper's edges; up to there it must have paper.
+    const spill = EDGE_SPILL / density;
+    if (leaf.mirrored !== over) paper.transform(-1, 0, 0, 1, leaf.width, 0);
+    paper.drawImage(face, -spill, -spill, leaf.width + 2 * spill, leaf.height + 2 * spill);
   }
 
   /**
@@ -100,7 +91,7 @@ export class Roll {
    */
   #bend(rows, length, quarter, over) {
     const { paper, band } = this;
-    renew(band, length, Math.ceil(rows));
+    emptied(band, length, Math.ceil(rows));
     /** @param {number} seen */
     const onPaper = (seen) => {
       const bent = rows * Math.asin(Math.min(1, seen / rows));
@@ -144,6 +135,17 @@ export class Roll {
 }
 
 /**
+ * Where along the fold line an outline lies.
+ * @param {Point[]} outline
+ * @param {Fold} fold
+ */
+function extentAlong(outline, fold) {
+  const places = outline.map(({ x, y }) =>
+    (y - fold.middle.y) * Math.cos(fold.angle) - (x - fold.middle.x) * Math.sin(fold.angle));
+  return { from: Math.min(...places), to: Math.max(...places) };
+}
+
+/**
  * One row: the mean of the paper that is seen there edge-on, so that thin lines do not break up.
  * @param {CanvasRenderingContext2D} band
  * @param {HTMLCanvasElement} paper
@@ -167,21 +169,4 @@ function scratch() {
   const canvas = document.createElement('canvas');
   canvas.width = 0;
   return /** @type {CanvasRenderingContext2D} */ (canvas.getContext('2d'));
-}
-
-/**
- * An empty picture of at least this size, in a canvas that only grows.
- * @param {CanvasRenderingContext2D} context
- * @param {number} width
- * @param {number} height
- */
-function renew(context, width, height) {
-  const { canvas } = context;
-  if (canvas.width < width || canvas.height < height) {
-    canvas.width = Math.max(canvas.width, width);
-    canvas.height = Math.max(canvas.height, height);
-  } else {
-    context.setTransform(1, 0, 0, 1, 0, 0);
-    context.clearRect(0, 0, width, height);
-  }
 }

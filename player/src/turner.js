@@ -9,6 +9,10 @@ const QUICK_MS = 220;
 const HURRIED_MS = 110;
 const FADE_MS = 260;
 
+/** Frames further apart come late; so many more late ones than others, and leaves are drawn more coarsely. */
+const LATE_MS = 30;
+const MOST_LATE = 12;
+
 /** Turns leaves: by itself, under a pointer, or fading for readers who want little motion. */
 export class Turner {
   /**
@@ -26,6 +30,11 @@ export class Turner {
     /** @type {number | null} view asked for while a leaf was on its way */
     this.pending = null;
     this.density = 1;
+    /** Finest density at which this machine keeps up. */
+    this.most = 2;
+    /** Frames that came late of late. */
+    this.late = 0;
+    this.lastTick = 0;
     this.frame = 0;
     this.calm = matchMedia('(prefers-reduced-motion: reduce)');
     /** @type {Animation | null} */
@@ -177,7 +186,7 @@ export class Turner {
 
   /** Follows the window's size. */
   resized() {
-    this.density = Math.min(2, window.devicePixelRatio || 1);
+    this.density = Math.min(this.most, window.devicePixelRatio || 1);
     this.canvas.width = Math.round(this.canvas.clientWidth * this.density);
     this.canvas.height = Math.round(this.canvas.clientHeight * this.density);
   }
@@ -262,6 +271,7 @@ export class Turner {
     this.frame = 0;
     const leaf = this.leaf;
     if (!leaf) return;
+    this.#notePace(now);
     const { motion } = leaf;
     if (motion) {
       if (!motion.start) motion.start = this.pending === null ? now : now - 1;
@@ -274,6 +284,23 @@ export class Turner {
       if (passed < 1) this.#requestFrame();
     }
     this.#draw();
+  }
+
+  /** @param {number} now */
+  #notePace(now) {
+    const passed = now - this.lastTick;
+    this.lastTick = now;
+    // A longer pause is not this leaf's: nothing moved, or the machine did something else.
+    if (passed < 200) this.late = Math.max(0, this.late + (passed > LATE_MS ? 1 : -1));
+  }
+
+  /** Draws leaves more coarsely from now on where their frames come late. */
+  #keepPace() {
+    if (this.late < MOST_LATE || this.density <= 1) return;
+    this.late = 0;
+    this.most = Math.max(1, this.density - 0.5);
+    this.resized();
+    this.book.drawn.clear();
   }
 
   /**
@@ -299,6 +326,7 @@ export class Turner {
     if (over) this.current = leaf.to;
     this.leaf = null;
     this.book.keep([this.current]);
+    this.#keepPace();
     this.#showStanding();
     this.#clear();
     this.onLanded();
