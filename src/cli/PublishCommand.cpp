@@ -89,18 +89,13 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
     if (operation.isCancelled())
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
     const auto source = std::dynamic_pointer_cast<FlashPageSourcePDF>(operation.flashPageSource());
-    if (!source || source->pages().empty() || !source->openError().isNull()) {
+    if (!source || !source->hasDrawnPages()) {
         const QStringList& failures = operation.failures();
         throw CommandError(failures.isEmpty() ? QStringLiteral("the pages could not be drawn")
                                               : failures.join(u'\n'));
     }
     for (const QString& failure : operation.failures())
         Terminal::note(QStringLiteral("folvero: %1").arg(failure));
-    const auto& failed = source->toPageConverter()->failedPages();
-    if (failed.size() == source->pages().size()) {
-        throw CommandError(QStringLiteral("%1: none of the pages could be drawn (%2)")
-                               .arg(source->sourceFile(), failed.front().reason));
-    }
     return source;
 }
 

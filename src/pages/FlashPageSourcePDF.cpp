@@ -59,3 +59,7 @@ std::shared_ptr<FlashPage> FlashPageSourcePDF::getNormalPageAtIndex(int pageInde
     }
     return nullptr;
 }
+
+bool FlashPageSourcePDF::hasDrawnPages() const {
+    return iOpenError.isNull() && iToPageConverter->failedPages().size() < pages().size();
+}

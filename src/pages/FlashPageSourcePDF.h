@@ -37,6 +37,8 @@ public:
 
     // Why the document could not be opened; null when it could.
     const QString& openError() const { return iOpenError; }
+    // Whether there is at least one page to show.
+    bool hasDrawnPages() const;
 
 private:
     void postProgress(std::size_t step, const char* type) const;

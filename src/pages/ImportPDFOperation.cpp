@@ -80,12 +80,25 @@ void ImportPDFOperation::importPages() {
         operationLog().debug(QStringLiteral("before generateNormalPages"));
         iFlashPageSource->generateNormalPages();
         operationLog().debug(QStringLiteral("after generateNormalPages"));
+        if (!isCancelled() && !iFlashPageSource->hasDrawnPages())
+            noteThatNothingWasDrawn();
     } catch (const PlatformException& failure) {
         operationLog().error(
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
         iFailures << QStringLiteral("%1: %2").arg(iPDFPath, failure.reason());
         setPageSource(nullptr);
     }
+}
+
+// The source stays: it may be of use to a caller that makes something of empty pages.
+void ImportPDFOperation::noteThatNothingWasDrawn() {
+    if (!iFlashPageSource->openError().isNull())
+        return;
+    const auto& failed = iFlashPageSource->toPageConverter()->failedPages();
+    iFailures << (failed.empty()
+                      ? QStringLiteral("%1: none of the pages asked for is in it").arg(iPDFPath)
+                      : QStringLiteral("%1: none of the pages could be drawn (%2)")
+                            .arg(iPDFPath, failed.front().reason));
 }
 
 void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& document) {

@@ -40,6 +40,7 @@ private:
     void clearResults();
     void importStages();
     void importPages();
+    void noteThatNothingWasDrawn();
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);
 

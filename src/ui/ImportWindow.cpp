@@ -12,9 +12,9 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-ImportWindow::ImportWindow(QWidget* parent) : QDialog(parent) {
-    setWindowTitle(tr("Import a PDF"));
-    setWindowModality(Qt::WindowModal);
+ImportWindow::ImportWindow(QWidget* parent)
+    : Sheet(tr("Import a PDF"), parent), btnOK(new QPushButton(tr("&Import"))) {
+    makeFileField();
     importQuality = new QComboBox;
     importQuality->addItems(
         {tr("Best, for zooming in"), tr("High"), tr("Medium"), tr("Low"), tr("Smallest files")});
@@ -28,7 +28,7 @@ ImportWindow::ImportWindow(QWidget* parent) : QDialog(parent) {
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->addRow(tr("&PDF file:"), fileRow());
+    form->addRow(tr("&PDF file:"), row({txtImportFile, btnBrowseFile, btnOpenFile}));
     form->addRow(tr("Pages:"), pagesRow());
     form->addRow(tr("&Quality:"), importQuality);
     form->addRow(QString(), btnImportLinks);
@@ -41,25 +41,16 @@ ImportWindow::ImportWindow(QWidget* parent) : QDialog(parent) {
     all->addWidget(lblFailure);
     all->addStretch();
     all->addWidget(progressRow());
-    all->addWidget(buttonRow());
+    all->addWidget(buttonRow(btnOK));
     resize(560, sizeHint().height());
 }
 
-QWidget* ImportWindow::fileRow() {
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+void ImportWindow::makeFileField() {
     txtImportFile = new QLineEdit;
     txtImportFile->setMinimumWidth(260);
     btnBrowseFile = new QPushButton(tr("&Choose…"));
     btnOpenFile = new QPushButton(tr("&View"));
     btnOpenFile->setToolTip(tr("Opens the PDF in the program that usually shows it"));
-    for (auto* button : {btnBrowseFile, btnOpenFile})
-        button->setAutoDefault(false);
-    layout->addWidget(txtImportFile, 1);
-    layout->addWidget(btnBrowseFile);
-    layout->addWidget(btnOpenFile);
-    return row;
 }
 
 QWidget* ImportWindow::pagesRow() {
@@ -82,9 +73,6 @@ QWidget* ImportWindow::pagesRow() {
 
 // Keeps its place while it is empty, so that the window does not jump.
 QWidget* ImportWindow::progressRow() {
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
     prgBar = new QProgressBar;
     prgBar->setTextVisible(false);
     lblInfo = new QLabel;
@@ -93,21 +81,5 @@ QWidget* ImportWindow::progressRow() {
         policy.setRetainSizeWhenHidden(true);
         part->setSizePolicy(policy);
     }
-    layout->addWidget(prgBar, 1);
-    layout->addWidget(lblInfo);
-    return row;
-}
-
-QWidget* ImportWindow::buttonRow() {
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    btnCancel = new QPushButton(tr("Cancel"));
-    btnCancel->setAutoDefault(false);
-    btnOK = new QPushButton(tr("&Import"));
-    btnOK->setDefault(true);
-    layout->addStretch();
-    layout->addWidget(btnCancel);
-    layout->addWidget(btnOK);
-    return row;
+    return row({prgBar, lblInfo});
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/Sheet.h"
 
 class QButtonGroup;
 class QCheckBox;
@@ -12,7 +12,7 @@ class QPushButton;
 class QRadioButton;
 
 // The import sheet's controls. What they do is its delegate's business.
-class ImportWindow : public QDialog {
+class ImportWindow : public Sheet {
     Q_OBJECT
 
 public:
@@ -34,18 +34,9 @@ public:
     // Why the last import brought nothing; hidden while there is nothing to say.
     QLabel* lblFailure;
     QPushButton* btnOK;
-    QPushButton* btnCancel;
-
-Q_SIGNALS:
-    // Escape, or the window's own close button.
-    void closeRequested();
-
-public:
-    void reject() override { Q_EMIT closeRequested(); }
 
 private:
-    QWidget* fileRow();
+    void makeFileField();
     QWidget* pagesRow();
     QWidget* progressRow();
-    QWidget* buttonRow();
 };

@@ -24,13 +24,10 @@ const Log& logger() {
     return log;
 }
 
-// A source that could not be opened, or whose pages all failed, is no book.
+// Only a source of another kind is taken as it is.
 bool hasPages(const FlashPageSource* source) {
-    if (!source || source->pages().empty())
-        return false;
     const auto* pdf = dynamic_cast<const FlashPageSourcePDF*>(source);
-    return !pdf || (pdf->openError().isNull() &&
-                    pdf->toPageConverter()->failedPages().size() < source->pages().size());
+    return pdf ? pdf->hasDrawnPages() : source != nullptr;
 }
 
 } // namespace

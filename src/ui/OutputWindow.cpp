@@ -2,16 +2,15 @@
 
 #include <QButtonGroup>
 #include <QFormLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-OutputWindow::OutputWindow(QWidget* parent) : QDialog(parent) {
-    setWindowTitle(tr("Publish the book"));
-    setWindowModality(Qt::WindowModal);
+OutputWindow::OutputWindow(QWidget* parent)
+    : Sheet(tr("Publish the book"), parent), btnPublish(new QPushButton(tr("&Publish"))) {
+    makeFolderField();
     txtOutputName = new QLineEdit;
     txtOutputName->setPlaceholderText(tr("without an ending, for example index"));
     txtTitle = new QLineEdit;
@@ -20,7 +19,7 @@ OutputWindow::OutputWindow(QWidget* parent) : QDialog(parent) {
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(tr("Kind of book:"), typeRow());
-    form->addRow(tr("&Folder:"), folderRow());
+    form->addRow(tr("&Folder:"), row({txtOutputFolder, btnSelectFolder, btnOpenFolder}));
     form->addRow(tr("File &name:"), txtOutputName);
     form->addRow(tr("&Title:"), txtTitle);
     static_cast<QLabel*>(form->itemAt(1, QFormLayout::LabelRole)->widget())
@@ -29,7 +28,7 @@ OutputWindow::OutputWindow(QWidget* parent) : QDialog(parent) {
     auto* all = new QVBoxLayout(this);
     all->addLayout(form);
     all->addStretch();
-    all->addWidget(buttonRow());
+    all->addWidget(buttonRow(btnPublish));
     resize(560, sizeHint().height());
 }
 
@@ -47,33 +46,10 @@ QWidget* OutputWindow::typeRow() {
     return row;
 }
 
-QWidget* OutputWindow::folderRow() {
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
+void OutputWindow::makeFolderField() {
     txtOutputFolder = new QLineEdit;
     txtOutputFolder->setMinimumWidth(260);
     btnSelectFolder = new QPushButton(tr("&Choose…"));
     btnOpenFolder = new QPushButton(tr("&Show"));
     btnOpenFolder->setToolTip(tr("Opens the folder in the file manager"));
-    for (auto* button : {btnSelectFolder, btnOpenFolder})
-        button->setAutoDefault(false);
-    layout->addWidget(txtOutputFolder, 1);
-    layout->addWidget(btnSelectFolder);
-    layout->addWidget(btnOpenFolder);
-    return row;
-}
-
-QWidget* OutputWindow::buttonRow() {
-    auto* row = new QWidget;
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    btnCancel = new QPushButton(tr("Cancel"));
-    btnCancel->setAutoDefault(false);
-    btnPublish = new QPushButton(tr("&Publish"));
-    btnPublish->setDefault(true);
-    layout->addStretch();
-    layout->addWidget(btnCancel);
-    layout->addWidget(btnPublish);
-    return row;
 }

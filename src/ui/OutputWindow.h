@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QDialog>
+#include "ui/Sheet.h"
 
 class QButtonGroup;
 class QLineEdit;
 class QPushButton;
 
 // The publish sheet's controls. What they do is its delegate's business.
-class OutputWindow : public QDialog {
+class OutputWindow : public Sheet {
     Q_OBJECT
 
 public:
@@ -23,17 +23,8 @@ public:
     QLineEdit* txtOutputName;
     QLineEdit* txtTitle;
     QPushButton* btnPublish;
-    QPushButton* btnCancel;
-
-Q_SIGNALS:
-    // Escape, or the window's own close button.
-    void closeRequested();
-
-public:
-    void reject() override { Q_EMIT closeRequested(); }
 
 private:
     QWidget* typeRow();
-    QWidget* folderRow();
-    QWidget* buttonRow();
+    void makeFolderField();
 };

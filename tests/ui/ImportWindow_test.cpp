@@ -155,9 +155,15 @@ TEST_F(ImportSheet, AFailureIsToldAndTheSheetStaysForAnotherTry) {
         EXPECT_FALSE(window().lblFailure->text().isEmpty());
         EXPECT_TRUE(window().btnOK->isEnabled());
     }
+    window().txtImportFile->setText(good);
+    window().pageRangeType->button(ImportWindow::typedPages)->click();
+    window().txtPageRange->setText(text("99"));
+    click(window().btnOK);
+    ASSERT_TRUE(waitForIdle());
+    EXPECT_TRUE(window().lblFailure->isVisible() && !window().lblFailure->text().isEmpty());
+    window().pageRangeType->button(ImportWindow::allPages)->click();
     EXPECT_TRUE(log.texts().contains(text("import pdf failed...")));
     EXPECT_TRUE(ended.isEmpty());
-    window().txtImportFile->setText(good);
     click(window().btnOK);
     ASSERT_TRUE(waitForIdle());
     EXPECT_EQ(ended, QList<int>{1});

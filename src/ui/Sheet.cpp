@@ -1,0 +1,34 @@
+#include "ui/Sheet.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+Sheet::Sheet(const QString& title, QWidget* parent)
+    : QDialog(parent), btnCancel(new QPushButton(tr("Cancel"), this)) {
+    setWindowTitle(title);
+    setWindowModality(Qt::WindowModal);
+    btnCancel->setAutoDefault(false);
+}
+
+QWidget* Sheet::row(const QList<QWidget*>& widgets) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (auto* widget : widgets) {
+        layout->addWidget(widget, widget == widgets.first() ? 1 : 0);
+        if (auto* button = qobject_cast<QPushButton*>(widget))
+            button->setAutoDefault(false);
+    }
+    return row;
+}
+
+QWidget* Sheet::buttonRow(QPushButton* main) {
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addStretch();
+    layout->addWidget(btnCancel);
+    layout->addWidget(main);
+    main->setDefault(true);
+    return row;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QDialog>
+
+class QLineEdit;
+class QPushButton;
+
+// A window that hangs on the main window until it ends with a return code. What its controls do is
+// its delegate's business, closing included.
+class Sheet : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit Sheet(const QString& title, QWidget* parent = nullptr);
+
+    QPushButton* btnCancel;
+
+    void reject() override { Q_EMIT closeRequested(); }
+
+Q_SIGNALS:
+    // Escape, or the window's own close button.
+    void closeRequested();
+
+protected:
+    // Widgets side by side; the first takes the room that is left.
+    static QWidget* row(const QList<QWidget*>& widgets);
+    // The button to cancel with, and the one that Return presses.
+    QWidget* buttonRow(QPushButton* main);
+};
