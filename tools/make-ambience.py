@@ -10,9 +10,9 @@ there is not noticed.
 
 import math
 import random
-import struct
 import sys
-import wave
+
+import soundfile
 
 RATE = 32000
 
@@ -157,13 +157,7 @@ def looped(make, length, blend):
 
 def main():
     make, length, blend, peak = SOUNDS[sys.argv[1]]
-    samples = looped(make, length, blend)
-    scale = peak * 32767 / max(abs(sample) for sample in samples)
-    with wave.open(sys.argv[2], "wb") as output:
-        output.setnchannels(1)
-        output.setsampwidth(2)
-        output.setframerate(RATE)
-        output.writeframes(b"".join(struct.pack("<h", int(sample * scale)) for sample in samples))
+    soundfile.write(sys.argv[2], looped(make, length, blend), RATE, peak)
 
 
 main()

@@ -9,9 +9,9 @@ of bending paper in it and a soft pat when it lands.
 
 import math
 import random
-import struct
 import sys
-import wave
+
+import soundfile
 
 RATE = 44100
 SECONDS = 0.62
@@ -71,13 +71,7 @@ def samples():
 
 
 def main():
-    sound = list(samples())
-    scale = PEAK * 32767 / max(abs(sample) for sample in sound)
-    with wave.open(sys.argv[1], "wb") as output:
-        output.setnchannels(1)
-        output.setsampwidth(2)
-        output.setframerate(RATE)
-        output.writeframes(b"".join(struct.pack("<h", int(sample * scale)) for sample in sound))
+    soundfile.write(sys.argv[1], list(samples()), RATE, PEAK)
 
 
 main()

@@ -102,6 +102,19 @@ void DrawnPages::nextPage() {
     iAnnotations.emplace_back();
 }
 
+void DrawnPages::drawEach(const std::vector<std::function<void(QPainter&)>>& drawings) {
+    bool first = true;
+    for (const auto& draw : drawings) {
+        if (!first)
+            nextPage();
+        first = false;
+        iPainter.save();
+        iPainter.setRenderHint(QPainter::Antialiasing);
+        draw(iPainter);
+        iPainter.restore();
+    }
+}
+
 void DrawnPages::addLink(const QRectF& area, const QByteArray& target) {
     const QRectF rect(area.x(), iSize.height() - area.bottom(), area.width(), area.height());
     iAnnotations.back().push_back(PDFBuilder::link(rect, target));

@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
+#include <functional>
 #include <vector>
 
 // Pages drawn with a painter, with real embedded fonts, that are then added to a PDFBuilder.
@@ -16,6 +17,8 @@ public:
 
     QPainter& painter() { return iPainter; }
     void nextPage();
+    // One page for each drawing, the first on the page that is begun already.
+    void drawEach(const std::vector<std::function<void(QPainter&)>>& drawings);
     // A link on the current page; the target as PDFBuilder makes it.
     void addLink(const QRectF& area, const QByteArray& target);
     // Ends drawing and adds the pages.

@@ -257,16 +257,7 @@ QByteArray makePictureBook() {
     PDFBuilder pdf;
     pdf.setInfo("Title", QStringLiteral("The Lantern That Went for a Walk"));
     DrawnPages pages(pdf, kPage.size());
-    bool first = true;
-    for (const Draw& draw : leaves()) {
-        if (!first)
-            pages.nextPage();
-        first = false;
-        pages.painter().save();
-        pages.painter().setRenderHint(QPainter::Antialiasing);
-        draw(pages.painter());
-        pages.painter().restore();
-    }
+    pages.drawEach(leaves());
     pages.finish();
     return pdf.build();
 }

@@ -224,16 +224,7 @@ QByteArray makeSlides() {
     PDFBuilder pdf;
     pdf.setInfo("Title", kTalk);
     DrawnPages pages(pdf, kSize);
-    bool first = true;
-    for (const auto& draw : slides()) {
-        if (!first)
-            pages.nextPage();
-        first = false;
-        pages.painter().save();
-        pages.painter().setRenderHint(QPainter::Antialiasing);
-        draw(pages.painter());
-        pages.painter().restore();
-    }
+    pages.drawEach(slides());
     pages.finish();
     return pdf.build();
 }
