@@ -56,7 +56,7 @@ async function fetchBinary() {
 
 /**
  * Browsers refuse to read sibling files of a page opened from disk, but run sibling scripts.
- * @returns {Promise<Uint8Array>}
+ * @returns {Promise<string>} a letter for each byte
  */
 function loadScriptCopy() {
   return new Promise((resolve, reject) => {
@@ -67,21 +67,13 @@ function loadScriptCopy() {
       const text = /** @type {any} */ (window).FolveroUserConfig;
       try {
         if (typeof text !== 'string') throw new Error('no text');
-        resolve(bytesOf(atob(text)));
+        resolve(atob(text));
       } catch {
         reject(new BookError('damaged'));
       }
     };
     document.head.append(script);
   });
-}
-
-/** @param {string} letters one for each byte */
-function bytesOf(letters) {
-  // A book of thousands of pages has a million of them, so no function is called for each.
-  const bytes = new Uint8Array(letters.length);
-  for (let at = 0; at < letters.length; at++) bytes[at] = letters.charCodeAt(at);
-  return bytes;
 }
 
 /** @returns {Promise<BookConfig>} */
@@ -100,9 +92,9 @@ export async function loadConfiguration() {
   throw answered ? new BookError('incomplete', !fromDisk) : new BookError('unreachable', true);
 }
 
-/** @param {Uint8Array} bytes */
-function decipher(bytes) {
-  const text = new TextDecoder('utf-8').decode(rc4(bytes, CONFIG_KEY));
+/** @param {Uint8Array | string} enciphered */
+function decipher(enciphered) {
+  const text = new TextDecoder('utf-8').decode(rc4(enciphered, CONFIG_KEY));
   return text.slice(0, text.lastIndexOf('>') + 1);
 }
 
@@ -194,31 +186,51 @@ function textAt(root, path) {
 /** @type {Record<string, string>} */
 const ENTITIES = { amp: '&', lt: '<', gt: '>', quot: '"', apos: "'" };
 
+/** One page of the list, read when it is asked for: a book may have thousands. */
+class ListedPage {
+  /**
+   * @param {string} text the page's part of the list
+   * @param {'Normal' | 'Thumb'} kind
+   * @param {{width: number, height: number, path: string}} otherwise
+   */
+  constructor(text, kind, otherwise) {
+    this.text = text;
+    this.kind = kind;
+    this.otherwise = otherwise;
+  }
+
+  get path() {
+    return ownFile(this.#read('ImgPath')) || this.otherwise.path;
+  }
+
+  get width() {
+    return numberIn(this.#read('Width'), this.otherwise.width, 1, 1e5);
+  }
+
+  get height() {
+    return numberIn(this.#read('Height'), this.otherwise.height, 1, 1e5);
+  }
+
+  /** @param {string} name */
+  #read(name) {
+    const [, own = ''] = this.text.split('<' + this.kind + '>');
+    const [, rest = ''] = own.split('</' + this.kind + '>')[0].split('<' + name + '>');
+    return plainText(rest.split('<')[0]);
+  }
+}
+
 /**
- * Reads the list of pages in one pass. A tree of elements for thousands of pages would take longer
- * than all the rest of opening a book.
+ * Lists the pages. A tree of elements for thousands of them would take longer than all the rest of
+ * opening a book.
  * @param {string} list
  * @returns {{page: PageEntry, thumb: PageEntry}[]}
  */
 function readPages(list) {
-  /** @type {{page: PageEntry, thumb: PageEntry}[]} */
-  const entries = [];
-  let entry = { path: '', width: 0, height: 0 };
-  for (const [, name, text] of list.matchAll(/<(Ppt|Normal|Thumb|ImgPath|Width|Height)>([^<]*)/g)) {
-    if (name === 'Ppt') {
-      entries.push({
-        page: { path: '', width: 600, height: 800 }, thumb: { path: '', width: 85, height: 113 },
-      });
-    }
-    const last = entries[entries.length - 1];
-    if (name === 'Normal' && last) entry = last.page;
-    if (name === 'Thumb' && last) entry = last.thumb;
-    if (name === 'ImgPath') entry.path = ownFile(plainText(text));
-    if (name === 'Width') entry.width = numberIn(text, entry.width, 1, 1e5);
-    if (name === 'Height') entry.height = numberIn(text, entry.height, 1, 1e5);
-  }
-  for (const { page, thumb } of entries) thumb.path ||= page.path;
-  return entries;
+  return list.split('<Ppt>').slice(1).map((text) => {
+    const page = new ListedPage(text, 'Normal', { path: '', width: 600, height: 800 });
+    const thumb = { width: 85, height: 113, get path() { return page.path; } };
+    return { page, thumb: new ListedPage(text, 'Thumb', thumb) };
+  });
 }
 
 /** @param {string} text with the five entities that every XML document knows */

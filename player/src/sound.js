@@ -49,6 +49,8 @@ export class Sounds {
     if (!this.background.file || !this.on || !this.allowed || this.timesLeft === 0) return;
     if (!this.music) {
       this.music = new Audio(fileAddress(this.background.file));
+      // Left to the browser, an endless sound repeats without a gap.
+      this.music.loop = this.background.loops < 0;
       this.music.addEventListener('ended', () => {
         if (this.timesLeft > 0) this.timesLeft--;
         this.#playMusic();

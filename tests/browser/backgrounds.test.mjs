@@ -94,9 +94,11 @@ for (const which of ['Outer', 'Inner']) {
 /** Notes each beginning and end of a sound file. */
 const noteSounds = (page) => page.addInitScript(() => {
   window.sounds = [];
+  window.players = [];
   const { play } = HTMLMediaElement.prototype;
   HTMLMediaElement.prototype.play = function noted() {
     window.sounds.push(this.src.split('/').at(-1));
+    window.players.push(this);
     return play.call(this);
   };
 });
@@ -132,8 +134,14 @@ for (const [loops, times] of [['0', 0], ['1', 1], ['3', 3]]) {
 test('SoundLoops below 0 plays the sound on and on, until the reader switches it off', async () => {
   const book = await openWithSound('-1');
   await book.page.keyboard.press('Shift');
-  await book.page.waitForFunction((name) => window.sounds.filter((one) => one === name).length >= 4, music);
+  const isPlaying = () => book.page.evaluate((name) =>
+    window.players.some((player) => player.src.endsWith(name) && !player.paused && !player.ended), music);
+  await book.page.waitForFunction((name) => window.players.some((player) => player.src.endsWith(name)
+    && player.played.length > 0 && player.played.end(0) > player.duration * 0.9), music);
+  await book.page.waitForTimeout(400);
+  assert.ok(await isPlaying(), 'long after its own length');
   await book.page.keyboard.press('s');
+  assert.ok(!await isPlaying());
   const before = await book.page.evaluate(() => window.sounds.length);
   await book.page.keyboard.press('ArrowRight');
   await book.waitForPages(2, 3);
