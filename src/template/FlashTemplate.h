@@ -52,9 +52,10 @@ public:
     void copyBookSoundFile(const QString& destination) const;
     void copyBookJSFile(const QString& destination) const;
 
-    // The settings file: one record "key=value" per property. Both ignore file errors.
+    // The settings file: one record "key=value" per property. A file that can't be read has none;
+    // writing returns false on failure and *error (when given) tells why in words.
     void importPropertiesSettingsFrom(const QString& path);
-    void exportPropertiesSettingsTo(const QString& path) const;
+    bool exportPropertiesSettingsTo(const QString& path, QString* error = nullptr) const;
     // Appends the records of a node and its descendants; of the whole tree for nullptr.
     void exportPropertiesSettingsToArray(QStringList& records,
                                          const FlashTemplateProperty* fromPro) const;

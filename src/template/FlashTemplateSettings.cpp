@@ -46,15 +46,19 @@ void FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
     setPropertyValue(QStringLiteral("pageHeight"), pageHeight);
 }
 
-void FlashTemplate::exportPropertiesSettingsTo(const QString& path) const {
+bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, QString* error) const {
     QStringList records;
     exportPropertiesSettingsToArray(records, nullptr);
     QString text;
     for (const QString& record : records)
         text += recordStart + record;
-    QString error;
-    if (!Files::writeAtomically(path, text.toUtf8(), &error))
-        logger().warn(QStringLiteral("can't write the settings file \"%1\": %2").arg(path, error));
+    QString cause;
+    const bool written = Files::writeAtomically(path, text.toUtf8(), &cause);
+    if (!written)
+        logger().warn(QStringLiteral("can't write the settings file \"%1\": %2").arg(path, cause));
+    if (error)
+        *error = cause;
+    return written;
 }
 
 void FlashTemplate::exportPropertiesSettingsToArray(QStringList& records,

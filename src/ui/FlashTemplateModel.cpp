@@ -10,6 +10,19 @@ void FlashTemplateModel::reloadData() {
     endResetModel();
 }
 
+void FlashTemplateModel::reloadValues() {
+    reloadValuesBelow({});
+}
+
+void FlashTemplateModel::reloadValuesBelow(const QModelIndex& parent) {
+    const int rows = rowCount(parent);
+    if (rows == 0)
+        return;
+    Q_EMIT dataChanged(index(0, key, parent), index(rows - 1, value, parent));
+    for (int row = 0; row < rows; ++row)
+        reloadValuesBelow(index(row, key, parent));
+}
+
 FlashTemplateProperty* FlashTemplateModel::item(const QModelIndex& index) {
     return static_cast<FlashTemplateProperty*>(index.internalPointer());
 }

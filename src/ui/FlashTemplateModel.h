@@ -14,8 +14,10 @@ public:
 
     explicit FlashTemplateModel(FlashTemplateOutlineDelegate& source, QObject* parent = nullptr);
 
-    // To be called when the template or its values have changed from outside.
+    // To be called when the template has changed; the rows are others then.
     void reloadData();
+    // To be called when values have changed from outside.
+    void reloadValues();
 
     FlashTemplateOutlineDelegate& source() const { return iSource; }
     // nullptr for an index of no row.
@@ -33,5 +35,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    void reloadValuesBelow(const QModelIndex& parent);
+
     FlashTemplateOutlineDelegate& iSource;
 };

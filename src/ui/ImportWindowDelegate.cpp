@@ -77,6 +77,14 @@ void ImportWindowDelegate::beginSheet(std::function<void(int)> onEnd) {
     iWindow->open();
 }
 
+void ImportWindowDelegate::importFile(const QString& path) {
+    if (iIsImporting)
+        return;
+    iWindow->txtImportFile->setText(path);
+    iWindow->pageRangeType->button(ImportWindow::allPages)->setChecked(true);
+    onImportAction();
+}
+
 void ImportWindowDelegate::endSheet(int returnCode) {
     iWindow->done(returnCode);
     if (iOnEnd)
@@ -183,6 +191,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     iFlashPageSource = operation->flashPageSource();
     iFlashPagesAnnotations = operation->flashPagesAnnotation();
     iFlashOutline = operation->flashOutline();
+    iFailures = operation->failures();
     enableButtons(true);
     if (!hasPages(iFlashPageSource.get())) {
         iFlashPageSource = nullptr;
@@ -198,7 +207,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     }
     logger().warn(QStringLiteral("import pdf failed..."));
     if (!operation->isCancelled())
-        showFailure(operation->failures());
+        showFailure(iFailures);
     iIsImporting = false;
 }
 

@@ -23,6 +23,8 @@ public:
     ImportWindow& window() const { return *iWindow; }
     // Shows the sheet on its parent; onEnd gets the return code.
     void beginSheet(std::function<void(int)> onEnd);
+    // Imports all pages of that file as if the user had chosen it in the sheet.
+    void importFile(const QString& path);
 
     // The results of the last import; none before one and after one that failed.
     std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
@@ -37,6 +39,8 @@ public:
     }
     std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
     void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+    // What the last import left out, and why; one text per part that failed.
+    const QStringList& failures() const { return iFailures; }
     // Points; 0 until an import succeeds.
     int pageWidth() const { return iPageWidth; }
     void setPageWidth(int width) { iPageWidth = width; }
@@ -84,6 +88,7 @@ private:
     std::shared_ptr<FlashPageSource> iFlashPageSource;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
     std::shared_ptr<FlashOutline> iFlashOutline;
+    QStringList iFailures;
     std::shared_ptr<ImportPDFOperation> iImportPDF;
     NotificationCenter::Subscription iProgress;
     FilePanel iFilePanel;

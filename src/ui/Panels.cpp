@@ -29,6 +29,12 @@ std::optional<QString> Panels::chooseFile(const QString& proposed, const QString
     return file.isEmpty() ? std::nullopt : std::optional(file);
 }
 
+std::optional<QString> Panels::chooseFileToSave(const QString& proposed, const QStringList& types) {
+    const QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(), QString(),
+                                                      proposed, nameFilter(types));
+    return file.isEmpty() ? std::nullopt : std::optional(file);
+}
+
 QColor Panels::chooseColor(const QColor& initial) {
     QColorDialog panel(initial, QApplication::activeWindow());
     wxCPWCDelegate delegate;
@@ -66,6 +72,21 @@ void Panels::tell(const QString& message, const QString& information) {
                       QMessageBox::Ok, QApplication::activeWindow());
     alert.setInformativeText(information);
     alert.exec();
+}
+
+void Panels::about() {
+    const auto translated = [](const char* text) {
+        return QCoreApplication::translate("Panels", text);
+    };
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(translated("About Folvero"));
+    box.setIconPixmap(QApplication::windowIcon().pixmap(96, 96));
+    box.setText(QStringLiteral("<h3>Folvero %1</h3>").arg(QApplication::applicationVersion()));
+    box.setInformativeText(
+        translated("Turns PDF documents into page-flip books for every browser.\n\n"
+                   "Free software under the GNU Affero General Public License, version 3 or "
+                   "later. It comes without any warranty."));
+    box.exec();
 }
 
 void Panels::open(const QString& path) {

@@ -12,6 +12,9 @@ namespace Panels {
 // without any every file may be chosen.
 std::optional<QString> chooseFile(const QString& proposed, const QStringList& types);
 
+// Where to save; none when the panel is cancelled. The types are as above.
+std::optional<QString> chooseFileToSave(const QString& proposed, const QStringList& types);
+
 // The initial colour when the panel is cancelled.
 QColor chooseColor(const QColor& initial);
 
@@ -22,6 +25,9 @@ std::optional<QString> chooseFolder(const QString& prompt);
 bool askToOpen(const QString& message, const QString& information);
 
 void tell(const QString& message, const QString& information);
+
+// What the program is, its version and its licence.
+void about();
 
 // Opens a file or a folder with the program that the system uses for it.
 void open(const QString& path);

@@ -1,0 +1,107 @@
+#include "app/desktop/Appearance.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QSettings>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace {
+
+const QString settingsKey = QStringLiteral("appearance");
+
+// The desktop's common place for such settings.
+const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings");
+const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
+const QString colorScheme = QStringLiteral("color-scheme");
+constexpr uint prefersDark = 1;
+
+// A desktop that is slow to answer must not hold up the start.
+constexpr int longestAnswer = 150; // ms
+
+uint number(QVariant value) {
+    while (value.canConvert<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    return value.toUInt();
+}
+
+void setColor(QPalette& palette, QPalette::ColorRole role, const char* normal,
+              const char* disabled = nullptr) {
+    palette.setColor(role, QColor(QLatin1String(normal)));
+    if (disabled)
+        palette.setColor(QPalette::Disabled, role, QColor(QLatin1String(disabled)));
+}
+
+} // namespace
+
+Appearance::Appearance(QObject* parent) : QObject(parent) {
+    iChoice = Choice(QSettings().value(settingsKey, system).toInt());
+    QDBusConnection::sessionBus().connect(
+        portal, portalPath, portalSettings, QStringLiteral("SettingChanged"), this,
+        SLOT(systemSettingChanged(QString, QString, QDBusVariant)));
+    askSystem();
+    apply();
+}
+
+void Appearance::askSystem() {
+    iSystemIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    if (!QDBusConnection::sessionBus().isConnected())
+        return;
+    auto question =
+        QDBusMessage::createMethodCall(portal, portalPath, portalSettings, QStringLiteral("Read"));
+    question << appearanceGroup << colorScheme;
+    const auto answer = QDBusConnection::sessionBus().call(question, QDBus::Block, longestAnswer);
+    if (answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty())
+        iSystemIsDark = number(answer.arguments().first()) == prefersDark;
+}
+
+void Appearance::systemSettingChanged(const QString& group, const QString& key,
+                                      const QDBusVariant& value) {
+    if (group != appearanceGroup || key != colorScheme)
+        return;
+    iSystemIsDark = number(value.variant()) == prefersDark;
+    apply();
+}
+
+void Appearance::setChoice(Choice choice) {
+    iChoice = choice;
+    QSettings().setValue(settingsKey, int(choice));
+    apply();
+}
+
+void Appearance::apply() const {
+    const bool isDark = iChoice == dark || (iChoice == system && iSystemIsDark);
+    QApplication::setPalette(palette(isDark));
+}
+
+QPalette Appearance::palette(bool isDark) {
+    QPalette palette;
+    setColor(palette, QPalette::Window, isDark ? "#26282c" : "#f2f3f5");
+    setColor(palette, QPalette::WindowText, isDark ? "#e8e9ec" : "#1f2328",
+             isDark ? "#7d828b" : "#8f959e");
+    setColor(palette, QPalette::Base, isDark ? "#1d1f22" : "#ffffff");
+    setColor(palette, QPalette::AlternateBase, isDark ? "#23252a" : "#f7f8fa");
+    setColor(palette, QPalette::Text, isDark ? "#e8e9ec" : "#1f2328",
+             isDark ? "#7d828b" : "#8f959e");
+    setColor(palette, QPalette::PlaceholderText, isDark ? "#8b9099" : "#767c86");
+    setColor(palette, QPalette::Button, isDark ? "#34373d" : "#fbfbfc");
+    setColor(palette, QPalette::ButtonText, isDark ? "#e8e9ec" : "#1f2328",
+             isDark ? "#7d828b" : "#8f959e");
+    setColor(palette, QPalette::BrightText, "#ff5d5d");
+    setColor(palette, QPalette::ToolTipBase, isDark ? "#3a3d44" : "#2b2f36");
+    setColor(palette, QPalette::ToolTipText, "#f4f5f7");
+    setColor(palette, QPalette::Highlight, isDark ? "#2f6fb0" : "#2f74c0",
+             isDark ? "#4a4e56" : "#c3c8d0");
+    setColor(palette, QPalette::HighlightedText, "#ffffff");
+    setColor(palette, QPalette::Link, isDark ? "#7cb3ee" : "#1f64b0");
+    setColor(palette, QPalette::LinkVisited, isDark ? "#b9a3ee" : "#6a4bb0");
+    setColor(palette, QPalette::Light, isDark ? "#4a4e56" : "#ffffff");
+    setColor(palette, QPalette::Midlight, isDark ? "#3d4047" : "#e9ebee");
+    setColor(palette, QPalette::Mid, isDark ? "#3a3d43" : "#c9cdd4");
+    setColor(palette, QPalette::Dark, isDark ? "#17181b" : "#a4aab3");
+    setColor(palette, QPalette::Shadow, "#0b0c0d");
+    return palette;
+}

@@ -1,0 +1,259 @@
+#include "app/desktop/BrisleafAppDelegate.h"
+
+#include "app/AppSettings.h"
+#include "app/MirelUtility.h"
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/MessageBar.h"
+#include "app/desktop/PreviewView.h"
+#include "app/desktop/RecentFiles.h"
+#include "platform/Bundle.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+#include "ui/FlashTemplateModel.h"
+#include "ui/FlashTemplateOutline.h"
+#include "ui/ImportWindowDelegate.h"
+#include "ui/OutputWindowDelegate.h"
+#include "ui/SelectTemplateWindowDelegate.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+const Log& logger() {
+    static const Log log("BrisleafAppDelegate");
+    return log;
+}
+
+const QString settingsFileType = QStringLiteral("txt");
+const QString helpFile = QStringLiteral("PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf");
+
+constexpr int blinkInterval = 330; // ms
+
+// Each word with a capital at its start and small letters after it.
+QString capitalized(const QString& text) {
+    QString result = text.toLower();
+    bool atStart = true;
+    for (QChar& letter : result) {
+        if (atStart)
+            letter = letter.toUpper();
+        atStart = !letter.isLetterOrNumber();
+    }
+    return result;
+}
+
+} // namespace
+
+void BrisleafAppDelegate::prepaireTheLog() const {
+    const QString support = Folders::userApplicationSupport();
+    const QString base =
+        support.isNull() ? QStringLiteral("~/Library/Application Support/") : support;
+    const QString path =
+        Files::join(base, QStringLiteral("Tessamar/%1/%2.log")
+                              .arg(QStringLiteral("Folvero"), QString::fromUtf16(APP_NAME)));
+    const QString folder = QFileInfo(path).path();
+    if (!QDir(folder).exists())
+        QDir().mkpath(folder);
+    Log::configure(Bundle::pathForResource(QStringLiteral("logging"), QStringLiteral("properties")),
+                   {{QStringLiteral("log4cplus.appender.TessamarFileLog.File"), path}});
+}
+
+void BrisleafAppDelegate::makeFlashPreviewFolder() {
+    iFlashPreviewFolder = iPreviewFolder.make();
+    MirelUtility::makeDiractoryTrustByFlash(iFlashPreviewFolder);
+}
+
+void BrisleafAppDelegate::removeFlashPreviewFolder() {
+    iPreviewFolder.remove();
+}
+
+void BrisleafAppDelegate::OnApplyChange() {
+    applyChange(SameBook);
+}
+
+void BrisleafAppDelegate::applyChange(Book book) {
+    iApplyChangeTimer.reset();
+    iWindow->menu->showApplyImage(QStringLiteral("apply"));
+    if (iFlashPreviewFolder.isEmpty())
+        makeFlashPreviewFolder();
+    try {
+        publishPreview(book);
+    } catch (const PlatformException& failure) {
+        logger().error(QStringLiteral("apply change :%1").arg(failure.reason()));
+        iWindow->messages->tell(tr("The preview could not be brought up to date."),
+                                failure.reason());
+    }
+}
+
+void BrisleafAppDelegate::publishPreview(Book book) {
+    // Somebody may have cleaned up while the program runs.
+    const QString failure = iPreviewFolder.restore();
+    if (!failure.isNull())
+        throw PlatformException(QStringLiteral("PreviewFolder"), failure);
+    auto html = std::make_shared<HTMLConfigInfo>();
+    html->setHTMLTitle(QStringLiteral("Preview"));
+    FolveroOutput output(iFlashPageSource, iFlashTmpl, iFlashPreviewFolder,
+                         QStringLiteral("index.html"));
+    output.setHTMLConfig(html);
+    output.setFlashPagesAnnotations(iFlashPagesAnnotations);
+    output.setFlashOutline(iFlashOutline);
+    output.ouputTheBook();
+    if (!output.publishErrors().isEmpty())
+        throw PlatformException(QStringLiteral("Publish"), output.publishErrors().join(u'\n'));
+    iWindow->webView->showFile(output.outputFileName(), book == OtherBook);
+}
+
+void BrisleafAppDelegate::previewEngineDied(bool reloads) {
+    if (!reloads)
+        iWindow->messages->tell(tr("The preview has stopped working."),
+                                tr("Press F5 to load it again. Your book is not affected."));
+}
+
+void BrisleafAppDelegate::previewDemo() {
+    iWindow->webView->showFile(
+        Bundle::pathForResource(QStringLiteral("index.html"), {}, QStringLiteral("Demo")), true);
+}
+
+void BrisleafAppDelegate::tmplPpertyValueChanged() {
+    if (iApplyChangeTimer)
+        return;
+    iApplyChangeTimer = std::make_unique<QTimer>();
+    iApplyChangeTimer->setInterval(blinkInterval);
+    connect(iApplyChangeTimer.get(), &QTimer::timeout, this, &BrisleafAppDelegate::onTimerEvent);
+    iApplyChangeTimer->start();
+}
+
+void BrisleafAppDelegate::onTimerEvent() {
+    QAction& button = *iWindow->menu->toolBarItemApplyChange;
+    const int phase = (button.data().toInt() + 1) % 3;
+    button.setData(phase);
+    iWindow->menu->showApplyImage(QStringLiteral("apply%1").arg(phase + 1));
+}
+
+void BrisleafAppDelegate::updateTmplPropertyTip() {
+    const QModelIndex current = iWindow->outlineView->currentIndex();
+    if (!current.isValid())
+        return;
+    const FlashTemplateProperty* property = FlashTemplateModel::item(current);
+    iWindow->toolTipBox->setTitle(property->title());
+    iWindow->toolTip->setPlainText(property->desc());
+}
+
+void BrisleafAppDelegate::valuesWereUndone() {
+    iOutline->reloadValues();
+    tmplPpertyValueChanged();
+}
+
+void BrisleafAppDelegate::OnImportPDF() {
+    iImportWindow->beginSheet([this](int returnCode) { importWindowDidEnd(returnCode); });
+}
+
+void BrisleafAppDelegate::importFile(const QString& path) {
+    OnImportPDF();
+    iImportWindow->importFile(path);
+}
+
+void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
+    if (returnCode != 1)
+        return;
+    iFlashTmpl->setPropertyValue(QStringLiteral("pageWidth"),
+                                 QString::number(iImportWindow->pageWidth()));
+    iFlashTmpl->setPropertyValue(QStringLiteral("pageHeight"),
+                                 QString::number(iImportWindow->pageHeight()));
+    iHistory.takeNotes();
+    setFlashPageSource(iImportWindow->flashPageSource());
+    setFlashPagesAnnotations(iImportWindow->flashPagesAnnotations());
+    setFlashOutline(iImportWindow->flashOutline());
+    iOutline->reloadValues();
+    const QString file = AppSettings::shareInstance().lastImportedFile();
+    RecentFiles::add(file);
+    iWindow->menu->showRecentFiles(RecentFiles::list());
+    iWindow->setDocumentName(QFileInfo(file).completeBaseName());
+    iWindow->messages->hide();
+    if (!iImportWindow->failures().isEmpty())
+        iWindow->messages->tell(tr("Not everything could be imported."),
+                                iImportWindow->failures().join(u'\n'));
+    applyChange(OtherBook);
+}
+
+void BrisleafAppDelegate::OnExportFlipBook() {
+    iOuputWindow->setFlashTmpl(iFlashTmpl);
+    iOuputWindow->setFlashPageSource(iFlashPageSource);
+    iOuputWindow->setFlashOutline(iFlashOutline);
+    iOuputWindow->setFlashPagesAnnotations(iFlashPagesAnnotations);
+    iOuputWindow->beginSheet();
+}
+
+void BrisleafAppDelegate::OnExportTmplSettings() {
+    if (!iFlashTmpl)
+        return;
+    std::optional<QString> file =
+        iQuestions.fileToSave(QStringLiteral("tmplSetting.txt"), {settingsFileType});
+    if (!file)
+        return;
+    if (Files::pathExtension(*file).isEmpty())
+        *file += u'.' + settingsFileType;
+    QString cause;
+    if (!iFlashTmpl->exportPropertiesSettingsTo(*file, &cause))
+        iWindow->messages->tell(tr("The settings were not saved to %1.").arg(*file), cause);
+}
+
+// Cancelling refreshes the preview as well.
+void BrisleafAppDelegate::OnImportTmplSettings() {
+    if (!iFlashTmpl)
+        return;
+    const QString file = iQuestions.fileToOpen({}, {settingsFileType}).value_or(QStringLiteral(""));
+    iWindow->messages->hide();
+    if (!file.isEmpty() && !QFileInfo(file).isReadable())
+        iWindow->messages->tell(tr("The settings were not loaded."),
+                                tr("The file %1 cannot be read.").arg(file));
+    iFlashTmpl->importPropertiesSettingsFrom(file);
+    iHistory.noteEdits(tr("loading of settings"));
+    iOutline->reloadValues();
+    applyChange(SameBook);
+}
+
+void BrisleafAppDelegate::onSelectTemplate() {
+    iSelecteTmplWindow->prepairToTmpl(
+        iFlashTmpl->tmplName(),
+        FlashTemplate::stylePathFor(iFlashTmpl->tmplName(), iFlashTmpl->styleName()));
+    iSelecteTmplWindow->beginSheet([this](int returnCode) { selectTmplWindowDidEnd(returnCode); });
+}
+
+void BrisleafAppDelegate::selectTmplWindowDidEnd(int returnCode) {
+    const QString shot = returnCode == 1 ? iSelecteTmplWindow->selectedStyle() : QString();
+    if (shot.isNull())
+        return;
+    const QString styleFolder = QFileInfo(shot).path();
+    const QString name = QFileInfo(styleFolder).dir().dirName();
+    iFlashTmpl->changeTmplTo(name, styleFolder);
+    iWindow->messages->hide();
+    showTemplate(name);
+    applyChange(SameBook);
+}
+
+void BrisleafAppDelegate::OnOpenHelp() {
+    const QString file = Bundle::pathForResource(helpFile, {});
+    if (file.isNull())
+        iWindow->messages->tell(tr("The help cannot be opened."),
+                                tr("The file %1 is missing.").arg(helpFile));
+    else
+        iQuestions.open(file);
+}
+
+void BrisleafAppDelegate::showTemplate(const QString& name) {
+    iHistory.restart(iFlashTmpl);
+    iOutline->reloadData();
+    iWindow->outlineView->expandAll();
+    iWindow->btnFloat->setText(capitalized(name));
+    if (!iFlashTmpl->loadError().isNull())
+        iWindow->messages->tell(tr("The template “%1” is damaged.").arg(name),
+                                iFlashTmpl->loadError());
+}

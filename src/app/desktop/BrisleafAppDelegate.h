@@ -1,0 +1,132 @@
+#pragma once
+
+#include "app/desktop/PreviewFolder.h"
+#include "app/desktop/PropertyHistory.h"
+#include "output/FolveroOutput.h"
+#include "platform/NotificationCenter.h"
+#include "ui/FlashTemplateOutlineDelegate.h"
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class Appearance;
+class FlashTemplateModel;
+class ImportWindowDelegate;
+class MainWindow;
+class OutputWindowDelegate;
+class QTimer;
+class SelectTemplateWindowDelegate;
+
+inline constexpr char16_t APP_NAME[] = u"Folvero";
+
+// The hub of the desktop program: owns the book being edited, shows it in the preview, and runs the
+// commands of the menus and the toolbar. For the main thread.
+class BrisleafAppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    BrisleafAppDelegate();
+    ~BrisleafAppDelegate() override;
+
+    // Opens the window with the demo book.
+    void applicationDidFinishLaunching();
+    // Gives up an import under way and removes the preview folder.
+    void applicationWillTerminate();
+    // Shows the page "index.html" of the resource folder "Demo" instead of the book.
+    void previewDemo();
+
+    // How the user is asked for files (none when cancelled) and for a colour, how a file is opened
+    // in the program that the system uses for it, and how the about box is shown. To be set before
+    // the launch.
+    struct Questions {
+        std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>
+            fileToOpen;
+        std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>
+            fileToSave;
+        std::function<QColor(const QColor& initial)> color;
+        std::function<void(const QString& path)> open;
+        std::function<void()> about;
+    };
+    void setQuestions(Questions questions) { iQuestions = std::move(questions); }
+
+    // None before the launch.
+    MainWindow* window() const { return iWindow.get(); }
+    ImportWindowDelegate& importWindow() const { return *iImportWindow; }
+    OutputWindowDelegate& ouputWindow() const { return *iOuputWindow; }
+    SelectTemplateWindowDelegate& selecteTmplWindow() const { return *iSelecteTmplWindow; }
+    const std::shared_ptr<FlashTemplate>& flashTmpl() const { return iFlashTmpl; }
+    FlashTemplateModel& outline() const { return *iOutline; }
+    QString flashPreviewFolder() const { return iFlashPreviewFolder; }
+    bool isChangePending() const { return iApplyChangeTimer != nullptr; }
+
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
+        iFlashPageSource = std::move(value);
+    }
+    std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
+        return iFlashPagesAnnotations;
+    }
+    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
+        iFlashPagesAnnotations = std::move(value);
+    }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+
+    void OnApplyChange();
+    void OnImportPDF();
+    void OnExportFlipBook();
+    void OnExportTmplSettings();
+    void OnImportTmplSettings();
+    void onSelectTemplate();
+    void OnOpenHelp();
+    // Shows the import sheet and starts with that file.
+    void importFile(const QString& path);
+
+    void importWindowDidEnd(int returnCode);
+    void selectTmplWindowDidEnd(int returnCode);
+
+private:
+    // Whether the preview stays open at the same page.
+    enum Book { SameBook, OtherBook };
+
+    void prepaireTheLog() const;
+    void makeWindows();
+    void frameMainWindow();
+    void loadDemoPages();
+    void showEditor();
+    void showTemplate(const QString& name);
+    void connectCommands();
+    void observeEditor();
+    void updateTmplPropertyTip();
+    void tmplPpertyValueChanged();
+    void onTimerEvent();
+    void valuesWereUndone();
+
+    void makeFlashPreviewFolder();
+    void removeFlashPreviewFolder();
+    void applyChange(Book book);
+    void publishPreview(Book book);
+    void previewEngineDied(bool reloads);
+
+    Questions iQuestions;
+    std::unique_ptr<Appearance> iAppearance;
+    PropertyHistory iHistory;
+    std::unique_ptr<MainWindow> iWindow;
+    std::unique_ptr<ImportWindowDelegate> iImportWindow;
+    std::unique_ptr<OutputWindowDelegate> iOuputWindow;
+    std::unique_ptr<SelectTemplateWindowDelegate> iSelecteTmplWindow;
+    std::shared_ptr<FlashTemplate> iFlashTmpl;
+    std::unique_ptr<FlashTemplateOutlineDelegate> tmplDelegate;
+    std::unique_ptr<FlashTemplateModel> iOutline;
+    std::shared_ptr<FlashPageSource> iFlashPageSource;
+    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
+    std::shared_ptr<FlashOutline> iFlashOutline;
+    std::unique_ptr<QTimer> iApplyChangeTimer;
+    // The empty text until the folder is made.
+    QString iFlashPreviewFolder = QStringLiteral("");
+    PreviewFolder iPreviewFolder;
+    NotificationCenter::Subscription iTips;
+    NotificationCenter::Subscription iChanges;
+};

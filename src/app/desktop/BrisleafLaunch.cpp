@@ -1,0 +1,161 @@
+// How the desktop program starts and ends.
+
+#include "app/desktop/Appearance.h"
+#include "app/desktop/BrisleafAppDelegate.h"
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/PreviewView.h"
+#include "app/desktop/RecentFiles.h"
+#include "pages/FlashPageSourceImg.h"
+#include "platform/Bundle.h"
+#include "platform/Log.h"
+#include "ui/FlashTemplateModel.h"
+#include "ui/FlashTemplateOutline.h"
+#include "ui/ImportWindowDelegate.h"
+#include "ui/OutputWindowDelegate.h"
+#include "ui/Panels.h"
+#include "ui/PropertyCellDelegate.h"
+#include "ui/SelectTemplateWindowDelegate.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QFontDatabase>
+#include <QItemSelectionModel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QToolButton>
+
+namespace {
+
+const Log& logger() {
+    static const Log log("BrisleafAppDelegate");
+    return log;
+}
+
+constexpr int indentationPerLevel = 8;
+
+} // namespace
+
+BrisleafAppDelegate::BrisleafAppDelegate()
+    : iQuestions{Panels::chooseFile, Panels::chooseFileToSave, Panels::chooseColor, Panels::open,
+                 Panels::about},
+      iHistory([this] { valuesWereUndone(); }) {}
+
+BrisleafAppDelegate::~BrisleafAppDelegate() {
+    applicationWillTerminate();
+}
+
+void BrisleafAppDelegate::applicationDidFinishLaunching() {
+    prepaireTheLog();
+    iAppearance = std::make_unique<Appearance>();
+    makeWindows();
+    logger().info(QStringLiteral("version is:%1").arg(Bundle::version()));
+    iWindow->show();
+    iWindow->activateWindow();
+    iFlashPreviewFolder = QStringLiteral("");
+    frameMainWindow();
+    loadDemoPages();
+    iFlashTmpl = std::make_shared<FlashTemplate>();
+    showEditor();
+    observeEditor();
+    iWindow->toolTip->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    applyChange(OtherBook);
+}
+
+// The window stays hidden until everything in it has its place.
+void BrisleafAppDelegate::makeWindows() {
+    iWindow = std::make_unique<MainWindow>(iHistory.stack());
+    iWindow->hide();
+    iImportWindow = std::make_unique<ImportWindowDelegate>(iWindow.get());
+    iImportWindow->setFilePanel(iQuestions.fileToOpen);
+    iImportWindow->setFileOpener(iQuestions.open);
+    iOuputWindow = std::make_unique<OutputWindowDelegate>(iWindow.get());
+    iSelecteTmplWindow = std::make_unique<SelectTemplateWindowDelegate>(iWindow.get());
+    iWindow->menu->showRecentFiles(RecentFiles::list());
+    connectCommands();
+}
+
+// The whole screen, whatever part of it the system's own bars cover.
+void BrisleafAppDelegate::frameMainWindow() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QSize frame = iWindow->frameGeometry().size() - iWindow->size();
+    iWindow->move(0, 0);
+    iWindow->resize((screen ? screen->geometry().size() : QSize(0, 0)) - frame);
+    iWindow->update();
+}
+
+void BrisleafAppDelegate::loadDemoPages() {
+    auto pages = std::make_shared<FlashPageSourceImg>();
+    const auto files =
+        Bundle::pathsForResourcesOfType(QStringLiteral("jpg"), QStringLiteral("DemoImgs"));
+    for (const QString& file : files)
+        pages->addImgPageFromFile(file);
+    pages->generateNormalPages();
+    iFlashPageSource = pages;
+}
+
+void BrisleafAppDelegate::showEditor() {
+    tmplDelegate = std::make_unique<FlashTemplateOutlineDelegate>();
+    tmplDelegate->setFlashTmpl(iFlashTmpl);
+    tmplDelegate->setFilePanel(iQuestions.fileToOpen);
+    tmplDelegate->setColorPanel(iQuestions.color);
+    iOutline = std::make_unique<FlashTemplateModel>(*tmplDelegate);
+    auto* view = iWindow->outlineView;
+    view->setItemDelegate(new PropertyCellDelegate(*view));
+    view->setModel(iOutline.get());
+    view->setIndentation(indentationPerLevel);
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this] { tmplDelegate->outlineViewSelectionDidChange(); });
+    showTemplate(iFlashTmpl->tmplName());
+}
+
+void BrisleafAppDelegate::observeEditor() {
+    auto& center = NotificationCenter::defaultCenter();
+    iTips = center.addObserver(QString::fromUtf16(UpdateFlashTmplProTipNotification), nullptr,
+                               [this](const Notification&) { updateTmplPropertyTip(); });
+    iChanges = center.addObserver(QString::fromUtf16(FlashTmplProValueChangedNotification), nullptr,
+                                  [this](const Notification&) {
+                                      iHistory.noteEdits();
+                                      tmplPpertyValueChanged();
+                                  });
+}
+
+void BrisleafAppDelegate::connectCommands() {
+    const auto command = [this](const QAction* action, auto run) {
+        connect(action, &QAction::triggered, this, run);
+    };
+    const MainMenu& menu = *iWindow->menu;
+    command(menu.importPDF, &BrisleafAppDelegate::OnImportPDF);
+    command(menu.exportFlipBook, &BrisleafAppDelegate::OnExportFlipBook);
+    command(menu.exportSettings, &BrisleafAppDelegate::OnExportTmplSettings);
+    command(menu.importSettings, &BrisleafAppDelegate::OnImportTmplSettings);
+    command(menu.toolBarItemApplyChange, &BrisleafAppDelegate::OnApplyChange);
+    command(menu.selectTemplate, &BrisleafAppDelegate::onSelectTemplate);
+    command(menu.openHelp, &BrisleafAppDelegate::OnOpenHelp);
+    command(menu.about, [this] { iQuestions.about(); });
+    command(menu.reloadPreview, [this] { iWindow->webView->reloadBook(); });
+    command(menu.quit, [this] { iWindow->close(); });
+    connect(&menu, &MainMenu::recentFileChosen, this, &BrisleafAppDelegate::importFile);
+    connect(&menu, &MainMenu::recentFilesCleared, this, [this] {
+        RecentFiles::clear();
+        iWindow->menu->showRecentFiles({});
+    });
+    for (QAction* action : menu.appearance->actions()) {
+        const auto choice = Appearance::Choice(action->data().toInt());
+        action->setChecked(choice == iAppearance->choice());
+        command(action, [this, choice] { iAppearance->setChoice(choice); });
+    }
+    connect(iWindow->btnFloat, &QPushButton::clicked, this, &BrisleafAppDelegate::onSelectTemplate);
+    connect(iWindow.get(), &MainWindow::fileDropped, this, &BrisleafAppDelegate::importFile);
+    connect(iWindow->webView, &PreviewView::engineDied, this,
+            &BrisleafAppDelegate::previewEngineDied);
+}
+
+void BrisleafAppDelegate::applicationWillTerminate() {
+    iImportWindow.reset();
+    iFlashTmpl.reset();
+    iFlashPageSource.reset();
+    removeFlashPreviewFolder();
+}

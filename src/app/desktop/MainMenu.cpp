@@ -1,0 +1,154 @@
+#include "app/desktop/MainMenu.h"
+
+#include "app/desktop/Appearance.h"
+#include "ui/Icons.h"
+
+#include <QActionGroup>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QUndoStack>
+
+MainMenu::MainMenu(QMainWindow& window, QUndoStack& edits) : QObject(&window), iWindow(window) {
+    makeCommands(edits);
+    makeAppearanceGroup();
+    fillMenuBar();
+    fillToolBar();
+    showRecentFiles({});
+    dress();
+}
+
+QAction* MainMenu::add(const QString& text, const QString& iconName, const QKeySequence& shortcut) {
+    auto* action = new QAction(text, this);
+    action->setShortcut(shortcut);
+    iWindow.addAction(action);
+    if (!iconName.isEmpty())
+        iIcons.emplace_back(action, iconName);
+    return action;
+}
+
+void MainMenu::makeCommands(QUndoStack& edits) {
+    const auto none = QString();
+    importPDF = add(tr("&Import PDF…"), QStringLiteral("import"), QKeySequence::Open);
+    importPDF->setIconText(tr("Import PDF"));
+    importPDF->setToolTip(tr("Make the book from a PDF document"));
+    exportFlipBook = add(tr("&Publish the book…"), QStringLiteral("publish"), tr("Ctrl+E"));
+    exportFlipBook->setIconText(tr("Publish"));
+    exportFlipBook->setToolTip(tr("Write the finished book into a folder of your choice"));
+    importSettings = add(tr("&Load settings…"), QStringLiteral("settings-load"), tr("Ctrl+L"));
+    importSettings->setToolTip(tr("Load settings that were saved to a file"));
+    exportSettings =
+        add(tr("&Save settings…"), QStringLiteral("settings-save"), QKeySequence::Save);
+    exportSettings->setToolTip(tr("Save the settings to a file, to use them for other books"));
+    quit = add(tr("&Quit"), none, QKeySequence(tr("Ctrl+Q")));
+    quit->setMenuRole(QAction::QuitRole);
+    toolBarItemApplyChange = add(tr("&Apply the changes"), none, QKeySequence(tr("Ctrl+Return")));
+    toolBarItemApplyChange->setIconText(tr("Apply"));
+    toolBarItemApplyChange->setToolTip(tr("Show the changed settings in the preview"));
+    toolBarItemApplyChange->setData(0);
+    selectTemplate = add(tr("Choose a &template…"), QStringLiteral("template"), tr("Ctrl+T"));
+    selectTemplate->setIconText(tr("Templates"));
+    selectTemplate->setToolTip(tr("Give the book another look"));
+    reloadPreview = add(tr("&Reload the preview"), QStringLiteral("reload"), QKeySequence::Refresh);
+    openHelp = add(tr("Folvero &help"), QStringLiteral("help"), QKeySequence::HelpContents);
+    openHelp->setIconText(tr("Help"));
+    about = add(tr("&About Folvero"), none, {});
+    about->setMenuRole(QAction::AboutRole);
+
+    undo = edits.createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    undo->setIconText(tr("Undo"));
+    redo = edits.createRedoAction(this, tr("&Redo"));
+    redo->setShortcut(QKeySequence::Redo);
+    redo->setIconText(tr("Redo"));
+    iIcons.emplace_back(undo, QStringLiteral("undo"));
+    iIcons.emplace_back(redo, QStringLiteral("redo"));
+}
+
+void MainMenu::makeAppearanceGroup() {
+    appearance = new QActionGroup(this);
+    for (const auto& [choice, text] : {std::pair(Appearance::system, tr("Like the &system")),
+                                       {Appearance::light, tr("&Light")},
+                                       {Appearance::dark, tr("&Dark")}}) {
+        auto* action = appearance->addAction(text);
+        action->setCheckable(true);
+        action->setData(int(choice));
+    }
+}
+
+void MainMenu::fillMenuBar() {
+    auto* file = iWindow.menuBar()->addMenu(tr("&File"));
+    file->addAction(importPDF);
+    recentFiles = file->addMenu(tr("Import a &recent PDF"));
+    file->addSeparator();
+    file->addActions({importSettings, exportSettings});
+    file->addSeparator();
+    file->addAction(exportFlipBook);
+    file->addSeparator();
+    file->addAction(quit);
+    auto* edit = iWindow.menuBar()->addMenu(tr("&Edit"));
+    edit->addActions({undo, redo});
+    edit->addSeparator();
+    edit->addAction(toolBarItemApplyChange);
+    auto* view = iWindow.menuBar()->addMenu(tr("&View"));
+    view->addActions({selectTemplate, reloadPreview});
+    view->addMenu(tr("&Appearance"))->addActions(appearance->actions());
+    auto* help = iWindow.menuBar()->addMenu(tr("&Help"));
+    help->addActions({openHelp, about});
+}
+
+void MainMenu::fillToolBar() {
+    auto* bar = iWindow.addToolBar(tr("Tools"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->setMovable(false);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    bar->setIconSize({24, 24});
+    const auto addGap = [bar] {
+        auto* gap = new QWidget;
+        gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+        bar->addWidget(gap);
+    };
+    bar->addActions({importPDF, selectTemplate});
+    bar->addSeparator();
+    bar->addActions({undo, redo, toolBarItemApplyChange});
+    addGap();
+    bar->addActions({exportFlipBook});
+    bar->addSeparator();
+    bar->addActions({openHelp});
+    // The keyboard reaches the buttons with Tab as it does everything else.
+    for (QAction* action : bar->actions()) {
+        if (QWidget* button = bar->widgetForAction(action); button && !action->isSeparator())
+            button->setFocusPolicy(action->text().isEmpty() ? Qt::NoFocus : Qt::TabFocus);
+    }
+}
+
+void MainMenu::showRecentFiles(const QStringList& files) {
+    recentFiles->clear();
+    recentFiles->setEnabled(!files.isEmpty());
+    for (const QString& path : files) {
+        auto* action = recentFiles->addAction(QFileInfo(path).fileName());
+        action->setToolTip(path);
+        action->setStatusTip(path);
+        action->setData(path);
+        connect(action, &QAction::triggered, this, [this, path] { Q_EMIT recentFileChosen(path); });
+    }
+    recentFiles->setToolTipsVisible(true);
+    recentFiles->addSeparator();
+    recentFiles->addAction(tr("&Clear the list"), this, &MainMenu::recentFilesCleared);
+}
+
+void MainMenu::showApplyImage(const QString& name) {
+    iApplyImage = name;
+    const QColor ink = iWindow.palette().color(QPalette::ButtonText);
+    toolBarItemApplyChange->setIcon(Icons::icon(name, ink));
+}
+
+void MainMenu::dress() {
+    const QColor ink = iWindow.palette().color(QPalette::ButtonText);
+    for (const auto& [action, name] : iIcons)
+        action->setIcon(Icons::icon(name, ink));
+    showApplyImage(iApplyImage);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QAction>
+#include <QObject>
+#include <vector>
+
+class QActionGroup;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+class QUndoStack;
+
+// The program's commands with their shortcuts, in the menus and in the toolbar of its window.
+class MainMenu : public QObject {
+    Q_OBJECT
+
+public:
+    MainMenu(QMainWindow& window, QUndoStack& edits);
+
+    QAction* importPDF;
+    QMenu* recentFiles;
+    QAction* exportFlipBook;
+    QAction* importSettings;
+    QAction* exportSettings;
+    QAction* quit;
+    QAction* undo;
+    QAction* redo;
+    // Its data is the phase in which it blinks.
+    QAction* toolBarItemApplyChange;
+    QAction* selectTemplate;
+    QAction* reloadPreview;
+    // The data of its actions are the choices of Appearance.
+    QActionGroup* appearance;
+    QAction* openHelp;
+    QAction* about;
+
+    // Shows that file list; the data of the actions are the paths.
+    void showRecentFiles(const QStringList& files);
+    // The image of the button that applies changes: "apply" or one of its phases.
+    void showApplyImage(const QString& name);
+    // Draws the icons in the colours of the window.
+    void dress();
+
+Q_SIGNALS:
+    void recentFileChosen(const QString& path);
+    void recentFilesCleared();
+
+private:
+    QAction* add(const QString& text, const QString& iconName, const QKeySequence& shortcut);
+    void makeCommands(QUndoStack& edits);
+    void makeAppearanceGroup();
+    void fillMenuBar();
+    void fillToolBar();
+
+    QMainWindow& iWindow;
+    QString iApplyImage = QStringLiteral("apply");
+    std::vector<std::pair<QAction*, QString>> iIcons;
+};

@@ -1,0 +1,196 @@
+#include "app/desktop/MainWindow.h"
+
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MessageBar.h"
+#include "app/desktop/PreviewView.h"
+#include "ui/FlashTemplateOutline.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QSplitter>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString sidesKey = QStringLiteral("mainWindow/sides");
+const QString tipKey = QStringLiteral("mainWindow/editorAndTip");
+const QString columnKey = QStringLiteral("mainWindow/titleColumn");
+constexpr int editorWidth = 400;
+constexpr int titleColumnWidth = 180;
+constexpr int leastColumnWidth = 60;
+constexpr int tipHeight = 130;
+
+// Null when none of the dropped things is a PDF file on this machine.
+QString droppedPDF(const QMimeData& data) {
+    for (const QUrl& url : data.urls()) {
+        const QString path = url.toLocalFile();
+        if (path.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive))
+            return path;
+    }
+    return {};
+}
+
+} // namespace
+
+MainWindow::MainWindow(QUndoStack& edits)
+    : menu(new MainMenu(*this, edits)),
+      iSides(new QSplitter(Qt::Horizontal)),
+      iEditorAndTip(new QSplitter(Qt::Vertical)) {
+    setAcceptDrops(true);
+    setUnifiedTitleAndToolBarOnMac(true);
+    iSides->addWidget(editorSide());
+    iSides->addWidget(previewSide());
+    iSides->setStretchFactor(1, 1);
+    iSides->setChildrenCollapsible(false);
+    iSides->setHandleWidth(1);
+    setCentralWidget(iSides);
+    setDocumentName({});
+    restoreSizes();
+}
+
+QWidget* MainWindow::editorSide() {
+    outlineView = new FlashTemplateOutline;
+    outlineView->setObjectName(QStringLiteral("settings"));
+    outlineView->setAccessibleName(tr("Settings of the template"));
+    outlineView->setFrameShape(QFrame::NoFrame);
+    outlineView->setAlternatingRowColors(true);
+    outlineView->setUniformRowHeights(true);
+    outlineView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    outlineView->header()->setMinimumSectionSize(leastColumnWidth);
+    outlineView->setEditTriggers(
+        QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
+        QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
+    iEditorAndTip->addWidget(outlineView);
+    iEditorAndTip->addWidget(tipBox());
+    iEditorAndTip->setStretchFactor(0, 1);
+    iEditorAndTip->setChildrenCollapsible(false);
+
+    auto* side = new QWidget;
+    side->setMinimumWidth(260);
+    auto* layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(templateRow());
+    layout->addWidget(iEditorAndTip, 1);
+    return side;
+}
+
+QWidget* MainWindow::templateRow() {
+    btnFloat = new QPushButton;
+    btnFloat->setObjectName(QStringLiteral("templateName"));
+    btnFloat->setAccessibleName(tr("Template of the book"));
+    btnFloat->setToolTip(tr("The template of the book; click to choose another"));
+    const auto button = [](QAction* action) {
+        auto* made = new QToolButton;
+        made->setDefaultAction(action);
+        made->setAutoRaise(true);
+        made->setIconSize({20, 20});
+        made->setFocusPolicy(Qt::TabFocus);
+        return made;
+    };
+    btnImportTmpl = button(menu->importSettings);
+    btnExportTmpl = button(menu->exportSettings);
+
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(8, 6, 8, 6);
+    layout->addWidget(btnFloat, 1);
+    layout->addWidget(btnImportTmpl);
+    layout->addWidget(btnExportTmpl);
+    return row;
+}
+
+QWidget* MainWindow::tipBox() {
+    toolTip = new QPlainTextEdit;
+    toolTip->setReadOnly(true);
+    toolTip->setFrameShape(QFrame::NoFrame);
+    toolTip->setTabChangesFocus(true);
+    toolTip->viewport()->setAutoFillBackground(false);
+    toolTip->setPlaceholderText(tr("Select a setting to read what it does."));
+    toolTip->setAccessibleName(tr("What the selected setting does"));
+    toolTipBox = new QGroupBox(tr("Settings"));
+    auto* layout = new QVBoxLayout(toolTipBox);
+    layout->setContentsMargins(6, 2, 6, 4);
+    layout->addWidget(toolTip);
+
+    auto* room = new QWidget;
+    auto* margins = new QVBoxLayout(room);
+    margins->setContentsMargins(8, 6, 8, 8);
+    margins->addWidget(toolTipBox);
+    return room;
+}
+
+QWidget* MainWindow::previewSide() {
+    messages = new MessageBar;
+    webView = new PreviewView;
+    auto* side = new QWidget;
+    auto* layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(messages);
+    layout->addWidget(webView, 1);
+    return side;
+}
+
+void MainWindow::setDocumentName(const QString& name) {
+    setWindowTitle(tr("%1 – Folvero").arg(name.isNull() ? tr("Demo book") : name));
+}
+
+void MainWindow::restoreSizes() {
+    const QSettings settings;
+    if (!iSides->restoreState(settings.value(sidesKey).toByteArray()))
+        iSides->setSizes({editorWidth, 10 * editorWidth});
+    if (!iEditorAndTip->restoreState(settings.value(tipKey).toByteArray()))
+        iEditorAndTip->setSizes({10 * tipHeight, tipHeight});
+    const int column =
+        std::clamp(settings.value(columnKey, titleColumnWidth).toInt(), leastColumnWidth, 2000);
+    // There are no columns before there is a template.
+    connect(outlineView->header(), &QHeaderView::sectionCountChanged, this,
+            [this, column](int before) {
+                if (before == 0)
+                    outlineView->header()->resizeSection(0, column);
+            });
+}
+
+void MainWindow::saveSizes() const {
+    QSettings settings;
+    settings.setValue(sidesKey, iSides->saveState());
+    settings.setValue(tipKey, iEditorAndTip->saveState());
+    settings.setValue(columnKey, outlineView->header()->sectionSize(0));
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        menu->dress();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    saveSizes();
+    Q_EMIT aboutToClose();
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedPDF(*event->mimeData()).isNull())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString path = droppedPDF(*event->mimeData());
+    if (path.isNull())
+        return;
+    event->acceptProposedAction();
+    // The program that the file was dragged from waits until this function ends.
+    QMetaObject::invokeMethod(
+        this, [this, path] { Q_EMIT fileDropped(path); }, Qt::QueuedConnection);
+}

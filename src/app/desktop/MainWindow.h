@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QMainWindow>
+
+class FlashTemplateOutline;
+class MainMenu;
+class MessageBar;
+class PreviewView;
+class QGroupBox;
+class QPlainTextEdit;
+class QPushButton;
+class QSplitter;
+class QToolButton;
+class QUndoStack;
+
+// The program's window: the template's settings with an explanation below them on the left, the
+// live preview on the right. What its controls do is the controller's business.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QUndoStack& edits);
+
+    MainMenu* menu;
+    MessageBar* messages;
+    QPushButton* btnFloat;
+    QToolButton* btnImportTmpl;
+    QToolButton* btnExportTmpl;
+    FlashTemplateOutline* outlineView;
+    QGroupBox* toolTipBox;
+    QPlainTextEdit* toolTip;
+    PreviewView* webView;
+
+    // Null for the book that is shown before the first import.
+    void setDocumentName(const QString& name);
+
+Q_SIGNALS:
+    void fileDropped(const QString& path);
+    void aboutToClose();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    QWidget* editorSide();
+    QWidget* templateRow();
+    QWidget* tipBox();
+    QWidget* previewSide();
+    void restoreSizes();
+    void saveSizes() const;
+
+    QSplitter* iSides;
+    QSplitter* iEditorAndTip;
+};

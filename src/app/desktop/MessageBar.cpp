@@ -1,0 +1,64 @@
+#include "app/desktop/MessageBar.h"
+
+#include "ui/Icons.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTextDocument>
+#include <QToolButton>
+
+MessageBar::MessageBar(QWidget* parent)
+    : QFrame(parent), iText(new QLabel), iIcon(new QLabel), iClose(new QToolButton) {
+    setObjectName(QStringLiteral("messageBar"));
+    setAccessibleName(tr("Message"));
+    iText->setWordWrap(true);
+    iText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    iClose->setAutoRaise(true);
+    iClose->setToolTip(tr("Close the message"));
+    iClose->setAccessibleName(iClose->toolTip());
+    connect(iClose, &QToolButton::clicked, this, &QWidget::hide);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 6, 6, 6);
+    layout->setSpacing(10);
+    layout->addWidget(iIcon, 0, Qt::AlignTop);
+    layout->addWidget(iText, 1);
+    layout->addWidget(iClose, 0, Qt::AlignTop);
+    dress();
+    hide();
+}
+
+void MessageBar::tell(const QString& what, const QString& cause) {
+    iText->setText(QStringLiteral("<b>%1</b><br>%2")
+                       .arg(what.toHtmlEscaped(),
+                            cause.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"))));
+    show();
+}
+
+QString MessageBar::message() const {
+    QTextDocument text;
+    text.setHtml(iText->text());
+    return text.toPlainText();
+}
+
+// Amber on either appearance, with text that can be read on it.
+void MessageBar::dress() {
+    const bool dark = palette().color(QPalette::Window).lightness() < 128;
+    const QString ground = dark ? QStringLiteral("#4a3a14") : QStringLiteral("#fff1cc");
+    const QString ink = dark ? QStringLiteral("#ffe9b8") : QStringLiteral("#4a3500");
+    const QString line = dark ? QStringLiteral("#7a6228") : QStringLiteral("#e5c36a");
+    iDressing = true;
+    setStyleSheet(QStringLiteral("#messageBar{background:%1;border:0;border-bottom:1px solid %3}"
+                                 "#messageBar QLabel{color:%2}")
+                      .arg(ground, ink, line));
+    iDressing = false;
+    iIcon->setPixmap(Icons::icon(QStringLiteral("warning"), QColor(ink)).pixmap(18, 18));
+    iClose->setIcon(Icons::icon(QStringLiteral("close"), QColor(ink)));
+}
+
+void MessageBar::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !iDressing)
+        dress();
+}

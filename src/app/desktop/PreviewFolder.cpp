@@ -1,0 +1,63 @@
+#include "app/desktop/PreviewFolder.h"
+
+#include "platform/Folders.h"
+#include "platform/Log.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLockFile>
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+const Log& logger() {
+    static const Log log("BrisleafAppDelegate");
+    return log;
+}
+
+// Past this many programs at once something else is wrong; the last folder is then shared.
+constexpr int mostFolders = 32;
+
+} // namespace
+
+PreviewFolder::PreviewFolder() = default;
+PreviewFolder::~PreviewFolder() = default;
+
+QString PreviewFolder::claim(const QString& base) {
+    const QString home = base + QStringLiteral("/Folvero");
+    QDir().mkpath(home);
+    QString path;
+    for (int number = 1; number <= mostFolders; ++number) {
+        path = home + (number == 1 ? QStringLiteral("/preview")
+                                   : QStringLiteral("/preview-%1").arg(number));
+        iLock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
+        // However long a program runs, its folder stays its own while it lives.
+        iLock->setStaleLockTime(0);
+        if (iLock->tryLock() || iLock->error() != QLockFile::LockFailedError)
+            break;
+    }
+    return path;
+}
+
+QString PreviewFolder::make() {
+    const QString support = Folders::userApplicationSupport();
+    iPath = claim(support.isNull() ? QStringLiteral("/temp") : support);
+    const QString failure = restore();
+    if (!failure.isNull())
+        logger().warn(QStringLiteral("flash preview folder cannot be crearted[%1]").arg(failure));
+    return iPath;
+}
+
+QString PreviewFolder::restore() const {
+    errno = 0;
+    if (QDir(iPath).exists() || QDir().mkpath(iPath))
+        return {};
+    return QStringLiteral("%1: %2").arg(iPath, QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+void PreviewFolder::remove() {
+    if (!iPath.isEmpty())
+        QDir(iPath).removeRecursively();
+    iLock.reset();
+}

@@ -1,0 +1,149 @@
+#include "app/desktop/PreviewView.h"
+
+#include "platform/Log.h"
+
+#include <QContextMenuEvent>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMenu>
+#include <QWebEnginePage>
+#include <QWebEngineProfile>
+#include <QWebEngineSettings>
+#include <QWebEngineUrlRequestInterceptor>
+
+namespace {
+
+const Log& logger() {
+    static const Log log("PreviewView");
+    return log;
+}
+
+// A page that brings the engine down each time it is loaded must not keep the program busy.
+constexpr int mostDeaths = 3;
+constexpr qint64 deathsWithin = 60'000; // ms
+
+// Lets only the book's own files through.
+class OwnFilesOnly : public QWebEngineUrlRequestInterceptor {
+public:
+    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+
+    void setFolder(const QString& folder) { iFolder = folder + u'/'; }
+
+    void interceptRequest(QWebEngineUrlRequestInfo& info) override {
+        const QUrl url = info.requestUrl();
+        const bool isInMemory = url.scheme() == QStringLiteral("data") ||
+                                url.scheme() == QStringLiteral("blob") ||
+                                url.scheme() == QStringLiteral("about");
+        const bool isOwn = url.isLocalFile() && !iFolder.isEmpty() &&
+                           QFileInfo(url.toLocalFile()).canonicalFilePath().startsWith(iFolder);
+        if (!isInMemory && !isOwn)
+            info.block(true);
+    }
+
+private:
+    QString iFolder;
+};
+
+// Sends what leaves the book to the user's browser.
+class BookPage : public QWebEnginePage {
+public:
+    using QWebEnginePage::QWebEnginePage;
+
+    std::function<void(const QUrl&)> opener = [](const QUrl& url) {
+        QDesktopServices::openUrl(url);
+    };
+
+protected:
+    bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
+        const bool isWeb = url.scheme() == QStringLiteral("http") ||
+                           url.scheme() == QStringLiteral("https") ||
+                           url.scheme() == QStringLiteral("mailto");
+        if (isWeb && isMainFrame)
+            opener(url);
+        return !isWeb && QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
+    }
+
+    // A link into a new window ends up as a navigation of this page, which is sent on.
+    QWebEnginePage* createWindow(WebWindowType /*type*/) override { return this; }
+
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString& message,
+                                  int line, const QString& source) override {
+        logger().debug(QStringLiteral("%1:%2: %3").arg(source).arg(line).arg(message));
+    }
+};
+
+OwnFilesOnly& gateOf(QWebEngineProfile& profile) {
+    return *profile.findChild<OwnFilesOnly*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+} // namespace
+
+// A profile without a name keeps nothing on disk.
+PreviewView::PreviewView(QWidget* parent)
+    : QWebEngineView(parent), iProfile(new QWebEngineProfile(this)) {
+    setObjectName(QStringLiteral("preview"));
+    setAccessibleName(tr("Preview of the book"));
+    auto* gate = new OwnFilesOnly(iProfile);
+    iProfile->setUrlRequestInterceptor(gate);
+    setPage(new BookPage(iProfile, this));
+    auto* settings = page()->settings();
+    settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
+    settings->setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, false);
+    settings->setAttribute(QWebEngineSettings::ErrorPageEnabled, false);
+    connect(page(), &QWebEnginePage::renderProcessTerminated, this,
+            [this](QWebEnginePage::RenderProcessTerminationStatus status) {
+                if (status != QWebEnginePage::NormalTerminationStatus)
+                    recover();
+            });
+}
+
+// The page must go before its profile.
+PreviewView::~PreviewView() {
+    delete page();
+}
+
+void PreviewView::showFile(const QString& path, bool isOtherBook) {
+    gateOf(*iProfile).setFolder(QFileInfo(path).canonicalPath());
+    const QUrl address = QUrl::fromLocalFile(path);
+    if (url().adjusted(QUrl::RemoveFragment) != address) {
+        load(address);
+    } else if (isOtherBook) {
+        // Loading the address without its page number would take pictures from the cache.
+        page()->runJavaScript(QStringLiteral("history.replaceState(null, '', '#page=1')"),
+                              [this](const QVariant&) { reloadBook(); });
+    } else {
+        reloadBook();
+    }
+}
+
+void PreviewView::reloadBook() {
+    triggerPageAction(QWebEnginePage::ReloadAndBypassCache);
+}
+
+void PreviewView::setOpener(std::function<void(const QUrl&)> opener) {
+    static_cast<BookPage*>(page())->opener = std::move(opener);
+}
+
+void PreviewView::recover() {
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    iDeaths = now - iLastDeath < deathsWithin ? iDeaths + 1 : 1;
+    iLastDeath = now;
+    const bool reloads = iDeaths <= mostDeaths;
+    logger().warn(QStringLiteral("the engine of the preview has died (%1)").arg(iDeaths));
+    // The engine only comes back once the signal has been dealt with.
+    if (reloads)
+        QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);
+    Q_EMIT engineDied(reloads);
+}
+
+void PreviewView::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu(this);
+    menu.addAction(tr("Reload the preview"), this, &PreviewView::reloadBook);
+    menu.exec(event->globalPos());
+}
+
+void PreviewView::dragEnterEvent(QDragEnterEvent* event) {
+    event->ignore();
+}

@@ -1,0 +1,80 @@
+#include "app/desktop/PropertyHistory.h"
+
+#include <QUndoCommand>
+#include <utility>
+#include <vector>
+
+namespace {
+
+void walk(const FlashTemplate::Properties& properties,
+          const std::function<void(FlashTemplateProperty&)>& visit) {
+    for (const auto& property : properties) {
+        visit(*property);
+        walk(property->childProperties(), visit);
+    }
+}
+
+struct Change {
+    FlashTemplateProperty* property;
+    QString before;
+    QString after;
+};
+
+class ChangeValues : public QUndoCommand {
+public:
+    ChangeValues(std::vector<Change> changes, const QString& text, std::function<void()> done)
+        : QUndoCommand(text), iChanges(std::move(changes)), iDone(std::move(done)) {}
+
+    void undo() override {
+        for (const Change& change : iChanges)
+            change.property->setValue(change.before);
+        iDone();
+    }
+    // The edit is made already when the command is pushed.
+    void redo() override {
+        if (std::exchange(iIsMade, false))
+            return;
+        for (const Change& change : iChanges)
+            change.property->setValue(change.after);
+        iDone();
+    }
+
+private:
+    std::vector<Change> iChanges;
+    std::function<void()> iDone;
+    bool iIsMade = true;
+};
+
+} // namespace
+
+void PropertyHistory::restart(std::shared_ptr<FlashTemplate> tmpl) {
+    iStack.clear();
+    iTmpl = std::move(tmpl);
+    takeNotes();
+}
+
+void PropertyHistory::takeNotes() {
+    iValues.clear();
+    if (iTmpl)
+        walk(iTmpl->properties(),
+             [this](FlashTemplateProperty& property) { iValues[&property] = property.value(); });
+}
+
+void PropertyHistory::noteEdits(const QString& text) {
+    std::vector<Change> changes;
+    if (iTmpl)
+        walk(iTmpl->properties(), [this, &changes](FlashTemplateProperty& property) {
+            const QString before = iValues.value(&property);
+            if (before != property.value())
+                changes.push_back({&property, before, property.value()});
+        });
+    if (changes.empty())
+        return;
+    takeNotes();
+    const QString name =
+        text.isNull() ? QStringLiteral("“%1”").arg(changes.front().property->title()) : text;
+    iStack.push(new ChangeValues(std::move(changes), name, [this] {
+        takeNotes();
+        iChanged();
+    }));
+}

@@ -1,0 +1,36 @@
+#include "app/desktop/RecentFiles.h"
+
+#include <QFileInfo>
+#include <QSettings>
+#include <algorithm>
+
+namespace {
+
+const QString key = QStringLiteral("recentFiles");
+constexpr int most = 8;
+
+QStringList stored() {
+    return QSettings().value(key).toStringList();
+}
+
+} // namespace
+
+QStringList RecentFiles::list() {
+    QStringList files = stored();
+    files.erase(std::remove_if(files.begin(), files.end(),
+                               [](const QString& file) { return !QFileInfo::exists(file); }),
+                files.end());
+    return files;
+}
+
+void RecentFiles::add(const QString& path) {
+    QStringList files = stored();
+    const QString whole = QFileInfo(path).absoluteFilePath();
+    files.removeAll(whole);
+    files.prepend(whole);
+    QSettings().setValue(key, QStringList(files.mid(0, most)));
+}
+
+void RecentFiles::clear() {
+    QSettings().remove(key);
+}

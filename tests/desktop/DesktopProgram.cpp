@@ -1,0 +1,138 @@
+#include "desktop/DesktopProgram.h"
+
+#include "app/AppSettings.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/PreviewView.h"
+#include "platform/Folders.h"
+#include "support/PDFBuilder.h"
+#include "support/TemplateLibrary.h"
+#include "ui/FlashTemplateModel.h"
+#include "ui/FlashTemplateOutline.h"
+#include "ui/ImportWindowDelegate.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QSettings>
+#include <QTest>
+
+namespace {
+
+constexpr int longEnough = 30'000; // ms
+
+QModelIndex find(const QAbstractItemModel& model, const QString& key, const QModelIndex& parent) {
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, FlashTemplateModel::key, parent);
+        if (FlashTemplateModel::item(index)->key() == key)
+            return index;
+        if (const QModelIndex below = find(model, key, index); below.isValid())
+            return below;
+    }
+    return {};
+}
+
+} // namespace
+
+DesktopProgram::DesktopProgram() {
+    QSettings().clear();
+    AppSettings::shareInstance().loadSettings();
+    QDir(Folders::userApplicationSupport()).removeRecursively();
+    Folders::setMachineRoot(files.path());
+    program = std::make_unique<BrisleafAppDelegate>();
+    program->setQuestions({[this](const QString&, const QStringList&) { return fileToOpen; },
+                           [this](const QString&, const QStringList&) { return fileToSave; },
+                           [this](const QColor& initial) { return color.value_or(initial); },
+                           [this](const QString& path) { opened << path; }, [] {}});
+}
+
+DesktopProgram::~DesktopProgram() {
+    program.reset();
+    Folders::setMachineRoot({});
+}
+
+void DesktopProgram::launch() {
+    program->applicationDidFinishLaunching();
+    ASSERT_TRUE(waitForPreview());
+}
+
+// An engine that dies answers late or not at all.
+QVariant DesktopProgram::evaluate(const QString& script) const {
+    const auto result = std::make_shared<std::optional<QVariant>>();
+    window().webView->page()->runJavaScript(
+        script, [result](const QVariant& value) { *result = value; });
+    const bool answered = QTest::qWaitFor([&] { return result->has_value(); });
+    return answered ? result->value() : QVariant();
+}
+
+bool DesktopProgram::waitForPreview(const QString& condition) const {
+    const QString script =
+        QStringLiteral("document.querySelector('#folvero[data-state=\"ready\"]') !== null && (%1)")
+            .arg(condition);
+    QElapsedTimer waited;
+    waited.start();
+    while (!waited.hasExpired(longEnough)) {
+        if (evaluate(script).toBool())
+            return true;
+        QTest::qWait(50);
+    }
+    return false;
+}
+
+BookElement DesktopProgram::configuration() const {
+    return BookReader::configuration(program->flashPreviewFolder());
+}
+
+QModelIndex DesktopProgram::valueOf(const QString& key) const {
+    const QModelIndex title = find(program->outline(), key, {});
+    const QModelIndex index = title.siblingAtColumn(FlashTemplateModel::value);
+    window().outlineView->scrollTo(index);
+    window().outlineView->setCurrentIndex(index);
+    return index;
+}
+
+void DesktopProgram::edit(const QString& key, const QString& value) const {
+    auto* view = window().outlineView;
+    const QModelIndex index = valueOf(key);
+    ASSERT_TRUE(index.isValid()) << "no property " << key.toStdString();
+    view->edit(index);
+    if (auto* list = view->findChild<QComboBox*>()) {
+        list->setCurrentText(value);
+        QTest::keyClick(list, Qt::Key_Return);
+        Q_EMIT list->activated(list->currentIndex());
+    } else {
+        auto* field = view->findChild<QLineEdit*>();
+        ASSERT_TRUE(field) << "no editor for " << key.toStdString();
+        field->selectAll();
+        QTest::keyClicks(field, value);
+        QTest::keyClick(field, Qt::Key_Return);
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTest::qWait(0);
+}
+
+void DesktopProgram::press(const QString& key) const {
+    const QModelIndex index = valueOf(key);
+    ASSERT_TRUE(index.isValid()) << "no property " << key.toStdString();
+    window().outlineView->setFocus();
+    QTest::keyClick(window().outlineView, Qt::Key_Space);
+}
+
+QString DesktopProgram::value(const QString& key) const {
+    return program->flashTmpl()->propertyValueFor(key, {});
+}
+
+QString DesktopProgram::pdf(int pages) const {
+    const QString file = files.filePath(QStringLiteral("%1 pages.pdf").arg(pages));
+    PDFBuilder builder;
+    PDFBuilder::Page letter;
+    letter.mediaBox = QRectF(0, 0, 300, 400);
+    for (int page = 0; page < pages; ++page)
+        builder.addPage(letter);
+    TestFiles::write(file, builder.build());
+    return file;
+}
+
+bool DesktopProgram::waitForImport() const {
+    return QTest::qWaitFor([this] { return !program->importWindow().isImporting(); }, longEnough);
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/desktop/BrisleafAppDelegate.h"
+#include "support/BookReader.h"
+
+#include <QColor>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QVariant>
+#include <gtest/gtest.h>
+
+// The desktop program, launched anew with folders and settings of its own for each test. The panels
+// answer what the test has put into the members.
+class DesktopProgram : public testing::Test {
+protected:
+    DesktopProgram();
+    ~DesktopProgram() override;
+
+    void launch();
+    MainWindow& window() const { return *program->window(); }
+
+    // What a script in the preview's page comes to.
+    QVariant evaluate(const QString& script) const;
+    // Waits until the preview shows a book that is ready and for which the script is true.
+    bool waitForPreview(const QString& condition = QStringLiteral("true")) const;
+    // The configuration that was published for the preview.
+    BookElement configuration() const;
+
+    // Shows the row of the property with that key and returns the index of its value.
+    QModelIndex valueOf(const QString& key) const;
+    // Types a value into the row's own editor, or picks it from its list.
+    void edit(const QString& key, const QString& value) const;
+    // Presses the button of the row's value, or its check box.
+    void press(const QString& key) const;
+    QString value(const QString& key) const;
+
+    // A PDF of that many pages, 300 by 400 points.
+    QString pdf(int pages) const;
+    QString path(const QString& name) const { return files.filePath(name); }
+    // Waits until the import sheet's work is done.
+    bool waitForImport() const;
+
+    QTemporaryDir files;
+    std::unique_ptr<BrisleafAppDelegate> program;
+    std::optional<QString> fileToOpen;
+    std::optional<QString> fileToSave;
+    std::optional<QColor> color;
+    QStringList opened;
+};

@@ -1,0 +1,125 @@
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/MessageBar.h"
+#include "app/desktop/PreviewView.h"
+#include "desktop/DesktopProgram.h"
+#include "platform/Bundle.h"
+#include "platform/Folders.h"
+#include "support/RecordedLog.h"
+#include "support/TemplateLibrary.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QFontInfo>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <csignal>
+
+namespace {
+
+QString text(const char* latin1) {
+    return QString::fromLatin1(latin1);
+}
+
+class Launch : public DesktopProgram {};
+
+} // namespace
+
+TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
+    launch();
+    EXPECT_EQ(window().frameGeometry(), QRect({0, 0}, QGuiApplication::primaryScreen()->size()));
+    EXPECT_EQ(window().btnFloat->text(), text("Float"));
+    EXPECT_TRUE(window().windowTitle().contains(text("Demo book")));
+    EXPECT_TRUE(QFontInfo(window().toolTip->font()).fixedPitch());
+    EXPECT_EQ(evaluate(text("document.title")).toString(), text("Preview"));
+    EXPECT_EQ(configuration().at(text("Ppts")).children.size(), 12u);
+    const QString support = Folders::userApplicationSupport();
+    EXPECT_EQ(program->flashPreviewFolder(), support + text("/Folvero/preview"));
+    const QByteArray log = TestFiles::read(support + text("/Tessamar/Folvero/Folvero.log"));
+    EXPECT_TRUE(log.contains("version is:" + Bundle::version().toLatin1())) << log.toStdString();
+    program.reset();
+    EXPECT_FALSE(QFileInfo::exists(support + text("/Folvero/preview")));
+}
+
+TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
+    launch();
+    TestFiles::write(path(text("secret.js")), "window.stolen = 'yes'");
+    const QString load = text("new Promise(() => 0); (() => { const s = "
+                              "document.createElement('script'); s.onerror = () => { "
+                              "window.refused = true }; s.src = '%1'; "
+                              "document.head.append(s) })()");
+    evaluate(load.arg(QUrl::fromLocalFile(path(text("secret.js"))).toString()));
+    EXPECT_TRUE(waitForPreview(text("window.refused === true && !window.stolen")));
+    QList<QUrl> addresses;
+    window().webView->setOpener([&addresses](const QUrl& url) { addresses << url; });
+    evaluate(text("location.href = 'https://folvero.example/more'"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !addresses.isEmpty(); }));
+    EXPECT_TRUE(waitForPreview());
+}
+
+TEST_F(Launch, SecondProgramHasAPreviewOfItsOwn) {
+    launch();
+    auto second = std::make_unique<BrisleafAppDelegate>();
+    second->applicationDidFinishLaunching();
+    EXPECT_EQ(second->flashPreviewFolder(), program->flashPreviewFolder() + text("-2"));
+    const QString folder = second->flashPreviewFolder();
+    EXPECT_TRUE(QFileInfo::exists(folder + text("/index.html")));
+    second.reset();
+    EXPECT_FALSE(QFileInfo::exists(folder));
+    EXPECT_TRUE(QFileInfo::exists(program->flashPreviewFolder() + text("/index.html")));
+}
+
+TEST_F(Launch, PreviewComesBackAfterItsEngineDied) {
+    launch();
+    const QSignalSpy deaths(window().webView, &PreviewView::engineDied);
+    evaluate(text("window.isOld = true"));
+    const auto engine = pid_t(window().webView->page()->renderProcessPid());
+    ASSERT_GT(engine, 0);
+    ASSERT_EQ(::kill(engine, SIGKILL), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return deaths.count() == 1; }, 20000));
+    EXPECT_TRUE(waitForPreview(text("!window.isOld")));
+    EXPECT_FALSE(window().messages->isVisible());
+}
+
+TEST_F(Launch, PreviewFolderThatWasRemovedIsMadeAgain) {
+    launch();
+    ASSERT_TRUE(QDir(program->flashPreviewFolder()).removeRecursively());
+    program->OnApplyChange();
+    EXPECT_TRUE(QFileInfo::exists(program->flashPreviewFolder() + text("/files/UserConfig.bin")));
+    EXPECT_FALSE(window().messages->isVisible());
+}
+
+TEST_F(Launch, PreviewFolderThatCannotBeMadeIsTold) {
+    TestFiles::write(Folders::userApplicationSupport() + text("/Folvero/preview"), "in the way");
+    const RecordedLog log(Log::Level::warn);
+    program->applicationDidFinishLaunching();
+    EXPECT_TRUE(window().messages->isVisible());
+    EXPECT_TRUE(window().messages->message().contains(text("preview")));
+    ASSERT_FALSE(log.texts().isEmpty());
+    EXPECT_TRUE(log.texts().first().startsWith(text("flash preview folder cannot be crearted[")));
+    EXPECT_TRUE(log.texts().last().startsWith(text("apply change :")));
+}
+
+TEST_F(Launch, DamagedTemplateIsTold) {
+    TemplateLibrary library;
+    library.addTemplateFile(text("float"), "<flashTemplate><property type='pt_text'>");
+    program->applicationDidFinishLaunching();
+    EXPECT_TRUE(window().messages->message().contains(text("float")))
+        << window().messages->message().toStdString();
+}
+
+TEST_F(Launch, HelpThatIsMissingIsTold) {
+    TemplateLibrary library;
+    library.addTemplate(text("float"));
+    program->applicationDidFinishLaunching();
+    window().menu->openHelp->trigger();
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_TRUE(window().messages->message().contains(text("PDF to Folvero for Mac.pdf")));
+    const QString file = text("PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf");
+    library.addFile(file, "%PDF-1.7");
+    window().menu->openHelp->trigger();
+    EXPECT_EQ(opened, QStringList{library.path() + u'/' + file});
+}
