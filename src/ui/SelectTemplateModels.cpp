@@ -1,0 +1,52 @@
+#include "ui/SelectTemplateModels.h"
+
+#include "ui/SelectTemplateWindowDelegate.h"
+
+TmplListModel::TmplListModel(SelectTemplateWindowDelegate& source, QObject* parent)
+    : QAbstractListModel(parent), iSource(source) {}
+
+void TmplListModel::reloadData() {
+    beginResetModel();
+    endResetModel();
+}
+
+int TmplListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : iSource.numberOfRowsInTableView();
+}
+
+QVariant TmplListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const QString name = iSource.objectValueForTableColumn(QString(), index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return SelectTemplateWindowDelegate::readableName(name);
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+    case failureRole:
+        return iSource.failureOf(name);
+    default:
+        return {};
+    }
+}
+
+TmplStylesModel::TmplStylesModel(SelectTemplateWindowDelegate& source, QObject* parent)
+    : QAbstractListModel(parent), iSource(source) {}
+
+void TmplStylesModel::reloadData() {
+    beginResetModel();
+    endResetModel();
+}
+
+int TmplStylesModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : iSource.numberOfItemsInImageBrowser();
+}
+
+QVariant TmplStylesModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const IKBTmplStyleItem& item = iSource.itemAtIndex(index.row());
+    if (role == Qt::DisplayRole)
+        return item.imageTitle();
+    return role == Qt::DecorationRole ? QVariant(item.imageRepresentation()) : QVariant();
+}

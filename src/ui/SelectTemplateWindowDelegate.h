@@ -1,0 +1,93 @@
+#pragma once
+
+#include "ui/IKBTmplStyleItem.h"
+#include "ui/SelectTemplateWindow.h"
+#include "ui/SelectTmplItemCell.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+class TmplListModel;
+class TmplRowPainter;
+class TmplStylesModel;
+
+// Runs the template chooser: lists the templates of the library and the styles of the one that is
+// selected. The sheet ends with 1 for a choice, which selectedStyle() then tells, and with 0
+// without one. A template that can't be loaded is listed, but can't be chosen.
+class SelectTemplateWindowDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SelectTemplateWindowDelegate(QWidget* parent = nullptr);
+    ~SelectTemplateWindowDelegate() override;
+
+    SelectTemplateWindow& window() const { return *iWindow; }
+    // Lists the library anew and selects that template, in whatever letter case, and that style's
+    // folder where it is among the template's.
+    void prepairToTmpl(const QString& name, const QString& currentStylePath = QString());
+    // Shows the sheet on its parent; onEnd gets the return code.
+    void beginSheet(std::function<void(int)> onEnd);
+    // Path of the chosen style's picture, whose folder is the style's; a null text without a
+    // choice. The picture itself may be missing.
+    QString selectedStyle();
+    // Index of the style that was last chosen or asked for.
+    quint32 selectedItemIndex() const { return iSelectedItemIndex; }
+
+    void onOK();
+    void onCancel();
+    // The shown styles stay until another template is selected.
+    void onRefresh();
+
+    // What the template list shows. A row beneath another template's folder is there, but hidden.
+    int numberOfRowsInTableView() const { return int(iTmplListData.size()); }
+    QString objectValueForTableColumn(const QString& column, int row) const;
+    std::unique_ptr<SelectTmplItemCell> dataCellForTableColumn(const QString& column,
+                                                               int row) const;
+    void tableViewSelectionDidChange();
+
+    // What the browser of styles shows.
+    int numberOfItemsInImageBrowser() const { return int(iTmplStylesData.size()); }
+    const IKBTmplStyleItem& itemAtIndex(int index) const { return *iTmplStylesData.at(index); }
+    // Chooses the style and ends the sheet.
+    void cellWasDoubleClickedAtIndex(int index);
+
+    // Why a template can't be used, in words; a null text when it can.
+    QString failureOf(const QString& tmplName) const;
+    // A template's name as people write it: with a capital.
+    static QString readableName(const QString& tmplName);
+
+private:
+    void awakeFromNib();
+    void wire();
+    void reloadTmplList();
+    void reloadTable();
+    void reloadStylesForTmpl(const QString& name);
+    const QHash<QString, QString>& failures() const;
+    void showStyles();
+    void selectRow(int row);
+    bool isListed(const QString& tmplName) const;
+    bool canChoose() const;
+    void showState();
+    QString notice() const;
+    void endSheet(int returnCode);
+
+    QPointer<SelectTemplateWindow> iWindow;
+    std::vector<std::unique_ptr<IKBTmplStyleItem>> iTmplStylesData;
+    QStringList iTmplListData;
+    quint32 iSelectedItemIndex = 0;
+    // The template whose styles are shown, and the style that the book has.
+    QString iShownTmpl;
+    QString iCurrentStylePath;
+    // By template; none until the list is looked at.
+    mutable std::optional<QHash<QString, QString>> iFailures;
+    TmplListModel* iTmplModel;
+    TmplStylesModel* iStylesModel;
+    TmplRowPainter* iRowPainter;
+    std::function<void(int)> iOnEnd;
+};
