@@ -59,8 +59,8 @@ void DesktopProgram::launch() {
 // An engine that dies answers late or not at all.
 QVariant DesktopProgram::evaluate(const QString& script) const {
     const auto result = std::make_shared<std::optional<QVariant>>();
-    window().webView->page()->runJavaScript(
-        script, [result](const QVariant& value) { *result = value; });
+    window().webView->page()->runJavaScript(script,
+                                            [result](const QVariant& value) { *result = value; });
     const bool answered = QTest::qWaitFor([&] { return result->has_value(); });
     return answered ? result->value() : QVariant();
 }
@@ -98,7 +98,6 @@ void DesktopProgram::edit(const QString& key, const QString& value) const {
     view->edit(index);
     if (auto* list = view->findChild<QComboBox*>()) {
         list->setCurrentText(value);
-        QTest::keyClick(list, Qt::Key_Return);
         Q_EMIT list->activated(list->currentIndex());
     } else {
         auto* field = view->findChild<QLineEdit*>();
@@ -107,8 +106,8 @@ void DesktopProgram::edit(const QString& key, const QString& value) const {
         QTest::keyClicks(field, value);
         QTest::keyClick(field, Qt::Key_Return);
     }
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QTest::qWait(0);
+    // The editor closes a little later, and is deleted later still.
+    QTest::qWait(20);
 }
 
 void DesktopProgram::press(const QString& key) const {

@@ -110,9 +110,12 @@ void PreviewView::showFile(const QString& path, bool isOtherBook) {
     if (url().adjusted(QUrl::RemoveFragment) != address) {
         load(address);
     } else if (isOtherBook) {
-        // Loading the address without its page number would take pictures from the cache.
-        page()->runJavaScript(QStringLiteral("history.replaceState(null, '', '#page=1')"),
-                              [this](const QVariant&) { reloadBook(); });
+        // Loading the address without its page number would take pictures from the cache. The
+        // answer may come when this is about to go: then nothing must be loaded any more.
+        page()->runJavaScript(
+            QStringLiteral("history.replaceState(null, '', '#page=1')"), [this](const QVariant&) {
+                QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);
+            });
     } else {
         reloadBook();
     }
