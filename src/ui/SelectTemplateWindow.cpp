@@ -48,9 +48,11 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     makeStyleBrowser();
     btnRefresh->setObjectName(QStringLiteral("refresh"));
     btnRefresh->setAutoDefault(false);
-    btnRefresh->setShortcut(QKeySequence::Refresh);
+    // On top of the letter in its caption, which a shortcut of the button's own would take away.
+    const auto* refresh = new QShortcut(QKeySequence::Refresh, this);
+    connect(refresh, &QShortcut::activated, btnRefresh, &QPushButton::click);
     btnRefresh->setToolTip(tr("Looks for templates that were added or repaired meanwhile (%1)")
-                               .arg(btnRefresh->shortcut().toString(QKeySequence::NativeText)));
+                               .arg(refresh->key().toString(QKeySequence::NativeText)));
     btnOK->setObjectName(QStringLiteral("ok"));
     btnCancel->setObjectName(QStringLiteral("cancel"));
 
@@ -79,8 +81,9 @@ QSize SelectTemplateWindow::firstSize() const {
     const QSize cell = TmplStylePainter::smallestCell(iImgBrowserView->fontMetrics());
     const QSize others = layout()->minimumSize() - iImgBrowserView->minimumSize();
     const int frame = 2 * iImgBrowserView->frameWidth() + 1;
+    const int bar = iImgBrowserView->verticalScrollBar()->sizeHint().width();
     return others + QSize(firstColumns * cell.width(), firstRows * cell.height()) +
-           QSize(frame, frame);
+           QSize(frame + bar, frame);
 }
 
 void SelectTemplateWindow::makeTmplList() {

@@ -58,11 +58,13 @@ SelectTemplateWindowDelegate::SelectTemplateWindowDelegate(QWidget* parent)
     wire();
 }
 
-// Its lists show what lies here.
+// The sheet may outlive this for a moment; its lists show what lies here.
 SelectTemplateWindowDelegate::~SelectTemplateWindowDelegate() {
     if (!iWindow)
         return;
     iWindow->hide();
+    iWindow->iTableViewTmpls->setModel(nullptr);
+    iWindow->iImgBrowserView->setModel(nullptr);
     iWindow->deleteLater();
 }
 

@@ -197,7 +197,8 @@ TEST_F(TemplateChooser, SaysWhichTemplatesAreBrokenAndDoesNotTakeThem) {
     EXPECT_TRUE(ended.isEmpty());
     library.addTemplate(text("empty"));
     library.addTemplate(text("torn"));
-    QTest::keyClick(&window(), Qt::Key_F5);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    QTest::keyClick(&styles(), Qt::Key_F5);
     EXPECT_FALSE(hasNotice());
     EXPECT_TRUE(window().btnOK->isEnabled());
 }
