@@ -5,10 +5,11 @@ BUILD := build/$(PRESET)
 OUT ?= out
 PDF ?= $(BUILD)/samples/sample.pdf
 
-.PHONY: book test bench packages build format format-check tidy help
+.PHONY: book app test bench packages build format format-check tidy help
 
 help:
 	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
+	@echo "make app [PDF=file.pdf]                 start the program with its window"
 	@echo "make test                               build and run every test"
 	@echo "make bench                              measure, see docs/performance.md"
 	@echo "make format-check                       check the format of the C++ code"
@@ -26,6 +27,10 @@ build: packages
 book: build
 	@$(BUILD)/bin/folvero publish "$(PDF)" "$(OUT)" --links --bookmarks
 	@echo "Open the page above with a double-click, or put the folder on a web server."
+
+# A PDF that was named is imported at once.
+app: build
+	@$(BUILD)/bin/folvero-desktop $(if $(filter command% environment%,$(origin PDF)),"$(PDF)")
 
 test: build format-check
 	@ctest --preset $(PRESET)

@@ -198,6 +198,8 @@ export class Book {
     const slot = /** @type {HTMLElement} */ (this.element.querySelector('.page.' + side));
     const page = this.shown[side];
     slot.hidden = page === 0;
+    // For the styles of what lies around the page; not every browser can select by what is inside.
+    this.element.classList.toggle('no-' + side, page === 0);
     slot.dataset.page = String(page);
     if (page === 0) {
       slot.replaceChildren();

@@ -44,6 +44,14 @@ TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
     EXPECT_FALSE(QFileInfo::exists(support + text("/Folvero/preview")));
 }
 
+// The preview's engine is older than most browsers are.
+TEST_F(Launch, CoverCastsNoShadowOfAPageThatIsNotThere) {
+    launch();
+    const QString opacity = text("getComputedStyle(document.querySelector('.shadow.%1')).opacity");
+    EXPECT_TRUE(waitForPreview(opacity.arg(text("left")) + text(" === '0'")));
+    EXPECT_EQ(evaluate(opacity.arg(text("right"))).toString(), text("1"));
+}
+
 TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     launch();
     TestFiles::write(path(text("secret.js")), "window.stolen = 'yes'");
