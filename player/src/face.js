@@ -57,7 +57,9 @@ export function drawFace(canvas, { page, entry, width, height, density, paper, g
     context.imageSmoothingQuality = 'high';
     context.drawImage(image, place.x, place.y, place.width, place.height);
   } else if (entry?.state === 'missing') {
-    context.fillStyle = 'rgba(110, 110, 110, .9)';
+    context.fillStyle = '#f4f2ef';
+    context.fillRect(0, 0, width, height);
+    context.fillStyle = '#6c6c6c';
     context.font = '15px system-ui, sans-serif';
     context.textAlign = 'center';
     context.fillText(missingText(page), width / 2, height / 2);

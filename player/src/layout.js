@@ -4,6 +4,9 @@
 const BAR_ROOM = 64;
 const BAR_ROOM_LEAST_HEIGHT = 480;
 
+/** Room kept at both sides for the arrows and the edges of the pages beneath. */
+const ARROW_ROOM = 70;
+
 /**
  * @typedef {object} Layout
  * @property {boolean} spread
@@ -53,7 +56,7 @@ export function layOut(of) {
   const roomy = Math.min(area.width, area.height) >= 480;
   const air = roomy ? Math.round(Math.min(area.width, area.height) * 0.045) : 10;
   const below = hasBar && area.height >= BAR_ROOM_LEAST_HEIGHT ? Math.max(BAR_ROOM, air) : air;
-  const sides = (spread || !maySpread) && roomy ? Math.max(air, 56) : air;
+  const sides = hasBar && (spread || !maySpread) && roomy ? Math.max(air, ARROW_ROOM) : air;
   const mostWidth = Math.max(40, (area.width - 2 * sides) / (spread ? 2 : 1));
   const mostHeight = Math.max(40, area.height - air - below);
   const scale = Math.min(mostWidth, mostHeight * aspect);

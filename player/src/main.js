@@ -50,11 +50,12 @@ function announcement(pages, pageCount) {
 /**
  * Keeps a page in view when the window changes between one page and two.
  * @param {HTMLElement} root
- * @param {Book} book
  * @param {Turner} turner
+ * @param {Drawer} drawer
  * @param {() => number} page
  */
-function followWindow(root, book, turner, page) {
+function followWindow(root, turner, drawer, page) {
+  const { book } = turner;
   let size = '';
   const fit = () => {
     const now = root.clientWidth + ' ' + root.clientHeight;
@@ -65,6 +66,7 @@ function followWindow(root, book, turner, page) {
     book.resize();
     turner.resized();
     turner.stand(book.views.viewOf(page()));
+    drawer.lay();
   };
   new ResizeObserver(fit).observe(root);
   fit();
@@ -150,7 +152,7 @@ async function openBook(root) {
     drawer.mark(pages);
     slideshow.wait();
   };
-  followWindow(root, book, turner, () => page);
+  followWindow(root, turner, drawer, () => page);
   window.addEventListener('hashchange', () => {
     if (pageInAddress() > 0) turner.go(book.views.viewOf(pageInAddress()));
   });

@@ -8,6 +8,9 @@ private typedef Start = {alpha:Float, rise:Float, scale:Float};
 class Opening {
 	static inline final MILLISECONDS = 800;
 
+	/** A movie that has just been loaded is slow at first; frames that come late must not swallow it all. **/
+	static inline final LONGEST_STEP = 80;
+
 	public static function bringIn(table:Sprite, way:String) {
 		var start:Null<Start> = switch way.toLowerCase() {
 			case "fade in": {alpha: 0, rise: 0, scale: 1};
@@ -20,10 +23,13 @@ class Opening {
 	}
 
 	static function run(table:Sprite, start:Start) {
-		var begun = Lib.getTimer();
+		var before = Lib.getTimer();
+		var passed = 0.0;
 		var advance:Event->Void = null;
 		advance = _ -> {
-			var passed = Math.min(1, (Lib.getTimer() - begun) / MILLISECONDS);
+			var now = Lib.getTimer();
+			passed = Math.min(1, passed + Math.min(LONGEST_STEP, now - before) / MILLISECONDS);
+			before = now;
 			var left = Math.pow(1 - passed, 3);
 			var scale = 1 + (start.scale - 1) * left;
 			table.alpha = 1 + (start.alpha - 1) * left;

@@ -52,11 +52,37 @@ for (const [name, colour] of looks) {
   });
 }
 
-test('nothing keeps readers with other senses or hands out: a message and the note of the last page', async () => {
+test('nothing keeps readers with other senses or hands out: a message', async () => {
   const folder = await reader.book({ pages: plainPages(8) });
-  await reader.openFromDisk(folder, { hash: '#page=4' }).then((book) => press('ArrowRight')(book));
   await writeConfiguration(folder, Buffer.from('noise'));
-  assert.deepEqual(await faults(await reader.openOverHttp(folder)), []);
+  const book = await reader.openOverHttp(folder);
+  assert.equal(await book.page.locator('.message').isVisible(), true);
+  assert.deepEqual(await faults(book), []);
+});
+
+for (const [name, view] of [['a desk', DESK], ['a phone', PHONE]]) {
+  test(`nothing keeps readers with other senses or hands out: the note of the page left, on ${name}`, async () => {
+    const book = await reader.openOverHttp(await reader.book({ pages: plainPages(8) }), { view,
+      before: (page) => page.addInitScript(() => localStorage.setItem(`folvero:${location.pathname}:8`, '4')) });
+    assert.equal(await book.page.locator('.toast').isVisible(), true);
+    assert.deepEqual(await faults(book), []);
+  });
+}
+
+test('where the system takes colours and shadows away, lines show surfaces, controls and the focus', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(8) }),
+    { hash: '#page=4', before: (page) => page.emulateMedia({ forcedColors: 'active' }) });
+  const unlined = (...selectors) => book.page.evaluate((all) => all.filter((selector) => {
+    const { borderTopWidth, borderTopStyle } = getComputedStyle(document.querySelector(selector));
+    return borderTopStyle !== 'solid' || parseFloat(borderTopWidth) < 1;
+  }), selectors);
+  assert.deepEqual(await unlined('.bar', '.arrow.left', '.page-box'), []);
+  await press('Tab')(book);
+  assert.equal(await book.page.evaluate(() => getComputedStyle(document.activeElement).outlineStyle), 'solid');
+  await press('t')(book);
+  assert.deepEqual(await unlined('.drawer'), []);
+  await press('l')(book);
+  assert.deepEqual(await unlined('.share-panel', '.share-panel .copy', '.share-panel .link'), []);
 });
 
 /** The accent of least contrast between a surface and its writing, over black and over white. */

@@ -1,5 +1,5 @@
 import assert from 'node:assert/strict';
-import { execFile } from 'node:child_process';
+import { execFile, execFileSync } from 'node:child_process';
 import { mkdtemp, rm } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import path from 'node:path';
@@ -21,9 +21,11 @@ let browser;
 let folder;
 let server;
 
-async function publish(name) {
+const templates = missing ? [] : JSON.parse(execFileSync(FOLVERO_BIN, ['templates', '--json'])).map(({ name }) => name);
+
+async function publish(name, ...options) {
   const target = path.join(folder, name);
-  await run(FOLVERO_BIN, ['publish', '--quiet', path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf'), target]);
+  await run(FOLVERO_BIN, ['publish', '--quiet', ...options, path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf'), target]);
   return target;
 }
 
@@ -58,6 +60,42 @@ for (const [way, address] of Object.entries(addresses)) {
     });
   }
 }
+
+for (const template of templates) {
+  test(`Firefox shows all of a book in ${template}, from disk and over http, on a desk and on a phone`, ready, async () => {
+    const target = await publish(`in-${template}`, '--template', template, '--pages', '1-7', '--set', 'pageMoveTime=0.2');
+    const own = await serve(target);
+    for (const place of [pathToFileURL(path.join(target, 'index.html')).href, own.address]) {
+      for (const [name, viewport] of screens) {
+        const book = await openBook(browser, place, viewport);
+        const spread = await book.page.evaluate(() => window.folvero.spread);
+        assert.equal(spread, name === 'a desk' && template !== 'deck');
+        for (const [key, pages] of [['ArrowRight', spread ? [2, 3] : [2]], ['ArrowLeft', [1]], ['End', spread ? [6, 7] : [7]]]) {
+          await book.page.keyboard.press(key);
+          await book.waitForPages(...pages);
+          assert.deepEqual(await book.picture(), { file: `${pages[0]}.jpg`, seen: true });
+        }
+        await book.page.keyboard.press('t');
+        assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.getBoundingClientRect().height > 60), true);
+        assert.deepEqual(book.errors, []);
+        await book.close();
+      }
+    }
+    assert.deepEqual(own.requests.filter(({ status }) => status !== 200), []);
+    await own.close();
+  });
+}
+
+test('keys typed in a panel do not reach the book in Firefox', ready, async () => {
+  const book = await openBook(browser, server.address, DESK);
+  await book.page.keyboard.press('?');
+  await book.page.click('.help-panel h2');
+  await book.page.keyboard.press('ArrowRight');
+  await book.page.keyboard.press('t');
+  await book.waitForPages(1);
+  assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.hidden), true);
+  await book.close();
+});
 
 test('Firefox tells that a book is damaged', ready, async () => {
   const damaged = await publish('damaged');

@@ -219,6 +219,47 @@ test('the bar can be left out', async () => {
   assert.ok(green > red, 'the table is seen where the bar was');
 });
 
+test('a caption that is an address opens it', async () => {
+  const address = `${emulator.server.address}flash.html`;
+  const book = await open({ values: { TutorialTitle: address } });
+  const [opened] = await Promise.all([book.page.context().waitForEvent('page'), book.page.mouse.click(45, 601)]);
+  assert.equal(opened.url().replace(/\?$/, ''), address);
+  await opened.close();
+  assert.deepEqual((await book.state()).pages, [1], 'the click turned no page');
+});
+
+/** Colours in the middle of the window from a book's beginning until its cover is there. */
+async function coloursOfOpening(InitialShow) {
+  const folder = await reader.book({ pages: [{ bytes: png(120, 160, () => red) }],
+    values: { InitialShow, InnerGradiantColorA: '0x000000', InnerGradiantColorB: '0x000000' } });
+  await emulator.page.evaluate(() => {
+    window.movie?.remove();
+    window.movie = null;
+    window.colours = [];
+    const pixel = Object.assign(document.createElement('canvas'), { width: 1, height: 1 }).getContext('2d');
+    const look = () => {
+      const canvas = window.movie?.shadowRoot?.querySelector('canvas');
+      if (canvas?.width > 0) {
+        pixel.drawImage(canvas, canvas.width / 2, canvas.height * 0.4, 1, 1, 0, 0, 1, 1);
+        window.colours.push([...pixel.getImageData(0, 0, 1, 1).data].slice(0, 3));
+      }
+      if (!(window.colours.at(-1)?.[0] > 245 && window.colours.at(-1)[1] < 20)) requestAnimationFrame(look);
+    };
+    look();
+  });
+  const book = await emulator.play(folder);
+  const { right } = await book.state();
+  await book.waitForColour(...middle(right), red);
+  return book.page.evaluate(() => window.colours);
+}
+
+for (const [way, comesSlowly] of [['Fade in', true], ['Rise', true], ['Drop', true], ['None', false]]) {
+  test(`InitialShow "${way}" ${comesSlowly ? 'lets the cover appear by and by' : 'shows the cover at once'}`, async () => {
+    const between = (await coloursOfOpening(way)).filter(([r, g]) => r > 30 && r < 230 && g < 30);
+    assert.equal(between.length > 0, comesSlowly, `${between.length} colours on the way`);
+  });
+}
+
 test('a book that plays by itself turns, and stops at its end', async () => {
   const book = await open({ count: 5, values: { AutoPlay: 'Yes', SlideInterval: '0.2', LoopPlay: 'No' } });
   await book.waitForPages(4, 5);

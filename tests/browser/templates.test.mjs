@@ -162,6 +162,28 @@ for (const template of templates) {
   });
 }
 
+for (const template of templates) {
+  test(`bar and arrows of ${template} leave the pages to the reader's hand`, async () => {
+    const open = (pages) => reader.book({ template: templateFolder(template), pages }).then((folder) =>
+      reader.openFromDisk(folder, { hash: '#page=40' }));
+    const high = await open(plainPages(80));
+    const taken = await high.page.locator('.page:not([hidden])').evaluateAll((pages) => pages.flatMap((page) => {
+      const { left, right, top, bottom } = page.getBoundingClientRect();
+      return [left + 3, right - 3].flatMap((x) => [top + 3, bottom - 3].map((y) => document.elementFromPoint(x, y)))
+        .filter((at) => !at.closest('.stage')).map((at) => at.className);
+    }));
+    assert.deepEqual(taken, [], 'what lies over the corners');
+    const wide = await open(plainPages(80, 160, 90));
+    const touching = await wide.page.evaluate(() => {
+      const boxes = (selector) => [...document.querySelectorAll(selector)].map((one) => one.getBoundingClientRect())
+        .filter(({ width }) => width > 0);
+      return boxes('.arrow').filter((arrow) => boxes('.page, .stack').some((paper) =>
+        arrow.left < paper.right + 2 && arrow.right > paper.left - 2)).length;
+    });
+    assert.equal(touching, 0, 'arrows that touch the paper');
+  });
+}
+
 /** Element of the configuration that each property sets, and another value for it. */
 const EFFECTS = {
   topMargin: ['Top', '31'], bottomMargin: ['Bottom', '32'], leftMargin: ['Left', '33'], rightMargin: ['Right', '34'],

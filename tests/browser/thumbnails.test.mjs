@@ -88,6 +88,18 @@ test('the thumbnails of a book that is read from the right lie from right to lef
   assert.ok(await left(40) >= 0 && await left(40) < await left(39));
 });
 
+test('open thumbnails follow a window that changes between two pages and one', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(30) }), { hash: '#page=10' });
+  await book.page.keyboard.press('t');
+  const ways = () => book.page.locator('.thumb').evaluateAll((all) => [...new Set(all
+    .sort((a, b) => a.dataset.page - b.dataset.page)
+    .map((one, index) => index && one.offsetLeft - all[index - 1].offsetLeft).slice(1))].sort((a, b) => a - b));
+  assert.equal((await ways()).length, 2, 'pages that lie side by side are nearer to each other');
+  await book.page.setViewportSize({ width: 500, height: 800 });
+  await book.page.waitForFunction(() => !window.folvero.spread);
+  assert.equal((await ways()).length, 1, 'single pages are equally far from each other');
+});
+
 test('the thumbnails of a very long book open at once and never hold many pages', async () => {
   const book = await open(2000, { hash: '#page=1500' });
   await book.page.evaluate(() => {

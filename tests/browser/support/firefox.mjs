@@ -39,6 +39,8 @@ export async function openBook(browser, address, viewport) {
   await page.setViewport(viewport);
   const errors = [];
   page.on('pageerror', (error) => errors.push(error.message));
+  page.on('console', (message) => { if (/error|warn/.test(message.type())) errors.push(message.text()); });
+  page.on('requestfailed', (request) => errors.push(`${request.url()} failed`));
   await page.goto(address, { timeout: 90000 });
   await page.waitForSelector('#folvero:is([data-state="ready"], [data-state="error"])', { timeout: 90000 });
   return new FirefoxBook(page, errors);
