@@ -69,9 +69,10 @@ def main():
     style = "\n".join(sheet.read_text(encoding="utf-8").strip() for sheet in sheets)
     script = join_script(player / "src")
     page = (player / "shell.html").read_text(encoding="utf-8")
-    page = page.replace("/*style*/", style).replace("/*script*/", script)
+    early = (player / "early.js").read_text(encoding="utf-8").strip()
+    page = page.replace("/*early*/", early).replace("/*style*/", style).replace("/*script*/", script)
     page = page.replace('data-template=""', attributes(template, name))
-    check(page, script)
+    check(page, early + script)
     output.parent.mkdir(parents=True, exist_ok=True)
     output.write_text(page, encoding="utf-8")
 

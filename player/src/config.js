@@ -47,40 +47,47 @@ export class BookError extends Error {
  * @property {PageEntry[]} thumbs as many as pages
  */
 
+/** What the top of the page has asked for already. */
+const { asked, runScript } = /** @type {any} */ (window).folveroConfiguration;
+
 /** @returns {Promise<Uint8Array>} the enciphered configuration */
 async function fetchBinary() {
-  const response = await fetch('files/UserConfig.bin');
+  const response = await asked;
   if (!response.ok) throw new Error('status ' + response.status);
   return new Uint8Array(await response.arrayBuffer());
 }
 
 /**
- * Browsers refuse to read sibling files of a page opened from disk, but run sibling scripts.
- * @returns {Promise<string>} a letter for each byte
+ * @param {Promise<unknown>} run of the script that holds a copy
+ * @returns {Promise<Uint8Array>}
  */
-function loadScriptCopy() {
-  return new Promise((resolve, reject) => {
-    const script = document.createElement('script');
-    script.src = 'files/UserConfig.js';
-    script.onerror = () => reject(new Error('not found'));
-    script.onload = () => {
-      const text = /** @type {any} */ (window).FolveroUserConfig;
-      try {
-        if (typeof text !== 'string') throw new Error('no text');
-        resolve(atob(text));
-      } catch {
-        reject(new BookError('damaged'));
-      }
-    };
-    document.head.append(script);
-  });
+async function readScriptCopy(run) {
+  await run;
+  try {
+    return bytesOf(/** @type {any} */ (window).FolveroUserConfig);
+  } catch {
+    throw new BookError('damaged');
+  }
+}
+
+/** @param {string} base64 */
+function bytesOf(base64) {
+  const decode = /** @type {any} */ (Uint8Array).fromBase64;
+  if (decode) return decode.call(Uint8Array, base64);
+  const letters = atob(base64);
+  // A book of thousands of pages has a million of them, so no function is called for each.
+  const bytes = new Uint8Array(letters.length);
+  for (let at = 0; at < letters.length; at++) bytes[at] = letters.charCodeAt(at);
+  return bytes;
 }
 
 /** @returns {Promise<BookConfig>} */
 export async function loadConfiguration() {
   const fromDisk = location.protocol === 'file:';
   let answered = true;
-  for (const source of fromDisk ? [loadScriptCopy] : [fetchBinary, loadScriptCopy]) {
+  const sources = fromDisk ? [() => readScriptCopy(asked)]
+    : [fetchBinary, () => readScriptCopy(runScript())];
+  for (const source of sources) {
     try {
       return parseConfiguration(decipher(await source()));
     } catch (error) {
@@ -92,7 +99,7 @@ export async function loadConfiguration() {
   throw answered ? new BookError('incomplete', !fromDisk) : new BookError('unreachable', true);
 }
 
-/** @param {Uint8Array | string} enciphered */
+/** @param {Uint8Array} enciphered */
 function decipher(enciphered) {
   const text = new TextDecoder('utf-8').decode(rc4(enciphered, CONFIG_KEY));
   return text.slice(0, text.lastIndexOf('>') + 1);
