@@ -7,7 +7,7 @@ class SelectTemplateWindowDelegate;
 // The chooser's two lists as the toolkit's views want them. The sheet's delegate knows what is in
 // them and outlives them.
 
-// One row a template; the names are shown with a capital.
+// One row a template; the names are shown with capitals.
 class TmplListModel : public QAbstractListModel {
     Q_OBJECT
 

@@ -190,7 +190,14 @@ SelectTemplateWindowDelegate::dataCellForTableColumn(const QString& column, int 
 }
 
 QString SelectTemplateWindowDelegate::readableName(const QString& tmplName) {
-    return tmplName.left(1).toUpper() + tmplName.mid(1);
+    QString name = tmplName.toLower();
+    bool atStart = true;
+    for (QChar& letter : name) {
+        if (atStart)
+            letter = letter.toUpper();
+        atStart = !letter.isLetterOrNumber();
+    }
+    return name;
 }
 
 void SelectTemplateWindowDelegate::tableViewSelectionDidChange() {

@@ -59,7 +59,7 @@ public:
 
     // Why a template can't be used, in words; a null text when it can.
     QString failureOf(const QString& tmplName) const;
-    // A template's name as people write it: with a capital.
+    // A template's name as people write it: each word with a capital and small letters after it.
     static QString readableName(const QString& tmplName);
 
 private:

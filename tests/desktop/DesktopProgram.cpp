@@ -123,12 +123,7 @@ QString DesktopProgram::value(const QString& key) const {
 
 QString DesktopProgram::pdf(int pages) const {
     const QString file = files.filePath(QStringLiteral("%1 pages.pdf").arg(pages));
-    PDFBuilder builder;
-    PDFBuilder::Page letter;
-    letter.mediaBox = QRectF(0, 0, 300, 400);
-    for (int page = 0; page < pages; ++page)
-        builder.addPage(letter);
-    TestFiles::write(file, builder.build());
+    TestFiles::write(file, PDFBuilder::blank(pages, {300, 400}));
     return file;
 }
 

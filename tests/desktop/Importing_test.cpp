@@ -4,6 +4,7 @@
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
 #include "desktop/DesktopProgram.h"
+#include "support/Program.h"
 #include "support/TemplateLibrary.h"
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"
@@ -18,6 +19,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -94,7 +96,7 @@ TEST_F(Importing, FailureIsToldAndTheBookStays) {
 }
 
 TEST_F(Importing, CanBeCancelledAndStartedAgainWhileThePreviewLives) {
-    startImport(text(FOLVERO_SAMPLES_DIR "/thousand.pdf"));
+    startImport(Program::sample(text("thousand.pdf")));
     EXPECT_TRUE(program->importWindow().isImporting());
     EXPECT_TRUE(waitForPreview()) << "the preview answers during an import";
     QTest::mouseClick(sheet().btnCancel, Qt::LeftButton);
@@ -107,10 +109,27 @@ TEST_F(Importing, CanBeCancelledAndStartedAgainWhileThePreviewLives) {
 }
 
 TEST_F(Importing, ProgramThatEndsDuringAnImportLeavesNothingBehind) {
-    startImport(text(FOLVERO_SAMPLES_DIR "/thousand.pdf"));
+    startImport(Program::sample(text("thousand.pdf")));
     const QString folder = program->flashPreviewFolder();
     program.reset();
     EXPECT_FALSE(QFileInfo::exists(folder));
+}
+
+TEST_F(Importing, ProgramThatIsToldToStopDuringAnImportEndsInGoodOrder) {
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(text("XDG_DATA_HOME"), path(text("data")));
+    environment.insert(text("XDG_CONFIG_HOME"), path(text("config")));
+    const QString preview = path(text("data/Folvero/preview"));
+    QProcess other;
+    other.setProcessEnvironment(environment);
+    other.start(Program::path(text("folvero-desktop")), {Program::sample(text("thousand.pdf"))});
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return QFileInfo::exists(preview + text("/index.html")); }, 20000));
+    // The import begins as soon as the demo book is there, and takes far longer than this.
+    QTest::qWait(500);
+    other.terminate();
+    EXPECT_EQ(Program::finish(other).exitCode, 0);
+    EXPECT_FALSE(QFileInfo::exists(preview));
 }
 
 TEST_F(Importing, BookIsPublishedFromTheSheetInBothForms) {

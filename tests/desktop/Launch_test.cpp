@@ -109,6 +109,10 @@ TEST_F(Launch, PreviewFolderThatCannotBeMadeIsTold) {
     ASSERT_FALSE(log.texts().isEmpty());
     EXPECT_TRUE(log.texts().first().startsWith(text("flash preview folder cannot be crearted[")));
     EXPECT_TRUE(log.texts().last().startsWith(text("apply change :")));
+    ASSERT_TRUE(QFile::remove(Folders::userApplicationSupport() + text("/Folvero/preview")));
+    program->OnApplyChange();
+    EXPECT_FALSE(window().messages->isVisible()) << "it no longer holds";
+    EXPECT_TRUE(waitForPreview());
 }
 
 TEST_F(Launch, DamagedTemplateIsTold) {

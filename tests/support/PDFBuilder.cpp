@@ -164,6 +164,15 @@ int PDFBuilder::pageObject(int index) {
     return iPageNumbers[static_cast<size_t>(index)];
 }
 
+QByteArray PDFBuilder::blank(int pages, const QSizeF& size) {
+    PDFBuilder builder;
+    Page page;
+    page.mediaBox = QRectF({0, 0}, size);
+    for (int count = 0; count < pages; ++count)
+        builder.addPage(page);
+    return builder.build();
+}
+
 int PDFBuilder::addPage(const Page& page) {
     const int index = addMissingPage();
     QByteArray entries = "/Type /Page /Parent " + reference(kPages) + attributeEntries(page);

@@ -43,6 +43,9 @@ public:
         std::vector<OutlineEntry> children = {};
     };
 
+    // A whole document of that many empty pages.
+    static QByteArray blank(int pages, const QSizeF& size);
+
     // -- Objects. Numbers are counted from 1.
     int reserveObject();
     int addObject(const QByteArray& body);

@@ -39,12 +39,7 @@ protected:
 
     QString path(int pages) {
         const QString file = iFolder.filePath(text("%1.pdf").arg(pages));
-        PDFBuilder builder;
-        PDFBuilder::Page letter;
-        letter.mediaBox = QRectF(0, 0, 300, 400);
-        for (int page = 0; page < pages; ++page)
-            builder.addPage(letter);
-        TestFiles::write(file, builder.build());
+        TestFiles::write(file, PDFBuilder::blank(pages, {300, 400}));
         return file;
     }
 

@@ -4,8 +4,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QSettings>
-#include <QStyle>
-#include <QStyleFactory>
 
 namespace {
 

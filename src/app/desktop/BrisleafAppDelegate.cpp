@@ -37,18 +37,6 @@ const QString helpFile = QStringLiteral("PDF to Folvero for mac Help/PDF to Folv
 
 constexpr int blinkInterval = 330; // ms
 
-// Each word with a capital at its start and small letters after it.
-QString capitalized(const QString& text) {
-    QString result = text.toLower();
-    bool atStart = true;
-    for (QChar& letter : result) {
-        if (atStart)
-            letter = letter.toUpper();
-        atStart = !letter.isLetterOrNumber();
-    }
-    return result;
-}
-
 } // namespace
 
 void BrisleafAppDelegate::prepaireTheLog() const {
@@ -75,6 +63,7 @@ void BrisleafAppDelegate::removeFlashPreviewFolder() {
 }
 
 void BrisleafAppDelegate::OnApplyChange() {
+    iWindow->messages->hide();
     applyChange(SameBook);
 }
 
@@ -117,8 +106,10 @@ void BrisleafAppDelegate::previewEngineDied(bool reloads) {
 }
 
 void BrisleafAppDelegate::previewDemo() {
-    iWindow->webView->showFile(
-        Bundle::pathForResource(QStringLiteral("index.html"), {}, QStringLiteral("Demo")), true);
+    const QString page =
+        Bundle::pathForResource(QStringLiteral("index.html"), {}, QStringLiteral("Demo"));
+    if (!page.isNull())
+        iWindow->webView->showFile(page, true);
 }
 
 void BrisleafAppDelegate::tmplPpertyValueChanged() {
@@ -221,9 +212,10 @@ void BrisleafAppDelegate::OnImportTmplSettings() {
 }
 
 void BrisleafAppDelegate::onSelectTemplate() {
-    iSelecteTmplWindow->prepairToTmpl(
-        iFlashTmpl->tmplName(),
-        FlashTemplate::stylePathFor(iFlashTmpl->tmplName(), iFlashTmpl->styleName()));
+    const QString style = iFlashTmpl->styleName().isEmpty() ? iFlashTmpl->defaultSytleName()
+                                                            : iFlashTmpl->styleName();
+    iSelecteTmplWindow->prepairToTmpl(iFlashTmpl->tmplName(),
+                                      FlashTemplate::stylePathFor(iFlashTmpl->tmplName(), style));
     iSelecteTmplWindow->beginSheet([this](int returnCode) { selectTmplWindowDidEnd(returnCode); });
 }
 
@@ -252,7 +244,7 @@ void BrisleafAppDelegate::showTemplate(const QString& name) {
     iHistory.restart(iFlashTmpl);
     iOutline->reloadData();
     iWindow->outlineView->expandAll();
-    iWindow->btnFloat->setText(capitalized(name));
+    iWindow->btnFloat->setText(SelectTemplateWindowDelegate::readableName(name));
     if (!iFlashTmpl->loadError().isNull())
         iWindow->messages->tell(tr("The template “%1” is damaged.").arg(name),
                                 iFlashTmpl->loadError());

@@ -34,7 +34,8 @@ public:
     void applicationDidFinishLaunching();
     // Gives up an import under way and removes the preview folder.
     void applicationWillTerminate();
-    // Shows the page "index.html" of the resource folder "Demo" instead of the book.
+    // Shows the page "index.html" of the resource folder "Demo", if there is one, instead of the
+    // book.
     void previewDemo();
 
     // How the user is asked for files (none when cancelled) and for a colour, how a file is opened

@@ -25,7 +25,6 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
-#include <QToolButton>
 
 namespace {
 

@@ -30,7 +30,6 @@ QAction* MainMenu::add(const QString& text, const QString& iconName, const QKeyS
 }
 
 void MainMenu::makeCommands(QUndoStack& edits) {
-    const auto none = QString();
     importPDF = add(tr("&Import PDF…"), QStringLiteral("import"), QKeySequence::Open);
     importPDF->setIconText(tr("Import PDF"));
     importPDF->setToolTip(tr("Make the book from a PDF document"));
@@ -42,9 +41,9 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     exportSettings =
         add(tr("&Save settings…"), QStringLiteral("settings-save"), QKeySequence::Save);
     exportSettings->setToolTip(tr("Save the settings to a file, to use them for other books"));
-    quit = add(tr("&Quit"), none, QKeySequence(tr("Ctrl+Q")));
+    quit = add(tr("&Quit"), {}, tr("Ctrl+Q"));
     quit->setMenuRole(QAction::QuitRole);
-    toolBarItemApplyChange = add(tr("&Apply the changes"), none, QKeySequence(tr("Ctrl+Return")));
+    toolBarItemApplyChange = add(tr("&Apply the changes"), {}, tr("Ctrl+Return"));
     toolBarItemApplyChange->setIconText(tr("Apply"));
     toolBarItemApplyChange->setToolTip(tr("Show the changed settings in the preview"));
     toolBarItemApplyChange->setData(0);
@@ -54,7 +53,7 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     reloadPreview = add(tr("&Reload the preview"), QStringLiteral("reload"), QKeySequence::Refresh);
     openHelp = add(tr("Folvero &help"), QStringLiteral("help"), QKeySequence::HelpContents);
     openHelp->setIconText(tr("Help"));
-    about = add(tr("&About Folvero"), none, {});
+    about = add(tr("&About Folvero"), {}, {});
     about->setMenuRole(QAction::AboutRole);
 
     undo = edits.createUndoAction(this, tr("&Undo"));

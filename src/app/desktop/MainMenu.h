@@ -7,7 +7,6 @@
 class QActionGroup;
 class QMainWindow;
 class QMenu;
-class QToolBar;
 class QUndoStack;
 
 // The program's commands with their shortcuts, in the menus and in the toolbar of its window.

@@ -6,7 +6,6 @@
 #include "ui/FlashTemplateOutline.h"
 
 #include <QCloseEvent>
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -176,7 +175,6 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     saveSizes();
-    Q_EMIT aboutToClose();
     event->accept();
 }
 

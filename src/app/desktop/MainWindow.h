@@ -36,7 +36,6 @@ public:
 
 Q_SIGNALS:
     void fileDropped(const QString& path);
-    void aboutToClose();
 
 protected:
     void changeEvent(QEvent* event) override;

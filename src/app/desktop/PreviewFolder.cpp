@@ -3,7 +3,6 @@
 #include "platform/Folders.h"
 #include "platform/Log.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QLockFile>
 #include <cerrno>

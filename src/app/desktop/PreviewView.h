@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QWebEngineView>
+#include <functional>
 
 class QWebEngineProfile;
 

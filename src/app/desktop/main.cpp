@@ -1,6 +1,7 @@
 // folvero-desktop: makes page-flip books from PDF files in a window.
 
 #include "app/desktop/BrisleafAppDelegate.h"
+#include "app/desktop/LinedStyle.h"
 #include "app/desktop/QuitSignals.h"
 #include "platform/Bundle.h"
 
@@ -37,7 +38,7 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(Bundle::version());
     QGuiApplication::setDesktopFileName(QStringLiteral("folvero"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/folvero.svg")));
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new LinedStyle);
     loadTranslations(app);
 
     QCommandLineParser parser;
@@ -52,7 +53,8 @@ int main(int argc, char** argv) {
 
     BrisleafAppDelegate controller;
     const QuitSignals quitSignals;
-    QObject::connect(&quitSignals, &QuitSignals::requested, &app, &QCoreApplication::quit);
+    // Not quit(): that asks the windows first, and a sheet with an import under way says no.
+    QObject::connect(&quitSignals, &QuitSignals::requested, &app, [] { QCoreApplication::exit(); });
     QTimer::singleShot(0, &controller, [&] {
         controller.applicationDidFinishLaunching();
         if (const QStringList files = parser.positionalArguments(); !files.isEmpty())

@@ -1,0 +1,42 @@
+#include "app/desktop/LinedStyle.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace {
+
+constexpr qreal corner = 2;
+constexpr float lineOpacity = 0.45F;
+constexpr int darkBelow = 128;
+
+bool isLined(QStyle::PrimitiveElement element) {
+    return element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton ||
+           element == QStyle::PE_FrameLineEdit;
+}
+
+} // namespace
+
+LinedStyle::LinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void LinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                               QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool isDark = option->palette.color(QPalette::Window).lightness() < darkBelow;
+    // The line around what has the keyboard is bright already.
+    const bool hasLine =
+        element == PE_FrameLineEdit && option->state.testFlag(QStyle::State_HasFocus);
+    if (!isLined(element) || !isDark || hasLine)
+        return;
+    QColor line = option->palette.color(QPalette::Text);
+    line.setAlphaF(lineOpacity);
+    const QRectF rect = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(line);
+    painter->setBrush(Qt::NoBrush);
+    if (element == PE_IndicatorRadioButton)
+        painter->drawEllipse(rect);
+    else
+        painter->drawRoundedRect(rect, corner, corner);
+    painter->restore();
+}
