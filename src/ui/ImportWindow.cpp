@@ -37,6 +37,8 @@ ImportWindow::ImportWindow(QWidget* parent)
         ->setBuddy(txtImportFile);
 
     auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(margins);
+    form->setVerticalSpacing(8);
     all->addLayout(form);
     all->addWidget(lblFailure);
     all->addStretch();

@@ -26,6 +26,8 @@ OutputWindow::OutputWindow(QWidget* parent)
         ->setBuddy(txtOutputFolder);
 
     auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(margins);
+    form->setVerticalSpacing(8);
     all->addLayout(form);
     all->addStretch();
     all->addWidget(buttonRow(btnPublish));

@@ -69,7 +69,7 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     buttons->addWidget(buttonRow(btnOK), 1);
 
     auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(16, 14, 16, 14);
+    all->setContentsMargins(margins);
     all->setSpacing(12);
     all->addLayout(lists, 1);
     all->addWidget(noticeRow());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QMargins>
 
 class QLineEdit;
 class QPushButton;
@@ -22,6 +23,8 @@ Q_SIGNALS:
     void closeRequested();
 
 protected:
+    // Around all that a sheet holds.
+    static constexpr QMargins margins{16, 14, 16, 14};
     // Widgets side by side; the first takes the room that is left.
     static QWidget* row(const QList<QWidget*>& widgets);
     // The button to cancel with, and the one that Return presses.

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QFile>
 #include <QSettings>
 
 namespace {
@@ -73,6 +74,43 @@ void Appearance::setChoice(Choice choice) {
 void Appearance::apply() const {
     const bool isDark = iChoice == dark || (iChoice == system && iSystemIsDark);
     QApplication::setPalette(palette(isDark));
+    qApp->setStyleSheet(styleSheet(isDark));
+}
+
+QString Appearance::styleSheet(bool isDark) {
+    QFile file(QStringLiteral(":/desktop.qss"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QString sheet = QString::fromUtf8(file.readAll());
+    const QPalette colors = palette(isDark);
+    // A name that begins like another one comes before it.
+    for (const auto& [name, value] : std::initializer_list<std::pair<const char*, QColor>>{
+             {"@accentHover", QColor(isDark ? "#3b7ec2" : "#2767ab")},
+             {"@noteGround", noteColors(isDark).ground},
+             {"@noteInk", noteColors(isDark).ink},
+             {"@noteLine", noteColors(isDark).line},
+             {"@onAccent", colors.color(QPalette::HighlightedText)},
+             {"@accent", colors.color(QPalette::Highlight)},
+             {"@base", colors.color(QPalette::Base)},
+             {"@button", colors.color(QPalette::Button)},
+             {"@edge", QColor(isDark ? "#5a5f69" : "#b9bec7")},
+             {"@faint", QColor(isDark ? "#8b9099" : "#6b717b")},
+             {"@hover", QColor(isDark ? "#3b3f46" : "#e7e9ed")},
+             {"@line", QColor(isDark ? "#3a3d43" : "#d8dbe0")},
+             {"@press", QColor(isDark ? "#474b53" : "#dadde3")},
+             {"@raised", QColor(isDark ? "#2d3035" : "#ffffff")},
+             {"@text", colors.color(QPalette::WindowText)},
+             {"@thumb", QColor(isDark ? "#565b64" : "#c0c5cd")},
+             {"@window", colors.color(QPalette::Window)}})
+        sheet.replace(QLatin1String(name), value.name());
+    return sheet;
+}
+
+// Amber on either appearance, with text that can be read on it.
+Appearance::NoteColors Appearance::noteColors(bool isDark) {
+    if (isDark)
+        return {QColor("#4a3a14"), QColor("#ffe9b8"), QColor("#7a6228")};
+    return {QColor("#fff1cc"), QColor("#4a3500"), QColor("#e5c36a")};
 }
 
 QPalette Appearance::palette(bool isDark) {

@@ -18,6 +18,15 @@ public:
     void setChoice(Choice choice);
 
     static QPalette palette(bool isDark);
+    // Those of a message that something has gone wrong.
+    struct NoteColors {
+        QColor ground;
+        QColor ink;
+        QColor line;
+    };
+    static NoteColors noteColors(bool isDark);
+    // The look of the parts that a palette alone does not settle.
+    static QString styleSheet(bool isDark);
 
 private Q_SLOTS:
     void systemSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);

@@ -245,6 +245,8 @@ void BrisleafAppDelegate::showTemplate(const QString& name) {
     iOutline->reloadData();
     iWindow->outlineView->expandAll();
     iWindow->btnFloat->setText(SelectTemplateWindowDelegate::readableName(name));
+    iWindow->btnFloat->setIcon(
+        QIcon(Files::join(FlashTemplate::tmplPathForName(name), QStringLiteral("icon.png"))));
     if (!iFlashTmpl->loadError().isNull())
         iWindow->messages->tell(tr("The template “%1” is damaged.").arg(name),
                                 iFlashTmpl->loadError());

@@ -1,5 +1,7 @@
 #include "app/desktop/LinedStyle.h"
 
+#include "ui/Icons.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -39,4 +41,19 @@ void LinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     else
         painter->drawRoundedRect(rect, corner, corner);
     painter->restore();
+}
+
+QIcon LinedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                               const QWidget* widget) const {
+    switch (which) {
+    case SP_MessageBoxInformation:
+        return Icons::icon(QStringLiteral("message-info"), QColor("#3a83d0"));
+    case SP_MessageBoxQuestion:
+        return Icons::icon(QStringLiteral("message-question"), QColor("#3a83d0"));
+    case SP_MessageBoxWarning:
+    case SP_MessageBoxCritical:
+        return Icons::icon(QStringLiteral("warning"), QColor("#d08a1e"));
+    default:
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
 }

@@ -23,10 +23,21 @@ namespace {
 const QString sidesKey = QStringLiteral("mainWindow/sides");
 const QString tipKey = QStringLiteral("mainWindow/editorAndTip");
 const QString columnKey = QStringLiteral("mainWindow/titleColumn");
-constexpr int editorWidth = 400;
-constexpr int titleColumnWidth = 180;
+constexpr int editorWidth = 420;
+constexpr int titleColumnWidth = 172;
 constexpr int leastColumnWidth = 60;
 constexpr int tipHeight = 130;
+constexpr int gap = 8;
+
+// A view in a frame with round corners.
+QWidget* card(QWidget* view, const QString& name) {
+    auto* frame = new QFrame;
+    frame->setObjectName(name);
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(4, 4, 2, 4);
+    layout->addWidget(view);
+    return frame;
+}
 
 // Null when none of the dropped things is a PDF file on this machine.
 QString droppedPDF(const QMimeData& data) {
@@ -61,23 +72,23 @@ QWidget* MainWindow::editorSide() {
     outlineView->setObjectName(QStringLiteral("settings"));
     outlineView->setAccessibleName(tr("Settings of the template"));
     outlineView->setFrameShape(QFrame::NoFrame);
-    outlineView->setAlternatingRowColors(true);
     outlineView->setUniformRowHeights(true);
     outlineView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     outlineView->header()->setMinimumSectionSize(leastColumnWidth);
     outlineView->setEditTriggers(
         QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
         QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
-    iEditorAndTip->addWidget(outlineView);
+    iEditorAndTip->addWidget(card(outlineView, QStringLiteral("settingsCard")));
     iEditorAndTip->addWidget(tipBox());
+    iEditorAndTip->setHandleWidth(gap);
     iEditorAndTip->setStretchFactor(0, 1);
     iEditorAndTip->setChildrenCollapsible(false);
 
     auto* side = new QWidget;
     side->setMinimumWidth(260);
     auto* layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    layout->setContentsMargins(gap, gap, gap, gap);
+    layout->setSpacing(gap);
     layout->addWidget(templateRow());
     layout->addWidget(iEditorAndTip, 1);
     return side;
@@ -85,6 +96,7 @@ QWidget* MainWindow::editorSide() {
 
 QWidget* MainWindow::templateRow() {
     btnFloat = new QPushButton;
+    btnFloat->setIconSize({20, 20});
     btnFloat->setObjectName(QStringLiteral("templateName"));
     btnFloat->setAccessibleName(tr("Template of the book"));
     btnFloat->setToolTip(tr("The template of the book; click to choose another"));
@@ -101,7 +113,7 @@ QWidget* MainWindow::templateRow() {
 
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(8, 6, 8, 6);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(btnFloat, 1);
     layout->addWidget(btnImportTmpl);
     layout->addWidget(btnExportTmpl);
@@ -120,12 +132,7 @@ QWidget* MainWindow::tipBox() {
     auto* layout = new QVBoxLayout(toolTipBox);
     layout->setContentsMargins(6, 2, 6, 4);
     layout->addWidget(toolTip);
-
-    auto* room = new QWidget;
-    auto* margins = new QVBoxLayout(room);
-    margins->setContentsMargins(8, 6, 8, 8);
-    margins->addWidget(toolTipBox);
-    return room;
+    return toolTipBox;
 }
 
 QWidget* MainWindow::previewSide() {

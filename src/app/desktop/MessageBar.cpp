@@ -1,5 +1,6 @@
 #include "app/desktop/MessageBar.h"
 
+#include "app/desktop/Appearance.h"
 #include "ui/Icons.h"
 
 #include <QEvent>
@@ -42,19 +43,16 @@ QString MessageBar::message() const {
     return text.toPlainText();
 }
 
-// Amber on either appearance, with text that can be read on it.
 void MessageBar::dress() {
     const bool dark = palette().color(QPalette::Window).lightness() < 128;
-    const QString ground = dark ? QStringLiteral("#4a3a14") : QStringLiteral("#fff1cc");
-    const QString ink = dark ? QStringLiteral("#ffe9b8") : QStringLiteral("#4a3500");
-    const QString line = dark ? QStringLiteral("#7a6228") : QStringLiteral("#e5c36a");
+    const auto [ground, ink, line] = Appearance::noteColors(dark);
     iDressing = true;
     setStyleSheet(QStringLiteral("#messageBar{background:%1;border:0;border-bottom:1px solid %3}"
                                  "#messageBar QLabel{color:%2}")
-                      .arg(ground, ink, line));
+                      .arg(ground.name(), ink.name(), line.name()));
     iDressing = false;
-    iIcon->setPixmap(Icons::icon(QStringLiteral("warning"), QColor(ink)).pixmap(18, 18));
-    iClose->setIcon(Icons::icon(QStringLiteral("close"), QColor(ink)));
+    iIcon->setPixmap(Icons::icon(QStringLiteral("warning"), ink).pixmap(18, 18));
+    iClose->setIcon(Icons::icon(QStringLiteral("close"), ink));
 }
 
 void MessageBar::changeEvent(QEvent* event) {

@@ -1,0 +1,132 @@
+#include "window-shots/ShotsProgram.h"
+
+#include "app/desktop/Appearance.h"
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/PreviewView.h"
+#include "ui/FlashTemplateModel.h"
+#include "ui/FlashTemplateOutline.h"
+#include "ui/ImportWindowDelegate.h"
+#include "window-shots/WindowFrame.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QTest>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int longEnough = 30'000; // ms
+constexpr int turnTime = 1'800;    // ms
+
+QModelIndex find(const QAbstractItemModel& model, const QString& key, const QModelIndex& parent) {
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, FlashTemplateModel::key, parent);
+        if (FlashTemplateModel::item(index)->key() == key)
+            return index.siblingAtColumn(FlashTemplateModel::value);
+        if (const QModelIndex below = find(model, key, index); below.isValid())
+            return below;
+    }
+    return {};
+}
+
+QWidget* openSheet() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (qobject_cast<QDialog*>(widget) && widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+bool isDark(const QWidget& widget) {
+    return widget.palette().color(QPalette::Window).lightness() < 128;
+}
+
+QImage framed(QWidget& widget) {
+    return WindowFrame::framed(widget.grab().toImage(), widget.windowTitle(), isDark(widget));
+}
+
+} // namespace
+
+void waitUntil(const std::function<bool()>& condition, const char* what) {
+    QElapsedTimer waited;
+    waited.start();
+    while (!condition()) {
+        if (waited.hasExpired(longEnough)) {
+            std::fprintf(stderr, "window-shots: waited in vain for %s\n", what);
+            std::exit(1);
+        }
+        QTest::qWait(50);
+    }
+}
+
+void rest(int milliseconds) {
+    QTest::qWait(milliseconds);
+}
+
+ShotsProgram::ShotsProgram(const QSize& windowSize) {
+    iProgram.applicationDidFinishLaunching();
+    window().resize(windowSize);
+    waitForBook();
+}
+
+void ShotsProgram::setDark(bool isDark) {
+    for (QAction* action : window().menu->appearance->actions()) {
+        if (action->data().toInt() == (isDark ? Appearance::dark : Appearance::light))
+            action->trigger();
+    }
+    rest(100);
+}
+
+void ShotsProgram::importBook(const QString& pdf) {
+    iProgram.importFile(pdf);
+    waitUntil([this] { return !iProgram.importWindow().isImporting(); }, "the import");
+    rest(500);
+    waitForBook();
+}
+
+void ShotsProgram::waitForBook() {
+    bool isReady = false;
+    waitUntil(
+        [&] {
+            window().webView->page()->runJavaScript(
+                QStringLiteral("document.querySelector('#folvero[data-state=\"ready\"]') !== null"),
+                [&isReady](const QVariant& value) { isReady = value.toBool(); });
+            rest(100);
+            return isReady;
+        },
+        "the preview");
+    rest(turnTime);
+}
+
+void ShotsProgram::showPage(int page) {
+    window().webView->page()->runJavaScript(QStringLiteral("location.hash = '#page=%1'").arg(page));
+    rest(turnTime);
+}
+
+void ShotsProgram::select(const QString& key) {
+    const QModelIndex index = find(iProgram.outline(), key, {});
+    window().outlineView->scrollTo(index, QAbstractItemView::PositionAtCenter);
+    window().outlineView->setCurrentIndex(index);
+    rest(100);
+}
+
+QImage ShotsProgram::picture() {
+    QImage content = window().grab().toImage();
+    if (QWidget* sheet = openSheet())
+        content = WindowFrame::withSheet(content, framed(*sheet));
+    if (const QWidget* menu = QApplication::activePopupWidget()) {
+        QPainter painter(&content);
+        painter.drawPixmap(window().mapFromGlobal(menu->pos()), const_cast<QWidget*>(menu)->grab());
+    }
+    return WindowFrame::framed(content, window().windowTitle(), isDark(window()));
+}
+
+QImage ShotsProgram::pictureOfSheet() {
+    QWidget* sheet = openSheet();
+    return sheet ? framed(*sheet) : QImage();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/desktop/BrisleafAppDelegate.h"
+
+#include <QImage>
+#include <QString>
+
+// The desktop program, run to have its picture taken.
+class ShotsProgram {
+public:
+    // The window's size in points, without a frame.
+    explicit ShotsProgram(const QSize& windowSize);
+
+    BrisleafAppDelegate& program() { return iProgram; }
+    MainWindow& window() { return *iProgram.window(); }
+
+    void setDark(bool isDark);
+    // Imports the document, and waits until its book is shown.
+    void importBook(const QString& pdf);
+    // Opens the book at a page, one-based, and waits until the turn is over.
+    void showPage(int page);
+    // Waits until the preview shows a book that is ready.
+    void waitForBook();
+    // The row of that property is selected and in sight.
+    void select(const QString& key);
+
+    // The window with whatever sheet, menu or box is open before it.
+    QImage picture();
+    // The sheet or box that is open, alone.
+    QImage pictureOfSheet();
+
+private:
+    BrisleafAppDelegate iProgram;
+};
+
+// Waits until that is true; ends the program with an error after half a minute.
+void waitUntil(const std::function<bool()>& condition, const char* what);
+// Lets the program draw and animate for a while.
+void rest(int milliseconds);
