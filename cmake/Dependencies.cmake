@@ -1,4 +1,5 @@
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Svg Test WebEngineWidgets Widgets)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui LinguistTools Svg Test
+    WebEngineWidgets Widgets)
 find_package(OpenSSL 3 REQUIRED)
 find_package(ZLIB REQUIRED)
 find_package(pugixml REQUIRED)

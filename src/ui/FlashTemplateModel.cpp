@@ -1,5 +1,7 @@
 #include "ui/FlashTemplateModel.h"
 
+#include "ui/TemplateTexts.h"
+
 #include <QFont>
 
 FlashTemplateModel::FlashTemplateModel(FlashTemplateOutlineDelegate& source, QObject* parent)
@@ -57,16 +59,35 @@ int FlashTemplateModel::columnCount(const QModelIndex& /*parent*/) const {
     return value + 1;
 }
 
+QVariant FlashTemplateModel::shownText(const QModelIndex& index) const {
+    const QVariant text = iSource.objectValueForTableColumn(columnName(index), item(index));
+    const bool isWord = index.column() == key || item(index)->propertyType() == pt_list;
+    return isWord ? TemplateTexts::shown(text.toString()) : text;
+}
+
+QString FlashTemplateModel::spokenValue(const FlashTemplateProperty& property) {
+    switch (property.propertyType()) {
+    case pt_list:
+        return TemplateTexts::shown(property.value());
+    case pt_bool:
+        return StringUtil::valueAsBool(property.value()) ? tr("Yes") : tr("No");
+    default:
+        return property.value();
+    }
+}
+
 QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
     const bool isGroup = item(index)->propertyType() == pt_composite;
     switch (role) {
     case Qt::DisplayRole:
+        return shownText(index);
     case Qt::EditRole:
         return iSource.objectValueForTableColumn(columnName(index), item(index));
     case Qt::ToolTipRole:
-        return item(index)->desc();
+    case Qt::AccessibleDescriptionRole:
+        return TemplateTexts::shown(item(index)->desc());
     case Qt::FontRole: {
         QFont font;
         font.setBold(isGroup && index.column() == key);
@@ -74,9 +95,7 @@ QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
     }
     // What a screen reader says about a value.
     case Qt::AccessibleTextRole:
-        return index.column() == key ? item(index)->title() : item(index)->value();
-    case Qt::AccessibleDescriptionRole:
-        return item(index)->desc();
+        return index.column() == key ? shownText(index) : spokenValue(*item(index));
     default:
         return {};
     }

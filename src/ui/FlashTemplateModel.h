@@ -36,6 +36,9 @@ public:
 
 private:
     void reloadValuesBelow(const QModelIndex& parent);
+    // As the user reads it: templates speak English.
+    QVariant shownText(const QModelIndex& index) const;
+    static QString spokenValue(const FlashTemplateProperty& property);
 
     FlashTemplateOutlineDelegate& iSource;
 };

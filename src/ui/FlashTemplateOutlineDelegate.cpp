@@ -17,10 +17,6 @@ bool isValueOf(const QString& column, FlashTemplateOutlineDelegate::Item item) {
     return item && column == valueColumn;
 }
 
-QString translated(const char* text) {
-    return QCoreApplication::translate("FlashTemplateOutlineDelegate", text);
-}
-
 // Null when the index is none of a choice.
 QString acceptedText(const QVariant& object, const FlashTemplateProperty& property) {
     switch (property.propertyType()) {
@@ -75,14 +71,18 @@ QVariant FlashTemplateOutlineDelegate::objectValueForTableColumn(const QString& 
     if (!iFlashTmpl || !byItem)
         return {};
     if (column.isNull() || column == QStringLiteral("key"))
-        return byItem->title().isNull() ? translated("(Untitled)") : byItem->title();
+        return byItem->title().isNull()
+                   ? QCoreApplication::translate("FlashTemplateOutlineDelegate", "(Untitled)")
+                   : byItem->title();
     if (column != valueColumn)
         return {};
     if (byItem->propertyType() == pt_file)
         return QStringLiteral("go go bay,hello world....just ok");
     if (byItem->propertyType() == pt_bool)
         return StringUtil::valueAsBool(byItem->value()) ? 1 : 0;
-    return byItem->value().isNull() ? translated("(Unknown)") : byItem->value();
+    return byItem->value().isNull()
+               ? QCoreApplication::translate("FlashTemplateOutlineDelegate", "(Unknown)")
+               : byItem->value();
 }
 
 std::unique_ptr<Cell> FlashTemplateOutlineDelegate::dataCellForTableColumn(const QString& column,

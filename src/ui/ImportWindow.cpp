@@ -16,6 +16,7 @@ ImportWindow::ImportWindow(QWidget* parent)
     : Sheet(tr("Import a PDF"), parent), btnOK(new QPushButton(tr("&Import"))) {
     makeFileField();
     importQuality = new QComboBox;
+    //: The quality of the pictures of the pages, from the best to the worst.
     importQuality->addItems(
         {tr("Best, for zooming in"), tr("High"), tr("Medium"), tr("Low"), tr("Smallest files")});
     btnImportLinks = new QCheckBox(tr("Import &links"));
@@ -51,6 +52,7 @@ void ImportWindow::makeFileField() {
     txtImportFile = new QLineEdit;
     txtImportFile->setMinimumWidth(260);
     btnBrowseFile = new QPushButton(tr("&Choose…"));
+    //: Opens the chosen PDF in another program.
     btnOpenFile = new QPushButton(tr("&View"));
     btnOpenFile->setToolTip(tr("Opens the PDF in the program that usually shows it"));
 }
@@ -60,7 +62,9 @@ QWidget* ImportWindow::pagesRow() {
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     pageRangeType = new QButtonGroup(this);
+    //: All pages are imported.
     auto* all = new QRadioButton(tr("&All"));
+    //: A field for page numbers follows.
     auto* typed = new QRadioButton(tr("&These:"));
     pageRangeType->addButton(all, allPages);
     pageRangeType->addButton(typed, typedPages);

@@ -178,6 +178,7 @@ void ImportWindowDelegate::anyThread_handleMSG(const Notification& message) {
 void ImportWindowDelegate::mainThread_handleMSG(const QVariantMap& userInfo) {
     if (iWindow->lblInfo->isHidden())
         return;
+    //: %1 is the page that is worked at, %2 the number of pages.
     iWindow->lblInfo->setText(tr("Importing:%1/%2")
                                   .arg(userInfo[QStringLiteral("pageIndex")].toInt())
                                   .arg(userInfo[QStringLiteral("totalPage")].toInt()));

@@ -12,8 +12,10 @@ OutputWindow::OutputWindow(QWidget* parent)
     : Sheet(tr("Publish the book"), parent), btnPublish(new QPushButton(tr("&Publish"))) {
     makeFolderField();
     txtOutputName = new QLineEdit;
+    //: Shown in the empty field for the file's name.
     txtOutputName->setPlaceholderText(tr("without an ending, for example index"));
     txtTitle = new QLineEdit;
+    //: Shown in the empty field for the book's title.
     txtTitle->setPlaceholderText(tr("shown in the browser's window"));
 
     auto* form = new QFormLayout;
@@ -52,6 +54,7 @@ void OutputWindow::makeFolderField() {
     txtOutputFolder = new QLineEdit;
     txtOutputFolder->setMinimumWidth(260);
     btnSelectFolder = new QPushButton(tr("&Choose…"));
+    //: Shows the chosen folder in the file manager.
     btnOpenFolder = new QPushButton(tr("&Show"));
     btnOpenFolder->setToolTip(tr("Opens the folder in the file manager"));
 }

@@ -112,6 +112,7 @@ void OutputWindowDelegate::onCancel() {
 }
 
 void OutputWindowDelegate::onSelectFolder() {
+    //: The button of a panel that asks for a folder.
     openPanelDidEnd(iQuestions.folder(tr("Choose folder")));
 }
 

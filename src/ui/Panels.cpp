@@ -75,17 +75,14 @@ void Panels::tell(const QString& message, const QString& information) {
 }
 
 void Panels::about() {
-    const auto translated = [](const char* text) {
-        return QCoreApplication::translate("Panels", text);
-    };
     QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(translated("About Folvero"));
+    box.setWindowTitle(QCoreApplication::translate("Panels", "About Folvero"));
     box.setIconPixmap(QApplication::windowIcon().pixmap(96, 96));
     box.setText(QStringLiteral("<h3>Folvero %1</h3>").arg(QApplication::applicationVersion()));
-    box.setInformativeText(
-        translated("Turns PDF documents into page-flip books for every browser.\n\n"
-                   "Free software under the GNU Affero General Public License, version 3 or "
-                   "later. It comes without any warranty."));
+    box.setInformativeText(QCoreApplication::translate(
+        "Panels", "Turns PDF documents into page-flip books for every browser.\n\n"
+                  "Free software under the GNU Affero General Public License, version 3 or "
+                  "later. It comes without any warranty."));
     box.exec();
 }
 

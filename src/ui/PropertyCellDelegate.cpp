@@ -2,6 +2,7 @@
 
 #include "ui/FlashTmplColorCell.h"
 #include "ui/FlashTmplFileCell.h"
+#include "ui/TemplateTexts.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -91,7 +92,8 @@ void PropertyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& 
     painter->save();
     painter->setClipRect(plain.rect);
     if (const auto* list = dynamic_cast<const PopUpButtonCell*>(cell.get())) {
-        paintList(*painter, plain, list->itemTitles().value(list->indexOfSelectedItem()));
+        const QString chosen = list->itemTitles().value(list->indexOfSelectedItem());
+        paintList(*painter, plain, TemplateTexts::shown(chosen));
     } else if (const auto* button = dynamic_cast<const ButtonCell*>(cell.get())) {
         paintCheckBox(*painter, plain, *button);
     } else {
@@ -123,7 +125,7 @@ void PropertyCellDelegate::paintCheckBox(QPainter& painter, const QStyleOptionVi
     QStyleOptionButton box;
     box.QStyleOption::operator=(option);
     box.rect = option.rect.adjusted(textMargin, 0, 0, 0);
-    box.text = cell.title();
+    box.text = TemplateTexts::shown(cell.title());
     box.fontMetrics = option.fontMetrics;
     box.state = option.state & ~QStyle::State_HasFocus;
     box.state |= cell.state() ? QStyle::State_On : QStyle::State_Off;
@@ -147,12 +149,13 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
     if (item->propertyType() != pt_list) {
         auto* edit = new QLineEdit(parent);
         edit->setFrame(false);
-        edit->setAccessibleName(item->title());
+        edit->setAccessibleName(TemplateTexts::shown(item->title()));
         return edit;
     }
     auto* list = new QComboBox(parent);
-    list->addItems(FlashTemplateOutlineDelegate::choices(*item));
-    list->setAccessibleName(item->title());
+    for (const QString& choice : FlashTemplateOutlineDelegate::choices(*item))
+        list->addItem(TemplateTexts::shown(choice));
+    list->setAccessibleName(TemplateTexts::shown(item->title()));
     list->setFont(option.font);
     auto* self = const_cast<PropertyCellDelegate*>(this);
     connect(list, &QComboBox::activated, self, [self, list] {
@@ -164,11 +167,12 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
 }
 
 void PropertyCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
-    const QString value = FlashTemplateModel::item(index)->value();
+    const FlashTemplateProperty& item = *FlashTemplateModel::item(index);
     if (auto* list = qobject_cast<QComboBox*>(editor))
-        list->setCurrentIndex(list->findText(value));
+        list->setCurrentIndex(
+            int(FlashTemplateOutlineDelegate::choices(item).indexOf(item.value())));
     else if (auto* edit = qobject_cast<QLineEdit*>(editor))
-        edit->setText(value);
+        edit->setText(item.value());
 }
 
 void PropertyCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,

@@ -1,6 +1,7 @@
 #include "ui/SelectTemplateModels.h"
 
 #include "ui/SelectTemplateWindowDelegate.h"
+#include "ui/TemplateTexts.h"
 
 TmplListModel::TmplListModel(SelectTemplateWindowDelegate& source, QObject* parent)
     : QAbstractListModel(parent), iSource(source) {}
@@ -20,7 +21,7 @@ QVariant TmplListModel::data(const QModelIndex& index, int role) const {
     const QString name = iSource.objectValueForTableColumn(QString(), index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return SelectTemplateWindowDelegate::readableName(name);
+        return TemplateTexts::templateName(name);
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
     case failureRole:
@@ -47,6 +48,6 @@ QVariant TmplStylesModel::data(const QModelIndex& index, int role) const {
         return {};
     const IKBTmplStyleItem& item = iSource.itemAtIndex(index.row());
     if (role == Qt::DisplayRole)
-        return item.imageTitle();
+        return TemplateTexts::styleName(item.imageTitle());
     return role == Qt::DecorationRole ? QVariant(item.imageRepresentation()) : QVariant();
 }

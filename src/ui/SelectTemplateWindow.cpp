@@ -51,6 +51,7 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     // On top of the letter in its caption, which a shortcut of the button's own would take away.
     const auto* refresh = new QShortcut(QKeySequence::Refresh, this);
     connect(refresh, &QShortcut::activated, btnRefresh, &QPushButton::click);
+    //: %1 is a key.
     btnRefresh->setToolTip(tr("Looks for templates that were added or repaired meanwhile (%1)")
                                .arg(refresh->key().toString(QKeySequence::NativeText)));
     btnOK->setObjectName(QStringLiteral("ok"));

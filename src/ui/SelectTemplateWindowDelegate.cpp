@@ -4,6 +4,7 @@
 #include "template/FlashTemplate.h"
 #include "ui/SelectTemplateModels.h"
 #include "ui/SelectTemplatePainters.h"
+#include "ui/TemplateTexts.h"
 
 #include <QFileInfo>
 #include <QItemSelectionModel>
@@ -19,8 +20,8 @@ constexpr std::size_t usualCount = 12;
 constexpr int mostFailuresTold = 3;
 
 QString quoted(const QString& tmplName) {
-    return SelectTemplateWindowDelegate::tr("“%1”").arg(
-        SelectTemplateWindowDelegate::readableName(tmplName));
+    //: A template's name in quotation marks; stands in other texts.
+    return SelectTemplateWindowDelegate::tr("“%1”").arg(TemplateTexts::templateName(tmplName));
 }
 
 QString reasonOf(const FlashTemplate& tmpl) {
@@ -234,6 +235,7 @@ void SelectTemplateWindowDelegate::showState() {
 // The shown template's trouble alone, or else that of all others.
 QString SelectTemplateWindowDelegate::notice() const {
     if (!iShownTmpl.isEmpty() && !isListed(iShownTmpl))
+        //: %1 is the template's name in quotation marks.
         return tr("The template %1 is not in the library.").arg(quoted(iShownTmpl));
     QStringList broken = failures().keys();
     broken.sort();
@@ -241,8 +243,10 @@ QString SelectTemplateWindowDelegate::notice() const {
         broken = QStringList{iShownTmpl};
     QStringList lines;
     for (const QString& name : broken.mid(0, mostFailuresTold))
+        //: %1 is the template's name in quotation marks, %2 a sentence that tells why.
         lines << tr("The template %1 cannot be used. %2").arg(quoted(name), failureOf(name));
     if (broken.size() > mostFailuresTold)
+        //: %n templates, after some were named.
         lines << tr("%n more cannot be used.", nullptr, int(broken.size()) - mostFailuresTold);
     return lines.join(u'\n');
 }

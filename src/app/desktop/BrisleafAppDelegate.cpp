@@ -17,6 +17,7 @@
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindowDelegate.h"
 #include "ui/SelectTemplateWindowDelegate.h"
+#include "ui/TemplateTexts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -133,8 +134,8 @@ void BrisleafAppDelegate::updateTmplPropertyTip() {
     if (!current.isValid())
         return;
     const FlashTemplateProperty* property = FlashTemplateModel::item(current);
-    iWindow->toolTipBox->setTitle(property->title());
-    iWindow->toolTip->setPlainText(property->desc());
+    iWindow->toolTipBox->setTitle(TemplateTexts::shown(property->title()));
+    iWindow->toolTip->setPlainText(TemplateTexts::shown(property->desc()));
 }
 
 void BrisleafAppDelegate::valuesWereUndone() {
@@ -206,6 +207,7 @@ void BrisleafAppDelegate::OnImportTmplSettings() {
         iWindow->messages->tell(tr("The settings were not loaded."),
                                 tr("The file %1 cannot be read.").arg(file));
     iFlashTmpl->importPropertiesSettingsFrom(file);
+    //: Stands in "Undo %1".
     iHistory.noteEdits(tr("loading of settings"));
     iOutline->reloadValues();
     applyChange(SameBook);
@@ -244,10 +246,11 @@ void BrisleafAppDelegate::showTemplate(const QString& name) {
     iHistory.restart(iFlashTmpl);
     iOutline->reloadData();
     iWindow->outlineView->expandAll();
-    iWindow->btnFloat->setText(SelectTemplateWindowDelegate::readableName(name));
+    iWindow->btnFloat->setText(TemplateTexts::templateName(name));
     iWindow->btnFloat->setIcon(
         QIcon(Files::join(FlashTemplate::tmplPathForName(name), QStringLiteral("icon.png"))));
     if (!iFlashTmpl->loadError().isNull())
-        iWindow->messages->tell(tr("The template “%1” is damaged.").arg(name),
-                                iFlashTmpl->loadError());
+        iWindow->messages->tell(
+            tr("The template “%1” is damaged.").arg(TemplateTexts::templateName(name)),
+            iFlashTmpl->loadError());
 }

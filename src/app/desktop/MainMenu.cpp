@@ -11,6 +11,15 @@
 #include <QToolBar>
 #include <QUndoStack>
 
+namespace {
+
+// A text whose ampersands are shown as such.
+QString withoutMnemonic(QString text) {
+    return text.replace(u'&', QStringLiteral("&&"));
+}
+
+} // namespace
+
 MainMenu::MainMenu(QMainWindow& window, QUndoStack& edits) : QObject(&window), iWindow(window) {
     makeCommands(edits);
     makeAppearanceGroup();
@@ -31,43 +40,68 @@ QAction* MainMenu::add(const QString& text, const QString& iconName, const QKeyS
 
 void MainMenu::makeCommands(QUndoStack& edits) {
     importPDF = add(tr("&Import PDF…"), QStringLiteral("import"), QKeySequence::Open);
+    //: Beneath a picture in the toolbar: short.
     importPDF->setIconText(tr("Import PDF"));
     importPDF->setToolTip(tr("Make the book from a PDF document"));
-    exportFlipBook = add(tr("&Publish the book…"), QStringLiteral("publish"), tr("Ctrl+E"));
+    exportFlipBook = add(tr("&Publish the book…"), QStringLiteral("publish"), Qt::CTRL | Qt::Key_E);
+    //: Beneath a picture in the toolbar: short.
     exportFlipBook->setIconText(tr("Publish"));
     exportFlipBook->setToolTip(tr("Write the finished book into a folder of your choice"));
-    importSettings = add(tr("&Load settings…"), QStringLiteral("settings-load"), tr("Ctrl+L"));
+    importSettings =
+        add(tr("&Load settings…"), QStringLiteral("settings-load"), Qt::CTRL | Qt::Key_L);
     importSettings->setToolTip(tr("Load settings that were saved to a file"));
     exportSettings =
         add(tr("&Save settings…"), QStringLiteral("settings-save"), QKeySequence::Save);
     exportSettings->setToolTip(tr("Save the settings to a file, to use them for other books"));
-    quit = add(tr("&Quit"), {}, tr("Ctrl+Q"));
+    quit = add(tr("&Quit"), {}, Qt::CTRL | Qt::Key_Q);
     quit->setMenuRole(QAction::QuitRole);
-    toolBarItemApplyChange = add(tr("&Apply the changes"), {}, tr("Ctrl+Return"));
+    toolBarItemApplyChange = add(tr("&Apply the changes"), {}, Qt::CTRL | Qt::Key_Return);
+    //: Beneath a picture in the toolbar: short.
     toolBarItemApplyChange->setIconText(tr("Apply"));
     toolBarItemApplyChange->setToolTip(tr("Show the changed settings in the preview"));
     toolBarItemApplyChange->setData(0);
-    selectTemplate = add(tr("Choose a &template…"), QStringLiteral("template"), tr("Ctrl+T"));
+    selectTemplate =
+        add(tr("Choose a &template…"), QStringLiteral("template"), Qt::CTRL | Qt::Key_T);
+    //: Beneath a picture in the toolbar: short.
     selectTemplate->setIconText(tr("Templates"));
     selectTemplate->setToolTip(tr("Give the book another look"));
     reloadPreview = add(tr("&Reload the preview"), QStringLiteral("reload"), QKeySequence::Refresh);
     openHelp = add(tr("Folvero &help"), QStringLiteral("help"), QKeySequence::HelpContents);
+    //: Beneath a picture in the toolbar: short.
     openHelp->setIconText(tr("Help"));
     about = add(tr("&About Folvero"), {}, {});
     about->setMenuRole(QAction::AboutRole);
 
-    undo = edits.createUndoAction(this, tr("&Undo"));
-    undo->setShortcut(QKeySequence::Undo);
+    makeEditCommands(edits);
+}
+
+// The toolkit would put the name of an edit behind the verb, which suits few languages.
+void MainMenu::makeEditCommands(QUndoStack& edits) {
+    undo = add(tr("&Undo"), QStringLiteral("undo"), QKeySequence::Undo);
+    //: Beneath a picture in the toolbar: short.
     undo->setIconText(tr("Undo"));
-    redo = edits.createRedoAction(this, tr("&Redo"));
-    redo->setShortcut(QKeySequence::Redo);
+    undo->setEnabled(edits.canUndo());
+    connect(undo, &QAction::triggered, &edits, &QUndoStack::undo);
+    connect(&edits, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
+    connect(&edits, &QUndoStack::undoTextChanged, undo, [this](const QString& edit) {
+        //: %1 is a setting in quotation marks, or "loading of settings".
+        undo->setText(edit.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(withoutMnemonic(edit)));
+    });
+    redo = add(tr("&Redo"), QStringLiteral("redo"), QKeySequence::Redo);
+    //: Beneath a picture in the toolbar: short.
     redo->setIconText(tr("Redo"));
-    iIcons.emplace_back(undo, QStringLiteral("undo"));
-    iIcons.emplace_back(redo, QStringLiteral("redo"));
+    redo->setEnabled(edits.canRedo());
+    connect(redo, &QAction::triggered, &edits, &QUndoStack::redo);
+    connect(&edits, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
+    connect(&edits, &QUndoStack::redoTextChanged, redo, [this](const QString& edit) {
+        //: %1 is a setting in quotation marks, or "loading of settings".
+        redo->setText(edit.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(withoutMnemonic(edit)));
+    });
 }
 
 void MainMenu::makeAppearanceGroup() {
     appearance = new QActionGroup(this);
+    //: The window is light or dark; this is one of the choices.
     for (const auto& [choice, text] : {std::pair(Appearance::system, tr("Like the &system")),
                                        {Appearance::light, tr("&Light")},
                                        {Appearance::dark, tr("&Dark")}}) {
@@ -99,6 +133,7 @@ void MainMenu::fillMenuBar() {
 }
 
 void MainMenu::fillToolBar() {
+    //: The name of the toolbar.
     auto* bar = iWindow.addToolBar(tr("Tools"));
     bar->setObjectName(QStringLiteral("tools"));
     bar->setMovable(false);

@@ -47,6 +47,7 @@ Q_SIGNALS:
 private:
     QAction* add(const QString& text, const QString& iconName, const QKeySequence& shortcut);
     void makeCommands(QUndoStack& edits);
+    void makeEditCommands(QUndoStack& edits);
     void makeAppearanceGroup();
     void fillMenuBar();
     void fillToolBar();

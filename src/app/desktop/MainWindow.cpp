@@ -128,6 +128,7 @@ QWidget* MainWindow::tipBox() {
     toolTip->viewport()->setAutoFillBackground(false);
     toolTip->setPlaceholderText(tr("Select a setting to read what it does."));
     toolTip->setAccessibleName(tr("What the selected setting does"));
+    //: Above the explanation of the selected setting, while none is selected.
     toolTipBox = new QGroupBox(tr("Settings"));
     auto* layout = new QVBoxLayout(toolTipBox);
     layout->setContentsMargins(6, 2, 6, 4);
@@ -148,6 +149,7 @@ QWidget* MainWindow::previewSide() {
 }
 
 void MainWindow::setDocumentName(const QString& name) {
+    //: The title of the window; %1 is the name of the document.
     setWindowTitle(tr("%1 – Folvero").arg(name.isNull() ? tr("Demo book") : name));
 }
 

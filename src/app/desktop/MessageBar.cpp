@@ -12,6 +12,7 @@
 MessageBar::MessageBar(QWidget* parent)
     : QFrame(parent), iText(new QLabel), iIcon(new QLabel), iClose(new QToolButton) {
     setObjectName(QStringLiteral("messageBar"));
+    //: What a screen reader says when it comes to the bar with a warning.
     setAccessibleName(tr("Message"));
     iText->setWordWrap(true);
     iText->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

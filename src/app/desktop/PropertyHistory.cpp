@@ -1,5 +1,8 @@
 #include "app/desktop/PropertyHistory.h"
 
+#include "ui/TemplateTexts.h"
+
+#include <QCoreApplication>
 #include <QUndoCommand>
 #include <utility>
 #include <vector>
@@ -71,8 +74,10 @@ void PropertyHistory::noteEdits(const QString& text) {
     if (changes.empty())
         return;
     takeNotes();
+    //: A setting's name in quotation marks; stands in "Undo %1".
+    const QString quoted = QCoreApplication::translate("PropertyHistory", "“%1”");
     const QString name =
-        text.isNull() ? QStringLiteral("“%1”").arg(changes.front().property->title()) : text;
+        text.isNull() ? quoted.arg(TemplateTexts::shown(changes.front().property->title())) : text;
     iStack.push(new ChangeValues(std::move(changes), name, [this] {
         takeNotes();
         iChanged();

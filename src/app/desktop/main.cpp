@@ -3,33 +3,15 @@
 #include "app/desktop/BrisleafAppDelegate.h"
 #include "app/desktop/LinedStyle.h"
 #include "app/desktop/QuitSignals.h"
+#include "app/desktop/Translations.h"
 #include "platform/Bundle.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTimer>
-#include <QTranslator>
-
-namespace {
-
-// The program's own texts and those of the toolkit's dialogs, as far as there are any in the user's
-// language.
-void loadTranslations(QApplication& app) {
-    const QLocale locale;
-    for (const auto& [name, folder] :
-         {std::pair(QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)),
-          {QStringLiteral("folvero"), QStringLiteral(":/translations")}}) {
-        auto* translator = new QTranslator(&app);
-        if (translator->load(locale, name, QStringLiteral("_"), folder))
-            QApplication::installTranslator(translator);
-    }
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -39,7 +21,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("folvero"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/folvero.svg")));
     QApplication::setStyle(new LinedStyle);
-    loadTranslations(app);
+    Translations::install(QLocale::system().uiLanguages());
 
     QCommandLineParser parser;
     parser.setApplicationDescription(

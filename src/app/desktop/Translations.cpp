@@ -1,0 +1,34 @@
+#include "app/desktop/Translations.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <memory>
+
+namespace {
+
+bool load(const QString& language, const QString& name, const QString& folder) {
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(QLocale(language), name, QStringLiteral("_"), folder))
+        return false;
+    auto* installed = translator.release();
+    installed->setParent(QCoreApplication::instance());
+    return QCoreApplication::installTranslator(installed);
+}
+
+} // namespace
+
+// One language at a time: given them all, the translator would prefer a name that fits to the
+// letter, such as "de", to an earlier one that fits in part, such as "en-GB" for our "en".
+QString Translations::install(const QStringList& languages) {
+    for (const QString& language : languages) {
+        if (!load(language, QStringLiteral("folvero"), QStringLiteral(":/translations")))
+            continue;
+        // Dialogs in another language than the window's would not help anybody.
+        load(language, QStringLiteral("qtbase"),
+             QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+        return language;
+    }
+    return {};
+}

@@ -1,0 +1,27 @@
+#include "ui/TemplateTexts.h"
+
+#include "ui/SelectTemplateWindowDelegate.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+// The texts to translate are collected from the library itself when the translations are updated.
+QString translated(const char* context, const QString& text) {
+    // An empty text would be taken for the head of the translations.
+    return text.isEmpty() ? text : QCoreApplication::translate(context, text.toUtf8().constData());
+}
+
+} // namespace
+
+QString TemplateTexts::shown(const QString& text) {
+    return translated("TemplateProperty", text);
+}
+
+QString TemplateTexts::templateName(const QString& tmplName) {
+    return translated("TemplateName", SelectTemplateWindowDelegate::readableName(tmplName));
+}
+
+QString TemplateTexts::styleName(const QString& styleName) {
+    return translated("StyleName", styleName);
+}
