@@ -11,6 +11,9 @@ bench/memory.py
 cmake --build "$build" --target folvero-bench-republish >/dev/null
 "$build/bin/folvero-bench-republish" "$build/samples/thousand.pdf" 1-500
 
+cmake --build "$build" --target folvero-bench-startup >/dev/null
+bench/startup.py
+
 templates=$build/share/folvero/AppFiles
 book=$(mktemp -d)
 trap 'rm -rf "$book"' EXIT

@@ -83,29 +83,39 @@ void ShotsProgram::setDark(bool isDark) {
 }
 
 void ShotsProgram::importBook(const QString& pdf) {
+    window().webView->page()->runJavaScript(QStringLiteral("window.isOld = true"));
     iProgram.importFile(pdf);
     waitUntil([this] { return !iProgram.importWindow().isImporting(); }, "the import");
-    rest(500);
     waitForBook();
 }
 
-void ShotsProgram::waitForBook() {
-    bool isReady = false;
+void ShotsProgram::waitFor(const QString& script, const char* what) {
+    bool isTrue = false;
     waitUntil(
         [&] {
             window().webView->page()->runJavaScript(
-                QStringLiteral("document.querySelector('#folvero[data-state=\"ready\"]') !== null"),
-                [&isReady](const QVariant& value) { isReady = value.toBool(); });
+                script, [&isTrue](const QVariant& value) { isTrue = value.toBool(); });
             rest(100);
-            return isReady;
+            return isTrue;
         },
-        "the preview");
+        what);
     rest(turnTime);
 }
 
+void ShotsProgram::waitForBook() {
+    waitFor(QStringLiteral("!window.isOld && "
+                           "document.querySelector('#folvero[data-state=\"ready\"]') !== null"),
+            "the preview");
+}
+
 void ShotsProgram::showPage(int page) {
-    window().webView->page()->runJavaScript(QStringLiteral("location.hash = '#page=%1'").arg(page));
-    rest(turnTime);
+    const QString hash = QStringLiteral("#page=%1").arg(page);
+    window().webView->page()->runJavaScript(QStringLiteral("location.hash = '%1'").arg(hash));
+    waitFor(QStringLiteral("location.hash === '%1' && "
+                           "document.querySelector('input').value.startsWith('%2')")
+                .arg(hash)
+                .arg(page),
+            "the page");
 }
 
 void ShotsProgram::select(const QString& key) {
@@ -129,4 +139,8 @@ QImage ShotsProgram::picture() {
 QImage ShotsProgram::pictureOfSheet() {
     QWidget* sheet = openSheet();
     return sheet ? framed(*sheet) : QImage();
+}
+
+QImage ShotsProgram::pictureOf(QWidget& part) {
+    return part.grab().toImage();
 }

@@ -28,8 +28,13 @@ public:
     QImage picture();
     // The sheet or box that is open, alone.
     QImage pictureOfSheet();
+    // A part of the window.
+    QImage pictureOf(QWidget& part);
 
 private:
+    // Waits until the script is true in the preview, and what moves there has come to rest.
+    void waitFor(const QString& script, const char* what);
+
     BrisleafAppDelegate iProgram;
 };
 

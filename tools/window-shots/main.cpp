@@ -1,17 +1,11 @@
-// folvero-window-shots: takes pictures of the desktop program, in the light and the dark
-// appearance.
-//
-// folvero-window-shots SAMPLES OUTPUT [SCALE]
-//
-// SAMPLES is the folder of sample documents. OUTPUT gets NAME-light.png and NAME-dark.png of each
-// view; SCALE is how many pixels a point has, 1 unless it is given.
+// folvero-window-shots: takes pictures of the desktop program. --help lists the options.
 
 #include "app/AppSettings.h"
-#include "app/desktop/LinedStyle.h"
+#include "app/desktop/ApplicationSetup.h"
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
-#include "platform/Bundle.h"
+#include "ui/FlashTemplateOutline.h"
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindow.h"
@@ -21,58 +15,85 @@
 #include "window-shots/ShotsProgram.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
-#include <QIcon>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPainter>
+#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
+#include <cstdlib>
 #include <unistd.h>
 
 namespace {
 
 constexpr QSize windowSize(1280, 800);
 
+struct Options {
+    QString samples;
+    QString output;
+    QString language;
+    QStringList only;
+    bool asJPEG = false;
+};
+
 class Shots {
 public:
-    Shots(QString samples, QString output)
-        : iSamples(std::move(samples)), iOutput(std::move(output)), iProgram(windowSize) {}
+    explicit Shots(Options options) : iOptions(std::move(options)), iProgram(windowSize) {}
 
     void take() {
-        for (const bool isDark : {false, true}) {
-            iProgram.setDark(isDark);
-            iSuffix = isDark ? QStringLiteral("dark") : QStringLiteral("light");
-            takeStart();
-            takeImport();
-            takeEditing();
-            takeChooser();
-            takePublish();
-            takeMenusAndBoxes();
-        }
+        takeIn(false);
+        if (!iOptions.asJPEG)
+            takeIn(true);
     }
 
 private:
-    QString sample(const char* name) const { return iSamples + u'/' + QLatin1String(name); }
+    QString sample(const char* name) const { return iOptions.samples + u'/' + QLatin1String(name); }
     BrisleafAppDelegate& program() { return iProgram.program(); }
     MainWindow& window() { return iProgram.window(); }
 
+    void takeIn(bool isDark) {
+        iProgram.setDark(isDark);
+        iSuffix = isDark ? QStringLiteral("-dark.png") : QStringLiteral("-light.png");
+        savePicture("start");
+        takeImport();
+        takeMessage();
+        takeEditing();
+        takeChooser();
+        takePublish();
+        takeMenu();
+        takeBoxes();
+    }
+
     void save(const QImage& image, const char* name) const {
-        const QString file =
-            QStringLiteral("%1/%2-%3.png").arg(iOutput, QLatin1String(name), iSuffix);
-        if (!image.save(file))
-            qFatal("cannot write %s", qPrintable(file));
+        if (!iOptions.only.isEmpty() && !iOptions.only.contains(QLatin1String(name)))
+            return;
+        const QString base = QStringLiteral("%1/%2").arg(iOptions.output, QLatin1String(name));
+        const bool isSaved = iOptions.asJPEG
+                                 ? onPaper(image).save(base + QStringLiteral(".jpg"), "JPEG", 86)
+                                 : image.save(base + iSuffix);
+        if (!isSaved)
+            qFatal("cannot write %s", qPrintable(base));
     }
     void savePicture(const char* name) { save(iProgram.picture(), name); }
 
-    void takeStart() { savePicture("start"); }
+    static QImage onPaper(const QImage& image) {
+        QImage paper(image.size(), QImage::Format_RGB32);
+        paper.setDevicePixelRatio(image.devicePixelRatio());
+        paper.fill(Qt::white);
+        QPainter(&paper).drawImage(QPointF(), image);
+        return paper;
+    }
 
     void takeImport() {
         ImportWindowDelegate& import = program().importWindow();
         program().OnImportPDF();
-        import.window().txtImportFile->setText(QStringLiteral("Documents/Picture book.pdf"));
-        rest(200);
-        savePicture("import");
+        import.window().txtImportFile->setText(QStringLiteral("Documents/The lantern.pdf"));
+        import.window().btnCancel->setFocus();
+        save(iProgram.pictureOfSheet(), "import");
+        savePicture("import-window");
         import.window().txtImportFile->setText(sample("thousand.pdf"));
         import.onImportAction();
         rest(1'500);
@@ -84,15 +105,20 @@ private:
         waitUntil([&] { return !import.isImporting(); }, "the failed import");
         save(iProgram.pictureOfSheet(), "import-failed");
         import.onCancelAction();
+    }
+
+    void takeMessage() {
         iProgram.importBook(sample("damaged-page.pdf"));
         savePicture("message");
-        iProgram.importBook(sample("picture-book.pdf"));
+        window().messages->hide();
     }
 
     void takeEditing() {
+        iProgram.importBook(sample("picture-book.pdf"));
         iProgram.showPage(4);
         iProgram.select(QStringLiteral("bgBeginColor"));
         savePicture("editing");
+        save(iProgram.pictureOf(*window().outlineView->parentWidget()), "settings");
     }
 
     void takeChooser() {
@@ -105,33 +131,35 @@ private:
     void takePublish() {
         OutputWindow& sheet = program().ouputWindow().window();
         program().OnExportFlipBook();
-        sheet.txtOutputFolder->setText(QStringLiteral("Documents/Picture book"));
+        sheet.txtOutputFolder->setText(QStringLiteral("Documents/The lantern"));
         sheet.txtOutputName->setText(QStringLiteral("index"));
-        sheet.txtTitle->setText(QStringLiteral("The picture book"));
-        rest(200);
-        savePicture("publish");
+        sheet.txtTitle->setText(QStringLiteral("The lantern that went for a walk"));
+        sheet.btnCancel->setFocus();
+        save(iProgram.pictureOfSheet(), "publish");
+        savePicture("publish-window");
         program().ouputWindow().onCancel();
     }
 
+    void takeMenu() {
+        QAction* first = window().menuBar()->actions().first();
+        window().menuBar()->setActiveAction(first);
+        rest(200);
+        savePicture("menu");
+        first->menu()->close();
+    }
+
     // These wait for the user: the picture is taken while they do.
-    void takeMenusAndBoxes() {
-        for (QAction* action : window().menuBar()->actions()) {
-            QMenu* menu = action->menu();
-            window().menuBar()->setActiveAction(action);
-            rest(200);
-            if (action == window().menuBar()->actions().first())
-                savePicture("menu");
-            menu->close();
-        }
+    void takeBoxes() {
         takeWhile("about", [] { Panels::about(); });
         takeWhile("colour", [] { Panels::chooseColor(QColor("#2f74c0")); });
         takeWhile("published", [] {
-            Panels::askToOpen(QStringLiteral("The book is published."), QStringLiteral("?"));
+            Panels::askToOpen(OutputWindowDelegate::tr("Open the result files?"),
+                              OutputWindowDelegate::tr("Publish finished! Open the it?"));
         });
     }
 
     void takeWhile(const char* name, const std::function<void()>& box) {
-        QTimer::singleShot(400, [this, name] {
+        QTimer::singleShot(400, &window(), [this, name] {
             save(iProgram.pictureOfSheet(), name);
             for (QWidget* widget : QApplication::topLevelWidgets()) {
                 if (auto* dialog = qobject_cast<QDialog*>(widget); dialog && dialog->isVisible())
@@ -141,34 +169,56 @@ private:
         box();
     }
 
-    QString iSamples;
-    QString iOutput;
+    Options iOptions;
     ShotsProgram iProgram;
     QString iSuffix;
 };
 
+// Takes effect before there is an application, so it cannot be asked what its arguments are.
+Options parse(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const auto text = [](const char* latin1) { return QString::fromLatin1(latin1); };
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        text("Writes pictures of the window, its sheets and its boxes, in the light and the dark "
+             "appearance."));
+    parser.addPositionalArgument(text("samples"), text("folder of the sample documents"));
+    parser.addPositionalArgument(text("output"), text("folder that gets the pictures"));
+    parser.addOptions({{text("scale"), text("pixels a point"), text("number"), text("1")},
+                       {text("language"), text("for example de"), text("name"), text("en")},
+                       {text("only"), text("names of pictures, with commas"), text("names")},
+                       {text("jpeg"), text("JPEG files on white, of the light appearance alone")}});
+    const QCommandLineOption help = parser.addHelpOption();
+    if (!parser.parse(arguments) || parser.isSet(help) ||
+        parser.positionalArguments().size() != 2) {
+        std::fputs(qPrintable(parser.errorText() + u'\n' + parser.helpText()), stderr);
+        std::exit(2);
+    }
+    qputenv("QT_SCALE_FACTOR", parser.value(text("scale")).toLatin1());
+    return {parser.positionalArguments().at(0), parser.positionalArguments().at(1),
+            parser.value(text("language")),
+            parser.value(text("only")).split(u',', Qt::SkipEmptyParts), parser.isSet(text("jpeg"))};
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc < 3) {
-        std::fputs("usage: folvero-window-shots SAMPLES OUTPUT [SCALE]\n", stderr);
-        return 2;
-    }
+    const Options options = parse(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", argc > 3 ? argv[3] : "1");
     if (::geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     QApplication app(argc, argv);
+    setUpApplication({options.language});
+    QLocale::setDefault(QLocale(options.language));
     QCoreApplication::setOrganizationName(QStringLiteral("FolveroWindowShots"));
-    QCoreApplication::setApplicationName(QString::fromUtf16(APP_NAME));
-    QCoreApplication::setApplicationVersion(Bundle::version());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/folvero.svg")));
-    QApplication::setStyle(new LinedStyle);
     QApplication::setFont(QFont(QStringLiteral("Inter"), 10));
     QSettings().clear();
     AppSettings::shareInstance().loadSettings();
-    QDir().mkpath(QString::fromLocal8Bit(argv[2]));
-    Shots(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2])).take();
+    if (!QDir().mkpath(options.output))
+        qFatal("cannot make %s", qPrintable(options.output));
+    Shots(options).take();
     return 0;
 }

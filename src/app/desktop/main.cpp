@@ -1,27 +1,18 @@
 // folvero-desktop: makes page-flip books from PDF files in a window.
 
+#include "app/desktop/ApplicationSetup.h"
 #include "app/desktop/BrisleafAppDelegate.h"
-#include "app/desktop/LinedStyle.h"
 #include "app/desktop/QuitSignals.h"
-#include "app/desktop/Translations.h"
-#include "platform/Bundle.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
-#include <QIcon>
 #include <QLocale>
 #include <QTimer>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Folvero"));
-    QCoreApplication::setApplicationName(QString::fromUtf16(APP_NAME));
-    QCoreApplication::setApplicationVersion(Bundle::version());
-    QGuiApplication::setDesktopFileName(QStringLiteral("folvero"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/folvero.svg")));
-    QApplication::setStyle(new LinedStyle);
-    Translations::install(QLocale::system().uiLanguages());
+    setUpApplication(QLocale::system().uiLanguages());
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
