@@ -58,7 +58,7 @@ def main():
         for file in files:
             plurals = ["-pluralonly"] if file.stem.endswith("_en") else []
             subprocess.run([lupdate, "-silent", "-locations", "none", "-no-obsolete",
-                            "-source-language", "en", *plurals, str(ROOT / "src"), str(library),
+                            "-source-language", "en", *plurals, str(ROOT / "src"), str(ROOT / "translations"), str(library),
                             "-ts", str(file)], check=True)
 
 

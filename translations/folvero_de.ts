@@ -1,224 +1,274 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de_DE" sourcelanguage="en">
+<TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name>BrisleafAppDelegate</name>
     <message>
         <source>The preview could not be brought up to date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorschau konnte nicht aktualisiert werden.</translation>
     </message>
     <message>
         <source>The preview has stopped working.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorschau funktioniert nicht mehr.</translation>
     </message>
     <message>
         <source>Press F5 to load it again. Your book is not affected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Drücken Sie F5, um sie neu zu laden. Ihr Buch ist davon nicht betroffen.</translation>
     </message>
     <message>
         <source>Not everything could be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alles konnte importiert werden.</translation>
     </message>
     <message>
         <source>The settings were not saved to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen wurden nicht in %1 gespeichert.</translation>
     </message>
     <message>
         <source>The settings were not loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen wurden nicht geladen.</translation>
     </message>
     <message>
         <source>The file %1 cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>loading of settings</source>
         <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Laden der Einstellungen</translation>
     </message>
     <message>
         <source>The help cannot be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hilfe kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The file %1 is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei %1 fehlt.</translation>
     </message>
     <message>
         <source>The template “%1” is damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorlage „%1“ ist beschädigt.</translation>
     </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfolg</translation>
     </message>
     <message>
         <source>Parameter Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameterfehler</translation>
     </message>
     <message>
         <source>Illegal parameter supplied to encryption/decryption algorithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Unzulässiger Parameter für das Ver- oder Entschlüsseln</translation>
     </message>
     <message>
         <source>Buffer Too Small</source>
-        <translation type="unfinished"></translation>
+        <translation>Puffer zu klein</translation>
     </message>
     <message>
         <source>Insufficient buffer provided for specified operation</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Puffer reicht für den Vorgang nicht aus</translation>
     </message>
     <message>
         <source>Memory Failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Speicherfehler</translation>
     </message>
     <message>
         <source>Failed to allocate memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Es war nicht genug Speicher frei</translation>
     </message>
     <message>
         <source>Alignment Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtungsfehler</translation>
     </message>
     <message>
         <source>Input size to encryption algorithm was not aligned correctly</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Länge der Eingabe passt nicht zum Verschlüsselungsverfahren</translation>
     </message>
     <message>
         <source>Decode Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Entschlüsseln</translation>
     </message>
     <message>
         <source>Input data did not decode or decrypt correctly</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Eingabe ließ sich nicht richtig dekodieren oder entschlüsseln</translation>
     </message>
     <message>
         <source>Unimplemented Function</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlende Funktion</translation>
     </message>
     <message>
         <source>Function not implemented for the current algorithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Verfahren kennt diese Funktion nicht</translation>
     </message>
     <message>
         <source>Unknown Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannter Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>FlashPagesAnnotationsPDF</name>
+    <message>
+        <source>no page at position %1</source>
+        <translation>keine Seite an der Stelle %1</translation>
+    </message>
+</context>
+<context>
+    <name>FlashTemplate</name>
+    <message>
+        <source>Can&apos;t create an URL from file %1.</source>
+        <translation>Aus der Datei %1 lässt sich keine URL bilden.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t load the template file &quot;%1&quot;: %2</source>
+        <translation>Die Vorlagendatei „%1“ kann nicht geladen werden: %2</translation>
     </message>
 </context>
 <context>
     <name>FlashTemplateModel</name>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>Property</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
     <name>FlashTemplateOutlineDelegate</name>
     <message>
         <source>(Untitled)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ohne Titel)</translation>
     </message>
     <message>
         <source>(Unknown)</source>
-        <translation type="unfinished"></translation>
+        <translation>(unbekannt)</translation>
+    </message>
+</context>
+<context>
+    <name>FolveroOutput</name>
+    <message>
+        <source>%1: There is no such folder</source>
+        <translation>%1: Diesen Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>There is a folder of that name</source>
+        <translation>Es gibt einen Ordner dieses Namens</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPDFOperation</name>
+    <message>
+        <source>%1: none of the pages asked for is in it</source>
+        <translation>%1: enthält keine der gewünschten Seiten</translation>
+    </message>
+    <message>
+        <source>%1: none of the pages could be drawn (%2)</source>
+        <translation>%1: keine der Seiten konnte gezeichnet werden (%2)</translation>
+    </message>
+    <message>
+        <source>%1: links: %2</source>
+        <extracomment>%1 is the PDF file, %2 tells what is wrong with its links.</extracomment>
+        <translation>%1: Links: %2</translation>
+    </message>
+    <message>
+        <source>%1: bookmarks: %2</source>
+        <extracomment>%1 is the PDF file, %2 tells what is wrong with its bookmarks.</extracomment>
+        <translation>%1: Lesezeichen: %2</translation>
     </message>
 </context>
 <context>
     <name>ImportWindow</name>
     <message>
         <source>Import a PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF importieren</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importieren</translation>
     </message>
     <message>
         <source>Best, for zooming in</source>
         <extracomment>The quality of the pictures of the pages, from the best to the worst.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Beste, zum Vergrößern</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoch</translation>
     </message>
     <message>
         <source>Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittel</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Niedrig</translation>
     </message>
     <message>
         <source>Smallest files</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste Dateien</translation>
     </message>
     <message>
         <source>Import &amp;links</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Links importieren</translation>
     </message>
     <message>
         <source>Import &amp;bookmarks as contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Lese&amp;zeichen als Inhaltsverzeichnis importieren</translation>
     </message>
     <message>
         <source>&amp;PDF file:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PDF-Datei:</translation>
     </message>
     <message>
         <source>Pages:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten:</translation>
     </message>
     <message>
         <source>&amp;Quality:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Qualität:</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wählen …</translation>
     </message>
     <message>
         <source>&amp;View</source>
         <extracomment>Opens the chosen PDF in another program.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;sehen</translation>
     </message>
     <message>
         <source>Opens the PDF in the program that usually shows it</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet die PDF-Datei in dem Programm, das sie sonst anzeigt</translation>
     </message>
     <message>
         <source>&amp;All</source>
         <extracomment>All pages are imported.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle</translation>
     </message>
     <message>
         <source>&amp;These:</source>
         <extracomment>A field for page numbers follows.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diese:</translation>
     </message>
     <message>
         <source>for example 1-3,7</source>
-        <translation type="unfinished"></translation>
+        <translation>zum Beispiel 1-3,7</translation>
     </message>
     <message>
         <source>Pages to import</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu importierende Seiten</translation>
     </message>
 </context>
 <context>
@@ -226,210 +276,210 @@
     <message>
         <source>Importing:%1/%2</source>
         <extracomment>%1 is the page that is worked at, %2 the number of pages.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Importiert: %1/%2</translation>
     </message>
 </context>
 <context>
     <name>MainMenu</name>
     <message>
         <source>&amp;Import PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF &amp;importieren …</translation>
     </message>
     <message>
         <source>Import PDF</source>
         <extracomment>Beneath a picture in the toolbar: short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>PDF importieren</translation>
     </message>
     <message>
         <source>Make the book from a PDF document</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Buch aus einer PDF-Datei machen</translation>
     </message>
     <message>
         <source>&amp;Publish the book…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buch &amp;veröffentlichen …</translation>
     </message>
     <message>
         <source>Publish</source>
         <extracomment>Beneath a picture in the toolbar: short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Veröffentlichen</translation>
     </message>
     <message>
         <source>Write the finished book into a folder of your choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Das fertige Buch in einen Ordner Ihrer Wahl schreiben</translation>
     </message>
     <message>
         <source>&amp;Load settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen &amp;laden …</translation>
     </message>
     <message>
         <source>Load settings that were saved to a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen laden, die in einer Datei gespeichert wurden</translation>
     </message>
     <message>
         <source>&amp;Save settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen &amp;speichern …</translation>
     </message>
     <message>
         <source>Save the settings to a file, to use them for other books</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen in einer Datei speichern, um sie für andere Bücher zu verwenden</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Apply the changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen &amp;anwenden</translation>
     </message>
     <message>
         <source>Apply</source>
         <extracomment>Beneath a picture in the toolbar: short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Show the changed settings in the preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Die geänderten Einstellungen in der Vorschau zeigen</translation>
     </message>
     <message>
         <source>Choose a &amp;template…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorlage wählen …</translation>
     </message>
     <message>
         <source>Templates</source>
         <extracomment>Beneath a picture in the toolbar: short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Vorlagen</translation>
     </message>
     <message>
         <source>Give the book another look</source>
-        <translation type="unfinished"></translation>
+        <translation>Dem Buch ein anderes Aussehen geben</translation>
     </message>
     <message>
         <source>&amp;Reload the preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau &amp;neu laden</translation>
     </message>
     <message>
         <source>Folvero &amp;help</source>
-        <translation type="unfinished"></translation>
+        <translation>Folvero-&amp;Hilfe</translation>
     </message>
     <message>
         <source>Help</source>
         <extracomment>Beneath a picture in the toolbar: short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>&amp;About Folvero</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Über Folvero</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <extracomment>%1 is a setting in quotation marks, or &quot;loading of settings&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>Undo</source>
         <extracomment>Beneath a picture in the toolbar: short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Undo %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is a setting in quotation marks, or &quot;loading of settings&quot;.</extracomment>
+        <translation>%1 &amp;rückgängig machen</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <extracomment>%1 is a setting in quotation marks, or &quot;loading of settings&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Redo</source>
         <extracomment>Beneath a picture in the toolbar: short.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Redo %1</source>
-        <translation type="unfinished"></translation>
+        <extracomment>%1 is a setting in quotation marks, or &quot;loading of settings&quot;.</extracomment>
+        <translation>%1 &amp;wiederherstellen</translation>
     </message>
     <message>
         <source>Like the &amp;system</source>
         <extracomment>The window is light or dark; this is one of the choices.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wie das &amp;System</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hell</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dunkel</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>Import a &amp;recent PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt importierte PDFs</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Erscheinungsbild</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Tools</source>
         <extracomment>The name of the toolbar.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>&amp;Clear the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Liste leeren</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Settings of the template</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen der Vorlage</translation>
     </message>
     <message>
         <source>Template of the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlage des Buchs</translation>
     </message>
     <message>
         <source>The template of the book; click to choose another</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorlage des Buchs; klicken Sie, um eine andere zu wählen</translation>
     </message>
     <message>
         <source>Select a setting to read what it does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Einstellung aus, um zu lesen, was sie bewirkt.</translation>
     </message>
     <message>
         <source>What the selected setting does</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die ausgewählte Einstellung bewirkt</translation>
     </message>
     <message>
         <source>Settings</source>
         <extracomment>Above the explanation of the selected setting, while none is selected.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>%1 – Folvero</source>
         <extracomment>The title of the window; %1 is the name of the document.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 – Folvero</translation>
     </message>
     <message>
         <source>Demo book</source>
-        <translation type="unfinished"></translation>
+        <translation>Demobuch</translation>
     </message>
 </context>
 <context>
@@ -437,125 +487,192 @@
     <message>
         <source>Message</source>
         <extracomment>What a screen reader says when it comes to the bar with a warning.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Meldung</translation>
     </message>
     <message>
         <source>Close the message</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Meldung schließen</translation>
     </message>
 </context>
 <context>
     <name>OutputWindow</name>
     <message>
         <source>Publish the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Buch veröffentlichen</translation>
     </message>
     <message>
         <source>&amp;Publish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Veröffentlichen</translation>
     </message>
     <message>
         <source>without an ending, for example index</source>
         <extracomment>Shown in the empty field for the file&apos;s name.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ohne Endung, zum Beispiel index</translation>
     </message>
     <message>
         <source>shown in the browser&apos;s window</source>
         <extracomment>Shown in the empty field for the book&apos;s title.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>steht im Fenster des Browsers</translation>
     </message>
     <message>
         <source>Kind of book:</source>
-        <translation type="unfinished"></translation>
+        <translation>Art des Buchs:</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner:</translation>
     </message>
     <message>
         <source>File &amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei&amp;name:</translation>
     </message>
     <message>
         <source>&amp;Title:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel:</translation>
     </message>
     <message>
         <source>&amp;Web page in a folder, for every computer and the web</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Webseite in einem Ordner, für jeden Computer und das Web</translation>
     </message>
     <message>
         <source>Application for the &amp;Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Programm für den &amp;Mac</translation>
     </message>
     <message>
         <source>&amp;Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wä&amp;hlen …</translation>
     </message>
     <message>
         <source>&amp;Show</source>
         <extracomment>Shows the chosen folder in the file manager.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>An&amp;zeigen</translation>
     </message>
     <message>
         <source>Opens the folder in the file manager</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnet den Ordner im Dateimanager</translation>
     </message>
 </context>
 <context>
     <name>OutputWindowDelegate</name>
     <message>
         <source>The folder %1 could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 konnte nicht angelegt werden.</translation>
     </message>
     <message>
         <source>The book was not published</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Buch wurde nicht veröffentlicht</translation>
     </message>
     <message>
         <source>Open the result files?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das fertige Buch öffnen?</translation>
     </message>
     <message>
         <source>Publish finished! Open the it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Buch ist veröffentlicht. Möchten Sie es jetzt öffnen?</translation>
     </message>
     <message>
         <source>Choose folder</source>
         <extracomment>The button of a panel that asks for a folder.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen</translation>
+    </message>
+</context>
+<context>
+    <name>PDFDocument</name>
+    <message>
+        <source>page %1 does not exist; the document has %2</source>
+        <translation>Seite %1 gibt es nicht; das Dokument hat %2</translation>
+    </message>
+    <message>
+        <source>no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>is a folder, not a PDF file</source>
+        <translation>ist ein Ordner, keine PDF-Datei</translation>
+    </message>
+    <message>
+        <source>is a pipe or a device, not a PDF file</source>
+        <translation>ist eine Pipe oder ein Gerät, keine PDF-Datei</translation>
+    </message>
+    <message>
+        <source>can&apos;t be read (%1)</source>
+        <translation>kann nicht gelesen werden (%1)</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>is not a PDF document</source>
+        <translation>ist kein PDF-Dokument</translation>
+    </message>
+    <message>
+        <source>is damaged beyond repair (%1)</source>
+        <translation>ist zu stark beschädigt (%1)</translation>
+    </message>
+    <message>
+        <source>is protected by a password</source>
+        <translation>ist durch ein Passwort geschützt</translation>
+    </message>
+</context>
+<context>
+    <name>PageFailure</name>
+    <message>
+        <source>drawing it was stopped</source>
+        <translation>das Zeichnen wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>drawing it took too long</source>
+        <translation>das Zeichnen dauerte zu lange</translation>
+    </message>
+    <message>
+        <source>the program that draws pages ended at this page</source>
+        <translation>das Programm, das die Seiten zeichnet, endete bei dieser Seite</translation>
+    </message>
+    <message>
+        <source>it takes more memory than a page may have</source>
+        <translation>sie braucht mehr Speicher, als eine Seite haben darf</translation>
+    </message>
+</context>
+<context>
+    <name>PageRange</name>
+    <message>
+        <source>the page range &quot;%1&quot; names %2 pages</source>
+        <translation>der Seitenbereich „%1“ nennt %2 Seiten</translation>
     </message>
 </context>
 <context>
     <name>Panels</name>
     <message>
         <source>Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Nein</translation>
     </message>
     <message>
         <source>About Folvero</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Folvero</translation>
     </message>
     <message>
         <source>Turns PDF documents into page-flip books for every browser.
 
 Free software under the GNU Affero General Public License, version 3 or later. It comes without any warranty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht aus PDF-Dokumenten Bücher zum Blättern für jeden Browser.
+
+Freie Software unter der GNU Affero General Public License, Version 3 oder später. Ohne jede Gewährleistung.</translation>
     </message>
 </context>
 <context>
     <name>PreviewView</name>
     <message>
         <source>Preview of the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau des Buchs</translation>
     </message>
     <message>
         <source>Reload the preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau neu laden</translation>
     </message>
 </context>
 <context>
@@ -563,51 +680,51 @@ Free software under the GNU Affero General Public License, version 3 or later. I
     <message>
         <source>“%1”</source>
         <extracomment>A setting&apos;s name in quotation marks; stands in &quot;Undo %1&quot;.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“</translation>
     </message>
 </context>
 <context>
     <name>SelectTemplateWindow</name>
     <message>
         <source>Choose a template</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlage wählen</translation>
     </message>
     <message>
         <source>&amp;Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aktualisieren</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Looks for templates that were added or repaired meanwhile (%1)</source>
         <extracomment>%1 is a key.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Sucht nach Vorlagen, die inzwischen hinzugefügt oder repariert wurden (%1)</translation>
     </message>
     <message>
         <source>&amp;Templates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorlagen</translation>
     </message>
     <message>
         <source>&amp;Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stile</translation>
     </message>
     <message>
         <source>Templates</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlagen</translation>
     </message>
     <message>
         <source>There are no templates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Vorlagen.</translation>
     </message>
     <message>
         <source>Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile</translation>
     </message>
     <message>
         <source>This template has no styles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Vorlage hat keine Stile.</translation>
     </message>
 </context>
 <context>
@@ -615,28 +732,28 @@ Free software under the GNU Affero General Public License, version 3 or later. I
     <message>
         <source>“%1”</source>
         <extracomment>A template&apos;s name in quotation marks; stands in other texts.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“</translation>
     </message>
     <message>
         <source>Its file %1 is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Datei %1 fehlt.</translation>
     </message>
     <message>
         <source>The template %1 is not in the library.</source>
         <extracomment>%1 is the template&apos;s name in quotation marks.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorlage %1 ist nicht in der Bibliothek.</translation>
     </message>
     <message>
         <source>The template %1 cannot be used. %2</source>
         <extracomment>%1 is the template&apos;s name in quotation marks, %2 a sentence that tells why.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Vorlage %1 kann nicht verwendet werden. %2</translation>
     </message>
     <message numerus="yes">
         <source>%n more cannot be used.</source>
         <extracomment>%n templates, after some were named.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n weitere kann nicht verwendet werden.</numerusform>
+            <numerusform>%n weitere können nicht verwendet werden.</numerusform>
         </translation>
     </message>
 </context>
@@ -644,458 +761,676 @@ Free software under the GNU Affero General Public License, version 3 or later. I
     <name>Sheet</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>StyleName</name>
     <message>
         <source>Aurora</source>
-        <translation type="unfinished"></translation>
+        <translation>Polarlicht</translation>
     </message>
     <message>
         <source>Blank</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlicht</translation>
     </message>
     <message>
         <source>Midnight</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitternacht</translation>
     </message>
     <message>
         <source>Projector</source>
-        <translation type="unfinished"></translation>
+        <translation>Projektor</translation>
     </message>
     <message>
         <source>Velvet</source>
-        <translation type="unfinished"></translation>
+        <translation>Samt</translation>
     </message>
     <message>
         <source>Blueprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Blaupause</translation>
     </message>
     <message>
         <source>Boardroom</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitzungssaal</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Leuchtend</translation>
     </message>
     <message>
         <source>Chalkboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Schultafel</translation>
     </message>
     <message>
         <source>Beach</source>
-        <translation type="unfinished"></translation>
+        <translation>Strand</translation>
     </message>
     <message>
         <source>Green baize</source>
-        <translation type="unfinished"></translation>
+        <translation>Grünes Tuch</translation>
     </message>
     <message>
         <source>Linen</source>
-        <translation type="unfinished"></translation>
+        <translation>Leinen</translation>
     </message>
     <message>
         <source>Oak</source>
-        <translation type="unfinished"></translation>
+        <translation>Eiche</translation>
     </message>
     <message>
         <source>Slate</source>
-        <translation type="unfinished"></translation>
+        <translation>Schiefer</translation>
     </message>
     <message>
         <source>Garden</source>
-        <translation type="unfinished"></translation>
+        <translation>Garten</translation>
     </message>
     <message>
         <source>Rainy window</source>
-        <translation type="unfinished"></translation>
+        <translation>Regenfenster</translation>
     </message>
     <message>
         <source>Watercolour</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquarell</translation>
     </message>
     <message>
         <source>Writing desk</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibtisch</translation>
     </message>
     <message>
         <source>Blush</source>
-        <translation type="unfinished"></translation>
+        <translation>Zartrosa</translation>
     </message>
     <message>
         <source>Ink</source>
-        <translation type="unfinished"></translation>
+        <translation>Tinte</translation>
     </message>
     <message>
         <source>Morning light</source>
-        <translation type="unfinished"></translation>
+        <translation>Morgenlicht</translation>
     </message>
     <message>
         <source>Sand</source>
-        <translation type="unfinished"></translation>
+        <translation>Sand</translation>
+    </message>
+</context>
+<context>
+    <name>SystemError</name>
+    <message>
+        <source>Unknown error %1</source>
+        <translation>Unbekannter Fehler %1</translation>
+    </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Der Vorgang ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>Gerät oder Adresse nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Cannot allocate memory</source>
+        <translation>Nicht genug Speicher</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Das Gerät oder die Datei wird gerade benutzt</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>Die Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>Invalid cross-device link</source>
+        <translation>Die Dateien liegen auf verschiedenen Datenträgern</translation>
+    </message>
+    <message>
+        <source>No such device</source>
+        <translation>Gerät nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Invalid argument</source>
+        <translation>Ungültiges Argument</translation>
+    </message>
+    <message>
+        <source>Too many open files in system</source>
+        <translation>Zu viele offene Dateien im System</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>Das Programm läuft gerade</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Auf dem Datenträger ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Der Datenträger ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Too many links</source>
+        <translation>Zu viele Verweise</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>Directory not empty</source>
+        <translation>Der Ordner ist nicht leer</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Zu viele symbolische Links hintereinander</translation>
+    </message>
+    <message>
+        <source>Invalid or incomplete multibyte or wide character</source>
+        <translation>Ungültiges oder unvollständiges Zeichen</translation>
+    </message>
+    <message>
+        <source>Operation not supported</source>
+        <translation>Der Vorgang wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Zeitüberschreitung bei der Verbindung</translation>
+    </message>
+    <message>
+        <source>Host is down</source>
+        <translation>Der Rechner ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>No route to host</source>
+        <translation>Kein Weg zum Rechner</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>Die Datei ist auf dem Server nicht mehr da</translation>
+    </message>
+    <message>
+        <source>Remote I/O error</source>
+        <translation>Ein-/Ausgabefehler auf dem Server</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Das Speicherkontingent ist erschöpft</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateFile</name>
+    <message>
+        <source>root element</source>
+        <translation>Wurzelelement</translation>
+    </message>
+    <message>
+        <source>&quot;info&quot; element</source>
+        <translation>Element „info“</translation>
+    </message>
+    <message>
+        <source>&quot;property&quot; element</source>
+        <translation>Element „property“</translation>
+    </message>
+    <message>
+        <source>&quot;property&quot; element of key &quot;%1&quot;</source>
+        <translation>Element „property“ mit dem Schlüssel „%1“</translation>
+    </message>
+    <message>
+        <source>properties are nested more than %1 deep</source>
+        <translation>Eigenschaften sind mehr als %1-fach verschachtelt</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 lacks its &quot;%2&quot; element</source>
+        <extracomment>%1 is another element of the file.</extracomment>
+        <translation>%1: das Element „%2“ fehlt</translation>
     </message>
 </context>
 <context>
     <name>TemplateName</name>
     <message>
         <source>Cinema</source>
-        <translation type="unfinished"></translation>
+        <translation>Kino</translation>
     </message>
     <message>
         <source>Deck</source>
-        <translation type="unfinished"></translation>
+        <translation>Folien</translation>
     </message>
     <message>
         <source>Desk</source>
-        <translation type="unfinished"></translation>
+        <translation>Tisch</translation>
     </message>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwebend</translation>
     </message>
     <message>
         <source>Gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie</translation>
     </message>
 </context>
 <context>
     <name>TemplateProperty</name>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>The paper and the direction of reading.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Papier und die Leserichtung.</translation>
     </message>
     <message>
         <source>Paper colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierfarbe</translation>
     </message>
     <message>
         <source>The colour of the paper, seen where the picture of a page does not cover it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe des Papiers; zu sehen, wo das Bild einer Seite es nicht bedeckt.</translation>
     </message>
     <message>
         <source>Right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Von rechts nach links</translation>
     </message>
     <message>
         <source>The book begins at the right, as books in Arabic, Hebrew or Japanese do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Buch beginnt rechts wie Bücher auf Arabisch, Hebräisch oder Japanisch.</translation>
     </message>
     <message>
         <source>Read from right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Von rechts nach links lesen</translation>
     </message>
     <message>
         <source>Turning</source>
-        <translation type="unfinished"></translation>
+        <translation>Blättern</translation>
     </message>
     <message>
         <source>How the pages move, and whether they move by themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie sich die Seiten bewegen und ob sie es von selbst tun.</translation>
     </message>
     <message>
         <source>Turning time</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer des Blätterns</translation>
     </message>
     <message>
         <source>How many seconds a page takes to turn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Sekunden das Umblättern einer Seite dauert.</translation>
     </message>
     <message>
         <source>Lifting time</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer des Anhebens</translation>
     </message>
     <message>
         <source>How many seconds a page takes to lift under the pointer, and to fall back when it is let go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Sekunden eine Seite braucht, um sich unter dem Mauszeiger zu heben und beim Loslassen zurückzufallen.</translation>
     </message>
     <message>
         <source>Opening</source>
-        <translation type="unfinished"></translation>
+        <translation>Auftritt</translation>
     </message>
     <message>
         <source>How the book comes in when it is opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das Buch beim Öffnen erscheint.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne</translation>
     </message>
     <message>
         <source>Fade in</source>
-        <translation type="unfinished"></translation>
+        <translation>Einblenden</translation>
     </message>
     <message>
         <source>Rise</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufsteigen</translation>
     </message>
     <message>
         <source>Drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Herabfallen</translation>
     </message>
     <message>
         <source>Play by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Von selbst blättern</translation>
     </message>
     <message>
         <source>The pages turn by themselves from the start, until the reader stops them in the bar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seiten blättern von Anfang an von selbst um, bis die Leserin oder der Leser sie in der Leiste anhält.</translation>
     </message>
     <message>
         <source>Turn pages automatically</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten selbsttätig umblättern</translation>
     </message>
     <message>
         <source>Pause between pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause zwischen Seiten</translation>
     </message>
     <message>
         <source>How many seconds each page stays while the book plays by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Sekunden jede Seite stehen bleibt, während das Buch von selbst blättert.</translation>
     </message>
     <message>
         <source>Play again</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>A book that plays by itself begins again after its last page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Buch, das von selbst blättert, fängt nach der letzten Seite wieder von vorn an.</translation>
     </message>
     <message>
         <source>Start over at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Am Ende von vorn beginnen</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>The bar, the caption and the margins around the book.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Leiste, die Beschriftung und die Ränder um das Buch.</translation>
     </message>
     <message>
         <source>Bar colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe der Leiste</translation>
     </message>
     <message>
         <source>The colour of the bar, the arrows and the row of small pages; the signs on it turn dark or light to suit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe der Leiste, der Pfeile und der Reihe kleiner Seiten; die Zeichen darauf werden passend dunkel oder hell.</translation>
     </message>
     <message>
         <source>Hide the bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Leiste verbergen</translation>
     </message>
     <message>
         <source>Readers see no bar and no arrows, and turn pages with pointer, finger or keys.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt weder Leiste noch Pfeile; geblättert wird mit Maus, Finger oder Tasten.</translation>
     </message>
     <message>
         <source>Show no bar and no arrows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Leiste und Pfeile</translation>
     </message>
     <message>
         <source>Caption</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschriftung</translation>
     </message>
     <message>
         <source>A short text in the lower left corner, or an address that begins with https:// and becomes a link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kurzer Text in der linken unteren Ecke oder eine Adresse, die mit https:// beginnt und zum Link wird.</translation>
     </message>
     <message>
         <source>Top margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Oberer Rand</translation>
     </message>
     <message>
         <source>How many pixels of the outer background are seen above the inner one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Pixel des äußeren Hintergrunds über dem inneren zu sehen sind.</translation>
     </message>
     <message>
         <source>Bottom margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterer Rand</translation>
     </message>
     <message>
         <source>How many pixels of the outer background are seen below the inner one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Pixel des äußeren Hintergrunds unter dem inneren zu sehen sind.</translation>
     </message>
     <message>
         <source>Left margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Linker Rand</translation>
     </message>
     <message>
         <source>How many pixels of the outer background are seen at the left of the inner one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Pixel des äußeren Hintergrunds links von dem inneren zu sehen sind.</translation>
     </message>
     <message>
         <source>Right margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechter Rand</translation>
     </message>
     <message>
         <source>How many pixels of the outer background are seen at the right of the inner one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Pixel des äußeren Hintergrunds rechts von dem inneren zu sehen sind.</translation>
     </message>
     <message>
         <source>Outer background</source>
-        <translation type="unfinished"></translation>
+        <translation>Äußerer Hintergrund</translation>
     </message>
     <message>
         <source>What fills the whole window; it is seen where the margins leave it free.</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllt das ganze Fenster; zu sehen, wo die Ränder ihn frei lassen.</translation>
     </message>
     <message>
         <source>First colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Farbe</translation>
     </message>
     <message>
         <source>The colour in which the background begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe, in der der Hintergrund beginnt.</translation>
     </message>
     <message>
         <source>Second colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweite Farbe</translation>
     </message>
     <message>
         <source>The colour into which the first one passes; choose the same twice for a plain background.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Farbe, in die die erste übergeht; wählen Sie zweimal dieselbe für einen einfarbigen Hintergrund.</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Richtung</translation>
     </message>
     <message>
         <source>Where the second colour lies, in degrees: 0 is at the right, 90 at the bottom, 180 at the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo die zweite Farbe liegt, in Grad: 0 ist rechts, 90 unten, 180 links.</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>A picture that lies over the two colours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild, das über den beiden Farben liegt.</translation>
     </message>
     <message>
         <source>Picture position</source>
-        <translation type="unfinished"></translation>
+        <translation>Lage des Bilds</translation>
     </message>
     <message>
         <source>Where the picture lies and how it fills the background.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo das Bild liegt und wie es den Hintergrund füllt.</translation>
     </message>
     <message>
         <source>Scale to fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Strecken</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Füllen</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Einpassen</translation>
     </message>
     <message>
         <source>Tile</source>
-        <translation type="unfinished"></translation>
+        <translation>Kacheln</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
     <message>
         <source>Inner background</source>
-        <translation type="unfinished"></translation>
+        <translation>Innerer Hintergrund</translation>
     </message>
     <message>
         <source>What the book lies on, inside the margins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Worauf das Buch liegt, innerhalb der Ränder.</translation>
     </message>
     <message>
         <source>Background sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Hintergrundklang</translation>
     </message>
     <message>
         <source>Music or a sound that accompanies the reader.</source>
-        <translation type="unfinished"></translation>
+        <translation>Musik oder ein Klang, der das Lesen begleitet.</translation>
     </message>
     <message>
         <source>Sound file</source>
-        <translation type="unfinished"></translation>
+        <translation>Klangdatei</translation>
     </message>
     <message>
         <source>An MP3 file that begins to play with the reader&apos;s first click or key.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine MP3-Datei, die beim ersten Klick oder Tastendruck zu spielen beginnt.</translation>
     </message>
     <message>
         <source>Repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholungen</translation>
     </message>
     <message>
         <source>How many times the sound is played; -1 plays it on and on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft der Klang gespielt wird; bei -1 ohne Ende.</translation>
     </message>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument</translation>
     </message>
     <message>
         <source>What is known of the imported document, to be read only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was über das importierte Dokument bekannt ist, nur zum Lesen.</translation>
     </message>
     <message>
         <source>Page width</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenbreite</translation>
     </message>
     <message>
         <source>The width of the document&apos;s pages in points, noted at import; a book takes its shape from its pages, so a change here has no effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Breite der Seiten des Dokuments in Punkt, beim Import festgehalten; ein Buch richtet sich nach seinen Seiten, eine Änderung hier hat deshalb keine Wirkung.</translation>
     </message>
     <message>
         <source>Page height</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenhöhe</translation>
     </message>
     <message>
         <source>The height of the document&apos;s pages in points, noted at import; a book takes its shape from its pages, so a change here has no effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Höhe der Seiten des Dokuments in Punkt, beim Import festgehalten; ein Buch richtet sich nach seinen Seiten, eine Änderung hier hat deshalb keine Wirkung.</translation>
     </message>
 </context>
 <context>
     <name>TmplStylePainter</name>
     <message>
         <source>No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>XMLParser</name>
+    <message>
+        <source>Could not allocate memory</source>
+        <translation>Nicht genug Speicher</translation>
+    </message>
+    <message>
+        <source>Internal error occurred</source>
+        <translation>Interner Fehler</translation>
+    </message>
+    <message>
+        <source>Could not determine tag type</source>
+        <translation>Unbekannte Art von Tag</translation>
+    </message>
+    <message>
+        <source>Error parsing document declaration/processing instruction</source>
+        <translation>Fehler in der Deklaration oder einer Verarbeitungsanweisung</translation>
+    </message>
+    <message>
+        <source>Error parsing comment</source>
+        <translation>Fehler in einem Kommentar</translation>
+    </message>
+    <message>
+        <source>Error parsing CDATA section</source>
+        <translation>Fehler in einem CDATA-Abschnitt</translation>
+    </message>
+    <message>
+        <source>Error parsing document type declaration</source>
+        <translation>Fehler in der Dokumenttypdeklaration</translation>
+    </message>
+    <message>
+        <source>Error parsing PCDATA section</source>
+        <translation>Fehler in einem PCDATA-Abschnitt</translation>
+    </message>
+    <message>
+        <source>Error parsing start element tag</source>
+        <translation>Fehler in einem Start-Tag</translation>
+    </message>
+    <message>
+        <source>Error parsing element attribute</source>
+        <translation>Fehler in einem Attribut</translation>
+    </message>
+    <message>
+        <source>Error parsing end element tag</source>
+        <translation>Fehler in einem End-Tag</translation>
+    </message>
+    <message>
+        <source>Start-end tags mismatch</source>
+        <translation>Start- und End-Tag passen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>No document element found</source>
+        <translation>Kein Wurzelelement gefunden</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Turns PDF files into page-flip books.</source>
-        <translation type="unfinished"></translation>
+        <translation>Macht aus PDF-Dateien Bücher zum Blättern.</translation>
     </message>
     <message>
         <source>A PDF file to import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine PDF-Datei, die importiert wird.</translation>
     </message>
 </context>
 </TS>

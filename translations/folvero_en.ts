@@ -1,14 +1,14 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="en_US" sourcelanguage="en">
+<TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name>SelectTemplateWindowDelegate</name>
     <message numerus="yes">
         <source>%n more cannot be used.</source>
         <extracomment>%n templates, after some were named.</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n more cannot be used.</numerusform>
+            <numerusform>%n more cannot be used.</numerusform>
         </translation>
     </message>
 </context>

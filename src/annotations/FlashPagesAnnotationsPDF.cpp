@@ -143,8 +143,10 @@ void FlashPagesAnnotationsPDF::scheduledScanPage(const Notification& /*notificat
 
 void FlashPagesAnnotationsPDF::parsePage() {
     if (std::size_t(iCurrentIndex) >= iNeedToImportPages.size()) {
-        throw PlatformException(QStringLiteral("PageListEnded"),
-                                QStringLiteral("no page at position %1").arg(iCurrentIndex));
+        throw PlatformException(
+            QStringLiteral("PageListEnded"),
+            Message::translate("FlashPagesAnnotationsPDF", "no page at position %1")
+                .arg(QString::number(iCurrentIndex)));
     }
     const int number = iNeedToImportPages[std::size_t(iCurrentIndex)];
     annotationsLog().debug(QStringLiteral("page is:%1").arg(number));

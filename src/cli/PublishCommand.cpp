@@ -90,12 +90,12 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
     const auto source = std::dynamic_pointer_cast<FlashPageSourcePDF>(operation.flashPageSource());
     if (!source || !source->hasDrawnPages()) {
-        const QStringList& failures = operation.failures();
+        const QStringList failures = englishTexts(operation.failures());
         throw CommandError(failures.isEmpty() ? QStringLiteral("the pages could not be drawn")
                                               : failures.join(u'\n'));
     }
-    for (const QString& failure : operation.failures())
-        Terminal::note(QStringLiteral("folvero: %1").arg(failure));
+    for (const Message& failure : operation.failures())
+        Terminal::note(QStringLiteral("folvero: %1").arg(failure.english()));
     return source;
 }
 
@@ -149,7 +149,7 @@ void reportMissingPages(const PDFToSWFPageConverter& converter, const FolveroOut
     for (const int page : output.missingPages())
         reasons[page] = QStringLiteral("its file is missing");
     for (const auto& page : converter.failedPages())
-        reasons[page.page] = page.reason;
+        reasons[page.page] = page.reason.english();
     if (reasons.empty())
         return;
     QStringList lines;

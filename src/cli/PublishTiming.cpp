@@ -38,7 +38,7 @@ void PublishTiming::published() {
 }
 
 void PublishTiming::write(const QString& path) const {
-    QString error;
+    Message error;
     if (!Files::writeAtomically(path, QJsonDocument(iSeconds).toJson(), &error))
-        Terminal::note(QStringLiteral("folvero: %1: %2").arg(path, error));
+        Terminal::note(QStringLiteral("folvero: %1: %2").arg(path, error.english()));
 }

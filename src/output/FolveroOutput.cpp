@@ -95,7 +95,7 @@ bool FolveroOutput::perform(const QString& folder, const std::function<void()>& 
         run.commit();
         return true;
     } catch (const PlatformException& failure) {
-        reportFailure(failure.reason());
+        reportFailure(failure.message());
     } catch (const Cancelled&) {
         iWasCancelled = true;
         logger().info(QStringLiteral("publishing was cancelled"));
@@ -109,13 +109,14 @@ void FolveroOutput::forgetLastRun() {
     iWasCancelled = false;
 }
 
-void FolveroOutput::reportFailure(const QString& reason) {
+void FolveroOutput::reportFailure(const Message& reason) {
     iPublishErrors << reason;
-    logger().error(QStringLiteral("the book was not published: %1").arg(reason));
+    logger().error(QStringLiteral("the book was not published: %1").arg(reason.english()));
 }
 
 void FolveroOutput::renameInErrors(const QString& working, const QString& final) {
-    iPublishErrors.replaceInStrings(working, final);
+    for (Message& error : iPublishErrors)
+        error = error.replaced(working, final);
 }
 
 void FolveroOutput::checkCancelled() const {
@@ -291,7 +292,7 @@ void FolveroOutput::writeHTMLPage() {
         return;
     }
     const QString source = iFlashTemplate ? iFlashTemplate->tmplHTMLFilePath() : QString();
-    QString error;
+    Message error;
     if (iHTMLConfig) {
         if (!iHTMLConfig->generateHTMLFrom(source, transaction().stage(page, Phase::page), &error))
             PublishTransaction::fail(page, error);
@@ -324,7 +325,8 @@ void FolveroOutput::ouputBookXML(const QString& path) {
     const QString folder = parentOf(path);
     if (!iTransaction && !QFileInfo(folder).isDir()) {
         forgetLastRun();
-        iPublishErrors << QStringLiteral("%1: There is no such folder").arg(folder);
+        iPublishErrors
+            << Message::translate("FolveroOutput", "%1: There is no such folder").arg(folder);
         Log::system(failureMessage);
         return;
     }

@@ -39,7 +39,8 @@ public:
     QString outputSWFName() const;
 
     // What went wrong in the last run, one "FILE: CAUSE" each; the folder is then as it was before.
-    const QStringList& publishErrors() const { return iPublishErrors; }
+    QStringList publishErrors() const { return englishTexts(iPublishErrors); }
+    const Messages& publishMessages() const { return iPublishErrors; }
     // Numbers of the pages that the last run left out because their file was missing.
     const std::vector<int>& missingPages() const { return iMissingPages; }
     // Asked between files; true ends a run without a change to the folder.
@@ -114,7 +115,7 @@ protected:
                          PublishTransaction::Copy kind);
 
     // For what goes wrong outside of perform(): ends up in publishErrors() and in the log.
-    void reportFailure(const QString& reason);
+    void reportFailure(const Message& reason);
     // For a subclass that publishes somewhere else than into saveToFolder() at first: puts the
     // final path in place of the working one in publishErrors().
     void renameInErrors(const QString& working, const QString& final);
@@ -161,7 +162,7 @@ private:
 
     PublishTransaction* iTransaction = nullptr;
     std::function<bool()> iIsCancelled;
-    QStringList iPublishErrors;
+    Messages iPublishErrors;
     std::vector<int> iMissingPages;
     bool iWasCancelled = false;
 };

@@ -25,8 +25,8 @@ QString bundleName(const QString& name) {
     return base + QStringLiteral(".app");
 }
 
-QString lastErrorText() {
-    return QString::fromLocal8Bit(std::strerror(errno));
+Message lastErrorAt(const QString& path) {
+    return Message(QStringLiteral("%1: %2")).arg(path, Message::ofLastSystemError());
 }
 
 // The shell's files keep their permissions: one of them has to be executable.
@@ -84,13 +84,13 @@ void FolveroOutputApp::ouputTheBook() {
     const QString bundle = outputFileName();
     const QString folder = QFileInfo(bundle).path();
     if (!QDir().mkpath(folder)) {
-        reportFailure(QStringLiteral("%1: %2").arg(folder, lastErrorText()));
+        reportFailure(lastErrorAt(folder));
         return;
     }
     StagingFolder::removeStale(folder);
     const QString staging = StagingFolder::make(folder);
     if (staging.isNull()) {
-        reportFailure(QStringLiteral("%1: %2").arg(folder, lastErrorText()));
+        reportFailure(lastErrorAt(folder));
         return;
     }
     const auto end = qScopeGuard([&] { QDir(staging).removeRecursively(); });
@@ -100,7 +100,7 @@ void FolveroOutputApp::ouputTheBook() {
     if (!publishErrors().isEmpty() || wasCancelled())
         return;
     if (!exchange(working, bundle))
-        reportFailure(QStringLiteral("%1: %2").arg(bundle, lastErrorText()));
+        reportFailure(lastErrorAt(bundle));
 }
 
 void FolveroOutputApp::publishInto(const QString& bundle) {
@@ -111,7 +111,7 @@ void FolveroOutputApp::publishInto(const QString& bundle) {
     const auto end = qScopeGuard([&] { iSaveToFolder = final; });
     iSaveToFolder = Files::join(bundle, resourcesInBundle);
     if (!QDir().mkpath(iSaveToFolder)) {
-        reportFailure(QStringLiteral("%1: %2").arg(iSaveToFolder, lastErrorText()));
+        reportFailure(lastErrorAt(iSaveToFolder));
         return;
     }
     FolveroOutput::ouputTheBook();

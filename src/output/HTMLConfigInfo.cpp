@@ -15,7 +15,7 @@ QString contentsOf(const QString& path) {
 } // namespace
 
 bool HTMLConfigInfo::generateHTMLFrom(const QString& templatePath, const QString& toFile,
-                                      QString* error) const {
+                                      Message* error) const {
     TextTemplate page(contentsOf(templatePath));
     page.setItem(QStringLiteral("index.title"), iHTMLTitle);
     page.setItem(QStringLiteral("meta.keywords"), iHTMLKeywords);

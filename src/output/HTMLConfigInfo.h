@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Message.h"
+
 #include <QString>
 
 // What the HTML page of a book says about it.
@@ -21,7 +23,7 @@ public:
     // file in UTF-8 and writes the page. A template that can't be read gives an empty page. On a
     // failed write the old file stays, false comes back and *error (when given) tells why.
     bool generateHTMLFrom(const QString& templatePath, const QString& toFile,
-                          QString* error = nullptr) const;
+                          Message* error = nullptr) const;
 
 private:
     QString iHTMLTitle = QStringLiteral("PDF to Folvero");

@@ -18,7 +18,7 @@
 namespace {
 
 [[noreturn]] void failWithErrno(const QString& path) {
-    PublishTransaction::fail(path, QString::fromLocal8Bit(std::strerror(errno)));
+    PublishTransaction::fail(path, Message::ofLastSystemError());
 }
 
 // Symbolic links count as what they are, not as what they point to.
@@ -42,9 +42,9 @@ QString parentOf(const QString& path) {
 
 } // namespace
 
-void PublishTransaction::fail(const QString& path, const QString& cause) {
+void PublishTransaction::fail(const QString& path, const Message& cause) {
     throw PlatformException(QStringLiteral("PublishError"),
-                            QStringLiteral("%1: %2").arg(path, cause));
+                            Message(QStringLiteral("%1: %2")).arg(path, cause));
 }
 
 PublishTransaction::PublishTransaction(const QString& folder)
@@ -88,7 +88,7 @@ void PublishTransaction::makeFolder(const QString& path) {
 void PublishTransaction::copy(const QString& source, const QString& target, Copy kind,
                               Phase phase) {
     const QString staged = stage(target, phase);
-    QString error;
+    Message error;
     const bool done = kind == Copy::mayShare ? Files::linkOrCopy(source, staged, &error)
                                              : Files::copy(source, staged, &error);
     if (!done)
@@ -96,7 +96,7 @@ void PublishTransaction::copy(const QString& source, const QString& target, Copy
 }
 
 void PublishTransaction::write(const QString& target, const QByteArray& data, Phase phase) {
-    QString error;
+    Message error;
     if (!Files::writeAtomically(stage(target, phase), data, &error))
         fail(target, error);
 }
@@ -169,10 +169,10 @@ void PublishTransaction::makeFolderNow(const QString& path) {
 void PublishTransaction::putInPlace(const Change& change) {
     makeFolderNow(parentOf(change.target));
     if (isFolder(change.target))
-        fail(change.target, QStringLiteral("There is a folder of that name"));
+        fail(change.target, Message::translate("FolveroOutput", "There is a folder of that name"));
     QString backup;
     if (exists(change.target)) {
-        QString error;
+        Message error;
         backup = newName();
         if (!Files::linkOrCopy(change.target, backup, &error))
             fail(change.target, error);

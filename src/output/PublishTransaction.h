@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Message.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QString>
@@ -42,7 +44,7 @@ public:
 
     void commit();
 
-    [[noreturn]] static void fail(const QString& path, const QString& cause);
+    [[noreturn]] static void fail(const QString& path, const Message& cause);
 
 private:
     struct Change {

@@ -13,8 +13,8 @@ FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pa
     try {
         iPDFDoc = PDFDocument::open(sourceFile());
     } catch (const PlatformException& failure) {
-        iOpenError = failure.reason();
-        Log("FlashPageSourcePDF").warn(iOpenError);
+        iOpenError = failure.message();
+        Log("FlashPageSourcePDF").warn(failure.reason());
     }
     iToPageConverter = std::make_shared<PDFToSWFPageConverter>(pdfPath, iPDFDoc, iQuality);
     iNeedToImportPages = parsePageRange(iPageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);

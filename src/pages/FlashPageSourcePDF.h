@@ -36,7 +36,7 @@ public:
     bool ownsPageFiles() const override { return true; }
 
     // Why the document could not be opened; null when it could.
-    const QString& openError() const { return iOpenError; }
+    const Message& openError() const { return iOpenError; }
     // Whether there is at least one page to show.
     bool hasDrawnPages() const;
 
@@ -49,5 +49,5 @@ private:
     int iQuality;
     std::shared_ptr<PDFToSWFPageConverter> iToPageConverter;
     std::vector<int> iNeedToImportPages;
-    QString iOpenError;
+    Message iOpenError;
 };

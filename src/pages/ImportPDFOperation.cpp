@@ -12,6 +12,10 @@ const Log& operationLog() {
     return log;
 }
 
+Message aboutFile() {
+    return QStringLiteral("%1: %2");
+}
+
 } // namespace
 
 ImportPDFOperation::ImportPDFOperation(const QString& pdfPath, const QString& pageRange, int dpi,
@@ -49,7 +53,7 @@ void ImportPDFOperation::main() {
     try {
         importStages();
     } catch (const std::exception& failure) {
-        iFailures << QStringLiteral("%1: %2").arg(iPDFPath, QString::fromUtf8(failure.what()));
+        iFailures << aboutFile().arg(iPDFPath, QString::fromUtf8(failure.what()));
         clearResults();
         throw;
     }
@@ -85,7 +89,7 @@ void ImportPDFOperation::importPages() {
     } catch (const PlatformException& failure) {
         operationLog().error(
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
-        iFailures << QStringLiteral("%1: %2").arg(iPDFPath, failure.reason());
+        iFailures << aboutFile().arg(iPDFPath, failure.message());
         setPageSource(nullptr);
     }
 }
@@ -95,10 +99,14 @@ void ImportPDFOperation::noteThatNothingWasDrawn() {
     if (!iFlashPageSource->openError().isNull())
         return;
     const auto& failed = iFlashPageSource->toPageConverter()->failedPages();
-    iFailures << (failed.empty()
-                      ? QStringLiteral("%1: none of the pages asked for is in it").arg(iPDFPath)
-                      : QStringLiteral("%1: none of the pages could be drawn (%2)")
-                            .arg(iPDFPath, failed.front().reason));
+    if (failed.empty())
+        iFailures << Message::translate("ImportPDFOperation",
+                                        "%1: none of the pages asked for is in it")
+                         .arg(iPDFPath);
+    else
+        iFailures << Message::translate("ImportPDFOperation",
+                                        "%1: none of the pages could be drawn (%2)")
+                         .arg(iPDFPath, failed.front().reason);
 }
 
 void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& document) {
@@ -109,7 +117,9 @@ void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& doc
     } catch (const PlatformException& failure) {
         operationLog().error(
             QStringLiteral("Run Import PDF Operation error,import links:%1").arg(failure.reason()));
-        iFailures << QStringLiteral("%1: links: %2").arg(iPDFPath, failure.reason());
+        //: %1 is the PDF file, %2 tells what is wrong with its links.
+        iFailures << Message::translate("ImportPDFOperation", "%1: links: %2")
+                         .arg(iPDFPath, failure.message());
     }
 }
 
@@ -121,6 +131,8 @@ void ImportPDFOperation::importOutline(const std::shared_ptr<PDFDocument>& docum
     } catch (const PlatformException& failure) {
         operationLog().error(QStringLiteral("Run Import PDF Operation error,import outline:%1")
                                  .arg(failure.reason()));
-        iFailures << QStringLiteral("%1: bookmarks: %2").arg(iPDFPath, failure.reason());
+        //: %1 is the PDF file, %2 tells what is wrong with its bookmarks.
+        iFailures << Message::translate("ImportPDFOperation", "%1: bookmarks: %2")
+                         .arg(iPDFPath, failure.message());
     }
 }

@@ -33,7 +33,7 @@ public:
     std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
 
     // What went wrong, in words for the user, one text per part that failed.
-    const QStringList& failures() const { return iFailures; }
+    const Messages& failures() const { return iFailures; }
 
 private:
     void setPageSource(std::shared_ptr<FlashPageSourcePDF> source);
@@ -54,5 +54,5 @@ private:
     QString iPageRange;
     bool iImportBookmarks = false;
     bool iImportLinks = false;
-    QStringList iFailures;
+    Messages iFailures;
 };

@@ -56,10 +56,10 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
     if (!PDFDoc())
         return;
     if (page < 1 || page > PDFDoc()->pageCount()) {
-        throw PlatformException(QStringLiteral("PDFPageMissing"),
-                                QStringLiteral("page %1 does not exist; the document has %2")
-                                    .arg(page)
-                                    .arg(PDFDoc()->pageCount()));
+        throw PlatformException(
+            QStringLiteral("PDFPageMissing"),
+            Message::translate("PDFDocument", "page %1 does not exist; the document has %2")
+                .arg(QString::number(page), QString::number(PDFDoc()->pageCount())));
     }
     const auto drawn = iWorkers ? iWorkers->waitFor(page) : std::nullopt;
     const PageResult result = drawn ? *drawn : drawHere(page);
@@ -78,7 +78,7 @@ PageResult PDFToSWFPageConverter::drawHere(int page) {
                 iPDFRep->make(page, workFile(page, "jpg"), {iStop, EngineLimits::maxPageTime})};
     } catch (const PlatformException& failure) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
-        return {failure.reason(), {}};
+        return {failure.message(), {}};
     } catch (const std::exception& failure) {
         return {QString::fromUtf8(failure.what()), {}};
     }

@@ -2,6 +2,7 @@
 
 #include "pages/PDFToPageConverter.h"
 #include "pages/PageWorkers.h"
+#include "platform/Message.h"
 
 #include <atomic>
 #include <memory>
@@ -13,7 +14,7 @@ class PDFToSWFPageConverter : public PDFToPageConverter {
 public:
     struct FailedPage {
         int page;       // one-based
-        QString reason; // in words
+        Message reason; // in words
     };
 
     using PDFToPageConverter::PDFToPageConverter;

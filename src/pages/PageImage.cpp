@@ -32,10 +32,10 @@ PageTiming PageImageMaker::make(int page, const QString& path, const DrawControl
     timing.draw = watch.lap();
     const auto jpeg = iEncoder.encode(iBitmap, iFactor);
     timing.encode = watch.lap();
-    QString error;
+    Message error;
     if (!Files::writeWorkingFile(path, jpeg, &error)) {
         throw PlatformException(QStringLiteral("PageWriteFailed"),
-                                QStringLiteral("%1: %2").arg(path, error));
+                                Message(QStringLiteral("%1: %2")).arg(path, error));
     }
     timing.write = watch.lap();
     return timing;

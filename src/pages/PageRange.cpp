@@ -42,7 +42,8 @@ std::vector<int> FlashPageSource::parsePageRange(const QString& expression, int 
     if (count > maxListedPages) {
         throw PlatformException(
             QStringLiteral("PageRangeTooLong"),
-            QStringLiteral("the page range \"%1\" names %2 pages").arg(expression).arg(count));
+            Message::translate("PageRange", "the page range \"%1\" names %2 pages")
+                .arg(expression, QString::number(count)));
     }
 
     std::vector<int> numbers;

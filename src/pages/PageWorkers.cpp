@@ -30,6 +30,16 @@ const Log& workersLog() {
     return log;
 }
 
+// Workers speak English. They give one of our own reasons, or a file's path and the system's words.
+Message reasonFrom(const QByteArray& words) {
+    const qsizetype colon = words.lastIndexOf(": ");
+    if (colon < 0)
+        return Message::translate("PageFailure", words);
+    return Message(QStringLiteral("%1: %2"))
+        .arg(QString::fromUtf8(words.left(colon)),
+             Message::translate("SystemError", words.mid(colon + 2)));
+}
+
 QString installedWorker() {
     return Files::join(QCoreApplication::applicationDirPath(),
                        QStringLiteral("folvero-page-worker"));
@@ -92,7 +102,7 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
         }
         if (iStop) {
             killAll();
-            return PageResult{QStringLiteral("drawing it was stopped"), {}};
+            return PageResult{Message::translate("PageFailure", "drawing it was stopped"), {}};
         }
         if (iWorkers.empty())
             return std::nullopt;
@@ -132,14 +142,15 @@ void PageWorkers::collect() {
         if (descriptors[i].revents)
             readAnswers(worker);
         else if (!worker.pages.empty() && now - worker.since > patience)
-            replace(worker, QStringLiteral("drawing it took too long"));
+            replace(worker, Message::translate("PageFailure", "drawing it took too long"));
     }
     std::erase_if(iWorkers, [](const Worker& worker) { return !worker.process; });
 }
 
 void PageWorkers::readAnswers(Worker& worker) {
     if (!worker.process->readAvailable()) {
-        replace(worker, QStringLiteral("the program that draws pages ended at this page"));
+        replace(worker, Message::translate("PageFailure",
+                                           "the program that draws pages ended at this page"));
         return;
     }
     while (const auto line = worker.process->takeLine())
@@ -161,7 +172,7 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
     if (fields[0] == "ok" && fields.size() == 4)
         result.timing = {fields[1].toDouble(), fields[2].toDouble(), fields[3].toDouble()};
     else
-        result.error = QString::fromUtf8(line.mid(5));
+        result.error = reasonFrom(line.mid(5));
     iResults[worker.pages.front()] = std::move(result);
     worker.pages.pop_front();
     worker.since = std::chrono::steady_clock::now();
@@ -169,13 +180,13 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
 
 // Gives up the page being drawn, hands the ones behind it back, and lets a new process take over.
 // No page is to blame for a process that did not even get ready; then there is none to take over.
-void PageWorkers::replace(Worker& worker, const QString& reason) {
+void PageWorkers::replace(Worker& worker, const Message& reason) {
     const bool wasReady = worker.ready;
     if (wasReady && !worker.pages.empty()) {
         const int page = worker.pages.front();
         worker.pages.pop_front();
         iResults[page].error = reason;
-        workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason));
+        workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
     }
     handBack(worker);
     worker = {wasReady ? startProcess() : nullptr, false, {}, {}};

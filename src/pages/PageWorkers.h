@@ -2,6 +2,7 @@
 
 #include "pages/PageImage.h"
 #include "platform/ChildProcess.h"
+#include "platform/Message.h"
 
 #include <QString>
 #include <atomic>
@@ -14,7 +15,7 @@
 
 // What became of one page.
 struct PageResult {
-    QString error; // null when the page file was written
+    Message error; // null when the page file was written
     PageTiming timing;
 };
 
@@ -55,7 +56,7 @@ private:
     void collect();
     void readAnswers(Worker& worker);
     void takeAnswer(Worker& worker, const QByteArray& line);
-    void replace(Worker& worker, const QString& reason);
+    void replace(Worker& worker, const Message& reason);
     void handBack(Worker& worker);
     void killAll();
 

@@ -20,8 +20,8 @@ namespace {
 [[noreturn]] void fail(const std::string& program, int error) {
     throw PlatformException(
         QStringLiteral("ProcessStartFailed"),
-        QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(program.c_str()),
-                                     QString::fromLocal8Bit(std::strerror(error))));
+        Message(QStringLiteral("%1: %2"))
+            .arg(QString::fromLocal8Bit(program.c_str()), Message::ofSystemError(error)));
 }
 
 // Sockets rather than pipes: a write to a socket whose reader is gone can be told to fail instead

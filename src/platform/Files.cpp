@@ -33,9 +33,9 @@ private:
     int iNumber;
 };
 
-bool fail(QString* error) {
+bool fail(Message* error) {
     if (error)
-        *error = QString::fromLocal8Bit(std::strerror(errno));
+        *error = Message::ofLastSystemError();
     return false;
 }
 
@@ -75,19 +75,21 @@ bool copyBytes(int from, int to) {
 
 } // namespace
 
-bool Files::writeAtomically(const QString& path, const QByteArray& data, QString* error) {
+bool Files::writeAtomically(const QString& path, const QByteArray& data, Message* error) {
+    errno = 0;
     QSaveFile file(path);
     // commit() flushes too, but takes no notice of a failure.
     if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush() &&
         file.commit())
         return true;
+    // The toolkit's own words come in the window's language alone.
     if (error)
-        *error = file.errorString();
+        *error = errno ? Message::ofLastSystemError() : Message(file.errorString());
     return false;
 }
 
 bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char> data,
-                             QString* error) {
+                             Message* error) {
     const QByteArray name = QFile::encodeName(path);
     const QByteArray part = name + ".part";
     Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
@@ -101,7 +103,7 @@ bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char>
     return result;
 }
 
-bool Files::copy(const QString& source, const QString& target, QString* error) {
+bool Files::copy(const QString& source, const QString& target, Message* error) {
     const Descriptor from(::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC));
     if (!from.isOpen())
         return fail(error);
@@ -116,7 +118,7 @@ bool Files::copy(const QString& source, const QString& target, QString* error) {
     return result;
 }
 
-bool Files::linkOrCopy(const QString& source, const QString& target, QString* error) {
+bool Files::linkOrCopy(const QString& source, const QString& target, Message* error) {
     if (::link(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) == 0)
         return true;
     return copy(source, target, error);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Message.h"
+
 #include <QByteArray>
 #include <QString>
 #include <span>
@@ -9,19 +11,19 @@ namespace Files {
 
 // Writes beside the target and renames over it. On failure the old file stays, false comes back and
 // *error (when given) tells why in words.
-bool writeAtomically(const QString& path, const QByteArray& data, QString* error = nullptr);
+bool writeAtomically(const QString& path, const QByteArray& data, Message* error = nullptr);
 
 // The same for a working file that need not survive a power cut: it does not wait for the disk.
 bool writeWorkingFile(const QString& path, std::span<const unsigned char> data,
-                      QString* error = nullptr);
+                      Message* error = nullptr);
 
 // Copies a file in the cheapest way that yields an independent file: a shared-extent clone where
 // the file system has it, a copy otherwise. Fails when the target exists.
-bool copy(const QString& source, const QString& target, QString* error = nullptr);
+bool copy(const QString& source, const QString& target, Message* error = nullptr);
 
 // As copy(), but may make a second name for the same file. Only for sources that nothing will
 // change in place afterwards.
-bool linkOrCopy(const QString& source, const QString& target, QString* error = nullptr);
+bool linkOrCopy(const QString& source, const QString& target, Message* error = nullptr);
 
 // "FOLDER/NAME" whether or not the folder ends in a separator; FOLDER when the name is empty.
 QString join(const QString& folder, const QString& name);

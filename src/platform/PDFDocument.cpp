@@ -54,25 +54,29 @@ void logEngineMessage(void* /*user*/, const char* message) noexcept {
     }
 }
 
-[[noreturn]] void failToOpen(const QString& path, const QString& cause) {
+// The cause follows the file's path and a colon.
+[[noreturn]] void failToOpen(const QString& path, const Message& cause) {
     throw PlatformException(QStringLiteral("PDFOpenFailed"),
-                            QStringLiteral("%1: %2").arg(path, cause));
+                            Message(QStringLiteral("%1: %2")).arg(path, cause));
 }
 
 void checkFile(const QString& path) {
     const QFileInfo info(path);
     if (!info.exists())
-        failToOpen(path, QStringLiteral("no such file"));
+        failToOpen(path, Message::translate("PDFDocument", "no such file"));
     if (info.isDir())
-        failToOpen(path, QStringLiteral("is a folder, not a PDF file"));
+        failToOpen(path, Message::translate("PDFDocument", "is a folder, not a PDF file"));
     // It may never end.
     if (!info.isFile())
-        failToOpen(path, QStringLiteral("is a pipe or a device, not a PDF file"));
+        failToOpen(path,
+                   Message::translate("PDFDocument", "is a pipe or a device, not a PDF file"));
+    errno = 0;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        failToOpen(path, QStringLiteral("can't be read (%1)").arg(file.errorString()));
+        failToOpen(path, Message::translate("PDFDocument", "can't be read (%1)")
+                             .arg(Message::ofLastSystemError()));
     if (info.size() == 0)
-        failToOpen(path, QStringLiteral("the file is empty"));
+        failToOpen(path, Message::translate("PDFDocument", "the file is empty"));
 }
 
 bool hasPDFHeader(const QString& path) {
@@ -128,11 +132,12 @@ void PDFDocument::Engine::open(Access access) {
         });
     } catch (const PlatformException& failure) {
         if (!hasPDFHeader(path))
-            failToOpen(path, QStringLiteral("is not a PDF document"));
-        failToOpen(path, QStringLiteral("is damaged beyond repair (%1)").arg(failure.reason()));
+            failToOpen(path, Message::translate("PDFDocument", "is not a PDF document"));
+        failToOpen(path, Message::translate("PDFDocument", "is damaged beyond repair (%1)")
+                             .arg(failure.message()));
     }
     if (get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
-        failToOpen(path, QStringLiteral("is protected by a password"));
+        failToOpen(path, Message::translate("PDFDocument", "is protected by a password"));
 }
 
 pdf_obj* PDFDocument::Engine::entry(pdf_obj* dictionary, const char* key) const {
@@ -152,9 +157,9 @@ QString PDFDocument::Engine::name(pdf_obj* object) const {
     return QString::fromUtf8(get([&](fz_context* ctx) { return pdf_to_name(ctx, object); }, ""));
 }
 
-QString PDFDocument::Engine::caughtReason() const {
+Message PDFDocument::Engine::caughtReason() const {
     if (fz_caught(context) == FZ_ERROR_MEMORY)
-        return QStringLiteral("it takes more memory than a page may have");
+        return Message::translate("PageFailure", "it takes more memory than a page may have");
     return QString::fromUtf8(fz_caught_message(context));
 }
 
@@ -218,10 +223,10 @@ int PDFDocument::pageCount() const {
 
 PDFPage PDFDocument::page(int index) const {
     if (index < 0 || index >= pageCount()) {
-        throw PlatformException(QStringLiteral("PDFPageMissing"),
-                                QStringLiteral("page %1 does not exist; the document has %2")
-                                    .arg(qint64(index) + 1)
-                                    .arg(pageCount()));
+        throw PlatformException(
+            QStringLiteral("PDFPageMissing"),
+            Message::translate("PDFDocument", "page %1 does not exist; the document has %2")
+                .arg(QString::number(qint64(index) + 1), QString::number(pageCount())));
     }
     pdf_obj* object = nullptr;
     iEngine->run("PDFPageUnreadable", [&](fz_context* ctx) {

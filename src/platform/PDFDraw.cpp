@@ -38,13 +38,11 @@ public:
     void throwIfEnded() const {
         if (isStopped()) {
             throw PlatformException(QStringLiteral("PDFPageStopped"),
-                                    QStringLiteral("drawing it was stopped"));
+                                    Message::translate("PageFailure", "drawing it was stopped"));
         }
         if (iTimedOut) {
-            throw PlatformException(
-                QStringLiteral("PDFPageTimeout"),
-                QStringLiteral("drawing it took longer than %1 seconds")
-                    .arg(std::chrono::duration<double>(iControl.timeLimit).count()));
+            throw PlatformException(QStringLiteral("PDFPageTimeout"),
+                                    Message::translate("PageFailure", "drawing it took too long"));
         }
     }
 

@@ -48,7 +48,7 @@ struct PDFDocument::Engine {
     }
 
     // The engine error just caught, in words.
-    QString caughtReason() const;
+    Message caughtReason() const;
 
     // What the document says, but no more than it has objects.
     int pageCount() const;

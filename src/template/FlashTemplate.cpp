@@ -85,30 +85,31 @@ QString FlashTemplate::tmplMetaPathForName(const QString& name) {
 void FlashTemplate::loadTemplate(const QString& name) {
     iProperties.clear();
     iTmplName = name;
-    iLoadError = QString();
+    iLoadError = {};
     const QString path = tmplMetaPathForName(name);
     if (path.contains(QChar::Null)) {
-        iLoadError = QStringLiteral("Can't create an URL from file %1.").arg(path);
-        logger().error(iLoadError);
+        iLoadError =
+            Message::translate("FlashTemplate", "Can't create an URL from file %1.").arg(path);
+        logger().error(loadError());
         return;
     }
     try {
         loadTemplateFile(path);
     } catch (const PlatformException& failure) {
-        iLoadError =
-            QStringLiteral("Can't load the template file \"%1\": %2").arg(path, failure.reason());
-        logger().error(iLoadError);
+        iLoadError = Message::translate("FlashTemplate", "Can't load the template file \"%1\": %2")
+                         .arg(path, failure.message());
+        logger().error(loadError());
     }
 }
 
 void FlashTemplate::loadTemplateFile(const QString& path) {
     const auto document = TemplateFile::read(path);
     const auto root = document->document_element();
-    const auto inRoot = [] { return QStringLiteral("root element"); };
+    const auto inRoot = [] { return Message::translate("TemplateFile", "root element"); };
     const auto info = TemplateFile::required(root, "info", inRoot);
     const auto infoText = [&info](const char* name) {
-        return TemplateFile::requiredText(info, name,
-                                          [] { return QStringLiteral("\"info\" element"); });
+        return TemplateFile::requiredText(
+            info, name, [] { return Message::translate("TemplateFile", "\"info\" element"); });
     };
     iHTMLFilePath = infoText("htmlPath");
     iSWFFilePath = infoText("swfPath");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Message.h"
 #include "template/FlashTemplateProperty.h"
 
 #include <QString>
@@ -32,7 +33,8 @@ public:
     void loadStyleByStylePath(const QString& stylePath);
 
     // Why the last loadTemplate() did not come to its end; null when it did.
-    QString loadError() const { return iLoadError; }
+    QString loadError() const { return iLoadError.english(); }
+    const Message& loadMessage() const { return iLoadError; }
 
     // The value of the first property with that key, or the default when there is none.
     QString propertyValueFor(const QString& key, const QString& defaultValue) const;
@@ -55,7 +57,7 @@ public:
     // The settings file: one record "key=value" per property. A file that can't be read has none;
     // writing returns false on failure and *error (when given) tells why in words.
     void importPropertiesSettingsFrom(const QString& path);
-    bool exportPropertiesSettingsTo(const QString& path, QString* error = nullptr) const;
+    bool exportPropertiesSettingsTo(const QString& path, Message* error = nullptr) const;
     // Appends the records of a node and its descendants; of the whole tree for nullptr.
     void exportPropertiesSettingsToArray(QStringList& records,
                                          const FlashTemplateProperty* fromPro) const;
@@ -98,5 +100,5 @@ private:
     QString iDefaultSytleName = QStringLiteral("Blank");
     QString iStyleName;
     bool iNeedThumbs = true;
-    QString iLoadError;
+    Message iLoadError;
 };

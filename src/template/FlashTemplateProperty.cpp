@@ -11,11 +11,12 @@
 
 namespace {
 
-QString describe(const pugi::xml_node& element) {
+Message describe(const pugi::xml_node& element) {
     const pugi::xml_node key = element.child("key");
     if (!key)
-        return QStringLiteral("\"property\" element");
-    return QStringLiteral("\"property\" element of key \"%1\"").arg(XMLText::textOf(key));
+        return Message::translate("TemplateFile", "\"property\" element");
+    return Message::translate("TemplateFile", "\"property\" element of key \"%1\"")
+        .arg(XMLText::textOf(key));
 }
 
 QString requiredText(const pugi::xml_node& element, const char* name) {
@@ -49,7 +50,8 @@ void FlashTemplateProperty::load(const pugi::xml_node& element, int depth) {
     if (depth > maximumDepth)
         throw PlatformException(
             QStringLiteral("ERROR_TEMPLATE_PROPERTY"),
-            QStringLiteral("properties are nested more than %1 deep").arg(maximumDepth));
+            Message::translate("TemplateFile", "properties are nested more than %1 deep")
+                .arg(QString::number(maximumDepth)));
     iParent = nullptr;
     iKey = requiredText(element, "key");
     iTitle = requiredText(element, "title");

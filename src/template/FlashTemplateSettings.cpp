@@ -46,16 +46,17 @@ void FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
     setPropertyValue(QStringLiteral("pageHeight"), pageHeight);
 }
 
-bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, QString* error) const {
+bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, Message* error) const {
     QStringList records;
     exportPropertiesSettingsToArray(records, nullptr);
     QString text;
     for (const QString& record : records)
         text += recordStart + record;
-    QString cause;
+    Message cause;
     const bool written = Files::writeAtomically(path, text.toUtf8(), &cause);
     if (!written)
-        logger().warn(QStringLiteral("can't write the settings file \"%1\": %2").arg(path, cause));
+        logger().warn(
+            QStringLiteral("can't write the settings file \"%1\": %2").arg(path, cause.english()));
     if (error)
         *error = cause;
     return written;

@@ -18,16 +18,18 @@ pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& dat
                                 pugi::parse_default | pugi::parse_ws_pcdata, encoding);
 }
 
-QString causeOf(const pugi::xml_parse_result& result, const QByteArray& data) {
+Message causeOf(const pugi::xml_parse_result& result, const QByteArray& data) {
     const auto end = data.begin() + std::clamp<qsizetype>(result.offset, 0, data.size());
     const auto line = 1 + std::count(data.begin(), end, '\n');
-    return QStringLiteral("line %1: %2").arg(line).arg(QString::fromUtf8(result.description()));
+    return Message::translate("TemplateFile", "line %1: %2")
+        .arg(QString::number(line), Message::translate("XMLParser", result.description()));
 }
 
 QByteArray contentsOf(const QString& path) {
+    errno = 0;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw PlatformException(errorName, file.errorString());
+        throw PlatformException(errorName, Message::ofLastSystemError());
     return file.readAll();
 }
 
@@ -40,25 +42,27 @@ std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
     if (first)
         return document;
     // The place in the file as the user wrote it helps more than one in its repaired form.
-    const QString cause = causeOf(first, data);
+    const Message cause = causeOf(first, data);
     const QByteArray repaired = XMLRepair::repaired(data);
     if (repaired.isEmpty() || !parse(*document, repaired, pugi::encoding_utf8))
         throw PlatformException(errorName, cause);
     Log("TemplateFile")
-        .warn(QStringLiteral("repaired the template file \"%1\" (%2)").arg(path, cause));
+        .warn(QStringLiteral("repaired the template file \"%1\" (%2)").arg(path, cause.english()));
     return document;
 }
 
 pugi::xml_node TemplateFile::required(const pugi::xml_node& parent, const char* name,
-                                      const std::function<QString()>& describeParent) {
+                                      const std::function<Message()>& describeParent) {
     const pugi::xml_node child = parent.child(name);
     if (!child)
-        throw PlatformException(errorName, QStringLiteral("%1 lacks its \"%2\" element")
-                                               .arg(describeParent(), QString::fromUtf8(name)));
+        //: %1 is another element of the file.
+        throw PlatformException(errorName,
+                                Message::translate("TemplateFile", "%1 lacks its \"%2\" element")
+                                    .arg(describeParent(), QString::fromUtf8(name)));
     return child;
 }
 
 QString TemplateFile::requiredText(const pugi::xml_node& parent, const char* name,
-                                   const std::function<QString()>& describeParent) {
+                                   const std::function<Message()>& describeParent) {
     return XMLText::textOf(required(parent, name, describeParent));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Message.h"
+
 #include <QString>
 #include <functional>
 #include <memory>
@@ -16,9 +18,9 @@ std::unique_ptr<pugi::xml_document> read(const QString& path);
 // The first child element of that name. Throws PlatformException when there is none; the exception
 // names the parent as the function describes it.
 pugi::xml_node required(const pugi::xml_node& parent, const char* name,
-                        const std::function<QString()>& describeParent);
+                        const std::function<Message()>& describeParent);
 // All text within that child; never null.
 QString requiredText(const pugi::xml_node& parent, const char* name,
-                     const std::function<QString()>& describeParent);
+                     const std::function<Message()>& describeParent);
 
 } // namespace TemplateFile

@@ -192,7 +192,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     iFlashPageSource = operation->flashPageSource();
     iFlashPagesAnnotations = operation->flashPagesAnnotation();
     iFlashOutline = operation->flashOutline();
-    iFailures = operation->failures();
+    iFailures = localTexts(operation->failures());
     enableButtons(true);
     if (!hasPages(iFlashPageSource.get())) {
         iFlashPageSource = nullptr;

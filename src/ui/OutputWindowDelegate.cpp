@@ -99,7 +99,7 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
         const QString cause = output.publishErrors().isEmpty()
                                   ? tr("The folder %1 could not be made.").arg(result)
-                                  : output.publishErrors().join(u'\n');
+                                  : localTexts(output.publishMessages()).join(u'\n');
         iQuestions.tell(tr("The book was not published"), cause);
         return;
     }

@@ -29,7 +29,7 @@ QString reasonOf(const FlashTemplate& tmpl) {
     if (!QFileInfo::exists(file))
         return SelectTemplateWindowDelegate::tr("Its file %1 is missing.")
             .arg(QFileInfo(file).fileName());
-    return tmpl.loadError();
+    return tmpl.loadMessage().local();
 }
 
 // Templates and styles are found by name, right beneath the folder that holds them all. What lies

@@ -52,9 +52,9 @@ TEST_F(HTMLPage, IsEmptyWhenTheTemplateCannotBeRead) {
 
 TEST_F(HTMLPage, ReportsAFailedWrite) {
     write(path("t.html"), "text");
-    QString error;
+    Message error;
     EXPECT_FALSE(info.generateHTMLFrom(path("t.html"), path("no/folder/index.html"), &error));
-    EXPECT_FALSE(error.isEmpty());
+    EXPECT_FALSE(error.isNull());
 }
 
 } // namespace

@@ -128,7 +128,7 @@ TEST_F(FlashPageSourcePDFTest, ListsAPageThatCannotBeDrawnAndGoesOn) {
     const auto& failed = source.toPageConverter()->failedPages();
     ASSERT_EQ(failed.size(), 1U);
     EXPECT_EQ(failed[0].page, 2);
-    EXPECT_FALSE(failed[0].reason.isEmpty());
+    EXPECT_FALSE(failed[0].reason.isNull());
 }
 
 TEST_F(FlashPageSourcePDFTest, StaysEmptyWithoutADocument) {
@@ -137,7 +137,7 @@ TEST_F(FlashPageSourcePDFTest, StaysEmptyWithoutADocument) {
     source.generatePages();
     EXPECT_TRUE(source.pages().empty());
     EXPECT_EQ(source.toPageConverter()->PDFDoc(), nullptr);
-    EXPECT_TRUE(source.openError().contains(QStringLiteral("none.pdf: no such file")));
+    EXPECT_TRUE(source.openError().english().contains(QStringLiteral("none.pdf: no such file")));
 }
 
 TEST_F(FlashPageSourcePDFTest, CompressesStronglyBelowTheBestQuality) {
@@ -186,7 +186,7 @@ TEST_F(FlashPageSourcePDFTest, StopsInTheMiddleOfAPage) {
     source.generatePages();
     stopper.join();
     ASSERT_EQ(source.toPageConverter()->failedPages().size(), 1U);
-    EXPECT_TRUE(
-        source.toPageConverter()->failedPages()[0].reason.contains(QStringLiteral("stopped")));
+    EXPECT_TRUE(source.toPageConverter()->failedPages()[0].reason.english().contains(
+        QStringLiteral("stopped")));
     EXPECT_EQ(source.pages().size(), 1U); // the second page was not begun
 }

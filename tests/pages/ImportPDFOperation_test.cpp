@@ -81,7 +81,8 @@ TEST_F(ImportPDFOperationTest, DropsThePagesWhenOneIsMissingAndStillListsPagesFo
     ASSERT_EQ(log.texts().size(), 1);
     EXPECT_TRUE(
         log.texts()[0].startsWith(QStringLiteral("Run Import PDF Operation error,import pages:")));
-    EXPECT_TRUE(operation.failures()[0].contains(QStringLiteral("page 9 does not exist")));
+    EXPECT_TRUE(
+        operation.failures()[0].english().contains(QStringLiteral("page 9 does not exist")));
 
     const auto pages = operation.flashPagesAnnotation()->pagesAnnotationsNode();
     ASSERT_EQ(std::distance(pages.begin(), pages.end()), 2);

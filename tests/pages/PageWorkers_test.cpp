@@ -65,7 +65,7 @@ TEST_F(PageWorkersTest, PassesReasonsAndTimesOn) {
     const auto workers = start(2, "echo ready\nwhile read page; do\n"
                                   "if [ $page = 1 ]; then echo fail no such colour; else\n"
                                   "echo ok 0.5 0.25 0.125; fi\ndone\n");
-    EXPECT_EQ(workers->waitFor(1)->error, QStringLiteral("no such colour"));
+    EXPECT_EQ(workers->waitFor(1)->error.english(), QStringLiteral("no such colour"));
     const PageTiming timing = workers->waitFor(2)->timing;
     EXPECT_EQ(timing.draw + timing.encode + timing.write, 0.875);
 }
@@ -73,7 +73,7 @@ TEST_F(PageWorkersTest, PassesReasonsAndTimesOn) {
 TEST_F(PageWorkersTest, EndsAPageUnderWayWhenStopped) {
     const auto workers = start(3, "echo ready\nread page\nsleep 100\n");
     iStop = true;
-    EXPECT_TRUE(workers->waitFor(1)->error.contains(QStringLiteral("stopped")));
+    EXPECT_TRUE(workers->waitFor(1)->error.english().contains(QStringLiteral("stopped")));
 }
 
 TEST_F(PageWorkersTest, SaysWhenThereIsNoWorkerToStart) {

@@ -78,13 +78,13 @@ void BrisleafAppDelegate::applyChange(Book book) {
     } catch (const PlatformException& failure) {
         logger().error(QStringLiteral("apply change :%1").arg(failure.reason()));
         iWindow->messages->tell(tr("The preview could not be brought up to date."),
-                                failure.reason());
+                                failure.message().local());
     }
 }
 
 void BrisleafAppDelegate::publishPreview(Book book) {
     // Somebody may have cleaned up while the program runs.
-    const QString failure = iPreviewFolder.restore();
+    const Message failure = iPreviewFolder.restore();
     if (!failure.isNull())
         throw PlatformException(QStringLiteral("PreviewFolder"), failure);
     auto html = std::make_shared<HTMLConfigInfo>();
@@ -96,7 +96,9 @@ void BrisleafAppDelegate::publishPreview(Book book) {
     output.setFlashOutline(iFlashOutline);
     output.ouputTheBook();
     if (!output.publishErrors().isEmpty())
-        throw PlatformException(QStringLiteral("Publish"), output.publishErrors().join(u'\n'));
+        throw PlatformException(
+            QStringLiteral("Publish"),
+            {output.publishErrors().join(u'\n'), localTexts(output.publishMessages()).join(u'\n')});
     iWindow->webView->showFile(output.outputFileName(), book == OtherBook);
 }
 
@@ -192,9 +194,9 @@ void BrisleafAppDelegate::OnExportTmplSettings() {
         return;
     if (Files::pathExtension(*file).isEmpty())
         *file += u'.' + settingsFileType;
-    QString cause;
+    Message cause;
     if (!iFlashTmpl->exportPropertiesSettingsTo(*file, &cause))
-        iWindow->messages->tell(tr("The settings were not saved to %1.").arg(*file), cause);
+        iWindow->messages->tell(tr("The settings were not saved to %1.").arg(*file), cause.local());
 }
 
 // Cancelling refreshes the preview as well.
@@ -252,5 +254,5 @@ void BrisleafAppDelegate::showTemplate(const QString& name) {
     if (!iFlashTmpl->loadError().isNull())
         iWindow->messages->tell(
             tr("The template “%1” is damaged.").arg(TemplateTexts::templateName(name)),
-            iFlashTmpl->loadError());
+            iFlashTmpl->loadMessage().local());
 }

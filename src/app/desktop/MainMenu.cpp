@@ -85,7 +85,8 @@ void MainMenu::makeEditCommands(QUndoStack& edits) {
     connect(&edits, &QUndoStack::canUndoChanged, undo, &QAction::setEnabled);
     connect(&edits, &QUndoStack::undoTextChanged, undo, [this](const QString& edit) {
         //: %1 is a setting in quotation marks, or "loading of settings".
-        undo->setText(edit.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(withoutMnemonic(edit)));
+        const QString named = tr("&Undo %1");
+        undo->setText(edit.isEmpty() ? tr("&Undo") : named.arg(withoutMnemonic(edit)));
     });
     redo = add(tr("&Redo"), QStringLiteral("redo"), QKeySequence::Redo);
     //: Beneath a picture in the toolbar: short.
@@ -95,7 +96,8 @@ void MainMenu::makeEditCommands(QUndoStack& edits) {
     connect(&edits, &QUndoStack::canRedoChanged, redo, &QAction::setEnabled);
     connect(&edits, &QUndoStack::redoTextChanged, redo, [this](const QString& edit) {
         //: %1 is a setting in quotation marks, or "loading of settings".
-        redo->setText(edit.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(withoutMnemonic(edit)));
+        const QString named = tr("&Redo %1");
+        redo->setText(edit.isEmpty() ? tr("&Redo") : named.arg(withoutMnemonic(edit)));
     });
 }
 

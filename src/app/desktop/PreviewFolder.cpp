@@ -42,17 +42,18 @@ QString PreviewFolder::claim(const QString& base) {
 QString PreviewFolder::make() {
     const QString support = Folders::userApplicationSupport();
     iPath = claim(support.isNull() ? QStringLiteral("/temp") : support);
-    const QString failure = restore();
+    const Message failure = restore();
     if (!failure.isNull())
-        logger().warn(QStringLiteral("flash preview folder cannot be crearted[%1]").arg(failure));
+        logger().warn(
+            QStringLiteral("flash preview folder cannot be crearted[%1]").arg(failure.english()));
     return iPath;
 }
 
-QString PreviewFolder::restore() const {
+Message PreviewFolder::restore() const {
     errno = 0;
     if (QDir(iPath).exists() || QDir().mkpath(iPath))
         return {};
-    return QStringLiteral("%1: %2").arg(iPath, QString::fromLocal8Bit(std::strerror(errno)));
+    return Message(QStringLiteral("%1: %2")).arg(iPath, Message::ofLastSystemError());
 }
 
 void PreviewFolder::remove() {

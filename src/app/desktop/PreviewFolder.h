@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Message.h"
+
 #include <QString>
 #include <memory>
 
@@ -18,7 +20,7 @@ public:
     // that can't be made is logged; its path comes back all the same.
     QString make();
     // Makes it again when somebody else removed it; why that failed, or a null text.
-    QString restore() const;
+    Message restore() const;
     // Removes the folder with all its contents, if it is there.
     void remove();
 
