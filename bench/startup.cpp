@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int pollInterval = 5;       // ms
+constexpr int pollInterval = 5;      // ms
 constexpr int longestStart = 60'000; // ms
 
 // True two frames after the book is ready: what was drawn for the first one is on the screen.

@@ -48,6 +48,11 @@
         <source>The template “%1” is damaged.</source>
         <translation>Die Vorlage „%1“ ist beschädigt.</translation>
     </message>
+    <message>
+        <source>PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf</source>
+        <extracomment>The help in your language; keep the path as it is until there is one.</extracomment>
+        <translation>PDF to Folvero for mac Help/PDF to Folvero for Mac.de.pdf</translation>
+    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
@@ -277,6 +282,17 @@
         <source>Importing:%1/%2</source>
         <extracomment>%1 is the page that is worked at, %2 the number of pages.</extracomment>
         <translation>Importiert: %1/%2</translation>
+    </message>
+    <message>
+        <source>Page %1 could not be drawn: %2</source>
+        <translation>Seite %1 konnte nicht gezeichnet werden: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more page(s) could not be drawn.</source>
+        <translation>
+            <numerusform>%n weitere Seite konnte nicht gezeichnet werden.</numerusform>
+            <numerusform>%n weitere Seiten konnten nicht gezeichnet werden.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -574,6 +590,14 @@
         <source>Choose folder</source>
         <extracomment>The button of a panel that asks for a folder.</extracomment>
         <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>The book is not complete</source>
+        <translation>Das Buch ist nicht vollständig</translation>
+    </message>
+    <message>
+        <source>The pictures of these pages have gone: %1. Import the document again, then publish once more.</source>
+        <translation>Die Bilder dieser Seiten sind nicht mehr da: %1. Importieren Sie das Dokument noch einmal und veröffentlichen Sie dann neu.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>ImportWindowDelegate</name>
+    <message numerus="yes">
+        <source>%n more page(s) could not be drawn.</source>
+        <translation>
+            <numerusform>%n more page could not be drawn.</numerusform>
+            <numerusform>%n more pages could not be drawn.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SelectTemplateWindowDelegate</name>
     <message numerus="yes">
         <source>%n more cannot be used.</source>

@@ -14,10 +14,13 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
+#include <span>
 
 namespace {
 
 constexpr int importDPI = 144;
+constexpr std::size_t mostPagesTold = 5;
 
 const Log& logger() {
     static const Log log("ImportWindowDelegate");
@@ -201,6 +204,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     }
     if (iFlashPageSource) {
         logger().debug(QStringLiteral("import pdf ok..."));
+        noteFailedPages();
         takePageSize();
         iIsImporting = false;
         endSheet(1);
@@ -210,6 +214,20 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     if (!operation->isCancelled())
         showFailure(iFailures);
     iIsImporting = false;
+}
+
+// The book lacks them; its maker must know which ones.
+void ImportWindowDelegate::noteFailedPages() {
+    const auto* source = dynamic_cast<const FlashPageSourcePDF*>(iFlashPageSource.get());
+    if (!source)
+        return;
+    const auto& failed = source->toPageConverter()->failedPages();
+    const auto told = std::min(failed.size(), mostPagesTold);
+    for (const auto& page : std::span(failed).first(told))
+        iFailures << tr("Page %1 could not be drawn: %2")
+                         .arg(QString::number(page.page), page.reason.local());
+    if (failed.size() > told)
+        iFailures << tr("%n more page(s) could not be drawn.", nullptr, int(failed.size() - told));
 }
 
 void ImportWindowDelegate::takePageSize() {

@@ -39,7 +39,8 @@ public:
     }
     std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
     void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
-    // What the last import left out, and why; one text per part that failed.
+    // What the last import left out, and why; a text for each part or page that failed, those of
+    // many pages together.
     const QStringList& failures() const { return iFailures; }
     // Points; 0 until an import succeeds.
     int pageWidth() const { return iPageWidth; }
@@ -77,6 +78,7 @@ private:
     void anyThread_handleMSG(const Notification& message);
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
+    void noteFailedPages();
     void takePageSize();
     void showFailure(const QStringList& failures);
     void endSheet(int returnCode);

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStandardPaths>
 
 namespace {
 
@@ -29,6 +30,8 @@ OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     awakeFromNib();
+    for (const auto* field : {iWindow->txtOutputFolder, iWindow->txtOutputName})
+        connect(field, &QLineEdit::textChanged, this, &OutputWindowDelegate::showState);
     connect(iWindow->btnPublish, &QPushButton::clicked, this, &OutputWindowDelegate::onPublish);
     connect(iWindow->btnCancel, &QPushButton::clicked, this, &OutputWindowDelegate::onCancel);
     connect(iWindow, &OutputWindow::closeRequested, this, &OutputWindowDelegate::onCancel);
@@ -48,7 +51,28 @@ void OutputWindowDelegate::awakeFromNib() {
 }
 
 void OutputWindowDelegate::beginSheet() {
+    fillEmptyFields();
+    showState();
     iWindow->open();
+}
+
+// A book that nobody has published before gets what most people would type.
+void OutputWindowDelegate::fillEmptyFields() {
+    const auto propose = [](QLineEdit* field, const QString& text) {
+        if (field->text().isEmpty())
+            field->setText(text);
+    };
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = QFileInfo::exists(documents) ? documents : QDir::homePath();
+    propose(iWindow->txtOutputFolder, folder + u'/' + iDocumentName);
+    propose(iWindow->txtOutputName, QStringLiteral("index"));
+    propose(iWindow->txtTitle, iDocumentName);
+}
+
+// Without a folder or a name there is no telling where the book would end up.
+void OutputWindowDelegate::showState() {
+    iWindow->btnPublish->setEnabled(!iWindow->txtOutputFolder->text().trimmed().isEmpty() &&
+                                    !iWindow->txtOutputName->text().trimmed().isEmpty());
 }
 
 void OutputWindowDelegate::endSheet(int returnCode) {
@@ -98,10 +122,19 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     const QString result = output.outputFileName();
     if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
         const QString cause = output.publishErrors().isEmpty()
-                                  ? tr("The folder %1 could not be made.").arg(result)
+                                  ? tr("The folder %1 could not be made.").arg(QFileInfo(result).path())
                                   : localTexts(output.publishMessages()).join(u'\n');
         iQuestions.tell(tr("The book was not published"), cause);
         return;
+    }
+    if (const auto& missing = output.missingPages(); !missing.empty()) {
+        QStringList pages;
+        for (const int page : missing)
+            pages << QString::number(page);
+        iQuestions.tell(tr("The book is not complete"),
+                        tr("The pictures of these pages have gone: %1. Import the document again, "
+                           "then publish once more.")
+                            .arg(pages.join(QStringLiteral(", "))));
     }
     if (iQuestions.openResult(tr("Open the result files?"), tr("Publish finished! Open the it?")))
         iQuestions.open(result);

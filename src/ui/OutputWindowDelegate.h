@@ -36,6 +36,9 @@ public:
         iFlashPagesAnnotations = std::move(value);
     }
 
+    // What the fields that are still empty are filled with.
+    void setDocumentName(const QString& name) { iDocumentName = name; }
+
     // How the user is asked: for a folder (none when cancelled), whether to open the result (true
     // for yes), and how a file or folder is opened and a failure told.
     struct Questions {
@@ -54,6 +57,8 @@ public:
 
 private:
     void awakeFromNib();
+    void fillEmptyFields();
+    void showState();
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput() const;
     void publish(FolveroOutput& output);
@@ -64,5 +69,6 @@ private:
     std::shared_ptr<FlashTemplate> iFlashTmpl;
     std::shared_ptr<FlashOutline> iFlashOutline;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
+    QString iDocumentName;
     Questions iQuestions;
 };

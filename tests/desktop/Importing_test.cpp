@@ -95,6 +95,18 @@ TEST_F(Importing, FailureIsToldAndTheBookStays) {
     EXPECT_EQ(publishedPages(), 2u);
 }
 
+TEST_F(Importing, PageThatCouldNotBeDrawnIsToldAboveTheBook) {
+    startImport(Program::sample(text("damaged-page.pdf")));
+    ASSERT_TRUE(waitForImport());
+    EXPECT_FALSE(sheet().isVisible());
+    ASSERT_TRUE(window().messages->isVisible());
+    EXPECT_TRUE(window().messages->message().contains(text("Page 3 could not be drawn")))
+        << window().messages->message().toStdString();
+    startImport(pdf(2));
+    ASSERT_TRUE(waitForImport());
+    EXPECT_FALSE(window().messages->isVisible());
+}
+
 TEST_F(Importing, CanBeCancelledAndStartedAgainWhileThePreviewLives) {
     startImport(Program::sample(text("thousand.pdf")));
     EXPECT_TRUE(program->importWindow().isImporting());

@@ -7,6 +7,7 @@
 #include "support/RecordedLog.h"
 
 #include <QButtonGroup>
+#include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QPushButton>
@@ -82,6 +83,35 @@ TEST_F(PublishSheet, PublishesAPageIntoAFolderThatItMakes) {
     EXPECT_EQ(opened, QStringList{book.folder() + text("/new/mybook.html")});
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(PublishSheet, ProposesWhatWasNeverChosenAndAsksForTheRest) {
+    open();
+    for (auto* field : {window().txtOutputFolder, window().txtOutputName, window().txtTitle})
+        field->clear();
+    sheet->setDocumentName(text("Field trip"));
+    sheet->beginSheet();
+    EXPECT_EQ(QFileInfo(window().txtOutputFolder->text()).fileName(), text("Field trip"));
+    EXPECT_TRUE(QFileInfo(window().txtOutputFolder->text()).dir().exists());
+    EXPECT_EQ(window().txtOutputName->text(), text("index"));
+    EXPECT_EQ(window().txtTitle->text(), text("Field trip"));
+    EXPECT_TRUE(window().btnPublish->isEnabled());
+    window().txtOutputName->setText(text(" "));
+    EXPECT_FALSE(window().btnPublish->isEnabled());
+    window().txtOutputName->setText(text("trip"));
+    window().txtOutputFolder->clear();
+    EXPECT_FALSE(window().btnPublish->isEnabled());
+}
+
+TEST_F(PublishSheet, PageWhosePictureHasGoneIsTold) {
+    book.addPage(text("2.jpg"), 2, "second");
+    open();
+    ASSERT_TRUE(QFile::remove(book.pageSource->pages().back()->pageFilePath()));
+    window().txtOutputFolder->setText(book.folder() + text("/new"));
+    click(window().btnPublish);
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told.first().contains(text(": 2."))) << told.first().toStdString();
+    EXPECT_EQ(questions.size(), 2);
 }
 
 TEST_F(PublishSheet, PublishesAnApplication) {

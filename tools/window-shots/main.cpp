@@ -17,12 +17,14 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <cstdlib>
 #include <unistd.h>
@@ -30,6 +32,7 @@
 namespace {
 
 constexpr QSize windowSize(1280, 800);
+constexpr char lantern[] = "The Lantern";
 
 struct Options {
     QString samples;
@@ -50,7 +53,18 @@ public:
     }
 
 private:
-    QString sample(const char* name) const { return iOptions.samples + u'/' + QLatin1String(name); }
+    // A copy of a sample, under a name and in a folder as people have them.
+    QString document(const char* sample, const char* name) const {
+        const QString folder = iOptions.language == QStringLiteral("de")
+                                   ? QStringLiteral("Dokumente")
+                                   : QStringLiteral("Documents");
+        const QString path = QStringLiteral("%1/%2.pdf").arg(folder, QLatin1String(name));
+        QDir().mkpath(folder);
+        QFile::remove(path);
+        if (!QFile::copy(iOptions.samples + u'/' + QLatin1String(sample), path))
+            qFatal("cannot copy %s", sample);
+        return path;
+    }
     BrisleafAppDelegate& program() { return iProgram.program(); }
     MainWindow& window() { return iProgram.window(); }
 
@@ -90,31 +104,30 @@ private:
     void takeImport() {
         ImportWindowDelegate& import = program().importWindow();
         program().OnImportPDF();
-        import.window().txtImportFile->setText(QStringLiteral("Documents/The lantern.pdf"));
+        import.window().txtImportFile->setText(document("picture-book.pdf", lantern));
         import.window().btnCancel->setFocus();
         save(iProgram.pictureOfSheet(), "import");
         savePicture("import-window");
-        import.window().txtImportFile->setText(sample("thousand.pdf"));
+        import.window().txtImportFile->setText(document("thousand.pdf", "Town chronicle"));
         import.onImportAction();
         rest(1'500);
-        import.window().txtImportFile->setText(QStringLiteral("Documents/Town chronicle.pdf"));
         save(iProgram.pictureOfSheet(), "importing");
         import.onCancelAction();
         waitUntil([&] { return !import.isImporting(); }, "the cancelled import");
-        import.importFile(sample("encrypted.pdf"));
+        import.importFile(document("encrypted.pdf", "Report"));
         waitUntil([&] { return !import.isImporting(); }, "the failed import");
         save(iProgram.pictureOfSheet(), "import-failed");
         import.onCancelAction();
     }
 
     void takeMessage() {
-        iProgram.importBook(sample("damaged-page.pdf"));
+        iProgram.importBook(document("damaged-page.pdf", "Yearbook"));
         savePicture("message");
         window().messages->hide();
     }
 
     void takeEditing() {
-        iProgram.importBook(sample("picture-book.pdf"));
+        iProgram.importBook(document("picture-book.pdf", lantern));
         iProgram.showPage(4);
         iProgram.select(QStringLiteral("bgBeginColor"));
         savePicture("editing");
@@ -131,9 +144,10 @@ private:
     void takePublish() {
         OutputWindow& sheet = program().ouputWindow().window();
         program().OnExportFlipBook();
-        sheet.txtOutputFolder->setText(QStringLiteral("Documents/The lantern"));
+        sheet.txtOutputFolder->setText(QFileInfo(document("picture-book.pdf", lantern)).path() +
+                                       u'/' + QLatin1String(lantern));
         sheet.txtOutputName->setText(QStringLiteral("index"));
-        sheet.txtTitle->setText(QStringLiteral("The lantern that went for a walk"));
+        sheet.txtTitle->setText(QStringLiteral("The Lantern That Went for a Walk"));
         sheet.btnCancel->setFocus();
         save(iProgram.pictureOfSheet(), "publish");
         savePicture("publish-window");
@@ -197,8 +211,10 @@ Options parse(int argc, char** argv) {
         std::exit(2);
     }
     qputenv("QT_SCALE_FACTOR", parser.value(text("scale")).toLatin1());
-    return {parser.positionalArguments().at(0), parser.positionalArguments().at(1),
-            parser.value(text("language")),
+    const auto folder = [&parser](int place) {
+        return QDir(parser.positionalArguments().at(place)).absolutePath();
+    };
+    return {folder(0), folder(1), parser.value(text("language")),
             parser.value(text("only")).split(u',', Qt::SkipEmptyParts), parser.isSet(text("jpeg"))};
 }
 
@@ -219,6 +235,9 @@ int main(int argc, char** argv) {
     AppSettings::shareInstance().loadSettings();
     if (!QDir().mkpath(options.output))
         qFatal("cannot make %s", qPrintable(options.output));
+    // The documents' paths show in the pictures: they are to be short, and nobody's own.
+    const QTemporaryDir documents;
+    QDir::setCurrent(documents.path());
     Shots(options).take();
     return 0;
 }

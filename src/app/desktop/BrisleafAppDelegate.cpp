@@ -182,6 +182,7 @@ void BrisleafAppDelegate::OnExportFlipBook() {
     iOuputWindow->setFlashPageSource(iFlashPageSource);
     iOuputWindow->setFlashOutline(iFlashOutline);
     iOuputWindow->setFlashPagesAnnotations(iFlashPagesAnnotations);
+    iOuputWindow->setDocumentName(iWindow->documentName());
     iOuputWindow->beginSheet();
 }
 
@@ -236,7 +237,10 @@ void BrisleafAppDelegate::selectTmplWindowDidEnd(int returnCode) {
 }
 
 void BrisleafAppDelegate::OnOpenHelp() {
-    const QString file = Bundle::pathForResource(helpFile, {});
+    //: The help in your language; keep the path as it is until there is one.
+    const QString named = tr("PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf");
+    const QString local = Bundle::pathForResource(named, {});
+    const QString file = local.isNull() ? Bundle::pathForResource(helpFile, {}) : local;
     if (file.isNull())
         iWindow->messages->tell(tr("The help cannot be opened."),
                                 tr("The file %1 is missing.").arg(helpFile));

@@ -55,6 +55,8 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iWindow->activateWindow();
     iFlashPreviewFolder = QStringLiteral("");
     frameMainWindow();
+    // Not on the first button: nothing is to happen at a stray key.
+    iWindow->outlineView->setFocus();
     loadDemoPages();
     iFlashTmpl = std::make_shared<FlashTemplate>();
     showEditor();

@@ -150,7 +150,8 @@ QWidget* MainWindow::previewSide() {
 
 void MainWindow::setDocumentName(const QString& name) {
     //: The title of the window; %1 is the name of the document.
-    setWindowTitle(tr("%1 – Folvero").arg(name.isNull() ? tr("Demo book") : name));
+    iDocumentName = name.isNull() ? tr("Demo book") : name;
+    setWindowTitle(tr("%1 – Folvero").arg(iDocumentName));
 }
 
 void MainWindow::restoreSizes() {

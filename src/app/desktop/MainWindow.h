@@ -33,6 +33,7 @@ public:
 
     // Null for the book that is shown before the first import.
     void setDocumentName(const QString& name);
+    const QString& documentName() const { return iDocumentName; }
 
 Q_SIGNALS:
     void fileDropped(const QString& path);
@@ -51,6 +52,7 @@ private:
     void restoreSizes();
     void saveSizes() const;
 
+    QString iDocumentName;
     QSplitter* iSides;
     QSplitter* iEditorAndTip;
 };

@@ -1,0 +1,20 @@
+#!/bin/sh
+# Takes the pictures of the program that the help and the README show, and those of published books.
+# Run by hand after a change of the looks; the pictures are kept in the repository.
+# Usage: make-pictures.sh [BUILD]
+set -eu
+cd "$(dirname "$0")/.."
+build=${1:-build/release}
+cmake --build "$build" --target folvero-window-shots resources sample-pdfs >/dev/null
+
+for language in en de; do
+    "$build/bin/folvero-window-shots" --jpeg --scale 2 --language $language \
+        --only start,editing,settings,import,import-failed,message,chooser,publish \
+        "$build/samples" resources/help/pictures/$language 2>/dev/null
+done
+windows=$(mktemp -d)
+trap 'rm -rf "$windows"' EXIT
+"$build/bin/folvero-window-shots" --only editing,chooser "$build/samples" "$windows" 2>/dev/null
+mv "$windows/editing-light.png" docs/images/window.png
+mv "$windows/chooser-dark.png" docs/images/window-dark.png
+node tools/screenshots.mjs --readme "$build/share/folvero"
