@@ -1,13 +1,13 @@
 #include "cli/OutputFolder.h"
 
 #include "cli/CommandError.h"
+#include "platform/Message.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryFile>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -50,7 +50,7 @@ void OutputFolder::make(const QString& path) {
         iFirstMade = folder;
     if (!iFirstMade.isNull() && !QDir().mkpath(iPath)) {
         throw CommandError(QStringLiteral("%1: the output folder can't be made (%2)")
-                               .arg(path, QString::fromLocal8Bit(std::strerror(errno))));
+                               .arg(path, Message::ofLastSystemError().english()));
     }
     if (!QFileInfo(iPath).isDir())
         throw CommandError(QStringLiteral("%1: is a file, not a folder").arg(path));

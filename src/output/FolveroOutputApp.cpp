@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <unistd.h>
@@ -40,7 +39,7 @@ void copyShell(const QString& contents) {
     if (error) {
         Log("FolveroOutputApp")
             .error(QStringLiteral("ouput the book,copy failed:%1")
-                       .arg(QString::fromStdString(error.message())));
+                       .arg(Message::ofSystemError(error.value()).english()));
     }
 }
 

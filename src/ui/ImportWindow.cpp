@@ -45,7 +45,7 @@ ImportWindow::ImportWindow(QWidget* parent)
     all->addStretch();
     all->addWidget(progressRow());
     all->addWidget(buttonRow(btnOK));
-    resize(560, sizeHint().height());
+    resize(sizeHint().expandedTo({usualWidth, 0}));
 }
 
 void ImportWindow::makeFileField() {

@@ -33,7 +33,7 @@ OutputWindow::OutputWindow(QWidget* parent)
     all->addLayout(form);
     all->addStretch();
     all->addWidget(buttonRow(btnPublish));
-    resize(560, sizeHint().height());
+    resize(sizeHint().expandedTo({usualWidth, 0}));
 }
 
 QWidget* OutputWindow::typeRow() {

@@ -25,6 +25,8 @@ Q_SIGNALS:
 protected:
     // Around all that a sheet holds.
     static constexpr QMargins margins{16, 14, 16, 14};
+    // Of a sheet whose texts do not ask for more.
+    static constexpr int usualWidth = 560;
     // Widgets side by side; the first takes the room that is left.
     static QWidget* row(const QList<QWidget*>& widgets);
     // The button to cancel with, and the one that Return presses.

@@ -110,8 +110,9 @@ bool hasRoom(const QWidget& widget) {
     const bool isCaption =
         qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget) ||
         qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QMenuBar*>(&widget);
+    // Styles are a pixel out in the height of what has a frame.
     return !isCaption || (widget.width() >= widget.sizeHint().width() &&
-                          widget.height() >= widget.sizeHint().height());
+                          widget.height() + 1 >= widget.sizeHint().height());
 }
 
 } // namespace
@@ -134,7 +135,13 @@ QStringList WindowTexts::cutOff(const QWidget& window) {
             continue;
         QStringList content;
         addContent(*widget, content);
-        found << QString::fromLatin1(widget->metaObject()->className()) + u' ' + content.join(u'|');
+        found << QStringLiteral("%1 “%2”: %3x%4 instead of %5x%6")
+                     .arg(QString::fromLatin1(widget->metaObject()->className()),
+                          content.join(u'|'))
+                     .arg(widget->width())
+                     .arg(widget->height())
+                     .arg(widget->sizeHint().width())
+                     .arg(widget->sizeHint().height());
     }
     return found;
 }

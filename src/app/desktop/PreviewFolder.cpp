@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QLockFile>
 #include <cerrno>
-#include <cstring>
 
 namespace {
 
