@@ -490,11 +490,11 @@
     </message>
     <message>
         <source>%1 – Folvero</source>
-        <extracomment>The title of the window; %1 is the name of the document.</extracomment>
         <translation>%1 – Folvero</translation>
     </message>
     <message>
         <source>Demo book</source>
+        <extracomment>The title of the window; %1 is the name of the document.</extracomment>
         <translation>Demobuch</translation>
     </message>
 </context>
