@@ -34,6 +34,7 @@ TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
     EXPECT_EQ(window().btnFloat->text(), text("Float"));
     EXPECT_TRUE(window().windowTitle().contains(text("Demo book")));
     EXPECT_TRUE(QFontInfo(window().toolTip->font()).fixedPitch());
+    EXPECT_TRUE(QFontInfo(window().toolTip->viewport()->font()).fixedPitch());
     EXPECT_EQ(evaluate(text("document.title")).toString(), text("Preview"));
     EXPECT_EQ(configuration().at(text("Ppts")).children.size(), 12u);
     const QString support = Folders::userApplicationSupport();

@@ -61,7 +61,10 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iFlashTmpl = std::make_shared<FlashTemplate>();
     showEditor();
     observeEditor();
-    iWindow->toolTip->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    iWindow->toolTip->setFont(fixed);
+    // A style sheet keeps the font from getting through to where the text is drawn.
+    iWindow->toolTip->viewport()->setFont(fixed);
     applyChange(OtherBook);
 }
 
