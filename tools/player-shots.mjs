@@ -14,7 +14,8 @@ const here = path.dirname(fileURLToPath(import.meta.url));
 const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
 
 const VIEW = { width: 800, height: 600 };
-const SHOT = { width: 320, height: 240 };
+// What the chooser shows at two pixels a point, and a little more.
+const SHOT = { width: 480, height: 360 };
 const ICON = 64;
 
 /** The style that an icon shows a template in. */

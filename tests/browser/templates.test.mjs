@@ -111,7 +111,7 @@ for (const [template, style] of everyStyle) {
       used.push(value.replace('STYLE_RESOURCE:', ''));
     }
     assert.deepEqual(readdirSync(folder).sort(), used.sort(), 'the files that the values name and no others');
-    assert.deepEqual(sizeOf(path.join(folder, 'shot.jpg')), [320, 240]);
+    assert.deepEqual(sizeOf(path.join(folder, 'shot.jpg')), [480, 360]);
     if (style === 'Blank') assert.equal(used.length, 2, 'neither pictures nor sounds');
   });
 }
