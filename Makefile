@@ -5,11 +5,12 @@ BUILD := build/$(PRESET)
 OUT ?= out
 PDF ?= $(BUILD)/samples/sample.pdf
 
-.PHONY: book app test bench packages build format format-check tidy help
+.PHONY: book app package test bench packages build format format-check tidy help
 
 help:
 	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
 	@echo "make app [PDF=file.pdf]                 start the program with its window"
+	@echo "make package                            make Debian packages to install it with"
 	@echo "make test                               build and run every test"
 	@echo "make bench                              measure, see docs/performance.md"
 	@echo "make format-check                       check the format of the C++ code"
@@ -31,6 +32,11 @@ book: build
 # A PDF that was named is imported at once.
 app: build
 	@$(BUILD)/bin/folvero-desktop $(if $(filter command% environment%,$(origin PDF)),"$(PDF)")
+
+# The same as `cpack` in the build folder, which says less clearly what it made.
+package: build
+	@cd $(BUILD) && cpack >package.log 2>&1 || { cat package.log; exit 1; }
+	@sed -n 's/^CPack: - package: \(.*\) generated\.$$/\1/p' $(BUILD)/package.log
 
 test: build format-check
 	@ctest --preset $(PRESET)

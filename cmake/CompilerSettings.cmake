@@ -5,6 +5,8 @@ target_compile_options(folvero-settings INTERFACE
     -Wno-sign-conversion -Werror)
 target_compile_definitions(folvero-settings INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
+# Tables of functions are filled in and sealed before a document is read.
+target_link_options(folvero-settings INTERFACE -Wl,-z,now)
 
 set(FOLVERO_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
 if(FOLVERO_SANITIZE)

@@ -1,11 +1,10 @@
 #include "pages/PageWorkers.h"
 
+#include "platform/Bundle.h"
 #include "platform/EngineLimits.h"
-#include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <algorithm>
 #include <poll.h>
@@ -40,16 +39,11 @@ Message reasonFrom(const QByteArray& words) {
              Message::translate("SystemError", words.mid(colon + 2)));
 }
 
-QString installedWorker() {
-    return Files::join(QCoreApplication::applicationDirPath(),
-                       QStringLiteral("folvero-page-worker"));
-}
-
 } // namespace
 
 PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vector<int> pages,
                          const std::atomic<bool>& stop)
-    : iProgram(installedWorker()),
+    : iProgram(Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker"))),
       iPDFPath(std::move(pdfPath)),
       iFolder(std::move(folder)),
       iQuality(quality),

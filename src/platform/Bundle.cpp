@@ -11,13 +11,20 @@ QString& resourceOverride() {
     return path;
 }
 
+QString besideProgramFolder(const QString& path) {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../") + path);
+}
+
 } // namespace
 
 QString Bundle::resourcePath() {
     if (!resourceOverride().isNull())
         return resourceOverride();
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                           QStringLiteral("/../share/folvero"));
+    return besideProgramFolder(QStringLiteral("share/folvero"));
+}
+
+QString Bundle::pathForAuxiliaryExecutable(const QString& name) {
+    return besideProgramFolder(QStringLiteral("libexec/folvero/") + name);
 }
 
 void Bundle::setResourcePath(const QString& path) {

@@ -10,6 +10,10 @@ namespace Bundle {
 // share/folvero/ beside the bin/ folder that the running program lies in.
 QString resourcePath();
 
+// Path of a program that only ours start: it lies in libexec/folvero/ beside bin/, so that it is in
+// nobody's search path.
+QString pathForAuxiliaryExecutable(const QString& name);
+
 // Tests point the program at a library of their own. A null text goes back to the installed one.
 void setResourcePath(const QString& path);
 

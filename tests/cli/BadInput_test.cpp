@@ -42,11 +42,11 @@ protected:
 class BadTemplateTest : public BadInputTest {
 protected:
     BadTemplateTest() {
-        QDir(iRoot.path()).mkpath(QStringLiteral("bin"));
-        QDir(iRoot.path()).mkpath(QStringLiteral("share"));
-        for (const char* name : {"folvero", "folvero-page-worker"}) {
+        for (const char* folder : {"bin", "share", "libexec/folvero"})
+            QDir(iRoot.path()).mkpath(QString::fromLatin1(folder));
+        for (const char* name : {"bin/folvero", "libexec/folvero/folvero-page-worker"}) {
             const QString file = QString::fromLatin1(name);
-            EXPECT_TRUE(QFile::copy(Program::path(file), inFolder(QStringLiteral("bin/") + file)));
+            EXPECT_TRUE(QFile::copy(Program::path(QStringLiteral("../") + file), inFolder(file)));
         }
         QFile::link(library.path(), inFolder(QStringLiteral("share/folvero")));
     }

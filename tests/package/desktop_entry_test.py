@@ -1,0 +1,86 @@
+"""The entry in the menu, the page in a software centre, and the icon."""
+
+import configparser
+import re
+import struct
+import subprocess
+import tempfile
+import unittest
+import xml.etree.ElementTree as xml
+from pathlib import Path
+
+from support import SOURCE, VERSION, contents
+
+ENTRY = "./usr/share/applications/folvero.desktop"
+METAINFO = "./usr/share/metainfo/invalid.folvero.folvero.metainfo.xml"
+LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
+
+
+class DesktopEntry(unittest.TestCase):
+    files = contents("folvero-desktop")
+
+    def read(self, path):
+        return self.files.extractfile(path).read()
+
+    def check(self, path, *command):
+        """Runs a checker over a file of the package."""
+        with tempfile.TemporaryDirectory() as folder:
+            file = Path(folder, Path(path).name)
+            file.write_bytes(self.read(path))
+            result = subprocess.run([*command, file], capture_output=True, text=True)
+        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        return result.stdout + result.stderr
+
+    def entry(self):
+        parser = configparser.ConfigParser(interpolation=None, delimiters="=")
+        parser.optionxform = str
+        parser.read_string(self.read(ENTRY).decode())
+        return parser["Desktop Entry"]
+
+    def test_entry_is_valid_and_leads_to_the_program(self):
+        self.assertEqual(self.check(ENTRY, "desktop-file-validate"), "")
+        entry = self.entry()
+        program, argument = entry["Exec"].split()
+        self.assertIn(f"./usr/bin/{program}", self.files.getnames())
+        self.assertEqual(argument, "%f")
+        self.assertEqual(entry["MimeType"], "application/pdf;")
+
+    def test_windows_are_known_by_the_name_of_the_entry(self):
+        sources = "".join(path.read_text() for path in (SOURCE / "src/app/desktop").glob("*.cpp"))
+        told = re.search(r'setDesktopFileName\(QStringLiteral\("(.*?)"\)\)', sources).group(1)
+        self.assertEqual(told + ".desktop", Path(ENTRY).name)
+        # X11 windows tell the name of the application instead.
+        header = (SOURCE / "src/app/desktop/BrisleafAppDelegate.h").read_text()
+        name = re.search(r'APP_NAME\[\] = u"(.*?)"', header).group(1)
+        self.assertEqual(self.entry()["StartupWMClass"], name)
+
+    def test_entry_speaks_english_and_german(self):
+        entry = self.entry()
+        for key in ("Name", "GenericName", "Comment", "Keywords"):
+            self.assertTrue(entry[key] and entry[f"{key}[de]"])
+
+    def test_metainfo_is_valid_and_of_this_version(self):
+        self.check(METAINFO, "appstreamcli", "validate", "--no-net")
+        root = xml.fromstring(self.read(METAINFO))
+        self.assertEqual(root.findtext("launchable"), Path(ENTRY).name)
+        self.assertEqual(root.find("releases/release").get("version"), VERSION.rsplit("-", 1)[0])
+        for english in root.findall("summary") + root.findall("description//"):
+            if english.get(LANGUAGE) is None and english.tag in ("summary", "p", "li"):
+                with self.subTest(english.text):
+                    parents = {child: parent for parent in root.iter() for child in parent}
+                    beside = list(parents[english])
+                    german = beside[beside.index(english) + 1]
+                    self.assertEqual((german.tag, german.get(LANGUAGE)), (english.tag, "de"))
+
+    def test_icon_comes_in_each_size(self):
+        folder = "./usr/share/icons/hicolor"
+        name = self.entry()["Icon"]
+        for size in (16, 22, 24, 32, 48, 64, 128, 256, 512):
+            picture = self.read(f"{folder}/{size}x{size}/apps/{name}.png")
+            self.assertEqual(picture[:8], b"\x89PNG\r\n\x1a\n")
+            self.assertEqual(struct.unpack(">II", picture[16:24]), (size, size))
+        xml.fromstring(self.read(f"{folder}/scalable/apps/{name}.svg"))
+
+
+if __name__ == "__main__":
+    unittest.main()
