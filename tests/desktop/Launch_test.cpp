@@ -1,3 +1,4 @@
+#include "app/desktop/Appearance.h"
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
@@ -8,6 +9,7 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
+#include <QActionGroup>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -35,7 +37,6 @@ TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
     EXPECT_TRUE(window().windowTitle().contains(text("Demo book")));
     const QString fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
     EXPECT_EQ(window().toolTip->font().family(), fixed);
-    EXPECT_EQ(window().toolTip->viewport()->font().family(), fixed);
     EXPECT_EQ(evaluate(text("document.title")).toString(), text("Preview"));
     EXPECT_EQ(configuration().at(text("Ppts")).children.size(), 12u);
     const QString support = Folders::userApplicationSupport();
@@ -44,6 +45,18 @@ TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
     EXPECT_TRUE(log.contains("version is:" + Bundle::version().toLatin1())) << log.toStdString();
     program.reset();
     EXPECT_FALSE(QFileInfo::exists(support + text("/Folvero/preview")));
+}
+
+TEST_F(Launch, AppearanceIsChosenAndKeepsTheFontOfExplanations) {
+    launch();
+    const QString fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    for (QAction* choice : window().menu->appearance->actions()) {
+        choice->trigger();
+        const bool isDark = window().palette().color(QPalette::Window).lightness() < 128;
+        EXPECT_EQ(isDark, choice->data().toInt() == Appearance::dark);
+        EXPECT_EQ(window().toolTip->viewport()->font().family(), fixed);
+        EXPECT_EQ(window().toolTip->viewport()->font().weight(), QFont::Normal);
+    }
 }
 
 // The preview's engine is older than most browsers are.

@@ -18,6 +18,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
@@ -104,13 +105,14 @@ private:
     void takeImport() {
         ImportWindowDelegate& import = program().importWindow();
         program().OnImportPDF();
+        rest(200);
         import.window().txtImportFile->setText(document("picture-book.pdf", lantern));
         import.window().btnCancel->setFocus();
         save(iProgram.pictureOfSheet(), "import");
         savePicture("import-window");
         import.window().txtImportFile->setText(document("thousand.pdf", "Town chronicle"));
         import.onImportAction();
-        rest(1'500);
+        waitUntil([&] { return !import.window().lblInfo->text().isEmpty(); }, "progress");
         save(iProgram.pictureOfSheet(), "importing");
         import.onCancelAction();
         waitUntil([&] { return !import.isImporting(); }, "the cancelled import");

@@ -4,6 +4,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QFile>
+#include <QFontDatabase>
 #include <QSettings>
 
 namespace {
@@ -82,6 +83,9 @@ QString Appearance::styleSheet(bool isDark) {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QString sheet = QString::fromUtf8(file.readAll());
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    sheet.replace(QStringLiteral("@fixedFont"),
+                  QStringLiteral("normal %1pt \"%2\"").arg(fixed.pointSize()).arg(fixed.family()));
     const QPalette colors = palette(isDark);
     // A name that begins like another one comes before it.
     for (const auto& [name, value] : std::initializer_list<std::pair<const char*, QColor>>{

@@ -61,10 +61,7 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iFlashTmpl = std::make_shared<FlashTemplate>();
     showEditor();
     observeEditor();
-    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    iWindow->toolTip->setFont(fixed);
-    // A style sheet keeps the font from getting through to where the text is drawn.
-    iWindow->toolTip->viewport()->setFont(fixed);
+    iWindow->toolTip->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     applyChange(OtherBook);
 }
 
