@@ -121,9 +121,10 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     output.ouputTheBook();
     const QString result = output.outputFileName();
     if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
-        const QString cause = output.publishErrors().isEmpty()
-                                  ? tr("The folder %1 could not be made.").arg(QFileInfo(result).path())
-                                  : localTexts(output.publishMessages()).join(u'\n');
+        const QString cause =
+            output.publishErrors().isEmpty()
+                ? tr("The folder %1 could not be made.").arg(QFileInfo(result).path())
+                : localTexts(output.publishMessages()).join(u'\n');
         iQuestions.tell(tr("The book was not published"), cause);
         return;
     }
