@@ -3,6 +3,8 @@ add_library(folvero-settings INTERFACE)
 target_compile_options(folvero-settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
     -Wno-sign-conversion -Werror)
+# Log records name source files; where these were built is nobody's business.
+target_compile_options(folvero-settings INTERFACE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 target_compile_definitions(folvero-settings INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
 # Tables of functions are filled in and sealed before a document is read.
