@@ -252,6 +252,7 @@ void ImportWindowDelegate::takePageSize() {
 void ImportWindowDelegate::showFailure(const QStringList& failures) {
     iWindow->lblFailure->setText(failures.join(u'\n'));
     iWindow->lblFailure->setVisible(!failures.isEmpty());
+    iWindow->growToContent();
 }
 
 void ImportWindowDelegate::onCancelAction() {

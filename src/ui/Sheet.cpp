@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <algorithm>
 
 Sheet::Sheet(const QString& title, QWidget* parent)
     : QDialog(parent), btnCancel(new QPushButton(tr("Cancel"), this)) {
@@ -31,4 +32,10 @@ QWidget* Sheet::buttonRow(QPushButton* main) {
     layout->addWidget(main);
     main->setDefault(true);
     return row;
+}
+
+void Sheet::growToContent() {
+    const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width())
+                                                     : layout()->totalMinimumSize().height();
+    resize(width(), std::max(height(), needed));
 }

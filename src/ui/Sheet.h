@@ -16,6 +16,10 @@ public:
 
     QPushButton* btnCancel;
 
+    // Makes room for what has been shown or has become longer; a text that wraps would otherwise
+    // take its room from the other controls.
+    void growToContent();
+
     void reject() override { Q_EMIT closeRequested(); }
 
 Q_SIGNALS:

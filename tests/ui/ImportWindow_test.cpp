@@ -238,3 +238,16 @@ TEST_F(ImportSheet, AsksForAFileAndOpensIt) {
     click(window().btnOpenFile);
     EXPECT_EQ(opened, text("/a/b.pdf"));
 }
+
+TEST_F(ImportSheet, LongMessageTakesNoRoomFromTheControls) {
+    open();
+    window().txtImportFile->setText(text("/no such folder ").repeated(60));
+    click(window().btnOK);
+    ASSERT_TRUE(waitForIdle());
+    QTest::qWait(20);
+    const QLabel& message = *window().lblFailure;
+    EXPECT_GE(message.height(), message.heightForWidth(message.width()));
+    for (const QWidget* control : std::initializer_list<QWidget*>{
+             window().txtImportFile, window().importQuality, window().btnOK})
+        EXPECT_GE(control->height(), control->minimumSizeHint().height());
+}
