@@ -33,6 +33,18 @@ QString FlashTemplateModel::columnName(const QModelIndex& index) {
     return index.column() == key ? QStringLiteral("key") : QStringLiteral("value");
 }
 
+QModelIndex FlashTemplateModel::valueForKey(const QString& propertyKey,
+                                            const QModelIndex& parent) const {
+    for (int row = 0; row < rowCount(parent); ++row) {
+        const QModelIndex title = index(row, key, parent);
+        if (item(title)->key() == propertyKey)
+            return title.siblingAtColumn(value);
+        if (const QModelIndex below = valueForKey(propertyKey, title); below.isValid())
+            return below;
+    }
+    return {};
+}
+
 QModelIndex FlashTemplateModel::index(int row, int column, const QModelIndex& parent) const {
     FlashTemplateProperty* child = iSource.child(row, item(parent));
     return child && column >= 0 && column <= value ? createIndex(row, column, child)

@@ -23,6 +23,8 @@ public:
     // nullptr for an index of no row.
     static FlashTemplateProperty* item(const QModelIndex& index);
     static QString columnName(const QModelIndex& index);
+    // The value of the property with that key, at whatever depth; invalid when there is none.
+    QModelIndex valueForKey(const QString& propertyKey, const QModelIndex& parent = {}) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;

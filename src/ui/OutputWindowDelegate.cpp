@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "output/FolveroOutputApp.h"
+#include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
 #include "ui/OutputWindow.h"
@@ -51,22 +52,26 @@ void OutputWindowDelegate::awakeFromNib() {
 }
 
 void OutputWindowDelegate::beginSheet() {
-    fillEmptyFields();
+    proposeTexts();
     showState();
     iWindow->open();
 }
 
-// A book that nobody has published before gets what most people would type.
-void OutputWindowDelegate::fillEmptyFields() {
-    const auto propose = [](QLineEdit* field, const QString& text) {
-        if (field->text().isEmpty())
+// What most people would type, for a book that nobody has published before. Another document gets
+// other proposals: it must not end up in the folder of the one before. What the user has typed
+// stays.
+void OutputWindowDelegate::proposeTexts() {
+    const auto propose = [](QLineEdit* field, QString& proposed, const QString& text) {
+        if (field->text().isEmpty() || field->text() == proposed)
             field->setText(text);
+        proposed = text;
     };
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString folder = QFileInfo::exists(documents) ? documents : QDir::homePath();
-    propose(iWindow->txtOutputFolder, folder + u'/' + iDocumentName);
-    propose(iWindow->txtOutputName, QStringLiteral("index"));
-    propose(iWindow->txtTitle, iDocumentName);
+    const QString parent = QFileInfo::exists(documents) ? documents : QDir::homePath();
+    propose(iWindow->txtOutputFolder, iProposedFolder, Files::join(parent, iDocumentName));
+    propose(iWindow->txtTitle, iProposedTitle, iDocumentName);
+    if (iWindow->txtOutputName->text().isEmpty())
+        iWindow->txtOutputName->setText(QStringLiteral("index"));
 }
 
 // Without a folder or a name there is no telling where the book would end up.

@@ -36,7 +36,7 @@ public:
         iFlashPagesAnnotations = std::move(value);
     }
 
-    // What the fields that are still empty are filled with.
+    // What the folder and the title are proposed after.
     void setDocumentName(const QString& name) { iDocumentName = name; }
 
     // How the user is asked: for a folder (none when cancelled), whether to open the result (true
@@ -57,7 +57,7 @@ public:
 
 private:
     void awakeFromNib();
-    void fillEmptyFields();
+    void proposeTexts();
     void showState();
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput() const;
@@ -70,5 +70,7 @@ private:
     std::shared_ptr<FlashOutline> iFlashOutline;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
     QString iDocumentName;
+    QString iProposedFolder;
+    QString iProposedTitle;
     Questions iQuestions;
 };

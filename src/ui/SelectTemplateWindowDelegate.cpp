@@ -15,7 +15,6 @@
 namespace {
 
 const QString pictureFile = QStringLiteral("shot.jpg");
-const QString iconFile = QStringLiteral("icon.png");
 constexpr std::size_t usualCount = 12;
 constexpr int mostFailuresTold = 3;
 
@@ -186,8 +185,12 @@ QString SelectTemplateWindowDelegate::objectValueForTableColumn(const QString& /
 std::unique_ptr<SelectTmplItemCell>
 SelectTemplateWindowDelegate::dataCellForTableColumn(const QString& column, int row) const {
     auto cell = std::make_unique<SelectTmplItemCell>(objectValueForTableColumn(column, row));
-    cell->setTmplIconFile(Files::join(iTmplListData.at(row), iconFile));
+    cell->setTmplIconFile(iconFileIn(iTmplListData.at(row)));
     return cell;
+}
+
+QString SelectTemplateWindowDelegate::iconFileIn(const QString& tmplPath) {
+    return Files::join(tmplPath, QStringLiteral("icon.png"));
 }
 
 QString SelectTemplateWindowDelegate::readableName(const QString& tmplName) {

@@ -59,6 +59,8 @@ public:
 
     // Why a template can't be used, in words; a null text when it can.
     QString failureOf(const QString& tmplName) const;
+    // The picture that stands for the template whose folder that is.
+    static QString iconFileIn(const QString& tmplPath);
     // A template's name as people write it: each word with a capital and small letters after it.
     static QString readableName(const QString& tmplName);
 

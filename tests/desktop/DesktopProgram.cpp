@@ -21,17 +21,6 @@ namespace {
 
 constexpr int longEnough = 30'000; // ms
 
-QModelIndex find(const QAbstractItemModel& model, const QString& key, const QModelIndex& parent) {
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, FlashTemplateModel::key, parent);
-        if (FlashTemplateModel::item(index)->key() == key)
-            return index;
-        if (const QModelIndex below = find(model, key, index); below.isValid())
-            return below;
-    }
-    return {};
-}
-
 } // namespace
 
 DesktopProgram::DesktopProgram() {
@@ -84,8 +73,7 @@ BookElement DesktopProgram::configuration() const {
 }
 
 QModelIndex DesktopProgram::valueOf(const QString& key) const {
-    const QModelIndex title = find(program->outline(), key, {});
-    const QModelIndex index = title.siblingAtColumn(FlashTemplateModel::value);
+    const QModelIndex index = program->outline().valueForKey(key);
     window().outlineView->scrollTo(index);
     window().outlineView->setCurrentIndex(index);
     return index;

@@ -96,6 +96,12 @@ TEST_F(PublishSheet, ProposesWhatWasNeverChosenAndAsksForTheRest) {
     EXPECT_EQ(window().txtOutputName->text(), text("index"));
     EXPECT_EQ(window().txtTitle->text(), text("Field trip"));
     EXPECT_TRUE(window().btnPublish->isEnabled());
+    window().txtTitle->setText(text("My title"));
+    sheet->setDocumentName(text("Chronicle"));
+    sheet->beginSheet();
+    EXPECT_EQ(QFileInfo(window().txtOutputFolder->text()).fileName(), text("Chronicle"))
+        << "the earlier book would be replaced";
+    EXPECT_EQ(window().txtTitle->text(), text("My title"));
     window().txtOutputName->setText(text(" "));
     EXPECT_FALSE(window().btnPublish->isEnabled());
     window().txtOutputName->setText(text("trip"));

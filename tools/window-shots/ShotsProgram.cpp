@@ -23,17 +23,6 @@ namespace {
 constexpr int longEnough = 30'000; // ms
 constexpr int turnTime = 1'800;    // ms
 
-QModelIndex find(const QAbstractItemModel& model, const QString& key, const QModelIndex& parent) {
-    for (int row = 0; row < model.rowCount(parent); ++row) {
-        const QModelIndex index = model.index(row, FlashTemplateModel::key, parent);
-        if (FlashTemplateModel::item(index)->key() == key)
-            return index.siblingAtColumn(FlashTemplateModel::value);
-        if (const QModelIndex below = find(model, key, index); below.isValid())
-            return below;
-    }
-    return {};
-}
-
 QWidget* openSheet() {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (qobject_cast<QDialog*>(widget) && widget->isVisible())
@@ -119,7 +108,7 @@ void ShotsProgram::showPage(int page) {
 }
 
 void ShotsProgram::select(const QString& key) {
-    const QModelIndex index = find(iProgram.outline(), key, {});
+    const QModelIndex index = iProgram.outline().valueForKey(key);
     window().outlineView->scrollTo(index, QAbstractItemView::PositionAtCenter);
     window().outlineView->setCurrentIndex(index);
     rest(100);

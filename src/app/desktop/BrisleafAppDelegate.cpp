@@ -254,7 +254,7 @@ void BrisleafAppDelegate::showTemplate(const QString& name) {
     iWindow->outlineView->expandAll();
     iWindow->btnFloat->setText(TemplateTexts::templateName(name));
     iWindow->btnFloat->setIcon(
-        QIcon(Files::join(FlashTemplate::tmplPathForName(name), QStringLiteral("icon.png"))));
+        QIcon(SelectTemplateWindowDelegate::iconFileIn(FlashTemplate::tmplPathForName(name))));
     if (!iFlashTmpl->loadError().isNull())
         iWindow->messages->tell(
             tr("The template “%1” is damaged.").arg(TemplateTexts::templateName(name)),

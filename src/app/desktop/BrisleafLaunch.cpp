@@ -19,7 +19,6 @@
 
 #include <QActionGroup>
 #include <QApplication>
-#include <QFontDatabase>
 #include <QItemSelectionModel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -61,7 +60,6 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iFlashTmpl = std::make_shared<FlashTemplate>();
     showEditor();
     observeEditor();
-    iWindow->toolTip->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     applyChange(OtherBook);
 }
 

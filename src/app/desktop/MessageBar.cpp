@@ -44,20 +44,16 @@ QString MessageBar::message() const {
     return text.toPlainText();
 }
 
+// The signs; the style sheet does the rest.
 void MessageBar::dress() {
     const bool dark = palette().color(QPalette::Window).lightness() < 128;
-    const auto [ground, ink, line] = Appearance::noteColors(dark);
-    iDressing = true;
-    setStyleSheet(QStringLiteral("#messageBar{background:%1;border:0;border-bottom:1px solid %3}"
-                                 "#messageBar QLabel{color:%2}")
-                      .arg(ground.name(), ink.name(), line.name()));
-    iDressing = false;
+    const QColor ink = Appearance::noteColors(dark).ink;
     iIcon->setPixmap(Icons::icon(QStringLiteral("warning"), ink).pixmap(18, 18));
     iClose->setIcon(Icons::icon(QStringLiteral("close"), ink));
 }
 
 void MessageBar::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && !iDressing)
+    if (event->type() == QEvent::PaletteChange)
         dress();
 }

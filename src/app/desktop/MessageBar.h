@@ -24,5 +24,4 @@ private:
     QLabel* iText;
     QLabel* iIcon;
     QToolButton* iClose;
-    bool iDressing = false;
 };
