@@ -16,8 +16,7 @@ after(() => reader.stop());
 
 /** What a check of the page as it stands finds, one line a fault. */
 async function faults(book) {
-  await book.page.evaluate(() => Promise.all(document.getAnimations()
-    .filter(({ effect }) => Number.isFinite(effect.getComputedTiming().endTime)).map(({ finished }) => finished)));
+  await book.rest();
   await book.page.evaluate(axe);
   const { violations } = await book.page.evaluate(() => window.axe.run(document));
   return violations.flatMap(({ id, help, nodes }) => nodes.map(({ html }) => `${id}: ${help}: ${html}`));

@@ -18,10 +18,11 @@ async function openDrawer(book) {
   await drawn(book);
 }
 
-/** Waits until all thumbnails in the document are drawn. */
-function drawn(book) {
-  return book.page.waitForFunction(() => window.folvero.drawerImages === 0
+/** Waits until all thumbnails in the document are drawn, and have faded in. */
+async function drawn(book) {
+  await book.page.waitForFunction(() => window.folvero.drawerImages === 0
     && [...document.querySelectorAll('.thumb-picture')].every((one) => one.matches('.drawn, .missing')));
+  await book.rest();
 }
 
 const marked = (book) => book.page.locator('.thumb[aria-current]').evaluateAll((all) => all
@@ -32,8 +33,6 @@ const active = (book) => book.page.locator('.strip').evaluate((strip) => Number(
 /** Colour in the middle of the thumbnail of a page. */
 async function thumbColour(book, page) {
   const { x, y, width, height } = await book.page.locator(`#thumb-${page} .thumb-picture`).boundingBox();
-  await book.page.evaluate(() => Promise.all(document.getAnimations()
-    .filter(({ effect }) => Number.isFinite(effect.getComputedTiming().endTime)).map(({ finished }) => finished)));
   return book.colourAt(x + width / 2, y + height / 2);
 }
 

@@ -117,6 +117,12 @@ class OpenBook {
     });
   }
 
+  /** Waits until everything that moves or fades, and will end doing so, has come to rest. */
+  async rest() {
+    await this.page.evaluate(() => Promise.all(document.getAnimations()
+      .filter(({ effect }) => Number.isFinite(effect.getComputedTiming().endTime)).map(({ finished }) => finished)));
+  }
+
   /** Colour that is really on the screen at a place. */
   async colourAt(x, y) {
     const shot = await this.page.screenshot({ clip: { x: Math.round(x), y: Math.round(y), width: 1, height: 1 } });
