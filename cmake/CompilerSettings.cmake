@@ -15,4 +15,5 @@ if(FOLVERO_SANITIZE)
     add_compile_options(-fsanitize=${FOLVERO_SANITIZE} -fno-omit-frame-pointer
         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${FOLVERO_SANITIZE})
+    add_compile_definitions(FOLVERO_SANITIZED)
 endif()
