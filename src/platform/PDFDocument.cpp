@@ -139,6 +139,7 @@ void PDFDocument::Engine::open(Access access) {
     }
     if (get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
         failToOpen(path, Message::translate("PDFDocument", "is protected by a password"));
+    pageCount = countPages();
 }
 
 pdf_obj* PDFDocument::Engine::entry(pdf_obj* dictionary, const char* key) const {
@@ -164,7 +165,7 @@ Message PDFDocument::Engine::caughtReason() const {
     return QString::fromUtf8(fz_caught_message(context));
 }
 
-int PDFDocument::Engine::pageCount() const {
+int PDFDocument::Engine::countPages() const {
     return get(
         [this](fz_context* ctx) {
             return std::clamp(pdf_count_pages(ctx, document), 0, pdf_xref_len(ctx, document));
@@ -173,7 +174,6 @@ int PDFDocument::Engine::pageCount() const {
 }
 
 std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) const {
-    const int count = pageCount();
     const int page = get(
         [&](fz_context* ctx) {
             pdf_obj* target = destination;
@@ -192,7 +192,7 @@ std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) co
                                           : pdf_lookup_page_number(ctx, document, first);
         },
         -1);
-    return page >= 0 && page < count ? std::optional(page) : std::nullopt;
+    return page >= 0 && page < pageCount ? std::optional(page) : std::nullopt;
 }
 
 std::optional<int> PDFDocument::Engine::targetPage(pdf_obj* dictionary) const {
@@ -243,7 +243,7 @@ QString PDFDocument::path() const {
 }
 
 int PDFDocument::pageCount() const {
-    return iReader ? iReader->pageCount() : iEngine->pageCount();
+    return iReader ? iReader->pageCount() : iEngine->pageCount;
 }
 
 PDFPage PDFDocument::page(int index) const {
