@@ -22,3 +22,5 @@ if(FOLVERO_SANITIZE)
 endif()
 
 option(FOLVERO_FUZZ "Build the fuzz harnesses; the preset \"fuzz\" sets what else that takes" OFF)
+set(FOLVERO_ASSETS_OF "" CACHE PATH
+    "Build no more than the core, with the resources and sample documents of this build folder")
