@@ -43,6 +43,7 @@ run() {
         fi
     done
     echo "seconds: $((SECONDS - started))" >>"$log"
+    times | sed -n 's/^/processor: /;2p' >>"$log"
 }
 
 row() {
@@ -52,9 +53,10 @@ row() {
         /^stat::peak_rss_mb:/ { if ($2 > peak) peak = $2 }
         /Test unit written to .*-(crash|timeout|oom|leak)-/ { findings++ }
         /^seconds:/ { seconds = $2 }
+        /^processor:/ { split($2 "m" $3, t, /[ms]+/); used = (t[1] + t[3]) * 60 + t[2] + t[4] }
         END {
-            printf "| %s | %d | %d | %d | %d / %d | %d | %d | %d |\n", name, seconds / 60, units,
-                units / (seconds ? seconds : 1), cov, ft, corpus, peak, findings
+            printf "| %s | %d | %d | %d | %d | %d / %d | %d | %d | %d |\n", name, seconds / 60, used,
+                units, units / (used > 1 ? used : 1), cov, ft, corpus, peak, findings
         }' "$folder/logs/$1.log"
 }
 
@@ -66,8 +68,8 @@ for name in "${names[@]}"; do
 done
 wait
 
-echo "| harness | minutes | executions | per second | coverage / features | corpus | peak MB | findings |"
-echo "| --- | ---: | ---: | ---: | ---: | ---: | ---: | ---: |"
+echo "| harness | minutes | processor seconds | executions | per processor second | coverage / features | corpus | peak MB | findings |"
+echo "| --- | ---: | ---: | ---: | ---: | ---: | ---: | ---: | ---: |"
 for name in "${names[@]}"; do
     row "$name"
 done

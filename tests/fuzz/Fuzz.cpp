@@ -9,7 +9,7 @@
 // with reading it.
 extern "C" const char* __asan_default_options();
 extern "C" const char* __asan_default_options() {
-    return "max_free_fill_size=1048576:allocator_may_return_null=1";
+    return "max_free_fill_size=4096:quarantine_size_mb=64:allocator_may_return_null=1";
 }
 
 extern "C" const char* __ubsan_default_options();
