@@ -69,10 +69,14 @@ TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheDiskOfTheWorkFolderIsFull) 
 
 TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheFolderBecomesReadOnlyMeanwhile) {
     const auto result = run("mount -t tmpfs none \"$book\"; first\n"
-                            "\"$folvero\" publish --quiet \"$long\" \"$book\" >/dev/null & run=$!\n"
-                            "until pgrep -P $run >/dev/null; do sleep 0.01; done\n"
-                            "mount -o remount,ro \"$book\"\n"
-                            "code=0; wait $run || code=$?; tell");
+                            "long=${long%fifty.pdf}thousand.pdf\n"
+                            "errors=$(mktemp -u); mkfifo \"$errors\"\n"
+                            "\"$folvero\" publish \"$long\" \"$book\" 2>\"$errors\" >/dev/null &\n"
+                            "exec 3<\"$errors\"; rm \"$errors\"\n"
+                            // Its first word on its progress: it has tried the folder by then.
+                            "read progress <&3; kill -STOP $!\n"
+                            "mount -o remount,ro \"$book\"; kill -CONT $!\n"
+                            "code=0; sed -n '/^folvero: /p' <&3 >&2; wait $! || code=$?; tell");
     expectFailure(result, folder.path().toUtf8(), "Read-only file system");
 }
 
