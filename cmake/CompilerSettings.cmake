@@ -3,6 +3,9 @@ add_library(folvero-settings INTERFACE)
 target_compile_options(folvero-settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
     -Wno-sign-conversion -Werror)
+# A page source keeps the resolution that it is given, which no drawing asks for.
+target_compile_options(folvero-settings INTERFACE
+    $<$<CXX_COMPILER_ID:Clang>:-Wno-unused-private-field>)
 # Log records name source files; where these were built is nobody's business.
 target_compile_options(folvero-settings INTERFACE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 target_compile_definitions(folvero-settings INTERFACE
@@ -15,4 +18,9 @@ if(FOLVERO_SANITIZE)
     add_compile_options(-fsanitize=${FOLVERO_SANITIZE} -fno-omit-frame-pointer
         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${FOLVERO_SANITIZE})
+    add_compile_definitions(FOLVERO_SANITIZED)
 endif()
+
+option(FOLVERO_FUZZ "Build the fuzz harnesses; the preset \"fuzz\" sets what else that takes" OFF)
+set(FOLVERO_ASSETS_OF "" CACHE PATH
+    "Build no more than the core, with the resources and sample documents of this build folder")

@@ -51,7 +51,7 @@ struct PDFDocument::Engine {
     Message caughtReason() const;
 
     // What the document says, but no more than it has objects.
-    int pageCount() const;
+    int countPages() const;
 
     pdf_obj* entry(pdf_obj* dictionary, const char* key) const;
     QString text(pdf_obj* string) const;
@@ -71,6 +71,9 @@ struct PDFDocument::Engine {
     std::size_t allocated = 0; // bytes held by the engine
     fz_context* context = nullptr;
     pdf_document* document = nullptr;
+    // As counted when the file was opened. The engine may come upon damage later, mend the file and
+    // count anew; what was read before would then disagree with what is read after.
+    int pageCount = 0;
     void* mapping = nullptr;
     std::size_t mappingSize = 0;
 };

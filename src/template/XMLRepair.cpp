@@ -5,9 +5,12 @@
 #include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QThread>
+#include <algorithm>
+#include <cstdlib>
 #include <memory>
 #include <tidy/tidy.h>
 #include <tidy/tidybuffio.h>
+#include <unordered_set>
 
 namespace {
 
@@ -19,6 +22,46 @@ constexpr uint stackBytes = 64U << 20;
 
 // Some malformed text costs the library time that grows with the square of its length.
 constexpr qint64 maximumMilliseconds = 2000;
+
+// Memory for one run of the library. Of some malformed texts the library loses nodes for good, so
+// what it has not freed in the end is freed here.
+class Memory : private _TidyAllocator {
+public:
+    Memory() : _TidyAllocator{&functions} {}
+    ~Memory() {
+        for (void* block : iBlocks)
+            std::free(block);
+    }
+    Memory(const Memory&) = delete;
+    Memory& operator=(const Memory&) = delete;
+    TidyAllocator* get() { return this; }
+
+private:
+    static void* allocate(TidyAllocator* self, std::size_t size) noexcept {
+        return reallocate(self, nullptr, size);
+    }
+    // The library takes for granted that there is memory.
+    static void* reallocate(TidyAllocator* self, void* block, std::size_t size) noexcept {
+        auto& blocks = static_cast<Memory*>(self)->iBlocks;
+        blocks.erase(block);
+        void* moved = std::realloc(block, std::max<std::size_t>(size, 1));
+        if (!moved)
+            std::abort();
+        blocks.insert(moved);
+        return moved;
+    }
+    static void release(TidyAllocator* self, void* block) noexcept {
+        static_cast<Memory*>(self)->iBlocks.erase(block);
+        std::free(block);
+    }
+    [[noreturn]] static void panic(TidyAllocator* /*self*/, ctmbstr /*message*/) noexcept {
+        std::abort();
+    }
+
+    static constexpr TidyAllocatorVtbl functions{allocate, reallocate, release, panic};
+
+    std::unordered_set<void*> iBlocks;
+};
 
 class Buffer {
 public:
@@ -92,12 +135,14 @@ QByteArray withSpacePreserved(const QByteArray& text) {
 }
 
 QByteArray repairHere(const QByteArray& text) {
+    Memory memory;
     Buffer messages;
     Buffer output;
     const struct Release {
         void operator()(const _TidyDoc* document) const { tidyRelease(document); }
     } release;
-    const std::unique_ptr<const _TidyDoc, Release> document(tidyCreate(), release);
+    const std::unique_ptr<const _TidyDoc, Release> document(tidyCreateWithAllocator(memory.get()),
+                                                            release);
     setOptions(document.get());
     tidySetErrorBuffer(document.get(), messages.get());
     Source source(withSpacePreserved(text));

@@ -1,5 +1,7 @@
 #include "util/XMLText.h"
 
+#include <QStringDecoder>
+
 namespace {
 
 class TextCollector : public pugi::xml_tree_walker {
@@ -28,7 +30,10 @@ QString XMLText::textOf(const pugi::xml_node& element) {
     TextCollector collector;
     pugi::xml_node start = element;
     start.traverse(collector);
-    return QString::fromStdString(collector.text());
+    // A text may begin with the character that files use as their byte order mark.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    const QString text = decode(QByteArrayView(collector.text()));
+    return text.isNull() ? QStringLiteral("") : text;
 }
 
 QString XMLText::legal(const QString& text) {

@@ -87,6 +87,24 @@ TEST_F(PDFDocumentTest, RepairsADocumentWithoutItsCrossReferences) {
     EXPECT_EQ(PDFDocument::open(writeBytes(bytes))->pageCount(), 1);
 }
 
+// The link can't be read. When the engine comes to it, it looks through the whole file anew, which
+// ends at the second page: it then knows of no page any more.
+TEST_F(PDFDocumentTest, KeepsItsCountOfPagesWhateverIsReadLater) {
+    PDFBuilder pdf;
+    PDFBuilder::Page page = pageWith(redCorner);
+    page.annotations = {PDFBuilder::link({0, 0, 9, 9}, PDFBuilder::toURL("http://a.invalid/"))};
+    pdf.addPage(page);
+    pdf.addPage(pageWith(redCorner, {0, 0, 77, 77}));
+    QByteArray bytes = pdf.build();
+    bytes.replace("obj\n<< /Type /Annot", "obb\n<< /Type /Annot")
+        .replace("[0 0 77 77]", "[0(0 77 77]");
+    const auto document = PDFDocument::open(writeBytes(bytes));
+    ASSERT_EQ(document->pageCount(), 2);
+    document->page(0).annotations();
+    EXPECT_EQ(document->pageCount(), 2);
+    EXPECT_THROW(draw(*document, 1), PlatformException);
+}
+
 TEST_F(PDFDocumentTest, DrawsPagesTheWayTheyAreTurned) {
     struct Case {
         int rotate;

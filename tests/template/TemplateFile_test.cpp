@@ -1,9 +1,11 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 #include "template/FlashTemplate.h"
+#include "template/XMLRepair.h"
 
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 // How template files that are malformed, hostile or in odd encodings load.
 
@@ -147,6 +149,18 @@ TEST_F(TemplateFileTest, GivesUpARepairThatTakesTooLong) {
     load("<a " + QByteArray("x=1 ").repeated(1'000'000) + "/>");
     expectErrorAbout("line 1");
     EXPECT_LT(clock.elapsed(), 30'000);
+}
+
+// The library that repairs forgets about a declaration within another one.
+TEST(XMLRepair, KeepsNoMemory) {
+    const QByteArray text = "<a b=\"c\"><?xml b<?xml c?>d</a";
+    const auto repairAndMeasure = [&text] {
+        for (int i = 0; i < 300; ++i)
+            XMLRepair::repaired(text);
+        return ::mallinfo2().uordblks;
+    };
+    const std::size_t before = repairAndMeasure();
+    EXPECT_LT(repairAndMeasure(), before + 20'000);
 }
 
 TEST_F(TemplateFileTest, FetchesNoEntity) {

@@ -1,0 +1,126 @@
+#include "annotations/FlashOutlinePDF.h"
+#include "annotations/FlashPagesAnnotationsPDF.h"
+#include "fuzz/Fuzz.h"
+#include "platform/EngineLimits.h"
+#include "platform/Log.h"
+#include "platform/PDFDocument.h"
+#include "platform/PlatformException.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int pagesLookedAt = 4;
+
+// The engine is built without the instruments that tell the fuzzer which code an input reached.
+// What it complains about tells something of that, so each kind of complaint counts as a place.
+constexpr std::size_t complaintKinds = 4096;
+__attribute__((section("__libfuzzer_extra_counters"))) std::uint8_t complaints[complaintKinds];
+
+void countComplaint(const Log::Record& record) {
+    if (record.logger != QStringLiteral("PDFEngine"))
+        return;
+    std::uint32_t kind = 2166136261U;
+    for (const QChar letter : record.text.left(40)) {
+        if (!letter.isLetter() && letter != u' ')
+            break;
+        kind = (kind ^ letter.unicode()) * 16777619U;
+    }
+    complaints[kind % complaintKinds] = 1;
+}
+
+bool isFinite(const QRectF& rect) {
+    return std::isfinite(rect.x()) && std::isfinite(rect.y()) && std::isfinite(rect.width()) &&
+           std::isfinite(rect.height());
+}
+
+void checkPage(const PDFDocument& document, const PDFPage& page) {
+    const QRectF media = page.mediaBox();
+    const QRectF crop = page.cropBox();
+    Fuzz::require(isFinite(media) && !media.isEmpty(), "a page has a size");
+    Fuzz::require(isFinite(crop) && !crop.isEmpty(), "a page shows something");
+    Fuzz::require(media.contains(crop), "the part that is shown lies on the page");
+    Fuzz::require(page.rotation() >= 0 && page.rotation() < 360, "a rotation is less than a turn");
+    for (const PDFAnnotation& annotation : page.annotations())
+        Fuzz::require(annotation.destinationPage.value_or(0) >= 0 &&
+                          annotation.destinationPage.value_or(0) < document.pageCount(),
+                      "links lead to pages of the document");
+}
+
+void checkLocations(const pugi::xml_node& pagesAnnos) {
+    for (const pugi::xml_node& page : pagesAnnos.children("pageAnnos")) {
+        for (const pugi::xml_node& anno : page.children("anno")) {
+            for (const pugi::xml_attribute& fraction : anno.child("location").attributes())
+                Fuzz::require(std::isfinite(fraction.as_double(NAN)), "a link lies somewhere");
+        }
+    }
+}
+
+void checkOutline(const std::vector<PDFOutlineNode>& nodes, int pages, int depth) {
+    Fuzz::require(nodes.empty() || depth <= 64, "no entry lies too deep");
+    for (const PDFOutlineNode& node : nodes) {
+        Fuzz::require(node.destinationPage >= -1 && node.destinationPage < pages,
+                      "entries lead to pages of the document");
+        checkOutline(node.children, pages, depth + 1);
+    }
+}
+
+// What the program itself reads.
+void readStructure(const QString& path) {
+    const auto document = PDFDocument::open(path);
+    for (const char* key : {"Title", "Author"})
+        document->information(key);
+    const int pages = document->pageCount();
+    for (int i = 0; i < std::min(pages, pagesLookedAt); ++i) {
+        try {
+            const PDFPage page = document->page(i);
+            checkPage(*document, page);
+            page.displaySize();
+        } catch (const PlatformException&) {
+            continue;
+        }
+    }
+    checkOutline(document->outline(), pages, 1);
+    FlashOutlinePDF outline;
+    outline.loadOutlineFromPDF(document);
+    outline.outlineAsXMLNode();
+    FlashPagesAnnotationsPDF links;
+    links.loadLinksFromPDF(document, QStringLiteral("1-%1").arg(std::min(pages, pagesLookedAt)));
+    checkLocations(links.pagesAnnotationsNode());
+}
+
+// What a page worker does, at a size that takes little time.
+void drawFirstPage(const QString& path) {
+    const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
+    const PDFPage page = document->page(0);
+    const QSizeF size = page.displaySize();
+    DrawControl control;
+    control.timeLimit = std::chrono::milliseconds(300);
+    PageBitmap bitmap;
+    page.draw(100 / std::max({size.width(), size.height(), 1.0}), bitmap, control);
+    Fuzz::require(bitmap.width() > 0 && bitmap.height() > 0, "a drawn page has pixels");
+    Fuzz::require(bitmap.width() <= EngineLimits::maxBitmapSide &&
+                      bitmap.height() <= EngineLimits::maxBitmapSide,
+                  "a drawn page keeps within the limits");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
+    Log::setWatcher(countComplaint);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static Fuzz::MemoryFile file;
+    file.write(data, size);
+    for (const auto& read : {readStructure, drawFirstPage}) {
+        try {
+            read(file.path());
+        } catch (const PlatformException& failure) {
+            Fuzz::require(!failure.reason().isEmpty(), "a failure has a reason");
+        }
+    }
+    return 0;
+}

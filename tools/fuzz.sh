@@ -1,0 +1,75 @@
+#!/usr/bin/env bash
+# Runs the fuzz harnesses for some minutes each and prints their figures as a table:
+#
+#   tools/fuzz.sh [MINUTES [NAME ...]]
+#
+# It goes on from the corpora of earlier runs. A harness that ends with a finding is started again
+# until its time is up; the inputs that did it are left in findings/.
+#   FUZZ_BUILD   the build folder, build/fuzz by default
+#   FUZZ_FOLDER  where corpora, findings and logs are kept, fuzz/runs in the build folder by default
+#   FUZZ_JOBS    how many harnesses run at a time, 1 by default
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+build=$(realpath "${FUZZ_BUILD:-build/fuzz}")
+folder=${FUZZ_FOLDER:-$build/fuzz/runs}
+minutes=${1:-20}
+shift || true
+names=("$@")
+if ((${#names[@]} == 0)); then
+    for file in "$build"/fuzz/bin/*.options; do
+        names+=("$(basename "$file" .options)")
+    done
+fi
+mkdir -p "$folder/findings" "$folder/logs"
+# What a harness writes stays in memory where there is a folder for that.
+[ -w /dev/shm ] && export TMPDIR=/dev/shm
+
+# A harness that always fails at once would otherwise go on for ever.
+most_findings=200
+
+run() {
+    local name=$1 log=$folder/logs/$1.log options left started=$SECONDS
+    mapfile -t options <"$build/fuzz/bin/$name.options"
+    mkdir -p "$folder/corpus/$name"
+    : >"$log"
+    for ((i = 0; i < most_findings; i++)); do
+        left=$((minutes * 60 - (SECONDS - started)))
+        ((left > 0)) || break
+        if nice -n 19 "$build/fuzz/bin/fuzz-$name" "${options[@]}" -max_total_time="$left" \
+            -print_final_stats=1 -artifact_prefix="$folder/findings/$name-" \
+            "$folder/corpus/$name" "$build/fuzz/seeds/$name" >>"$log" 2>&1; then
+            break
+        fi
+    done
+    echo "seconds: $((SECONDS - started))" >>"$log"
+    times | sed -n 's/^/processor: /;2p' >>"$log"
+}
+
+row() {
+    awk -v name="$1" -v corpus="$(find "$folder/corpus/$1" -type f | wc -l)" '
+        / cov: / { for (i = 1; i < NF; i++) { if ($i == "cov:") cov = $(i + 1); if ($i == "ft:") ft = $(i + 1) } }
+        /^stat::number_of_executed_units:/ { units += $2 }
+        /^stat::peak_rss_mb:/ { if ($2 > peak) peak = $2 }
+        /Test unit written to .*-(crash|timeout|oom|leak)-/ { findings++ }
+        /^seconds:/ { seconds = $2 }
+        /^processor:/ { split($2 "m" $3, t, /[ms]+/); used = (t[1] + t[3]) * 60 + t[2] + t[4] }
+        END {
+            printf "| %s | %d | %d | %d | %d | %d / %d | %d | %d | %d |\n", name, seconds / 60, used,
+                units, units / (used > 1 ? used : 1), cov, ft, corpus, peak, findings
+        }' "$folder/logs/$1.log"
+}
+
+for name in "${names[@]}"; do
+    while (($(jobs -rp | wc -l) >= ${FUZZ_JOBS:-1})); do
+        wait -n
+    done
+    run "$name" &
+done
+wait
+
+echo "| harness | minutes | processor seconds | executions | per processor second | coverage / features | corpus | peak MB | findings |"
+echo "| --- | ---: | ---: | ---: | ---: | ---: | ---: | ---: | ---: |"
+for name in "${names[@]}"; do
+    row "$name"
+done
