@@ -80,7 +80,7 @@ QString TemporaryFolders::make(const QString& name) {
     QString path;
     if (open.isOpen() && isTrustworthy(open.number()))
         path = ClaimedFolder::make(Files::join(parent, inParent + unique));
-    else if (!name.contains(u'/'))
+    if (path.isNull() && !name.contains(u'/'))
         path = ClaimedFolder::make(Files::join(base, inBase + unique));
     if (!path.isNull())
         return path;
