@@ -152,6 +152,32 @@ TEST_F(FlashPagesAnnotationsPDFTest, FailsOnAPageThatTheDocumentLacks) {
                  PlatformException);
 }
 
+TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
+    constexpr int perPage = 5000;
+    constexpr int pages = 2 * FlashPagesAnnotationsPDF::maximumAnnotations / perPage;
+    PDFBuilder builder;
+    const int link = builder.addObject(
+        PDFBuilder::link(QRectF(0, 0, 9, 9), PDFBuilder::toURL("https://a.org/")));
+    const int list =
+        builder.addObject("[ " + (PDFBuilder::reference(link) + ' ').repeated(perPage) + "]");
+    PDFBuilder::Page page = pageOf({100, 100});
+    page.extraEntries = "/Annots " + PDFBuilder::reference(list);
+    for (int i = 0; i < pages; ++i)
+        builder.addPage(page);
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("ALL"));
+
+    int listed = 0;
+    std::size_t links = 0;
+    for (const auto& pageAnnos : annotations.pagesAnnotationsNode()) {
+        const auto found = std::distance(pageAnnos.begin(), pageAnnos.end());
+        ASSERT_EQ(found, ++listed <= pages / 2 ? perPage : 0) << listed;
+        links += std::size_t(found);
+    }
+    EXPECT_EQ(listed, pages);
+    EXPECT_EQ(links, FlashPagesAnnotationsPDF::maximumAnnotations);
+}
+
 TEST_F(FlashPagesAnnotationsPDFTest, ReadsTheSameLinksOnePageAtATimeWhenIdle) {
     PDFBuilder builder;
     const auto link = PDFBuilder::link(QRectF(0, 0, 9, 9), PDFBuilder::toURL("https://a.org/"));
