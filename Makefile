@@ -5,17 +5,18 @@ BUILD := build/$(PRESET)
 OUT ?= out
 PDF ?= $(BUILD)/samples/sample.pdf
 
-.PHONY: book app package test bench packages build format format-check tidy help
+.PHONY: book app package test sanitizers bench packages build format format-check tidy help
 
 help:
 	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
 	@echo "make app [PDF=file.pdf]                 start the program with its window"
 	@echo "make package                            make Debian packages to install it with"
 	@echo "make test                               build and run every test"
+	@echo "make sanitizers                         the core's tests under sanitizers, a moment of fuzzing"
 	@echo "make bench                              measure, see docs/performance.md"
 	@echo "make format-check                       check the format of the C++ code"
 	@echo "make tidy                               run clang-tidy"
-	@echo "PRESET=debug|asan-ubsan|tsan            build and test another way"
+	@echo "PRESET=debug|asan-ubsan                 build and test another way"
 
 packages:
 	@tools/install-packages.sh
@@ -40,6 +41,13 @@ package: build
 
 test: build format-check
 	@ctest --preset $(PRESET)
+
+# Two more builds of the core alone, which take what scripts make from the first one.
+sanitizers: build
+	@for preset in fuzz tsan; do \
+		cmake --preset $$preset >build/$$preset.log 2>&1 || { cat build/$$preset.log; exit 1; }; \
+		cmake --build --preset $$preset && ctest --preset $$preset -j 2 || exit 1; \
+	done
 
 format-check: packages
 	@git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror

@@ -18,6 +18,9 @@ if(FOLVERO_SANITIZE)
     add_compile_options(-fsanitize=${FOLVERO_SANITIZE} -fno-omit-frame-pointer
         -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${FOLVERO_SANITIZE})
+    add_compile_definitions(FOLVERO_SANITIZED)
 endif()
 
 option(FOLVERO_FUZZ "Build the fuzz harnesses; the preset \"fuzz\" sets what else that takes" OFF)
+set(FOLVERO_ASSETS_OF "" CACHE PATH
+    "Build no more than the core, with the resources and sample documents of this build folder")

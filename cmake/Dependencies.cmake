@@ -12,6 +12,10 @@ pkg_check_modules(tidy REQUIRED IMPORTED_TARGET tidy)
 pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
 pkg_check_modules(turbojpeg REQUIRED IMPORTED_TARGET libturbojpeg)
 
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    pkg_check_modules(seccomp REQUIRED IMPORTED_TARGET libseccomp)
+endif()
+
 # Debian ships the PDF engine as a static library without a pkg-config file.
 find_path(MUPDF_INCLUDE_DIR mupdf/fitz.h REQUIRED)
 find_library(MUPDF_LIBRARY mupdf REQUIRED)

@@ -640,6 +640,29 @@
     </message>
 </context>
 <context>
+    <name>PDFReader</name>
+    <message>
+        <source>what was read of it makes no sense</source>
+        <translation>was daraus gelesen wurde, ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>the program that reads PDF files broke off at it</source>
+        <translation>das Programm, das PDF-Dateien liest, ist daran gescheitert</translation>
+    </message>
+    <message>
+        <source>reading it was stopped</source>
+        <translation>das Lesen wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>reading it took too long</source>
+        <translation>das Lesen dauerte zu lange</translation>
+    </message>
+    <message>
+        <source>the program that reads PDF files can&apos;t be started</source>
+        <translation>das Programm, das PDF-Dateien liest, lässt sich nicht starten</translation>
+    </message>
+</context>
+<context>
     <name>PageFailure</name>
     <message>
         <source>drawing it was stopped</source>

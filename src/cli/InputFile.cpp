@@ -7,7 +7,7 @@ std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
     if (path.isEmpty())
         throw CommandError(QStringLiteral("the name of the PDF file is empty"), ExitCode::usage);
     try {
-        return PDFDocument::open(path);
+        return PDFDocument::openApart(path);
     } catch (const PlatformException& failure) {
         throw CommandError(failure.reason());
     }

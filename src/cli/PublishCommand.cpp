@@ -179,6 +179,7 @@ void runPublish(const PublishOptions& options) {
 
     const auto operation =
         std::make_shared<ImportPDFOperation>(options.pdf, pages.range, importDPI, options.quality);
+    operation->setDocument(document);
     operation->setImportLinks(options.links);
     operation->setImportBookmarks(options.bookmarks);
     importPages(operation, options.quiet);

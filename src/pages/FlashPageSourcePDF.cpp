@@ -7,11 +7,13 @@
 #include <QScopeGuard>
 
 FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi,
-                                       int quality)
-    : iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
+                                       int quality, std::shared_ptr<PDFDocument> document,
+                                       std::function<bool()> stopped)
+    : iPDFDoc(std::move(document)), iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
     setSourceFile(pdfPath);
     try {
-        iPDFDoc = PDFDocument::open(sourceFile());
+        if (!iPDFDoc)
+            iPDFDoc = PDFDocument::openApart(sourceFile(), std::move(stopped));
     } catch (const PlatformException& failure) {
         iOpenError = failure.message();
         Log("FlashPageSourcePDF").warn(failure.reason());

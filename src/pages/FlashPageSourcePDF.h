@@ -4,6 +4,7 @@
 #include "pages/PDFToSWFPageConverter.h"
 
 #include <QString>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -18,8 +19,12 @@ inline constexpr char16_t ImportPDFDidFinish[] = u"ImportPDFDidFinish";
 class FlashPageSourcePDF : public FlashPageSource {
 public:
     // A file that can't be opened leaves the source without a document; openError() says why.
-    // dpi is kept but has no effect. Throws PlatformException for a page range beyond all bounds.
-    FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi, int quality);
+    // dpi is kept but has no effect. The document may be given when it is open already; otherwise
+    // stopped, asked while it is read, ends that. Throws PlatformException for a page range beyond
+    // all bounds.
+    FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi, int quality,
+                       std::shared_ptr<PDFDocument> document = nullptr,
+                       std::function<bool()> stopped = {});
 
     const std::shared_ptr<PDFToSWFPageConverter>& toPageConverter() const {
         return iToPageConverter;

@@ -42,6 +42,7 @@ void ImportPDFOperation::clearResults() {
 void ImportPDFOperation::cancel() {
     // In this order setPageSource() can't miss a cancel that finds no source.
     Operation::cancel();
+    *iStopReading = true;
     const std::lock_guard lock(iMutex);
     if (iFlashPageSource)
         iFlashPageSource->setStop(true);
@@ -75,7 +76,9 @@ void ImportPDFOperation::importStages() {
 
 void ImportPDFOperation::importPages() {
     try {
-        setPageSource(std::make_shared<FlashPageSourcePDF>(iPDFPath, iPageRange, iDPI, iQuality));
+        setPageSource(std::make_shared<FlashPageSourcePDF>(
+            iPDFPath, iPageRange, iDPI, iQuality, iDocument,
+            [stopped = iStopReading] { return stopped->load(); }));
         if (!iFlashPageSource->openError().isNull())
             iFailures << iFlashPageSource->openError();
         operationLog().debug(QStringLiteral("before generate pages"));

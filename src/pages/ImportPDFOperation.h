@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <atomic>
 #include <memory>
 #include <mutex>
 
@@ -21,6 +22,10 @@ public:
     void setImportLinks(bool on) { iImportLinks = on; }
     bool importBookmarks() const { return iImportBookmarks; }
     void setImportBookmarks(bool on) { iImportBookmarks = on; }
+
+    // The document, when the caller has it open already and leaves it alone until the import is
+    // finished; none by default, then the import opens the file.
+    void setDocument(std::shared_ptr<PDFDocument> document) { iDocument = std::move(document); }
 
     void main() override;
     // Also ends a page that is being drawn. From any thread.
@@ -44,6 +49,9 @@ private:
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);
 
+    std::shared_ptr<PDFDocument> iDocument;
+    // Outlives the operation, as the document may.
+    std::shared_ptr<std::atomic<bool>> iStopReading = std::make_shared<std::atomic<bool>>(false);
     std::mutex iMutex; // guards the page source, which cancel() reaches from another thread
     std::shared_ptr<FlashPageSourcePDF> iFlashPageSource;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotation;

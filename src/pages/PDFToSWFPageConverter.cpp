@@ -72,8 +72,10 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
 
 PageResult PDFToSWFPageConverter::drawHere(int page) {
     try {
-        if (!iPDFRep)
-            iPDFRep = std::make_unique<PageImageMaker>(*PDFDoc(), compressionFactor(quality()));
+        if (!iPDFRep) {
+            iOwnDocument = PDFDocument::open(PDFPath());
+            iPDFRep = std::make_unique<PageImageMaker>(*iOwnDocument, compressionFactor(quality()));
+        }
         return {QString(),
                 iPDFRep->make(page, workFile(page, "jpg"), {iStop, EngineLimits::maxPageTime})};
     } catch (const PlatformException& failure) {

@@ -48,7 +48,8 @@ private:
     PageResult drawHere(int page);
 
     std::unique_ptr<PageWorkers> iWorkers;
-    std::unique_ptr<PageImageMaker> iPDFRep; // for pages drawn in this process
+    std::shared_ptr<PDFDocument> iOwnDocument; // for pages
+    std::unique_ptr<PageImageMaker> iPDFRep;   // drawn in this process
     const std::atomic<bool>* iStop = nullptr;
     std::vector<FailedPage> iFailedPages;
     PageTiming iTiming;

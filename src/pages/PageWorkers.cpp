@@ -2,6 +2,7 @@
 
 #include "platform/Bundle.h"
 #include "platform/EngineLimits.h"
+#include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
 
@@ -20,9 +21,19 @@ constexpr int pollMilliseconds = 20;
 constexpr std::size_t maxPagesAhead = 64;
 
 // A worker gives a page up by itself; one that does not even do that is ended.
-constexpr auto patience = EngineLimits::maxPageTime + std::chrono::seconds(10);
+constexpr auto usualPatience = EngineLimits::maxPageTime + std::chrono::seconds(10);
+
+// A document that ends so many workers in a row before they are ready will end them all.
+constexpr int maxEndedUnready = 20;
+
+// Answers are short.
+constexpr qsizetype maxLine = qsizetype{1} << 20;
 
 constexpr std::size_t maxWorkers = 16;
+
+Message endedReason() {
+    return Message::translate("PageFailure", "the program that draws pages ended at this page");
+}
 
 const Log& workersLog() {
     static const Log log("PageWorkers");
@@ -49,7 +60,8 @@ PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vect
       iQuality(quality),
       iWaiting(pages.begin(), pages.end()),
       iStop(stop),
-      iPageCount(pages.size()) {}
+      iPageCount(pages.size()),
+      iPatience(usualPatience) {}
 
 PageWorkers::~PageWorkers() {
     killAll();
@@ -63,7 +75,7 @@ void PageWorkers::killAll() {
 }
 
 std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
-    const std::vector<std::string> arguments{QFile::encodeName(iPDFPath).toStdString(),
+    const std::vector<std::string> arguments{"draw", QFile::encodeName(iPDFPath).toStdString(),
                                              QFile::encodeName(iFolder).toStdString(),
                                              std::to_string(iQuality)};
     try {
@@ -98,8 +110,11 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
             killAll();
             return PageResult{Message::translate("PageFailure", "drawing it was stopped"), {}};
         }
-        if (iWorkers.empty())
-            return std::nullopt;
+        if (iWorkers.empty()) {
+            if (!iCanRun)
+                return std::nullopt;
+            return PageResult{iOpenError.isNull() ? endedReason() : iOpenError, {}};
+        }
         collect();
     }
 }
@@ -135,16 +150,15 @@ void PageWorkers::collect() {
         Worker& worker = iWorkers[i];
         if (descriptors[i].revents)
             readAnswers(worker);
-        else if (!worker.pages.empty() && now - worker.since > patience)
+        else if (!worker.pages.empty() && now - worker.since > iPatience)
             replace(worker, Message::translate("PageFailure", "drawing it took too long"));
     }
     std::erase_if(iWorkers, [](const Worker& worker) { return !worker.process; });
 }
 
 void PageWorkers::readAnswers(Worker& worker) {
-    if (!worker.process->readAvailable()) {
-        replace(worker, Message::translate("PageFailure",
-                                           "the program that draws pages ended at this page"));
+    if (!worker.process->readAvailable(maxLine)) {
+        replace(worker, endedReason());
         return;
     }
     while (const auto line = worker.process->takeLine())
@@ -152,11 +166,22 @@ void PageWorkers::readAnswers(Worker& worker) {
     feed(worker);
 }
 
-// The first line is "ready". An answer is "ok DRAW ENCODE WRITE" in seconds, or "fail REASON", for
+// "ready", or "fail REASON" when the document can't be opened.
+void PageWorkers::takeFirstLine(Worker& worker, const QByteArray& line) {
+    if (line != "ready") {
+        iOpenError = reasonFrom(line.mid(5));
+        return;
+    }
+    worker.ready = true;
+    worker.since = std::chrono::steady_clock::now();
+    iEndedUnready = 0;
+}
+
+// An answer is "ok DRAW ENCODE WRITE" in seconds, or "fail REASON", for
 // the first page asked for.
 void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
     if (!worker.ready) {
-        worker.ready = true;
+        takeFirstLine(worker, line);
         return;
     }
     if (worker.pages.empty())
@@ -172,18 +197,42 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
     worker.since = std::chrono::steady_clock::now();
 }
 
-// Gives up the page being drawn, hands the ones behind it back, and lets a new process take over.
-// No page is to blame for a process that did not even get ready; then there is none to take over.
+// A new process takes over from one that is of no more use.
 void PageWorkers::replace(Worker& worker, const Message& reason) {
-    const bool wasReady = worker.ready;
-    if (wasReady && !worker.pages.empty()) {
-        const int page = worker.pages.front();
-        worker.pages.pop_front();
-        iResults[page].error = reason;
-        workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
+    if (!worker.ready) {
+        replaceUnready(worker);
+        return;
     }
+    giveUpPage(worker, reason);
     handBack(worker);
-    worker = {wasReady ? startProcess() : nullptr, false, {}, {}};
+    worker = {startProcess(), false, {}, {}};
+}
+
+// The page that it was drawing is to blame.
+void PageWorkers::giveUpPage(Worker& worker, const Message& reason) {
+    if (worker.pages.empty())
+        return;
+    const int page = worker.pages.front();
+    worker.pages.pop_front();
+    worker.process->kill();
+    removeFilesOf(page);
+    iResults[page].error = reason;
+    workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
+}
+
+// No page is to blame for a process that did not even get ready.
+void PageWorkers::replaceUnready(Worker& worker) {
+    handBack(worker);
+    iCanRun = iCanRun && !worker.process->couldNotRun();
+    const bool again = iCanRun && iOpenError.isNull() && ++iEndedUnready < maxEndedUnready;
+    worker = {again ? startProcess() : nullptr, false, {}, {}};
+}
+
+// A page counts as drawn or as given up, never half.
+void PageWorkers::removeFilesOf(int page) const {
+    const QString file = Files::join(iFolder, QStringLiteral("%1.jpg").arg(page));
+    QFile::remove(file);
+    QFile::remove(Files::workingPart(file));
 }
 
 void PageWorkers::handBack(Worker& worker) {

@@ -33,11 +33,14 @@ public:
     // The worker to start instead of the one that is installed beside the running program.
     void setProgram(const QString& path) { iProgram = path; }
 
+    // How long a worker may be silent over one page before it is ended.
+    void setPatience(std::chrono::milliseconds patience) { iPatience = patience; }
+
     // Starts the processes. False when none could be started.
     bool start();
 
     // Waits for a page that was handed to the constructor. After a stop the result is an error.
-    // Nothing comes back when no worker is left to draw it: then the caller has to.
+    // Nothing comes back when the system can't run workers at all: then the caller has to draw.
     std::optional<PageResult> waitFor(int page);
 
     std::size_t workerCount() const { return iWorkers.size(); }
@@ -55,9 +58,13 @@ private:
     void feedAll();
     void collect();
     void readAnswers(Worker& worker);
+    void takeFirstLine(Worker& worker, const QByteArray& line);
     void takeAnswer(Worker& worker, const QByteArray& line);
     void replace(Worker& worker, const Message& reason);
+    void giveUpPage(Worker& worker, const Message& reason);
+    void replaceUnready(Worker& worker);
     void handBack(Worker& worker);
+    void removeFilesOf(int page) const;
     void killAll();
 
     QString iProgram;
@@ -68,6 +75,10 @@ private:
     int iAwaited = 0;         // the page that the walk stands at
     const std::atomic<bool>& iStop;
     std::size_t iPageCount;
+    std::chrono::milliseconds iPatience;
+    int iEndedUnready = 0; // workers in a row that ended before they were ready
+    bool iCanRun = true;   // false once workers turn out to be unfit for this system
+    Message iOpenError;    // why a worker could not open the document
     std::vector<Worker> iWorkers;
     std::map<int, PageResult> iResults; // made, not yet asked for
 };

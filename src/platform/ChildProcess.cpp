@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -78,8 +79,7 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
 
 ChildProcess::~ChildProcess() {
     kill();
-    while (::waitpid(iProcess, nullptr, 0) < 0 && errno == EINTR) {
-    }
+    waitForEnd();
     ::close(iToChild);
     ::close(iFromChild);
 }
@@ -96,8 +96,8 @@ bool ChildProcess::writeLine(const QByteArray& line) {
     return true;
 }
 
-bool ChildProcess::readAvailable() {
-    char buffer[4096];
+bool ChildProcess::readAvailable(qsizetype maxLine) {
+    char buffer[1 << 16];
     ssize_t count = 0;
     do {
         count = ::read(iFromChild, buffer, sizeof buffer);
@@ -105,7 +105,7 @@ bool ChildProcess::readAvailable() {
     if (count <= 0)
         return false;
     iBuffer.append(buffer, count);
-    return true;
+    return iBuffer.size() <= maxLine || iBuffer.contains('\n');
 }
 
 std::optional<QByteArray> ChildProcess::takeLine() {
@@ -117,6 +117,30 @@ std::optional<QByteArray> ChildProcess::takeLine() {
     return line;
 }
 
+// The loader and shells end with these when a program or its libraries are missing or unfit.
+bool ChildProcess::couldNotRun() {
+    constexpr int unfit = 126;
+    constexpr int missing = 127;
+    constexpr int patienceMilliseconds = 1000;
+    // Its streams are closed just before it ends.
+    for (int waited = 0; !iHasEnded && waited < patienceMilliseconds; ++waited) {
+        if (::waitpid(iProcess, &iStatus, WNOHANG) == iProcess)
+            iHasEnded = true;
+        else
+            ::poll(nullptr, 0, 1);
+    }
+    return iHasEnded && WIFEXITED(iStatus) &&
+           (WEXITSTATUS(iStatus) == unfit || WEXITSTATUS(iStatus) == missing);
+}
+
 void ChildProcess::kill() {
-    ::kill(iProcess, SIGKILL);
+    if (!iHasEnded)
+        ::kill(iProcess, SIGKILL);
+}
+
+void ChildProcess::waitForEnd() {
+    while (!iHasEnded) {
+        const pid_t ended = ::waitpid(iProcess, &iStatus, 0);
+        iHasEnded = ended == iProcess || errno != EINTR;
+    }
 }

@@ -23,18 +23,27 @@ public:
     // Readable (or at its end) when a call of readAvailable() would not wait; for poll().
     int readDescriptor() const { return iFromChild; }
 
-    // Reads what has arrived, waiting for something if need be. False at the end of the stream.
-    bool readAvailable();
+    // Reads what has arrived, waiting for something if need be. False at the end of the stream, and
+    // for a line of more bytes than that, which no sane program says.
+    bool readAvailable(qsizetype maxLine);
 
     // The next complete line that has been read, without its line end.
     std::optional<QByteArray> takeLine();
+
+    // After the end of the stream: whether the system could not run the program properly, so that
+    // its end says nothing about its work.
+    bool couldNotRun();
 
     // Ends the process at once, without waiting for the system to clear it away; the destructor
     // waits.
     void kill();
 
 private:
+    void waitForEnd();
+
     pid_t iProcess = -1;
+    bool iHasEnded = false; // and was cleared away
+    int iStatus = 0;        // once it has
     int iToChild = -1;
     int iFromChild = -1;
     QByteArray iBuffer;

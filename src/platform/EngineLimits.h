@@ -21,6 +21,9 @@ inline constexpr std::chrono::seconds maxPageTime{60};
 // Memory that one engine instance may hold beside the bitmap.
 inline constexpr std::size_t maxEngineMemory = std::size_t{1} << 30;
 
+// All memory of a process that draws or reads: that, the bitmap, and its JPEG file in the making.
+inline constexpr std::size_t maxProcessMemory = std::size_t{2} << 30;
+
 // Cache of decoded images and glyphs within that. More doesn't make real documents faster.
 inline constexpr std::size_t engineStore = std::size_t{64} << 20;
 

@@ -90,7 +90,7 @@ bool Files::writeAtomically(const QString& path, const QByteArray& data, Message
 bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char> data,
                              Message* error) {
     const QByteArray name = QFile::encodeName(path);
-    const QByteArray part = name + ".part";
+    const QByteArray part = QFile::encodeName(workingPart(path));
     Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
     if (!file.isOpen())
         return fail(error);
@@ -100,6 +100,10 @@ bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char>
     const bool result = fail(error);
     ::unlink(part.constData());
     return result;
+}
+
+QString Files::workingPart(const QString& path) {
+    return path + QStringLiteral(".part");
 }
 
 bool Files::copy(const QString& source, const QString& target, Message* error) {

@@ -3,6 +3,7 @@
 #include "platform/EngineLimits.h"
 #include "platform/Log.h"
 #include "platform/PDFEngine.h"
+#include "platform/PDFReader.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -203,7 +204,11 @@ std::optional<int> PDFDocument::Engine::targetPage(pdf_obj* dictionary) const {
     return std::nullopt;
 }
 
-PDFDocument::PDFDocument(std::unique_ptr<Engine> engine) : iEngine(std::move(engine)) {}
+PDFDocument::PDFDocument(std::unique_ptr<Engine> engine)
+    : iPath(engine->path), iEngine(std::move(engine)) {}
+
+PDFDocument::PDFDocument(QString path, std::unique_ptr<PDFReader> reader)
+    : iPath(std::move(path)), iReader(std::move(reader)) {}
 
 PDFDocument::~PDFDocument() = default;
 
@@ -213,12 +218,32 @@ std::shared_ptr<PDFDocument> PDFDocument::open(const QString& path, Access acces
     return std::shared_ptr<PDFDocument>(new PDFDocument(std::move(engine)));
 }
 
+std::shared_ptr<PDFDocument> PDFDocument::openApart(const QString& path,
+                                                    std::function<bool()> stopped) {
+    checkFile(path);
+    auto reader = std::make_unique<PDFReader>(path, std::move(stopped));
+    try {
+        if (!reader->open())
+            return open(path);
+    } catch (const PlatformException& failure) {
+        if (failure.name() == QStringLiteral("PDFOpenFailed"))
+            throw;
+        failToOpen(path, failure.message());
+    }
+    return std::shared_ptr<PDFDocument>(new PDFDocument(path, std::move(reader)));
+}
+
+void PDFDocument::rest() const {
+    if (iReader)
+        iReader->rest();
+}
+
 QString PDFDocument::path() const {
-    return iEngine->path;
+    return iPath;
 }
 
 int PDFDocument::pageCount() const {
-    return iEngine->pageCount;
+    return iReader ? iReader->pageCount() : iEngine->pageCount;
 }
 
 PDFPage PDFDocument::page(int index) const {
@@ -228,6 +253,8 @@ PDFPage PDFDocument::page(int index) const {
             Message::translate("PDFDocument", "page %1 does not exist; the document has %2")
                 .arg(QString::number(qint64(index) + 1), QString::number(pageCount())));
     }
+    if (iReader)
+        return {*this, index, iReader->boxes(index)};
     pdf_obj* object = nullptr;
     iEngine->run("PDFPageUnreadable", [&](fz_context* ctx) {
         object = pdf_lookup_page_obj(ctx, iEngine->document, index);
@@ -236,6 +263,8 @@ PDFPage PDFDocument::page(int index) const {
 }
 
 QString PDFDocument::information(const char* key) const {
+    if (iReader)
+        return iReader->information(key);
     pdf_obj* trailer =
         iEngine->get([this](fz_context* ctx) { return pdf_trailer(ctx, iEngine->document); },
                      static_cast<pdf_obj*>(nullptr));

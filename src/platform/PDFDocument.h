@@ -3,8 +3,11 @@
 #include "platform/PDFPage.h"
 
 #include <QString>
+#include <functional>
 #include <memory>
 #include <vector>
+
+class PDFReader;
 
 // One entry of a PDF's outline.
 struct PDFOutlineNode {
@@ -24,6 +27,16 @@ public:
     // Throws PlatformException whose reason says, in words, why the file can't be used: missing,
     // unreadable, empty, not a PDF, damaged, or protected by a password.
     static std::shared_ptr<PDFDocument> open(const QString& path, Access access = Access::stream);
+
+    // The same with another process that reads the file for this one, so that a file made to break
+    // or to busy the PDF engine harms that process only: its questions then throw, see PDFReader.
+    // Pages of such a document can't be drawn. stopped, asked while it is read, ends that. Where no
+    // such process can be started the file is read here.
+    static std::shared_ptr<PDFDocument> openApart(const QString& path,
+                                                  std::function<bool()> stopped = {});
+
+    // Lets the process go that reads the file, if there is one, until it is needed again.
+    void rest() const;
 
     ~PDFDocument();
     PDFDocument(const PDFDocument&) = delete;
@@ -47,6 +60,9 @@ private:
     struct Engine;
 
     explicit PDFDocument(std::unique_ptr<Engine> engine);
+    PDFDocument(QString path, std::unique_ptr<PDFReader> reader);
 
-    std::unique_ptr<Engine> iEngine;
+    QString iPath;
+    std::unique_ptr<Engine> iEngine;    // one of
+    std::unique_ptr<PDFReader> iReader; // the two
 };

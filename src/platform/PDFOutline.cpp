@@ -1,4 +1,5 @@
 #include "platform/PDFEngine.h"
+#include "platform/PDFReader.h"
 
 #include <set>
 
@@ -30,6 +31,8 @@ std::vector<PDFOutlineNode> PDFDocument::Engine::outlineLevel(pdf_obj* first, in
 }
 
 std::vector<PDFOutlineNode> PDFDocument::outline() const {
+    if (iReader)
+        return iReader->outline();
     pdf_obj* trailer =
         iEngine->get([this](fz_context* ctx) { return pdf_trailer(ctx, iEngine->document); },
                      static_cast<pdf_obj*>(nullptr));

@@ -1,6 +1,7 @@
 #include "platform/PDFPage.h"
 
 #include "platform/PDFEngine.h"
+#include "platform/PDFReader.h"
 
 namespace {
 
@@ -24,17 +25,23 @@ QRectF PDFPage::box(pdf_obj* key) const {
 }
 
 QRectF PDFPage::mediaBox() const {
+    if (iBoxes)
+        return iBoxes->media;
     const QRectF media = box(PDF_NAME(MediaBox));
     return media.isEmpty() ? QRectF(0, 0, 612, 792) : media;
 }
 
 QRectF PDFPage::cropBox() const {
+    if (iBoxes)
+        return iBoxes->crop;
     const QRectF media = mediaBox();
     const QRectF crop = box(PDF_NAME(CropBox)).intersected(media);
     return crop.isEmpty() ? media : crop;
 }
 
 int PDFPage::rotation() const {
+    if (iBoxes)
+        return iBoxes->rotation;
     const int degrees = iDocument->iEngine->get(
         [this](fz_context* ctx) {
             return pdf_to_int(ctx, pdf_dict_get_inheritable(ctx, iObject, PDF_NAME(Rotate)));
@@ -44,6 +51,11 @@ int PDFPage::rotation() const {
 }
 
 QSizeF PDFPage::displaySize() const {
+    if (iBoxes) {
+        if (!iBoxes->displayError.isNull())
+            throw PlatformException(QStringLiteral("PDFPageUnreadable"), iBoxes->displayError);
+        return iBoxes->display;
+    }
     fz_rect mediaBox = fz_empty_rect;
     iDocument->iEngine->run("PDFPageUnreadable", [&](fz_context* ctx) {
         fz_matrix matrix;
@@ -53,7 +65,21 @@ QSizeF PDFPage::displaySize() const {
     return toRect(mediaBox).size();
 }
 
+PDFPageBoxes PDFPage::boxes() const {
+    if (iBoxes)
+        return *iBoxes;
+    PDFPageBoxes boxes{mediaBox(), cropBox(), rotation(), {}, {}};
+    try {
+        boxes.display = displaySize();
+    } catch (const PlatformException& failure) {
+        boxes.displayError = failure.reason();
+    }
+    return boxes;
+}
+
 std::vector<PDFAnnotation> PDFPage::annotations() const {
+    if (iDocument->iReader)
+        return iDocument->iReader->annotations(iIndex);
     const auto& engine = *iDocument->iEngine;
     pdf_obj* list = engine.entry(iObject, "Annots");
     const int count = engine.get([&](fz_context* ctx) { return pdf_array_len(ctx, list); }, 0);

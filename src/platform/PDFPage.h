@@ -28,6 +28,15 @@ struct DrawControl {
     std::chrono::milliseconds timeLimit{60'000};
 };
 
+// The boxes of a page, as PDFPage gives them.
+struct PDFPageBoxes {
+    QRectF media;
+    QRectF crop;
+    int rotation = 0;
+    QSizeF display;
+    QString displayError; // why there is no display size; null when there is
+};
+
 // One page of an open document. Boxes are in points, in the page's own space (origin at the lower
 // left, before rotation).
 class PDFPage {
@@ -40,25 +49,32 @@ public:
     // Degrees clockwise as the file says, brought into 0 to 359. Not necessarily a multiple of 90.
     int rotation() const;
 
-    // Size in points as drawn: rotated, and in the page's own unit of length.
+    // Size in points as drawn: rotated, and in the page's own unit of length. Throws
+    // PlatformException "PDFPageUnreadable".
     QSizeF displaySize() const;
+
+    PDFPageBoxes boxes() const;
 
     std::vector<PDFAnnotation> annotations() const;
 
     // Draws the page as a reader sees it, rotated and with its annotations, on white. scale is
     // pixels per point; a page too large for the limits is drawn at a smaller one. The bitmap has
     // one component when the page holds no colour. Throws PlatformException when the page can't be
-    // read ("PDFPageUnreadable"), "PDFPageTimeout" or "PDFPageStopped".
+    // read ("PDFPageUnreadable"), "PDFPageTimeout" or "PDFPageStopped". Not for documents that
+    // another process reads.
     void draw(double scale, PageBitmap& bitmap, const DrawControl& control = {}) const;
 
 private:
     friend class PDFDocument;
     PDFPage(const PDFDocument& document, int index, pdf_obj* object)
         : iDocument(&document), iIndex(index), iObject(object) {}
+    PDFPage(const PDFDocument& document, int index, PDFPageBoxes boxes)
+        : iDocument(&document), iIndex(index), iBoxes(std::move(boxes)) {}
 
     QRectF box(pdf_obj* key) const;
 
     const PDFDocument* iDocument;
     int iIndex;
-    pdf_obj* iObject; // owned by the document
+    pdf_obj* iObject = nullptr;         // owned by the document
+    std::optional<PDFPageBoxes> iBoxes; // as another process has read them
 };

@@ -243,6 +243,7 @@ void ImportWindowDelegate::takePageSize() {
         iPageWidth = 0;
         iPageHeight = 0;
     }
+    document->rest(); // nothing more is asked of it
     auto& settings = AppSettings::shareInstance();
     settings.setPageWidth(iPageWidth);
     settings.setPageHeight(iPageHeight);

@@ -1,4 +1,5 @@
 #include "support/BookReader.h"
+#include "support/ChildProcesses.h"
 #include "support/Program.h"
 #include "support/TemplateLibrary.h"
 
@@ -27,28 +28,20 @@ protected:
         ASSERT_GE(pagesDrawn(process), pages);
     }
 
-    // Process numbers of its page workers.
-    static QStringList workers(const QProcess& process) {
-        QStringList numbers;
-        const QString text = QString::fromUtf8(
-            Program::runOther(QStringLiteral("pgrep"),
-                              {QStringLiteral("-P"), QString::number(process.processId())})
-                .output);
-        return text.split(u'\n', Qt::SkipEmptyParts);
+    static std::vector<pid_t> workers(const QProcess& process) {
+        return ChildProcesses::running("draw", process.processId());
     }
 
-    static bool isRunning(const QString& number) {
-        return QFileInfo::exists(QStringLiteral("/proc/%1/exe").arg(number)) &&
-               !QFileInfo(QStringLiteral("/proc/%1/exe").arg(number)).symLinkTarget().isEmpty();
+    static bool isRunning(pid_t process) {
+        return !QFileInfo(QStringLiteral("/proc/%1/exe").arg(process)).symLinkTarget().isEmpty();
     }
 
     // The work folder of a run, as its workers are told it.
     static QString workFolder(const QProcess& process) {
-        for (const QString& worker : workers(process)) {
-            const auto words =
-                TestFiles::read(QStringLiteral("/proc/%1/cmdline").arg(worker)).split('\0');
-            if (words.size() > 2)
-                return QString::fromUtf8(words[2]);
+        for (const pid_t worker : workers(process)) {
+            const auto words = ChildProcesses::command(worker);
+            if (words.size() > 3)
+                return QString::fromUtf8(words[3]);
         }
         return {};
     }
@@ -76,16 +69,16 @@ TEST_F(InterruptTest, LeavesNothingBehindWhenItIsToldToStop) {
         QProcess process;
         start(process);
         const QString work = workFolder(process);
-        const QStringList running = workers(process);
+        const auto running = workers(process);
         ASSERT_FALSE(work.isEmpty());
-        ASSERT_FALSE(running.isEmpty());
+        ASSERT_FALSE(running.empty());
         ::kill(pid_t(process.processId()), signal);
         const auto result = Program::finish(process);
         EXPECT_EQ(result.exitCode, 130);
         EXPECT_TRUE(result.errors.contains("cancelled")) << result.errors.constData();
         EXPECT_FALSE(QFileInfo::exists(folder()));
         EXPECT_FALSE(QFileInfo::exists(work));
-        for (const QString& worker : running)
+        for (const pid_t worker : running)
             EXPECT_FALSE(isRunning(worker));
     }
 }
@@ -107,10 +100,11 @@ TEST_F(InterruptTest, TakesItsWorkersAlongWhenItIsKilled) {
     QProcess process;
     start(process);
     const QString work = workFolder(process);
-    const QStringList running = workers(process);
+    ASSERT_FALSE(work.isEmpty());
+    const auto running = workers(process);
     process.kill();
     EXPECT_EQ(Program::finish(process).exitCode, -1);
-    for (const QString& worker : running) {
+    for (const pid_t worker : running) {
         for (int i = 0; i < 200 && isRunning(worker); ++i)
             std::this_thread::sleep_for(10ms);
         EXPECT_FALSE(isRunning(worker));
@@ -121,9 +115,9 @@ TEST_F(InterruptTest, TakesItsWorkersAlongWhenItIsKilled) {
 TEST_F(InterruptTest, GoesOnWhenAWorkerDies) {
     QProcess process;
     start(process, 1);
-    const QStringList running = workers(process);
-    ASSERT_FALSE(running.isEmpty());
-    ::kill(running.first().toInt(), SIGKILL);
+    const auto running = workers(process);
+    ASSERT_FALSE(running.empty());
+    ::kill(running.front(), SIGKILL);
     const auto result = Program::finish(process);
     EXPECT_EQ(result.exitCode, 3);
     EXPECT_TRUE(result.errors.contains("1 of its pages")) << result.errors.constData();

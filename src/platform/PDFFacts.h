@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/PDFDocument.h"
+#include "platform/PlatformException.h"
+
+#include <QByteArray>
+
+// What one process tells another of a document, as bytes. Taking it apart trusts nothing: whatever
+// is not well formed throws garbled().
+namespace PDFFacts {
+
+// The exception "PDFReaderGarbled".
+PlatformException garbled();
+
+QByteArray pack(int number);
+QByteArray pack(const QString& text);
+QByteArray pack(const PDFPageBoxes& boxes);
+QByteArray pack(const std::vector<PDFAnnotation>& annotations);
+QByteArray pack(const std::vector<PDFOutlineNode>& nodes);
+
+int unpackNumber(const QByteArray& packed);
+QString unpackText(const QByteArray& packed);
+PDFPageBoxes unpackBoxes(const QByteArray& packed);
+std::vector<PDFAnnotation> unpackAnnotations(const QByteArray& packed);
+std::vector<PDFOutlineNode> unpackOutline(const QByteArray& packed);
+
+} // namespace PDFFacts

@@ -1,0 +1,161 @@
+#include "platform/PDFReader.h"
+
+#include "platform/Bundle.h"
+#include "platform/EngineLimits.h"
+#include "platform/Log.h"
+#include "platform/PDFFacts.h"
+#include "platform/PlatformException.h"
+
+#include <QFile>
+#include <poll.h>
+
+namespace {
+
+// How often a waiting reader looks whether it is to stop.
+constexpr int pollMilliseconds = 20;
+
+// A document that has ended this many is not asked again.
+constexpr int maxEnded = 3;
+
+// The longest answer is the outline. One of a million entries fits.
+constexpr qsizetype maxAnswer = qsizetype{256} << 20;
+
+const Log& readerLog() {
+    static const Log log("PDFReader");
+    return log;
+}
+
+[[noreturn]] void giveUp(const char* name, const Message& reason) {
+    throw PlatformException(QString::fromLatin1(name), reason);
+}
+
+Message brokeOff() {
+    return Message::translate("PDFReader", "the program that reads PDF files broke off at it");
+}
+
+// The other side speaks English.
+Message openCause(const QString& words) {
+    const QString damaged = QStringLiteral("is damaged beyond repair (");
+    if (words.startsWith(damaged) && words.endsWith(u')')) {
+        return Message::translate("PDFDocument", "is damaged beyond repair (%1)")
+            .arg(words.mid(damaged.size()).chopped(1));
+    }
+    return Message::translate("PDFDocument", words.toUtf8().constData());
+}
+
+// "fail NAME REASON". What can't be opened is named in the reason already.
+PlatformException failureFrom(const QByteArray& line, const QString& path) {
+    if (!line.startsWith("fail "))
+        return PDFFacts::garbled();
+    const QString name = QString::fromLatin1(line.split(' ').value(1));
+    const QString reason = QString::fromUtf8(line.mid(qsizetype{6} + name.size()));
+    if (name != QStringLiteral("PDFOpenFailed"))
+        return {name, Message::translate("PageFailure", reason.toUtf8().constData())};
+    const QString start = path + QStringLiteral(": ");
+    const QString cause = reason.startsWith(start) ? reason.mid(start.size()) : reason;
+    return {name, Message(QStringLiteral("%1: %2")).arg(path, openCause(cause))};
+}
+
+} // namespace
+
+PDFReader::PDFReader(QString path, std::function<bool()> stopped)
+    : iProgram(Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker"))),
+      iPath(std::move(path)),
+      iStopped(std::move(stopped)) {}
+
+PDFReader::~PDFReader() = default;
+
+bool PDFReader::open() {
+    try {
+        iPageCount = PDFFacts::unpackNumber(ask(QByteArray()));
+        return true;
+    } catch (const PlatformException& failure) {
+        rest();
+        if (failure.name() != QStringLiteral("ProcessStartFailed"))
+            throw;
+        readerLog().warn(failure.reason());
+        return false;
+    }
+}
+
+PDFPageBoxes PDFReader::boxes(int index) {
+    return PDFFacts::unpackBoxes(ask("page " + QByteArray::number(index)));
+}
+
+std::vector<PDFAnnotation> PDFReader::annotations(int index) {
+    return PDFFacts::unpackAnnotations(ask("annotations " + QByteArray::number(index)));
+}
+
+std::vector<PDFOutlineNode> PDFReader::outline() {
+    return PDFFacts::unpackOutline(ask("outline"));
+}
+
+QString PDFReader::information(const char* key) {
+    return PDFFacts::unpackText(ask(QByteArray("information ") + key));
+}
+
+void PDFReader::rest() {
+    iProcess.reset();
+}
+
+// A process may be killed without any fault of the document, so each question has a second try.
+QByteArray PDFReader::ask(const QByteArray& question) {
+    try {
+        return askOnce(question);
+    } catch (const PlatformException& failure) {
+        if (failure.name() != QStringLiteral("PDFReaderEnded") || iEnded >= maxEnded)
+            throw;
+        return askOnce(question);
+    }
+}
+
+// An empty question is the one for the number of pages, which the opening answers.
+QByteArray PDFReader::askOnce(const QByteArray& question) {
+    if (iEnded >= maxEnded)
+        giveUp("PDFReaderEnded", brokeOff());
+    if (!iProcess) {
+        iProcess = std::make_unique<ChildProcess>(
+            QFile::encodeName(iProgram).toStdString(),
+            std::vector<std::string>{"read", QFile::encodeName(iPath).toStdString()});
+        QByteArray count = awaitAnswer();
+        if (question.isEmpty())
+            return count;
+    }
+    iProcess->writeLine(question); // if that fails, the wait for the answer does too
+    return awaitAnswer();
+}
+
+QByteArray PDFReader::awaitAnswer() {
+    const auto deadline = std::chrono::steady_clock::now() + iPatience;
+    for (;;) {
+        if (const auto line = iProcess->takeLine()) {
+            if (line->startsWith("ok "))
+                return QByteArray::fromBase64(line->mid(3));
+            throw failureFrom(*line, iPath);
+        }
+        if (iStopped && iStopped()) {
+            rest();
+            giveUp("PDFReadStopped", Message::translate("PDFReader", "reading it was stopped"));
+        }
+        if (std::chrono::steady_clock::now() > deadline) {
+            ++iEnded;
+            rest();
+            giveUp("PDFReaderTimeout", Message::translate("PDFReader", "reading it took too long"));
+        }
+        pollfd descriptor{iProcess->readDescriptor(), POLLIN, 0};
+        if (::poll(&descriptor, 1, pollMilliseconds) > 0 && !iProcess->readAvailable(maxAnswer))
+            reportEnd();
+    }
+}
+
+// A program that the system could not run properly says nothing about the file.
+void PDFReader::reportEnd() {
+    const bool couldRun = !iProcess->couldNotRun();
+    rest();
+    if (!couldRun)
+        giveUp(
+            "ProcessStartFailed",
+            Message::translate("PDFReader", "the program that reads PDF files can't be started"));
+    ++iEnded;
+    giveUp("PDFReaderEnded", brokeOff());
+}

@@ -1,0 +1,252 @@
+#include "platform/Walls.h"
+
+#ifdef __linux__
+#include <QFile>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <ctime>
+#include <fcntl.h>
+#include <linux/landlock.h>
+#include <seccomp.h>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+// The system's headers may be older than the system, so what came later stands here in numbers.
+namespace Access {
+constexpr std::uint64_t readFile = LANDLOCK_ACCESS_FS_READ_FILE;
+constexpr std::uint64_t ofFirstVersion = (std::uint64_t{1} << 13) - 1;
+constexpr std::uint64_t refer = std::uint64_t{1} << 13;
+constexpr std::uint64_t truncate = std::uint64_t{1} << 14;
+constexpr std::uint64_t control = std::uint64_t{1} << 15;
+constexpr std::uint64_t workFolder = readFile | LANDLOCK_ACCESS_FS_WRITE_FILE |
+                                     LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_REMOVE_FILE;
+} // namespace Access
+
+// The members that a version lacks are left off by the size that is handed over.
+struct RulesetAttributes {
+    std::uint64_t files;
+    std::uint64_t network;
+    std::uint64_t scope;
+};
+
+class Ruleset {
+public:
+    explicit Ruleset(int version) : iTruncates(version >= 3) {
+        RulesetAttributes attributes{Access::ofFirstVersion, 0, 0};
+        std::size_t size = sizeof attributes.files;
+        if (version >= 2)
+            attributes.files |= Access::refer;
+        if (version >= 3)
+            attributes.files |= Access::truncate;
+        if (version >= 4) {
+            attributes.network = 0b11; // TCP, both ways
+            size += sizeof attributes.network;
+        }
+        if (version >= 5)
+            attributes.files |= Access::control;
+        if (version >= 6) {
+            attributes.scope = 0b11; // sockets without a file, signals
+            size += sizeof attributes.scope;
+        }
+        iDescriptor = int(::syscall(SYS_landlock_create_ruleset, &attributes, size, 0));
+    }
+    ~Ruleset() {
+        if (iDescriptor >= 0)
+            ::close(iDescriptor);
+    }
+    Ruleset(const Ruleset&) = delete;
+    Ruleset& operator=(const Ruleset&) = delete;
+
+    bool allow(const QString& path, std::uint64_t access) const {
+        if (iTruncates && (access & LANDLOCK_ACCESS_FS_WRITE_FILE))
+            access |= Access::truncate;
+        const int target = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
+        if (target < 0)
+            return false;
+        const landlock_path_beneath_attr rule{access, target};
+        const bool done = ::syscall(SYS_landlock_add_rule, iDescriptor, LANDLOCK_RULE_PATH_BENEATH,
+                                    &rule, 0) == 0;
+        ::close(target);
+        return done;
+    }
+
+    bool enforce() const {
+        return iDescriptor >= 0 && ::syscall(SYS_landlock_restrict_self, iDescriptor, 0) == 0;
+    }
+
+private:
+    int iDescriptor = -1;
+    bool iTruncates;
+};
+
+bool closeOffFiles(const Walls::Needs& needs) {
+    const long version =
+        ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
+    if (version < 1)
+        return false;
+    const Ruleset rules(static_cast<int>(version));
+    // What can't be opened now can't be opened later either, which then gets its own error.
+    rules.allow(needs.file, Access::readFile);
+    if (!needs.workFolder.isNull())
+        rules.allow(needs.workFolder, Access::workFolder);
+    return rules.enforce();
+}
+
+// All that drawing, reading and the C library call, on any machine. Whatever is not named here
+// does not exist for the process.
+constexpr std::array harmlessCalls{
+    "access",
+    "brk",
+    "clock_getres",
+    "clock_gettime",
+    "clock_nanosleep",
+    "close",
+    "exit",
+    "exit_group",
+    "faccessat",
+    "faccessat2",
+    "fallocate",
+    "fstat",
+    "fstat64",
+    "fstatat64",
+    "fstatfs",
+    "fsync",
+    "ftruncate",
+    "futex",
+    "getcwd",
+    "getegid",
+    "geteuid",
+    "getgid",
+    "getpid",
+    "getrandom",
+    "getrusage",
+    "gettid",
+    "gettimeofday",
+    "getuid",
+    "lseek",
+    "lstat",
+    "madvise",
+    "membarrier",
+    "mremap",
+    "munmap",
+    "nanosleep",
+    "newfstatat",
+    "open",
+    "openat",
+    "poll",
+    "ppoll",
+    "pread64",
+    "pwrite64",
+    "read",
+    "readlink",
+    "readlinkat",
+    "readv",
+    "rename",
+    "renameat",
+    "renameat2",
+    "restart_syscall",
+    "rseq",
+    "rt_sigaction",
+    "rt_sigpending",
+    "rt_sigprocmask",
+    "rt_sigreturn",
+    "rt_sigsuspend",
+    "rt_sigtimedwait",
+    "sched_getaffinity",
+    "sched_yield",
+    "setitimer",
+    "set_robust_list",
+    "sigaltstack",
+    "stat",
+    "statx",
+    "sysinfo",
+    "time",
+    "uname",
+    "unlink",
+    "unlinkat",
+    "write",
+    "writev",
+    "alarm",
+};
+
+class CallFilter {
+public:
+    CallFilter() : iFilter(::seccomp_init(SCMP_ACT_ERRNO(ENOSYS))) {}
+    ~CallFilter() { ::seccomp_release(iFilter); }
+    CallFilter(const CallFilter&) = delete;
+    CallFilter& operator=(const CallFilter&) = delete;
+
+    bool enforce() {
+        if (!iFilter)
+            return false;
+        for (const char* name : harmlessCalls)
+            allow(name);
+        // Memory, but none that can be run as code.
+        for (const char* name : {"mmap", "mmap2", "mprotect"})
+            allow(name, SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0));
+        // Threads, not processes. The newer call hides what it asks for; the C library falls back.
+        allow("clone", SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD));
+        // Asking for a limit of its own, not setting one.
+        allow("prlimit64", SCMP_A0(SCMP_CMP_EQ, 0), SCMP_A2(SCMP_CMP_EQ, 0));
+        // A process may abort itself.
+        allow("tgkill", SCMP_A0(SCMP_CMP_EQ, static_cast<scmp_datum_t>(::getpid())));
+        return ::seccomp_load(iFilter) == 0;
+    }
+
+private:
+    // A call that this machine does not have at all is none to allow.
+    template <class... Conditions>
+    void allow(const char* name, Conditions... conditions) {
+        const int call = ::seccomp_syscall_resolve_name(name);
+        if (call != __NR_SCMP_ERROR)
+            ::seccomp_rule_add(iFilter, SCMP_ACT_ALLOW, call, sizeof...(conditions), conditions...);
+    }
+
+    scmp_filter_ctx iFilter;
+};
+
+void limit(__rlimit_resource resource, std::size_t amount) {
+    const rlimit limits{amount, amount};
+    ::setrlimit(resource, &limits);
+}
+
+void setLimits(const Walls::Needs& needs) {
+    constexpr std::size_t maxOpenFiles = 64;
+    limit(RLIMIT_CORE, 0); // its memory is a stranger's document
+    limit(RLIMIT_NOFILE, maxOpenFiles);
+    // Sanitizers reserve memory far beyond any limit.
+#ifndef FOLVERO_SANITIZED
+    if (needs.memory != 0)
+        limit(RLIMIT_DATA, needs.memory);
+#else
+    (void)needs;
+#endif
+}
+
+} // namespace
+
+Walls::Strength Walls::raise(const Needs& needs) {
+    ::tzset(); // reads a file, once
+    setLimits(needs);
+    if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
+        return {};
+    Strength strength;
+    strength.files = closeOffFiles(needs);
+    strength.calls = CallFilter().enforce();
+    return strength;
+}
+
+#else
+
+Walls::Strength Walls::raise(const Needs& /*needs*/) {
+    return {};
+}
+
+#endif

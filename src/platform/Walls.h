@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <cstddef>
+#include <optional>
+
+// Walls around a process that reads files made by strangers: once they are up, whoever takes the
+// process over can still compute, and do little else. They stay up for good.
+namespace Walls {
+
+// What the process goes on to need of the file system and the machine.
+struct Needs {
+    QString file;          // read; a symbolic link is followed
+    QString workFolder;    // files in it are read, written, renamed and deleted; null for none
+    std::size_t memory{0}; // bytes of data it may hold
+};
+
+// How far a system goes along.
+struct Strength {
+    bool files = false; // only the needed ones can be opened
+    bool calls = false; // no network, no other program, no signals to others
+};
+
+// Takes away all but that: other files, the network, starting programs, and memory without end. A
+// system that knows no such walls leaves the process as it is, which the result tells. To be called
+// before there is a second thread.
+Strength raise(const Needs& needs);
+
+} // namespace Walls

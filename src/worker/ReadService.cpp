@@ -1,0 +1,65 @@
+#include "worker/ReadService.h"
+
+#include "platform/EngineLimits.h"
+#include "platform/PDFFacts.h"
+#include "platform/PlatformException.h"
+#include "worker/Seclusion.h"
+
+#include <QFile>
+#include <functional>
+#include <iostream>
+#include <new>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+// A process that nobody waits for any more must not run on. The other side gives up before that.
+constexpr unsigned maxQuestionSeconds = unsigned(EngineLimits::maxPageTime.count()) + 10;
+
+QByteArray answer(const PDFDocument& document, const QByteArray& question) {
+    const qsizetype blank = question.indexOf(' ');
+    const QByteArray what = blank < 0 ? question : question.left(blank);
+    const QByteArray of = blank < 0 ? QByteArray() : question.mid(blank + 1);
+    if (what == "page")
+        return PDFFacts::pack(document.page(of.toInt()).boxes());
+    if (what == "annotations")
+        return PDFFacts::pack(document.page(of.toInt()).annotations());
+    if (what == "outline")
+        return PDFFacts::pack(document.outline());
+    if (what == "information")
+        return PDFFacts::pack(document.information(of.constData()));
+    throw PlatformException(QStringLiteral("PDFReaderGarbled"), QStringLiteral("no such question"));
+}
+
+void say(const std::function<QByteArray()>& work) {
+    std::string line;
+    ::alarm(maxQuestionSeconds);
+    try {
+        line = "ok " + work().toBase64().toStdString();
+    } catch (const PlatformException& failure) {
+        QString reason = failure.reason();
+        reason.replace(u'\n', u' ');
+        line = "fail " + failure.name().toStdString() + ' ' + reason.toStdString();
+    } catch (const std::bad_alloc&) {
+        line = "fail PDFPageUnreadable it takes more memory than a page may have";
+    } catch (const std::exception& failure) {
+        line = std::string("fail PDFPageUnreadable ") + failure.what();
+    }
+    ::alarm(0);
+    std::cout << line << std::endl;
+}
+
+} // namespace
+
+void serveReading(const char* pdf) {
+    const QString path = QFile::decodeName(pdf);
+    seclude(path, QString());
+    std::shared_ptr<PDFDocument> document;
+    say([&] {
+        document = PDFDocument::open(path, PDFDocument::Access::mapped);
+        return PDFFacts::pack(document->pageCount());
+    });
+    for (std::string line; document && std::getline(std::cin, line);)
+        say([&] { return answer(*document, QByteArray::fromStdString(line)); });
+}
