@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
+#include <ctime>
 #include <gtest/gtest.h>
 #include <map>
 #include <sstream>
@@ -176,6 +177,25 @@ TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
     }
     EXPECT_EQ(listed, pages);
     EXPECT_EQ(links, FlashPagesAnnotationsPDF::maximumAnnotations);
+}
+
+// The engine alone would go through five thousand pages for each of these links.
+TEST_F(FlashPagesAnnotationsPDFTest, FindsTheSamePageAgainQuickly) {
+    constexpr int pages = 5000;
+    PDFBuilder builder;
+    PDFBuilder::Page first = pageOf({100, 100});
+    first.annotations.assign(
+        30'000, PDFBuilder::link(QRectF(0, 0, 9, 9),
+                                 PDFBuilder::toDestination(builder.destination(pages - 1))));
+    builder.addPage(first);
+    for (int i = 1; i < pages; ++i)
+        builder.addPage(pageOf({100, 100}));
+    const auto document = open(builder);
+    const std::clock_t start = std::clock();
+    const auto links = document->page(0).annotations();
+    EXPECT_LT(double(std::clock() - start) / CLOCKS_PER_SEC, 4);
+    ASSERT_EQ(links.size(), 30'000U);
+    EXPECT_EQ(links.back().destinationPage, pages - 1);
 }
 
 TEST_F(FlashPagesAnnotationsPDFTest, ReadsTheSameLinksOnePageAtATimeWhenIdle) {
