@@ -43,7 +43,8 @@ run() {
         fi
     done
     echo "seconds: $((SECONDS - started))" >>"$log"
-    times | sed -n 's/^/processor: /;2p' >>"$log"
+    # Two lines, the second of which is about the harness.
+    { echo "processor:"; times; } >>"$log"
 }
 
 row() {
@@ -53,7 +54,8 @@ row() {
         /^stat::peak_rss_mb:/ { if ($2 > peak) peak = $2 }
         /Test unit written to .*-(crash|timeout|oom|leak)-/ { findings++ }
         /^seconds:/ { seconds = $2 }
-        /^processor:/ { split($2 "m" $3, t, /[ms]+/); used = (t[1] + t[3]) * 60 + t[2] + t[4] }
+        /^processor:/ { at = NR + 2 }
+        at && NR == at { split($1 "m" $2, t, /[ms]+/); used = (t[1] + t[3]) * 60 + t[2] + t[4] }
         END {
             printf "| %s | %d | %d | %d | %d | %d / %d | %d | %d | %d |\n", name, seconds / 60, used,
                 units, units / (used > 1 ? used : 1), cov, ft, corpus, peak, findings

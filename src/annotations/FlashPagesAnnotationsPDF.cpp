@@ -103,6 +103,7 @@ void FlashPagesAnnotationsPDF::begin(std::shared_ptr<PDFDocument> document,
     iNeedToImportPages =
         FlashPageSource::parsePageRange(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
     iCurrentIndex = 0;
+    iAnnotationsRead = 0;
     iDocument.reset();
     iDocument.append_child("pagesAnnos");
 }
@@ -155,7 +156,12 @@ void FlashPagesAnnotationsPDF::parsePage() {
     if (!iPDFDoc)
         return;
     const PDFPage page = iPDFDoc->page(number - 1);
+    if (iAnnotationsRead >= maximumAnnotations) {
+        annotationsLog().warn(QStringLiteral("page %1: too many links before it").arg(number));
+        return;
+    }
     const auto annotations = page.annotations();
+    iAnnotationsRead += annotations.size();
     if (annotations.empty())
         return;
     annotationsLog().debug(QStringLiteral("count is:%1").arg(annotations.size()));

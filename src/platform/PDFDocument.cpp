@@ -174,7 +174,7 @@ int PDFDocument::Engine::countPages() const {
 }
 
 std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) const {
-    const int page = get(
+    pdf_obj* first = get(
         [&](fz_context* ctx) {
             pdf_obj* target = destination;
             // The engine doesn't look into the name tree of a document that has the older
@@ -185,14 +185,26 @@ std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) co
                 target = pdf_lookup_dest(ctx, document, destination);
             if (pdf_is_dict(ctx, target))
                 target = pdf_dict_get(ctx, target, PDF_NAME(D));
-            if (!pdf_is_array(ctx, target))
-                return -1;
-            pdf_obj* first = pdf_array_get(ctx, target, 0);
-            return pdf_is_int(ctx, first) ? pdf_to_int(ctx, first)
-                                          : pdf_lookup_page_number(ctx, document, first);
+            return pdf_array_get(ctx, target, 0);
         },
-        -1);
+        static_cast<pdf_obj*>(nullptr));
+    const int page = pageNumber(first);
     return page >= 0 && page < pageCount ? std::optional(page) : std::nullopt;
+}
+
+int PDFDocument::Engine::pageNumber(pdf_obj* page) const {
+    if (get([&](fz_context* ctx) { return pdf_is_int(ctx, page); }, 0))
+        return get([&](fz_context* ctx) { return pdf_to_int(ctx, page); }, -1);
+    const int object = get([&](fz_context* ctx) { return pdf_to_num(ctx, page); }, 0);
+    if (object == 0)
+        return -1;
+    const auto known = pageNumbers.find(object);
+    if (known != pageNumbers.end())
+        return known->second;
+    const int number =
+        get([&](fz_context* ctx) { return pdf_lookup_page_number(ctx, document, page); }, -1);
+    pageNumbers.emplace(object, number);
+    return number;
 }
 
 std::optional<int> PDFDocument::Engine::targetPage(pdf_obj* dictionary) const {

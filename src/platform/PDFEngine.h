@@ -8,6 +8,7 @@
 #include <mupdf/pdf.h>
 #include <optional>
 #include <set>
+#include <unordered_map>
 
 // The open file behind a PDFDocument, shared by the files of this folder that speak to the PDF
 // engine.
@@ -59,6 +60,9 @@ struct PDFDocument::Engine {
 
     // Zero-based page that an explicit or named destination, or a go-to action, leads to.
     std::optional<int> destinationPage(pdf_obj* destination) const;
+    // Zero-based number of a page that an array begins with, as reference or as number; -1 for
+    // others.
+    int pageNumber(pdf_obj* page) const;
     // The destination of an annotation or outline entry: its "Dest", or that of its go-to action.
     std::optional<int> targetPage(pdf_obj* dictionary) const;
 
@@ -74,6 +78,9 @@ struct PDFDocument::Engine {
     // As counted when the file was opened. The engine may come upon damage later, mend the file and
     // count anew; what was read before would then disagree with what is read after.
     int pageCount = 0;
+    // The numbers of pages that something leads to, by the numbers of their objects. The engine
+    // goes through the pages for each.
+    mutable std::unordered_map<int, int> pageNumbers;
     void* mapping = nullptr;
     std::size_t mappingSize = 0;
 };

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
+#include <ctime>
 #include <gtest/gtest.h>
 #include <map>
 #include <sstream>
@@ -172,6 +173,51 @@ TEST_F(FlashPagesAnnotationsPDFTest, FailsOnAPageThatTheDocumentLacks) {
     FlashPagesAnnotationsPDF annotations;
     EXPECT_THROW(annotations.loadLinksFromPDF(open(builder), QStringLiteral("2")),
                  PlatformException);
+}
+
+TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
+    constexpr int perPage = 5000;
+    constexpr int pages = 2 * FlashPagesAnnotationsPDF::maximumAnnotations / perPage;
+    PDFBuilder builder;
+    const int link = builder.addObject(
+        PDFBuilder::link(QRectF(0, 0, 9, 9), PDFBuilder::toURL("https://a.org/")));
+    const int list =
+        builder.addObject("[ " + (PDFBuilder::reference(link) + ' ').repeated(perPage) + "]");
+    PDFBuilder::Page page = pageOf({100, 100});
+    page.extraEntries = "/Annots " + PDFBuilder::reference(list);
+    for (int i = 0; i < pages; ++i)
+        builder.addPage(page);
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("ALL"));
+
+    int listed = 0;
+    std::size_t links = 0;
+    for (const auto& pageAnnos : annotations.pagesAnnotationsNode()) {
+        const auto found = std::distance(pageAnnos.begin(), pageAnnos.end());
+        ASSERT_EQ(found, ++listed <= pages / 2 ? perPage : 0) << listed;
+        links += std::size_t(found);
+    }
+    EXPECT_EQ(listed, pages);
+    EXPECT_EQ(links, FlashPagesAnnotationsPDF::maximumAnnotations);
+}
+
+// The engine alone would go through five thousand pages for each of these links.
+TEST_F(FlashPagesAnnotationsPDFTest, FindsTheSamePageAgainQuickly) {
+    constexpr int pages = 5000;
+    PDFBuilder builder;
+    PDFBuilder::Page first = pageOf({100, 100});
+    first.annotations.assign(
+        30'000, PDFBuilder::link(QRectF(0, 0, 9, 9),
+                                 PDFBuilder::toDestination(builder.destination(pages - 1))));
+    builder.addPage(first);
+    for (int i = 1; i < pages; ++i)
+        builder.addPage(pageOf({100, 100}));
+    const auto document = open(builder);
+    const std::clock_t start = std::clock();
+    const auto links = document->page(0).annotations();
+    EXPECT_LT(double(std::clock() - start) / CLOCKS_PER_SEC, 4);
+    ASSERT_EQ(links.size(), 30'000U);
+    EXPECT_EQ(links.back().destinationPage, pages - 1);
 }
 
 TEST_F(FlashPagesAnnotationsPDFTest, ReadsTheSameLinksOnePageAtATimeWhenIdle) {

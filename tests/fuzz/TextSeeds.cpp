@@ -1,4 +1,5 @@
 #include "fuzz/Seeds.h"
+#include "platform/PDFFacts.h"
 #include "support/TemplateLibrary.h"
 #include "util/NSData+CocoaDevUsersAdditions.h"
 #include "util/NSData+CommonCrypto.h"
@@ -106,9 +107,25 @@ SeedSet codecSeeds() {
     return {"Codecs", seeds};
 }
 
+// The first byte says what the rest is.
+SeedSet factSeeds() {
+    PDFPageBoxes boxes;
+    boxes.media = boxes.crop = QRectF(0, 0, 612, 792);
+    boxes.display = QSizeF(612, 792);
+    PDFAnnotation web{QStringLiteral("Link"), QRectF(1, 2, 3, 4), QStringLiteral("http://a/"), {}};
+    PDFAnnotation within{QStringLiteral("Link"), QRectF(1, 2, 3, 4), {}, 5};
+    const PDFOutlineNode leaf{QStringLiteral("Leaf"), 2, {}};
+    const PDFOutlineNode branch{QStringLiteral("Branch"), -1, {leaf, leaf}};
+    return {"PDFFacts",
+            {'\0' + PDFFacts::pack(7), '\1' + PDFFacts::pack(QStringLiteral("A title")),
+             '\1' + PDFFacts::pack(QString()), '\2' + PDFFacts::pack(boxes),
+             '\3' + PDFFacts::pack(std::vector{web, within}),
+             '\4' + PDFFacts::pack(std::vector{branch, leaf})}};
+}
+
 } // namespace
 
 std::vector<SeedSet> textSeeds() {
     return {pageRangeSeeds(), colorSeeds(),    textTemplateSeeds(), outlineSeeds(),
-            settingsSeeds(),  templateSeeds(), codecSeeds()};
+            settingsSeeds(),  templateSeeds(), codecSeeds(),        factSeeds()};
 }

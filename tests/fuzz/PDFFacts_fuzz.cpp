@@ -1,0 +1,44 @@
+#include "fuzz/Fuzz.h"
+#include "platform/PDFFacts.h"
+
+namespace {
+
+// What was taken apart is put together and taken apart once more.
+template <class Value>
+void check(const QByteArray& bytes, Value (*unpack)(const QByteArray&)) {
+    Value value;
+    try {
+        value = unpack(bytes);
+    } catch (const PlatformException& failure) {
+        Fuzz::require(failure.name() == PDFFacts::garbled().name(), "a failure says so");
+        return;
+    }
+    const QByteArray packed = PDFFacts::pack(value);
+    Fuzz::require(packed.size() <= bytes.size(), "nothing is added");
+    Fuzz::require(PDFFacts::pack(unpack(packed)) == packed, "what was packed comes back");
+}
+
+} // namespace
+
+// One byte for what the process that reads a document was asked, then its answer.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Fuzz::Input input(data, size);
+    switch (input.byte() % 5) {
+    case 0:
+        check(input.rest(), PDFFacts::unpackNumber);
+        break;
+    case 1:
+        check(input.rest(), PDFFacts::unpackText);
+        break;
+    case 2:
+        check(input.rest(), PDFFacts::unpackBoxes);
+        break;
+    case 3:
+        check(input.rest(), PDFFacts::unpackAnnotations);
+        break;
+    default:
+        check(input.rest(), PDFFacts::unpackOutline);
+        break;
+    }
+    return 0;
+}
