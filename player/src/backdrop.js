@@ -1,3 +1,4 @@
+import { mayFollow } from './addresses.js';
 import { writingOn } from './contrast.js';
 import { part } from './dom.js';
 import { fileAddress } from './values.js';
@@ -5,19 +6,22 @@ import { fileAddress } from './values.js';
 /** @typedef {import('./config.js').BookConfig} BookConfig */
 /** @typedef {import('./config.js').Ground} Ground */
 
+/** @type {[position: string, size: string, repeat: string]} */
+const STRETCHED = ['center', '100% 100%', 'no-repeat'];
+
 /** Where a picture lies and how large it is; "own": as large as the configuration says. */
-/** @type {Record<string, [position: string, size: string, repeat: string]>} */
-const POSITIONS = {
-  'scale to fit': ['center', '100% 100%', 'no-repeat'],
-  'fill': ['center', 'cover', 'no-repeat'],
-  'fit': ['center', 'contain', 'no-repeat'],
-  'tile': ['left top', 'own', 'repeat'],
-  'center': ['center', 'own', 'no-repeat'],
-  'top left': ['left top', 'own', 'no-repeat'],
-  'top right': ['right top', 'own', 'no-repeat'],
-  'bottom left': ['left bottom', 'own', 'no-repeat'],
-  'bottom right': ['right bottom', 'own', 'no-repeat'],
-};
+/** @type {Map<string, [position: string, size: string, repeat: string]>} */
+const POSITIONS = new Map([
+  ['scale to fit', STRETCHED],
+  ['fill', ['center', 'cover', 'no-repeat']],
+  ['fit', ['center', 'contain', 'no-repeat']],
+  ['tile', ['left top', 'own', 'repeat']],
+  ['center', ['center', 'own', 'no-repeat']],
+  ['top left', ['left top', 'own', 'no-repeat']],
+  ['top right', ['right top', 'own', 'no-repeat']],
+  ['bottom left', ['left bottom', 'own', 'no-repeat']],
+  ['bottom right', ['right bottom', 'own', 'no-repeat']],
+]);
 
 /** Opacity of bar and drawer where their colour allows it. */
 const SURFACE = 0.94;
@@ -51,8 +55,7 @@ function paintGround(element, ground) {
     element.style.background = gradient;
     return;
   }
-  const [position, size, repeat] = POSITIONS[ground.position.toLowerCase()]
-    ?? POSITIONS['scale to fit'];
+  const [position, size, repeat] = POSITIONS.get(ground.position.toLowerCase()) ?? STRETCHED;
   const { width, height } = ground.size;
   const own = width > 0 && height > 0 ? width + 'px ' + height + 'px' : 'auto';
   element.style.background = 'url("' + fileAddress(ground.file) + '") '
@@ -80,13 +83,13 @@ function paintSurface(root, name, colour) {
  * @param {string} text
  */
 function writeCaption(caption, text) {
-  if (!/^(?:https?:\/\/|mailto:)/i.test(text)) {
+  if (!/^(?:https?:\/\/|mailto:|tel:[+\d(])/i.test(text) || !mayFollow(text)) {
     caption.textContent = text;
     return;
   }
   const link = document.createElement('a');
   link.href = text;
-  link.textContent = text.replace(/^https?:\/\/|^mailto:|\/$/gi, '');
+  link.textContent = text.replace(/^https?:\/\/|^(?:mailto|tel):|\/$/gi, '');
   link.rel = 'noopener';
   link.target = '_blank';
   caption.replaceChildren(link);

@@ -190,8 +190,7 @@ function textAt(root, path) {
   return element?.textContent?.trim() ?? '';
 }
 
-/** @type {Record<string, string>} */
-const ENTITIES = { amp: '&', lt: '<', gt: '>', quot: '"', apos: "'" };
+const ENTITIES = new Map([['amp', '&'], ['lt', '<'], ['gt', '>'], ['quot', '"'], ['apos', "'"]]);
 
 /** One page of the list, read when it is asked for: a book may have thousands. */
 class ListedPage {
@@ -242,5 +241,5 @@ function readPages(list) {
 
 /** @param {string} text with the five entities that every XML document knows */
 function plainText(text) {
-  return text.includes('&') ? text.replace(/&(\w+);/g, (all, name) => ENTITIES[name] ?? all) : text;
+  return text.includes('&') ? text.replace(/&(\w+);/g, (all, name) => ENTITIES.get(name) ?? all) : text;
 }

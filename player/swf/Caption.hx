@@ -7,17 +7,15 @@ import flash.text.TextField;
 import flash.text.TextFieldAutoSize;
 import flash.text.TextFormat;
 
-/** The text in the lower left corner; an address of the web or for mail opens. **/
+/** The text in the lower left corner; an address of the web, for mail or of a telephone opens. **/
 class Caption extends Sprite {
-	static final ADDRESS = ~/^(https?:\/\/|mailto:)/i;
-
 	final shadow:TextField;
 	final text:TextField;
 
 	public function new(caption:String) {
 		super();
-		var isLink = ADDRESS.match(caption);
-		var words = isLink ? ~/^https?:\/\/|^mailto:|\/$/gi.replace(caption, "") : caption;
+		var isLink = Address.mayFollow(caption);
+		var words = isLink ? ~/^https?:\/\/|^(mailto|tel):|\/$/gi.replace(caption, "") : caption;
 		shadow = line(words, 0x000000);
 		text = line(words, 0xffffff);
 		shadow.x = shadow.y = 1;

@@ -61,11 +61,11 @@ class Config {
 		outer = ground(background, "Outer", 0xc0c0c0, 0x808080);
 		inner = ground(background, "Inner", 0xa3cfd1, 0x408080);
 		var sound = child(background, "BackgroundSound");
-		soundFile = address(textOf(sound, "SoundFile"));
+		soundFile = Address.ofFile(textOf(sound, "SoundFile"));
 		soundLoops = Std.int(number(sound, "SoundLoops", -1, -1, 10000));
 		pages = [
 			for (page in child(root, "Ppts").elementsNamed("Ppt"))
-				address(textOf(child(page, "Normal"), "ImgPath"))
+				Address.ofFile(textOf(child(page, "Normal"), "ImgPath"))
 		];
 		if (pages.length == 0)
 			throw new BookError("This book has no pages", "Nothing was published into it.");
@@ -91,14 +91,9 @@ class Config {
 			from: color(colors, which + "GradiantColorA", from),
 			to: color(colors, which + "GradiantColorB", to),
 			angle: number(colors, which + "GradiantAngle", 90, -3600, 3600),
-			file: address(textOf(image, which + "BackgroundFile")),
+			file: Address.ofFile(textOf(image, which + "BackgroundFile")),
 			position: textOf(image, which + "BackgroundPosition").toLowerCase()
 		};
-	}
-
-	/** Address, relative to the movie, of a file that the configuration names. **/
-	static function address(path:String):String {
-		return path == "" ? "" : "files/" + path.split("/").map(StringTools.urlEncode).join("/");
 	}
 
 	static function child(node:Xml, name:String):Xml {

@@ -1,6 +1,6 @@
 #include "app/MirelUtility.h"
 
-#include "platform/Files.h"
+#include "app/TemporaryFolders.h"
 #include "platform/FolderList.h"
 #include "platform/Folders.h"
 
@@ -10,8 +10,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QUrl>
-#include <cstdlib>
-#include <sys/stat.h>
 
 namespace {
 
@@ -26,17 +24,9 @@ QString MirelUtility::tmpDiractoryForCurrentUser() {
     return folder.isNull() ? QStringLiteral("/tmp") : folder;
 }
 
+// In "/tmp" on purpose, wherever the user's own temporary folder is.
 QString MirelUtility::forceTmpDiractory(const QString& name) {
-    // Here on purpose, wherever the user's own temporary folder is.
-    const QString parent = Files::join(QStringLiteral("/tmp"), name);
-    // Open to all users like the folder above it, or the first user would lock out the others.
-    if (QDir().mkdir(parent))
-        ::chmod(QFile::encodeName(parent).constData(), 01777);
-    QByteArray path = QFile::encodeName(Files::join(parent, QStringLiteral("temp.XXXXXX")));
-    ::mkdtemp(path.data());
-    const QString folder = QFile::decodeName(path);
-    QDir().mkpath(folder);
-    return folder;
+    return TemporaryFolders::make(name);
 }
 
 void MirelUtility::openFolderFromFolderOrFile(const QString& path) {

@@ -12,7 +12,8 @@ public:
     // The user's temporary folder, or "/tmp" when the platform names none.
     static QString tmpDiractoryForCurrentUser();
 
-    // Makes a new, unique folder "/tmp/NAME/temp.XXXXXX" and returns its path.
+    // Makes a new, unique folder "/tmp/NAME/temp.XXXXXX" and returns its path. One that an earlier
+    // run left is removed. See TemporaryFolders, whose remove() is for those who need it no more.
     static QString forceTmpDiractory(const QString& name);
 
     // Shows the file or folder selected in the platform's file browser.

@@ -145,5 +145,9 @@ void TemplateChoice::applyAssignment(FlashTemplate& tmpl, const QString& assignm
                                .arg(tmpl.tmplName(), key),
                            ExitCode::usage);
     }
-    tmpl.setPropertyValue(key, checkedValue(*property, assignment.mid(equals + 1)));
+    const QString value = checkedValue(*property, assignment.mid(equals + 1));
+    if (property->propertyType() == pt_file && !value.isEmpty() &&
+        tmpl.valueAsFilePath(value).isEmpty())
+        refuse(key, value, QStringLiteral("a file of the style"));
+    tmpl.setPropertyValue(key, value);
 }

@@ -10,6 +10,16 @@ namespace {
 constexpr int barWidth = 30;
 constexpr std::chrono::milliseconds redrawInterval{50};
 
+// Texts of documents and names of files must not give orders to the terminal that they are shown
+// on; whoever reads them from a pipe gets them as they are.
+QString withoutOrders(QString text) {
+    for (QChar& letter : text) {
+        if (letter.category() == QChar::Other_Control && letter != u'\n' && letter != u'\t')
+            letter = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
 void write(std::FILE* file, const QString& text) {
     const QByteArray bytes = text.toLocal8Bit();
     std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), file);
@@ -19,7 +29,7 @@ void write(std::FILE* file, const QString& text) {
 } // namespace
 
 void Terminal::print(const QString& line) {
-    write(stdout, line + u'\n');
+    write(stdout, (::isatty(STDOUT_FILENO) != 0 ? withoutOrders(line) : line) + u'\n');
 }
 
 void Terminal::checkOutput() {
@@ -28,7 +38,7 @@ void Terminal::checkOutput() {
 }
 
 void Terminal::note(const QString& line) {
-    write(stderr, line + u'\n');
+    write(stderr, (::isatty(STDERR_FILENO) != 0 ? withoutOrders(line) : line) + u'\n');
 }
 
 ProgressDisplay::ProgressDisplay(QString title, bool quiet)

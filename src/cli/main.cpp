@@ -12,6 +12,7 @@
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <QFile>
+#include <csignal>
 #include <fcntl.h>
 #include <string>
 #include <unistd.h>
@@ -222,6 +223,8 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
+    // A file that may not grow any further is a failure like a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Folvero"));
     QCoreApplication::setApplicationName(QStringLiteral("Folvero"));

@@ -131,8 +131,8 @@ QString FolveroOutput::resourceFolder(const QString& root, const QString& name) 
 bool FolveroOutput::replaceWithCopy(const QString& source, const QString& folder,
                                     const QString& name, Copy kind) {
     checkCancelled();
-    if (!BookName::staysInFolder(name)) {
-        logger().warn(QStringLiteral("left out, not a file name: %1").arg(name));
+    if (!BookName::isHarmless(name)) {
+        logger().warn(QStringLiteral("left out, not a name for a file of a book: %1").arg(name));
         return false;
     }
     const QString target = Files::join(folder, name);
@@ -246,7 +246,7 @@ void FolveroOutput::PrepareAnnotationFiles(const QString& base) {
         for (const QString& source : iFlashPagesAnnotations->needFiles()) {
             checkCancelled();
             const QString name = Files::lastPathComponent(source);
-            if (!isReadableFile(source) || !BookName::staysInFolder(name)) {
+            if (!isReadableFile(source) || !BookName::isHarmless(name)) {
                 logger().warn(QStringLiteral("a link's file was left out: %1").arg(source));
                 continue;
             }
@@ -313,7 +313,7 @@ void FolveroOutput::copyTemplateFile(const QString& name, TemplateCopy copy,
     if (QFileInfo::exists(staged))
         return;
     // The template says nothing about its failures.
-    const QString source = FlashTemplate::tmplPathForName(iFlashTemplate->tmplName()) + name;
+    const QString source = iFlashTemplate->playerFile(name);
     if (isReadableFile(source))
         transaction().copy(source, target, Copy::independent);
     else

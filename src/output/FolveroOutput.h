@@ -109,8 +109,8 @@ protected:
     // For work inside perform(): what the run changes.
     PublishTransaction& transaction() { return *iTransaction; }
     // Copies a file under a name of its own in a folder of the book. Without the source, an earlier
-    // file of that name goes and false comes back; so it does for a name that would leave the
-    // folder.
+    // file of that name goes and false comes back; so it does for a name that a
+    // book's file may not have.
     bool replaceWithCopy(const QString& source, const QString& folder, const QString& name,
                          PublishTransaction::Copy kind);
 

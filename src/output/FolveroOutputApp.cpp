@@ -92,7 +92,7 @@ void FolveroOutputApp::ouputTheBook() {
         reportFailure(lastErrorAt(folder));
         return;
     }
-    const auto end = qScopeGuard([&] { QDir(staging).removeRecursively(); });
+    const auto end = qScopeGuard([&] { StagingFolder::remove(staging); });
     const QString working = Files::join(staging, QFileInfo(bundle).fileName());
     publishInto(working);
     renameInErrors(working, bundle);

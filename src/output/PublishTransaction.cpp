@@ -20,15 +20,19 @@ namespace {
     PublishTransaction::fail(path, Message::ofLastSystemError());
 }
 
-// Symbolic links count as what they are, not as what they point to.
-bool exists(const QString& path) {
+// The kind of what is there, 0 for nothing. Symbolic links count as what they are, not as what they
+// point to.
+mode_t kindOf(const QString& path) {
     struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & S_IFMT : 0;
+}
+
+bool exists(const QString& path) {
+    return kindOf(path) != 0;
 }
 
 bool isFolder(const QString& path) {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
+    return kindOf(path) == S_IFDIR;
 }
 
 bool moveFile(const QString& from, const QString& to) {
@@ -47,15 +51,15 @@ void PublishTransaction::fail(const QString& path, const Message& cause) {
 }
 
 PublishTransaction::PublishTransaction(const QString& folder)
-    : iFolder(folder.isEmpty() ? QStringLiteral(".") : folder) {
+    : iFolder(folder.isEmpty() ? QStringLiteral(".") : QDir::cleanPath(folder)) {
     try {
-        makeFolderNow(iFolder);
+        makeRoot(iFolder);
         StagingFolder::removeStale(iFolder);
         iStaging = StagingFolder::make(iFolder);
         if (iStaging.isNull())
             failWithErrno(iFolder);
     } catch (...) {
-        removeMadeFolders();
+        removeMadeRoots();
         throw;
     }
 }
@@ -65,9 +69,9 @@ PublishTransaction::~PublishTransaction() {
         rescueBackups();
         return;
     }
-    QDir(iStaging).removeRecursively();
+    StagingFolder::remove(iStaging);
     if (!iCommitted)
-        removeMadeFolders();
+        removeMadeRoots();
 }
 
 // Under a name that no later run takes for a leftover.
@@ -121,7 +125,7 @@ bool PublishTransaction::willExist(const QString& path) const {
     const auto found = iIndexOfTarget.constFind(clean);
     if (found != iIndexOfTarget.cend())
         return !iChanges[*found].staged.isNull();
-    return exists(clean) || iFoldersToMake.contains(clean);
+    return iFoldersToMake.contains(clean) || (exists(clean) && !isBehindLink(clean));
 }
 
 QString PublishTransaction::newName() {
@@ -155,45 +159,85 @@ void PublishTransaction::commit() {
     iCommitted = true;
 }
 
-void PublishTransaction::makeFolderNow(const QString& path) {
+void PublishTransaction::makeRoot(const QString& path) {
     if (path.isEmpty() || QFileInfo(path).isDir())
         return;
-    makeFolderNow(parentOf(path));
+    makeRoot(parentOf(path));
     if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0)
         failWithErrno(path);
-    iMadeFolders << path;
+    iMadeRoots << path;
 }
 
-// The earlier file gets a second name first: so the target never goes missing, and can come back.
+void PublishTransaction::makeFolderNow(const QString& path) {
+    if (!isBeneath(path))
+        return makeRoot(path);
+    if (isFolder(path))
+        return;
+    makeFolderNow(parentOf(path));
+    if (kindOf(path) == S_IFLNK)
+        putAside(path);
+    if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0)
+        failWithErrno(path);
+    iDone.push_back({path, QString(), true});
+}
+
+void PublishTransaction::putAside(const QString& path) {
+    const QString backup = newName();
+    if (!moveFile(path, backup))
+        failWithErrno(path);
+    iDone.push_back({path, backup});
+}
+
+// For a file that is to be replaced: so it never goes missing, and can come back.
+QString PublishTransaction::secondName(const QString& path) {
+    const QString name = newName();
+    Message error;
+    if (!Files::linkOrCopy(path, name, &error))
+        fail(path, error);
+    return name;
+}
+
 void PublishTransaction::putInPlace(const Change& change) {
     makeFolderNow(parentOf(change.target));
-    if (isFolder(change.target))
+    const mode_t kind = kindOf(change.target);
+    if (kind == S_IFDIR)
         fail(change.target, Message::translate("FolveroOutput", "There is a folder of that name"));
     QString backup;
-    if (exists(change.target)) {
-        Message error;
-        backup = newName();
-        if (!Files::linkOrCopy(change.target, backup, &error))
-            fail(change.target, error);
-    }
+    if (kind == S_IFREG)
+        backup = secondName(change.target);
+    else if (kind != 0)
+        putAside(change.target);
     if (!moveFile(change.staged, change.target))
         failWithErrno(change.target);
     iDone.push_back({change.target, backup});
 }
 
 void PublishTransaction::takeAway(const Change& change) {
-    if (!exists(change.target) || isFolder(change.target))
-        return;
-    const QString backup = newName();
-    if (!moveFile(change.target, backup))
-        failWithErrno(change.target);
-    iDone.push_back({change.target, backup});
+    if (exists(change.target) && !isFolder(change.target) && !isBehindLink(change.target))
+        putAside(change.target);
+}
+
+bool PublishTransaction::isBeneath(const QString& path) const {
+    if (iFolder == u".")
+        return !path.isEmpty() && path != u"." && !path.startsWith(u'/');
+    return path.startsWith(iFolder.endsWith(u'/') ? iFolder : iFolder + u'/') && path != iFolder;
+}
+
+// Whether a folder on the way from the transaction's folder is a link.
+bool PublishTransaction::isBehindLink(const QString& path) const {
+    for (QString folder = parentOf(path); isBeneath(folder); folder = parentOf(folder)) {
+        if (kindOf(folder) == S_IFLNK)
+            return true;
+    }
+    return false;
 }
 
 bool PublishTransaction::undo() {
     bool complete = true;
     for (auto step = iDone.rbegin(); step != iDone.rend(); ++step) {
-        if (step->backup.isNull())
+        if (step->isFolder)
+            ::rmdir(QFile::encodeName(step->target).constData());
+        else if (step->backup.isNull())
             QFile::remove(step->target);
         else
             complete = moveFile(step->backup, step->target) && complete;
@@ -201,7 +245,7 @@ bool PublishTransaction::undo() {
     return complete;
 }
 
-void PublishTransaction::removeMadeFolders() {
-    for (auto path = iMadeFolders.crbegin(); path != iMadeFolders.crend(); ++path)
+void PublishTransaction::removeMadeRoots() {
+    for (auto path = iMadeRoots.crbegin(); path != iMadeRoots.crend(); ++path)
         ::rmdir(QFile::encodeName(*path).constData());
 }

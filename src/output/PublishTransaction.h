@@ -12,6 +12,9 @@
 // content is staged in a hidden folder inside the folder, which a later transaction clears away if
 // this process dies. Every function but the destructor throws PlatformException with the file and
 // the cause in its reason; the folder is then as it was before.
+//
+// The folder itself may be reached through symbolic links. Beneath it none is followed: one that
+// lies where a file or a folder is to be is replaced.
 class PublishTransaction {
 public:
     // The order in which files are put in place: a book is never seen with a configuration or a
@@ -55,17 +58,24 @@ private:
     struct Undo {
         QString target;
         QString backup; // null when there was no such file
+        bool isFolder = false;
     };
 
     void rescueBackups() const;
+    void makeRoot(const QString& path);
     void makeFolderNow(const QString& path);
+    // Moves what is there into the hidden folder.
+    void putAside(const QString& path);
+    QString secondName(const QString& path);
+    bool isBeneath(const QString& path) const;
+    bool isBehindLink(const QString& path) const;
     QString newName();
     Change& changeOf(const QString& target);
     void putInPlace(const Change& change);
     void takeAway(const Change& change);
     // False when an earlier file could not be put back.
     bool undo();
-    void removeMadeFolders();
+    void removeMadeRoots();
 
     QString iFolder;
     QString iStaging;
@@ -73,7 +83,7 @@ private:
     std::vector<Change> iChanges;
     QHash<QString, std::size_t> iIndexOfTarget;
     QStringList iFoldersToMake;
-    QStringList iMadeFolders;
+    QStringList iMadeRoots;
     std::vector<Undo> iDone;
     bool iCommitted = false;
 };

@@ -1,8 +1,7 @@
 #include "pages/PDFToPageConverter.h"
 
 #include "app/MirelUtility.h"
-
-#include <QDir>
+#include "app/TemporaryFolders.h"
 
 PDFToPageConverter::PDFToPageConverter(const QString& pdfPath, std::shared_ptr<PDFDocument> pdfDoc,
                                        int quality)
@@ -13,7 +12,7 @@ PDFToPageConverter::PDFToPageConverter(const QString& pdfPath, std::shared_ptr<P
 
 PDFToPageConverter::~PDFToPageConverter() {
     if (!iConverterWorkFolder.isEmpty())
-        QDir(iConverterWorkFolder).removeRecursively();
+        TemporaryFolders::remove(iConverterWorkFolder);
 }
 
 QString PDFToPageConverter::generatePage(int /*page*/) {

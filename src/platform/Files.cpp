@@ -1,5 +1,7 @@
 #include "platform/Files.h"
 
+#include "platform/Descriptor.h"
+
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
@@ -10,27 +12,8 @@
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(int number) : iNumber(number) {}
-    ~Descriptor() {
-        if (iNumber >= 0)
-            ::close(iNumber);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int number() const { return iNumber; }
-    bool isOpen() const { return iNumber >= 0; }
-    // Network file systems tell only now that the disk is full.
-    bool close() { return ::close(std::exchange(iNumber, -1)) == 0; }
-
-private:
-    int iNumber;
-};
 
 bool fail(Message* error) {
     if (error)

@@ -1,6 +1,7 @@
 #include "template/FlashTemplate.h"
 
 #include "platform/Bundle.h"
+#include "platform/Confinement.h"
 #include "platform/Files.h"
 #include "platform/FolderList.h"
 #include "platform/Log.h"
@@ -29,15 +30,20 @@ QString appendPathComponent(const QString& folder, const QString& component) {
     return Files::join(folder, component.mid(start, end - start));
 }
 
+QString libraryFolder() {
+    return appendPathComponent(Bundle::resourcePath(), QStringLiteral("AppFiles/")) + u'/';
+}
+
 QString stylesFolder(const QString& tmplName) {
     const QString styles =
         appendPathComponent(Bundle::resourcePath(), QStringLiteral("AppFiles/Styles/"));
     return appendPathComponent(styles, tmplName);
 }
 
-// Whoever reads the target meanwhile sees the old file or the new one, never a part of it.
+// A null source removes the target. Whoever reads the target meanwhile sees the old file or the new
+// one, never a part of it.
 void replaceFile(const QString& source, const QString& target) {
-    if (!QFileInfo::exists(source)) {
+    if (source.isNull()) {
         QFile::remove(target);
         return;
     }
@@ -152,13 +158,27 @@ QString FlashTemplate::tmplHTMLFilePath() const {
     // Template files may be written with the separators of another system.
     QString relative = iHTMLFilePath;
     relative.replace(u'\\', u'/');
-    const QString library =
-        appendPathComponent(Bundle::resourcePath(), QStringLiteral("AppFiles/")) + u'/';
-    for (const QString& folder : {tmplPathForName(iTmplName), library}) {
-        if (QFileInfo(folder + relative).isFile())
-            return folder + relative;
+    for (const QString& folder : {tmplPathForName(iTmplName), libraryFolder()}) {
+        const QString path = folder + relative;
+        if (QFileInfo(path).isFile())
+            return isOfLibrary(path) ? path : QString();
     }
     return {};
+}
+
+QString FlashTemplate::playerFile(const QString& name) const {
+    const QString path = tmplPathForName(iTmplName) + name;
+    return QFileInfo(path).isFile() && isOfLibrary(path) ? path : QString();
+}
+
+bool FlashTemplate::isOfLibrary(const QString& path) const {
+    if (Confinement::holds(tmplPathForName(iTmplName), path) ||
+        Confinement::holds(libraryFolder(), path))
+        return true;
+    logger().warn(
+        QStringLiteral("the template \"%1\" has no right to this file, it lies elsewhere: %2")
+            .arg(iTmplName, path));
+    return false;
 }
 
 QString FlashTemplate::valueAsFilePath(const QString& value) const {
@@ -166,18 +186,24 @@ QString FlashTemplate::valueAsFilePath(const QString& value) const {
     const qsizetype found = value.indexOf(prefix);
     if (found < 0)
         return value;
-    return appendPathComponent(stylePathFor(iTmplName, iStyleName),
-                               value.mid(found + prefix.size()));
+    const QString style = stylePathFor(iTmplName, iStyleName);
+    const QString path = appendPathComponent(style, value.mid(found + prefix.size()));
+    if (Confinement::holds(style, path))
+        return path;
+    logger().warn(
+        QStringLiteral("the style \"%1\" has no right to this file, it lies elsewhere: %2")
+            .arg(iStyleName, path));
+    return QStringLiteral("");
 }
 
 void FlashTemplate::copyBookSWFToFile(const QString& destination) const {
-    replaceFile(tmplPathForName(iTmplName) + QStringLiteral("book.swf"), destination);
+    replaceFile(playerFile(QStringLiteral("book.swf")), destination);
 }
 
 void FlashTemplate::copyBookSoundFile(const QString& destination) const {
-    replaceFile(tmplPathForName(iTmplName) + QStringLiteral("moveSound.mp3"), destination);
+    replaceFile(playerFile(QStringLiteral("moveSound.mp3")), destination);
 }
 
 void FlashTemplate::copyBookJSFile(const QString& destination) const {
-    replaceFile(tmplPathForName(iTmplName) + QStringLiteral("swfobject.js"), destination);
+    replaceFile(playerFile(QStringLiteral("swfobject.js")), destination);
 }

@@ -43,12 +43,15 @@ public:
     void setPropertyValue(const QString& key, const QString& value);
     // True when a descendant had the key and was set.
     bool setPropertyValueAt(FlashTemplateProperty& node, const QString& key, const QString& value);
-    // Resolves "STYLE_RESOURCE:" into the current style's folder.
+    // Resolves "STYLE_RESOURCE:" into the current style's folder; the empty text for what leads out
+    // of it, by ".." or by links.
     QString valueAsFilePath(const QString& value) const;
 
     // The template's HTML page, in the template's folder or else in the library's root; a null text
-    // when neither exists.
+    // when neither exists or it leads out of the library.
     QString tmplHTMLFilePath() const;
+    // Path of a file of the template's player; null when there is none or it leads out likewise.
+    QString playerFile(const QString& name) const;
     // Each removes an existing destination first; a failure is silent.
     void copyBookSWFToFile(const QString& destination) const;
     void copyBookSoundFile(const QString& destination) const;
@@ -88,6 +91,7 @@ public:
 
 private:
     void loadTemplateFile(const QString& path);
+    bool isOfLibrary(const QString& path) const;
 
     QString iTmplName;
     Properties iProperties;

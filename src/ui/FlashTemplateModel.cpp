@@ -1,5 +1,6 @@
 #include "ui/FlashTemplateModel.h"
 
+#include "ui/PlainText.h"
 #include "ui/TemplateTexts.h"
 
 #include <QFont>
@@ -98,6 +99,7 @@ QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return iSource.objectValueForTableColumn(columnName(index), item(index));
     case Qt::ToolTipRole:
+        return PlainText::toolTip(TemplateTexts::shown(item(index)->desc()));
     case Qt::AccessibleDescriptionRole:
         return TemplateTexts::shown(item(index)->desc());
     case Qt::FontRole: {

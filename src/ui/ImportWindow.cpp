@@ -24,6 +24,7 @@ ImportWindow::ImportWindow(QWidget* parent)
     lblFailure = new QLabel;
     lblFailure->setObjectName(QStringLiteral("failure"));
     lblFailure->setWordWrap(true);
+    lblFailure->setTextFormat(Qt::PlainText);
     lblFailure->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     lblFailure->hide();
 
@@ -82,6 +83,7 @@ QWidget* ImportWindow::progressRow() {
     prgBar = new QProgressBar;
     prgBar->setTextVisible(false);
     lblInfo = new QLabel;
+    lblInfo->setTextFormat(Qt::PlainText);
     for (auto* part : std::initializer_list<QWidget*>{prgBar, lblInfo}) {
         QSizePolicy policy = part->sizePolicy();
         policy.setRetainSizeWhenHidden(true);

@@ -1,5 +1,6 @@
 #include "ui/Panels.h"
 
+#include "ui/PlainText.h"
 #include "ui/wxCPWCDelegate.h"
 
 #include <QApplication>
@@ -63,6 +64,7 @@ bool Panels::askToOpen(const QString& message, const QString& information) {
     const QAbstractButton* openIt =
         alert.addButton(QCoreApplication::translate("Panels", "Open it"), QMessageBox::AcceptRole);
     alert.addButton(QCoreApplication::translate("Panels", "No"), QMessageBox::RejectRole);
+    PlainText::show(alert);
     alert.exec();
     return alert.clickedButton() == openIt;
 }
@@ -71,6 +73,7 @@ void Panels::tell(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
                       QMessageBox::Ok, QApplication::activeWindow());
     alert.setInformativeText(information);
+    PlainText::show(alert);
     alert.exec();
 }
 

@@ -1,5 +1,6 @@
 #include "ui/SelectTemplateModels.h"
 
+#include "ui/PlainText.h"
 #include "ui/SelectTemplateWindowDelegate.h"
 #include "ui/TemplateTexts.h"
 
@@ -23,6 +24,7 @@ QVariant TmplListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
         return TemplateTexts::templateName(name);
     case Qt::ToolTipRole:
+        return PlainText::toolTip(iSource.failureOf(name));
     case Qt::AccessibleDescriptionRole:
     case failureRole:
         return iSource.failureOf(name);

@@ -25,6 +25,7 @@ QLabel* emptyText(QListView& view, const QString& name, const QString& text) {
     label->setObjectName(name);
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->setForegroundRole(QPalette::PlaceholderText);
     (new QVBoxLayout(view.viewport()))->addWidget(label);

@@ -77,6 +77,28 @@ TEST_F(FlashPagesAnnotationsPDFTest, WritesWebAndPageLinksPerImportedPage) {
                   place + "</pageAnnos></pagesAnnos>");
 }
 
+// What may be followed is for whoever shows the links.
+TEST_F(FlashPagesAnnotationsPDFTest, KeepsAddressesOfAnySchemeAsTexts) {
+    const QByteArray addresses[] = {"javascript:alert", "JaVaScRiPt:x<&\"]]>", "file:///etc/passwd",
+                                    "data:text/html,<script>x</script>"};
+    PDFBuilder builder;
+    std::vector<QByteArray> links;
+    for (const QByteArray& address : addresses)
+        links.push_back(PDFBuilder::link(QRectF(60, 700, 120, 40), PDFBuilder::toURL(address)));
+    builder.addPage(pageOf({600, 800}, links));
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("ALL"));
+    pugi::xml_document read;
+    ASSERT_TRUE(read.load_string(asText(annotations.pagesAnnotationsNode()).c_str()));
+    auto anno = read.document_element().child("pageAnnos").child("anno");
+    for (const QByteArray& address : addresses) {
+        EXPECT_STREQ(anno.child("action").child("url").text().get(), address.constData());
+        EXPECT_EQ(anno.child("action").child("url").select_nodes("*").size(), 0U);
+        anno = anno.next_sibling();
+    }
+    EXPECT_FALSE(anno);
+}
+
 TEST_F(FlashPagesAnnotationsPDFTest, FollowsEveryFormOfDestination) {
     PDFBuilder builder;
     const QRectF rect(0, 0, 10, 10);

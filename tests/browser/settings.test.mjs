@@ -57,11 +57,13 @@ const captions = [
   ['https://example.org/', 'example.org', 'https://example.org/'],
   ['HTTP://example.org/a', 'example.org/a', 'HTTP://example.org/a'],
   ['mailto:books@example.org', 'books@example.org', 'mailto:books@example.org'],
+  ['tel:+49 30 1234', '+49 30 1234', 'tel:+49 30 1234'],
+  ['Tel: ask at the desk', 'Tel: ask at the desk', null],
   ['javascript:alert(1)', 'javascript:alert(1)', null],
   ['data:text/html,<b>x</b>', 'data:text/html,<b>x</b>', null],
   ['See https://example.org', 'See https://example.org', null],
 ];
-test('TutorialTitle is the caption: text, and a link when it is an address of the web or for mail', async () => {
+test('TutorialTitle is the caption: text, and a link when it is an address of the web, for mail or of a telephone', async () => {
   for (const [text, words, address] of captions) {
     const book = await open({ TutorialTitle: text });
     const caption = book.page.locator('.caption');

@@ -228,6 +228,22 @@ test('a caption that is an address opens it', async () => {
   assert.deepEqual((await book.state()).pages, [1], 'the click turned no page');
 });
 
+test('the movie follows no other address and reads nothing beyond the book', async () => {
+  for (const address of ['javascript:window.broken=1', 'file:///etc/passwd', 'data:text/html,<b>x</b>']) {
+    const opened = [];
+    const note = (page) => opened.push(page.url());
+    emulator.page.context().on('page', note);
+    const book = await open({ values: { TutorialTitle: address, OuterBackgroundFile: '../../outer.png',
+      InnerBackgroundFile: 'page/../../../inner.png', SoundFile: 'https://example.invalid/a.mp3' } });
+    await book.page.mouse.click(45, 601);
+    await book.page.waitForTimeout(300);
+    emulator.page.context().off('page', note);
+    assert.deepEqual(opened, []);
+    assert.equal(await book.page.evaluate(() => window.broken), undefined);
+    assert.deepEqual(book.asked.filter(({ path: name }) => /outer|inner|a\.mp3/.test(name)), []);
+  }
+});
+
 /** Colours in the middle of the window from a book's beginning until its cover is there. */
 async function coloursOfOpening(InitialShow) {
   const folder = await reader.book({ pages: [{ bytes: png(120, 160, () => red) }],

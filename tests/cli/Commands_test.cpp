@@ -121,6 +121,20 @@ TEST(DecodeCommand, ShowsTheConfigurationOfABook) {
     EXPECT_TRUE(xml.output.contains("<InitialShow>Rise</InitialShow>"));
 }
 
+TEST(Commands, GiveTheTerminalNoOrdersOfADocument) {
+    const QString command =
+        QStringLiteral("'%1' info '%2'")
+            .arg(Program::path(), Program::sample(QStringLiteral("hostile.pdf")));
+    const auto shown = Program::runOther(
+        QStringLiteral("script"), {QStringLiteral("-qec"), command, QStringLiteral("/dev/null")});
+    EXPECT_TRUE(shown.output.contains("taken over")) << shown.output.constData();
+    EXPECT_FALSE(shown.output.contains('\x1b'));
+    EXPECT_FALSE(shown.output.contains('\a'));
+    const auto piped =
+        Program::runOther(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
+    EXPECT_TRUE(piped.output.contains("\x1b]0;taken over\a"));
+}
+
 TEST(Commands, FailWhenTheirOutputCannotBeWritten) {
     EXPECT_EQ(Program::runOther(QStringLiteral("/bin/sh"),
                                 {QStringLiteral("-c"),

@@ -80,6 +80,10 @@ TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     window().webView->setOpener([&addresses](const QUrl& url) { addresses << url; });
     evaluate(text("location.href = 'https://folvero.example/more'"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !addresses.isEmpty(); }));
+    evaluate(text("location.href = 'program://run'"));
+    evaluate(text("location.href = 'tel:+49301234'"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return addresses.size() == 2; }));
+    EXPECT_EQ(addresses.last(), QUrl(text("tel:+49301234")));
     EXPECT_TRUE(waitForPreview());
 }
 

@@ -190,6 +190,56 @@ TEST(FolveroOutput, NeverWritesOutsideItsFolder) {
                            text("sources/b")}));
 }
 
+TEST(FolveroOutput, GivesNoFileANameThatOthersCouldMisuse) {
+    PublishedBook book;
+    const QString file = book.addSource(text("a.png"), "a");
+    const QString long250(250, u'x');
+    book.library.addTemplate(
+        text("float"), fileProperty(".htaccess", file) +
+                           fileProperty("", book.addSource(text("b.htaccess"), "b")) +
+                           fileProperty("..\\..\\evil", file) + fileProperty("/etc/passwd", file) +
+                           fileProperty("a&#10;b", file) +
+                           TemplateLibrary::property(long250 + text("xx"), file, text("pt_file")) +
+                           TemplateLibrary::property(long250, file, text("pt_file")) +
+                           fileProperty("Bild \xfc 1", file));
+    book.flashTemplate->loadTemplate(text("float"));
+    book.publish();
+    EXPECT_EQ(
+        BookReader::filesBeneath(book.folder() + text("/files/extfiles")),
+        (QStringList{text("Bild \xfc 1.png"), text("moveSound.mp3"), long250 + text(".png")}));
+}
+
+TEST(FolveroOutput, ReplacesLinksThatLieInItsFolder) {
+    PublishedBook book(fileProperty("mainbgImgUrl", QString()));
+    book.addPage(text("1.jpg"), 1, "page");
+    book.annotations = std::make_shared<FlashPagesAnnotations>();
+    book.annotations->setNeedFiles({book.addSource(text("clip.mp4"), "clip")});
+    const QTemporaryDir outside;
+    for (const char* name : {"secret", "page/1.jpg", "pageConfig/clip.mp4", "mainbgImgUrl.png"})
+        TestFiles::write(outside.filePath(text(name)), "kept");
+    const auto link = [&](const char* to, const char* name) {
+        ASSERT_TRUE(QFile::link(outside.filePath(text(to)), book.folder() + text(name)));
+    };
+    for (const char* name : {"/index.html", "/book.swf"})
+        link("secret", name);
+    QDir(book.folder()).mkdir(text("files"));
+    link("secret", "/files/UserConfig.bin");
+    link("page", "/files/page");
+    link("pageConfig", "/files/pageConfig");
+    link("", "/files/extfiles");
+    book.publish();
+    EXPECT_EQ(book.read(text("files/page/1.jpg")), "page");
+    EXPECT_EQ(book.read(text("files/pageConfig/clip.mp4")), "clip");
+    for (const char* name : {"index.html", "book.swf", "files/page", "files/UserConfig.bin",
+                             "files/extfiles", "files/pageConfig"})
+        EXPECT_FALSE(QFileInfo(book.folder() + u'/' + text(name)).isSymLink()) << name;
+    EXPECT_EQ(BookReader::filesBeneath(outside.path()),
+              (QStringList{text("mainbgImgUrl.png"), text("page/1.jpg"),
+                           text("pageConfig/clip.mp4"), text("secret")}));
+    for (const QString& name : BookReader::filesBeneath(outside.path()))
+        EXPECT_EQ(TestFiles::read(outside.filePath(name)), "kept");
+}
+
 ino_t inode(const QString& path) {
     struct stat info {};
     return ::stat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_ino : 0;

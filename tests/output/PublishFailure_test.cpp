@@ -20,14 +20,6 @@ QString text(const char* latin1) {
     return QString::fromLatin1(latin1);
 }
 
-// Every file beneath a folder with its content.
-std::map<QString, QByteArray> contentsOf(const QString& folder) {
-    std::map<QString, QByteArray> contents;
-    for (const QString& name : BookReader::filesBeneath(folder))
-        contents[name] = TestFiles::read(folder + u'/' + name);
-    return contents;
-}
-
 // Makes files longer than that fail to be written while it lives.
 class FileSizeLimit {
 public:
@@ -69,13 +61,13 @@ protected:
     ChangedBook() {
         book.addPage(text("1.jpg"), 1, "old");
         book.publish();
-        before = contentsOf(book.folder());
+        before = BookReader::contentsBeneath(book.folder());
         book.addSource(text("1.jpg"), "new");
         book.addPage(text("2.jpg"), 2, QByteArray(100000, 'x'));
         book.HTMLConfig->setHTMLTitle(text("New"));
     }
 
-    void expectUntouched() const { EXPECT_EQ(contentsOf(book.folder()), before); }
+    void expectUntouched() const { EXPECT_EQ(BookReader::contentsBeneath(book.folder()), before); }
 
     PublishedBook book;
     std::map<QString, QByteArray> before;
@@ -198,14 +190,14 @@ TEST(FullDisk, LeavesTheEarlierBookWhole) {
         GTEST_SKIP() << "mounting is not permitted here";
     book.addPage(text("1.jpg"), 1, QByteArray(300000, 'a'));
     book.publish();
-    const auto before = contentsOf(book.folder());
+    const auto before = BookReader::contentsBeneath(book.folder());
     for (int page = 2; page < 10; ++page)
         book.addPage(text("%1.jpg").arg(page), page, QByteArray(300000, 'b'));
     const auto output = book.publisher();
     output->ouputTheBook();
     EXPECT_THAT(output->publishErrors().join(u'\n').toStdString(),
                 testing::HasSubstr("No space left on device"));
-    EXPECT_EQ(contentsOf(book.folder()), before);
+    EXPECT_EQ(BookReader::contentsBeneath(book.folder()), before);
 }
 
 TEST(ouputBookXML, TellsTheSystemLogWhenItsFolderIsMissing) {

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -118,6 +119,87 @@ TEST_F(Transaction, ReplacesALinkNotWhatItPointsTo) {
     EXPECT_FALSE(QFileInfo(path("b")).isSymLink());
 }
 
+// A folder with a linked folder in it, as somebody may hand it on.
+class LinkedFolder : public Transaction {
+protected:
+    LinkedFolder() {
+        TestFiles::write(outside.filePath(QStringLiteral("a")), "kept");
+        TestFiles::write(outside.filePath(QStringLiteral("b")), "kept");
+        QFile::link(outside.path(), path("linked"));
+    }
+    void expectOutsideUntouched() const {
+        EXPECT_EQ(BookReader::filesBeneath(outside.path()),
+                  (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+        EXPECT_EQ(TestFiles::read(outside.filePath(QStringLiteral("a"))), "kept");
+    }
+
+    QTemporaryDir outside;
+};
+
+TEST_F(LinkedFolder, BecomesAFolderOfItsOwn) {
+    {
+        PublishTransaction run(folder.path());
+        EXPECT_FALSE(run.willExist(path("linked/b")));
+        run.makeFolder(path("linked/inner"));
+        run.write(path("linked/a"), "new");
+        run.write(path("linked/deep/c"), "new");
+        run.commit();
+    }
+    expectOutsideUntouched();
+    EXPECT_FALSE(QFileInfo(path("linked")).isSymLink());
+    EXPECT_EQ(TestFiles::read(path("linked/a")), "new");
+    EXPECT_TRUE(QFileInfo(path("linked/inner")).isDir());
+    EXPECT_EQ(files(), (QStringList{QStringLiteral("linked/a"), QStringLiteral("linked/deep/c")}));
+}
+
+TEST_F(LinkedFolder, KeepsTheFilesBehindItThatAreToBeRemoved) {
+    {
+        PublishTransaction run(folder.path());
+        run.remove(path("linked/a"));
+        run.commit();
+    }
+    expectOutsideUntouched();
+    EXPECT_TRUE(QFileInfo(path("linked")).isSymLink());
+}
+
+TEST_F(LinkedFolder, IsPutBackWhenTheRunFails) {
+    TestFiles::write(path("taken/inside"), "x");
+    {
+        PublishTransaction run(folder.path());
+        run.write(path("linked/deep/a"), "new");
+        run.write(path("taken"), "new");
+        EXPECT_THROW(run.commit(), PlatformException);
+    }
+    expectOutsideUntouched();
+    EXPECT_EQ(QFileInfo(path("linked")).symLinkTarget(), outside.path());
+}
+
+TEST_F(LinkedFolder, MayBeTheFolderOfTheRunItself) {
+    {
+        PublishTransaction run(path("linked/"));
+        run.write(path("linked/a"), "new");
+        run.write(path("linked/c/d"), "new");
+        run.commit();
+    }
+    EXPECT_TRUE(QFileInfo(path("linked")).isSymLink());
+    EXPECT_EQ(BookReader::filesBeneath(outside.path()),
+              (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c/d")}));
+    EXPECT_EQ(TestFiles::read(outside.filePath(QStringLiteral("a"))), "new");
+}
+
+TEST_F(Transaction, WritesIntoTheCurrentFolder) {
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+    {
+        PublishTransaction run(QStringLiteral("."));
+        run.write(QStringLiteral("a"), "x");
+        run.write(QStringLiteral("b/c"), "x");
+        run.commit();
+    }
+    QDir::setCurrent(before);
+    EXPECT_EQ(files(), (QStringList{QStringLiteral("a"), QStringLiteral("b/c")}));
+}
+
 TEST_F(Transaction, ClearsAwayOnlyWhatDeadProcessesLeft) {
     const pid_t child = ::fork();
     if (child == 0)
@@ -131,6 +213,23 @@ TEST_F(Transaction, ClearsAwayOnlyWhatDeadProcessesLeft) {
     EXPECT_FALSE(QFileInfo::exists(stale));
     EXPECT_TRUE(QFileInfo::exists(live));
     EXPECT_EQ(files().size(), 1);
+}
+
+TEST_F(Transaction, ClearsAwayWhatADeadProcessLeftWhoseNumberIsTakenAgain) {
+    const QString left = path(".folvero-publish-%1-abcdef").arg(::getppid());
+    TestFiles::write(left + QStringLiteral("/1"), "x");
+    ::chmod(QFile::encodeName(left).constData(), 01700);
+    { const PublishTransaction run(folder.path()); }
+    EXPECT_FALSE(QFileInfo::exists(left));
+}
+
+TEST_F(Transaction, ClearsNothingAwayBehindALink) {
+    const QTemporaryDir outside;
+    TestFiles::write(outside.filePath(QStringLiteral("file")), "kept");
+    const QString trap = path(".folvero-publish-999999999-abcdef");
+    ASSERT_TRUE(QFile::link(outside.path(), trap));
+    { const PublishTransaction run(folder.path()); }
+    EXPECT_TRUE(QFileInfo::exists(outside.filePath(QStringLiteral("file"))));
 }
 
 TEST_F(Transaction, SurvivesTheDeathOfTheProcess) {

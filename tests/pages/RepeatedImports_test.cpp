@@ -16,7 +16,7 @@ constexpr int rounds = 10;
 constexpr int rounds = 200;
 #endif
 constexpr int warmUp = rounds / 4;
-constexpr qint64 toleratedBytes = 512 << 10;
+[[maybe_unused]] constexpr qint64 toleratedBytes = 512 << 10;
 
 // The most memory that this process has had so far.
 qint64 peakBytes() {

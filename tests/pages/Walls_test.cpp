@@ -1,7 +1,7 @@
 #include "pages/ImportPDFOperation.h"
 #include "pages/PageWorkers.h"
 
-#include "platform/PDFReader.h"
+#include "platform/NotificationCenter.h"
 #include "platform/PlatformException.h"
 #include "support/ChildProcesses.h"
 #include "support/PDFBuilder.h"
@@ -145,13 +145,20 @@ TEST_F(KilledWorkers, CostTheirPagesWhichAreToldByNumber) {
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
     auto operation = std::make_shared<ImportPDFOperation>(path(), QStringLiteral("ALL"), 144, 100);
+    std::atomic<int> progress{0};
+    const auto subscription = NotificationCenter::defaultCenter().addObserver(
+        QString::fromUtf16(ImportProgressInfoMSG), nullptr,
+        [&](const Notification& /*message*/) { ++progress; });
     OperationQueue queue;
     queue.addOperation(operation);
     std::size_t kills = 0;
-    while (!queue.waitFor(std::uniform_int_distribution(1, 100)(random)) && kills < 25) {
+    for (int seen = 0;
+         kills < 25 && !queue.waitFor(std::uniform_int_distribution(1, 60)(random));) {
         const auto workers = ChildProcesses::running("draw", ::getpid());
-        if (workers.empty())
+        // Workers that are killed while they start, time and again, would be given up.
+        if (workers.empty() || progress == seen)
             continue;
+        seen = progress;
         ::kill(workers[random() % workers.size()], SIGKILL);
         ++kills;
     }

@@ -118,3 +118,13 @@ QStringList BookReader::filesBeneath(const QString& folder) {
     files.sort();
     return files;
 }
+
+std::map<QString, QByteArray> BookReader::contentsBeneath(const QString& folder) {
+    std::map<QString, QByteArray> contents;
+    for (const QString& name : filesBeneath(folder)) {
+        QFile file(QDir(folder).filePath(name));
+        require(file.open(QIODevice::ReadOnly), "a file can't be read");
+        contents[name] = file.readAll();
+    }
+    return contents;
+}

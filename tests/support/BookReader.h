@@ -32,5 +32,7 @@ QByteArray bytesOfScript(const QByteArray& script);
 
 // Paths of all files beneath a folder, relative to it and sorted, hidden ones included.
 QStringList filesBeneath(const QString& folder);
+// The same with what is in them.
+std::map<QString, QByteArray> contentsBeneath(const QString& folder);
 
 } // namespace BookReader

@@ -193,6 +193,55 @@ TEST_F(FlashTemplateTest, LooksForItsPageInItsFolderAndThenInTheLibrary) {
               library.templatePath(QStringLiteral("float")) + QStringLiteral("/html/index.html"));
 }
 
+TEST_F(FlashTemplateTest, KeepsFilesOfAStyleWithinTheStyle) {
+    library.addTemplate(QStringLiteral("float"), property("image", "", "pt_file"));
+    library.addFile(QStringLiteral("secret.png"), "x");
+    library.addFile(QStringLiteral("AppFiles/Styles/float/Other/img.jpg"), "x");
+    const QString secret = library.path() + QStringLiteral("/secret.png");
+    for (const char* name :
+         {"../Other/img.jpg", "../../../../secret.png", "/../../../../secret.png",
+          "a/../../Other/img.jpg", "link.png", "linked/secret.png"}) {
+        SCOPED_TRACE(name);
+        library.addStyle(QStringLiteral("float"), QStringLiteral("Sea"),
+                         QByteArray("image=STYLE_RESOURCE:") + name);
+        const QString style = library.stylePath(QStringLiteral("float"), QStringLiteral("Sea"));
+        QFile::link(secret, style + QStringLiteral("/link.png"));
+        QFile::link(library.path(), style + QStringLiteral("/linked"));
+        FlashTemplate tmpl;
+        const RecordedLog log;
+        tmpl.loadStyleByStyleName(QStringLiteral("Sea"));
+        EXPECT_EQ(value(tmpl, "image"), u"");
+        EXPECT_FALSE(log.texts().filter(QStringLiteral("has no right")).isEmpty());
+    }
+}
+
+TEST_F(FlashTemplateTest, TakesAnAbsoluteNameOfAStyleForOneInIt) {
+    library.addTemplate(QStringLiteral("float"));
+    FlashTemplate tmpl;
+    tmpl.setStyleName(QStringLiteral("Sea"));
+    const QString style = library.stylePath(QStringLiteral("float"), QStringLiteral("Sea"));
+    EXPECT_EQ(tmpl.valueAsFilePath(QStringLiteral("STYLE_RESOURCE:/etc/passwd")),
+              style + QStringLiteral("/etc/passwd"));
+    EXPECT_EQ(tmpl.valueAsFilePath(QStringLiteral("STYLE_RESOURCE:")), style);
+}
+
+TEST_F(FlashTemplateTest, PublishesNoFilesFromOutsideTheLibrary) {
+    library.addTemplate(QStringLiteral("float"));
+    library.addFile(QStringLiteral("secret"), "x");
+    const QString secret = library.path() + QStringLiteral("/secret");
+    const QString folder = library.templatePath(QStringLiteral("float"));
+    FlashTemplate tmpl;
+    tmpl.setHTMLFilePath(QStringLiteral("..\\..\\..\\secret"));
+    EXPECT_TRUE(tmpl.tmplHTMLFilePath().isNull());
+    ASSERT_TRUE(QFile::link(secret, folder + QStringLiteral("/page.html")));
+    tmpl.setHTMLFilePath(QStringLiteral("page.html"));
+    EXPECT_TRUE(tmpl.tmplHTMLFilePath().isNull());
+    QFile::remove(folder + QStringLiteral("/book.swf"));
+    ASSERT_TRUE(QFile::link(secret, folder + QStringLiteral("/book.swf")));
+    tmpl.copyBookSWFToFile(library.path() + QStringLiteral("/copy"));
+    EXPECT_FALSE(QFileInfo::exists(library.path() + QStringLiteral("/copy")));
+}
+
 TEST_F(FlashTemplateTest, CopiesPlayerFilesOverOldOnes) {
     library.addTemplate(QStringLiteral("float"));
     FlashTemplate tmpl;

@@ -19,5 +19,6 @@ std::vector<Sample> boxSamples();
 std::vector<Sample> imageSamples();
 std::vector<Sample> scriptSamples();
 std::vector<Sample> brokenSamples();
+std::vector<Sample> hostileSamples();
 // Large documents that only the benchmarks read.
 std::vector<Sample> benchmarkSamples();

@@ -20,8 +20,9 @@ bool make(const Sample& sample, const QDir& folder) {
 
 std::vector<Sample> testSamples() {
     std::vector<Sample> all;
-    for (const auto& group : {bookSamples, documentSamples, textSamples, navigationSamples,
-                              boxSamples, imageSamples, scriptSamples, brokenSamples})
+    for (const auto& group :
+         {bookSamples, documentSamples, textSamples, navigationSamples, boxSamples, imageSamples,
+          scriptSamples, brokenSamples, hostileSamples})
         for (Sample& sample : group())
             all.push_back(std::move(sample));
     return all;

@@ -2,6 +2,7 @@
 
 #include "app/desktop/Appearance.h"
 #include "ui/Icons.h"
+#include "ui/PlainText.h"
 
 #include <QActionGroup>
 #include <QFileInfo>
@@ -166,7 +167,7 @@ void MainMenu::showRecentFiles(const QStringList& files) {
     recentFiles->setEnabled(!files.isEmpty());
     for (const QString& path : files) {
         auto* action = recentFiles->addAction(QFileInfo(path).fileName());
-        action->setToolTip(path);
+        action->setToolTip(PlainText::toolTip(path));
         action->setStatusTip(path);
         action->setData(path);
         connect(action, &QAction::triggered, this, [this, path] { Q_EMIT recentFileChosen(path); });

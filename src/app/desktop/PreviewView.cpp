@@ -57,9 +57,9 @@ public:
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
-        const bool isWeb = url.scheme() == QStringLiteral("http") ||
-                           url.scheme() == QStringLiteral("https") ||
-                           url.scheme() == QStringLiteral("mailto");
+        const bool isWeb =
+            url.scheme() == QStringLiteral("http") || url.scheme() == QStringLiteral("https") ||
+            url.scheme() == QStringLiteral("mailto") || url.scheme() == QStringLiteral("tel");
         if (isWeb && isMainFrame)
             opener(url);
         return !isWeb && QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
@@ -92,6 +92,8 @@ PreviewView::PreviewView(QWidget* parent)
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     settings->setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, false);
     settings->setAttribute(QWebEngineSettings::ErrorPageEnabled, false);
+    // The rest would start whatever program the user's system has for it.
+    settings->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
     connect(page(), &QWebEnginePage::renderProcessTerminated, this,
             [this](QWebEnginePage::RenderProcessTerminationStatus status) {
                 if (status != QWebEnginePage::NormalTerminationStatus)

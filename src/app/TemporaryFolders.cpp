@@ -1,0 +1,98 @@
+#include "app/TemporaryFolders.h"
+
+#include "platform/ClaimedFolder.h"
+#include "platform/Descriptor.h"
+#include "platform/Files.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString base = QStringLiteral("/tmp");
+const QString unique = QStringLiteral("XXXXXX");
+// Earlier versions held no lock on their folders; a program left open for that long is rare.
+constexpr std::chrono::seconds unlockedIsOld = 7 * 24h;
+
+Descriptor openFolder(const QString& path) {
+    return Descriptor(::open(QFile::encodeName(path).constData(),
+                             O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+bool isOwn(const QString& path) {
+    const Descriptor open = openFolder(path);
+    struct stat info {};
+    return open.isOpen() && ::fstat(open.number(), &info) == 0 && info.st_uid == ::geteuid();
+}
+
+// Whether nobody but root and this user can take away or exchange what this user makes in it.
+bool isTrustworthy(int folder) {
+    struct stat info {};
+    if (::fstat(folder, &info) != 0)
+        return false;
+    // Root takes the folder over, or whoever runs the program first could trick it.
+    if (::geteuid() == 0 && info.st_uid != 0 &&
+        (::fchown(folder, 0, 0) != 0 || ::fchmod(folder, 01777) != 0 ||
+         ::fstat(folder, &info) != 0))
+        return false;
+    const bool isOpenToOthers = (info.st_mode & (S_IWGRP | S_IWOTH)) != 0;
+    return (info.st_uid == 0 || info.st_uid == ::geteuid()) &&
+           (!isOpenToOthers || (info.st_mode & S_ISVTX) != 0);
+}
+
+void removeStaleIn(const QString& folder, const QString& prefix) {
+    const Descriptor open = openFolder(folder);
+    if (!open.isOpen())
+        return;
+    const QRegularExpression pattern(u'^' + QRegularExpression::escape(prefix) +
+                                     QStringLiteral("[A-Za-z0-9]{6}$"));
+    const auto filter = QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks;
+    for (const QString& name : QDir(folder).entryList({prefix + u'*'}, filter)) {
+        if (pattern.match(name).hasMatch() &&
+            ClaimedFolder::removeIfAbandoned(open.number(), QFile::encodeName(name), unlockedIsOld))
+            Log("MirelUtility")
+                .info(QStringLiteral("removed what an earlier run left: %1")
+                          .arg(Files::join(folder, name)));
+    }
+}
+
+} // namespace
+
+QString TemporaryFolders::make(const QString& name) {
+    const QString parent = Files::join(base, name);
+    const QString inParent = QStringLiteral("temp.");
+    const QString inBase = name + QStringLiteral(".temp.");
+    // Open to all users like the folder above it, or the first user would lock out the others.
+    if (::mkdir(QFile::encodeName(parent).constData(), 0700) == 0)
+        ::chmod(QFile::encodeName(parent).constData(), 01777);
+    removeStaleIn(parent, inParent);
+    removeStaleIn(base, inBase);
+    const Descriptor open = openFolder(parent);
+    QString path;
+    if (open.isOpen() && isTrustworthy(open.number()))
+        path = ClaimedFolder::make(Files::join(parent, inParent + unique));
+    if (path.isNull() && !name.contains(u'/'))
+        path = ClaimedFolder::make(Files::join(base, inBase + unique));
+    if (!path.isNull())
+        return path;
+    // The last resort is not unique.
+    const Message cause = Message::ofLastSystemError();
+    const QString pattern = Files::join(parent, inParent + unique);
+    if (!QDir().mkpath(pattern) || !isOwn(pattern))
+        throw PlatformException(QStringLiteral("TemporaryFolder"),
+                                Message(QStringLiteral("%1: %2")).arg(parent, cause));
+    return pattern;
+}
+
+void TemporaryFolders::remove(const QString& path) {
+    ClaimedFolder::remove(path);
+}

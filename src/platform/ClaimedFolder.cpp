@@ -1,0 +1,108 @@
+#include "platform/ClaimedFolder.h"
+
+#include "platform/Descriptor.h"
+#include "platform/FolderRemoval.h"
+
+#include <QFile>
+#include <cerrno>
+#include <cstdlib>
+#include <ctime>
+#include <fcntl.h>
+#include <map>
+#include <mutex>
+#include <sys/file.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr mode_t permissions = 0777;
+constexpr mode_t ownersOnly = 0700;
+
+// The folders that this process has claimed.
+class Claims {
+public:
+    void add(const QByteArray& path, Descriptor folder) {
+        const std::lock_guard lock(iMutex);
+        iFolders.emplace(path, std::move(folder));
+    }
+    void drop(const QByteArray& path) {
+        const std::lock_guard lock(iMutex);
+        iFolders.erase(path);
+    }
+
+private:
+    std::mutex iMutex;
+    std::map<QByteArray, Descriptor> iFolders;
+};
+
+Claims& claims() {
+    static Claims all;
+    return all;
+}
+
+bool lock(const Descriptor& folder) {
+    return folder.isOpen() && ::flock(folder.number(), LOCK_EX | LOCK_NB) == 0;
+}
+
+// The mark comes after the lock: so a folder that has the one without the other is nobody's.
+void claim(const QByteArray& path) {
+    Descriptor folder(::open(path.constData(), openFolderItself));
+    struct stat info {};
+    if (lock(folder) && ::fstat(folder.number(), &info) == 0 &&
+        ::fchmod(folder.number(), (info.st_mode & 07777) | S_ISVTX) == 0)
+        claims().add(path, std::move(folder));
+}
+
+bool isOwnPrivateFolder(const struct stat& info) {
+    return S_ISDIR(info.st_mode) && info.st_uid == ::geteuid() &&
+           (info.st_mode & permissions) == ownersOnly;
+}
+
+// Whether the name still stands for the folder that was looked at.
+bool isEntry(int parent, const QByteArray& name, const struct stat& folder) {
+    struct stat info {};
+    return ::fstatat(parent, name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0 &&
+           info.st_dev == folder.st_dev && info.st_ino == folder.st_ino;
+}
+
+bool isOld(const struct stat& info, std::optional<std::chrono::seconds> unlockedFor) {
+    return unlockedFor && std::time(nullptr) - info.st_mtime >= unlockedFor->count();
+}
+
+} // namespace
+
+QString ClaimedFolder::make(const QString& path) {
+    QByteArray name = QFile::encodeName(path);
+    if (!::mkdtemp(name.data()))
+        return {};
+    claim(name);
+    return QFile::decodeName(name);
+}
+
+bool ClaimedFolder::remove(const QString& path) {
+    const bool isGone = FolderRemoval::remove(path);
+    claims().drop(QFile::encodeName(path));
+    return isGone;
+}
+
+bool ClaimedFolder::isClaimed(int parent, const QByteArray& name) {
+    const Descriptor folder(::openat(parent, name.constData(), openFolderItself));
+    return folder.isOpen() && !lock(folder) && errno == EWOULDBLOCK;
+}
+
+bool ClaimedFolder::removeIfAbandoned(int parent, const QByteArray& name,
+                                      std::optional<std::chrono::seconds> unlockedFor) {
+    const Descriptor folder(::openat(parent, name.constData(), openFolderItself));
+    struct stat info {};
+    if (!folder.isOpen() || ::fstat(folder.number(), &info) != 0 || !isOwnPrivateFolder(info))
+        return false;
+    const bool wasLocked = (info.st_mode & S_ISVTX) != 0;
+    if (!wasLocked && !isOld(info, unlockedFor))
+        return false;
+    // Whoever else clears away at the same time stops here.
+    if (!lock(folder) || !isEntry(parent, name, info))
+        return false;
+    return FolderRemoval::empty(folder.number()) &&
+           ::unlinkat(parent, name.constData(), AT_REMOVEDIR) == 0;
+}

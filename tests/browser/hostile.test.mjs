@@ -1,0 +1,155 @@
+import assert from 'node:assert/strict';
+import { execFile } from 'node:child_process';
+import { copyFile, writeFile } from 'node:fs/promises';
+import path from 'node:path';
+import { after, afterEach, before, test } from 'node:test';
+import { promisify } from 'node:util';
+import { plainPages } from './support/book.mjs';
+import { TEMPLATE, Reader } from './support/reader.mjs';
+import { readProperties } from './support/template.mjs';
+
+const run = promisify(execFile);
+const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
+const ready = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' };
+const HOSTILE_PDF = path.join(FOLVERO_SAMPLES_DIR ?? '', 'hostile.pdf');
+
+/** Texts that try to become part of the page, of its script or of its style. */
+const MARKUP = [
+  '<img src=x onerror="window.broken=1"></title></script><script>window.broken=1</script>"><svg onload=window.broken=1>',
+  ']]></TutorialTitle><x> &lt;img src=x onerror=window.broken=1&gt; ${index.title}',
+  '");background:url("https://example.invalid/ \');window.broken=1//', 'constructor',
+];
+
+/** Addresses that must not be followed, in spellings that browsers take for one another. */
+const REFUSED = [
+  'javascript:window.broken=1', 'JaVaScRiPt:window.broken=1', 'java\tscript:window.broken=1', 'java\nscript:window.broken=1',
+  ' javascript:window.broken=1', 'javascript://https://example.invalid/%0awindow.broken=1', 'vbscript:window.broken=1',
+  'data:text/html,<script>window.broken=1</script>', 'file:///etc/passwd', 'blob:https://example.invalid/1', 'program://run',
+  '//example.invalid/', '\\\\example.invalid\\share', 'https://', 'Tel: the number',
+];
+const FOLLOWED = [
+  'http://example.invalid/', 'HTTPS://example.invalid/a', 'https://example.invalid/"><script>window.broken=1</script>',
+  'mailto:a@example.invalid', 'tel:+49301234', 'Tel:0301234',
+];
+
+let reader;
+before(async () => { reader = await Reader.start(); });
+afterEach(() => reader.closeBooks());
+after(() => reader.stop());
+
+/** Notes whatever a book does beyond showing itself. */
+function watch(page) {
+  page.misdeeds = [];
+  page.on('dialog', (dialog) => {
+    page.misdeeds.push(`dialog ${dialog.message()}`);
+    dialog.dismiss();
+  });
+  page.on('popup', (popup) => page.misdeeds.push(`window ${popup.url()}`));
+  page.on('framenavigated', (frame) => {
+    if (frame !== page.mainFrame()) page.misdeeds.push(`frame ${frame.url()}`);
+  });
+}
+
+/** Uses everything that shows texts, then gives what the page consists of. */
+async function structureOf(book) {
+  for (const name of ['thumbs', 'share', 'print', 'help']) {
+    await book.use(name);
+    await book.page.keyboard.press('Escape');
+  }
+  await book.page.keyboard.press('End');
+  await book.pages();
+  await book.page.keyboard.press('Home');
+  await book.waitForPages(1);
+  return book.page.evaluate(() => {
+    const counts = {};
+    for (const element of document.querySelectorAll('*:not(.page *, .track *, script[src="files/UserConfig.js"])')) {
+      const names = element.getAttributeNames().filter((name) => name.startsWith('on'));
+      const kind = [element.localName, ...names].join(' ');
+      counts[kind] = (counts[kind] ?? 0) + 1;
+    }
+    return counts;
+  });
+}
+
+async function assertHarmless(book, folder) {
+  assert.equal(await book.page.evaluate(() => window.broken), undefined, 'a script of the content ran');
+  assert.deepEqual(book.page.misdeeds, []);
+  assert.deepEqual(book.errors, []);
+  const own = book.server?.address ?? new URL(`file://${encodeURI(folder)}/`).href;
+  const foreign = book.requests.filter((address) => !address.startsWith(own) && !address.startsWith('data:'));
+  assert.deepEqual(foreign, [], 'requests beyond the book');
+}
+
+async function publish(name, options, pdf = HOSTILE_PDF) {
+  const folder = path.join(reader.folder, name);
+  await run(FOLVERO_BIN, ['publish', '--quiet', '--links', '--bookmarks', ...options, pdf, folder]);
+  return folder;
+}
+
+test('the texts of a hostile document and of hostile settings stay texts', ready, async () => {
+  const harmless = await reader.openFromDisk(await publish('harmless', ['--title', 'x', '--set', 'TutorialTitle=x']), { before: watch });
+  const expected = await structureOf(harmless);
+  const picture = path.join(reader.folder, 'a.p"ng\'),url(x) <b>#?%2e');
+  await copyFile(path.join(TEMPLATE, 'icon.png'), picture);
+  const properties = readProperties(TEMPLATE);
+  for (const [index, text] of MARKUP.entries()) {
+    const settings = path.join(reader.folder, 'settings.txt');
+    await writeFile(settings, properties.filter(({ type, key }) => type !== 'pt_composite' && !/page(Width|Height)/i.test(key))
+      .map(({ type, key }) => `${key}=${type === 'pt_file' ? picture : text}`).join('\n'));
+    const folder = await publish(`texts-${index}`, ['--settings', settings, ...(index % 2 ? ['--title', text] : [])]);
+    const book = index < 2 ? await reader.openFromDisk(folder, { before: watch })
+      : await reader.openOverHttp(folder, { before: watch });
+    assert.equal(await book.page.locator('#folvero').getAttribute('data-state'), 'ready', text);
+    assert.equal(await book.page.locator('.caption').innerText(), text);
+    const title = (await book.page.title()).replace(/\s+/g, ' ');
+    assert.ok(index % 2 ? title === text : title.startsWith('</title><script>window.broken=1</script>'), title);
+    assert.deepEqual(await structureOf(book), expected, text);
+    await assertHarmless(book, folder);
+    await reader.closeBooks();
+  }
+});
+
+test('only addresses of the web, for mail and of telephones can be followed', async () => {
+  for (const [text, followed] of [...REFUSED.map((one) => [one, false]), ...FOLLOWED.map((one) => [one, true])]) {
+    const folder = await reader.book({ pages: plainPages(2), values: { TutorialTitle: text } });
+    const book = await reader.openFromDisk(folder, { before: watch });
+    const links = await book.page.locator('a').evaluateAll((all) => all.map(({ protocol }) => protocol));
+    assert.equal(links.length, followed ? 1 : 0, JSON.stringify(text));
+    if (followed) {
+      assert.match(links[0], /^(https?|mailto|tel):$/);
+    } else {
+      await book.page.locator('.caption').click({ force: true });
+      await book.page.locator('.caption').click({ force: true, modifiers: ['Control'] });
+    }
+    await assertHarmless(book, folder);
+    await reader.closeBooks();
+  }
+});
+
+const PATHS = [
+  '../../../../../../etc/passwd', '/etc/passwd', 'https://example.invalid/x.jpg', '//example.invalid/x.jpg', 'data:image/svg+xml,<svg/>',
+  'javascript:window.broken=1', 'page/%2e%2e/%2e%2e/%2e%2e/x.jpg', 'page\\..\\..\\x.jpg', 'x.jpg"),url("https://example.invalid/x.jpg',
+  'x.jpg?a#b', 'x.jpg\' onerror=\'window.broken=1', './../../x.jpg',
+];
+
+test('no path of a configuration leads out of the book', async () => {
+  for (const name of PATHS) {
+    const folder = await reader.book({
+      pages: plainPages(2), thumb: { path: name, width: 85, height: 113 },
+      values: { OuterBackgroundFile: name, InnerBackgroundFile: name, SoundFile: name },
+    });
+    const book = await reader.openOverHttp(folder, { before: watch });
+    await book.use('thumbs');
+    await book.page.mouse.click(640, 20);
+    await assertHarmless(book, folder);
+    await reader.closeBooks();
+  }
+});
+
+test('the list of links keeps the addresses as they are in the document', ready, async () => {
+  const { stdout } = await run(FOLVERO_BIN, ['info', '--json', HOSTILE_PDF]);
+  const addresses = JSON.parse(stdout).pages[0].links.map(({ url }) => url);
+  for (const wanted of ['javascript:window.broken=1', 'JaVaScRiPt:window.broken=1', 'file:///etc/passwd', 'vbscript:window.broken=1']) {
+    assert.ok(addresses.includes(wanted), `${wanted} in ${JSON.stringify(addresses)}`);
+  }
+});
