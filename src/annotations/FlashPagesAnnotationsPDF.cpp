@@ -5,6 +5,8 @@
 #include "platform/PlatformException.h"
 #include "util/XMLText.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr char16_t scanPageForLinks[] = u"scanPageForLinks";
@@ -51,8 +53,10 @@ Location locationOnPage(const QRectF& bounds, const QSizeF& cropBox, int rotatio
             corner.height / pageHeight};
 }
 
+// A page may be so thin that no number says how many times a link is wider.
 void setFraction(pugi::xml_node node, const char* name, float value) {
-    node.append_attribute(name) = QString::asprintf("%f", double(value)).toUtf8().constData();
+    const double fraction = std::isfinite(value) ? double(value) : 0.0;
+    node.append_attribute(name) = QString::asprintf("%f", fraction).toUtf8().constData();
 }
 
 void appendAction(pugi::xml_node anno, const char* type, const char* element,

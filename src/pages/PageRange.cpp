@@ -35,7 +35,7 @@ std::vector<PageRun> pageRunsFromExpression(const QString& expression, int total
 }
 
 std::vector<int> FlashPageSource::parsePageRange(const QString& expression, int atTotalPage) {
-    const auto runs = pageRunsFromExpression(expression, atTotalPage);
+    auto runs = pageRunsFromExpression(expression, atTotalPage);
     std::int64_t count = 0;
     for (const PageRun& run : runs)
         count += std::int64_t{run.last} - run.first + 1;
@@ -46,14 +46,17 @@ std::vector<int> FlashPageSource::parsePageRange(const QString& expression, int 
                 .arg(expression, QString::number(count)));
     }
 
+    std::sort(runs.begin(), runs.end(),
+              [](const PageRun& a, const PageRun& b) { return a.first < b.first; });
     std::vector<int> numbers;
     numbers.reserve(static_cast<std::size_t>(count));
     for (const PageRun& run : runs) {
-        for (std::int64_t number = run.first; number <= run.last; ++number)
+        std::int64_t number = run.first;
+        if (!numbers.empty())
+            number = std::max<std::int64_t>(number, std::int64_t{numbers.back()} + 1);
+        for (; number <= run.last; ++number)
             numbers.push_back(static_cast<int>(number));
     }
-    std::sort(numbers.begin(), numbers.end());
-    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
 
     const Log log("FlashPageSource");
     if (expression.toUpper() != QStringLiteral("ALL") && log.isDebugEnabled()) {

@@ -167,6 +167,19 @@ TEST_F(FlashPagesAnnotationsPDFTest, TakesAMissingRectangleForAnEmptyOne) {
     EXPECT_STREQ(anno.child("action").child("url").text().get(), "https://example.org/");
 }
 
+TEST_F(FlashPagesAnnotationsPDFTest, WritesNumbersForThePlaceOnAPageOfNoWidth) {
+    PDFBuilder builder;
+    PDFBuilder::Page page;
+    page.extraEntries = "/MediaBox [0 0 0." + QByteArray(37, '0') + "1 100]";
+    page.annotations = {
+        PDFBuilder::link(QRectF(20, 10, 30, 10), PDFBuilder::toURL("https://a.org/"))};
+    builder.addPage(page);
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("1"));
+    EXPECT_EQ(location(annotations.pagesAnnotationsNode().first_child().first_child()),
+              "x=0.000000 y=0.800000 width=0.000000 height=0.100000 ");
+}
+
 TEST_F(FlashPagesAnnotationsPDFTest, FailsOnAPageThatTheDocumentLacks) {
     PDFBuilder builder;
     builder.addPage(pageOf({100, 100}));
