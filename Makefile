@@ -40,7 +40,7 @@ package: build
 	@sed -n 's/^CPack: - package: \(.*\) generated\.$$/\1/p' $(BUILD)/package.log
 
 test: build format-check
-	@ctest --preset $(PRESET)
+	@ctest --preset $(PRESET) -j 2
 
 # Two more builds of the core alone, which take what scripts make from the first one.
 sanitizers: build

@@ -1,10 +1,10 @@
 #include "template/XMLRepair.h"
 
+#include "platform/DeepThread.h"
 #include "template/TextDecoding.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>
-#include <QThread>
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
@@ -158,10 +158,6 @@ QByteArray XMLRepair::repaired(const QByteArray& text) {
     if (text.size() > maximumBytes || text.count('<') > maximumTags)
         return {};
     QByteArray result;
-    const std::unique_ptr<QThread> thread(
-        QThread::create([&result, &text] { result = repairHere(text); }));
-    thread->setStackSize(stackBytes);
-    thread->start();
-    thread->wait();
+    runOnDeepStack(stackBytes, [&] { result = repairHere(text); });
     return result;
 }

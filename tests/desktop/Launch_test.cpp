@@ -18,6 +18,8 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWebEnginePage>
+#include <QWebEngineSettings>
 #include <csignal>
 
 namespace {
@@ -80,6 +82,9 @@ TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     window().webView->setOpener([&addresses](const QUrl& url) { addresses << url; });
     evaluate(text("location.href = 'https://folvero.example/more'"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !addresses.isEmpty(); }));
+    // Without a click the engine would not ask at all.
+    window().webView->page()->settings()->setUnknownUrlSchemePolicy(
+        QWebEngineSettings::AllowAllUnknownUrlSchemes);
     evaluate(text("location.href = 'program://run'"));
     evaluate(text("location.href = 'tel:+49301234'"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return addresses.size() == 2; }));

@@ -20,7 +20,8 @@ constexpr int warmUp = rounds / 4;
 
 // The most memory that this process has had so far.
 qint64 peakBytes() {
-    for (const QByteArray& line : TestFiles::read(QStringLiteral("/proc/self/status")).split('\n')) {
+    for (const QByteArray& line :
+         TestFiles::read(QStringLiteral("/proc/self/status")).split('\n')) {
         if (line.startsWith("VmHWM:"))
             return line.mid(6).trimmed().split(' ').first().toLongLong() * 1024;
     }

@@ -24,6 +24,15 @@ const Log& logger() {
 constexpr int mostDeaths = 3;
 constexpr qint64 deathsWithin = 60'000; // ms
 
+bool isInMemory(const QUrl& url) {
+    return url.scheme() == QStringLiteral("data") || url.scheme() == QStringLiteral("blob") ||
+           url.scheme() == QStringLiteral("about");
+}
+
+bool isShownHere(const QUrl& url) {
+    return url.isLocalFile() || isInMemory(url);
+}
+
 // Lets only the book's own files through.
 class OwnFilesOnly : public QWebEngineUrlRequestInterceptor {
 public:
@@ -33,12 +42,9 @@ public:
 
     void interceptRequest(QWebEngineUrlRequestInfo& info) override {
         const QUrl url = info.requestUrl();
-        const bool isInMemory = url.scheme() == QStringLiteral("data") ||
-                                url.scheme() == QStringLiteral("blob") ||
-                                url.scheme() == QStringLiteral("about");
         const bool isOwn = url.isLocalFile() && !iFolder.isEmpty() &&
                            QFileInfo(url.toLocalFile()).canonicalFilePath().startsWith(iFolder);
-        if (!isInMemory && !isOwn)
+        if (!isInMemory(url) && !isOwn)
             info.block(true);
     }
 
@@ -57,12 +63,12 @@ public:
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
-        const bool isWeb =
-            url.scheme() == QStringLiteral("http") || url.scheme() == QStringLiteral("https") ||
-            url.scheme() == QStringLiteral("mailto") || url.scheme() == QStringLiteral("tel");
-        if (isWeb && isMainFrame)
+        static const QStringList followed{QStringLiteral("http"), QStringLiteral("https"),
+                                          QStringLiteral("mailto"), QStringLiteral("tel")};
+        if (followed.contains(url.scheme()) && isMainFrame)
             opener(url);
-        return !isWeb && QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
+        // Any other scheme would start whatever program the user's system has for it.
+        return isShownHere(url) && QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
     }
 
     // A link into a new window ends up as a navigation of this page, which is sent on.
@@ -92,8 +98,6 @@ PreviewView::PreviewView(QWidget* parent)
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     settings->setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, false);
     settings->setAttribute(QWebEngineSettings::ErrorPageEnabled, false);
-    // The rest would start whatever program the user's system has for it.
-    settings->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
     connect(page(), &QWebEnginePage::renderProcessTerminated, this,
             [this](QWebEnginePage::RenderProcessTerminationStatus status) {
                 if (status != QWebEnginePage::NormalTerminationStatus)
