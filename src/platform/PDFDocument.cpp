@@ -174,6 +174,29 @@ int PDFDocument::Engine::countPages() const {
 }
 
 std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) const {
+    const QByteArray called = nameOfDestination(destination);
+    const auto known = namedPages.find(called);
+    const int page = known == namedPages.end() ? lookUpDestination(destination) : known->second;
+    if (!called.isEmpty())
+        namedPages.emplace(called, page);
+    return page >= 0 && page < pageCount ? std::optional(page) : std::nullopt;
+}
+
+QByteArray PDFDocument::Engine::nameOfDestination(pdf_obj* destination) const {
+    std::size_t size = 0;
+    const char* string = get(
+        [&](fz_context* ctx) {
+            return pdf_is_string(ctx, destination) ? pdf_to_string(ctx, destination, &size)
+                                                   : nullptr;
+        },
+        static_cast<const char*>(nullptr));
+    if (string)
+        return '(' + QByteArray(string, qsizetype(size));
+    const char* word = get([&](fz_context* ctx) { return pdf_to_name(ctx, destination); }, "");
+    return *word ? '/' + QByteArray(word) : QByteArray();
+}
+
+int PDFDocument::Engine::lookUpDestination(pdf_obj* destination) const {
     pdf_obj* first = get(
         [&](fz_context* ctx) {
             pdf_obj* target = destination;
@@ -188,8 +211,7 @@ std::optional<int> PDFDocument::Engine::destinationPage(pdf_obj* destination) co
             return pdf_array_get(ctx, target, 0);
         },
         static_cast<pdf_obj*>(nullptr));
-    const int page = pageNumber(first);
-    return page >= 0 && page < pageCount ? std::optional(page) : std::nullopt;
+    return pageNumber(first);
 }
 
 int PDFDocument::Engine::pageNumber(pdf_obj* page) const {

@@ -4,6 +4,7 @@
 #include "platform/PlatformException.h"
 
 #include <QByteArray>
+#include <map>
 #include <mupdf/fitz.h>
 #include <mupdf/pdf.h>
 #include <optional>
@@ -60,6 +61,11 @@ struct PDFDocument::Engine {
 
     // Zero-based page that an explicit or named destination, or a go-to action, leads to.
     std::optional<int> destinationPage(pdf_obj* destination) const;
+    // What a destination is called, with a mark before it that tells names of the two kinds apart;
+    // empty for one that says where it leads.
+    QByteArray nameOfDestination(pdf_obj* destination) const;
+    // The same as destinationPage() for any destination; -1 when it leads to no page.
+    int lookUpDestination(pdf_obj* destination) const;
     // Zero-based number of a page that an array begins with, as reference or as number; -1 for
     // others.
     int pageNumber(pdf_obj* page) const;
@@ -78,9 +84,10 @@ struct PDFDocument::Engine {
     // As counted when the file was opened. The engine may come upon damage later, mend the file and
     // count anew; what was read before would then disagree with what is read after.
     int pageCount = 0;
-    // The numbers of pages that something leads to, by the numbers of their objects. The engine
-    // goes through the pages for each.
+    // The numbers of pages that something leads to, by the numbers of their objects and by names.
+    // The engine goes through the pages for each, and through all names for one that is missing.
     mutable std::unordered_map<int, int> pageNumbers;
+    mutable std::map<QByteArray, int> namedPages;
     void* mapping = nullptr;
     std::size_t mappingSize = 0;
 };

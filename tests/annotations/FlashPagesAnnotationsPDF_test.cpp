@@ -214,23 +214,30 @@ TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
     EXPECT_EQ(links, FlashPagesAnnotationsPDF::maximumAnnotations);
 }
 
-// The engine alone would go through five thousand pages for each of these links.
+// The engine alone would go through five thousand pages, or names, for each of these links.
 TEST_F(FlashPagesAnnotationsPDFTest, FindsTheSamePageAgainQuickly) {
     constexpr int pages = 5000;
     PDFBuilder builder;
-    PDFBuilder::Page first = pageOf({100, 100});
-    first.annotations.assign(
-        30'000, PDFBuilder::link(QRectF(0, 0, 9, 9),
-                                 PDFBuilder::toDestination(builder.destination(pages - 1))));
-    builder.addPage(first);
-    for (int i = 1; i < pages; ++i)
+    const auto add = [&builder](const QByteArray& target) {
+        PDFBuilder::Page page = pageOf({100, 100});
+        page.annotations.assign(30'000, PDFBuilder::link(QRectF(0, 0, 9, 9), target));
+        builder.addPage(page);
+    };
+    add(PDFBuilder::toDestination(builder.destination(pages - 1)));
+    add(PDFBuilder::toName("missing"));
+    for (int i = 2; i < pages; ++i) {
         builder.addPage(pageOf({100, 100}));
+        builder.addNamedDestination("name " + QByteArray::number(i), builder.destination(i));
+    }
     const auto document = open(builder);
     const std::clock_t start = std::clock();
-    const auto links = document->page(0).annotations();
+    const auto byPage = document->page(0).annotations();
+    const auto byName = document->page(1).annotations();
     EXPECT_LT(double(std::clock() - start) / CLOCKS_PER_SEC, 4);
-    ASSERT_EQ(links.size(), 30'000U);
-    EXPECT_EQ(links.back().destinationPage, pages - 1);
+    ASSERT_EQ(byPage.size(), 30'000U);
+    EXPECT_EQ(byPage.back().destinationPage, pages - 1);
+    ASSERT_EQ(byName.size(), 30'000U);
+    EXPECT_EQ(byName.back().destinationPage, std::nullopt);
 }
 
 TEST_F(FlashPagesAnnotationsPDFTest, ReadsTheSameLinksOnePageAtATimeWhenIdle) {
