@@ -3,12 +3,25 @@
 #include "cli/CommandError.h"
 #include "platform/PlatformException.h"
 
-std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
+namespace {
+
+template <class Opening>
+auto opened(const QString& path, Opening opening) {
     if (path.isEmpty())
         throw CommandError(QStringLiteral("the name of the PDF file is empty"), ExitCode::usage);
     try {
-        return PDFDocument::openApart(path);
+        return opening(path);
     } catch (const PlatformException& failure) {
         throw CommandError(failure.reason());
     }
+}
+
+} // namespace
+
+std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
+    return opened(path, [](const QString& file) { return PDFDocument::openApart(file); });
+}
+
+OpenedPDF InputFile::openToDraw(const QString& path) {
+    return opened(path, [](const QString& file) { return OpenedPDF::open(file); });
 }

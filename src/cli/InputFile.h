@@ -1,14 +1,16 @@
 #pragma once
 
-#include "platform/PDFDocument.h"
+#include "pages/OpenedPDF.h"
 
 #include <QString>
 #include <memory>
 
-// The PDF file that a command was given.
+// The PDF file that a command was given. Throws CommandError when it can't be opened.
 namespace InputFile {
 
-// Throws CommandError when it can't be opened.
 std::shared_ptr<PDFDocument> open(const QString& path);
+
+// The same for a document that is to be drawn.
+OpenedPDF openToDraw(const QString& path);
 
 } // namespace InputFile

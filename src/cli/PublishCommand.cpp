@@ -19,6 +19,7 @@
 
 #include <QFileInfo>
 #include <map>
+#include <utility>
 
 namespace {
 
@@ -52,11 +53,11 @@ QString bookName(const PublishOptions& options) {
     return name + QStringLiteral(".html");
 }
 
-std::shared_ptr<PDFDocument> openDocument(const QString& path) {
-    auto document = InputFile::open(path);
-    if (document->pageCount() == 0)
+OpenedPDF openDocument(const QString& path) {
+    OpenedPDF opened = InputFile::openToDraw(path);
+    if (opened.document->pageCount() == 0)
         throw CommandError(QStringLiteral("%1: the document has no pages").arg(path));
-    return document;
+    return opened;
 }
 
 QString bookTitle(const PublishOptions& options, const PDFDocument& document) {
@@ -168,7 +169,8 @@ void runPublish(const PublishOptions& options) {
     PublishTiming timing;
     bookName(options); // a wrong name shows before an hour of drawing
     const auto tmpl = prepareTemplate(options);
-    const auto document = openDocument(options.pdf);
+    OpenedPDF opened = openDocument(options.pdf);
+    const auto document = opened.document;
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::note(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
@@ -179,7 +181,7 @@ void runPublish(const PublishOptions& options) {
 
     const auto operation =
         std::make_shared<ImportPDFOperation>(options.pdf, pages.range, importDPI, options.quality);
-    operation->setDocument(document);
+    operation->setDocument(std::move(opened));
     operation->setImportLinks(options.links);
     operation->setImportBookmarks(options.bookmarks);
     importPages(operation, options.quiet);

@@ -7,18 +7,19 @@
 #include <QScopeGuard>
 
 FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi,
-                                       int quality, std::shared_ptr<PDFDocument> document,
-                                       std::function<bool()> stopped)
-    : iPDFDoc(std::move(document)), iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
+                                       int quality, OpenedPDF opened, std::function<bool()> stopped)
+    : iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
     setSourceFile(pdfPath);
     try {
-        if (!iPDFDoc)
-            iPDFDoc = PDFDocument::openApart(sourceFile(), std::move(stopped));
+        if (!opened.document)
+            opened = OpenedPDF::open(sourceFile(), std::move(stopped));
+        iPDFDoc = opened.document;
     } catch (const PlatformException& failure) {
         iOpenError = failure.message();
         Log("FlashPageSourcePDF").warn(failure.reason());
     }
     iToPageConverter = std::make_shared<PDFToSWFPageConverter>(pdfPath, iPDFDoc, iQuality);
+    iToPageConverter->setSpareWorkers(std::move(opened.workers));
     iNeedToImportPages = parsePageRange(iPageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
 }
 

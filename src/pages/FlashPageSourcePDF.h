@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/FlashPageSource.h"
+#include "pages/OpenedPDF.h"
 #include "pages/PDFToSWFPageConverter.h"
 
 #include <QString>
@@ -23,8 +24,7 @@ public:
     // stopped, asked while it is read, ends that. Throws PlatformException for a page range beyond
     // all bounds.
     FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi, int quality,
-                       std::shared_ptr<PDFDocument> document = nullptr,
-                       std::function<bool()> stopped = {});
+                       OpenedPDF opened = {}, std::function<bool()> stopped = {});
 
     const std::shared_ptr<PDFToSWFPageConverter>& toPageConverter() const {
         return iToPageConverter;

@@ -5,6 +5,8 @@
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
 
+#include <utility>
+
 namespace {
 
 const Log& operationLog() {
@@ -77,7 +79,7 @@ void ImportPDFOperation::importStages() {
 void ImportPDFOperation::importPages() {
     try {
         setPageSource(std::make_shared<FlashPageSourcePDF>(
-            iPDFPath, iPageRange, iDPI, iQuality, iDocument,
+            iPDFPath, iPageRange, iDPI, iQuality, std::exchange(iDocument, {}),
             [stopped = iStopReading] { return stopped->load(); }));
         if (!iFlashPageSource->openError().isNull())
             iFailures << iFlashPageSource->openError();

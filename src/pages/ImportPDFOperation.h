@@ -25,7 +25,7 @@ public:
 
     // The document, when the caller has it open already and leaves it alone until the import is
     // finished; none by default, then the import opens the file.
-    void setDocument(std::shared_ptr<PDFDocument> document) { iDocument = std::move(document); }
+    void setDocument(OpenedPDF document) { iDocument = std::move(document); }
 
     void main() override;
     // Also ends a page that is being drawn. From any thread.
@@ -49,7 +49,7 @@ private:
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);
 
-    std::shared_ptr<PDFDocument> iDocument;
+    OpenedPDF iDocument;
     // Outlives the operation, as the document may.
     std::shared_ptr<std::atomic<bool>> iStopReading = std::make_shared<std::atomic<bool>>(false);
     std::mutex iMutex; // guards the page source, which cancel() reaches from another thread

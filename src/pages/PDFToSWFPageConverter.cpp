@@ -8,6 +8,7 @@
 #include "platform/PlatformException.h"
 
 #include <QFileInfo>
+#include <utility>
 
 PDFToSWFPageConverter::~PDFToSWFPageConverter() {
     endDrawingAhead(); // before the work folder goes
@@ -33,6 +34,7 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     }
     iWorkers = std::make_unique<PageWorkers>(PDFPath(), converterWorkFolder(), quality(),
                                              std::move(toDraw), stop);
+    iWorkers->setSpares(std::exchange(iSpares, nullptr));
     if (!iWorkers->start())
         iWorkers.reset();
     iWorkerCount = iWorkers ? iWorkers->workerCount() : 0;

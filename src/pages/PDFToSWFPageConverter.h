@@ -23,6 +23,9 @@ public:
     // Path of the external page converter among the resources, or a null text.
     static QString getPDF2swfLibPath();
 
+    // Workers that are started already, for the next drawAhead().
+    void setSpareWorkers(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
+
     // Lets page workers draw these pages ahead of the calls of generatePage(), which come in the
     // same order. A stop flag that turns true ends a page that is being drawn.
     void drawAhead(const std::vector<int>& pages, const std::atomic<bool>& stop);
@@ -47,6 +50,7 @@ private:
     QString workFile(int page, const char* extension) const;
     PageResult drawHere(int page);
 
+    std::shared_ptr<SpareWorkers> iSpares;
     std::unique_ptr<PageWorkers> iWorkers;
     std::shared_ptr<PDFDocument> iOwnDocument; // for pages
     std::unique_ptr<PageImageMaker> iPDFRep;   // drawn in this process

@@ -74,12 +74,19 @@ void PageWorkers::killAll() {
     iWorkers.clear();
 }
 
+// The order is what a worker needs to know before it closes itself off.
 std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
-    const std::vector<std::string> arguments{"draw", QFile::encodeName(iPDFPath).toStdString(),
-                                             QFile::encodeName(iFolder).toStdString(),
-                                             std::to_string(iQuality)};
+    const QByteArray order = QFile::encodeName(iPDFPath).toBase64() + ' ' +
+                             QFile::encodeName(iFolder).toBase64() + ' ' +
+                             QByteArray::number(iQuality);
     try {
-        return std::make_unique<ChildProcess>(QFile::encodeName(iProgram).toStdString(), arguments);
+        auto process = iSpares ? iSpares->take() : nullptr;
+        if (!process) {
+            process = std::make_unique<ChildProcess>(QFile::encodeName(iProgram).toStdString(),
+                                                     std::vector<std::string>{"draw"});
+        }
+        process->writeLine(order); // if it has ended, that shows when it is read
+        return process;
     } catch (const PlatformException& failure) {
         workersLog().warn(failure.reason());
         return nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/PageImage.h"
+#include "pages/SpareWorkers.h"
 #include "platform/ChildProcess.h"
 #include "platform/Message.h"
 
@@ -32,6 +33,9 @@ public:
 
     // The worker to start instead of the one that is installed beside the running program.
     void setProgram(const QString& path) { iProgram = path; }
+
+    // Workers that are started already, to be taken first; none by default.
+    void setSpares(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
 
     // How long a worker may be silent over one page before it is ended.
     void setPatience(std::chrono::milliseconds patience) { iPatience = patience; }
@@ -68,6 +72,7 @@ private:
     void killAll();
 
     QString iProgram;
+    std::shared_ptr<SpareWorkers> iSpares;
     QString iPDFPath;
     QString iFolder;
     int iQuality;

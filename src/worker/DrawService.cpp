@@ -7,6 +7,7 @@
 #include "platform/PlatformException.h"
 #include "worker/Seclusion.h"
 
+#include <QByteArrayList>
 #include <QFile>
 #include <csignal>
 #include <cstdlib>
@@ -51,16 +52,20 @@ void keepFreedMemory() {
 
 } // namespace
 
-void serveDrawing(const char* pdf, const char* folder, const char* quality) {
+void serveDrawing() {
     // An import that is killed takes its workers along, even in the middle of a page.
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     keepFreedMemory();
-    const QString path = QFile::decodeName(pdf);
-    const QString workFolder = QFile::decodeName(folder);
+    std::string line;
+    if (!std::getline(std::cin, line))
+        return; // it was not needed
+    const QByteArrayList order = QByteArray::fromStdString(line).split(' ');
+    const QString path = QFile::decodeName(QByteArray::fromBase64(order.value(0)));
+    const QString workFolder = QFile::decodeName(QByteArray::fromBase64(order.value(1)));
     seclude(path, workFolder);
     try {
         const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
-        PageImageMaker maker(*document, compressionFactor(std::atoi(quality)));
+        PageImageMaker maker(*document, compressionFactor(order.value(2).toInt()));
         std::cout << "ready" << std::endl;
         servePages(maker, workFolder);
     } catch (const PlatformException& failure) {

@@ -16,12 +16,12 @@ int main(int argc, char** argv) {
     // Whatever the program that starts this one holds open is none of its business.
     ::closefrom(STDERR_FILENO + 1);
     try {
-        if (service == "draw" && argc == 5) {
-            serveDrawing(arguments[2], arguments[3], arguments[4]);
+        if (service == "draw" && argc == 2) {
+            serveDrawing();
         } else if (service == "read" && argc == 3) {
             serveReading(arguments[2]);
         } else {
-            std::cerr << "usage: folvero-page-worker draw PDF FOLDER QUALITY\n"
+            std::cerr << "usage: folvero-page-worker draw\n"
                          "       folvero-page-worker read PDF\n";
             return 2;
         }

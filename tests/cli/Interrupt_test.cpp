@@ -36,12 +36,12 @@ protected:
         return !QFileInfo(QStringLiteral("/proc/%1/exe").arg(process)).symLinkTarget().isEmpty();
     }
 
-    // The work folder of a run, as its workers are told it.
+    // The work folder of a run, which it holds open.
     static QString workFolder(const QProcess& process) {
-        for (const pid_t worker : workers(process)) {
-            const auto words = ChildProcesses::command(worker);
-            if (words.size() > 3)
-                return QString::fromUtf8(words[3]);
+        const QDir descriptors(QStringLiteral("/proc/%1/fd").arg(process.processId()));
+        for (const QFileInfo& entry : descriptors.entryInfoList(QDir::AllEntries | QDir::System)) {
+            if (entry.symLinkTarget().startsWith(QStringLiteral("/tmp/Lumivex")))
+                return entry.symLinkTarget();
         }
         return {};
     }

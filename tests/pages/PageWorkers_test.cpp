@@ -15,7 +15,7 @@ class PageWorkersTest : public testing::Test {
 protected:
     std::unique_ptr<PageWorkers> start(int pages, const QByteArray& script) {
         const QString program = iFolder.filePath(QStringLiteral("worker"));
-        TestFiles::write(program, "#!/bin/sh\n" + script);
+        TestFiles::write(program, "#!/bin/sh\nread order\n" + script);
         QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         std::vector<int> numbers(static_cast<std::size_t>(pages));
         std::iota(numbers.begin(), numbers.end(), 1);

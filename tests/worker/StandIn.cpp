@@ -7,6 +7,7 @@
 
 #include "worker/Seclusion.h"
 
+#include <QByteArrayList>
 #include <QFile>
 #include <QString>
 #include <arpa/inet.h>
@@ -118,12 +119,14 @@ void draw(const std::string& page, const std::string& folder) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-    if (argc != 5)
-        return 2;
-    const auto deeds = readDeeds(argv[2]);
-    const std::string folder = argv[3];
-    seclude(QFile::decodeName(argv[2]), QFile::decodeName(folder.c_str()));
+int main() {
+    std::string line;
+    std::getline(std::cin, line);
+    const QByteArrayList order = QByteArray::fromStdString(line).split(' ');
+    const QByteArray file = QByteArray::fromBase64(order.value(0));
+    const std::string folder = QByteArray::fromBase64(order.value(1)).toStdString();
+    const auto deeds = readDeeds(file.constData());
+    seclude(QFile::decodeName(file), QFile::decodeName(folder.c_str()));
     std::cout << "ready" << std::endl;
     for (std::string page; std::getline(std::cin, page);) {
         const auto deed = deeds.find(page);

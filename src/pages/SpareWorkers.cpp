@@ -1,0 +1,34 @@
+#include "pages/SpareWorkers.h"
+
+#include "platform/Bundle.h"
+#include "platform/Log.h"
+#include "platform/PlatformException.h"
+
+#include <QFile>
+#include <algorithm>
+#include <thread>
+
+SpareWorkers::SpareWorkers() {
+    // A short document takes no more, and a long one does not notice that the others come later.
+    constexpr unsigned most = 4;
+    const unsigned count = std::clamp(std::thread::hardware_concurrency(), 1U, most);
+    const std::string program =
+        QFile::encodeName(Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker")))
+            .toStdString();
+    try {
+        while (iProcesses.size() < count) {
+            iProcesses.push_back(
+                std::make_unique<ChildProcess>(program, std::vector<std::string>{"draw"}));
+        }
+    } catch (const PlatformException& failure) {
+        Log("SpareWorkers").warn(failure.reason());
+    }
+}
+
+std::unique_ptr<ChildProcess> SpareWorkers::take() {
+    if (iProcesses.empty())
+        return nullptr;
+    auto process = std::move(iProcesses.back());
+    iProcesses.pop_back();
+    return process;
+}
