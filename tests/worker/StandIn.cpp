@@ -108,7 +108,7 @@ bool perform(const std::string& deed, const std::string& folder) {
     if (deed == "kill-parent")
         return ::kill(::getppid(), 0) == 0;
     if (deed == "trace-parent")
-        return ::ptrace(PTRACE_ATTACH, ::getppid(), nullptr, nullptr) == 0;
+        return ::ptrace(PTRACE_SEIZE, ::getppid(), nullptr, nullptr) == 0;
     std::cerr << "no such deed: " << deed << '\n';
     std::exit(2);
 }
