@@ -23,10 +23,15 @@ constexpr int kills = 50;
 // Has another process save by turns the one state and the other, and kills it, again and again:
 // the file must then be whole and one of the two, and saving must go on working.
 void saveAndKill(const QString& file, const std::function<void(bool isNew)>& save) {
+    const auto start = std::chrono::steady_clock::now();
     save(false);
     const QByteArray before = TestFiles::read(file);
     save(true);
     const QByteArray after = TestFiles::read(file);
+    // Long enough for either to be found, however slow the disk or a sanitizer makes it.
+    const auto twice = std::chrono::duration_cast<std::chrono::microseconds>(
+        std::chrono::steady_clock::now() - start);
+    const int longest = int(std::clamp<std::int64_t>(4 * twice.count(), 30'000, 300'000));
     ASSERT_NE(before, after);
     const unsigned seed = std::random_device()();
     SCOPED_TRACE(testing::Message() << "seed " << seed);
@@ -48,7 +53,7 @@ void saveAndKill(const QString& file, const std::function<void(bool isNew)>& sav
         EXPECT_EQ(::read(ends[0], &none, 1), 0);
         ::close(ends[0]);
         std::this_thread::sleep_for(
-            std::chrono::microseconds(std::uniform_int_distribution<>(0, 30'000)(random)));
+            std::chrono::microseconds(std::uniform_int_distribution<>(0, longest)(random)));
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
         const QByteArray now = TestFiles::read(file);
