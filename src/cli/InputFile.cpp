@@ -1,6 +1,7 @@
 #include "cli/InputFile.h"
 
 #include "cli/CommandError.h"
+#include "cli/Interrupt.h"
 #include "platform/PlatformException.h"
 
 namespace {
@@ -23,5 +24,6 @@ std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
 }
 
 OpenedPDF InputFile::openToDraw(const QString& path) {
-    return opened(path, [](const QString& file) { return OpenedPDF::open(file); });
+    return opened(
+        path, [](const QString& file) { return OpenedPDF::open(file, Interrupt::wasRequested); });
 }
