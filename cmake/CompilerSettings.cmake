@@ -3,9 +3,6 @@ add_library(folvero-settings INTERFACE)
 target_compile_options(folvero-settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
     -Wno-sign-conversion -Werror)
-# A page source keeps the resolution that it is given, which no drawing asks for.
-target_compile_options(folvero-settings INTERFACE
-    $<$<CXX_COMPILER_ID:Clang>:-Wno-unused-private-field>)
 # Log records name source files; where these were built is nobody's business.
 target_compile_options(folvero-settings INTERFACE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 target_compile_definitions(folvero-settings INTERFACE

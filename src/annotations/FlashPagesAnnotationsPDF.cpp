@@ -107,7 +107,7 @@ void FlashPagesAnnotationsPDF::begin(std::shared_ptr<PDFDocument> document,
     iNeedToImportPages =
         FlashPageSource::parsePageRange(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
     iCurrentIndex = 0;
-    iAnnotationsRead = 0;
+    iBudget = {};
     iDocument.reset();
     iDocument.append_child("pagesAnnos");
 }
@@ -160,12 +160,12 @@ void FlashPagesAnnotationsPDF::parsePage() {
     if (!iPDFDoc)
         return;
     const PDFPage page = iPDFDoc->page(number - 1);
-    if (iAnnotationsRead >= maximumAnnotations) {
+    if (iBudget.isSpent()) {
         annotationsLog().warn(QStringLiteral("page %1: too many links before it").arg(number));
         return;
     }
     const auto annotations = page.annotations();
-    iAnnotationsRead += annotations.size();
+    iBudget.spend(annotations);
     if (annotations.empty())
         return;
     annotationsLog().debug(QStringLiteral("count is:%1").arg(annotations.size()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "annotations/FlashPagesAnnotations.h"
+#include "platform/AnnotationBudget.h"
 #include "platform/NotificationCenter.h"
 #include "platform/PDFDocument.h"
 
@@ -11,13 +12,9 @@
 // Reads the link annotations of a PDF's pages.
 class FlashPagesAnnotationsPDF : public FlashPagesAnnotations {
 public:
-    // All pages of a small file may share one long list of annotations, which would take more
-    // memory than a machine has. Once this many were read, further pages stay without links; the
-    // richest of real books have a few tens of thousands.
-    static constexpr std::size_t maximumAnnotations = 250'000;
-
     // Reads all pages that the range expression names, at once. Without a document every listed
-    // page stays without links. Throws PlatformException for a page that the document lacks.
+    // page stays without links, and so do those after the budget is spent. Throws PlatformException
+    // for a page that the document lacks.
     void loadLinksFromPDF(std::shared_ptr<PDFDocument> document, const QString& pageRange);
 
     // The same, one page at a time whenever the main thread's event loop is idle.
@@ -36,6 +33,6 @@ private:
     std::vector<int> iNeedToImportPages;
     std::shared_ptr<PDFDocument> iPDFDoc;
     int iCurrentIndex = 0; // zero-based position in the list
-    std::size_t iAnnotationsRead = 0;
+    AnnotationBudget iBudget;
     NotificationCenter::Subscription iScan;
 };

@@ -2,6 +2,7 @@
 
 #include "cli/InputFile.h"
 #include "cli/Terminal.h"
+#include "platform/AnnotationBudget.h"
 #include "platform/PlatformException.h"
 
 #include <QJsonArray>
@@ -21,13 +22,17 @@ struct PageFacts {
     }
 };
 
-PageFacts factsOf(const PDFDocument& document, int index) {
+PageFacts factsOf(const PDFDocument& document, int index, AnnotationBudget& budget) {
     PageFacts facts;
     try {
         const PDFPage page = document.page(index);
         facts.size = page.displaySize();
         facts.rotation = page.rotation();
-        for (auto& annotation : page.annotations()) {
+        if (budget.isSpent())
+            return facts;
+        auto annotations = page.annotations();
+        budget.spend(annotations);
+        for (auto& annotation : annotations) {
             if (annotation.type == QStringLiteral("Link") &&
                 (!annotation.url.isNull() || annotation.destinationPage))
                 facts.links.push_back(std::move(annotation));
@@ -65,8 +70,9 @@ QJsonArray outlineAsJson(const std::vector<PDFOutlineNode>& nodes) {
 
 void printAsJson(const PDFDocument& document) {
     QJsonArray pages;
+    AnnotationBudget budget;
     for (int i = 0; i < document.pageCount(); ++i) {
-        const PageFacts facts = factsOf(document, i);
+        const PageFacts facts = factsOf(document, i, budget);
         QJsonObject page{{QStringLiteral("number"), i + 1},
                          {QStringLiteral("width"), facts.size.width()},
                          {QStringLiteral("height"), facts.size.height()},
@@ -109,8 +115,9 @@ void printPages(const PDFDocument& document) {
     PageFacts current;
     int first = 0;
     std::size_t links = 0;
+    AnnotationBudget budget;
     for (int i = 0; i < document.pageCount(); ++i) {
-        PageFacts facts = factsOf(document, i);
+        PageFacts facts = factsOf(document, i, budget);
         if (i > 0 && !facts.looksLike(current)) {
             printRun(first + 1, i, current, links);
             first = i;

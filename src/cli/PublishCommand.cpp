@@ -63,7 +63,13 @@ OpenedPDF openDocument(const QString& path) {
 QString bookTitle(const PublishOptions& options, const PDFDocument& document) {
     if (!options.title.isNull())
         return options.title;
-    const QString own = document.information("Title").trimmed();
+    QString own;
+    try {
+        own = document.information("Title").trimmed();
+    } catch (const PlatformException& failure) {
+        Terminal::note(
+            QStringLiteral("folvero: %1: no title: %2").arg(options.pdf, failure.reason()));
+    }
     return own.isEmpty() ? QFileInfo(options.pdf).completeBaseName() : own;
 }
 
@@ -102,19 +108,20 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
 
 // That of the first page, or of the first one that can be read.
 QRectF firstCropBox(const PDFDocument& document) {
-    for (int i = 0; i + 1 < document.pageCount(); ++i) {
+    for (int i = 0;; ++i) {
         try {
             return document.page(i).cropBox();
-        } catch (const PlatformException&) {
-            continue;
+        } catch (const PlatformException& failure) {
+            const bool isThePagesFault = failure.name() == QStringLiteral("PDFPageUnreadable");
+            if (!isThePagesFault || i + 1 == document.pageCount()) {
+                throw CommandError(QStringLiteral("%1: %2").arg(document.path(), failure.reason()));
+            }
         }
     }
-    return document.page(document.pageCount() - 1).cropBox();
 }
 
 // The book's page size is that of the document's first page; it also goes into the template.
-void takePageSize(const PDFDocument& document, FlashTemplate& tmpl) {
-    const QRectF box = firstCropBox(document);
+void takePageSize(const QRectF& box, FlashTemplate& tmpl) {
     auto& settings = AppSettings::shareInstance();
     settings.setPageWidth(int(box.width()));
     settings.setPageHeight(int(box.height()));
@@ -174,6 +181,10 @@ void runPublish(const PublishOptions& options) {
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::note(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
+    // Before links and bookmarks are read: these may break the process that reads too often for
+    // more.
+    const QRectF firstPage = firstCropBox(*document);
+    const QString title = bookTitle(options, *document);
     // Until here a signal ends the program at once, as it should: nothing is there to clear away.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
@@ -188,11 +199,11 @@ void runPublish(const PublishOptions& options) {
     const auto source = importedPages(*operation);
     timing.imported(*source);
 
-    takePageSize(*document, *tmpl);
+    takePageSize(firstPage, *tmpl);
     const auto output = makeOutput(options, source, tmpl, folder.path());
     output->setFlashPagesAnnotations(operation->flashPagesAnnotation());
     output->setFlashOutline(operation->flashOutline());
-    writeBook(*output, bookTitle(options, *document));
+    writeBook(*output, title);
     folder.keep();
     timing.published();
     if (!options.timingFile.isNull())

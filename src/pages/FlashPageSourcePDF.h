@@ -50,7 +50,7 @@ private:
 
     std::shared_ptr<PDFDocument> iPDFDoc;
     QString iPageRange;
-    int iDPI;
+    [[maybe_unused]] int iDPI;
     int iQuality;
     std::shared_ptr<PDFToSWFPageConverter> iToPageConverter;
     std::vector<int> iNeedToImportPages;

@@ -83,6 +83,7 @@ void ImportPDFOperation::importPages() {
             [stopped = iStopReading] { return stopped->load(); }));
         if (!iFlashPageSource->openError().isNull())
             iFailures << iFlashPageSource->openError();
+        readFirstCropBox();
         operationLog().debug(QStringLiteral("before generate pages"));
         iFlashPageSource->generatePages();
         operationLog().debug(QStringLiteral("after generate pages"));
@@ -96,6 +97,18 @@ void ImportPDFOperation::importPages() {
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
         iFailures << aboutFile().arg(iPDFPath, failure.message());
         setPageSource(nullptr);
+    }
+}
+
+// Before anything else: what is read later may break the process that reads, too often for more.
+void ImportPDFOperation::readFirstCropBox() {
+    const auto document = iFlashPageSource->toPageConverter()->PDFDoc();
+    if (!document)
+        return;
+    try {
+        iFirstCropBox = document->page(0).cropBox();
+    } catch (const PlatformException& failure) {
+        operationLog().warn(failure.reason());
     }
 }
 

@@ -10,6 +10,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 // Imports one PDF in the background: its pages, and its links and outline when asked to. Read the
 // results once it is finished; a part that failed is none.
@@ -37,6 +38,9 @@ public:
     }
     std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
 
+    // Of the document's first page, or none when it can't be read.
+    const std::optional<QRectF>& firstCropBox() const { return iFirstCropBox; }
+
     // What went wrong, in words for the user, one text per part that failed.
     const Messages& failures() const { return iFailures; }
 
@@ -45,6 +49,7 @@ private:
     void clearResults();
     void importStages();
     void importPages();
+    void readFirstCropBox();
     void noteThatNothingWasDrawn();
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);
@@ -56,6 +61,7 @@ private:
     std::shared_ptr<FlashPageSourcePDF> iFlashPageSource;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotation;
     std::shared_ptr<FlashOutline> iFlashOutline;
+    std::optional<QRectF> iFirstCropBox;
     int iDPI;
     int iQuality;
     QString iPDFPath;

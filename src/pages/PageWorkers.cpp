@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <poll.h>
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -54,7 +55,7 @@ Message reasonFrom(const QByteArray& words) {
 
 PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vector<int> pages,
                          const std::atomic<bool>& stop)
-    : iProgram(Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker"))),
+    : iProgram(Bundle::pageWorkerPath()),
       iPDFPath(std::move(pdfPath)),
       iFolder(std::move(folder)),
       iQuality(quality),
@@ -98,7 +99,7 @@ bool PageWorkers::start() {
     const std::size_t count = std::min({cores, maxWorkers, iPageCount});
     for (std::size_t i = 0; i < count; ++i) {
         if (auto process = startProcess())
-            iWorkers.push_back({std::move(process), false, {}, {}});
+            iWorkers.push_back(newWorker(std::move(process)));
     }
     feedAll();
     return !iWorkers.empty();
@@ -157,8 +158,8 @@ void PageWorkers::collect() {
         Worker& worker = iWorkers[i];
         if (descriptors[i].revents)
             readAnswers(worker);
-        else if (!worker.pages.empty() && now - worker.since > iPatience)
-            replace(worker, Message::translate("PageFailure", "drawing it took too long"));
+        if (worker.process && !worker.pages.empty() && now - worker.since > iPatience)
+            giveUpWaiting(worker);
     }
     std::erase_if(iWorkers, [](const Worker& worker) { return !worker.process; });
 }
@@ -173,8 +174,10 @@ void PageWorkers::readAnswers(Worker& worker) {
     feed(worker);
 }
 
-// "ready", or "fail REASON" when the document can't be opened.
+// "here", then "ready", or "fail REASON" when the document can't be opened.
 void PageWorkers::takeFirstLine(Worker& worker, const QByteArray& line) {
+    if (!std::exchange(worker.here, true) && line == "here")
+        return;
     if (line != "ready") {
         iOpenError = reasonFrom(line.mid(5));
         return;
@@ -204,6 +207,14 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
     worker.since = std::chrono::steady_clock::now();
 }
 
+// One that hangs while it opens the document has no page to blame; few more are waited for.
+void PageWorkers::giveUpWaiting(Worker& worker) {
+    worker.process->kill();
+    if (!worker.ready)
+        iEndedUnready += maxEndedUnready / 3;
+    replace(worker, Message::translate("PageFailure", "drawing it took too long"));
+}
+
 // A new process takes over from one that is of no more use.
 void PageWorkers::replace(Worker& worker, const Message& reason) {
     if (!worker.ready) {
@@ -212,7 +223,7 @@ void PageWorkers::replace(Worker& worker, const Message& reason) {
     }
     giveUpPage(worker, reason);
     handBack(worker);
-    worker = {startProcess(), false, {}, {}};
+    worker = newWorker(startProcess());
 }
 
 // The page that it was drawing is to blame.
@@ -227,12 +238,13 @@ void PageWorkers::giveUpPage(Worker& worker, const Message& reason) {
     workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
 }
 
-// No page is to blame for a process that did not even get ready.
+// No page is to blame for a process that did not even get ready. One that has been heard of may
+// have opened the document, so how it ended is no reason to draw without it.
 void PageWorkers::replaceUnready(Worker& worker) {
     handBack(worker);
-    iCanRun = iCanRun && !worker.process->couldNotRun();
+    iCanRun = iCanRun && (worker.here || !worker.process->couldNotRun());
     const bool again = iCanRun && iOpenError.isNull() && ++iEndedUnready < maxEndedUnready;
-    worker = {again ? startProcess() : nullptr, false, {}, {}};
+    worker = newWorker(again ? startProcess() : nullptr);
 }
 
 // A page counts as drawn or as given up, never half.

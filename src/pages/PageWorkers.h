@@ -52,11 +52,15 @@ public:
 private:
     struct Worker {
         std::unique_ptr<ChildProcess> process;
+        bool here = false;     // it has been heard of, and opens the document
         bool ready = false;    // it has opened the document
         std::deque<int> pages; // asked for; the first one is being drawn
         std::chrono::steady_clock::time_point since;
     };
 
+    static Worker newWorker(std::unique_ptr<ChildProcess> process) {
+        return {std::move(process), false, false, {}, {}};
+    }
     std::unique_ptr<ChildProcess> startProcess() const;
     void feed(Worker& worker);
     void feedAll();
@@ -64,6 +68,7 @@ private:
     void readAnswers(Worker& worker);
     void takeFirstLine(Worker& worker, const QByteArray& line);
     void takeAnswer(Worker& worker, const QByteArray& line);
+    void giveUpWaiting(Worker& worker);
     void replace(Worker& worker, const Message& reason);
     void giveUpPage(Worker& worker, const Message& reason);
     void replaceUnready(Worker& worker);

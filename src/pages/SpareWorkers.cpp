@@ -12,9 +12,7 @@ SpareWorkers::SpareWorkers() {
     // A short document takes no more, and a long one does not notice that the others come later.
     constexpr unsigned most = 4;
     const unsigned count = std::clamp(std::thread::hardware_concurrency(), 1U, most);
-    const std::string program =
-        QFile::encodeName(Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker")))
-            .toStdString();
+    const std::string program = QFile::encodeName(Bundle::pageWorkerPath()).toStdString();
     try {
         while (iProcesses.size() < count) {
             iProcesses.push_back(

@@ -27,6 +27,10 @@ QString Bundle::pathForAuxiliaryExecutable(const QString& name) {
     return besideProgramFolder(QStringLiteral("libexec/folvero/") + name);
 }
 
+QString Bundle::pageWorkerPath() {
+    return pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker"));
+}
+
 void Bundle::setResourcePath(const QString& path) {
     resourceOverride() = path;
 }

@@ -14,6 +14,9 @@ QString resourcePath();
 // nobody's search path.
 QString pathForAuxiliaryExecutable(const QString& name);
 
+// That of the program which reads PDF files and draws their pages.
+QString pageWorkerPath();
+
 // Tests point the program at a library of their own. A null text goes back to the installed one.
 void setResourcePath(const QString& path);
 

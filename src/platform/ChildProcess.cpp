@@ -88,7 +88,7 @@ bool ChildProcess::writeLine(const QByteArray& line) {
     const QByteArray data = line + '\n';
     for (qsizetype done = 0; done < data.size();) {
         const ssize_t count = ::send(iToChild, data.constData() + done,
-                                     std::size_t(data.size() - done), MSG_NOSIGNAL);
+                                     std::size_t(data.size() - done), MSG_NOSIGNAL | MSG_DONTWAIT);
         if (count < 0 && errno != EINTR)
             return false;
         done += std::max<ssize_t>(count, 0);
@@ -105,11 +105,12 @@ bool ChildProcess::readAvailable(qsizetype maxLine) {
     if (count <= 0)
         return false;
     iBuffer.append(buffer, count);
-    return iBuffer.size() <= maxLine || iBuffer.contains('\n');
+    return iBuffer.size() <= maxLine || iBuffer.indexOf('\n', iSearched) >= 0;
 }
 
 std::optional<QByteArray> ChildProcess::takeLine() {
-    const qsizetype end = iBuffer.indexOf('\n');
+    const qsizetype end = iBuffer.indexOf('\n', iSearched);
+    iSearched = end < 0 ? iBuffer.size() : 0;
     if (end < 0)
         return std::nullopt;
     QByteArray line = iBuffer.left(end);

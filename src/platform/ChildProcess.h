@@ -17,7 +17,8 @@ public:
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
-    // False when the other side is gone.
+    // Never waits. False when the other side is gone, or has not read for so long that no more fits
+    // in between; nothing that is written then arrives whole.
     bool writeLine(const QByteArray& line);
 
     // Readable (or at its end) when a call of readAvailable() would not wait; for poll().
@@ -47,4 +48,5 @@ private:
     int iToChild = -1;
     int iFromChild = -1;
     QByteArray iBuffer;
+    qsizetype iSearched = 0; // bytes of it that hold no line end
 };

@@ -24,6 +24,16 @@ inline constexpr std::size_t maxEngineMemory = std::size_t{1} << 30;
 // All memory of a process that draws or reads: that, the bitmap, and its JPEG file in the making.
 inline constexpr std::size_t maxProcessMemory = std::size_t{2} << 30;
 
+// One page file. A JPEG file is smaller than its bitmap unless something went wrong.
+inline constexpr std::size_t maxPageFileSize = std::size_t{256} << 20;
+
+// Characters of an address, or of an entry of the outline. Longer ones are cut, or no addresses:
+// browsers take none of a tenth of that.
+inline constexpr int maxTextLength = 65'536;
+
+// Entries of an outline.
+inline constexpr std::size_t maxOutlineEntries = 100'000;
+
 // Cache of decoded images and glyphs within that. More doesn't make real documents faster.
 inline constexpr std::size_t engineStore = std::size_t{64} << 20;
 

@@ -1,8 +1,10 @@
 #include "platform/Log.h"
 
+#include <atomic>
 #include <log4cplus/configurator.h>
 #include <log4cplus/consoleappender.h>
 #include <log4cplus/helpers/property.h>
+#include <log4cplus/initializer.h>
 #include <log4cplus/layout.h>
 #include <log4cplus/logger.h>
 #include <log4cplus/nullappender.h>
@@ -26,6 +28,11 @@ void tellWatcher(Log::Level level, const char* logger, const QString& text,
     const std::lock_guard lock(watcher().mutex);
     if (watcher().function)
         watcher().function({level, QString::fromLatin1(logger), text, where});
+}
+
+std::atomic<bool>& hasEnded() {
+    static std::atomic<bool> ended{false};
+    return ended;
 }
 
 bool isWatched() {
@@ -62,10 +69,13 @@ void startLibrary() {
 } // namespace
 
 Log::Log(const char* name) : iName(name) {
-    startLibrary();
+    if (!hasEnded())
+        startLibrary();
 }
 
 bool Log::isDebugEnabled() const {
+    if (hasEnded())
+        return isWatched();
     return isWatched() ||
            log4cplus::Logger::getInstance(iName).isEnabledFor(log4cplus::DEBUG_LOG_LEVEL);
 }
@@ -88,6 +98,8 @@ void Log::error(const QString& text, CodeLocation where) const {
 
 void Log::write(Level level, const QString& text, const CodeLocation& where) const {
     tellWatcher(level, iName, text, where);
+    if (hasEnded())
+        return;
     auto logger = log4cplus::Logger::getInstance(iName);
     if (!logger.isEnabledFor(libraryLevel(level)))
         return;
@@ -120,6 +132,11 @@ void Log::configureForTerminal(Level lowest) {
     root.removeAllAppenders();
     root.addAppender(appender);
     root.setLogLevel(libraryLevel(lowest));
+}
+
+void Log::end() {
+    hasEnded() = true;
+    log4cplus::deinitialize();
 }
 
 void Log::setWatcher(std::function<void(const Record&)> function) {

@@ -54,6 +54,10 @@ public:
     // standard error. Nothing at all is written before this or configure() was called.
     static void configureForTerminal(Level lowest);
 
+    // For a process that must have no other threads: nothing more is logged, and the threads that
+    // the logging library has started end.
+    static void end();
+
     // Tests watch the records (system messages arrive under the logger name "system"). An empty
     // function ends it.
     static void setWatcher(std::function<void(const Record&)> watcher);

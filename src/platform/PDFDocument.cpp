@@ -152,7 +152,7 @@ QString PDFDocument::Engine::text(pdf_obj* string) const {
         return {};
     const char* bytes = get([&](fz_context* ctx) { return pdf_to_text_string(ctx, string); },
                             static_cast<const char*>(nullptr));
-    return bytes ? QString::fromUtf8(bytes) : QString();
+    return bytes ? QString::fromUtf8(bytes).left(EngineLimits::maxTextLength) : QString();
 }
 
 QString PDFDocument::Engine::name(pdf_obj* object) const {

@@ -5,19 +5,36 @@
 
 namespace {
 
-// Far beyond what a document is read to.
-constexpr int maxDepth = 100;
+// Bounds of what is taken apart, far beyond what a document is read to.
+class Bounds {
+public:
+    // For the items of a list: one level deeper.
+    Bounds beneath() const { return {iDepth + 1, iItems}; }
+    // Whether one more item may be read.
+    bool allowItem() { return iDepth <= maxDepth && ++iItems <= maxItems; }
+
+    static Bounds outermost(int& items) { return {0, items}; }
+
+private:
+    static constexpr int maxDepth = 100;
+    static constexpr int maxItems = 1'000'000;
+
+    Bounds(int depth, int& items) : iDepth(depth), iItems(items) {}
+
+    int iDepth;
+    int& iItems; // of all lists so far
+};
 
 void write(QDataStream& stream, const PDFOutlineNode& node);
-void read(QDataStream& stream, PDFOutlineNode& node, int depth);
+void read(QDataStream& stream, PDFOutlineNode& node, Bounds bounds);
 void write(QDataStream& stream, const PDFAnnotation& annotation);
-void read(QDataStream& stream, PDFAnnotation& annotation, int depth);
+void read(QDataStream& stream, PDFAnnotation& annotation, Bounds bounds);
 
 void write(QDataStream& stream, int number) {
     stream << qint32(number);
 }
 
-void read(QDataStream& stream, int& number, int /*depth*/) {
+void read(QDataStream& stream, int& number, Bounds /*bounds*/) {
     qint32 value = 0;
     stream >> value;
     number = value;
@@ -27,7 +44,7 @@ void write(QDataStream& stream, const QString& text) {
     stream << text;
 }
 
-void read(QDataStream& stream, QString& text, int /*depth*/) {
+void read(QDataStream& stream, QString& text, Bounds /*bounds*/) {
     stream >> text;
 }
 
@@ -40,14 +57,15 @@ void write(QDataStream& stream, const std::vector<Item>& items) {
 
 // A count that lies ends at the end of the bytes.
 template <class Item>
-void read(QDataStream& stream, std::vector<Item>& items, int depth) {
+void read(QDataStream& stream, std::vector<Item>& items, Bounds bounds) {
     quint32 count = 0;
     stream >> count;
-    if (depth > maxDepth)
-        stream.setStatus(QDataStream::ReadCorruptData);
     while (count-- > 0 && stream.status() == QDataStream::Ok) {
         Item item{};
-        read(stream, item, depth + 1);
+        if (bounds.allowItem())
+            read(stream, item, bounds.beneath());
+        else
+            stream.setStatus(QDataStream::ReadCorruptData);
         items.push_back(std::move(item));
     }
 }
@@ -57,7 +75,7 @@ void write(QDataStream& stream, const PDFPageBoxes& boxes) {
            << boxes.displayError;
 }
 
-void read(QDataStream& stream, PDFPageBoxes& boxes, int /*depth*/) {
+void read(QDataStream& stream, PDFPageBoxes& boxes, Bounds /*bounds*/) {
     qint32 rotation = 0;
     stream >> boxes.media >> boxes.crop >> rotation >> boxes.display >> boxes.displayError;
     boxes.rotation = rotation;
@@ -68,7 +86,7 @@ void write(QDataStream& stream, const PDFAnnotation& annotation) {
            << qint32(annotation.destinationPage.value_or(-1));
 }
 
-void read(QDataStream& stream, PDFAnnotation& annotation, int /*depth*/) {
+void read(QDataStream& stream, PDFAnnotation& annotation, Bounds /*bounds*/) {
     qint32 page = -1;
     stream >> annotation.type >> annotation.bounds >> annotation.url >> page;
     if (page >= 0)
@@ -80,11 +98,11 @@ void write(QDataStream& stream, const PDFOutlineNode& node) {
     write(stream, node.children);
 }
 
-void read(QDataStream& stream, PDFOutlineNode& node, int depth) {
+void read(QDataStream& stream, PDFOutlineNode& node, Bounds bounds) {
     qint32 page = -1;
     stream >> node.label >> page;
     node.destinationPage = page;
-    read(stream, node.children, depth);
+    read(stream, node.children, bounds);
 }
 
 template <class Value>
@@ -99,7 +117,8 @@ template <class Value>
 Value unpacked(const QByteArray& bytes) {
     QDataStream stream(bytes);
     Value value{};
-    read(stream, value, 0);
+    int items = 0;
+    read(stream, value, Bounds::outermost(items));
     if (stream.status() != QDataStream::Ok || !stream.atEnd())
         throw PDFFacts::garbled();
     return value;

@@ -1,3 +1,4 @@
+#include "platform/EngineLimits.h"
 #include "platform/PDFEngine.h"
 #include "platform/PDFReader.h"
 
@@ -19,7 +20,8 @@ std::vector<PDFOutlineNode> PDFDocument::Engine::outlineLevel(pdf_obj* first, in
         pdf_obj* dictionary =
             get([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, object); },
                 static_cast<pdf_obj*>(nullptr));
-        if (!dictionary || !seen.insert(dictionary).second)
+        if (!dictionary || seen.size() >= EngineLimits::maxOutlineEntries ||
+            !seen.insert(dictionary).second)
             break;
         PDFOutlineNode node;
         node.label = text(entry(dictionary, "Title"));

@@ -1,5 +1,7 @@
 #include "platform/PDFPage.h"
 
+#include "platform/AnnotationBudget.h"
+#include "platform/EngineLimits.h"
 #include "platform/PDFEngine.h"
 #include "platform/PDFReader.h"
 
@@ -84,7 +86,8 @@ std::vector<PDFAnnotation> PDFPage::annotations() const {
     pdf_obj* list = engine.entry(iObject, "Annots");
     const int count = engine.get([&](fz_context* ctx) { return pdf_array_len(ctx, list); }, 0);
     std::vector<PDFAnnotation> annotations;
-    for (int i = 0; i < count; ++i) {
+    AnnotationBudget budget;
+    for (int i = 0; i < count && !budget.isSpent(); ++i) {
         pdf_obj* object = engine.get([&](fz_context* ctx) { return pdf_array_get(ctx, list, i); },
                                      static_cast<pdf_obj*>(nullptr));
         PDFAnnotation annotation;
@@ -95,7 +98,10 @@ std::vector<PDFAnnotation> PDFPage::annotations() const {
         pdf_obj* action = engine.entry(object, "A");
         if (engine.name(engine.entry(action, "S")) == QStringLiteral("URI"))
             annotation.url = engine.text(engine.entry(action, "URI"));
+        if (annotation.url.size() == EngineLimits::maxTextLength)
+            annotation.url = QString(); // cut, so that it would lead somewhere else
         annotation.destinationPage = engine.targetPage(object);
+        budget.spend(annotation);
         annotations.push_back(std::move(annotation));
     }
     return annotations;

@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <poll.h>
+#include <utility>
 
 namespace {
 
@@ -17,8 +18,11 @@ constexpr int pollMilliseconds = 20;
 // A document that has ended this many is not asked again.
 constexpr int maxEnded = 3;
 
-// The longest answer is the outline. One of a million entries fits.
-constexpr qsizetype maxAnswer = qsizetype{256} << 20;
+// The longest answers are an outline, and a page's links.
+constexpr qsizetype maxAnswer = qsizetype{128} << 20;
+
+// A sentence, and a path in it.
+constexpr qsizetype maxReason = 16'384;
 
 const Log& readerLog() {
     static const Log log("PDFReader");
@@ -43,13 +47,19 @@ Message openCause(const QString& words) {
     return Message::translate("PDFDocument", words.toUtf8().constData());
 }
 
-// "fail NAME REASON". What can't be opened is named in the reason already.
+// "fail NAME REASON". What can't be opened is named in the reason already. Names have their meaning
+// here, so only those count that a reader has a reason for.
 PlatformException failureFrom(const QByteArray& line, const QString& path) {
-    if (!line.startsWith("fail "))
+    const QByteArray begin = "fail ";
+    const qsizetype end = line.indexOf(' ', begin.size());
+    const QString name = QString::fromLatin1(line.mid(begin.size(), end - begin.size()));
+    static const QStringList known{QStringLiteral("PDFOpenFailed"),
+                                   QStringLiteral("PDFPageMissing"),
+                                   QStringLiteral("PDFPageUnreadable")};
+    if (!line.startsWith(begin) || end < 0 || !known.contains(name))
         return PDFFacts::garbled();
-    const QString name = QString::fromLatin1(line.split(' ').value(1));
-    const QString reason = QString::fromUtf8(line.mid(qsizetype{6} + name.size()));
-    if (name != QStringLiteral("PDFOpenFailed"))
+    const QString reason = QString::fromUtf8(line.mid(end + 1, maxReason));
+    if (name != known.first())
         return {name, Message::translate("PageFailure", reason.toUtf8().constData())};
     const QString start = path + QStringLiteral(": ");
     const QString cause = reason.startsWith(start) ? reason.mid(start.size()) : reason;
@@ -59,9 +69,7 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
 } // namespace
 
 PDFReader::PDFReader(QString path, std::function<bool()> stopped)
-    : iProgram(Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker"))),
-      iPath(std::move(path)),
-      iStopped(std::move(stopped)) {}
+    : iProgram(Bundle::pageWorkerPath()), iPath(std::move(path)), iStopped(std::move(stopped)) {}
 
 PDFReader::~PDFReader() = default;
 
@@ -117,6 +125,7 @@ QByteArray PDFReader::askOnce(const QByteArray& question) {
         iProcess = std::make_unique<ChildProcess>(
             QFile::encodeName(iProgram).toStdString(),
             std::vector<std::string>{"read", QFile::encodeName(iPath).toStdString()});
+        iIsHere = false;
         QByteArray count = awaitAnswer();
         if (question.isEmpty())
             return count;
@@ -129,6 +138,11 @@ QByteArray PDFReader::awaitAnswer() {
     const auto deadline = std::chrono::steady_clock::now() + iPatience;
     for (;;) {
         if (const auto line = iProcess->takeLine()) {
+            if (!std::exchange(iIsHere, true)) {
+                if (*line != "here")
+                    throw PDFFacts::garbled();
+                continue;
+            }
             if (line->startsWith("ok "))
                 return QByteArray::fromBase64(line->mid(3));
             throw failureFrom(*line, iPath);
@@ -148,9 +162,10 @@ QByteArray PDFReader::awaitAnswer() {
     }
 }
 
-// A program that the system could not run properly says nothing about the file.
+// A program that the system could not run properly says nothing about the file. Once it has been
+// heard of it may have opened the file, and what it says is what the file makes it say.
 void PDFReader::reportEnd() {
-    const bool couldRun = !iProcess->couldNotRun();
+    const bool couldRun = iIsHere || !iProcess->couldNotRun();
     rest();
     if (!couldRun)
         giveUp(

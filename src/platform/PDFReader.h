@@ -49,6 +49,7 @@ private:
     std::function<bool()> iStopped;
     std::chrono::milliseconds iPatience = EngineLimits::maxPageTime;
     std::unique_ptr<ChildProcess> iProcess;
+    bool iIsHere = false; // the process has been heard of
     int iPageCount = 0;
     int iEnded = 0; // processes lost so far
 };

@@ -1,6 +1,7 @@
 #include "platform/Walls.h"
 
 #ifdef __linux__
+#include <QDir>
 #include <QFile>
 #include <array>
 #include <cerrno>
@@ -9,6 +10,7 @@
 #include <ctime>
 #include <fcntl.h>
 #include <linux/landlock.h>
+#include <poll.h>
 #include <seccomp.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -86,6 +88,18 @@ private:
     bool iTruncates;
 };
 
+// A thread that has been waited for may show a moment longer.
+bool isOnlyThread() {
+    constexpr int patienceMilliseconds = 100;
+    const QDir threads(QStringLiteral("/proc/self/task"));
+    for (int waited = 0; waited < patienceMilliseconds; ++waited) {
+        if (threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() == 1)
+            return true;
+        ::poll(nullptr, 0, 1);
+    }
+    return false;
+}
+
 bool closeOffFiles(const Walls::Needs& needs) {
     const long version =
         ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
@@ -96,42 +110,57 @@ bool closeOffFiles(const Walls::Needs& needs) {
     rules.allow(needs.file, Access::readFile);
     if (!needs.workFolder.isNull())
         rules.allow(needs.workFolder, Access::workFolder);
-    return rules.enforce();
+    const bool alone = isOnlyThread();
+    return rules.enforce() && alone;
 }
 
-// All that drawing, reading and the C library call, on any machine. Whatever is not named here
-// does not exist for the process.
+// All that drawing, reading and the C library call, on machines of 64 and of 32 bits. Whatever is
+// not named here does not exist for the process.
 constexpr std::array harmlessCalls{
+    "_llseek",
     "access",
+    "alarm",
     "brk",
     "clock_getres",
+    "clock_getres_time64",
     "clock_gettime",
+    "clock_gettime64",
     "clock_nanosleep",
+    "clock_nanosleep_time64",
     "close",
     "exit",
     "exit_group",
     "faccessat",
     "faccessat2",
     "fallocate",
+    "fcntl64",
     "fstat",
     "fstat64",
     "fstatat64",
     "fstatfs",
+    "fstatfs64",
     "fsync",
     "ftruncate",
+    "ftruncate64",
     "futex",
+    "futex_time64",
     "getcwd",
     "getegid",
+    "getegid32",
     "geteuid",
+    "geteuid32",
     "getgid",
+    "getgid32",
     "getpid",
     "getrandom",
     "getrusage",
     "gettid",
     "gettimeofday",
     "getuid",
+    "getuid32",
     "lseek",
     "lstat",
+    "lstat64",
     "madvise",
     "membarrier",
     "mremap",
@@ -142,6 +171,7 @@ constexpr std::array harmlessCalls{
     "openat",
     "poll",
     "ppoll",
+    "ppoll_time64",
     "pread64",
     "pwrite64",
     "read",
@@ -159,21 +189,24 @@ constexpr std::array harmlessCalls{
     "rt_sigreturn",
     "rt_sigsuspend",
     "rt_sigtimedwait",
+    "rt_sigtimedwait_time64",
     "sched_getaffinity",
     "sched_yield",
-    "setitimer",
     "set_robust_list",
+    "setitimer",
     "sigaltstack",
+    "sigreturn",
     "stat",
+    "stat64",
     "statx",
     "sysinfo",
     "time",
+    "ugetrlimit",
     "uname",
     "unlink",
     "unlinkat",
     "write",
     "writev",
-    "alarm",
 };
 
 class CallFilter {
@@ -184,7 +217,7 @@ public:
     CallFilter& operator=(const CallFilter&) = delete;
 
     bool enforce() {
-        if (!iFilter)
+        if (!iFilter || ::seccomp_attr_set(iFilter, SCMP_FLTATR_CTL_TSYNC, 1) != 0)
             return false;
         for (const char* name : harmlessCalls)
             allow(name);
@@ -227,12 +260,23 @@ void setLimits(const Walls::Needs& needs) {
     constexpr std::size_t maxOpenFiles = 64;
     limit(RLIMIT_CORE, 0); // its memory is a stranger's document
     limit(RLIMIT_NOFILE, maxOpenFiles);
-    // Sanitizers reserve memory far beyond any limit.
+    if (needs.fileSize != 0)
+        limit(RLIMIT_FSIZE, needs.fileSize);
+        // Sanitizers reserve memory far beyond any limit.
 #ifndef FOLVERO_SANITIZED
     if (needs.memory != 0)
         limit(RLIMIT_DATA, needs.memory);
-#else
-    (void)needs;
+#endif
+}
+
+// Sanitizers tell there what they find.
+void closeStandardError() {
+#ifndef FOLVERO_SANITIZED
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (nowhere >= 0) {
+        ::dup2(nowhere, STDERR_FILENO);
+        ::close(nowhere);
+    }
 #endif
 }
 
@@ -241,6 +285,7 @@ void setLimits(const Walls::Needs& needs) {
 Walls::Strength Walls::raise(const Needs& needs) {
     ::tzset(); // reads a file, once
     setLimits(needs);
+    closeStandardError();
     if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
         return {};
     Strength strength;

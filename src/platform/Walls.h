@@ -10,9 +10,10 @@ namespace Walls {
 
 // What the process goes on to need of the file system and the machine.
 struct Needs {
-    QString file;          // read; a symbolic link is followed
-    QString workFolder;    // files in it are read, written, renamed and deleted; null for none
-    std::size_t memory{0}; // bytes of data it may hold
+    QString file;            // read; a symbolic link is followed
+    QString workFolder;      // files in it are read, written, renamed and deleted; null for none
+    std::size_t memory{0};   // bytes of data it may hold
+    std::size_t fileSize{0}; // bytes that a file may grow to; 0 for no limit
 };
 
 // How far a system goes along.
@@ -21,9 +22,10 @@ struct Strength {
     bool calls = false; // no network, no other program, no signals to others
 };
 
-// Takes away all but that: other files, the network, starting programs, and memory without end. A
-// system that knows no such walls leaves the process as it is, which the result tells. To be called
-// before there is a second thread.
+// Takes away all but that: other files, the network, starting programs, memory without end, and the
+// standard error stream, which may be a terminal. A system that knows no such walls leaves the
+// process as it is, which the result tells. To be called while there is one thread: files are not
+// closed off from others, which the result tells as well.
 Strength raise(const Needs& needs);
 
 } // namespace Walls

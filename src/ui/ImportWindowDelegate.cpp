@@ -205,7 +205,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     if (iFlashPageSource) {
         logger().debug(QStringLiteral("import pdf ok..."));
         noteFailedPages();
-        takePageSize();
+        takePageSize(*operation);
         iIsImporting = false;
         endSheet(1);
         return;
@@ -230,19 +230,14 @@ void ImportWindowDelegate::noteFailedPages() {
         iFailures << tr("%n more page(s) could not be drawn.", nullptr, int(failed.size() - told));
 }
 
-void ImportWindowDelegate::takePageSize() {
+void ImportWindowDelegate::takePageSize(const ImportPDFOperation& operation) {
     const auto* source = dynamic_cast<const FlashPageSourcePDF*>(iFlashPageSource.get());
     const auto document = source ? source->toPageConverter()->PDFDoc() : nullptr;
     if (!document)
         return;
-    try {
-        const QRectF box = document->page(0).cropBox();
-        iPageWidth = int(box.width());
-        iPageHeight = int(box.height());
-    } catch (const PlatformException&) {
-        iPageWidth = 0;
-        iPageHeight = 0;
-    }
+    const QRectF box = operation.firstCropBox().value_or(QRectF());
+    iPageWidth = int(box.width());
+    iPageHeight = int(box.height());
     document->rest(); // nothing more is asked of it
     auto& settings = AppSettings::shareInstance();
     settings.setPageWidth(iPageWidth);

@@ -79,7 +79,7 @@ private:
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
     void noteFailedPages();
-    void takePageSize();
+    void takePageSize(const ImportPDFOperation& operation);
     void showFailure(const QStringList& failures);
     void endSheet(int returnCode);
 

@@ -4,12 +4,10 @@
 #include "platform/Log.h"
 #include "platform/Walls.h"
 
+#include <iostream>
+
 void seclude(const QString& pdf, const QString& workFolder) {
-    const Walls::Strength strength =
-        Walls::raise({pdf, workFolder, EngineLimits::maxProcessMemory});
-    const Log log("Seclusion");
-    if (!strength.files)
-        log.debug(QStringLiteral("this system can't close files off from a process"));
-    if (!strength.calls)
-        log.debug(QStringLiteral("this system can't close calls off from a process"));
+    Log::end(); // walls keep in the thread that raises them
+    Walls::raise({pdf, workFolder, EngineLimits::maxProcessMemory, EngineLimits::maxPageFileSize});
+    std::cout << "here" << std::endl;
 }

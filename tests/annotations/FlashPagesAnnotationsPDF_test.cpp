@@ -190,7 +190,7 @@ TEST_F(FlashPagesAnnotationsPDFTest, FailsOnAPageThatTheDocumentLacks) {
 
 TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
     constexpr int perPage = 5000;
-    constexpr int pages = 2 * FlashPagesAnnotationsPDF::maximumAnnotations / perPage;
+    constexpr int pages = 2 * AnnotationBudget::mostAnnotations / perPage;
     PDFBuilder builder;
     const int link = builder.addObject(
         PDFBuilder::link(QRectF(0, 0, 9, 9), PDFBuilder::toURL("https://a.org/")));
@@ -211,7 +211,7 @@ TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
         links += std::size_t(found);
     }
     EXPECT_EQ(listed, pages);
-    EXPECT_EQ(links, FlashPagesAnnotationsPDF::maximumAnnotations);
+    EXPECT_EQ(links, AnnotationBudget::mostAnnotations);
 }
 
 // The engine alone would go through five thousand pages, or names, for each of these links.
@@ -254,4 +254,27 @@ TEST_F(FlashPagesAnnotationsPDFTest, ReadsTheSameLinksOnePageAtATimeWhenIdle) {
     for (int i = 0; i < 20; ++i)
         QCoreApplication::processEvents();
     EXPECT_EQ(asText(whenIdle.pagesAnnotationsNode()), asText(atOnce.pagesAnnotationsNode()));
+}
+
+TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongAddress) {
+    constexpr int length = 60'000;
+    constexpr int pages = 2 * int(AnnotationBudget::mostCharacters) / length;
+    const QByteArray address = "https://a.org/";
+    const auto links = [&](int addressLength) {
+        PDFBuilder builder;
+        const int link = builder.addObject(PDFBuilder::link(
+            QRectF(0, 0, 9, 9),
+            PDFBuilder::toURL(address + QByteArray(addressLength - address.size(), 'a'))));
+        PDFBuilder::Page page = pageOf({100, 100});
+        page.extraEntries = "/Annots [ " + PDFBuilder::reference(link) + " ]";
+        for (int i = 0; i < pages; ++i)
+            builder.addPage(page);
+        FlashPagesAnnotationsPDF annotations;
+        annotations.loadLinksFromPDF(open(builder), QStringLiteral("ALL"));
+        const auto pagesNode = annotations.pagesAnnotationsNode();
+        return std::count_if(pagesNode.begin(), pagesNode.end(),
+                             [](const pugi::xml_node& node) { return node.first_child(); });
+    };
+    EXPECT_EQ(links(length), pages / 2 + 1);
+    EXPECT_EQ(links(length * 2), 0); // is too long for an address
 }

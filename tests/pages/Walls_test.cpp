@@ -33,7 +33,7 @@ bool systemClosesFilesOff() {
 // Has a stand-in for the page worker "draw" pages, some of which make it misbehave.
 class MisbehavingWorkers : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(QDir(iFolder.path()).mkdir(QStringLiteral("work"))); }
+    void SetUp() override { ASSERT_TRUE(QDir(iFolder.path()).mkpath(workFolder())); }
 
     QString workFolder() const { return iFolder.filePath(QStringLiteral("work")); }
 
@@ -78,13 +78,21 @@ std::set<int> failed(const std::map<int, QString>& reasons) {
 } // namespace
 
 TEST_F(MisbehavingWorkers, CostNothingButTheirPages) {
-    start(30, "3 crash\n4 crash\n9 loop\n14 recurse\n20 babble\n21 crash\n29 loop\n");
+    start(30, "3 crash\n4 crash\n9 loop\n14 recurse\n20 babble\n21 crash\n24 trickle\n29 exit\n");
     const auto reasons = results(30);
-    EXPECT_EQ(failed(reasons), (std::set{3, 4, 9, 14, 20, 21, 29}));
+    EXPECT_EQ(failed(reasons), (std::set{3, 4, 9, 14, 20, 21, 24, 29}));
     EXPECT_EQ(reasons.at(3), QStringLiteral("the program that draws pages ended at this page"));
     EXPECT_EQ(reasons.at(9), QStringLiteral("drawing it took too long"));
     // No page file is left of a page that counts as given up.
-    EXPECT_EQ(QDir(workFolder()).entryList(QDir::Files).size(), 30 - 7);
+    EXPECT_EQ(QDir(workFolder()).entryList(QDir::Files).size(), 30 - 8);
+}
+
+// Nobody else may read a document that makes its workers end, however they end.
+TEST_F(MisbehavingWorkers, AreBelievedNothingOnceTheDocumentIsOpened) {
+    for (const QByteArray deed : {"exit", "crash", "loop"}) {
+        start(2, "opening " + deed + "\n");
+        EXPECT_EQ(failed(results(2)), (std::set{1, 2})) << deed.constData();
+    }
 }
 
 TEST_F(MisbehavingWorkers, CannotTakeAllMemory) {
@@ -191,4 +199,22 @@ TEST_F(KilledWorkers, AreMissedByNobodyWhenTheyOnlyRead) {
     document->rest();
     EXPECT_TRUE(ChildProcesses::running("read", ::getpid()).empty());
     EXPECT_EQ(document->page(8).rotation(), 0);
+}
+
+// Walls hold what is in the thread that raises them, and libraries start threads of their own.
+TEST_F(KilledWorkers, AreBehindWallsWithAllTheirThreads) {
+    const auto document = PDFDocument::openApart(path());
+    std::atomic<bool> stop{false};
+    PageWorkers workers(path(), iFolder.path(), 100, {1, 2, 3, 4}, stop);
+    ASSERT_TRUE(workers.start());
+    ASSERT_TRUE(workers.waitFor(2));
+    for (const char* service : {"read", "draw"}) {
+        const auto processes = ChildProcesses::running(service, ::getpid());
+        ASSERT_FALSE(processes.empty()) << service;
+        const QDir threads(QStringLiteral("/proc/%1/task").arg(processes.front()));
+        for (const QString& thread : threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            const QByteArray status = TestFiles::read(threads.filePath(thread + "/status"));
+            EXPECT_TRUE(status.contains("Seccomp:\t2\n")) << service << status.constData();
+        }
+    }
 }

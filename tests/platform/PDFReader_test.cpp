@@ -58,13 +58,13 @@ TEST_F(PDFReaderTest, LeavesTheFileToItsOwnerWhenThereIsNoProgramToReadIt) {
 }
 
 TEST_F(PDFReaderTest, TellsWhatEndsTheProgramAndStopsTrying) {
-    EXPECT_EQ(failureOf([&] { reader("kill -SEGV $$\n")->open(); }),
+    EXPECT_EQ(failureOf([&] { reader("echo here\nkill -SEGV $$\n")->open(); }),
               QStringLiteral("PDFReaderEnded"));
     EXPECT_EQ(failureOf([&] { reader("exec sleep 100\n")->open(); }),
               QStringLiteral("PDFReaderTimeout"));
 
     const auto ends =
-        reader("echo \"ok $count\"\nread question\necho x >>" +
+        reader("echo here\necho \"ok $count\"\nread question\necho x >>" +
                QFile::encodeName(iFolder.filePath(QStringLiteral("tries"))) + "\nkill -SEGV $$\n");
     ASSERT_TRUE(ends->open());
     EXPECT_EQ(ends->pageCount(), 3);
@@ -82,7 +82,7 @@ TEST_F(PDFReaderTest, StopsWaitingWhenTold) {
 // Whoever has taken the other process over may say anything.
 TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
     const auto answers = [&](const QByteArray& packed) {
-        auto made = reader("echo \"ok $count\"\nwhile read question; do echo ok " +
+        auto made = reader("echo here\necho \"ok $count\"\nwhile read question; do echo ok " +
                            packed.toBase64() + "; done\n");
         EXPECT_TRUE(made->open());
         return failureOf([&] { made->outline(); });
@@ -97,11 +97,30 @@ TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
 
 TEST_F(PDFReaderTest, PassesReasonsOn) {
     try {
-        reader("echo 'fail PDFOpenFailed none.pdf: is damaged beyond repair (no objects)'\n")
+        reader("echo here\necho 'fail PDFOpenFailed none.pdf: is damaged beyond repair (no "
+               "objects)'\n")
             ->open();
         FAIL();
     } catch (const PlatformException& failure) {
         EXPECT_EQ(failure.reason(),
                   QStringLiteral("none.pdf: is damaged beyond repair (no objects)"));
     }
+}
+
+// Then this process would read the file itself, as when there is no such program.
+TEST_F(PDFReaderTest, DoesNotLetTheFileTalkItOutOfUsingTheProgram) {
+    EXPECT_EQ(failureOf([&] { reader("echo here\nexit 127\n")->open(); }),
+              QStringLiteral("PDFReaderEnded"));
+    EXPECT_EQ(failureOf([&] { reader("echo here\necho fail ProcessStartFailed x\n")->open(); }),
+              QStringLiteral("PDFReaderGarbled"));
+    EXPECT_EQ(failureOf([&] { reader("echo \"ok $count\"\n")->open(); }),
+              QStringLiteral("PDFReaderGarbled"));
+}
+
+TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {
+    const auto deaf = reader("echo here\necho \"ok $count\"\nexec sleep 100\n");
+    ASSERT_TRUE(deaf->open());
+    const QByteArray key(4 << 20, 'k');
+    EXPECT_EQ(failureOf([&] { deaf->information(key.constData()); }),
+              QStringLiteral("PDFReaderTimeout"));
 }

@@ -1,6 +1,7 @@
 // A page worker that misbehaves: it stands in for a PDF engine that a hostile page has broken or
-// taken over. In place of a PDF it is given a text file with lines "PAGE DEED"; pages without a
-// deed are "drawn" into a file of a few bytes. It is behind the same walls as the real one.
+// taken over. In place of a PDF it is given a text file with lines "PAGE DEED", or "opening DEED"
+// for what opening it does; pages without a deed are "drawn" into a file of a few bytes. It is
+// behind the same walls as the real one.
 //
 // A deed that breaks the worker never answers. One that reaches for something forbidden answers
 // "ok" when it got there, and "fail REASON" when the system stopped it.
@@ -87,6 +88,12 @@ bool perform(const std::string& deed, const std::string& folder) {
         return allocateWithoutEnd();
     if (deed == "recurse")
         return recurseWithoutEnd(0) != 0;
+    if (deed == "exit")
+        std::_Exit(127); // as if it could not be run
+    if (deed == "trickle") {
+        for (;; ::usleep(5000))
+            std::cout << 'x' << std::flush;
+    }
     if (deed == "babble") {
         for (;;)
             std::cout << std::string(1 << 16, 'x') << std::flush;
@@ -127,6 +134,8 @@ int main() {
     const std::string folder = QByteArray::fromBase64(order.value(1)).toStdString();
     const auto deeds = readDeeds(file.constData());
     seclude(QFile::decodeName(file), QFile::decodeName(folder.c_str()));
+    if (const auto deed = deeds.find("opening"); deed != deeds.end())
+        perform(deed->second, folder);
     std::cout << "ready" << std::endl;
     for (std::string page; std::getline(std::cin, page);) {
         const auto deed = deeds.find(page);
