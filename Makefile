@@ -5,7 +5,7 @@ BUILD := build/$(PRESET)
 OUT ?= out
 PDF ?= $(BUILD)/samples/sample.pdf
 
-.PHONY: book app package test sanitizers bench packages build format format-check tidy help
+.PHONY: book app package test sanitizers sanitizer-builds bench packages build format format-check tidy help
 
 help:
 	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
@@ -44,9 +44,15 @@ test: build format-check
 
 # Two more builds of the core alone, which take what scripts make from the first one.
 sanitizers: build
+	@$(MAKE) --no-print-directory sanitizer-builds
+	@ctest --preset fuzz -j 2
+	@ctest --preset tsan -j 2
+
+# Needs a finished build. At the lowest priority, for whoever runs tests meanwhile.
+sanitizer-builds:
 	@for preset in fuzz tsan; do \
-		cmake --preset $$preset >build/$$preset.log 2>&1 || { cat build/$$preset.log; exit 1; }; \
-		cmake --build --preset $$preset && ctest --preset $$preset -j 2 || exit 1; \
+		nice -n 19 cmake --preset $$preset >build/$$preset.log 2>&1 || { cat build/$$preset.log; exit 1; }; \
+		nice -n 19 cmake --build --preset $$preset || exit 1; \
 	done
 
 format-check: packages
