@@ -12,9 +12,11 @@ QString withExtensionOf(const QString& name, const QString& path);
 bool staysInFolder(const QString& name);
 
 // Whether a name made from what a template or a document says may be given to a file of a book,
-// which may be copied to any system and to any web server: it stays in its folder on all of them,
-// is not hidden (web servers take orders from such files), holds no control characters, and has at
-// most 255 bytes.
+// which may be copied to any system and to any web server. It stays in its folder on all of them,
+// names a file and no device, holds no control characters nor others that Windows does not allow,
+// and has at most 255 bytes. Web servers in their usual settings neither run it nor take orders
+// from it, so it is not hidden either. One dot at the end is allowed: withExtensionOf() leaves it
+// there, and Windows drops it.
 bool isHarmless(const QString& name);
 
 } // namespace BookName

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -37,6 +39,18 @@ bool isFolder(const QString& path) {
 
 bool moveFile(const QString& from, const QString& to) {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+}
+
+// A second name for a link or the like, not for what it points to.
+bool nameAgain(const QString& path, const QString& name) {
+    const QByteArray from = QFile::encodeName(path);
+    const QByteArray to = QFile::encodeName(name);
+    if (::linkat(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), 0) == 0)
+        return true;
+    // Systems may refuse that for what belongs to somebody else.
+    std::error_code error;
+    std::filesystem::copy_symlink(from.toStdString(), to.toStdString(), error);
+    return !error;
 }
 
 QString parentOf(const QString& path) {
@@ -188,9 +202,10 @@ void PublishTransaction::putAside(const QString& path) {
     iDone.push_back({path, backup});
 }
 
-// For a file that is to be replaced: so it never goes missing, and can come back.
 QString PublishTransaction::secondName(const QString& path) {
     const QString name = newName();
+    if (kindOf(path) != S_IFREG)
+        return nameAgain(path, name) ? name : QString();
     Message error;
     if (!Files::linkOrCopy(path, name, &error))
         fail(path, error);
@@ -202,10 +217,8 @@ void PublishTransaction::putInPlace(const Change& change) {
     const mode_t kind = kindOf(change.target);
     if (kind == S_IFDIR)
         fail(change.target, Message::translate("FolveroOutput", "There is a folder of that name"));
-    QString backup;
-    if (kind == S_IFREG)
-        backup = secondName(change.target);
-    else if (kind != 0)
+    const QString backup = kind == 0 ? QString() : secondName(change.target);
+    if (kind != 0 && backup.isNull())
         putAside(change.target);
     if (!moveFile(change.staged, change.target))
         failWithErrno(change.target);

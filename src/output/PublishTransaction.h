@@ -66,6 +66,8 @@ private:
     void makeFolderNow(const QString& path);
     // Moves what is there into the hidden folder.
     void putAside(const QString& path);
+    // For what is to be replaced: so it never goes missing, and can come back. Null where a thing
+    // that is no file can't have one.
     QString secondName(const QString& path);
     bool isBeneath(const QString& path) const;
     bool isBehindLink(const QString& path) const;

@@ -10,6 +10,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <filesystem>
 
 namespace {
@@ -38,6 +39,15 @@ QString stylesFolder(const QString& tmplName) {
     const QString styles =
         appendPathComponent(Bundle::resourcePath(), QStringLiteral("AppFiles/Styles/"));
     return appendPathComponent(styles, tmplName);
+}
+
+template <typename FileValues>
+void collectFileValues(const FlashTemplate::Properties& nodes, FileValues& found) {
+    for (const auto& node : nodes) {
+        if (node->propertyType() == pt_file)
+            found.push_back({node->key(), node->value()});
+        collectFileValues(node->childProperties(), found);
+    }
 }
 
 // A null source removes the target. Whoever reads the target meanwhile sees the old file or the new
@@ -106,6 +116,7 @@ void FlashTemplate::loadTemplate(const QString& name) {
                          .arg(path, failure.message());
         logger().error(loadError());
     }
+    tellOfFilesElsewhere(QStringLiteral("template \"%1\"").arg(name), {});
 }
 
 void FlashTemplate::loadTemplateFile(const QString& path) {
@@ -151,7 +162,9 @@ void FlashTemplate::loadStyleByStyleName(const QString& styleName) {
 void FlashTemplate::loadStyleByStylePath(const QString& stylePath) {
     // First, because the style's values refer to files of this style.
     iStyleName = Files::lastPathComponent(stylePath);
+    const auto before = fileValues();
     importPropertiesSettingsFrom(Files::join(stylePath, QStringLiteral("tmplSetting.txt")));
+    tellOfFilesElsewhere(QStringLiteral("style \"%1\"").arg(iStyleName), before);
 }
 
 QString FlashTemplate::tmplHTMLFilePath() const {
@@ -194,6 +207,31 @@ QString FlashTemplate::valueAsFilePath(const QString& value) const {
         QStringLiteral("the style \"%1\" has no right to this file, it lies elsewhere: %2")
             .arg(iStyleName, path));
     return QStringLiteral("");
+}
+
+std::vector<FlashTemplate::FileValue> FlashTemplate::fileValues() const {
+    std::vector<FileValue> found;
+    collectFileValues(iProperties, found);
+    return found;
+}
+
+// They are not refused: a style may be the settings file that its user has exported, which names
+// files anywhere.
+void FlashTemplate::tellOfFilesElsewhere(const QString& source,
+                                         const std::vector<FileValue>& before) const {
+    const QStringList folders{stylePathFor(iTmplName, iStyleName), tmplPathForName(iTmplName),
+                              libraryFolder()};
+    const auto now = fileValues();
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        const bool isNew = i >= before.size() || now[i] != before[i];
+        const auto holds = [&](const QString& folder) {
+            return Confinement::holds(folder, now[i].value);
+        };
+        if (isNew && !now[i].value.isEmpty() && std::none_of(folders.begin(), folders.end(), holds))
+            logger().warn(
+                QStringLiteral("the %1 names a file that lies elsewhere, books will hold it: %2=%3")
+                    .arg(source, now[i].key, now[i].value));
+    }
 }
 
 void FlashTemplate::copyBookSWFToFile(const QString& destination) const {

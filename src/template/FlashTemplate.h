@@ -25,7 +25,8 @@ public:
     static QString tmplMetaPathForName(const QString& name);
 
     // A file that can't be read leaves the new name and no properties; a malformed one leaves what
-    // was read before the fault. loadError() then says what was wrong.
+    // was read before the fault. loadError() then says what was wrong. Values that name files are
+    // taken as they stand, here and from styles; those that lie elsewhere are logged as warnings.
     void loadTemplate(const QString& name);
     // Page size and language survive the change.
     void changeTmplTo(const QString& name, const QString& stylePath);
@@ -90,8 +91,19 @@ public:
     void setNeedThumbs(bool needed) { iNeedThumbs = needed; }
 
 private:
+    struct FileValue {
+        QString key;
+        QString value;
+        bool operator==(const FileValue&) const = default;
+    };
+
     void loadTemplateFile(const QString& path);
     bool isOfLibrary(const QString& path) const;
+    // Of all properties that name a file, in the order of the tree.
+    std::vector<FileValue> fileValues() const;
+    // Logs what the source has named since then that lies neither with the template or the style
+    // nor in the library.
+    void tellOfFilesElsewhere(const QString& source, const std::vector<FileValue>& before) const;
 
     QString iTmplName;
     Properties iProperties;

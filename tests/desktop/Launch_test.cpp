@@ -10,6 +10,7 @@
 #include "support/TemplateLibrary.h"
 
 #include <QActionGroup>
+#include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -29,6 +30,25 @@ QString text(const char* latin1) {
 }
 
 class Launch : public DesktopProgram {};
+
+// Stands in for the program that the user's system has for a scheme.
+class SchemeProgram : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SchemeProgram(const QString& scheme) : iScheme(scheme) {
+        QDesktopServices::setUrlHandler(scheme, this, "start");
+    }
+    ~SchemeProgram() override { QDesktopServices::unsetUrlHandler(iScheme); }
+
+    QList<QUrl> started;
+
+public Q_SLOTS:
+    void start(const QUrl& url) { started << url; }
+
+private:
+    QString iScheme;
+};
 
 } // namespace
 
@@ -82,7 +102,10 @@ TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     window().webView->setOpener([&addresses](const QUrl& url) { addresses << url; });
     evaluate(text("location.href = 'https://folvero.example/more'"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !addresses.isEmpty(); }));
-    // Without a click the engine would not ask at all.
+    SchemeProgram other(text("program"));
+    QDesktopServices::openUrl(QUrl(text("program://check")));
+    ASSERT_EQ(other.started.size(), 1);
+    // Without a click the engine would not ask at all. With one it would start the program itself.
     window().webView->page()->settings()->setUnknownUrlSchemePolicy(
         QWebEngineSettings::AllowAllUnknownUrlSchemes);
     evaluate(text("location.href = 'program://run'"));
@@ -90,6 +113,7 @@ TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return addresses.size() == 2; }));
     EXPECT_EQ(addresses.last(), QUrl(text("tel:+49301234")));
     EXPECT_TRUE(waitForPreview());
+    EXPECT_EQ(other.started.size(), 1) << "the engine has started the program by itself";
 }
 
 TEST_F(Launch, SecondProgramHasAPreviewOfItsOwn) {
@@ -159,3 +183,5 @@ TEST_F(Launch, HelpThatIsMissingIsTold) {
     window().menu->openHelp->trigger();
     EXPECT_EQ(opened, QStringList{library.path() + u'/' + file});
 }
+
+#include "Launch_test.moc"

@@ -65,20 +65,37 @@ QByteArray outline() {
     return pdf.build();
 }
 
-QByteArray images() {
-    PDFBuilder pdf;
+struct Placed {
+    QByteArray name;
+    int image; // number of its object
+    QRectF rect;
+};
+
+// Adds one square page with these images, and finishes the document.
+QByteArray withImages(PDFBuilder& pdf, double side, const std::vector<Placed>& images) {
     PDFBuilder::Page page;
-    page.mediaBox = QRectF(0, 0, 60, 60);
-    const QByteArray gray(16 * 16, '\x55');
-    const QByteArray colours = QByteArray("\xff\x80\x00", 3).repeated(16 * 16);
-    page.xObjects = {
-        {"G", pdf.addGrayImage({16, 16}, gray)},
-        {"C", pdf.addRGBImage({16, 16}, colours)},
-        {"J", pdf.addJPEGImage({16, 16}, 3, PDFBuilder::encodeJPEG({16, 16}, 3, colours, 50))}};
-    page.content = PDFContent::image("G", {0, 0, 8, 8}) + PDFContent::image("C", {20, 0, 8, 8}) +
-                   PDFContent::image("J", {0, 20, 8, 8}) + PDFContent::image("J", {30, 30, 30, 30});
+    page.mediaBox = QRectF(0, 0, side, side);
+    for (const Placed& placed : images) {
+        page.xObjects[placed.name] = placed.image;
+        page.content += PDFContent::image(placed.name, placed.rect);
+    }
     pdf.addPage(page);
     return pdf.build();
+}
+
+QByteArray images() {
+    PDFBuilder pdf;
+    const QByteArray gray(16 * 16, '\x55');
+    const QByteArray colours = QByteArray("\xff\x80\x00", 3).repeated(16 * 16);
+    const int inGray = pdf.addGrayImage({16, 16}, gray);
+    const int inColour = pdf.addRGBImage({16, 16}, colours);
+    const int asJPEG =
+        pdf.addJPEGImage({16, 16}, 3, PDFBuilder::encodeJPEG({16, 16}, 3, colours, 50));
+    return withImages(pdf, 60,
+                      {{"G", inGray, {0, 0, 8, 8}},
+                       {"C", inColour, {20, 0, 8, 8}},
+                       {"J", asJPEG, {0, 20, 8, 8}},
+                       {"J", asJPEG, {30, 30, 30, 30}}});
 }
 
 // An image of one component in a colour space of its own, and a mask.
@@ -92,12 +109,7 @@ QByteArray indexedImage() {
                       "/ColorSpace [/Indexed /DeviceRGB 1 <ff000000ff00>] /Mask " +
                           PDFBuilder::reference(mask),
                       QByteArray(64, '\1'));
-    PDFBuilder::Page page;
-    page.mediaBox = QRectF(0, 0, 40, 40);
-    page.xObjects = {{"I", indexed}, {"M", mask}};
-    page.content = PDFContent::image("I", {0, 0, 4, 4}) + PDFContent::image("M", {20, 20, 10, 10});
-    pdf.addPage(page);
-    return pdf.build();
+    return withImages(pdf, 40, {{"I", indexed, {0, 0, 4, 4}}, {"M", mask, {20, 20, 10, 10}}});
 }
 
 // A form in a group that blends, and a shading.

@@ -1,11 +1,8 @@
 #include "fuzz/Fuzz.h"
-#include "platform/Bundle.h"
+#include "support/TemplateLibrary.h"
 #include "template/FlashTemplate.h"
 
-#include <QDir>
-#include <QFile>
 #include <QMap>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -21,38 +18,22 @@ constexpr Kind kinds[] = {{"title", pt_text},         {"pageWidth", pt_number},
 
 constexpr char resourceMark[] = "STYLE_RESOURCE:";
 
-// A template file with a group in the middle, made once.
-QByteArray templateXML() {
-    const auto property = [](const Kind& kind, const QByteArray& children) {
-        return "<property type='" +
-               StringUtil::flashTemplatePropertyTypeName(kind.type).toLatin1() + "'><key>" +
-               kind.key +
-               "</key><title/><desc/><value/><valueSource/><defaultValue/><childProperties>" +
-               children + "</childProperties></property>";
-    };
-    QByteArray inner;
-    for (const Kind& kind : kinds)
-        inner = kind.type == pt_list ? property(kind, inner) : inner + property(kind, {});
-    return "<template><info><htmlPath/><swfPath/><defaultStyle/><macAppFilesFolder/>"
-           "<mobileTmplFilesPath/></info><properties>" +
-           inner + "</properties></template>";
-}
-
-// A library with the one template in it, which new templates load.
-class Library {
+// A library with the one template in it, which new templates load; a group in its middle.
+class Library : public TemplateLibrary {
 public:
     Library() {
-        Bundle::setResourcePath(iFolder.path());
-        const QString folder = iFolder.path() + QStringLiteral("/AppFiles/Templates/float");
-        QDir().mkpath(folder);
-        QFile file(folder + QStringLiteral("/flashTemplate.xml"));
-        Fuzz::require(file.open(QIODevice::WriteOnly), "the library can be made");
-        file.write(templateXML());
+        QString inner;
+        for (const Kind& kind : kinds)
+            inner = kind.type == pt_list ? propertyOf(kind, inner) : inner + propertyOf(kind, {});
+        addTemplateFile(QStringLiteral("float"), templateXML(inner).toUtf8());
     }
-    QString exportPath() const { return iFolder.filePath(QStringLiteral("settings.txt")); }
+    QString exportPath() const { return path() + QStringLiteral("/settings.txt"); }
 
 private:
-    QTemporaryDir iFolder;
+    static QString propertyOf(const Kind& kind, const QString& children) {
+        return property(QString::fromLatin1(kind.key), {},
+                        StringUtil::flashTemplatePropertyTypeName(kind.type), children);
+    }
 };
 
 QMap<QString, QString> valuesOf(const FlashTemplate& tmpl) {

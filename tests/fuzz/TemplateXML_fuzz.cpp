@@ -1,29 +1,26 @@
 #include "fuzz/Fuzz.h"
-#include "platform/Bundle.h"
+#include "support/TemplateLibrary.h"
 #include "template/FlashTemplate.h"
 #include "template/XMLRepair.h"
 
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 namespace {
 
 // A library whose one template, which new templates load, is a file in memory.
-class Library {
+class Library : public TemplateLibrary {
 public:
     Library() {
-        Bundle::setResourcePath(iFolder.path());
-        const QString folder = iFolder.path() + QStringLiteral("/AppFiles/Templates/float");
-        QDir().mkpath(folder);
-        Fuzz::require(QFile::link(iFile.path(), folder + QStringLiteral("/flashTemplate.xml")),
+        addTemplateFile(QStringLiteral("float"), {});
+        const QString name =
+            templatePath(QStringLiteral("float")) + QStringLiteral("/flashTemplate.xml");
+        Fuzz::require(QFile::remove(name) && QFile::link(iFile.path(), name),
                       "the library can be made");
     }
     Fuzz::MemoryFile& file() { return iFile; }
 
 private:
     Fuzz::MemoryFile iFile;
-    QTemporaryDir iFolder;
 };
 
 void checkTree(const FlashTemplate& tmpl, const FlashTemplateProperty& node, int depth) {

@@ -199,6 +199,9 @@ TEST(FolveroOutput, GivesNoFileANameThatOthersCouldMisuse) {
                            fileProperty("", book.addSource(text("b.htaccess"), "b")) +
                            fileProperty("..\\..\\evil", file) + fileProperty("/etc/passwd", file) +
                            fileProperty("a&#10;b", file) +
+                           fileProperty("web", book.addSource(text("c.config"), "c")) +
+                           fileProperty("run", book.addSource(text("d.php"), "d")) +
+                           fileProperty("NUL", file) +
                            TemplateLibrary::property(long250 + text("xx"), file, text("pt_file")) +
                            TemplateLibrary::property(long250, file, text("pt_file")) +
                            fileProperty("Bild \xfc 1", file));

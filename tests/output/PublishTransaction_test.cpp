@@ -119,6 +119,37 @@ TEST_F(Transaction, ReplacesALinkNotWhatItPointsTo) {
     EXPECT_FALSE(QFileInfo(path("b")).isSymLink());
 }
 
+TEST_F(Transaction, LeavesALinkInItsPlaceUntilTheFileIsThere) {
+    TestFiles::write(path("outside"), "kept");
+    ASSERT_TRUE(QFile::link(path("outside"), path("a")));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+    for (const char* name : {"a", "pipe"}) {
+        PublishTransaction run(folder.path());
+        run.stage(path(name)); // and never written, so that it can't be put in place
+        EXPECT_THROW(run.commit(), PlatformException);
+        struct stat info {};
+        EXPECT_EQ(::lstat(QFile::encodeName(path(name)).constData(), &info), 0)
+            << "a kill at this moment would lose it";
+    }
+    EXPECT_EQ(QFileInfo(path("a")).symLinkTarget(), path("outside"));
+    EXPECT_EQ(TestFiles::read(path("outside")), "kept");
+}
+
+TEST_F(Transaction, PutsALinkBackThatItReplaced) {
+    TestFiles::write(path("outside"), "kept");
+    ASSERT_TRUE(QFile::link(path("outside"), path("a")));
+    TestFiles::write(path("taken/inside"), "x");
+    {
+        PublishTransaction run(folder.path());
+        run.write(path("a"), "new");
+        run.write(path("taken"), "new");
+        EXPECT_THROW(run.commit(), PlatformException);
+        EXPECT_EQ(TestFiles::read(path("a")), "new");
+    }
+    EXPECT_EQ(QFileInfo(path("a")).symLinkTarget(), path("outside"));
+    EXPECT_EQ(TestFiles::read(path("outside")), "kept");
+}
+
 // A folder with a linked folder in it, as somebody may hand it on.
 class LinkedFolder : public Transaction {
 protected:

@@ -215,6 +215,32 @@ TEST_F(FlashTemplateTest, KeepsFilesOfAStyleWithinTheStyle) {
     }
 }
 
+TEST_F(FlashTemplateTest, TellsOfFilesElsewhereThatATemplateAndAStyleName) {
+    const QString own = library.templatePath(QStringLiteral("float")) + QStringLiteral("/own.png");
+    library.addTemplate(QStringLiteral("float"),
+                        property("image", "/elsewhere/a.png", "pt_file") +
+                            property("text", "/a/text") +
+                            group("group", property("own", own.toUtf8().constData(), "pt_file") +
+                                               property("sound", "", "pt_file")));
+    library.addStyle(QStringLiteral("float"), QStringLiteral("Sea"),
+                     "sound=STYLE_RESOURCE:a.mp3\nown=../b.png\ntext=/another/text\n");
+    const RecordedLog log(Log::Level::warn);
+    FlashTemplate tmpl;
+    ASSERT_EQ(log.texts().size(), 1);
+    EXPECT_TRUE(log.texts().last().contains(QStringLiteral("template \"float\"")));
+    EXPECT_TRUE(log.texts().last().endsWith(QStringLiteral("image=/elsewhere/a.png")));
+    set(tmpl, "image", "/chosen/by/the/user.png");
+    tmpl.loadStyleByStyleName(QStringLiteral("Sea"));
+    ASSERT_EQ(log.texts().size(), 2) << log.texts().last().toStdString();
+    EXPECT_TRUE(log.texts().last().contains(QStringLiteral("style \"Sea\"")));
+    EXPECT_TRUE(log.texts().last().endsWith(QStringLiteral("own=../b.png")));
+    EXPECT_EQ(value(tmpl, "own"), u"../b.png") << "an exported settings file may serve as a style";
+    const QString settings = library.path() + QStringLiteral("/settings.txt");
+    TestFiles::write(settings, "own=/elsewhere/c.png");
+    tmpl.importPropertiesSettingsFrom(settings);
+    EXPECT_EQ(log.texts().size(), 2);
+}
+
 TEST_F(FlashTemplateTest, TakesAnAbsoluteNameOfAStyleForOneInIt) {
     library.addTemplate(QStringLiteral("float"));
     FlashTemplate tmpl;
