@@ -38,11 +38,11 @@ function picture(aspect, text) {
   const width = Math.round(height * aspect);
   const unit = Math.min(width, height) / 1000;
   const lines = wrapped(text, 24);
-  const size = 46 * unit;
+  const size = 40 * unit;
   const middle = height / 2 - (lines.length * size) / 2;
   const sign = text ? 2.3 * unit : 6 * unit;
   const words = lines.map((line, index) => '<text x="' + width / 2 + '" y="'
-    + (middle + 120 * unit + index * size * 1.4) + '">' + escaped(line) + '</text>').join('');
+    + (middle + 136 * unit + index * size * 1.45) + '">' + escaped(line) + '</text>').join('');
   const inset = 46 * unit;
   return 'data:image/svg+xml,' + encodeURIComponent(
     '<svg xmlns="http://www.w3.org/2000/svg" width="' + width + '" height="' + height + '">'

@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make, part } from '../src/dom.js';
 import { closePages } from './closed.js';
 import { Contents } from './contents.js';
 import { DataFiles } from './data.js';
@@ -51,6 +51,8 @@ function addToBook(parts, facts) {
   gestures.answersTap = (/** @type {PointerEvent} */ event) => selecting.clears || links.followAt(event);
   new Sharper(parts, layers);
   const room = new SideRoom(parts);
+  // Where the bar is short of room, the search is worth more than the number of pages.
+  part(toolbar.bar, '.of').dataset.fold = '7.2';
   if (facts.outline.length > 0) {
     const button = barButton('contents', 'C', '7.4', say);
     const contents = new Contents(parts, layers, room, button);

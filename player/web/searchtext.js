@@ -81,7 +81,9 @@ export class SearchText {
     const start = wordStart(source, from - BEFORE, from);
     const end = wordEnd(source, to + BEHIND, to);
     const before = (start > 0 ? '\u2026' : '') + plain(source.slice(start, from));
-    return [before, plain(source.slice(from, to)), plain(source.slice(to, end)) + (end < source.length ? '\u2026' : '')];
+    const behind = plain(source.slice(to, end));
+    return [before, plain(source.slice(from, to)),
+      end < source.length ? behind.replace(/[.,;:\u2013\u2014-]+$/, '') + '\u2026' : behind];
   }
 }
 

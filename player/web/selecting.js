@@ -7,6 +7,9 @@ import { boxIn, isUpright, runsBack } from './pagetext.js';
 /** Way after which a press on a word marks text instead of being a click. */
 const MARK_START = 4;
 
+/** What a way along a line counts beside one from line to line: readers stop behind a line's end. */
+const BESIDE = 0.4;
+
 /**
  * Marks text with the mouse. The words' own places say what lies under the pointer: what browsers make
  * of words that are placed one by one leaps to the ends of the page between the lines.
@@ -139,11 +142,12 @@ function onStage(target) {
  * @param {{x: number, y: number, width: number, height: number}} box
  * @param {number} x
  * @param {number} y
+ * @param {[across: number, down: number]} weights
  */
-function distance(box, x, y) {
+function distance(box, x, y, weights = [1, 1]) {
   const across = Math.max(box.x - x, 0, x - box.x - box.width);
   const down = Math.max(box.y - y, 0, y - box.y - box.height);
-  return Math.hypot(across, down);
+  return Math.hypot(across * weights[0], down * weights[1]);
 }
 
 /**
@@ -158,8 +162,10 @@ function caretIn({ box, text }, clientX, clientY) {
   const seen = box.getBoundingClientRect();
   const x = ((clientX - seen.x) / seen.width) * text.width;
   const y = ((clientY - seen.y) / seen.height) * text.height;
-  const near = text.lines.map((line, index) => ({ line, index, away: distance(line.box, x, y) }))
-    .reduce((a, b) => (b.away < a.away ? b : a));
+  const near = text.lines.map((line, index) => {
+    const weights = /** @type {[number, number]} */ (isUpright(line) ? [1, BESIDE] : [BESIDE, 1]);
+    return { line, index, away: distance(line.box, x, y, weights) };
+  }).reduce((a, b) => (b.away < a.away ? b : a));
   const { line } = near;
   const words = line.words.map((word, index) => ({ word, index, away: distance(boxIn(line, word, 0, 1), x, y) }));
   const { word, index } = words.reduce((a, b) => (b.away < a.away ? b : a));

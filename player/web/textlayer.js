@@ -64,5 +64,6 @@ function lineElement(line) {
     reached = wanted + own;
     element.append(word);
   }
+  element.append(make('br', ''));
   return element;
 }
