@@ -49,9 +49,11 @@ export class DataFiles {
   /**
    * A data file with a fault is a matter of its own and no failure of the player, for which the page
    * would take it. From disk browsers do not tell which script it was.
-   * @param {ErrorEvent} event
+   * @param {Event} event
    */
   #keepFault(event) {
+    // A file that is missing is told to its own element only.
+    if (!(event instanceof ErrorEvent)) return;
     const ofData = /\/files\/(?:web|text|search)\/[^/]*\.js$/.test(event.filename ?? '');
     if (ofData || (!event.filename && this.waiting.size > 0)) event.stopImmediatePropagation();
   }

@@ -154,10 +154,12 @@ export class Searching {
   /** Tells how much was found, and which of it is shown. */
   #tell() {
     const { hits, more, query } = /** @type {Answer} */ (this.answer);
-    const count = hits.length.toLocaleString(document.documentElement.lang) + (more ? '+' : '');
+    /** @param {number} value */
+    const written = (value) => value.toLocaleString(document.documentElement.lang);
+    const count = written(hits.length) + (more ? '+' : '');
     let text = '';
     if (!query.empty && hits.length === 0) text = this.say('noHits');
-    else if (this.index >= 0) text = this.say('hitOf', this.index + 1, count);
+    else if (this.index >= 0) text = this.say('hitOf', written(this.index + 1), count);
     else if (hits.length > 0) text = hits.length === 1 ? this.say('hit') : this.say('hits', count);
     this.status.textContent = text;
     this.count.textContent = text;

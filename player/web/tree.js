@@ -33,7 +33,7 @@ export class Tree {
     this.spokenOf = spokenOf;
     this.choose = choose;
     this.typed = '';
-    this.typedAt = -TYPING_MS;
+    this.typedAt = 0;
     this.items = entries.map((entry) => itemOf(entry, null));
     /** @type {Item} */
     this.active = this.items[0];
@@ -182,8 +182,10 @@ export class Tree {
       '*': () => (active.parent?.children ?? this.items).forEach((one) => this.#set(one, true)),
     };
     const action = actions[event.key];
-    if (action) action();
-    else if (/^[\p{L}\p{N}]$/u.test(event.key)) this.#type(event, visible, at);
+    if (action) {
+      this.typed = '';
+      action();
+    } else if (/^[\p{L}\p{N}]$/u.test(event.key)) this.#type(event, visible, at);
     else return;
     event.preventDefault();
   }
@@ -201,7 +203,7 @@ export class Tree {
    * @param {number} at
    */
   #type(event, visible, at) {
-    const again = event.timeStamp - this.typedAt < TYPING_MS;
+    const again = this.typed !== '' && event.timeStamp - this.typedAt < TYPING_MS;
     this.typed = (again ? this.typed : '') + event.key.toLowerCase();
     this.typedAt = event.timeStamp;
     const from = at + (this.typed.length === 1 ? 1 : 0);
