@@ -24,7 +24,7 @@ import { Zoom } from './zoom.js';
 import { ZoomGestures } from './zoomgestures.js';
 
 /**
- * What other scripts add to the book. Each is called with the configuration before any page is
+ * What other scripts add to the book. Each is called with the configuration before any picture is
  * loaded, and may give what is to be called once the controls are there.
  * @type {((early: object) => Promise<((parts: object) => void) | undefined>)[]}
  */
@@ -138,8 +138,8 @@ function addControls(root, turner, sounds) {
 /** @param {HTMLElement} root */
 async function openBook(root) {
   const config = await loadConfiguration();
-  dress(root, config);
   const additions = await Promise.all(extensions.map((extend) => extend({ root, config, say, learn })));
+  dress(root, config);
   const book = new Book(config, root);
   await book.measure();
   const turner = new Turner(book, /** @type {HTMLCanvasElement} */ (part(root, '.leaf')));

@@ -34,6 +34,8 @@ export class Tree {
     this.choose = choose;
     this.typed = '';
     this.typedAt = 0;
+    /** Branches made so far, for their names. */
+    this.made = 0;
     this.items = entries.map((entry) => itemOf(entry, null));
     /** @type {Item} */
     this.active = this.items[0];
@@ -69,7 +71,7 @@ export class Tree {
     let seen = item;
     for (let above = item?.parent; above; above = above.parent) if (!above.open) seen = above;
     if (!seen) return;
-    rowOf(seen)?.classList.add(seen === item ? 'current' : 'within');
+    seen.element?.classList.add(seen === item ? 'current' : 'within');
     if (seen === item) seen.element?.setAttribute('aria-current', 'page');
   }
 
@@ -86,9 +88,8 @@ export class Tree {
 
   /** Scrolls an entry into sight and lets it have the focus. */
   focus() {
-    const row = rowOf(this.active);
     this.active.element?.focus({ preventScroll: true });
-    row?.scrollIntoView({ block: 'nearest' });
+    this.active.element?.scrollIntoView({ block: 'nearest' });
   }
 
   /** Opens every branch. */
@@ -104,17 +105,30 @@ export class Tree {
     if (children.length) sign.append(icon('branch'));
     const title = make('span', 'tree-title', entry.title);
     title.dir = 'auto';
-    const row = make('div', 'tree-row', sign, title, make('span', 'tree-page', label));
-    row.style.setProperty('--step', String(Math.min(MOST_STEPS, level - 1)));
-    const element = make('li', 'tree-item', row);
+    const page = make('span', 'tree-page', label);
+    page.setAttribute('aria-hidden', 'true');
+    const element = make('div', 'tree-row', sign, title, page);
+    if (entry.position) element.append(make('span', 'unseen', ', ' + this.spokenOf(entry.position)));
+    element.style.setProperty('--step', String(Math.min(MOST_STEPS, level - 1)));
     element.setAttribute('role', 'treeitem');
     element.setAttribute('aria-level', String(level));
-    element.setAttribute('aria-label', entry.position ? entry.title + ', ' + this.spokenOf(entry.position) : entry.title);
     if (children.length) element.setAttribute('aria-expanded', 'false');
     else if (!entry.position) element.setAttribute('aria-disabled', 'true');
     element.tabIndex = -1;
     item.element = element;
-    return element;
+    const place = make('li', '', element);
+    place.setAttribute('role', 'none');
+    return place;
+  }
+
+  /** @param {Item} item */
+  #makeGroup(item) {
+    const group = make('ul', '', ...item.children.map((child) => this.#make(child)));
+    group.id = 'branch-' + ++this.made;
+    group.setAttribute('role', 'group');
+    item.element?.setAttribute('aria-owns', group.id);
+    item.element?.after(group);
+    return group;
   }
 
   /**
@@ -125,13 +139,8 @@ export class Tree {
     if (item.children.length === 0 || item.open === open) return;
     item.open = open;
     item.element?.setAttribute('aria-expanded', String(open));
-    let group = item.element?.querySelector(':scope > ul');
-    if (!group) {
-      group = make('ul', '', ...item.children.map((child) => this.#make(child)));
-      group.setAttribute('role', 'group');
-      item.element?.append(group);
-    }
-    /** @type {HTMLElement} */ (group).hidden = !open;
+    const group = /** @type {HTMLElement | null} */ (item.element?.nextElementSibling) ?? this.#makeGroup(item);
+    group.hidden = !open;
     if (!open && isBelow(this.active, item)) this.#activate(item, this.element.contains(document.activeElement));
     this.mark(this.current);
   }
@@ -150,7 +159,7 @@ export class Tree {
   /** @param {MouseEvent} event */
   #click(event) {
     const target = /** @type {Element} */ (event.target);
-    const element = target.closest('.tree-item');
+    const element = target.closest('.tree-row');
     const item = this.visible.find((one) => one.element === element);
     if (!item) return;
     this.#activate(item);
@@ -232,11 +241,6 @@ function itemOf(entry, parent) {
  */
 function flat(items, into) {
   return items.flatMap((item) => [item, ...(into(item) ? flat(item.children, into) : [])]);
-}
-
-/** @param {Item} item */
-function rowOf({ element }) {
-  return element?.querySelector(':scope > .tree-row');
 }
 
 /**
