@@ -25,21 +25,25 @@ const CJK = /[\p{Script=Han}\p{Script=Hiragana}\p{Script=Katakana}\p{Script=Hang
 /** @typedef {{piece: string, kind: number}} FoldedCharacter */
 /** @typedef {{text: string, starts: number[], ends: number[]}} Folded text, and where its characters come from */
 
-/** @type {Map<string, FoldedCharacter>} */
-const known = new Map();
+/** Units of a text are put together at a time; engines take only so many arguments. */
+const STRETCH = 4096;
+
+/** Room for the text that is being folded: put together letter by letter it would keep the engine tidying up. */
+let units = new Uint16Array(8192);
+
+/** @type {FoldedCharacter[]} by code point; a book has millions of letters and few different ones */
+const known = [];
 
 /**
- * @param {string} character
+ * @param {number} code
  * @returns {FoldedCharacter}
  */
-function foldCharacter(character) {
-  let folded = known.get(character);
-  if (!folded) {
-    const plain = character.toLowerCase().normalize('NFKD').replace(/[\p{M}\p{Cf}\s]/gu, '');
-    const piece = [...plain].map((one) => SAME.get(one) ?? one).join('');
-    folded = { piece, kind: kindOf(character, piece) };
-    known.set(character, folded);
-  }
+function foldCharacter(code) {
+  const character = String.fromCodePoint(code);
+  const plain = character.toLowerCase().normalize('NFKD').replace(/[\p{M}\p{Cf}\s]/gu, '');
+  const piece = [...plain].map((one) => SAME.get(one) ?? one).join('');
+  const folded = { piece, kind: kindOf(character, piece) };
+  known[code] = folded;
   return folded;
 }
 
@@ -59,10 +63,11 @@ function kindOf(character, piece) {
 /**
  * @param {string} source
  * @param {boolean} placed whether it is to be known where each character comes from
+ * @param {number} most length after which the rest does not matter
  * @returns {Folded}
  */
-export function fold(source, placed = false) {
-  let text = '';
+export function fold(source, placed = false, most = Infinity) {
+  let length = 0;
   /** @type {number[]} */
   const starts = [];
   /** @type {number[]} */
@@ -75,34 +80,59 @@ export function fold(source, placed = false) {
   let hyphenAt = 0;
   /** @param {string} piece @param {number} from @param {number} to */
   const add = (piece, from, to) => {
-    text += piece;
-    if (!placed) return;
+    if (length + piece.length > units.length) grow();
     for (let index = 0; index < piece.length; index++) {
+      units[length++] = piece.charCodeAt(index);
+      if (!placed) continue;
       starts.push(from);
       ends.push(to);
     }
   };
-  for (let at = 0; at < source.length;) {
-    const unit = source.charCodeAt(at);
-    const character = unit >= 0xd800 && unit < 0xdc00 ? source.slice(at, at + 2) : source[at];
-    const { piece, kind } = foldCharacter(character);
-    const next = at + character.length;
+  for (let at = 0; at < source.length && length < most;) {
+    const code = /** @type {number} */ (source.codePointAt(at));
+    const { piece, kind } = known[code] ?? foldCharacter(code);
+    const next = at + (code > 0xffff ? 2 : 1);
     if (kind === SPACE || kind === LINE_END) {
       if (!gap) gapAt = at;
       gap = Math.max(gap, kind);
     } else if (kind === SOFT_HYPHEN || (kind === HYPHEN && !gap && !hyphen && isLetter(last))) {
-      if (!gap && !hyphen) [hyphen, hyphenAt] = [kind, at];
+      if (gap || hyphen) {
+        at = next;
+        continue;
+      }
+      hyphen = kind;
+      hyphenAt = at;
     } else if (piece) {
       const joins = hyphen > 0 && gap !== SPACE && isLetter(kind) && isLetter(last);
       if (hyphen === HYPHEN && !joins) add('-', hyphenAt, hyphenAt + 1);
       const runsOn = gap === LINE_END && last === CJK_LETTER && kind === CJK_LETTER;
-      if (gap && !joins && !runsOn && text) add(' ', gapAt, at);
+      if (gap && !joins && !runsOn && length) add(' ', gapAt, at);
       add(piece, at, next);
-      [last, gap, hyphen] = [kind, 0, 0];
+      last = kind;
+      gap = 0;
+      hyphen = 0;
     }
     at = next;
   }
-  return { text, starts, ends };
+  return { text: textIn(length), starts, ends };
+}
+
+/**
+ * The text that stands in the units.
+ * @param {number} length
+ */
+function textIn(length) {
+  let text = '';
+  for (let at = 0; at < length; at += STRETCH) {
+    text += String.fromCharCode(...units.subarray(at, Math.min(length, at + STRETCH)));
+  }
+  return text;
+}
+
+function grow() {
+  const larger = new Uint16Array(2 * units.length);
+  larger.set(units);
+  units = larger;
 }
 
 /** @param {number} kind */

@@ -4,7 +4,7 @@ import { make } from '../src/dom.js';
 /** @typedef {import('./searchtext.js').SearchText} SearchText */
 
 /** Results that are brought into the document at a time. */
-const AT_A_TIME = 40;
+const AT_A_TIME = 16;
 
 /** How near to its end the list is scrolled when more results come, in CSS pixels. */
 const NEAR_END = 600;
@@ -53,7 +53,10 @@ export class Results {
     this.element.hidden = hits.length === 0;
     this.element.removeAttribute('aria-activedescendant');
     this.element.scrollTop = 0;
-    if (hits.length > 0) this.#more();
+    if (hits.length === 0) return;
+    this.#more();
+    // What is seen first is there in the frame in which it was asked for, the rest follows.
+    requestAnimationFrame(() => this.#fill());
   }
 
   /**
@@ -85,8 +88,9 @@ export class Results {
   }
 
   #fill() {
-    const { scrollTop, scrollHeight, clientHeight } = this.element;
-    if (scrollHeight - scrollTop - clientHeight < NEAR_END && this.options.length < this.hits.length) this.#more();
+    const { element, options, hits } = this;
+    const isNear = () => element.scrollHeight - element.scrollTop - element.clientHeight < NEAR_END;
+    while (options.length < hits.length && element.clientHeight > 0 && isNear()) this.#more();
   }
 
   #more() {

@@ -23,8 +23,6 @@ export class SearchText {
     /** @type {string[]} */
     this.folded = [];
     this.ready = this.#foldAll();
-    /** @type {{position: number, folded: import('./foldtext.js').Folded} | null} */
-    this.last = null;
   }
 
   async #foldAll() {
@@ -76,8 +74,7 @@ export class SearchText {
    */
   excerpt({ position, at, length }) {
     const source = this.texts[position - 1];
-    if (this.last?.position !== position) this.last = { position, folded: fold(source, true) };
-    const [from, to] = sourceOf(source, this.last.folded, at, length);
+    const [from, to] = sourceOf(source, fold(source, true, at + length), at, length);
     const start = wordStart(source, from - BEFORE, from);
     const end = wordEnd(source, to + BEHIND, to);
     const before = (start > 0 ? '\u2026' : '') + plain(source.slice(start, from));

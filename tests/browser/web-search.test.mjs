@@ -206,9 +206,10 @@ test('very many hits are listed bit by bit', async () => {
   const book = await open(pages);
   assert.equal(await search(book, 'e'), '5,000+ results');
   const count = () => book.page.locator('.result').count();
-  assert.equal(await count(), 40);
+  const first = await count();
+  assert.ok(first < 60, 'what is seen and little more');
   await book.page.locator('.results').evaluate((one) => { one.scrollTop = one.scrollHeight; });
-  await book.page.waitForFunction(() => document.querySelectorAll('.result').length > 40);
+  await book.page.waitForFunction((before) => document.querySelectorAll('.result').length > before, first);
   await box(book).focus();
   await book.page.keyboard.press('Shift+Enter');
   assert.equal(await status(book).innerText(), '5,000 of 5,000+');
