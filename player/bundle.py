@@ -4,6 +4,7 @@ import re
 import sys
 
 IMPORT = re.compile(r"^import \{[^}]*\} from '(\.\.?/(?:[a-z]+/)?[a-z0-9]+\.js)';\n", re.MULTILINE)
+NAME = re.compile(r"^(?:async )?(?:const|let|class|function)\*? (\w+)", re.MULTILINE)
 COMMENT = re.compile(r"^[ \t]*/\*\*(?:(?!\*/).)*\*/\n", re.MULTILINE | re.DOTALL)
 
 
@@ -28,4 +29,8 @@ def join_script(first):
         if re.search(r"^import\b", source, re.MULTILINE):
             sys.exit("player: an import that the build does not understand")
         parts.append(re.sub(r"^export ", "", source, flags=re.MULTILINE).strip())
+    names = NAME.findall("\n".join(parts))
+    twice = sorted({name for name in names if names.count(name) > 1})
+    if twice:
+        sys.exit(f"player: modules that are joined use the same names: {twice}")
     return "(() => {\n'use strict';\n" + "\n".join(parts) + "\n})();"

@@ -5,6 +5,9 @@ import { Layers } from './layers.js';
 /** @typedef {import('./layers.js').Face} Face */
 /** @typedef {import('./searchtext.js').Hit} Hit */
 
+/** Height at the window's lower edge that the bar may cover, in CSS pixels. */
+const BAR_COVERS = 72;
+
 /** Marks what was found on the pages in view. */
 export class Hits {
   /**
@@ -65,7 +68,7 @@ export class Hits {
     const { left, right, top, bottom } = mark.getBoundingClientRect();
     const { clientWidth, clientHeight } = this.root;
     const { beside } = this.book;
-    const seen = left >= beside && right <= clientWidth && top >= 0 && bottom <= clientHeight;
+    const seen = left >= beside && right <= clientWidth && top >= 0 && bottom <= clientHeight - BAR_COVERS;
     if (seen) return;
     this.zoom.panBy((beside + clientWidth) / 2 - (left + right) / 2, clientHeight / 2 - (top + bottom) / 2);
   }

@@ -20,7 +20,7 @@ export class Layers {
    * @param {any} parts of the player
    * @param {PageTexts} texts
    */
-  constructor({ root, config, book, turner, say }, texts) {
+  constructor({ root, config, book, turner, zoom, say }, texts) {
     this.root = root;
     this.config = config;
     this.book = book;
@@ -43,6 +43,12 @@ export class Layers {
       book.element.querySelector('.page.' + side).setAttribute('aria-hidden', 'true');
       return { side, over, box, position: 0, text: null };
     });
+    const { onChange } = zoom;
+    zoom.onChange = () => {
+      onChange();
+      // Lines around what is marked stay as thin as they are.
+      book.element.style.setProperty('--level', String(zoom.level));
+    };
     turner.onAir = (/** @type {boolean} */ inAir) => {
       root.dataset.air = inAir ? 'yes' : 'no';
       if (!inAir) this.update();

@@ -48,7 +48,7 @@ function addToBook(parts, facts) {
   layers.fillers.push(addTextLayer);
   const links = new Links(parts, layers);
   const selecting = new Selecting(parts, layers);
-  gestures.answersTap = (/** @type {PointerEvent} */ event) => selecting.clears || links.followAt(event);
+  gestures.answersTap = (/** @type {PointerEvent} */ event) => selecting.answers || links.followAt(event);
   new Sharper(parts, layers);
   const room = new SideRoom(parts);
   // Where the bar is short of room, the search is worth more than the number of pages.

@@ -7,11 +7,15 @@ import { boxIn, isUpright, runsBack } from './pagetext.js';
 /** Way after which a press on a word marks text instead of being a click. */
 const MARK_START = 4;
 
+/** Way up to which a finger rests, and the time after which a word under it is marked unless the browser has done so. */
+const LONG_PRESS_WAY = 8;
+const LONG_PRESS_MS = 700;
+
 /** What a way along a line counts beside one from line to line: readers stop behind a line's end. */
 const BESIDE = 0.4;
 
 /**
- * Marks text with the mouse. The words' own places say what lies under the pointer: what browsers make
+ * Marks text with the mouse, and with a finger that rests where the browser does not. The words' own places say what lies under the pointer: what browsers make
  * of words that are placed one by one leaps to the ends of the page between the lines.
  */
 export class Selecting {
@@ -22,10 +26,10 @@ export class Selecting {
   constructor({ root, gestures }, layers) {
     this.gestures = gestures;
     this.layers = layers;
-    /** @type {{id: number, x: number, y: number, anchor: Caret, marks: boolean} | null} */
+    /** @type {{id: number, x: number, y: number, anchor: Caret, marks: boolean, timer: number} | null} */
     this.press = null;
-    /** Whether the press under way only takes an earlier marking back. */
-    this.clears = false;
+    /** Whether the press under way is about what is marked and means nothing else. */
+    this.answers = false;
     const stage = root.querySelector('.stage');
     stage.addEventListener('mousedown', (/** @type {MouseEvent} */ event) => this.#keepFromBrowser(event));
     root.addEventListener('pointerdown', (/** @type {PointerEvent} */ event) => this.#down(event), { capture: true });
@@ -54,48 +58,72 @@ export class Selecting {
   /** @param {PointerEvent} event */
   #down(event) {
     if (event.button !== 0 || !onStage(event.target)) return;
+    this.#letGo();
     const selection = getSelection();
-    this.clears = this.marked && !event.shiftKey;
+    this.answers = this.marked;
     const mouse = event.pointerType === 'mouse';
-    if (this.clears && mouse) selection?.removeAllRanges();
-    if (!mouse || !wordAt(event.target)) return;
-    const here = this.#caretAt(event);
-    if (!here) return;
-    const extends_ = event.shiftKey && this.marked && selection?.anchorNode;
-    const anchor = extends_ ? { node: /** @type {Node} */ (selection.anchorNode), offset: selection.anchorOffset } : here;
-    this.press = { id: event.pointerId, x: event.clientX, y: event.clientY, anchor, marks: false };
-    if (extends_) this.#mark(event);
+    const word = wordAt(event.target);
+    const extended = this.answers && mouse && event.shiftKey && word ? selection?.anchorNode : null;
+    const anchor = extended ? { node: extended, offset: selection?.anchorOffset ?? 0 } : word && this.#caretAt(event);
+    if (this.answers && mouse && !extended) selection?.removeAllRanges();
+    if (!anchor) return;
+    const timer = mouse ? 0 : window.setTimeout(() => this.#rested(/** @type {Element} */ (word)), LONG_PRESS_MS);
+    this.press = { id: event.pointerId, x: event.clientX, y: event.clientY, anchor, marks: false, timer };
+    if (extended) this.#mark(event);
+  }
+
+  #letGo() {
+    clearTimeout(this.press?.timer);
+    this.press = null;
+  }
+
+  /** @param {Element} word */
+  #rested(word) {
+    const node = word.firstChild;
+    if (!this.press || !node || this.marked) return;
+    this.#take();
+    this.press.anchor = { node, offset: 0 };
+    getSelection()?.setBaseAndExtent(node, 0, node, (node.textContent ?? '').trimEnd().length);
+  }
+
+  /** From here on the press turns and moves nothing. */
+  #take() {
+    this.gestures.drop();
+    if (this.press) this.press.marks = true;
   }
 
   /** @param {PointerEvent} event */
   #move(event) {
     const { press } = this;
     if (!press || press.id !== event.pointerId) return;
-    if (!press.marks && Math.hypot(event.clientX - press.x, event.clientY - press.y) < MARK_START) return;
+    const way = Math.hypot(event.clientX - press.x, event.clientY - press.y);
+    if (!press.marks && way < (press.timer ? LONG_PRESS_WAY : MARK_START)) return;
+    if (!press.marks && press.timer) {
+      this.#letGo();
+      return;
+    }
     this.#mark(event);
     event.stopPropagation();
   }
 
   /** @param {PointerEvent} event */
   #up(event) {
-    if (this.press?.id === event.pointerId) this.press = null;
+    if (this.press?.id === event.pointerId) this.#letGo();
   }
 
   /** @param {PointerEvent} event */
   #mark(event) {
     const press = /** @type {NonNullable<Selecting['press']>} */ (this.press);
-    if (!press.marks) {
-      // From here on the press turns and moves nothing.
-      this.gestures.drop();
-      press.marks = true;
-    }
+    if (!press.marks) this.#take();
     const here = this.#caretAt(event);
     if (here) getSelection()?.setBaseAndExtent(press.anchor.node, press.anchor.offset, here.node, here.offset);
   }
 
-  /** A finger that rests on a word marks it, by the browser's own ways; it then turns nothing. */
+  /** Where browsers let a finger that rests on a word mark it, it then turns nothing. */
   #touched() {
-    if (this.gestures.press && !this.press && this.marked && !this.clears) this.gestures.drop();
+    if (!this.gestures.press || this.answers || this.press?.marks || !this.marked) return;
+    this.#letGo();
+    this.gestures.drop();
   }
 
   /**

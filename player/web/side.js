@@ -26,6 +26,9 @@ export class SideRoom {
       if (this.open) this.open.hide();
       else escape();
     };
+    root.querySelector('.stage').addEventListener('pointerdown', () => {
+      if (this.way === 'over') this.open?.hide();
+    });
     new ResizeObserver(() => this.#follow()).observe(root);
   }
 

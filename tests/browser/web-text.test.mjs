@@ -119,6 +119,18 @@ test('a click takes the marking back and does nothing else; the next one turns',
   await book.waitForPages(4, 5);
 });
 
+test('a click with the shift key marks on from where the marking began', async () => {
+  const book = await open({ hash: '#page=2' });
+  await word(book, 'story').waitFor();
+  await mark(book, 'river', 'river', [0.02, 0.4]);
+  const { x, y, width, height } = await boxOf(book, 'below');
+  await book.page.keyboard.down('Shift');
+  await book.page.mouse.click(x + width - 1, y + height / 2);
+  await book.page.keyboard.up('Shift');
+  assert.equal(await copied(book), 'river runs below');
+  assert.deepEqual(await book.pages(), [2, 3]);
+});
+
 test('a drag beside the words turns, a click on words does what it does elsewhere', async () => {
   const book = await open({ hash: '#page=2' });
   await word(book, 'story').waitFor();
@@ -150,6 +162,22 @@ test('a finger that swipes over words turns the page', async () => {
   const { x, y, width } = await boxOf(book, 'river');
   await book.swipe([x + width / 2 + 60, y + 4], [x - 100, y]);
   await book.waitForPages(3);
+});
+
+test('a finger that rests on a word marks it and goes on marking, and turns nothing', async () => {
+  const book = await open({ view: PHONE, hash: '#page=2' });
+  const session = await book.page.context().newCDPSession(book.page);
+  const touch = (type, ...touchPoints) => session.send('Input.dispatchTouchEvent', { type, touchPoints });
+  const [from, to] = [await boxOf(book, 'river'), await boxOf(book, 'old')];
+  await touch('touchStart', { x: from.x + 8, y: from.y + 4 });
+  await book.page.waitForFunction(() => String(getSelection()).trim() === 'river');
+  await touch('touchMove', { x: (from.x + to.x) / 2, y: to.y + 4 });
+  await touch('touchMove', { x: to.x + to.width - 0.5, y: to.y + 4 });
+  await touch('touchEnd');
+  assert.equal(await copied(book), 'river runs below the old');
+  await book.page.touchscreen.tap(370, 500);
+  await book.page.waitForTimeout(300);
+  assert.deepEqual(await book.pages(), [2]);
 });
 
 const HEBREW = 'שלום עולם גדול';
