@@ -16,32 +16,10 @@ import pathlib
 import re
 import sys
 
+from bundle import join_script
+
 PLACEHOLDERS = ["index.title", "meta.keywords", "meta.description"]
 STYLES = ["book.css", "controls.css", "drawer.css", "panels.css", "print.css"]
-IMPORT = re.compile(r"^import \{[^}]*\} from '\./([a-z0-9]+)\.js';\n", re.MULTILINE)
-COMMENT = re.compile(r"^[ \t]*/\*\*(?:(?!\*/).)*\*/\n", re.MULTILINE | re.DOTALL)
-
-
-def modules_in_order(folder, name, done):
-    """The modules that a module needs, each after those that it needs itself."""
-    if name in done:
-        return
-    source = (folder / f"{name}.js").read_text(encoding="utf-8")
-    for needed in IMPORT.findall(source):
-        modules_in_order(folder, needed, done)
-    done[name] = source
-
-
-def join_script(folder):
-    modules = {}
-    modules_in_order(folder, "main", modules)
-    parts = []
-    for source in modules.values():
-        source = COMMENT.sub("", IMPORT.sub("", source))
-        if re.search(r"^import\b", source, re.MULTILINE):
-            sys.exit("player: an import that the build does not understand")
-        parts.append(re.sub(r"^export ", "", source, flags=re.MULTILINE).strip())
-    return "(() => {\n'use strict';\n" + "\n".join(parts) + "\n})();"
 
 
 def check(page, script):
@@ -67,7 +45,7 @@ def main():
     template = json.loads((folder / "template.json").read_text(encoding="utf-8"))
     sheets = [player / "style" / sheet for sheet in STYLES] + [folder / "look.css"]
     style = "\n".join(sheet.read_text(encoding="utf-8").strip() for sheet in sheets)
-    script = join_script(player / "src")
+    script = join_script(player / "src/main.js")
     page = (player / "shell.html").read_text(encoding="utf-8")
     early = (player / "early.js").read_text(encoding="utf-8").strip()
     page = page.replace("/*early*/", early).replace("/*style*/", style).replace("/*script*/", script)

@@ -9,8 +9,11 @@ window.folveroConfiguration = (() => {
     script.onerror = () => reject(new Error('not found'));
     document.head.append(script);
   });
-  const asked = location.protocol === 'file:' ? runScript() : fetch('files/UserConfig.bin');
+  // A book that is one file has its configuration in its page.
+  const here = window.FolveroUserConfig !== undefined;
+  const asked = here ? Promise.resolve()
+    : location.protocol === 'file:' ? runScript() : fetch('files/UserConfig.bin');
   // Whoever waits for it deals with a failure; until then it is nobody's.
   asked.catch(() => {});
-  return { asked, runScript };
+  return { asked, runScript, here };
 })();

@@ -33,6 +33,8 @@ export class Book {
     this.shown = { left: 0, right: 0 };
     this.drawn = new FaceCache();
     this.shift = 0;
+    /** Room at the left edge of the window that a panel takes, in CSS pixels. */
+    this.beside = 0;
     /** @type {import('./zoom.js').ZoomState} */
     this.zoom = { level: 1, x: 0, y: 0 };
     /** @type {(page: number) => void} */
@@ -52,8 +54,9 @@ export class Book {
     const height = this.root.clientHeight;
     const { rightToLeft, hideBar, pages } = this.config;
     const margins = fittingMargins(this.config.margins, width, height);
+    const free = { ...margins, left: Math.max(margins.left, this.beside) };
     this.layout = layOut({
-      width, height, margins, aspect: this.aspect, pageCount: pages.length, rightToLeft,
+      width, height, margins: free, aspect: this.aspect, pageCount: pages.length, rightToLeft,
       hasBar: !hideBar, maySpread: this.root.dataset.pages !== 'single',
     });
     this.views = new Views(pages.length, this.layout.spread, rightToLeft);
@@ -183,6 +186,15 @@ export class Book {
     return this.drawn.get(left, 'both', (canvas) => drawSideBySide(canvas, leftFace, rightFace));
   }
 
+  /**
+   * Where a picture of that size lies in a page, in CSS pixels.
+   * @param {number} width
+   * @param {number} height
+   */
+  placeOf(width, height) {
+    return fitted(width, height, this.layout.pageWidth, this.layout.pageHeight);
+  }
+
   /** @param {number} page */
   #imageChanged(page) {
     this.drawn.drop(page);
@@ -212,8 +224,7 @@ export class Book {
       if (state === 'missing') slot.textContent = missingText(page);
       return;
     }
-    const { pageWidth, pageHeight } = this.layout;
-    const place = fitted(image.naturalWidth, image.naturalHeight, pageWidth, pageHeight);
+    const place = this.placeOf(image.naturalWidth, image.naturalHeight);
     image.style.inset = place.y + 'px auto auto ' + place.x + 'px';
     image.style.width = place.width + 'px';
     image.style.height = place.height + 'px';

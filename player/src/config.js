@@ -1,3 +1,4 @@
+import { bytesOf } from './base64.js';
 import { rc4 } from './rc4.js';
 import { cssColour, isYes, numberIn, ownFile } from './values.js';
 
@@ -45,10 +46,11 @@ export class BookError extends Error {
  * @property {{file: string, loops: number}} sound loops below 0: for ever
  * @property {PageEntry[]} pages
  * @property {PageEntry[]} thumbs as many as pages
+ * @property {string[] | null} labels what pages are called, empty texts and none: by their numbers
  */
 
 /** What the top of the page has asked for already. */
-const { asked, runScript } = /** @type {any} */ (window).folveroConfiguration;
+const { asked, runScript, here } = /** @type {any} */ (window).folveroConfiguration;
 
 /** @returns {Promise<Uint8Array>} the enciphered configuration */
 async function fetchBinary() {
@@ -70,22 +72,11 @@ async function readScriptCopy(run) {
   }
 }
 
-/** @param {string} base64 */
-function bytesOf(base64) {
-  const decode = /** @type {any} */ (Uint8Array).fromBase64;
-  if (decode) return decode.call(Uint8Array, base64);
-  const letters = atob(base64);
-  // A book of thousands of pages has a million of them, so no function is called for each.
-  const bytes = new Uint8Array(letters.length);
-  for (let at = 0; at < letters.length; at++) bytes[at] = letters.charCodeAt(at);
-  return bytes;
-}
-
 /** @returns {Promise<BookConfig>} */
 export async function loadConfiguration() {
   const fromDisk = location.protocol === 'file:';
   let answered = true;
-  const sources = fromDisk ? [() => readScriptCopy(asked)]
+  const sources = fromDisk || here ? [() => readScriptCopy(asked)]
     : [fetchBinary, () => readScriptCopy(runScript())];
   for (const source of sources) {
     try {
@@ -150,6 +141,7 @@ export function parseConfiguration(xml) {
     },
     pages: entries.map(({ page }) => page),
     thumbs: entries.map(({ thumb }) => thumb),
+    labels: null,
   };
 }
 

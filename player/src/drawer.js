@@ -1,4 +1,5 @@
 import { make, part } from './dom.js';
+import { fullLabel, labelOf } from './labels.js';
 import { Thumbnails } from './thumbnails.js';
 import { say } from './words.js';
 
@@ -187,12 +188,13 @@ export class Drawer {
   #showItem(page) {
     let item = this.shown.get(page);
     if (!item) {
-      item = make('div', 'thumb', make('span', 'thumb-picture'), make('span', '', String(page)));
+      const { config } = this.book;
+      item = make('div', 'thumb', make('span', 'thumb-picture'), make('span', '', labelOf(config, page)));
       item.id = 'thumb-' + page;
       item.dataset.page = String(page);
       item.style.insetInlineStart = this.#placeOf(page) + 'px';
       item.setAttribute('role', 'option');
-      item.setAttribute('aria-label', say('page', page));
+      item.setAttribute('aria-label', say('page', fullLabel(config, page)));
       item.setAttribute('aria-setsize', String(this.book.views.pageCount));
       item.setAttribute('aria-posinset', String(page));
       this.shown.set(page, item);

@@ -16,12 +16,20 @@ export class Folding {
     this.root = root;
     this.bar = bar;
     this.more = part(bar, '[data-does="more"]');
+    /** Room at the left edge that a panel takes, in CSS pixels. */
+    this.beside = 0;
     /** @type {HTMLElement[]} */
-    this.order = [...bar.querySelectorAll('[data-fold]')].map((one) => /** @type {any} */ (one));
-    this.order.sort((a, b) => Number(a.dataset.fold) - Number(b.dataset.fold));
+    this.order = [];
+    this.collect();
     const observer = new ResizeObserver(() => this.fit());
     observer.observe(root);
     observer.observe(part(bar, '.pages'));
+  }
+
+  /** Notes what may be folded away. */
+  collect() {
+    this.order = [...this.bar.querySelectorAll('[data-fold]')].map((one) => /** @type {any} */ (one));
+    this.order.sort((a, b) => Number(a.dataset.fold) - Number(b.dataset.fold));
   }
 
   /** Buttons that are folded away, in the bar's order. */
@@ -32,7 +40,7 @@ export class Folding {
 
   fit() {
     const { bar, root } = this;
-    const room = root.clientWidth - BESIDE;
+    const room = root.clientWidth - this.beside - BESIDE;
     for (const one of this.order) one.classList.remove('folded');
     this.more.hidden = true;
     bar.dataset.folded = 'no';
@@ -48,8 +56,9 @@ export class Folding {
   #fitCaption() {
     const caption = part(this.root, '.caption');
     const hidden = this.root.dataset.bar === 'no';
-    const beside = (this.root.clientWidth - (hidden ? 0 : this.bar.offsetWidth)) / 2
-      - parseFloat(getComputedStyle(caption).left) - BESIDE;
+    const width = this.root.clientWidth - this.beside;
+    const beside = (width - (hidden ? 0 : this.bar.offsetWidth)) / 2
+      - (parseFloat(getComputedStyle(caption).left) - this.beside) - BESIDE;
     this.root.style.setProperty('--caption-room', beside + 'px');
     this.root.dataset.caption = beside < LEAST_CAPTION ? 'no' : 'yes';
   }

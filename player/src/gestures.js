@@ -35,6 +35,10 @@ export class Gestures {
     this.press = null;
     /** @type {{x: number, y: number, time: number} | null} last tap that a second may follow */
     this.lastTap = null;
+    /** Whether something on the pages has dealt with a tap. @param {PointerEvent} _ */
+    this.answersTap = (_) => false;
+    /** Whether the pointer is over something on the pages. @param {PointerEvent} _ */
+    this.isOver = (_) => false;
     stage.addEventListener('pointerdown', (event) => this.#down(event));
     stage.addEventListener('pointermove', (event) => this.#move(event));
     stage.addEventListener('pointerup', (event) => this.#up(event));
@@ -167,6 +171,7 @@ export class Gestures {
 
   /** @param {PointerEvent} event */
   #tap(event) {
+    if (this.answersTap(event)) return;
     const { clientX: x, clientY: y, timeStamp: time } = event;
     const side = this.zoom.active ? null : this.#sideAt(x);
     if (side) {
@@ -202,6 +207,10 @@ export class Gestures {
   #hover(event) {
     const { layout, config } = this.book;
     const { turner } = this;
+    if (this.isOver(event)) {
+      turner.endPeek();
+      return;
+    }
     this.stage.style.cursor = !this.zoom.active && this.#sideAt(event.clientX) ? 'pointer' : '';
     if (turner.leaf && turner.leaf.motion?.end !== 'peek') return;
     const shift = this.book.shiftFor(turner.current);

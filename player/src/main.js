@@ -6,6 +6,7 @@ import { Drawer } from './drawer.js';
 import { Gestures } from './gestures.js';
 import { Helping } from './helping.js';
 import { wireKeys } from './keys.js';
+import { fullLabel, labelOf } from './labels.js';
 import { Memory } from './memory.js';
 import { Menu } from './menu.js';
 import { tellReader } from './message.js';
@@ -18,9 +19,16 @@ import { Sounds } from './sound.js';
 import { Toast } from './toast.js';
 import { Toolbar } from './toolbar.js';
 import { Turner } from './turner.js';
-import { say, sayEverywhere } from './words.js';
+import { learn, say, sayEverywhere } from './words.js';
 import { Zoom } from './zoom.js';
 import { ZoomGestures } from './zoomgestures.js';
+
+/**
+ * What other scripts add to the book. Each is called with the configuration before any picture is
+ * loaded, and may give what is to be called once the controls are there.
+ * @type {((early: object) => Promise<((parts: object) => void) | undefined>)[]}
+ */
+const extensions = /** @type {any} */ (window).folveroExtensions ?? [];
 
 /** Page that the address asks for, 0 when it asks for none. */
 function pageInAddress() {
@@ -40,11 +48,11 @@ function putPageInAddress(page) {
 /**
  * What is announced to readers who do not see the pages.
  * @param {number[]} pages
- * @param {number} pageCount
+ * @param {import('./config.js').BookConfig} config
  */
-function announcement(pages, pageCount) {
-  return pages.length > 1 ? say('pagesOf', pages[0], pages[1], pageCount)
-    : say('pageOf', pages[0], pageCount);
+function announcement(pages, config) {
+  const labels = pages.map((page) => fullLabel(config, page));
+  return say(pages.length > 1 ? 'pagesOf' : 'pageOf', ...labels, config.pages.length);
 }
 
 /**
@@ -53,12 +61,13 @@ function announcement(pages, pageCount) {
  * @param {Turner} turner
  * @param {Drawer} drawer
  * @param {() => number} page
+ * @returns {() => void} lays everything out anew where the room for the book has changed
  */
 function followWindow(root, turner, drawer, page) {
   const { book } = turner;
   let size = '';
   const fit = () => {
-    const now = root.clientWidth + ' ' + root.clientHeight;
+    const now = [root.clientWidth, root.clientHeight, book.beside].join(' ');
     // Observers report once without a change, which must not undo a turn that is under way.
     if (now === size) return;
     size = now;
@@ -70,6 +79,7 @@ function followWindow(root, turner, drawer, page) {
   };
   new ResizeObserver(fit).observe(root);
   fit();
+  return fit;
 }
 
 /**
@@ -84,7 +94,7 @@ function addControls(root, turner, sounds) {
   const pagesInView = () => book.views.pagesOf(turner.current);
   const slideshow = new Slideshow(turner, config.slideInterval, config.loopPlay);
   const drawer = new Drawer(root, book, (page) => turner.go(book.views.viewOf(page)));
-  const sharing = new Sharing(root, () => pagesInView()[0]);
+  const sharing = new Sharing(root, () => pagesInView()[0], (page) => labelOf(config, page));
   const sheets = new Sheets(config.pages, pagesInView);
   const printing = new Printing(root, sheets, config.pages.length, pagesInView);
   const helping = new Helping(root);
@@ -122,12 +132,13 @@ function addControls(root, turner, sounds) {
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
-  return { toolbar, slideshow, drawer, sheets, zoom };
+  return { toolbar, commands, slideshow, drawer, sheets, zoom, gestures };
 }
 
 /** @param {HTMLElement} root */
 async function openBook(root) {
   const config = await loadConfiguration();
+  const additions = await Promise.all(extensions.map((extend) => extend({ root, config, say, learn })));
   dress(root, config);
   const book = new Book(config, root);
   await book.measure();
@@ -146,24 +157,25 @@ async function openBook(root) {
       page = pages[0];
       putPageInAddress(page);
       memory.page = page;
-      part(root, '.live').textContent = announcement(pages, config.pages.length);
+      part(root, '.live').textContent = announcement(pages, config);
     }
     toolbar.update();
     drawer.mark(pages);
     slideshow.wait();
   };
-  followWindow(root, turner, drawer, () => page);
+  const relayout = followWindow(root, turner, drawer, () => page);
+  for (const add of additions) add?.({ book, turner, relayout, ...controls });
   window.addEventListener('hashchange', () => {
     if (pageInAddress() > 0) turner.go(book.views.viewOf(pageInAddress()));
   });
   const inView = book.views.pagesOf(turner.current);
   await Promise.all(inView.map((shown) => book.images.get(shown).settled));
   root.dataset.state = 'ready';
-  part(root, '.live').textContent = announcement(inView, config.pages.length);
+  part(root, '.live').textContent = announcement(inView, config);
   bringIn(book.element, config.initialShow);
   if (config.autoPlay) slideshow.run(true);
   if (left > 1) {
-    new Toast(root).show(say('wasOn', left), say('startOver'), () => turner.go(0));
+    new Toast(root).show(say('wasOn', labelOf(config, left)), say('startOver'), () => turner.go(0));
   }
   expose(book, turner, controls);
 }

@@ -7,8 +7,10 @@ export class Sharing {
   /**
    * @param {HTMLElement} root
    * @param {() => number} currentPage
+   * @param {(page: number) => string} labelOf
    */
-  constructor(root, currentPage) {
+  constructor(root, currentPage, labelOf) {
+    this.labelOf = labelOf;
     this.panel = new Panel(part(root, '.share-panel'));
     this.currentPage = currentPage;
     this.link = this.#input('.link');
@@ -28,7 +30,7 @@ export class Sharing {
   open() {
     const page = this.currentPage();
     this.atPage.checked = page > 1;
-    this.#part('.at-page-text').textContent = say('shareAtPage', page);
+    this.#part('.at-page-text').textContent = say('shareAtPage', this.labelOf(page));
     this.#write();
     this.panel.open();
   }

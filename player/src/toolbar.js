@@ -1,5 +1,6 @@
 import { part } from './dom.js';
 import { Folding } from './folding.js';
+import { labelOf, pageNamed } from './labels.js';
 import { Tips } from './tips.js';
 import { say } from './words.js';
 
@@ -115,11 +116,26 @@ export class Toolbar {
       button.setAttribute('aria-label', say(onward ? 'next' : 'previous'));
       button.addEventListener('click', () => turner.step(onward ? 1 : -1));
     }
-    for (const button of this.bar.querySelectorAll('[data-does]')) {
-      const { does = '', key } = /** @type {HTMLElement} */ (button).dataset;
-      if (key) button.setAttribute('aria-keyshortcuts', key);
-      button.addEventListener('click', () => this.commands[does]());
-    }
+    for (const button of this.bar.querySelectorAll('[data-does]')) this.#wireButton(button);
+  }
+
+  /** @param {Element} button */
+  #wireButton(button) {
+    const { does = '', key } = /** @type {HTMLElement} */ (button).dataset;
+    if (key) button.setAttribute('aria-keyshortcuts', key);
+    button.addEventListener('click', () => this.commands[does]());
+  }
+
+  /**
+   * Puts one more button before another.
+   * @param {HTMLElement} button
+   * @param {string} next name of the other
+   */
+  add(button, next) {
+    part(this.bar, '[data-does="' + next + '"]').before(button);
+    this.#wireButton(button);
+    this.folding.collect();
+    this.folding.fit();
   }
 
   /** The bar comes with a pointer, a finger or a key. */
@@ -142,8 +158,8 @@ export class Toolbar {
     this.box.addEventListener('keydown', (event) => {
       if (event.key === 'Escape') this.box.blur();
       if (event.key !== 'Enter') return;
-      const page = pageIn(this.box.value);
-      if (page < 1 || page > this.turner.book.views.pageCount) {
+      const page = pageNamed(this.turner.book.config, this.box.value);
+      if (page < 1) {
         this.#writePages();
         this.box.select();
         return;
@@ -154,13 +170,19 @@ export class Toolbar {
   }
 
   #writePages() {
-    this.box.value = this.turner.book.views.pagesOf(this.turner.current).join('\u2013');
+    const { views, config } = this.turner.book;
+    const pages = views.pagesOf(this.turner.current);
+    this.box.value = pages.map((page) => labelOf(config, page)).join('\u2013');
+    // Beside a name of its own a page's place in the book is told too.
+    if (config.labels) part(this.bar, '.of > span').textContent = '(' + pages.join('\u2013') + ' /';
   }
 
   /** @param {number} pageCount */
   #writeCount(pageCount) {
-    this.count.textContent = String(pageCount);
-    this.box.style.width = Math.max(4, 2.4 + String(pageCount).length * 1.22) + 'em';
+    const { labels } = this.turner.book.config;
+    this.count.textContent = pageCount + (labels ? ')' : '');
+    const longest = Math.min(7, Math.max(...[String(pageCount), ...labels ?? []].map((label) => label.length)));
+    this.box.style.width = Math.max(4, 2.4 + longest * 1.22) + 'em';
   }
 
   #wireFullScreen() {
@@ -168,13 +190,4 @@ export class Toolbar {
     document.addEventListener('fullscreenchange',
       () => this.press('full', document.fullscreenElement !== null));
   }
-}
-
-/**
- * Page that a reader's text names, "12" as well as "4-5"; 0 when it names none.
- * @param {string} text
- */
-function pageIn(text) {
-  const match = /^\s*(\d+)\s*(?:[-\u2013\u2014/,]\s*\d+\s*)?$/.exec(text);
-  return match ? Number(match[1]) : 0;
 }

@@ -45,6 +45,8 @@ export class Turner {
     this.atOnce = () => false;
     this.onStood = () => {};
     this.onJumped = () => {};
+    /** Told when a leaf is taken off the pages and when they stand again. @param {boolean} _ */
+    this.onAir = (_) => {};
     book.onImage = (page) => this.#imageArrived(page);
   }
 
@@ -124,6 +126,7 @@ export class Turner {
     if (this.leaf && this.leaf.to !== view) this.#dropLeaf();
     if (!this.leaf) this.#lift(view, edgeShare);
     if (this.leaf) /** @type {Leaf} */ (this.leaf).motion = null;
+    this.onAir(true);
     return true;
   }
 
@@ -195,6 +198,7 @@ export class Turner {
     const { views } = this.book;
     this.book.show(views.at(this.current), this.current / Math.max(1, views.count - 1));
     this.book.moveTo(this.book.shiftFor(this.current));
+    this.onAir(false);
     this.#prepareSoon();
   }
 
@@ -240,7 +244,9 @@ export class Turner {
       end, to, time: Math.max(Math.min(fullTime, QUICK_MS), fullTime * way ** 0.6),
       lift: inward * pageWidth * 0.2 * way, slideTo: end === 'over' ? 1 : 0,
     });
-    if (end === 'over') this.onTurn();
+    if (end !== 'over') return;
+    this.onAir(true);
+    this.onTurn();
   }
 
   /**

@@ -55,5 +55,7 @@ export function ownFile(text) {
  * @param {string} path relative to the book's files folder; an empty one has no address
  */
 export function fileAddress(path) {
-  return path && 'files/' + path.split('/').map(encodeURIComponent).join('/');
+  // A book that is one file has its pictures and sounds in its page.
+  return path && (/** @type {any} */ (window).folveroFile?.(path)
+    ?? 'files/' + path.split('/').map(encodeURIComponent).join('/'));
 }

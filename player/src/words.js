@@ -38,6 +38,14 @@ const ENGLISH = {
 /** @type {Record<string, Partial<Record<Word, string>>>} */
 const LANGUAGES = { en: ENGLISH, ...TRANSLATIONS };
 
+/**
+ * Adds what further parts of the player say.
+ * @param {Record<string, Record<string, string>>} words by language
+ */
+export function learn(words) {
+  for (const [tag, own] of Object.entries(words)) LANGUAGES[tag] = { ...LANGUAGES[tag], ...own };
+}
+
 /** The first language that the reader prefers and the player knows. */
 const language = (navigator.languages ?? [])
   .map((tag) => tag.toLowerCase().split('-')[0])
@@ -49,7 +57,7 @@ const language = (navigator.languages ?? [])
  * @returns {string}
  */
 export function say(word, ...values) {
-  const text = LANGUAGES[language][word] ?? ENGLISH[word];
+  const text = LANGUAGES[language][word] ?? LANGUAGES.en[word] ?? '';
   return text.replace(/\{(\d)\}/g, (_, place) => String(values[place]));
 }
 

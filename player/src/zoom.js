@@ -109,7 +109,8 @@ export class Zoom {
 
   /** @returns {Point} */
   #windowMiddle() {
-    return { x: this.book.root.clientWidth / 2, y: this.book.root.clientHeight / 2 };
+    const { root, beside } = this.book;
+    return { x: (beside + root.clientWidth) / 2, y: root.clientHeight / 2 };
   }
 
   /**
@@ -135,9 +136,9 @@ export class Zoom {
   #limited({ level, x, y }) {
     if (level === 1) return { level, x: 0, y: 0 };
     const { left, top, right, bottom } = this.#pagesBox();
-    const { clientWidth, clientHeight } = this.book.root;
+    const { root: { clientWidth, clientHeight }, beside } = this.book;
     return {
-      level, x: heldInside(x, level, left, right, clientWidth),
+      level, x: heldInside(x, level, left, right, clientWidth, beside),
       y: heldInside(y, level, top, bottom, clientHeight),
     };
   }
@@ -262,15 +263,16 @@ export class Zoom {
  * @param {number} level
  * @param {number} from where the pages begin on this axis
  * @param {number} to
- * @param {number} extent of the window
+ * @param {number} end of the window
+ * @param {number} start of the window
  */
-function heldInside(offset, level, from, to, extent) {
+function heldInside(offset, level, from, to, end, start = 0) {
   const size = level * (to - from);
-  const room = extent - 2 * ZOOM_AIR;
-  if (size > room) {
-    return Math.min(ZOOM_AIR, Math.max(extent - ZOOM_AIR - size, offset + level * from)) - level * from;
+  const [least, most] = [start + ZOOM_AIR, end - ZOOM_AIR];
+  if (size > most - least) {
+    return Math.min(least, Math.max(most - size, offset + level * from)) - level * from;
   }
-  const centre = Math.min(extent - ZOOM_AIR - size / 2, Math.max(ZOOM_AIR + size / 2, (from + to) / 2));
+  const centre = Math.min(most - size / 2, Math.max(least + size / 2, (from + to) / 2));
   return centre - (level * (from + to)) / 2;
 }
 

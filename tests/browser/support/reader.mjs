@@ -6,11 +6,15 @@ import { inflateSync } from 'node:zlib';
 import { writeBook } from './book.mjs';
 import { launchChromium } from './chromium.mjs';
 import { serve } from './server.mjs';
+import { makeWebBook } from './webbook.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 
 export const TEMPLATE = process.env.FOLVERO_TEMPLATE_DIR
   ?? path.join(here, '../../../build/release/share/folvero/AppFiles/Templates/float');
+
+/** The part of the player that web books have beside their page. */
+export const WEB = path.join(TEMPLATE, '../../Web');
 
 export const DESK = { viewport: { width: 1280, height: 800 } };
 export const PHONE = { viewport: { width: 390, height: 844 }, hasTouch: true, isMobile: true };
@@ -42,6 +46,11 @@ export class Reader {
   async book(options) {
     this.books += 1;
     return writeBook(path.join(this.folder, String(this.books)), { template: TEMPLATE, ...options });
+  }
+
+  /** Writes a web book and gives its folder; options as for writeBook and makeWebBook. */
+  async webBook({ description, ...options }) {
+    return makeWebBook(await this.book(options), { web: WEB, ...description });
   }
 
   /** Opens a book folder from disk. */

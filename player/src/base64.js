@@ -1,0 +1,13 @@
+/**
+ * @param {string} base64
+ * @returns {Uint8Array}
+ */
+export function bytesOf(base64) {
+  const decode = /** @type {any} */ (Uint8Array).fromBase64;
+  if (decode) return decode.call(Uint8Array, base64);
+  const letters = atob(base64);
+  // A book of thousands of pages has a million of them, so no function is called for each.
+  const bytes = new Uint8Array(letters.length);
+  for (let at = 0; at < letters.length; at++) bytes[at] = letters.charCodeAt(at);
+  return bytes;
+}

@@ -1,0 +1,34 @@
+#!/usr/bin/env python3
+"""Builds the part of the player that web books have beside the page's own: web.js and web.css.
+
+Usage: web.py PLAYER_DIR OUTPUT_DIR
+
+Both may be put into a page, which passes through a text template: they hold neither its
+placeholders nor anything that ends the element around them.
+"""
+
+import pathlib
+import sys
+
+from bundle import join_script
+
+STYLES = ["layers.css", "side.css", "contents.css", "search.css", "looks.css"]
+
+
+def check(name, text):
+    for forbidden in ["$" + "{", "</script", "</style", "<!--"]:
+        if forbidden in text.lower():
+            sys.exit(f"player: {name} may not hold {forbidden}")
+
+
+def main():
+    player, output = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    style = "\n".join((player / "web" / sheet).read_text(encoding="utf-8").strip() for sheet in STYLES)
+    parts = {"web.js": join_script(player / "web/main.js"), "web.css": style}
+    output.mkdir(parents=True, exist_ok=True)
+    for name, text in parts.items():
+        check(name, text)
+        (output / name).write_text(text + "\n", encoding="utf-8")
+
+
+main()

@@ -1,0 +1,60 @@
+/** @typedef {import('./singlefile.js').SingleFile} SingleFile */
+
+/**
+ * The book's data files. Browsers let no page from disk read its neighbours but run its sibling
+ * scripts, so each file is a script that hands its data over.
+ */
+export class DataFiles {
+  /** @param {SingleFile | null} single the files, where they stand in the page itself */
+  constructor(single) {
+    this.single = single;
+    /** @type {Map<string, {promise: Promise<any>, arrived: (data: any) => void}>} */
+    this.waiting = new Map();
+    /** @type {any} */ (window).folveroData = (/** @type {string} */ name, /** @type {any} */ data) =>
+      this.waiting.get(name)?.arrived(data);
+    window.addEventListener('error', (event) => this.#keepFault(event), { capture: true });
+  }
+
+  /**
+   * Data of a file that may be missing or broken; asked again it is loaded again.
+   * @param {string} name path below the book's files, without its ending
+   * @returns {Promise<any>}
+   */
+  load(name) {
+    const waiting = this.waiting.get(name);
+    if (waiting) return waiting.promise;
+    const promise = (this.single ? this.single.data(name) : this.#run(name))
+      .finally(() => this.waiting.delete(name));
+    const entry = this.waiting.get(name);
+    if (entry) entry.promise = promise;
+    return promise;
+  }
+
+  /**
+   * @param {string} name
+   * @returns {Promise<any>}
+   */
+  #run(name) {
+    const script = document.createElement('script');
+    const promise = new Promise((resolve, reject) => {
+      this.waiting.set(name, { promise: Promise.resolve(), arrived: resolve });
+      script.onload = () => reject(new Error(name + ' is broken'));
+      script.onerror = () => reject(new Error(name + ' is missing'));
+    });
+    script.src = 'files/' + name + '.js';
+    document.head.append(script);
+    return promise.finally(() => script.remove());
+  }
+
+  /**
+   * A data file with a fault is a matter of its own and no failure of the player, for which the page
+   * would take it. From disk browsers do not tell which script it was.
+   * @param {Event} event
+   */
+  #keepFault(event) {
+    // A file that is missing is told to its own element only.
+    if (!(event instanceof ErrorEvent)) return;
+    const ofData = /\/files\/(?:web|text|search)\/[^/]*\.js$/.test(event.filename ?? '');
+    if (ofData || (!event.filename && this.waiting.size > 0)) event.stopImmediatePropagation();
+  }
+}

@@ -1,0 +1,90 @@
+/** @typedef {import('../src/config.js').BookConfig} BookConfig */
+/**
+ * @typedef {object} Entry of the contents
+ * @property {string} title
+ * @property {number} position page to which it leads, 0 for none
+ * @property {Entry[]} children
+ */
+
+const LARGE_KINDS = ['svg', 'webp'];
+
+/** Contents deeper than this are no contents that anyone could read. */
+const DEEPEST = 24;
+
+/** What is known of a web book beside its configuration. Whatever its file holds, this is well formed. */
+export class Facts {
+  /**
+   * @param {any} raw as the file has it
+   * @param {number} pageCount
+   */
+  constructor(raw, pageCount) {
+    this.pageCount = pageCount;
+    const numbers = listOf(raw?.numbers);
+    /** @type {number[]} picture numbers by position, empty where both are the same */
+    this.numbers = numbers.map(Number);
+    const labels = listOf(raw?.labels).map(textOf).slice(0, pageCount);
+    const own = labels.some((label, index) => label && label !== String(index + 1));
+    /** @type {string[] | null} none where all pages are called by their positions */
+    this.labels = own ? labels : null;
+    this.outline = entriesOf(raw?.outline, pageCount, 0);
+    this.large = listOf(raw?.large).map((kind) => (LARGE_KINDS.includes(kind) ? kind : ''));
+    this.hasText = raw?.text === true;
+    this.open = Array.isArray(raw?.open) ? raw.open.filter(Array.isArray) : null;
+    this.language = /^[a-z]{2,3}(?:-[a-z0-9]{1,8})*$/i.test(textOf(raw?.language)) ? raw.language : '';
+    this.textPage = /^[\w-][\w.-]*\.html$/.test(textOf(raw?.textPage)) ? raw.textPage : '';
+  }
+
+  /**
+   * Whether a page can be read; all others only tell that they cannot.
+   * @param {number} position
+   */
+  isOpen(position) {
+    return !this.open || this.open.some(([from, to]) => position >= from && position <= to);
+  }
+
+  /**
+   * Number in the names of a page's files.
+   * @param {number} position
+   */
+  numberOf(position) {
+    const number = this.numbers[position - 1];
+    return Number.isSafeInteger(number) && number > 0 ? number : position;
+  }
+
+  /**
+   * Path of the picture for enlarged pages, empty when there is none.
+   * @param {number} position
+   */
+  largeFile(position) {
+    const kind = this.large[position - 1];
+    return kind && this.isOpen(position) ? 'large/' + this.numberOf(position) + '.' + kind : '';
+  }
+}
+
+/**
+ * @param {any} value
+ * @returns {any[]}
+ */
+export function listOf(value) {
+  return Array.isArray(value) ? value : [];
+}
+
+/** @param {any} value */
+export function textOf(value) {
+  return typeof value === 'string' ? value : '';
+}
+
+/**
+ * @param {any} raw
+ * @param {number} pageCount
+ * @param {number} depth
+ * @returns {Entry[]}
+ */
+function entriesOf(raw, pageCount, depth) {
+  if (depth > DEEPEST) return [];
+  return listOf(raw).filter((entry) => Array.isArray(entry)).map(([title, position, children]) => ({
+    title: textOf(title).trim() || '\u2026',
+    position: Number.isInteger(position) && position >= 1 && position <= pageCount ? position : 0,
+    children: entriesOf(children, pageCount, depth + 1),
+  }));
+}

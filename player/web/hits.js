@@ -1,0 +1,75 @@
+import { make } from '../src/dom.js';
+import { fold, sourceOf } from './foldtext.js';
+import { Layers } from './layers.js';
+
+/** @typedef {import('./layers.js').Face} Face */
+/** @typedef {import('./searchtext.js').Hit} Hit */
+
+/** Height at the window's lower edge that the bar may cover, in CSS pixels. */
+const BAR_COVERS = 72;
+
+/** Marks what was found on the pages in view. */
+export class Hits {
+  /**
+   * @param {any} parts of the player
+   * @param {Layers} layers
+   */
+  constructor({ zoom, root, book }, layers) {
+    this.zoom = zoom;
+    this.root = root;
+    this.book = book;
+    this.layers = layers;
+    /** @type {import('./query.js').Query | null} */
+    this.query = null;
+    /** @type {Hit | null} */
+    this.current = null;
+    layers.fillers.push((face) => this.#mark(face));
+  }
+
+  /**
+   * @param {import('./query.js').Query | null} query
+   * @param {Hit | null} current
+   */
+  show(query, current) {
+    this.query = query;
+    this.current = current;
+    for (const face of this.layers.faces) this.#mark(face);
+  }
+
+  /** @param {Face} face */
+  #mark(face) {
+    const { box, text, position } = face;
+    box.querySelector('.hit-layer')?.remove();
+    if (!text || !this.query || this.query.empty) return;
+    const source = text.string;
+    const folded = fold(source, true);
+    const layer = make('div', 'hit-layer');
+    layer.setAttribute('aria-hidden', 'true');
+    this.query.hitsIn(folded.text).forEach(({ at, length }, ordinal) => {
+      const isCurrent = this.current?.position === position && this.current.ordinal === ordinal;
+      for (const { box: place, turn } of text.boxesOf(...sourceOf(source, folded, at, length))) {
+        const mark = make('i', isCurrent ? 'hit current' : 'hit');
+        if (turn === 90 || turn === 270) mark.classList.add('upright');
+        Layers.put(mark, text, place);
+        layer.append(mark);
+      }
+    });
+    // Below the words, which are what the pointer is to reach.
+    box.prepend(layer);
+    if (this.current?.position === position) this.#bringIntoView(layer.querySelector('.current'));
+  }
+
+  /**
+   * Moves enlarged pages so that the hit can be seen.
+   * @param {Element | null} mark
+   */
+  #bringIntoView(mark) {
+    if (!mark || !this.zoom.active) return;
+    const { left, right, top, bottom } = mark.getBoundingClientRect();
+    const { clientWidth, clientHeight } = this.root;
+    const { beside } = this.book;
+    const seen = left >= beside && right <= clientWidth && top >= 0 && bottom <= clientHeight - BAR_COVERS;
+    if (seen) return;
+    this.zoom.panBy((beside + clientWidth) / 2 - (left + right) / 2, clientHeight / 2 - (top + bottom) / 2);
+  }
+}

@@ -1,0 +1,24 @@
+const NAMESPACE = 'http://www.w3.org/2000/svg';
+
+const PATHS = {
+  contents: 'M5 6.5h2.4M5 12h2.4M5 17.5h2.4M10.6 6.5H19M10.6 12H19M10.6 17.5h5.6',
+  search: 'M16.8 10.8a6 6 0 1 1-12 0 6 6 0 0 1 12 0zM15.2 15.2l4.4 4.4',
+  close: 'm7 7 10 10M17 7 7 17',
+  branch: 'm9.5 7 5 5-5 5',
+  up: 'm6.5 14.5 5.5-5.5 5.5 5.5',
+  down: 'm6.5 9.5 5.5 5.5 5.5-5.5',
+};
+
+/**
+ * A sign in the manner of the bar's.
+ * @param {keyof typeof PATHS} name
+ */
+export function icon(name) {
+  const svg = document.createElementNS(NAMESPACE, 'svg');
+  svg.setAttribute('viewBox', '0 0 24 24');
+  svg.setAttribute('aria-hidden', 'true');
+  const path = document.createElementNS(NAMESPACE, 'path');
+  path.setAttribute('d', PATHS[name]);
+  svg.append(path);
+  return svg;
+}

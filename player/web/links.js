@@ -1,0 +1,140 @@
+import { mayFollow } from '../src/addresses.js';
+import { make } from '../src/dom.js';
+import { fullLabel } from '../src/labels.js';
+import { Layers } from './layers.js';
+
+/** @typedef {import('./layers.js').Face} Face */
+/** @typedef {import('./pagetext.js').PageLink} PageLink */
+/** @typedef {import('./pagetext.js').PageText} PageText */
+
+/** How far beside a link a finger may come down, in CSS pixels. */
+const FINGER = 12;
+
+/** Longest name that a link takes from the words in it. */
+const LONGEST_NAME = 120;
+
+/** Longest address that is told beside the pointer. */
+const LONGEST_TIP = 64;
+
+/** The links of the standing pages. */
+export class Links {
+  /**
+   * @param {any} parts of the player
+   * @param {import('./layers.js').Layers} layers
+   */
+  constructor({ config, book, turner, toolbar, gestures, say, root }, layers) {
+    this.root = root;
+    this.config = config;
+    this.book = book;
+    this.turner = turner;
+    this.tips = toolbar.tips;
+    this.say = say;
+    layers.fillers.push((face) => this.#add(face));
+    gestures.isOver = (/** @type {PointerEvent} */ { target }) =>
+      target instanceof Element && target.closest('.page-link, .word') !== null;
+    root.addEventListener('dragstart', (/** @type {Event} */ event) => event.preventDefault());
+  }
+
+  /** @param {Face} face */
+  #add({ box, text }) {
+    if (!text || text.links.length === 0) return;
+    const layer = make('div', 'link-layer');
+    for (const link of text.links) {
+      const element = this.#element(link, nameIn(text, link));
+      Layers.put(element, text, link.box);
+      layer.append(element);
+    }
+    box.append(layer);
+  }
+
+  /**
+   * @param {PageLink} link
+   * @param {string} words
+   */
+  #element({ target }, words) {
+    const { pageCount } = this.book.views;
+    const element = /** @type {HTMLAnchorElement} */ (make('a', 'page-link'));
+    element.setAttribute('role', 'link');
+    if (typeof target === 'number' && target >= 1 && target <= pageCount) {
+      const page = this.say('page', fullLabel(this.config, target));
+      element.href = '#page=' + target;
+      element.setAttribute('aria-label', words ? words + ', ' + page : page);
+      element.dataset.tip = page;
+      element.addEventListener('click', (event) => {
+        event.preventDefault();
+        this.turner.go(this.book.views.viewOf(target));
+      });
+      return element;
+    }
+    if (typeof target === 'string' && mayFollow(target)) {
+      element.href = target;
+      element.target = '_blank';
+      element.rel = 'noopener noreferrer';
+      element.setAttribute('aria-label', words || target);
+      element.dataset.tip = shortened(target.replace(/^https?:\/\/|^(?:mailto|tel):/i, ''));
+      return element;
+    }
+    const away = this.say('linkAway');
+    element.setAttribute('aria-disabled', 'true');
+    element.setAttribute('aria-label', words ? words + ', ' + away : away);
+    element.dataset.tip = away;
+    element.tabIndex = 0;
+    return element;
+  }
+
+  /**
+   * Follows the link under a tap. The press itself belongs to the book, as it may become a drag.
+   * @param {PointerEvent} event
+   * @returns {boolean} whether there was one
+   */
+  followAt(event) {
+    const reach = event.pointerType === 'mouse' ? 0 : FINGER;
+    const link = this.#nearest(event.clientX, event.clientY, reach);
+    if (!link) return false;
+    if (link.hasAttribute('aria-disabled')) this.tips.follow(link);
+    const { ctrlKey, shiftKey, metaKey } = event;
+    link.dispatchEvent(new MouseEvent('click', { bubbles: true, cancelable: true, ctrlKey, shiftKey, metaKey, view: window }));
+    return true;
+  }
+
+  /**
+   * @param {number} x
+   * @param {number} y
+   * @param {number} reach CSS pixels
+   */
+  #nearest(x, y, reach) {
+    /** @type {{link: HTMLElement, away: number} | null} */
+    let nearest = null;
+    for (const link of this.book.element.querySelectorAll('.over:not([hidden]) .page-link')) {
+      const box = link.getBoundingClientRect();
+      const away = Math.hypot(Math.max(box.left - x, 0, x - box.right), Math.max(box.top - y, 0, y - box.bottom));
+      if (away <= reach && (!nearest || away < nearest.away)) nearest = { link, away };
+    }
+    return nearest?.link ?? null;
+  }
+}
+
+/** @param {string} address */
+function shortened(address) {
+  return address.length > LONGEST_TIP ? address.slice(0, LONGEST_TIP) + '\u2026' : address;
+}
+
+/**
+ * The words that a link is drawn around.
+ * @param {PageText} text
+ * @param {PageLink} link
+ */
+function nameIn(text, { box }) {
+  const words = [];
+  for (const line of text.lines) {
+    const { y, height, x, width } = line.box;
+    if (y > box.y + box.height || y + height < box.y || x > box.x + box.width || x + width < box.x) continue;
+    for (const { text: word, start, length } of line.words) {
+      const sideways = line.turn === 90 || line.turn === 270;
+      const [middleX, middleY] = sideways ? [x + width / 2, y + start + length / 2] : [x + start + length / 2, y + height / 2];
+      const inside = middleX > box.x && middleX < box.x + box.width && middleY > box.y && middleY < box.y + box.height;
+      if (inside) words.push(word.trim());
+    }
+  }
+  return words.join(' ').slice(0, LONGEST_NAME);
+}

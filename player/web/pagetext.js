@@ -1,0 +1,137 @@
+import { listOf, textOf } from './facts.js';
+
+/**
+ * @typedef {{x: number, y: number, width: number, height: number}} Box
+ * @typedef {{text: string, start: number, length: number}} Word
+ * @typedef {object} Line
+ * @property {Box} box
+ * @property {0 | 90 | 180 | 270} turn degrees clockwise in which its text runs
+ * @property {boolean} rtl
+ * @property {Word[]} words in reading order
+ *
+ * @typedef {{box: Box, target: string | number}} PageLink
+ */
+
+const STRONG_RTL = /[\u0590-\u08ff\ufb1d-\ufdff\ufe70-\ufefc]|[\ud802\ud803\ud83a][\udc00-\udfff]/;
+const STRONG_LTR = /[\p{L}\p{N}]/u;
+
+/** Words and links of one page, in tenths of a point from its upper left corner. */
+export class PageText {
+  /** @param {any} raw as the page's file has it */
+  constructor(raw) {
+    const [width, height] = listOf(raw?.size).map(Number);
+    this.width = width > 0 && Number.isFinite(width) ? width : 6000;
+    this.height = height > 0 && Number.isFinite(height) ? height : 8000;
+    this.lines = listOf(raw?.lines).filter((line) => Array.isArray(line)).map(lineOf)
+      .filter(({ words }) => words.length > 0);
+    this.links = listOf(raw?.links).filter((link) => Array.isArray(link)).map(linkOf);
+  }
+
+  /** All words of the page as the text for searching has them. */
+  get string() {
+    return this.lines.map(({ words }) => words.map(({ text }) => text).join('')).join('\n');
+  }
+
+  /**
+   * Places of a part of the page's string, one for each line that it touches.
+   * @param {number} from
+   * @param {number} to
+   * @returns {{box: Box, turn: number}[]}
+   */
+  boxesOf(from, to) {
+    const boxes = [];
+    let at = 0;
+    for (const line of this.lines) {
+      /** @type {Box | null} */
+      let box = null;
+      for (const word of line.words) {
+        const { length } = word.text.trimEnd();
+        const [first, last] = [Math.max(0, from - at), Math.min(length, to - at)];
+        if (first < last) box = around(box, boxIn(line, word, first / length, last / length));
+        at += word.text.length;
+      }
+      if (box) boxes.push({ box, turn: line.turn });
+      at += 1;
+      if (at >= to) break;
+    }
+    return boxes;
+  }
+}
+
+/** @param {any[]} raw */
+function boxOf(raw) {
+  const [x, y, width, height] = raw.slice(0, 4).map((value) => (Number.isFinite(value) ? value : 0));
+  return { x, y, width: Math.max(1, width), height: Math.max(1, height) };
+}
+
+/**
+ * @param {any[]} raw
+ * @returns {Line}
+ */
+function lineOf(raw) {
+  const words = [];
+  const list = listOf(raw[6]);
+  for (let at = 0; at + 2 < list.length; at += 3) {
+    const [start, length] = [Number(list[at + 1]) || 0, Number(list[at + 2]) || 0];
+    if (textOf(list[at])) words.push({ text: list[at], start, length: Math.max(1, length) });
+  }
+  const turn = /** @type {0 | 90 | 180 | 270} */ ([90, 180, 270].find((one) => one === raw[4]) ?? 0);
+  return { box: boxOf(raw), turn, rtl: raw[5] === 1, words };
+}
+
+/**
+ * @param {any[]} raw
+ * @returns {PageLink}
+ */
+function linkOf(raw) {
+  const target = raw[4];
+  return { box: boxOf(raw), target: Number.isInteger(target) && target > 0 ? target : textOf(target) || 0 };
+}
+
+/**
+ * Whether a line's text runs along the page's y axis.
+ * @param {Line} line
+ */
+export function isUpright({ turn }) {
+  return turn === 90 || turn === 270;
+}
+
+/**
+ * Whether a word's first letter is at the far end of it, counted as start and length are.
+ * @param {Line} line
+ * @param {Word} word
+ */
+export function runsBack({ turn, rtl }, { text }) {
+  const fromRight = STRONG_RTL.test(text) || (rtl && !STRONG_LTR.test(text));
+  return (turn >= 180) !== fromRight;
+}
+
+/**
+ * Place of a part of a word.
+ * @param {Line} line
+ * @param {Word} word
+ * @param {number} from share of its letters, 0 to 1
+ * @param {number} to
+ * @returns {Box}
+ */
+export function boxIn(line, word, from, to) {
+  const [first, last] = runsBack(line, word) ? [1 - to, 1 - from] : [from, to];
+  const start = word.start + word.length * first;
+  const length = word.length * (last - first);
+  const { x, y, width, height } = line.box;
+  return isUpright(line) ? { x, y: y + start, width, height: length } : { x: x + start, y, width: length, height };
+}
+
+/**
+ * @param {Box | null} one
+ * @param {Box} other
+ * @returns {Box}
+ */
+function around(one, other) {
+  if (!one) return other;
+  const [x, y] = [Math.min(one.x, other.x), Math.min(one.y, other.y)];
+  return {
+    x, y, width: Math.max(one.x + one.width, other.x + other.width) - x,
+    height: Math.max(one.y + one.height, other.y + other.height) - y,
+  };
+}

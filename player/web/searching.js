@@ -1,0 +1,227 @@
+import { make } from '../src/dom.js';
+import { fullLabel } from '../src/labels.js';
+import { Hits } from './hits.js';
+import { icon } from './icons.js';
+import { Results } from './results.js';
+import { SearchText } from './searchtext.js';
+import { SidePanel } from './side.js';
+
+/** @typedef {import('./searchtext.js').Answer} Answer */
+
+/** The panel for searching in the book, and the strip that stays of it where it would hide the book. */
+export class Searching {
+  /**
+   * @param {any} parts of the player
+   * @param {import('./layers.js').Layers} layers
+   * @param {import('./data.js').DataFiles} files
+   * @param {import('./side.js').SideRoom} room
+   * @param {HTMLElement} button
+   */
+  constructor(parts, layers, files, room, button) {
+    const { config, book, turner, say, root } = parts;
+    this.say = say;
+    this.room = room;
+    this.turner = turner;
+    this.book = book;
+    this.layers = layers;
+    this.files = files;
+    this.hits = new Hits(parts, layers);
+    this.panel = new SidePanel(room, 'search', button);
+    /** @type {SearchText | null} */
+    this.text = null;
+    /** @type {Promise<void> | null} */
+    this.loading = null;
+    /** @type {Answer | null} */
+    this.answer = null;
+    /** Hit that is shown, -1 for none yet. */
+    this.index = -1;
+    /** Whether the strip stays when the panel goes. */
+    this.stays = false;
+    this.#build(root);
+    this.results = new Results(make('div', 'results'), (position) => say('page', fullLabel(config, position)),
+      layers.facts.language, (index) => this.#choose(index));
+    this.results.element.setAttribute('aria-labelledby', 'search-title');
+    this.panel.body.append(this.results.element);
+    this.results.show(null, []);
+    this.panel.onShow = () => this.#shown();
+    this.panel.onHide = () => this.#hidden();
+    window.addEventListener('keydown', (event) => this.#key(event), { capture: true });
+  }
+
+  /** @param {HTMLElement} root */
+  #build(root) {
+    const { say } = this;
+    this.box = /** @type {HTMLInputElement} */ (make('input', 'search-box'));
+    Object.assign(this.box, { type: 'search', autocomplete: 'off', spellcheck: false, enterKeyHint: 'search', maxLength: 200 });
+    this.box.dir = 'auto';
+    this.box.setAttribute('aria-label', say('searchBox'));
+    this.box.placeholder = say('searchBox');
+    this.status = make('p', 'search-status');
+    this.status.setAttribute('role', 'status');
+    const field = make('label', 'search-field', icon('search'), this.box);
+    const row = make('div', 'search-row', this.status, ...this.#steps());
+    this.again = make('button', 'plain-button', say('tryAgain'));
+    this.again.setAttribute('type', 'button');
+    this.again.hidden = true;
+    this.again.addEventListener('click', () => {
+      this.box.focus();
+      this.#find();
+    });
+    this.panel.head.after(make('div', 'search-head', field, row, this.again));
+    this.box.addEventListener('input', () => this.#find());
+    this.box.addEventListener('keydown', (event) => this.#boxKey(event));
+    this.count = make('button', 'strip-count');
+    this.count.setAttribute('type', 'button');
+    this.count.addEventListener('click', () => this.panel.show());
+    const end = this.#button('close', 'searchEnd', () => this.end());
+    this.strip = make('div', 'search-strip', this.count, ...this.#steps(), end);
+    this.strip.setAttribute('role', 'group');
+    this.strip.setAttribute('aria-label', say('search'));
+    this.strip.hidden = true;
+    root.querySelector('.toast').before(this.strip);
+  }
+
+  /** @returns {HTMLElement[]} buttons for the hits before and after */
+  #steps() {
+    return [this.#button('up', 'hitBefore', () => this.step(-1)), this.#button('down', 'hitAfter', () => this.step(1))];
+  }
+
+  /**
+   * @param {'up' | 'down' | 'close'} sign
+   * @param {string} word
+   * @param {() => void} act
+   */
+  #button(sign, word, act) {
+    const button = make('button', 'side-button step-' + sign, icon(sign));
+    button.setAttribute('type', 'button');
+    button.setAttribute('aria-label', this.say(word));
+    button.dataset.tip = this.say(word);
+    button.addEventListener('click', act);
+    return button;
+  }
+
+  #shown() {
+    this.strip.hidden = true;
+    this.stays = false;
+    this.box.focus({ preventScroll: true });
+    this.box.select();
+    this.#load();
+    if (this.answer) this.#tell();
+  }
+
+  #hidden() {
+    if (this.stays) this.strip.hidden = false;
+    else this.hits.show(null, null);
+  }
+
+  /** Takes the marks and the strip away. */
+  end() {
+    this.strip.hidden = true;
+    this.hits.show(null, null);
+    if (this.panel.shown) this.panel.hide();
+    else this.panel.button.focus({ preventScroll: true });
+  }
+
+  #load() {
+    if (this.text) return this.loading;
+    this.loading ??= this.files.load('search/text').then((raw) => {
+      this.text = new SearchText(raw);
+      return this.text.ready;
+    }).then(() => this.#find(), () => {
+      this.loading = null;
+      this.text = null;
+      this.status.textContent = this.say('searchFailed');
+      this.again.hidden = false;
+    });
+    return this.loading;
+  }
+
+  #find() {
+    this.again.hidden = true;
+    const typed = this.box.value;
+    this.index = -1;
+    if (!this.text || this.text.folded.length < this.text.texts.length) {
+      this.#load();
+      this.status.textContent = typed.trim() ? this.say('searchWait') : '';
+      return;
+    }
+    this.answer = this.text.find(typed);
+    this.results.show(this.text, this.answer.hits);
+    this.hits.show(this.answer.query, null);
+    this.#tell();
+  }
+
+  /** Tells how much was found, and which of it is shown. */
+  #tell() {
+    const { hits, more, query } = /** @type {Answer} */ (this.answer);
+    /** @param {number} value */
+    const written = (value) => value.toLocaleString(document.documentElement.lang);
+    const count = written(hits.length) + (more ? '+' : '');
+    let text = '';
+    if (!query.empty && hits.length === 0) text = this.say('noHits');
+    else if (this.index >= 0) text = this.say('hitOf', written(this.index + 1), count);
+    else if (hits.length > 0) text = hits.length === 1 ? this.say('hit') : this.say('hits', count);
+    this.status.textContent = text;
+    this.count.textContent = text;
+    for (const step of this.panel.dialog.querySelectorAll('.step-up, .step-down')) {
+      /** @type {HTMLButtonElement} */ (step).disabled = hits.length === 0;
+    }
+  }
+
+  /**
+   * Shows the hit after or before the one that is shown; the first time the next one from the pages in view.
+   * @param {1 | -1} way
+   */
+  step(way) {
+    const hits = this.answer?.hits ?? [];
+    if (hits.length === 0) return;
+    let index = this.index + way;
+    if (this.index < 0) {
+      const from = this.layers.inView[0];
+      const next = hits.findIndex(({ position }) => position >= from);
+      index = way > 0 ? Math.max(0, next) : (next < 0 ? hits.length : next) - 1;
+    }
+    this.#show((index + hits.length) % hits.length);
+  }
+
+  /** @param {number} index */
+  #show(index) {
+    const { hits, query } = /** @type {Answer} */ (this.answer);
+    this.index = index;
+    this.turner.go(this.book.views.viewOf(hits[index].position));
+    this.hits.show(query, hits[index]);
+    this.results.mark(index);
+    this.#tell();
+  }
+
+  /**
+   * The reader wants to see a result: where the panel hides the book, it makes room.
+   * @param {number} index
+   */
+  #choose(index) {
+    this.#show(index);
+    if (this.room.besideBook) return;
+    this.stays = true;
+    this.panel.hide();
+  }
+
+  /** @param {KeyboardEvent} event */
+  #boxKey(event) {
+    if (event.key === 'ArrowDown') this.results.focus();
+    else if (event.key === 'Enter') this.step(event.shiftKey ? -1 : 1);
+    else return;
+    event.preventDefault();
+  }
+
+  /**
+   * The browser's own search would find in the pages in view only; asked a second time it is left to it.
+   * @param {KeyboardEvent} event
+   */
+  #key(event) {
+    const asked = (event.ctrlKey || event.metaKey) && !event.altKey && !event.shiftKey && event.key.toLowerCase() === 'f';
+    if (!asked || document.activeElement === this.box || this.room.root.dataset.state !== 'ready') return;
+    if (this.room.root.querySelector('dialog.panel[open]')) return;
+    event.preventDefault();
+    this.panel.show();
+  }
+}

@@ -1,0 +1,131 @@
+import { fold, sourceOf } from './foldtext.js';
+import { listOf, textOf } from './facts.js';
+import { Query } from './query.js';
+
+/** @typedef {{position: number, ordinal: number, at: number, length: number}} Hit at: in the page's folded text */
+/** @typedef {{query: Query, hits: Hit[], more: boolean}} Answer */
+
+/** Hits that are listed; nobody reads on beyond them. */
+const MOST_HITS = 5000;
+
+/** Time for which texts are folded without a pause, in milliseconds. */
+const SLICE_MS = 8;
+
+/** Characters that a hit is shown with, before and behind it. */
+const BEFORE = 30;
+const BEHIND = 60;
+
+/** All text of the book, made ready for searching while the reader types. */
+export class SearchText {
+  /** @param {any} raw texts by position, as the file has them */
+  constructor(raw) {
+    this.texts = listOf(raw).map(textOf);
+    /** @type {string[]} */
+    this.folded = [];
+    this.ready = this.#foldAll();
+  }
+
+  async #foldAll() {
+    while (this.folded.length < this.texts.length) {
+      await pause();
+      const until = performance.now() + SLICE_MS;
+      while (this.folded.length < this.texts.length && performance.now() < until) {
+        this.folded.push(fold(this.texts[this.folded.length]).text);
+      }
+    }
+  }
+
+  /**
+   * Finds in all that is ready.
+   * @param {string} typed
+   * @returns {Answer}
+   */
+  find(typed) {
+    const query = new Query(typed);
+    let answer = this.#collect(query);
+    if (answer.hits.length === 0 && query.words.length > 0) {
+      query.widen();
+      answer = this.#collect(query);
+    }
+    return answer;
+  }
+
+  /**
+   * @param {Query} query
+   * @returns {Answer}
+   */
+  #collect(query) {
+    /** @type {Hit[]} */
+    const hits = [];
+    for (let index = 0; index < this.folded.length && !query.empty; index++) {
+      const found = query.hitsIn(this.folded[index]);
+      for (let ordinal = 0; ordinal < found.length; ordinal++) {
+        if (hits.length === MOST_HITS) return { query, hits, more: true };
+        hits.push({ position: index + 1, ordinal, at: found[ordinal].at, length: found[ordinal].length });
+      }
+    }
+    return { query, hits, more: false };
+  }
+
+  /**
+   * What stands around a hit.
+   * @param {Hit} hit
+   * @returns {[before: string, hit: string, behind: string]}
+   */
+  excerpt({ position, at, length }) {
+    const source = this.texts[position - 1];
+    const [from, to] = sourceOf(source, fold(source, true, at + length), at, length);
+    const start = wordStart(source, from - BEFORE, from);
+    const end = wordEnd(source, to + BEHIND, to);
+    const before = (start > 0 ? '\u2026' : '') + plain(source.slice(start, from));
+    const behind = plain(source.slice(to, end));
+    return [before, plain(source.slice(from, to)),
+      end < source.length ? behind.replace(/[.,;:\u2013\u2014-]+$/, '') + '\u2026' : behind];
+  }
+}
+
+/** Lets the page do what it has to do first. */
+function pause() {
+  return new Promise((resolve) => {
+    if (window.requestIdleCallback) window.requestIdleCallback(() => resolve(undefined), { timeout: 60 });
+    else setTimeout(resolve, 4);
+  });
+}
+
+/**
+ * @param {string} source
+ * @param {number} wanted
+ * @param {number} most
+ */
+function wordStart(source, wanted, most) {
+  if (wanted <= 0) return 0;
+  const gap = source.slice(wanted, most).search(/\s/);
+  return gap < 0 ? unsplit(source, wanted) : wanted + gap + 1;
+}
+
+/**
+ * @param {string} source
+ * @param {number} wanted
+ * @param {number} least
+ */
+function wordEnd(source, wanted, least) {
+  if (wanted >= source.length) return source.length;
+  const gap = /\s\S*$/.exec(source.slice(least, wanted));
+  return gap ? least + gap.index : unsplit(source, wanted);
+}
+
+/**
+ * Does not part what is one character.
+ * @param {string} source
+ * @param {number} at
+ */
+function unsplit(source, at) {
+  return /[\udc00-\udfff]/.test(source[at]) ? at + 1 : at;
+}
+
+const RUNS_ON = /([\u3001-\u30ff\u3400-\u9fff\uac00-\ud7a3\uf900-\ufaff])\n(?=[\u3001-\u30ff\u3400-\u9fff\uac00-\ud7a3\uf900-\ufaff])/g;
+
+/** @param {string} text with line ends */
+function plain(text) {
+  return text.replace(RUNS_ON, '$1').replace(/\s+/g, ' ');
+}

@@ -1,0 +1,227 @@
+import { boxIn, isUpright, runsBack } from './pagetext.js';
+
+/** @typedef {import('./layers.js').Face} Face */
+/** @typedef {import('./layers.js').Layers} Layers */
+/** @typedef {{node: Node, offset: number}} Caret */
+
+/** Way after which a press on a word marks text instead of being a click. */
+const MARK_START = 4;
+
+/** Way up to which a finger rests, and the time after which a word under it is marked unless the browser has done so. */
+const LONG_PRESS_WAY = 8;
+const LONG_PRESS_MS = 700;
+
+/** What a way along a line counts beside one from line to line: readers stop behind a line's end. */
+const BESIDE = 0.4;
+
+/**
+ * Marks text with the mouse, and with a finger that rests where the browser does not. The words' own places say what lies under the pointer: what browsers make
+ * of words that are placed one by one leaps to the ends of the page between the lines.
+ */
+export class Selecting {
+  /**
+   * @param {any} parts of the player
+   * @param {Layers} layers
+   */
+  constructor({ root, gestures }, layers) {
+    this.gestures = gestures;
+    this.layers = layers;
+    /** @type {{id: number, x: number, y: number, anchor: Caret, marks: boolean, timer: number} | null} */
+    this.press = null;
+    /** Whether the press under way is about what is marked and means nothing else. */
+    this.answers = false;
+    const stage = root.querySelector('.stage');
+    stage.addEventListener('mousedown', (/** @type {MouseEvent} */ event) => this.#keepFromBrowser(event));
+    root.addEventListener('pointerdown', (/** @type {PointerEvent} */ event) => this.#down(event), { capture: true });
+    root.addEventListener('pointermove', (/** @type {PointerEvent} */ event) => this.#move(event), { capture: true });
+    for (const name of ['pointerup', 'pointercancel']) {
+      root.addEventListener(name, (/** @type {PointerEvent} */ event) => this.#up(event), { capture: true });
+    }
+    document.addEventListener('selectionchange', () => this.#touched());
+    document.addEventListener('copy', (event) => this.#copy(event));
+  }
+
+  /** Whether text of the pages is marked. */
+  get marked() {
+    const selection = getSelection();
+    return Boolean(selection && !selection.isCollapsed && wordsIn(selection, this.layers).length);
+  }
+
+  /** @param {MouseEvent} event */
+  #keepFromBrowser(event) {
+    if (event.button !== 0 || !wordAt(event.target)) return;
+    event.preventDefault();
+    // What the browser would have done beside marking.
+    if (document.activeElement instanceof HTMLElement) document.activeElement.blur();
+  }
+
+  /** @param {PointerEvent} event */
+  #down(event) {
+    if (event.button !== 0 || !onStage(event.target)) return;
+    this.#letGo();
+    const selection = getSelection();
+    this.answers = this.marked;
+    const mouse = event.pointerType === 'mouse';
+    const word = wordAt(event.target);
+    const extended = this.answers && mouse && event.shiftKey && word ? selection?.anchorNode : null;
+    const anchor = extended ? { node: extended, offset: selection?.anchorOffset ?? 0 } : word && this.#caretAt(event);
+    if (this.answers && mouse && !extended) selection?.removeAllRanges();
+    if (!anchor) return;
+    const timer = mouse ? 0 : window.setTimeout(() => this.#rested(/** @type {Element} */ (word)), LONG_PRESS_MS);
+    this.press = { id: event.pointerId, x: event.clientX, y: event.clientY, anchor, marks: false, timer };
+    if (extended) this.#mark(event);
+  }
+
+  #letGo() {
+    clearTimeout(this.press?.timer);
+    this.press = null;
+  }
+
+  /** @param {Element} word */
+  #rested(word) {
+    const node = word.firstChild;
+    if (!this.press || !node || this.marked) return;
+    this.#take();
+    this.press.anchor = { node, offset: 0 };
+    getSelection()?.setBaseAndExtent(node, 0, node, (node.textContent ?? '').trimEnd().length);
+  }
+
+  /** From here on the press turns and moves nothing. */
+  #take() {
+    this.gestures.drop();
+    if (this.press) this.press.marks = true;
+  }
+
+  /** @param {PointerEvent} event */
+  #move(event) {
+    const { press } = this;
+    if (!press || press.id !== event.pointerId) return;
+    const way = Math.hypot(event.clientX - press.x, event.clientY - press.y);
+    if (!press.marks && way < (press.timer ? LONG_PRESS_WAY : MARK_START)) return;
+    if (!press.marks && press.timer) {
+      this.#letGo();
+      return;
+    }
+    this.#mark(event);
+    event.stopPropagation();
+  }
+
+  /** @param {PointerEvent} event */
+  #up(event) {
+    if (this.press?.id === event.pointerId) this.#letGo();
+  }
+
+  /** @param {PointerEvent} event */
+  #mark(event) {
+    const press = /** @type {NonNullable<Selecting['press']>} */ (this.press);
+    if (!press.marks) this.#take();
+    const here = this.#caretAt(event);
+    if (here) getSelection()?.setBaseAndExtent(press.anchor.node, press.anchor.offset, here.node, here.offset);
+  }
+
+  /** Where browsers let a finger that rests on a word mark it, it then turns nothing. */
+  #touched() {
+    if (!this.gestures.press || this.answers || this.press?.marks || !this.marked) return;
+    this.#letGo();
+    this.gestures.drop();
+  }
+
+  /**
+   * Place in the text that is nearest to the pointer.
+   * @param {PointerEvent} event
+   * @returns {Caret | null}
+   */
+  #caretAt({ clientX, clientY }) {
+    /** @type {{face: Face, away: number} | null} */
+    let nearest = null;
+    for (const face of this.layers.faces) {
+      if (!face.position || !face.text?.lines.length) continue;
+      const away = distance(face.box.getBoundingClientRect(), clientX, clientY);
+      if (!nearest || away < nearest.away) nearest = { face, away };
+    }
+    return nearest && caretIn(nearest.face, clientX, clientY);
+  }
+
+  /** @param {ClipboardEvent} event */
+  #copy(event) {
+    const selection = getSelection();
+    const words = selection && !selection.isCollapsed ? wordsIn(selection, this.layers) : [];
+    if (words.length === 0 || !event.clipboardData) return;
+    let text = '';
+    words.forEach(({ line, part }, index) => {
+      text += (index > 0 && words[index - 1].line !== line ? '\n' : '') + part;
+    });
+    event.clipboardData.setData('text/plain', text);
+    event.preventDefault();
+  }
+}
+
+/** @param {EventTarget | null} target */
+function wordAt(target) {
+  return target instanceof Element ? target.closest('.word') : null;
+}
+
+/** @param {EventTarget | null} target */
+function onStage(target) {
+  return target instanceof Element && target.closest('.stage') !== null;
+}
+
+/**
+ * @param {{x: number, y: number, width: number, height: number}} box
+ * @param {number} x
+ * @param {number} y
+ * @param {[across: number, down: number]} weights
+ */
+function distance(box, x, y, weights = [1, 1]) {
+  const across = Math.max(box.x - x, 0, x - box.x - box.width);
+  const down = Math.max(box.y - y, 0, y - box.y - box.height);
+  return Math.hypot(across * weights[0], down * weights[1]);
+}
+
+/**
+ * @param {Face} face
+ * @param {number} clientX
+ * @param {number} clientY
+ * @returns {Caret | null}
+ */
+function caretIn({ box, text }, clientX, clientY) {
+  const layer = box.querySelector('.text-layer');
+  if (!text || !layer) return null;
+  const seen = box.getBoundingClientRect();
+  const x = ((clientX - seen.x) / seen.width) * text.width;
+  const y = ((clientY - seen.y) / seen.height) * text.height;
+  const near = text.lines.map((line, index) => {
+    const weights = /** @type {[number, number]} */ (isUpright(line) ? [1, BESIDE] : [BESIDE, 1]);
+    return { line, index, away: distance(line.box, x, y, weights) };
+  }).reduce((a, b) => (b.away < a.away ? b : a));
+  const { line } = near;
+  const words = line.words.map((word, index) => ({ word, index, away: distance(boxIn(line, word, 0, 1), x, y) }));
+  const { word, index } = words.reduce((a, b) => (b.away < a.away ? b : a));
+  const along = isUpright(line) ? y - line.box.y : x - line.box.x;
+  const share = Math.min(1, Math.max(0, (along - word.start) / word.length));
+  const offset = Math.round((runsBack(line, word) ? 1 - share : share) * word.text.trimEnd().length);
+  const node = layer.children[near.index].children[index].firstChild;
+  return node && { node, offset };
+}
+
+/**
+ * The marked parts of words, in reading order.
+ * @param {Selection} selection
+ * @param {Layers} layers
+ * @returns {{line: Element | null, part: string}[]}
+ */
+function wordsIn(selection, layers) {
+  const range = selection.getRangeAt(0);
+  const marked = [];
+  for (const { over } of layers.faces) {
+    if (over.hidden || !range.intersectsNode(over)) continue;
+    for (const word of over.querySelectorAll('.word')) {
+      const node = /** @type {Text} */ (word.firstChild);
+      if (!range.intersectsNode(node)) continue;
+      const from = node === range.startContainer ? range.startOffset : 0;
+      const to = node === range.endContainer ? range.endOffset : node.length;
+      if (to > from) marked.push({ line: word.parentElement, part: node.data.slice(from, to) });
+    }
+  }
+  return marked;
+}

@@ -1,0 +1,104 @@
+import { fileAddress } from '../src/values.js';
+
+/** @typedef {import('./layers.js').Layers} Layers */
+/** @typedef {'left' | 'right'} Side */
+
+/** So much more than a picture has must be asked for before a finer one is loaded. */
+const ENOUGH = 1.15;
+
+/** Time for which the pages keep still before finer pictures are loaded, in milliseconds. */
+const REST_MS = 160;
+
+/** Shows finer pictures of the pages in view while they are enlarged beyond what the usual ones hold. */
+export class Sharper {
+  /**
+   * @param {any} parts of the player
+   * @param {Layers} layers
+   */
+  constructor({ book, turner, zoom }, layers) {
+    this.book = book;
+    this.turner = turner;
+    this.zoom = zoom;
+    this.facts = layers.facts;
+    this.timer = 0;
+    /** @type {Map<Side, {position: number, image: HTMLImageElement}>} */
+    this.kept = new Map();
+    const before = zoom.onChange;
+    zoom.onChange = () => {
+      before();
+      this.#soon();
+    };
+    const { onImage } = book;
+    book.onImage = (/** @type {number} */ page) => {
+      onImage(page);
+      if (this.zoom.active) this.#soon();
+    };
+    layers.followers.push(() => this.#soon());
+  }
+
+  #soon() {
+    clearTimeout(this.timer);
+    // What is no longer wanted goes at once, what is wanted comes when the pages rest.
+    for (const side of this.kept.keys()) {
+      if (this.#wanted(side) !== this.kept.get(side)?.position) this.#drop(side);
+    }
+    if (this.zoom.active) this.timer = window.setTimeout(() => this.#fetch(), REST_MS);
+  }
+
+  #fetch() {
+    for (const side of /** @type {Side[]} */ (['left', 'right'])) {
+      const position = this.#wanted(side);
+      if (position && this.kept.get(side)?.position !== position) this.#load(side, position);
+    }
+  }
+
+  /**
+   * Page at a side that its usual picture shows too coarsely, 0 when there is none.
+   * @param {Side} side
+   * @returns {number}
+   */
+  #wanted(side) {
+    const position = this.book.views.at(this.turner.current)[side];
+    if (!position || !this.zoom.active || !this.facts.largeFile(position)) return 0;
+    const { image, state } = this.book.images.get(position);
+    if (state !== 'ready') return 0;
+    const { width } = this.book.placeOf(image.naturalWidth, image.naturalHeight);
+    const shown = width * this.zoom.level * (window.devicePixelRatio || 1);
+    return shown > image.naturalWidth * ENOUGH ? position : 0;
+  }
+
+  /**
+   * @param {Side} side
+   * @param {number} position
+   */
+  async #load(side, position) {
+    this.#drop(side);
+    const image = new Image();
+    const entry = { position, image };
+    this.kept.set(side, entry);
+    image.alt = '';
+    image.className = 'large';
+    image.draggable = false;
+    image.src = fileAddress(this.facts.largeFile(position));
+    try {
+      await image.decode();
+    } catch {
+      // The usual picture stays.
+      return;
+    }
+    const slot = this.book.element.querySelector('.page.' + side);
+    const usual = slot?.querySelector('img');
+    if (this.kept.get(side) !== entry || !usual || slot.dataset.page !== String(position)) return;
+    image.decoding = 'sync';
+    image.style.cssText = usual.style.cssText;
+    usual.after(image);
+  }
+
+  /** @param {Side} side */
+  #drop(side) {
+    const image = this.kept.get(side)?.image;
+    this.kept.delete(side);
+    image?.remove();
+    if (image && !image.complete) image.removeAttribute('src');
+  }
+}

@@ -1,0 +1,167 @@
+import { make } from '../src/dom.js';
+import { icon } from './icons.js';
+
+/** Narrowest window in which a panel lies beside the book instead of over it, and over it instead of in its place. */
+const BESIDE_LEAST = 900;
+const OVER_LEAST = 600;
+
+/** @typedef {'beside' | 'over' | 'sheet'} Way how a panel lies to the book */
+
+/** The place at the left where one panel at a time opens. */
+export class SideRoom {
+  /** @param {any} parts of the player */
+  constructor({ root, book, toolbar, commands, drawer, relayout, say }) {
+    this.root = root;
+    this.book = book;
+    this.folding = toolbar.folding;
+    this.drawer = drawer;
+    this.relayout = relayout;
+    this.say = say;
+    /** @type {SidePanel | null} */
+    this.open = null;
+    /** @type {Way} */
+    this.way = 'beside';
+    const { escape } = commands;
+    commands.escape = () => {
+      if (this.open) this.open.hide();
+      else escape();
+    };
+    root.querySelector('.stage').addEventListener('pointerdown', () => {
+      if (this.way === 'over') this.open?.hide();
+    });
+    new ResizeObserver(() => this.#follow()).observe(root);
+  }
+
+  /** Whether the reader sees the book while a panel is open. */
+  get besideBook() {
+    return this.way === 'beside';
+  }
+
+  /** @param {SidePanel} panel */
+  take(panel) {
+    if (this.open && this.open !== panel) this.open.leave();
+    this.open = panel;
+    this.way = this.#wayNow();
+    this.root.dataset.panel = this.way;
+    if (this.way === 'sheet') panel.dialog.showModal();
+    else panel.dialog.show();
+    if (this.way !== 'beside') this.drawer.hide();
+    this.#make(this.way === 'beside' ? panel.dialog.offsetLeft + panel.dialog.offsetWidth : 0);
+  }
+
+  free() {
+    this.open = null;
+    delete this.root.dataset.panel;
+    this.#make(0);
+  }
+
+  /** @returns {Way} */
+  #wayNow() {
+    const { clientWidth } = this.root;
+    if (clientWidth >= BESIDE_LEAST) return 'beside';
+    return clientWidth >= OVER_LEAST ? 'over' : 'sheet';
+  }
+
+  /** @param {number} beside CSS pixels that the book leaves to the panel */
+  #make(beside) {
+    this.root.style.setProperty('--beside', beside + 'px');
+    this.book.beside = beside;
+    this.folding.beside = beside;
+    this.relayout();
+    this.folding.fit();
+  }
+
+  /** The window has changed: an open panel may have to lie otherwise. */
+  #follow() {
+    const panel = this.open;
+    if (!panel || this.#wayNow() === this.way) return;
+    const focused = /** @type {HTMLElement | null} */ (document.activeElement);
+    panel.dialog.close();
+    this.take(panel);
+    if (focused && panel.dialog.contains(focused)) focused.focus({ preventScroll: true });
+  }
+}
+
+/** A panel of that place: at its head a title and a button to close it. */
+export class SidePanel {
+  /**
+   * @param {SideRoom} room
+   * @param {string} name of the panel and of the command that opens it
+   * @param {HTMLElement} button in the bar
+   */
+  constructor(room, name, button) {
+    this.room = room;
+    this.button = button;
+    const { say, root } = room;
+    const title = make('h2', '', say(name));
+    title.id = name + '-title';
+    const close = make('button', 'side-button side-close', icon('close'));
+    close.setAttribute('type', 'button');
+    close.setAttribute('aria-label', say('close'));
+    close.dataset.tip = say('close');
+    this.head = make('header', '', title, close);
+    this.body = make('div', 'side-body');
+    this.dialog = /** @type {HTMLDialogElement} */ (make('dialog', 'side ' + name + '-side', this.head, this.body));
+    this.dialog.setAttribute('aria-labelledby', title.id);
+    root.querySelector('.toast').before(this.dialog);
+    close.addEventListener('click', () => this.hide());
+    this.dialog.addEventListener('keydown', (event) => this.#key(event));
+    this.dialog.addEventListener('cancel', (event) => {
+      event.preventDefault();
+      this.hide();
+    });
+    this.onShow = () => {};
+    this.onHide = () => {};
+  }
+
+  get shown() {
+    return this.room.open === this;
+  }
+
+  toggle() {
+    if (this.shown) this.hide();
+    else this.show();
+  }
+
+  show() {
+    if (!this.shown) {
+      this.room.take(this);
+      this.button.setAttribute('aria-expanded', 'true');
+    }
+    this.onShow();
+  }
+
+  /** Closes the panel; the focus goes back to where it was opened. */
+  hide() {
+    if (!this.shown) return;
+    const hadFocus = this.dialog.contains(document.activeElement);
+    this.leave();
+    this.room.free();
+    if (hadFocus) this.#opener()?.focus({ preventScroll: true });
+  }
+
+  /** Closes the panel while another one takes its place. */
+  leave() {
+    this.dialog.close();
+    this.button.setAttribute('aria-expanded', 'false');
+    this.onHide();
+  }
+
+  /** @returns {HTMLElement | null | undefined} what shows that the panel can be opened */
+  #opener() {
+    const more = this.room.root.querySelector('[data-does="more"]');
+    return [this.button, more].find((one) => one.getClientRects().length > 0);
+  }
+
+  /**
+   * Keys typed here do not turn pages; the one for searching leads from the contents to the search.
+   * @param {KeyboardEvent} event
+   */
+  #key(event) {
+    if (event.ctrlKey || event.metaKey || event.altKey || event.key === '/') return;
+    event.stopPropagation();
+    if (event.key !== 'Escape') return;
+    event.preventDefault();
+    this.hide();
+  }
+}

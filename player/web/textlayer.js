@@ -1,0 +1,69 @@
+import { make } from '../src/dom.js';
+import { isUpright } from './pagetext.js';
+
+/** @typedef {import('./layers.js').Face} Face */
+/** @typedef {import('./pagetext.js').Line} Line */
+
+/** Size at which words are measured; widths at others follow from it. */
+const MEASURED = 100;
+
+/** Share of a line's height that letters of its size take. */
+const LETTERS = 0.8;
+
+/** Measured words that are kept; the same ones come again and again. */
+const MOST_MEASURED = 4000;
+
+const context = /** @type {CanvasRenderingContext2D} */ (document.createElement('canvas').getContext('2d'));
+/** @type {Map<string, number>} */
+const measured = new Map();
+
+/** @param {string} text */
+function widthOf(text) {
+  let width = measured.get(text);
+  if (width === undefined) {
+    if (measured.size >= MOST_MEASURED) measured.clear();
+    context.font = MEASURED + 'px sans-serif';
+    width = context.measureText(text).width;
+    measured.set(text, width);
+  }
+  return width;
+}
+
+/**
+ * Puts a page's words over their pictures: unseen, but real text that can be marked, copied and read out.
+ * The layer is as large as the page in tenths of a point and scaled as a whole.
+ * @param {Face} face whose text is there
+ */
+export function addTextLayer({ box, text }) {
+  if (!text || text.lines.length === 0) return;
+  const layer = make('div', 'text-layer', ...text.lines.map(lineElement));
+  layer.style.width = text.width + 'px';
+  layer.style.height = text.height + 'px';
+  box.append(layer);
+}
+
+/** @param {Line} line */
+function lineElement(line) {
+  const element = make('div', 'line');
+  const { x, y, width, height } = line.box;
+  const [long, thick] = isUpright(line) ? [height, width] : [width, height];
+  const origin = { 0: [x, y], 90: [x + width, y], 180: [x + width, y + height], 270: [x, y + height] }[line.turn];
+  const size = thick * LETTERS;
+  element.dir = line.rtl ? 'rtl' : 'ltr';
+  element.style.cssText = 'width:' + long + 'px;height:' + thick + 'px;font-size:' + size + 'px;line-height:'
+    + thick + 'px;transform:translate(' + origin[0] + 'px,' + origin[1] + 'px) rotate(' + line.turn + 'deg)';
+  // Where the line has come to, from the edge at which its reading begins.
+  let reached = 0;
+  for (const { text, start, length } of line.words) {
+    const fromLeft = line.turn >= 180 ? long - start - length : start;
+    const wanted = line.rtl ? long - fromLeft - length : fromLeft;
+    const own = Math.max(1, (widthOf(text.trimEnd()) * size) / MEASURED);
+    const word = make('span', 'word', text);
+    word.style.cssText = 'width:' + own.toFixed(1) + 'px;margin-inline-start:' + (wanted - reached).toFixed(1)
+      + 'px;transform:scaleX(' + (length / own).toFixed(4) + ')';
+    reached = wanted + own;
+    element.append(word);
+  }
+  element.append(make('br', ''));
+  return element;
+}

@@ -1,0 +1,94 @@
+import { mkdir, readFile, readdir, rm, writeFile } from 'node:fs/promises';
+import path from 'node:path';
+
+const TYPES = { '.jpg': 'image/jpeg', '.png': 'image/png', '.webp': 'image/webp', '.svg': 'image/svg+xml', '.mp3': 'audio/mpeg' };
+
+/**
+ * One line of a page, in tenths of a point. words: [text, start, length] each; turn in degrees.
+ */
+export function line([x, y, width, height], words, { turn = 0, rtl = false } = {}) {
+  return [x, y, width, height, turn, rtl ? 1 : 0, words.flat()];
+}
+
+/**
+ * A page of plain text as a typewriter writes it: every letter takes 60, every line 200, tenths of a point.
+ * links: [first line, first letter, letters, target] each.
+ */
+export function typedPage(texts, { size = [6000, 8000], links = [], left = 600, top = 800 } = {}) {
+  const lines = texts.map((text, index) => {
+    const words = [...text.matchAll(/\S+ ?/g)].map(({ 0: word, index: at }) => [word, at * 60, word.trimEnd().length * 60]);
+    return line([left, top + index * 200, text.trimEnd().length * 60, 140], words);
+  });
+  const areas = links.map(([row, letter, letters, target]) => [left + letter * 60, top + row * 200, letters * 60, 140, target]);
+  return { size, lines, links: areas };
+}
+
+/** Text of a page as the text for searching has it. */
+function stringOf({ lines = [] } = {}) {
+  return lines.map(({ 6: words }) => words.filter((_, index) => index % 3 === 0).join('')).join('\n');
+}
+
+const script = (name, value) => `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});\n`;
+
+/** The data files of a web book by their names; JSON of each. */
+function dataOf({ pages, numbers = null, labels = null, outline = [], large = [], open = null, language = '', textPage = '' }) {
+  const isOpen = (position) => !open || open.some(([from, to]) => position >= from && position <= to);
+  const shown = pages.map((page, index) => (isOpen(index + 1) ? page : undefined));
+  const files = {
+    'web/book': {
+      version: 1, numbers, labels, outline, open, language, textPage,
+      large: pages.map((_, index) => large[index]?.kind ?? ''), text: shown.some((page) => page?.lines?.length > 0),
+    },
+    'search/text': shown.map(stringOf),
+  };
+  shown.forEach((page, index) => { if (page) files[`text/${numbers?.[index] ?? index + 1}`] = page; });
+  return files;
+}
+
+/**
+ * Makes a published classic book one of the web kind.
+ * description: pages: { size, lines, links } by position; numbers, labels, outline, open, language and
+ * textPage as in the book's facts; large: { kind, bytes } by position; single: all in one file;
+ * web: folder with the built web.js and web.css.
+ */
+export async function makeWebBook(folder, description) {
+  const { web, large = [], single = false, numbers } = description;
+  const data = dataOf(description);
+  const parts = Object.fromEntries(await Promise.all(['web.js', 'web.css'].map(async (name) => [name, await readFile(path.join(web, name), 'utf8')])));
+  const files = path.join(folder, 'files');
+  await Promise.all(['web', 'text', 'search', 'large'].map((name) => mkdir(path.join(files, name), { recursive: true })));
+  for (const [index, picture] of large.entries()) {
+    if (picture) await writeFile(path.join(files, 'large', `${numbers?.[index] ?? index + 1}.${picture.kind}`), picture.bytes);
+  }
+  const page = path.join(folder, 'index.html');
+  const html = await readFile(page, 'utf8');
+  if (single) {
+    await writeFile(page, await inlined(html, files, parts, data));
+    await rm(files, { recursive: true });
+    return folder;
+  }
+  for (const [name, value] of Object.entries(data)) await writeFile(path.join(files, `${name}.js`), script(name, value));
+  for (const [name, text] of Object.entries(parts)) await writeFile(path.join(files, name), text);
+  const tags = '<script src="files/web.js"></script>\n<link rel="stylesheet" href="files/web.css">\n';
+  await writeFile(page, html.replace(/<script>/, () => tags + '<script>'));
+  return folder;
+}
+
+/** The page with everything that the book consists of. */
+async function inlined(html, files, parts, data) {
+  const { groups } = /"(?<base64>[^"]*)"/.exec(await readFile(path.join(files, 'UserConfig.js'), 'utf8'));
+  const json = Object.entries(data).map(([name, value]) =>
+    `<script type="application/json" data-file="${name}">${JSON.stringify(value).replaceAll('<', '\\u003c')}</script>`);
+  const pictures = [];
+  for (const entry of await readdir(files, { recursive: true })) {
+    const type = TYPES[path.extname(entry)];
+    if (!type) continue;
+    const bytes = await readFile(path.join(files, entry));
+    pictures.push(`<script type="text/plain" data-file="${entry}" data-type="${type}">${bytes.toString('base64')}</script>`);
+  }
+  return html
+    .replace('<head>', () => `<head>\n<script>window.FolveroUserConfig = "${groups.base64}";</script>`)
+    .replace('<meta name="viewport"', () => `<script>${parts['web.js']}</script>\n<meta name="viewport"`)
+    .replace('</style>', () => `</style>\n<style>${parts['web.css']}</style>`)
+    .replace('</body>', () => `${[...json, ...pictures].join('\n')}\n</body>`);
+}

@@ -1,0 +1,110 @@
+import assert from 'node:assert/strict';
+import { readFile } from 'node:fs/promises';
+import { createRequire } from 'node:module';
+import { after, afterEach, before, test } from 'node:test';
+import { plainPages } from './support/book.mjs';
+import { DESK, PHONE, Reader } from './support/reader.mjs';
+import { typedPage } from './support/webbook.mjs';
+
+let reader;
+let axe;
+before(async () => {
+  reader = await Reader.start();
+  axe = await readFile(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
+});
+afterEach(() => reader.closeBooks());
+after(() => reader.stop());
+
+const OUTLINE = [['Preface', 1, []], ['First part', 3, [['River', 4, []], ['Nowhere', 0, []]]]];
+const pages = Array.from({ length: 8 }, (_, index) => typedPage([`text of page ${index + 1}`, 'and a dead link', 'and a page'],
+  { links: [[0, 0, 4, 'https://example.org/'], [1, 6, 9, 0], [2, 6, 4, 1]] }));
+
+async function open({ values, change, ...options }) {
+  const folder = await reader.webBook({ pages: plainPages(8), values: { TutorialTitle: 'Spring', ...values },
+    description: { pages, outline: OUTLINE, labels: ['i', 'ii'], language: 'en', textPage: 'text.html', open: [[1, 6]], ...change } });
+  const book = await reader.openFromDisk(folder, options);
+  await book.page.waitForSelector('.word', { state: 'attached' });
+  return book;
+}
+
+/** What a check of the page as it stands finds, one line a fault. */
+async function faults(book) {
+  await book.rest();
+  await book.page.evaluate(axe);
+  const { violations } = await book.page.evaluate(() => window.axe.run(document));
+  return violations.flatMap(({ id, help, nodes }) => nodes.map(({ html }) => `${id}: ${help}: ${html.slice(0, 160)}`));
+}
+
+const contents = (book) => book.page.keyboard.press('c');
+async function search(book) {
+  await book.page.keyboard.press('/');
+  await book.page.locator('.search-box').fill('text');
+  await book.page.waitForSelector('.result');
+  await book.page.keyboard.press('Enter');
+}
+async function strip(book) {
+  await search(book);
+  await book.page.locator('.result').first().tap();
+  await book.page.waitForSelector('.search-strip:not([hidden])');
+}
+const nothing = () => {};
+const states = [
+  ['a spread', DESK, '#page=2', nothing], ['pages that are left out', DESK, '#page=8', nothing], ['the contents', DESK, '#page=4', contents],
+  ['the search', DESK, '#page=2', search], ['a phone', PHONE, '#page=3', nothing], ['the contents on a phone', PHONE, '#page=3', contents],
+  ['the search on a phone', PHONE, '', search], ['the strip of the search', PHONE, '', strip],
+];
+for (const [name, view, hash, act] of states) {
+  test(`nothing keeps readers with other senses or hands out of a web book: ${name}`, async () => {
+    const book = await open({ view, hash: hash === '#page=8' ? '#page=6' : hash });
+    if (hash === '#page=8') await book.page.keyboard.press('End');
+    await act(book);
+    assert.deepEqual(await faults(book), []);
+  });
+}
+for (const colour of ['0xf4ead2', '0x767676', '0xffffff']) {
+  test(`panels of any colour can be read: ${colour}`, async () => {
+    const book = await open({ hash: '#page=4', values: { FlashWindowsColor: colour, ThumbnailsBgColor: colour } });
+    for (const act of [contents, search]) {
+      await act(book);
+      assert.deepEqual(await faults(book), []);
+    }
+  });
+}
+
+test('where the system takes colours and shadows away, panels, marks and focus stay and the words stay unseen', async () => {
+  const book = await open({ hash: '#page=2', before: (page) => page.emulateMedia({ forcedColors: 'active' }) });
+  const style = (selector, ...names) => book.page.locator(selector).first().evaluate((one, all) => all.map((name) => getComputedStyle(one)[name]), names);
+  await search(book);
+  assert.deepEqual(await style('.search-side', 'borderTopStyle'), ['solid']);
+  assert.deepEqual(await style('.search-field', 'borderTopStyle'), ['solid']);
+  assert.match((await style('.hit:not(.current)', 'backgroundColor'))[0], /^rgba\(255, 212, 0/);
+  assert.deepEqual(await style('.word', 'color'), ['rgba(0, 0, 0, 0)']);
+  await contents(book);
+  await book.page.keyboard.press('Escape');
+  await book.page.keyboard.press('c');
+  assert.deepEqual(await style('.tree-row:focus', 'outlineStyle'), ['solid']);
+});
+
+test('readers who want little motion see none in the panels, and hits are still turned to', async () => {
+  const book = await open({ reducedMotion: 'reduce' });
+  await contents(book);
+  assert.equal(await book.page.locator('.contents-side').evaluate((one) => getComputedStyle(one).animationName), 'none');
+  await book.page.keyboard.press('/');
+  await book.page.locator('.search-box').fill('page 6');
+  await book.page.waitForSelector('.result');
+  await book.page.keyboard.press('Enter');
+  await book.waitForPages(6, 7);
+  assert.equal(await book.page.locator('.hit.current').evaluate((one) => getComputedStyle(one).animationName), 'none');
+});
+
+test('all of a page is reached by key, in the order in which it is read', async () => {
+  const book = await open({ hash: '#page=2' });
+  await book.page.waitForSelector('.over.right .page-link');
+  const order = await book.page.locator('.page-link').evaluateAll((all) => all.map((one) => `${one.closest('.over').ariaLabel}: ${one.ariaLabel}`));
+  assert.deepEqual(order, ['Page ii (2): text', 'Page ii (2): dead link, This link leads to a page that is not in this book', 'Page ii (2): page, Page i (1)',
+    'Page 3: text', 'Page 3: dead link, This link leads to a page that is not in this book', 'Page 3: page, Page i (1)']);
+  await book.page.locator('.page-link').nth(1).focus();
+  await book.page.keyboard.press('Tab');
+  await book.page.keyboard.press('Enter');
+  await book.waitForPages(1);
+});
