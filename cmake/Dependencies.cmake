@@ -10,6 +10,8 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(nettle REQUIRED IMPORTED_TARGET nettle)
 pkg_check_modules(tidy REQUIRED IMPORTED_TARGET tidy)
 pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
+# Its header shows other classes without the settings that Debian built the library with.
+pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)
 pkg_check_modules(turbojpeg REQUIRED IMPORTED_TARGET libturbojpeg)
 
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")

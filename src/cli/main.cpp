@@ -4,6 +4,7 @@
 #include "cli/DecodeCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/PublishCommand.h"
+#include "cli/ServeCommand.h"
 #include "cli/TemplatesCommand.h"
 #include "cli/Terminal.h"
 #include "platform/Bundle.h"
@@ -14,6 +15,7 @@
 #include <QFile>
 #include <csignal>
 #include <fcntl.h>
+#include <optional>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -39,6 +41,7 @@ struct CommandLine {
     bool quiet = false;
     bool json = false;
     std::string book;
+    std::optional<int> port;
 };
 
 QString text(const std::string& typed) {
@@ -167,6 +170,20 @@ void addDecode(CLI::App& app, CommandLine& line) {
     });
 }
 
+void addServe(CLI::App& app, CommandLine& line) {
+    auto* command =
+        app.add_subcommand("serve", "Show a published book in the browser, as on a web server")
+            ->group("Commands");
+    command->add_option("BOOKDIR", line.book, "The book's folder")->type_name("")->required();
+    command
+        ->add_option("--port", line.port,
+                     "Port of the address; by default 8000 or the next free one, 0 for any\n"
+                     "free one")
+        ->check(CLI::Range(0, 65535, "0-65535"))
+        ->type_name("N");
+    command->callback([&line] { runServe(path(line.book), line.port); });
+}
+
 // What is wrong with the command line, and where to read on.
 std::string explain(const CLI::App* app, const CLI::Error& error) {
     std::string cause = error.what();
@@ -208,6 +225,7 @@ int run(int argc, char** argv) {
     addTemplates(app, line);
     addInfo(app, line);
     addDecode(app, line);
+    addServe(app, line);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

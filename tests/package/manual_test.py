@@ -26,7 +26,7 @@ class Manual(unittest.TestCase):
 
     def test_folvero(self):
         page = self.page("folvero")
-        commands = ("publish", "info", "templates", "decode")
+        commands = ("publish", "info", "templates", "decode", "serve")
         for arguments in ((), *((command,) for command in commands)):
             text = self.help_of("folvero", *arguments)
             for option in re.findall(r"(?<!\S)--[a-z]+", text):

@@ -1,0 +1,101 @@
+#include "cli/BookFile.h"
+
+#include "platform/Files.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QLocale>
+#include <QMap>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+
+namespace {
+
+QByteArray contentTypeOf(const QByteArray& path) {
+    static const QMap<QByteArray, QByteArray> types{
+        {"html", "text/html; charset=utf-8"},
+        {"css", "text/css; charset=utf-8"},
+        {"js", "text/javascript; charset=utf-8"},
+        {"json", "application/json; charset=utf-8"},
+        {"webmanifest", "application/manifest+json; charset=utf-8"},
+        {"xml", "application/xml; charset=utf-8"},
+        {"txt", "text/plain; charset=utf-8"},
+        {"svg", "image/svg+xml; charset=utf-8"},
+        {"jpg", "image/jpeg"},
+        {"jpeg", "image/jpeg"},
+        {"png", "image/png"},
+        {"gif", "image/gif"},
+        {"webp", "image/webp"},
+        {"ico", "image/vnd.microsoft.icon"},
+        {"mp3", "audio/mpeg"},
+        {"swf", "application/x-shockwave-flash"},
+    };
+    const QString ending = Files::pathExtension(QFile::decodeName(path)).toLower();
+    return types.value(ending.toUtf8(), "application/octet-stream");
+}
+
+// The path beneath the folder, with a slash before each name; empty when the target is refused.
+QByteArray pathOf(const QByteArray& target) {
+    QByteArray escaped = target.split('?').front();
+    if (!escaped.startsWith('/'))
+        return {};
+    if (escaped.endsWith('/'))
+        escaped += "index.html";
+    QByteArray path;
+    for (const QByteArray& part : escaped.split('/')) {
+        if (part.isEmpty())
+            continue;
+        const QByteArray name = QByteArray::fromPercentEncoding(part);
+        // What is a separator only after it was unescaped has slipped past somebody.
+        if (name.startsWith('.') || name.contains('/') || name.contains('\\') ||
+            name.contains('\0'))
+            return {};
+        path += '/' + name;
+    }
+    return path;
+}
+
+// With all links followed; empty when there is no such thing.
+QByteArray realPath(const QByteArray& path) {
+    const std::unique_ptr<char, void (*)(void*)> real(::realpath(path.constData(), nullptr),
+                                                      std::free);
+    return QByteArray(real.get());
+}
+
+QByteArray tagOf(const struct stat& facts) {
+    QByteArray tag;
+    for (const auto number : {qint64(facts.st_mtim.tv_sec), qint64(facts.st_mtim.tv_nsec),
+                              qint64(facts.st_size), qint64(facts.st_ino)})
+        tag += (tag.isEmpty() ? "" : "-") + QByteArray::number(number, 36);
+    return '"' + tag + '"';
+}
+
+QByteArray httpDate(qint64 secondsSinceEpoch) {
+    return QLocale::c()
+        .toString(QDateTime::fromSecsSinceEpoch(secondsSinceEpoch, Qt::UTC),
+                  QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"))
+        .toLatin1();
+}
+
+} // namespace
+
+std::optional<BookFile> BookFile::open(const QString& folder, const QByteArray& target) {
+    const QByteArray path = pathOf(target);
+    const QByteArray root = realPath(QFile::encodeName(folder));
+    if (path.isEmpty() || root.isEmpty())
+        return {};
+    const QByteArray file = realPath(root + path);
+    if (!file.startsWith(root.endsWith('/') ? root : root + '/'))
+        return {};
+    // Opening a pipe must not wait for somebody at its other end.
+    Descriptor descriptor(
+        ::open(file.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
+    struct stat facts {};
+    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &facts) != 0 ||
+        !S_ISREG(facts.st_mode))
+        return {};
+    return BookFile{std::move(descriptor), facts.st_size, contentTypeOf(path), tagOf(facts),
+                    httpDate(facts.st_mtim.tv_sec)};
+}

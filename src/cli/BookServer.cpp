@@ -1,0 +1,234 @@
+#include "cli/BookServer.h"
+
+#include "cli/BookFile.h"
+#include "platform/Log.h"
+
+#include <QRegularExpression>
+#include <array>
+#include <cerrno>
+#include <future>
+#include <httplib.h>
+
+namespace {
+
+using httplib::Request;
+using httplib::Response;
+
+constexpr auto loopback = "127.0.0.1";
+
+// A browser opens half a dozen connections at once, and some only in case that it needs them.
+constexpr std::size_t threads = 16;
+
+const Log& serverLog() {
+    static const Log log("BookServer");
+    return log;
+}
+
+// The part of a file that an answer carries.
+struct Extent {
+    qint64 begin;
+    qint64 length; // none is no part of the file
+};
+
+// The library would apply the request's range by itself to any content whose length it knows,
+// errors included, and does not look whether the content is that long. So it is not told the
+// length.
+void setContent(Response& response, const QByteArray& type, qint64 length,
+                httplib::ContentProviderWithoutLength provider) {
+    response.set_header("Content-Length", std::to_string(length));
+    response.set_content_provider(type.toStdString(), std::move(provider));
+}
+
+void answer(Response& response, int status, const QByteArray& words) {
+    response.status = status;
+    setContent(response, "text/plain; charset=utf-8", words.size(),
+               [words](std::size_t, httplib::DataSink& sink) {
+                   sink.write(words.constData(), std::size_t(words.size()));
+                   sink.done();
+                   return true;
+               });
+}
+
+// Names that no name server can give to this machine: a page elsewhere whose own name is made to
+// lead here could otherwise read the book.
+bool isForThisMachine(const Request& request) {
+    static const QRegularExpression own(
+        QStringLiteral("\\A(127\\.0\\.0\\.1|localhost|\\[::1\\])(:[0-9]{1,5})?\\z"),
+        QRegularExpression::CaseInsensitiveOption);
+    return request.get_header_value_count("Host") == 1 &&
+           own.match(QString::fromStdString(request.get_header_value("Host"))).hasMatch();
+}
+
+// The browser has this very file already.
+bool isKnown(const Request& request, const BookFile& file) {
+    if (!request.has_header("If-None-Match"))
+        return request.get_header_value("If-Modified-Since") == file.lastModified.toStdString();
+    const auto tags = QByteArray::fromStdString(request.get_header_value("If-None-Match"));
+    for (QByteArray tag : tags.split(',')) {
+        tag = tag.trimmed();
+        if (tag == "*" || tag == file.entityTag || tag == "W/" + file.entityTag)
+            return true;
+    }
+    return false;
+}
+
+// A request may ask for several parts, or for the rest of a file that has changed since; it then
+// gets the whole.
+bool wantsPart(const Request& request, const BookFile& file) {
+    if (request.ranges.size() != 1 || request.ranges.front() == httplib::Range(-1, -1))
+        return false;
+    const auto condition = QByteArray::fromStdString(request.get_header_value("If-Range"));
+    return condition.isEmpty() || condition == file.entityTag || condition == file.lastModified;
+}
+
+Extent partOf(const httplib::Range& range, qint64 size) {
+    const auto [first, last] = range; // -1 where the request leaves it open
+    const qint64 begin = first >= 0 ? first : std::max<qint64>(0, size - last);
+    const qint64 end = first >= 0 && last >= 0 ? std::min<qint64>(last, size - 1) + 1 : size;
+    return {begin, std::max<qint64>(0, end - begin)};
+}
+
+// Hands an extent of the file on, piece by piece.
+class FileReader {
+public:
+    FileReader(std::shared_ptr<const BookFile> file, Extent extent)
+        : iFile(std::move(file)), iExtent(extent) {}
+
+    bool operator()(std::size_t /*sent*/, httplib::DataSink& sink) {
+        std::array<char, 65536> buffer;
+        const auto wanted = std::min<qint64>(iExtent.length, buffer.size());
+        const auto got = ::pread(iFile->descriptor.number(), buffer.data(), std::size_t(wanted),
+                                 off_t(iExtent.begin));
+        if (got < 0 || (got == 0 && wanted > 0))
+            return false; // cut short: the connection ends before the promised length
+        sink.write(buffer.data(), std::size_t(got));
+        iExtent = {iExtent.begin + got, iExtent.length - got};
+        if (iExtent.length == 0)
+            sink.done();
+        return true;
+    }
+
+private:
+    std::shared_ptr<const BookFile> iFile;
+    Extent iExtent;
+};
+
+void answerWithFile(const Request& request, Response& response, BookFile&& opened) {
+    const auto file = std::make_shared<const BookFile>(std::move(opened));
+    const std::string size = std::to_string(file->size);
+    response.set_header("ETag", file->entityTag.toStdString());
+    response.set_header("Last-Modified", file->lastModified.toStdString());
+    if (isKnown(request, *file)) {
+        response.status = 304;
+        response.set_header("Content-Length", size);
+        return;
+    }
+    response.set_header("Accept-Ranges", "bytes");
+    Extent extent{0, file->size};
+    response.status = 200;
+    if (wantsPart(request, *file)) {
+        extent = partOf(request.ranges.front(), file->size);
+        if (extent.length == 0) {
+            response.set_header("Content-Range", "bytes */" + size);
+            return answer(response, 416, "Range not satisfiable\n");
+        }
+        response.status = 206;
+        response.set_header("Content-Range", "bytes " + std::to_string(extent.begin) + '-' +
+                                                 std::to_string(extent.begin + extent.length - 1) +
+                                                 '/' + size);
+    }
+    setContent(response, file->contentType, extent.length, FileReader(file, extent));
+}
+
+void answerRequest(const QString& folder, const Request& request, Response& response) {
+    // What is published anew shows at once.
+    response.set_header("Cache-Control", "no-cache");
+    response.set_header("X-Content-Type-Options", "nosniff");
+    // Pages elsewhere must not take the book's pictures and scripts in.
+    response.set_header("Cross-Origin-Resource-Policy", "same-origin");
+    if (!isForThisMachine(request))
+        return answer(response, 403, "Forbidden: open the book by its address 127.0.0.1\n");
+    if (request.method != "GET" && request.method != "HEAD") {
+        response.set_header("Allow", "GET, HEAD");
+        return answer(response, 405, "Method not allowed\n");
+    }
+    if (auto file = BookFile::open(folder, QByteArray::fromStdString(request.target)))
+        return answerWithFile(request, response, std::move(*file));
+    answer(response, 404, "Not found\n");
+}
+
+void logAnswer(const Request& request, const Response& response) {
+    // What is no proper address stays a line, and gives no orders to a terminal.
+    const QByteArray target =
+        QByteArray::fromStdString(request.target).toPercentEncoding("/%?=&;,+:@!$'()*");
+    serverLog().debug(QString::fromStdString(request.method) + u' ' + QString::fromLatin1(target) +
+                      QStringLiteral(": ") + QString::number(response.status));
+}
+
+} // namespace
+
+class BookServer::Implementation {
+public:
+    explicit Implementation(const QString& folder) {
+        iServer.new_task_queue = [] { return new httplib::ThreadPool(threads); };
+        // One request a connection: an idle one would keep a thread, and what follows a refused
+        // request's head must not be read as another request.
+        iServer.set_keep_alive_max_count(1);
+        iServer.set_tcp_nodelay(true);
+        // Unlike the library's own choice this does not share the port with another server.
+        iServer.set_socket_options([](socket_t socket) {
+            const int yes = 1;
+            ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof(yes));
+        });
+        iServer.set_pre_routing_handler([folder](const Request& request, Response& response) {
+            answerRequest(folder, request, response);
+            return httplib::Server::HandlerResponse::Handled;
+        });
+        if (serverLog().isDebugEnabled())
+            iServer.set_logger(logAnswer);
+    }
+
+    httplib::Server iServer;
+    int iPort = 0;
+    std::future<bool> iListening; // waits for the server's threads when it goes
+};
+
+BookServer::BookServer(const QString& folder)
+    : iImplementation(std::make_unique<Implementation>(folder)) {}
+
+BookServer::~BookServer() {
+    stop();
+}
+
+int BookServer::takePort(int port) {
+    errno = 0;
+    auto& server = iImplementation->iServer;
+    const int taken = port == 0 ? server.bind_to_any_port(loopback)
+                                : (server.bind_to_port(loopback, port) ? port : -1);
+    if (taken <= 0)
+        return errno != 0 ? errno : EADDRNOTAVAIL;
+    iImplementation->iPort = taken;
+    return 0;
+}
+
+int BookServer::port() const {
+    return iImplementation->iPort;
+}
+
+void BookServer::start() {
+    auto& server = iImplementation->iServer;
+    iImplementation->iListening =
+        std::async(std::launch::async, [&server] { return server.listen_after_bind(); });
+    // Before that it can't be stopped.
+    while (!server.is_running() && !hasEnded(std::chrono::milliseconds(1))) {
+    }
+}
+
+bool BookServer::hasEnded(std::chrono::milliseconds patience) const {
+    return !iImplementation->iListening.valid() ||
+           iImplementation->iListening.wait_for(patience) == std::future_status::ready;
+}
+
+void BookServer::stop() {
+    iImplementation->iServer.stop();
+}
