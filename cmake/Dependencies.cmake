@@ -9,6 +9,7 @@ find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(nettle REQUIRED IMPORTED_TARGET nettle)
 pkg_check_modules(tidy REQUIRED IMPORTED_TARGET tidy)
+pkg_check_modules(webp REQUIRED IMPORTED_TARGET libwebp)
 pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
 # Its header shows other classes without the settings that Debian built the library with.
 pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)

@@ -14,7 +14,9 @@ public:
     static constexpr std::size_t mostCharacters = std::size_t{32} << 20;
 
     // Whether further pages have to do without.
-    bool isSpent() const { return iAnnotations >= mostAnnotations || iCharacters >= mostCharacters; }
+    bool isSpent() const {
+        return iAnnotations >= mostAnnotations || iCharacters >= mostCharacters;
+    }
 
     void spend(const PDFAnnotation& annotation) {
         ++iAnnotations;

@@ -31,6 +31,9 @@ inline constexpr std::size_t maxPageFileSize = std::size_t{256} << 20;
 // browsers take none of a tenth of that.
 inline constexpr int maxTextLength = 65'536;
 
+// Characters that are read of one page. A page of small print has ten thousand.
+inline constexpr std::size_t maxPageCharacters = 200'000;
+
 // Entries of an outline.
 inline constexpr std::size_t maxOutlineEntries = 100'000;
 

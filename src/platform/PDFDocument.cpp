@@ -296,6 +296,15 @@ PDFPage PDFDocument::page(int index) const {
     return {*this, index, object};
 }
 
+QString PDFDocument::language() const {
+    if (iReader)
+        return iReader->language();
+    pdf_obj* trailer =
+        iEngine->get([this](fz_context* ctx) { return pdf_trailer(ctx, iEngine->document); },
+                     static_cast<pdf_obj*>(nullptr));
+    return iEngine->text(iEngine->entry(iEngine->entry(trailer, "Root"), "Lang"));
+}
+
 QString PDFDocument::information(const char* key) const {
     if (iReader)
         return iReader->information(key);

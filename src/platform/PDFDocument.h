@@ -52,12 +52,20 @@ public:
     // Text of the information dictionary ("Title", "Author" ...), or a null text.
     QString information(const char* key) const;
 
+    // The natural language of the text ("de", "en-GB"), or a null text.
+    QString language() const;
+
+    // What the pages are called ("iv", "A-3"), by zero-based index, empty texts where they have no
+    // name; nothing at all for a document that does not name its pages.
+    std::vector<QString> pageLabels() const;
+
     // The entries at the top of the outline.
     std::vector<PDFOutlineNode> outline() const;
 
 private:
     friend class PDFPage;
     struct Engine;
+    class LabelTree;
 
     explicit PDFDocument(std::unique_ptr<Engine> engine);
     PDFDocument(QString path, std::unique_ptr<PDFReader> reader);

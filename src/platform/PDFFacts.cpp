@@ -2,6 +2,7 @@
 
 #include <QDataStream>
 #include <QIODevice>
+#include <cmath>
 
 namespace {
 
@@ -29,6 +30,11 @@ void write(QDataStream& stream, const PDFOutlineNode& node);
 void read(QDataStream& stream, PDFOutlineNode& node, Bounds bounds);
 void write(QDataStream& stream, const PDFAnnotation& annotation);
 void read(QDataStream& stream, PDFAnnotation& annotation, Bounds bounds);
+
+void write(QDataStream& stream, const PDFTextLine& line);
+void read(QDataStream& stream, PDFTextLine& line, Bounds bounds);
+void write(QDataStream& stream, const PDFTextWord& word);
+void read(QDataStream& stream, PDFTextWord& word, Bounds bounds);
 
 void write(QDataStream& stream, int number) {
     stream << qint32(number);
@@ -105,6 +111,33 @@ void read(QDataStream& stream, PDFOutlineNode& node, Bounds bounds) {
     read(stream, node.children, bounds);
 }
 
+void write(QDataStream& stream, const PDFTextWord& word) {
+    stream << word.text << word.start << word.length;
+}
+
+void read(QDataStream& stream, PDFTextWord& word, Bounds /*bounds*/) {
+    stream >> word.text >> word.start >> word.length;
+    if (!std::isfinite(word.start) || !std::isfinite(word.length))
+        stream.setStatus(QDataStream::ReadCorruptData);
+}
+
+void write(QDataStream& stream, const PDFTextLine& line) {
+    stream << line.box << qint32(line.turn) << line.rightToLeft;
+    write(stream, line.words);
+}
+
+void read(QDataStream& stream, PDFTextLine& line, Bounds bounds) {
+    qint32 turn = 0;
+    stream >> line.box >> turn >> line.rightToLeft;
+    line.turn = turn;
+    read(stream, line.words, bounds);
+    const bool isSound = (turn == 0 || turn == 90 || turn == 180 || turn == 270) &&
+                         std::isfinite(line.box.x()) && std::isfinite(line.box.y()) &&
+                         std::isfinite(line.box.width()) && std::isfinite(line.box.height());
+    if (!isSound)
+        stream.setStatus(QDataStream::ReadCorruptData);
+}
+
 template <class Value>
 QByteArray packed(const Value& value) {
     QByteArray bytes;
@@ -151,6 +184,14 @@ QByteArray PDFFacts::pack(const std::vector<PDFOutlineNode>& nodes) {
     return packed(nodes);
 }
 
+QByteArray PDFFacts::pack(const std::vector<QString>& texts) {
+    return packed(texts);
+}
+
+QByteArray PDFFacts::pack(const std::vector<PDFTextLine>& lines) {
+    return packed(lines);
+}
+
 int PDFFacts::unpackNumber(const QByteArray& packed) {
     return unpacked<int>(packed);
 }
@@ -169,4 +210,12 @@ std::vector<PDFAnnotation> PDFFacts::unpackAnnotations(const QByteArray& packed)
 
 std::vector<PDFOutlineNode> PDFFacts::unpackOutline(const QByteArray& packed) {
     return unpacked<std::vector<PDFOutlineNode>>(packed);
+}
+
+std::vector<QString> PDFFacts::unpackTexts(const QByteArray& packed) {
+    return unpacked<std::vector<QString>>(packed);
+}
+
+std::vector<PDFTextLine> PDFFacts::unpackTextLines(const QByteArray& packed) {
+    return unpacked<std::vector<PDFTextLine>>(packed);
 }

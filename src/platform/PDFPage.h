@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/PDFText.h"
 #include "platform/PageBitmap.h"
 
 #include <QRectF>
@@ -63,6 +64,15 @@ public:
     // read ("PDFPageUnreadable"), "PDFPageTimeout" or "PDFPageStopped". Not for documents that
     // another process reads.
     void draw(double scale, PageBitmap& bitmap, const DrawControl& control = {}) const;
+
+    // The words on the page, line by line as the file gives them. Throws PlatformException
+    // "PDFPageUnreadable". Not for documents that another process reads.
+    std::vector<PDFTextLine> text() const;
+
+    // The page as an SVG file, in points, or nothing for a page of more than text and plain areas,
+    // which only a bitmap shows truly. Throws PlatformException "PDFPageUnreadable". Not for
+    // documents that another process reads.
+    QByteArray vectorPicture() const;
 
 private:
     friend class PDFDocument;

@@ -102,6 +102,14 @@ QString PDFReader::information(const char* key) {
     return PDFFacts::unpackText(ask(QByteArray("information ") + key));
 }
 
+QString PDFReader::language() {
+    return PDFFacts::unpackText(ask("language"));
+}
+
+std::vector<QString> PDFReader::pageLabels() {
+    return PDFFacts::unpackTexts(ask("labels"));
+}
+
 void PDFReader::rest() {
     iProcess.reset();
 }

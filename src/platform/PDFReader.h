@@ -34,6 +34,8 @@ public:
     std::vector<PDFAnnotation> annotations(int index);
     std::vector<PDFOutlineNode> outline();
     QString information(const char* key);
+    QString language();
+    std::vector<QString> pageLabels();
 
     // Ends the process until the next question. A document may stay open for hours.
     void rest();

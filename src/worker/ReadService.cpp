@@ -27,6 +27,10 @@ QByteArray answer(const PDFDocument& document, const QByteArray& question) {
         return PDFFacts::pack(document.page(of.toInt()).annotations());
     if (what == "outline")
         return PDFFacts::pack(document.outline());
+    if (what == "language")
+        return PDFFacts::pack(document.language());
+    if (what == "labels")
+        return PDFFacts::pack(document.pageLabels());
     if (what == "information")
         return PDFFacts::pack(document.information(of.constData()));
     throw PlatformException(QStringLiteral("PDFReaderGarbled"), QStringLiteral("no such question"));

@@ -51,9 +51,9 @@ TEST(BrokenReader, CostsTheLinksAndTheBookmarksAndNotTheBook) {
     ASSERT_TRUE(QFile::setPermissions(worker, QFile::permissions(program)));
 
     const QString book = root.filePath(QStringLiteral("book"));
-    const auto result =
-        Program::runOther(program, {QStringLiteral("publish"), Program::sample(QStringLiteral("links.pdf")), book,
-                                    QStringLiteral("--links"), QStringLiteral("--bookmarks")});
+    const auto result = Program::runOther(
+        program, {QStringLiteral("publish"), Program::sample(QStringLiteral("links.pdf")), book,
+                  QStringLiteral("--links"), QStringLiteral("--bookmarks")});
     EXPECT_EQ(result.exitCode, 0) << result.errors.constData();
     EXPECT_TRUE(result.errors.contains("links: the program that reads PDF files broke off at it"))
         << result.errors.constData();

@@ -23,7 +23,7 @@ void check(const QByteArray& bytes, Value (*unpack)(const QByteArray&)) {
 // One byte for what the process that reads a document was asked, then its answer.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     Fuzz::Input input(data, size);
-    switch (input.byte() % 5) {
+    switch (input.byte() % 7) {
     case 0:
         check(input.rest(), PDFFacts::unpackNumber);
         break;
@@ -36,8 +36,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     case 3:
         check(input.rest(), PDFFacts::unpackAnnotations);
         break;
-    default:
+    case 4:
         check(input.rest(), PDFFacts::unpackOutline);
+        break;
+    case 5:
+        check(input.rest(), PDFFacts::unpackTexts);
+        break;
+    default:
+        check(input.rest(), PDFFacts::unpackTextLines);
         break;
     }
     return 0;

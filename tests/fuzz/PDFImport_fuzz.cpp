@@ -82,6 +82,9 @@ void readStructure(const QString& path) {
         }
     }
     checkOutline(document->outline(), pages, 1);
+    document->language();
+    const auto labels = document->pageLabels().size();
+    Fuzz::require(labels == 0 || labels == std::size_t(pages), "all pages have labels, or none");
     FlashOutlinePDF outline;
     outline.loadOutlineFromPDF(document);
     outline.outlineAsXMLNode();
@@ -103,6 +106,13 @@ void drawFirstPage(const QString& path) {
     Fuzz::require(bitmap.width() <= EngineLimits::maxBitmapSide &&
                       bitmap.height() <= EngineLimits::maxBitmapSide,
                   "a drawn page keeps within the limits");
+    page.vectorPicture();
+    for (const PDFTextLine& line : page.text()) {
+        Fuzz::require(isFinite(line.box) && !line.words.empty(), "a line lies somewhere");
+        for (const PDFTextWord& word : line.words)
+            Fuzz::require(!word.text.isEmpty() && std::isfinite(word.start) && word.length >= 0,
+                          "a word lies somewhere");
+    }
 }
 
 } // namespace

@@ -116,11 +116,17 @@ SeedSet factSeeds() {
     PDFAnnotation within{QStringLiteral("Link"), QRectF(1, 2, 3, 4), {}, 5};
     const PDFOutlineNode leaf{QStringLiteral("Leaf"), 2, {}};
     const PDFOutlineNode branch{QStringLiteral("Branch"), -1, {leaf, leaf}};
+    const PDFTextLine line{{10, 20, 90, 12},
+                           90,
+                           true,
+                           {{QStringLiteral("two "), 0, 30}, {QStringLiteral("words"), 35, 55}}};
     return {"PDFFacts",
             {'\0' + PDFFacts::pack(7), '\1' + PDFFacts::pack(QStringLiteral("A title")),
              '\1' + PDFFacts::pack(QString()), '\2' + PDFFacts::pack(boxes),
              '\3' + PDFFacts::pack(std::vector{web, within}),
-             '\4' + PDFFacts::pack(std::vector{branch, leaf})}};
+             '\4' + PDFFacts::pack(std::vector{branch, leaf}),
+             '\5' + PDFFacts::pack(std::vector{QStringLiteral("iv"), QStringLiteral("A-3")}),
+             '\6' + PDFFacts::pack(std::vector{line})}};
 }
 
 } // namespace

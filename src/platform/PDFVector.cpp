@@ -1,0 +1,159 @@
+#include "platform/PDFEngine.h"
+#include "platform/VectorPage.h"
+
+namespace {
+
+// Notices whatever an SVG file would show differently, or as a picture of its own: images,
+// shadings, masks, patterns, blending, and fonts whose letters are small pages.
+struct SimplicityWatch {
+    fz_device super;
+    bool simple;
+};
+
+SimplicityWatch* watchOf(fz_device* device) {
+    return reinterpret_cast<SimplicityWatch*>(device);
+}
+
+void checkFonts(fz_context* ctx, fz_device* device, const fz_text* text) {
+    for (const fz_text_span* span = text->head; span; span = span->next) {
+        if (fz_font_t3_procs(ctx, span->font))
+            watchOf(device)->simple = false;
+    }
+}
+
+void watchText(fz_context* ctx, fz_device* device, const fz_text* text, fz_matrix /*matrix*/,
+               fz_colorspace* /*space*/, const float* /*color*/, float /*alpha*/,
+               fz_color_params /*params*/) {
+    checkFonts(ctx, device, text);
+}
+
+void watchStroke(fz_context* ctx, fz_device* device, const fz_text* text,
+                 const fz_stroke_state* /*stroke*/, fz_matrix /*matrix*/, fz_colorspace* /*space*/,
+                 const float* /*color*/, float /*alpha*/, fz_color_params /*params*/) {
+    checkFonts(ctx, device, text);
+}
+
+void noClipText(fz_context* /*ctx*/, fz_device* device, const fz_text* /*text*/,
+                fz_matrix /*matrix*/, fz_rect /*scissor*/) {
+    watchOf(device)->simple = false;
+}
+
+void noShade(fz_context* /*ctx*/, fz_device* device, fz_shade* /*shade*/, fz_matrix /*matrix*/,
+             float /*alpha*/, fz_color_params /*params*/) {
+    watchOf(device)->simple = false;
+}
+
+void noImage(fz_context* /*ctx*/, fz_device* device, fz_image* /*image*/, fz_matrix /*matrix*/,
+             float /*alpha*/, fz_color_params /*params*/) {
+    watchOf(device)->simple = false;
+}
+
+void noImageMask(fz_context* /*ctx*/, fz_device* device, fz_image* /*image*/, fz_matrix /*matrix*/,
+                 fz_colorspace* /*space*/, const float* /*color*/, float /*alpha*/,
+                 fz_color_params /*params*/) {
+    watchOf(device)->simple = false;
+}
+
+void noClipImage(fz_context* /*ctx*/, fz_device* device, fz_image* /*image*/, fz_matrix /*matrix*/,
+                 fz_rect /*scissor*/) {
+    watchOf(device)->simple = false;
+}
+
+void noMask(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, int /*luminosity*/,
+            fz_colorspace* /*space*/, const float* /*color*/, fz_color_params /*params*/) {
+    watchOf(device)->simple = false;
+}
+
+void noGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
+             int /*isolated*/, int /*knockout*/, int /*blendMode*/, float /*alpha*/) {
+    watchOf(device)->simple = false;
+}
+
+int noTile(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_rect /*view*/,
+           float /*xStep*/, float /*yStep*/, fz_matrix /*matrix*/, int /*id*/) {
+    watchOf(device)->simple = false;
+    return 0;
+}
+
+bool isSimple(fz_context* ctx, fz_display_list* list) {
+    auto* watch = fz_new_derived_device(ctx, SimplicityWatch);
+    watch->simple = true;
+    fz_device& device = watch->super;
+    device.fill_text = watchText;
+    device.stroke_text = watchStroke;
+    device.clip_text = noClipText;
+    device.fill_shade = noShade;
+    device.fill_image = noImage;
+    device.fill_image_mask = noImageMask;
+    device.clip_image_mask = noClipImage;
+    device.begin_mask = noMask;
+    device.begin_group = noGroup;
+    device.begin_tile = noTile;
+    bool result = false;
+    fz_try(ctx) {
+        fz_run_display_list(ctx, list, &device, fz_identity, fz_infinite_rect, nullptr);
+        fz_close_device(ctx, &device);
+        result = watch->simple;
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, &device);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+    return result;
+}
+
+void writeSVG(fz_context* ctx, fz_display_list* list, fz_rect bounds, fz_buffer* buffer) {
+    fz_output* output = nullptr;
+    fz_device* device = nullptr;
+    fz_var(output);
+    fz_var(device);
+    fz_try(ctx) {
+        output = fz_new_output_with_buffer(ctx, buffer);
+        device = fz_new_svg_device(ctx, output, bounds.x1 - bounds.x0, bounds.y1 - bounds.y0,
+                                   FZ_SVG_TEXT_AS_PATH, 1);
+        fz_run_display_list(ctx, list, device, fz_translate(-bounds.x0, -bounds.y0),
+                            fz_infinite_rect, nullptr);
+        fz_close_device(ctx, device);
+        fz_close_output(ctx, output);
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, device);
+        fz_drop_output(ctx, output);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+}
+
+} // namespace
+
+QByteArray PDFPage::vectorPicture() const {
+    const auto& engine = *iDocument->iEngine;
+    struct Held {
+        fz_page* page = nullptr;
+        fz_display_list* list = nullptr;
+        fz_buffer* buffer = nullptr;
+    } held;
+    const auto drop = [&](Held* all) {
+        fz_drop_buffer(engine.context, all->buffer);
+        fz_drop_display_list(engine.context, all->list);
+        fz_drop_page(engine.context, all->page);
+    };
+    const std::unique_ptr<Held, decltype(drop)> cleanup(&held, drop);
+    engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
+        held.page = fz_load_page(ctx, &engine.document->super, iIndex);
+        held.list = fz_new_display_list_from_page(ctx, held.page);
+        if (!isSimple(ctx, held.list))
+            return;
+        held.buffer = fz_new_buffer(ctx, std::size_t{1} << 18);
+        writeSVG(ctx, held.list, fz_bound_page(ctx, held.page), held.buffer);
+    });
+    if (!held.buffer)
+        return {};
+    unsigned char* bytes = nullptr;
+    const std::size_t size = fz_buffer_storage(engine.context, held.buffer, &bytes);
+    return VectorPage::compact(
+        QByteArray::fromRawData(reinterpret_cast<const char*>(bytes), qsizetype(size)));
+}
