@@ -8,9 +8,9 @@ const PASSING = /^(?:page|thumb|large)\//;
 
 /** The files of a book that is one file: they stand in its page. */
 export class SingleFile {
-  /** Whether this book is one: only then the configuration is there before anything is loaded. */
+  /** Whether this book is one: only then the configuration was there before anything was loaded. */
   static get here() {
-    return typeof (/** @type {any} */ (window).FolveroUserConfig) === 'string';
+    return /** @type {any} */ (window).folveroConfiguration?.here === true;
   }
 
   constructor() {

@@ -11,6 +11,7 @@
 #include "cli/Terminal.h"
 #include "output/FolveroOutput.h"
 #include "output/FolveroOutputApp.h"
+#include "output/FolveroOutputWeb.h"
 #include "output/HTMLConfigInfo.h"
 #include "pages/ImportPDFOperation.h"
 #include "platform/Files.h"
@@ -18,10 +19,13 @@
 #include "platform/PlatformException.h"
 
 #include <QFileInfo>
+#include <cmath>
 #include <map>
 #include <utility>
 
 namespace {
+
+using Type = PublishOptions::Type;
 
 constexpr int importDPI = 144;
 constexpr int interruptPollMilliseconds = 25;
@@ -40,7 +44,8 @@ std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options) {
 QString bookName(const PublishOptions& options) {
     QString name = options.name;
     if (name.isNull())
-        name = options.asApp ? QFileInfo(options.pdf).completeBaseName() : QStringLiteral("index");
+        name = options.type == Type::app ? QFileInfo(options.pdf).completeBaseName()
+                                         : QStringLiteral("index");
     for (const QString& ending : {QStringLiteral(".html"), QStringLiteral(".app")}) {
         if (name.endsWith(ending))
             name.chop(ending.size());
@@ -129,13 +134,27 @@ void takePageSize(const QRectF& box, FlashTemplate& tmpl) {
     tmpl.setPropertyValue(QStringLiteral("pageHeight"), QString::number(settings.PageHeight()));
 }
 
+std::unique_ptr<FolveroOutput> makeWebOutput(const PublishOptions& options,
+                                             const std::shared_ptr<FlashPageSource>& source,
+                                             const std::shared_ptr<FlashTemplate>& tmpl,
+                                             const QString& folder, const QString& title) {
+    auto output = std::make_unique<FolveroOutputWeb>(source, tmpl, folder, bookName(options));
+    output->setTitle(title);
+    const auto progress =
+        std::make_shared<ProgressDisplay>(QStringLiteral("Making the web book"), options.quiet);
+    output->setProgress([progress](int done, int total) { progress->show(done, total); });
+    return output;
+}
+
 std::unique_ptr<FolveroOutput> makeOutput(const PublishOptions& options,
                                           const std::shared_ptr<FlashPageSource>& source,
                                           const std::shared_ptr<FlashTemplate>& tmpl,
-                                          const QString& folder) {
+                                          const QString& folder, const QString& title) {
     const QString name = bookName(options);
-    if (options.asApp)
+    if (options.type == Type::app)
         return std::make_unique<FolveroOutputApp>(source, tmpl, folder, name);
+    if (options.type == Type::web)
+        return makeWebOutput(options, source, tmpl, folder, title);
     return std::make_unique<FolveroOutput>(source, tmpl, folder, name);
 }
 
@@ -149,6 +168,23 @@ void writeBook(FolveroOutput& output, const QString& title) {
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
     if (!output.publishErrors().isEmpty())
         throw CommandError(output.publishErrors().join(u'\n'));
+}
+
+// What a web book came to.
+void reportWebBook(const FolveroOutputWeb& output, bool quiet) {
+    for (const auto& [page, reason] : output.poorPages())
+        Terminal::note(QStringLiteral("folvero: page %1 has its picture only: %2")
+                           .arg(page)
+                           .arg(reason.english()));
+    if (quiet || output.classicPageBytes() == 0)
+        return;
+    constexpr double megabyte = 1'000'000;
+    Terminal::note(
+        QStringLiteral(
+            "Pages: %1 MB with text, thumbnails and larger pictures; %2 of a plain book's")
+            .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1)
+            .arg(QStringLiteral("%1 %").arg(std::lround(100.0 * double(output.pageBytes()) /
+                                                        double(output.classicPageBytes())))));
 }
 
 // Pages that could not be drawn, and those whose file was gone before it was published.
@@ -200,7 +236,7 @@ void runPublish(const PublishOptions& options) {
     timing.imported(*source);
 
     takePageSize(firstPage, *tmpl);
-    const auto output = makeOutput(options, source, tmpl, folder.path());
+    const auto output = makeOutput(options, source, tmpl, folder.path(), title);
     output->setFlashPagesAnnotations(operation->flashPagesAnnotation());
     output->setFlashOutline(operation->flashOutline());
     writeBook(*output, title);
@@ -209,6 +245,8 @@ void runPublish(const PublishOptions& options) {
     if (!options.timingFile.isNull())
         timing.write(options.timingFile);
 
+    if (const auto* web = dynamic_cast<const FolveroOutputWeb*>(output.get()))
+        reportWebBook(*web, options.quiet);
     Terminal::print(output->outputFileName());
     reportMissingPages(*source->toPageConverter(), *output);
 }

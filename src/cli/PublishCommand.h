@@ -7,9 +7,10 @@
 struct PublishOptions {
     QString pdf;
     QString outputFolder;
-    bool asApp = false; // a Mac application instead of a folder with an HTML page
-    QString name;       // null: "index" for a page, the PDF's name for an application
-    QString title;      // null: the document's own title, or else its file name
+    enum class Type { html, app, web };
+    Type type = Type::html;
+    QString name;  // null: "index" for a page, the PDF's name for an application
+    QString title; // null: the document's own title, or else its file name
     QString pages = QStringLiteral("ALL");
     int quality = 100;
     bool links = false;

@@ -56,7 +56,8 @@ void publish(const CommandLine& line, const CLI::App& command) {
     PublishOptions options;
     options.pdf = path(line.pdf);
     options.outputFolder = path(line.outputFolder);
-    options.asApp = line.type == "app";
+    using Type = PublishOptions::Type;
+    options.type = line.type == "app" ? Type::app : line.type == "web" ? Type::web : Type::html;
     if (command.count("--name") > 0)
         options.name = path(line.name).isNull() ? QStringLiteral("") : path(line.name);
     if (command.count("--title") > 0)
@@ -88,8 +89,9 @@ void addPublish(CLI::App& app, CommandLine& line) {
         ->required();
     command
         ->add_option("--type", line.type,
-                     "html: a page with its files, for disk and web; app: a Mac application")
-        ->check(CLI::IsMember({"html", "app"}))
+                     "html: a page with its files, for disk and web; web: the same with links,\n"
+                     "contents, search and text to select; app: a Mac application")
+        ->check(CLI::IsMember({"html", "web", "app"}))
         ->type_name("TYPE")
         ->capture_default_str();
     command
@@ -111,9 +113,9 @@ void addPublish(CLI::App& app, CommandLine& line) {
         ->type_name("N")
         ->capture_default_str();
     command->add_flag("--links", line.links,
-                      "Read the links of the pages; the book does not show them yet");
+                      "Read the links of the pages; web books show them in any case");
     command->add_flag("--bookmarks", line.bookmarks,
-                      "Read the bookmarks of the document; the book does not show them yet");
+                      "Read the bookmarks of the document; web books show them in any case");
     command->add_option("--template", line.templateName, "Template of the book")
         ->type_name("NAME")
         ->capture_default_str();

@@ -97,10 +97,14 @@ bool FolveroOutput::perform(const QString& folder, const std::function<void()>& 
     } catch (const PlatformException& failure) {
         reportFailure(failure.message());
     } catch (const Cancelled&) {
-        iWasCancelled = true;
-        logger().info(QStringLiteral("publishing was cancelled"));
+        noteCancelled();
     }
     return false;
+}
+
+void FolveroOutput::noteCancelled() {
+    iWasCancelled = true;
+    logger().info(QStringLiteral("publishing was cancelled"));
 }
 
 void FolveroOutput::forgetLastRun() {
@@ -120,7 +124,7 @@ void FolveroOutput::renameInErrors(const QString& working, const QString& final)
 }
 
 void FolveroOutput::checkCancelled() const {
-    if (iIsCancelled && iIsCancelled())
+    if (isCancelled())
         throw Cancelled();
 }
 
@@ -294,8 +298,10 @@ void FolveroOutput::writeHTMLPage() {
     const QString source = iFlashTemplate ? iFlashTemplate->tmplHTMLFilePath() : QString();
     Message error;
     if (iHTMLConfig) {
-        if (!iHTMLConfig->generateHTMLFrom(source, transaction().stage(page, Phase::page), &error))
+        const QString staged = transaction().stage(page, Phase::page);
+        if (!iHTMLConfig->generateHTMLFrom(source, staged, &error))
             PublishTransaction::fail(page, error);
+        finishHTMLPage(staged);
     } else if (isReadableFile(source)) {
         transaction().copy(source, page, Copy::independent, Phase::page);
     } else {

@@ -71,7 +71,7 @@ public:
 
     QString getNormalPageURL(const FlashPage& page) const;
     QString getZoomedPageURL(const FlashPage& page) const;
-    QString getThumbPageURL(const FlashPage& page) const;
+    virtual QString getThumbPageURL(const FlashPage& page) const;
 
     const std::shared_ptr<FlashTemplate>& flashTemplate() const { return iFlashTemplate; }
     void setFlashTemplate(std::shared_ptr<FlashTemplate> value) {
@@ -100,8 +100,17 @@ public:
 
 protected:
     void forgetLastRun();
+    bool isCancelled() const { return iIsCancelled && iIsCancelled(); }
+    // Ends the run under way without a change to the folder when it was cancelled.
+    void checkCancelled() const;
+    // For a subclass that was cancelled outside of a run.
+    void noteCancelled();
     // All steps of a run; a subclass may add its own around them.
     virtual void publish();
+
+    // What a subclass changes about the HTML page before it is put in place: a file that it may
+    // write anew.
+    virtual void finishHTMLPage(const QString& /*file*/) {}
 
     // Does the work inside the run under way or, when there is none, in a run of its own on that
     // folder. False when that run failed or was cancelled.
@@ -113,6 +122,8 @@ protected:
     // book's file may not have.
     bool replaceWithCopy(const QString& source, const QString& folder, const QString& name,
                          PublishTransaction::Copy kind);
+
+    QString resourceFolder(const QString& root, const QString& name) const;
 
     // For what goes wrong outside of perform(): ends up in publishErrors() and in the log.
     void reportFailure(const Message& reason);
@@ -143,8 +154,6 @@ protected:
 private:
     using TemplateCopy = void (FlashTemplate::*)(const QString&) const;
 
-    void checkCancelled() const;
-    QString resourceFolder(const QString& root, const QString& name) const;
     QString extFileURL(const QString& key, const QString& value) const;
     void copyExtFile(const FlashTemplateProperty& property, const QString& folder);
     void copyExtFilesOfChildren(const FlashTemplateProperty& property, const QString& folder);

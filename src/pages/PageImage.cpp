@@ -1,27 +1,13 @@
 #include "pages/PageImage.h"
 
+#include "pages/Stopwatch.h"
 #include "platform/Files.h"
 #include "platform/PlatformException.h"
-
-#include <chrono>
 
 namespace {
 
 // A page of 72 points an inch becomes a picture of 144 pixels an inch.
 constexpr double pixelsPerPoint = 2.0;
-
-class Stopwatch {
-public:
-    double lap() {
-        const auto now = std::chrono::steady_clock::now();
-        const double seconds = std::chrono::duration<double>(now - iStart).count();
-        iStart = now;
-        return seconds;
-    }
-
-private:
-    std::chrono::steady_clock::time_point iStart = std::chrono::steady_clock::now();
-};
 
 } // namespace
 

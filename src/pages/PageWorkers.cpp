@@ -1,5 +1,6 @@
 #include "pages/PageWorkers.h"
 
+#include "pages/WebPageFiles.h"
 #include "platform/Bundle.h"
 #include "platform/EngineLimits.h"
 #include "platform/Files.h"
@@ -79,7 +80,7 @@ void PageWorkers::killAll() {
 std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
     const QByteArray order = QFile::encodeName(iPDFPath).toBase64() + ' ' +
                              QFile::encodeName(iFolder).toBase64() + ' ' +
-                             QByteArray::number(iQuality);
+                             QByteArray::number(iQuality) + (iForWebBook ? " web" : " pages");
     try {
         auto process = iSpares ? iSpares->take() : nullptr;
         if (!process) {
@@ -114,7 +115,7 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
             iResults.erase(found);
             return result;
         }
-        if (iStop) {
+        if (iStop || (iStopped && iStopped())) {
             killAll();
             return PageResult{Message::translate("PageFailure", "drawing it was stopped"), {}};
         }
@@ -249,9 +250,11 @@ void PageWorkers::replaceUnready(Worker& worker) {
 
 // A page counts as drawn or as given up, never half.
 void PageWorkers::removeFilesOf(int page) const {
-    const QString file = Files::join(iFolder, QStringLiteral("%1.jpg").arg(page));
-    QFile::remove(file);
-    QFile::remove(Files::workingPart(file));
+    const WebPageFiles files(iFolder, page);
+    for (const QString& file : iForWebBook ? files.made() : QStringList(files.pageFile)) {
+        QFile::remove(file);
+        QFile::remove(Files::workingPart(file));
+    }
 }
 
 void PageWorkers::handBack(Worker& worker) {

@@ -9,6 +9,7 @@
 #include <atomic>
 #include <chrono>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -33,6 +34,12 @@ public:
 
     // The worker to start instead of the one that is installed beside the running program.
     void setProgram(const QString& path) { iProgram = path; }
+
+    // A further reason to stop, asked while waiting.
+    void setStopped(std::function<bool()> stopped) { iStopped = std::move(stopped); }
+
+    // Makes what a web book has of each page beside its page file, instead of that.
+    void setForWebBook(bool on) { iForWebBook = on; }
 
     // Workers that are started already, to be taken first; none by default.
     void setSpares(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
@@ -81,9 +88,11 @@ private:
     QString iPDFPath;
     QString iFolder;
     int iQuality;
+    bool iForWebBook = false;
     std::deque<int> iWaiting; // not yet handed to a worker, ascending
     int iAwaited = 0;         // the page that the walk stands at
     const std::atomic<bool>& iStop;
+    std::function<bool()> iStopped;
     std::size_t iPageCount;
     std::chrono::milliseconds iPatience;
     int iEndedUnready = 0; // workers in a row that ended before they were ready

@@ -2,6 +2,7 @@
 
 #include "pages/PageImage.h"
 #include "pages/PageQuality.h"
+#include "pages/WebPageMaker.h"
 #include "platform/EngineLimits.h"
 #include "platform/Files.h"
 #include "platform/PlatformException.h"
@@ -11,6 +12,7 @@
 #include <QFile>
 #include <csignal>
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <malloc.h>
 #include <string>
@@ -24,13 +26,29 @@ void answerFailure(const QString& reason) {
     std::cout << "fail " << line.toStdString() << std::endl;
 }
 
-void servePages(PageImageMaker& maker, const QString& folder) {
+using Making = std::function<PageTiming(int page, const DrawControl& control)>;
+
+// What is made of the pages.
+Making makingOf(const PDFDocument& document, const QByteArrayList& order, const QString& folder) {
+    if (order.value(3) == "web") {
+        return [maker = std::make_shared<WebPageMaker>(document),
+                folder](int page, const DrawControl& control) {
+            return maker->make(page, WebPageFiles(folder, page), control);
+        };
+    }
+    const double factor = compressionFactor(order.value(2).toInt());
+    return [maker = std::make_shared<PageImageMaker>(document, factor),
+            folder](int page, const DrawControl& control) {
+        return maker->make(page, Files::join(folder, QStringLiteral("%1.jpg").arg(page)), control);
+    };
+}
+
+void servePages(const Making& make) {
     const DrawControl control{nullptr, EngineLimits::maxPageTime};
     for (std::string line; std::getline(std::cin, line);) {
         const int page = std::atoi(line.c_str());
         try {
-            const PageTiming timing =
-                maker.make(page, Files::join(folder, QStringLiteral("%1.jpg").arg(page)), control);
+            const PageTiming timing = make(page, control);
             std::cout << "ok " << timing.draw << ' ' << timing.encode << ' ' << timing.write
                       << std::endl;
         } catch (const PlatformException& failure) {
@@ -65,9 +83,9 @@ void serveDrawing() {
     seclude(path, workFolder);
     try {
         const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
-        PageImageMaker maker(*document, compressionFactor(order.value(2).toInt()));
+        const Making make = makingOf(*document, order, workFolder);
         std::cout << "ready" << std::endl;
-        servePages(maker, workFolder);
+        servePages(make);
     } catch (const PlatformException& failure) {
         answerFailure(failure.reason());
     }

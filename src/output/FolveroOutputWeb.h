@@ -1,0 +1,58 @@
+#pragma once
+
+#include "output/FolveroOutput.h"
+#include "output/WebBookFacts.h"
+#include "pages/WebPages.h"
+#include "platform/AnnotationBudget.h"
+
+#include <functional>
+
+// Writes a web book: the folder of a book whose pages take fewer bytes, and what a reader of today
+// expects beyond: links that can be clicked, contents, search, text that can be selected, a larger
+// picture for each page, thumbnails, and the whole text as a page of its own.
+class FolveroOutputWeb : public FolveroOutput {
+public:
+    using FolveroOutput::FolveroOutput;
+
+    // Plain text, shown wherever the book tells of itself; by default that of the document.
+    void setTitle(const QString& title) { iTitle = title; }
+
+    // Called while pages are made, with the number of pages done and that of all.
+    void setProgress(std::function<void(int done, int total)> progress) {
+        iProgress = std::move(progress);
+    }
+
+    void ouputTheBook() override;
+
+    QString getThumbPageURL(const FlashPage& page) const override;
+
+    // Pages of the last run that have less than they could have, and why.
+    const std::vector<std::pair<int, Message>>& poorPages() const { return iPoorPages; }
+    // Bytes of all that the last run wrote for pages: pictures, larger ones, thumbnails, text; and
+    // those of the same pages in a classic book.
+    qint64 pageBytes() const { return iPageBytes; }
+    qint64 classicPageBytes() const { return iClassicPageBytes; }
+
+protected:
+    void publish() override;
+    void finishHTMLPage(const QString& file) override;
+
+private:
+    void readFacts();
+    void describeBook();
+    void readDocumentFacts(const PDFDocument& document);
+    void writePages();
+    QString writePage(const WebPage& page, const PDFDocument* document, AnnotationBudget& budget);
+    void copyPageFile(const QString& source, const QString& folder, const QString& name);
+    void writeScript(const QString& name, const QByteArray& json);
+    void copyPlayerPart(const QString& name, const QString& type);
+    std::shared_ptr<FlashPageSource> sourceOfWebPages() const;
+
+    std::function<void(int, int)> iProgress = [](int, int) {};
+    std::unique_ptr<WebPages> iWebPages; // of the run under way
+    QString iTitle;
+    WebBookFacts iFacts;
+    std::vector<std::pair<int, Message>> iPoorPages;
+    qint64 iPageBytes = 0;
+    qint64 iClassicPageBytes = 0;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+struct WebBookFacts;
+
+// All text of a book as a page without a script, page by page: for search engines, for old
+// browsers, and for readers who want no pictures.
+class PlainTextPage {
+public:
+    // book is the address of the book's page, relative to this one.
+    PlainTextPage(const WebBookFacts& facts, const QString& book);
+
+    // The next page of the book.
+    void addPage(const QString& text);
+
+    QByteArray html() const;
+
+private:
+    const WebBookFacts& iFacts;
+    QByteArray iHTML;
+    int iPosition = 0;
+};

@@ -1,0 +1,121 @@
+#include "output/WebPageText.h"
+
+#include <QJsonArray>
+#include <QTransform>
+#include <QUrl>
+#include <cmath>
+
+namespace {
+
+int tenths(double points) {
+    constexpr double most = 1e8;
+    return int(std::lround(std::clamp(points, -most, most) * 10));
+}
+
+void append(QJsonArray& array, const QRectF& box) {
+    for (const double number : {box.x(), box.y(), box.width(), box.height()})
+        array.append(tenths(number));
+}
+
+// The nearest of the four ways in which a page can be turned, as it is drawn.
+int turnOf(int rotation) {
+    return (rotation + 45) / 90 * 90 % 360;
+}
+
+// From the page's own space to the page as it is seen, both in points.
+QTransform toSeen(const PDFPageBoxes& boxes) {
+    const QRectF& crop = boxes.crop;
+    const int turn = turnOf(boxes.rotation);
+    QTransform transform;
+    switch (turn) {
+    case 90:
+        transform = {0, 1, 1, 0, -crop.y(), -crop.x()};
+        break;
+    case 180:
+        transform = {-1, 0, 0, 1, crop.x() + crop.width(), -crop.y()};
+        break;
+    case 270:
+        transform = {0, -1, -1, 0, crop.y() + crop.height(), crop.x() + crop.width()};
+        break;
+    default:
+        transform = {1, 0, 0, -1, -crop.x(), crop.y() + crop.height()};
+        break;
+    }
+    // A page may have a unit of length of its own.
+    const double width = turn % 180 == 0 ? crop.width() : crop.height();
+    const double unit = width > 0 && boxes.display.width() > 0 ? boxes.display.width() / width : 1;
+    return transform * QTransform::fromScale(unit, unit);
+}
+
+bool mayFollow(const QString& address) {
+    const QString scheme = QUrl(address.trimmed()).scheme().toLower();
+    return scheme == QStringLiteral("http") || scheme == QStringLiteral("https") ||
+           scheme == QStringLiteral("mailto") || scheme == QStringLiteral("tel");
+}
+
+QJsonArray linksOf(const PDFPageBoxes& boxes, const std::vector<PDFAnnotation>& annotations,
+                   const WebPageText::Position& position) {
+    const QRectF page({0, 0}, boxes.display);
+    QJsonArray links;
+    for (const PDFAnnotation& annotation : annotations) {
+        if (annotation.type != QStringLiteral("Link"))
+            continue;
+        const bool toAddress = !annotation.url.isNull();
+        if (toAddress ? !mayFollow(annotation.url) : !annotation.destinationPage)
+            continue;
+        const QRectF place = WebPageText::placeOnPage(annotation.bounds, boxes).intersected(page);
+        if (place.isEmpty())
+            continue;
+        QJsonArray link;
+        append(link, place);
+        link.append(toAddress ? QJsonValue(annotation.url)
+                              : QJsonValue(position(*annotation.destinationPage)));
+        links.append(link);
+    }
+    return links;
+}
+
+QJsonArray linesOf(const std::vector<PDFTextLine>& lines) {
+    QJsonArray array;
+    for (const PDFTextLine& line : lines) {
+        QJsonArray entry;
+        append(entry, line.box);
+        entry.append(line.turn);
+        entry.append(line.rightToLeft ? 1 : 0);
+        QJsonArray words;
+        for (const PDFTextWord& word : line.words) {
+            words.append(word.text);
+            words.append(tenths(word.start));
+            words.append(tenths(word.length));
+        }
+        entry.append(words);
+        array.append(entry);
+    }
+    return array;
+}
+
+} // namespace
+
+QRectF WebPageText::placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes) {
+    return toSeen(boxes).mapRect(bounds).normalized();
+}
+
+QJsonObject WebPageText::asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
+                                const std::vector<PDFAnnotation>& annotations,
+                                const Position& position) {
+    return {{QStringLiteral("size"),
+             QJsonArray{tenths(boxes.display.width()), tenths(boxes.display.height())}},
+            {QStringLiteral("lines"), linesOf(lines)},
+            {QStringLiteral("links"), linksOf(boxes, annotations, position)}};
+}
+
+QString WebPageText::plain(const std::vector<PDFTextLine>& lines) {
+    QString text;
+    for (const PDFTextLine& line : lines) {
+        if (!text.isEmpty())
+            text += u'\n';
+        for (const PDFTextWord& word : line.words)
+            text += word.text;
+    }
+    return text;
+}

@@ -1,0 +1,28 @@
+#include "output/WebScript.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+// Outside of texts these never occur in JSON.
+QByteArray harmless(QByteArray json) {
+    return json.replace('<', "\\u003c")
+        .replace("\xe2\x80\xa8", "\\u2028")
+        .replace("\xe2\x80\xa9", "\\u2029");
+}
+
+} // namespace
+
+QByteArray WebScript::json(const QJsonArray& array) {
+    return harmless(QJsonDocument(array).toJson(QJsonDocument::Compact));
+}
+
+QByteArray WebScript::json(const QJsonObject& object) {
+    return harmless(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+QByteArray WebScript::file(const QString& name, const QByteArray& json) {
+    return "folveroData(\"" + name.toUtf8() + "\", " + json + ");\n";
+}

@@ -1,0 +1,163 @@
+#include "pages/WebPageMaker.h"
+
+#include "pages/Stopwatch.h"
+#include "platform/Files.h"
+#include "platform/PDFFacts.h"
+#include "platform/PlatformException.h"
+#include "platform/WebPEncoder.h"
+
+#include <QFileInfo>
+#include <algorithm>
+
+namespace {
+
+constexpr double normalScale = 2.0; // pixels a point, as the page file
+constexpr double largeScale = 4.0;
+constexpr double mediumScale = 3.0; // where that takes too many bytes
+
+// A drawer of thumbnails shows them at most half as wide and high, on screens of double density.
+constexpr int thumbnailWidth = 300;
+constexpr int thumbnailHeight = 256;
+constexpr float thumbnailQuality = 70;
+
+// All files of a page together against its page file alone.
+constexpr double mostBytes = 1.5;
+
+// Another format must spare a tenth to be worth it.
+constexpr double worthwhile = 0.9;
+
+// As sharp as the page file, see bench/sharpness.py.
+constexpr float normalQuality = 86;
+// A pixel of a large picture is a quarter of the size, so its faults show less.
+constexpr float largeQuality = 70;
+constexpr float leastQuality = 40;
+
+// Text and drawings repeat their pixels, photographs don't.
+constexpr double mostlyEven = 0.6;
+
+// A page of a hundred thousand lines is a drawing that a browser would take seconds for.
+constexpr qint64 largestVector = qint64{1} << 20;
+
+bool fitsWebP(const PageBitmap& bitmap) {
+    return std::max(bitmap.width(), bitmap.height()) <= WebPEncoder::maxSide;
+}
+
+void write(const QString& path, const QByteArray& data) {
+    Message error;
+    const auto* bytes = reinterpret_cast<const unsigned char*>(data.constData());
+    if (!Files::writeWorkingFile(path, {bytes, std::size_t(data.size())}, &error)) {
+        throw PlatformException(QStringLiteral("PageWriteFailed"),
+                                Message(QStringLiteral("%1: %2")).arg(path, error));
+    }
+}
+
+// The mean of the pixels that fall into each pixel of a smaller picture.
+void shrink(const PageBitmap& from, PageBitmap& to) {
+    const int components = from.components();
+    for (int y = 0; y < to.height(); ++y) {
+        const int top = int(qint64(y) * from.height() / to.height());
+        const int bottom = std::max(top + 1, int(qint64(y + 1) * from.height() / to.height()));
+        for (int x = 0; x < to.width(); ++x) {
+            const int left = int(qint64(x) * from.width() / to.width());
+            const int right = std::max(left + 1, int(qint64(x + 1) * from.width() / to.width()));
+            for (int c = 0; c < components; ++c) {
+                unsigned sum = 0;
+                for (int row = top; row < bottom; ++row) {
+                    const unsigned char* pixels = from.data() + std::ptrdiff_t(row) * from.stride();
+                    for (int column = left; column < right; ++column)
+                        sum += pixels[column * components + c];
+                }
+                const auto count = unsigned((bottom - top) * (right - left));
+                to.data()[(y * to.width() + x) * components + c] =
+                    static_cast<unsigned char>((sum + count / 2) / count);
+            }
+        }
+    }
+}
+
+} // namespace
+
+PageTiming WebPageMaker::make(int page, const WebPageFiles& files, const DrawControl& control) {
+    PageTiming timing;
+    Stopwatch watch;
+    const PDFPage drawn = iDocument.page(page - 1);
+    drawn.draw(normalScale, iBitmap, control);
+    const QByteArray text = PDFFacts::pack(drawn.text());
+    timing.draw = watch.lap();
+
+    const qint64 pageFileSize = QFileInfo(files.pageFile).size();
+    const QByteArray normal = normalPicture(pageFileSize);
+    const QByteArray small = thumbnail();
+    timing.encode = watch.lap();
+    if (!normal.isEmpty())
+        write(files.picture, normal);
+    write(files.thumbnail, small);
+    write(files.text, text);
+    timing.write = watch.lap();
+
+    // What the text takes in the book is close to what it takes packed.
+    const qint64 taken =
+        (normal.isEmpty() ? pageFileSize : normal.size()) + small.size() + text.size();
+    makeLarge(drawn, files, qint64(mostBytes * double(pageFileSize)) - taken, control, timing);
+    return timing;
+}
+
+// Nothing when it is better to stay with the page file.
+QByteArray WebPageMaker::normalPicture(qint64 pageFileSize) {
+    if (!fitsWebP(iBitmap))
+        return {};
+    const auto pays = [&](const QByteArray& data) {
+        return double(data.size()) <= worthwhile * double(pageFileSize);
+    };
+    if (WebPEncoder::evenness(iBitmap) > mostlyEven) {
+        if (QByteArray data = WebPEncoder::lossless(iBitmap); pays(data))
+            return data;
+    }
+    QByteArray data = WebPEncoder::lossy(iBitmap, normalQuality);
+    return pays(data) ? data : QByteArray();
+}
+
+QByteArray WebPageMaker::thumbnail() {
+    const double scale = std::min({1.0, double(thumbnailWidth) / iBitmap.width(),
+                                   double(thumbnailHeight) / iBitmap.height()});
+    const auto side = [&](int length) { return std::max(1, int(length * scale)); };
+    iSmall.resize(side(iBitmap.width()), side(iBitmap.height()), iBitmap.components());
+    shrink(iBitmap, iSmall);
+    return WebPEncoder::lossy(iSmall, thumbnailQuality);
+}
+
+void WebPageMaker::makeLarge(const PDFPage& page, const WebPageFiles& files, qint64 largest,
+                             const DrawControl& control, PageTiming& timing) {
+    Stopwatch watch;
+    const QByteArray vector = page.vectorPicture();
+    timing.draw += watch.lap();
+    if (!vector.isEmpty() && vector.size() <= std::min(largest, largestVector)) {
+        write(files.largeVector, vector);
+    } else {
+        const QByteArray picture = largePicture(page, largest, control);
+        if (!picture.isEmpty())
+            write(files.largePicture, picture);
+    }
+    timing.encode += watch.lap();
+}
+
+// The best that fits.
+QByteArray WebPageMaker::largePicture(const PDFPage& page, qint64 largest,
+                                      const DrawControl& control) {
+    const int normalWidth = iBitmap.width();
+    for (const double scale : {largeScale, mediumScale}) {
+        page.draw(scale, iBitmap, control);
+        // A page near the limits of a bitmap does not get any larger.
+        if (!fitsWebP(iBitmap) || iBitmap.width() <= normalWidth)
+            continue;
+        if (WebPEncoder::evenness(iBitmap) > mostlyEven) {
+            if (QByteArray data = WebPEncoder::lossless(iBitmap); data.size() <= largest)
+                return data;
+        }
+        for (const float quality : {largeQuality, leastQuality}) {
+            if (QByteArray data = WebPEncoder::lossy(iBitmap, quality); data.size() <= largest)
+                return data;
+        }
+    }
+    return {};
+}

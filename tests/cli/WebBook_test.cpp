@@ -1,0 +1,273 @@
+#include "support/Program.h"
+#include "support/TemplateLibrary.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <gtest/gtest.h>
+
+// Web books against what other programs read from the same document.
+namespace {
+
+struct Word {
+    QString text;
+    QRectF box; // points, from the top left of the page as it is seen
+};
+
+class WebBookTest : public testing::Test {
+protected:
+    QString file(const QString& name) const {
+        return iRoot.filePath(QStringLiteral("book/")) + name;
+    }
+
+    void publish(const QString& sample, const QStringList& options = {}) {
+        iPDF = Program::sample(sample);
+        const auto result = Program::run(
+            QStringList{QStringLiteral("publish"), iPDF, file({}), QStringLiteral("--type"),
+                        QStringLiteral("web"), QStringLiteral("--quiet")} +
+            options);
+        ASSERT_EQ(result.exitCode, 0) << result.errors.constData();
+    }
+
+    // The data that a script of the book hands over under its name.
+    QJsonDocument data(const QString& name) const {
+        const QByteArray script = TestFiles::read(file(QStringLiteral("files/%1.js").arg(name)));
+        const QByteArray start = "folveroData(\"" + name.toUtf8() + "\", ";
+        EXPECT_TRUE(script.startsWith(start)) << name.toStdString();
+        return QJsonDocument::fromJson(script.mid(start.size()).chopped(3));
+    }
+    QJsonObject page(int number) const {
+        return data(QStringLiteral("text/%1").arg(number)).object();
+    }
+
+    QByteArray runPoppler(const QString& program, const QStringList& arguments) const {
+        const auto result = Program::runOther(program, arguments);
+        EXPECT_EQ(result.exitCode, 0) << result.errors.constData();
+        return result.output;
+    }
+    QImage drawnByPoppler(int number) const {
+        const QString n = QString::number(number);
+        return QImage::fromData(runPoppler(
+            QStringLiteral("pdftoppm"),
+            {QStringLiteral("-r"), QStringLiteral("72"), QStringLiteral("-aa"),
+             QStringLiteral("no"), QStringLiteral("-f"), n, QStringLiteral("-l"), n, iPDF}));
+    }
+
+    QTemporaryDir iRoot;
+    QString iPDF;
+};
+
+QRectF boxFrom(const QJsonArray& numbers) {
+    const auto points = [&](int at) { return numbers[at].toInt() / 10.0; };
+    return {points(0), points(1), points(2), points(3)};
+}
+
+// Their boxes where lines run as usual.
+std::vector<Word> wordsOf(const QJsonObject& page) {
+    std::vector<Word> words;
+    for (const auto& entry : page[QStringLiteral("lines")].toArray()) {
+        const QJsonArray line = entry.toArray();
+        const QRectF box = boxFrom(line);
+        const QJsonArray parts = line[6].toArray();
+        for (int i = 0; i + 2 < parts.size(); i += 3) {
+            words.push_back({parts[i].toString().trimmed(),
+                             {box.x() + parts[i + 1].toInt() / 10.0, box.y(),
+                              parts[i + 2].toInt() / 10.0, box.height()}});
+        }
+    }
+    return words;
+}
+
+std::vector<Word> wordsFromPoppler(const QByteArray& xml) {
+    static const QRegularExpression word(QStringLiteral(
+        R"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">(.*?)</word>)re"));
+    std::vector<Word> words;
+    for (auto found = word.globalMatch(QString::fromUtf8(xml)); found.hasNext();) {
+        const auto match = found.next();
+        const auto number = [&](int at) { return match.captured(at).toDouble(); };
+        QString text = match.captured(5);
+        text.replace(QStringLiteral("&apos;"), QStringLiteral("'"))
+            .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+        words.push_back(
+            {text, QRectF(QPointF(number(1), number(2)), QPointF(number(3), number(4)))});
+    }
+    return words;
+}
+
+// Letters alone: programs disagree about marks of direction and forms of letters.
+QString letters(const QString& text) {
+    QString result;
+    for (const QChar letter : text.normalized(QString::NormalizationForm_KC)) {
+        if (letter.category() != QChar::Other_Format)
+            result += letter;
+    }
+    return result;
+}
+
+// The rectangle of that colour that lies around a place.
+QRectF areaAround(const QImage& picture, QPoint place, QRgb colour) {
+    QRect area(place, QSize(1, 1));
+    const auto is = [&](int x, int y) {
+        return picture.valid(x, y) && picture.pixel(x, y) == colour;
+    };
+    if (!is(place.x(), place.y()))
+        return {};
+    while (is(area.left() - 1, place.y()))
+        area.setLeft(area.left() - 1);
+    while (is(area.right() + 1, place.y()))
+        area.setRight(area.right() + 1);
+    while (is(area.left(), area.top() - 1))
+        area.setTop(area.top() - 1);
+    while (is(area.left(), area.bottom() + 1))
+        area.setBottom(area.bottom() + 1);
+    return area;
+}
+
+} // namespace
+
+// The document shows a coloured area beneath each link, turned pages and shifted boxes included.
+TEST_F(WebBookTest, PutsLinksWhereTheirAreasAreDrawn) {
+    publish(QStringLiteral("links.pdf"));
+    constexpr QRgb area = qRgb(0xdc, 0xe8, 0xfa);
+    int links = 0;
+    for (int number = 1; number <= 5; ++number) {
+        const QImage picture = drawnByPoppler(number);
+        const QJsonObject facts = page(number);
+        EXPECT_EQ(facts[QStringLiteral("size")],
+                  (QJsonArray{picture.width() * 10, picture.height() * 10}));
+        for (const auto& link : facts[QStringLiteral("links")].toArray()) {
+            const QRectF place = boxFrom(link.toArray());
+            // Text may stand in the middle.
+            const QRectF drawn = areaAround(
+                picture, place.topLeft().toPoint() + QPoint(2, int(place.height()) - 3), area);
+            EXPECT_EQ(drawn, place.toRect()) << number;
+            ++links;
+        }
+    }
+    EXPECT_GE(links, 12);
+}
+
+TEST_F(WebBookTest, MapsPagesToTheirPositionsWhenOthersAreLeftOut) {
+    publish(QStringLiteral("links.pdf"), {QStringLiteral("--pages"), QStringLiteral("2-4")});
+    EXPECT_EQ(data(QStringLiteral("web/book"))[QStringLiteral("numbers")], (QJsonArray{2, 3, 4}));
+    const auto targets = [&](int number) {
+        QJsonArray array;
+        for (const auto& link : page(number)[QStringLiteral("links")].toArray())
+            array.append(link[4]);
+        return array;
+    };
+    // Page 1 of the document is not in the book.
+    EXPECT_EQ(targets(3),
+              (QJsonArray{QStringLiteral("https://www.example.org/books?page=1&size=2"), 0}));
+    EXPECT_FALSE(QFileInfo::exists(file(QStringLiteral("files/text/1.js"))));
+    EXPECT_TRUE(QFileInfo::exists(file(QStringLiteral("files/large/2.svg"))));
+}
+
+TEST_F(WebBookTest, HasTheWordsWhereAnotherProgramFindsThem) {
+    publish(QStringLiteral("sample.pdf"));
+    std::size_t words = 0;
+    for (const int number : {4, 5, 14}) {
+        const QString n = QString::number(number);
+        const auto others = wordsFromPoppler(runPoppler(
+            QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), QStringLiteral("-f"), n,
+                                          QStringLiteral("-l"), n, iPDF, QStringLiteral("-")}));
+        const auto own = wordsOf(page(number));
+        for (const Word& other : others) {
+            const auto found = std::find_if(own.begin(), own.end(), [&](const Word& word) {
+                return letters(word.text) == letters(other.text) &&
+                       std::abs(word.box.left() - other.box.left()) < 1.5 &&
+                       std::abs(word.box.right() - other.box.right()) < 1.5 &&
+                       std::abs(word.box.center().y() - other.box.center().y()) < 3;
+            });
+            EXPECT_TRUE(found != own.end()) << number << ' ' << other.text.toStdString();
+        }
+        EXPECT_EQ(own.size(), others.size());
+        words += own.size();
+    }
+    EXPECT_GT(words, 400U);
+}
+
+TEST_F(WebBookTest, ReadsScriptsOfAllDirections) {
+    publish(QStringLiteral("cjk-rtl.pdf"));
+    const QJsonArray texts = data(QStringLiteral("search/text")).array();
+    ASSERT_EQ(texts.size(), 6);
+    for (int number = 1; number <= 6; ++number) {
+        const QString n = QString::number(number);
+        const QByteArray other =
+            runPoppler(QStringLiteral("pdftotext"), {QStringLiteral("-f"), n, QStringLiteral("-l"),
+                                                     n, iPDF, QStringLiteral("-")});
+        // Where a mark or a blank goes between the two directions is where programs differ.
+        const auto sorted = [](const QString& text) {
+            QString result;
+            for (const QChar letter : letters(text)) {
+                if (letter.isLetterOrNumber())
+                    result += letter;
+            }
+            std::sort(result.begin(), result.end());
+            return result.toStdString();
+        };
+        EXPECT_EQ(sorted(texts[number - 1].toString()), sorted(QString::fromUtf8(other))) << number;
+    }
+    const auto lines = [&](int position) {
+        return texts[position - 1].toString().split(u'\n').mid(1);
+    };
+    EXPECT_EQ(lines(3),
+              (QStringList{QStringLiteral("ページをめくる本"), QStringLiteral("朝の光が川に落ちる"),
+                           QStringLiteral("カタカナとひらがな")}));
+    EXPECT_EQ(
+        lines(5),
+        (QStringList{QStringLiteral("ספר שאפשר לדפדף בו"), QStringLiteral("אור הבוקר על הנהר"),
+                     QStringLiteral("עמוד 12 מתוך 48"), QStringLiteral("נייר, דיו ו-PDF")}));
+    EXPECT_EQ(
+        lines(6),
+        (QStringList{QStringLiteral("كتاب تقلب صفحاته"), QStringLiteral("ضوء الصباح على النهر"),
+                     QStringLiteral("الصفحة 12 من 48"), QStringLiteral("ورق وحبر و PDF")}));
+}
+
+TEST_F(WebBookTest, TakesNoMoreThanHalfAsManyBytesAgain) {
+    publish(QStringLiteral("sample.pdf"));
+    const QString classic = iRoot.filePath(QStringLiteral("classic"));
+    ASSERT_EQ(Program::run({QStringLiteral("publish"), iPDF, classic, QStringLiteral("--quiet")})
+                  .exitCode,
+              0);
+    const auto bytes = [](const QString& folder) {
+        qint64 sum = 0;
+        QDir files(folder);
+        for (const QFileInfo& info : files.entryInfoList(QDir::Files))
+            sum += info.size();
+        for (const QString& name : files.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            for (const QFileInfo& info : QDir(files.filePath(name)).entryInfoList(QDir::Files))
+                sum += info.size();
+        }
+        return double(sum);
+    };
+    EXPECT_LT(bytes(file(QStringLiteral("files"))),
+              1.5 * bytes(classic + QStringLiteral("/files")));
+    for (int number = 1; number <= 18; ++number) {
+        EXPECT_TRUE(QFileInfo::exists(file(QStringLiteral("files/thumb/%1.webp").arg(number))))
+            << number;
+    }
+}
+
+TEST_F(WebBookTest, TellsOfItselfWithoutLettingTextsOutOfTheirPlaces) {
+    publish(QStringLiteral("hostile.pdf"));
+    for (const QString& name :
+         {QStringLiteral("index.html"), QStringLiteral("text.html"),
+          QStringLiteral("files/web/book.js"), QStringLiteral("files/search/text.js")}) {
+        const QByteArray text = TestFiles::read(file(name));
+        EXPECT_FALSE(text.isEmpty()) << name.toStdString();
+        EXPECT_FALSE(text.contains("<img src=x")) << name.toStdString();
+        EXPECT_FALSE(text.contains("</title><script")) << name.toStdString();
+    }
+    const QByteArray page = TestFiles::read(file(QStringLiteral("index.html")));
+    const QByteArray start = "<script type=\"application/ld+json\">";
+    const qsizetype from = page.indexOf(start) + start.size();
+    const QByteArray json = page.mid(from, page.indexOf("</script>", from) - from);
+    EXPECT_EQ(QJsonDocument::fromJson(json)[QStringLiteral("@type")], QStringLiteral("Book"));
+}
