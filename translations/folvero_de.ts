@@ -171,6 +171,10 @@
         <source>There is a folder of that name</source>
         <translation>Es gibt einen Ordner dieses Namens</translation>
     </message>
+    <message>
+        <source>the player is not installed</source>
+        <translation>der Player ist nicht installiert</translation>
+    </message>
 </context>
 <context>
     <name>ImportPDFOperation</name>
@@ -567,6 +571,10 @@
         <source>Opens the folder in the file manager</source>
         <translation>Öffnet den Ordner im Dateimanager</translation>
     </message>
+    <message>
+        <source>Web &amp;book: with search, links, contents and text to copy</source>
+        <translation>Web&amp;buch: mit Suche, Links, Inhalt und Text zum Kopieren</translation>
+    </message>
 </context>
 <context>
     <name>OutputWindowDelegate</name>
@@ -598,6 +606,10 @@
     <message>
         <source>The pictures of these pages have gone: %1. Import the document again, then publish once more.</source>
         <translation>Die Bilder dieser Seiten sind nicht mehr da: %1. Importieren Sie das Dokument noch einmal und veröffentlichen Sie dann neu.</translation>
+    </message>
+    <message>
+        <source>Making the web book…</source>
+        <translation>Das Webbuch entsteht …</translation>
     </message>
 </context>
 <context>

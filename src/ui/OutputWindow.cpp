@@ -43,9 +43,12 @@ QWidget* OutputWindow::typeRow() {
     mOutputType = new QButtonGroup(this);
     auto* html = new QRadioButton(tr("&Web page in a folder, for every computer and the web"));
     auto* app = new QRadioButton(tr("Application for the &Mac"));
+    auto* web = new QRadioButton(tr("Web &book: with search, links, contents and text to copy"));
     mOutputType->addButton(html, htmlBook);
+    mOutputType->addButton(web, webBook);
     mOutputType->addButton(app, application);
     layout->addWidget(html);
+    layout->addWidget(web);
     layout->addWidget(app);
     return row;
 }

@@ -12,7 +12,7 @@ class OutputWindow : public Sheet {
 
 public:
     // The ids of the kinds of book.
-    enum OutputType { htmlBook = 0, application = 1 };
+    enum OutputType { htmlBook = 0, application = 1, webBook = 2 };
 
     explicit OutputWindow(QWidget* parent = nullptr);
 

@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "output/FolveroOutputApp.h"
+#include "output/FolveroOutputWeb.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
@@ -9,9 +10,11 @@
 #include "ui/Panels.h"
 
 #include <QButtonGroup>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStandardPaths>
@@ -101,7 +104,31 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() const {
         return std::make_unique<FolveroOutputApp>(iFlashPageSource, iFlashTmpl, folder, name);
     if (!QFileInfo::exists(folder))
         QDir().mkdir(folder);
+    if (AppSettings::shareInstance().outputType() == OutputWindow::webBook)
+        return makeWebOutput(folder, name);
     return std::make_unique<FolveroOutput>(iFlashPageSource, iFlashTmpl, folder, name);
+}
+
+// Pages are drawn once more, which takes as long as an import.
+std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString& folder,
+                                                                   const QString& name) const {
+    auto output = std::make_unique<FolveroOutputWeb>(iFlashPageSource, iFlashTmpl, folder, name);
+    output->setTitle(AppSettings::shareInstance().lastOutputFileTitle());
+    const auto dialog = std::make_shared<QProgressDialog>(iWindow);
+    constexpr int patienceMilliseconds = 400;
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->setMinimumDuration(patienceMilliseconds);
+    dialog->setLabelText(tr("Making the web book…"));
+    dialog->setValue(0);
+    output->setProgress([dialog](int done, int total) {
+        dialog->setMaximum(total);
+        dialog->setValue(done);
+    });
+    output->setCancelled([dialog] {
+        QCoreApplication::processEvents();
+        return dialog->wasCanceled();
+    });
+    return output;
 }
 
 void OutputWindowDelegate::onPublish() {
@@ -124,6 +151,8 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     output.setFlashPagesAnnotations(iFlashPagesAnnotations);
     output.setFlashOutline(iFlashOutline);
     output.ouputTheBook();
+    if (output.wasCancelled())
+        return;
     const QString result = output.outputFileName();
     if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
         const QString cause =

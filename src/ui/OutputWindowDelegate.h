@@ -61,6 +61,7 @@ private:
     void showState();
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput() const;
+    std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name) const;
     void publish(FolveroOutput& output);
     void endSheet(int returnCode);
 

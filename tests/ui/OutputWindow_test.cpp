@@ -2,6 +2,7 @@
 #include "ui/OutputWindowDelegate.h"
 
 #include "app/AppSettings.h"
+#include "platform/Bundle.h"
 #include "platform/PlatformException.h"
 #include "support/PublishedBook.h"
 #include "support/RecordedLog.h"
@@ -128,6 +129,23 @@ TEST_F(PublishSheet, PublishesAnApplication) {
     EXPECT_TRUE(opened.isEmpty()) << "the answer was no";
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_EQ(AppSettings().outputType(), OutputWindow::application);
+}
+
+TEST_F(PublishSheet, PublishesAWebBook) {
+    for (const char* part : {"web.js", "web.css"}) {
+        const QString folder = Bundle::resourcePath() + text("/AppFiles/Web/");
+        ASSERT_TRUE(QDir().mkpath(folder));
+        TestFiles::write(folder + text(part), part);
+    }
+    open();
+    window().mOutputType->button(OutputWindow::webBook)->click();
+    click(window().btnPublish);
+    EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
+    EXPECT_EQ(book.read(text("files/page/1.jpg")), "first");
+    EXPECT_EQ(book.read(text("files/web.js")), "web.js");
+    EXPECT_TRUE(book.read(text("text.html")).contains("Tea &amp; cake"));
+    EXPECT_FALSE(book.exists(text("book.swf")));
+    EXPECT_EQ(AppSettings().outputType(), OutputWindow::webBook);
 }
 
 TEST_F(PublishSheet, RemembersTheChoicesAlsoWhenPublishingFails) {
