@@ -91,7 +91,8 @@ export class Links {
     const reach = event.pointerType === 'mouse' ? 0 : FINGER;
     const link = this.#nearest(event.clientX, event.clientY, reach);
     if (!link) return false;
-    if (link.hasAttribute('aria-disabled')) this.tips.follow(link);
+    // A finger that has gone up has left everything, which takes tips away.
+    if (link.hasAttribute('aria-disabled')) setTimeout(() => this.tips.follow(link));
     const { ctrlKey, shiftKey, metaKey } = event;
     link.dispatchEvent(new MouseEvent('click', { bubbles: true, cancelable: true, ctrlKey, shiftKey, metaKey, view: window }));
     return true;

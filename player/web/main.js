@@ -38,11 +38,23 @@ function barButton(name, key, fold, say) {
 }
 
 /**
+ * The first thing that is reached by key, for whom pages that turn are no help; unseen until then.
+ * @param {HTMLElement} root
+ * @param {string} address
+ * @param {string} words
+ */
+function addTextLink(root, address, words) {
+  const link = /** @type {HTMLAnchorElement} */ (make('a', 'text-link', words));
+  link.href = address;
+  root.prepend(link);
+}
+
+/**
  * @param {any} parts of the player
  * @param {Facts} facts
  */
 function addToBook(parts, facts) {
-  const { toolbar, commands, gestures, turner, book, say } = parts;
+  const { root, toolbar, commands, gestures, turner, book, say } = parts;
   const texts = new PageTexts(files, facts);
   const layers = new Layers(parts, texts);
   layers.fillers.push(addTextLayer);
@@ -65,6 +77,7 @@ function addToBook(parts, facts) {
     commands.search = () => searching.panel.toggle();
     toolbar.add(button, 'thumbs');
   }
+  if (facts.textPage) addTextLink(root, facts.textPage, say('textPage'));
   if (facts.labels) toolbar.box.inputMode = 'text';
   layers.followers.push(() => {
     const idle = window.requestIdleCallback ?? ((/** @type {() => void} */ act) => setTimeout(act, 60));
@@ -81,7 +94,7 @@ page.folveroExtensions.push(async (/** @type {any} */ early) => {
   const { config, say, learn } = early;
   learn(WEB_WORDS);
   await single?.complete;
-  const facts = await asked.then((raw) => new Facts(raw, config.pages.length), () => null);
+  const facts = await asked.then((raw) => new Facts(raw, config.pages.length)).catch(() => null);
   // Without them the book is still one to turn.
   if (!facts) return undefined;
   config.labels = facts.labels;

@@ -103,6 +103,9 @@ test('all of a page is reached by key, in the order in which it is read', async 
   const order = await book.page.locator('.page-link').evaluateAll((all) => all.map((one) => `${one.closest('.over').ariaLabel}: ${one.ariaLabel}`));
   assert.deepEqual(order, ['Page ii (2): text', 'Page ii (2): dead link, This link leads to a page that is not in this book', 'Page ii (2): page, Page i (1)',
     'Page 3: text', 'Page 3: dead link, This link leads to a page that is not in this book', 'Page 3: page, Page i (1)']);
+  await book.page.keyboard.press('Tab');
+  assert.deepEqual(await book.page.evaluate(() => [document.activeElement.textContent, document.activeElement.getAttribute('href'),
+    document.activeElement.offsetWidth > 100]), ['Read as plain text', 'text.html', true]);
   await book.page.locator('.page-link').nth(1).focus();
   await book.page.keyboard.press('Tab');
   await book.page.keyboard.press('Enter');

@@ -272,6 +272,10 @@ test('a link that leads nowhere tells so and does nothing', async () => {
     assert.match(await book.page.locator('.tip').innerText(), /not in this book/);
   }
   assert.deepEqual(await book.pages(), [2, 3]);
+  const phone = await open({ pages: LINKED, hash: '#page=2', view: PHONE });
+  await link(phone, /^to a page/).tap({ force: true });
+  await phone.page.waitForFunction(() => /not in this book/.test(document.querySelector('.tip:not([hidden])')?.textContent));
+  assert.deepEqual(await phone.pages(), [2]);
   assert.equal(await book.page.evaluate(() => window.broken), undefined);
   assert.equal(await link(book, /mail us/).getAttribute('href'), 'mailto:a@example.org');
 });
