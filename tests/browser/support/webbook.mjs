@@ -69,8 +69,8 @@ export async function makeWebBook(folder, description) {
   }
   for (const [name, value] of Object.entries(data)) await writeFile(path.join(files, `${name}.js`), script(name, value));
   for (const [name, text] of Object.entries(parts)) await writeFile(path.join(files, name), text);
-  const tags = '<script src="files/web.js"></script>\n<link rel="stylesheet" href="files/web.css">\n';
-  await writeFile(page, html.replace(/<script>/, () => tags + '<script>'));
+  const tags = '<link rel="stylesheet" href="files/web.css">\n<script src="files/web.js"></script>\n';
+  await writeFile(page, html.replace('</head>', () => `${tags}</head>`));
   return folder;
 }
 
@@ -88,7 +88,6 @@ async function inlined(html, files, parts, data) {
   }
   return html
     .replace('<head>', () => `<head>\n<script>window.FolveroUserConfig = "${groups.base64}";</script>`)
-    .replace('<meta name="viewport"', () => `<script>${parts['web.js']}</script>\n<meta name="viewport"`)
-    .replace('</style>', () => `</style>\n<style>${parts['web.css']}</style>`)
+    .replace('</head>', () => `<style>${parts['web.css']}</style>\n<script>${parts['web.js']}</script>\n</head>`)
     .replace('</body>', () => `${[...json, ...pictures].join('\n')}\n</body>`);
 }
