@@ -21,3 +21,10 @@ endif()
 option(FOLVERO_FUZZ "Build the fuzz harnesses; the preset \"fuzz\" sets what else that takes" OFF)
 set(FOLVERO_ASSETS_OF "" CACHE PATH
     "Build no more than the core, with the resources and sample documents of this build folder")
+
+# Half of the time of a compilation goes into the same headers each time.
+function(folvero_precompile target)
+    target_precompile_headers(${target} PRIVATE ${ARGN} <QByteArray> <QDir> <QFile> <QFileInfo>
+        <QRectF> <QString> <QStringList> <algorithm> <atomic> <functional> <map> <memory> <optional>
+        <string> <vector>)
+endfunction()

@@ -9,11 +9,6 @@ endforeach()
 add_custom_target(resources)
 add_custom_target(sample-pdfs)
 
-# Half of the time of a compilation goes into the same headers each time. Ordinary builds do without
-# this, so that a header that a file forgets to include is noticed.
-function(folvero_precompile target)
-    target_precompile_headers(${target} PRIVATE ${ARGN} <QByteArray> <QDir> <QFile> <QFileInfo>
-        <QRectF> <QString> <QStringList> <algorithm> <atomic> <functional> <map> <memory> <optional>
-        <string> <vector>)
-endfunction()
+# In ordinary builds the core does without this, so that a header that a file forgets to include is
+# noticed.
 folvero_precompile(folvero-core <pugixml.hpp>)
