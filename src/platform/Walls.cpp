@@ -1,7 +1,6 @@
 #include "platform/Walls.h"
 
 #ifdef __linux__
-#include <QDir>
 #include <QFile>
 #include <array>
 #include <cerrno>
@@ -10,7 +9,6 @@
 #include <ctime>
 #include <fcntl.h>
 #include <linux/landlock.h>
-#include <poll.h>
 #include <seccomp.h>
 #include <sys/mman.h>
 #include <sys/prctl.h>
@@ -79,39 +77,24 @@ public:
         return done;
     }
 
-    bool enforce() const {
-        return iDescriptor >= 0 && ::syscall(SYS_landlock_restrict_self, iDescriptor, 0) == 0;
-    }
+    void enforce() const { ::syscall(SYS_landlock_restrict_self, iDescriptor, 0); }
 
 private:
     int iDescriptor = -1;
     bool iTruncates;
 };
 
-// A thread that has been waited for may show a moment longer.
-bool isOnlyThread() {
-    constexpr int patienceMilliseconds = 100;
-    const QDir threads(QStringLiteral("/proc/self/task"));
-    for (int waited = 0; waited < patienceMilliseconds; ++waited) {
-        if (threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() == 1)
-            return true;
-        ::poll(nullptr, 0, 1);
-    }
-    return false;
-}
-
-bool closeOffFiles(const Walls::Needs& needs) {
+void closeOffFiles(const Walls::Needs& needs) {
     const long version =
         ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
-        return false;
+        return;
     const Ruleset rules(static_cast<int>(version));
     // What can't be opened now can't be opened later either, which then gets its own error.
     rules.allow(needs.file, Access::readFile);
     if (!needs.workFolder.isNull())
         rules.allow(needs.workFolder, Access::workFolder);
-    const bool alone = isOnlyThread();
-    return rules.enforce() && alone;
+    rules.enforce();
 }
 
 // All that drawing, reading and the C library call, on machines of 64 and of 32 bits. Whatever is
@@ -216,9 +199,9 @@ public:
     CallFilter(const CallFilter&) = delete;
     CallFilter& operator=(const CallFilter&) = delete;
 
-    bool enforce() {
+    void enforce() {
         if (!iFilter || ::seccomp_attr_set(iFilter, SCMP_FLTATR_CTL_TSYNC, 1) != 0)
-            return false;
+            return;
         for (const char* name : harmlessCalls)
             allow(name);
 #ifdef FOLVERO_SANITIZED
@@ -235,7 +218,7 @@ public:
         allow("prlimit64", scmp_arg_cmp{0, SCMP_CMP_EQ, 0, 0}, scmp_arg_cmp{2, SCMP_CMP_EQ, 0, 0});
         // A process may abort itself.
         allow("tgkill", scmp_arg_cmp{0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(::getpid()), 0});
-        return ::seccomp_load(iFilter) == 0;
+        ::seccomp_load(iFilter);
     }
 
 private:
@@ -282,22 +265,18 @@ void closeStandardError() {
 
 } // namespace
 
-Walls::Strength Walls::raise(const Needs& needs) {
+void Walls::raise(const Needs& needs) {
     ::tzset(); // reads a file, once
     setLimits(needs);
     closeStandardError();
     if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
-        return {};
-    Strength strength;
-    strength.files = closeOffFiles(needs);
-    strength.calls = CallFilter().enforce();
-    return strength;
+        return;
+    closeOffFiles(needs);
+    CallFilter().enforce();
 }
 
 #else
 
-Walls::Strength Walls::raise(const Needs& /*needs*/) {
-    return {};
-}
+void Walls::raise(const Needs& /*needs*/) {}
 
 #endif

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <cstddef>
-#include <optional>
 
 // Walls around a process that reads files made by strangers: once they are up, whoever takes the
 // process over can still compute, and do little else. They stay up for good.
@@ -16,16 +15,9 @@ struct Needs {
     std::size_t fileSize{0}; // bytes that a file may grow to; 0 for no limit
 };
 
-// How far a system goes along.
-struct Strength {
-    bool files = false; // only the needed ones can be opened
-    bool calls = false; // no network, no other program, no signals to others
-};
-
 // Takes away all but that: other files, the network, starting programs, memory without end, and the
 // standard error stream, which may be a terminal. A system that knows no such walls leaves the
-// process as it is, which the result tells. To be called while there is one thread: files are not
-// closed off from others, which the result tells as well.
-Strength raise(const Needs& needs);
+// process as it is. To be called while there is one thread: files are not closed off from others.
+void raise(const Needs& needs);
 
 } // namespace Walls
