@@ -65,16 +65,10 @@ OpenedPDF openDocument(const QString& path) {
     return opened;
 }
 
-QString bookTitle(const PublishOptions& options, const PDFDocument& document) {
+QString bookTitle(const PublishOptions& options, const ImportPDFOperation& imported) {
     if (!options.title.isNull())
         return options.title;
-    QString own;
-    try {
-        own = document.information("Title").trimmed();
-    } catch (const PlatformException& failure) {
-        Terminal::note(
-            QStringLiteral("folvero: %1: no title: %2").arg(options.pdf, failure.reason()));
-    }
+    const QString& own = imported.documentTitle();
     return own.isEmpty() ? QFileInfo(options.pdf).completeBaseName() : own;
 }
 
@@ -111,22 +105,9 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
     return source;
 }
 
-// That of the first page, or of the first one that can be read.
-QRectF firstCropBox(const PDFDocument& document) {
-    for (int i = 0;; ++i) {
-        try {
-            return document.page(i).cropBox();
-        } catch (const PlatformException& failure) {
-            const bool isThePagesFault = failure.name() == QStringLiteral("PDFPageUnreadable");
-            if (!isThePagesFault || i + 1 == document.pageCount()) {
-                throw CommandError(QStringLiteral("%1: %2").arg(document.path(), failure.reason()));
-            }
-        }
-    }
-}
-
 // The book's page size is that of the document's first page; it also goes into the template.
-void takePageSize(const QRectF& box, FlashTemplate& tmpl) {
+void takePageSize(const ImportPDFOperation& imported, FlashTemplate& tmpl) {
+    const QRectF box = imported.firstCropBox().value_or(QRectF());
     auto& settings = AppSettings::shareInstance();
     settings.setPageWidth(int(box.width()));
     settings.setPageHeight(int(box.height()));
@@ -217,10 +198,6 @@ void runPublish(const PublishOptions& options) {
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::note(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
-    // Before links and bookmarks are read: these may break the process that reads too often for
-    // more.
-    const QRectF firstPage = firstCropBox(*document);
-    const QString title = bookTitle(options, *document);
     // Until here a signal ends the program at once, as it should: nothing is there to clear away.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
@@ -235,7 +212,8 @@ void runPublish(const PublishOptions& options) {
     const auto source = importedPages(*operation);
     timing.imported(*source);
 
-    takePageSize(firstPage, *tmpl);
+    takePageSize(*operation, *tmpl);
+    const QString title = bookTitle(options, *operation);
     const auto output = makeOutput(options, source, tmpl, folder.path(), title);
     output->setFlashPagesAnnotations(operation->flashPagesAnnotation());
     output->setFlashOutline(operation->flashOutline());

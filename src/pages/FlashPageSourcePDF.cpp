@@ -5,6 +5,7 @@
 #include "platform/PlatformException.h"
 
 #include <QScopeGuard>
+#include <utility>
 
 FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi,
                                        int quality, OpenedPDF opened, std::function<bool()> stopped)
@@ -31,9 +32,17 @@ void FlashPageSourcePDF::postProgress(std::size_t step, const char* type) const 
          {QStringLiteral("type"), QString::fromLatin1(type)}});
 }
 
+void FlashPageSourcePDF::startDrawing() {
+    if (!std::exchange(iIsDrawing, true))
+        iToPageConverter->drawAhead(iNeedToImportPages, stopFlag());
+}
+
 void FlashPageSourcePDF::generatePages() {
-    iToPageConverter->drawAhead(iNeedToImportPages, stopFlag());
-    const auto end = qScopeGuard([this] { iToPageConverter->endDrawingAhead(); });
+    startDrawing();
+    const auto end = qScopeGuard([this] {
+        iToPageConverter->endDrawingAhead();
+        iIsDrawing = false;
+    });
     for (std::size_t i = 1; i - 1 < iNeedToImportPages.size() && !stop(); ++i) {
         const int number = iNeedToImportPages[i - 1];
         auto page = std::make_shared<FlashPage>();

@@ -30,6 +30,9 @@ public:
         return iToPageConverter;
     }
 
+    // Lets page workers begin, so that something else can be done until generatePages().
+    void startDrawing();
+
     // Draws the pages in order. A page that can't be drawn is listed all the same, with a file that
     // does not exist. Throws PlatformException for a page that the document lacks.
     void generatePages() override;
@@ -55,4 +58,5 @@ private:
     std::shared_ptr<PDFToSWFPageConverter> iToPageConverter;
     std::vector<int> iNeedToImportPages;
     Message iOpenError;
+    bool iIsDrawing = false;
 };

@@ -14,6 +14,17 @@ const Log& operationLog() {
     return log;
 }
 
+QRectF firstReadableCropBox(const PDFDocument& document) {
+    for (int i = 0;; ++i) {
+        try {
+            return document.page(i).cropBox();
+        } catch (const PlatformException& failure) {
+            if (failure.name() != QStringLiteral("PDFPageUnreadable"))
+                throw;
+        }
+    }
+}
+
 Message aboutFile() {
     return QStringLiteral("%1: %2");
 }
@@ -83,7 +94,9 @@ void ImportPDFOperation::importPages() {
             [stopped = iStopReading] { return stopped->load(); }));
         if (!iFlashPageSource->openError().isNull())
             iFailures << iFlashPageSource->openError();
-        readFirstCropBox();
+        iFlashPageSource->startDrawing();
+        if (const auto document = iFlashPageSource->toPageConverter()->PDFDoc())
+            readFirstFacts(*document);
         operationLog().debug(QStringLiteral("before generate pages"));
         iFlashPageSource->generatePages();
         operationLog().debug(QStringLiteral("after generate pages"));
@@ -100,13 +113,12 @@ void ImportPDFOperation::importPages() {
     }
 }
 
-// Before anything else: what is read later may break the process that reads, too often for more.
-void ImportPDFOperation::readFirstCropBox() {
-    const auto document = iFlashPageSource->toPageConverter()->PDFDoc();
-    if (!document)
-        return;
+// Before links and bookmarks, which may break the process that reads too often for more; while the
+// first pages are drawn, since it takes as long.
+void ImportPDFOperation::readFirstFacts(const PDFDocument& document) {
     try {
-        iFirstCropBox = document->page(0).cropBox();
+        iFirstCropBox = firstReadableCropBox(document);
+        iDocumentTitle = document.information("Title").trimmed();
     } catch (const PlatformException& failure) {
         operationLog().warn(failure.reason());
     }

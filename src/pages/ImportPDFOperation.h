@@ -38,8 +38,10 @@ public:
     }
     std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
 
-    // Of the document's first page, or none when it can't be read.
+    // Of the document's first page that can be read, or none.
     const std::optional<QRectF>& firstCropBox() const { return iFirstCropBox; }
+    // What the document calls itself, or an empty text.
+    const QString& documentTitle() const { return iDocumentTitle; }
 
     // What went wrong, in words for the user, one text per part that failed.
     const Messages& failures() const { return iFailures; }
@@ -49,7 +51,7 @@ private:
     void clearResults();
     void importStages();
     void importPages();
-    void readFirstCropBox();
+    void readFirstFacts(const PDFDocument& document);
     void noteThatNothingWasDrawn();
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);
@@ -62,6 +64,7 @@ private:
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotation;
     std::shared_ptr<FlashOutline> iFlashOutline;
     std::optional<QRectF> iFirstCropBox;
+    QString iDocumentTitle;
     int iDPI;
     int iQuality;
     QString iPDFPath;
