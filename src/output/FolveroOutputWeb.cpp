@@ -27,17 +27,12 @@ const Log& logger() {
     return log;
 }
 
-QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // The file comes from a process that has read a stranger's document.
 std::vector<PDFTextLine> textFrom(const QString& path) {
     if (path.isNull())
         return {};
     try {
-        return PDFFacts::unpackTextLines(contentsOf(path));
+        return PDFFacts::unpackTextLines(Files::contents(path));
     } catch (const PlatformException& failure) {
         logger().warn(QStringLiteral("%1: %2").arg(path, failure.reason()));
         return {};
@@ -248,17 +243,14 @@ void FolveroOutputWeb::copyPageFile(const QString& source, const QString& folder
 }
 
 QString FolveroOutputWeb::getThumbPageURL(const FlashPage& page) const {
-    if (iWebPages) {
-        for (const WebPage& entry : iWebPages->pages()) {
-            if (entry.number == page.pageIndex() && !entry.thumbnail.isNull())
-                return QStringLiteral("thumb/%1.webp").arg(page.pageIndex());
-        }
-    }
-    return getNormalPageURL(page);
+    const int position = iWebPages ? iFacts.positionOf(page.pageIndex()) : 0;
+    const bool hasOne =
+        position > 0 && !iWebPages->pages()[std::size_t(position) - 1].thumbnail.isNull();
+    return hasOne ? QStringLiteral("thumb/%1.webp").arg(page.pageIndex()) : getNormalPageURL(page);
 }
 
 void FolveroOutputWeb::finishHTMLPage(const QString& file) {
-    QByteArray html = contentsOf(file);
+    QByteArray html = Files::contents(file);
     const qsizetype headEnd = html.indexOf("</head>");
     if (headEnd < 0)
         return;

@@ -29,6 +29,4 @@ struct WebBookFacts {
     QJsonObject forPlayer(const FlashOutline* outline) const;
     // What the head of the HTML page says beyond title, keywords and description.
     QByteArray headMarkup() const;
-    // A description for people, plain text; empty when the document has none.
-    QString description() const { return subject; }
 };

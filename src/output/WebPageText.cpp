@@ -2,7 +2,7 @@
 
 #include <QJsonArray>
 #include <QTransform>
-#include <QUrl>
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -47,12 +47,6 @@ QTransform toSeen(const PDFPageBoxes& boxes) {
     return transform * QTransform::fromScale(unit, unit);
 }
 
-bool mayFollow(const QString& address) {
-    const QString scheme = QUrl(address.trimmed()).scheme().toLower();
-    return scheme == QStringLiteral("http") || scheme == QStringLiteral("https") ||
-           scheme == QStringLiteral("mailto") || scheme == QStringLiteral("tel");
-}
-
 QJsonArray linksOf(const PDFPageBoxes& boxes, const std::vector<PDFAnnotation>& annotations,
                    const WebPageText::Position& position) {
     const QRectF page({0, 0}, boxes.display);
@@ -61,7 +55,7 @@ QJsonArray linksOf(const PDFPageBoxes& boxes, const std::vector<PDFAnnotation>& 
         if (annotation.type != QStringLiteral("Link"))
             continue;
         const bool toAddress = !annotation.url.isNull();
-        if (toAddress ? !mayFollow(annotation.url) : !annotation.destinationPage)
+        if (!toAddress && !annotation.destinationPage)
             continue;
         const QRectF place = WebPageText::placeOnPage(annotation.bounds, boxes).intersected(page);
         if (place.isEmpty())

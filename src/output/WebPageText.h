@@ -16,7 +16,8 @@ using Position = std::function<int(int pageIndex)>;
 // Where an annotation's rectangle lies on the page as it is seen: points from its top left corner.
 QRectF placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes);
 
-// All numbers are whole tenths of a point. Addresses that no book follows are left out.
+// All numbers are whole tenths of a point. Addresses are as the document has them: the player
+// decides which ones it follows.
 QJsonObject asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
                    const std::vector<PDFAnnotation>& annotations, const Position& position);
 

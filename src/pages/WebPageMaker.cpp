@@ -51,30 +51,6 @@ void write(const QString& path, const QByteArray& data) {
     }
 }
 
-// The mean of the pixels that fall into each pixel of a smaller picture.
-void shrink(const PageBitmap& from, PageBitmap& to) {
-    const int components = from.components();
-    for (int y = 0; y < to.height(); ++y) {
-        const int top = int(qint64(y) * from.height() / to.height());
-        const int bottom = std::max(top + 1, int(qint64(y + 1) * from.height() / to.height()));
-        for (int x = 0; x < to.width(); ++x) {
-            const int left = int(qint64(x) * from.width() / to.width());
-            const int right = std::max(left + 1, int(qint64(x + 1) * from.width() / to.width()));
-            for (int c = 0; c < components; ++c) {
-                unsigned sum = 0;
-                for (int row = top; row < bottom; ++row) {
-                    const unsigned char* pixels = from.data() + std::ptrdiff_t(row) * from.stride();
-                    for (int column = left; column < right; ++column)
-                        sum += pixels[column * components + c];
-                }
-                const auto count = unsigned((bottom - top) * (right - left));
-                to.data()[(y * to.width() + x) * components + c] =
-                    static_cast<unsigned char>((sum + count / 2) / count);
-            }
-        }
-    }
-}
-
 } // namespace
 
 PageTiming WebPageMaker::make(int page, const WebPageFiles& files, const DrawControl& control) {
@@ -117,13 +93,12 @@ QByteArray WebPageMaker::normalPicture(qint64 pageFileSize) {
     return pays(data) ? data : QByteArray();
 }
 
-QByteArray WebPageMaker::thumbnail() {
+QByteArray WebPageMaker::thumbnail() const {
     const double scale = std::min({1.0, double(thumbnailWidth) / iBitmap.width(),
                                    double(thumbnailHeight) / iBitmap.height()});
     const auto side = [&](int length) { return std::max(1, int(length * scale)); };
-    iSmall.resize(side(iBitmap.width()), side(iBitmap.height()), iBitmap.components());
-    shrink(iBitmap, iSmall);
-    return WebPEncoder::lossy(iSmall, thumbnailQuality);
+    return WebPEncoder::reduced(iBitmap, side(iBitmap.width()), side(iBitmap.height()),
+                                thumbnailQuality);
 }
 
 void WebPageMaker::makeLarge(const PDFPage& page, const WebPageFiles& files, qint64 largest,

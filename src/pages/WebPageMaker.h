@@ -4,7 +4,7 @@
 #include "pages/WebPageFiles.h"
 
 // Makes the files of a page that a web book has beyond the page file, which must be there already:
-// it says how many bytes the page may take. Used by the page workers. Keeps its buffers between
+// it says how many bytes the page may take. Used by the page workers. Keeps its buffer between
 // pages.
 class WebPageMaker {
 public:
@@ -16,7 +16,7 @@ public:
 
 private:
     QByteArray normalPicture(qint64 pageFileSize);
-    QByteArray thumbnail();
+    QByteArray thumbnail() const;
     // largest is in bytes.
     void makeLarge(const PDFPage& page, const WebPageFiles& files, qint64 largest,
                    const DrawControl& control, PageTiming& timing);
@@ -24,5 +24,4 @@ private:
 
     const PDFDocument& iDocument;
     PageBitmap iBitmap;
-    PageBitmap iSmall;
 };

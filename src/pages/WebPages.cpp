@@ -3,7 +3,6 @@
 #include "pages/FlashPageSourcePDF.h"
 #include "pages/PageWorkers.h"
 #include "pages/WebPageFiles.h"
-#include "pages/WebPageMaker.h"
 #include "platform/PlatformException.h"
 
 #include <QFileInfo>
@@ -25,7 +24,7 @@ QString existing(const QString& path) {
 WebPages::WebPages(const FlashPageSource& source) : iSource(source) {
     for (const auto& page : source.normalPages()) {
         if (page)
-            iPages.push_back(pageFrom(*page));
+            iPages.push_back(pageFrom(page->pageIndex(), page->pageFilePath()));
     }
 }
 
@@ -66,24 +65,22 @@ bool WebPages::drawMissing() {
             return false;
         if (!result)
             return true;
-        const auto normal = iSource.getNormalPageAtIndex(number);
-        if (normal)
-            *page = pageFrom(*normal);
+        *page = pageFrom(number, page->pageFile);
         page->failure = result->error;
         iProgress(++done, int(missing.size()));
     }
     return true;
 }
 
-WebPage WebPages::pageFrom(const FlashPage& page) const {
+WebPage WebPages::pageFrom(int number, const QString& pageFile) const {
     WebPage result;
-    result.number = page.pageIndex();
-    result.pageFile = page.pageFilePath();
-    result.picture = result.pageFile;
+    result.number = number;
+    result.pageFile = pageFile;
+    result.picture = pageFile;
     const auto* converter = converterOf(iSource);
     if (!converter)
         return result;
-    const WebPageFiles files(converter->converterWorkFolder(), page.pageIndex());
+    const WebPageFiles files(converter->converterWorkFolder(), number);
     if (result.picture != files.pageFile)
         return result; // brought along by the user
     if (QFileInfo::exists(files.picture))

@@ -45,7 +45,7 @@ public:
 
 private:
     bool drawMissing();
-    WebPage pageFrom(const FlashPage& page) const;
+    WebPage pageFrom(int number, const QString& pageFile) const;
 
     const FlashPageSource& iSource;
     std::function<bool()> iIsCancelled = [] { return false; };

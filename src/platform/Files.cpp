@@ -57,6 +57,11 @@ bool copyBytes(int from, int to) {
 
 } // namespace
 
+QByteArray Files::contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 bool Files::writeAtomically(const QString& path, const QByteArray& data, Message* error) {
     errno = 0;
     QSaveFile file(path);

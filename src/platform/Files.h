@@ -9,6 +9,9 @@
 // Whole-file operations that never leave a half-written file behind.
 namespace Files {
 
+// All of a file; null when it can't be read.
+QByteArray contents(const QString& path);
+
 // Writes beside the target and renames over it. On failure the old file stays, false comes back and
 // *error (when given) tells why in words.
 bool writeAtomically(const QString& path, const QByteArray& data, Message* error = nullptr);

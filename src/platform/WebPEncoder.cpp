@@ -2,6 +2,7 @@
 
 #include "platform/PlatformException.h"
 
+#include <QSize>
 #include <algorithm>
 #include <cstdint>
 #include <memory>
@@ -33,7 +34,7 @@ void importPixels(WebPPicture& picture, const PageBitmap& bitmap) {
     }
 }
 
-QByteArray encode(const PageBitmap& bitmap, const WebPConfig& config) {
+QByteArray encode(const PageBitmap& bitmap, const WebPConfig& config, QSize size = {}) {
     WebPPicture picture;
     if (!WebPPictureInit(&picture))
         fail();
@@ -49,9 +50,20 @@ QByteArray encode(const PageBitmap& bitmap, const WebPConfig& config) {
     picture.writer = WebPMemoryWrite;
     picture.custom_ptr = &writer;
     importPixels(picture, bitmap);
+    if (!size.isEmpty() && !WebPPictureRescale(&picture, size.width(), size.height()))
+        fail();
     if (!WebPEncode(&config, &picture))
         fail();
     return {reinterpret_cast<const char*>(writer.mem), qsizetype(writer.size)};
+}
+
+WebPConfig lossyConfig(float quality) {
+    WebPConfig config;
+    if (!WebPConfigPreset(&config, WEBP_PRESET_DEFAULT, quality))
+        fail();
+    // The third of seven steps; further ones take long for little.
+    config.method = 2;
+    return config;
 }
 
 } // namespace
@@ -65,11 +77,11 @@ QByteArray WebPEncoder::lossless(const PageBitmap& bitmap) {
 }
 
 QByteArray WebPEncoder::lossy(const PageBitmap& bitmap, float quality) {
-    WebPConfig config;
-    if (!WebPConfigPreset(&config, WEBP_PRESET_DEFAULT, quality))
-        fail();
-    config.method = 2;
-    return encode(bitmap, config);
+    return encode(bitmap, lossyConfig(quality));
+}
+
+QByteArray WebPEncoder::reduced(const PageBitmap& bitmap, int width, int height, float quality) {
+    return encode(bitmap, lossyConfig(quality), {width, height});
 }
 
 double WebPEncoder::evenness(const PageBitmap& bitmap) {
