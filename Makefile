@@ -5,14 +5,13 @@ BUILD := build/$(PRESET)
 OUT ?= out
 PDF ?= $(BUILD)/samples/sample.pdf
 
-.PHONY: book app package test test-web sanitizers sanitizer-builds bench packages build format format-check tidy help
+.PHONY: book app package test sanitizers bench packages build format format-check tidy help
 
 help:
 	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
 	@echo "make app [PDF=file.pdf]                 start the program with its window"
 	@echo "make package                            make Debian packages to install it with"
 	@echo "make test                               build and run every test"
-	@echo "make test-web                           run the tests of web books in the browser"
 	@echo "make sanitizers                         the core's tests under sanitizers, a moment of fuzzing"
 	@echo "make bench                              measure, see docs/performance.md"
 	@echo "make format-check                       check the format of the C++ code"
@@ -41,23 +40,13 @@ package: build
 	@sed -n 's/^CPack: - package: \(.*\) generated\.$$/\1/p' $(BUILD)/package.log
 
 test: build format-check
-	@ctest --preset $(PRESET) -j 2 -LE '^web$$'
-
-# The player of web books in the browser: not yet among the others, which take long enough for CI.
-test-web: build
-	@ctest --preset $(PRESET) -L '^web$$'
+	@ctest --preset $(PRESET) -j 2
 
 # Two more builds of the core alone, which take what scripts make from the first one.
 sanitizers: build
-	@$(MAKE) --no-print-directory sanitizer-builds
-	@ctest --preset fuzz -j 2
-	@ctest --preset tsan -j 2
-
-# Needs a finished build. At the lowest priority, for whoever runs tests meanwhile.
-sanitizer-builds:
 	@for preset in fuzz tsan; do \
-		nice -n 19 cmake --preset $$preset >build/$$preset.log 2>&1 || { cat build/$$preset.log; exit 1; }; \
-		nice -n 19 cmake --build --preset $$preset || exit 1; \
+		cmake --preset $$preset >build/$$preset.log 2>&1 || { cat build/$$preset.log; exit 1; }; \
+		cmake --build --preset $$preset && ctest --preset $$preset -j 2 || exit 1; \
 	done
 
 format-check: packages
