@@ -1,80 +1,20 @@
 #include "cli/ServeCommand.h"
 
-#include "cli/BookServer.h"
 #include "cli/CommandError.h"
-#include "cli/Interrupt.h"
-#include "cli/Terminal.h"
-#include "platform/Files.h"
+#include "platform/Bundle.h"
 #include "platform/Message.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QUrl>
-#include <cerrno>
-#include <cstdlib>
+#include <array>
 #include <unistd.h>
 
-namespace {
-
-using namespace std::chrono_literals;
-
-constexpr int firstPort = 8000;
-constexpr int lastPort = 8020;
-
-// What follows the slash of the book's address: nothing for "index.html".
-QString pageOf(const QString& folder) {
-    if (folder.isEmpty())
-        throw CommandError(QStringLiteral("the name of the book's folder is empty"),
-                           ExitCode::usage);
-    if (!QFileInfo::exists(folder))
-        throw CommandError(QStringLiteral("%1: no such folder").arg(folder));
-    if (!QFileInfo(folder).isDir())
-        throw CommandError(QStringLiteral("%1: is a file, not a folder").arg(folder));
-    if (::access(QFile::encodeName(folder).constData(), R_OK | X_OK) != 0) {
-        throw CommandError(QStringLiteral("%1: the folder can't be read (%2)")
-                               .arg(folder, Message::ofLastSystemError().english()));
-    }
-    if (QFileInfo(Files::join(folder, QStringLiteral("index.html"))).isFile())
-        return {};
-    const QStringList pages =
-        QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
-    if (pages.isEmpty())
-        throw CommandError(QStringLiteral("%1: no book in it (there is no HTML page)").arg(folder));
-    return QString::fromLatin1(QUrl::toPercentEncoding(pages.front()));
-}
-
-void takePort(BookServer& server, std::optional<int> wanted) {
-    int port = wanted.value_or(firstPort);
-    int error = server.takePort(port);
-    while (!wanted && error == EADDRINUSE && port < lastPort)
-        error = server.takePort(++port);
-    if (error == 0)
-        return;
-    const QString ports = wanted ? QStringLiteral("port %1").arg(port)
-                                 : QStringLiteral("ports %1 to %2").arg(firstPort).arg(port);
-    throw CommandError(
-        QStringLiteral("%1: %2").arg(ports, Message::ofSystemError(error).english()));
-}
-
-} // namespace
-
-void runServe(const QString& folder, std::optional<int> port) {
-    const QString page = pageOf(folder);
-    Interrupt::watch();
-    BookServer server(QFileInfo(folder).absoluteFilePath());
-    takePort(server, port);
-    server.start();
-    Terminal::print(QStringLiteral("http://127.0.0.1:%1/%2").arg(server.port()).arg(page));
-    Terminal::checkOutput();
-    Terminal::note(QStringLiteral("Ctrl-C ends it"));
-    while (!Interrupt::wasRequested()) {
-        if (server.hasEnded(100ms))
-            throw CommandError(QStringLiteral("the web server broke off"));
-    }
-    server.stop();
-    // A browser that holds a connection open, or takes an answer slowly, is not waited for. Nothing
-    // is written, so nothing is left half done.
-    if (!server.hasEnded(300ms))
-        std::_Exit(int(ExitCode::ok));
+void runServe(const QString& folder, std::optional<int> port, bool verbose) {
+    const QString server = Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-book-server"));
+    std::array<QByteArray, 4> words{QFile::encodeName(server), QFile::encodeName(folder),
+                                    port ? QByteArray::number(*port) : "usual", "verbose"};
+    std::array<char*, 5> arguments{words[0].data(), words[1].data(), words[2].data(),
+                                   verbose ? words[3].data() : nullptr, nullptr};
+    ::execv(arguments[0], arguments.data());
+    throw CommandError(QStringLiteral("%1: can't be started (%2)")
+                           .arg(server, Message::ofLastSystemError().english()));
 }

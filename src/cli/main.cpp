@@ -40,6 +40,7 @@ struct CommandLine {
     std::string timingFile;
     bool quiet = false;
     bool json = false;
+    bool verbose = false;
     std::string book;
     std::optional<int> port;
 };
@@ -183,7 +184,7 @@ void addServe(CLI::App& app, CommandLine& line) {
                      "free one")
         ->check(CLI::Range(0, 65535, "0-65535"))
         ->type_name("N");
-    command->callback([&line] { runServe(path(line.book), line.port); });
+    command->callback([&line] { runServe(path(line.book), line.port, line.verbose); });
 }
 
 // What is wrong with the command line, and where to read on.
@@ -219,7 +220,11 @@ int run(int argc, char** argv) {
     app.set_version_flag("--version", "folvero " + Bundle::version().toStdString());
     app.require_subcommand(1);
     app.add_flag_callback(
-        "--verbose", [] { Log::configureForTerminal(Log::Level::debug); },
+        "--verbose",
+        [&line] {
+            line.verbose = true;
+            Log::configureForTerminal(Log::Level::debug);
+        },
         "Tell in detail what is done, on standard error");
     app.footer("Exit codes: 0 done, 1 nothing was made, 2 command line not understood, 3 the book "
                "was made\nbut pages are missing from it, 130 cancelled.");

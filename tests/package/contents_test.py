@@ -9,7 +9,8 @@ from pathlib import Path
 from support import NAMES, SOURCE, VERSION, contents, field, output, package
 
 PROGRAMS = {
-    "folvero": {"./usr/bin/folvero", "./usr/libexec/folvero/folvero-page-worker"},
+    "folvero": {"./usr/bin/folvero", "./usr/libexec/folvero/folvero-book-server",
+                "./usr/libexec/folvero/folvero-page-worker"},
     "folvero-desktop": {"./usr/bin/folvero-desktop"},
 }
 # The programs of the Mac application that lies among the templates.

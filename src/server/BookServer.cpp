@@ -1,7 +1,7 @@
-#include "cli/BookServer.h"
+#include "server/BookServer.h"
 
-#include "cli/BookFile.h"
 #include "platform/Log.h"
+#include "server/BookFile.h"
 
 #include <QRegularExpression>
 #include <array>

@@ -1,4 +1,4 @@
-#include "cli/BookFile.h"
+#include "server/BookFile.h"
 
 #include "platform/Files.h"
 

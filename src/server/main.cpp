@@ -1,0 +1,39 @@
+// The book server: what "folvero serve" becomes. It is a program of its own, as the libraries of a
+// web server would lengthen the start of every other command.
+//
+//     folvero-book-server FOLDER PORT|usual [verbose]
+
+#include "cli/CommandError.h"
+#include "cli/Terminal.h"
+#include "platform/Log.h"
+#include "server/Serving.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <cstdlib>
+#include <iostream>
+#include <span>
+#include <string_view>
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
+    if (argc < 3 || argc > 4) {
+        std::cerr << "usage: folvero-book-server FOLDER PORT|usual [verbose]\n";
+        return int(ExitCode::usage);
+    }
+    if (argc == 4)
+        Log::configureForTerminal(Log::Level::debug);
+    const std::string_view port = arguments[2];
+    try {
+        serveBook(QFile::decodeName(arguments[1]),
+                  port == "usual" ? std::nullopt : std::optional(std::atoi(arguments[2])));
+    } catch (const CommandError& error) {
+        Terminal::note(QStringLiteral("folvero: %1").arg(error.message()));
+        return int(error.code());
+    } catch (const std::exception& failure) {
+        Terminal::note(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
+        return int(ExitCode::failed);
+    }
+    return int(ExitCode::ok);
+}
