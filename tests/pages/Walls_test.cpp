@@ -18,11 +18,13 @@
 #include <numeric>
 #include <random>
 #include <set>
+#include <string_view>
 #include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -146,6 +148,11 @@ bool isWholePage(const QString& file) {
     return QImage(file).size() == QSize(1200, 1600);
 }
 
+// Whether that process or thread, by its folder, may call no more than the walls let through.
+bool isConfined(const QString& folder) {
+    return TestFiles::read(folder + QStringLiteral("status")).contains("Seccomp:\t2\n");
+}
+
 } // namespace
 
 TEST_F(KilledWorkers, CostTheirPagesWhichAreToldByNumber) {
@@ -211,15 +218,22 @@ TEST_F(KilledWorkers, AreBehindWallsWithAllTheirThreads) {
     for (const char* service : {"read", "draw"}) {
         const auto processes = ChildProcesses::running(service, ::getpid());
         ASSERT_FALSE(processes.empty()) << service;
-        const QDir threads(QStringLiteral("/proc/%1/task").arg(processes.front()));
+        const QString process = QStringLiteral("/proc/%1/").arg(processes.front());
+        // A worker may still be starting while another one draws.
+        const auto patience = std::chrono::steady_clock::now() + 10s;
+        while (!isConfined(process) && std::chrono::steady_clock::now() < patience)
+            std::this_thread::sleep_for(1ms);
+        const QDir threads(process + QStringLiteral("task"));
         const QStringList numbers = threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
 #ifndef FOLVERO_SANITIZED
-        // Only from the thread that raises the walls are files closed off.
-        EXPECT_EQ(numbers.size(), 1) << service;
+        // Files are closed off from the thread that raises the walls and those that it starts then,
+        // as drawing does; both services raise them in the same way.
+        if (service == "read"sv) {
+            EXPECT_EQ(numbers.size(), 1);
+        }
 #endif
         for (const QString& thread : numbers) {
-            const QByteArray status = TestFiles::read(threads.filePath(thread + "/status"));
-            EXPECT_TRUE(status.contains("Seccomp:\t2\n")) << service << status.constData();
+            EXPECT_TRUE(isConfined(threads.filePath(thread) + u'/')) << service;
         }
     }
 }
