@@ -64,9 +64,12 @@ void noMask(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, int /*lumi
     watchOf(device)->simple = false;
 }
 
-void noGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
-             int /*isolated*/, int /*knockout*/, int /*blendMode*/, float /*alpha*/) {
-    watchOf(device)->simple = false;
+// Many programs put all of a page into a group, which changes nothing as long as it is laid on the
+// paper as it is.
+void watchGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
+                int /*isolated*/, int knockout, int blendMode, float alpha) {
+    if (knockout != 0 || blendMode != FZ_BLEND_NORMAL || alpha < 1)
+        watchOf(device)->simple = false;
 }
 
 int noTile(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_rect /*view*/,
@@ -87,7 +90,7 @@ bool isSimple(fz_context* ctx, fz_display_list* list) {
     device.fill_image_mask = noImageMask;
     device.clip_image_mask = noClipImage;
     device.begin_mask = noMask;
-    device.begin_group = noGroup;
+    device.begin_group = watchGroup;
     device.begin_tile = noTile;
     bool result = false;
     fz_try(ctx) {

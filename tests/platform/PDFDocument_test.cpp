@@ -247,6 +247,9 @@ TEST_F(PDFDocumentTest, BlendsWithinThePageNotWithThePaper) {
     const auto document = open(builder);
     EXPECT_TRUE(isNear(colourAt(draw(*document, 0), 0.5, 0.5), Qt::blue));
     EXPECT_TRUE(isNear(colourAt(draw(*document, 1), 0.5, 0.5), Qt::yellow));
+    // A group that changes nothing keeps no page from being vectors; blending does.
+    EXPECT_TRUE(document->page(0).vectorPicture().contains("fill=\"#0000ff\""));
+    EXPECT_TRUE(document->page(1).vectorPicture().isEmpty());
 }
 
 TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
