@@ -1,47 +1,33 @@
 import assert from 'node:assert/strict';
-import { readFile } from 'node:fs/promises';
-import { createRequire } from 'node:module';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
+import { faults } from './support/axe.mjs';
 import { plainPages, writeConfiguration } from './support/book.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 
-let reader;
-let axe;
-before(async () => {
-  reader = await Reader.start();
-  axe = await readFile(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
-});
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
-
-/** What a check of the page as it stands finds, one line a fault. */
-async function faults(book) {
-  await book.rest();
-  await book.page.evaluate(axe);
-  const { violations } = await book.page.evaluate(() => window.axe.run(document));
-  return violations.flatMap(({ id, help, nodes }) => nodes.map(({ html }) => `${id}: ${help}: ${html}`));
-}
+const reader = Reader.forTests();
 
 const press = (key) => (book) => book.page.keyboard.press(key);
-const states = [
-  ['the cover', DESK, '', () => {}],
-  ['a spread', DESK, '#page=4', () => {}],
-  ['the thumbnails', DESK, '#page=4', press('t')],
-  ['the share panel', DESK, '', press('l')],
-  ['the print panel', DESK, '', press('p')],
-  ['the help panel', DESK, '', press('?')],
-  ['a phone', PHONE, '#page=3', () => {}],
-  ['the menu of a phone', PHONE, '#page=3', (book) => book.use('more', 'tap')],
-];
-const looks = [['dark', '0x20262e'], ['light', '0xf4ead2'], ['middling', '0x767676']];
-for (const [name, view, hash, act] of states) {
-  test(`nothing keeps readers with other senses or hands out: ${name}`, async () => {
-    const book = await reader.openFromDisk(await reader.book({ pages: plainPages(8), values: { TutorialTitle: 'Spring' } }),
-      { view, hash });
-    await act(book);
-    assert.deepEqual(await faults(book), []);
+const states = {
+  'a desk': [DESK, [
+    ['the cover', () => {}], ['a spread', press('ArrowRight')], ['the thumbnails', press('t')],
+    ['the share panel', press('l')], ['the print panel', press('p')], ['the help panel', press('?')],
+  ]],
+  'a phone': [PHONE, [['a page', press('ArrowRight')], ['the menu', (book) => book.use('more', 'tap')]]],
+};
+for (const [name, [view, shown]] of Object.entries(states)) {
+  test(`nothing keeps readers with other senses or hands out, on ${name}`, async () => {
+    const folder = await reader.book({ pages: plainPages(8), values: { TutorialTitle: 'Spring' } });
+    const book = await reader.openFromDisk(folder, { view });
+    for (const [what, act] of shown) {
+      await press('Escape')(book);
+      await act(book);
+      await book.pages();
+      assert.deepEqual(await faults(book), [], what);
+    }
   });
 }
+
+const looks = [['dark', '0x20262e'], ['light', '0xf4ead2'], ['middling', '0x767676']];
 for (const [name, colour] of looks) {
   test(`a ${name} bar and drawer can be read`, async () => {
     const values = { FlashWindowsColor: colour, ThumbnailsBgColor: colour, TutorialTitle: 'https://example.org/' };
@@ -104,7 +90,7 @@ async function leastContrast(book) {
 }
 
 test('the bar can be read over any ground, whatever its colour', async () => {
-  for (const colour of ['0x000000', '0xffffff', '0x777777', '0x757575', '0xff0000', '0x00a0ff', '0x888800', '0x808080']) {
+  for (const colour of ['0x777777', '0x757575', '0xff0000', '0x00a0ff', '0x888800']) {
     const book = await reader.openFromDisk(await reader.book({ pages: plainPages(2), values: { FlashWindowsColor: colour } }));
     const least = await leastContrast(book);
     assert.ok(least >= 4.5, `${colour}: ${least}`);

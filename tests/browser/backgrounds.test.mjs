@@ -1,33 +1,49 @@
 import assert from 'node:assert/strict';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { png } from './support/png.mjs';
 import { Reader } from './support/reader.mjs';
 import { silence } from './support/wav.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 async function open(values, extras) {
   return reader.openFromDisk(await reader.book({ pages: plainPages(4), values, extras }));
 }
 
-const directions = [['0', 5, 400, 1275, 400], ['90', 640, 5, 640, 795], ['180', 1275, 400, 5, 400], ['-90', 640, 795, 640, 5]];
-for (const which of ['Outer', 'Inner']) {
-  test(`the ${which.toLowerCase()} gradient runs from colour A to B in the direction of its angle`, async () => {
-    for (const [angle, ax, ay, bx, by] of directions) {
-      const book = await open({ Top: '0', Left: '0', Right: '0', Bottom: '0', [`${which}GradiantColorA`]: '0x200000',
-        [`${which}GradiantColorB`]: '0xf0ffff', [`${which}GradiantAngle`]: angle });
-      const rest = which === 'Outer' ? '.inner' : '.outer, .inner::after';
-      await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage { display: none !important }` });
-      const [from, to] = [await book.colourAt(ax, ay), await book.colourAt(bx, by)];
-      assert.ok(from[1] < 12 && to[1] > 240, `${angle}: ${from} to ${to}`);
-      await reader.closeBooks();
-    }
-  });
+/** The same settings for both grounds, which take up the whole window. */
+function both(settings) {
+  const values = { Top: '0', Left: '0', Right: '0', Bottom: '0' };
+  for (const [name, value] of Object.entries(settings)) Object.assign(values, { [`Outer${name}`]: value, [`Inner${name}`]: value });
+  return values;
 }
+
+/** Looks at one ground after the other, with nothing else to be seen and its picture decoded. */
+async function onEachGround(book, look) {
+  for (const [ground, rest] of [['.outer', '.inner'], ['.inner', '.outer, .inner::after']]) {
+    const style = await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage, .leaf { display: none !important }
+      .outer, .inner { border-radius: 0 !important; image-rendering: pixelated }` });
+    await book.page.evaluate(async (selector) => {
+      const address = /url\("([^"]+)"\)/.exec(getComputedStyle(document.querySelector(selector)).backgroundImage)?.[1];
+      if (address) await Object.assign(new Image(), { src: address }).decode();
+      await new Promise((resolve) => { requestAnimationFrame(() => requestAnimationFrame(resolve)); });
+    }, ground);
+    await look(ground);
+    await style.evaluate((one) => one.remove());
+  }
+}
+
+const directions = [['0', 5, 400, 1275, 400], ['90', 640, 5, 640, 795], ['180', 1275, 400, 5, 400], ['-90', 640, 795, 640, 5]];
+test('gradients run from colour A to B in the direction of their angle', async () => {
+  for (const [angle, ax, ay, bx, by] of directions) {
+    const book = await open(both({ GradiantColorA: '0x200000', GradiantColorB: '0xf0ffff', GradiantAngle: angle }));
+    await onEachGround(book, async (ground) => {
+      const [from, to] = [await book.colourAt(ax, ay), await book.colourAt(bx, by)];
+      assert.ok(from[1] < 12 && to[1] > 240, `${ground}, ${angle}: ${from} to ${to}`);
+    });
+    await reader.closeBooks();
+  }
+});
 
 /** A picture with a red field at its upper left, half as wide and a third as high; the rest is green. */
 const picture = png(60, 60, (x, y) => (x < 30 && y < 18 ? [250, 10, 10] : [10, 250, 10]));
@@ -43,53 +59,34 @@ const seen = {
   'Bottom right': [NONE, NONE, NONE, GREEN, NONE, NONE, NONE],
   'something else': [RED, GREEN, GREEN, GREEN, RED, RED, GREEN],
 };
-for (const [which, key] of [['Outer', 'mainbgImgUrl'], ['Inner', 'innerMainbgImgUrl']]) {
-  test(`the ${which.toLowerCase()} picture lies as its position says`, async () => {
-    for (const [position, colours] of Object.entries(seen)) {
-      const file = `extfiles/${key}.png`;
-      const book = await open({ Top: '0', Left: '0', Right: '0', Bottom: '0', [`${which}BackgroundFile`]: file,
-        [`${which}BackgroundPosition`]: position, [`${which}GradiantColorA`]: '0x0000ff', [`${which}GradiantColorB`]: '0x0000ff' },
-      { [file]: picture });
-      const rest = which === 'Outer' ? '.inner' : '.outer, .inner::after';
-      await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage, .leaf { display: none !important }
-        .outer, .inner { border-radius: 0 !important; image-rendering: pixelated }` });
-      await loaded(book, which === 'Outer' ? '.outer' : '.inner');
-      for (const [index, [x, y]] of points.entries()) {
-        assert.deepEqual(await book.colourAt(x, y), colours[index], `${position} at ${x},${y}`);
-      }
-      await reader.closeBooks();
-    }
-  });
-}
+/** Settings of a picture over blue. */
+const pictureOver = (settings) => both({ GradiantColorA: '0x0000ff', GradiantColorB: '0x0000ff', BackgroundFile: 'extfiles/a.png', ...settings });
 
-/** Waits until the picture of a ground is decoded. */
-function loaded(book, ground) {
-  return book.page.evaluate(async (selector) => {
-    const image = new Image();
-    image.src = /url\("([^"]+)"\)/.exec(getComputedStyle(document.querySelector(selector)).backgroundImage)[1];
-    await image.decode();
-    await new Promise((resolve) => { requestAnimationFrame(() => requestAnimationFrame(resolve)); });
-  }, ground);
-}
+test('background pictures lie as their positions say', async () => {
+  for (const [position, colours] of Object.entries(seen)) {
+    const book = await open(pictureOver({ BackgroundPosition: position }), { 'extfiles/a.png': picture });
+    await onEachGround(book, async (ground) => {
+      for (const [index, [x, y]] of points.entries()) {
+        assert.deepEqual(await book.colourAt(x, y), colours[index], `${ground}, ${position} at ${x},${y}`);
+      }
+    });
+    await reader.closeBooks();
+  }
+});
 
 const sizes = [['0', '0', 60, 60], ['30', '40', 30, 40], ['30', '0', 60, 60]];
-for (const which of ['Outer', 'Inner']) {
-  test(`${which}ImgWidth and ${which}ImgHeight are the size in which the picture is shown`, async () => {
-    for (const [width, height, wide, high] of sizes) {
-      const book = await open({ Top: '0', Left: '0', Right: '0', Bottom: '0', [`${which}BackgroundFile`]: 'extfiles/a.png',
-        [`${which}BackgroundPosition`]: 'Top left', [`${which}ImgWidth`]: width, [`${which}ImgHeight`]: height,
-        [`${which}GradiantColorA`]: '0x0000ff', [`${which}GradiantColorB`]: '0x0000ff' }, { 'extfiles/a.png': picture });
-      const rest = which === 'Outer' ? '.inner' : '.outer, .inner::after';
-      await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage { display: none !important }
-        .outer, .inner { border-radius: 0 !important }` });
-      await loaded(book, which === 'Outer' ? '.outer' : '.inner');
-      assert.deepEqual(await book.colourAt(wide - 2, high - 2), GREEN, `${width} by ${height}: within`);
-      assert.deepEqual(await book.colourAt(wide + 2, 2), NONE, `${width} by ${height}: beside`);
-      assert.deepEqual(await book.colourAt(2, high + 2), NONE, `${width} by ${height}: below`);
-      await reader.closeBooks();
-    }
-  });
-}
+test('ImgWidth and ImgHeight are the size in which a background picture is shown', async () => {
+  for (const [width, height, wide, high] of sizes) {
+    const settings = { BackgroundPosition: 'Top left', ImgWidth: width, ImgHeight: height };
+    const book = await open(pictureOver(settings), { 'extfiles/a.png': picture });
+    await onEachGround(book, async (ground) => {
+      assert.deepEqual(await book.colourAt(wide - 2, high - 2), GREEN, `${ground}, ${width} by ${height}: within`);
+      assert.deepEqual(await book.colourAt(wide + 2, 2), NONE, `${ground}, ${width} by ${height}: beside`);
+      assert.deepEqual(await book.colourAt(2, high + 2), NONE, `${ground}, ${width} by ${height}: below`);
+    });
+    await reader.closeBooks();
+  }
+});
 
 /** Notes each beginning and end of a sound file. */
 const noteSounds = (page) => page.addInitScript(() => {

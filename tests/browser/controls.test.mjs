@@ -1,12 +1,9 @@
 import assert from 'node:assert/strict';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 async function open(count, options = {}) {
   return reader.openFromDisk(await reader.book({ pages: plainPages(count), values: options.values }), options);
@@ -16,24 +13,26 @@ const does = (book, name) => book.page.locator(`.bar [data-does="${name}"]`);
 const idle = (book) => book.page.locator('#folvero').getAttribute('data-idle');
 
 const typed = [
-  ['12', [12, 13]], ['4-5', [4, 5]], [' 4\u20135 ', [4, 5]], ['20', [20]], ['1', [1]],
+  ['12', [12, 13]], ['4-5', [4, 5]], ['20', [20]], [' 4\u20135 ', [4, 5]], ['1', [1]], ['2', [2, 3]],
   ['0', [2, 3]], ['21', [2, 3]], ['abc', [2, 3]], ['', [2, 3]], ['-4', [2, 3]], ['1e1', [2, 3]],
 ];
 test('a page number that is typed is gone to; what is no page number is put back', async () => {
+  const book = await open(20, { hash: '#page=2' });
   for (const [text, pages] of typed) {
-    const book = await open(20, { hash: '#page=2' });
     await book.page.keyboard.press('g');
     await book.page.keyboard.type(text || ' ');
     await book.page.keyboard.press('Enter');
     await book.waitForPages(...pages);
     await book.page.waitForFunction((shown) => document.querySelector('.page-box').value === shown, pages.join('\u2013'));
-    await reader.closeBooks();
   }
 });
 
 test('the bar goes while the reader is idle and comes back with pointer, finger and key', async () => {
-  const book = await open(4, { view: { ...DESK, hasTouch: true } });
-  const goes = () => book.page.waitForSelector('#folvero[data-idle="yes"]', { timeout: 20000 });
+  const book = await open(4, { view: { ...DESK, hasTouch: true }, before: (page) => page.clock.install() });
+  const goes = async () => {
+    await book.page.clock.runFor(6000);
+    assert.equal(await idle(book), 'yes');
+  };
   for (const come of [() => book.page.mouse.move(640, 300), () => book.page.touchscreen.tap(640, 300),
     () => book.page.keyboard.press('Shift')]) {
     await goes();
@@ -153,7 +152,7 @@ for (const [name, view, size] of windows) {
   });
 }
 
-test('what is touched is large enough for a finger', async () => {
+test('what is touched is large enough for a finger, and the menu does what the bar has no room for', async () => {
   const book = await open(30, { view: PHONE, hash: '#page=4' });
   const sides = await book.page.locator('.bar button').evaluateAll((all) => all
     .flatMap((one) => [one.offsetWidth, one.offsetHeight]).filter((side) => side > 0));
@@ -162,11 +161,6 @@ test('what is touched is large enough for a finger', async () => {
   for (const height of await book.page.locator('.menu-panel button').evaluateAll((all) => all.map((one) => one.offsetHeight))) {
     assert.ok(height >= 44, `${height}`);
   }
-});
-
-test('the menu does what the bar has no room for, and shows the panel that was asked for', async () => {
-  const book = await open(6, { view: PHONE });
-  await book.use('more', 'tap');
   await book.page.locator('.entry', { hasText: 'Help' }).tap();
   assert.ok(await book.page.locator('.help-panel').isVisible());
   assert.equal(await book.page.locator('.menu-panel').isVisible(), false);
@@ -181,11 +175,9 @@ const words = [
 test('the book speaks the language that its reader prefers, and announces its pages in it', async () => {
   const folder = await reader.book({ pages: plainPages(6) });
   for (const [languages, tag, print, announced] of words) {
-    const book = await reader.openFromDisk(folder, { before: (page) => page.addInitScript((tags) => {
+    const book = await reader.openFromDisk(folder, { hash: '#page=2', before: (page) => page.addInitScript((tags) => {
       Object.defineProperty(navigator, 'languages', { get: () => tags });
     }, languages) });
-    await book.page.keyboard.press('ArrowRight');
-    await book.waitForPages(2, 3);
     assert.equal(await book.page.locator('html').getAttribute('lang'), tag);
     assert.equal(await does(book, 'print').getAttribute('aria-label'), print);
     assert.equal(await book.page.locator('.live').textContent(), announced);

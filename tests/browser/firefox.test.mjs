@@ -41,45 +41,44 @@ after(async () => {
   if (folder) await rm(folder, { recursive: true });
 });
 
-const addresses = { 'from disk': () => pathToFileURL(path.join(folder, 'book/index.html')).href, 'over http': () => server.address };
+const places = ['from disk', 'over http'];
+const addressOf = (target, own, place) => (place === 'over http' ? own.address : pathToFileURL(path.join(target, 'index.html')).href);
 const screens = [['a desk', DESK, [[2, 3], [4, 5]]], ['a phone', PHONE, [[2], [3]]]];
-for (const [way, address] of Object.entries(addresses)) {
-  for (const [name, viewport, [second, third]] of screens) {
-    test(`Firefox opens a published book ${way} on ${name}, and turns it`, ready, async () => {
-      const book = await openBook(browser, address(), viewport);
-      await book.waitForPages(1);
-      assert.deepEqual(await book.picture(), { file: '1.jpg', seen: true });
-      await book.page.keyboard.press('ArrowRight');
-      await book.waitForPages(...second);
-      assert.deepEqual(await book.picture(), { file: '2.jpg', seen: true });
-      const { x, y, width, height } = await book.box('right');
-      await book.drag([x + width - 20, y + height / 2], [x - width * (second.length > 1 ? 0.9 : 0) + 10, y + height / 2 - 20]);
-      await book.waitForPages(...third);
-      assert.deepEqual(book.errors, []);
-      await book.close();
-    });
-  }
+for (const [index, place] of places.entries()) {
+  const [name, viewport, [second, third]] = screens[index];
+  test(`Firefox opens a published book ${place} on ${name}, and turns it`, ready, async () => {
+    const book = await openBook(browser, addressOf(path.join(folder, 'book'), server, place), viewport);
+    await book.waitForPages(1);
+    assert.deepEqual(await book.picture(), { file: '1.jpg', seen: true });
+    await book.page.keyboard.press('ArrowRight');
+    await book.waitForPages(...second);
+    assert.deepEqual(await book.picture(), { file: '2.jpg', seen: true });
+    const { x, y, width, height } = await book.box('right');
+    await book.drag([x + width - 20, y + height / 2], [x - width * (second.length > 1 ? 0.9 : 0) + 10, y + height / 2 - 20]);
+    await book.waitForPages(...third);
+    assert.deepEqual(book.errors, []);
+    await book.close();
+  });
 }
 
-for (const template of templates) {
-  test(`Firefox shows all of a book in ${template}, from disk and over http, on a desk and on a phone`, ready, async () => {
+// Each template on both screens and from both places, which go together by turns.
+for (const [templateIndex, template] of templates.entries()) {
+  test(`Firefox shows all of a book in ${template}, on a desk and on a phone`, ready, async () => {
     const target = await publish(`in-${template}`, '--template', template, '--pages', '1-7', '--set', 'pageMoveTime=0.2');
     const own = await serve(target);
-    for (const place of [pathToFileURL(path.join(target, 'index.html')).href, own.address]) {
-      for (const [name, viewport] of screens) {
-        const book = await openBook(browser, place, viewport);
-        const spread = await book.page.evaluate(() => window.folvero.spread);
-        assert.equal(spread, name === 'a desk' && template !== 'deck');
-        for (const [key, pages] of [['ArrowRight', spread ? [2, 3] : [2]], ['ArrowLeft', [1]], ['End', spread ? [6, 7] : [7]]]) {
-          await book.page.keyboard.press(key);
-          await book.waitForPages(...pages);
-          assert.deepEqual(await book.picture(), { file: `${pages[0]}.jpg`, seen: true });
-        }
-        await book.page.keyboard.press('t');
-        assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.getBoundingClientRect().height > 60), true);
-        assert.deepEqual(book.errors, []);
-        await book.close();
+    for (const [index, [name, viewport]] of screens.entries()) {
+      const book = await openBook(browser, addressOf(target, own, places[(index + templateIndex) % 2]), viewport);
+      const spread = await book.page.evaluate(() => window.folvero.spread);
+      assert.equal(spread, name === 'a desk' && template !== 'deck');
+      for (const [key, pages] of [['ArrowRight', spread ? [2, 3] : [2]], ['ArrowLeft', [1]], ['End', spread ? [6, 7] : [7]]]) {
+        await book.page.keyboard.press(key);
+        await book.waitForPages(...pages);
+        assert.deepEqual(await book.picture(), { file: `${pages[0]}.jpg`, seen: true });
       }
+      await book.page.keyboard.press('t');
+      assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.getBoundingClientRect().height > 60), true);
+      assert.deepEqual(book.errors, []);
+      await book.close();
     }
     assert.deepEqual(own.requests.filter(({ status }) => status !== 200), []);
     await own.close();

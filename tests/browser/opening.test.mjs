@@ -1,16 +1,13 @@
 import assert from 'node:assert/strict';
 import { readFile, rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { gzipSync } from 'node:zlib';
 import { colourOf, configurationXml, plainPages, writeConfiguration } from './support/book.mjs';
 import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 const messageOf = (book) => book.page.locator('.message').innerText();
 

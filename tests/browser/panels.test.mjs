@@ -1,12 +1,9 @@
 import assert from 'node:assert/strict';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 async function open(count, options = {}) {
   const folder = await reader.book({ pages: plainPages(count), values: options.values });
@@ -134,11 +131,13 @@ test('a reader who comes back is taken to the page left, and may start over', as
 });
 
 test('the note of the page left goes by itself', async () => {
-  const book = await open(6, { http: true, before: (page) => page.addInitScript(() => {
-    localStorage.setItem(`folvero:${location.pathname}:6`, '4');
-  }) });
+  const book = await open(6, { http: true, before: async (page) => {
+    await page.clock.install();
+    await page.addInitScript(() => localStorage.setItem(`folvero:${location.pathname}:6`, '4'));
+  } });
   assert.ok(await visible(book, '.toast'));
-  await book.page.locator('.toast').waitFor({ state: 'hidden', timeout: 25000 });
+  await book.page.clock.runFor(10000);
+  assert.equal(await visible(book, '.toast'), false);
   assert.deepEqual(await book.pages(), [4, 5]);
 });
 

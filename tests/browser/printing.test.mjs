@@ -1,14 +1,11 @@
 import assert from 'node:assert/strict';
 import { rm } from 'node:fs/promises';
 import path from 'node:path';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { Reader } from './support/reader.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 /** Opens a book whose print command only counts; pages are put on paper with pdf(). */
 async function open(folder, options = {}) {

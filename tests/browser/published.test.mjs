@@ -2,7 +2,7 @@ import assert from 'node:assert/strict';
 import { execFile } from 'node:child_process';
 import { readFile } from 'node:fs/promises';
 import path from 'node:path';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { promisify } from 'node:util';
 import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
@@ -11,10 +11,7 @@ const run = promisify(execFile);
 const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
 const ready = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' };
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests({ whole: true });
 
 /** Publishes a sample document; exit code 3 says that pages are missing. */
 async function publish(sample, options = [], exitCode = 0) {

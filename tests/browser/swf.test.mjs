@@ -13,10 +13,10 @@ const run = promisify(execFile);
 const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
 const published = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' };
 
-let reader;
+const reader = new Reader();
 let emulator;
 before(async () => {
-  reader = await Reader.start();
+  await reader.start();
   emulator = await Emulator.start(reader);
 });
 after(() => reader.stop());
@@ -47,8 +47,7 @@ test('the movie shows each page that it says it shows', async () => {
     await book.goTo(right);
     for (const [side, number] of [['left', left], ['right', right]]) {
       if (number === 0) continue;
-      const differences = [];
-      for (const { bytes } of pages) differences.push(await book.differenceFrom(side, bytes));
+      const differences = await book.differencesFrom(side, pages.map(({ bytes }) => bytes));
       const own = differences[number - 1];
       const others = differences.filter((_, index) => index !== number - 1);
       assert.ok(own < 12, `page ${number} differs by ${own} from its picture`);
@@ -314,8 +313,8 @@ test('a published document opens in the movie', published, async () => {
   const book = await emulator.play(folder);
   await book.page.keyboard.press('ArrowRight');
   await book.waitForPages(2, 3);
-  const own = await book.differenceFrom('right', await readFile(path.join(folder, 'files/page/3.jpg')));
-  const other = await book.differenceFrom('right', await readFile(path.join(folder, 'files/page/1.jpg')));
+  const pages = await Promise.all([3, 1].map((number) => readFile(path.join(folder, `files/page/${number}.jpg`))));
+  const [own, other] = await book.differencesFrom('right', pages);
   assert.ok(own < 12 && other > own + 20, `${own}, ${other}`);
   assert.deepEqual(book.complaints, []);
 });

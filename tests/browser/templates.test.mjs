@@ -2,7 +2,7 @@ import assert from 'node:assert/strict';
 import { execFile } from 'node:child_process';
 import { readdirSync, readFileSync, statSync } from 'node:fs';
 import path from 'node:path';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { promisify } from 'node:util';
 import { plainPages } from './support/book.mjs';
 import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
@@ -23,10 +23,7 @@ const everyStyle = templates.flatMap((template) => stylesOf(template).map((style
 /** Noted at import, without an effect of their own; their descriptions say so. */
 const INFORMATION = ['pageWidth', 'pageHeight'];
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 /** A book of six landscape pages in a template, with the sound of its turning pages. */
 function bookIn(template) {

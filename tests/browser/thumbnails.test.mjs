@@ -1,13 +1,10 @@
 import assert from 'node:assert/strict';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { colourOf, plainPages } from './support/book.mjs';
 import { png } from './support/png.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 async function open(count, { values, thumb, extras, ...options } = {}) {
   return reader.openFromDisk(await reader.book({ pages: plainPages(count), values, thumb, extras }), options);

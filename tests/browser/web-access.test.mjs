@@ -1,19 +1,11 @@
 import assert from 'node:assert/strict';
-import { readFile } from 'node:fs/promises';
-import { createRequire } from 'node:module';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
+import { faults } from './support/axe.mjs';
 import { plainPages } from './support/book.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 import { typedPage } from './support/webbook.mjs';
 
-let reader;
-let axe;
-before(async () => {
-  reader = await Reader.start();
-  axe = await readFile(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
-});
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 const OUTLINE = [['Preface', 1, []], ['First part', 3, [['River', 4, []], ['Nowhere', 0, []]]]];
 const pages = Array.from({ length: 8 }, (_, index) => typedPage([`text of page ${index + 1}`, 'and a dead link', 'and a page'],
@@ -25,14 +17,6 @@ async function open({ values, change, ...options }) {
   const book = await reader.openFromDisk(folder, options);
   await book.page.waitForSelector('.word', { state: 'attached' });
   return book;
-}
-
-/** What a check of the page as it stands finds, one line a fault. */
-async function faults(book) {
-  await book.rest();
-  await book.page.evaluate(axe);
-  const { violations } = await book.page.evaluate(() => window.axe.run(document));
-  return violations.flatMap(({ id, help, nodes }) => nodes.map(({ html }) => `${id}: ${help}: ${html.slice(0, 160)}`));
 }
 
 const contents = (book) => book.page.keyboard.press('c');
@@ -47,18 +31,20 @@ async function strip(book) {
   await book.page.locator('.result').first().tap();
   await book.page.waitForSelector('.search-strip:not([hidden])');
 }
-const nothing = () => {};
-const states = [
-  ['a spread', DESK, '#page=2', nothing], ['pages that are left out', DESK, '#page=8', nothing], ['the contents', DESK, '#page=4', contents],
-  ['the search', DESK, '#page=2', search], ['a phone', PHONE, '#page=3', nothing], ['the contents on a phone', PHONE, '#page=3', contents],
-  ['the search on a phone', PHONE, '', search], ['the strip of the search', PHONE, '', strip],
-];
-for (const [name, view, hash, act] of states) {
-  test(`nothing keeps readers with other senses or hands out of a web book: ${name}`, async () => {
-    const book = await open({ view, hash: hash === '#page=8' ? '#page=6' : hash });
-    if (hash === '#page=8') await book.page.keyboard.press('End');
-    await act(book);
-    assert.deepEqual(await faults(book), []);
+const key = (name) => (book) => book.page.keyboard.press(name);
+const states = {
+  'a desk': [DESK, '#page=4', [['a spread', () => {}], ['the contents', contents], ['the search', search], ['pages that are left out', key('End')]]],
+  'a phone': [PHONE, '', [['the strip of the search', strip], ['a page', key('ArrowRight')], ['the contents', contents], ['the search', search]]],
+};
+for (const [name, [view, hash, shown]] of Object.entries(states)) {
+  test(`nothing keeps readers with other senses or hands out of a web book, on ${name}`, async () => {
+    const book = await open({ view, hash });
+    for (const [what, act] of shown) {
+      await key('Escape')(book);
+      await act(book);
+      await book.pages();
+      assert.deepEqual(await faults(book), [], what);
+    }
   });
 }
 for (const colour of ['0xf4ead2', '0x767676', '0xffffff']) {

@@ -1,16 +1,13 @@
 import assert from 'node:assert/strict';
 import { readdir, rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { colourOf, plainPages } from './support/book.mjs';
 import { png } from './support/png.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 import { typedPage } from './support/webbook.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 const typedPages = (count) => Array.from({ length: count }, (_, index) => typedPage([`text of page ${index + 1}`], { links: [[0, 0, 4, 'https://example.org/']] }));
 
@@ -47,7 +44,7 @@ test('an enlarged page gets its finer picture, which goes when it is no longer w
 });
 
 test('a page whose usual picture is fine enough is left as it is', async () => {
-  const pages = plainPages(2, 3000, 4000);
+  const pages = plainPages(2, 900, 1200);
   const folder = await reader.webBook({ pages, description: { pages: typedPages(2), large: [SHARP, SHARP] } });
   const book = await reader.openOverHttp(folder, { view: { viewport: { width: 400, height: 600 } } });
   await book.page.keyboard.press('+');
@@ -145,8 +142,10 @@ const DAMAGE = [
   ['facts of no shape', 'web/book', 'folveroData("web/book", {"labels":7,"outline":[[7],"x",[["a"],"b",[[]]]],"numbers":["a",-1],"open":["x",[2]],"large":3,"text":"yes","language":"<b>"});'],
 ];
 test('a book whose data is missing or damaged is still one to read', async () => {
-  for (const [name, file, text] of DAMAGE) {
-    for (const open of ['openFromDisk', 'openOverHttp']) {
+  for (const [index, [name, file, text]] of DAMAGE.entries()) {
+    // What is not there at all fails in its own way in each place; what is there is read the same.
+    const ways = ['openFromDisk', 'openOverHttp'];
+    for (const open of text === null ? ways : [ways[index % 2]]) {
       const folder = await write(4);
       const place = path.join(folder, `files/${file}.js`);
       await (text === null ? rm(place) : writeFile(place, text));

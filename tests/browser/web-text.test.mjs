@@ -1,13 +1,10 @@
 import assert from 'node:assert/strict';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 import { line, typedPage } from './support/webbook.mjs';
 
-let reader;
-before(async () => { reader = await Reader.start(); });
-afterEach(() => reader.closeBooks());
-after(() => reader.stop());
+const reader = Reader.forTests();
 
 const TEXTS = [
   ['The cover of a book'],

@@ -8,7 +8,7 @@ const DEFAULTS = {
     Search: 'No', IsExe: 'No', Style: '0', Top: '10', Bottom: '10', Left: '10', Right: '10',
     ThumbnailsBgColor: '0x20262e', InitialShow: 'None', FlashWindowsColor: '0x20262e',
     PageBackgroundColor: '0xffffff', TutorialTitle: '', HidePageFrameBar: 'No',
-    PageRiseOrFallTime: '0.2', PageMoveTime: '0.3', SlideInterval: '1', RightToLeft: 'No',
+    PageRiseOrFallTime: '0.1', PageMoveTime: '0.1', SlideInterval: '1', RightToLeft: 'No',
     AutoPlay: 'No', LoopPlay: 'Yes',
   },
   BackgroundColor: {

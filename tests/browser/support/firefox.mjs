@@ -1,25 +1,11 @@
-import { accessSync, constants } from 'node:fs';
-import path from 'node:path';
 import puppeteer from 'puppeteer-core';
+import { findProgram } from './programs.mjs';
 
 export const DESK = { width: 1280, height: 800 };
 export const PHONE = { width: 390, height: 844 };
 
 /** Path of Debian's Firefox, null where it is not installed. */
-export function findFirefox() {
-  for (const folder of (process.env.PATH ?? '').split(path.delimiter)) {
-    for (const name of ['firefox-esr', 'firefox']) {
-      const candidate = path.join(folder, name);
-      try {
-        accessSync(candidate, constants.X_OK);
-        return candidate;
-      } catch {
-        // Not in this folder.
-      }
-    }
-  }
-  return null;
-}
+export const findFirefox = () => findProgram(['firefox-esr', 'firefox']);
 
 /** Firefox as it comes, driven over WebDriver BiDi. */
 export async function launchFirefox(executablePath) {

@@ -16,27 +16,16 @@ async function compare([shown, wanted, part]) {
   return a.reduce((sum, value, index) => sum + Math.abs(value - b[index]), 0) / (a.length * 0.75);
 }
 
-/** Tells how much what is on the screen looks like a page file. */
-export class Likeness {
-  static async start(browser) {
-    const likeness = new Likeness();
-    likeness.context = await browser.newContext();
-    likeness.page = await likeness.context.newPage();
-    return likeness;
+/**
+ * Mean differences of a page on the screen from JPEG files, 0 to 255. Only the upper two thirds count,
+ * because controls may lie over the foot of a page.
+ */
+export async function differencesOf(book, side, files) {
+  const shot = await book.page.screenshot({ clip: await book.box(side), type: 'jpeg', quality: 90 });
+  const data = (bytes) => `data:image/jpeg;base64,${bytes.toString('base64')}`;
+  const differences = [];
+  for (const file of files) {
+    differences.push(await book.page.evaluate(compare, [data(shot), data(await readFile(file)), 2 / 3]));
   }
-
-  /**
-   * Mean differences of a page on the screen from JPEG files, 0 to 255. Only the upper two thirds
-   * count, because controls may lie over the foot of a page.
-   */
-  async differencesOf(book, side, files) {
-    const clip = await book.box(side);
-    const shot = await book.page.screenshot({ clip, type: 'jpeg', quality: 90 });
-    const data = (bytes) => `data:image/jpeg;base64,${bytes.toString('base64')}`;
-    const differences = [];
-    for (const file of files) {
-      differences.push(await this.page.evaluate(compare, [data(shot), data(await readFile(file)), 2 / 3]));
-    }
-    return differences;
-  }
+  return differences;
 }

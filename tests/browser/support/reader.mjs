@@ -1,6 +1,7 @@
 import { mkdtemp, rm } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import path from 'node:path';
+import { after, afterEach, before } from 'node:test';
 import { fileURLToPath, pathToFileURL } from 'node:url';
 import { inflateSync } from 'node:zlib';
 import { writeBook } from './book.mjs';
@@ -21,13 +22,25 @@ export const PHONE = { viewport: { width: 390, height: 844 }, hasTouch: true, is
 
 /** A reader with a browser: opens books and tells what it sees. */
 export class Reader {
-  static async start() {
+  servers = [];
+
+  books = 0;
+
+  /**
+   * The reader of a file's tests: there while they run, with nothing open at the beginning of each.
+   * whole: the browser as people have it, with all that is around its pages.
+   */
+  static forTests({ whole = false } = {}) {
     const reader = new Reader();
-    reader.browser = await launchChromium();
-    reader.folder = await mkdtemp(path.join(tmpdir(), 'folvero-browser-'));
-    reader.servers = [];
-    reader.books = 0;
+    before(() => reader.start(whole));
+    afterEach(() => reader.closeBooks());
+    after(() => reader.stop());
     return reader;
+  }
+
+  async start(whole = false) {
+    this.browser = await launchChromium({ bare: !whole });
+    this.folder = await mkdtemp(path.join(tmpdir(), 'folvero-browser-'));
   }
 
   async stop() {

@@ -124,15 +124,17 @@ class PlayedMovie {
     throw new Error(`${x},${y} is ${found} instead of ${wanted}`);
   }
 
-  /** How the middle of the page on a side differs from a picture, 0 (not at all) to 255. */
-  async differenceFrom(side, picture) {
+  /** How the middle of the page on a side differs from each of some pictures, 0 (not at all) to 255. */
+  async differencesFrom(side, pictures) {
     const { x, y, width, height } = (await this.state())[side];
     // The edges are left out: the binding darkens them.
     const clip = { x: x + width * 0.2, y: y + height * 0.05, width: width * 0.6, height: height * 0.9 };
     const shown = await this.#pixels(clip, 24, 36);
-    const wanted = await this.#decode(picture, [0.2, 0.05, 0.6, 0.9], 24, 36);
-    const parts = shown.flatMap((colour, index) => colour.map((part, at) => Math.abs(part - wanted[index][at])));
-    return parts.reduce((sum, part) => sum + part, 0) / parts.length;
+    return Promise.all(pictures.map(async (picture) => {
+      const wanted = await this.#decode(picture, [0.2, 0.05, 0.6, 0.9], 24, 36);
+      const parts = shown.flatMap((colour, index) => colour.map((part, at) => Math.abs(part - wanted[index][at])));
+      return parts.reduce((sum, part) => sum + part, 0) / parts.length;
+    }));
   }
 
   async #pixels(clip, columns, rows) {
