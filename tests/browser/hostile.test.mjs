@@ -157,6 +157,8 @@ test('no path of a configuration leads out of the book', async () => {
     await book.use('thumbs');
     await book.page.mouse.click(640, 20);
     await assertHarmless(book, folder);
+    const beyond = book.server.requests.map((request) => request.path).filter((file) => !/^\/($|index\.html$|files\/)/.test(file));
+    assert.deepEqual(beyond, [], `${PATHS[at]}, ${PATHS[half + at]}`);
     await reader.closeBooks();
   }
 });

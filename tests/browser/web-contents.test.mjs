@@ -157,7 +157,7 @@ test('readers are told in their own language', async () => {
   }
 });
 
-test('pages are called by their labels in the page box, the contents, the thumbnails and what is announced', async () => {
+test('pages are called and found by their labels, in the page box, the contents, the thumbnails and what is announced', async () => {
   const book = await open({ change: { labels: LABELS }, hash: '#page=2' });
   const box = book.page.locator('.page-box');
   assert.equal(await box.inputValue(), 'ii\u2013A-3');
@@ -172,10 +172,7 @@ test('pages are called by their labels in the page box, the contents, the thumbn
   await press(book, 'Escape', 'End');
   await book.waitForPages(12);
   assert.equal(await box.inputValue(), '12');
-});
-
-test('a label that is typed goes before a position, and positions work where no label fits', async () => {
-  const book = await open({ change: { labels: LABELS } });
+  // A label that is typed goes before a position, and positions work where no label fits.
   const typed = [['a-3', [2, 3]], ['1', [4, 5]], ['8', [10, 11]], ['II', [2, 3]], ['10', [10, 11]], ['ii\u2013A-3', [2, 3]], ['12', [12]], ['4', [6, 7]],
     ['0', [6, 7]], ['13', [6, 7]], ['iv', [6, 7]], ['constructor', [6, 7]]];
   for (const [text, pages] of typed) {

@@ -69,8 +69,18 @@ test('what is searched is found, listed by page with its surroundings and marked
   assert.deepEqual(book.errors, []);
 });
 
-test('the list of results is used by mouse and by key', async () => {
+test('Ctrl+F searches the book, and asked again it is the browser\'s; the list is used by mouse and by key', async () => {
   const book = await open(STORY);
+  await book.page.keyboard.press('Control+f');
+  assert.ok(await box(book).evaluate((one) => one === document.activeElement));
+  const left = await book.page.evaluate(() => {
+    const event = new KeyboardEvent('keydown', { key: 'f', ctrlKey: true, cancelable: true, bubbles: true });
+    return document.activeElement.dispatchEvent(event);
+  });
+  assert.equal(left, true);
+  await book.page.keyboard.type('t/c');
+  assert.equal(await box(book).inputValue(), 't/c');
+  assert.deepEqual(await book.pages(), [1]);
   await search(book, 'harbour');
   await book.page.locator('.result').nth(4).click();
   await book.waitForPages(6);
@@ -162,20 +172,6 @@ test('on a phone a result makes room for the book, and the strip that stays lead
   await strip.locator('.step-close').tap();
   assert.equal(await strip.isVisible(), false);
   assert.equal(await book.page.locator('.hit').count(), 0);
-});
-
-test('Ctrl+F searches the book, and asked again it is the browser\'s', async () => {
-  const book = await open(STORY);
-  await book.page.keyboard.press('Control+f');
-  assert.ok(await box(book).evaluate((one) => one === document.activeElement));
-  const left = await book.page.evaluate(() => {
-    const event = new KeyboardEvent('keydown', { key: 'f', ctrlKey: true, cancelable: true, bubbles: true });
-    return document.activeElement.dispatchEvent(event);
-  });
-  assert.equal(left, true);
-  await book.page.keyboard.type('t/c');
-  assert.equal(await box(book).inputValue(), 't/c');
-  assert.deepEqual(await book.pages(), [1]);
 });
 
 test('an enlarged page is moved to the hit', async () => {
