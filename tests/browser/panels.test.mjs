@@ -40,9 +40,9 @@ test('a panel closes with its button and with a click beside it', async () => {
   const book = await open(4);
   for (const close of [() => book.page.locator('.help-panel .close').click(), () => book.page.mouse.click(20, 20)]) {
     await book.page.keyboard.press('?');
-    assert.ok(await visible(book, '.help-panel'));
+    await book.page.locator('.help-panel').waitFor();
     await close();
-    assert.equal(await visible(book, '.help-panel'), false);
+    await book.page.locator('.help-panel').waitFor({ state: 'hidden' });
   }
 });
 
