@@ -175,6 +175,10 @@
         <source>the player is not installed</source>
         <translation>der Player ist nicht installiert</translation>
     </message>
+    <message>
+        <source>As one file the book would have %1 MB, and the most is %2 MB. Import fewer pages or choose the smallest files, or publish it as a folder</source>
+        <translation>Als eine Datei hätte das Buch %1 MB, erlaubt sind %2 MB. Importieren Sie weniger Seiten oder wählen Sie die kleinsten Dateien, oder veröffentlichen Sie es als Ordner</translation>
+    </message>
 </context>
 <context>
     <name>ImportPDFOperation</name>
@@ -574,6 +578,35 @@
     <message>
         <source>Web &amp;book: with search, links, contents and text to copy</source>
         <translation>Web&amp;buch: mit Suche, Links, Inhalt und Text zum Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Embed:</source>
+        <extracomment>Markup that shows the book inside another page.</extracomment>
+        <translation>E&amp;inbetten:</translation>
+    </message>
+    <message>
+        <source>Everything in &amp;one file</source>
+        <translation>Alles in &amp;einer Datei</translation>
+    </message>
+    <message>
+        <source>One page that holds the whole book, to send by mail or to open from a memory stick</source>
+        <translation>Eine Seite, die das ganze Buch enthält, zum Verschicken per Mail oder zum Öffnen von einem Speicherstift</translation>
+    </message>
+    <message>
+        <source>Shows the book inside another page: put this into that page, with the book&apos;s address on the web in place of %1</source>
+        <translation>Zeigt das Buch in einer anderen Seite: Fügen Sie dies dort ein, mit der Adresse des Buchs im Web anstelle von %1</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the text for embedding the book</source>
+        <translation>Kopiert den Text zum Einbetten des Buchs</translation>
+    </message>
+    <message>
+        <source>Copy the text for embedding</source>
+        <translation>Text zum Einbetten kopieren</translation>
     </message>
 </context>
 <context>

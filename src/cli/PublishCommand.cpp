@@ -9,6 +9,7 @@
 #include "cli/PublishTiming.h"
 #include "cli/TemplateChoice.h"
 #include "cli/Terminal.h"
+#include "cli/WebBookChoice.h"
 #include "output/FolveroOutput.h"
 #include "output/FolveroOutputApp.h"
 #include "output/FolveroOutputWeb.h"
@@ -121,6 +122,7 @@ std::unique_ptr<FolveroOutput> makeWebOutput(const PublishOptions& options,
                                              const QString& folder, const QString& title) {
     auto output = std::make_unique<FolveroOutputWeb>(source, tmpl, folder, bookName(options));
     output->setTitle(title);
+    output->setSingleFile(options.singleFile);
     const auto progress =
         std::make_shared<ProgressDisplay>(QStringLiteral("Making the web book"), options.quiet);
     output->setProgress([progress](int done, int total) { progress->show(done, total); });
@@ -166,6 +168,7 @@ void reportWebBook(const FolveroOutputWeb& output, bool quiet) {
             .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1)
             .arg(QStringLiteral("%1 %").arg(std::lround(100.0 * double(output.pageBytes()) /
                                                         double(output.classicPageBytes())))));
+    WebBookChoice::tellHowToEmbed(output);
 }
 
 // Pages that could not be drawn, and those whose file was gone before it was published.
@@ -192,12 +195,14 @@ void reportMissingPages(const PDFToSWFPageConverter& converter, const FolveroOut
 void runPublish(const PublishOptions& options) {
     PublishTiming timing;
     bookName(options); // a wrong name shows before an hour of drawing
+    WebBookChoice::check(options);
     const auto tmpl = prepareTemplate(options);
     OpenedPDF opened = openDocument(options.pdf);
     const auto document = opened.document;
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::note(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
+    const auto openPages = WebBookChoice::openPages(options, pages.range, document->pageCount());
     // Until here a signal ends the program at once, as it should: nothing is there to clear away.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
@@ -217,6 +222,8 @@ void runPublish(const PublishOptions& options) {
     const auto output = makeOutput(options, source, tmpl, folder.path(), title);
     output->setFlashPagesAnnotations(operation->flashPagesAnnotation());
     output->setFlashOutline(operation->flashOutline());
+    if (auto* web = dynamic_cast<FolveroOutputWeb*>(output.get()))
+        web->setOpenPages(openPages);
     writeBook(*output, title);
     folder.keep();
     timing.published();

@@ -12,6 +12,8 @@ struct PublishOptions {
     QString name;  // null: "index" for a page, the PDF's name for an application
     QString title; // null: the document's own title, or else its file name
     QString pages = QStringLiteral("ALL");
+    bool singleFile = false; // of a web book
+    QString previewPages;    // of a web book; null: all pages can be read
     int quality = 100;
     bool links = false;
     bool bookmarks = false;

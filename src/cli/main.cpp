@@ -30,6 +30,8 @@ struct CommandLine {
     std::string name;
     std::string title;
     std::string pages = "ALL";
+    bool singleFile = false;
+    std::string previewPages;
     int quality = 100;
     bool links = false;
     bool bookmarks = false;
@@ -64,6 +66,9 @@ void publish(const CommandLine& line, const CLI::App& command) {
     if (command.count("--title") > 0)
         options.title = text(line.title).isNull() ? QStringLiteral("") : text(line.title);
     options.pages = text(line.pages);
+    options.singleFile = line.singleFile;
+    if (command.count("--preview-pages") > 0)
+        options.previewPages = QStringLiteral("") + text(line.previewPages);
     options.quality = line.quality;
     options.links = line.links;
     options.bookmarks = line.bookmarks;
@@ -107,6 +112,13 @@ void addPublish(CLI::App& app, CommandLine& line) {
     command->add_option("--pages", line.pages, "Pages to take, for example 1-3,7 or ALL")
         ->type_name("PAGES")
         ->capture_default_str();
+    command->add_flag("--single-file", line.singleFile,
+                      "Put all of a web book into its HTML page, for mail and memory sticks");
+    command
+        ->add_option("--preview-pages", line.previewPages,
+                     "Pages of a web book that can be read, as in --pages; the others only tell\n"
+                     "that they are left out")
+        ->type_name("PAGES");
     command
         ->add_option("--quality", line.quality,
                      "100 for the sharpest pages, below that for the smallest files")

@@ -2,6 +2,7 @@
 
 #include "annotations/FlashOutlinePDF.h"
 #include "output/PlainTextPage.h"
+#include "output/SingleFilePage.h"
 #include "output/WebPageText.h"
 #include "output/WebScript.h"
 #include "platform/Bundle.h"
@@ -11,16 +12,24 @@
 #include "platform/PDFFacts.h"
 #include "platform/PlatformException.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QScopeGuard>
 #include <algorithm>
+#include <cmath>
 
 using Copy = PublishTransaction::Copy;
 using Phase = PublishTransaction::Phase;
 
 namespace {
+
+const QString textPageName = QStringLiteral("text.html");
+const QString textFolder = QStringLiteral("text");
+
+constexpr char playerMarkup[] = "<link rel=\"stylesheet\" href=\"files/web.css\">\n"
+                                "<script src=\"files/web.js\"></script>\n";
 
 const Log& logger() {
     static const Log log("FolveroOutputWeb");
@@ -37,6 +46,27 @@ std::vector<PDFTextLine> textFrom(const QString& path) {
         logger().warn(QStringLiteral("%1: %2").arg(path, failure.reason()));
         return {};
     }
+}
+
+QString megabytes(qint64 bytes) {
+    constexpr double megabyte = 1'000'000;
+    // Never below what it is: a file just over a limit has to look like it.
+    return QString::number(std::ceil(10 * double(bytes) / megabyte) / 10, 'f', 1);
+}
+
+// Those at a terminal can be told the very options.
+Message tooLarge(qint64 size, qint64 limit) {
+    const Message forWindow =
+        Message::translate("FolveroOutput",
+                           "As one file the book would have %1 MB, and the most is %2 MB. Import "
+                           "fewer pages or choose the smallest files, or publish it as a folder")
+            .arg(megabytes(size), megabytes(limit));
+    const QString forTerminal =
+        QStringLiteral("as one file the book would have %1 MB, and the most is %2 MB; take fewer "
+                       "pages (--pages) or smaller pictures (--quality 0), or leave out "
+                       "--single-file")
+            .arg(megabytes(size), megabytes(limit));
+    return {forTerminal, forWindow.local()};
 }
 
 // Only the name of a language may stand in a page.
@@ -63,6 +93,8 @@ void FolveroOutputWeb::ouputTheBook() {
     const auto end = qScopeGuard([this] { iWebPages.reset(); });
     iWebPages->setCancelled([this] { return isCancelled(); });
     iWebPages->setProgress(iProgress);
+    iWebPages->setWanted(
+        [this](int number) { return !iOpenPages || isWithin(*iOpenPages, number); });
     if (!iWebPages->make()) {
         noteCancelled();
         return;
@@ -96,7 +128,8 @@ void FolveroOutputWeb::describeBook() {
         iHTMLConfig->setHTMLKeywords(iFacts.keywords.toHtmlEscaped());
 }
 
-// The same pages with the files that a web book shows. It owns them as the other one does.
+// The same pages with the files that a web book shows, if it shows them. It owns them as the other
+// one does.
 std::shared_ptr<FlashPageSource> FolveroOutputWeb::sourceOfWebPages() const {
     class Source : public FlashPageSource {
     public:
@@ -108,25 +141,33 @@ std::shared_ptr<FlashPageSource> FolveroOutputWeb::sourceOfWebPages() const {
     };
     auto source = std::make_shared<Source>(iFlashPageSource->ownsPageFiles());
     FlashPageSource::Pages pages;
+    FlashPageSource::Pages open;
     for (const WebPage& page : iWebPages->pages()) {
         auto entry = std::make_shared<FlashPage>();
         entry->setPageIndex(page.number);
         entry->setPageFilePath(page.picture);
+        if (isOpen(page.number))
+            open.push_back(entry);
         pages.push_back(std::move(entry));
     }
     source->setPages(pages);
-    source->setNormalPages(pages);
+    source->setNormalPages(open);
     return source;
 }
 
 void FolveroOutputWeb::readFacts() {
     iFacts = {};
-    for (const WebPage& page : iWebPages->pages()) {
+    for (const WebPage& page : iWebPages->pages())
         iFacts.numbers.push_back(page.number);
-        iFacts.large << (page.large.isNull() ? QString() : QFileInfo(page.large).suffix());
+    noteOpenPages();
+    for (const WebPage& page : iWebPages->pages()) {
+        const bool hasLarge = isOpen(page.number) && !page.large.isNull();
+        iFacts.large << (hasLarge ? QFileInfo(page.large).suffix() : QString());
     }
-    if (!iWebPages->pages().empty() && !iWebPages->pages().front().thumbnail.isNull())
-        iFacts.cover = QStringLiteral("files/thumb/%1.webp").arg(iFacts.numbers.front());
+    if (!iIsSingleFile) {
+        iFacts.textPage = textPageName;
+        iFacts.cover = cover();
+    }
     if (const auto document = iWebPages->document()) {
         try {
             readDocumentFacts(*document);
@@ -136,6 +177,31 @@ void FolveroOutputWeb::readFacts() {
     }
     if (!iTitle.isEmpty())
         iFacts.title = iTitle;
+}
+
+QString FolveroOutputWeb::cover() const {
+    const auto& pages = iWebPages->pages();
+    const auto first = std::find_if(pages.begin(), pages.end(),
+                                    [this](const WebPage& page) { return isOpen(page.number); });
+    if (first == pages.end() || first->thumbnail.isNull())
+        return {};
+    return QStringLiteral("files/thumb/%1.webp").arg(first->number);
+}
+
+void FolveroOutputWeb::noteOpenPages() {
+    if (!iOpenPages)
+        return;
+    std::vector<PageRun> runs;
+    for (std::size_t i = 0; i < iFacts.numbers.size(); ++i) {
+        const int position = int(i) + 1;
+        if (!isWithin(*iOpenPages, iFacts.numbers[i]))
+            continue;
+        if (!runs.empty() && runs.back().last == position - 1)
+            runs.back().last = position;
+        else
+            runs.push_back({position, position});
+    }
+    iFacts.open = runs;
 }
 
 void FolveroOutputWeb::readDocumentFacts(const PDFDocument& document) {
@@ -158,13 +224,46 @@ void FolveroOutputWeb::readDocumentFacts(const PDFDocument& document) {
 }
 
 void FolveroOutputWeb::publish() {
-    if (iWebPages)
+    if (iWebPages) {
+        removeClosedPages();
         writePages();
+    }
     FolveroOutput::publish();
     // It knows no pictures of this kind.
     transaction().remove(outputSWFName());
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("js"));
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("css"));
+    if (iIsSingleFile)
+        packIntoPage();
+}
+
+void FolveroOutputWeb::packIntoPage() {
+    checkCancelled();
+    const QString page = outputHTMLFileName();
+    std::map<QString, QString> files;
+    for (const auto& [target, staged] : transaction().takeBack())
+        files.emplace(QDir(iSaveToFolder).relativeFilePath(target), staged);
+    const SingleFilePage single(files, Files::lastPathComponent(page));
+    if (single.size() > iSingleFileLimit)
+        PublishTransaction::fail(page, tooLarge(single.size(), iSingleFileLimit));
+    Message error;
+    if (!single.write(transaction().stage(page, Phase::page), &error))
+        PublishTransaction::fail(page, error);
+}
+
+// A book that lay in the folder before may have shown them.
+void FolveroOutputWeb::removeClosedPages() {
+    if (!iFacts.open)
+        return;
+    for (const QString& name :
+         {iNormalPageFolder, iZoomedPageFolder, iThumbPageFolder, textFolder}) {
+        const QDir folder(resourceFolder(iSaveToFolder, name));
+        for (const QString& file : folder.entryList(QDir::Files | QDir::Hidden | QDir::System)) {
+            const int number = file.section(u'.', 0, 0).toInt();
+            if (number > 0 && !isOpen(number))
+                transaction().remove(folder.filePath(file));
+        }
+    }
 }
 
 void FolveroOutputWeb::copyPlayerPart(const QString& name, const QString& type) {
@@ -191,6 +290,11 @@ void FolveroOutputWeb::writePages() {
     AnnotationBudget budget;
     for (const WebPage& page : iWebPages->pages()) {
         checkCancelled();
+        if (!isOpen(page.number)) {
+            search.append(QString());
+            plain.skipPage();
+            continue;
+        }
         const QString text = writePage(page, document.get(), budget);
         iFacts.hasText = iFacts.hasText || !text.isEmpty();
         search.append(text);
@@ -200,8 +304,7 @@ void FolveroOutputWeb::writePages() {
         document->rest();
     writeScript(QStringLiteral("search/text"), WebScript::json(search));
     writeScript(QStringLiteral("web/book"), WebScript::json(iFacts.forPlayer(iFlashOutline.get())));
-    transaction().write(Files::join(iSaveToFolder, QStringLiteral("text.html")), plain.html(),
-                        Phase::page);
+    transaction().write(Files::join(iSaveToFolder, textPageName), plain.html(), Phase::page);
 }
 
 // The files of one page beside its picture. Returns its text.
@@ -226,7 +329,7 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
             iPoorPages.emplace_back(page.number, failure.message());
         }
     }
-    writeScript(QStringLiteral("text/") + number,
+    writeScript(textFolder + u'/' + number,
                 WebScript::json(WebPageText::asJson(boxes, lines, annotations, [this](int index) {
                     return iFacts.positionOf(index + 1);
                 })));
@@ -254,7 +357,11 @@ void FolveroOutputWeb::finishHTMLPage(const QString& file) {
     const qsizetype headEnd = html.indexOf("</head>");
     if (headEnd < 0)
         return;
-    html.insert(headEnd, iFacts.headMarkup());
+    // It shows a movie that web books don't have.
+    const qsizetype movie = html.indexOf("<object ");
+    if (const qsizetype end = html.indexOf("</object>", movie); movie >= 0 && end >= 0)
+        html.remove(movie, end + qsizetype(qstrlen("</object>")) - movie);
+    html.insert(headEnd, iFacts.headMarkup() + (iIsSingleFile ? "" : playerMarkup));
     if (!iFacts.language.isEmpty())
         html.replace("<html lang=\"en\">", "<html lang=\"" + iFacts.language.toUtf8() + "\">");
     Message error;

@@ -6,6 +6,7 @@
 #include "platform/AnnotationBudget.h"
 
 #include <functional>
+#include <optional>
 
 // Writes a web book: the folder of a book whose pages take fewer bytes, and what a reader of today
 // expects beyond: links that can be clicked, contents, search, text that can be selected, a larger
@@ -16,6 +17,17 @@ public:
 
     // Plain text, shown wherever the book tells of itself; by default that of the document.
     void setTitle(const QString& title) { iTitle = title; }
+    QString title() const { return iTitle; }
+
+    // Everything in the HTML page and no other file, to be sent by mail or opened from a disk.
+    // There is no plain page of the text then.
+    void setSingleFile(bool isSingleFile) { iIsSingleFile = isSingleFile; }
+    // Bytes up to which a book is written as one file; mail and browsers take no more.
+    void setSingleFileLimit(qint64 bytes) { iSingleFileLimit = bytes; }
+
+    // Opens these pages only, given by their numbers in the PDF. Of the others the book says no
+    // more than that they are there: it has neither pictures nor texts of them. None opens all.
+    void setOpenPages(std::optional<std::vector<PageRun>> pages) { iOpenPages = std::move(pages); }
 
     // Called while pages are made, with the number of pages done and that of all.
     void setProgress(std::function<void(int done, int total)> progress) {
@@ -41,16 +53,24 @@ private:
     void readFacts();
     void describeBook();
     void readDocumentFacts(const PDFDocument& document);
+    QString cover() const;
+    void noteOpenPages();
+    bool isOpen(int number) const { return iFacts.isOpen(iFacts.positionOf(number)); }
+    void removeClosedPages();
     void writePages();
     QString writePage(const WebPage& page, const PDFDocument* document, AnnotationBudget& budget);
     void copyPageFile(const QString& source, const QString& folder, const QString& name);
     void writeScript(const QString& name, const QByteArray& json);
+    void packIntoPage();
     void copyPlayerPart(const QString& name, const QString& type);
     std::shared_ptr<FlashPageSource> sourceOfWebPages() const;
 
     std::function<void(int, int)> iProgress = [](int, int) {};
     std::unique_ptr<WebPages> iWebPages; // of the run under way
     QString iTitle;
+    bool iIsSingleFile = false;
+    qint64 iSingleFileLimit = 100'000'000;
+    std::optional<std::vector<PageRun>> iOpenPages;
     WebBookFacts iFacts;
     std::vector<std::pair<int, Message>> iPoorPages;
     qint64 iPageBytes = 0;

@@ -14,6 +14,8 @@ public:
 
     // The next page of the book.
     void addPage(const QString& text);
+    // The next page of the book is not shown here.
+    void skipPage() { ++iPosition; }
 
     QByteArray html() const;
 

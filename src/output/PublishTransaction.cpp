@@ -134,6 +134,18 @@ void PublishTransaction::remove(const QString& target) {
     change.staged = QString();
 }
 
+std::map<QString, QString> PublishTransaction::takeBack() {
+    std::map<QString, QString> files;
+    for (const Change& change : iChanges) {
+        if (!change.staged.isNull())
+            files.emplace(change.target, change.staged);
+    }
+    iChanges.clear();
+    iIndexOfTarget.clear();
+    iFoldersToMake.clear();
+    return files;
+}
+
 bool PublishTransaction::willExist(const QString& path) const {
     const QString clean = QDir::cleanPath(path);
     const auto found = iIndexOfTarget.constFind(clean);

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <map>
 #include <vector>
 
 // The changes that one publish makes to a folder, made all at once at its end or not at all. New
@@ -41,6 +42,10 @@ public:
     // A path where the caller writes the target's new content. What was staged for it is dropped.
     QString stage(const QString& target, Phase phase = Phase::contents);
     void remove(const QString& target);
+
+    // Forgets all changes so far. Gives the files that were staged, by their targets; they stay as
+    // long as the transaction lives.
+    std::map<QString, QString> takeBack();
 
     // Whether the file or folder will be there after a commit.
     bool willExist(const QString& path) const;

@@ -23,6 +23,15 @@ QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookFacts& f
     return array;
 }
 
+QJsonValue openRuns(const WebBookFacts& facts) {
+    if (!facts.open)
+        return QJsonValue::Null;
+    QJsonArray array;
+    for (const PageRun& run : *facts.open)
+        array.append(QJsonArray{run.first, run.last});
+    return array;
+}
+
 // A name that is no more than the page's position says nothing.
 bool saysNothing(const QStringList& labels) {
     for (qsizetype i = 0; i < labels.size(); ++i) {
@@ -39,6 +48,13 @@ QByteArray meta(const char* kind, const char* name, const QString& content) {
            content.toHtmlEscaped().toUtf8() + "\">\n";
 }
 
+QByteArray alternate(const QString& page) {
+    if (page.isEmpty())
+        return {};
+    return "<link rel=\"alternate\" type=\"text/html\" href=\"" + page.toHtmlEscaped().toUtf8() +
+           "\">\n";
+}
+
 } // namespace
 
 int WebBookFacts::positionOf(int number) const {
@@ -46,13 +62,17 @@ int WebBookFacts::positionOf(int number) const {
     return found != numbers.end() && *found == number ? int(found - numbers.begin()) + 1 : 0;
 }
 
+bool WebBookFacts::isOpen(int position) const {
+    return !open || isWithin(*open, position);
+}
+
 QJsonObject WebBookFacts::forPlayer(const FlashOutline* outline) const {
     QJsonObject object{{QStringLiteral("version"), 1},
                        {QStringLiteral("large"), QJsonArray::fromStringList(large)},
                        {QStringLiteral("text"), hasText},
                        {QStringLiteral("language"), language},
-                       {QStringLiteral("open"), QJsonValue::Null},
-                       {QStringLiteral("textPage"), QStringLiteral("text.html")},
+                       {QStringLiteral("open"), openRuns(*this)},
+                       {QStringLiteral("textPage"), textPage},
                        {QStringLiteral("numbers"), QJsonValue::Null},
                        {QStringLiteral("labels"), QJsonValue::Null}};
     object[QStringLiteral("outline")] =
@@ -88,11 +108,6 @@ QByteArray WebBookFacts::headMarkup() const {
     return meta("name", "author", author) + meta("property", "og:type", QStringLiteral("book")) +
            meta("property", "og:title", title) + meta("property", "og:description", subject) +
            meta("property", "og:image", cover) +
-           meta("name", "twitter:card", QStringLiteral("summary")) +
-           "<link rel=\"alternate\" type=\"text/html\" href=\"text.html\">\n"
-           "<script type=\"application/ld+json\">" +
-           WebScript::json(linked) +
-           "</script>\n"
-           "<link rel=\"stylesheet\" href=\"files/web.css\">\n"
-           "<script src=\"files/web.js\"></script>\n";
+           meta("name", "twitter:card", QStringLiteral("summary")) + alternate(textPage) +
+           "<script type=\"application/ld+json\">" + WebScript::json(linked) + "</script>\n";
 }

@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <string_view>
 
 namespace {
 
@@ -12,6 +13,12 @@ QByteArray harmless(QByteArray json) {
         .replace("\xe2\x80\xa8", "\\u2028")
         .replace("\xe2\x80\xa9", "\\u2029");
 }
+
+QByteArray start(const QString& name) {
+    return "folveroData(\"" + name.toUtf8() + "\", ";
+}
+
+constexpr std::string_view end = ");\n";
 
 } // namespace
 
@@ -24,5 +31,9 @@ QByteArray WebScript::json(const QJsonObject& object) {
 }
 
 QByteArray WebScript::file(const QString& name, const QByteArray& json) {
-    return "folveroData(\"" + name.toUtf8() + "\", " + json + ");\n";
+    return start(name) + json + end.data();
+}
+
+QByteArray WebScript::jsonIn(const QString& name, const QByteArray& script) {
+    return script.mid(start(name).size()).chopped(qsizetype(end.size()));
 }

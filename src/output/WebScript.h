@@ -16,4 +16,7 @@ QByteArray json(const QJsonObject& object);
 // scripts from a disk but no other data.
 QByteArray file(const QString& name, const QByteArray& json);
 
+// The JSON of such a file.
+QByteArray jsonIn(const QString& name, const QByteArray& script);
+
 } // namespace WebScript

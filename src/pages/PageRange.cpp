@@ -65,3 +65,9 @@ std::vector<int> FlashPageSource::parsePageRange(const QString& expression, int 
     }
     return numbers;
 }
+
+bool isWithin(const std::vector<PageRun>& runs, int page) {
+    return std::any_of(runs.begin(), runs.end(), [page](const PageRun& run) {
+        return run.first <= page && page <= run.last;
+    });
+}

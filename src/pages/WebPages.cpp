@@ -44,7 +44,7 @@ bool WebPages::drawMissing() {
     const auto& converter = *converterOf(iSource);
     std::map<int, WebPage*> missing;
     for (WebPage& page : iPages) {
-        if (page.text.isNull() && QFileInfo::exists(page.picture))
+        if (iIsWanted(page.number) && page.text.isNull() && QFileInfo::exists(page.picture))
             missing[page.number] = &page;
     }
     std::vector<int> numbers;

@@ -34,6 +34,9 @@ public:
         iProgress = std::move(progress);
     }
 
+    // Pages that are not wanted are not drawn again.
+    void setWanted(std::function<bool(int number)> isWanted) { iIsWanted = std::move(isWanted); }
+
     // Makes what is not there yet. False when it was cancelled.
     bool make();
 
@@ -49,6 +52,7 @@ private:
 
     const FlashPageSource& iSource;
     std::function<bool()> iIsCancelled = [] { return false; };
+    std::function<bool(int)> iIsWanted = [](int) { return true; };
     std::function<void(int, int)> iProgress = [](int, int) {};
     std::vector<WebPage> iPages;
 };

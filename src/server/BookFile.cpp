@@ -1,40 +1,16 @@
 #include "server/BookFile.h"
 
-#include "platform/Files.h"
+#include "platform/MediaType.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QLocale>
-#include <QMap>
 #include <cstdlib>
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
 
 namespace {
-
-QByteArray contentTypeOf(const QByteArray& path) {
-    static const QMap<QByteArray, QByteArray> types{
-        {"html", "text/html; charset=utf-8"},
-        {"css", "text/css; charset=utf-8"},
-        {"js", "text/javascript; charset=utf-8"},
-        {"json", "application/json; charset=utf-8"},
-        {"webmanifest", "application/manifest+json; charset=utf-8"},
-        {"xml", "application/xml; charset=utf-8"},
-        {"txt", "text/plain; charset=utf-8"},
-        {"svg", "image/svg+xml; charset=utf-8"},
-        {"jpg", "image/jpeg"},
-        {"jpeg", "image/jpeg"},
-        {"png", "image/png"},
-        {"gif", "image/gif"},
-        {"webp", "image/webp"},
-        {"ico", "image/vnd.microsoft.icon"},
-        {"mp3", "audio/mpeg"},
-        {"swf", "application/x-shockwave-flash"},
-    };
-    const QString ending = Files::pathExtension(QFile::decodeName(path)).toLower();
-    return types.value(ending.toUtf8(), "application/octet-stream");
-}
 
 // The path beneath the folder, with a slash before each name; empty when the target is refused.
 QByteArray pathOf(const QByteArray& target) {
@@ -96,6 +72,7 @@ std::optional<BookFile> BookFile::open(const QString& folder, const QByteArray& 
     if (!descriptor.isOpen() || ::fstat(descriptor.number(), &facts) != 0 ||
         !S_ISREG(facts.st_mode))
         return {};
-    return BookFile{std::move(descriptor), facts.st_size, contentTypeOf(path), tagOf(facts),
+    return BookFile{std::move(descriptor), facts.st_size,
+                    MediaType::withCharacterSet(QFile::decodeName(path)), tagOf(facts),
                     httpDate(facts.st_mtim.tv_sec)};
 }

@@ -1,11 +1,15 @@
 #include "ui/OutputWindow.h"
 
+#include "output/EmbedSnippet.h"
+
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
 OutputWindow::OutputWindow(QWidget* parent)
@@ -18,21 +22,28 @@ OutputWindow::OutputWindow(QWidget* parent)
     //: Shown in the empty field for the book's title.
     txtTitle->setPlaceholderText(tr("shown in the browser's window"));
 
-    auto* form = new QFormLayout;
+    makeEmbedField();
+
+    auto* form = iForm = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(tr("Kind of book:"), typeRow());
-    form->addRow(tr("&Folder:"), row({txtOutputFolder, btnSelectFolder, btnOpenFolder}));
+    auto* folderRow = row({txtOutputFolder, btnSelectFolder, btnOpenFolder});
+    form->addRow(tr("&Folder:"), folderRow);
     form->addRow(tr("File &name:"), txtOutputName);
     form->addRow(tr("&Title:"), txtTitle);
-    static_cast<QLabel*>(form->itemAt(1, QFormLayout::LabelRole)->widget())
-        ->setBuddy(txtOutputFolder);
+    //: Markup that shows the book inside another page.
+    form->addRow(tr("&Embed:"), iEmbedRow);
+    for (const auto& [of, field] : {std::pair{folderRow, txtOutputFolder}, {iEmbedRow, txtEmbed}})
+        static_cast<QLabel*>(form->labelForField(of))->setBuddy(field);
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(margins);
     form->setVerticalSpacing(8);
     all->addLayout(form);
+    all->addSpacing(8);
     all->addStretch();
     all->addWidget(buttonRow(btnPublish));
+    showWebBookParts(false);
     resize(sizeHint().expandedTo({usualWidth, 0}));
 }
 
@@ -47,8 +58,16 @@ QWidget* OutputWindow::typeRow() {
     mOutputType->addButton(html, htmlBook);
     mOutputType->addButton(web, webBook);
     mOutputType->addButton(app, application);
+    chkSingleFile = new QCheckBox(tr("Everything in &one file"));
+    chkSingleFile->setToolTip(
+        tr("One page that holds the whole book, to send by mail or to open from a memory stick"));
+    auto* beneath = new QHBoxLayout;
+    beneath->addSpacing(web->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth) +
+                        web->style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing));
+    beneath->addWidget(chkSingleFile);
     layout->addWidget(html);
     layout->addWidget(web);
+    layout->addLayout(beneath);
     layout->addWidget(app);
     return row;
 }
@@ -60,4 +79,25 @@ void OutputWindow::makeFolderField() {
     //: Shows the chosen folder in the file manager.
     btnOpenFolder = new QPushButton(tr("&Show"));
     btnOpenFolder->setToolTip(tr("Opens the folder in the file manager"));
+}
+
+void OutputWindow::makeEmbedField() {
+    txtEmbed = new QLineEdit;
+    txtEmbed->setReadOnly(true);
+    const QString explanation =
+        tr("Shows the book inside another page: put this into that page, with the book's address "
+           "on the web in place of %1")
+            .arg(EmbedSnippet::placeholder());
+    txtEmbed->setToolTip(explanation);
+    txtEmbed->setAccessibleDescription(explanation);
+    btnCopyEmbed = new QPushButton(tr("Cop&y"));
+    btnCopyEmbed->setToolTip(tr("Copies the text for embedding the book"));
+    btnCopyEmbed->setAccessibleName(tr("Copy the text for embedding"));
+    iEmbedRow = row({txtEmbed, btnCopyEmbed});
+}
+
+void OutputWindow::showWebBookParts(bool isShown) {
+    chkSingleFile->setVisible(isShown);
+    iForm->setRowVisible(iEmbedRow, isShown);
+    growToContent();
 }

@@ -3,6 +3,8 @@
 #include "ui/Sheet.h"
 
 class QButtonGroup;
+class QCheckBox;
+class QFormLayout;
 class QLineEdit;
 class QPushButton;
 
@@ -17,14 +19,24 @@ public:
     explicit OutputWindow(QWidget* parent = nullptr);
 
     QButtonGroup* mOutputType;
+    QCheckBox* chkSingleFile;
     QLineEdit* txtOutputFolder;
     QPushButton* btnSelectFolder;
     QPushButton* btnOpenFolder;
     QLineEdit* txtOutputName;
     QLineEdit* txtTitle;
+    QLineEdit* txtEmbed;
+    QPushButton* btnCopyEmbed;
     QPushButton* btnPublish;
+
+    // Shows or hides what is for web books only.
+    void showWebBookParts(bool isShown);
 
 private:
     QWidget* typeRow();
     void makeFolderField();
+    void makeEmbedField();
+
+    QFormLayout* iForm;
+    QWidget* iEmbedRow;
 };

@@ -1,6 +1,7 @@
 #include "ui/OutputWindowDelegate.h"
 
 #include "app/AppSettings.h"
+#include "output/EmbedSnippet.h"
 #include "output/FolveroOutputApp.h"
 #include "output/FolveroOutputWeb.h"
 #include "platform/Files.h"
@@ -10,9 +11,12 @@
 #include "ui/Panels.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -34,8 +38,10 @@ OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     awakeFromNib();
-    for (const auto* field : {iWindow->txtOutputFolder, iWindow->txtOutputName})
+    for (const auto* field : {iWindow->txtOutputFolder, iWindow->txtOutputName, iWindow->txtTitle})
         connect(field, &QLineEdit::textChanged, this, &OutputWindowDelegate::showState);
+    connect(iWindow->mOutputType, &QButtonGroup::idToggled, this, &OutputWindowDelegate::showState);
+    connect(iWindow->btnCopyEmbed, &QPushButton::clicked, this, &OutputWindowDelegate::onCopyEmbed);
     connect(iWindow->btnPublish, &QPushButton::clicked, this, &OutputWindowDelegate::onPublish);
     connect(iWindow->btnCancel, &QPushButton::clicked, this, &OutputWindowDelegate::onCancel);
     connect(iWindow, &OutputWindow::closeRequested, this, &OutputWindowDelegate::onCancel);
@@ -81,6 +87,12 @@ void OutputWindowDelegate::proposeTexts() {
 void OutputWindowDelegate::showState() {
     iWindow->btnPublish->setEnabled(!iWindow->txtOutputFolder->text().trimmed().isEmpty() &&
                                     !iWindow->txtOutputName->text().trimmed().isEmpty());
+    iWindow->showWebBookParts(iWindow->mOutputType->checkedId() == OutputWindow::webBook);
+    const auto& settings = AppSettings::shareInstance();
+    const EmbedSnippet snippet(iWindow->txtTitle->text(),
+                               {settings.PageWidth(), settings.PageHeight()}, pageName());
+    iWindow->txtEmbed->setText(snippet.html());
+    iWindow->txtEmbed->setCursorPosition(0);
 }
 
 void OutputWindowDelegate::endSheet(int returnCode) {
@@ -96,10 +108,14 @@ void OutputWindowDelegate::saveChoices() const {
     settings.saveSettings();
 }
 
+QString OutputWindowDelegate::pageName() const {
+    return iWindow->txtOutputName->text() + QStringLiteral(".html");
+}
+
 // The application takes its name from the same text: it replaces the ending.
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() const {
     const QString folder = iWindow->txtOutputFolder->text();
-    const QString name = iWindow->txtOutputName->text() + QStringLiteral(".html");
+    const QString name = pageName();
     if (AppSettings::shareInstance().outputType() == OutputWindow::application)
         return std::make_unique<FolveroOutputApp>(iFlashPageSource, iFlashTmpl, folder, name);
     if (!QFileInfo::exists(folder))
@@ -114,6 +130,7 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString
                                                                    const QString& name) const {
     auto output = std::make_unique<FolveroOutputWeb>(iFlashPageSource, iFlashTmpl, folder, name);
     output->setTitle(AppSettings::shareInstance().lastOutputFileTitle());
+    output->setSingleFile(iWindow->chkSingleFile->isChecked());
     const auto dialog = std::make_shared<QProgressDialog>(iWindow);
     constexpr int patienceMilliseconds = 400;
     dialog->setWindowModality(Qt::WindowModal);
@@ -193,4 +210,11 @@ void OutputWindowDelegate::openPanelDidEnd(const std::optional<QString>& panelFi
 
 void OutputWindowDelegate::onOpenFolder() {
     iQuestions.open(iWindow->txtOutputFolder->text());
+}
+
+void OutputWindowDelegate::onCopyEmbed() {
+    QGuiApplication::clipboard()->setText(iWindow->txtEmbed->text());
+    // Shows that it was done.
+    iWindow->txtEmbed->setFocus();
+    iWindow->txtEmbed->selectAll();
 }

@@ -53,12 +53,14 @@ public:
     void onCancel();
     void onSelectFolder();
     void onOpenFolder();
+    void onCopyEmbed();
     void openPanelDidEnd(const std::optional<QString>& panelFile);
 
 private:
     void awakeFromNib();
     void proposeTexts();
     void showState();
+    QString pageName() const;
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput() const;
     std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name) const;

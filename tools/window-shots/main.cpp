@@ -14,7 +14,9 @@
 #include "ui/SelectTemplateWindowDelegate.h"
 #include "window-shots/ShotsProgram.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QButtonGroup>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
@@ -153,6 +155,9 @@ private:
         sheet.btnCancel->setFocus();
         save(iProgram.pictureOfSheet(), "publish");
         savePicture("publish-window");
+        sheet.mOutputType->button(OutputWindow::webBook)->click();
+        sheet.btnCancel->setFocus();
+        save(iProgram.pictureOfSheet(), "publish-web");
         program().ouputWindow().onCancel();
     }
 

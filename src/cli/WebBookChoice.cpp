@@ -1,0 +1,60 @@
+#include "cli/WebBookChoice.h"
+
+#include "app/AppSettings.h"
+#include "cli/CommandError.h"
+#include "cli/PageSelection.h"
+#include "cli/PublishCommand.h"
+#include "cli/Terminal.h"
+#include "output/EmbedSnippet.h"
+#include "output/FolveroOutputWeb.h"
+#include "platform/Files.h"
+
+#include <algorithm>
+
+namespace {
+
+bool overlap(const std::vector<PageRun>& some, const std::vector<PageRun>& others) {
+    return std::any_of(some.begin(), some.end(), [&others](const PageRun& run) {
+        return std::any_of(others.begin(), others.end(), [&run](const PageRun& other) {
+            return run.first <= other.last && other.first <= run.last;
+        });
+    });
+}
+
+} // namespace
+
+void WebBookChoice::check(const PublishOptions& options) {
+    if (options.type == PublishOptions::Type::web)
+        return;
+    const QString text = QStringLiteral("%1 is for web books only; add --type web");
+    if (options.singleFile)
+        throw CommandError(text.arg(QStringLiteral("--single-file")), ExitCode::usage);
+    if (!options.previewPages.isNull())
+        throw CommandError(text.arg(QStringLiteral("--preview-pages")), ExitCode::usage);
+}
+
+std::optional<std::vector<PageRun>> WebBookChoice::openPages(const PublishOptions& options,
+                                                             const QString& range, int pageCount) {
+    if (options.previewPages.isNull())
+        return {};
+    const PageSelection selection = selectPages(options.previewPages, pageCount);
+    for (const QString& remark : selection.remarks)
+        Terminal::note(QStringLiteral("folvero: --preview-pages: %1").arg(remark));
+    auto open = pageRunsFromExpression(selection.range, pageCount);
+    if (!overlap(open, pageRunsFromExpression(range, pageCount))) {
+        throw CommandError(QStringLiteral("--preview-pages %1: the book has none of these pages, "
+                                          "it has %2")
+                               .arg(selection.range, range));
+    }
+    return open;
+}
+
+void WebBookChoice::tellHowToEmbed(const FolveroOutputWeb& output) {
+    const auto& settings = AppSettings::shareInstance();
+    const EmbedSnippet snippet(output.title(), {settings.PageWidth(), settings.PageHeight()},
+                               Files::lastPathComponent(output.outputHTMLFileName()));
+    Terminal::note(QStringLiteral("To show the book inside a page of yours, put this line into "
+                                  "that page, with the book's\naddress on the web in place of "
+                                  "%1:\n%2")
+                       .arg(EmbedSnippet::placeholder(), snippet.html()));
+}
