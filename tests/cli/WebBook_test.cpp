@@ -1,7 +1,10 @@
+#include "output/FolveroOutputWeb.h"
+#include "platform/Bundle.h"
 #include "support/Program.h"
-#include "support/TemplateLibrary.h"
+#include "support/PublishedBook.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QImage>
 #include <QJsonArray>
@@ -11,6 +14,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 
 // Web books against what other programs read from the same document.
 namespace {
@@ -44,6 +48,14 @@ protected:
     }
     QJsonObject page(int number) const {
         return data(QStringLiteral("text/%1").arg(number)).object();
+    }
+
+    // The text of a page as another program reads it.
+    QString textByPoppler(int number) const {
+        const QString n = QString::number(number);
+        return QString::fromUtf8(
+            runPoppler(QStringLiteral("pdftotext"), {QStringLiteral("-f"), n, QStringLiteral("-l"),
+                                                     n, iPDF, QStringLiteral("-")}));
     }
 
     QByteArray runPoppler(const QString& program, const QStringList& arguments) const {
@@ -108,6 +120,17 @@ QString letters(const QString& text) {
             result += letter;
     }
     return result;
+}
+
+// All files beneath a folder, by their paths in it.
+std::map<QString, QByteArray> filesIn(const QString& folder) {
+    std::map<QString, QByteArray> files;
+    for (QDirIterator entry(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+         entry.hasNext();) {
+        const QString path = entry.next();
+        files[QDir(folder).relativeFilePath(path)] = TestFiles::read(path);
+    }
+    return files;
 }
 
 // The rectangle of that colour that lies around a place.
@@ -199,10 +222,6 @@ TEST_F(WebBookTest, ReadsScriptsOfAllDirections) {
     // One page more where the machine has a font to take letters from.
     ASSERT_GE(texts.size(), 6);
     for (int number = 1; number <= int(texts.size()); ++number) {
-        const QString n = QString::number(number);
-        const QByteArray other =
-            runPoppler(QStringLiteral("pdftotext"), {QStringLiteral("-f"), n, QStringLiteral("-l"),
-                                                     n, iPDF, QStringLiteral("-")});
         // Where a mark or a blank goes between the two directions is where programs differ.
         const auto sorted = [](const QString& text) {
             QString result;
@@ -213,7 +232,7 @@ TEST_F(WebBookTest, ReadsScriptsOfAllDirections) {
             std::sort(result.begin(), result.end());
             return result.toStdString();
         };
-        EXPECT_EQ(sorted(texts[number - 1].toString()), sorted(QString::fromUtf8(other))) << number;
+        EXPECT_EQ(sorted(texts[number - 1].toString()), sorted(textByPoppler(number))) << number;
     }
     const auto lines = [&](int position) {
         return texts[position - 1].toString().split(u'\n').mid(1);
@@ -271,4 +290,148 @@ TEST_F(WebBookTest, TellsOfItselfWithoutLettingTextsOutOfTheirPlaces) {
     const qsizetype from = page.indexOf(start) + start.size();
     const QByteArray json = page.mid(from, page.indexOf("</script>", from) - from);
     EXPECT_EQ(QJsonDocument::fromJson(json)[QStringLiteral("@type")], QStringLiteral("Book"));
+}
+
+TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
+    const QStringList some{QStringLiteral("--pages"), QStringLiteral("1-4")};
+    for (const QString& sample : {QStringLiteral("sample.pdf"), QStringLiteral("hostile.pdf")}) {
+        QDir(file({})).removeRecursively();
+        publish(sample, some);
+        const QString folder = iRoot.filePath(sample);
+        const auto result = Program::run(
+            QStringList{QStringLiteral("publish"), iPDF, folder, QStringLiteral("--type"),
+                        QStringLiteral("web"), QStringLiteral("--single-file"),
+                        QStringLiteral("--name"), QStringLiteral("my book")} +
+            some);
+        ASSERT_EQ(result.exitCode, 0) << result.errors.constData();
+        EXPECT_TRUE(result.errors.contains("<iframe src=\"BOOK-ADDRESS/my%20book.html\" title=\""));
+        const auto only = filesIn(folder);
+        ASSERT_EQ(only.size(), 1U);
+        const QString html = QString::fromUtf8(only.at(QStringLiteral("my book.html")));
+
+        auto wanted = filesIn(file(QStringLiteral("files")));
+        static const QRegularExpression element(QStringLiteral(
+            R"re(<script type="[a-z/]+" data-file="([^"]+)"(?: data-type="([^"]+)")?>([^<]*)</script>)re"));
+        for (auto found = element.globalMatch(html); found.hasNext();) {
+            const auto match = found.next();
+            const QString name = match.captured(1);
+            const QByteArray content = match.captured(3).toUtf8();
+            if (!match.captured(2).isEmpty()) {
+                EXPECT_EQ(QByteArray::fromBase64(content), wanted[name]) << name.toStdString();
+                EXPECT_EQ(match.captured(2) == u"image/webp", name.endsWith(u".webp"));
+                wanted.erase(name);
+                continue;
+            }
+            QJsonObject facts = data(name).object();
+            if (name == u"web/book")
+                facts[QStringLiteral("textPage")] = QString(QLatin1String(""));
+            const auto own = QJsonDocument::fromJson(content);
+            EXPECT_TRUE(own.isArray() ? own == data(name) : own.object() == facts)
+                << name.toStdString();
+            wanted.erase(name + QStringLiteral(".js"));
+        }
+        const QByteArray configuration = wanted[QStringLiteral("UserConfig.bin")].toBase64();
+        EXPECT_TRUE(html.contains(
+            QStringLiteral("FolveroUserConfig = \"%1\";").arg(QString::fromLatin1(configuration))));
+        EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[QStringLiteral("web.js")])));
+        EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[QStringLiteral("web.css")])));
+        EXPECT_EQ(wanted.size(), 4U) << "the other two are of no use in a page";
+        static const QRegularExpression outside(
+            QStringLiteral(R"re((?:src|href|data)="(?!data:))re"));
+        EXPECT_FALSE(html.contains(outside)) << outside.match(html).captured().toStdString();
+        EXPECT_EQ(html.count(QStringLiteral("<script")), html.count(QStringLiteral("</script>")));
+    }
+}
+
+TEST_F(WebBookTest, OneFileBeyondTheLimitLeavesTheEarlierOne) {
+    PublishedBook book;
+    for (const char* part : {"web.js", "web.css"}) {
+        const QString folder = Bundle::resourcePath() + QStringLiteral("/AppFiles/Web/");
+        ASSERT_TRUE(QDir().mkpath(folder));
+        TestFiles::write(folder + QString::fromLatin1(part), part);
+    }
+    book.addPage(QStringLiteral("1.jpg"), 1, QByteArray(100'001, 'x'));
+    FolveroOutputWeb output(book.pageSource, book.flashTemplate, book.folder(), QString());
+    output.setHTMLConfig(book.HTMLConfig);
+    output.setSingleFile(true);
+    output.ouputTheBook();
+    ASSERT_TRUE(output.publishErrors().isEmpty());
+    const auto earlier = filesIn(book.folder());
+    ASSERT_EQ(earlier.size(), 1U);
+    const qint64 size = earlier.begin()->second.size();
+    EXPECT_GT(size, 133'000);
+
+    output.setSingleFileLimit(size);
+    output.ouputTheBook();
+    EXPECT_TRUE(output.publishErrors().isEmpty()) << "it is within the limit to the byte";
+    book.HTMLConfig->setHTMLTitle(book.HTMLConfig->HTMLTitle() + u'x');
+    output.ouputTheBook();
+    EXPECT_EQ(
+        output.publishErrors(),
+        QStringList{book.folder() +
+                    QStringLiteral("/index.html: as one file the book would have 0.2 MB, and "
+                                   "the most is 0.2 MB; take fewer pages (--pages) or smaller "
+                                   "pictures (--quality 0), or leave out --single-file")});
+    EXPECT_EQ(filesIn(book.folder()), earlier);
+}
+
+TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
+    publish(QStringLiteral("sample.pdf"), {QStringLiteral("--pages"), QStringLiteral("1-8")});
+    publish(QStringLiteral("sample.pdf"),
+            {QStringLiteral("--pages"), QStringLiteral("2-7"), QStringLiteral("--preview-pages"),
+             QStringLiteral("1,3-4,6,40")});
+    const QJsonDocument facts = data(QStringLiteral("web/book"));
+    EXPECT_EQ(facts[QStringLiteral("open")], (QJsonArray{QJsonArray{2, 3}, QJsonArray{5, 5}}));
+    EXPECT_EQ(facts[QStringLiteral("numbers")].toArray().size(), 6);
+    const auto files = filesIn(file({}));
+    EXPECT_TRUE(files.at(QStringLiteral("index.html")).contains("content=\"files/thumb/3.webp\""));
+    const QRegularExpression numbered(QStringLiteral(R"re(^files/\w+/(\d+)\.)re"));
+    std::map<int, int> filesOfPage;
+    for (const auto& [name, content] : files) {
+        if (const auto match = numbered.match(name); match.hasMatch())
+            ++filesOfPage[match.captured(1).toInt()];
+    }
+    EXPECT_EQ(filesOfPage, (std::map<int, int>{{3, 4}, {4, 4}, {6, 4}}));
+
+    static const QRegularExpression blank(QStringLiteral("\\s+"));
+    const auto wordsOfPage = [&](int number) { return textByPoppler(number).split(blank); };
+    // What is open, contents included, may say the same.
+    QStringList known = wordsOfPage(3) + wordsOfPage(4) + wordsOfPage(6);
+    known << QString::fromUtf8(files.at(QStringLiteral("files/web/book.js"))).split(blank);
+    auto ofBook = files;
+    for (const char* player : {"index.html", "files/web.js", "files/web.css"})
+        ofBook.erase(QString::fromLatin1(player));
+    QByteArray& plain = ofBook[QStringLiteral("text.html")];
+    plain.remove(0, plain.indexOf("<main>"));
+    int looked = 0;
+    for (const int closed : {2, 5, 7, 8}) {
+        for (const QString& word : wordsOfPage(closed)) {
+            if (word.size() < 6 || known.join(u' ').contains(word))
+                continue;
+            ++looked;
+            for (const auto& [name, content] : ofBook) {
+                EXPECT_FALSE(content.contains(word.toUtf8()))
+                    << word.toStdString() << " of page " << closed << " in " << name.toStdString();
+            }
+        }
+    }
+    EXPECT_GT(looked, 30);
+}
+
+TEST_F(WebBookTest, WhatIsForWebBooksIsRefusedForOthers) {
+    const QString pdf = Program::sample(QStringLiteral("sample.pdf"));
+    const auto refusal = [&](const QStringList& options) {
+        const auto result =
+            Program::run(QStringList{QStringLiteral("publish"), pdf, file({})} + options);
+        EXPECT_FALSE(QFileInfo::exists(file({})));
+        return QStringLiteral("%1 ").arg(result.exitCode) + QString::fromUtf8(result.errors);
+    };
+    EXPECT_EQ(refusal({QStringLiteral("--single-file")}),
+              QStringLiteral("2 folvero: --single-file is for web books only; add --type web\n"));
+    EXPECT_EQ(refusal({QStringLiteral("--preview-pages=1"), QStringLiteral("--type=app")}),
+              QStringLiteral("2 folvero: --preview-pages is for web books only; add --type web\n"));
+    EXPECT_EQ(refusal({QStringLiteral("--preview-pages=1-3"), QStringLiteral("--type=web"),
+                       QStringLiteral("--pages=5-9")}),
+              QStringLiteral("1 folvero: --preview-pages 1-3: the book has none of these pages, it "
+                             "has 5-9\n"));
 }

@@ -8,8 +8,11 @@
 #include "support/RecordedLog.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -51,6 +54,13 @@ protected:
         QObject::connect(&window(), &QDialog::finished, [this](int code) { ended << code; });
     }
     OutputWindow& window() { return sheet->window(); }
+    static void installWebPlayer() {
+        for (const char* part : {"web.js", "web.css"}) {
+            const QString folder = Bundle::resourcePath() + text("/AppFiles/Web/");
+            ASSERT_TRUE(QDir().mkpath(folder));
+            TestFiles::write(folder + text(part), part);
+        }
+    }
     void click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
 
     PublishedBook book;
@@ -132,11 +142,7 @@ TEST_F(PublishSheet, PublishesAnApplication) {
 }
 
 TEST_F(PublishSheet, PublishesAWebBook) {
-    for (const char* part : {"web.js", "web.css"}) {
-        const QString folder = Bundle::resourcePath() + text("/AppFiles/Web/");
-        ASSERT_TRUE(QDir().mkpath(folder));
-        TestFiles::write(folder + text(part), part);
-    }
+    installWebPlayer();
     open();
     window().mOutputType->button(OutputWindow::webBook)->click();
     click(window().btnPublish);
@@ -146,6 +152,32 @@ TEST_F(PublishSheet, PublishesAWebBook) {
     EXPECT_TRUE(book.read(text("text.html")).contains("Tea &amp; cake"));
     EXPECT_FALSE(book.exists(text("book.swf")));
     EXPECT_EQ(AppSettings().outputType(), OutputWindow::webBook);
+}
+
+TEST_F(PublishSheet, OffersAWebBookInOneFileAndTheTextToEmbedIt) {
+    installWebPlayer();
+    AppSettings::shareInstance().setPageWidth(420);
+    AppSettings::shareInstance().setPageHeight(595);
+    open();
+    EXPECT_FALSE(window().chkSingleFile->isVisible() || window().txtEmbed->isVisible());
+    const int height = window().height();
+    window().mOutputType->button(OutputWindow::webBook)->click();
+    EXPECT_TRUE(window().chkSingleFile->isVisible() && window().btnCopyEmbed->isVisible());
+    EXPECT_GT(window().height(), height);
+    window().txtTitle->clear();
+    QTest::keyClicks(window().txtTitle, text("\"Tea\" & <cake>"));
+    click(window().btnCopyEmbed);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              text("<iframe src=\"BOOK-ADDRESS/mybook.html\" title=\"&quot;Tea&quot; &amp; "
+                   "&lt;cake&gt;\" loading=\"lazy\" allowfullscreen style=\"width: 100%; "
+                   "aspect-ratio: 840 / 595; border: 0\"></iframe>"));
+    EXPECT_EQ(window().txtEmbed->selectedText(), QGuiApplication::clipboard()->text());
+    QTest::keyClick(window().chkSingleFile, Qt::Key_Space);
+    click(window().btnPublish);
+    EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
+    EXPECT_EQ(QDir(book.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{text("mybook.html")});
+    EXPECT_TRUE(book.read(text("mybook.html")).contains(QByteArray("first").toBase64()));
 }
 
 TEST_F(PublishSheet, RemembersTheChoicesAlsoWhenPublishingFails) {
