@@ -20,3 +20,8 @@ trap 'rm -rf "$book"' EXIT
 node tools/player-demo-book.mjs "$templates/Templates/float" "$templates/Styles/float/Blank" "$book"
 bench/frames.mjs "$book"
 bench/opening.mjs "$templates/Templates/float"
+
+cmake --build "$build" --target folvero-bench-text >/dev/null
+"$build/bin/folvero-bench-text" "$build/samples/thousand.pdf" "$build/samples/novel.pdf"
+bench/search.mjs "$templates/Templates/float"
+bench/first-view.mjs "$build"

@@ -1,16 +1,17 @@
 #!/usr/bin/env python3
-"""Builds the part of the player that web books have beside the page's own: web.js and web.css.
+"""Builds the parts of the player that web books have beside the page's own: web.js and web.css, and
+sw.js, which keeps a book for readers without a connection.
 
 Usage: web.py PLAYER_DIR OUTPUT_DIR
 
-Both may be put into a page, which passes through a text template: they hold neither its
+The first two may be put into a page, which passes through a text template: they hold neither its
 placeholders nor anything that ends the element around them.
 """
 
 import pathlib
 import sys
 
-from bundle import join_script
+from bundle import COMMENT, join_script
 
 STYLES = ["layers.css", "side.css", "contents.css", "search.css", "looks.css"]
 
@@ -29,6 +30,8 @@ def main():
     for name, text in parts.items():
         check(name, text)
         (output / name).write_text(text + "\n", encoding="utf-8")
+    worker = (player / "sw.js").read_text(encoding="utf-8")
+    (output / "sw.js").write_text(COMMENT.sub("", worker), encoding="utf-8")
 
 
 main()

@@ -29,6 +29,7 @@ export class Facts {
     this.outline = entriesOf(raw?.outline, pageCount, 0);
     this.large = listOf(raw?.large).map((kind) => (LARGE_KINDS.includes(kind) ? kind : ''));
     this.hasText = raw?.text === true;
+    this.offline = raw?.offline === true;
     this.open = Array.isArray(raw?.open) ? raw.open.filter(Array.isArray) : null;
     this.language = /^[a-z]{2,3}(?:-[a-z0-9]{1,8})*$/i.test(textOf(raw?.language)) ? raw.language : '';
     this.textPage = /^[\w-][\w.-]*\.html$/.test(textOf(raw?.textPage)) ? raw.textPage : '';

@@ -6,6 +6,7 @@ import { Facts } from './facts.js';
 import { icon } from './icons.js';
 import { Layers } from './layers.js';
 import { Links } from './links.js';
+import { Offline } from './offline.js';
 import { PageTexts } from './pagetexts.js';
 import { Searching } from './searching.js';
 import { Selecting } from './selecting.js';
@@ -62,6 +63,7 @@ function addToBook(parts, facts) {
   const selecting = new Selecting(parts, layers);
   gestures.answersTap = (/** @type {PointerEvent} */ event) => selecting.answers || links.followAt(event);
   new Sharper(parts, layers);
+  if (facts.offline && !single) Offline.start(root, layers);
   const room = new SideRoom(parts);
   // Where the bar is short of room, the search is worth more than the number of pages.
   part(toolbar.bar, '.of').dataset.fold = '7.2';

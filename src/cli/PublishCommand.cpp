@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "cli/CommandError.h"
+#include "cli/FileWatch.h"
 #include "cli/InputFile.h"
 #include "cli/Interrupt.h"
 #include "cli/OutputFolder.h"
@@ -20,6 +21,7 @@
 #include "platform/PlatformException.h"
 
 #include <QFileInfo>
+#include <QTime>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -171,28 +173,31 @@ void reportWebBook(const FolveroOutputWeb& output, bool quiet) {
     WebBookChoice::tellHowToEmbed(output);
 }
 
-// Pages that could not be drawn, and those whose file was gone before it was published.
-void reportMissingPages(const PDFToSWFPageConverter& converter, const FolveroOutput& output) {
+// Pages that could not be drawn, and those whose file was gone before it was published; null when
+// the book has them all.
+QString missingPages(const PDFToSWFPageConverter& converter, const FolveroOutput& output) {
     std::map<int, QString> reasons;
     for (const int page : output.missingPages())
         reasons[page] = QStringLiteral("its file is missing");
     for (const auto& page : converter.failedPages())
         reasons[page.page] = page.reason.english();
     if (reasons.empty())
-        return;
+        return {};
     QStringList lines;
     for (const auto& [page, reason] : reasons)
         lines << QStringLiteral("  page %1: %2").arg(page).arg(reason);
-    throw CommandError(
-        QStringLiteral("the book was made, but %1 of its pages could not be drawn:\n")
-                .arg(reasons.size()) +
-            lines.join(u'\n'),
-        ExitCode::incomplete);
+    return QStringLiteral("the book was made, but %1 of its pages could not be drawn:\n")
+               .arg(reasons.size()) +
+           lines.join(u'\n');
 }
 
-} // namespace
+struct MadeBook {
+    QString file; // what to open
+    PublishTransaction::Counts counts;
+    QString missingPages; // null when none are
+};
 
-void runPublish(const PublishOptions& options) {
+MadeBook makeBook(const PublishOptions& options) {
     PublishTiming timing;
     bookName(options); // a wrong name shows before an hour of drawing
     WebBookChoice::check(options);
@@ -232,6 +237,55 @@ void runPublish(const PublishOptions& options) {
 
     if (const auto* web = dynamic_cast<const FolveroOutputWeb*>(output.get()))
         reportWebBook(*web, options.quiet);
-    Terminal::print(output->outputFileName());
-    reportMissingPages(*source->toPageConverter(), *output);
+    return {output->outputFileName(), output->fileCounts(),
+            missingPages(*source->toPageConverter(), *output)};
+}
+
+// With a single line of what came of it. Whatever goes wrong now costs this one time only.
+void makeBookAgain(PublishOptions options) {
+    options.quiet = true;
+    QString trouble;
+    try {
+        const MadeBook made = makeBook(options);
+        const auto& [written, unchanged, removed] = made.counts;
+        QString line = QStringLiteral("%1 %2: %3 files written, %4 unchanged")
+                           .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
+                                made.file, QString::number(written), QString::number(unchanged));
+        if (removed > 0)
+            line += QStringLiteral(", %1 removed").arg(removed);
+        Terminal::print(line);
+        if (!made.missingPages.isNull())
+            Terminal::note(QStringLiteral("folvero: %1").arg(made.missingPages));
+        return;
+    } catch (const CommandError& failure) {
+        trouble = failure.message();
+    } catch (const std::exception& failure) {
+        trouble = QString::fromUtf8(failure.what());
+    }
+    if (!Interrupt::wasRequested())
+        Terminal::note(QStringLiteral("folvero: %1\nThe book stays as it was until the next change")
+                           .arg(trouble));
+}
+
+void watchAndMakeAgain(const PublishOptions& options, FileWatch& files) {
+    Terminal::note(QStringLiteral("Waiting for changes; Ctrl-C ends it"));
+    while (files.waitForChange(Interrupt::wasRequested)) {
+        files.remember();
+        makeBookAgain(options);
+    }
+}
+
+} // namespace
+
+void runPublish(const PublishOptions& options) {
+    FileWatch files({options.pdf, options.settingsFile});
+    files.remember();
+    const MadeBook made = makeBook(options);
+    Terminal::print(made.file);
+    if (!made.missingPages.isNull() && !options.watch)
+        throw CommandError(made.missingPages, ExitCode::incomplete);
+    if (!made.missingPages.isNull())
+        Terminal::note(QStringLiteral("folvero: %1").arg(made.missingPages));
+    if (options.watch)
+        watchAndMakeAgain(options, files);
 }

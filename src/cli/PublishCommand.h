@@ -23,7 +23,9 @@ struct PublishOptions {
     QStringList assignments; // "key=value"
     QString timingFile;
     bool quiet = false;
+    bool watch = false; // publish again whenever the PDF or the settings file changes
 };
 
-// Makes a book from a PDF. Throws CommandError.
+// Makes a book from a PDF; to watch its files is to make it again and again, until Ctrl-C. Throws
+// CommandError.
 void runPublish(const PublishOptions& options);

@@ -41,6 +41,7 @@ struct CommandLine {
     std::string settingsFile;
     std::string timingFile;
     bool quiet = false;
+    bool watch = false;
     bool json = false;
     bool verbose = false;
     std::string book;
@@ -81,6 +82,7 @@ void publish(const CommandLine& line, const CLI::App& command) {
     if (!line.timingFile.empty())
         options.timingFile = path(line.timingFile);
     options.quiet = line.quiet;
+    options.watch = line.watch;
     runPublish(options);
 }
 
@@ -141,6 +143,9 @@ void addPublish(CLI::App& app, CommandLine& line) {
                      "many times")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
+    command->add_flag("--watch", line.watch,
+                      "Go on until Ctrl-C, and make the book again whenever the PDF or the\n"
+                      "settings file changes");
     command->add_flag("--quiet", line.quiet, "Show no progress");
     command
         ->add_option("--timing", line.timingFile,

@@ -1,6 +1,8 @@
 #include "output/FolveroOutput.h"
 
 #include "output/BookName.h"
+#include "output/EarlierBook.h"
+#include "output/OfflineFiles.h"
 #include "output/UserConfig.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
@@ -16,6 +18,8 @@ using Copy = PublishTransaction::Copy;
 using Phase = PublishTransaction::Phase;
 
 namespace {
+
+const QString configurationName = QStringLiteral("UserConfig.bin");
 
 struct Cancelled {};
 
@@ -60,7 +64,10 @@ void FolveroOutput::ouputTheBook() {
     forgetLastRun();
     if (!QFileInfo(iSaveToFolder).isDir())
         return;
-    perform(iSaveToFolder, [this] { publish(); });
+    perform(iSaveToFolder, [this] {
+        publish();
+        removeFilesOfEarlierBook();
+    });
 }
 
 void FolveroOutput::publish() {
@@ -72,7 +79,7 @@ void FolveroOutput::publish() {
     prepaireExtFiles(base);
     PrepareAnnotationFiles(base);
     writeHTMLPage();
-    ouputBookXML(resourceFolder(iSaveToFolder, QStringLiteral("UserConfig.bin")));
+    ouputBookXML(resourceFolder(iSaveToFolder, configurationName));
     copyTemplateFile(QStringLiteral("book.swf"), &FlashTemplate::copyBookSWFToFile,
                      outputSWFName());
     const QString sound = QStringLiteral("moveSound.mp3");
@@ -93,6 +100,7 @@ bool FolveroOutput::perform(const QString& folder, const std::function<void()>& 
         work();
         checkCancelled();
         run.commit();
+        iFileCounts = run.counts();
         return true;
     } catch (const PlatformException& failure) {
         reportFailure(failure.message());
@@ -110,6 +118,7 @@ void FolveroOutput::noteCancelled() {
 void FolveroOutput::forgetLastRun() {
     iPublishErrors.clear();
     iMissingPages.clear();
+    iFileCounts = {};
     iWasCancelled = false;
 }
 
@@ -284,6 +293,19 @@ void FolveroOutput::removeExtFiles(const QString& base) {
         for (const QString& path : leftovers)
             transaction().remove(path);
     });
+}
+
+// Nothing speaks of them any more once the new configuration is there.
+void FolveroOutput::removeFilesOfEarlierBook() {
+    OfflineFiles::removeOutdated(transaction(), iSaveToFolder);
+    const QString files = Files::join(iSaveToFolder, iResourceFolder);
+    if (!iFlashPageSource || !transaction().writes(Files::join(files, configurationName)))
+        return;
+    for (const QString& name : EarlierBook::pageFiles(files)) {
+        const QString path = Files::join(files, name);
+        if (!transaction().writes(path) && QFileInfo(path).isFile())
+            transaction().remove(path);
+    }
 }
 
 void FolveroOutput::writeHTMLPage() {

@@ -41,6 +41,8 @@ public:
     // What went wrong in the last run, one "FILE: CAUSE" each; the folder is then as it was before.
     QStringList publishErrors() const { return englishTexts(iPublishErrors); }
     const Messages& publishMessages() const { return iPublishErrors; }
+    // What the last run did to the folder; nothing when it failed or was cancelled.
+    const PublishTransaction::Counts& fileCounts() const { return iFileCounts; }
     // Numbers of the pages that the last run left out because their file was missing.
     const std::vector<int>& missingPages() const { return iMissingPages; }
     // Asked between files; true ends a run without a change to the folder.
@@ -158,6 +160,7 @@ private:
     void copyExtFile(const FlashTemplateProperty& property, const QString& folder);
     void copyExtFilesOfChildren(const FlashTemplateProperty& property, const QString& folder);
     void copyTemplateFile(const QString& name, TemplateCopy copy, const QString& target);
+    void removeFilesOfEarlierBook();
     void writeHTMLPage();
     void stageBookXML(const QString& path);
 
@@ -173,5 +176,6 @@ private:
     std::function<bool()> iIsCancelled;
     Messages iPublishErrors;
     std::vector<int> iMissingPages;
+    PublishTransaction::Counts iFileCounts;
     bool iWasCancelled = false;
 };

@@ -1,6 +1,7 @@
 #include "output/FolveroOutputWeb.h"
 
 #include "annotations/FlashOutlinePDF.h"
+#include "output/OfflineFiles.h"
 #include "output/PlainTextPage.h"
 #include "output/SingleFilePage.h"
 #include "output/WebPageText.h"
@@ -11,6 +12,7 @@
 #include "platform/PDFDocument.h"
 #include "platform/PDFFacts.h"
 #include "platform/PlatformException.h"
+#include "util/ColorCategory.h"
 
 #include <QDir>
 #include <QFile>
@@ -235,6 +237,26 @@ void FolveroOutputWeb::publish() {
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("css"));
     if (iIsSingleFile)
         packIntoPage();
+    else
+        writeOfflineFiles();
+}
+
+void FolveroOutputWeb::writeOfflineFiles() {
+    const auto colour = [&](const char* key, const char* usual) {
+        const QString name = QString::fromLatin1(key);
+        const QString value = QString::fromLatin1(usual);
+        return MyColorOper::colorFromHexRGB(
+            iFlashTemplate ? iFlashTemplate->propertyValueFor(name, value) : value);
+    };
+    OfflineFiles files;
+    files.folder = iSaveToFolder;
+    files.page = Files::lastPathComponent(outputHTMLFileName());
+    files.title = iFacts.title;
+    files.language = iFacts.language;
+    files.cover = iFacts.cover;
+    files.ground = colour("bgBeginColor", "0xC0C0C0");
+    files.bar = colour("mainColor", "0xffffff");
+    files.write(transaction());
 }
 
 void FolveroOutputWeb::packIntoPage() {
@@ -303,7 +325,9 @@ void FolveroOutputWeb::writePages() {
     if (document)
         document->rest();
     writeScript(QStringLiteral("search/text"), WebScript::json(search));
-    writeScript(QStringLiteral("web/book"), WebScript::json(iFacts.forPlayer(iFlashOutline.get())));
+    QJsonObject facts = iFacts.forPlayer(iFlashOutline.get());
+    facts[QStringLiteral("offline")] = !iIsSingleFile;
+    writeScript(QStringLiteral("web/book"), WebScript::json(facts));
     transaction().write(Files::join(iSaveToFolder, textPageName), plain.html(), Phase::page);
 }
 
@@ -352,6 +376,21 @@ QString FolveroOutputWeb::getThumbPageURL(const FlashPage& page) const {
     return hasOne ? QStringLiteral("thumb/%1.webp").arg(page.pageIndex()) : getNormalPageURL(page);
 }
 
+// On slow connections each thing that is known of only when another has come costs more than the
+// thing itself.
+QByteArray FolveroOutputWeb::preloads() {
+    QByteArray links = "<link rel=\"preload\" as=\"script\" href=\"files/web/book.js\">\n";
+    const auto pages =
+        iFlashPageSource ? iFlashPageSource->normalPages() : FlashPageSource::Pages();
+    if (pages.empty() || !pages.front() || iFacts.positionOf(pages.front()->pageIndex()) != 1)
+        return links;
+    const QString picture = Files::join(iResourceFolder, getNormalPageURL(*pages.front()));
+    if (transaction().writes(Files::join(iSaveToFolder, picture)))
+        links += "<link rel=\"preload\" as=\"image\" href=\"" + picture.toUtf8() +
+                 "\" fetchpriority=\"high\">\n";
+    return links;
+}
+
 void FolveroOutputWeb::finishHTMLPage(const QString& file) {
     QByteArray html = Files::contents(file);
     const qsizetype headEnd = html.indexOf("</head>");
@@ -361,7 +400,8 @@ void FolveroOutputWeb::finishHTMLPage(const QString& file) {
     const qsizetype movie = html.indexOf("<object ");
     if (const qsizetype end = html.indexOf("</object>", movie); movie >= 0 && end >= 0)
         html.remove(movie, end + qsizetype(qstrlen("</object>")) - movie);
-    html.insert(headEnd, iFacts.headMarkup() + (iIsSingleFile ? "" : playerMarkup));
+    html.insert(headEnd, iIsSingleFile ? iFacts.headMarkup()
+                                       : preloads() + iFacts.headMarkup() + playerMarkup);
     if (!iFacts.language.isEmpty())
         html.replace("<html lang=\"en\">", "<html lang=\"" + iFacts.language.toUtf8() + "\">");
     Message error;

@@ -57,6 +57,8 @@ private:
     void noteOpenPages();
     bool isOpen(int number) const { return iFacts.isOpen(iFacts.positionOf(number)); }
     void removeClosedPages();
+    void writeOfflineFiles();
+    QByteArray preloads();
     void writePages();
     QString writePage(const WebPage& page, const PDFDocument* document, AnnotationBudget& budget);
     void copyPageFile(const QString& source, const QString& folder, const QString& name);

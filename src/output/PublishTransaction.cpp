@@ -154,6 +154,20 @@ bool PublishTransaction::willExist(const QString& path) const {
     return iFoldersToMake.contains(clean) || (exists(clean) && !isBehindLink(clean));
 }
 
+QString PublishTransaction::stagedFile(const QString& path) const {
+    const auto found = iIndexOfTarget.constFind(QDir::cleanPath(path));
+    return found != iIndexOfTarget.cend() ? iChanges[*found].staged : QString();
+}
+
+std::vector<std::pair<QString, QString>> PublishTransaction::stagedFiles() const {
+    std::vector<std::pair<QString, QString>> files;
+    for (const Change& change : iChanges) {
+        if (!change.staged.isNull())
+            files.emplace_back(change.target, change.staged);
+    }
+    return files;
+}
+
 QString PublishTransaction::newName() {
     return Files::join(iStaging, QString::number(++iNameCount));
 }
@@ -224,8 +238,27 @@ QString PublishTransaction::secondName(const QString& path) {
     return name;
 }
 
+// A file with a second name elsewhere is not the book's alone, so another of the same bytes has to
+// take its place.
+bool PublishTransaction::isInPlace(const Change& change) const {
+    struct stat there {};
+    struct stat staged {};
+    if (::lstat(QFile::encodeName(change.target).constData(), &there) != 0 ||
+        ::lstat(QFile::encodeName(change.staged).constData(), &staged) != 0 ||
+        !S_ISREG(there.st_mode) || there.st_mode != staged.st_mode)
+        return false;
+    if (there.st_dev == staged.st_dev && there.st_ino == staged.st_ino)
+        return true;
+    return there.st_nlink == 1 && there.st_size == staged.st_size &&
+           Files::haveSameContent(change.target, change.staged);
+}
+
 void PublishTransaction::putInPlace(const Change& change) {
     makeFolderNow(parentOf(change.target));
+    if (isInPlace(change)) {
+        ++iCounts.unchanged;
+        return;
+    }
     const mode_t kind = kindOf(change.target);
     if (kind == S_IFDIR)
         fail(change.target, Message::translate("FolveroOutput", "There is a folder of that name"));
@@ -235,11 +268,14 @@ void PublishTransaction::putInPlace(const Change& change) {
     if (!moveFile(change.staged, change.target))
         failWithErrno(change.target);
     iDone.push_back({change.target, backup});
+    ++iCounts.written;
 }
 
 void PublishTransaction::takeAway(const Change& change) {
-    if (exists(change.target) && !isFolder(change.target) && !isBehindLink(change.target))
-        putAside(change.target);
+    if (!exists(change.target) || isFolder(change.target) || isBehindLink(change.target))
+        return;
+    putAside(change.target);
+    ++iCounts.removed;
 }
 
 bool PublishTransaction::isBeneath(const QString& path) const {

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <map>
+#include <utility>
 #include <vector>
 
 // The changes that one publish makes to a folder, made all at once at its end or not at all. New
@@ -25,6 +26,14 @@ public:
     // What a copy may be: another name for a file that nothing changes in place, or a file of its
     // own.
     enum class Copy { independent, mayShare };
+
+    // What a commit did. A file that already lay there with the same bytes is left alone, so that
+    // it keeps its date and whoever copies the book elsewhere has less to copy.
+    struct Counts {
+        int written = 0;
+        int unchanged = 0;
+        int removed = 0;
+    };
 
     // Makes the folder if it is missing.
     explicit PublishTransaction(const QString& folder);
@@ -49,8 +58,15 @@ public:
 
     // Whether the file or folder will be there after a commit.
     bool willExist(const QString& path) const;
+    // Where new content lies that was staged for a file; null when there is none.
+    QString stagedFile(const QString& path) const;
+    bool writes(const QString& path) const { return !stagedFile(path).isNull(); }
+    // All such files, in the order in which they were first spoken of: where they are to be, and
+    // where their new content lies until then.
+    std::vector<std::pair<QString, QString>> stagedFiles() const;
 
     void commit();
+    const Counts& counts() const { return iCounts; }
 
     [[noreturn]] static void fail(const QString& path, const Message& cause);
 
@@ -78,6 +94,7 @@ private:
     bool isBehindLink(const QString& path) const;
     QString newName();
     Change& changeOf(const QString& target);
+    bool isInPlace(const Change& change) const;
     void putInPlace(const Change& change);
     void takeAway(const Change& change);
     // False when an earlier file could not be put back.
@@ -92,5 +109,6 @@ private:
     QStringList iFoldersToMake;
     QStringList iMadeRoots;
     std::vector<Undo> iDone;
+    Counts iCounts;
     bool iCommitted = false;
 };

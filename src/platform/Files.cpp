@@ -115,6 +115,22 @@ bool Files::linkOrCopy(const QString& source, const QString& target, Message* er
     return copy(source, target, error);
 }
 
+bool Files::haveSameContent(const QString& one, const QString& other) {
+    QFile first(one);
+    QFile second(other);
+    const auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (!first.open(mode) || !second.open(mode) || first.size() != second.size())
+        return false;
+    constexpr qint64 piece = 1 << 18;
+    for (qint64 left = first.size(); left > 0;) {
+        const QByteArray bytes = first.read(std::min(piece, left));
+        if (bytes.isEmpty() || second.read(bytes.size()) != bytes)
+            return false;
+        left -= bytes.size();
+    }
+    return true;
+}
+
 QString Files::join(const QString& folder, const QString& name) {
     if (name.isEmpty())
         return folder;

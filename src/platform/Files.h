@@ -31,6 +31,9 @@ bool copy(const QString& source, const QString& target, Message* error = nullptr
 // change in place afterwards.
 bool linkOrCopy(const QString& source, const QString& target, Message* error = nullptr);
 
+// Whether two paths name files of the same bytes; false as well for what can't be read.
+bool haveSameContent(const QString& one, const QString& other);
+
 // "FOLDER/NAME" whether or not the folder ends in a separator; FOLDER when the name is empty.
 QString join(const QString& folder, const QString& name);
 

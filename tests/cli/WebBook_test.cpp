@@ -323,8 +323,10 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
                 continue;
             }
             QJsonObject facts = data(name).object();
-            if (name == u"web/book")
+            if (name == u"web/book") {
                 facts[QStringLiteral("textPage")] = QString(QLatin1String(""));
+                facts[QStringLiteral("offline")] = false;
+            }
             const auto own = QJsonDocument::fromJson(content);
             EXPECT_TRUE(own.isArray() ? own == data(name) : own.object() == facts)
                 << name.toStdString();
@@ -335,7 +337,7 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
             QStringLiteral("FolveroUserConfig = \"%1\";").arg(QString::fromLatin1(configuration))));
         EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[QStringLiteral("web.js")])));
         EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[QStringLiteral("web.css")])));
-        EXPECT_EQ(wanted.size(), 4U) << "the other two are of no use in a page";
+        EXPECT_EQ(wanted.size(), 6U) << "the other four are of no use in a page";
         static const QRegularExpression outside(
             QStringLiteral(R"re((?:src|href|data)="(?!data:))re"));
         EXPECT_FALSE(html.contains(outside)) << outside.match(html).captured().toStdString();
@@ -399,7 +401,8 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
     QStringList known = wordsOfPage(3) + wordsOfPage(4) + wordsOfPage(6);
     known << QString::fromUtf8(files.at(QStringLiteral("files/web/book.js"))).split(blank);
     auto ofBook = files;
-    for (const char* player : {"index.html", "files/web.js", "files/web.css"})
+    for (const char* player :
+         {"index.html", "files/web.js", "files/web.css", "sw.js", "manifest.webmanifest"})
         ofBook.erase(QString::fromLatin1(player));
     QByteArray& plain = ofBook[QStringLiteral("text.html")];
     plain.remove(0, plain.indexOf("<main>"));

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -74,6 +75,34 @@ TEST_F(Transaction, TakesTheLastWordOnAFile) {
     EXPECT_EQ(TestFiles::read(path("a")), "second");
     EXPECT_FALSE(QFileInfo::exists(path("b")));
     EXPECT_EQ(TestFiles::read(path("c")), "back");
+}
+
+TEST_F(Transaction, LeavesFilesAloneThatAreAsTheyShouldBe) {
+    const auto inode = [&](const char* name) {
+        struct stat info {};
+        return ::stat(QFile::encodeName(path(name)).constData(), &info) == 0 ? info.st_ino : 0;
+    };
+    for (const char* name : {"same", "longer", "other", "shared", "gone"})
+        TestFiles::write(path(name), "old");
+    // What somebody else has too may be changed there.
+    std::filesystem::create_hard_link(path("shared").toStdString(), path("twin").toStdString());
+    const auto same = inode("same");
+    const auto shared = inode("shared");
+    PublishTransaction run(folder.path());
+    run.write(path("same"), "old");
+    run.write(path("longer"), "old and more");
+    run.write(path("other"), "new");
+    run.write(path("shared"), "old");
+    run.remove(path("gone"));
+    run.commit();
+    EXPECT_EQ(inode("same"), same);
+    EXPECT_NE(inode("shared"), shared);
+    EXPECT_EQ(inode("twin"), shared);
+    EXPECT_EQ(TestFiles::read(path("longer")), "old and more");
+    EXPECT_EQ(TestFiles::read(path("other")), "new");
+    EXPECT_EQ(run.counts().written, 3);
+    EXPECT_EQ(run.counts().unchanged, 1);
+    EXPECT_EQ(run.counts().removed, 1);
 }
 
 TEST_F(Transaction, PutsBackWhatItReplacedWhenALaterFileCannotBePlaced) {

@@ -1,0 +1,72 @@
+// Measures what the words of a web book cost, for each page: reading them from the PDF, and making
+// of them what the player's text layer and its search load.
+//
+//     folvero-bench-text DOCUMENT...
+
+#include "output/WebPageText.h"
+#include "output/WebScript.h"
+#include "platform/PDFDocument.h"
+#include "platform/PlatformException.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <chrono>
+#include <cstdio>
+
+namespace {
+
+class Lap {
+public:
+    double milliseconds() {
+        const auto now = std::chrono::steady_clock::now();
+        return std::chrono::duration<double, std::milli>(now - std::exchange(iStart, now)).count();
+    }
+
+private:
+    std::chrono::steady_clock::time_point iStart = std::chrono::steady_clock::now();
+};
+
+void measure(const QString& path) {
+    const auto document = PDFDocument::open(path);
+    const int pages = document->pageCount();
+    double reading = 0;
+    double layers = 0;
+    qsizetype layerBytes = 0;
+    QJsonArray texts;
+    for (int index = 0; index < pages; ++index) {
+        Lap lap;
+        const PDFPage page = document->page(index);
+        const auto lines = page.text();
+        reading += lap.milliseconds();
+        const auto json = WebPageText::asJson(page.boxes(), lines, page.annotations(),
+                                              [](int target) { return target + 1; });
+        layerBytes += WebScript::file(QStringLiteral("text"), WebScript::json(json)).size();
+        texts.append(WebPageText::plain(lines));
+        layers += lap.milliseconds();
+    }
+    Lap lap;
+    const auto search = WebScript::file(QStringLiteral("search/text"), WebScript::json(texts));
+    const double index = lap.milliseconds();
+    std::printf("| %s | %d | %.2f ms | %.2f ms | %.3f ms | %lld kB | %lld kB |\n",
+                qPrintable(QFileInfo(path).fileName()), pages, reading / pages, layers / pages,
+                index / pages, static_cast<long long>(layerBytes / 1000),
+                static_cast<long long>(search.size() / 1000));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication app(argc, argv);
+    std::printf("| document | pages | reading | text layer | search text | all layers | all search "
+                "text |\n| --- | ---: | ---: | ---: | ---: | ---: | ---: |\n");
+    for (int i = 1; i < argc; ++i) {
+        try {
+            measure(QString::fromLocal8Bit(argv[i]));
+        } catch (const PlatformException& failure) {
+            std::fprintf(stderr, "%s\n", qPrintable(failure.reason()));
+            return 1;
+        }
+    }
+    return 0;
+}

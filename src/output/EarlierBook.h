@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+// The book that an earlier publish left in a folder.
+namespace EarlierBook {
+
+// Paths, relative to the folder "files" of the book, of all files that its pages may have. By the
+// book's own configuration, so that nobody else's files are among them; none when that can't be
+// read.
+QStringList pageFiles(const QString& filesFolder);
+
+} // namespace EarlierBook

@@ -1,0 +1,178 @@
+#include "output/OfflineFiles.h"
+
+#include "output/PublishTransaction.h"
+#include "platform/Bundle.h"
+#include "platform/Files.h"
+#include "util/NSData+CommonCrypto.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUrl>
+#include <array>
+
+using Phase = PublishTransaction::Phase;
+
+namespace {
+
+const QString workerName = QStringLiteral("sw.js");
+const QString manifestName = QStringLiteral("manifest.webmanifest");
+const QString listName = QStringLiteral("files/web/offline.json");
+const QString iconName = QStringLiteral("files/web/icon.svg");
+
+// How every worker of ours begins: folders may have scripts of that name of their own.
+constexpr char declaration[] = "const BOOK = ";
+constexpr char workerStart[] = "const BOOK = {\"page\":";
+
+// Of systems that cut off what is longer.
+constexpr qsizetype longestShortName = 30;
+
+// Letters of a digest that the worker compares; it tells files of one book apart.
+constexpr int digestLetters = 16;
+
+QByteArray digestOf(const QByteArray& bytes) {
+    return CommonDigest::SHA256Hash(bytes).toHex().left(digestLetters);
+}
+
+QByteArray compact(const QJsonObject& object) {
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+// The order in which files are fetched ahead: what is read first, and at the end what is seen only
+// on enlarged pages. What the book needs to open and to be searched comes with the worker itself.
+enum class Part { shell, picture, text, large, none };
+
+Part partOf(const QString& path, const QString& page) {
+    // Browsers ask for sounds in pieces, which the worker leaves to them; the script stands for the
+    // configuration on disk only.
+    if (path.endsWith(QStringLiteral(".mp3")) || path == u"files/UserConfig.js")
+        return Part::none;
+    if (path.startsWith(QStringLiteral("files/large/")))
+        return Part::large;
+    if (path.startsWith(QStringLiteral("files/page/")))
+        return Part::picture;
+    if (path.startsWith(QStringLiteral("files/text/")) ||
+        path.startsWith(QStringLiteral("files/thumb/")))
+        return Part::text;
+    return path == page || path == u"text.html" || path.startsWith(QStringLiteral("files/"))
+               ? Part::shell
+               : Part::none;
+}
+
+// Objects of the library are sorted by name, and pages are to come in their order.
+QByteArray member(const QString& path, const QByteArray& digest) {
+    const QByteArray name = QJsonDocument(QJsonArray{path}).toJson(QJsonDocument::Compact);
+    return name.mid(1).chopped(1) + ":\"" + digest + '"';
+}
+
+struct List {
+    std::array<QByteArrayList, 4> parts; // members, by part
+    qint64 bytes = 0;
+
+    QByteArray shell() const { return parts[std::size_t(Part::shell)].join(','); }
+    QByteArray rest() const {
+        return (parts[std::size_t(Part::picture)] + parts[std::size_t(Part::text)] +
+                parts[std::size_t(Part::large)])
+            .join(',');
+    }
+};
+
+List listOf(const PublishTransaction& transaction, const QString& folder, const QString& page) {
+    List list;
+    const QDir root(folder);
+    for (const auto& [target, staged] : transaction.stagedFiles()) {
+        const QString path = root.relativeFilePath(target);
+        const Part part = partOf(path, page);
+        if (part == Part::none)
+            continue;
+        const QByteArray bytes = Files::contents(staged);
+        list.parts[std::size_t(part)] << member(path, digestOf(bytes));
+        list.bytes += bytes.size();
+    }
+    return list;
+}
+
+QString shortened(const QString& title) {
+    if (title.size() <= longestShortName)
+        return title;
+    const qsizetype blank = title.lastIndexOf(u' ', longestShortName);
+    return title.left(blank > 0 ? blank : longestShortName);
+}
+
+} // namespace
+
+void OfflineFiles::write(PublishTransaction& transaction) const {
+    const QString source = Bundle::pathForResource(QStringLiteral("sw"), QStringLiteral("js"),
+                                                   QStringLiteral("AppFiles/Web"));
+    if (source.isNull())
+        PublishTransaction::fail(
+            Files::join(folder, workerName),
+            Message::translate("FolveroOutput", "the player is not installed"));
+    const QByteArray worker = Files::contents(source);
+    transaction.write(Files::join(folder, iconName), icon(transaction));
+    const List list = listOf(transaction, folder, page);
+    const QByteArray version = digestOf(list.shell() + list.rest() + worker);
+    transaction.write(Files::join(folder, listName),
+                      "{\"version\":\"" + version +
+                          "\",\"bytes\":" + QByteArray::number(list.bytes) + ",\"shell\":{" +
+                          list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
+                      Phase::configuration);
+    transaction.write(Files::join(folder, manifestName), manifest(), Phase::page);
+    const QByteArray about = compact({{QStringLiteral("page"), page},
+                                      {QStringLiteral("version"), QString::fromLatin1(version)}});
+    transaction.write(Files::join(folder, workerName), declaration + about + ";\n" + worker,
+                      Phase::page);
+}
+
+void OfflineFiles::removeOutdated(PublishTransaction& transaction, const QString& folder) {
+    const QString worker = Files::join(folder, workerName);
+    const QByteArray script = QFileInfo(worker).isFile() ? Files::contents(worker) : QByteArray();
+    if (!script.startsWith(workerStart) || transaction.writes(worker))
+        return;
+    const QByteArray about = script.left(script.indexOf('\n')).mid(qstrlen(declaration)).chopped(1);
+    const QString page =
+        QJsonDocument::fromJson(about).object().value(QStringLiteral("page")).toString();
+    if (!transaction.writes(Files::join(folder, QStringLiteral("files/UserConfig.bin"))) &&
+        !transaction.writes(Files::join(folder, page)))
+        return;
+    for (const QString& name : {workerName, manifestName, listName, iconName})
+        transaction.remove(Files::join(folder, name));
+}
+
+QByteArray OfflineFiles::manifest() const {
+    QJsonObject object{
+        {QStringLiteral("name"), title},
+        {QStringLiteral("short_name"), shortened(title)},
+        {QStringLiteral("start_url"), QString::fromLatin1(QUrl::toPercentEncoding(page))},
+        {QStringLiteral("scope"), QStringLiteral("./")},
+        {QStringLiteral("display"), QStringLiteral("standalone")},
+        {QStringLiteral("background_color"), ground.name()},
+        {QStringLiteral("theme_color"), bar.name()},
+        {QStringLiteral("icons"),
+         QJsonArray{QJsonObject{{QStringLiteral("src"), iconName},
+                                {QStringLiteral("sizes"), QStringLiteral("any")},
+                                {QStringLiteral("type"), QStringLiteral("image/svg+xml")}}}}};
+    if (!language.isEmpty())
+        object[QStringLiteral("lang")] = language;
+    return QJsonDocument(object).toJson();
+}
+
+// The cover on a square, as systems want icons to be.
+QByteArray OfflineFiles::icon(const PublishTransaction& transaction) const {
+    QByteArray picture =
+        "<path d=\"M256 150c-48-32-96-32-144-16v228c48-16 96-16 144 16 48-32 96-32 "
+        "144-16V134c-48-16-96-16-144 16z\" fill=\"#fff\" stroke=\"#2f5d7c\" "
+        "stroke-width=\"12\"/>";
+    const QByteArray bytes =
+        cover.isEmpty() ? QByteArray()
+                        : Files::contents(transaction.stagedFile(Files::join(folder, cover)));
+    if (!bytes.isEmpty())
+        picture = "<image x=\"40\" y=\"40\" width=\"432\" height=\"432\" "
+                  "href=\"data:image/webp;base64," +
+                  bytes.toBase64() + "\"/>";
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 512 512\" width=\"512\" "
+           "height=\"512\"><rect width=\"512\" height=\"512\" fill=\"" +
+           ground.name().toLatin1() + "\"/>" + picture + "</svg>\n";
+}
