@@ -9,7 +9,8 @@
 #include <unistd.h>
 
 void runServe(const QString& folder, std::optional<int> port, bool verbose) {
-    const QString server = Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-book-server"));
+    const QString server =
+        Bundle::pathForAuxiliaryExecutable(QStringLiteral("folvero-book-server"));
     std::array<QByteArray, 4> words{QFile::encodeName(server), QFile::encodeName(folder),
                                     port ? QByteArray::number(*port) : "usual", "verbose"};
     std::array<char*, 5> arguments{words[0].data(), words[1].data(), words[2].data(),

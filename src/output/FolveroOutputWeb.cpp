@@ -226,10 +226,8 @@ void FolveroOutputWeb::readDocumentFacts(const PDFDocument& document) {
 }
 
 void FolveroOutputWeb::publish() {
-    if (iWebPages) {
-        removeClosedPages();
+    if (iWebPages)
         writePages();
-    }
     FolveroOutput::publish();
     // It knows no pictures of this kind.
     transaction().remove(outputSWFName());
@@ -271,21 +269,6 @@ void FolveroOutputWeb::packIntoPage() {
     Message error;
     if (!single.write(transaction().stage(page, Phase::page), &error))
         PublishTransaction::fail(page, error);
-}
-
-// A book that lay in the folder before may have shown them.
-void FolveroOutputWeb::removeClosedPages() {
-    if (!iFacts.open)
-        return;
-    for (const QString& name :
-         {iNormalPageFolder, iZoomedPageFolder, iThumbPageFolder, textFolder}) {
-        const QDir folder(resourceFolder(iSaveToFolder, name));
-        for (const QString& file : folder.entryList(QDir::Files | QDir::Hidden | QDir::System)) {
-            const int number = file.section(u'.', 0, 0).toInt();
-            if (number > 0 && !isOpen(number))
-                transaction().remove(folder.filePath(file));
-        }
-    }
 }
 
 void FolveroOutputWeb::copyPlayerPart(const QString& name, const QString& type) {

@@ -56,7 +56,6 @@ private:
     QString cover() const;
     void noteOpenPages();
     bool isOpen(int number) const { return iFacts.isOpen(iFacts.positionOf(number)); }
-    void removeClosedPages();
     void writeOfflineFiles();
     QByteArray preloads();
     void writePages();

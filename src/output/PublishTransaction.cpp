@@ -134,12 +134,8 @@ void PublishTransaction::remove(const QString& target) {
     change.staged = QString();
 }
 
-std::map<QString, QString> PublishTransaction::takeBack() {
-    std::map<QString, QString> files;
-    for (const Change& change : iChanges) {
-        if (!change.staged.isNull())
-            files.emplace(change.target, change.staged);
-    }
+std::vector<std::pair<QString, QString>> PublishTransaction::takeBack() {
+    auto files = stagedFiles();
     iChanges.clear();
     iIndexOfTarget.clear();
     iFoldersToMake.clear();

@@ -6,7 +6,6 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
-#include <map>
 #include <utility>
 #include <vector>
 
@@ -52,10 +51,6 @@ public:
     QString stage(const QString& target, Phase phase = Phase::contents);
     void remove(const QString& target);
 
-    // Forgets all changes so far. Gives the files that were staged, by their targets; they stay as
-    // long as the transaction lives.
-    std::map<QString, QString> takeBack();
-
     // Whether the file or folder will be there after a commit.
     bool willExist(const QString& path) const;
     // Where new content lies that was staged for a file; null when there is none.
@@ -64,6 +59,8 @@ public:
     // All such files, in the order in which they were first spoken of: where they are to be, and
     // where their new content lies until then.
     std::vector<std::pair<QString, QString>> stagedFiles() const;
+    // The same, and forgets all changes so far; the files stay as long as the transaction lives.
+    std::vector<std::pair<QString, QString>> takeBack();
 
     void commit();
     const Counts& counts() const { return iCounts; }

@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import { execFile } from 'node:child_process';
 import path from 'node:path';
-import { after, afterEach, before, test } from 'node:test';
+import { test } from 'node:test';
 import { pathToFileURL } from 'node:url';
 import { promisify } from 'node:util';
 import { DESK as FIREFOX_DESK, findFirefox, launchFirefox, openBook } from './support/firefox.mjs';
@@ -15,20 +15,19 @@ const firefox = findFirefox();
 const PAGES = 8;
 const sample = path.join(FOLVERO_SAMPLES_DIR ?? '', 'sample.pdf');
 
-let reader;
-let single;
-before(async () => {
-  if (skip) return;
-  reader = await Reader.start();
-  single = path.join(await publish('single', '--single-file', '--pages', `1-${PAGES}`), 'index.html');
-});
-afterEach(() => reader?.closeBooks());
-after(() => reader?.stop());
+const reader = Reader.forTests();
 
 async function publish(name, ...options) {
   const folder = path.join(reader.folder, name);
   await run(FOLVERO_BIN, ['publish', '--quiet', '--type', 'web', ...options, sample, folder]);
   return folder;
+}
+
+/** The sample in one file, which all tests read. */
+let published;
+async function singleFile() {
+  published ??= publish('single', '--single-file', '--pages', `1-${PAGES}`);
+  return path.join(await published, 'index.html');
 }
 
 const tidy = (text) => text.replace(/\s+/g, ' ').trim();
@@ -40,6 +39,7 @@ async function textOf(page) {
 
 /** The network is off from the start; whatever is asked for all the same is told. */
 async function openAlone(view) {
+  const single = await singleFile();
   const book = await reader.openFromDisk(path.dirname(single), { view, before: (page) => page.context().setOffline(true) });
   const asked = () => book.requests.filter((address) => !/^(?:blob|data):/.test(address));
   assert.deepEqual(asked(), [pathToFileURL(single).href]);
@@ -110,7 +110,7 @@ test('a reading sample shows its open pages and tells of the others', { skip }, 
   await page.keyboard.press('/');
   const found = async (text) => {
     await page.locator('.search-box').fill(text);
-    await page.waitForFunction(() => /\d|[a-z]/.test(document.querySelector('.search-status').textContent));
+    await page.waitForFunction(() => /\d|Nothing/.test(document.querySelector('.search-status').textContent));
     return page.locator('.result').count();
   };
   assert.equal(await found('modest invention'), 1);
@@ -123,7 +123,7 @@ test('a reading sample shows its open pages and tells of the others', { skip }, 
 test('Firefox reads the same file', { skip: skip || (firefox ? false : 'Firefox is not installed') }, async () => {
   const browser = await launchFirefox(firefox);
   try {
-    const book = await openBook(browser, pathToFileURL(single).href, FIREFOX_DESK);
+    const book = await openBook(browser, pathToFileURL(await singleFile()).href, FIREFOX_DESK);
     await book.page.keyboard.press('ArrowRight');
     await book.waitForPages(2, 3);
     await book.page.waitForSelector('.over.right .word');

@@ -55,7 +55,7 @@ protected:
     }
     OutputWindow& window() { return sheet->window(); }
     static void installWebPlayer() {
-        for (const char* part : {"web.js", "web.css"}) {
+        for (const char* part : {"web.js", "web.css", "sw.js"}) {
             const QString folder = Bundle::resourcePath() + text("/AppFiles/Web/");
             ASSERT_TRUE(QDir().mkpath(folder));
             TestFiles::write(folder + text(part), part);
