@@ -21,6 +21,15 @@ bool overlap(const std::vector<PageRun>& some, const std::vector<PageRun>& other
     });
 }
 
+PageSelection selectPreview(const QString& pages, int pageCount) {
+    try {
+        return selectPages(pages, pageCount);
+    } catch (const CommandError& error) {
+        throw CommandError(QStringLiteral("--preview-pages: %1").arg(error.message()),
+                           error.code());
+    }
+}
+
 } // namespace
 
 void WebBookChoice::check(const PublishOptions& options) {
@@ -37,7 +46,7 @@ std::optional<std::vector<PageRun>> WebBookChoice::openPages(const PublishOption
                                                              const QString& range, int pageCount) {
     if (options.previewPages.isNull())
         return {};
-    const PageSelection selection = selectPages(options.previewPages, pageCount);
+    const PageSelection selection = selectPreview(options.previewPages, pageCount);
     for (const QString& remark : selection.remarks)
         Terminal::note(QStringLiteral("folvero: --preview-pages: %1").arg(remark));
     auto open = pageRunsFromExpression(selection.range, pageCount);

@@ -437,4 +437,7 @@ TEST_F(WebBookTest, WhatIsForWebBooksIsRefusedForOthers) {
                        QStringLiteral("--pages=5-9")}),
               QStringLiteral("1 folvero: --preview-pages 1-3: the book has none of these pages, it "
                              "has 5-9\n"));
+    EXPECT_TRUE(
+        refusal({QStringLiteral("--preview-pages=99"), QStringLiteral("--type=web")})
+            .startsWith(QStringLiteral("1 folvero: --preview-pages: the page range \"99\"")));
 }
