@@ -24,6 +24,7 @@ const MOST_BYTES = 60e6;
 const BATCH = 12;
 
 const GONE = 'gone';
+const OTHER = 'other';
 
 /** @param {string} path as the list has it */
 function addressOf(path) {
@@ -132,7 +133,8 @@ async function editionOnServer() {
   try {
     const answer = await fetch(addressOf('sw.js'), { cache: 'no-cache', signal: AbortSignal.timeout(PATIENCE) });
     if (answer.status === 404 || answer.status === 410) return GONE;
-    return answer.ok ? /"version":"([0-9a-f]+)"/.exec(await answer.text())?.[1] ?? null : null;
+    // Whoever answers with something else has another page there now.
+    return answer.ok ? /"version":"([0-9a-f]+)"/.exec(await answer.text())?.[1] ?? OTHER : null;
   } catch {
     return null;
   }
@@ -224,7 +226,11 @@ self.addEventListener('fetch', (event) => {
   const path = request.method === 'GET' && !request.headers.has('range') ? pathOf(request.url) : null;
   if (path === null) return;
   if (path.startsWith('files/')) event.respondWith(serve(event, path));
-  else if (request.mode === 'navigate' && [BOOK.page, 'text.html'].includes(path)) event.respondWith(open(request, path));
+  else if (request.mode === 'navigate') {
+    // Some servers leave the ending off the address.
+    const page = [BOOK.page, 'text.html'].find((name) => name === path || name === path + '.html');
+    if (page) event.respondWith(open(request, page));
+  }
 });
 self.addEventListener('message', (event) => {
   const { seen } = event.data;

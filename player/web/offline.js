@@ -27,6 +27,8 @@ export class Offline {
   /** @param {import('./layers.js').Layers} layers */
   constructor(layers) {
     this.lastTurn = Date.now();
+    /** How often fetching has begun: only the last round goes on. */
+    this.round = 0;
     layers.followers.push(() => { this.lastTurn = Date.now(); });
   }
 
@@ -34,12 +36,19 @@ export class Offline {
     this.#addManifest();
     await this.#quiet();
     const { serviceWorker } = navigator;
+    // A worker of another edition takes the place of the one that was asked, and has nothing yet.
+    serviceWorker.addEventListener('controllerchange', () => this.#fetchAhead().catch(() => {}));
     await serviceWorker.register('sw.js');
     await serviceWorker.ready;
+    await this.#fetchAhead();
+  }
+
+  async #fetchAhead() {
+    const round = ++this.round;
     await this.#ask({ seen: performance.getEntriesByType('resource').map(({ name }) => name) });
     if (/** @type {any} */ (navigator).connection?.saveData) return;
     do await this.#quiet();
-    while (await this.#ask({}));
+    while (round === this.round && await this.#ask({}));
   }
 
   /** From disk browsers complain about it. */

@@ -16,6 +16,9 @@ public:
     // that comes meanwhile.
     void remember();
 
+    // Whether some file is another one by now, or has other contents.
+    bool haveChanged() const { return look() != iRemembered; }
+
     // Waits until some file is another one or has other contents than when it was remembered, all
     // of them are there, and they have been left alone for a moment: programs write slowly, or take
     // the old file away before the new one comes. False once it is stopped, which is asked all

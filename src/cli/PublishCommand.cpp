@@ -156,12 +156,13 @@ void writeBook(FolveroOutput& output, const QString& title) {
 }
 
 // What a web book came to.
-void reportWebBook(const FolveroOutputWeb& output, bool quiet) {
+void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options) {
+    WebBookChoice::tellWhatStays(options, output);
     for (const auto& [page, reason] : output.poorPages())
         Terminal::note(QStringLiteral("folvero: page %1 has its picture only: %2")
                            .arg(page)
                            .arg(reason.english()));
-    if (quiet || output.classicPageBytes() == 0)
+    if (options.quiet || output.classicPageBytes() == 0)
         return;
     constexpr double megabyte = 1'000'000;
     Terminal::note(
@@ -197,7 +198,8 @@ struct MadeBook {
     QString missingPages; // null when none are
 };
 
-MadeBook makeBook(const PublishOptions& options) {
+// files: those that are read, when they may change meanwhile; none otherwise.
+MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullptr) {
     PublishTiming timing;
     bookName(options); // a wrong name shows before an hour of drawing
     WebBookChoice::check(options);
@@ -229,6 +231,9 @@ MadeBook makeBook(const PublishOptions& options) {
     output->setFlashOutline(operation->flashOutline());
     if (auto* web = dynamic_cast<FolveroOutputWeb*>(output.get()))
         web->setOpenPages(openPages);
+    // Half a document, or two editions of it, is no book to replace a good one with.
+    if (files && files->haveChanged())
+        throw CommandError(QStringLiteral("%1: changed while it was read").arg(options.pdf));
     writeBook(*output, title);
     folder.keep();
     timing.published();
@@ -236,17 +241,17 @@ MadeBook makeBook(const PublishOptions& options) {
         timing.write(options.timingFile);
 
     if (const auto* web = dynamic_cast<const FolveroOutputWeb*>(output.get()))
-        reportWebBook(*web, options.quiet);
+        reportWebBook(*web, options);
     return {output->outputFileName(), output->fileCounts(),
             missingPages(*source->toPageConverter(), *output)};
 }
 
 // With a single line of what came of it. Whatever goes wrong now costs this one time only.
-void makeBookAgain(PublishOptions options) {
+void makeBookAgain(PublishOptions options, const FileWatch& files) {
     options.quiet = true;
     QString trouble;
     try {
-        const MadeBook made = makeBook(options);
+        const MadeBook made = makeBook(options, &files);
         const auto& [written, unchanged, removed] = made.counts;
         QString line = QStringLiteral("%1 %2: %3 files written, %4 unchanged")
                            .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
@@ -271,7 +276,7 @@ void watchAndMakeAgain(const PublishOptions& options, FileWatch& files) {
     Terminal::note(QStringLiteral("Waiting for changes; Ctrl-C ends it"));
     while (files.waitForChange(Interrupt::wasRequested)) {
         files.remember();
-        makeBookAgain(options);
+        makeBookAgain(options, files);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "output/FolveroOutputWeb.h"
 #include "platform/Files.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
 namespace {
@@ -56,6 +57,22 @@ std::optional<std::vector<PageRun>> WebBookChoice::openPages(const PublishOption
                                .arg(selection.range, range));
     }
     return open;
+}
+
+void WebBookChoice::tellWhatStays(const PublishOptions& options, const FolveroOutputWeb& output) {
+    const QString& folder = options.outputFolder;
+    if (options.singleFile) {
+        if (QFileInfo::exists(Files::join(folder, QStringLiteral("files/UserConfig.bin")))) {
+            Terminal::note(QStringLiteral("folvero: %1 still holds the files of an earlier book; "
+                                          "of the new one it has %2 alone")
+                               .arg(folder, Files::lastPathComponent(output.outputHTMLFileName())));
+        }
+    } else if (!output.staysOffline()) {
+        Terminal::note(QStringLiteral("folvero: sw.js or manifest.webmanifest in %1 is not of a "
+                                      "book; it was left as it is, and readers can't keep this "
+                                      "book to read it without a connection")
+                           .arg(folder));
+    }
 }
 
 void WebBookChoice::tellHowToEmbed(const FolveroOutputWeb& output) {

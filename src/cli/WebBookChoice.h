@@ -21,6 +21,9 @@ void check(const PublishOptions& options);
 std::optional<std::vector<PageRun>> openPages(const PublishOptions& options, const QString& range,
                                               int pageCount);
 
+// On standard error: files in the book's folder that are not of this book and were left there.
+void tellWhatStays(const PublishOptions& options, const FolveroOutputWeb& output);
+
 // On standard error: the markup that shows the book in another page.
 void tellHowToEmbed(const FolveroOutputWeb& output);
 

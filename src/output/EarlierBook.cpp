@@ -15,7 +15,7 @@ constexpr qint64 mostBytes = 64 << 20;
 
 } // namespace
 
-QStringList EarlierBook::pageFiles(const QString& filesFolder) {
+QStringList EarlierBook::files(const QString& filesFolder) {
     const QString path = Files::join(filesFolder, QStringLiteral("UserConfig.bin"));
     const QFileInfo info(path);
     if (!info.isFile() || info.size() > mostBytes)
@@ -27,16 +27,18 @@ QStringList EarlierBook::pageFiles(const QString& filesFolder) {
         return {};
     static const QRegularExpression pageFile(
         QStringLiteral("\\Apage/([1-9][0-9]{0,8})\\.[A-Za-z0-9]{1,5}\\z"));
-    QStringList files;
+    // What a web book has of all its pages, and its player.
+    QStringList names{QStringLiteral("search/text.js"), QStringLiteral("web/book.js"),
+                      QStringLiteral("web.js"), QStringLiteral("web.css")};
     for (const auto page : document.document_element().child("Ppts").children("Ppt")) {
         const QString picture =
             QString::fromUtf8(page.child("Normal").child("ImgPath").text().get());
         const auto match = pageFile.match(picture);
         if (!match.hasMatch())
             continue;
-        files << picture;
+        names << picture;
         for (const auto* kind : {"thumb/%1.webp", "large/%1.svg", "large/%1.webp", "text/%1.js"})
-            files << QString::fromLatin1(kind).arg(match.captured(1));
+            names << QString::fromLatin1(kind).arg(match.captured(1));
     }
-    return files;
+    return names;
 }

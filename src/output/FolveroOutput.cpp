@@ -301,7 +301,7 @@ void FolveroOutput::removeFilesOfEarlierBook() {
     const QString files = Files::join(iSaveToFolder, iResourceFolder);
     if (!iFlashPageSource || !transaction().writes(Files::join(files, configurationName)))
         return;
-    for (const QString& name : EarlierBook::pageFiles(files)) {
+    for (const QString& name : EarlierBook::files(files)) {
         const QString path = Files::join(files, name);
         if (!transaction().writes(path) && QFileInfo(path).isFile())
             transaction().remove(path);

@@ -226,6 +226,12 @@ void FolveroOutputWeb::readDocumentFacts(const PDFDocument& document) {
 }
 
 void FolveroOutputWeb::publish() {
+    const QString page = Files::lastPathComponent(outputHTMLFileName());
+    if (!iIsSingleFile && page.compare(textPageName, Qt::CaseInsensitive) == 0)
+        PublishTransaction::fail(
+            outputHTMLFileName(),
+            Message::translate("FolveroOutput", "The page with the book's text has that name"));
+    iStaysOffline = !iIsSingleFile && OfflineFiles::canBeIn(iSaveToFolder);
     if (iWebPages)
         writePages();
     FolveroOutput::publish();
@@ -235,7 +241,7 @@ void FolveroOutputWeb::publish() {
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("css"));
     if (iIsSingleFile)
         packIntoPage();
-    else
+    else if (iStaysOffline)
         writeOfflineFiles();
 }
 
@@ -309,7 +315,7 @@ void FolveroOutputWeb::writePages() {
         document->rest();
     writeScript(QStringLiteral("search/text"), WebScript::json(search));
     QJsonObject facts = iFacts.forPlayer(iFlashOutline.get());
-    facts[QStringLiteral("offline")] = !iIsSingleFile;
+    facts[QStringLiteral("offline")] = iStaysOffline;
     writeScript(QStringLiteral("web/book"), WebScript::json(facts));
     transaction().write(Files::join(iSaveToFolder, textPageName), plain.html(), Phase::page);
 }

@@ -40,6 +40,9 @@ public:
 
     // Pages of the last run that have less than they could have, and why.
     const std::vector<std::pair<int, Message>>& poorPages() const { return iPoorPages; }
+    // False when the folder has a service worker or manifest of somebody else's, which then stays:
+    // readers can't keep the book. Nor can they in this way when it is one file.
+    bool staysOffline() const { return iStaysOffline; }
     // Bytes of all that the last run wrote for pages: pictures, larger ones, thumbnails, text; and
     // those of the same pages in a classic book.
     qint64 pageBytes() const { return iPageBytes; }
@@ -72,6 +75,7 @@ private:
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;
     std::optional<std::vector<PageRun>> iOpenPages;
+    bool iStaysOffline = false;
     WebBookFacts iFacts;
     std::vector<std::pair<int, Message>> iPoorPages;
     qint64 iPageBytes = 0;

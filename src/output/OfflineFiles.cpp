@@ -20,6 +20,7 @@ namespace {
 const QString workerName = QStringLiteral("sw.js");
 const QString manifestName = QStringLiteral("manifest.webmanifest");
 const QString listName = QStringLiteral("files/web/offline.json");
+const QString textPageName = QStringLiteral("text.html"); // which comes with these
 const QString iconName = QStringLiteral("files/web/icon.svg");
 
 // How every worker of ours begins: folders may have scripts of that name of their own.
@@ -44,10 +45,18 @@ QByteArray compact(const QJsonObject& object) {
 // on enlarged pages. What the book needs to open and to be searched comes with the worker itself.
 enum class Part { shell, picture, text, large, none };
 
+bool isSound(const QString& path) {
+    static const QStringList endings{QStringLiteral("mp3"),  QStringLiteral("wav"),
+                                     QStringLiteral("ogg"),  QStringLiteral("oga"),
+                                     QStringLiteral("m4a"),  QStringLiteral("aac"),
+                                     QStringLiteral("flac"), QStringLiteral("mp4")};
+    return endings.contains(Files::pathExtension(path).toLower());
+}
+
 Part partOf(const QString& path, const QString& page) {
     // Browsers ask for sounds in pieces, which the worker leaves to them; the script stands for the
     // configuration on disk only.
-    if (path.endsWith(QStringLiteral(".mp3")) || path == u"files/UserConfig.js")
+    if (isSound(path) || path == u"files/UserConfig.js")
         return Part::none;
     if (path.startsWith(QStringLiteral("files/large/")))
         return Part::large;
@@ -56,7 +65,7 @@ Part partOf(const QString& path, const QString& page) {
     if (path.startsWith(QStringLiteral("files/text/")) ||
         path.startsWith(QStringLiteral("files/thumb/")))
         return Part::text;
-    return path == page || path == u"text.html" || path.startsWith(QStringLiteral("files/"))
+    return path == page || path == textPageName || path.startsWith(QStringLiteral("files/"))
                ? Part::shell
                : Part::none;
 }
@@ -98,10 +107,19 @@ QString shortened(const QString& title) {
     if (title.size() <= longestShortName)
         return title;
     const qsizetype blank = title.lastIndexOf(u' ', longestShortName);
-    return title.left(blank > 0 ? blank : longestShortName);
+    // Not in the middle of a character that takes two.
+    const qsizetype cut = title[longestShortName - 1].isHighSurrogate() ? 1 : 0;
+    return title.left(blank > 0 ? blank : longestShortName - cut);
 }
 
 } // namespace
+
+bool OfflineFiles::canBeIn(const QString& folder) {
+    const QString worker = Files::join(folder, workerName);
+    if (QFileInfo::exists(worker))
+        return QFileInfo(worker).isFile() && Files::contents(worker).startsWith(workerStart);
+    return !QFileInfo::exists(Files::join(folder, manifestName));
+}
 
 void OfflineFiles::write(PublishTransaction& transaction) const {
     const QString source = Bundle::pathForResource(QStringLiteral("sw"), QStringLiteral("js"),
@@ -137,8 +155,11 @@ void OfflineFiles::removeOutdated(PublishTransaction& transaction, const QString
     if (!transaction.writes(Files::join(folder, QStringLiteral("files/UserConfig.bin"))) &&
         !transaction.writes(Files::join(folder, page)))
         return;
-    for (const QString& name : {workerName, manifestName, listName, iconName})
-        transaction.remove(Files::join(folder, name));
+    for (const QString& name : {workerName, manifestName, listName, iconName, textPageName}) {
+        const QString path = Files::join(folder, name);
+        if (!transaction.writes(path))
+            transaction.remove(path);
+    }
 }
 
 QByteArray OfflineFiles::manifest() const {

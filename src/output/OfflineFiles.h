@@ -16,6 +16,9 @@ struct OfflineFiles {
     QColor ground;    // what lies around the book
     QColor bar;       // what its controls lie on
 
+    // Whether the folder has room for them: it may hold such files of somebody else's site.
+    static bool canBeIn(const QString& folder);
+
     // Stages them. The list has what the transaction writes, so it comes last.
     void write(PublishTransaction& transaction) const;
 

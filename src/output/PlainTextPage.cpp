@@ -2,6 +2,8 @@
 
 #include "output/WebBookFacts.h"
 
+#include <QUrl>
+
 namespace {
 
 constexpr char style[] =
@@ -19,15 +21,15 @@ QByteArray escaped(const QString& text) {
 } // namespace
 
 PlainTextPage::PlainTextPage(const WebBookFacts& facts, const QString& book) : iFacts(facts) {
+    const QByteArray address = QUrl::toPercentEncoding(book);
     const QByteArray language =
         escaped(facts.language.isEmpty() ? QStringLiteral("en") : facts.language);
     iHTML = "<!DOCTYPE html>\n<html lang=\"" + language +
             "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(facts.title) +
             "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<link rel=\"canonical\" href=\"" +
-            escaped(book) + "\">\n<style>" + style +
-            "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + escaped(book) + "\">" +
-            escaped(facts.title) + "</a></h1>\n";
+            address + "\">\n<style>" + style + "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" +
+            address + "\">" + escaped(facts.title) + "</a></h1>\n";
     if (!facts.author.isEmpty())
         iHTML += "<p>" + escaped(facts.author) + "</p>\n";
 }

@@ -4,9 +4,12 @@
 namespace {
 
 // Notices whatever an SVG file would show differently, or as a picture of its own: images,
-// shadings, masks, patterns, blending, and fonts whose letters are small pages.
+// shadings, masks, patterns, blending, and fonts whose letters are small pages. And what lies
+// outside the page: an SVG file would hold it, and whoever publishes a page does not see it there.
+// Pages cut from one spread are often the whole spread, each with its own crop box.
 struct SimplicityWatch {
     fz_device super;
+    fz_rect page;
     bool simple;
 };
 
@@ -14,23 +17,50 @@ SimplicityWatch* watchOf(fz_device* device) {
     return reinterpret_cast<SimplicityWatch*>(device);
 }
 
-void checkFonts(fz_context* ctx, fz_device* device, const fz_text* text) {
+void checkPlace(fz_device* device, fz_rect bounds) {
+    if (!fz_is_empty_rect(bounds) &&
+        fz_is_empty_rect(fz_intersect_rect(bounds, watchOf(device)->page)))
+        watchOf(device)->simple = false;
+}
+
+void checkText(fz_context* ctx, fz_device* device, const fz_text* text, fz_matrix matrix) {
     for (const fz_text_span* span = text->head; span; span = span->next) {
         if (fz_font_t3_procs(ctx, span->font))
             watchOf(device)->simple = false;
+        fz_matrix place = span->trm;
+        for (int i = 0; i < span->len && watchOf(device)->simple; ++i) {
+            if (span->items[i].gid < 0)
+                continue;
+            place.e = span->items[i].x;
+            place.f = span->items[i].y;
+            checkPlace(device, fz_bound_glyph(ctx, span->font, span->items[i].gid,
+                                              fz_concat(place, matrix)));
+        }
     }
 }
 
-void watchText(fz_context* ctx, fz_device* device, const fz_text* text, fz_matrix /*matrix*/,
+void watchText(fz_context* ctx, fz_device* device, const fz_text* text, fz_matrix matrix,
                fz_colorspace* /*space*/, const float* /*color*/, float /*alpha*/,
                fz_color_params /*params*/) {
-    checkFonts(ctx, device, text);
+    checkText(ctx, device, text, matrix);
 }
 
-void watchStroke(fz_context* ctx, fz_device* device, const fz_text* text,
-                 const fz_stroke_state* /*stroke*/, fz_matrix /*matrix*/, fz_colorspace* /*space*/,
-                 const float* /*color*/, float /*alpha*/, fz_color_params /*params*/) {
-    checkFonts(ctx, device, text);
+void watchTextStroke(fz_context* ctx, fz_device* device, const fz_text* text,
+                     const fz_stroke_state* /*stroke*/, fz_matrix matrix, fz_colorspace* /*space*/,
+                     const float* /*color*/, float /*alpha*/, fz_color_params /*params*/) {
+    checkText(ctx, device, text, matrix);
+}
+
+void watchPath(fz_context* ctx, fz_device* device, const fz_path* path, int /*evenOdd*/,
+               fz_matrix matrix, fz_colorspace* /*space*/, const float* /*color*/, float /*alpha*/,
+               fz_color_params /*params*/) {
+    checkPlace(device, fz_bound_path(ctx, path, nullptr, matrix));
+}
+
+void watchPathStroke(fz_context* ctx, fz_device* device, const fz_path* path,
+                     const fz_stroke_state* stroke, fz_matrix matrix, fz_colorspace* /*space*/,
+                     const float* /*color*/, float /*alpha*/, fz_color_params /*params*/) {
+    checkPlace(device, fz_bound_path(ctx, path, stroke, matrix));
 }
 
 void noClipText(fz_context* /*ctx*/, fz_device* device, const fz_text* /*text*/,
@@ -78,12 +108,15 @@ int noTile(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_rect /*v
     return 0;
 }
 
-bool isSimple(fz_context* ctx, fz_display_list* list) {
+bool isSimple(fz_context* ctx, fz_display_list* list, fz_rect page) {
     auto* watch = fz_new_derived_device(ctx, SimplicityWatch);
+    watch->page = page;
     watch->simple = true;
     fz_device& device = watch->super;
     device.fill_text = watchText;
-    device.stroke_text = watchStroke;
+    device.stroke_text = watchTextStroke;
+    device.fill_path = watchPath;
+    device.stroke_path = watchPathStroke;
     device.clip_text = noClipText;
     device.fill_shade = noShade;
     device.fill_image = noImage;
@@ -148,15 +181,20 @@ QByteArray PDFPage::vectorPicture() const {
     engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
         held.page = fz_load_page(ctx, &engine.document->super, iIndex);
         held.list = fz_new_display_list_from_page(ctx, held.page);
-        if (!isSimple(ctx, held.list))
+        const fz_rect bounds = fz_bound_page(ctx, held.page);
+        if (!isSimple(ctx, held.list, bounds))
             return;
         held.buffer = fz_new_buffer(ctx, std::size_t{1} << 18);
-        writeSVG(ctx, held.list, fz_bound_page(ctx, held.page), held.buffer);
+        writeSVG(ctx, held.list, bounds, held.buffer);
     });
     if (!held.buffer)
         return {};
     unsigned char* bytes = nullptr;
     const std::size_t size = fz_buffer_storage(engine.context, held.buffer, &bytes);
-    return VectorPage::compact(
+    QByteArray picture = VectorPage::compact(
         QByteArray::fromRawData(reinterpret_cast<const char*>(bytes), qsizetype(size)));
+    // On paper, as the page's other pictures: it may be shown over one of them.
+    const qsizetype start = picture.indexOf('>', picture.indexOf("<svg")) + 1;
+    picture.insert(start, "\n<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>");
+    return picture;
 }

@@ -1,6 +1,7 @@
 import assert from 'node:assert/strict';
 import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';
+import { createServer } from 'node:http';
 import path from 'node:path';
 import { after, test } from 'node:test';
 import { promisify } from 'node:util';
@@ -97,6 +98,15 @@ test('a web book is read on without a connection, and anew when it was published
   assert.deepEqual(await states(page), { count: 5, title: 'Second edition' });
   await page.keyboard.press('End');
   await page.waitForFunction(() => !window.folvero.turning && window.folvero.page > 3);
+
+  // Another page in the book's place is shown.
+  const elsewhere = createServer((_, answer) => answer.setHeader('Content-Type', 'text/html').end('<title>Elsewhere</title>'));
+  await new Promise((resolve) => { elsewhere.listen(new URL(address).port, '127.0.0.1', resolve); });
+  await page.goto('about:blank');
+  await page.goto(address);
+  assert.equal(await page.title(), 'Elsewhere');
+  elsewhere.closeAllConnections();
+  await new Promise((resolve) => { elsewhere.close(resolve); });
 
   // A book that does without gets rid of it.
   await publish('sample', '--title', 'Plain');

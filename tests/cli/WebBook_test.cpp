@@ -441,3 +441,27 @@ TEST_F(WebBookTest, WhatIsForWebBooksIsRefusedForOthers) {
         refusal({QStringLiteral("--preview-pages=99"), QStringLiteral("--type=web")})
             .startsWith(QStringLiteral("1 folvero: --preview-pages: the page range \"99\"")));
 }
+
+TEST_F(WebBookTest, LeavesOthersFilesAloneAndTakesItsOwnAway) {
+    ASSERT_TRUE(QDir().mkpath(file({})));
+    TestFiles::write(file(QStringLiteral("sw.js")), "// of the school's site");
+    publish(QStringLiteral("text.pdf"));
+    EXPECT_EQ(TestFiles::read(file(QStringLiteral("sw.js"))), "// of the school's site");
+    EXPECT_FALSE(QFileInfo::exists(file(QStringLiteral("manifest.webmanifest"))));
+    EXPECT_FALSE(data(QStringLiteral("web/book")).object()[QStringLiteral("offline")].toBool());
+
+    ASSERT_TRUE(QFile::remove(file(QStringLiteral("sw.js"))));
+    publish(QStringLiteral("text.pdf"));
+    const QString own[] = {
+        QStringLiteral("sw.js"),           QStringLiteral("manifest.webmanifest"),
+        QStringLiteral("text.html"),       QStringLiteral("files/search/text.js"),
+        QStringLiteral("files/text/1.js"), QStringLiteral("files/web.js")};
+    for (const QString& name : own)
+        EXPECT_TRUE(QFileInfo::exists(file(name))) << name.toStdString();
+    const auto plain = Program::run({QStringLiteral("publish"), iPDF, file({}),
+                                     QStringLiteral("--pages=1"), QStringLiteral("--quiet")});
+    ASSERT_EQ(plain.exitCode, 0) << plain.errors.constData();
+    for (const QString& name : own)
+        EXPECT_FALSE(QFileInfo::exists(file(name))) << name.toStdString();
+    EXPECT_TRUE(QFileInfo::exists(file(QStringLiteral("files/page/1.jpg"))));
+}

@@ -252,6 +252,25 @@ TEST_F(PDFDocumentTest, BlendsWithinThePageNotWithThePaper) {
     EXPECT_TRUE(document->page(1).vectorPicture().isEmpty());
 }
 
+// Halves of a spread are often the whole of it, each with its own crop box.
+TEST_F(PDFDocumentTest, GivesNoVectorsOfWhatLiesOutsideThePage) {
+    PDFBuilder builder;
+    for (const QByteArray& content :
+         {QByteArray("0 0 1 rg 20 20 60 60 re f"), QByteArray("120 20 60 60 re f"),
+          QByteArray("BT /F 20 Tf 20 50 Td (in) Tj 110 0 Td (out) Tj ET")}) {
+        auto half = pageWith(content);
+        half.cropBox = QRectF(0, 0, 100, 100);
+        half.fonts = {{"F", "Helvetica"}};
+        builder.addPage(half);
+    }
+    const auto document = open(builder);
+    const QByteArray picture = document->page(0).vectorPicture();
+    EXPECT_TRUE(picture.contains("fill=\"#0000ff\""));
+    EXPECT_TRUE(picture.contains("fill=\"#fff\"")) << "it lies on paper";
+    EXPECT_TRUE(document->page(1).vectorPicture().isEmpty());
+    EXPECT_TRUE(document->page(2).vectorPicture().isEmpty());
+}
+
 TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
     PDFBuilder builder;
     builder.addPage(pageWith(redCorner, {0, 0, 14400, 14400}));
