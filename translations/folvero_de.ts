@@ -179,6 +179,10 @@
         <source>As one file the book would have %1 MB, and the most is %2 MB. Import fewer pages or choose the smallest files, or publish it as a folder</source>
         <translation>Als eine Datei hätte das Buch %1 MB, erlaubt sind %2 MB. Importieren Sie weniger Seiten oder wählen Sie die kleinsten Dateien, oder veröffentlichen Sie es als Ordner</translation>
     </message>
+    <message>
+        <source>The page with the book&apos;s text has that name</source>
+        <translation>So heißt schon die Seite mit dem Text des Buchs</translation>
+    </message>
 </context>
 <context>
     <name>ImportPDFOperation</name>
