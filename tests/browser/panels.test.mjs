@@ -39,7 +39,7 @@ for (const [key, name, label] of panels) {
 test('a panel closes with its button and with a click beside it', async () => {
   const book = await open(4);
   for (const close of [() => book.page.locator('.help-panel .close').click(), () => book.page.mouse.click(20, 20)]) {
-    await book.page.keyboard.press('?');
+    await book.use('help');
     await book.page.locator('.help-panel').waitFor();
     await close();
     await book.page.locator('.help-panel').waitFor({ state: 'hidden' });
