@@ -1,7 +1,6 @@
 #include "cli/Interrupt.h"
 
 #include <csignal>
-#include <initializer_list>
 
 namespace {
 
@@ -11,23 +10,23 @@ void raiseFlag(int /*signal*/) {
     requested = 1;
 }
 
-// Whoever starts the program with a signal switched off, as nohup does, means it to go on.
-void watchSignal(int signal) {
+// nohup switches it off, and means the program to go on when its terminal is closed.
+bool ignoresHangUp() {
     struct sigaction action {};
-    if (::sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN)
-        return;
-    action = {};
-    action.sa_handler = raiseFlag;
-    ::sigemptyset(&action.sa_mask);
-    action.sa_flags = SA_RESTART;
-    ::sigaction(signal, &action, nullptr);
+    return ::sigaction(SIGHUP, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
 }
 
 } // namespace
 
 void Interrupt::watch() {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
-        watchSignal(signal);
+    struct sigaction action {};
+    action.sa_handler = raiseFlag;
+    ::sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    ::sigaction(SIGINT, &action, nullptr);
+    ::sigaction(SIGTERM, &action, nullptr);
+    if (!ignoresHangUp())
+        ::sigaction(SIGHUP, &action, nullptr);
     // Nobody to read the progress is no reason to stop.
     ::signal(SIGPIPE, SIG_IGN);
 }

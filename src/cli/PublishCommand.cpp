@@ -233,7 +233,8 @@ MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullpt
         web->setOpenPages(openPages);
     // Half a document, or two editions of it, is no book to replace a good one with.
     if (files && files->haveChanged())
-        throw CommandError(QStringLiteral("%1: changed while it was read").arg(options.pdf));
+        throw CommandError(
+            QStringLiteral("%1, or the settings file, changed while it was read").arg(options.pdf));
     writeBook(*output, title);
     folder.keep();
     timing.published();

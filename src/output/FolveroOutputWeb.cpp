@@ -27,7 +27,6 @@ using Phase = PublishTransaction::Phase;
 
 namespace {
 
-const QString textPageName = QStringLiteral("text.html");
 const QString textFolder = QStringLiteral("text");
 
 constexpr char playerMarkup[] = "<link rel=\"stylesheet\" href=\"files/web.css\">\n"
@@ -167,7 +166,7 @@ void FolveroOutputWeb::readFacts() {
         iFacts.large << (hasLarge ? QFileInfo(page.large).suffix() : QString());
     }
     if (!iIsSingleFile) {
-        iFacts.textPage = textPageName;
+        iFacts.textPage = PlainTextPage::fileName;
         iFacts.cover = cover();
     }
     if (const auto document = iWebPages->document()) {
@@ -227,11 +226,11 @@ void FolveroOutputWeb::readDocumentFacts(const PDFDocument& document) {
 
 void FolveroOutputWeb::publish() {
     const QString page = Files::lastPathComponent(outputHTMLFileName());
-    if (!iIsSingleFile && page.compare(textPageName, Qt::CaseInsensitive) == 0)
+    if (!iIsSingleFile && page.compare(PlainTextPage::fileName, Qt::CaseInsensitive) == 0)
         PublishTransaction::fail(
             outputHTMLFileName(),
             Message::translate("FolveroOutput", "The page with the book's text has that name"));
-    iStaysOffline = !iIsSingleFile && OfflineFiles::canBeIn(iSaveToFolder);
+    iFacts.offline = !iIsSingleFile && OfflineFiles::canBeIn(iSaveToFolder);
     if (iWebPages)
         writePages();
     FolveroOutput::publish();
@@ -241,7 +240,7 @@ void FolveroOutputWeb::publish() {
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("css"));
     if (iIsSingleFile)
         packIntoPage();
-    else if (iStaysOffline)
+    else if (iFacts.offline)
         writeOfflineFiles();
 }
 
@@ -260,6 +259,8 @@ void FolveroOutputWeb::writeOfflineFiles() {
     files.cover = iFacts.cover;
     files.ground = colour("bgBeginColor", "0xC0C0C0");
     files.bar = colour("mainColor", "0xffffff");
+    files.script = Files::contents(playerPart(QStringLiteral("sw"), QStringLiteral("js"),
+                                              Files::join(iSaveToFolder, QStringLiteral("sw.js"))));
     files.write(transaction());
 }
 
@@ -277,13 +278,19 @@ void FolveroOutputWeb::packIntoPage() {
         PublishTransaction::fail(page, error);
 }
 
-void FolveroOutputWeb::copyPlayerPart(const QString& name, const QString& type) {
+// Path of a file that is installed with the program. Fails for the book's file that is made of it.
+QString FolveroOutputWeb::playerPart(const QString& name, const QString& type,
+                                     const QString& target) const {
     const QString source = Bundle::pathForResource(name, type, QStringLiteral("AppFiles/Web"));
-    const QString target = resourceFolder(iSaveToFolder, name + u'.' + type);
     if (source.isNull())
         PublishTransaction::fail(
             target, Message::translate("FolveroOutput", "the player is not installed"));
-    transaction().copy(source, target, Copy::independent);
+    return source;
+}
+
+void FolveroOutputWeb::copyPlayerPart(const QString& name, const QString& type) {
+    const QString target = resourceFolder(iSaveToFolder, name + u'.' + type);
+    transaction().copy(playerPart(name, type, target), target, Copy::independent);
 }
 
 void FolveroOutputWeb::writeScript(const QString& name, const QByteArray& json) {
@@ -314,10 +321,9 @@ void FolveroOutputWeb::writePages() {
     if (document)
         document->rest();
     writeScript(QStringLiteral("search/text"), WebScript::json(search));
-    QJsonObject facts = iFacts.forPlayer(iFlashOutline.get());
-    facts[QStringLiteral("offline")] = iStaysOffline;
-    writeScript(QStringLiteral("web/book"), WebScript::json(facts));
-    transaction().write(Files::join(iSaveToFolder, textPageName), plain.html(), Phase::page);
+    writeScript(QStringLiteral("web/book"), WebScript::json(iFacts.forPlayer(iFlashOutline.get())));
+    transaction().write(Files::join(iSaveToFolder, PlainTextPage::fileName), plain.html(),
+                        Phase::page);
 }
 
 // The files of one page beside its picture. Returns its text.

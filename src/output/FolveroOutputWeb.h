@@ -42,7 +42,7 @@ public:
     const std::vector<std::pair<int, Message>>& poorPages() const { return iPoorPages; }
     // False when the folder has a service worker or manifest of somebody else's, which then stays:
     // readers can't keep the book. Nor can they in this way when it is one file.
-    bool staysOffline() const { return iStaysOffline; }
+    bool staysOffline() const { return iFacts.offline; }
     // Bytes of all that the last run wrote for pages: pictures, larger ones, thumbnails, text; and
     // those of the same pages in a classic book.
     qint64 pageBytes() const { return iPageBytes; }
@@ -66,6 +66,7 @@ private:
     void copyPageFile(const QString& source, const QString& folder, const QString& name);
     void writeScript(const QString& name, const QByteArray& json);
     void packIntoPage();
+    QString playerPart(const QString& name, const QString& type, const QString& target) const;
     void copyPlayerPart(const QString& name, const QString& type);
     std::shared_ptr<FlashPageSource> sourceOfWebPages() const;
 
@@ -75,7 +76,6 @@ private:
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;
     std::optional<std::vector<PageRun>> iOpenPages;
-    bool iStaysOffline = false;
     WebBookFacts iFacts;
     std::vector<std::pair<int, Message>> iPoorPages;
     qint64 iPageBytes = 0;

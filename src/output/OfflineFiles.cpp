@@ -1,8 +1,9 @@
 #include "output/OfflineFiles.h"
 
+#include "output/PlainTextPage.h"
 #include "output/PublishTransaction.h"
-#include "platform/Bundle.h"
 #include "platform/Files.h"
+#include "platform/MediaType.h"
 #include "util/NSData+CommonCrypto.h"
 
 #include <QDir>
@@ -20,7 +21,6 @@ namespace {
 const QString workerName = QStringLiteral("sw.js");
 const QString manifestName = QStringLiteral("manifest.webmanifest");
 const QString listName = QStringLiteral("files/web/offline.json");
-const QString textPageName = QStringLiteral("text.html"); // which comes with these
 const QString iconName = QStringLiteral("files/web/icon.svg");
 
 // How every worker of ours begins: folders may have scripts of that name of their own.
@@ -45,18 +45,10 @@ QByteArray compact(const QJsonObject& object) {
 // on enlarged pages. What the book needs to open and to be searched comes with the worker itself.
 enum class Part { shell, picture, text, large, none };
 
-bool isSound(const QString& path) {
-    static const QStringList endings{QStringLiteral("mp3"),  QStringLiteral("wav"),
-                                     QStringLiteral("ogg"),  QStringLiteral("oga"),
-                                     QStringLiteral("m4a"),  QStringLiteral("aac"),
-                                     QStringLiteral("flac"), QStringLiteral("mp4")};
-    return endings.contains(Files::pathExtension(path).toLower());
-}
-
 Part partOf(const QString& path, const QString& page) {
     // Browsers ask for sounds in pieces, which the worker leaves to them; the script stands for the
     // configuration on disk only.
-    if (isSound(path) || path == u"files/UserConfig.js")
+    if (MediaType::ofFile(path).startsWith("audio/") || path == u"files/UserConfig.js")
         return Part::none;
     if (path.startsWith(QStringLiteral("files/large/")))
         return Part::large;
@@ -65,7 +57,8 @@ Part partOf(const QString& path, const QString& page) {
     if (path.startsWith(QStringLiteral("files/text/")) ||
         path.startsWith(QStringLiteral("files/thumb/")))
         return Part::text;
-    return path == page || path == textPageName || path.startsWith(QStringLiteral("files/"))
+    return path == page || path == PlainTextPage::fileName ||
+                   path.startsWith(QStringLiteral("files/"))
                ? Part::shell
                : Part::none;
 }
@@ -122,16 +115,9 @@ bool OfflineFiles::canBeIn(const QString& folder) {
 }
 
 void OfflineFiles::write(PublishTransaction& transaction) const {
-    const QString source = Bundle::pathForResource(QStringLiteral("sw"), QStringLiteral("js"),
-                                                   QStringLiteral("AppFiles/Web"));
-    if (source.isNull())
-        PublishTransaction::fail(
-            Files::join(folder, workerName),
-            Message::translate("FolveroOutput", "the player is not installed"));
-    const QByteArray worker = Files::contents(source);
     transaction.write(Files::join(folder, iconName), icon(transaction));
     const List list = listOf(transaction, folder, page);
-    const QByteArray version = digestOf(list.shell() + list.rest() + worker);
+    const QByteArray version = digestOf(list.shell() + list.rest() + script);
     transaction.write(Files::join(folder, listName),
                       "{\"version\":\"" + version +
                           "\",\"bytes\":" + QByteArray::number(list.bytes) + ",\"shell\":{" +
@@ -140,7 +126,7 @@ void OfflineFiles::write(PublishTransaction& transaction) const {
     transaction.write(Files::join(folder, manifestName), manifest(), Phase::page);
     const QByteArray about = compact({{QStringLiteral("page"), page},
                                       {QStringLiteral("version"), QString::fromLatin1(version)}});
-    transaction.write(Files::join(folder, workerName), declaration + about + ";\n" + worker,
+    transaction.write(Files::join(folder, workerName), declaration + about + ";\n" + script,
                       Phase::page);
 }
 
@@ -155,7 +141,8 @@ void OfflineFiles::removeOutdated(PublishTransaction& transaction, const QString
     if (!transaction.writes(Files::join(folder, QStringLiteral("files/UserConfig.bin"))) &&
         !transaction.writes(Files::join(folder, page)))
         return;
-    for (const QString& name : {workerName, manifestName, listName, iconName, textPageName}) {
+    for (const QString& name :
+         {workerName, manifestName, listName, iconName, PlainTextPage::fileName}) {
         const QString path = Files::join(folder, name);
         if (!transaction.writes(path))
             transaction.remove(path);

@@ -9,6 +9,9 @@ struct WebBookFacts;
 // browsers, and for readers who want no pictures.
 class PlainTextPage {
 public:
+    // In the book's folder.
+    static inline const QString fileName = QStringLiteral("text.html");
+
     // book is the address of the book's page, relative to this one.
     PlainTextPage(const WebBookFacts& facts, const QString& book);
 

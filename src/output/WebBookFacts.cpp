@@ -73,6 +73,7 @@ QJsonObject WebBookFacts::forPlayer(const FlashOutline* outline) const {
                        {QStringLiteral("language"), language},
                        {QStringLiteral("open"), openRuns(*this)},
                        {QStringLiteral("textPage"), textPage},
+                       {QStringLiteral("offline"), offline},
                        {QStringLiteral("numbers"), QJsonValue::Null},
                        {QStringLiteral("labels"), QJsonValue::Null}};
     object[QStringLiteral("outline")] =

@@ -25,6 +25,7 @@ struct WebBookFacts {
     QString cover;            // a page's thumbnail, a path in the book; empty for none
     QString textPage;         // the whole text as a page, a path in the book; empty for none
     bool hasText = false;
+    bool offline = false; // whether readers can keep the book
     // In a preview, the runs of positions that can be read; none where the whole book can be.
     std::optional<std::vector<PageRun>> open;
 

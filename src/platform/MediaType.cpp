@@ -21,6 +21,12 @@ QByteArray MediaType::ofFile(const QString& name) {
         {QStringLiteral("webp"), "image/webp"},
         {QStringLiteral("ico"), "image/vnd.microsoft.icon"},
         {QStringLiteral("mp3"), "audio/mpeg"},
+        {QStringLiteral("wav"), "audio/wav"},
+        {QStringLiteral("ogg"), "audio/ogg"},
+        {QStringLiteral("oga"), "audio/ogg"},
+        {QStringLiteral("m4a"), "audio/mp4"},
+        {QStringLiteral("aac"), "audio/aac"},
+        {QStringLiteral("flac"), "audio/flac"},
         {QStringLiteral("swf"), "application/x-shockwave-flash"},
     };
     return types.value(Files::pathExtension(name).toLower(), "application/octet-stream");
