@@ -222,7 +222,7 @@ test('a caption that is an address opens it', async () => {
   const address = `${emulator.server.address}flash.html`;
   const book = await open({ values: { TutorialTitle: address } });
   const [opened] = await Promise.all([book.page.context().waitForEvent('page'), book.page.mouse.click(45, 601)]);
-  assert.equal(opened.url().replace(/\?$/, ''), address);
+  await opened.waitForURL(({ href }) => href.replace(/\?$/, '') === address, { waitUntil: 'commit' });
   await opened.close();
   assert.deepEqual((await book.state()).pages, [1], 'the click turned no page');
 });

@@ -225,7 +225,7 @@ test('links are followed by click, tap and key, and lead to pages and out of the
   assert.deepEqual(await out.evaluate(({ target, rel }) => [target, rel]), ['_blank', 'noopener noreferrer']);
   near(await out.boundingBox(), await placeOf(book, 'left', [600 + 180, 1200, 1200, 140]));
   const [popup] = await Promise.all([book.page.context().waitForEvent('page'), out.click()]);
-  assert.equal(popup.url(), 'https://example.org/?a=1&b=2');
+  await popup.waitForURL('https://example.org/?a=1&b=2', { waitUntil: 'commit' });
   assert.equal(await popup.evaluate(() => window.opener), null);
   await popup.close();
   assert.deepEqual(await book.pages(), [2, 3]);
