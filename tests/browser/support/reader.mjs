@@ -141,8 +141,12 @@ class OpenBook {
 
   /** Waits until everything that moves or fades, and will end doing so, has come to rest. */
   async rest() {
-    await this.page.evaluate(() => Promise.all(document.getAnimations()
-      .filter(({ effect }) => Number.isFinite(effect.getComputedTiming().endTime)).map(({ finished }) => finished)));
+    await this.page.evaluate(async () => {
+      const moving = () => document.getAnimations().filter(({ playState, effect }) =>
+        playState === 'running' && Number.isFinite(effect.getComputedTiming().endTime));
+      // One that is cancelled rejects its promise, and one that ends may begin another.
+      for (let all = moving(); all.length > 0; all = moving()) await Promise.allSettled(all.map(({ finished }) => finished));
+    });
   }
 
   /** Colour that is really on the screen at a place. */
