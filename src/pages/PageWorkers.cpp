@@ -167,7 +167,10 @@ void PageWorkers::collect() {
 
 void PageWorkers::readAnswers(Worker& worker) {
     if (!worker.process->readAvailable(maxLine)) {
-        replace(worker, endedReason());
+        if (drawsAgain(worker))
+            replace(worker);
+        else
+            replace(worker, endedReason());
         return;
     }
     while (const auto line = worker.process->takeLine())
@@ -216,15 +219,23 @@ void PageWorkers::giveUpWaiting(Worker& worker) {
     replace(worker, Message::translate("PageFailure", "drawing it took too long"));
 }
 
-// A new process takes over from one that is of no more use.
+// A new process takes over from one that is of no more use. Without a reason it draws the same
+// page.
 void PageWorkers::replace(Worker& worker, const Message& reason) {
     if (!worker.ready) {
         replaceUnready(worker);
         return;
     }
-    giveUpPage(worker, reason);
+    if (!reason.isNull())
+        giveUpPage(worker, reason);
     handBack(worker);
     worker = newWorker(startProcess());
+}
+
+// A page is not to blame for a worker that somebody killed; when it happens again it may be.
+bool PageWorkers::drawsAgain(Worker& worker) {
+    return worker.ready && !worker.pages.empty() && worker.process->wasKilled() &&
+           iDrawnAgain.insert(worker.pages.front()).second;
 }
 
 // The page that it was drawing is to blame.

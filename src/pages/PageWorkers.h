@@ -13,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 // What became of one page.
@@ -76,7 +77,8 @@ private:
     void takeFirstLine(Worker& worker, const QByteArray& line);
     void takeAnswer(Worker& worker, const QByteArray& line);
     void giveUpWaiting(Worker& worker);
-    void replace(Worker& worker, const Message& reason);
+    void replace(Worker& worker, const Message& reason = {});
+    bool drawsAgain(Worker& worker);
     void giveUpPage(Worker& worker, const Message& reason);
     void replaceUnready(Worker& worker);
     void handBack(Worker& worker);
@@ -100,4 +102,5 @@ private:
     Message iOpenError;    // why a worker could not open the document
     std::vector<Worker> iWorkers;
     std::map<int, PageResult> iResults; // made, not yet asked for
+    std::set<int> iDrawnAgain;          // pages whose worker was killed once
 };

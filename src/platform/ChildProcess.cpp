@@ -118,20 +118,28 @@ std::optional<QByteArray> ChildProcess::takeLine() {
     return line;
 }
 
-// The loader and shells end with these when a program or its libraries are missing or unfit.
-bool ChildProcess::couldNotRun() {
-    constexpr int unfit = 126;
-    constexpr int missing = 127;
+// Its streams are closed just before it ends.
+bool ChildProcess::endsSoon() {
     constexpr int patienceMilliseconds = 1000;
-    // Its streams are closed just before it ends.
     for (int waited = 0; !iHasEnded && waited < patienceMilliseconds; ++waited) {
         if (::waitpid(iProcess, &iStatus, WNOHANG) == iProcess)
             iHasEnded = true;
         else
             ::poll(nullptr, 0, 1);
     }
-    return iHasEnded && WIFEXITED(iStatus) &&
+    return iHasEnded;
+}
+
+// The loader and shells end with these when a program or its libraries are missing or unfit.
+bool ChildProcess::couldNotRun() {
+    constexpr int unfit = 126;
+    constexpr int missing = 127;
+    return endsSoon() && WIFEXITED(iStatus) &&
            (WEXITSTATUS(iStatus) == unfit || WEXITSTATUS(iStatus) == missing);
+}
+
+bool ChildProcess::wasKilled() {
+    return endsSoon() && WIFSIGNALED(iStatus) && WTERMSIG(iStatus) == SIGKILL;
 }
 
 void ChildProcess::kill() {

@@ -35,11 +35,16 @@ public:
     // its end says nothing about its work.
     bool couldNotRun();
 
+    // After the end of the stream: whether somebody killed the process (SIGKILL), as the system
+    // does when it is short of memory.
+    bool wasKilled();
+
     // Ends the process at once, without waiting for the system to clear it away; the destructor
     // waits.
     void kill();
 
 private:
+    bool endsSoon();
     void waitForEnd();
 
     pid_t iProcess = -1;
