@@ -22,6 +22,7 @@
 
 #include <QFileInfo>
 #include <QTime>
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <utility>
@@ -119,11 +120,9 @@ void takePageSize(const ImportPDFOperation& imported, FlashTemplate& tmpl) {
 }
 
 std::unique_ptr<FolveroOutput> makeWebOutput(const PublishOptions& options,
-                                             const std::shared_ptr<FlashPageSource>& source,
                                              const std::shared_ptr<FlashTemplate>& tmpl,
-                                             const QString& folder, const QString& title) {
-    auto output = std::make_unique<FolveroOutputWeb>(source, tmpl, folder, bookName(options));
-    output->setTitle(title);
+                                             const QString& folder) {
+    auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, bookName(options));
     output->setSingleFile(options.singleFile);
     const auto progress =
         std::make_shared<ProgressDisplay>(QStringLiteral("Making the web book"), options.quiet);
@@ -131,16 +130,31 @@ std::unique_ptr<FolveroOutput> makeWebOutput(const PublishOptions& options,
     return output;
 }
 
+// Without pages, which come later.
 std::unique_ptr<FolveroOutput> makeOutput(const PublishOptions& options,
-                                          const std::shared_ptr<FlashPageSource>& source,
                                           const std::shared_ptr<FlashTemplate>& tmpl,
-                                          const QString& folder, const QString& title) {
+                                          const QString& folder) {
     const QString name = bookName(options);
     if (options.type == Type::app)
-        return std::make_unique<FolveroOutputApp>(source, tmpl, folder, name);
+        return std::make_unique<FolveroOutputApp>(nullptr, tmpl, folder, name);
     if (options.type == Type::web)
-        return makeWebOutput(options, source, tmpl, folder, title);
-    return std::make_unique<FolveroOutput>(source, tmpl, folder, name);
+        return makeWebOutput(options, tmpl, folder);
+    return std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name);
+}
+
+// Somebody's own page must not be lost because a book has the same name.
+void refuseToReplace(const QStringList& foreignFiles) {
+    if (foreignFiles.isEmpty())
+        return;
+    constexpr qsizetype mostShown = 5;
+    QStringList lines;
+    for (const QString& file : foreignFiles.first(std::min(foreignFiles.size(), mostShown)))
+        lines << QStringLiteral("%1: is not of a book, and would be overwritten").arg(file);
+    if (foreignFiles.size() > mostShown)
+        lines << QStringLiteral("and %1 more").arg(foreignFiles.size() - mostShown);
+    throw CommandError(
+        lines.join(u'\n') +
+        QStringLiteral("\nChoose another folder or --name, or overwrite with --force"));
 }
 
 void writeBook(FolveroOutput& output, const QString& title) {
@@ -213,6 +227,9 @@ MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullpt
     // Until here a signal ends the program at once, as it should: nothing is there to clear away.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
+    const auto output = makeOutput(options, tmpl, folder.path());
+    if (!options.force)
+        refuseToReplace(output->foreignFiles());
     timing.opened();
 
     const auto operation =
@@ -226,11 +243,13 @@ MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullpt
 
     takePageSize(*operation, *tmpl);
     const QString title = bookTitle(options, *operation);
-    const auto output = makeOutput(options, source, tmpl, folder.path(), title);
+    output->setFlashPageSource(source);
     output->setFlashPagesAnnotations(operation->flashPagesAnnotation());
     output->setFlashOutline(operation->flashOutline());
-    if (auto* web = dynamic_cast<FolveroOutputWeb*>(output.get()))
+    if (auto* web = dynamic_cast<FolveroOutputWeb*>(output.get())) {
+        web->setTitle(title);
         web->setOpenPages(openPages);
+    }
     // Half a document, or two editions of it, is no book to replace a good one with.
     if (files && files->haveChanged())
         throw CommandError(

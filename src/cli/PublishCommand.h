@@ -23,6 +23,7 @@ struct PublishOptions {
     QStringList assignments; // "key=value"
     QString timingFile;
     bool quiet = false;
+    bool force = false; // replace files that are no book's
     bool watch = false; // publish again whenever the PDF or the settings file changes
 };
 

@@ -41,6 +41,7 @@ struct CommandLine {
     std::string settingsFile;
     std::string timingFile;
     bool quiet = false;
+    bool force = false;
     bool watch = false;
     bool json = false;
     bool verbose = false;
@@ -82,6 +83,7 @@ void publish(const CommandLine& line, const CLI::App& command) {
     if (!line.timingFile.empty())
         options.timingFile = path(line.timingFile);
     options.quiet = line.quiet;
+    options.force = line.force;
     options.watch = line.watch;
     runPublish(options);
 }
@@ -143,6 +145,8 @@ void addPublish(CLI::App& app, CommandLine& line) {
                      "many times")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
+    command->add_flag("--force", line.force,
+                      "Replace a page, an application or other files that are no book's");
     command->add_flag("--watch", line.watch,
                       "Go on until Ctrl-C, and make the book again whenever the PDF or the\n"
                       "settings file changes");

@@ -4,8 +4,11 @@
 #include "platform/Files.h"
 #include "util/NSData+CommonCrypto.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <algorithm>
 #include <pugixml.hpp>
 
 namespace {
@@ -13,17 +16,72 @@ namespace {
 // Far beyond any book: the file may be anybody's.
 constexpr qint64 mostBytes = 64 << 20;
 
-} // namespace
+// Of a page: its title and the marker stand far before that, the pictures of a book in one file
+// behind.
+constexpr qint64 headBytes = 1 << 20;
 
-QStringList EarlierBook::files(const QString& filesFolder) {
+constexpr char marker[] = "<meta name=\"generator\" content=\"Folvero\">";
+
+bool loadConfiguration(const QString& filesFolder, pugi::xml_document& document) {
     const QString path = Files::join(filesFolder, QStringLiteral("UserConfig.bin"));
     const QFileInfo info(path);
     if (!info.isFile() || info.size() > mostBytes)
-        return {};
+        return false;
     const QByteArray xml =
         CommonCryptor::decryptedRC4DataUsingKey(Files::contents(path), userConfigKey);
+    return bool(document.load_buffer(xml.constData(), std::size_t(xml.size())));
+}
+
+// The beginning of a book's page; null for anything else.
+QByteArray headOfPage(const QString& path) {
+    QFile file(path);
+    // Opening a pipe would wait for whoever writes to it.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray head = file.read(headBytes);
+    return head.contains(marker) ? head : QByteArray();
+}
+
+// What QString::toHtmlEscaped() was made from.
+QString unescaped(QString text) {
+    return text.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
+        .replace(QStringLiteral("&gt;"), QStringLiteral(">"))
+        .replace(QStringLiteral("&quot;"), QStringLiteral("\""))
+        .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+}
+
+} // namespace
+
+bool EarlierBook::isIn(const QString& filesFolder) {
     pugi::xml_document document;
-    if (!document.load_buffer(xml.constData(), std::size_t(xml.size())))
+    return loadConfiguration(filesFolder, document) && document.document_element().child("Ppts");
+}
+
+bool EarlierBook::isPage(const QString& file) {
+    return !headOfPage(file).isNull();
+}
+
+QStringList EarlierBook::pages(const QString& folder) {
+    QStringList names = QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
+    names.removeIf([&](const QString& name) { return !isPage(Files::join(folder, name)); });
+    std::stable_partition(names.begin(), names.end(),
+                          [](const QString& name) { return name == u"index.html"; });
+    return names;
+}
+
+QString EarlierBook::title(const QString& page) {
+    const QByteArray head = headOfPage(page);
+    const qsizetype start = head.indexOf("<title>");
+    const qsizetype end = head.indexOf("</title>", start);
+    if (start < 0 || end < 0)
+        return {};
+    const qsizetype text = start + qsizetype(qstrlen("<title>"));
+    return unescaped(QString::fromUtf8(head.mid(text, end - text)));
+}
+
+QStringList EarlierBook::files(const QString& filesFolder) {
+    pugi::xml_document document;
+    if (!loadConfiguration(filesFolder, document))
         return {};
     static const QRegularExpression pageFile(
         QStringLiteral("\\Apage/([1-9][0-9]{0,8})\\.[A-Za-z0-9]{1,5}\\z"));

@@ -2,7 +2,9 @@
 
 #include "output/BookName.h"
 #include "output/EarlierBook.h"
+#include "output/ForeignFiles.h"
 #include "output/OfflineFiles.h"
+#include "output/StagingFolder.h"
 #include "output/UserConfig.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
@@ -58,6 +60,34 @@ QString FolveroOutput::outputFileName() const {
 
 QString FolveroOutput::outputSWFName() const {
     return Files::join(iSaveToFolder, QStringLiteral("book.swf"));
+}
+
+// A first publish that was killed left files without a configuration.
+bool FolveroOutput::hasEarlierBook() const {
+    return EarlierBook::isIn(Files::join(iSaveToFolder, iResourceFolder)) ||
+           StagingFolder::hasStale(iSaveToFolder);
+}
+
+QStringList FolveroOutput::foreignFiles() const {
+    QStringList found = ForeignFiles::page(outputHTMLFileName());
+    if (hasEarlierBook())
+        return found;
+    if (ForeignFiles::isThere(outputSWFName()))
+        found << outputSWFName();
+    return found +
+           ForeignFiles::ofBook(Files::join(iSaveToFolder, iResourceFolder), iFlashTemplate.get());
+}
+
+QString FolveroOutput::titleOfEarlierBook() const {
+    const QString page = outputHTMLFileName();
+    if (EarlierBook::isPage(page))
+        return EarlierBook::title(page);
+    // Its page has another name then.
+    const QStringList pages = EarlierBook::isIn(Files::join(iSaveToFolder, iResourceFolder))
+                                  ? EarlierBook::pages(iSaveToFolder)
+                                  : QStringList();
+    return pages.isEmpty() ? QString()
+                           : EarlierBook::title(Files::join(iSaveToFolder, pages.front()));
 }
 
 void FolveroOutput::ouputTheBook() {

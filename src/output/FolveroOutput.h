@@ -38,6 +38,14 @@ public:
     virtual QString outputFileName() const;
     QString outputSWFName() const;
 
+    // Full paths of files (of a folder, for an application) that a run would replace or remove and
+    // that no book has: somebody's own page, say. A run replaces them without asking, so callers
+    // ask before. Needs neither pages nor a title, so it can be asked before pages are drawn.
+    virtual QStringList foreignFiles() const;
+    // The title of the book that a run would replace, as plain text. Null when there is no book, or
+    // when its page doesn't tell.
+    QString titleOfEarlierBook() const;
+
     // What went wrong in the last run, one "FILE: CAUSE" each; the folder is then as it was before.
     QStringList publishErrors() const { return englishTexts(iPublishErrors); }
     const Messages& publishMessages() const { return iPublishErrors; }
@@ -101,6 +109,9 @@ public:
     void setHTMLConfig(std::shared_ptr<HTMLConfigInfo> value) { iHTMLConfig = std::move(value); }
 
 protected:
+    // Whether the book's folder is a book's already, so that what lies in "files" is that book's.
+    bool hasEarlierBook() const;
+
     void forgetLastRun();
     bool isCancelled() const { return iIsCancelled && iIsCancelled(); }
     // Ends the run under way without a change to the folder when it was cancelled.

@@ -1,5 +1,6 @@
 #include "output/FolveroOutputApp.h"
 
+#include "output/ForeignFiles.h"
 #include "output/StagingFolder.h"
 #include "platform/Bundle.h"
 #include "platform/Files.h"
@@ -100,6 +101,13 @@ void FolveroOutputApp::ouputTheBook() {
         return;
     if (!exchange(working, bundle))
         reportFailure(lastErrorAt(bundle));
+}
+
+QStringList FolveroOutputApp::foreignFiles() const {
+    const QString bundle = outputFileName();
+    if (!ForeignFiles::isThere(bundle) || hasEarlierBook())
+        return {};
+    return {bundle};
 }
 
 void FolveroOutputApp::publishInto(const QString& bundle) {

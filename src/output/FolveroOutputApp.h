@@ -16,6 +16,8 @@ public:
 
     // Makes the folder when it is missing.
     void ouputTheBook() override;
+    // The bundle, unless it is that of a book.
+    QStringList foreignFiles() const override;
 
     QString outputHTMLFileName() const override;
     // Path of the bundle.

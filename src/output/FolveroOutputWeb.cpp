@@ -1,6 +1,7 @@
 #include "output/FolveroOutputWeb.h"
 
 #include "annotations/FlashOutlinePDF.h"
+#include "output/ForeignFiles.h"
 #include "output/OfflineFiles.h"
 #include "output/PlainTextPage.h"
 #include "output/SingleFilePage.h"
@@ -116,6 +117,18 @@ void FolveroOutputWeb::ouputTheBook() {
     describeBook();
     iFlashPageSource = sourceOfWebPages();
     FolveroOutput::ouputTheBook();
+}
+
+QStringList FolveroOutputWeb::foreignFiles() const {
+    if (iIsSingleFile)
+        return ForeignFiles::page(outputHTMLFileName());
+    QStringList found = FolveroOutput::foreignFiles();
+    const QString text = Files::join(iSaveToFolder, PlainTextPage::fileName);
+    if (ForeignFiles::isThere(text) && !PlainTextPage::isOne(text))
+        found << text;
+    if (!hasEarlierBook())
+        found << ForeignFiles::ofWebBook(Files::join(iSaveToFolder, iResourceFolder));
+    return found;
 }
 
 // The page tells what the document says of itself.

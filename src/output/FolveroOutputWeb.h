@@ -35,6 +35,7 @@ public:
     }
 
     void ouputTheBook() override;
+    QStringList foreignFiles() const override;
 
     QString getThumbPageURL(const FlashPage& page) const override;
 

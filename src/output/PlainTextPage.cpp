@@ -1,14 +1,21 @@
 #include "output/PlainTextPage.h"
 
 #include "output/WebBookFacts.h"
+#include "platform/Files.h"
 
+#include <QFileInfo>
 #include <QUrl>
 
 namespace {
 
+// Begins the style of every such page, and tells it from pages that others wrote: it stays as it
+// is.
+constexpr char styleStart[] = "\">\n<style>body{max-width:42em;margin:2em auto;padding:0 1em;";
+
 constexpr char style[] =
-    "body{max-width:42em;margin:2em auto;padding:0 1em;font:17px/1.6 Georgia,serif;color:#222;"
-    "background:#fff}h1{font-size:1.7em;line-height:1.25}h2{font:600 .85em/1 system-ui,sans-serif;"
+    "font:17px/1.6 "
+    "Georgia,serif;color:#222;background:#fff}h1{font-size:1.7em;line-height:1.25}h2{font:600 "
+    ".85em/1 system-ui,sans-serif;"
     "color:#666;margin:2.5em 0 1em;border-top:1px solid #ddd;padding-top:1em}"
     "p{white-space:pre-line}a{color:#1d5a86}"
     "@media(prefers-color-scheme:dark){body{background:#16181b;color:#ddd}a{color:#8cc2ea}"
@@ -20,6 +27,10 @@ QByteArray escaped(const QString& text) {
 
 } // namespace
 
+bool PlainTextPage::isOne(const QString& file) {
+    return QFileInfo(file).isFile() && Files::contents(file).contains(styleStart);
+}
+
 PlainTextPage::PlainTextPage(const WebBookFacts& facts, const QString& book) : iFacts(facts) {
     const QByteArray address = QUrl::toPercentEncoding(book);
     const QByteArray language =
@@ -28,7 +39,7 @@ PlainTextPage::PlainTextPage(const WebBookFacts& facts, const QString& book) : i
             "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(facts.title) +
             "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<link rel=\"canonical\" href=\"" +
-            address + "\">\n<style>" + style + "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" +
+            address + styleStart + style + "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" +
             address + "\">" + escaped(facts.title) + "</a></h1>\n";
     if (!facts.author.isEmpty())
         iHTML += "<p>" + escaped(facts.author) + "</p>\n";

@@ -12,6 +12,9 @@ public:
     // In the book's folder.
     static inline const QString fileName = QStringLiteral("text.html");
 
+    // Whether a file is such a page of any book, of whatever version.
+    static bool isOne(const QString& file);
+
     // book is the address of the book's page, relative to this one.
     PlainTextPage(const WebBookFacts& facts, const QString& book);
 

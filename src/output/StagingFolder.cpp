@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -16,8 +17,18 @@ namespace {
 
 const QString prefix = QStringLiteral(".folvero-publish-");
 
-// By its number alone, which another process may have got since.
-bool isGone(pid_t process) {
+Descriptor opened(const QString& folder) {
+    return Descriptor(
+        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+QStringList namesIn(const QString& folder) {
+    return QDir(folder).entryList({prefix + u'*'}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+}
+
+// By the number of its process alone, which another one may have got since.
+bool isOfGoneProcess(const QString& name) {
+    const pid_t process = name.mid(prefix.size()).section(u'-', 0, 0).toInt();
     return process > 0 && ::kill(process, 0) != 0 && errno == ESRCH;
 }
 
@@ -32,16 +43,22 @@ void StagingFolder::remove(const QString& path) {
     ClaimedFolder::remove(path);
 }
 
+bool StagingFolder::hasStale(const QString& inFolder) {
+    const Descriptor folder = opened(inFolder);
+    const QStringList names = folder.isOpen() ? namesIn(inFolder) : QStringList();
+    return std::any_of(names.begin(), names.end(), [&folder](const QString& name) {
+        return isOfGoneProcess(name) &&
+               !ClaimedFolder::isClaimed(folder.number(), QFile::encodeName(name));
+    });
+}
+
 void StagingFolder::removeStale(const QString& inFolder) {
-    const Descriptor folder(
-        ::open(QFile::encodeName(inFolder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor folder = opened(inFolder);
     if (!folder.isOpen())
         return;
-    const auto names =
-        QDir(inFolder).entryList({prefix + u'*'}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
-    for (const QString& name : names) {
+    for (const QString& name : namesIn(inFolder)) {
         const QByteArray entry = QFile::encodeName(name);
-        if (!isGone(name.mid(prefix.size()).section(u'-', 0, 0).toInt()))
+        if (!isOfGoneProcess(name))
             ClaimedFolder::removeIfAbandoned(folder.number(), entry, std::nullopt);
         else if (!ClaimedFolder::isClaimed(folder.number(), entry))
             FolderRemoval::removeEntry(folder.number(), entry);

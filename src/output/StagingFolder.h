@@ -12,6 +12,9 @@ QString make(const QString& inFolder);
 // Removes one with what is in it.
 void remove(const QString& path);
 
+// Whether one is there whose process is gone: it was killed while it changed the folder.
+bool hasStale(const QString& inFolder);
+
 // Removes those of processes that are gone.
 void removeStale(const QString& inFolder);
 

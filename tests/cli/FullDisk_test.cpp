@@ -104,9 +104,9 @@ TEST(FileInPlaceOfAFolder, LeavesTheEarlierBookWhole) {
     TestFiles::write(folder.filePath(QStringLiteral("files/page")), "mine");
     TestFiles::write(folder.filePath(QStringLiteral("index.html")), "mine");
     const auto before = BookReader::contentsBeneath(folder.path());
-    const auto result =
-        Program::run({QStringLiteral("publish"), QStringLiteral("--quiet"),
-                      Program::sample(QStringLiteral("outline.pdf")), folder.path()});
+    const auto result = Program::run(
+        {QStringLiteral("publish"), QStringLiteral("--quiet"), QStringLiteral("--force"),
+         Program::sample(QStringLiteral("outline.pdf")), folder.path()});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(result.errors.contains("/files/page: File exists")) << result.errors.constData();
     EXPECT_EQ(BookReader::contentsBeneath(folder.path()), before);

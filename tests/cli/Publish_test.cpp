@@ -213,3 +213,58 @@ TEST_F(PublishTest, ReadsSettingsFilesOfAnyKind) {
         EXPECT_TRUE(xml.contains(item.colour)) << xml.constData();
     }
 }
+
+TEST_F(PublishTest, ReplacesFilesThatAreNoBooksWithForceOnly) {
+    const auto text = [](const char* latin1) { return QString::fromLatin1(latin1); };
+    const QStringList web{text("--type=web")};
+    const QStringList single{text("--type=web"), text("--single-file")};
+    const QStringList app{text("--type=app"), text("--name=index")};
+    const struct {
+        const char* foreign;
+        QStringList options;
+        bool isReplaced;
+    } cases[] = {
+        {"index.html", {}, true},
+        {"index.html", {text("--name=other")}, false},
+        {"index.html", web, true},
+        {"index.html", single, true},
+        {"book.swf", {}, true},
+        {"book.swf", single, false},
+        {"files/page/1.jpg", {}, true},
+        {"files/page/photo.jpg", {}, false},
+        {"files/extfiles/mainbgImgUrl.jpg", {}, true},
+        {"files/web.js", {}, false},
+        {"files/web.js", web, true},
+        {"files/text/1.js", web, true},
+        {"text.html", {}, false},
+        {"text.html", web, true},
+        {"sw.js", web, false},
+        {"index.app", app, true},
+        {"index.app/Contents/Resources/index.html", app, true},
+    };
+    for (const auto& [foreign, options, isReplaced] : cases) {
+        SCOPED_TRACE(foreign + options.join(u' ').toStdString());
+        QDir(folder()).removeRecursively();
+        TestFiles::write(file(text(foreign)), "mine");
+        const auto before = BookReader::contentsBeneath(folder());
+        const auto again = [&, &with = options](const QStringList& more = {}) {
+            return publish(text("outline.pdf"), with + QStringList{text("--pages=1")} + more);
+        };
+        if (isReplaced) {
+            const auto refused = again();
+            EXPECT_EQ(refused.exitCode, 1);
+            EXPECT_TRUE(
+                refused.errors.contains("folvero: " + file(text(foreign)).toUtf8() + ": ") ||
+                options == app)
+                << refused.errors.constData();
+            EXPECT_EQ(BookReader::contentsBeneath(folder()), before);
+            EXPECT_EQ(again({text("--force")}).exitCode, 0);
+        }
+        EXPECT_EQ(again().exitCode, 0);
+        EXPECT_EQ(again().exitCode, 0); // over a book of ours
+        const auto mine = before.begin();
+        EXPECT_EQ(QFileInfo::exists(file(mine->first)) &&
+                      TestFiles::read(file(mine->first)) == mine->second,
+                  !isReplaced);
+    }
+}

@@ -316,4 +316,16 @@ TEST(FolveroOutput, TakesAnyBaseOfSettingsFilesForTheCurrentFolder) {
               QStringList{text("current/files/extfiles/key.png")});
 }
 
+TEST(FolveroOutput, TellsTheTitleOfTheBookThatItWouldReplace) {
+    PublishedBook book;
+    book.library.addFile(text("AppFiles/Templates/float/index.html"),
+                         "<head><title>${index.title}</title>\n"
+                         "<meta name=\"generator\" content=\"Folvero\"></head>");
+    EXPECT_TRUE(book.publisher()->titleOfEarlierBook().isNull());
+    book.HTMLConfig->setHTMLTitle(text("<A & \"B\" &lt;>").toHtmlEscaped());
+    book.publish();
+    EXPECT_EQ(book.publisher()->titleOfEarlierBook(), text("<A & \"B\" &lt;>"));
+    EXPECT_EQ(book.publisher(text("other.html"))->titleOfEarlierBook(), text("<A & \"B\" &lt;>"));
+}
+
 } // namespace
