@@ -5,8 +5,9 @@
 #include <QDir>
 
 QStringList FolderList::foldersBeneath(const QString& folder) {
+    // With QDir::System pipes, sockets and links that lead nowhere would be among them.
     constexpr auto foldersOnly =
-        QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System | QDir::NoSymLinks;
+        QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks;
     QStringList found;
     QStringList pending{folder};
     while (!pending.isEmpty()) {

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QThread>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -78,6 +79,9 @@ TEST(MirelUtility, ListsFoldersBeforeTheirContents) {
     base.mkpath(QStringLiteral("w/.z"));
     TestFiles::write(base.filePath(QStringLiteral("x/file")), "x");
     QFile::link(folder.path(), base.filePath(QStringLiteral("x/link")));
+    QFile::link(QStringLiteral("nowhere"), base.filePath(QStringLiteral("dangling")));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(base.filePath(QStringLiteral("pipe"))).constData(), 0600),
+              0);
     EXPECT_EQ(
         MirelUtility::subFolderOfFolder(folder.path()),
         QStringList({base.filePath(QStringLiteral("w")), base.filePath(QStringLiteral("w/.z")),
