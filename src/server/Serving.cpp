@@ -3,6 +3,8 @@
 #include "cli/CommandError.h"
 #include "cli/Interrupt.h"
 #include "cli/Terminal.h"
+#include "output/EarlierBook.h"
+#include "output/PlainTextPage.h"
 #include "platform/Files.h"
 #include "platform/Message.h"
 #include "server/BookServer.h"
@@ -22,6 +24,14 @@ using namespace std::chrono_literals;
 constexpr int firstPort = 8000;
 constexpr int lastPort = 8020;
 
+// Of a folder without a page that shows itself as a book's; null for none.
+QString anyPageOf(const QString& folder) {
+    QStringList pages = QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
+    pages.removeIf(
+        [&](const QString& name) { return PlainTextPage::isOne(Files::join(folder, name)); });
+    return pages.contains(u"index.html") ? QStringLiteral("index.html") : pages.value(0);
+}
+
 // What follows the slash of the book's address: nothing for "index.html".
 QString pageOf(const QString& folder) {
     if (folder.isEmpty())
@@ -35,13 +45,11 @@ QString pageOf(const QString& folder) {
         throw CommandError(QStringLiteral("%1: the folder can't be read (%2)")
                                .arg(folder, Message::ofLastSystemError().english()));
     }
-    if (QFileInfo(Files::join(folder, QStringLiteral("index.html"))).isFile())
-        return {};
-    const QStringList pages =
-        QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
-    if (pages.isEmpty())
+    const QStringList books = EarlierBook::pages(folder);
+    const QString page = books.isEmpty() ? anyPageOf(folder) : books.front();
+    if (page.isNull())
         throw CommandError(QStringLiteral("%1: no book in it (there is no HTML page)").arg(folder));
-    return QString::fromLatin1(QUrl::toPercentEncoding(pages.front()));
+    return page == u"index.html" ? QString() : QString::fromLatin1(QUrl::toPercentEncoding(page));
 }
 
 void takePort(BookServer& server, std::optional<int> wanted) {

@@ -118,6 +118,18 @@ TEST_F(ServeTest, HandsOutAPublishedBookByteForByteAndManyFilesAtOnce) {
     EXPECT_TRUE(served.get(served.page() + "?reader=1").body.contains("<title>"));
 }
 
+TEST_F(ServeTest, OpensTheBooksPageAmongOthers) {
+    ASSERT_EQ(
+        Program::run({QStringLiteral("publish"), Program::sample(QStringLiteral("outline.pdf")),
+                      folder(), QStringLiteral("--name=zebra"), QStringLiteral("--type=web"),
+                      QStringLiteral("--force")})
+            .exitCode,
+        0);
+    EXPECT_EQ(Served(folder()).page(), "/zebra.html");
+    ASSERT_TRUE(QFile::remove(folder() + QStringLiteral("/index.html")));
+    EXPECT_EQ(Served(folder()).page(), "/zebra.html"); // and not text.html
+}
+
 TEST_F(ServeTest, TellsWhatKindOfFileItIs) {
     const std::pair<const char*, const char*> types[] = {
         {"a.html", "text/html; charset=utf-8"},
