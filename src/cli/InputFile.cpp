@@ -13,7 +13,7 @@ auto opened(const QString& path, Opening opening) {
     try {
         return opening(path);
     } catch (const PlatformException& failure) {
-        throw CommandError(failure.reason());
+        throw CommandError(Messages{failure.message()});
     }
 }
 

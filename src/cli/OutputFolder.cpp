@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -22,6 +23,17 @@ void removeEmptyFolders(const QString& path, const QString& outermost) {
         if (!QDir().rmdir(folder))
             return;
     }
+}
+
+// A way that leads nowhere won't lead anywhere at the next try.
+Message lastError() {
+    const bool leadsNowhere = errno == ENOENT;
+    const Message error = Message::ofLastSystemError();
+    return leadsNowhere ? Message(error.english()) : error;
+}
+
+[[noreturn]] void fail(const Message& text, const QString& path, const Message& cause) {
+    throw CommandError(Messages{text.arg(path, cause)});
 }
 
 } // namespace
@@ -48,10 +60,8 @@ OutputFolder::~OutputFolder() {
 void OutputFolder::make(const QString& path) {
     for (QString folder = iPath; !QFileInfo::exists(folder); folder = QFileInfo(folder).path())
         iFirstMade = folder;
-    if (!iFirstMade.isNull() && !QDir().mkpath(iPath)) {
-        throw CommandError(QStringLiteral("%1: the output folder can't be made (%2)")
-                               .arg(path, Message::ofLastSystemError().english()));
-    }
+    if (!iFirstMade.isNull() && !QDir().mkpath(iPath))
+        fail(QStringLiteral("%1: the output folder can't be made (%2)"), path, lastError());
     if (!QFileInfo(iPath).isDir())
         throw CommandError(QStringLiteral("%1: is a file, not a folder").arg(path));
 }
@@ -61,16 +71,32 @@ void OutputFolder::lock(const QString& path) {
     // Some network folders know no locks; two books at once are then up to the user.
     if (iLock >= 0 && ::flock(iLock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         throw CommandError(
-            QStringLiteral("%1: another folvero is making a book in this folder").arg(path));
+            QStringLiteral("%1: another folvero is making a book in this folder").arg(path),
+            ExitCode::tryAgain);
     }
 }
 
 void OutputFolder::tryToWrite(const QString& path) const {
     QTemporaryFile probe(iPath + QStringLiteral("/.folvero-XXXXXX"));
-    if (!probe.open()) {
-        throw CommandError(QStringLiteral("%1: the output folder can't be written (%2)")
-                               .arg(path, probe.errorString()));
-    }
+    errno = 0;
+    if (!probe.open())
+        fail(QStringLiteral("%1: the output folder can't be written (%2)"), path,
+             errno ? lastError() : Message(probe.errorString()));
+}
+
+void OutputFolder::checkPresence() const {
+    struct stat made {};
+    struct stat there {};
+    const bool isThere = ::stat(QFile::encodeName(iPath).constData(), &there) == 0;
+    // Folders that can be written but not read have no descriptor.
+    const bool isSame =
+        ::fstat(iLock, &made) != 0 || (made.st_dev == there.st_dev && made.st_ino == there.st_ino);
+    if (!isThere || !isSame)
+        throw CommandError(
+            QStringLiteral(
+                "%1: the output folder is gone, or another one has its name; no book was made")
+                .arg(iPath),
+            ExitCode::tryAgain);
 }
 
 void OutputFolder::giveUp() {

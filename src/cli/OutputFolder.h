@@ -15,6 +15,9 @@ public:
 
     const QString& path() const { return iPath; }
     void keep() { iKept = true; }
+    // Throws CommandError when the folder is gone, or another one lies in its place: a share or a
+    // memory stick was taken away, say.
+    void checkPresence() const;
 
 private:
     void make(const QString& path);

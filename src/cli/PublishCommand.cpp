@@ -100,9 +100,9 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
     const auto source = std::dynamic_pointer_cast<FlashPageSourcePDF>(operation.flashPageSource());
     if (!source || !source->hasDrawnPages()) {
-        const QStringList failures = englishTexts(operation.failures());
-        throw CommandError(failures.isEmpty() ? QStringLiteral("the pages could not be drawn")
-                                              : failures.join(u'\n'));
+        if (operation.failures().isEmpty())
+            throw CommandError(QStringLiteral("the pages could not be drawn"));
+        throw CommandError(operation.failures());
     }
     for (const Message& failure : operation.failures())
         Terminal::note(QStringLiteral("folvero: %1").arg(failure.english()));
@@ -157,16 +157,23 @@ void refuseToReplace(const QStringList& foreignFiles) {
         QStringLiteral("\nChoose another folder or --name, or overwrite with --force"));
 }
 
-void writeBook(FolveroOutput& output, const QString& title) {
+void writeBook(FolveroOutput& output, const QString& title, const OutputFolder& folder) {
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(title.toHtmlEscaped());
     output.setHTMLConfig(html);
     output.setCancelled(Interrupt::wasRequested);
+    // Publishers do nothing without their folder, or make it anew.
+    folder.checkPresence();
     output.ouputTheBook();
     if (output.wasCancelled())
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
+    folder.checkPresence();
     if (!output.publishErrors().isEmpty())
-        throw CommandError(output.publishErrors().join(u'\n'));
+        throw CommandError(output.publishMessages());
+    if (!QFileInfo::exists(output.outputFileName()))
+        throw CommandError(
+            QStringLiteral("%1: is not there; no book was made").arg(output.outputFileName()),
+            ExitCode::tryAgain);
 }
 
 // What a web book came to.
@@ -254,7 +261,7 @@ MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullpt
     if (files && files->haveChanged())
         throw CommandError(
             QStringLiteral("%1, or the settings file, changed while it was read").arg(options.pdf));
-    writeBook(*output, title);
+    writeBook(*output, title, folder);
     folder.keep();
     timing.published();
     if (!options.timingFile.isNull())

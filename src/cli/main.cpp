@@ -248,7 +248,8 @@ int run(int argc, char** argv) {
         },
         "Tell in detail what is done, on standard error");
     app.footer("Exit codes: 0 done, 1 nothing was made, 2 command line not understood, 3 the book "
-               "was made\nbut pages are missing from it, 130 cancelled.");
+               "was made\nbut pages are missing from it, 75 nothing was made but trying again may "
+               "help, 130 cancelled.");
     addPublish(app, line);
     addTemplates(app, line);
     addInfo(app, line);

@@ -112,7 +112,11 @@ QStringList FolveroOutputApp::foreignFiles() const {
 
 void FolveroOutputApp::publishInto(const QString& bundle) {
     const QString contents = Files::join(bundle, QStringLiteral("Contents"));
-    QDir().mkpath(bundle);
+    // Not the folders around it, which may have been taken away with a memory stick.
+    if (!QDir().mkdir(bundle)) {
+        reportFailure(lastErrorAt(bundle));
+        return;
+    }
     copyShell(contents);
     const QString final = iSaveToFolder;
     const auto end = qScopeGuard([&] { iSaveToFolder = final; });

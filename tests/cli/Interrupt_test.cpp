@@ -134,7 +134,7 @@ TEST_F(InterruptTest, MakesOneBookAtATimeInAFolder) {
     start(first);
     const auto second = Program::run(
         {QStringLiteral("publish"), Program::sample(QStringLiteral("outline.pdf")), folder()});
-    EXPECT_EQ(second.exitCode, 1);
+    EXPECT_EQ(second.exitCode, 75);
     EXPECT_TRUE(second.errors.contains("another folvero")) << second.errors.constData();
     ::kill(pid_t(first.processId()), SIGINT);
     EXPECT_EQ(Program::finish(first).exitCode, 130);
@@ -147,4 +147,14 @@ TEST_F(InterruptTest, GoesOnWhenNobodyReadsItsProgress) {
          Program::path(), Program::sample(QStringLiteral("outline.pdf")), folder()});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_TRUE(QFileInfo::exists(folder() + QStringLiteral("/index.html")));
+}
+
+TEST_F(InterruptTest, FailsWhenItsFolderIsTakenAwayMeanwhile) {
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(QDir(folder()).removeRecursively());
+    const auto result = Program::finish(process);
+    EXPECT_EQ(result.exitCode, 75);
+    EXPECT_TRUE(result.output.isEmpty());
+    EXPECT_TRUE(result.errors.contains(folder().toUtf8() + ": the output folder is gone"));
 }
