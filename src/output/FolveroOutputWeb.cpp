@@ -97,10 +97,8 @@ void FolveroOutputWeb::ouputTheBook() {
     iWebPages->setProgress(iProgress);
     iWebPages->setWanted(
         [this](int number) { return !iOpenPages || isWithin(*iOpenPages, number); });
-    if (!iWebPages->make()) {
-        noteCancelled();
+    if (!makePages())
         return;
-    }
     for (const WebPage& page : iWebPages->pages()) {
         if (!page.failure.isNull())
             iPoorPages.emplace_back(page.number, page.failure);
@@ -117,6 +115,17 @@ void FolveroOutputWeb::ouputTheBook() {
     describeBook();
     iFlashPageSource = sourceOfWebPages();
     FolveroOutput::ouputTheBook();
+}
+
+bool FolveroOutputWeb::makePages() {
+    try {
+        if (iWebPages->make())
+            return true;
+        noteCancelled();
+    } catch (const PlatformException& failure) {
+        reportFailure(failure.message());
+    }
+    return false;
 }
 
 QStringList FolveroOutputWeb::foreignFiles() const {

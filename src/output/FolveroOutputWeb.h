@@ -54,6 +54,7 @@ protected:
     void finishHTMLPage(const QString& file) override;
 
 private:
+    bool makePages();
     void readFacts();
     void describeBook();
     void readDocumentFacts(const PDFDocument& document);

@@ -68,6 +68,8 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
     iTiming.draw += result.timing.draw;
     iTiming.encode += result.timing.encode;
     iTiming.write += result.timing.write;
+    if (result.isUnwritten)
+        throw PlatformException(QStringLiteral("WorkFolderFailed"), result.error);
     if (!result.error.isNull())
         iFailedPages.push_back({page, result.error});
 }
@@ -82,7 +84,7 @@ PageResult PDFToSWFPageConverter::drawHere(int page) {
                 iPDFRep->make(page, workFile(page, "jpg"), {iStop, EngineLimits::maxPageTime})};
     } catch (const PlatformException& failure) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
-        return {failure.message(), {}};
+        return {failure.message(), {}, failure.name() == QStringLiteral("PageWriteFailed")};
     } catch (const std::exception& failure) {
         return {QString::fromUtf8(failure.what()), {}};
     }

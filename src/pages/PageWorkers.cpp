@@ -191,8 +191,9 @@ void PageWorkers::takeFirstLine(Worker& worker, const QByteArray& line) {
     iEndedUnready = 0;
 }
 
-// An answer is "ok DRAW ENCODE WRITE" in seconds, or "fail REASON", for
-// the first page asked for.
+// An answer is "ok DRAW ENCODE WRITE" in seconds, "fail REASON", or, when its files can't be
+// written, "full REASON" or "unwritable REASON", for the first page asked for. A full disk may have
+// room later.
 void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
     if (!worker.ready) {
         takeFirstLine(worker, line);
@@ -202,10 +203,13 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
         return;
     PageResult result;
     const auto fields = line.split(' ');
-    if (fields[0] == "ok" && fields.size() == 4)
+    if (fields[0] == "ok" && fields.size() == 4) {
         result.timing = {fields[1].toDouble(), fields[2].toDouble(), fields[3].toDouble()};
-    else
-        result.error = reasonFrom(line.mid(5));
+    } else {
+        const Message reason = reasonFrom(line.mid(fields[0].size() + 1));
+        result.error = fields[0] == "full" ? reason.temporary() : reason;
+        result.isUnwritten = fields[0] == "full" || fields[0] == "unwritable";
+    }
     iResults[worker.pages.front()] = std::move(result);
     worker.pages.pop_front();
     worker.since = std::chrono::steady_clock::now();

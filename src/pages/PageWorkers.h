@@ -20,6 +20,7 @@
 struct PageResult {
     Message error; // null when the page file was written
     PageTiming timing;
+    bool isUnwritten = false; // the work folder can't take it; no fault of the page's
 };
 
 // Draws pages of one PDF ahead of the walk that collects them, on processes of our own: one per

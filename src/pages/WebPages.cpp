@@ -65,6 +65,8 @@ bool WebPages::drawMissing() {
             return false;
         if (!result)
             return true;
+        if (result->isUnwritten)
+            throw PlatformException(QStringLiteral("WorkFolderFailed"), result->error);
         *page = pageFrom(number, page->pageFile);
         page->failure = result->error;
         iProgress(++done, int(missing.size()));

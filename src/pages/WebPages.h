@@ -37,7 +37,8 @@ public:
     // Pages that are not wanted are not drawn again.
     void setWanted(std::function<bool(int number)> isWanted) { iIsWanted = std::move(isWanted); }
 
-    // Makes what is not there yet. False when it was cancelled.
+    // Makes what is not there yet. False when it was cancelled. Throws PlatformException when the
+    // work folder can't take it.
     bool make();
 
     // In the order of the book.

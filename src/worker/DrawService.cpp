@@ -20,10 +20,17 @@
 
 namespace {
 
-void answerFailure(const QString& reason) {
+void answerFailure(const QString& reason, const char* kind = "fail") {
     QString line = reason;
     line.replace(u'\n', u' ');
-    std::cout << "fail " << line.toStdString() << std::endl;
+    std::cout << kind << ' ' << line.toStdString() << std::endl;
+}
+
+// No page is to blame for a disk.
+const char* kindOf(const PlatformException& failure) {
+    if (failure.name() != QStringLiteral("PageWriteFailed"))
+        return "fail";
+    return failure.message().isTemporary() ? "full" : "unwritable";
 }
 
 using Making = std::function<PageTiming(int page, const DrawControl& control)>;
@@ -52,7 +59,7 @@ void servePages(const Making& make) {
             std::cout << "ok " << timing.draw << ' ' << timing.encode << ' ' << timing.write
                       << std::endl;
         } catch (const PlatformException& failure) {
-            answerFailure(failure.reason());
+            answerFailure(failure.reason(), kindOf(failure));
         } catch (const std::bad_alloc&) {
             answerFailure(QStringLiteral("it takes more memory than a page may have"));
         } catch (const std::exception& failure) {
