@@ -687,6 +687,10 @@
         <source>is protected by a password</source>
         <translation>ist durch ein Passwort geschützt</translation>
     </message>
+    <message>
+        <source>the file was changed after reading it had begun</source>
+        <translation>die Datei wurde seit dem Beginn des Lesens geändert</translation>
+    </message>
 </context>
 <context>
     <name>PDFReader</name>

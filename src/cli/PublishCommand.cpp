@@ -219,8 +219,7 @@ struct MadeBook {
     QString missingPages; // null when none are
 };
 
-// files: those that are read, when they may change meanwhile; none otherwise.
-MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullptr) {
+MadeBook makeBook(const PublishOptions& options) {
     PublishTiming timing;
     bookName(options); // a wrong name shows before an hour of drawing
     WebBookChoice::check(options);
@@ -257,10 +256,6 @@ MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullpt
         web->setTitle(title);
         web->setOpenPages(openPages);
     }
-    // Half a document, or two editions of it, is no book to replace a good one with.
-    if (files && files->haveChanged())
-        throw CommandError(
-            QStringLiteral("%1, or the settings file, changed while it was read").arg(options.pdf));
     writeBook(*output, title, folder);
     folder.keep();
     timing.published();
@@ -274,11 +269,11 @@ MadeBook makeBook(const PublishOptions& options, const FileWatch* files = nullpt
 }
 
 // With a single line of what came of it. Whatever goes wrong now costs this one time only.
-void makeBookAgain(PublishOptions options, const FileWatch& files) {
+void makeBookAgain(PublishOptions options) {
     options.quiet = true;
     QString trouble;
     try {
-        const MadeBook made = makeBook(options, &files);
+        const MadeBook made = makeBook(options);
         const auto& [written, unchanged, removed] = made.counts;
         QString line = QStringLiteral("%1 %2: %3 files written, %4 unchanged")
                            .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
@@ -303,7 +298,7 @@ void watchAndMakeAgain(const PublishOptions& options, FileWatch& files) {
     Terminal::note(QStringLiteral("Waiting for changes; Ctrl-C ends it"));
     while (files.waitForChange(Interrupt::wasRequested)) {
         files.remember();
-        makeBookAgain(options, files);
+        makeBookAgain(options);
     }
 }
 

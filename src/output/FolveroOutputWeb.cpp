@@ -128,6 +128,18 @@ bool FolveroOutputWeb::makePages() {
     return false;
 }
 
+// The pages' pictures may have come long before their texts and links.
+void FolveroOutputWeb::checkDocumentUnchanged() const {
+    const auto document = iWebPages->document();
+    if (!document)
+        return;
+    try {
+        document->checkUnchanged();
+    } catch (const PlatformException& failure) {
+        PublishTransaction::fail(document->path(), failure.message());
+    }
+}
+
 QStringList FolveroOutputWeb::foreignFiles() const {
     if (iIsSingleFile)
         return ForeignFiles::page(outputHTMLFileName());
@@ -342,6 +354,7 @@ void FolveroOutputWeb::writePages() {
     }
     if (document)
         document->rest();
+    checkDocumentUnchanged();
     writeScript(QStringLiteral("search/text"), WebScript::json(search));
     writeScript(QStringLiteral("web/book"), WebScript::json(iFacts.forPlayer(iFlashOutline.get())));
     transaction().write(Files::join(iSaveToFolder, PlainTextPage::fileName), plain.html(),

@@ -55,6 +55,7 @@ protected:
 
 private:
     bool makePages();
+    void checkDocumentUnchanged() const;
     void readFacts();
     void describeBook();
     void readDocumentFacts(const PDFDocument& document);

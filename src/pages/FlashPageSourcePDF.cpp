@@ -48,6 +48,8 @@ void FlashPageSourcePDF::generatePages() {
         auto page = std::make_shared<FlashPage>();
         page->setPageIndex(number);
         page->setPageFilePath(iToPageConverter->generatePage(number));
+        if (iPDFDoc)
+            iPDFDoc->checkUnchanged();
         iPages.push_back(std::move(page));
         postProgress(i, "geneatePage");
     }

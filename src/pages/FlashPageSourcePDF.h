@@ -34,7 +34,8 @@ public:
     void startDrawing();
 
     // Draws the pages in order. A page that can't be drawn is listed all the same, with a file that
-    // does not exist. Throws PlatformException for a page that the document lacks.
+    // does not exist. Throws PlatformException for a page that the document lacks, and when the
+    // work folder can't take a page or the file is changed meanwhile.
     void generatePages() override;
     void generateNormalPages() override;
 

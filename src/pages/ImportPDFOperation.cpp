@@ -85,6 +85,19 @@ void ImportPDFOperation::importStages() {
         importPageLinks(document);
     if (!isCancelled() && iImportBookmarks)
         importOutline(document);
+    if (!isCancelled() && document)
+        checkUnchanged(*document);
+}
+
+// Half a document, or two editions of it, is no book to replace a good one with.
+void ImportPDFOperation::checkUnchanged(const PDFDocument& document) {
+    try {
+        document.checkUnchanged();
+    } catch (const PlatformException& failure) {
+        operationLog().error(failure.reason());
+        iFailures = {aboutFile().arg(iPDFPath, failure.message())};
+        clearResults();
+    }
 }
 
 void ImportPDFOperation::importPages() {

@@ -43,7 +43,8 @@ public:
     // What the document calls itself, or an empty text.
     const QString& documentTitle() const { return iDocumentTitle; }
 
-    // What went wrong, in words for the user, one text per part that failed.
+    // What went wrong, in words for the user, one text per part that failed. There is no page
+    // source when the file was changed while it was read or the work folder is full.
     const Messages& failures() const { return iFailures; }
 
 private:
@@ -55,6 +56,7 @@ private:
     void noteThatNothingWasDrawn();
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);
+    void checkUnchanged(const PDFDocument& document);
 
     OpenedPDF iDocument;
     // Outlives the operation, as the document may.

@@ -247,13 +247,17 @@ PDFDocument::PDFDocument(QString path, std::unique_ptr<PDFReader> reader)
 PDFDocument::~PDFDocument() = default;
 
 std::shared_ptr<PDFDocument> PDFDocument::open(const QString& path, Access access) {
+    const FileState state = FileState::of(path);
     auto engine = std::make_unique<Engine>(path);
     engine->open(access);
-    return std::shared_ptr<PDFDocument>(new PDFDocument(std::move(engine)));
+    const std::shared_ptr<PDFDocument> document(new PDFDocument(std::move(engine)));
+    document->iState = state;
+    return document;
 }
 
 std::shared_ptr<PDFDocument> PDFDocument::openApart(const QString& path,
                                                     std::function<bool()> stopped) {
+    const FileState state = FileState::of(path);
     checkFile(path);
     auto reader = std::make_unique<PDFReader>(path, std::move(stopped));
     try {
@@ -264,7 +268,18 @@ std::shared_ptr<PDFDocument> PDFDocument::openApart(const QString& path,
             throw;
         failToOpen(path, failure.message());
     }
-    return std::shared_ptr<PDFDocument>(new PDFDocument(path, std::move(reader)));
+    const std::shared_ptr<PDFDocument> document(new PDFDocument(path, std::move(reader)));
+    document->iState = state;
+    return document;
+}
+
+void PDFDocument::checkUnchanged() const {
+    if (FileState::of(iPath) == iState)
+        return;
+    throw PlatformException(
+        QStringLiteral("PDFChanged"),
+        Message::translate("PDFDocument", "the file was changed after reading it had begun")
+            .temporary());
 }
 
 void PDFDocument::rest() const {

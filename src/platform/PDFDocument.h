@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/FileState.h"
 #include "platform/PDFPage.h"
 
 #include <QString>
@@ -43,6 +44,10 @@ public:
     PDFDocument& operator=(const PDFDocument&) = delete;
 
     QString path() const;
+    // Throws PlatformException "PDFChanged" when there is another file by now, or it was written
+    // since it was opened: what is read and drawn of it may be of two documents then. The reason is
+    // temporary, see Message.
+    void checkUnchanged() const;
     int pageCount() const;
 
     // The page at a zero-based index. It must not outlive the document. Throws PlatformException
@@ -71,6 +76,7 @@ private:
     PDFDocument(QString path, std::unique_ptr<PDFReader> reader);
 
     QString iPath;
+    FileState iState;                   // from before it was opened
     std::unique_ptr<Engine> iEngine;    // one of
     std::unique_ptr<PDFReader> iReader; // the two
 };

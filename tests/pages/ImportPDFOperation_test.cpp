@@ -1,9 +1,11 @@
 #include "pages/ImportPDFOperation.h"
 
+#include "output/FolveroOutputWeb.h"
 #include "platform/NotificationCenter.h"
 #include "support/PDFBuilder.h"
 #include "support/RecordedLog.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -25,21 +27,23 @@ protected:
         ASSERT_TRUE(builder.write(iPath));
     }
 
+    // Writes into the file, as a copy over it does.
+    void changeDocument() const {
+        QFile file(iPath);
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write("% changed\n");
+    }
+
     QTemporaryDir iFolder;
     QString iPath;
 };
 
-// Cancels the operation as soon as a page was drawn.
-class CancellingObserver {
-public:
-    explicit CancellingObserver(ImportPDFOperation& operation)
-        : iSubscription(NotificationCenter::defaultCenter().addObserver(
-              QString::fromUtf16(ImportProgressInfoMSG), nullptr,
-              [&operation](const Notification&) { operation.cancel(); })) {}
-
-private:
-    NotificationCenter::Subscription iSubscription;
-};
+// Does that as soon as a page was drawn.
+NotificationCenter::Subscription afterAPage(const std::function<void()>& action) {
+    return NotificationCenter::defaultCenter().addObserver(
+        QString::fromUtf16(ImportProgressInfoMSG), nullptr,
+        [action](const Notification&) { action(); });
+}
 
 } // namespace
 
@@ -99,9 +103,33 @@ TEST_F(ImportPDFOperationTest, EmptiesItsResultsWhenCancelled) {
     ImportPDFOperation underway(iPath, QStringLiteral("ALL"), 144, 100);
     underway.setImportLinks(true);
     underway.setImportBookmarks(true);
-    const CancellingObserver observer(underway);
+    const auto observer = afterAPage([&] { underway.cancel(); });
     underway.main();
     EXPECT_FALSE(underway.flashPageSource());
     EXPECT_FALSE(underway.flashPagesAnnotation());
     EXPECT_FALSE(underway.flashOutline());
+}
+
+TEST_F(ImportPDFOperationTest, GivesNoPagesOfADocumentThatIsChangedMeanwhile) {
+    const RecordedLog log(Log::Level::error);
+    ImportPDFOperation operation(iPath, QStringLiteral("ALL"), 144, 100);
+    const auto observer = afterAPage([this] { changeDocument(); });
+    operation.main();
+    EXPECT_FALSE(operation.flashPageSource());
+    ASSERT_EQ(operation.failures().size(), 1);
+    EXPECT_EQ(operation.failures()[0].english(),
+              iPath + QStringLiteral(": the file was changed after reading it had begun"));
+    EXPECT_TRUE(operation.failures()[0].isTemporary());
+}
+
+TEST_F(ImportPDFOperationTest, GivesNoWebBookOfADocumentThatIsChangedAfterwards) {
+    const RecordedLog log(Log::Level::error);
+    ImportPDFOperation operation(iPath, QStringLiteral("ALL"), 144, 100);
+    operation.main();
+    FolveroOutputWeb output(operation.flashPageSource(), nullptr, iFolder.path(), QString());
+    output.setProgress([this](int, int) { changeDocument(); });
+    output.ouputTheBook();
+    ASSERT_EQ(output.publishErrors().size(), 1);
+    EXPECT_TRUE(output.publishErrors()[0].startsWith(iPath + QStringLiteral(": the file was")));
+    EXPECT_TRUE(output.publishMessages()[0].isTemporary());
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <sys/types.h>
+#include <time.h>
+
+// Which file lies at a path, and when it was written: two states differ when the file was replaced,
+// written or taken away in between.
+struct FileState {
+    bool isThere = false;
+    dev_t device = 0;
+    ino_t number = 0;
+    off_t size = 0;
+    timespec written{};
+
+    static FileState of(const QString& path);
+
+    bool operator==(const FileState& other) const;
+};
