@@ -1,6 +1,7 @@
 #include "output/EarlierBook.h"
 
 #include "output/UserConfig.h"
+#include "output/WebScript.h"
 #include "platform/Files.h"
 #include "util/NSData+CommonCrypto.h"
 
@@ -19,6 +20,8 @@ constexpr qint64 mostBytes = 64 << 20;
 // Of a page: its title and the marker stand far before that, the pictures of a book in one file
 // behind.
 constexpr qint64 headBytes = 1 << 20;
+
+const QString webFacts = QStringLiteral("web/book.js");
 
 constexpr char marker[] = "<meta name=\"generator\" content=\"Folvero\">";
 
@@ -57,6 +60,12 @@ bool EarlierBook::isIn(const QString& filesFolder) {
     return loadConfiguration(filesFolder, document) && document.document_element().child("Ppts");
 }
 
+bool EarlierBook::isWebBookIn(const QString& filesFolder) {
+    const QString facts = Files::join(filesFolder, webFacts);
+    return isIn(filesFolder) && QFileInfo(facts).isFile() &&
+           Files::contents(facts).startsWith(WebScript::start(QStringLiteral("web/book")));
+}
+
 bool EarlierBook::isPage(const QString& file) {
     return !headOfPage(file).isNull();
 }
@@ -85,9 +94,8 @@ QStringList EarlierBook::files(const QString& filesFolder) {
         return {};
     static const QRegularExpression pageFile(
         QStringLiteral("\\Apage/([1-9][0-9]{0,8})\\.[A-Za-z0-9]{1,5}\\z"));
-    // What a web book has of all its pages, and its player.
-    QStringList names{QStringLiteral("search/text.js"), QStringLiteral("web/book.js"),
-                      QStringLiteral("web.js"), QStringLiteral("web.css")};
+    const bool isWebBook = isWebBookIn(filesFolder);
+    QStringList names;
     for (const auto page : document.document_element().child("Ppts").children("Ppt")) {
         const QString picture =
             QString::fromUtf8(page.child("Normal").child("ImgPath").text().get());
@@ -95,8 +103,14 @@ QStringList EarlierBook::files(const QString& filesFolder) {
         if (!match.hasMatch())
             continue;
         names << picture;
+        if (!isWebBook)
+            continue;
         for (const auto* kind : {"thumb/%1.webp", "large/%1.svg", "large/%1.webp", "text/%1.js"})
             names << QString::fromLatin1(kind).arg(match.captured(1));
     }
+    // What it has of all its pages, and its player; at the end what it is known by.
+    if (isWebBook)
+        names << QStringLiteral("search/text.js") << QStringLiteral("web.js")
+              << QStringLiteral("web.css") << webFacts;
     return names;
 }

@@ -7,10 +7,12 @@ namespace EarlierBook {
 
 // Whether the folder "files" holds the configuration of a book.
 bool isIn(const QString& filesFolder);
+// Whether it is that of a web book.
+bool isWebBookIn(const QString& filesFolder);
 
-// Paths, relative to the folder "files" of the book, of all files that its pages may have and of
-// what a web book has beyond. By the book's own configuration, so that nobody else's files are
-// among them; none when that can't be read.
+// Paths, relative to the folder "files" of the book, of all files that its pages may have and, for
+// a web book, of what it has beyond. By the book's own configuration, so that nobody else's files
+// are among them; none when that can't be read.
 QStringList files(const QString& filesFolder);
 
 // Whether a file is the HTML page of a book, that of a book in one file included. The page with the

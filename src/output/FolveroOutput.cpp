@@ -70,12 +70,15 @@ bool FolveroOutput::hasEarlierBook() const {
 
 QStringList FolveroOutput::foreignFiles() const {
     QStringList found = ForeignFiles::page(outputHTMLFileName());
-    if (hasEarlierBook())
-        return found;
-    if (ForeignFiles::isThere(outputSWFName()))
+    const QString files = Files::join(iSaveToFolder, iResourceFolder);
+    const bool hasBook = hasEarlierBook();
+    const bool hasMovie =
+        hasBook && (StagingFolder::hasStale(iSaveToFolder) || !EarlierBook::isWebBookIn(files));
+    if (!hasMovie && ForeignFiles::isThere(outputSWFName()))
         found << outputSWFName();
-    return found +
-           ForeignFiles::ofBook(Files::join(iSaveToFolder, iResourceFolder), iFlashTemplate.get());
+    if (!hasBook)
+        found << ForeignFiles::ofBook(files, iFlashTemplate.get());
+    return found;
 }
 
 QString FolveroOutput::titleOfEarlierBook() const {

@@ -1,10 +1,12 @@
 #include "output/FolveroOutputWeb.h"
 
 #include "annotations/FlashOutlinePDF.h"
+#include "output/EarlierBook.h"
 #include "output/ForeignFiles.h"
 #include "output/OfflineFiles.h"
 #include "output/PlainTextPage.h"
 #include "output/SingleFilePage.h"
+#include "output/StagingFolder.h"
 #include "output/WebPageText.h"
 #include "output/WebScript.h"
 #include "platform/Bundle.h"
@@ -147,8 +149,9 @@ QStringList FolveroOutputWeb::foreignFiles() const {
     const QString text = Files::join(iSaveToFolder, PlainTextPage::fileName);
     if (ForeignFiles::isThere(text) && !PlainTextPage::isOne(text))
         found << text;
-    if (!hasEarlierBook())
-        found << ForeignFiles::ofWebBook(Files::join(iSaveToFolder, iResourceFolder));
+    const QString files = Files::join(iSaveToFolder, iResourceFolder);
+    if (!EarlierBook::isWebBookIn(files) && !StagingFolder::hasStale(iSaveToFolder))
+        found << ForeignFiles::ofWebBook(files);
     return found;
 }
 

@@ -144,7 +144,8 @@ void OfflineFiles::removeOutdated(PublishTransaction& transaction, const QString
     for (const QString& name :
          {workerName, manifestName, listName, iconName, PlainTextPage::fileName}) {
         const QString path = Files::join(folder, name);
-        if (!transaction.writes(path))
+        const bool isForeign = name == PlainTextPage::fileName && !PlainTextPage::isOne(path);
+        if (!transaction.writes(path) && !isForeign)
             transaction.remove(path);
     }
 }

@@ -14,10 +14,6 @@ QByteArray harmless(QByteArray json) {
         .replace("\xe2\x80\xa9", "\\u2029");
 }
 
-QByteArray start(const QString& name) {
-    return "folveroData(\"" + name.toUtf8() + "\", ";
-}
-
 constexpr std::string_view end = ");\n";
 
 } // namespace
@@ -28,6 +24,10 @@ QByteArray WebScript::json(const QJsonArray& array) {
 
 QByteArray WebScript::json(const QJsonObject& object) {
     return harmless(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+QByteArray WebScript::start(const QString& name) {
+    return "folveroData(\"" + name.toUtf8() + "\", ";
 }
 
 QByteArray WebScript::file(const QString& name, const QByteArray& json) {

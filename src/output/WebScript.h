@@ -16,6 +16,9 @@ QByteArray json(const QJsonObject& object);
 // scripts from a disk but no other data.
 QByteArray file(const QString& name, const QByteArray& json);
 
+// How such a file begins.
+QByteArray start(const QString& name);
+
 // The JSON of such a file.
 QByteArray jsonIn(const QString& name, const QByteArray& script);
 

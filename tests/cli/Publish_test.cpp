@@ -234,6 +234,7 @@ TEST_F(PublishTest, ReplacesFilesThatAreNoBooksWithForceOnly) {
         {"files/page/photo.jpg", {}, false},
         {"files/extfiles/mainbgImgUrl.jpg", {}, true},
         {"files/web.js", {}, false},
+        {"files/thumb/1.webp", {}, false},
         {"files/web.js", web, true},
         {"files/text/1.js", web, true},
         {"text.html", {}, false},
@@ -263,8 +264,23 @@ TEST_F(PublishTest, ReplacesFilesThatAreNoBooksWithForceOnly) {
         EXPECT_EQ(again().exitCode, 0);
         EXPECT_EQ(again().exitCode, 0); // over a book of ours
         const auto mine = before.begin();
-        EXPECT_EQ(QFileInfo::exists(file(mine->first)) &&
+        EXPECT_EQ(QFileInfo(file(mine->first)).isFile() &&
                       TestFiles::read(file(mine->first)) == mine->second,
                   !isReplaced);
     }
+}
+
+TEST_F(PublishTest, KnowsWhatABookOfTheOtherKindLacks) {
+    const auto text = [](const char* latin1) { return QString::fromLatin1(latin1); };
+    const QStringList classic{text("--pages=1")};
+    const QStringList web{text("--pages=1"), text("--type=web")};
+    ASSERT_EQ(publish(text("outline.pdf"), classic).exitCode, 0);
+    TestFiles::write(file(text("files/web.js")), "mine");
+    EXPECT_EQ(publish(text("outline.pdf"), web).exitCode, 1);
+    ASSERT_EQ(publish(text("outline.pdf"), web + QStringList{text("--force")}).exitCode, 0);
+    TestFiles::write(file(text("book.swf")), "mine");
+    EXPECT_EQ(publish(text("outline.pdf"), web).exitCode, 1);
+    TestFiles::write(file(text("text.html")), "mine");
+    ASSERT_EQ(publish(text("outline.pdf"), classic + QStringList{text("--force")}).exitCode, 0);
+    EXPECT_EQ(TestFiles::read(file(text("text.html"))), "mine");
 }
