@@ -85,6 +85,20 @@ export class Book {
     return left ? (right ? 0 : half) : -half;
   }
 
+  /**
+   * Where the pages of a view lie in the window when they are not enlarged.
+   * @param {number} view
+   */
+  boxOf(view) {
+    const { spineX, bookTop, pageWidth, pageHeight } = this.layout;
+    const { left, right } = this.views.at(view);
+    const origin = spineX + this.shiftFor(view);
+    return {
+      left: origin - (left ? pageWidth : 0), right: origin + (right ? pageWidth : 0),
+      top: bookTop, bottom: bookTop + pageHeight,
+    };
+  }
+
   /** @param {number} shift CSS pixels */
   moveTo(shift) {
     this.shift = shift;
@@ -100,7 +114,7 @@ export class Book {
   #place() {
     const { level, x, y } = this.zoom;
     const { spineX, bookTop } = this.layout;
-    this.element.style.transform = level === 1 ? 'translateX(' + this.shift + 'px)'
+    this.element.style.transform = level === 1 && !x && !y ? 'translateX(' + this.shift + 'px)'
       : 'translate(' + ((level - 1) * spineX + level * this.shift + x) + 'px, '
         + ((level - 1) * bookTop + y) + 'px) scale(' + level + ')';
   }

@@ -11,6 +11,15 @@ const TAP_ZOOM = 2.5;
 const ZOOM_STEP = 1.5;
 const ZOOM_MS = 240;
 
+/** A level just above 1 would change how the book behaves and not how it looks: it is left only for a gesture's length. */
+const LEAST_ZOOM = 1.04;
+
+/** How far whole pages give way to fingers that make them smaller: the power of these that is left. */
+const GIVE = 0.3;
+
+/** Pause after which a wheel's gesture has ended, and pages are drawn sharply, in milliseconds. */
+const REST_MS = 200;
+
 /** Time in which a page that was thrown loses two thirds of its speed, in milliseconds. */
 const GLIDE_MS = 300;
 
@@ -31,6 +40,10 @@ export class Zoom {
     this.now = { level: 1, x: 0, y: 0 };
     /** @type {ZoomState} where the movement under way leads */
     this.goal = this.now;
+    /** @type {ZoomState | null} where the gesture under way has led to, whatever limits say */
+    this.free = null;
+    /** Whether fingers hold the pages, which then go where these go. */
+    this.held = false;
     /** Place of the book that is in the middle of the window, as shares of the shown pages. */
     this.middle = { x: 0.5, y: 0.5 };
     this.frame = 0;
@@ -45,7 +58,7 @@ export class Zoom {
   }
 
   get active() {
-    return this.goal.level > 1;
+    return this.held || this.goal.level > 1;
   }
 
   in() {
@@ -76,7 +89,38 @@ export class Zoom {
    * @param {number} factor
    */
   scaleAt(place, factor) {
-    this.#set(this.#about(place, this.now.level * factor));
+    this.#follow(place, place, factor);
+  }
+
+  /** Two fingers take hold of the pages, until release(). */
+  hold() {
+    if (!this.active) this.turner.settle();
+    this.#stop();
+    this.held = true;
+  }
+
+  /**
+   * The fingers that hold the pages have moved.
+   * @param {Point} from the place between them before
+   * @param {Point} to and now
+   * @param {number} factor by which they have moved apart
+   */
+  pinch(from, to, factor) {
+    this.#follow(from, to, factor);
+  }
+
+  /** One finger is left of two: it moves what is enlarged. */
+  loosen() {
+    if (this.held && this.now.level < LEAST_ZOOM) this.#settle();
+  }
+
+  /**
+   * The fingers have let go. The pages come back to where they may be, or glide on.
+   * @param {Point | null} speed CSS pixels a millisecond
+   */
+  release(speed) {
+    if (this.held && this.#settle()) return;
+    if (this.active && speed) this.#glide(speed);
   }
 
   /**
@@ -84,14 +128,46 @@ export class Zoom {
    * @param {number} dy
    */
   panBy(dx, dy) {
-    this.#set({ level: this.now.level, x: this.now.x + dx, y: this.now.y + dy });
+    if (this.held) this.#follow({ x: 0, y: 0 }, { x: dx, y: dy }, 1);
+    else this.#set(this.#limited({ level: this.now.level, x: this.now.x + dx, y: this.now.y + dy }));
   }
 
   /**
-   * Lets the page glide on after a finger has let go of it.
+   * What lies at one place of the window comes to lie at another. Steps add up however small they are, and the way back
+   * is the way there: the next one goes on from where the gesture has led to and not from what limits made of that.
+   * @param {Point} from
+   * @param {Point} to
+   * @param {number} factor
+   */
+  #follow(from, to, factor) {
+    const before = this.free ?? this.now;
+    const level = this.held ? stretched(before.level, factor)
+      : Math.min(MOST_ZOOM, Math.max(1, before.level * factor));
+    const ratio = level / before.level;
+    const free = { level, x: to.x - (from.x - before.x) * ratio, y: to.y - (from.y - before.y) * ratio };
+    this.#set(this.held ? free : this.#limited(free));
+    this.free = free;
+  }
+
+  /**
+   * Ends a gesture: pages that are hardly enlarged are shown whole, others where they may be.
+   * @returns {boolean} whether they must move for that
+   */
+  #settle() {
+    this.held = false;
+    this.free = null;
+    const { level, x, y } = this.now;
+    const goal = this.#limited({ level: level < LEAST_ZOOM ? 1 : level, x, y });
+    if (goal.level === level && Math.hypot(goal.x - x, goal.y - y) < 0.5) return false;
+    this.#glideTo(goal);
+    return true;
+  }
+
+  /**
+   * A thrown page glides on.
    * @param {Point} speed CSS pixels a millisecond
    */
-  glide(speed) {
+  #glide(speed) {
     const from = this.now;
     let start = 0;
     this.#animate((time) => {
@@ -119,8 +195,7 @@ export class Zoom {
    * @returns {ZoomState}
    */
   #about(place, wanted) {
-    // A level just above 1 would change how the book behaves and not how it looks.
-    const level = wanted < 1.04 ? 1 : Math.min(MOST_ZOOM, wanted);
+    const level = wanted < LEAST_ZOOM ? 1 : Math.min(MOST_ZOOM, wanted);
     const { now } = this;
     const ratio = level / now.level;
     return this.#limited({
@@ -134,8 +209,8 @@ export class Zoom {
    * @returns {ZoomState}
    */
   #limited({ level, x, y }) {
-    if (level === 1) return { level, x: 0, y: 0 };
-    const { left, top, right, bottom } = this.#pagesBox();
+    if (level <= 1) return { level, x: 0, y: 0 };
+    const { left, top, right, bottom } = this.book.boxOf(this.turner.current);
     const { root: { clientWidth, clientHeight }, beside } = this.book;
     return {
       level, x: heldInside(x, level, left, right, clientWidth, beside),
@@ -143,23 +218,11 @@ export class Zoom {
     };
   }
 
-  /** Where the standing pages lie in the window when they are not enlarged. */
-  #pagesBox() {
-    const { layout, views } = this.book;
-    const { left, right } = views.at(this.turner.current);
-    const origin = layout.spineX + this.book.shiftFor(this.turner.current);
-    return {
-      left: origin - (left ? layout.pageWidth : 0), right: origin + (right ? layout.pageWidth : 0),
-      top: layout.bookTop, bottom: layout.bookTop + layout.pageHeight,
-    };
-  }
-
   /** @param {ZoomState} state */
   #set(state) {
     this.#stop();
     this.#aim(state);
-    this.#apply(this.#limited(state));
-    this.goal = this.now;
+    this.#apply(state);
     this.#restSoon();
   }
 
@@ -193,7 +256,7 @@ export class Zoom {
   /** @param {ZoomState} state */
   #apply(state) {
     this.now = state;
-    const { left, top, right, bottom } = this.#pagesBox();
+    const { left, top, right, bottom } = this.book.boxOf(this.turner.current);
     const middle = this.#windowMiddle();
     this.middle = {
       x: ((middle.x - state.x) / state.level - left) / (right - left),
@@ -206,7 +269,7 @@ export class Zoom {
   #refit() {
     if (!this.active) return;
     this.#stop();
-    const { left, top, right, bottom } = this.#pagesBox();
+    const { left, top, right, bottom } = this.book.boxOf(this.turner.current);
     const { level } = this.goal;
     const middle = this.#windowMiddle();
     this.#apply(this.#limited({
@@ -240,6 +303,7 @@ export class Zoom {
   #stop() {
     if (this.frame) cancelAnimationFrame(this.frame);
     this.frame = 0;
+    this.free = null;
     this.#move(false);
   }
 
@@ -254,8 +318,21 @@ export class Zoom {
 
   #restSoon() {
     this.#move(true);
-    this.rest = window.setTimeout(() => this.#move(false), 140);
+    this.rest = window.setTimeout(() => {
+      this.#move(false);
+      if (!this.held) this.#settle();
+    }, REST_MS);
   }
+}
+
+/**
+ * Level to which fingers bring pages.
+ * @param {number} level
+ * @param {number} factor by which they move apart
+ */
+function stretched(level, factor) {
+  const wanted = (level < 1 ? level ** (1 / GIVE) : level) * factor;
+  return wanted < 1 ? wanted ** GIVE : Math.min(MOST_ZOOM, wanted);
 }
 
 /**
@@ -268,7 +345,8 @@ export class Zoom {
  */
 function heldInside(offset, level, from, to, end, start = 0) {
   const size = level * (to - from);
-  const [least, most] = [start + ZOOM_AIR, end - ZOOM_AIR];
+  // Whole pages may lie nearer to the edge; what is hardly enlarged must not leap away from there.
+  const [least, most] = [Math.min(from, start + ZOOM_AIR), Math.max(to, end - ZOOM_AIR)];
   if (size > most - least) {
     return Math.min(least, Math.max(most - size, offset + level * from)) - level * from;
   }

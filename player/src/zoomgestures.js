@@ -42,6 +42,7 @@ export class ZoomGestures {
     if (this.pointers.size === 2) {
       this.stage.setPointerCapture(event.pointerId);
       this.onPinch();
+      this.zoom.hold();
     }
   }
 
@@ -69,21 +70,31 @@ export class ZoomGestures {
   #pinch(before, here, other) {
     const apart = Math.max(20, Math.hypot(before.x - other.x, before.y - other.y));
     const now = Math.max(20, Math.hypot(here.x - other.x, here.y - other.y));
-    this.zoom.panBy((here.x - before.x) / 2, (here.y - before.y) / 2);
-    this.zoom.scaleAt({ x: (here.x + other.x) / 2, y: (here.y + other.y) / 2 }, now / apart);
+    /** @param {Point} finger */
+    const middle = (finger) => ({ x: (finger.x + other.x) / 2, y: (finger.y + other.y) / 2 });
+    this.zoom.pinch(middle(before), middle(here), now / apart);
   }
 
   /** @param {PointerEvent} event */
   #up(event) {
     if (!this.pointers.delete(event.pointerId)) return;
-    const recent = this.trail.filter(({ time }) => event.timeStamp - time < 90);
+    if (this.pointers.size > 0) this.zoom.loosen();
+    else this.zoom.release(this.#throwAt(event.timeStamp));
     this.trail = [];
+  }
+
+  /**
+   * Speed with which a finger let go, in pixels a millisecond.
+   * @param {number} time
+   */
+  #throwAt(time) {
+    const recent = this.trail.filter((point) => time - point.time < 90);
     const [first] = recent;
     const last = recent[recent.length - 1];
-    if (!this.zoom.active || !first || last.time <= first.time) return;
+    if (!first || last.time <= first.time) return null;
     const passed = last.time - first.time;
     const speed = { x: (last.x - first.x) / passed, y: (last.y - first.y) / passed };
-    if (Math.hypot(speed.x, speed.y) > LEAST_THROW) this.zoom.glide(speed);
+    return Math.hypot(speed.x, speed.y) > LEAST_THROW ? speed : null;
   }
 
   /** @param {WheelEvent} event */

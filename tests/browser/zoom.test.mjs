@@ -34,6 +34,28 @@ function ctrlWheel(book, x, y, deltaY, times = 1) {
   }, [x, y, deltaY, times]);
 }
 
+/** Fingers on the screen: each call says where they all are, in the order in which they came. */
+async function fingers(book) {
+  const session = await book.page.context().newCDPSession(book.page);
+  let down = [];
+  return async (...places) => {
+    const points = places.map(([x, y], id) => ({ x, y, id }));
+    const lifted = down.slice(points.length);
+    const type = lifted.length > 0 ? 'touchEnd' : points.length > down.length ? 'touchStart' : 'touchMove';
+    await session.send('Input.dispatchTouchEvent', { type, touchPoints: lifted.length > 0 ? lifted : points });
+    down = points;
+  };
+}
+
+/** Spreads two fingers about a place, from one distance to another, by a little more than one percent a step. */
+async function pinch(put, [x, y], from, to) {
+  const steps = Math.ceil(Math.abs(Math.log(to / from)) / 0.012);
+  for (let step = 0; step <= steps; step += 1) {
+    const apart = from * (to / from) ** (step / steps);
+    await put([x - apart / 2, y], [x + apart / 2, y]);
+  }
+}
+
 test('a double click in the middle enlarges what lies there, another shows whole pages', async () => {
   const book = await open(8, { hash: '#page=4' });
   const share = (box) => (700 - box.x) / box.width;
@@ -73,6 +95,10 @@ test('ctrl and the wheel enlarge about the pointer, up to five times', async () 
   near(await level(book), 5, 0.001, 'highest level');
   await ctrlWheel(book, 800, 300, 100, 20);
   near(await level(book), 1, 0.001, 'lowest level');
+  await ctrlWheel(book, 800, 300, -1, 90);
+  near(await level(book), Math.exp(0.9), 0.02, 'level after small steps');
+  await ctrlWheel(book, 800, 300, 1, 88);
+  await book.page.waitForFunction(() => document.querySelector('.book').style.transform === 'translateX(0px)');
 });
 
 test('the keys + - 0 and Escape change the level', async () => {
@@ -136,27 +162,44 @@ for (const [RightToLeft, side] of [['No', 'left'], ['Yes', 'right']]) {
   });
 }
 
-test('two fingers enlarge about the place between them, and let go without turning', async () => {
+for (const deviceScaleFactor of [1, 2, 3]) {
+  test(`two slow fingers enlarge about the place between them, and let go without turning, at density ${deviceScaleFactor}`, async () => {
+    const book = await open(5, { view: { ...PHONE, deviceScaleFactor }, hash: '#page=2' });
+    const put = await fingers(book);
+    const share = (box) => [(150 - box.x) / box.width, (560 - box.y) / box.height];
+    const wanted = share(book.whole);
+    await pinch(put, [150, 560], 60, 180);
+    near(await level(book), 3, 0.1, 'level');
+    const held = await book.box('right');
+    share(held).forEach((at, axis) => near(at, wanted[axis], 0.01, `place on axis ${axis}`));
+    await put([60, 560]);
+    await put([50, 550]);
+    await level(book);
+    const moved = await book.box('right');
+    near(moved.x - held.x, -10, 0.5, 'way of the finger that is left');
+    near(moved.y - held.y, -10, 0.5, 'way of the finger that is left');
+    await put();
+    assert.deepEqual(await book.pages(), [2]);
+    await book.swipe([320, 400], [90, 410]);
+    await level(book);
+    assert.deepEqual(await book.pages(), [2], 'a finger moves the enlarged page');
+    assert.deepEqual(book.errors, []);
+  });
+}
+
+test('whole pages give way to fingers that make them smaller, and come back like those that are hardly enlarged', async () => {
   const book = await open(5, { view: PHONE, hash: '#page=2' });
-  const session = await book.page.context().newCDPSession(book.page);
-  const touch = (type, points) => session.send('Input.dispatchTouchEvent',
-    { type, touchPoints: points.map(([x, y], id) => ({ x, y, id })) });
-  await touch('touchStart', [[170, 400]]);
-  await touch('touchStart', [[170, 400], [230, 400]]);
-  for (let apart = 60; apart <= 180; apart += 20) {
-    await touch('touchMove', [[200 - apart / 2, 400], [200 + apart / 2, 400]]);
+  const put = await fingers(book);
+  for (const [from, to, least, most] of [[200, 100, 0.7, 0.9], [150, 154, 1.01, 1.04]]) {
+    await pinch(put, [150, 560], from, to);
+    const held = await level(book);
+    assert.ok(held > least && held < most, `${held} while fingers hold the page`);
+    await put();
+    await book.page.waitForFunction(() => document.querySelector('.book').style.transform === 'translateX(0px)');
+    assert.deepEqual(await book.box('right'), book.whole);
   }
-  await touch('touchEnd', [[110, 400]]);
-  await touch('touchEnd', []);
-  near(await level(book), 3, 0.1, 'level');
-  const share = (box) => [(200 - box.x) / box.width, (400 - box.y) / box.height];
-  const wanted = share(book.whole);
-  share(await book.box('right')).forEach((at, axis) => near(at, wanted[axis], 0.02, `place on axis ${axis}`));
-  assert.deepEqual(await book.pages(), [2]);
   await book.swipe([320, 400], [90, 410]);
-  await level(book);
-  assert.deepEqual(await book.pages(), [2], 'a finger moves the enlarged page');
-  assert.deepEqual(book.errors, []);
+  await book.waitForPages(3);
 });
 
 test('a double tap on a phone enlarges, and the bar is as it was', async () => {
