@@ -1,16 +1,24 @@
 /** @typedef {import('./turner.js').Turner} Turner */
 /** @typedef {import('./book.js').Book} Book */
 /** @typedef {import('./zoom.js').Zoom} Zoom */
-/** @typedef {'left' | 'right'} Side */
 
 const DRAG_START = 7;
 const FLICK_SPEED = 0.35;
 const TAP_MS = 450;
 const SWIPE_WAY = 40;
 
-/** Two taps in the middle, that near to each other in time and place, are a double tap. */
-const DOUBLE_TAP_MS = 350;
+/** Two taps that near to each other in time and place are a double tap. */
+const DOUBLE_TAP_MS = 300;
 const DOUBLE_TAP_REACH = 30;
+
+/** Share of a page's width, at the outer edge, in which a tap can only mean turning: few pages have text there. */
+const EDGE = 0.15;
+
+/** How far beside a page a finger may still mean it, in CSS pixels. */
+const NEAR = 24;
+
+/** The same with all that turns after a while where nobody knows what a page shows: one alone, and one beside another. */
+const WIDE_EDGE = { alone: 0.32, beside: 0.48 };
 
 /** Wheel events closer together belong to one push, which turns one page. */
 const WHEEL_PAUSE_MS = 160;
@@ -33,8 +41,15 @@ export class Gestures {
     this.lastWheel = 0;
     /** @type {Press | null} */
     this.press = null;
-    /** @type {{x: number, y: number, time: number} | null} last tap that a second may follow */
+    /** @type {Tap | null} last tap that a second may follow */
     this.lastTap = null;
+    /** A turn that waits for a second tap, which means enlarging. @type {{timer: number, turn: () => void} | null} */
+    this.waiting = null;
+    /**
+     * Whether a pointer means text; null where nobody knows. Not set where nothing is known about any page.
+     * @type {((event: PointerEvent) => boolean | null) | null}
+     */
+    this.textAt = null;
     /** Whether something on the pages has dealt with a tap. @param {PointerEvent} _ */
     this.answersTap = (_) => false;
     /** Whether the pointer is over something on the pages. @param {PointerEvent} _ */
@@ -60,6 +75,18 @@ export class Gestures {
    * @property {number} time
    * @property {{x: number, time: number}[]} trail
    * @property {Grip | null} grip
+   * @property {Tap | null} first tap that this is the second of
+   *
+   * @typedef {object} Tap
+   * @property {number} x
+   * @property {number} y
+   * @property {number} time
+   * @property {() => void} undo takes back what it did
+   *
+   * @typedef {object} Turning what a tap turns
+   * @property {1 | -1} steps
+   * @property {boolean} waits whether a second tap may follow that means enlarging
+   * @property {boolean} sure whether no second tap means that
    *
    * @typedef {object} Grip
    * @property {1 | -1} sign screen x of the leaf's own x
@@ -71,10 +98,12 @@ export class Gestures {
   /** @param {PointerEvent} event */
   #down(event) {
     if (this.press || event.button !== 0) return;
-    this.press = {
-      id: event.pointerId, x: event.clientX, y: event.clientY, time: event.timeStamp,
-      trail: [], grip: null,
-    };
+    const { clientX: x, clientY: y, timeStamp: time, pointerId: id } = event;
+    const { lastTap } = this;
+    const first = lastTap && time - lastTap.time < DOUBLE_TAP_MS
+      && Math.hypot(x - lastTap.x, y - lastTap.y) < DOUBLE_TAP_REACH ? lastTap : null;
+    if (first) this.#forgetTurn();
+    this.press = { id, x, y, time, trail: [], grip: null, first };
     this.stage.setPointerCapture(event.pointerId);
   }
 
@@ -89,6 +118,7 @@ export class Gestures {
     const moved = event.clientX - press.x;
     if (!press.grip) {
       if (Math.abs(moved) < DRAG_START) return;
+      this.#forgetTurn();
       press.grip = this.#grip(press, moved);
       if (!press.grip) return;
     }
@@ -144,7 +174,7 @@ export class Gestures {
       // Where no leaf follows the finger, the finger's way still says where to.
       this.turner.step(moved < 0 !== this.book.config.rightToLeft ? 1 : -1);
     } else if (event.timeStamp - press.time < TAP_MS && Math.abs(moved) < DRAG_START) {
-      this.#tap(event);
+      this.#tap(event, press.first);
     }
   }
 
@@ -152,6 +182,7 @@ export class Gestures {
   drop() {
     if (this.press?.grip) this.turner.release(false);
     this.press = null;
+    this.#forgetTurn();
   }
 
   /**
@@ -169,56 +200,92 @@ export class Gestures {
     return leaf.done > this.turner.painter.enough;
   }
 
-  /** @param {PointerEvent} event */
-  #tap(event) {
-    if (this.answersTap(event)) return;
-    const { clientX: x, clientY: y, timeStamp: time } = event;
-    const side = this.zoom.active ? null : this.#sideAt(x);
-    if (side) {
-      this.lastTap = null;
-      this.turner.step((side === 'right') !== this.book.config.rightToLeft ? 1 : -1);
+  /**
+   * @param {PointerEvent} event
+   * @param {Tap | null} first
+   */
+  #tap(event, first) {
+    this.waiting?.turn();
+    this.lastTap = null;
+    if (first) {
+      first.undo();
+      // A double click on words marks one, elsewhere it enlarges as a double tap does everywhere.
+      if (event.pointerType !== 'mouse' || !this.textAt?.(event)) this.zoom.toggleAt(event.clientX, event.clientY);
       return;
     }
-    const { lastTap } = this;
-    const second = lastTap !== null && time - lastTap.time < DOUBLE_TAP_MS
-      && Math.hypot(x - lastTap.x, y - lastTap.y) < DOUBLE_TAP_REACH;
-    this.lastTap = second ? null : { x, y, time };
-    // What the first tap did to the bar at once, the second undoes.
-    this.onTapMiddle();
-    if (second) this.zoom.toggleAt(x, y);
+    if (this.answersTap(event)) return;
+    const turning = this.#turningAt(event);
+    const undo = turning ? this.#turn(turning) : this.onTapMiddle;
+    if (!turning) this.onTapMiddle();
+    if (turning?.sure) return;
+    this.lastTap = { x: event.clientX, y: event.clientY, time: event.timeStamp, undo };
   }
 
   /**
-   * Side towards which a click at that place turns; none in the middle.
-   * @param {number} clientX
-   * @returns {Side | null}
+   * @param {Turning} turning
+   * @returns {() => void} takes it back
    */
-  #sideAt(clientX) {
-    const { layout } = this.book;
-    const width = layout.pageWidth * (layout.spread ? 2 : 1);
-    const left = layout.bookLeft;
-    const zone = layout.spread ? 0.24 : 0.32;
-    if (clientX < left + width * zone) return 'left';
-    if (clientX > left + width * (1 - zone)) return 'right';
-    return null;
+  #turn({ steps, waits }) {
+    const { turner } = this;
+    const before = turner.destination;
+    const turn = () => {
+      this.#forgetTurn();
+      turner.step(steps);
+    };
+    if (waits) this.waiting = { turn, timer: window.setTimeout(turn, DOUBLE_TAP_MS) };
+    else turn();
+    return () => {
+      if (turner.destination !== before) turner.stand(before);
+    };
+  }
+
+  #forgetTurn() {
+    clearTimeout(this.waiting?.timer);
+    this.waiting = null;
+  }
+
+  /**
+   * What a tap at that place turns; null in the middle, and for a mouse over words.
+   * @param {PointerEvent} event
+   * @returns {Turning | null}
+   */
+  #turningAt(event) {
+    if (this.zoom.active) return null;
+    const { book } = this;
+    const { pageWidth } = book.layout;
+    const { left, right } = book.boxOf(this.turner.current);
+    const x = event.clientX;
+    const atRight = x > (left + right) / 2;
+    const inside = (atRight ? right - x : x - left) / pageWidth;
+    const wide = WIDE_EDGE[right - left > pageWidth ? 'beside' : 'alone'];
+    if (inside >= (this.textAt ? EDGE : wide)) return null;
+    const mouse = event.pointerType === 'mouse';
+    const beside = inside * pageWidth < -NEAR;
+    const text = beside ? false : this.textAt?.(event) ?? null;
+    if (mouse && text) return null;
+    const waits = text === true || inside >= EDGE;
+    return {
+      steps: atRight !== book.config.rightToLeft ? 1 : -1,
+      waits, sure: !waits && (mouse || text === false),
+    };
   }
 
   /** @param {PointerEvent} event */
   #hover(event) {
     const { layout, config } = this.book;
     const { turner } = this;
+    this.stage.style.cursor = this.#turningAt(event) ? 'pointer' : '';
     if (this.isOver(event)) {
       turner.endPeek();
       return;
     }
-    this.stage.style.cursor = !this.zoom.active && this.#sideAt(event.clientX) ? 'pointer' : '';
     if (turner.leaf && turner.leaf.motion?.end !== 'peek') return;
     const shift = this.book.shiftFor(turner.current);
     const half = layout.pageWidth;
     const x = (event.clientX - layout.spineX - shift) / half;
     const y = (event.clientY - layout.bookTop) / layout.pageHeight;
     const nearCorner = y > -0.02 && y < 1.02 && (y < 0.16 || y > 0.84);
-    const reach = Math.abs(x) > 0.84 && Math.abs(x) < 1.02;
+    const reach = Math.abs(x) > 1 - EDGE && Math.abs(x) < 1.02;
     const side = x > 0 ? 'right' : 'left';
     const steps = (side === 'right') !== config.rightToLeft ? 1 : -1;
     const lifts = layout.spread || turner.painter.whole || steps === 1;

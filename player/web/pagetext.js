@@ -123,6 +123,19 @@ export function boxIn(line, word, from, to) {
 }
 
 /**
+ * How far a place is from a box; 0 inside.
+ * @param {Box} box
+ * @param {number} x
+ * @param {number} y
+ * @param {[across: number, down: number]} weights
+ */
+export function distance(box, x, y, weights = [1, 1]) {
+  const across = Math.max(box.x - x, 0, x - box.x - box.width);
+  const down = Math.max(box.y - y, 0, y - box.y - box.height);
+  return Math.hypot(across * weights[0], down * weights[1]);
+}
+
+/**
  * @param {Box | null} one
  * @param {Box} other
  * @returns {Box}

@@ -1,4 +1,4 @@
-import { boxIn, isUpright, runsBack } from './pagetext.js';
+import { boxIn, distance, isUpright, runsBack } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */
 /** @typedef {import('./layers.js').Layers} Layers */
@@ -11,12 +11,17 @@ const MARK_START = 4;
 const LONG_PRESS_WAY = 8;
 const LONG_PRESS_MS = 700;
 
+/** How far beside words a mouse and a finger still mean them, in CSS pixels: lines leave a little room between them. */
+const MOUSE_REACH = 4;
+const FINGER_REACH = 12;
+
 /** What a way along a line counts beside one from line to line: readers stop behind a line's end. */
 const BESIDE = 0.4;
 
 /**
- * Marks text with the mouse, and with a finger that rests where the browser does not. The words' own places say what lies under the pointer: what browsers make
- * of words that are placed one by one leaps to the ends of the page between the lines.
+ * Marks text with the mouse, a word by a double click and a line by a third, and with a finger that rests where the
+ * browser does not. The words' own places say what lies under the pointer: what browsers make of words that are placed
+ * one by one leaps to the ends of the page between the lines.
  */
 export class Selecting {
   /**
@@ -24,12 +29,16 @@ export class Selecting {
    * @param {Layers} layers
    */
   constructor({ root, gestures }, layers) {
+    this.root = root;
     this.gestures = gestures;
     this.layers = layers;
+    gestures.textAt = (/** @type {PointerEvent} */ event) => this.#textAt(event);
     /** @type {{id: number, x: number, y: number, anchor: Caret, marks: boolean, timer: number} | null} */
     this.press = null;
     /** Whether the press under way is about what is marked and means nothing else. */
     this.answers = false;
+    /** Whether the last press was a mouse's. */
+    this.byMouse = false;
     const stage = root.querySelector('.stage');
     stage.addEventListener('mousedown', (/** @type {MouseEvent} */ event) => this.#keepFromBrowser(event));
     root.addEventListener('pointerdown', (/** @type {PointerEvent} */ event) => this.#down(event), { capture: true });
@@ -49,19 +58,57 @@ export class Selecting {
 
   /** @param {MouseEvent} event */
   #keepFromBrowser(event) {
-    if (event.button !== 0 || !wordAt(event.target)) return;
+    const word = wordAt(event.target);
+    if (event.button !== 0 || !word) return;
     event.preventDefault();
+    // Taps come as clicks too, and two of them enlarge.
+    if (this.byMouse && event.detail > 1) this.#markWhole(word, event);
     // What the browser would have done beside marking.
     if (document.activeElement instanceof HTMLElement) document.activeElement.blur();
+  }
+
+  /**
+   * Marks what a double or a triple click means.
+   * @param {Element} word
+   * @param {MouseEvent} event
+   */
+  #markWhole(word, event) {
+    this.#letGo();
+    this.gestures.drop();
+    const caret = event.detail === 2 ? this.#caretAt(event) : null;
+    const line = [.../** @type {Element} */ (word.parentElement).querySelectorAll('.word')];
+    const [first, last] = caret ? [caret.node, caret.node]
+      : [line[0], line[line.length - 1]].map(({ firstChild }) => /** @type {Text} */ (firstChild));
+    const text = last.textContent ?? '';
+    const [from, to] = caret ? wordAround(text, caret.offset) : [0, text.trimEnd().length];
+    getSelection()?.setBaseAndExtent(first, from, last, to);
+  }
+
+  /**
+   * Whether a pointer means text; null on a page without any, which may show words that nobody has read.
+   * @param {PointerEvent} event
+   */
+  #textAt({ clientX, clientY, pointerType }) {
+    if (this.root.dataset.air === 'yes') return false;
+    const face = this.layers.faces.find(({ position, over }) =>
+      position && distance(over.getBoundingClientRect(), clientX, clientY) === 0);
+    if (!face) return false;
+    if (!face.text?.lines.length) return null;
+    const { x, y, across, down } = placeIn(face, clientX, clientY);
+    const reach = pointerType === 'mouse' ? MOUSE_REACH : FINGER_REACH;
+    return face.text.lines.some(({ box }) => distance(box, x, y, [across, down]) <= reach);
   }
 
   /** @param {PointerEvent} event */
   #down(event) {
     if (event.button !== 0 || !onStage(event.target)) return;
     this.#letGo();
+    // A second finger means enlarging, however long either rests on a word.
+    if (!event.isPrimary) return;
     const selection = getSelection();
     this.answers = this.marked;
     const mouse = event.pointerType === 'mouse';
+    this.byMouse = mouse;
     const word = wordAt(event.target);
     const extended = this.answers && mouse && event.shiftKey && word ? selection?.anchorNode : null;
     const anchor = extended ? { node: extended, offset: selection?.anchorOffset ?? 0 } : word && this.#caretAt(event);
@@ -128,7 +175,7 @@ export class Selecting {
 
   /**
    * Place in the text that is nearest to the pointer.
-   * @param {PointerEvent} event
+   * @param {MouseEvent} event
    * @returns {Caret | null}
    */
   #caretAt({ clientX, clientY }) {
@@ -167,15 +214,29 @@ function onStage(target) {
 }
 
 /**
- * @param {{x: number, y: number, width: number, height: number}} box
- * @param {number} x
- * @param {number} y
- * @param {[across: number, down: number]} weights
+ * From where to where the word runs that a place in a text lies in.
+ * @param {string} text
+ * @param {number} offset
+ * @returns {[number, number]}
  */
-function distance(box, x, y, weights = [1, 1]) {
-  const across = Math.max(box.x - x, 0, x - box.x - box.width);
-  const down = Math.max(box.y - y, 0, y - box.y - box.height);
-  return Math.hypot(across * weights[0], down * weights[1]);
+function wordAround(text, offset) {
+  // The word that a browser would mark: without signs beside it, and of scripts without spaces not the whole line.
+  const parts = 'Segmenter' in Intl ? [...new Intl.Segmenter(undefined, { granularity: 'word' }).segment(text)] : [];
+  const word = parts.find(({ isWordLike, index, segment }) =>
+    isWordLike && index <= offset && offset <= index + segment.length);
+  return word ? [word.index, word.index + word.segment.length] : [0, text.trimEnd().length];
+}
+
+/**
+ * A place of the window in a page's own units, and how many CSS pixels one of these takes.
+ * @param {Face} face whose text is there
+ * @param {number} clientX
+ * @param {number} clientY
+ */
+function placeIn({ box, text }, clientX, clientY) {
+  const seen = box.getBoundingClientRect();
+  const [across, down] = [seen.width / (text?.width ?? 1), seen.height / (text?.height ?? 1)];
+  return { x: (clientX - seen.x) / across, y: (clientY - seen.y) / down, across, down };
 }
 
 /**
@@ -184,12 +245,11 @@ function distance(box, x, y, weights = [1, 1]) {
  * @param {number} clientY
  * @returns {Caret | null}
  */
-function caretIn({ box, text }, clientX, clientY) {
+function caretIn(face, clientX, clientY) {
+  const { box, text } = face;
   const layer = box.querySelector('.text-layer');
   if (!text || !layer) return null;
-  const seen = box.getBoundingClientRect();
-  const x = ((clientX - seen.x) / seen.width) * text.width;
-  const y = ((clientY - seen.y) / seen.height) * text.height;
+  const { x, y } = placeIn(face, clientX, clientY);
   const near = text.lines.map((line, index) => {
     const weights = /** @type {[number, number]} */ (isUpright(line) ? [1, BESIDE] : [BESIDE, 1]);
     return { line, index, away: distance(line.box, x, y, weights) };

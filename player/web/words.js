@@ -7,6 +7,7 @@ export const WEB_WORDS = {
     hitBefore: 'Previous result', hitAfter: 'Next result',
     linkAway: 'This link leads to a page that is not in this book',
     notOpen: 'This page is not part of the preview', textPage: 'Read as plain text',
+    tapTwice: 'Double tap, double click beside the words, or spread two fingers',
   },
   de: {
     contents: 'Inhalt', search: 'Suchen', searchBox: 'In diesem Buch suchen', searchEnd: 'Suche beenden',
@@ -15,6 +16,7 @@ export const WEB_WORDS = {
     hitBefore: 'Voriger Treffer', hitAfter: 'Nächster Treffer',
     linkAway: 'Dieser Link führt auf eine Seite, die nicht in diesem Buch ist',
     notOpen: 'Diese Seite gehört nicht zur Leseprobe', textPage: 'Als reinen Text lesen',
+    tapTwice: 'Doppelt tippen, Doppelklick neben die Wörter oder zwei Finger spreizen',
   },
   fr: {
     contents: 'Sommaire', search: 'Rechercher', searchBox: 'Rechercher dans ce livre', searchEnd: 'Terminer la recherche',
@@ -23,6 +25,7 @@ export const WEB_WORDS = {
     hitBefore: 'Résultat précédent', hitAfter: 'Résultat suivant',
     linkAway: 'Ce lien mène à une page qui n’est pas dans ce livre',
     notOpen: 'Cette page ne fait pas partie de l’extrait', textPage: 'Lire en texte brut',
+    tapTwice: 'Toucher deux fois, double clic à côté des mots ou écarter deux doigts',
   },
   es: {
     contents: 'Índice', search: 'Buscar', searchBox: 'Buscar en este libro', searchEnd: 'Terminar la búsqueda',
@@ -31,6 +34,7 @@ export const WEB_WORDS = {
     hitBefore: 'Resultado anterior', hitAfter: 'Resultado siguiente',
     linkAway: 'Este enlace lleva a una página que no está en este libro',
     notOpen: 'Esta página no forma parte de la muestra', textPage: 'Leer como texto sin formato',
+    tapTwice: 'Tocar dos veces, doble clic junto a las palabras o separar dos dedos',
   },
   it: {
     contents: 'Indice', search: 'Cerca', searchBox: 'Cerca in questo libro', searchEnd: 'Termina la ricerca',
@@ -39,6 +43,7 @@ export const WEB_WORDS = {
     hitBefore: 'Risultato precedente', hitAfter: 'Risultato successivo',
     linkAway: 'Questo link porta a una pagina che non è in questo libro',
     notOpen: 'Questa pagina non fa parte dell’anteprima', textPage: 'Leggi come testo semplice',
+    tapTwice: 'Doppio tocco, doppio clic accanto alle parole o allarga due dita',
   },
   nl: {
     contents: 'Inhoud', search: 'Zoeken', searchBox: 'Zoeken in dit boek', searchEnd: 'Zoeken beëindigen',
@@ -47,6 +52,7 @@ export const WEB_WORDS = {
     hitBefore: 'Vorig resultaat', hitAfter: 'Volgend resultaat',
     linkAway: 'Deze link verwijst naar een pagina die niet in dit boek staat',
     notOpen: 'Deze pagina hoort niet bij het fragment', textPage: 'Als platte tekst lezen',
+    tapTwice: 'Dubbeltik, dubbelklik naast de woorden of spreid twee vingers',
   },
   pt: {
     contents: 'Sumário', search: 'Pesquisar', searchBox: 'Pesquisar neste livro', searchEnd: 'Encerrar a pesquisa',
@@ -55,5 +61,6 @@ export const WEB_WORDS = {
     hitBefore: 'Resultado anterior', hitAfter: 'Próximo resultado',
     linkAway: 'Este link leva a uma página que não está neste livro',
     notOpen: 'Esta página não faz parte da amostra', textPage: 'Ler como texto simples',
+    tapTwice: 'Toque duplo, duplo clique ao lado das palavras ou afastar dois dedos',
   },
 };

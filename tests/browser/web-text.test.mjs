@@ -110,7 +110,7 @@ test('the mouse marks text without turning the page, and a copy gives its words 
   assert.deepEqual(await book.pages(), [2, 3]);
 });
 
-test('a click takes the marking back and does nothing else; elsewhere, and without a marking, words are like paper', async () => {
+test('a click takes the marking back and does nothing else; without a marking the edges turn where no words are', async () => {
   const book = await open({ hash: '#page=2' });
   await word(book, 'story').waitFor();
   await mark(book, 'river', 'town');
@@ -121,11 +121,63 @@ test('a click takes the marking back and does nothing else; elsewhere, and witho
   assert.deepEqual(await book.pages(), [2, 3]);
   await book.page.mouse.click(edge.x + edge.width - 30, edge.y + edge.height / 2);
   await book.waitForPages(4, 5);
-  const far = await boxOf(book, 'More');
-  await book.page.mouse.click(far.x + far.width / 2, far.y + far.height / 2);
+  await book.page.mouse.click(40, edge.y + edge.height / 2);
   await book.waitForPages(2, 3);
   await book.drag([edge.x + edge.width - 20, edge.y + edge.height * 0.6], [edge.x - edge.width * 0.8, edge.y + edge.height * 0.6]);
   await book.waitForPages(4, 5);
+});
+
+/** What a click or tap does at once: whether the bar changes, and whether a page turns. */
+const deeds = async (book, act) => {
+  const state = () => book.page.evaluate(() => [document.querySelector('#folvero').dataset.idle, window.folvero.turning]);
+  const [before] = await state();
+  await act();
+  const [after, turning] = await state();
+  return { bar: after !== before, turning };
+};
+
+test('a double click marks a word and a third click its line, even where the edge turns pages', async () => {
+  const book = await open({ hash: '#page=2' });
+  await word(book, 'story').waitFor();
+  const { x, y, width, height } = await boxOf(book, 'harbour\\.');
+  await book.page.mouse.dblclick(x + width - 3, y + height / 2);
+  assert.equal(await copied(book), 'harbour');
+  await book.page.mouse.click(30, 300);
+  const edge = await boxOf(book, 'A');
+  const at = [edge.x + 2, edge.y + edge.height / 2];
+  assert.deepEqual(await deeds(book, () => book.page.mouse.click(...at)), { bar: true, turning: false });
+  await book.page.mouse.dblclick(...at);
+  assert.equal(await copied(book), 'A');
+  await book.page.mouse.click(...at, { clickCount: 3 });
+  assert.equal(await copied(book), 'A river runs below the old town');
+  assert.deepEqual(await book.pages(), [2, 3]);
+  assert.equal((await book.box('left')).height, (await book.box('right')).height, 'not enlarged');
+});
+
+for (const [text, across] of [['A', 2], ['what', 5], ['town', 20]]) {
+  test(`on a phone a double tap on "${text}" enlarges it, and one tap waits before it turns`, async () => {
+    const book = await open({ view: PHONE, hash: '#page=2', pages: TEXTS.map((texts) => typedPage(texts, { left: 300 + (5000 - 31 * 60) * (text === 'town') })) });
+    const { x, y, height } = await boxOf(book, text);
+    const { width } = await book.box('right');
+    const at = [x + across, y + height / 2];
+    await book.doubleTap(...at);
+    await book.page.waitForFunction(() => new DOMMatrix(document.querySelector('.book').style.transform).a === 2.5);
+    assert.deepEqual(await book.pages(), [2]);
+    await book.page.keyboard.press('0');
+    await book.page.waitForFunction((whole) => document.querySelector('.page.right').getBoundingClientRect().width === whole, width);
+    const edge = text !== 'what';
+    assert.deepEqual(await deeds(book, () => book.page.touchscreen.tap(...at)), { bar: !edge, turning: false });
+    if (edge) await book.waitForPages(text === 'A' ? 1 : 3);
+  });
+}
+
+test('on a phone taps beside the words turn at once, each a page', async () => {
+  const book = await open({ view: PHONE, hash: '#page=2' });
+  const tap = () => book.page.touchscreen.tap(370, 600);
+  assert.deepEqual(await deeds(book, tap), { bar: false, turning: true });
+  await tap();
+  await book.waitForPages(4);
+  assert.deepEqual(await deeds(book, () => book.page.touchscreen.tap(310, 600)), { bar: true, turning: false });
 });
 
 test('on an enlarged page a drag on words marks them and a drag beside them moves the page', async () => {

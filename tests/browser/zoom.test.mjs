@@ -214,6 +214,32 @@ test('a double tap on a phone enlarges, and the bar is as it was', async () => {
   assert.equal(await idle(), before);
 });
 
+for (const x of [16, 40, 90, 300, 350, 374]) {
+  test(`a double tap ${x} pixels from the left enlarges and turns nothing, a single one turns`, async () => {
+    const book = await open(5, { view: PHONE, hash: '#page=2' });
+    await book.doubleTap(x, 300);
+    near(await level(book), 2.5, 0.01, 'level');
+    assert.deepEqual(await book.pages(), [2]);
+    await book.page.keyboard.press('0');
+    near(await level(book), 1, 0.001, 'level');
+    await book.page.touchscreen.tap(x, 300);
+    const atOnce = await book.page.evaluate(() => window.folvero.turning);
+    assert.equal(atOnce, x < 60 || x > 330);
+    await book.waitForPages(x < 195 ? 1 : 3);
+  });
+}
+
+test('a double click on a page enlarges, and one click a little inside its edge turns when no second follows', async () => {
+  const book = await open(8, { hash: '#page=4' });
+  await book.page.mouse.dblclick(1040, 300);
+  near(await level(book), 2.5, 0.01, 'level');
+  assert.deepEqual(await book.pages(), [4, 5]);
+  await book.page.keyboard.press('0');
+  near(await level(book), 1, 0.001, 'level');
+  await book.page.mouse.click(1040, 300);
+  await book.waitForPages(6, 7);
+});
+
 test('a page that is turning lands when the reader enlarges it', async () => {
   const book = await open(8, { hash: '#page=2', values: { PageMoveTime: '9' } });
   await book.page.keyboard.press('PageDown');

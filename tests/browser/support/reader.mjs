@@ -172,6 +172,13 @@ class OpenBook {
     await mouse.up();
   }
 
+  /** Two taps of a finger, one right after the other. */
+  async doubleTap(x, y) {
+    const session = await this.page.context().newCDPSession(this.page);
+    await Promise.all([[{ x, y }], [], [{ x, y }], []].map((touchPoints) =>
+      session.send('Input.dispatchTouchEvent', { type: touchPoints.length > 0 ? 'touchStart' : 'touchEnd', touchPoints })));
+  }
+
   /** A finger that moves across a touch screen. */
   async swipe(from, to) {
     const session = await this.page.context().newCDPSession(this.page);
