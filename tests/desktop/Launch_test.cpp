@@ -3,6 +3,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
+#include "app/desktop/ScreenFrame.h"
 #include "desktop/DesktopProgram.h"
 #include "platform/Bundle.h"
 #include "platform/Folders.h"
@@ -67,6 +68,23 @@ TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
     EXPECT_TRUE(log.contains("version is:" + Bundle::version().toLatin1())) << log.toStdString();
     program.reset();
     EXPECT_FALSE(QFileInfo::exists(support + text("/Folvero/preview")));
+}
+
+TEST(ScreenFrame, FrameThatComesLateLiesOnTheScreenToo) {
+    QWidget window;
+    window.show();
+    QMargins margins;
+    new ScreenFrame(window, [&margins] { return margins; });
+    const QRect screen({0, 0}, QGuiApplication::primaryScreen()->size());
+    EXPECT_EQ(window.geometry(), screen);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    margins = {4, 20, 4, 4};
+    window.repaint();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.geometry() == screen - margins; }));
+    window.resize(300, 200);
+    window.repaint();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.size(), QSize(300, 200)) << "the user's own size stays";
 }
 
 TEST_F(Launch, AppearanceIsChosenAndKeepsTheFontOfExplanations) {

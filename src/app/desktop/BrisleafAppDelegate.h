@@ -94,7 +94,6 @@ private:
 
     void prepaireTheLog() const;
     void makeWindows();
-    void frameMainWindow();
     void loadDemoPages();
     void showEditor();
     void showTemplate(const QString& name);

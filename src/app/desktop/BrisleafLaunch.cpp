@@ -6,6 +6,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/PreviewView.h"
 #include "app/desktop/RecentFiles.h"
+#include "app/desktop/ScreenFrame.h"
 #include "pages/FlashPageSourceImg.h"
 #include "platform/Bundle.h"
 #include "platform/Log.h"
@@ -22,7 +23,6 @@
 #include <QItemSelectionModel>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QTimer>
 
 namespace {
@@ -53,7 +53,7 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iWindow->show();
     iWindow->activateWindow();
     iFlashPreviewFolder = QStringLiteral("");
-    frameMainWindow();
+    new ScreenFrame(*iWindow);
     // Not on the first button: nothing is to happen at a stray key.
     iWindow->outlineView->setFocus();
     loadDemoPages();
@@ -74,15 +74,6 @@ void BrisleafAppDelegate::makeWindows() {
     iSelecteTmplWindow = std::make_unique<SelectTemplateWindowDelegate>(iWindow.get());
     iWindow->menu->showRecentFiles(RecentFiles::list());
     connectCommands();
-}
-
-// The whole screen, whatever part of it the system's own bars cover.
-void BrisleafAppDelegate::frameMainWindow() {
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const QSize frame = iWindow->frameGeometry().size() - iWindow->size();
-    iWindow->move(0, 0);
-    iWindow->resize((screen ? screen->geometry().size() : QSize(0, 0)) - frame);
-    iWindow->update();
 }
 
 void BrisleafAppDelegate::loadDemoPages() {

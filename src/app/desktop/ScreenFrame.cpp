@@ -1,0 +1,36 @@
+#include "app/desktop/ScreenFrame.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+#include <utility>
+
+ScreenFrame::ScreenFrame(QWidget& window, Margins margins)
+    : QObject(&window), iWindow(window), iMargins(std::move(margins)) {
+    if (!iMargins)
+        iMargins = [this] {
+            const QWindow* native = iWindow.windowHandle();
+            return native ? native->frameMargins() : QMargins();
+        };
+    // Not on the native window, which is made anew when a web view moves in.
+    iWindow.installEventFilter(this);
+    fit();
+}
+
+// The whole screen, whatever part of it the system's own bars cover.
+void ScreenFrame::fit() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    iFitted = iMargins();
+    iWindow.setGeometry(QRect({0, 0}, screen ? screen->size() : QSize(0, 0)) - iFitted);
+    iWindow.update();
+}
+
+bool ScreenFrame::eventFilter(QObject* watched, QEvent* event) {
+    const bool comesWithAFrame =
+        event->type() == QEvent::Paint || event->type() == QEvent::WindowActivate;
+    if (comesWithAFrame && iFitted.isNull() && !iMargins().isNull())
+        QMetaObject::invokeMethod(this, &ScreenFrame::fit, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+}
