@@ -149,6 +149,11 @@
         <source>Value</source>
         <translation>Wert</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>What a screen reader says: the name of a setting and its value.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>FlashTemplateOutlineDelegate</name>

@@ -89,6 +89,16 @@ QString FlashTemplateModel::spokenValue(const FlashTemplateProperty& property) {
     }
 }
 
+// The cursor stays in the column of the values, so a value names its setting.
+QString FlashTemplateModel::spokenText(const QModelIndex& index) const {
+    const FlashTemplateProperty& property = *item(index);
+    const QString title = shownText(index.siblingAtColumn(key)).toString();
+    if (index.column() == key || property.propertyType() == pt_composite)
+        return title;
+    //: What a screen reader says: the name of a setting and its value.
+    return tr("%1: %2").arg(title, spokenValue(property));
+}
+
 QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
@@ -107,9 +117,8 @@ QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
         font.setBold(isGroup && index.column() == key);
         return font;
     }
-    // What a screen reader says about a value.
     case Qt::AccessibleTextRole:
-        return index.column() == key ? shownText(index) : spokenValue(*item(index));
+        return spokenText(index);
     default:
         return {};
     }

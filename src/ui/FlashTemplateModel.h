@@ -40,6 +40,7 @@ private:
     void reloadValuesBelow(const QModelIndex& parent);
     // As the user reads it: templates speak English.
     QVariant shownText(const QModelIndex& index) const;
+    QString spokenText(const QModelIndex& index) const;
     static QString spokenValue(const FlashTemplateProperty& property);
 
     FlashTemplateOutlineDelegate& iSource;

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
@@ -19,6 +20,23 @@ constexpr qreal cellHeight = 19;
 constexpr int arrowSide = 12;
 constexpr int textMargin = 4;
 
+// Closes as a whole when its list is closed without a choice.
+class ListEditor : public QComboBox {
+public:
+    explicit ListEditor(QWidget* parent) : QComboBox(parent) {
+        // The usual one does not know of style sheets.
+        setItemDelegate(new QStyledItemDelegate(this));
+        // A choice comes after the list was closed.
+        withoutChoice.setSingleShot(true);
+        connect(this, &QComboBox::activated, &withoutChoice, &QTimer::stop);
+    }
+    void hidePopup() override {
+        QComboBox::hidePopup();
+        withoutChoice.start(0);
+    }
+    QTimer withoutChoice;
+};
+
 // Cells are made for rows of one line; they sit in the middle of higher ones.
 QRectF frameIn(const QRect& row) {
     return QRectF(row).adjusted(0, std::max(0.0, (row.height() - cellHeight) / 2), 0, 0);
@@ -28,11 +46,23 @@ QStyle& styleOf(const QStyleOptionViewItem& option) {
     return option.widget ? *option.widget->style() : *QApplication::style();
 }
 
-bool isKeyThatActivates(const QEvent& event) {
-    if (event.type() != QEvent::KeyPress)
+bool isKeyThatEdits(const QKeyEvent& event) {
+    const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    switch (event.key()) {
+    case Qt::Key_F2:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Select:
+        return isPlain;
+    default:
         return false;
-    const int key = static_cast<const QKeyEvent&>(event).key();
-    return key == Qt::Key_Space || key == Qt::Key_Select;
+    }
+}
+
+bool isEditedAsText(const QModelIndex& index) {
+    const int type = FlashTemplateModel::item(index)->propertyType();
+    return index.flags().testFlag(Qt::ItemIsEditable) && type != pt_bool && type != pt_list;
 }
 
 bool isLeftButton(const QEvent& event, QEvent::Type type) {
@@ -46,6 +76,7 @@ PropertyCellDelegate::PropertyCellDelegate(QTreeView& view)
     : QStyledItemDelegate(&view), iView(view) {
     view.viewport()->setMouseTracking(true);
     view.viewport()->installEventFilter(this);
+    view.installEventFilter(this);
 }
 
 std::unique_ptr<Cell> PropertyCellDelegate::cellFor(const QStyleOptionViewItem& option,
@@ -152,7 +183,7 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
         edit->setAccessibleName(TemplateTexts::shown(item->title()));
         return edit;
     }
-    auto* list = new QComboBox(parent);
+    auto* list = new ListEditor(parent);
     for (const QString& choice : FlashTemplateOutlineDelegate::choices(*item))
         list->addItem(TemplateTexts::shown(choice));
     list->setAccessibleName(TemplateTexts::shown(item->title()));
@@ -161,6 +192,10 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
     connect(list, &QComboBox::activated, self, [self, list] {
         Q_EMIT self->commitData(list);
         Q_EMIT self->closeEditor(list);
+    });
+    connect(&list->withoutChoice, &QTimer::timeout, self, [self, list] {
+        if (list->isVisible())
+            Q_EMIT self->closeEditor(list);
     });
     QTimer::singleShot(0, list, &QComboBox::showPopup);
     return list;
@@ -206,8 +241,6 @@ bool PropertyCellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                        const QModelIndex& index) {
     if (!index.flags().testFlag(Qt::ItemIsEditable))
         return false;
-    if (isKeyThatActivates(*event))
-        return activate(index);
     const int type = FlashTemplateModel::item(index)->propertyType();
     if (type == pt_bool) {
         if (isLeftButton(*event, QEvent::MouseButtonRelease))
@@ -239,8 +272,13 @@ bool PropertyCellDelegate::trackButton(QMouseEvent& event, const QStyleOptionVie
 
 // The view does not pass on moves with a button down, nor what happens outside of a row.
 bool PropertyCellDelegate::eventFilter(QObject* watched, QEvent* event) {
+    const bool isKey = event->type() == QEvent::KeyPress;
+    if (watched == &iView)
+        return isKey && keyPressed(static_cast<const QKeyEvent&>(*event));
     if (watched != iView.viewport())
-        return QStyledItemDelegate::eventFilter(watched, event);
+        return (isKey && leaveEditor(static_cast<QWidget&>(*watched),
+                                     static_cast<const QKeyEvent&>(*event).key())) ||
+               QStyledItemDelegate::eventFilter(watched, event);
     if (event->type() == QEvent::Leave)
         hover(QPointF(-1, -1));
     const bool isMove = event->type() == QEvent::MouseMove;
@@ -279,6 +317,50 @@ void PropertyCellDelegate::hover(const QPointF& at) {
         if (changed.isValid())
             iView.update(changed);
     }
+}
+
+bool PropertyCellDelegate::keyPressed(const QKeyEvent& event) {
+    const QModelIndex current = iView.currentIndex();
+    // An editor hands on what it does not use, such as the Return that ends it.
+    const QWidget* focus = QApplication::focusWidget();
+    const bool isOfEditor = focus && iView.viewport()->isAncestorOf(focus);
+    if (!current.isValid() || isOfEditor)
+        return false;
+    const QModelIndex value = current.siblingAtColumn(FlashTemplateModel::value);
+    if (current != value)
+        iView.selectionModel()->setCurrentIndex(value, QItemSelectionModel::NoUpdate);
+    if (!isKeyThatEdits(event))
+        return false;
+    edit(value, event.key() == Qt::Key_Space || event.key() == Qt::Key_Select);
+    return true;
+}
+
+// A group opens or closes.
+void PropertyCellDelegate::edit(const QModelIndex& index, bool byItsButton) {
+    iView.setCurrentIndex(index);
+    const QModelIndex title = index.siblingAtColumn(FlashTemplateModel::key);
+    if (iView.model()->hasChildren(title))
+        iView.setExpanded(title, !iView.isExpanded(title));
+    if (!index.flags().testFlag(Qt::ItemIsEditable))
+        return;
+    const bool isBox = FlashTemplateModel::item(index)->propertyType() == pt_bool;
+    if (!((byItsButton || isBox) && activate(index)))
+        iView.edit(index);
+}
+
+// Takes what was typed and goes on to the next or previous row, whose text is edited at once.
+bool PropertyCellDelegate::leaveEditor(QWidget& editor, int key) {
+    if (key != Qt::Key_Tab && key != Qt::Key_Backtab)
+        return false;
+    Q_EMIT commitData(&editor);
+    Q_EMIT closeEditor(&editor);
+    const QModelIndex left = iView.currentIndex();
+    const QModelIndex next = key == Qt::Key_Tab ? iView.indexBelow(left) : iView.indexAbove(left);
+    if (next.isValid())
+        iView.setCurrentIndex(next);
+    if (next.isValid() && isEditedAsText(next))
+        iView.edit(next);
+    return true;
 }
 
 bool PropertyCellDelegate::activate(const QModelIndex& index) {

@@ -9,7 +9,8 @@
 class QTreeView;
 
 // Puts the outline delegate's cells into the property editor's view: draws them, hands them the
-// mouse and the keyboard, and opens an editor over the text of one.
+// mouse and the keyboard, and opens an editor over the text of one. A key always goes to the value
+// of its row, whichever column was clicked.
 class PropertyCellDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -30,10 +31,12 @@ public:
                      const QModelIndex& index) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+private:
     // Does what a click on the button of a row's value does; false when it has none.
     bool activate(const QModelIndex& index);
-
-private:
+    bool keyPressed(const QKeyEvent& event);
+    void edit(const QModelIndex& index, bool byItsButton);
+    bool leaveEditor(QWidget& editor, int key);
     std::unique_ptr<Cell> cellFor(const QStyleOptionViewItem& option,
                                   const QModelIndex& index) const;
     std::unique_ptr<TextFieldCell> buttonCellFor(const QModelIndex& index) const;

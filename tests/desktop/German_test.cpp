@@ -162,7 +162,8 @@ TEST_F(German, SettingsAreShownInGermanAndKeptAsTheyAre) {
         configuration().textAt(text("BackgroundConfig/BackgroundImage/OuterBackgroundPosition")),
         text("Center"));
     press(text("RightToLeft"));
-    EXPECT_EQ(valueOf(text("RightToLeft")).data(Qt::AccessibleTextRole).toString(), text("Ja"));
+    EXPECT_EQ(valueOf(text("RightToLeft")).data(Qt::AccessibleTextRole).toString(),
+              text("Von rechts nach links: Ja"));
     window().menu->undo->trigger();
     window().menu->undo->trigger();
     EXPECT_EQ(window().menu->redo->text(), text("„Lage des Bilds“ &wiederherstellen"));

@@ -8,6 +8,7 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
@@ -266,6 +267,71 @@ TEST_F(EditorView, TextsAreEditedInPlace) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !view.findChild<QLineEdit*>(); }));
     }
     EXPECT_EQ(changed.size(), 4);
+}
+
+TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
+    delegate.setColorPanel([](const QColor&) { return QColor(1, 2, 3); });
+    delegate.setFilePanel([](const QString&, const QStringList&) { return text("/new.png"); });
+    view.setFocus();
+    const auto press = [&](const char* key, Qt::Key with) {
+        view.setCurrentIndex(model.index(0, FlashTemplateModel::key));
+        while (FlashTemplateModel::item(view.currentIndex())->key() != text(key))
+            QTest::keyClick(&view, Qt::Key_Down);
+        QTest::keyClick(&view, with);
+    };
+    const auto editors = [&] {
+        auto open = view.viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        open.removeIf([](const QWidget* editor) { return !editor->isVisible(); });
+        return open;
+    };
+    const auto editorIsClosed = [&] {
+        return QTest::qWaitFor([&] { return editors().isEmpty(); });
+    };
+    const auto type = [&](const QString& typed, Qt::Key end) {
+        ASSERT_EQ(editors().size(), 1);
+        QWidget* edit = editors().first();
+        QTest::keyClicks(edit, typed);
+        QTest::keyClick(edit, end);
+    };
+    int typed = 0;
+    for (const char* key : {"words", "count", "color", "picture"}) {
+        for (const auto with : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}) {
+            press(key, with);
+            type(QString::number(++typed), Qt::Key_Return);
+            EXPECT_TRUE(editorIsClosed());
+            EXPECT_EQ(value(key), QString::number(typed)) << key;
+        }
+    }
+    press("words", Qt::Key_Space);
+    type(text("by"), Qt::Key_Tab);
+    EXPECT_EQ(value("words"), text("by"));
+    type(text("0.8"), Qt::Key_Backtab);
+    EXPECT_EQ(value("count"), text("0.8"));
+    type(text("0,8"), Qt::Key_Return);
+    EXPECT_TRUE(editorIsClosed());
+    EXPECT_EQ(value("words"), text("0,8"));
+    press("color", Qt::Key_Space);
+    EXPECT_EQ(value("color"), text("0x010203"));
+    press("picture", Qt::Key_Space);
+    EXPECT_EQ(value("picture"), text("/new.png"));
+    QString was = value("choice");
+    for (const auto with : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Space}) {
+        for (const auto end : {Qt::Key_Escape, Qt::Key_Return}) {
+            press("choice", with);
+            const auto* list = qobject_cast<QComboBox*>(editors().value(0));
+            ASSERT_TRUE(list && QTest::qWaitFor([&] { return list->view()->isVisible(); }));
+            QTest::keyClick(list->view(), was == text("c") ? Qt::Key_Up : Qt::Key_Down);
+            QTest::keyClick(list->view(), end);
+            EXPECT_TRUE(editorIsClosed());
+            EXPECT_EQ(value("choice") == was, end == Qt::Key_Escape);
+        }
+        was = value("choice");
+    }
+    for (const auto with : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Space}) {
+        const QString before = value("flag");
+        press("flag", with);
+        EXPECT_NE(value("flag"), before);
+    }
 }
 
 TEST_F(EditorView, TheSwatchStaysFreeWhileItsTextIsEdited) {
