@@ -65,6 +65,17 @@ bool isEditedAsText(const QModelIndex& index) {
     return index.flags().testFlag(Qt::ItemIsEditable) && type != pt_bool && type != pt_list;
 }
 
+// Players read numbers with a point, whatever the user's country writes.
+void takeCommasAsPoints(QLineEdit& edit) {
+    QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&edit](QString text) {
+        if (!text.contains(u','))
+            return;
+        const int cursor = edit.cursorPosition();
+        edit.setText(text.replace(u',', u'.'));
+        edit.setCursorPosition(cursor);
+    });
+}
+
 bool isLeftButton(const QEvent& event, QEvent::Type type) {
     return event.type() == type &&
            static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
@@ -181,6 +192,8 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
         auto* edit = new QLineEdit(parent);
         edit->setFrame(false);
         edit->setAccessibleName(TemplateTexts::shown(item->title()));
+        if (item->propertyType() == pt_number)
+            takeCommasAsPoints(*edit);
         return edit;
     }
     auto* list = new ListEditor(parent);
