@@ -10,12 +10,15 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 ImportWindow::ImportWindow(QWidget* parent)
     : Sheet(tr("Import a PDF"), parent), btnOK(new QPushButton(tr("&Import"))) {
     makeFileField();
     importQuality = new QComboBox;
+    // The usual one does not know of style sheets.
+    importQuality->setItemDelegate(new QStyledItemDelegate(importQuality));
     //: The quality of the pictures of the pages, from the best to the worst.
     importQuality->addItems(
         {tr("Best, for zooming in"), tr("High"), tr("Medium"), tr("Low"), tr("Smallest files")});

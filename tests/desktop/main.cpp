@@ -1,3 +1,5 @@
+#include "app/desktop/LinedStyle.h"
+
 #include <QApplication>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
@@ -16,6 +18,6 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("FolveroDesktopTests"));
     QCoreApplication::setApplicationName(QStringLiteral("FolveroDesktopTests"));
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new LinedStyle);
     return RUN_ALL_TESTS();
 }

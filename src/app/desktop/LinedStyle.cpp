@@ -16,12 +16,27 @@ bool isLined(QStyle::PrimitiveElement element) {
            element == QStyle::PE_FrameLineEdit;
 }
 
+// Fusion fills the frame and so tints the text; on a selected line its edge is hardly seen.
+void drawFocusOfItem(const QStyleOption& option, QPainter& painter) {
+    const auto role = option.state.testFlag(QStyle::State_Selected) ? QPalette::HighlightedText
+                                                                    : QPalette::Highlight;
+    painter.save();
+    painter.setPen(option.palette.color(role));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(option.rect.adjusted(1, 1, -2, -2));
+    painter.restore();
+}
+
 } // namespace
 
 LinedStyle::LinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
 void LinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
+    if (element == PE_FrameFocusRect && option->state.testFlag(State_Item)) {
+        drawFocusOfItem(*option, *painter);
+        return;
+    }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isDark = option->palette.color(QPalette::Window).lightness() < darkBelow;
     // The line around what has the keyboard is bright already.

@@ -3,7 +3,8 @@
 #include <QProxyStyle>
 
 // The toolkit's own style, with lines around fields and boxes that can be seen on a dark window as
-// well: it draws them darker than their ground, however dark that is.
+// well: it draws them darker than their ground, however dark that is. A line alone shows which line
+// of a list has the keyboard.
 class LinedStyle : public QProxyStyle {
 public:
     LinedStyle();

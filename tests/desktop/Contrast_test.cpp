@@ -1,0 +1,118 @@
+#include "app/desktop/Appearance.h"
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MainWindow.h"
+#include "desktop/DesktopProgram.h"
+#include "ui/FlashTemplateOutline.h"
+#include "ui/ImportWindow.h"
+#include "ui/ImportWindowDelegate.h"
+#include "ui/SelectTemplateWindow.h"
+#include "ui/SelectTemplateWindowDelegate.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QComboBox>
+#include <QHash>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString text(const char* latin1) {
+    return QString::fromLatin1(latin1);
+}
+
+// As WCAG 2 has it.
+double luminance(QRgb color) {
+    const auto linear = [](int part) {
+        const double value = part / 255.0;
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
+           0.0722 * linear(qBlue(color));
+}
+
+// Of what stands out most in a picture against the colour that it has most of.
+double contrast(const QImage& picture) {
+    QHash<QRgb, int> colors;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            ++colors[picture.pixel(x, y)];
+    }
+    const QRgb ground = std::max_element(colors.cbegin(), colors.cend()).key();
+    double best = 1;
+    for (const QRgb color : colors.keys()) {
+        const auto [low, high] = std::minmax({luminance(color), luminance(ground)});
+        best = std::max(best, (high + 0.05) / (low + 0.05));
+    }
+    return best;
+}
+
+// Without its edge, where there may be a frame.
+QImage inside(QWidget& widget, const QRect& rect) {
+    return widget.grab(rect.adjusted(4, 4, -4, -4)).toImage();
+}
+
+QImage chosen(QAbstractItemView& view) {
+    return inside(*view.viewport(), view.visualRect(view.currentIndex()));
+}
+
+QImage chosenInPopup(QComboBox& list) {
+    list.showPopup();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.view()->isVisible(); }));
+    const QImage picture = chosen(*list.view());
+    list.hidePopup();
+    return picture;
+}
+
+class Contrast : public DesktopProgram {
+protected:
+    QHash<QString, QImage> highlights() {
+        QHash<QString, QImage> all;
+        auto* settings = window().outlineView;
+        for (const char* key : {"topMargin", "mainbgImgPosition", "RightToLeft"}) {
+            const QModelIndex value = valueOf(text(key));
+            all[text(key)] = chosen(*settings);
+            all[text(key) + text(" title")] =
+                inside(*settings->viewport(), settings->visualRect(value.siblingAtColumn(0)));
+        }
+        settings->edit(valueOf(text("mainbgImgPosition")));
+        all[text("choices of a setting")] = chosenInPopup(*settings->findChild<QComboBox*>());
+        window().menu->importPDF->trigger();
+        auto& import = program->importWindow();
+        all[text("quality")] = chosenInPopup(*import.window().importQuality);
+        import.onCancelAction();
+        program->onSelectTemplate();
+        auto& chooser = program->selecteTmplWindow();
+        all[text("templates")] = chosen(*chooser.window().iTableViewTmpls);
+        const QImage style = chosen(*chooser.window().iImgBrowserView);
+        all[text("styles")] = style.copy(style.rect().adjusted(0, style.height() - 24, 0, 0));
+        chooser.onCancel();
+        auto& menu = *window().menuBar()->actions().first()->menu();
+        menu.popup({});
+        menu.setActiveAction(window().menu->importPDF);
+        all[text("menu")] = inside(menu, menu.actionGeometry(window().menu->importPDF));
+        menu.close();
+        return all;
+    }
+};
+
+} // namespace
+
+TEST_F(Contrast, ChosenLineOfEveryListCanBeRead) {
+    // Letters with strokes of whole pixels.
+    const QFont usual = QApplication::font();
+    QApplication::setFont(QFont(usual.family(), 20, QFont::Bold));
+    launch();
+    const auto choices = window().menu->appearance->actions();
+    for (const auto choice : {Appearance::dark, Appearance::light}) {
+        choices.at(choice)->trigger();
+        const auto all = highlights();
+        for (auto it = all.cbegin(); it != all.cend(); ++it)
+            EXPECT_GE(contrast(it.value()), 4.5) << it.key().toStdString() << ", " << choice;
+    }
+    QApplication::setFont(usual);
+}
