@@ -53,6 +53,14 @@
         <extracomment>The help in your language; keep the path as it is until there is one.</extracomment>
         <translation>PDF to Folvero for mac Help/PDF to Folvero for Mac.de.pdf</translation>
     </message>
+    <message>
+        <source>Replace %1?</source>
+        <translation>%1 ersetzen?</translation>
+    </message>
+    <message>
+        <source>A file of this name is already in the folder. What is in it would be lost.</source>
+        <translation>Eine Datei dieses Namens liegt schon in dem Ordner. Ihr Inhalt ginge verloren.</translation>
+    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
@@ -767,6 +775,14 @@ Free software under the GNU Affero General Public License, version 3 or later. I
         <translation>Macht aus PDF-Dokumenten Bücher zum Blättern für jeden Browser.
 
 Freie Software unter der GNU Affero General Public License, Version 3 oder später. Ohne jede Gewährleistung.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>

@@ -69,6 +69,19 @@ bool Panels::askToOpen(const QString& message, const QString& information) {
     return alert.clickedButton() == openIt;
 }
 
+bool Panels::askToReplace(const QString& message, const QString& information) {
+    QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
+                      QMessageBox::NoButton, QApplication::activeWindow());
+    alert.setInformativeText(information);
+    const QAbstractButton* replace =
+        alert.addButton(QCoreApplication::translate("Panels", "Replace"), QMessageBox::AcceptRole);
+    alert.setDefaultButton(
+        alert.addButton(QCoreApplication::translate("Panels", "Cancel"), QMessageBox::RejectRole));
+    PlainText::show(alert);
+    alert.exec();
+    return alert.clickedButton() == replace;
+}
+
 void Panels::tell(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
                       QMessageBox::Ok, QApplication::activeWindow());

@@ -12,7 +12,8 @@ namespace Panels {
 // without any every file may be chosen.
 std::optional<QString> chooseFile(const QString& proposed, const QStringList& types);
 
-// Where to save; none when the panel is cancelled. The types are as above.
+// Where to save; none when the panel is cancelled. The types are as above. A file that is there
+// already is asked for, under the name as it is returned.
 std::optional<QString> chooseFileToSave(const QString& proposed, const QStringList& types);
 
 // The initial colour when the panel is cancelled.
@@ -23,6 +24,9 @@ std::optional<QString> chooseFolder(const QString& prompt);
 
 // True for "Open it".
 bool askToOpen(const QString& message, const QString& information);
+
+// True when the user wants to replace what would be lost; the safe answer is the default one.
+bool askToReplace(const QString& message, const QString& information);
 
 void tell(const QString& message, const QString& information);
 

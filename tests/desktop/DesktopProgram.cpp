@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QSettings>
 #include <QTest>
+#include <utility>
 
 namespace {
 
@@ -30,7 +31,13 @@ DesktopProgram::DesktopProgram() {
     Folders::setMachineRoot(files.path());
     program = std::make_unique<BrisleafAppDelegate>();
     program->setQuestions({[this](const QString&, const QStringList&) { return fileToOpen; },
-                           [this](const QString&, const QStringList&) { return fileToSave; },
+                           [this](const QString&, const QStringList&) {
+                               return std::exchange(fileToSave, std::nullopt);
+                           },
+                           [this](const QString& message, const QString&) {
+                               losses << message;
+                               return replaces;
+                           },
                            [this](const QColor& initial) { return color.value_or(initial); },
                            [this](const QString& path) { opened << path; }, [] {}});
 }

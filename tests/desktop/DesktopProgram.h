@@ -43,7 +43,9 @@ protected:
     QTemporaryDir files;
     std::unique_ptr<BrisleafAppDelegate> program;
     std::optional<QString> fileToOpen;
-    std::optional<QString> fileToSave;
+    std::optional<QString> fileToSave; // asked for once
+    bool replaces = false;
+    QStringList losses; // what the user was asked to replace
     std::optional<QColor> color;
     QStringList opened;
 };

@@ -3,6 +3,7 @@
 #include "app/desktop/MessageBar.h"
 #include "desktop/DesktopProgram.h"
 #include "platform/Bundle.h"
+#include "support/TemplateLibrary.h"
 #include "ui/SelectTemplateWindow.h"
 #include "ui/SelectTemplateWindowDelegate.h"
 
@@ -123,7 +124,21 @@ TEST_F(Editing, SettingsGoToAFileAndComeBack) {
     EXPECT_EQ(published("Properties/Top"), text("12"));
     fileToSave = path(text("no/such/folder/mine.txt"));
     window().menu->exportSettings->trigger();
-    EXPECT_TRUE(window().messages->message().contains(*fileToSave));
+    EXPECT_TRUE(window().messages->message().contains(text("no/such/folder/mine.txt")));
+}
+
+TEST_F(Editing, FileOfSettingsIsNotReplacedUnasked) {
+    const auto save = [this](bool isReplaced) {
+        replaces = isReplaced;
+        fileToSave = path(text("mine"));
+        window().menu->exportSettings->trigger();
+        return TestFiles::read(path(text("mine.txt")));
+    };
+    TestFiles::write(path(text("mine.txt")), "of another book");
+    EXPECT_EQ(save(false), "of another book");
+    EXPECT_EQ(losses.size(), 1);
+    EXPECT_TRUE(losses.value(0).contains(text("mine.txt")));
+    EXPECT_NE(save(true), "of another book");
 }
 
 TEST_F(Editing, AnotherStyleKeepsThePageSizeAndClearsTheHistory) {

@@ -186,15 +186,29 @@ void BrisleafAppDelegate::OnExportFlipBook() {
     iOuputWindow->beginSheet();
 }
 
+// The panel asks before a file is replaced, but it does not know of the ending that is added.
+std::optional<QString> BrisleafAppDelegate::settingsFileToSave() const {
+    QString proposed = QStringLiteral("tmplSetting.txt");
+    while (true) {
+        std::optional<QString> file = iQuestions.fileToSave(proposed, {settingsFileType});
+        if (!file || !Files::pathExtension(*file).isEmpty())
+            return file;
+        *file += u'.' + settingsFileType;
+        if (!QFileInfo::exists(*file) ||
+            iQuestions.replace(tr("Replace %1?").arg(QFileInfo(*file).fileName()),
+                               tr("A file of this name is already in the folder. What is in it "
+                                  "would be lost.")))
+            return file;
+        proposed = *file;
+    }
+}
+
 void BrisleafAppDelegate::OnExportTmplSettings() {
     if (!iFlashTmpl)
         return;
-    std::optional<QString> file =
-        iQuestions.fileToSave(QStringLiteral("tmplSetting.txt"), {settingsFileType});
+    const std::optional<QString> file = settingsFileToSave();
     if (!file)
         return;
-    if (Files::pathExtension(*file).isEmpty())
-        *file += u'.' + settingsFileType;
     Message cause;
     if (!iFlashTmpl->exportPropertiesSettingsTo(*file, &cause))
         iWindow->messages->tell(tr("The settings were not saved to %1.").arg(*file), cause.local());

@@ -38,14 +38,15 @@ public:
     // book.
     void previewDemo();
 
-    // How the user is asked for files (none when cancelled) and for a colour, how a file is opened
-    // in the program that the system uses for it, and how the about box is shown. To be set before
-    // the launch.
+    // How the user is asked for files (none when cancelled), whether to replace what is there, and
+    // for a colour, how a file is opened in the program that the system uses for it, and how the
+    // about box is shown. To be set before the launch.
     struct Questions {
         std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>
             fileToOpen;
         std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>
             fileToSave;
+        std::function<bool(const QString& message, const QString& information)> replace;
         std::function<QColor(const QColor& initial)> color;
         std::function<void(const QString& path)> open;
         std::function<void()> about;
@@ -99,6 +100,7 @@ private:
     void showTemplate(const QString& name);
     void connectCommands();
     void observeEditor();
+    std::optional<QString> settingsFileToSave() const;
     void updateTmplPropertyTip();
     void tmplPpertyValueChanged();
     void onTimerEvent();

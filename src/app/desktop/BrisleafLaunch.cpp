@@ -37,8 +37,9 @@ constexpr int indentationPerLevel = 8;
 } // namespace
 
 BrisleafAppDelegate::BrisleafAppDelegate()
-    : iQuestions{Panels::chooseFile, Panels::chooseFileToSave, Panels::chooseColor, Panels::open,
-                 Panels::about},
+    : iQuestions{Panels::chooseFile,   Panels::chooseFileToSave,
+                 Panels::askToReplace, Panels::chooseColor,
+                 Panels::open,         Panels::about},
       iHistory([this] { valuesWereUndone(); }) {}
 
 BrisleafAppDelegate::~BrisleafAppDelegate() {
