@@ -658,8 +658,8 @@
         <translation>Die Bilder dieser Seiten sind nicht mehr da: %1. Importieren Sie das Dokument noch einmal und veröffentlichen Sie dann neu.</translation>
     </message>
     <message>
-        <source>Making the web book…</source>
-        <translation>Das Webbuch entsteht …</translation>
+        <source>Making the web book… %1%</source>
+        <translation>Das Webbuch entsteht … %1 %</translation>
     </message>
 </context>
 <context>

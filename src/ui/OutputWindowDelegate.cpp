@@ -18,9 +18,11 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QStandardPaths>
 
 namespace {
@@ -28,6 +30,30 @@ namespace {
 const Log& logger() {
     static const Log log("OutputWindowDelegate");
     return log;
+}
+
+constexpr int progressWidth = 340;
+
+// Closes only with the run that it belongs to. Its bar is too low for a text.
+std::unique_ptr<QProgressDialog> progressWindow(QWidget* parent) {
+    auto dialog = std::make_unique<QProgressDialog>(parent);
+    constexpr int patienceMilliseconds = 400;
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->setMinimumDuration(patienceMilliseconds);
+    dialog->setMinimumWidth(progressWidth);
+    dialog->setAutoReset(false);
+    dialog->setAutoClose(false);
+    auto* bar = new QProgressBar;
+    bar->setTextVisible(false);
+    dialog->setBar(bar);
+    return dialog;
+}
+
+void showProgress(QProgressDialog& dialog, int done, int total) {
+    dialog.setLabelText(OutputWindowDelegate::tr("Making the web book… %1%")
+                            .arg(total > 0 ? 100LL * done / total : 0));
+    dialog.setMaximum(total);
+    dialog.setValue(done);
 }
 
 } // namespace
@@ -50,6 +76,8 @@ OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
     connect(iWindow->btnOpenFolder, &QPushButton::clicked, this,
             &OutputWindowDelegate::onOpenFolder);
 }
+
+OutputWindowDelegate::~OutputWindowDelegate() = default;
 
 void OutputWindowDelegate::awakeFromNib() {
     const auto& settings = AppSettings::shareInstance();
@@ -113,7 +141,7 @@ QString OutputWindowDelegate::pageName() const {
 }
 
 // The application takes its name from the same text: it replaces the ending.
-std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() const {
+std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     const QString folder = iWindow->txtOutputFolder->text();
     const QString name = pageName();
     if (AppSettings::shareInstance().outputType() == OutputWindow::application)
@@ -127,23 +155,14 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() const {
 
 // Pages are drawn once more, which takes as long as an import.
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString& folder,
-                                                                   const QString& name) const {
+                                                                   const QString& name) {
     auto output = std::make_unique<FolveroOutputWeb>(iFlashPageSource, iFlashTmpl, folder, name);
     output->setTitle(AppSettings::shareInstance().lastOutputFileTitle());
     output->setSingleFile(iWindow->chkSingleFile->isChecked());
-    const auto dialog = std::make_shared<QProgressDialog>(iWindow);
-    constexpr int patienceMilliseconds = 400;
-    dialog->setWindowModality(Qt::WindowModal);
-    dialog->setMinimumDuration(patienceMilliseconds);
-    dialog->setLabelText(tr("Making the web book…"));
-    dialog->setValue(0);
-    output->setProgress([dialog](int done, int total) {
-        dialog->setMaximum(total);
-        dialog->setValue(done);
-    });
-    output->setCancelled([dialog] {
+    output->setProgress([this](int done, int total) { showProgress(*iProgress, done, total); });
+    output->setCancelled([this] {
         QCoreApplication::processEvents();
-        return dialog->wasCanceled();
+        return iProgress->wasCanceled();
     });
     return output;
 }
@@ -161,13 +180,21 @@ void OutputWindowDelegate::onPublish() {
     endSheet(1);
 }
 
+// The progress window ends with the run: it would stay open under the question that follows.
+void OutputWindowDelegate::run(FolveroOutput& output) {
+    const auto end = qScopeGuard([this] { iProgress.reset(); });
+    iProgress = progressWindow(iWindow);
+    showProgress(*iProgress, 0, 1);
+    output.ouputTheBook();
+}
+
 void OutputWindowDelegate::publish(FolveroOutput& output) {
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(AppSettings::shareInstance().lastOutputFileTitle().toHtmlEscaped());
     output.setHTMLConfig(html);
     output.setFlashPagesAnnotations(iFlashPagesAnnotations);
     output.setFlashOutline(iFlashOutline);
-    output.ouputTheBook();
+    run(output);
     if (output.wasCancelled())
         return;
     const QString result = output.outputFileName();

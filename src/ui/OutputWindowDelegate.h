@@ -8,6 +8,7 @@
 #include <optional>
 
 class OutputWindow;
+class QProgressDialog;
 
 // Runs the publish sheet: takes the user's choices, publishes while the sheet is up, and offers to
 // open the result. The sheet ends with 1 after a publish, whatever came of it, and 0 without one.
@@ -16,6 +17,7 @@ class OutputWindowDelegate : public QObject {
 
 public:
     explicit OutputWindowDelegate(QWidget* parent = nullptr);
+    ~OutputWindowDelegate() override;
 
     OutputWindow& window() const { return *iWindow; }
     void beginSheet();
@@ -62,9 +64,10 @@ private:
     void showState();
     QString pageName() const;
     void saveChoices() const;
-    std::unique_ptr<FolveroOutput> makeOutput() const;
-    std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name) const;
+    std::unique_ptr<FolveroOutput> makeOutput();
+    std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name);
     void publish(FolveroOutput& output);
+    void run(FolveroOutput& output);
     void endSheet(int returnCode);
 
     OutputWindow* iWindow;
@@ -76,4 +79,6 @@ private:
     QString iProposedFolder;
     QString iProposedTitle;
     Questions iQuestions;
+    // Of the run under way.
+    std::unique_ptr<QProgressDialog> iProgress;
 };

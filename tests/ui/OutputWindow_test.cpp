@@ -14,9 +14,12 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QProgressBar>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
@@ -46,6 +49,8 @@ protected:
                              },
                              [this](const QString& message, const QString& information) {
                                  questions << message << information;
+                                 progressUnderQuestions +=
+                                     window().findChildren<QProgressDialog*>().size();
                                  return openAnswer;
                              },
                              [this](const QString& path) { opened << path; },
@@ -69,6 +74,7 @@ protected:
     bool openAnswer = false;
     QStringList prompts, questions, opened, told;
     QList<int> ended;
+    qsizetype progressUnderQuestions = 0;
 };
 
 } // namespace
@@ -118,6 +124,25 @@ TEST_F(PublishSheet, ProposesWhatWasNeverChosenAndAsksForTheRest) {
     window().txtOutputName->setText(text("trip"));
     window().txtOutputFolder->clear();
     EXPECT_FALSE(window().btnPublish->isEnabled());
+}
+
+TEST_F(PublishSheet, ProgressOfAWebBookIsShownAsTextAndEndsBeforeTheQuestion) {
+    installWebPlayer();
+    QStringList labels;
+    for (int run = 0; run < 2; ++run) {
+        open();
+        window().mOutputType->button(OutputWindow::webBook)->click();
+        QTimer::singleShot(0, &window(), [&] {
+            const auto* progress = window().findChild<QProgressDialog*>();
+            ASSERT_TRUE(progress);
+            labels << progress->labelText();
+            EXPECT_FALSE(progress->findChild<QProgressBar*>()->isTextVisible());
+        });
+        click(window().btnPublish);
+        EXPECT_EQ(questions.size(), 2 * (run + 1));
+    }
+    EXPECT_EQ(labels.filter(text("%")).size(), 2) << labels.join(u'|').toStdString();
+    EXPECT_EQ(progressUnderQuestions, 0);
 }
 
 TEST_F(PublishSheet, PageWhosePictureHasGoneIsTold) {
