@@ -661,6 +661,22 @@
         <source>Making the web book… %1%</source>
         <translation>Das Webbuch entsteht … %1 %</translation>
     </message>
+    <message>
+        <source>Replace what is already there?</source>
+        <translation>Ersetzen, was dort schon liegt?</translation>
+    </message>
+    <message>
+        <source>This is not part of a book and would be lost:</source>
+        <translation>Dies gehört zu keinem Buch und ginge verloren:</translation>
+    </message>
+    <message>
+        <source>The book in %1 would be lost.</source>
+        <translation>Das Buch in %1 ginge verloren.</translation>
+    </message>
+    <message>
+        <source>The book “%1” in %2 would be lost.</source>
+        <translation>Das Buch „%1“ in %2 ginge verloren.</translation>
+    </message>
 </context>
 <context>
     <name>PDFDocument</name>

@@ -1,6 +1,8 @@
 #include "ui/OutputWindowDelegate.h"
 
 #include "app/AppSettings.h"
+#include "app/PublishedBooks.h"
+#include "output/EarlierBook.h"
 #include "output/EmbedSnippet.h"
 #include "output/FolveroOutputApp.h"
 #include "output/FolveroOutputWeb.h"
@@ -24,6 +26,7 @@
 #include <QRadioButton>
 #include <QScopeGuard>
 #include <QStandardPaths>
+#include <utility>
 
 namespace {
 
@@ -33,6 +36,7 @@ const Log& logger() {
 }
 
 constexpr int progressWidth = 340;
+constexpr qsizetype mostFilesNamed = 3;
 
 // Closes only with the run that it belongs to. Its bar is too low for a text.
 std::unique_ptr<QProgressDialog> progressWindow(QWidget* parent) {
@@ -60,7 +64,8 @@ void showProgress(QProgressDialog& dialog, int done, int total) {
 
 OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
     : iWindow(new OutputWindow(parent)),
-      iQuestions{Panels::chooseFolder, Panels::askToOpen, Panels::open, Panels::tell} {
+      iQuestions{Panels::chooseFolder, Panels::askToReplace, Panels::askToOpen, Panels::open,
+                 Panels::tell} {
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     awakeFromNib();
@@ -94,21 +99,28 @@ void OutputWindowDelegate::beginSheet() {
     iWindow->open();
 }
 
-// What most people would type, for a book that nobody has published before. Another document gets
-// other proposals: it must not end up in the folder of the one before. What the user has typed
-// stays.
+// The first time there is no telling whose the texts of the last run are.
+void OutputWindowDelegate::setDocument(const QString& path, const QString& name) {
+    iIsOtherDocument = iIsOtherDocument || iDocumentName.isNull() || path != iDocument;
+    iDocument = path;
+    iDocumentName = name;
+}
+
+// What the document was published with, or what most people would type. What was typed for another
+// document goes: this one must not end up in that one's folder, or under its title.
 void OutputWindowDelegate::proposeTexts() {
-    const auto propose = [](QLineEdit* field, QString& proposed, const QString& text) {
-        if (field->text().isEmpty() || field->text() == proposed)
+    const bool isOther = std::exchange(iIsOtherDocument, false);
+    const auto propose = [](QLineEdit* field, const QString& text, bool always) {
+        if (always || field->text().isEmpty())
             field->setText(text);
-        proposed = text;
     };
+    const auto book = isOther ? PublishedBooks::of(iDocument) : std::nullopt;
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString parent = QFileInfo::exists(documents) ? documents : QDir::homePath();
-    propose(iWindow->txtOutputFolder, iProposedFolder, Files::join(parent, iDocumentName));
-    propose(iWindow->txtTitle, iProposedTitle, iDocumentName);
-    if (iWindow->txtOutputName->text().isEmpty())
-        iWindow->txtOutputName->setText(QStringLiteral("index"));
+    propose(iWindow->txtOutputFolder, book ? book->folder : Files::join(parent, iDocumentName),
+            isOther);
+    propose(iWindow->txtTitle, book ? book->title : iDocumentName, isOther);
+    propose(iWindow->txtOutputName, book ? book->name : QStringLiteral("index"), book.has_value());
 }
 
 // Without a folder or a name there is no telling where the book would end up.
@@ -167,10 +179,14 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString
     return output;
 }
 
+// Without the user's yes the sheet stays, to choose another folder.
 void OutputWindowDelegate::onPublish() {
     saveChoices();
     {
         const auto output = makeOutput();
+        const QString lost = whatWouldBeLost(*output);
+        if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
+            return;
         try {
             publish(*output);
         } catch (const PlatformException& failure) {
@@ -178,6 +194,36 @@ void OutputWindowDelegate::onPublish() {
         }
     }
     endSheet(1);
+}
+
+// The document's own earlier book is what it is published for.
+QString OutputWindowDelegate::whatWouldBeLost(const FolveroOutput& output) const {
+    QStringList lost;
+    if (const QStringList files = output.foreignFiles(); !files.isEmpty())
+        lost << tr("This is not part of a book and would be lost:") << files.mid(0, mostFilesNamed)
+             << QStringList(files.size() > mostFilesNamed, QStringLiteral("…"));
+    const auto own = PublishedBooks::of(iDocument);
+    const QString where = place(output);
+    const QString title = output.titleOfEarlierBook();
+    const bool isBook = !title.isNull() || EarlierBook::isIn(Files::join(output.saveToFolder(),
+                                                                         QStringLiteral("files")));
+    if (isBook && !(own && own->place == where)) {
+        lost << (title.isEmpty() ? tr("The book in %1 would be lost.").arg(where)
+                                 : tr("The book “%1” in %2 would be lost.").arg(title, where));
+    }
+    return lost.join(u'\n');
+}
+
+QString OutputWindowDelegate::place(const FolveroOutput& output) {
+    const bool isApplication =
+        AppSettings::shareInstance().outputType() == OutputWindow::application;
+    return QDir::cleanPath(isApplication ? output.outputFileName() : output.saveToFolder());
+}
+
+void OutputWindowDelegate::rememberBook(const FolveroOutput& output) const {
+    PublishedBooks::add(iDocument,
+                        {iWindow->txtOutputFolder->text(), iWindow->txtOutputName->text(),
+                         iWindow->txtTitle->text(), place(output)});
 }
 
 // The progress window ends with the run: it would stay open under the question that follows.
@@ -206,6 +252,7 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
         iQuestions.tell(tr("The book was not published"), cause);
         return;
     }
+    rememberBook(output);
     if (const auto& missing = output.missingPages(); !missing.empty()) {
         QStringList pages;
         for (const int page : missing)

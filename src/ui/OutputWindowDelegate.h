@@ -38,13 +38,16 @@ public:
         iFlashPagesAnnotations = std::move(value);
     }
 
-    // What the folder and the title are proposed after.
-    void setDocumentName(const QString& name) { iDocumentName = name; }
+    // Whose book it is: the path of the document's file, empty for the demo book. Folder and title
+    // are those that it was published with last, or are proposed after its name.
+    void setDocument(const QString& path, const QString& name);
 
-    // How the user is asked: for a folder (none when cancelled), whether to open the result (true
-    // for yes), and how a file or folder is opened and a failure told.
+    // How the user is asked: for a folder (none when cancelled), whether to replace what would be
+    // lost and whether to open the result (true for yes), and how a file or folder is opened and a
+    // failure told.
     struct Questions {
         std::function<std::optional<QString>(const QString& prompt)> folder;
+        std::function<bool(const QString& message, const QString& information)> replace;
         std::function<bool(const QString& message, const QString& information)> openResult;
         std::function<void(const QString& path)> open;
         std::function<void(const QString& message, const QString& information)> tell;
@@ -66,6 +69,11 @@ private:
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput();
     std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name);
+    // What a publish would replace and somebody may want to keep; empty for nothing.
+    QString whatWouldBeLost(const FolveroOutput& output) const;
+    // What a publish replaces as a whole.
+    static QString place(const FolveroOutput& output);
+    void rememberBook(const FolveroOutput& output) const;
     void publish(FolveroOutput& output);
     void run(FolveroOutput& output);
     void endSheet(int returnCode);
@@ -75,9 +83,10 @@ private:
     std::shared_ptr<FlashTemplate> iFlashTmpl;
     std::shared_ptr<FlashOutline> iFlashOutline;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
+    QString iDocument;
     QString iDocumentName;
-    QString iProposedFolder;
-    QString iProposedTitle;
+    // The fields still hold what was typed for another document.
+    bool iIsOtherDocument = false;
     Questions iQuestions;
     // Of the run under way.
     std::unique_ptr<QProgressDialog> iProgress;

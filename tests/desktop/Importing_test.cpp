@@ -150,6 +150,7 @@ TEST_F(Importing, BookIsPublishedFromTheSheetInBothForms) {
     auto& publish = program->ouputWindow();
     publish.setQuestions(
         {[](const QString&) { return std::optional<QString>(); },
+         [](const QString&, const QString&) { return false; },
          [](const QString&, const QString&) { return true; },
          [this](const QString& path) { opened << path; },
          [](const QString&, const QString& cause) { ADD_FAILURE() << cause.toStdString(); }});
@@ -164,4 +165,8 @@ TEST_F(Importing, BookIsPublishedFromTheSheetInBothForms) {
     const QString inside = path(text("out/tea.app/Contents/Resources"));
     for (const QString& book : {path(text("out")), inside})
         EXPECT_EQ(BookReader::configuration(book).at(text("Ppts")).children.size(), 3u);
+    startImport(pdf(2));
+    ASSERT_TRUE(waitForImport());
+    window().menu->exportFlipBook->trigger();
+    EXPECT_EQ(QFileInfo(publish.window().txtOutputFolder->text()).fileName(), text("2 pages"));
 }

@@ -18,6 +18,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -31,7 +32,11 @@ QString text(const char* latin1) {
 class PublishSheet : public testing::Test {
 protected:
     PublishSheet() {
+        QSettings().clear();
         book.addPage(text("1.jpg"), 1, "first");
+        book.library.addFile(
+            text("AppFiles/Templates/float/index.html"),
+            "<meta name=\"generator\" content=\"Folvero\"><title>${index.title}</title>");
         auto& settings = AppSettings::shareInstance();
         settings.setLastOutputFileFolder(book.folder());
         settings.setLastOutputFileName(text("mybook"));
@@ -46,6 +51,10 @@ protected:
         sheet->setQuestions({[this](const QString& prompt) {
                                  prompts << prompt;
                                  return folderAnswer;
+                             },
+                             [this](const QString&, const QString& lost) {
+                                 losses << lost;
+                                 return replaceAnswer;
                              },
                              [this](const QString& message, const QString& information) {
                                  questions << message << information;
@@ -71,8 +80,8 @@ protected:
     PublishedBook book;
     std::unique_ptr<OutputWindowDelegate> sheet;
     std::optional<QString> folderAnswer;
-    bool openAnswer = false;
-    QStringList prompts, questions, opened, told;
+    bool replaceAnswer = false, openAnswer = false;
+    QStringList prompts, losses, questions, opened, told;
     QList<int> ended;
     qsizetype progressUnderQuestions = 0;
 };
@@ -93,7 +102,7 @@ TEST_F(PublishSheet, PublishesAPageIntoAFolderThatItMakes) {
     open();
     window().txtOutputFolder->setText(book.folder() + text("/new"));
     click(window().btnPublish);
-    EXPECT_EQ(book.read(text("new/mybook.html")), "<title>Tea &amp; cake</title>");
+    EXPECT_TRUE(book.read(text("new/mybook.html")).endsWith("<title>Tea &amp; cake</title>"));
     EXPECT_EQ(book.read(text("new/files/page/1.jpg")), "first");
     EXPECT_EQ(questions, (QStringList{text("Open the result files?"),
                                       text("Publish finished! Open the it?")}));
@@ -106,7 +115,7 @@ TEST_F(PublishSheet, ProposesWhatWasNeverChosenAndAsksForTheRest) {
     open();
     for (auto* field : {window().txtOutputFolder, window().txtOutputName, window().txtTitle})
         field->clear();
-    sheet->setDocumentName(text("Field trip"));
+    sheet->setDocument(text("/docs/Field trip.pdf"), text("Field trip"));
     sheet->beginSheet();
     EXPECT_EQ(QFileInfo(window().txtOutputFolder->text()).fileName(), text("Field trip"));
     EXPECT_TRUE(QFileInfo(window().txtOutputFolder->text()).dir().exists());
@@ -114,16 +123,66 @@ TEST_F(PublishSheet, ProposesWhatWasNeverChosenAndAsksForTheRest) {
     EXPECT_EQ(window().txtTitle->text(), text("Field trip"));
     EXPECT_TRUE(window().btnPublish->isEnabled());
     window().txtTitle->setText(text("My title"));
-    sheet->setDocumentName(text("Chronicle"));
     sheet->beginSheet();
-    EXPECT_EQ(QFileInfo(window().txtOutputFolder->text()).fileName(), text("Chronicle"))
-        << "the earlier book would be replaced";
     EXPECT_EQ(window().txtTitle->text(), text("My title"));
     window().txtOutputName->setText(text(" "));
     EXPECT_FALSE(window().btnPublish->isEnabled());
     window().txtOutputName->setText(text("trip"));
     window().txtOutputFolder->clear();
     EXPECT_FALSE(window().btnPublish->isEnabled());
+}
+
+TEST_F(PublishSheet, ProposalsBelongToTheDocumentAlsoInTheNextRun) {
+    const QString chronicle = text("/docs/Chronicle.pdf");
+    const auto openFor = [this](const QString& document) {
+        open();
+        sheet->setDocument(document, QFileInfo(document).baseName());
+        sheet->beginSheet();
+    };
+    openFor(chronicle);
+    EXPECT_EQ(QFileInfo(window().txtOutputFolder->text()).fileName(), text("Chronicle"));
+    EXPECT_EQ(window().txtTitle->text(), text("Chronicle")) << "not that of the last run";
+    window().txtOutputFolder->setText(book.folder());
+    window().txtTitle->setText(text("Our town"));
+    click(window().btnPublish);
+    openFor(text("/docs/Menu.pdf"));
+    EXPECT_EQ(QFileInfo(window().txtOutputFolder->text()).fileName(), text("Menu"));
+    EXPECT_EQ(window().txtTitle->text(), text("Menu"));
+    openFor(chronicle);
+    EXPECT_EQ(window().txtOutputFolder->text(), book.folder());
+    EXPECT_EQ(window().txtTitle->text(), text("Our town"));
+    click(window().btnPublish);
+    EXPECT_TRUE(losses.isEmpty()) << "its own book";
+}
+
+TEST_F(PublishSheet, AsksBeforeAnotherDocumentsBookOrAPageOfOthersIsLost) {
+    const QStringList documents{text("/docs/a.pdf"), text("/docs/b.pdf")};
+    const auto publish = [&](int document, const QString& title) {
+        open();
+        sheet->setDocument(documents[document], title);
+        sheet->beginSheet();
+        window().txtOutputFolder->setText(book.folder());
+        click(window().btnPublish);
+    };
+    const auto published = [&] { return QString::fromUtf8(book.read(text("mybook.html"))); };
+    publish(0, text("Apples"));
+    EXPECT_TRUE(losses.isEmpty());
+    publish(1, text("Bears"));
+    ASSERT_EQ(losses.size(), 1);
+    EXPECT_TRUE(losses[0].contains(text("Apples")) && losses[0].contains(book.folder()));
+    EXPECT_TRUE(published().contains(text("Apples")));
+    EXPECT_TRUE(window().isVisible()) << "for another folder";
+    replaceAnswer = true;
+    click(window().btnPublish);
+    EXPECT_TRUE(published().contains(text("Bears")));
+    publish(0, text("Apples"));
+    EXPECT_EQ(losses.size(), 3) << "the folder is no longer this document's";
+    book.write(text("mybook.html"), "my own page");
+    replaceAnswer = false;
+    publish(0, text("Apples"));
+    ASSERT_EQ(losses.size(), 4);
+    EXPECT_TRUE(losses[3].contains(text("mybook.html")));
+    EXPECT_EQ(published(), text("my own page"));
 }
 
 TEST_F(PublishSheet, ProgressOfAWebBookIsShownAsTextAndEndsBeforeTheQuestion) {
@@ -224,6 +283,7 @@ TEST_F(PublishSheet, AnExceptionIsLoggedAndEndsTheSheet) {
     open();
     auto throwing = OutputWindowDelegate::Questions{
         [](const QString&) { return std::optional<QString>(); },
+        [](const QString&, const QString&) { return true; },
         [](const QString&, const QString&) -> bool {
             throw PlatformException(text("PanelError"), text("no panel"));
         },

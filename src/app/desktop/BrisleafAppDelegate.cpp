@@ -169,6 +169,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     const QString file = AppSettings::shareInstance().lastImportedFile();
     RecentFiles::add(file);
     iWindow->menu->showRecentFiles(RecentFiles::list());
+    iDocument = QFileInfo(file).absoluteFilePath();
     iWindow->setDocumentName(QFileInfo(file).completeBaseName());
     iWindow->messages->hide();
     if (!iImportWindow->failures().isEmpty())
@@ -182,7 +183,7 @@ void BrisleafAppDelegate::OnExportFlipBook() {
     iOuputWindow->setFlashPageSource(iFlashPageSource);
     iOuputWindow->setFlashOutline(iFlashOutline);
     iOuputWindow->setFlashPagesAnnotations(iFlashPagesAnnotations);
-    iOuputWindow->setDocumentName(iWindow->documentName());
+    iOuputWindow->setDocument(iDocument, iWindow->documentName());
     iOuputWindow->beginSheet();
 }
 

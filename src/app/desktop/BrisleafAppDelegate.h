@@ -125,6 +125,8 @@ private:
     std::shared_ptr<FlashPageSource> iFlashPageSource;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
     std::shared_ptr<FlashOutline> iFlashOutline;
+    // The path of what was imported last; empty while the demo book is shown.
+    QString iDocument = QStringLiteral("");
     std::unique_ptr<QTimer> iApplyChangeTimer;
     // The empty text until the folder is made.
     QString iFlashPreviewFolder = QStringLiteral("");

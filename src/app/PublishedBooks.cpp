@@ -1,0 +1,70 @@
+#include "app/PublishedBooks.h"
+
+#include <QSettings>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr char listKey[] = "publishedBooks";
+constexpr char documentKey[] = "document";
+constexpr char folderKey[] = "folder";
+constexpr char nameKey[] = "name";
+constexpr char titleKey[] = "title";
+constexpr char placeKey[] = "place";
+constexpr std::size_t most = 200;
+
+using Entry = std::pair<QString, PublishedBooks::Book>;
+
+// The latest first.
+std::vector<Entry> stored() {
+    QSettings settings;
+    std::vector<Entry> entries(std::size_t(settings.beginReadArray(QLatin1String(listKey))));
+    const auto text = [&settings](const char* key) {
+        return settings.value(QLatin1String(key)).toString();
+    };
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        settings.setArrayIndex(int(i));
+        entries[i] = {text(documentKey),
+                      {text(folderKey), text(nameKey), text(titleKey), text(placeKey)}};
+    }
+    return entries;
+}
+
+void store(const std::vector<Entry>& entries) {
+    QSettings settings;
+    settings.remove(QLatin1String(listKey));
+    settings.beginWriteArray(QLatin1String(listKey));
+    int index = 0;
+    for (const auto& [document, book] : entries) {
+        settings.setArrayIndex(index++);
+        for (const auto& [key, value] : {std::pair(documentKey, document),
+                                         {folderKey, book.folder},
+                                         {nameKey, book.name},
+                                         {titleKey, book.title},
+                                         {placeKey, book.place}})
+            settings.setValue(QLatin1String(key), value);
+    }
+    settings.endArray();
+}
+
+} // namespace
+
+std::optional<PublishedBooks::Book> PublishedBooks::of(const QString& document) {
+    for (const auto& [of, book] : stored()) {
+        if (of == document)
+            return book;
+    }
+    return std::nullopt;
+}
+
+void PublishedBooks::add(const QString& document, const Book& book) {
+    std::vector<Entry> entries = stored();
+    std::erase_if(entries, [&](const Entry& entry) {
+        return entry.first == document || entry.second.place == book.place;
+    });
+    entries.emplace(entries.begin(), document, book);
+    if (entries.size() > most)
+        entries.resize(most);
+    store(entries);
+}
