@@ -28,7 +28,6 @@ DesktopProgram::DesktopProgram() {
     QSettings().clear();
     AppSettings::shareInstance().loadSettings();
     QDir(Folders::userApplicationSupport()).removeRecursively();
-    Folders::setMachineRoot(files.path());
     program = std::make_unique<BrisleafAppDelegate>();
     program->setQuestions({[this](const QString&, const QStringList&) { return fileToOpen; },
                            [this](const QString&, const QStringList&) {
@@ -44,7 +43,6 @@ DesktopProgram::DesktopProgram() {
 
 DesktopProgram::~DesktopProgram() {
     program.reset();
-    Folders::setMachineRoot({});
 }
 
 void DesktopProgram::launch() {

@@ -9,6 +9,9 @@
 #include <QVariant>
 #include <gtest/gtest.h>
 
+// An option of the test program: with a folder behind it, it runs as the desktop program.
+inline constexpr char programOption[] = "--run-as-program";
+
 // The desktop program, launched anew with folders and settings of its own for each test. The panels
 // answer what the test has put into the members.
 class DesktopProgram : public testing::Test {

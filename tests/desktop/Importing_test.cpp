@@ -134,7 +134,8 @@ TEST_F(Importing, ProgramThatIsToldToStopDuringAnImportEndsInGoodOrder) {
     const QString preview = path(text("data/Folvero/preview"));
     QProcess other;
     other.setProcessEnvironment(environment);
-    other.start(Program::path(text("folvero-desktop")), {Program::sample(text("thousand.pdf"))});
+    other.start(QCoreApplication::applicationFilePath(),
+                {text(programOption), files.path(), Program::sample(text("thousand.pdf"))});
     ASSERT_TRUE(
         QTest::qWaitFor([&] { return QFileInfo::exists(preview + text("/index.html")); }, 20000));
     // The import begins as soon as the demo book is there, and takes far longer than this.

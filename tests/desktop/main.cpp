@@ -1,18 +1,30 @@
+#include "app/desktop/ApplicationSetup.h"
 #include "app/desktop/LinedStyle.h"
+#include "desktop/DesktopProgram.h"
+#include "platform/Folders.h"
+#include "support/OwnFolders.h"
 
 #include <QApplication>
-#include <QStandardPaths>
+#include <QFile>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 int main(int argc, char** argv) {
-    // Keeps the tests off the settings and folders of whoever runs them.
-    QStandardPaths::setTestModeEnabled(true);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     // The web engine refuses to run as root, as it is in a container, with its walls up.
     if (::geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    // The program itself, for tests that end it from outside. Its machine-wide folders are beneath
+    // the one that is named.
+    if (argc > 2 && qstrcmp(argv[1], programOption) == 0) {
+        Folders::setMachineRoot(QFile::decodeName(argv[2]));
+        const QApplication app(argc, argv);
+        QStringList arguments = QApplication::arguments();
+        arguments.remove(1, 2);
+        return runApplication(arguments);
+    }
+    const OwnFolders folders;
     // Listing the names of the tests needs neither.
     ::testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);

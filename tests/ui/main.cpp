@@ -1,10 +1,10 @@
+#include "support/OwnFolders.h"
+
 #include <QApplication>
-#include <QStandardPaths>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    // Keeps the tests off the settings and folders of whoever runs them.
-    QStandardPaths::setTestModeEnabled(true);
+    const OwnFolders folders;
     // Neither the tests nor the listing of their names need a screen.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

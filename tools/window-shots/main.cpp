@@ -5,6 +5,7 @@
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
+#include "platform/Folders.h"
 #include "ui/FlashTemplateOutline.h"
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"
@@ -245,6 +246,7 @@ int main(int argc, char** argv) {
     // The documents' paths show in the pictures: they are to be short, and nobody's own.
     const QTemporaryDir documents;
     QDir::setCurrent(documents.path());
+    Folders::setMachineRoot(documents.path());
     Shots(options).take();
     return 0;
 }

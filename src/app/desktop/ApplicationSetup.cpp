@@ -2,11 +2,16 @@
 
 #include "app/desktop/BrisleafAppDelegate.h"
 #include "app/desktop/LinedStyle.h"
+#include "app/desktop/QuitSignals.h"
 #include "app/desktop/Translations.h"
 #include "platform/Bundle.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
 #include <QIcon>
+#include <QLocale>
+#include <QTimer>
 
 void setUpApplication(const QStringList& languages) {
     QCoreApplication::setOrganizationName(QStringLiteral("Folvero"));
@@ -16,4 +21,29 @@ void setUpApplication(const QStringList& languages) {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/folvero.svg")));
     QApplication::setStyle(new LinedStyle);
     Translations::install(languages);
+}
+
+int runApplication(const QStringList& arguments) {
+    setUpApplication(QLocale::system().uiLanguages());
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "Turns PDF files into page-flip books."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("pdf"),
+                                 QCoreApplication::translate("main", "A PDF file to import."),
+                                 QStringLiteral("[pdf]"));
+    parser.process(arguments);
+
+    BrisleafAppDelegate controller;
+    const QuitSignals quitSignals;
+    // Not quit(): that asks the windows first, and a sheet with an import under way says no.
+    QObject::connect(&quitSignals, &QuitSignals::requested, [] { QCoreApplication::exit(); });
+    QTimer::singleShot(0, &controller, [&] {
+        controller.applicationDidFinishLaunching();
+        if (const QStringList files = parser.positionalArguments(); !files.isEmpty())
+            controller.importFile(QFileInfo(files.first()).absoluteFilePath());
+    });
+    return QApplication::exec();
 }
