@@ -1,6 +1,6 @@
 #include "annotations/FlashOutlinePDF.h"
 
-#include "support/PDFBuilder.h"
+#include "builder/PDFBuilder.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

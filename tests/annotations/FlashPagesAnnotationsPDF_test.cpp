@@ -1,7 +1,7 @@
 #include "annotations/FlashPagesAnnotationsPDF.h"
 
+#include "builder/PDFBuilder.h"
 #include "platform/PlatformException.h"
-#include "support/PDFBuilder.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

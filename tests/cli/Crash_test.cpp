@@ -1,6 +1,6 @@
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
 #include "support/BookReader.h"
-#include "support/PDFBuilder.h"
-#include "support/PDFContent.h"
 #include "support/Program.h"
 #include "support/TemplateLibrary.h"
 

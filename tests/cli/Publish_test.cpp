@@ -1,5 +1,5 @@
+#include "builder/PDFBuilder.h"
 #include "support/BookReader.h"
-#include "support/PDFBuilder.h"
 #include "support/PixelCheck.h"
 #include "support/Program.h"
 #include "support/TemplateLibrary.h"

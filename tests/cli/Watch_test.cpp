@@ -1,5 +1,5 @@
-#include "support/PDFBuilder.h"
-#include "support/PDFContent.h"
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
 #include "support/Program.h"
 #include "support/TemplateLibrary.h"
 

@@ -1,7 +1,7 @@
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
+#include "builder/PDFDamage.h"
 #include "fuzz/Seeds.h"
-#include "support/PDFBuilder.h"
-#include "support/PDFContent.h"
-#include "support/PDFDamage.h"
 
 namespace {
 

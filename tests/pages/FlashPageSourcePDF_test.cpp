@@ -1,8 +1,8 @@
 #include "pages/FlashPageSourcePDF.h"
 
+#include "builder/PDFBuilder.h"
 #include "platform/NotificationCenter.h"
 #include "platform/PlatformException.h"
-#include "support/PDFBuilder.h"
 #include "support/PixelCheck.h"
 
 #include <QDir>

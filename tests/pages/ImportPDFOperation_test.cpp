@@ -1,8 +1,8 @@
 #include "pages/ImportPDFOperation.h"
 
+#include "builder/PDFBuilder.h"
 #include "output/FolveroOutputWeb.h"
 #include "platform/NotificationCenter.h"
-#include "support/PDFBuilder.h"
 #include "support/RecordedLog.h"
 
 #include <QFile>

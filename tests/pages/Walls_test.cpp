@@ -1,10 +1,10 @@
 #include "pages/ImportPDFOperation.h"
 #include "pages/PageWorkers.h"
 
+#include "builder/PDFBuilder.h"
 #include "platform/NotificationCenter.h"
 #include "platform/PlatformException.h"
 #include "support/ChildProcesses.h"
-#include "support/PDFBuilder.h"
 #include "support/TemplateLibrary.h"
 
 #include <QDir>

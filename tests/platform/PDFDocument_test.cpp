@@ -1,8 +1,8 @@
 #include "platform/PDFDocument.h"
 
+#include "builder/PDFBuilder.h"
 #include "platform/EngineLimits.h"
 #include "platform/PlatformException.h"
-#include "support/PDFBuilder.h"
 #include "support/PixelCheck.h"
 
 #include <QFile>

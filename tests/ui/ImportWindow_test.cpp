@@ -2,7 +2,7 @@
 #include "ui/ImportWindowDelegate.h"
 
 #include "app/AppSettings.h"
-#include "support/PDFBuilder.h"
+#include "builder/PDFBuilder.h"
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 

@@ -1,7 +1,7 @@
 #include "Samples.h"
-#include "support/PDFBuilder.h"
-#include "support/PDFContent.h"
-#include "support/PDFDamage.h"
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
+#include "builder/PDFDamage.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/PDFBuilder.h"
+#include "builder/PDFBuilder.h"
 
 #include <QBuffer>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "Samples.h"
-#include "support/PDFBuilder.h"
-#include "support/PDFContent.h"
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "Pictures.h"
 #include "Samples.h"
 #include "ScannedPage.h"
-#include "support/PDFBuilder.h"
-#include "support/PDFContent.h"
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
 
 namespace {
 

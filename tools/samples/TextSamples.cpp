@@ -1,7 +1,7 @@
 #include "Prose.h"
 #include "Samples.h"
-#include "support/PDFBuilder.h"
-#include "support/PDFContent.h"
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
 
 namespace {
 

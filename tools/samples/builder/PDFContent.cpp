@@ -1,4 +1,4 @@
-#include "support/PDFContent.h"
+#include "builder/PDFContent.h"
 
 namespace {
 

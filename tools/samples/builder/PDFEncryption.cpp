@@ -1,4 +1,4 @@
-#include "support/PDFEncryption.h"
+#include "builder/PDFEncryption.h"
 
 #include <QCryptographicHash>
 #include <numeric>

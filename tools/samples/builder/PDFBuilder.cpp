@@ -1,6 +1,6 @@
-#include "support/PDFBuilder.h"
+#include "builder/PDFBuilder.h"
 
-#include "support/PDFEncryption.h"
+#include "builder/PDFEncryption.h"
 
 #include <QFile>
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "support/PDFDamage.h"
+#include "builder/PDFDamage.h"
 
 #include <cmath>
 
