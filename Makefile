@@ -5,7 +5,10 @@ BUILD := build/$(PRESET)
 OUT ?= out
 PDF ?= $(BUILD)/samples/sample.pdf
 
-.PHONY: book app package test sanitizers bench packages build format format-check tidy help
+configure = { mkdir -p build && cmake --preset $(PRESET) $(1) >$(BUILD).log 2>&1 || { cat $(BUILD).log; exit 1; }; }
+
+.PHONY: book app package test sanitizers bench packages packages-desktop packages-test build-book build-desktop build \
+	format format-check tidy help
 
 help:
 	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
@@ -20,22 +23,35 @@ help:
 
 packages:
 	@tools/install-packages.sh
+packages-desktop:
+	@tools/install-packages.sh tools/packages-desktop.txt
+packages-test:
+	@tools/install-packages.sh tools/packages-desktop.txt tools/packages-test.txt
 
-build: packages
-	@mkdir -p build
-	@cmake --preset $(PRESET) >$(BUILD).log 2>&1 || { cat $(BUILD).log; exit 1; }
+# Publishing takes neither the window nor the tests, and the window takes no tests. What an earlier build of this folder
+# had on stays on.
+build-book: packages
+	@[ -e $(BUILD)/CMakeCache.txt ] || $(call configure,-D FOLVERO_DESKTOP=OFF -D BUILD_TESTING=OFF)
+	@cmake --build --preset $(PRESET) --target folvero resources sample-pdfs
+
+build-desktop: packages-desktop
+	@$(call configure,-D FOLVERO_DESKTOP=ON $(if $(wildcard $(BUILD)/CMakeCache.txt),,-D BUILD_TESTING=OFF))
 	@cmake --build --preset $(PRESET)
 
-book: build
+build: packages-test
+	@$(call configure,-D FOLVERO_DESKTOP=ON -D BUILD_TESTING=ON)
+	@cmake --build --preset $(PRESET)
+
+book: build-book
 	@$(BUILD)/bin/folvero publish "$(PDF)" "$(OUT)" --links --bookmarks
 	@echo "Open the page above with a double-click, or put the folder on a web server."
 
 # A PDF that was named is imported at once.
-app: build
+app: build-desktop
 	@$(BUILD)/bin/folvero-desktop $(if $(filter command% environment%,$(origin PDF)),"$(PDF)")
 
 # The same as `cpack` in the build folder, which says less clearly what it made.
-package: build
+package: build-desktop
 	@cd $(BUILD) && cpack >package.log 2>&1 || { cat package.log; exit 1; }
 	@sed -n 's/^CPack: - package: \(.*\) generated\.$$/\1/p' $(BUILD)/package.log
 
@@ -49,7 +65,7 @@ sanitizers: build
 		cmake --build --preset $$preset && ctest --preset $$preset -j 2 || exit 1; \
 	done
 
-format-check: packages
+format-check: packages-test
 	@git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format --dry-run --Werror
 
 format:

@@ -22,6 +22,10 @@ option(FOLVERO_FUZZ "Build the fuzz harnesses; the preset \"fuzz\" sets what els
 set(FOLVERO_ASSETS_OF "" CACHE PATH
     "Build no more than the core, with the resources and sample documents of this build folder")
 
+if(FOLVERO_ASSETS_OF)
+    set(FOLVERO_DESKTOP OFF)
+endif()
+
 # Half of the time of a compilation goes into the same headers each time.
 function(folvero_precompile target)
     target_precompile_headers(${target} PRIVATE ${ARGN} <QByteArray> <QDir> <QFile> <QFileInfo>

@@ -1,12 +1,14 @@
 #!/bin/sh
-# Installs the Debian packages of tools/packages.txt, and of further lists named as arguments, that are
-# missing, and Node.js with npm where the machine has none. Quick when nothing is missing.
+# Installs the Debian packages that are missing, of tools/packages.txt and of further lists named as arguments.
+# Quick when nothing is missing.
 set -eu
 cd "$(dirname "$0")/.."
 
 wanted=$(cat tools/packages.txt "$@" | sed -e 's/#.*//' -e '/^[[:space:]]*$/d')
-command -v node >/dev/null 2>&1 || wanted="$wanted nodejs"
-command -v npm >/dev/null 2>&1 || wanted="$wanted npm"
+# Many machines have Node.js from elsewhere, which Debian's packages would conflict with.
+if command -v node >/dev/null && command -v npm >/dev/null; then
+    wanted=$(printf '%s\n' "$wanted" | grep -vxE 'nodejs|npm')
+fi
 
 # shellcheck disable=SC2086 # one word a package
 installed=$(dpkg-query -W -f '${Package} ${Status}\n' $wanted 2>/dev/null |
