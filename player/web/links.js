@@ -10,6 +10,9 @@ import { Layers } from './layers.js';
 /** How far beside a link a finger may come down, in CSS pixels. */
 const FINGER = 12;
 
+/** Time in which the browser's own click follows a tap, in milliseconds. */
+const CLICK_MS = 700;
+
 /** Longest name that a link takes from the words in it. */
 const LONGEST_NAME = 120;
 
@@ -30,9 +33,17 @@ export class Links {
     this.tips = toolbar.tips;
     this.say = say;
     layers.fillers.push((face) => this.#add(face));
-    gestures.isOver = (/** @type {PointerEvent} */ { target }) =>
-      target instanceof Element && target.closest('.page-link, .word') !== null;
+    gestures.isOver = (/** @type {PointerEvent} */ event) => isOn(event, '.page-link, .word');
     root.addEventListener('dragstart', (/** @type {Event} */ event) => event.preventDefault());
+    /** When a tap was followed last. */
+    this.followed = -Infinity;
+    // The browser clicks on what a finger has tapped, too: a link would open twice. Keys click without a count.
+    root.addEventListener('click', (/** @type {MouseEvent} */ event) => {
+      const again = event.isTrusted && event.detail > 0 && event.timeStamp - this.followed < CLICK_MS;
+      if (!again || !isOn(event, '.page-link')) return;
+      event.preventDefault();
+      event.stopPropagation();
+    }, true);
   }
 
   /** @param {Face} face */
@@ -93,6 +104,7 @@ export class Links {
     if (!link) return false;
     // A finger that has gone up has left everything, which takes tips away.
     if (link.hasAttribute('aria-disabled')) setTimeout(() => this.tips.follow(link));
+    this.followed = event.timeStamp;
     const { ctrlKey, shiftKey, metaKey } = event;
     link.dispatchEvent(new MouseEvent('click', { bubbles: true, cancelable: true, ctrlKey, shiftKey, metaKey, view: window }));
     return true;
@@ -113,6 +125,14 @@ export class Links {
     }
     return nearest?.link ?? null;
   }
+}
+
+/**
+ * @param {Event} event
+ * @param {string} selector
+ */
+function isOn({ target }, selector) {
+  return target instanceof Element && target.closest(selector) !== null;
 }
 
 /** @param {string} address */

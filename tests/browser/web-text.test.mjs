@@ -289,10 +289,16 @@ test('links are followed by click, tap and key, and lead to pages and out of the
   await book.page.keyboard.press('Enter');
   await book.waitForPages(6);
   const phone = await open({ pages: LINKED, hash: '#page=2', view: PHONE });
+  const opened = [];
+  phone.page.context().on('page', (page) => opened.push(page));
+  await phone.page.context().route('https://example.org/**', (route) => route.fulfill({ body: 'far away' }));
+  await Promise.all([phone.page.context().waitForEvent('page'), link(phone, 'https://example.org/').tap()]);
+  await phone.page.bringToFront();
   const box = await link(phone, /^to the end/).boundingBox();
   // A finger is less sure than a mouse.
   await phone.page.touchscreen.tap(box.x + 5, box.y - 7);
   await phone.waitForPages(6);
+  assert.equal(opened.length, 1, 'tabs that one tap opened');
 });
 
 test('a link that leads nowhere tells so and does nothing', async () => {
