@@ -11,6 +11,7 @@ import { Memory } from './memory.js';
 import { Menu } from './menu.js';
 import { tellReader } from './message.js';
 import { bringIn } from './opening.js';
+import { Place, pageInAddress } from './place.js';
 import { Printing } from './printing.js';
 import { Sharing } from './sharing.js';
 import { Sheets } from './sheets.js';
@@ -29,21 +30,6 @@ import { ZoomGestures } from './zoomgestures.js';
  * @type {((early: object) => Promise<((parts: object) => void) | undefined>)[]}
  */
 const extensions = /** @type {any} */ (window).folveroExtensions ?? [];
-
-/** Page that the address asks for, 0 when it asks for none. */
-function pageInAddress() {
-  const match = /(?:^#|&)page=(\d+)/.exec(location.hash);
-  return match ? Number(match[1]) : 0;
-}
-
-/** @param {number} page */
-function putPageInAddress(page) {
-  try {
-    history.replaceState(null, '', '#page=' + page);
-  } catch {
-    // Some viewers of local files forbid it; the book works without.
-  }
-}
 
 /**
  * What is announced to readers who do not see the pages.
@@ -149,25 +135,20 @@ async function openBook(root) {
   const memory = new Memory(config.pages.length);
   const left = pageInAddress() ? 0 : memory.page;
 
-  let page = Math.min(config.pages.length, Math.max(1, pageInAddress() || left));
+  const place = new Place(turner, Math.min(config.pages.length, Math.max(1, pageInAddress() || left)));
   turner.onTurn = () => sounds.playTurn();
   turner.onLanded = () => {
     const pages = book.views.pagesOf(turner.current);
-    if (!pages.includes(page)) {
-      page = pages[0];
-      putPageInAddress(page);
-      memory.page = page;
+    if (place.land()) {
+      memory.page = place.page;
       part(root, '.live').textContent = announcement(pages, config);
     }
     toolbar.update();
     drawer.mark(pages);
     slideshow.wait();
   };
-  const relayout = followWindow(root, turner, drawer, () => page);
+  const relayout = followWindow(root, turner, drawer, () => place.page);
   for (const add of additions) add?.({ book, turner, relayout, ...controls });
-  window.addEventListener('hashchange', () => {
-    if (pageInAddress() > 0) turner.go(book.views.viewOf(pageInAddress()));
-  });
   const inView = book.views.pagesOf(turner.current);
   await Promise.all(inView.map((shown) => book.images.get(shown).settled));
   root.dataset.state = 'ready';
@@ -198,7 +179,7 @@ function expose(book, turner, { drawer, sheets }) {
       get drawerImages() { return drawer.thumbnails.imagesKept; },
       get printImages() { return sheets.imagesKept; },
       /** @param {number} page */
-      goTo(page) { turner.go(book.views.viewOf(page)); },
+      goTo(page) { turner.turnTo(book.views.viewOf(page)); },
     }),
   });
 }

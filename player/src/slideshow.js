@@ -38,7 +38,7 @@ export class Slideshow {
     } else if (turner.current < turner.book.views.count - 1) {
       turner.step(1);
     } else if (this.loop) {
-      turner.go(0);
+      turner.turnTo(0);
     } else {
       this.run(false);
     }

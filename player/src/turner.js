@@ -45,6 +45,8 @@ export class Turner {
     this.atOnce = () => false;
     this.onStood = () => {};
     this.onJumped = () => {};
+    /** Told before a jump begins. @param {number} _ view */
+    this.onJump = (_) => {};
     /** Told when a leaf is taken off the pages and when they stand again. @param {boolean} _ */
     this.onAir = (_) => {};
     book.onImage = (page) => this.#imageArrived(page);
@@ -80,10 +82,21 @@ export class Turner {
   }
 
   /**
-   * Turns to a view; asked while a leaf is on its way, that leaf hurries and the turn follows.
+   * Jumps to a view somewhere in the book, from where the reader may want to come back.
    * @param {number} wanted
    */
   go(wanted) {
+    const view = this.book.views.clamp(wanted);
+    const held = this.leaf !== null && !this.leaf.motion;
+    if (!held && view !== this.destination) this.onJump(view);
+    this.turnTo(view);
+  }
+
+  /**
+   * Turns to a view; asked while a leaf is on its way, that leaf hurries and the turn follows.
+   * @param {number} wanted
+   */
+  turnTo(wanted) {
     const view = this.book.views.clamp(wanted);
     if (this.atOnce()) {
       this.#jump(view);
@@ -111,7 +124,7 @@ export class Turner {
 
   /** @param {number} steps views forward, negative: backward */
   step(steps) {
-    this.go(this.destination + steps);
+    this.turnTo(this.destination + steps);
   }
 
   /**

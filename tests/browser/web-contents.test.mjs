@@ -182,3 +182,59 @@ test('pages are called and found by their labels, in the page box, the contents,
     await book.waitForPages(...pages);
   }
 });
+
+for (const [name, options] of Object.entries({ 'over http': {}, 'from disk': { disk: true }, 'on a phone': { view: PHONE } })) {
+  test(`Back leads to where readers jumped from, and turns make no entries, ${name}`, async () => {
+    const pages = Array.from({ length: 12 }, () => typedPage(['text'], { links: [[0, 0, 4, 6]] }));
+    const book = await open({ ...options, change: { pages }, before: (page) => page.goto('data:text/html,before') });
+    const at = (page) => book.page.waitForFunction((wanted) => !window.folvero.turning && window.folvero.page === wanted
+      && (window.location.hash || '#page=1') === `#page=${wanted}`, page);
+    await press(book, 'ArrowRight');
+    await at(2);
+    await book.page.locator('.page-link').first().click();
+    await at(6);
+    await press(book, 'c');
+    await entry(book, 'River').click();
+    await at(4);
+    for (const key of ['Escape', 'g', '8', 'Enter', 'g', '8', 'Enter', 't']) await press(book, key);
+    await at(8);
+    await book.page.locator('.thumb[data-page="10"]').click();
+    await at(10);
+    await press(book, 'Escape', '/', 't', 'e', 'x', 't');
+    await book.page.waitForSelector('.result');
+    await press(book, 'ArrowDown', 'End', 'Enter');
+    await at(12);
+    await press(book, 'Escape', 'Home');
+    await at(1);
+    for (const page of [12, 10, 8, 4, 6, 2]) {
+      await book.page.goBack();
+      await at(page);
+    }
+    await book.page.goForward();
+    await at(6);
+    await book.page.goBack();
+    await at(2);
+    await book.page.goBack();
+    assert.equal(book.page.url(), 'data:text/html,before');
+    assert.deepEqual(book.errors, []);
+  });
+}
+
+test('Back in the middle of a jump turns back, and a book in a frame leaves the page around it alone', async () => {
+  const book = await open({ values: { PageMoveTime: '1' }, hash: '#page=4' });
+  await press(book, 'End');
+  await book.page.goBack();
+  await book.waitForPages(4, 5);
+  assert.match(book.page.url(), /#page=4$/);
+  const around = `${book.server.address}around`;
+  await book.page.route(around, (route) => route.fulfill({ contentType: 'text/html', body: '<iframe src="/#page=2" width="900" height="600">' }));
+  await book.page.goto(around);
+  const frame = book.page.frames()[1];
+  await frame.waitForSelector('#folvero[data-state="ready"]');
+  await frame.locator('.page-box').fill('5');
+  await frame.locator('.page-box').press('Enter');
+  await frame.waitForFunction(() => !window.folvero.turning && window.folvero.page === 4);
+  await book.page.evaluate(() => window.history.back());
+  await frame.waitForFunction(() => !window.folvero.turning && window.folvero.page === 2);
+  assert.equal(book.page.url(), around);
+});
