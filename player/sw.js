@@ -1,30 +1,35 @@
-// Keeps a web book for readers without a connection. The book's publisher puts a line before this
-// that says which book it is: const BOOK = {"page": ..., "version": ...}.
+// Keeps a web book for readers without a connection: what they have read, and the whole book where
+// they asked for it or where it is small. The book's publisher puts a line before this that says which
+// book it is: const BOOK = {"page": ..., "version": ...}.
 //
 // Every file is known by its digest, so that nothing of another edition is ever kept among the files
-// of this one, whenever it comes and whatever the server holds by then.
+// of this one, or given to a reader of this one, whenever it comes and whatever the server holds by then.
 
 const SCOPE = self.registration.scope;
 const LIST = 'files/web/offline.json';
 
-/** Names of the stores of this book, whatever its edition; addresses hold no blanks. */
+/** Names of the caches of this book, whatever its edition; addresses hold no blanks. */
 const FAMILY = 'folvero ' + SCOPE + ' ';
 const STORE = FAMILY + BOOK.version;
 
-/** In the store once the server has another edition: readers get that one, until they are offline. */
-const CHANGED = SCOPE + '?changed';
+/** In the cache: what the reader wants kept, 'whole' or 'read'; nothing while they were not asked. */
+const WISH = SCOPE + '?wish';
+
+/** In the cache: paths of what was read in an earlier edition and is to be fetched again. */
+const READ = SCOPE + '?read';
 
 /** Milliseconds for the server to tell its edition before the reader gets the one that is here. */
 const PATIENCE = 2500;
 
-/** Bytes of a book that is kept as a whole; of a longer one what has been read. */
-const MOST_BYTES = 60e6;
+/** Bytes of a book that is kept as a whole without being asked for. */
+const SMALL_BYTES = 5e6;
 
 /** Files fetched ahead at a time. */
-const BATCH = 12;
+const BATCH = 6;
 
 const GONE = 'gone';
 const OTHER = 'other';
+const EARLIER = 'earlier';
 
 /** @param {string} path as the list has it */
 function addressOf(path) {
@@ -47,65 +52,125 @@ function pathOf(address) {
   }
 }
 
+/**
+ * The page of the book that an address opens. Some servers leave the ending off the address.
+ * @param {string} address
+ */
+function pageAt(address) {
+  const path = pathOf(address);
+  return [BOOK.page, 'text.html'].find((name) => name === path || name === path + '.html');
+}
+
+/**
+ * In the cache: the other edition that an open page has. Its files are to come from the server; those of
+ * an earlier one are not to be had any more.
+ * @param {string} client
+ */
+function markOf(client) {
+  return SCOPE + '?client=' + client;
+}
+
 /** @param {ArrayBuffer} bytes */
 async function digestOf(bytes) {
   const digest = await crypto.subtle.digest('SHA-256', bytes);
   return [...new Uint8Array(digest, 0, 8)].map((byte) => byte.toString(16).padStart(2, '0')).join('');
 }
 
-/** @param {Cache} store */
-async function listOf(store) {
-  const list = await (await store.match(addressOf(LIST)))?.json();
+/**
+ * What a cache has under an address. Unlike opening a cache this makes none.
+ * @param {string} address
+ * @param {string} cacheName
+ */
+const kept = (address, cacheName = STORE) => caches.match(address, { cacheName });
+
+/** @param {string} name of a cache */
+async function listOf(name) {
+  const list = await (await kept(addressOf(LIST), name))?.json();
   return list && { ...list, files: { ...list.shell, ...list.rest } };
 }
 
+/** @type {any} */
+let ownList = null;
+
+/** The list of this edition, undefined before it is there and once it is gone. */
+async function listHere() {
+  if (!await caches.has(STORE)) return undefined;
+  ownList ??= await listOf(STORE);
+  return ownList;
+}
+
 /**
- * Puts an answer into a store if it is the very file that the list means.
- * @param {Cache} store
- * @param {string} path
- * @param {string} digest
+ * The answer with its bytes if it is the very file that the list means, else null.
  * @param {Response} answer
+ * @param {string} digest
  */
-async function put(store, path, digest, answer) {
+async function verified(answer, digest) {
   const bytes = await answer.arrayBuffer();
-  if (!answer.ok || await digestOf(bytes) !== digest) return false;
+  if (!answer.ok || await digestOf(bytes) !== digest) return null;
   const type = answer.headers.get('Content-Type') ?? 'application/octet-stream';
   // Made anew, since browsers take no answer that came by a redirection for a page.
-  await store.put(addressOf(path), new Response(bytes, { headers: { 'Content-Type': type } }));
-  return true;
-}
-
-/** Stores of earlier editions with their lists. */
-async function earlierStores() {
-  const names = (await caches.keys()).filter((name) => name.startsWith(FAMILY) && name !== STORE);
-  const stores = await Promise.all(names.map((name) => caches.open(name)));
-  return Promise.all(stores.map(async (store) => ({ store, list: await listOf(store) })));
+  return new Response(bytes, { headers: { 'Content-Type': type } });
 }
 
 /**
- * Takes over what an earlier edition has had already.
- * @param {Cache} store
- * @param {Record<string, string>} files
- */
-async function takeOver(store, files) {
-  for (const { store: earlier, list } of await earlierStores()) {
-    for (const [path, digest] of Object.entries(files)) {
-      const kept = list?.files[path] === digest && await earlier.match(addressOf(path));
-      if (kept) await store.put(addressOf(path), kept);
-    }
-  }
-}
-
-/**
+ * Keeps a file that is not kept yet.
  * @param {Cache} store
  * @param {string} path
  * @param {string} digest
  * @param {'high' | 'low'} priority
+ * @returns {Promise<boolean>} whether it is there
  */
 async function fetchInto(store, path, digest, priority) {
   if (await store.match(addressOf(path))) return true;
-  const options = /** @type {RequestInit} */ ({ cache: 'no-cache', priority });
-  return put(store, path, digest, await fetch(addressOf(path), options));
+  // What the browser still has from reading need not come again, whatever its age: the digest decides.
+  for (const cache of ['force-cache', 'no-cache']) {
+    const options = /** @type {RequestInit} */ ({ cache, priority });
+    const answer = await verified(await fetch(addressOf(path), options), digest);
+    if (!answer) continue;
+    await store.put(addressOf(path), answer);
+    return true;
+  }
+  return false;
+}
+
+/** @param {Cache} store */
+async function wishIn(store) {
+  return (await store.match(WISH))?.text();
+}
+
+/**
+ * @param {Cache} store
+ * @returns {Promise<string[]>}
+ */
+async function readIn(store) {
+  return await (await store.match(READ))?.json() ?? [];
+}
+
+/**
+ * Takes over what earlier editions have had already, what the reader wants, and what they have read.
+ * @param {Cache} store
+ * @param {Record<string, string>} files
+ */
+async function takeOver(store, files) {
+  const have = new Set((await store.keys()).map(({ url }) => url));
+  const read = new Set(await readIn(store));
+  const names = (await caches.keys()).filter((name) => name.startsWith(FAMILY) && name !== STORE);
+  // The oldest is the one that the reader has had; what it says goes last.
+  for (const name of names.reverse()) {
+    const earlier = await caches.open(name);
+    const list = await listOf(name);
+    const wish = await earlier.match(WISH);
+    if (wish) await store.put(WISH, wish);
+    (await readIn(earlier)).forEach((path) => read.add(path));
+    for (const { url } of await earlier.keys()) {
+      const path = url.includes('?') ? null : pathOf(url);
+      if (path === null || !files[path] || have.has(url)) continue;
+      const found = list?.files[path] === files[path] && await earlier.match(url);
+      if (found) await store.put(url, found);
+      else read.add(path);
+    }
+  }
+  await store.put(READ, new Response(JSON.stringify([...read])));
 }
 
 async function install() {
@@ -116,15 +181,36 @@ async function install() {
   const store = await caches.open(STORE);
   await store.put(addressOf(LIST), answer);
   await takeOver(store, { ...list.shell, ...list.rest });
-  const kept = await Promise.all(Object.entries(list.shell).map(([path, digest]) => fetchInto(store, path, digest, 'high')));
-  if (kept.includes(false)) throw other;
+  const there = await Promise.all(Object.entries(list.shell).map(([path, digest]) => fetchInto(store, path, digest, 'high')));
+  if (there.includes(false)) throw other;
   await self.skipWaiting();
 }
 
-async function activate() {
-  for (const name of await caches.keys()) {
-    if (name.startsWith(FAMILY) && name !== STORE) await caches.delete(name);
+/**
+ * Open pages of this book that are not known to be of an edition.
+ * @param {string} edition
+ */
+async function strangersTo(edition) {
+  const names = (await caches.keys()).filter((name) => name.startsWith(FAMILY));
+  const open = (await self.clients.matchAll({ includeUncontrolled: true, type: 'window' })).filter(({ url }) => pageAt(url));
+  const strangers = [];
+  for (const { id } of open) {
+    const marks = await Promise.all(names.map(async (name) => (await kept(markOf(id), name))?.text()));
+    if (!marks.includes(edition)) strangers.push(id);
   }
+  return strangers;
+}
+
+async function activate() {
+  const list = await listHere();
+  const earlier = (await caches.keys()).filter((name) => name.startsWith(FAMILY) && name !== STORE);
+  if (list && earlier.length > 0) {
+    const store = await caches.open(STORE);
+    // The reader has read on since this one was installed.
+    await takeOver(store, list.files);
+    for (const id of await strangersTo(BOOK.version)) await store.put(markOf(id), new Response(EARLIER));
+  }
+  for (const name of earlier) await caches.delete(name);
   await self.clients.claim();
 }
 
@@ -142,20 +228,23 @@ async function editionOnServer() {
 
 /**
  * A page of the book. The server's edition goes before the one that is here.
- * @param {Request} request
- * @param {string} path
+ * @param {FetchEvent} event
+ * @param {string} page
  */
-async function open(request, path) {
-  const store = await caches.open(STORE);
+async function open(event, page) {
   const edition = await editionOnServer();
+  const client = event.resultingClientId ?? '';
+  const mark = markOf(client);
   if (edition && edition !== BOOK.version) {
-    await store.put(CHANGED, new Response());
-    if (edition === GONE) await forget();
-    else self.registration.update().catch(() => {});
-    return fetch(request);
+    if (edition === GONE && (await strangersTo(GONE)).length === 0) await forget();
+    else {
+      await (await caches.open(STORE)).put(mark, new Response(edition));
+      self.registration.update().catch(() => {});
+    }
+    return fetch(event.request);
   }
-  await store.delete(CHANGED);
-  return await store.match(addressOf(path)) ?? fetch(request);
+  await (await caches.open(STORE)).delete(mark);
+  return serve(event, page, client);
 }
 
 /** The book went away, or one without this script took its place. */
@@ -167,55 +256,143 @@ async function forget() {
 }
 
 /**
- * A file of the book.
- * @param {FetchEvent} event
- * @param {string} path
+ * The other edition that an open page has, undefined for one of this edition. Where the browser does not
+ * say which page it opens, all are taken for the one that was opened last.
+ * @param {string} client
  */
-async function serve(event, path) {
-  // Unlike opening a store this makes none.
-  const kept = (/** @type {string} */ address) => caches.match(address, { cacheName: STORE });
-  if (await kept(CHANGED)) return fetch(event.request);
-  const found = await kept(addressOf(path));
-  if (found) return found;
-  const answer = await fetch(event.request);
-  event.waitUntil(keep(path, answer.clone()).catch(() => {}));
-  return answer;
+async function otherEditionOf(client) {
+  return (await kept(markOf(client)) ?? await kept(markOf('')))?.text();
 }
 
 /**
+ * A file of the book.
+ * @param {FetchEvent} event
  * @param {string} path
+ * @param {string} client page that it is for
+ */
+async function serve(event, path, client) {
+  const { request } = event;
+  const other = await otherEditionOf(client);
+  if (other === EARLIER) return refuse(client);
+  if (other) return fetch(request);
+  const found = await kept(addressOf(path));
+  if (found) return found;
+  const digest = (await listHere())?.files[path];
+  if (!digest) return fetch(request);
+  const answer = await fetch(request).catch((error) => {
+    tell(client, 'notKept');
+    throw error;
+  });
+  const good = await verified(answer.clone(), digest);
+  if (!good) return answerOther(client, path, digest, answer);
+  const copy = good.clone();
+  event.waitUntil(caches.open(STORE).then((store) => store.put(addressOf(path), copy)).catch(() => {}));
+  return good;
+}
+
+/**
+ * A file that is not what this edition has there.
+ * @param {string} client
+ * @param {string} path
+ * @param {string} digest
  * @param {Response} answer
  */
-async function keep(path, answer) {
-  if (!await caches.has(STORE)) return;
+async function answerOther(client, path, digest, answer) {
   const store = await caches.open(STORE);
-  const digest = (await listOf(store))?.files[path];
-  if (digest && answer.ok && !await put(store, path, digest, answer)) await self.registration.update();
+  // Some servers give browsers another form of a picture than they give to this script.
+  if (await fetchInto(store, path, digest, 'high')) return await kept(addressOf(path)) ?? answer;
+  const pictures = SCOPE + 'files/page/';
+  const altered = !(await store.keys()).some(({ url }) => url.startsWith(pictures));
+  // A server that changes every file on its way still has this edition.
+  if (altered && await editionOnServer() === BOOK.version) return answer;
+  self.registration.update().catch(() => {});
+  return refuse(client);
+}
+
+/**
+ * Rather none than a file of another edition.
+ * @param {string} client
+ */
+function refuse(client) {
+  tell(client, 'newEdition');
+  return Response.error();
+}
+
+/**
+ * @param {string} client
+ * @param {'notKept' | 'newEdition'} news
+ */
+async function tell(client, news) {
+  (await self.clients.get(client))?.postMessage({ news });
 }
 
 /**
  * Files that a reader has seen before this script was there to keep them.
+ * @param {Cache} store
  * @param {string[]} addresses
  */
-async function keepSeen(addresses) {
-  const store = await caches.open(STORE);
-  const files = (await listOf(store))?.files ?? {};
+async function keepSeen(store, addresses) {
+  const files = (await listHere())?.files ?? {};
   for (const path of new Set(addresses.map(pathOf))) {
     if (path && files[path]) await fetchInto(store, path, files[path], 'low');
   }
 }
 
-/** Fetches some more of the book; false when there is no more to fetch. */
-async function fetchAhead() {
+/**
+ * What is wanted of the rest of the book, and how much of it is there.
+ * @param {Cache} store
+ */
+async function stateOf(store) {
+  const list = await listHere();
+  const wish = await wishIn(store);
+  const whole = wish === 'whole' || (wish !== 'read' && list.bytes <= SMALL_BYTES);
+  const have = new Set((await store.keys()).map(({ url }) => url));
+  /** @param {string[]} paths */
+  const missing = (paths) => paths.filter((path) => list.rest[path] && !have.has(addressOf(path)));
+  const all = Object.keys(list.rest);
+  const left = missing(all).length;
+  const wanted = whole ? missing(all) : missing(await readIn(store));
+  return { bytes: list.bytes, asked: wish === 'whole', whole, share: all.length ? 1 - left / all.length : 1, left, wanted };
+}
+
+/**
+ * Fetches some more of what is wanted.
+ * @param {Cache} store
+ * @returns {Promise<boolean>} whether all of it came
+ */
+async function fetchAhead(store) {
+  const { rest } = await listHere();
+  const { wanted } = await stateOf(store);
+  const there = await Promise.all(wanted.slice(0, BATCH).map((path) => fetchInto(store, path, rest[path], 'low').catch(() => false)));
+  return !there.includes(false);
+}
+
+/**
+ * Notes what the reader wants kept. Nothing but what the book opens with stays of one that is not to be.
+ * @param {Cache} store
+ * @param {'whole' | 'read'} wish
+ */
+async function note(store, wish) {
+  await store.put(WISH, new Response(wish));
+  if (wish === 'whole') return;
+  await store.delete(READ);
+  for (const path of Object.keys((await listHere()).rest)) await store.delete(addressOf(path));
+}
+
+/**
+ * What the book's page asks for; the answer is the state afterwards, null for a page of another edition.
+ * @param {{does: string, seen?: string[], wish?: 'whole' | 'read'}} message
+ * @param {string} client
+ */
+async function answerPage({ does, seen = [], wish = 'read' }, client) {
+  if (await otherEditionOf(client) || !await listHere()) return null;
   const store = await caches.open(STORE);
-  const list = await listOf(store);
-  if (!list || list.bytes > MOST_BYTES || await store.match(CHANGED)) return false;
-  const kept = new Set((await store.keys()).map(({ url }) => url));
-  const missing = Object.entries(list.rest).filter(([path]) => !kept.has(addressOf(path))).slice(0, BATCH);
-  for (const [path, digest] of missing) {
-    if (!await fetchInto(store, path, digest, 'low')) return false;
-  }
-  return missing.length === BATCH;
+  let failed = false;
+  if (does === 'seen') await keepSeen(store, seen);
+  if (does === 'wish') await note(store, wish);
+  if (does === 'ahead') failed = !await fetchAhead(store);
+  const { wanted, ...state } = await stateOf(store);
+  return { ...state, more: wanted.length > 0, failed };
 }
 
 self.addEventListener('install', (event) => event.waitUntil(install()));
@@ -225,16 +402,13 @@ self.addEventListener('fetch', (event) => {
   // Sounds are asked for in parts; the browser does that better alone.
   const path = request.method === 'GET' && !request.headers.has('range') ? pathOf(request.url) : null;
   if (path === null) return;
-  if (path.startsWith('files/')) event.respondWith(serve(event, path));
-  else if (request.mode === 'navigate') {
-    // Some servers leave the ending off the address.
-    const page = [BOOK.page, 'text.html'].find((name) => name === path || name === path + '.html');
-    if (page) event.respondWith(open(request, page));
-  }
+  const page = request.mode === 'navigate' ? pageAt(request.url) : undefined;
+  if (page) event.respondWith(open(event, page));
+  else if (path.startsWith('files/')) event.respondWith(serve(event, path, event.clientId));
 });
 self.addEventListener('message', (event) => {
-  const { seen } = event.data;
-  const [port] = event.ports;
-  const work = seen ? keepSeen(seen).then(() => true) : fetchAhead();
-  event.waitUntil(work.catch(() => false).then((more) => port.postMessage(more)));
+  const { data, source, ports: [port] } = event;
+  // Asked again while this one waits, browsers look again whether the earlier one has nothing to do.
+  if (data.does === 'replace') self.skipWaiting();
+  else event.waitUntil(answerPage(data, source.id).catch(() => null).then((state) => port.postMessage(state)));
 });

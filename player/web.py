@@ -13,7 +13,7 @@ import sys
 
 from bundle import COMMENT, join_script
 
-STYLES = ["layers.css", "side.css", "contents.css", "search.css", "looks.css"]
+STYLES = ["layers.css", "side.css", "contents.css", "search.css", "keeping.css", "looks.css"]
 
 
 def check(name, text):

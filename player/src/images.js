@@ -54,6 +54,15 @@ export class PageImages {
     return entry;
   }
 
+  /** Asks once more for the pages that did not come. */
+  retry() {
+    for (const [page, { state }] of this.kept) {
+      if (state !== 'missing') continue;
+      this.kept.delete(page);
+      this.get(page);
+    }
+  }
+
   /**
    * @param {number} page
    * @param {PageImage} entry

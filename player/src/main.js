@@ -85,6 +85,7 @@ function addControls(root, turner, sounds) {
   const printing = new Printing(root, sheets, config.pages.length, pagesInView);
   const helping = new Helping(root);
   const menu = new Menu(root, () => toolbar.folding.folded);
+  const toast = new Toast(root);
   const commands = {
     thumbs: () => drawer.toggle(),
     zoomIn: () => zoom.in(),
@@ -118,7 +119,7 @@ function addControls(root, turner, sounds) {
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
-  return { toolbar, commands, slideshow, drawer, sheets, zoom, gestures };
+  return { toolbar, commands, slideshow, drawer, sheets, zoom, gestures, toast };
 }
 
 /** @param {HTMLElement} root */
@@ -131,7 +132,7 @@ async function openBook(root) {
   const turner = new Turner(book, /** @type {HTMLCanvasElement} */ (part(root, '.leaf')));
   const sounds = new Sounds(config.sound);
   const controls = addControls(root, turner, sounds);
-  const { toolbar, slideshow, drawer } = controls;
+  const { toolbar, slideshow, drawer, toast } = controls;
   const memory = new Memory(config.pages.length);
   const left = pageInAddress() ? 0 : memory.page;
 
@@ -156,7 +157,7 @@ async function openBook(root) {
   bringIn(book.element, config.initialShow);
   if (config.autoPlay) slideshow.run(true);
   if (left > 1) {
-    new Toast(root).show(say('wasOn', labelOf(config, left)), say('startOver'), () => turner.go(0));
+    toast.show(say('wasOn', labelOf(config, left)), say('startOver'), () => turner.go(0));
   }
   expose(book, turner, controls);
 }

@@ -22,6 +22,8 @@ export class Toast {
    * @param {() => void} accept
    */
   show(text, offer, accept) {
+    // Told again, it stays as it is under the pointer that is on its way to it.
+    if (!this.element.hidden && this.element.firstElementChild?.textContent === text) return;
     const button = make('button', 'plain-button', offer);
     button.addEventListener('click', () => {
       this.hide();

@@ -4,6 +4,7 @@ import { Contents } from './contents.js';
 import { DataFiles } from './data.js';
 import { Facts } from './facts.js';
 import { icon } from './icons.js';
+import { Keeping } from './keeping.js';
 import { Layers } from './layers.js';
 import { Links } from './links.js';
 import { Offline } from './offline.js';
@@ -24,7 +25,7 @@ asked.catch(() => {});
 
 /**
  * Makes a button for the bar.
- * @param {'contents' | 'search'} name
+ * @param {'contents' | 'search' | 'keep'} name
  * @param {string} key
  * @param {string} fold place in the order in which the bar's buttons go into its menu
  * @param {(word: string) => string} say
@@ -34,7 +35,6 @@ function barButton(name, key, fold, say) {
   Object.assign(button.dataset, { does: name, name, key, fold });
   button.setAttribute('type', 'button');
   button.setAttribute('aria-label', say(name));
-  button.setAttribute('aria-expanded', 'false');
   return button;
 }
 
@@ -63,7 +63,6 @@ function addToBook(parts, facts) {
   const selecting = new Selecting(parts, layers);
   gestures.answersTap = (/** @type {PointerEvent} */ event) => selecting.answers || links.followAt(event);
   new Sharper(parts, layers);
-  if (facts.offline && !single) Offline.start(root, layers);
   const room = new SideRoom(parts);
   // Where the bar is short of room, the search is worth more than the number of pages.
   part(toolbar.bar, '.of').dataset.fold = '7.2';
@@ -78,6 +77,15 @@ function addToBook(parts, facts) {
     const searching = new Searching(parts, layers, files, room, button);
     commands.search = () => searching.panel.toggle();
     toolbar.add(button, 'thumbs');
+  }
+  if (facts.offline && !single && Offline.possible) {
+    const button = barButton('keep', 'K', '2.5', say);
+    const keeping = new Keeping(parts, layers, new Offline(root, layers), button);
+    // Without a connection the page around a frame isn't there either.
+    if (window.parent === window) {
+      commands.keep = () => keeping.open();
+      toolbar.add(button, 'print');
+    }
   }
   if (facts.textPage) addTextLink(root, facts.textPage, say('textPage'));
   if (facts.labels) toolbar.box.inputMode = 'text';

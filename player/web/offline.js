@@ -1,54 +1,111 @@
-/** Milliseconds without a turn after which the rest of the book is fetched. */
+/** Milliseconds without a turn after which more of the book is fetched. */
 const REST = 2000;
 
 /**
- * The book stays to be read without a connection, where browsers allow that: over https, and from this
- * machine.
+ * @typedef {object} KeptState what the service worker has of the book
+ * @property {number} bytes of the whole book
+ * @property {boolean} whole whether all of it is to be kept
+ * @property {number} share of its pages that is there, 0 to 1
+ * @property {number} left files that are not there
+ * @property {boolean} more whether any of these are to be kept
+ * @property {boolean} failed whether the last of them did not come
+ */
+
+/**
+ * What is read stays to be read without a connection, where browsers allow that: over https, and from
+ * this machine. So does the whole book where the reader asked for it, or where it is small.
  */
 export class Offline {
+  static get possible() {
+    return window.isSecureContext && /^https?:$/.test(location.protocol) && 'serviceWorker' in navigator;
+  }
+
   /**
    * @param {HTMLElement} root
    * @param {import('./layers.js').Layers} layers
    */
-  static start(root, layers) {
-    if (!window.isSecureContext || !/^https?:$/.test(location.protocol)) return;
-    const offline = new Offline(layers);
+  constructor(root, layers) {
+    this.lastTurn = Date.now();
+    /** How often fetching has begun: only the last round goes on. */
+    this.round = 0;
+    /** Whether files are being fetched. */
+    this.busy = false;
+    /** Whether the browser keeps no books, by a setting or in a frame. */
+    this.unable = false;
+    /** @type {KeptState | null} none while it is not known */
+    this.state = null;
+    /** Told of changes of what stands above. */
+    this.onChange = () => {};
+    /** @type {Promise<void> | null} */
+    this.begun = null;
+    layers.followers.push(() => { this.lastTurn = Date.now(); });
     const begin = () => {
       if (root.dataset.state !== 'ready') return;
       observer.disconnect();
-      // Whoever can't have it, by a setting or in a frame, reads as ever.
-      offline.keep().catch(() => {});
+      this.#quiet().then(() => this.begin());
     };
     // Nothing of this may be in the way of the first pages.
     const observer = new MutationObserver(begin);
     observer.observe(root, { attributes: true, attributeFilter: ['data-state'] });
   }
 
-  /** @param {import('./layers.js').Layers} layers */
-  constructor(layers) {
-    this.lastTurn = Date.now();
-    /** How often fetching has begun: only the last round goes on. */
-    this.round = 0;
-    layers.followers.push(() => { this.lastTurn = Date.now(); });
+  /** Takes up keeping the book, once. */
+  begin() {
+    this.begun ??= this.#register().catch(() => {
+      // Whoever can't have it reads as ever.
+      this.unable = true;
+      this.onChange();
+    });
+    return this.begun;
   }
 
-  async keep() {
+  /**
+   * Does what the reader wants: the whole book at once, or none of it but what is read from now on.
+   * @param {'whole' | 'read'} wish
+   */
+  async want(wish) {
+    this.busy = wish === 'whole';
+    if (this.state) this.state = { ...this.state, whole: this.busy, failed: false };
+    this.onChange();
+    await this.begin();
+    this.round += 1;
+    this.busy = wish === 'whole';
+    await this.#ask({ does: 'wish', wish });
+    if (this.busy) await this.#fetchAhead(true);
+  }
+
+  async #register() {
     this.#addManifest();
-    await this.#quiet();
     const { serviceWorker } = navigator;
-    // A worker of another edition takes the place of the one that was asked, and has nothing yet.
-    serviceWorker.addEventListener('controllerchange', () => this.#fetchAhead().catch(() => {}));
-    await serviceWorker.register('sw.js');
-    await serviceWorker.ready;
-    await this.#fetchAhead();
+    // A worker of another edition takes the place of the one that was asked, and has less.
+    serviceWorker.addEventListener('controllerchange', () => this.#goOn());
+    const registration = await serviceWorker.register('sw.js');
+    await Promise.race([serviceWorker.ready, failureOf(registration)]);
+    await this.#ask({ does: 'state' });
+    this.#goOn();
+    await this.#quiet();
+    registration.waiting?.postMessage({ does: 'replace' });
   }
 
-  async #fetchAhead() {
+  async #goOn() {
     const round = ++this.round;
-    await this.#ask({ seen: performance.getEntriesByType('resource').map(({ name }) => name) });
-    if (/** @type {any} */ (navigator).connection?.saveData) return;
-    do await this.#quiet();
-    while (round === this.round && await this.#ask({}));
+    await this.#ask({ does: 'seen', seen: performance.getEntriesByType('resource').map(({ name }) => name) });
+    if (round === this.round && !/** @type {any} */ (navigator).connection?.saveData) await this.#fetchAhead(false);
+  }
+
+  /** @param {boolean} atOnce and not only while the reader stays with a page */
+  async #fetchAhead(atOnce) {
+    const round = ++this.round;
+    while (this.state?.more) {
+      this.busy = true;
+      if (!atOnce) await this.#quiet();
+      if (round !== this.round) return;
+      await this.#ask({ does: 'ahead' });
+      if (round !== this.round) return;
+      if (this.state?.failed) break;
+    }
+    this.busy = false;
+    this.onChange();
   }
 
   /** From disk browsers complain about it. */
@@ -68,15 +125,27 @@ export class Offline {
     }
   }
 
-  /**
-   * @param {{seen?: string[]}} message
-   * @returns {Promise<boolean>} whether there is more to do
-   */
+  /** @param {{does: string, seen?: string[], wish?: string}} message */
   async #ask(message) {
     const { active } = await navigator.serviceWorker.ready;
     const { port1, port2 } = new MessageChannel();
     const answer = new Promise((resolve) => { port1.onmessage = ({ data }) => resolve(data); });
     active?.postMessage(message, [port2]);
-    return answer;
+    this.state = await answer;
+    this.onChange();
   }
+}
+
+/**
+ * Never kept, and broken where no worker comes to work: the book is just being published, or its server
+ * changes files on their way.
+ * @param {ServiceWorkerRegistration} registration
+ */
+function failureOf(registration) {
+  const { installing } = registration;
+  return new Promise((_, reject) => {
+    installing?.addEventListener('statechange', () => {
+      if (installing.state === 'redundant' && !registration.active) reject(new Error('not installed'));
+    });
+  });
 }

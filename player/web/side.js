@@ -92,6 +92,7 @@ export class SidePanel {
   constructor(room, name, button) {
     this.room = room;
     this.button = button;
+    button.setAttribute('aria-expanded', 'false');
     const { say, root } = room;
     const title = make('h2', '', say(name));
     title.id = name + '-title';

@@ -41,8 +41,9 @@ QByteArray compact(const QJsonObject& object) {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
-// The order in which files are fetched ahead: what is read first, and at the end what is seen only
-// on enlarged pages. What the book needs to open and to be searched comes with the worker itself.
+// The order in which files of a book that is kept as a whole are fetched: what is read first, and
+// at the end what is seen only on enlarged pages. What the book needs to open comes with the
+// worker.
 enum class Part { shell, picture, text, large, none };
 
 Part partOf(const QString& path, const QString& page) {
@@ -55,12 +56,10 @@ Part partOf(const QString& path, const QString& page) {
     if (path.startsWith(QStringLiteral("files/page/")))
         return Part::picture;
     if (path.startsWith(QStringLiteral("files/text/")) ||
-        path.startsWith(QStringLiteral("files/thumb/")))
+        path.startsWith(QStringLiteral("files/thumb/")) ||
+        path.startsWith(QStringLiteral("files/search/")) || path == PlainTextPage::fileName)
         return Part::text;
-    return path == page || path == PlainTextPage::fileName ||
-                   path.startsWith(QStringLiteral("files/"))
-               ? Part::shell
-               : Part::none;
+    return path == page || path.startsWith(QStringLiteral("files/")) ? Part::shell : Part::none;
 }
 
 // Objects of the library are sorted by name, and pages are to come in their order.

@@ -1,9 +1,10 @@
 import assert from 'node:assert/strict';
 import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';
+import { readFile, writeFile } from 'node:fs/promises';
 import { createServer } from 'node:http';
 import path from 'node:path';
-import { after, test } from 'node:test';
+import { afterEach, test } from 'node:test';
 import { promisify } from 'node:util';
 import { Reader } from './support/reader.mjs';
 
@@ -14,10 +15,17 @@ const ready = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN 
 const reader = Reader.forTests();
 let server;
 let address;
-after(() => stopServing());
+afterEach(() => stopServing());
 
 const bookFolder = () => path.join(reader.folder, 'book');
 const publish = (sample, ...options) => run(FOLVERO_BIN, ['publish', '--quiet', ...options, path.join(FOLVERO_SAMPLES_DIR, `${sample}.pdf`), bookFolder()]);
+
+/** Publishes a book that is said to be long: it is not its size that an edition is known by. */
+async function publishLong(sample, title) {
+  await publish(sample, '--type', 'web', '--title', title, '--pages', '1-18');
+  const list = path.join(bookFolder(), 'files/web/offline.json');
+  await writeFile(list, (await readFile(list, 'utf8')).replace(/"bytes":\d+/, '"bytes":29000000'));
+}
 
 /** Serves the book, always at the same address. */
 async function startServing() {
@@ -42,16 +50,17 @@ async function reload(page) {
 
 /** Waits until this edition is the only one kept, and all of it. */
 async function waitUntilKept(page) {
-  await page.evaluate(async () => {
+  const { version, shell, rest } = JSON.parse(await readFile(path.join(bookFolder(), 'files/web/offline.json'), 'utf8'));
+  // Asked for by the page, the list would keep the earlier edition's worker at work.
+  await page.evaluate(async ([edition, files]) => {
     const isKept = async () => {
-      const { version, shell, rest } = await (await fetch('files/web/offline.json', { cache: 'no-store' })).json();
       const [name, ...others] = await caches.keys();
-      if (!name?.endsWith(version) || others.length > 0 || !navigator.serviceWorker.controller) return false;
+      if (!name?.endsWith(edition) || others.length > 0 || !navigator.serviceWorker.controller) return false;
       const kept = (await (await caches.open(name)).keys()).map(({ url }) => url);
-      return Object.keys({ ...shell, ...rest }).every((file) => kept.includes(new URL(file, location.href).href));
+      return files.every((file) => kept.includes(new URL(file, location.href).href));
     };
     while (!await isKept()) await new Promise((resolve) => { setTimeout(resolve, 100); });
-  });
+  }, [version, Object.keys({ ...shell, ...rest })]);
 }
 
 const states = (page) => page.evaluate(() => ({ count: window.folvero.pageCount, title: document.title }));
@@ -115,6 +124,62 @@ test('a web book is read on without a connection, and anew when it was published
   assert.equal((await states(page)).title, 'Plain');
   assert.deepEqual(await page.evaluate(async () => [await caches.keys(), (await navigator.serviceWorker.getRegistrations()).length]), [[], 0]);
   assert.deepEqual(errors, []);
+});
+
+test('of a long book what was read is kept, all of it for whom asks, and no reader gets two editions', ready, async () => {
+  await publishLong('text', 'First edition');
+  await startServing();
+  const page = await reader.browser.newPage();
+  const panel = page.locator('.keep-panel');
+  const stateIs = (wanted) => page.waitForFunction((name) => document.querySelector('[data-does="keep"]').ariaLabel === name, wanted);
+  const missing = (side) => page.waitForSelector(`.page.${side}[data-image="missing"]`);
+  const toast = page.locator('.toast');
+  await page.goto(address);
+  await page.waitForSelector('#folvero[data-state="ready"]');
+  await page.keyboard.press('k');
+  assert.match(await panel.locator('.keep-text', { hasText: '29 MB' }).innerText(), /^Keep the whole book/);
+  await page.keyboard.press('Escape');
+  await page.waitForFunction(() => navigator.serviceWorker.controller);
+  const state = await page.evaluate(() => new Promise((resolve) => {
+    const { port1, port2 } = new MessageChannel();
+    port1.onmessage = ({ data }) => resolve(data);
+    navigator.serviceWorker.controller.postMessage({ does: 'state' }, [port2]);
+  }));
+  assert.ok(!state.more && state.share < 0.5, JSON.stringify(state));
+  await page.keyboard.press('ArrowRight');
+  await page.waitForFunction(() => !window.folvero.turning && window.folvero.page === 2);
+  await page.evaluate(async () => {
+    while (!await caches.match('files/page/3.webp')) await new Promise((resolve) => { setTimeout(resolve, 100); });
+  });
+
+  await stopServing();
+  await reload(page);
+  await page.waitForSelector('.page.right[data-page="3"][data-image="ready"]');
+  await page.keyboard.press('End');
+  await missing('left');
+  await toast.getByText('only pages that were kept').waitFor();
+
+  // The server has another edition while this one is read on.
+  await startServing();
+  await reload(page);
+  await publishLong('novel', 'Second edition');
+  for (const key of ['g', '8', 'Enter']) await page.keyboard.press(key);
+  await missing('right');
+  await toast.getByText('Open the new edition').click();
+  await page.waitForFunction(() => document.title === 'Second edition' && document.querySelector('#folvero[data-state="ready"]'));
+  await page.keyboard.press('k');
+  await panel.locator('.main-button').click();
+  await stateIs('Kept for offline');
+  await waitUntilKept(page);
+
+  await publishLong('text', 'Third edition');
+  await reload(page);
+  await waitUntilKept(page);
+  await stateIs('Kept for offline');
+  await page.keyboard.press('k');
+  await panel.getByRole('button', { name: 'Remove' }).click();
+  await stateIs('Keep for offline');
+  assert.equal(await page.evaluate(() => caches.match('files/page/17.webp')), undefined);
 });
 
 test('a web book on disk keeps nothing', ready, async () => {

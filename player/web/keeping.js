@@ -1,0 +1,123 @@
+import { make } from '../src/dom.js';
+import { Panel } from '../src/panel.js';
+import { icon } from './icons.js';
+
+/** The panel in which readers keep the whole book for reading without a connection. */
+export class Keeping {
+  /**
+   * @param {any} parts of the player
+   * @param {import('./layers.js').Layers} layers
+   * @param {import('./offline.js').Offline} offline
+   * @param {HTMLElement} button in the bar
+   */
+  constructor({ root, say, book, toast }, layers, offline, button) {
+    this.say = say;
+    this.offline = offline;
+    this.button = button;
+    button.setAttribute('aria-haspopup', 'dialog');
+    const title = make('h2', '', say('keep'));
+    title.id = 'keep-title';
+    const close = this.#button('close', '');
+    close.append(icon('close'));
+    close.setAttribute('aria-label', say('close'));
+    this.text = make('p', 'keep-text');
+    this.text.setAttribute('role', 'status');
+    this.bar = /** @type {HTMLProgressElement} */ (make('progress', 'keep-bar'));
+    this.bar.setAttribute('aria-labelledby', title.id);
+    this.drop = this.#button('plain-button', '');
+    this.drop.addEventListener('click', () => offline.want('read'));
+    this.keep = this.#button('main-button', say('keep'));
+    this.keep.addEventListener('click', () => offline.want('whole'));
+    const body = make('div', 'panel-body', make('header', '', title, close), this.text, this.bar,
+      make('div', 'actions', this.drop, this.keep));
+    const dialog = make('dialog', 'panel keep-panel', body);
+    dialog.setAttribute('aria-labelledby', title.id);
+    root.querySelector('.wait').before(dialog);
+    this.panel = new Panel(dialog);
+    offline.onChange = () => this.#show();
+    this.#show();
+    this.#passOn(toast, book.images, layers);
+  }
+
+  open() {
+    this.offline.begin();
+    this.panel.open();
+  }
+
+  /**
+   * @param {string} className
+   * @param {string} words
+   */
+  #button(className, words) {
+    const button = /** @type {HTMLButtonElement} */ (make('button', className, words));
+    button.type = 'button';
+    return button;
+  }
+
+  /** Shows how much of the book is kept. */
+  #show() {
+    const { say, offline, button } = this;
+    const { state, busy, unable } = offline;
+    const kept = state?.left === 0;
+    const keeping = !kept && busy && state?.whole === true;
+    const percent = Math.floor((state?.share ?? 0) * 100);
+    const size = sizeOf(state?.bytes ?? 0);
+    const name = (kept && say('kept')) || (keeping ? say('keeping', percent) : say('keep'));
+    button.replaceChildren(icon(kept ? 'kept' : 'keep'));
+    button.setAttribute('aria-label', name);
+    let text = say('keepWait');
+    if (unable) text = say('keepNever');
+    else if (kept) text = say('keptText', size);
+    else if (keeping) text = name;
+    else if (state) text = say(state.whole && state.failed ? 'keepFailed' : 'keepText', size);
+    if (this.text.textContent !== text) this.text.textContent = text;
+    this.bar.hidden = !keeping;
+    this.bar.value = state?.share ?? 0;
+    this.drop.hidden = !kept && !keeping;
+    this.drop.textContent = say(kept ? 'keepRemove' : 'keepStop');
+    this.keep.hidden = !state || kept || keeping;
+    this.#holdFocus();
+  }
+
+  /** The focus stays in the panel when the button that had it goes: keys pressed elsewhere are the book's. */
+  #holdFocus() {
+    const { dialog } = this.panel;
+    const active = /** @type {HTMLElement} */ (document.activeElement);
+    if (!dialog.open || (dialog.contains(active) && !active.hidden)) return;
+    const [first] = [...dialog.querySelectorAll('button')].reverse().filter((button) => !button.hidden);
+    first.focus();
+  }
+
+  /**
+   * Passes on what the service worker has to tell about files that can't be had.
+   * @param {import('../src/toast.js').Toast} toast
+   * @param {import('../src/images.js').PageImages} images
+   * @param {import('./layers.js').Layers} layers
+   */
+  #passOn(toast, images, layers) {
+    const { say } = this;
+    let alone = false;
+    // Pages that are only fetched ahead are nothing to the reader yet.
+    const look = () => layers.inView.forEach(async (page) => {
+      const entry = images.get(page);
+      await entry.settled;
+      if (alone && entry.state === 'missing' && layers.inView.includes(page)) toast.show(say('notKept'), say('close'), () => {});
+    });
+    layers.followers.push(look);
+    navigator.serviceWorker.addEventListener('message', ({ data }) => {
+      if (data.news === 'newEdition') toast.show(say('newEdition'), say('openNew'), () => location.reload());
+      alone ||= data.news === 'notKept';
+      look();
+    });
+    window.addEventListener('online', () => {
+      alone = false;
+      images.retry();
+    });
+  }
+}
+
+/** @param {number} bytes */
+function sizeOf(bytes) {
+  const digits = bytes < 1e7 ? 1 : 0;
+  return (bytes / 1e6).toLocaleString(document.documentElement.lang, { maximumFractionDigits: digits });
+}
