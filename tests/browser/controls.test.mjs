@@ -105,10 +105,11 @@ test('sound, playing and full screen are switched and show it', async () => {
   await book.use('play');
   assert.equal(await pressed('play'), 'false');
   await book.use('full');
-  await book.page.waitForFunction(() => document.fullscreenElement);
-  assert.equal(await pressed('full'), 'true');
+  await does(book, 'full').and(book.page.locator('[aria-pressed="true"]')).waitFor();
+  assert.equal(await book.page.evaluate(() => document.fullscreenElement !== null), true);
   await book.use('full');
-  await book.page.waitForFunction(() => !document.fullscreenElement);
+  await does(book, 'full').and(book.page.locator('[aria-pressed="false"]')).waitFor();
+  assert.equal(await book.page.evaluate(() => document.fullscreenElement), null);
 });
 
 /** Controls that are cut off by the window, or that lie over one another in the bar. */

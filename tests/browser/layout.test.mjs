@@ -100,6 +100,7 @@ for (const [binding, shaded] of [['yes', true], ['no', false]]) {
   test(`pages darken towards the middle and lie on others, binding: ${binding}`, async () => {
     const folder = await reader.book({ pages: plainPages(60), look: { binding } });
     const book = await reader.openFromDisk(folder, { hash: '#page=30' });
+    await book.rest();
     const { x, y, width } = await book.box('left');
     const inner = await book.colourAt(x + width - 2, y + 200);
     assert.equal(String(inner) !== String(colourOf(30)), shaded, `colour at the spine: ${inner}`);
