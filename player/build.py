@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Puts the player's script and style into its page, so that a book needs no further file.
 
-Usage: build.py PLAYER_DIR TEMPLATE OUTPUT
+Usage: build.py ESBUILD PLAYER_DIR TEMPLATE OUTPUT
 
 The template's look.css comes after the player's own style. From its template.json the page learns
 how leaves turn ("turn"), whether two pages may lie side by side ("pages") and whether the pages are
@@ -16,7 +16,7 @@ import pathlib
 import re
 import sys
 
-from bundle import join_script
+from bundle import bundled, joined_style, minified_script
 
 PLACEHOLDERS = ["index.title", "meta.keywords", "meta.description"]
 STYLES = ["book.css", "controls.css", "drawer.css", "panels.css", "print.css"]
@@ -40,14 +40,14 @@ def attributes(template, name):
 
 
 def main():
-    player, name, output = pathlib.Path(sys.argv[1]), sys.argv[2], pathlib.Path(sys.argv[3])
+    esbuild, player, name, output = sys.argv[1], pathlib.Path(sys.argv[2]), sys.argv[3], pathlib.Path(sys.argv[4])
     folder = player / "templates" / name
     template = json.loads((folder / "template.json").read_text(encoding="utf-8"))
     sheets = [player / "style" / sheet for sheet in STYLES] + [folder / "look.css"]
-    style = "\n".join(sheet.read_text(encoding="utf-8").strip() for sheet in sheets)
-    script = join_script(player / "src/main.js")
+    style = joined_style(esbuild, sheets)
+    script = bundled(esbuild, player / "src/main.js")
     page = (player / "shell.html").read_text(encoding="utf-8")
-    early = (player / "early.js").read_text(encoding="utf-8").strip()
+    early = minified_script(esbuild, player / "early.js")
     page = page.replace("/*early*/", early).replace("/*style*/", style).replace("/*script*/", script)
     page = page.replace('data-template=""', attributes(template, name))
     check(page, early + script)

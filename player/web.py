@@ -2,7 +2,7 @@
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, and
 sw.js, which keeps a book for readers without a connection.
 
-Usage: web.py PLAYER_DIR OUTPUT_DIR
+Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
 The first two may be put into a page, which passes through a text template: they hold neither its
 placeholders nor anything that ends the element around them.
@@ -11,7 +11,7 @@ placeholders nor anything that ends the element around them.
 import pathlib
 import sys
 
-from bundle import COMMENT, join_script
+from bundle import bundled, joined_style, minified_script
 
 STYLES = ["layers.css", "side.css", "contents.css", "search.css", "keeping.css", "looks.css"]
 
@@ -23,15 +23,14 @@ def check(name, text):
 
 
 def main():
-    player, output = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
-    style = "\n".join((player / "web" / sheet).read_text(encoding="utf-8").strip() for sheet in STYLES)
-    parts = {"web.js": join_script(player / "web/main.js"), "web.css": style}
+    esbuild, player, output = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
+    parts = {"web.js": bundled(esbuild, player / "web/main.js"),
+             "web.css": joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])}
     output.mkdir(parents=True, exist_ok=True)
     for name, text in parts.items():
         check(name, text)
         (output / name).write_text(text + "\n", encoding="utf-8")
-    worker = (player / "sw.js").read_text(encoding="utf-8")
-    (output / "sw.js").write_text(COMMENT.sub("", worker), encoding="utf-8")
+    (output / "sw.js").write_text(minified_script(esbuild, player / "sw.js") + "\n", encoding="utf-8")
 
 
 main()

@@ -146,7 +146,7 @@ test('a browser without script says what is missing', async () => {
 test('a browser that does not understand the script says so', async () => {
   const folder = await reader.book({ pages: plainPages(3) });
   const file = path.join(folder, 'index.html');
-  await writeFile(file, (await readFile(file, 'utf8')).replace("'use strict';", 'a script of tomorrow;'));
+  await writeFile(file, (await readFile(file, 'utf8')).replace('"use strict";', 'a script of tomorrow;'));
   const page = await reader.browser.newPage();
   await page.goto(`file://${file}`);
   assert.match(await page.locator('body').innerText(), /needs a newer browser/);

@@ -339,7 +339,7 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
         EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[QStringLiteral("web.css")])));
         EXPECT_EQ(wanted.size(), 6U) << "the other four are of no use in a page";
         static const QRegularExpression outside(
-            QStringLiteral(R"re((?:src|href|data)="(?!data:))re"));
+            QStringLiteral(R"re(\s(?:src|href|data)="(?!data:))re"));
         EXPECT_FALSE(html.contains(outside)) << outside.match(html).captured().toStdString();
         EXPECT_EQ(html.count(QStringLiteral("<script")), html.count(QStringLiteral("</script>")));
     }

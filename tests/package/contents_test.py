@@ -79,6 +79,8 @@ class Contents(unittest.TestCase):
             for file in ("index.html", "flashTemplate.xml", "book.swf", "moveSound.mp3", "icon.png"):
                 self.assertIn(f"./usr/share/folvero/AppFiles/Templates/{template.parent.name}/{file}",
                               names)
+        # The licence asks for the source of the player, which books carry minified.
+        self.assertIn("./usr/share/folvero/player/src/main.js", names)
 
     def test_lintian_finds_nothing(self):
         # The compression is only that of the tests, and what look like words of the programs are
