@@ -1,7 +1,10 @@
 // Stands at the top of the page: the configuration is on its way while the rest of the page is
 // still being read, which a long book gains most from.
 window.folveroConfiguration = (() => {
-  /** Browsers refuse to read sibling files of a page opened from disk, but run sibling scripts. */
+  /**
+   * Browsers refuse to read sibling files of a page opened from disk, but run sibling scripts.
+   * @returns {Promise<Event>}
+   */
   const runScript = () => new Promise((resolve, reject) => {
     const script = document.createElement('script');
     script.src = 'files/UserConfig.js';

@@ -3,8 +3,7 @@
  * @returns {Uint8Array}
  */
 export function bytesOf(base64) {
-  const decode = /** @type {any} */ (Uint8Array).fromBase64;
-  if (decode) return decode.call(Uint8Array, base64);
+  if (Uint8Array.fromBase64) return Uint8Array.fromBase64(base64);
   const letters = atob(base64);
   // A book of thousands of pages has a million of them, so no function is called for each.
   const bytes = new Uint8Array(letters.length);

@@ -50,11 +50,11 @@ export class BookError extends Error {
  */
 
 /** What the top of the page has asked for already. */
-const { asked, runScript, here } = /** @type {any} */ (window).folveroConfiguration;
+const { asked, runScript, here } = window.folveroConfiguration;
 
 /** @returns {Promise<Uint8Array>} the enciphered configuration */
 async function fetchBinary() {
-  const response = await asked;
+  const response = /** @type {Response} */ (await asked);
   if (!response.ok) throw new Error('status ' + response.status);
   return new Uint8Array(await response.arrayBuffer());
 }
@@ -66,7 +66,7 @@ async function fetchBinary() {
 async function readScriptCopy(run) {
   await run;
   try {
-    return bytesOf(/** @type {any} */ (window).FolveroUserConfig);
+    return bytesOf(/** @type {string} */ (window.FolveroUserConfig));
   } catch {
     throw new BookError('damaged');
   }

@@ -28,7 +28,7 @@ export class Folding {
 
   /** Notes what may be folded away. */
   collect() {
-    this.order = [...this.bar.querySelectorAll('[data-fold]')].map((one) => /** @type {any} */ (one));
+    this.order = [.../** @type {NodeListOf<HTMLElement>} */ (this.bar.querySelectorAll('[data-fold]'))];
     this.order.sort((a, b) => Number(a.dataset.fold) - Number(b.dataset.fold));
   }
 

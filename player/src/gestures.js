@@ -43,17 +43,26 @@ export class Gestures {
     this.press = null;
     /** @type {Tap | null} last tap that a second may follow */
     this.lastTap = null;
-    /** A turn that waits for a second tap, which means enlarging. @type {{timer: number, turn: () => void} | null} */
+    /**
+     * A turn that waits for a second tap, which means enlarging.
+     * @type {{timer: number, turn: () => void} | null}
+     */
     this.waiting = null;
     /**
      * Whether a pointer means text; null where nobody knows. Not set where nothing is known about any page.
      * @type {((event: PointerEvent) => boolean | null) | null}
      */
     this.textAt = null;
-    /** Whether something on the pages has dealt with a tap. @param {PointerEvent} _ */
-    this.answersTap = (_) => false;
-    /** Whether the pointer is over something on the pages. @param {PointerEvent} _ */
-    this.isOver = (_) => false;
+    /**
+     * Whether something on the pages has dealt with a tap.
+     * @type {(event: PointerEvent) => boolean}
+     */
+    this.answersTap = () => false;
+    /**
+     * Whether the pointer is over something on the pages.
+     * @type {(event: PointerEvent) => boolean}
+     */
+    this.isOver = () => false;
     stage.addEventListener('pointerdown', (event) => this.#down(event));
     stage.addEventListener('pointermove', (event) => this.#move(event));
     stage.addEventListener('pointerup', (event) => this.#up(event));

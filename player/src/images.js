@@ -47,7 +47,7 @@ export class PageImages {
     let entry = this.kept.get(page);
     if (!entry) {
       entry = { image: new Image(), state: 'loading', settled: Promise.resolve() };
-      entry.image.fetchPriority = urgent ? 'high' : 'low';
+      entry.image.setAttribute('fetchpriority', urgent ? 'high' : 'low');
       this.kept.set(page, entry);
       entry.settled = this.#load(page, entry);
     }

@@ -27,9 +27,8 @@ import { ZoomGestures } from './zoomgestures.js';
 /**
  * What other scripts add to the book. Each is called with the configuration before any picture is
  * loaded, and may give what is to be called once the controls are there.
- * @type {((early: object) => Promise<((parts: object) => void) | undefined>)[]}
  */
-const extensions = /** @type {any} */ (window).folveroExtensions ?? [];
+const extensions = window.folveroExtensions ?? [];
 
 /**
  * What is announced to readers who do not see the pages.
@@ -73,6 +72,7 @@ function followWindow(root, turner, drawer, page) {
  * @param {HTMLElement} root
  * @param {Turner} turner
  * @param {Sounds} sounds
+ * @returns {import('./player.js').Controls}
  */
 function addControls(root, turner, sounds) {
   const { book } = turner;
@@ -86,6 +86,7 @@ function addControls(root, turner, sounds) {
   const helping = new Helping(root);
   const menu = new Menu(root, () => toolbar.folding.folded);
   const toast = new Toast(root);
+  /** @type {import('./toolbar.js').Commands} */
   const commands = {
     thumbs: () => drawer.toggle(),
     zoomIn: () => zoom.in(),
@@ -166,7 +167,7 @@ async function openBook(root) {
  * State of the book for whoever embeds or tests it.
  * @param {Book} book
  * @param {Turner} turner
- * @param {ReturnType<typeof addControls>} controls
+ * @param {import('./player.js').Controls} controls
  */
 function expose(book, turner, { drawer, sheets }) {
   Object.defineProperty(window, 'folvero', {

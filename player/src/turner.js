@@ -45,10 +45,16 @@ export class Turner {
     this.atOnce = () => false;
     this.onStood = () => {};
     this.onJumped = () => {};
-    /** Told before a jump begins. @param {number} _ view */
-    this.onJump = (_) => {};
-    /** Told when a leaf is taken off the pages and when they stand again. @param {boolean} _ */
-    this.onAir = (_) => {};
+    /**
+     * Told before a jump begins.
+     * @type {(view: number) => void}
+     */
+    this.onJump = () => {};
+    /**
+     * Told when a leaf is taken off the pages and when they stand again.
+     * @type {(inAir: boolean) => void}
+     */
+    this.onAir = () => {};
     book.onImage = (page) => this.#imageArrived(page);
   }
 

@@ -56,6 +56,6 @@ export function ownFile(text) {
  */
 export function fileAddress(path) {
   // A book that is one file has its pictures and sounds in its page.
-  return path && (/** @type {any} */ (window).folveroFile?.(path)
+  return path && (window.folveroFile?.(path)
     ?? 'files/' + path.split('/').map(encodeURIComponent).join('/'));
 }

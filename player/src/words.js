@@ -68,9 +68,9 @@ export function say(word, ...values) {
 export function sayEverywhere(root) {
   document.documentElement.lang = language;
   for (const element of root.querySelectorAll('[data-say]')) {
-    element.textContent = say(/** @type {any} */ (element).dataset.say);
+    element.textContent = say(/** @type {Word} */ (element.getAttribute('data-say')));
   }
   for (const element of root.querySelectorAll('[data-name]')) {
-    element.setAttribute('aria-label', say(/** @type {any} */ (element).dataset.name));
+    element.setAttribute('aria-label', say(/** @type {Word} */ (element.getAttribute('data-name'))));
   }
 }

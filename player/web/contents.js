@@ -11,7 +11,7 @@ const SHORT = 24;
 /** The panel with the book's contents. */
 export class Contents {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {import('./layers.js').Layers} layers
    * @param {import('./side.js').SideRoom} room
    * @param {HTMLElement} button

@@ -8,17 +8,16 @@ export class DataFiles {
   /** @param {SingleFile | null} single the files, where they stand in the page itself */
   constructor(single) {
     this.single = single;
-    /** @type {Map<string, {promise: Promise<any>, arrived: (data: any) => void}>} */
+    /** @type {Map<string, {promise: Promise<unknown>, arrived: (data: unknown) => void}>} */
     this.waiting = new Map();
-    /** @type {any} */ (window).folveroData = (/** @type {string} */ name, /** @type {any} */ data) =>
-      this.waiting.get(name)?.arrived(data);
+    window.folveroData = (name, data) => this.waiting.get(name)?.arrived(data);
     window.addEventListener('error', (event) => this.#keepFault(event), { capture: true });
   }
 
   /**
    * Data of a file that may be missing or broken; asked again it is loaded again.
    * @param {string} name path below the book's files, without its ending
-   * @returns {Promise<any>}
+   * @returns {Promise<unknown>}
    */
   load(name) {
     const waiting = this.waiting.get(name);
@@ -32,7 +31,7 @@ export class DataFiles {
 
   /**
    * @param {string} name
-   * @returns {Promise<any>}
+   * @returns {Promise<unknown>}
    */
   #run(name) {
     const script = document.createElement('script');

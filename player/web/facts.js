@@ -14,25 +14,29 @@ const DEEPEST = 24;
 /** What is known of a web book beside its configuration. Whatever its file holds, this is well formed. */
 export class Facts {
   /**
-   * @param {any} raw as the file has it
+   * @param {unknown} data as the file has it
    * @param {number} pageCount
    */
-  constructor(raw, pageCount) {
+  constructor(data, pageCount) {
+    const raw = fieldsOf(data);
     this.pageCount = pageCount;
-    const numbers = listOf(raw?.numbers);
+    const numbers = listOf(raw.numbers);
     /** @type {number[]} picture numbers by position, empty where both are the same */
     this.numbers = numbers.map(Number);
-    const labels = listOf(raw?.labels).map(textOf).slice(0, pageCount);
+    const labels = listOf(raw.labels).map(textOf).slice(0, pageCount);
     const own = labels.some((label, index) => label && label !== String(index + 1));
     /** @type {string[] | null} none where all pages are called by their positions */
     this.labels = own ? labels : null;
-    this.outline = entriesOf(raw?.outline, pageCount, 0);
-    this.large = listOf(raw?.large).map((kind) => (LARGE_KINDS.includes(kind) ? kind : ''));
-    this.hasText = raw?.text === true;
-    this.offline = raw?.offline === true;
-    this.open = Array.isArray(raw?.open) ? raw.open.filter(Array.isArray) : null;
-    this.language = /^[a-z]{2,3}(?:-[a-z0-9]{1,8})*$/i.test(textOf(raw?.language)) ? raw.language : '';
-    this.textPage = /^[\w-][\w.-]*\.html$/.test(textOf(raw?.textPage)) ? raw.textPage : '';
+    this.outline = entriesOf(raw.outline, pageCount, 0);
+    this.large = listOf(raw.large).map((kind) => (LARGE_KINDS.includes(kind) ? kind : ''));
+    this.hasText = raw.text === true;
+    this.offline = raw.offline === true;
+    const ranges = /** @type {[from: number, to: number][]} */ (listOf(raw.open).filter(Array.isArray));
+    /** Pages that can be read, none where all can. */
+    this.open = Array.isArray(raw.open) ? ranges : null;
+    const [language, textPage] = [raw.language, raw.textPage].map(textOf);
+    this.language = /^[a-z]{2,3}(?:-[a-z0-9]{1,8})*$/i.test(language) ? language : '';
+    this.textPage = /^[\w-][\w.-]*\.html$/.test(textPage) ? textPage : '';
   }
 
   /**
@@ -63,20 +67,29 @@ export class Facts {
 }
 
 /**
- * @param {any} value
- * @returns {any[]}
+ * What data holds by name.
+ * @param {unknown} data
+ * @returns {Record<string, unknown>}
+ */
+export function fieldsOf(data) {
+  return /** @type {Record<string, unknown>} */ (Object(data));
+}
+
+/**
+ * @param {unknown} value
+ * @returns {any[]} of what is still to be checked
  */
 export function listOf(value) {
   return Array.isArray(value) ? value : [];
 }
 
-/** @param {any} value */
+/** @param {unknown} value */
 export function textOf(value) {
   return typeof value === 'string' ? value : '';
 }
 
 /**
- * @param {any} raw
+ * @param {unknown} raw
  * @param {number} pageCount
  * @param {number} depth
  * @returns {Entry[]}

@@ -11,7 +11,7 @@ const BAR_COVERS = 72;
 /** Marks what was found on the pages in view. */
 export class Hits {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {Layers} layers
    */
   constructor({ zoom, root, book }, layers) {

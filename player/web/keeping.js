@@ -1,11 +1,11 @@
-import { make } from '../src/dom.js';
+import { make, part } from '../src/dom.js';
 import { Panel } from '../src/panel.js';
 import { icon } from './icons.js';
 
 /** The panel in which readers keep the whole book for reading without a connection. */
 export class Keeping {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {import('./layers.js').Layers} layers
    * @param {import('./offline.js').Offline} offline
    * @param {HTMLElement} button in the bar
@@ -32,7 +32,7 @@ export class Keeping {
       make('div', 'actions', this.drop, this.keep));
     const dialog = make('dialog', 'panel keep-panel', body);
     dialog.setAttribute('aria-labelledby', title.id);
-    root.querySelector('.wait').before(dialog);
+    part(root, '.wait').before(dialog);
     this.panel = new Panel(dialog);
     offline.onChange = () => this.#show();
     this.#show();

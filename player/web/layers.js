@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make, part } from '../src/dom.js';
 import { fullLabel } from '../src/labels.js';
 
 /** @typedef {import('./pagetext.js').PageText} PageText */
@@ -17,7 +17,7 @@ import { fullLabel } from '../src/labels.js';
 /** Keeps layers over the standing pages: they come with a page's text and go with the page. */
 export class Layers {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {PageTexts} texts
    */
   constructor({ root, config, book, turner, zoom, say }, texts) {
@@ -40,7 +40,7 @@ export class Layers {
       if (this.facts.language) over.lang = this.facts.language;
       book.element.append(over);
       // What stands over a page says all that there is to say about it.
-      book.element.querySelector('.page.' + side).setAttribute('aria-hidden', 'true');
+      part(book.element, '.page.' + side).setAttribute('aria-hidden', 'true');
       return { side, over, box, position: 0, text: null };
     });
     const { onChange } = zoom;
@@ -49,7 +49,7 @@ export class Layers {
       // Lines around what is marked stay as thin as they are.
       book.element.style.setProperty('--level', String(zoom.level));
     };
-    turner.onAir = (/** @type {boolean} */ inAir) => {
+    turner.onAir = (inAir) => {
       root.dataset.air = inAir ? 'yes' : 'no';
       if (!inAir) this.update();
     };

@@ -22,7 +22,7 @@ const LONGEST_TIP = 64;
 /** The links of the standing pages. */
 export class Links {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {import('./layers.js').Layers} layers
    */
   constructor({ config, book, turner, toolbar, gestures, say, root }, layers) {
@@ -33,12 +33,12 @@ export class Links {
     this.tips = toolbar.tips;
     this.say = say;
     layers.fillers.push((face) => this.#add(face));
-    gestures.isOver = (/** @type {PointerEvent} */ event) => isOn(event, '.page-link, .word');
-    root.addEventListener('dragstart', (/** @type {Event} */ event) => event.preventDefault());
+    gestures.isOver = (event) => isOn(event, '.page-link, .word');
+    root.addEventListener('dragstart', (event) => event.preventDefault());
     /** When a tap was followed last. */
     this.followed = -Infinity;
     // The browser clicks on what a finger has tapped, too: a link would open twice. Keys click without a count.
-    root.addEventListener('click', (/** @type {MouseEvent} */ event) => {
+    root.addEventListener('click', (event) => {
       const again = event.isTrusted && event.detail > 0 && event.timeStamp - this.followed < CLICK_MS;
       if (!again || !isOn(event, '.page-link')) return;
       event.preventDefault();
@@ -118,7 +118,9 @@ export class Links {
   #nearest(x, y, reach) {
     /** @type {{link: HTMLElement, away: number} | null} */
     let nearest = null;
-    for (const link of this.book.element.querySelectorAll('.over:not([hidden]) .page-link')) {
+    /** @type {NodeListOf<HTMLElement>} */
+    const links = this.book.element.querySelectorAll('.over:not([hidden]) .page-link');
+    for (const link of links) {
       const box = link.getBoundingClientRect();
       const away = Math.hypot(Math.max(box.left - x, 0, x - box.right), Math.max(box.top - y, 0, y - box.bottom));
       if (away <= reach && (!nearest || away < nearest.away)) nearest = { link, away };

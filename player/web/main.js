@@ -28,7 +28,7 @@ asked.catch(() => {});
  * @param {'contents' | 'search' | 'keep'} name
  * @param {string} key
  * @param {string} fold place in the order in which the bar's buttons go into its menu
- * @param {(word: string) => string} say
+ * @param {import('../src/player.js').Say} say
  */
 function barButton(name, key, fold, say) {
   const button = make('button', '', icon(name));
@@ -51,36 +51,36 @@ function addTextLink(root, address, words) {
 }
 
 /**
- * @param {any} parts of the player
+ * @param {import('../src/player.js').Player} player
  * @param {Facts} facts
  */
-function addToBook(parts, facts) {
-  const { root, toolbar, commands, gestures, turner, book, say } = parts;
+function addToBook(player, facts) {
+  const { root, toolbar, commands, gestures, turner, book, say } = player;
   const texts = new PageTexts(files, facts);
-  const layers = new Layers(parts, texts);
+  const layers = new Layers(player, texts);
   layers.fillers.push(addTextLayer);
-  const links = new Links(parts, layers);
-  const selecting = new Selecting(parts, layers);
-  gestures.answersTap = (/** @type {PointerEvent} */ event) => selecting.answers || links.followAt(event);
-  new Sharper(parts, layers);
-  const room = new SideRoom(parts);
+  const links = new Links(player, layers);
+  const selecting = new Selecting(player, layers);
+  gestures.answersTap = (event) => selecting.answers || links.followAt(event);
+  new Sharper(player, layers);
+  const room = new SideRoom(player);
   // Where the bar is short of room, the search is worth more than the number of pages.
   part(toolbar.bar, '.of').dataset.fold = '7.2';
   if (facts.outline.length > 0) {
     const button = barButton('contents', 'C', '7.4', say);
-    const contents = new Contents(parts, layers, room, button);
+    const contents = new Contents(player, layers, room, button);
     commands.contents = () => contents.panel.toggle();
     toolbar.add(button, 'thumbs');
   }
   if (facts.hasText) {
     const button = barButton('search', '/', '7.6', say);
-    const searching = new Searching(parts, layers, files, room, button);
+    const searching = new Searching(player, layers, files, room, button);
     commands.search = () => searching.panel.toggle();
     toolbar.add(button, 'thumbs');
   }
   if (facts.offline && !single && Offline.possible) {
     const button = barButton('keep', 'K', '2.5', say);
-    const keeping = new Keeping(parts, layers, new Offline(root, layers), button);
+    const keeping = new Keeping(player, layers, new Offline(root, layers), button);
     // Without a connection the page around a frame isn't there either.
     if (window.parent === window) {
       commands.keep = () => keeping.open();
@@ -97,11 +97,10 @@ function addToBook(parts, facts) {
   layers.update();
 }
 
-const page = /** @type {any} */ (window);
-page.folveroFile = (/** @type {string} */ path) => single?.address(path);
-page.folveroExtensions ??= [];
-page.folveroExtensions.push(async (/** @type {any} */ early) => {
-  const { config, say, learn } = early;
+window.folveroFile = (path) => single?.address(path);
+window.folveroExtensions ??= [];
+window.folveroExtensions.push(async (beginning) => {
+  const { config, say, learn } = beginning;
   learn(WEB_WORDS);
   await single?.complete;
   const facts = await asked.then((raw) => new Facts(raw, config.pages.length)).catch(() => null);
@@ -109,6 +108,6 @@ page.folveroExtensions.push(async (/** @type {any} */ early) => {
   if (!facts) return undefined;
   config.labels = facts.labels;
   const closed = closePages(config, facts, say('notOpen'));
-  page.folveroFile = (/** @type {string} */ path) => closed(path) ?? single?.address(path);
-  return (/** @type {any} */ parts) => addToBook({ ...early, ...parts }, facts);
+  window.folveroFile = (path) => closed(path) ?? single?.address(path);
+  return (parts) => addToBook({ ...beginning, ...parts }, facts);
 });

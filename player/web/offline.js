@@ -90,7 +90,7 @@ export class Offline {
   async #goOn() {
     const round = ++this.round;
     await this.#ask({ does: 'seen', seen: performance.getEntriesByType('resource').map(({ name }) => name) });
-    if (round === this.round && !/** @type {any} */ (navigator).connection?.saveData) await this.#fetchAhead(false);
+    if (round === this.round && !navigator.connection?.saveData) await this.#fetchAhead(false);
   }
 
   /** @param {boolean} atOnce and not only while the reader stays with a page */

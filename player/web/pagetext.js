@@ -1,4 +1,4 @@
-import { listOf, textOf } from './facts.js';
+import { fieldsOf, listOf, textOf } from './facts.js';
 
 /**
  * @typedef {{x: number, y: number, width: number, height: number}} Box
@@ -17,14 +17,15 @@ const STRONG_LTR = /[\p{L}\p{N}]/u;
 
 /** Words and links of one page, in tenths of a point from its upper left corner. */
 export class PageText {
-  /** @param {any} raw as the page's file has it */
-  constructor(raw) {
-    const [width, height] = listOf(raw?.size).map(Number);
+  /** @param {unknown} data as the page's file has it */
+  constructor(data) {
+    const raw = fieldsOf(data);
+    const [width, height] = listOf(raw.size).map(Number);
     this.width = width > 0 && Number.isFinite(width) ? width : 6000;
     this.height = height > 0 && Number.isFinite(height) ? height : 8000;
-    this.lines = listOf(raw?.lines).filter((line) => Array.isArray(line)).map(lineOf)
+    this.lines = listOf(raw.lines).filter((line) => Array.isArray(line)).map(lineOf)
       .filter(({ words }) => words.length > 0);
-    this.links = listOf(raw?.links).filter((link) => Array.isArray(link)).map(linkOf);
+    this.links = listOf(raw.links).filter((link) => Array.isArray(link)).map(linkOf);
   }
 
   /** All words of the page as the text for searching has them. */

@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make, part } from '../src/dom.js';
 import { fullLabel } from '../src/labels.js';
 import { Hits } from './hits.js';
 import { icon } from './icons.js';
@@ -11,21 +11,21 @@ import { SidePanel } from './side.js';
 /** The panel for searching in the book, and the strip that stays of it where it would hide the book. */
 export class Searching {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {import('./layers.js').Layers} layers
    * @param {import('./data.js').DataFiles} files
    * @param {import('./side.js').SideRoom} room
    * @param {HTMLElement} button
    */
-  constructor(parts, layers, files, room, button) {
-    const { config, book, turner, say, root } = parts;
+  constructor(player, layers, files, room, button) {
+    const { config, book, turner, say, root } = player;
     this.say = say;
     this.room = room;
     this.turner = turner;
     this.book = book;
     this.layers = layers;
     this.files = files;
-    this.hits = new Hits(parts, layers);
+    this.hits = new Hits(player, layers);
     this.panel = new SidePanel(room, 'search', button);
     /** @type {SearchText | null} */
     this.text = null;
@@ -37,6 +37,11 @@ export class Searching {
     this.index = -1;
     /** Whether the strip stays when the panel goes. */
     this.stays = false;
+    this.box = /** @type {HTMLInputElement} */ (make('input', 'search-box'));
+    this.status = make('p', 'search-status');
+    this.again = make('button', 'plain-button', say('tryAgain'));
+    this.count = make('button', 'strip-count');
+    this.strip = make('div', 'search-strip');
     this.#build(root);
     this.results = new Results(make('div', 'results'), (position) => say('page', fullLabel(config, position)),
       layers.facts.language, (index) => this.#choose(index));
@@ -51,16 +56,13 @@ export class Searching {
   /** @param {HTMLElement} root */
   #build(root) {
     const { say } = this;
-    this.box = /** @type {HTMLInputElement} */ (make('input', 'search-box'));
     Object.assign(this.box, { type: 'search', autocomplete: 'off', spellcheck: false, enterKeyHint: 'search', maxLength: 200 });
     this.box.dir = 'auto';
     this.box.setAttribute('aria-label', say('searchBox'));
     this.box.placeholder = say('searchBox');
-    this.status = make('p', 'search-status');
     this.status.setAttribute('role', 'status');
     const field = make('label', 'search-field', icon('search'), this.box);
     const row = make('div', 'search-row', this.status, ...this.#steps());
-    this.again = make('button', 'plain-button', say('tryAgain'));
     this.again.setAttribute('type', 'button');
     this.again.hidden = true;
     this.again.addEventListener('click', () => {
@@ -70,15 +72,14 @@ export class Searching {
     this.panel.head.after(make('div', 'search-head', field, row, this.again));
     this.box.addEventListener('input', () => this.#find());
     this.box.addEventListener('keydown', (event) => this.#boxKey(event));
-    this.count = make('button', 'strip-count');
     this.count.setAttribute('type', 'button');
     this.count.addEventListener('click', () => this.panel.show());
     const end = this.#button('close', 'searchEnd', () => this.end());
-    this.strip = make('div', 'search-strip', this.count, ...this.#steps(), end);
+    this.strip.append(this.count, ...this.#steps(), end);
     this.strip.setAttribute('role', 'group');
     this.strip.setAttribute('aria-label', say('search'));
     this.strip.hidden = true;
-    root.querySelector('.toast').before(this.strip);
+    part(root, '.toast').before(this.strip);
   }
 
   /** @returns {HTMLElement[]} buttons for the hits before and after */
@@ -88,7 +89,7 @@ export class Searching {
 
   /**
    * @param {'up' | 'down' | 'close'} sign
-   * @param {string} word
+   * @param {import('../src/player.js').AnyWord} word
    * @param {() => void} act
    */
   #button(sign, word, act) {

@@ -17,7 +17,7 @@ const BEHIND = 60;
 
 /** All text of the book, made ready for searching while the reader types. */
 export class SearchText {
-  /** @param {any} raw texts by position, as the file has them */
+  /** @param {unknown} raw texts by position, as the file has them */
   constructor(raw) {
     this.texts = listOf(raw).map(textOf);
     /** @type {string[]} */

@@ -1,3 +1,4 @@
+import { part } from '../src/dom.js';
 import { boxIn, distance, isUpright, runsBack } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */
@@ -25,26 +26,25 @@ const BESIDE = 0.4;
  */
 export class Selecting {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {Layers} layers
    */
   constructor({ root, gestures }, layers) {
     this.root = root;
     this.gestures = gestures;
     this.layers = layers;
-    gestures.textAt = (/** @type {PointerEvent} */ event) => this.#textAt(event);
+    gestures.textAt = (event) => this.#textAt(event);
     /** @type {{id: number, x: number, y: number, anchor: Caret, marks: boolean, timer: number} | null} */
     this.press = null;
     /** Whether the press under way is about what is marked and means nothing else. */
     this.answers = false;
     /** Whether the last press was a mouse's. */
     this.byMouse = false;
-    const stage = root.querySelector('.stage');
-    stage.addEventListener('mousedown', (/** @type {MouseEvent} */ event) => this.#keepFromBrowser(event));
-    root.addEventListener('pointerdown', (/** @type {PointerEvent} */ event) => this.#down(event), { capture: true });
-    root.addEventListener('pointermove', (/** @type {PointerEvent} */ event) => this.#move(event), { capture: true });
-    for (const name of ['pointerup', 'pointercancel']) {
-      root.addEventListener(name, (/** @type {PointerEvent} */ event) => this.#up(event), { capture: true });
+    part(root, '.stage').addEventListener('mousedown', (event) => this.#keepFromBrowser(event));
+    root.addEventListener('pointerdown', (event) => this.#down(event), { capture: true });
+    root.addEventListener('pointermove', (event) => this.#move(event), { capture: true });
+    for (const name of /** @type {const} */ (['pointerup', 'pointercancel'])) {
+      root.addEventListener(name, (event) => this.#up(event), { capture: true });
     }
     document.addEventListener('selectionchange', () => this.#touched());
     document.addEventListener('copy', (event) => this.#copy(event));

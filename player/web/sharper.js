@@ -1,3 +1,4 @@
+import { part } from '../src/dom.js';
 import { fileAddress } from '../src/values.js';
 
 /** @typedef {import('./layers.js').Layers} Layers */
@@ -12,7 +13,7 @@ const REST_MS = 160;
 /** Shows finer pictures of the pages in view while they are enlarged beyond what the usual ones hold. */
 export class Sharper {
   /**
-   * @param {any} parts of the player
+   * @param {import('../src/player.js').Player} player
    * @param {Layers} layers
    */
   constructor({ book, turner, zoom }, layers) {
@@ -29,7 +30,7 @@ export class Sharper {
       this.#soon();
     };
     const { onImage } = book;
-    book.onImage = (/** @type {number} */ page) => {
+    book.onImage = (page) => {
       onImage(page);
       if (this.zoom.active) this.#soon();
     };
@@ -86,8 +87,8 @@ export class Sharper {
       // The usual picture stays.
       return;
     }
-    const slot = this.book.element.querySelector('.page.' + side);
-    const usual = slot?.querySelector('img');
+    const slot = part(this.book.element, '.page.' + side);
+    const usual = slot.querySelector('img');
     if (this.kept.get(side) !== entry || !usual || slot.dataset.page !== String(position)) return;
     image.decoding = 'sync';
     image.style.cssText = usual.style.cssText;

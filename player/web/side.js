@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make, part } from '../src/dom.js';
 import { icon } from './icons.js';
 
 /** Narrowest window in which a panel lies beside the book instead of over it, and over it instead of in its place. */
@@ -9,7 +9,7 @@ const OVER_LEAST = 600;
 
 /** The place at the left where one panel at a time opens. */
 export class SideRoom {
-  /** @param {any} parts of the player */
+  /** @param {import('../src/player.js').Player} player */
   constructor({ root, book, toolbar, commands, drawer, relayout, say }) {
     this.root = root;
     this.book = book;
@@ -26,7 +26,7 @@ export class SideRoom {
       if (this.open) this.open.hide();
       else escape();
     };
-    root.querySelector('.stage').addEventListener('pointerdown', () => {
+    part(root, '.stage').addEventListener('pointerdown', () => {
       if (this.way === 'over') this.open?.hide();
     });
     new ResizeObserver(() => this.#follow()).observe(root);
@@ -86,7 +86,7 @@ export class SideRoom {
 export class SidePanel {
   /**
    * @param {SideRoom} room
-   * @param {string} name of the panel and of the command that opens it
+   * @param {'contents' | 'search'} name of the panel and of the command that opens it
    * @param {HTMLElement} button in the bar
    */
   constructor(room, name, button) {
@@ -104,7 +104,7 @@ export class SidePanel {
     this.body = make('div', 'side-body');
     this.dialog = /** @type {HTMLDialogElement} */ (make('dialog', 'side ' + name + '-side', this.head, this.body));
     this.dialog.setAttribute('aria-labelledby', title.id);
-    root.querySelector('.toast').before(this.dialog);
+    part(root, '.toast').before(this.dialog);
     close.addEventListener('click', () => this.hide());
     this.dialog.addEventListener('keydown', (event) => this.#key(event));
     this.dialog.addEventListener('cancel', (event) => {
@@ -148,9 +148,9 @@ export class SidePanel {
     this.onHide();
   }
 
-  /** @returns {HTMLElement | null | undefined} what shows that the panel can be opened */
+  /** @returns {HTMLElement | undefined} what shows that the panel can be opened */
   #opener() {
-    const more = this.room.root.querySelector('[data-does="more"]');
+    const more = part(this.room.root, '[data-does="more"]');
     return [this.button, more].find((one) => one.getClientRects().length > 0);
   }
 

@@ -10,7 +10,7 @@ const PASSING = /^(?:page|thumb|large)\//;
 export class SingleFile {
   /** Whether this book is one: only then the configuration was there before anything was loaded. */
   static get here() {
-    return /** @type {any} */ (window).folveroConfiguration?.here === true;
+    return window.folveroConfiguration.here;
   }
 
   constructor() {
@@ -32,7 +32,7 @@ export class SingleFile {
 
   /**
    * @param {string} name
-   * @returns {Promise<any>}
+   * @returns {Promise<unknown>}
    */
   async data(name) {
     await this.complete;
@@ -53,7 +53,7 @@ export class SingleFile {
       if (!element) return undefined;
       const bytes = bytesOf((element.textContent ?? '').trim());
       const type = element.dataset.type ?? '';
-      address = URL.createObjectURL(new Blob([/** @type {any} */ (bytes)], { type }));
+      address = URL.createObjectURL(new Blob([/** @type {BlobPart} */ (bytes)], { type }));
     }
     this.addresses.delete(path);
     this.addresses.set(path, address);

@@ -1,0 +1,30 @@
+// Names of the window that the parts of a book's page leave to one another, and what browsers have that the type
+// checker does not know yet. Nothing but types: no part of a book.
+
+interface Window {
+  /** early.js has asked for the configuration. */
+  folveroConfiguration: {
+    /** A response over http, an event from disk, nothing where the configuration is in the page. */
+    asked: Promise<Response | Event | void>;
+    /** Runs the script copy of the configuration, which sets FolveroUserConfig. */
+    runScript: () => Promise<Event>;
+    /** Whether the page holds the configuration itself. */
+    here: boolean;
+  };
+  /** Base64 of the enciphered configuration, once its script has run. */
+  FolveroUserConfig?: string;
+  /** Other scripts leave here what they add to the book before the player's own runs. */
+  folveroExtensions?: import('./src/player.js').Extension[];
+  /** Address of a file of the book that is not beside the page. */
+  folveroFile?(path: string): string | undefined;
+  /** Called by each data file of a web book. */
+  folveroData?(name: string, data: unknown): void;
+}
+
+interface Navigator {
+  connection?: { saveData?: boolean };
+}
+
+interface Uint8ArrayConstructor {
+  fromBase64?(base64: string): Uint8Array;
+}

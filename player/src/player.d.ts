@@ -1,0 +1,55 @@
+// What the player gives to the scripts beside it: those of web books. Nothing but types.
+
+import type { WEB_WORDS } from '../web/words.js';
+import type { Book } from './book.js';
+import type { BookConfig } from './config.js';
+import type { Drawer } from './drawer.js';
+import type { Gestures } from './gestures.js';
+import type { Sheets } from './sheets.js';
+import type { Slideshow } from './slideshow.js';
+import type { Toast } from './toast.js';
+import type { Commands, Toolbar } from './toolbar.js';
+import type { Turner } from './turner.js';
+import type { learn, Word } from './words.js';
+import type { Zoom } from './zoom.js';
+
+/** Words of the page's own and those that a web book adds. */
+export type AnyWord = Word | keyof typeof WEB_WORDS.en;
+
+/** What is there before any picture is loaded. */
+export interface Beginning {
+  root: HTMLElement;
+  /** May be changed until the book is laid out. */
+  config: BookConfig;
+  say(word: AnyWord, ...values: (string | number)[]): string;
+  learn: typeof learn;
+}
+
+export interface Controls {
+  toolbar: Toolbar;
+  /** What buttons and keys do; may be added to and replaced. */
+  commands: Commands;
+  slideshow: Slideshow;
+  drawer: Drawer;
+  sheets: Sheets;
+  zoom: Zoom;
+  gestures: Gestures;
+  toast: Toast;
+}
+
+/** What is added to it once the controls are there. */
+export interface Parts extends Controls {
+  book: Book;
+  turner: Turner;
+  /** Lays everything out anew where the room for the book has changed. */
+  relayout: () => void;
+}
+
+export interface Player extends Beginning, Parts {}
+
+export type Say = Player['say'];
+
+type Addition = ((parts: Parts) => void) | undefined;
+
+/** What another script adds to the book: called with the beginning, and what that gives with the rest. */
+export type Extension = (beginning: Beginning) => Addition | Promise<Addition>;
