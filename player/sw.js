@@ -5,7 +5,8 @@
 // Every file is known by its digest, so that nothing of another edition is ever kept among the files
 // of this one, or given to a reader of this one, whenever it comes and whatever the server holds by then.
 
-const SCOPE = self.registration.scope;
+const worker = /** @type {ServiceWorkerGlobalScope} */ (/** @type {unknown} */ (self));
+const SCOPE = worker.registration.scope;
 const LIST = 'files/web/offline.json';
 
 /** Names of the caches of this book, whatever its edition; addresses hold no blanks. */
@@ -83,20 +84,39 @@ async function digestOf(bytes) {
  */
 const kept = (address, cacheName = STORE) => caches.match(address, { cacheName });
 
-/** @param {string} name of a cache */
+/**
+ * @typedef {object} List files of an edition and their digests, by path
+ * @property {string} version
+ * @property {number} bytes of the whole book
+ * @property {Record<string, string>} shell what the book opens with
+ * @property {Record<string, string>} rest
+ * @property {Record<string, string>} files all of them
+ */
+
+/**
+ * @param {string} name of a cache
+ * @returns {Promise<List | undefined>}
+ */
 async function listOf(name) {
   const list = await (await kept(addressOf(LIST), name))?.json();
   return list && { ...list, files: { ...list.shell, ...list.rest } };
 }
 
-/** @type {any} */
-let ownList = null;
+/** @type {List | undefined} */
+let ownList;
 
 /** The list of this edition, undefined before it is there and once it is gone. */
 async function listHere() {
   if (!await caches.has(STORE)) return undefined;
   ownList ??= await listOf(STORE);
   return ownList;
+}
+
+/** The list of this edition for what makes no sense without it. */
+async function listNeeded() {
+  const list = await listHere();
+  if (!list) throw new Error('the book is gone');
+  return list;
 }
 
 /**
@@ -183,7 +203,7 @@ async function install() {
   await takeOver(store, { ...list.shell, ...list.rest });
   const there = await Promise.all(Object.entries(list.shell).map(([path, digest]) => fetchInto(store, path, digest, 'high')));
   if (there.includes(false)) throw other;
-  await self.skipWaiting();
+  await worker.skipWaiting();
 }
 
 /**
@@ -192,7 +212,7 @@ async function install() {
  */
 async function strangersTo(edition) {
   const names = (await caches.keys()).filter((name) => name.startsWith(FAMILY));
-  const open = (await self.clients.matchAll({ includeUncontrolled: true, type: 'window' })).filter(({ url }) => pageAt(url));
+  const open = (await worker.clients.matchAll({ includeUncontrolled: true, type: 'window' })).filter(({ url }) => pageAt(url));
   const strangers = [];
   for (const { id } of open) {
     const marks = await Promise.all(names.map(async (name) => (await kept(markOf(id), name))?.text()));
@@ -211,13 +231,14 @@ async function activate() {
     for (const id of await strangersTo(BOOK.version)) await store.put(markOf(id), new Response(EARLIER));
   }
   for (const name of earlier) await caches.delete(name);
-  await self.clients.claim();
+  await worker.clients.claim();
 }
 
 /** Edition that the server has, null when it does not say. */
 async function editionOnServer() {
   try {
-    const answer = await fetch(addressOf('sw.js'), { cache: 'no-cache', signal: AbortSignal.timeout(PATIENCE) });
+    const signal = /** @type {AbortSignals} */ (AbortSignal).timeout(PATIENCE);
+    const answer = await fetch(addressOf('sw.js'), { cache: 'no-cache', signal });
     if (answer.status === 404 || answer.status === 410) return GONE;
     // Whoever answers with something else has another page there now.
     return answer.ok ? /"version":"([0-9a-f]+)"/.exec(await answer.text())?.[1] ?? OTHER : null;
@@ -239,7 +260,7 @@ async function open(event, page) {
     if (edition === GONE && (await strangersTo(GONE)).length === 0) await forget();
     else {
       await (await caches.open(STORE)).put(mark, new Response(edition));
-      self.registration.update().catch(() => {});
+      worker.registration.update().catch(() => {});
     }
     return fetch(event.request);
   }
@@ -249,7 +270,7 @@ async function open(event, page) {
 
 /** The book went away, or one without this script took its place. */
 async function forget() {
-  await self.registration.unregister();
+  await worker.registration.unregister();
   for (const name of await caches.keys()) {
     if (name.startsWith(FAMILY)) await caches.delete(name);
   }
@@ -305,7 +326,7 @@ async function answerOther(client, path, digest, answer) {
   const altered = !(await store.keys()).some(({ url }) => url.startsWith(pictures));
   // A server that changes every file on its way still has this edition.
   if (altered && await editionOnServer() === BOOK.version) return answer;
-  self.registration.update().catch(() => {});
+  worker.registration.update().catch(() => {});
   return refuse(client);
 }
 
@@ -323,7 +344,7 @@ function refuse(client) {
  * @param {'notKept' | 'newEdition'} news
  */
 async function tell(client, news) {
-  (await self.clients.get(client))?.postMessage({ news });
+  (await worker.clients.get(client))?.postMessage({ news });
 }
 
 /**
@@ -343,7 +364,7 @@ async function keepSeen(store, addresses) {
  * @param {Cache} store
  */
 async function stateOf(store) {
-  const list = await listHere();
+  const list = await listNeeded();
   const wish = await wishIn(store);
   const whole = wish === 'whole' || (wish !== 'read' && list.bytes <= SMALL_BYTES);
   const have = new Set((await store.keys()).map(({ url }) => url));
@@ -361,7 +382,7 @@ async function stateOf(store) {
  * @returns {Promise<boolean>} whether all of it came
  */
 async function fetchAhead(store) {
-  const { rest } = await listHere();
+  const { rest } = await listNeeded();
   const { wanted } = await stateOf(store);
   const there = await Promise.all(wanted.slice(0, BATCH).map((path) => fetchInto(store, path, rest[path], 'low').catch(() => false)));
   return !there.includes(false);
@@ -376,7 +397,7 @@ async function note(store, wish) {
   await store.put(WISH, new Response(wish));
   if (wish === 'whole') return;
   await store.delete(READ);
-  for (const path of Object.keys((await listHere()).rest)) await store.delete(addressOf(path));
+  for (const path of Object.keys((await listNeeded()).rest)) await store.delete(addressOf(path));
 }
 
 /**
@@ -395,9 +416,9 @@ async function answerPage({ does, seen = [], wish = 'read' }, client) {
   return { ...state, more: wanted.length > 0, failed };
 }
 
-self.addEventListener('install', (event) => event.waitUntil(install()));
-self.addEventListener('activate', (event) => event.waitUntil(activate()));
-self.addEventListener('fetch', (event) => {
+worker.addEventListener('install', (event) => event.waitUntil(install()));
+worker.addEventListener('activate', (event) => event.waitUntil(activate()));
+worker.addEventListener('fetch', (event) => {
   const { request } = event;
   // Sounds are asked for in parts; the browser does that better alone.
   const path = request.method === 'GET' && !request.headers.has('range') ? pathOf(request.url) : null;
@@ -406,9 +427,9 @@ self.addEventListener('fetch', (event) => {
   if (page) event.respondWith(open(event, page));
   else if (path.startsWith('files/')) event.respondWith(serve(event, path, event.clientId));
 });
-self.addEventListener('message', (event) => {
+worker.addEventListener('message', (event) => {
   const { data, source, ports: [port] } = event;
   // Asked again while this one waits, browsers look again whether the earlier one has nothing to do.
-  if (data.does === 'replace') self.skipWaiting();
-  else event.waitUntil(answerPage(data, source.id).catch(() => null).then((state) => port.postMessage(state)));
+  if (data.does === 'replace') worker.skipWaiting();
+  else event.waitUntil(answerPage(data, /** @type {Client} */ (source).id).catch(() => null).then((state) => port.postMessage(state)));
 });

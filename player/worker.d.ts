@@ -1,0 +1,7 @@
+// Nothing but types: what sw.js uses and the type checker does not find in it.
+
+/** Which book this is; the publisher writes it. */
+declare const BOOK: { page: string; version: string };
+
+/** What browsers have and the type checker does not know yet. */
+type AbortSignals = typeof AbortSignal & { timeout(milliseconds: number): AbortSignal };
