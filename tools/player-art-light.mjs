@@ -1,6 +1,6 @@
 // Scenes made of light: a garden out of focus, a wet window at night, a starry sky, a projector.
 
-import { blend, chance, clamp, clouds, layers, lit, mix, noise, rgb, smooth } from './player-art-kit.mjs';
+import { blend, chance, clamp, clouds, layers, mix, noise, rgb, smooth } from './player-art-kit.mjs';
 
 /** Adds light to a buffer of red, green, blue triples as the round blur of a lens does. */
 function disc(buffer, width, height, { x, y, radius, colour, strength, rim = 0.25, edge = 0.12 }) {

@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
-import { DESK, PHONE, Reader } from './support/reader.mjs';
+import { PHONE, Reader } from './support/reader.mjs';
 import { line, typedPage } from './support/webbook.mjs';
 
 const reader = Reader.forTests();

@@ -47,7 +47,6 @@ function row(x, y, width, name, value, { level = 1, selected = false } = {}) {
 const heading = (x, y, name) => `<path d="M${x + 15} ${y - 6}h8l-4 5z" fill="#66727d"/>${text(x + 30, y, name, { weight: 600 })}`;
 const colour = (paint) => (x, y) => `<rect x="${x}" y="${y - 10.5}" width="34" height="14" rx="3" fill="${paint}" stroke="#00000030"/>`;
 const number = (value) => (x, y, selected) => text(x, y, value, { fill: selected ? '#fff' : '#41525f' });
-const slider = (share) => (x, y) => `<rect x="${x}" y="${y - 5}" width="104" height="3" rx="1.5" fill="#ccd3d9"/><rect x="${x}" y="${y - 5}" width="${104 * share}" height="3" rx="1.5" fill="#d9573a"/><circle cx="${x + 104 * share}" cy="${y - 3.5}" r="5.500" fill="#fff" stroke="#b4bdc5"/>`;
 const file = (name) => (x, y) => `<rect x="${x}" y="${y - 12}" width="104" height="17" rx="4" fill="#fff" stroke="#cdd4da"/>${text(x + 7, y, name, { size: 10, fill: '#41525f' })}`;
 
 /** The program's window over a spread: the list on the left page, the preview on the right one. */
