@@ -1,0 +1,21 @@
+// What eslint holds all our JavaScript to. It runs at the repository's root.
+
+import js from '@eslint/js';
+import globals from 'globals';
+
+/**
+ * @param {string[]} files
+ * @param {'module' | 'script'} sourceType
+ * @param {object} names that are there
+ */
+const kind = (files, sourceType, names) => ({ files, languageOptions: { sourceType, globals: names } });
+
+export default [
+  js.configs.recommended,
+  kind(['**/*.mjs'], 'module', { ...globals.node, ...globals.browser }),
+  kind(['player/{src,web}/*.js'], 'module', globals.browser),
+  kind(['player/early.js', 'player/swf/*.js'], 'script', globals.browser),
+  kind(['player/sw.js'], 'script', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
+  // Its one name is for the pages that take it.
+  { files: ['player/swf/*.js'], rules: { 'no-unused-vars': ['error', { vars: 'local' }] } },
+];
