@@ -59,8 +59,11 @@ QString TextTemplate::parse() const {
     Scanner scanner(iFromStr);
     while (!scanner.isAtEnd()) {
         const QStringView prefix = scanner.upTo(opening);
-        if (prefix.isEmpty())
-            return result.append(withoutTrailingSpace(scanner.upTo(endOfRest)));
+        if (prefix.isEmpty()) {
+            const QStringView rest = scanner.upTo(endOfRest);
+            // Only the end of the text loses its white space, not the place before the mark.
+            return result.append(scanner.isAtEnd() ? withoutTrailingSpace(rest) : rest);
+        }
         if (!scanner.startsWith(opening))
             return result.append(withoutTrailingSpace(prefix));
         scanner.skip(opening);

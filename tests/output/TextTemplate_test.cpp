@@ -35,7 +35,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"DropsSpaceBeforeAPlaceholderAtTheStart", " \n ${x} a ", "${x} a"},
         Case{"StopsAtAPlaceholderAfterAnother", "a${x}${y}b${x}", "aX${y}b${x}"},
         Case{"StopsAtAPlaceholderAfterSpaceAfterAnother", "a${x} \n ${y} b", "aX${y} b"},
-        Case{"CopiesAStoppedTextUpToTheEndMark", "${x} a ___${__ b", "${x} a"},
+        Case{"CopiesAStoppedTextUpToTheEndMark", "${x} a ___${__ b", "${x} a "},
         Case{"LeavesATextWithoutPlaceholders", " a  { $ } \n b\n", "a  { $ } \n b"},
         Case{"SkipsSpaceBeforeTheName", "a${ \n x}b", "aXb"},
         Case{"KeepsSpaceAfterTheName", "a${x }b", "ab"},
