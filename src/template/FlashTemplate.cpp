@@ -173,8 +173,8 @@ QString FlashTemplate::tmplHTMLFilePath() const {
     relative.replace(u'\\', u'/');
     for (const QString& folder : {tmplPathForName(iTmplName), libraryFolder()}) {
         const QString path = folder + relative;
-        if (QFileInfo(path).isFile())
-            return isOfLibrary(path) ? path : QString();
+        if (QFileInfo(path).isFile() && isOfLibrary(path))
+            return path;
     }
     return {};
 }

@@ -49,7 +49,7 @@ public:
     QString valueAsFilePath(const QString& value) const;
 
     // The template's HTML page, in the template's folder or else in the library's root; a null text
-    // when neither exists or it leads out of the library.
+    // when neither has one. A page that leads out of the library counts as missing.
     QString tmplHTMLFilePath() const;
     // Path of a file of the template's player; null when there is none or it leads out likewise.
     QString playerFile(const QString& name) const;

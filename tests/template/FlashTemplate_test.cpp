@@ -262,6 +262,8 @@ TEST_F(FlashTemplateTest, PublishesNoFilesFromOutsideTheLibrary) {
     ASSERT_TRUE(QFile::link(secret, folder + QStringLiteral("/page.html")));
     tmpl.setHTMLFilePath(QStringLiteral("page.html"));
     EXPECT_TRUE(tmpl.tmplHTMLFilePath().isNull());
+    library.addFile(QStringLiteral("AppFiles/page.html"), "x");
+    EXPECT_EQ(tmpl.tmplHTMLFilePath(), library.path() + QStringLiteral("/AppFiles/page.html"));
     QFile::remove(folder + QStringLiteral("/book.swf"));
     ASSERT_TRUE(QFile::link(secret, folder + QStringLiteral("/book.swf")));
     tmpl.copyBookSWFToFile(library.path() + QStringLiteral("/copy"));
