@@ -213,6 +213,14 @@
         <translation>%1: Links: %2</translation>
     </message>
     <message>
+        <source>page %1: %2</source>
+        <translation>Seite %1: %2</translation>
+    </message>
+    <message>
+        <source>page %1 and %2 more: %3</source>
+        <translation>Seite %1 und %2 weitere: %3</translation>
+    </message>
+    <message>
         <source>%1: bookmarks: %2</source>
         <extracomment>%1 is the PDF file, %2 tells what is wrong with its bookmarks.</extracomment>
         <translation>%1: Lesezeichen: %2</translation>

@@ -99,6 +99,15 @@ void logAnnotation(std::size_t index, const PDFAnnotation& annotation) {
                                .arg(annotation.url));
 }
 
+// Not a page that the document lacks, which the range names in error, nor a reading that was
+// stopped.
+bool concernsOnePage(const PlatformException& failure) {
+    static const QStringList names{
+        QStringLiteral("PDFPageUnreadable"), QStringLiteral("PDFReaderEnded"),
+        QStringLiteral("PDFReaderTimeout"), QStringLiteral("PDFReaderGarbled")};
+    return names.contains(failure.name());
+}
+
 } // namespace
 
 void FlashPagesAnnotationsPDF::begin(std::shared_ptr<PDFDocument> document,
@@ -108,6 +117,7 @@ void FlashPagesAnnotationsPDF::begin(std::shared_ptr<PDFDocument> document,
         FlashPageSource::parsePageRange(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
     iCurrentIndex = 0;
     iBudget = {};
+    iUnreadPages.clear();
     iDocument.reset();
     iDocument.append_child("pagesAnnos");
 }
@@ -116,8 +126,16 @@ void FlashPagesAnnotationsPDF::loadLinksFromPDF(std::shared_ptr<PDFDocument> doc
                                                 const QString& pageRange) {
     begin(std::move(document), pageRange);
     iNeedFiles.clear();
-    for (std::size_t i = 0; i < iNeedToImportPages.size(); ++i) {
-        parsePage();
+    for (const int number : iNeedToImportPages) {
+        try {
+            parsePage();
+        } catch (const PlatformException& failure) {
+            if (!concernsOnePage(failure))
+                throw;
+            annotationsLog().warn(
+                QStringLiteral("page %1: %2").arg(QString::number(number), failure.reason()));
+            iUnreadPages.push_back({number, failure.message()});
+        }
         ++iCurrentIndex;
     }
 }

@@ -2,6 +2,7 @@
 
 #include "annotations/FlashPagesAnnotations.h"
 #include "platform/AnnotationBudget.h"
+#include "platform/Message.h"
 #include "platform/NotificationCenter.h"
 #include "platform/PDFDocument.h"
 
@@ -12,14 +13,22 @@
 // Reads the link annotations of a PDF's pages.
 class FlashPagesAnnotationsPDF : public FlashPagesAnnotations {
 public:
+    struct UnreadPage {
+        int page;       // one-based
+        Message reason; // in words
+    };
+
     // Reads all pages that the range expression names, at once. Without a document every listed
-    // page stays without links, and so do those after the budget is spent. Throws PlatformException
-    // for a page that the document lacks.
+    // page stays without links, and so do those that can't be read and those after the budget is
+    // spent. Throws PlatformException for a page that the document lacks, and when it is stopped.
     void loadLinksFromPDF(std::shared_ptr<PDFDocument> document, const QString& pageRange);
 
     // The same, one page at a time whenever the main thread's event loop is idle.
     void loadLinksSyncsFromPDF(std::shared_ptr<PDFDocument> document, const QString& pageRange);
     void scheduledScanPage(const Notification& notification);
+
+    // Pages that the last loadLinksFromPDF() could not read, in its order.
+    const std::vector<UnreadPage>& unreadPages() const { return iUnreadPages; }
 
     // Reads the page at the current position of the list.
     void parsePage();
@@ -34,5 +43,6 @@ private:
     std::shared_ptr<PDFDocument> iPDFDoc;
     int iCurrentIndex = 0; // zero-based position in the list
     AnnotationBudget iBudget;
+    std::vector<UnreadPage> iUnreadPages;
     NotificationCenter::Subscription iScan;
 };

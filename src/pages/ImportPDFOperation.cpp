@@ -29,6 +29,21 @@ Message aboutFile() {
     return QStringLiteral("%1: %2");
 }
 
+Message aboutLinks() {
+    //: %1 is the PDF file, %2 tells what is wrong with its links.
+    return Message::translate("ImportPDFOperation", "%1: links: %2");
+}
+
+// The first page stands for all: they may be thousands.
+Message whyUnread(const std::vector<FlashPagesAnnotationsPDF::UnreadPage>& pages) {
+    const QString first = QString::number(pages.front().page);
+    if (pages.size() == 1)
+        return Message::translate("ImportPDFOperation", "page %1: %2")
+            .arg(first, pages.front().reason);
+    return Message::translate("ImportPDFOperation", "page %1 and %2 more: %3")
+        .arg(first, QString::number(pages.size() - 1), pages.front().reason);
+}
+
 } // namespace
 
 ImportPDFOperation::ImportPDFOperation(const QString& pdfPath, const QString& pageRange, int dpi,
@@ -157,12 +172,12 @@ void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& doc
     try {
         annotations->loadLinksFromPDF(document, iPageRange);
         iFlashPagesAnnotation = annotations;
+        if (!annotations->unreadPages().empty())
+            iFailures << aboutLinks().arg(iPDFPath, whyUnread(annotations->unreadPages()));
     } catch (const PlatformException& failure) {
         operationLog().error(
             QStringLiteral("Run Import PDF Operation error,import links:%1").arg(failure.reason()));
-        //: %1 is the PDF file, %2 tells what is wrong with its links.
-        iFailures << Message::translate("ImportPDFOperation", "%1: links: %2")
-                         .arg(iPDFPath, failure.message());
+        iFailures << aboutLinks().arg(iPDFPath, failure.message());
     }
 }
 

@@ -188,6 +188,23 @@ TEST_F(FlashPagesAnnotationsPDFTest, FailsOnAPageThatTheDocumentLacks) {
                  PlatformException);
 }
 
+TEST_F(FlashPagesAnnotationsPDFTest, KeepsTheLinksOfOtherPagesThanAnUnreadableOne) {
+    PDFBuilder builder;
+    const auto link = PDFBuilder::link(QRectF(0, 0, 9, 9), PDFBuilder::toURL("https://a.org/"));
+    builder.addPage(pageOf({100, 100}, {link}));
+    builder.setObject(builder.pageObject(builder.addMissingPage()),
+                      "<< /Type /Pages /Count 1 /Kids [] >>");
+    builder.addPage(pageOf({100, 100}, {link}));
+    FlashPagesAnnotationsPDF annotations;
+    annotations.loadLinksFromPDF(open(builder), QStringLiteral("ALL"));
+    std::string links;
+    for (const auto& page : annotations.pagesAnnotationsNode())
+        links += page.attribute("pageIndex").value() + std::string(page.child("anno") ? "+" : "-");
+    EXPECT_EQ(links, "1+2-3+");
+    ASSERT_EQ(annotations.unreadPages().size(), 1U);
+    EXPECT_EQ(annotations.unreadPages()[0].page, 2);
+}
+
 TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
     constexpr int perPage = 5000;
     constexpr int pages = 2 * AnnotationBudget::mostAnnotations / perPage;
