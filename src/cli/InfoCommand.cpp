@@ -73,12 +73,14 @@ void printAsJson(const PDFDocument& document) {
     AnnotationBudget budget;
     for (int i = 0; i < document.pageCount(); ++i) {
         const PageFacts facts = factsOf(document, i, budget);
-        QJsonObject page{{QStringLiteral("number"), i + 1},
-                         {QStringLiteral("width"), facts.size.width()},
-                         {QStringLiteral("height"), facts.size.height()},
-                         {QStringLiteral("rotation"), facts.rotation}};
-        if (!facts.error.isNull())
+        QJsonObject page{{QStringLiteral("number"), i + 1}};
+        if (facts.error.isNull()) {
+            page[QStringLiteral("width")] = facts.size.width();
+            page[QStringLiteral("height")] = facts.size.height();
+            page[QStringLiteral("rotation")] = facts.rotation;
+        } else {
             page[QStringLiteral("error")] = facts.error;
+        }
         QJsonArray links;
         for (const PDFAnnotation& link : facts.links)
             links.append(linkAsJson(link));

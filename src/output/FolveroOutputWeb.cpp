@@ -383,7 +383,8 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
                 annotations = source.annotations();
             budget.spend(annotations);
         } catch (const PlatformException& failure) {
-            iPoorPages.emplace_back(page.number, failure.message());
+            if (QFileInfo::exists(page.picture)) // else it is a missing page
+                iPoorPages.emplace_back(page.number, failure.message());
         }
     }
     writeScript(textFolder + u'/' + number,

@@ -97,8 +97,8 @@ QRectF WebPageText::placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes)
 QJsonObject WebPageText::asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
                                 const std::vector<PDFAnnotation>& annotations,
                                 const Position& position) {
-    return {{QStringLiteral("size"),
-             QJsonArray{tenths(boxes.display.width()), tenths(boxes.display.height())}},
+    const QSizeF size = boxes.display.isValid() ? boxes.display : QSizeF(0, 0);
+    return {{QStringLiteral("size"), QJsonArray{tenths(size.width()), tenths(size.height())}},
             {QStringLiteral("lines"), linesOf(lines)},
             {QStringLiteral("links"), linksOf(boxes, annotations, position)}};
 }

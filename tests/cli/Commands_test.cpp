@@ -64,6 +64,12 @@ TEST(InfoCommand, TellsRotationsAndTheSizesAsShown) {
     }
 }
 
+TEST(InfoCommand, GivesAnUnreadablePageNoMeasures) {
+    const QJsonArray pages =
+        info(QStringLiteral("damaged-page.pdf"))[QStringLiteral("pages")].toArray();
+    EXPECT_EQ(pages[2].toObject().keys().join(u' '), u"error links number");
+}
+
 TEST(InfoCommand, ListsTheLinksThatLeadSomewhere) {
     const QJsonArray pages = info(QStringLiteral("links.pdf"))[QStringLiteral("pages")].toArray();
     const QJsonArray links = pages[0].toObject()[QStringLiteral("links")].toArray();

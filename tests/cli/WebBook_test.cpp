@@ -30,13 +30,14 @@ protected:
         return iRoot.filePath(QStringLiteral("book/")) + name;
     }
 
-    void publish(const QString& sample, const QStringList& options = {}) {
+    QByteArray publish(const QString& sample, const QStringList& options = {}, int exitCode = 0) {
         iPDF = Program::sample(sample);
         const auto result = Program::run(
             QStringList{QStringLiteral("publish"), iPDF, file({}), QStringLiteral("--type"),
                         QStringLiteral("web"), QStringLiteral("--quiet")} +
             options);
-        ASSERT_EQ(result.exitCode, 0) << result.errors.constData();
+        EXPECT_EQ(result.exitCode, exitCode) << result.errors.constData();
+        return result.errors;
     }
 
     // The data that a script of the book hands over under its name.
@@ -190,6 +191,12 @@ TEST_F(WebBookTest, MapsPagesToTheirPositionsWhenOthersAreLeftOut) {
               (QJsonArray{QStringLiteral("https://www.example.org/books?page=1&size=2"), 0}));
     EXPECT_FALSE(QFileInfo::exists(file(QStringLiteral("files/text/1.js"))));
     EXPECT_TRUE(QFileInfo::exists(file(QStringLiteral("files/large/2.svg"))));
+}
+
+TEST_F(WebBookTest, HasNeitherSizeNorPictureOfAnUnreadablePage) {
+    const QByteArray errors = publish(QStringLiteral("damaged-page.pdf"), {}, 3);
+    EXPECT_FALSE(errors.contains("picture only")) << errors.constData();
+    EXPECT_EQ(page(3)[QStringLiteral("size")].toArray(), (QJsonArray{0, 0}));
 }
 
 TEST_F(WebBookTest, HasTheWordsWhereAnotherProgramFindsThem) {
