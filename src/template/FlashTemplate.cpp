@@ -71,6 +71,7 @@ void replaceFile(const QString& source, const QString& target) {
 } // namespace
 
 FlashTemplate::FlashTemplate() {
+    initTmplProperties();
     loadTemplate(QStringLiteral("float"));
     logger().debug(QStringLiteral("self is:<FlashTemplate: 0x%1>")
                        .arg(reinterpret_cast<quintptr>(this), 0, 16));
@@ -99,7 +100,7 @@ QString FlashTemplate::tmplMetaPathForName(const QString& name) {
 }
 
 void FlashTemplate::loadTemplate(const QString& name) {
-    iProperties.clear();
+    setProperties({});
     iTmplName = name;
     iLoadError = {};
     const QString path = tmplMetaPathForName(name);
@@ -140,6 +141,12 @@ void FlashTemplate::loadTemplateFile(const QString& path) {
         property->loadFromNode(element);
         iProperties.push_back(std::move(property));
     }
+}
+
+void FlashTemplate::setProperties(Properties properties) {
+    for (const auto& property : properties)
+        property->setParent(nullptr);
+    iProperties = std::move(properties);
 }
 
 void FlashTemplate::changeTmplTo(const QString& name, const QString& stylePath) {

@@ -57,6 +57,8 @@ public:
     void copyBookSWFToFile(const QString& destination) const;
     void copyBookSoundFile(const QString& destination) const;
     void copyBookJSFile(const QString& destination) const;
+    // Copies nothing: publishing makes the page from tmplHTMLFilePath().
+    void copyHTMLToFile(const QString& /*destination*/) const {}
 
     // The settings file: one record "key=value" per property. A file that can't be read has none;
     // writing returns false on failure and *error (when given) tells why in words.
@@ -68,6 +70,8 @@ public:
 
     using Properties = std::vector<std::unique_ptr<FlashTemplateProperty>>;
     const Properties& properties() const { return iProperties; }
+    // Takes ownership; the nodes are at the top level from now on.
+    void setProperties(Properties properties);
 
     QString tmplName() const { return iTmplName; }
     void setTmplName(const QString& name) { iTmplName = name; }
@@ -97,6 +101,8 @@ private:
         bool operator==(const FileValue&) const = default;
     };
 
+    // Does nothing: properties come from the template file only.
+    void initTmplProperties() {}
     void loadTemplateFile(const QString& path);
     bool isOfLibrary(const QString& path) const;
     // Of all properties that name a file, in the order of the tree.

@@ -67,12 +67,18 @@ void FlashTemplateProperty::load(const pugi::xml_node& element, int depth) {
     if (element.attribute("aType"))
         iPropertyType = pt_bool;
 
-    iChildProperties.clear();
+    setChildProperties({});
     for (const pugi::xml_node& node : element.child("childProperties").children("property")) {
         auto child = std::make_unique<FlashTemplateProperty>();
         child->load(node, depth + 1);
         addChildProperty(std::move(child));
     }
+}
+
+void FlashTemplateProperty::setChildProperties(Children children) {
+    for (const auto& child : children)
+        child->setParent(this);
+    iChildProperties = std::move(children);
 }
 
 void FlashTemplateProperty::addChildProperty(std::unique_ptr<FlashTemplateProperty> child) {

@@ -67,6 +67,8 @@ public:
 
     using Children = std::vector<std::unique_ptr<FlashTemplateProperty>>;
     const Children& childProperties() const { return iChildProperties; }
+    // Takes ownership and sets the children's parent.
+    void setChildProperties(Children children);
     // Takes ownership and sets the child's parent.
     void addChildProperty(std::unique_ptr<FlashTemplateProperty> child);
 

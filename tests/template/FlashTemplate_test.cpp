@@ -180,6 +180,26 @@ TEST_F(FlashTemplateTest, GivesThePageSizeOfTheNewTemplateItsDefault) {
     EXPECT_EQ(value(tmpl, "pageHeight"), u"600");
 }
 
+TEST_F(FlashTemplateTest, TakesOverATreeOfProperties) {
+    library.addTemplate(QStringLiteral("float"), property("old", "1"));
+    FlashTemplate tmpl;
+    auto child = std::make_unique<FlashTemplateProperty>();
+    child->setKey(QStringLiteral("new"));
+    child->setValue(QStringLiteral("2"));
+    FlashTemplate::Properties tree;
+    tree.push_back(std::make_unique<FlashTemplateProperty>());
+    FlashTemplateProperty::Children children;
+    children.push_back(std::move(child));
+    tree[0]->setChildProperties(std::move(children));
+    tree[0]->setParent(tree[0].get());
+    tmpl.setProperties(std::move(tree));
+    EXPECT_EQ(value(tmpl, "old"), u"default");
+    EXPECT_EQ(value(tmpl, "new"), u"2");
+    const auto& top = *tmpl.properties()[0];
+    EXPECT_EQ(top.parent(), nullptr);
+    EXPECT_EQ(top.childProperties()[0]->parent(), &top);
+}
+
 TEST_F(FlashTemplateTest, LooksForItsPageInItsFolderAndThenInTheLibrary) {
     library.addTemplate(QStringLiteral("float"));
     FlashTemplate tmpl;
@@ -281,6 +301,8 @@ TEST_F(FlashTemplateTest, CopiesPlayerFilesOverOldOnes) {
     EXPECT_EQ(TestFiles::read(target), "moveSound.mp3");
     tmpl.copyBookJSFile(target);
     EXPECT_EQ(TestFiles::read(target), "swfobject.js");
+    tmpl.copyHTMLToFile(target);
+    EXPECT_EQ(TestFiles::read(target), "swfobject.js") << "publishing makes the page";
     tmpl.setTmplName(QStringLiteral("none"));
     tmpl.copyBookJSFile(target);
     EXPECT_FALSE(QFileInfo::exists(target));
