@@ -1134,6 +1134,14 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
 <context>
     <name>TemplateFile</name>
     <message>
+        <source>the encoding &quot;%1&quot; is not known</source>
+        <translation>die Zeichenkodierung „%1“ ist unbekannt</translation>
+    </message>
+    <message>
+        <source>is not in the encoding &quot;%1&quot; that it declares</source>
+        <translation>ist nicht in der Zeichenkodierung „%1“, die sie angibt</translation>
+    </message>
+    <message>
         <source>root element</source>
         <translation>Wurzelelement</translation>
     </message>

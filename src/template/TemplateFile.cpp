@@ -6,16 +6,17 @@
 #include "util/XMLText.h"
 
 #include <QFile>
+#include <QRegularExpression>
+#include <QStringDecoder>
 #include <algorithm>
 
 namespace {
 
 const QString errorName = QStringLiteral("ERROR_TEMPLATE_FILE");
 
-pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& data,
-                             pugi::xml_encoding encoding) {
+pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& data) {
     return document.load_buffer(data.constData(), static_cast<std::size_t>(data.size()),
-                                pugi::parse_default | pugi::parse_ws_pcdata, encoding);
+                                pugi::parse_default | pugi::parse_ws_pcdata, pugi::encoding_utf8);
 }
 
 Message causeOf(const pugi::xml_parse_result& result, const QByteArray& data) {
@@ -33,18 +34,54 @@ QByteArray contentsOf(const QString& path) {
     return file.readAll();
 }
 
+// As the XML declaration names it; empty without one.
+QByteArray declaredEncoding(const QByteArray& data) {
+    constexpr qsizetype longestDeclaration = 256;
+    static const QRegularExpression declaration(
+        QStringLiteral(R"re(^\s*<\?xml\s[^>]*?\bencoding\s*=\s*["']([^"'>]*)["'])re"));
+    return declaration.match(QString::fromLatin1(data.left(longestDeclaration)))
+        .captured(1)
+        .toLatin1();
+}
+
+// A byte order mark, or 16 or 32 bits a character, say more than the declaration.
+QByteArray inUTF8(const QByteArray& data) {
+    if (const auto unicode = QStringConverter::encodingForData(data, u'<')) {
+        QStringDecoder decode(*unicode);
+        return QString(decode(data)).toUtf8();
+    }
+    const QByteArray name = declaredEncoding(data);
+    const QByteArray lower = name.toLower();
+    if (lower.isEmpty() || lower.startsWith("utf") || lower == "us-ascii")
+        return data;
+    // Texts under the name of the first edition often hold characters of the later ones.
+    QStringDecoder decode(lower == "gb2312" ? "GB18030" : name.constData());
+    const QString text = decode.isValid() ? QString(decode(data)) : QString();
+    const QString shown = QString::fromLatin1(name);
+    if (!decode.isValid())
+        throw PlatformException(
+            errorName,
+            Message::translate("TemplateFile", "the encoding \"%1\" is not known").arg(shown));
+    if (decode.hasError())
+        throw PlatformException(
+            errorName,
+            Message::translate("TemplateFile", "is not in the encoding \"%1\" that it declares")
+                .arg(shown));
+    return text.toUtf8();
+}
+
 } // namespace
 
 std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
-    const QByteArray data = contentsOf(path);
+    const QByteArray data = inUTF8(contentsOf(path));
     auto document = std::make_unique<pugi::xml_document>();
-    const pugi::xml_parse_result first = parse(*document, data, pugi::encoding_auto);
+    const pugi::xml_parse_result first = parse(*document, data);
     if (first)
         return document;
     // The place in the file as the user wrote it helps more than one in its repaired form.
     const Message cause = causeOf(first, data);
     const QByteArray repaired = XMLRepair::repaired(data);
-    if (repaired.isEmpty() || !parse(*document, repaired, pugi::encoding_utf8))
+    if (repaired.isEmpty() || !parse(*document, repaired))
         throw PlatformException(errorName, cause);
     Log("TemplateFile")
         .warn(QStringLiteral("repaired the template file \"%1\" (%2)").arg(path, cause.english()));

@@ -190,3 +190,30 @@ TEST_F(TemplateFileTest, ReadsTheEncodingsOfXML) {
         EXPECT_EQ(tmpl.properties()[0]->value(), QStringLiteral("Größe"));
     }
 }
+
+TEST_F(TemplateFileTest, ReadsTheEncodingThatItDeclares) {
+    const struct {
+        const char* encoding;
+        QByteArray bytes;
+        QString text;
+    } cases[] = {
+        {"windows-1252", "\x80 \xFC", QStringLiteral("€ ü")},
+        {"ISO-8859-15", "\xA4 \xFC", QStringLiteral("€ ü")},
+        {"gb2312", "\xC4\xE3\xBA\xC3", QStringLiteral("你好")},
+        {"gb2312", "\xD6\xEC\xE9\x46", QStringLiteral("朱镕")}, // not in the first edition
+    };
+    for (const auto& [encoding, bytes, text] : cases) {
+        SCOPED_TRACE(encoding);
+        const QByteArray xml =
+            withProperties(property("a")).replace(" v ", bytes).replace("utf-8", encoding);
+        for (const QByteArray& data : {xml, QByteArray(xml).replace("\"pt_text\"", "pt_text")}) {
+            load(data);
+            ASSERT_EQ(tmpl.properties().size(), 1U) << tmpl.loadError().toStdString();
+            EXPECT_EQ(tmpl.properties()[0]->value(), text);
+        }
+    }
+    load(withProperties(property("a")).replace("utf-8", "klingon"));
+    expectErrorAbout("the encoding \"klingon\"");
+    load(withProperties(property("a")).replace(" v ", "\xFF").replace("utf-8", "gb2312"));
+    expectErrorAbout("not in the encoding \"gb2312\"");
+}
