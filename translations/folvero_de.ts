@@ -1142,6 +1142,10 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <translation>ist nicht in der Zeichenkodierung „%1“, die sie angibt</translation>
     </message>
     <message>
+        <source>its entities stand for too much text or for themselves</source>
+        <translation>ihre Entitäten stehen für zu viel Text oder für sich selbst</translation>
+    </message>
+    <message>
         <source>root element</source>
         <translation>Wurzelelement</translation>
     </message>

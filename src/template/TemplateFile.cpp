@@ -2,6 +2,7 @@
 
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
+#include "template/XMLEntities.h"
 #include "template/XMLRepair.h"
 #include "util/XMLText.h"
 
@@ -73,7 +74,7 @@ QByteArray inUTF8(const QByteArray& data) {
 } // namespace
 
 std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
-    const QByteArray data = inUTF8(contentsOf(path));
+    const QByteArray data = XMLEntities::resolved(inUTF8(contentsOf(path)));
     auto document = std::make_unique<pugi::xml_document>();
     const pugi::xml_parse_result first = parse(*document, data);
     if (first)

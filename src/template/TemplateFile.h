@@ -11,8 +11,9 @@
 namespace TemplateFile {
 
 // Parses a file with all white space kept; one that is not well-formed is repaired and parsed once
-// more. The encoding is the declared one. Entities and document types are never fetched. Throws PlatformException with the cause, and
-// the line where there is one, when neither attempt yields a document.
+// more. The encoding is the declared one. Entities that the file declares are resolved, see
+// XMLEntities; nothing is fetched. Throws PlatformException with the cause, and the line where
+// there is one, when neither attempt yields a document.
 std::unique_ptr<pugi::xml_document> read(const QString& path);
 
 // The first child element of that name. Throws PlatformException when there is none; the exception

@@ -217,3 +217,25 @@ TEST_F(TemplateFileTest, ReadsTheEncodingThatItDeclares) {
     load(withProperties(property("a")).replace(" v ", "\xFF").replace("utf-8", "gb2312"));
     expectErrorAbout("not in the encoding \"gb2312\"");
 }
+
+TEST_F(TemplateFileTest, ResolvesTheEntitiesThatItDeclares) {
+    const auto loadWith = [this](const QByteArray& declarations, const QByteArray& value) {
+        load(withProperties(property("a"))
+                 .replace(" v ", value)
+                 .replace("<template>", "<!DOCTYPE template [" + declarations + "]><template>"));
+    };
+    loadWith("<!-- ' <!ENTITY a 'no'> --><!ENTITY a \"1&b;]\"><!ENTITY a 'no'>"
+             "<!ENTITY b '<![CDATA[&a;]]>2'><!ENTITY lt 'no'>",
+             "&a;<!--&a;-->&lt;&c;&amp;a;");
+    ASSERT_EQ(tmpl.properties().size(), 1U) << tmpl.loadError().toStdString();
+    EXPECT_EQ(tmpl.properties()[0]->value(), u"1&a;2]<&c;&a;");
+
+    QByteArray bomb = "<!ENTITY e0 ''>";
+    for (int i = 1; i < 16; ++i)
+        bomb += "<!ENTITY e" + QByteArray::number(i) + " '" +
+                ("&e" + QByteArray::number(i - 1) + ';').repeated(10) + "'>";
+    loadWith(bomb, "&e15;");
+    expectErrorAbout("entities");
+    loadWith("<!ENTITY a '&b;'><!ENTITY b '&a;'>", "&a;");
+    expectErrorAbout("entities");
+}

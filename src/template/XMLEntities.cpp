@@ -1,0 +1,145 @@
+#include "template/XMLEntities.h"
+
+#include "platform/PlatformException.h"
+
+#include <QHash>
+#include <QRegularExpression>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+// A few hundred bytes of entities within entities can stand for gigabytes of text.
+constexpr qsizetype maximumBytes = 1 << 20;
+constexpr int maximumDepth = 16;
+constexpr qsizetype maximumNameLength = 255;
+
+struct Entities {
+    QHash<QByteArray, QByteArray> texts;
+    qsizetype end = 0; // of the declarations
+};
+
+bool startsAt(const QByteArray& xml, qsizetype at, QByteArrayView text) {
+    return QByteArrayView(xml).sliced(at).startsWith(text);
+}
+
+qsizetype behind(const QByteArray& xml, QByteArrayView end, qsizetype from) {
+    const qsizetype found = xml.indexOf(end, from);
+    return found < 0 ? xml.size() : found + end.size();
+}
+
+// The end of the comment, the section or the instruction that starts there; the same place when
+// none does.
+qsizetype behindVerbatim(const QByteArray& xml, qsizetype at) {
+    static constexpr std::pair<const char*, const char*> kinds[] = {
+        {"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
+    for (const auto& [start, end] : kinds) {
+        if (startsAt(xml, at, start))
+            return behind(xml, end, at + qsizetype(qstrlen(start)));
+    }
+    return at;
+}
+
+// The same for declarations, where quotes may hold any character.
+qsizetype behindPart(const QByteArray& xml, qsizetype at) {
+    if (xml[at] == '"' || xml[at] == '\'')
+        return behind(xml, QByteArrayView(xml).sliced(at, 1), at + 1);
+    return std::max(at + 1, behindVerbatim(xml, at));
+}
+
+// Where the declarations within the document type begin; the end of the text when there are none.
+qsizetype startOfDeclarations(const QByteArray& xml) {
+    static const QByteArrayView space = " \t\r\n";
+    qsizetype at = 0;
+    for (qsizetype from = -1; from != at && at < xml.size();) {
+        from = at;
+        at = space.contains(xml[at]) ? at + 1 : behindVerbatim(xml, at);
+    }
+    if (!startsAt(xml, at, "<!DOCTYPE"))
+        return xml.size();
+    while (at < xml.size() && xml[at] != '[') {
+        if (xml[at] == '>')
+            return xml.size();
+        at = behindPart(xml, at);
+    }
+    return at;
+}
+
+Entities declaredEntities(const QByteArray& xml) {
+    Entities entities;
+    qsizetype at = startOfDeclarations(xml);
+    if (at == xml.size())
+        return entities;
+    static const QRegularExpression declaration(
+        QStringLiteral(R"re(<!ENTITY\s++([^\s%"'<>&;]++)\s++(?:"([^"]*+)"|'([^']*+)')\s*+>)re"));
+    static const QByteArrayList predefined{"amp", "lt", "gt", "quot", "apos"};
+    const QString text = QString::fromLatin1(xml); // a character for each byte
+    while (at < xml.size() && xml[at] != ']') {
+        const auto match = startsAt(xml, at, "<!ENTITY")
+                               ? declaration.match(text, at, QRegularExpression::NormalMatch,
+                                                   QRegularExpression::AnchorAtOffsetMatchOption)
+                               : QRegularExpressionMatch();
+        at = match.hasMatch() ? match.capturedEnd() : behindPart(xml, at);
+        const QByteArray name = match.captured(1).toLatin1();
+        // The first declaration of a name counts.
+        if (match.hasMatch() && !predefined.contains(name) && !entities.texts.contains(name))
+            entities.texts[name] = (match.captured(2) + match.captured(3)).toLatin1();
+    }
+    entities.end = at;
+    return entities;
+}
+
+class Expansion {
+public:
+    explicit Expansion(const Entities& entities) : iEntities(entities) {}
+
+    void append(const QByteArray& text, qsizetype from, int depth) {
+        qsizetype copied = from;
+        for (qsizetype at = from; at < text.size();) {
+            const QByteArray name = text[at] == '&' ? nameAt(text, at + 1) : QByteArray();
+            const auto entity = iEntities.texts.constFind(name);
+            if (entity == iEntities.texts.constEnd()) {
+                at = std::max(at + 1, behindVerbatim(text, at));
+                continue;
+            }
+            iResult.append(QByteArrayView(text).sliced(copied, at - copied));
+            spend(entity->size() + 1, depth); // empty texts take time, too
+            append(*entity, 0, depth + 1);
+            at += name.size() + 2;
+            copied = at;
+        }
+        iResult.append(QByteArrayView(text).sliced(copied));
+    }
+
+    const QByteArray& result() const { return iResult; }
+
+private:
+    static QByteArray nameAt(const QByteArray& text, qsizetype at) {
+        const QByteArray start = text.mid(at, maximumNameLength + 1);
+        return start.left(std::max<qsizetype>(start.indexOf(';'), 0));
+    }
+
+    void spend(qsizetype bytes, int depth) {
+        iLeft -= bytes;
+        if (iLeft < 0 || depth == maximumDepth)
+            throw PlatformException(
+                QStringLiteral("ERROR_TEMPLATE_FILE"),
+                Message::translate("TemplateFile",
+                                   "its entities stand for too much text or for themselves"));
+    }
+
+    const Entities& iEntities;
+    QByteArray iResult;
+    qsizetype iLeft = maximumBytes;
+};
+
+} // namespace
+
+QByteArray XMLEntities::resolved(const QByteArray& xml) {
+    const Entities entities = declaredEntities(xml);
+    if (entities.texts.isEmpty())
+        return xml;
+    Expansion expansion(entities);
+    expansion.append(xml, entities.end, 0);
+    return xml.left(entities.end) + expansion.result();
+}
