@@ -14,10 +14,10 @@ enter() {
     mount -t sysfs sys "$root/sys"
     mount --rbind /dev "$root/dev"
     mount --bind "$cache/apt" "$root/var/cache/apt/archives"
-    mount --bind "$cache/npm" "$root/root/.npm"
+    mount --bind "$cache/npm" "$root/var/cache/npm"
     cd "$root"
     pivot_root . mnt
-    cd /root/folvero
+    cd /srv/folvero
     umount -l /mnt
     exec bash -c "$command"
 }
@@ -46,8 +46,8 @@ mirrors=/etc/apt/sources.list.d/debian.sources
 # It is thrown away, so dpkg need not wait for the disk after each file.
 mmdebstrap --quiet --variant=minbase --include=make,git,ca-certificates --dpkgopt=force-unsafe-io \
     bookworm "$root" $mirrors
-mkdir -p "$cache/apt/partial" "$cache/npm" "$root/root/.npm"
-git clone -q "$source" "$root/root/folvero"
+mkdir -p "$cache/apt/partial" "$cache/npm" "$root/var/cache/npm"
+git clone -q "$source" "$root/srv/folvero"
 # The network may have a resolver, certificates and a registry of its own.
 cp /etc/resolv.conf "$root/etc/"
 certificates=/etc/ssl/certs/ca-certificates.crt
@@ -55,6 +55,6 @@ cp $certificates "$root$certificates"
 registry=$(npm config get registry 2>/dev/null || true)
 
 env -i HOME=/root PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin TERM=dumb CI=true \
-    NODE_EXTRA_CA_CERTS=$certificates npm_config_cafile=$certificates \
+    NODE_EXTRA_CA_CERTS=$certificates npm_config_cafile=$certificates npm_config_cache=/var/cache/npm \
     ${registry:+npm_config_registry="$registry"} \
     unshare --mount --pid --fork --kill-child "$0" --enter "$root" "$cache" "$command"
