@@ -38,7 +38,7 @@ export class Gestures {
     this.stage = stage;
     this.zoom = zoom;
     this.onTapMiddle = onTapMiddle;
-    this.lastWheel = 0;
+    this.lastWheel = -Infinity;
     /** @type {Press | null} */
     this.press = null;
     /** @type {Tap | null} last tap that a second may follow */
