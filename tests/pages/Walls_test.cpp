@@ -233,7 +233,9 @@ TEST_F(KilledWorkers, AreBehindWallsWithAllTheirThreads) {
         }
 #endif
         for (const QString& thread : numbers) {
-            EXPECT_TRUE(isConfined(threads.filePath(thread) + u'/')) << service;
+            const QString folder = threads.filePath(thread) + u'/';
+            // A thread may have ended since the list was made.
+            EXPECT_TRUE(isConfined(folder) || !QFile::exists(folder)) << service;
         }
     }
 }
