@@ -32,7 +32,7 @@ packages-test:
 # had on stays on.
 build-book: packages
 	@[ -e $(BUILD)/CMakeCache.txt ] || $(call configure,-D FOLVERO_DESKTOP=OFF -D BUILD_TESTING=OFF)
-	@cmake --build --preset $(PRESET) --target folvero resources sample-pdfs
+	@cmake --build --preset $(PRESET) --target folvero resources sample-book
 
 build-desktop: packages-desktop
 	@$(call configure,-D FOLVERO_DESKTOP=ON $(if $(wildcard $(BUILD)/CMakeCache.txt),,-D BUILD_TESTING=OFF))

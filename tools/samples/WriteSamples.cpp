@@ -1,4 +1,4 @@
-#include "Samples.h"
+#include "WriteSamples.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,30 +18,19 @@ bool make(const Sample& sample, const QDir& folder) {
     return false;
 }
 
-std::vector<Sample> testSamples() {
-    std::vector<Sample> all;
-    for (const auto& group :
-         {bookSamples, documentSamples, textSamples, navigationSamples, boxSamples, imageSamples,
-          scriptSamples, brokenSamples, hostileSamples})
-        for (Sample& sample : group())
-            all.push_back(std::move(sample));
-    return all;
-}
-
 } // namespace
 
-int main(int argc, char** argv) {
+int writeSamples(int argc, char** argv, std::vector<Sample> (*samples)(),
+                 std::vector<Sample> (*benchmarks)()) {
     // Text is measured and drawn, nothing is shown.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Fonts and pictures of a page are listed in a hash's order, which must not change.
     QHashSeed::setDeterministicGlobalSeed();
     const QGuiApplication application(argc, argv);
     QStringList arguments = QGuiApplication::arguments().mid(1);
-    const bool bench = arguments.removeAll(QStringLiteral("--bench")) > 0;
+    const bool bench = benchmarks && arguments.removeAll(QStringLiteral("--bench")) > 0;
     if (arguments.size() != 1) {
-        std::fputs("usage: folvero-make-samples [--bench] FOLDER\n"
-                   "Writes the sample documents, or with --bench those of the benchmarks.\n",
-                   stderr);
+        std::fprintf(stderr, "usage: %s%s FOLDER\n", argv[0], benchmarks ? " [--bench]" : "");
         return 2;
     }
     const QDir folder(arguments.first());
@@ -49,7 +38,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s: cannot be made\n", qPrintable(folder.path()));
         return 1;
     }
-    for (const Sample& sample : bench ? benchmarkSamples() : testSamples())
+    for (const Sample& sample : bench ? benchmarks() : samples())
         if (!make(sample, folder))
             return 1;
     return 0;
