@@ -8,7 +8,7 @@ PDF ?= $(BUILD)/samples/sample.pdf
 configure = { mkdir -p build && cmake --preset $(PRESET) $(1) >$(BUILD).log 2>&1 || { cat $(BUILD).log; exit 1; }; }
 
 .PHONY: book app package test sanitizers bench packages packages-desktop packages-test build-book build-desktop build \
-	format format-check tidy help
+	format format-check tidy tidy-change help
 
 help:
 	@echo "make book [PDF=file.pdf] [OUT=folder]   publish a book"
@@ -18,7 +18,8 @@ help:
 	@echo "make sanitizers                         the core's tests under sanitizers, a moment of fuzzing"
 	@echo "make bench                              measure, see docs/performance.md"
 	@echo "make format-check                       check the format of the C++ code"
-	@echo "make tidy                               run clang-tidy"
+	@echo "make tidy                               run clang-tidy over src/"
+	@echo "make tidy-change BASE=commit            the same over what changed since that commit"
 	@echo "PRESET=debug|asan-ubsan                 build and test another way"
 
 packages:
@@ -73,6 +74,11 @@ format:
 
 tidy: build
 	@git ls-files -z 'src/*.cpp' | xargs -0 -n 8 -P 2 clang-tidy --quiet -p $(BUILD)
+
+# A changed header is looked at with the sources that bear its name.
+tidy-change: build
+	@git diff --name-only --diff-filter=d $(BASE) -- src | sed -n 's/\.\(cpp\|h\)$$/.cpp/p' | sort -u | \
+		xargs -r ls 2>/dev/null | xargs -r -n 4 -P 2 clang-tidy --quiet -p $(BUILD)
 
 bench: build
 	@tools/install-packages.sh bench/packages.txt
