@@ -104,7 +104,7 @@ void logAnnotation(std::size_t index, const PDFAnnotation& annotation) {
 bool concernsOnePage(const PlatformException& failure) {
     static const QStringList names{
         QStringLiteral("PDFPageUnreadable"), QStringLiteral("PDFReaderEnded"),
-        QStringLiteral("PDFReaderTimeout"), QStringLiteral("PDFReaderGarbled")};
+        QStringLiteral("PDFReaderTimeout"), QStringLiteral("PDFReaderMalformedAnswer")};
     return names.contains(failure.name());
 }
 

@@ -1,8 +1,8 @@
 #include "app/TemporaryFolders.h"
 
-#include "platform/ClaimedFolder.h"
-#include "platform/Descriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/Files.h"
+#include "platform/LockedFolder.h"
 #include "platform/Log.h"
 #include "platform/PlatformException.h"
 
@@ -23,13 +23,13 @@ const QString unique = QStringLiteral("XXXXXX");
 // Earlier versions held no lock on their folders; a program left open for that long is rare.
 constexpr std::chrono::seconds unlockedIsOld = 7 * 24h;
 
-Descriptor openFolder(const QString& path) {
-    return Descriptor(::open(QFile::encodeName(path).constData(),
-                             O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+FileDescriptor openFolder(const QString& path) {
+    return FileDescriptor(::open(QFile::encodeName(path).constData(),
+                                 O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
 bool isOwn(const QString& path) {
-    const Descriptor open = openFolder(path);
+    const FileDescriptor open = openFolder(path);
     struct stat info {};
     return open.isOpen() && ::fstat(open.number(), &info) == 0 && info.st_uid == ::geteuid();
 }
@@ -50,7 +50,7 @@ bool isTrustworthy(int folder) {
 }
 
 void removeStaleIn(const QString& folder, const QString& prefix) {
-    const Descriptor open = openFolder(folder);
+    const FileDescriptor open = openFolder(folder);
     if (!open.isOpen())
         return;
     const QRegularExpression pattern(u'^' + QRegularExpression::escape(prefix) +
@@ -58,7 +58,7 @@ void removeStaleIn(const QString& folder, const QString& prefix) {
     const auto filter = QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks;
     for (const QString& name : QDir(folder).entryList({prefix + u'*'}, filter)) {
         if (pattern.match(name).hasMatch() &&
-            ClaimedFolder::removeIfAbandoned(open.number(), QFile::encodeName(name), unlockedIsOld))
+            LockedFolder::removeIfAbandoned(open.number(), QFile::encodeName(name), unlockedIsOld))
             Log("MirelUtility")
                 .info(QStringLiteral("removed what an earlier run left: %1")
                           .arg(Files::join(folder, name)));
@@ -76,12 +76,12 @@ QString TemporaryFolders::make(const QString& name) {
         ::chmod(QFile::encodeName(parent).constData(), 01777);
     removeStaleIn(parent, inParent);
     removeStaleIn(base, inBase);
-    const Descriptor open = openFolder(parent);
+    const FileDescriptor open = openFolder(parent);
     QString path;
     if (open.isOpen() && isTrustworthy(open.number()))
-        path = ClaimedFolder::make(Files::join(parent, inParent + unique));
+        path = LockedFolder::make(Files::join(parent, inParent + unique));
     if (path.isNull() && !name.contains(u'/'))
-        path = ClaimedFolder::make(Files::join(base, inBase + unique));
+        path = LockedFolder::make(Files::join(base, inBase + unique));
     if (!path.isNull())
         return path;
     // The last resort is not unique.
@@ -94,5 +94,5 @@ QString TemporaryFolders::make(const QString& name) {
 }
 
 void TemporaryFolders::remove(const QString& path) {
-    ClaimedFolder::remove(path);
+    LockedFolder::remove(path);
 }

@@ -20,10 +20,10 @@ auto opened(const QString& path, Opening opening) {
 } // namespace
 
 std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
-    return opened(path, [](const QString& file) { return PDFDocument::openApart(file); });
+    return opened(path, [](const QString& file) { return PDFDocument::openSandboxed(file); });
 }
 
-OpenedPDF InputFile::openToDraw(const QString& path) {
+OpenedPDF InputFile::openForDrawing(const QString& path) {
     return opened(
         path, [](const QString& file) { return OpenedPDF::open(file, Interrupt::wasRequested); });
 }

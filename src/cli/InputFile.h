@@ -11,6 +11,6 @@ namespace InputFile {
 std::shared_ptr<PDFDocument> open(const QString& path);
 
 // The same for a document that is to be drawn. Ctrl-C ends the reading of it, now and later.
-OpenedPDF openToDraw(const QString& path);
+OpenedPDF openForDrawing(const QString& path);
 
 } // namespace InputFile

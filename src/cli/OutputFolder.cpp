@@ -46,15 +46,15 @@ OutputFolder::OutputFolder(const QString& path)
     try {
         make(path);
         lock(path);
-        tryToWrite(path);
+        checkWritable(path);
     } catch (...) {
-        giveUp();
+        removeCreated();
         throw;
     }
 }
 
 OutputFolder::~OutputFolder() {
-    giveUp();
+    removeCreated();
 }
 
 void OutputFolder::make(const QString& path) {
@@ -76,7 +76,7 @@ void OutputFolder::lock(const QString& path) {
     }
 }
 
-void OutputFolder::tryToWrite(const QString& path) const {
+void OutputFolder::checkWritable(const QString& path) const {
     QTemporaryFile probe(iPath + QStringLiteral("/.folvero-XXXXXX"));
     errno = 0;
     if (!probe.open())
@@ -99,7 +99,7 @@ void OutputFolder::checkPresence() const {
             ExitCode::tryAgain);
 }
 
-void OutputFolder::giveUp() {
+void OutputFolder::removeCreated() {
     if (!iKept && !iFirstMade.isNull())
         removeEmptyFolders(iPath, iFirstMade);
     if (iLock >= 0)

@@ -22,8 +22,8 @@ public:
 private:
     void make(const QString& path);
     void lock(const QString& path);
-    void tryToWrite(const QString& path) const;
-    void giveUp();
+    void checkWritable(const QString& path) const;
+    void removeCreated();
 
     QString iPath;
     QString iFirstMade; // the outermost folder that did not exist; null when all did

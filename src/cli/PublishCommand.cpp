@@ -2,15 +2,15 @@
 
 #include "app/AppSettings.h"
 #include "cli/CommandError.h"
-#include "cli/FileWatch.h"
+#include "cli/FileWatcher.h"
 #include "cli/InputFile.h"
 #include "cli/Interrupt.h"
 #include "cli/OutputFolder.h"
 #include "cli/PageSelection.h"
 #include "cli/PublishTiming.h"
-#include "cli/TemplateChoice.h"
+#include "cli/TemplateOptions.h"
 #include "cli/Terminal.h"
-#include "cli/WebBookChoice.h"
+#include "cli/WebBookOptions.h"
 #include "output/FolveroOutput.h"
 #include "output/FolveroOutputApp.h"
 #include "output/FolveroOutputWeb.h"
@@ -35,11 +35,11 @@ constexpr int importDPI = 144;
 constexpr int interruptPollMilliseconds = 25;
 
 std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options) {
-    auto tmpl = TemplateChoice::load(options.templateName, options.styleName);
+    auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
     if (!options.settingsFile.isNull())
-        TemplateChoice::applySettingsFile(*tmpl, options.settingsFile);
+        TemplateOptions::applySettingsFile(*tmpl, options.settingsFile);
     for (const QString& assignment : options.assignments)
-        TemplateChoice::applyAssignment(*tmpl, assignment);
+        TemplateOptions::applyAssignment(*tmpl, assignment);
     return tmpl;
 }
 
@@ -63,7 +63,7 @@ QString bookName(const PublishOptions& options) {
 }
 
 OpenedPDF openDocument(const QString& path) {
-    OpenedPDF opened = InputFile::openToDraw(path);
+    OpenedPDF opened = InputFile::openForDrawing(path);
     if (opened.document->pageCount() == 0)
         throw CommandError(QStringLiteral("%1: the document has no pages").arg(path));
     return opened;
@@ -105,7 +105,7 @@ std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& oper
         throw CommandError(operation.failures());
     }
     for (const Message& failure : operation.failures())
-        Terminal::note(QStringLiteral("folvero: %1").arg(failure.english()));
+        Terminal::report(QStringLiteral("folvero: %1").arg(failure.english()));
     return source;
 }
 
@@ -178,21 +178,21 @@ void writeBook(FolveroOutput& output, const QString& title, const OutputFolder& 
 
 // What a web book came to.
 void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options) {
-    WebBookChoice::tellWhatStays(options, output);
-    for (const auto& [page, reason] : output.poorPages())
-        Terminal::note(QStringLiteral("folvero: page %1 has its picture only: %2")
-                           .arg(page)
-                           .arg(reason.english()));
+    WebBookOptions::printLeftoverFiles(options, output);
+    for (const auto& [page, reason] : output.degradedPages())
+        Terminal::report(QStringLiteral("folvero: page %1 has its picture only: %2")
+                             .arg(page)
+                             .arg(reason.english()));
     if (options.quiet || output.classicPageBytes() == 0)
         return;
     constexpr double megabyte = 1'000'000;
-    Terminal::note(
+    Terminal::report(
         QStringLiteral(
             "Pages: %1 MB with text, thumbnails and larger pictures; %2 of a plain book's")
             .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1)
             .arg(QStringLiteral("%1 %").arg(std::lround(100.0 * double(output.pageBytes()) /
                                                         double(output.classicPageBytes())))));
-    WebBookChoice::tellHowToEmbed(output);
+    WebBookOptions::printEmbedSnippet(output);
 }
 
 // Pages that could not be drawn, and those whose file was gone before it was published; null when
@@ -222,14 +222,14 @@ struct MadeBook {
 MadeBook makeBook(const PublishOptions& options) {
     PublishTiming timing;
     bookName(options); // a wrong name shows before an hour of drawing
-    WebBookChoice::check(options);
+    WebBookOptions::check(options);
     const auto tmpl = prepareTemplate(options);
     OpenedPDF opened = openDocument(options.pdf);
     const auto document = opened.document;
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
-        Terminal::note(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
-    const auto openPages = WebBookChoice::openPages(options, pages.range, document->pageCount());
+        Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
+    const auto openPages = WebBookOptions::openPages(options, pages.range, document->pageCount());
     // Until here a signal ends the program at once, as it should: nothing is there to clear away.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
@@ -282,7 +282,7 @@ void makeBookAgain(PublishOptions options) {
             line += QStringLiteral(", %1 removed").arg(removed);
         Terminal::print(line);
         if (!made.missingPages.isNull())
-            Terminal::note(QStringLiteral("folvero: %1").arg(made.missingPages));
+            Terminal::report(QStringLiteral("folvero: %1").arg(made.missingPages));
         return;
     } catch (const CommandError& failure) {
         trouble = failure.message();
@@ -290,14 +290,15 @@ void makeBookAgain(PublishOptions options) {
         trouble = QString::fromUtf8(failure.what());
     }
     if (!Interrupt::wasRequested())
-        Terminal::note(QStringLiteral("folvero: %1\nThe book stays as it was until the next change")
-                           .arg(trouble));
+        Terminal::report(
+            QStringLiteral("folvero: %1\nThe book stays as it was until the next change")
+                .arg(trouble));
 }
 
-void watchAndMakeAgain(const PublishOptions& options, FileWatch& files) {
-    Terminal::note(QStringLiteral("Waiting for changes; Ctrl-C ends it"));
+void watchAndMakeAgain(const PublishOptions& options, FileWatcher& files) {
+    Terminal::report(QStringLiteral("Waiting for changes; Ctrl-C ends it"));
     while (files.waitForChange(Interrupt::wasRequested)) {
-        files.remember();
+        files.takeSnapshot();
         makeBookAgain(options);
     }
 }
@@ -305,14 +306,14 @@ void watchAndMakeAgain(const PublishOptions& options, FileWatch& files) {
 } // namespace
 
 void runPublish(const PublishOptions& options) {
-    FileWatch files({options.pdf, options.settingsFile});
-    files.remember();
+    FileWatcher files({options.pdf, options.settingsFile});
+    files.takeSnapshot();
     const MadeBook made = makeBook(options);
     Terminal::print(made.file);
     if (!made.missingPages.isNull() && !options.watch)
         throw CommandError(made.missingPages, ExitCode::incomplete);
     if (!made.missingPages.isNull())
-        Terminal::note(QStringLiteral("folvero: %1").arg(made.missingPages));
+        Terminal::report(QStringLiteral("folvero: %1").arg(made.missingPages));
     if (options.watch)
         watchAndMakeAgain(options, files);
 }

@@ -40,5 +40,5 @@ void PublishTiming::published() {
 void PublishTiming::write(const QString& path) const {
     Message error;
     if (!Files::writeAtomically(path, QJsonDocument(iSeconds).toJson(), &error))
-        Terminal::note(QStringLiteral("folvero: %1: %2").arg(path, error.english()));
+        Terminal::report(QStringLiteral("folvero: %1: %2").arg(path, error.english()));
 }

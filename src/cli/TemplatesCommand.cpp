@@ -1,7 +1,7 @@
 #include "cli/TemplatesCommand.h"
 
 #include "cli/CommandError.h"
-#include "cli/TemplateChoice.h"
+#include "cli/TemplateOptions.h"
 #include "cli/Terminal.h"
 
 #include <QJsonArray>
@@ -18,7 +18,7 @@ QJsonObject propertyAsJson(const FlashTemplateProperty& property) {
                        {QStringLiteral("title"), property.title()},
                        {QStringLiteral("description"), property.desc()},
                        {QStringLiteral("value"), property.value()}};
-    const QStringList choices = TemplateChoice::choices(property);
+    const QStringList choices = TemplateOptions::choices(property);
     if (!choices.isEmpty())
         object[QStringLiteral("choices")] = QJsonArray::fromStringList(choices);
     QJsonArray children;
@@ -31,11 +31,11 @@ QJsonObject propertyAsJson(const FlashTemplateProperty& property) {
 
 // A damaged template is reported; the others are listed all the same.
 void forEachTemplate(const std::function<void(const FlashTemplate&)>& action) {
-    for (const QString& name : TemplateChoice::templateNames()) {
+    for (const QString& name : TemplateOptions::templateNames()) {
         try {
-            action(*TemplateChoice::load(name, QString()));
+            action(*TemplateOptions::load(name, QString()));
         } catch (const CommandError& failure) {
-            Terminal::note(QStringLiteral("folvero: %1").arg(failure.message()));
+            Terminal::report(QStringLiteral("folvero: %1").arg(failure.message()));
         }
     }
 }
@@ -46,7 +46,7 @@ void printAsJson() {
         QJsonArray properties;
         for (const auto& property : tmpl.properties())
             properties.append(propertyAsJson(*property));
-        const QStringList styles = TemplateChoice::styleNames(tmpl.tmplName());
+        const QStringList styles = TemplateOptions::styleNames(tmpl.tmplName());
         templates.append(QJsonObject{{QStringLiteral("name"), tmpl.tmplName()},
                                      {QStringLiteral("defaultStyle"), tmpl.defaultSytleName()},
                                      {QStringLiteral("styles"), QJsonArray::fromStringList(styles)},
@@ -62,7 +62,7 @@ void printProperty(const FlashTemplateProperty& property, int depth) {
     } else {
         QString line = QStringLiteral("%1%2 = %3").arg(indent, property.key(), property.value());
         line = line.leftJustified(44) + u' ' + property.title();
-        const QStringList choices = TemplateChoice::choices(property);
+        const QStringList choices = TemplateOptions::choices(property);
         if (!choices.isEmpty())
             line += QStringLiteral(" (%1)").arg(choices.join(QStringLiteral(", ")));
         else
@@ -82,7 +82,7 @@ void runTemplates(bool json) {
         return;
     }
     forEachTemplate([](const FlashTemplate& tmpl) {
-        const QStringList styles = TemplateChoice::styleNames(tmpl.tmplName());
+        const QStringList styles = TemplateOptions::styleNames(tmpl.tmplName());
         Terminal::print(tmpl.tmplName());
         Terminal::print(QStringLiteral("  Styles: %1").arg(styles.join(QStringLiteral(", "))));
         for (const auto& property : tmpl.properties())

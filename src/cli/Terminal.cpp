@@ -37,7 +37,7 @@ void Terminal::checkOutput() {
         throw CommandError(QStringLiteral("standard output can't be written"));
 }
 
-void Terminal::note(const QString& line) {
+void Terminal::report(const QString& line) {
     write(stderr, (::isatty(STDERR_FILENO) != 0 ? withoutOrders(line) : line) + u'\n');
 }
 
@@ -59,7 +59,7 @@ void ProgressDisplay::show(int done, int total) {
     const int tenth = int(10LL * done / total);
     if (tenth > iLastTenth) {
         iLastTenth = tenth;
-        Terminal::note(QStringLiteral("%1: %2 of %3").arg(iTitle).arg(done).arg(total));
+        Terminal::report(QStringLiteral("%1: %2 of %3").arg(iTitle).arg(done).arg(total));
     }
 }
 

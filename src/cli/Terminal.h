@@ -13,7 +13,7 @@ void print(const QString& line);
 void checkOutput();
 
 // A line on standard error: everything else.
-void note(const QString& line);
+void report(const QString& line);
 
 } // namespace Terminal
 

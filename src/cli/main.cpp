@@ -260,7 +260,7 @@ int run(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : int(ExitCode::usage);
     } catch (const CommandError& error) {
-        Terminal::note(QStringLiteral("folvero: %1").arg(error.message()));
+        Terminal::report(QStringLiteral("folvero: %1").arg(error.message()));
         return int(error.code());
     }
     return int(ExitCode::ok);
@@ -278,7 +278,7 @@ int main(int argc, char** argv) {
     try {
         return run(argc, argv);
     } catch (const std::exception& failure) {
-        Terminal::note(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
+        Terminal::report(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
         return int(ExitCode::failed);
     }
 }

@@ -47,7 +47,7 @@ bool BookName::staysInFolder(const QString& name) {
            !name.contains(QChar::Null);
 }
 
-bool BookName::isHarmless(const QString& name) {
+bool BookName::isSafe(const QString& name) {
     const QString own = name.endsWith(u'.') ? name.chopped(1) : name;
     return staysInFolder(own) && !own.startsWith(u'.') && !own.endsWith(u'.') &&
            !own.endsWith(u' ') && std::none_of(own.begin(), own.end(), isRefused) &&

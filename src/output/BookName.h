@@ -17,6 +17,6 @@ bool staysInFolder(const QString& name);
 // and has at most 255 bytes. Web servers in their usual settings neither run it nor take orders
 // from it, so it is not hidden either. One dot at the end is allowed: withExtensionOf() leaves it
 // there, and Windows drops it.
-bool isHarmless(const QString& name);
+bool isSafe(const QString& name);
 
 } // namespace BookName

@@ -1,7 +1,7 @@
 #include "output/FolveroOutput.h"
 
 #include "output/BookName.h"
-#include "output/EarlierBook.h"
+#include "output/ExistingBook.h"
 #include "output/ForeignFiles.h"
 #include "output/OfflineFiles.h"
 #include "output/StagingFolder.h"
@@ -63,17 +63,17 @@ QString FolveroOutput::outputSWFName() const {
 }
 
 // A first publish that was killed left files without a configuration.
-bool FolveroOutput::hasEarlierBook() const {
-    return EarlierBook::isIn(Files::join(iSaveToFolder, iResourceFolder)) ||
+bool FolveroOutput::hasExistingBook() const {
+    return ExistingBook::isIn(Files::join(iSaveToFolder, iResourceFolder)) ||
            StagingFolder::hasStale(iSaveToFolder);
 }
 
 QStringList FolveroOutput::foreignFiles() const {
     QStringList found = ForeignFiles::page(outputHTMLFileName());
     const QString files = Files::join(iSaveToFolder, iResourceFolder);
-    const bool hasBook = hasEarlierBook();
+    const bool hasBook = hasExistingBook();
     const bool hasMovie =
-        hasBook && (StagingFolder::hasStale(iSaveToFolder) || !EarlierBook::isWebBookIn(files));
+        hasBook && (StagingFolder::hasStale(iSaveToFolder) || !ExistingBook::isWebBookIn(files));
     if (!hasMovie && ForeignFiles::isThere(outputSWFName()))
         found << outputSWFName();
     if (!hasBook)
@@ -81,25 +81,25 @@ QStringList FolveroOutput::foreignFiles() const {
     return found;
 }
 
-QString FolveroOutput::titleOfEarlierBook() const {
+QString FolveroOutput::titleOfExistingBook() const {
     const QString page = outputHTMLFileName();
-    if (EarlierBook::isPage(page))
-        return EarlierBook::title(page);
+    if (ExistingBook::isPage(page))
+        return ExistingBook::title(page);
     // Its page has another name then.
-    const QStringList pages = EarlierBook::isIn(Files::join(iSaveToFolder, iResourceFolder))
-                                  ? EarlierBook::pages(iSaveToFolder)
+    const QStringList pages = ExistingBook::isIn(Files::join(iSaveToFolder, iResourceFolder))
+                                  ? ExistingBook::pages(iSaveToFolder)
                                   : QStringList();
     return pages.isEmpty() ? QString()
-                           : EarlierBook::title(Files::join(iSaveToFolder, pages.front()));
+                           : ExistingBook::title(Files::join(iSaveToFolder, pages.front()));
 }
 
 void FolveroOutput::ouputTheBook() {
-    forgetLastRun();
+    resetResults();
     if (!QFileInfo(iSaveToFolder).isDir())
         return;
     perform(iSaveToFolder, [this] {
         publish();
-        removeFilesOfEarlierBook();
+        removeFilesOfExistingBook();
     });
 }
 
@@ -125,7 +125,7 @@ bool FolveroOutput::perform(const QString& folder, const std::function<void()>& 
         work();
         return true;
     }
-    forgetLastRun();
+    resetResults();
     try {
         PublishTransaction run(folder);
         iTransaction = &run;
@@ -138,17 +138,17 @@ bool FolveroOutput::perform(const QString& folder, const std::function<void()>& 
     } catch (const PlatformException& failure) {
         reportFailure(failure.message());
     } catch (const Cancelled&) {
-        noteCancelled();
+        markCancelled();
     }
     return false;
 }
 
-void FolveroOutput::noteCancelled() {
+void FolveroOutput::markCancelled() {
     iWasCancelled = true;
     logger().info(QStringLiteral("publishing was cancelled"));
 }
 
-void FolveroOutput::forgetLastRun() {
+void FolveroOutput::resetResults() {
     iPublishErrors.clear();
     iMissingPages.clear();
     iFileCounts = {};
@@ -177,7 +177,7 @@ QString FolveroOutput::resourceFolder(const QString& root, const QString& name) 
 bool FolveroOutput::replaceWithCopy(const QString& source, const QString& folder,
                                     const QString& name, Copy kind) {
     checkCancelled();
-    if (!BookName::isHarmless(name)) {
+    if (!BookName::isSafe(name)) {
         logger().warn(QStringLiteral("left out, not a name for a file of a book: %1").arg(name));
         return false;
     }
@@ -197,7 +197,7 @@ void FolveroOutput::prepaireNomalPage(const QString& base) {
         transaction().makeFolder(folder);
         if (!iFlashPageSource)
             return;
-        const Copy kind = iFlashPageSource->ownsPageFiles() ? Copy::mayShare : Copy::independent;
+        const Copy kind = iFlashPageSource->ownsPageFiles() ? Copy::mayHardLink : Copy::independent;
         for (const auto& page : iFlashPageSource->normalPages()) {
             if (!page)
                 continue;
@@ -292,7 +292,7 @@ void FolveroOutput::PrepareAnnotationFiles(const QString& base) {
         for (const QString& source : iFlashPagesAnnotations->needFiles()) {
             checkCancelled();
             const QString name = Files::lastPathComponent(source);
-            if (!isReadableFile(source) || !BookName::isHarmless(name)) {
+            if (!isReadableFile(source) || !BookName::isSafe(name)) {
                 logger().warn(QStringLiteral("a link's file was left out: %1").arg(source));
                 continue;
             }
@@ -329,12 +329,12 @@ void FolveroOutput::removeExtFiles(const QString& base) {
 }
 
 // Nothing speaks of them any more once the new configuration is there.
-void FolveroOutput::removeFilesOfEarlierBook() {
+void FolveroOutput::removeFilesOfExistingBook() {
     OfflineFiles::removeOutdated(transaction(), iSaveToFolder);
     const QString files = Files::join(iSaveToFolder, iResourceFolder);
     if (!iFlashPageSource || !transaction().writes(Files::join(files, configurationName)))
         return;
-    for (const QString& name : EarlierBook::files(files)) {
+    for (const QString& name : ExistingBook::files(files)) {
         const QString path = Files::join(files, name);
         if (!transaction().writes(path) && QFileInfo(path).isFile())
             transaction().remove(path);
@@ -385,7 +385,7 @@ void FolveroOutput::ouputBookXML(const QString& path) {
     const QString failureMessage = QStringLiteral("Could not write document out...");
     const QString folder = parentOf(path);
     if (!iTransaction && !QFileInfo(folder).isDir()) {
-        forgetLastRun();
+        resetResults();
         iPublishErrors
             << Message::translate("FolveroOutput", "%1: There is no such folder").arg(folder);
         Log::system(failureMessage);

@@ -44,7 +44,7 @@ public:
     virtual QStringList foreignFiles() const;
     // The title of the book that a run would replace, as plain text. Null when there is no book, or
     // when its page doesn't tell.
-    QString titleOfEarlierBook() const;
+    QString titleOfExistingBook() const;
 
     // What went wrong in the last run, one "FILE: CAUSE" each; the folder is then as it was before.
     QStringList publishErrors() const { return englishTexts(iPublishErrors); }
@@ -110,14 +110,14 @@ public:
 
 protected:
     // Whether the book's folder is a book's already, so that what lies in "files" is that book's.
-    bool hasEarlierBook() const;
+    bool hasExistingBook() const;
 
-    void forgetLastRun();
+    void resetResults();
     bool isCancelled() const { return iIsCancelled && iIsCancelled(); }
     // Ends the run under way without a change to the folder when it was cancelled.
     void checkCancelled() const;
     // For a subclass that was cancelled outside of a run.
-    void noteCancelled();
+    void markCancelled();
     // All steps of a run; a subclass may add its own around them.
     virtual void publish();
 
@@ -171,7 +171,7 @@ private:
     void copyExtFile(const FlashTemplateProperty& property, const QString& folder);
     void copyExtFilesOfChildren(const FlashTemplateProperty& property, const QString& folder);
     void copyTemplateFile(const QString& name, TemplateCopy copy, const QString& target);
-    void removeFilesOfEarlierBook();
+    void removeFilesOfExistingBook();
     void writeHTMLPage();
     void stageBookXML(const QString& path);
 

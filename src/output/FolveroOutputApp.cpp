@@ -80,7 +80,7 @@ QString FolveroOutputApp::outputFileName() const {
 }
 
 void FolveroOutputApp::ouputTheBook() {
-    forgetLastRun();
+    resetResults();
     const QString bundle = outputFileName();
     const QString folder = QFileInfo(bundle).path();
     if (!QDir().mkpath(folder)) {
@@ -105,7 +105,7 @@ void FolveroOutputApp::ouputTheBook() {
 
 QStringList FolveroOutputApp::foreignFiles() const {
     const QString bundle = outputFileName();
-    if (!ForeignFiles::isThere(bundle) || hasEarlierBook())
+    if (!ForeignFiles::isThere(bundle) || hasExistingBook())
         return {};
     return {bundle};
 }

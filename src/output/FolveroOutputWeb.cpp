@@ -1,7 +1,7 @@
 #include "output/FolveroOutputWeb.h"
 
 #include "annotations/FlashOutlinePDF.h"
-#include "output/EarlierBook.h"
+#include "output/ExistingBook.h"
 #include "output/ForeignFiles.h"
 #include "output/OfflineFiles.h"
 #include "output/PlainTextPage.h"
@@ -13,7 +13,7 @@
 #include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/PDFDocument.h"
-#include "platform/PDFFacts.h"
+#include "platform/PDFSerialization.h"
 #include "platform/PlatformException.h"
 #include "util/ColorCategory.h"
 
@@ -45,7 +45,7 @@ std::vector<PDFTextLine> textFrom(const QString& path) {
     if (path.isNull())
         return {};
     try {
-        return PDFFacts::unpackTextLines(Files::contents(path));
+        return PDFSerialization::unpackTextLines(Files::contents(path));
     } catch (const PlatformException& failure) {
         logger().warn(QStringLiteral("%1: %2").arg(path, failure.reason()));
         return {};
@@ -85,8 +85,8 @@ QString languageTag(const QString& text) {
 } // namespace
 
 void FolveroOutputWeb::ouputTheBook() {
-    forgetLastRun();
-    iPoorPages.clear();
+    resetResults();
+    iDegradedPages.clear();
     iPageBytes = 0;
     iClassicPageBytes = 0;
     if (!iFlashPageSource || !QFileInfo(iSaveToFolder).isDir()) {
@@ -103,7 +103,7 @@ void FolveroOutputWeb::ouputTheBook() {
         return;
     for (const WebPage& page : iWebPages->pages()) {
         if (!page.failure.isNull())
-            iPoorPages.emplace_back(page.number, page.failure);
+            iDegradedPages.emplace_back(page.number, page.failure);
     }
     const auto source = iFlashPageSource;
     const auto html = iHTMLConfig;
@@ -113,7 +113,7 @@ void FolveroOutputWeb::ouputTheBook() {
         iHTMLConfig = html;
         iFlashOutline = outline;
     });
-    readFacts();
+    readMetadata();
     describeBook();
     iFlashPageSource = sourceOfWebPages();
     FolveroOutput::ouputTheBook();
@@ -123,7 +123,7 @@ bool FolveroOutputWeb::makePages() {
     try {
         if (iWebPages->make())
             return true;
-        noteCancelled();
+        markCancelled();
     } catch (const PlatformException& failure) {
         reportFailure(failure.message());
     }
@@ -150,7 +150,7 @@ QStringList FolveroOutputWeb::foreignFiles() const {
     if (ForeignFiles::isThere(text) && !PlainTextPage::isOne(text))
         found << text;
     const QString files = Files::join(iSaveToFolder, iResourceFolder);
-    if (!EarlierBook::isWebBookIn(files) && !StagingFolder::hasStale(iSaveToFolder))
+    if (!ExistingBook::isWebBookIn(files) && !StagingFolder::hasStale(iSaveToFolder))
         found << ForeignFiles::ofWebBook(files);
     return found;
 }
@@ -160,10 +160,10 @@ void FolveroOutputWeb::describeBook() {
     if (!iHTMLConfig)
         return;
     iHTMLConfig = std::make_shared<HTMLConfigInfo>(*iHTMLConfig);
-    if (!iFacts.subject.isEmpty())
-        iHTMLConfig->setHTMLDescription(iFacts.subject.toHtmlEscaped());
-    if (!iFacts.keywords.isEmpty())
-        iHTMLConfig->setHTMLKeywords(iFacts.keywords.toHtmlEscaped());
+    if (!iMetadata.subject.isEmpty())
+        iHTMLConfig->setHTMLDescription(iMetadata.subject.toHtmlEscaped());
+    if (!iMetadata.keywords.isEmpty())
+        iHTMLConfig->setHTMLKeywords(iMetadata.keywords.toHtmlEscaped());
 }
 
 // The same pages with the files that a web book shows, if it shows them. It owns them as the other
@@ -193,28 +193,28 @@ std::shared_ptr<FlashPageSource> FolveroOutputWeb::sourceOfWebPages() const {
     return source;
 }
 
-void FolveroOutputWeb::readFacts() {
-    iFacts = {};
+void FolveroOutputWeb::readMetadata() {
+    iMetadata = {};
     for (const WebPage& page : iWebPages->pages())
-        iFacts.numbers.push_back(page.number);
+        iMetadata.numbers.push_back(page.number);
     noteOpenPages();
     for (const WebPage& page : iWebPages->pages()) {
         const bool hasLarge = isOpen(page.number) && !page.large.isNull();
-        iFacts.large << (hasLarge ? QFileInfo(page.large).suffix() : QString());
+        iMetadata.large << (hasLarge ? QFileInfo(page.large).suffix() : QString());
     }
     if (!iIsSingleFile) {
-        iFacts.textPage = PlainTextPage::fileName;
-        iFacts.cover = cover();
+        iMetadata.textPage = PlainTextPage::fileName;
+        iMetadata.cover = cover();
     }
     if (const auto document = iWebPages->document()) {
         try {
-            readDocumentFacts(*document);
+            readDocumentMetadata(*document);
         } catch (const PlatformException& failure) {
             logger().warn(failure.reason());
         }
     }
     if (!iTitle.isEmpty())
-        iFacts.title = iTitle;
+        iMetadata.title = iTitle;
 }
 
 QString FolveroOutputWeb::cover() const {
@@ -230,24 +230,24 @@ void FolveroOutputWeb::noteOpenPages() {
     if (!iOpenPages)
         return;
     std::vector<PageRun> runs;
-    for (std::size_t i = 0; i < iFacts.numbers.size(); ++i) {
+    for (std::size_t i = 0; i < iMetadata.numbers.size(); ++i) {
         const int position = int(i) + 1;
-        if (!isWithin(*iOpenPages, iFacts.numbers[i]))
+        if (!isWithin(*iOpenPages, iMetadata.numbers[i]))
             continue;
         if (!runs.empty() && runs.back().last == position - 1)
             runs.back().last = position;
         else
             runs.push_back({position, position});
     }
-    iFacts.open = runs;
+    iMetadata.open = runs;
 }
 
-void FolveroOutputWeb::readDocumentFacts(const PDFDocument& document) {
-    iFacts.title = document.information("Title").trimmed();
-    iFacts.author = document.information("Author").trimmed();
-    iFacts.subject = document.information("Subject").trimmed();
-    iFacts.keywords = document.information("Keywords").trimmed();
-    iFacts.language = languageTag(document.language());
+void FolveroOutputWeb::readDocumentMetadata(const PDFDocument& document) {
+    iMetadata.title = document.information("Title").trimmed();
+    iMetadata.author = document.information("Author").trimmed();
+    iMetadata.subject = document.information("Subject").trimmed();
+    iMetadata.keywords = document.information("Keywords").trimmed();
+    iMetadata.language = languageTag(document.language());
     if (!iFlashOutline) {
         const auto outline = std::make_shared<FlashOutlinePDF>();
         outline->loadOutlineFromPDF(iWebPages->document());
@@ -256,9 +256,9 @@ void FolveroOutputWeb::readDocumentFacts(const PDFDocument& document) {
     const auto labels = document.pageLabels();
     if (labels.empty())
         return;
-    for (const int number : iFacts.numbers)
-        iFacts.labels << (number <= int(labels.size()) ? labels[std::size_t(number) - 1]
-                                                       : QString());
+    for (const int number : iMetadata.numbers)
+        iMetadata.labels << (number <= int(labels.size()) ? labels[std::size_t(number) - 1]
+                                                          : QString());
 }
 
 void FolveroOutputWeb::publish() {
@@ -267,7 +267,7 @@ void FolveroOutputWeb::publish() {
         PublishTransaction::fail(
             outputHTMLFileName(),
             Message::translate("FolveroOutput", "The page with the book's text has that name"));
-    iFacts.offline = !iIsSingleFile && OfflineFiles::canBeIn(iSaveToFolder);
+    iMetadata.offline = !iIsSingleFile && OfflineFiles::canWriteTo(iSaveToFolder);
     if (iWebPages)
         writePages();
     FolveroOutput::publish();
@@ -277,7 +277,7 @@ void FolveroOutputWeb::publish() {
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("css"));
     if (iIsSingleFile)
         packIntoPage();
-    else if (iFacts.offline)
+    else if (iMetadata.offline)
         writeOfflineFiles();
 }
 
@@ -291,9 +291,9 @@ void FolveroOutputWeb::writeOfflineFiles() {
     OfflineFiles files;
     files.folder = iSaveToFolder;
     files.page = Files::lastPathComponent(outputHTMLFileName());
-    files.title = iFacts.title;
-    files.language = iFacts.language;
-    files.cover = iFacts.cover;
+    files.title = iMetadata.title;
+    files.language = iMetadata.language;
+    files.cover = iMetadata.cover;
     files.ground = colour("bgBeginColor", "0xC0C0C0");
     files.bar = colour("mainColor", "0xffffff");
     files.script = Files::contents(playerPart(QStringLiteral("sw"), QStringLiteral("js"),
@@ -305,7 +305,7 @@ void FolveroOutputWeb::packIntoPage() {
     checkCancelled();
     const QString page = outputHTMLFileName();
     std::map<QString, QString> files;
-    for (const auto& [target, staged] : transaction().takeBack())
+    for (const auto& [target, staged] : transaction().takeStagedFiles())
         files.emplace(QDir(iSaveToFolder).relativeFilePath(target), staged);
     const SingleFilePage single(files, Files::lastPathComponent(page));
     if (single.size() > iSingleFileLimit)
@@ -340,7 +340,7 @@ void FolveroOutputWeb::writeScript(const QString& name, const QByteArray& json) 
 void FolveroOutputWeb::writePages() {
     const auto document = iWebPages->document();
     const QString book = Files::lastPathComponent(outputHTMLFileName());
-    PlainTextPage plain(iFacts, book);
+    PlainTextPage plain(iMetadata, book);
     QJsonArray search;
     AnnotationBudget budget;
     for (const WebPage& page : iWebPages->pages()) {
@@ -351,15 +351,16 @@ void FolveroOutputWeb::writePages() {
             continue;
         }
         const QString text = writePage(page, document.get(), budget);
-        iFacts.hasText = iFacts.hasText || !text.isEmpty();
+        iMetadata.hasText = iMetadata.hasText || !text.isEmpty();
         search.append(text);
         plain.addPage(text);
     }
     if (document)
-        document->rest();
+        document->stopReader();
     checkDocumentUnchanged();
     writeScript(QStringLiteral("search/text"), WebScript::json(search));
-    writeScript(QStringLiteral("web/book"), WebScript::json(iFacts.forPlayer(iFlashOutline.get())));
+    writeScript(QStringLiteral("web/book"),
+                WebScript::json(iMetadata.forPlayer(iFlashOutline.get())));
     transaction().write(Files::join(iSaveToFolder, PlainTextPage::fileName), plain.html(),
                         Phase::page);
 }
@@ -384,12 +385,12 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
             budget.spend(annotations);
         } catch (const PlatformException& failure) {
             if (QFileInfo::exists(page.picture)) // else it is a missing page
-                iPoorPages.emplace_back(page.number, failure.message());
+                iDegradedPages.emplace_back(page.number, failure.message());
         }
     }
     writeScript(textFolder + u'/' + number,
                 WebScript::json(WebPageText::asJson(boxes, lines, annotations, [this](int index) {
-                    return iFacts.positionOf(index + 1);
+                    return iMetadata.positionOf(index + 1);
                 })));
     return WebPageText::plain(lines);
 }
@@ -400,11 +401,11 @@ void FolveroOutputWeb::copyPageFile(const QString& source, const QString& folder
         return;
     iPageBytes += QFileInfo(source).size();
     transaction().copy(source, Files::join(resourceFolder(iSaveToFolder, folder), name),
-                       iFlashPageSource->ownsPageFiles() ? Copy::mayShare : Copy::independent);
+                       iFlashPageSource->ownsPageFiles() ? Copy::mayHardLink : Copy::independent);
 }
 
 QString FolveroOutputWeb::getThumbPageURL(const FlashPage& page) const {
-    const int position = iWebPages ? iFacts.positionOf(page.pageIndex()) : 0;
+    const int position = iWebPages ? iMetadata.positionOf(page.pageIndex()) : 0;
     const bool hasOne =
         position > 0 && !iWebPages->pages()[std::size_t(position) - 1].thumbnail.isNull();
     return hasOne ? QStringLiteral("thumb/%1.webp").arg(page.pageIndex()) : getNormalPageURL(page);
@@ -416,7 +417,7 @@ QByteArray FolveroOutputWeb::preloads() {
     QByteArray links = "<link rel=\"preload\" as=\"script\" href=\"files/web/book.js\">\n";
     const auto pages =
         iFlashPageSource ? iFlashPageSource->normalPages() : FlashPageSource::Pages();
-    if (pages.empty() || !pages.front() || iFacts.positionOf(pages.front()->pageIndex()) != 1)
+    if (pages.empty() || !pages.front() || iMetadata.positionOf(pages.front()->pageIndex()) != 1)
         return links;
     const QString picture = Files::join(iResourceFolder, getNormalPageURL(*pages.front()));
     if (transaction().writes(Files::join(iSaveToFolder, picture)))
@@ -434,10 +435,10 @@ void FolveroOutputWeb::finishHTMLPage(const QString& file) {
     const qsizetype movie = html.indexOf("<object ");
     if (const qsizetype end = html.indexOf("</object>", movie); movie >= 0 && end >= 0)
         html.remove(movie, end + qsizetype(qstrlen("</object>")) - movie);
-    html.insert(headEnd, iIsSingleFile ? iFacts.headMarkup()
-                                       : preloads() + iFacts.headMarkup() + playerMarkup);
-    if (!iFacts.language.isEmpty())
-        html.replace("<html lang=\"en\">", "<html lang=\"" + iFacts.language.toUtf8() + "\">");
+    html.insert(headEnd, iIsSingleFile ? iMetadata.headMarkup()
+                                       : preloads() + iMetadata.headMarkup() + playerMarkup);
+    if (!iMetadata.language.isEmpty())
+        html.replace("<html lang=\"en\">", "<html lang=\"" + iMetadata.language.toUtf8() + "\">");
     Message error;
     if (!Files::writeAtomically(file, html, &error))
         PublishTransaction::fail(outputHTMLFileName(), error);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "output/FolveroOutput.h"
-#include "output/WebBookFacts.h"
+#include "output/WebBookMetadata.h"
 #include "pages/WebPages.h"
 #include "platform/AnnotationBudget.h"
 
@@ -40,10 +40,10 @@ public:
     QString getThumbPageURL(const FlashPage& page) const override;
 
     // Pages of the last run that have less than they could have, and why.
-    const std::vector<std::pair<int, Message>>& poorPages() const { return iPoorPages; }
+    const std::vector<std::pair<int, Message>>& degradedPages() const { return iDegradedPages; }
     // False when the folder has a service worker or manifest of somebody else's, which then stays:
     // readers can't keep the book. Nor can they in this way when it is one file.
-    bool staysOffline() const { return iFacts.offline; }
+    bool worksOffline() const { return iMetadata.offline; }
     // Bytes of all that the last run wrote for pages: pictures, larger ones, thumbnails, text; and
     // those of the same pages in a classic book.
     qint64 pageBytes() const { return iPageBytes; }
@@ -56,12 +56,12 @@ protected:
 private:
     bool makePages();
     void checkDocumentUnchanged() const;
-    void readFacts();
+    void readMetadata();
     void describeBook();
-    void readDocumentFacts(const PDFDocument& document);
+    void readDocumentMetadata(const PDFDocument& document);
     QString cover() const;
     void noteOpenPages();
-    bool isOpen(int number) const { return iFacts.isOpen(iFacts.positionOf(number)); }
+    bool isOpen(int number) const { return iMetadata.isOpen(iMetadata.positionOf(number)); }
     void writeOfflineFiles();
     QByteArray preloads();
     void writePages();
@@ -79,8 +79,8 @@ private:
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;
     std::optional<std::vector<PageRun>> iOpenPages;
-    WebBookFacts iFacts;
-    std::vector<std::pair<int, Message>> iPoorPages;
+    WebBookMetadata iMetadata;
+    std::vector<std::pair<int, Message>> iDegradedPages;
     qint64 iPageBytes = 0;
     qint64 iClassicPageBytes = 0;
 };

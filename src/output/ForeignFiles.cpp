@@ -1,6 +1,6 @@
 #include "output/ForeignFiles.h"
 
-#include "output/EarlierBook.h"
+#include "output/ExistingBook.h"
 #include "platform/Files.h"
 #include "template/FlashTemplate.h"
 
@@ -57,7 +57,7 @@ bool ForeignFiles::isThere(const QString& path) {
 }
 
 QStringList ForeignFiles::page(const QString& path) {
-    const bool isOurs = QFileInfo(path).isDir() || EarlierBook::isPage(path);
+    const bool isOurs = QFileInfo(path).isDir() || ExistingBook::isPage(path);
     return isThere(path) && !isOurs ? QStringList{path} : QStringList();
 }
 

@@ -106,7 +106,7 @@ QString shortened(const QString& title) {
 
 } // namespace
 
-bool OfflineFiles::canBeIn(const QString& folder) {
+bool OfflineFiles::canWriteTo(const QString& folder) {
     const QString worker = Files::join(folder, workerName);
     if (QFileInfo::exists(worker))
         return QFileInfo(worker).isFile() && Files::contents(worker).startsWith(workerStart);

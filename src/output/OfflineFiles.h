@@ -19,7 +19,7 @@ struct OfflineFiles {
     QByteArray script; // that answers, as the player has it
 
     // Whether the folder has room for them: it may hold such files of somebody else's site.
-    static bool canBeIn(const QString& folder);
+    static bool canWriteTo(const QString& folder);
 
     // Stages them. The list has what the transaction writes, so it comes last.
     void write(PublishTransaction& transaction) const;

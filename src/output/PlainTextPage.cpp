@@ -1,6 +1,6 @@
 #include "output/PlainTextPage.h"
 
-#include "output/WebBookFacts.h"
+#include "output/WebBookMetadata.h"
 #include "platform/Files.h"
 
 #include <QFileInfo>
@@ -31,7 +31,7 @@ bool PlainTextPage::isOne(const QString& file) {
     return QFileInfo(file).isFile() && Files::contents(file).contains(styleStart);
 }
 
-PlainTextPage::PlainTextPage(const WebBookFacts& facts, const QString& book) : iFacts(facts) {
+PlainTextPage::PlainTextPage(const WebBookMetadata& facts, const QString& book) : iMetadata(facts) {
     const QByteArray address = QUrl::toPercentEncoding(book);
     const QByteArray language =
         escaped(facts.language.isEmpty() ? QStringLiteral("en") : facts.language);
@@ -46,7 +46,7 @@ PlainTextPage::PlainTextPage(const WebBookFacts& facts, const QString& book) : i
 }
 
 void PlainTextPage::addPage(const QString& text) {
-    const QString label = iFacts.labels.value(iPosition);
+    const QString label = iMetadata.labels.value(iPosition);
     ++iPosition;
     const QString name = label.isEmpty() ? QString::number(iPosition) : label;
     iHTML += "<section id=\"page-" + QByteArray::number(iPosition) + "\"><h2>" + escaped(name) +

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-struct WebBookFacts;
+struct WebBookMetadata;
 
 // All text of a book as a page without a script, page by page: for search engines, for old
 // browsers, and for readers who want no pictures.
@@ -16,7 +16,7 @@ public:
     static bool isOne(const QString& file);
 
     // book is the address of the book's page, relative to this one.
-    PlainTextPage(const WebBookFacts& facts, const QString& book);
+    PlainTextPage(const WebBookMetadata& facts, const QString& book);
 
     // The next page of the book.
     void addPage(const QString& text);
@@ -26,7 +26,7 @@ public:
     QByteArray html() const;
 
 private:
-    const WebBookFacts& iFacts;
+    const WebBookMetadata& iMetadata;
     QByteArray iHTML;
     int iPosition = 0;
 };

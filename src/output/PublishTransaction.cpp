@@ -73,23 +73,23 @@ PublishTransaction::PublishTransaction(const QString& folder)
         if (iStaging.isNull())
             failWithErrno(iFolder);
     } catch (...) {
-        removeMadeRoots();
+        removeCreatedRoots();
         throw;
     }
 }
 
 PublishTransaction::~PublishTransaction() {
-    if (!iCommitted && !undo()) {
-        rescueBackups();
+    if (!iCommitted && !rollBack()) {
+        preserveBackups();
         return;
     }
     StagingFolder::remove(iStaging);
     if (!iCommitted)
-        removeMadeRoots();
+        removeCreatedRoots();
 }
 
 // Under a name that no later run takes for a leftover.
-void PublishTransaction::rescueBackups() const {
+void PublishTransaction::preserveBackups() const {
     const QString rescue =
         Files::join(iFolder, QStringLiteral("folvero-rescued-%1").arg(::getpid()));
     const bool moved = moveFile(iStaging, rescue);
@@ -106,8 +106,8 @@ void PublishTransaction::copy(const QString& source, const QString& target, Copy
                               Phase phase) {
     const QString staged = stage(target, phase);
     Message error;
-    const bool done = kind == Copy::mayShare ? Files::linkOrCopy(source, staged, &error)
-                                             : Files::copy(source, staged, &error);
+    const bool done = kind == Copy::mayHardLink ? Files::linkOrCopy(source, staged, &error)
+                                                : Files::copy(source, staged, &error);
     if (!done)
         fail(target, error);
 }
@@ -134,7 +134,7 @@ void PublishTransaction::remove(const QString& target) {
     change.staged = QString();
 }
 
-std::vector<std::pair<QString, QString>> PublishTransaction::takeBack() {
+std::vector<std::pair<QString, QString>> PublishTransaction::takeStagedFiles() {
     auto files = stagedFiles();
     iChanges.clear();
     iIndexOfTarget.clear();
@@ -185,12 +185,12 @@ void PublishTransaction::commit() {
         makeFolderNow(path);
     for (const Change& change : iChanges) {
         if (!change.staged.isNull())
-            putInPlace(change);
+            install(change);
     }
     // Last, since the earlier book may still speak of these files.
     for (const Change& change : iChanges) {
         if (change.staged.isNull())
-            takeAway(change);
+            removeTarget(change);
     }
     iCommitted = true;
 }
@@ -201,7 +201,7 @@ void PublishTransaction::makeRoot(const QString& path) {
     makeRoot(parentOf(path));
     if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0)
         failWithErrno(path);
-    iMadeRoots << path;
+    iCreatedRoots << path;
 }
 
 void PublishTransaction::makeFolderNow(const QString& path) {
@@ -211,20 +211,20 @@ void PublishTransaction::makeFolderNow(const QString& path) {
         return;
     makeFolderNow(parentOf(path));
     if (kindOf(path) == S_IFLNK)
-        putAside(path);
+        moveToStaging(path);
     if (::mkdir(QFile::encodeName(path).constData(), 0777) != 0)
         failWithErrno(path);
     iDone.push_back({path, QString(), true});
 }
 
-void PublishTransaction::putAside(const QString& path) {
+void PublishTransaction::moveToStaging(const QString& path) {
     const QString backup = newName();
     if (!moveFile(path, backup))
         failWithErrno(path);
     iDone.push_back({path, backup});
 }
 
-QString PublishTransaction::secondName(const QString& path) {
+QString PublishTransaction::makeBackup(const QString& path) {
     const QString name = newName();
     if (kindOf(path) != S_IFREG)
         return nameAgain(path, name) ? name : QString();
@@ -236,7 +236,7 @@ QString PublishTransaction::secondName(const QString& path) {
 
 // A file with a second name elsewhere is not the book's alone, so another of the same bytes has to
 // take its place.
-bool PublishTransaction::isInPlace(const Change& change) const {
+bool PublishTransaction::isUpToDate(const Change& change) const {
     struct stat there {};
     struct stat staged {};
     if (::lstat(QFile::encodeName(change.target).constData(), &there) != 0 ||
@@ -249,28 +249,28 @@ bool PublishTransaction::isInPlace(const Change& change) const {
            Files::haveSameContent(change.target, change.staged);
 }
 
-void PublishTransaction::putInPlace(const Change& change) {
+void PublishTransaction::install(const Change& change) {
     makeFolderNow(parentOf(change.target));
-    if (isInPlace(change)) {
+    if (isUpToDate(change)) {
         ++iCounts.unchanged;
         return;
     }
     const mode_t kind = kindOf(change.target);
     if (kind == S_IFDIR)
         fail(change.target, Message::translate("FolveroOutput", "There is a folder of that name"));
-    const QString backup = kind == 0 ? QString() : secondName(change.target);
+    const QString backup = kind == 0 ? QString() : makeBackup(change.target);
     if (kind != 0 && backup.isNull())
-        putAside(change.target);
+        moveToStaging(change.target);
     if (!moveFile(change.staged, change.target))
         failWithErrno(change.target);
     iDone.push_back({change.target, backup});
     ++iCounts.written;
 }
 
-void PublishTransaction::takeAway(const Change& change) {
+void PublishTransaction::removeTarget(const Change& change) {
     if (!exists(change.target) || isFolder(change.target) || isBehindLink(change.target))
         return;
-    putAside(change.target);
+    moveToStaging(change.target);
     ++iCounts.removed;
 }
 
@@ -289,7 +289,7 @@ bool PublishTransaction::isBehindLink(const QString& path) const {
     return false;
 }
 
-bool PublishTransaction::undo() {
+bool PublishTransaction::rollBack() {
     bool complete = true;
     for (auto step = iDone.rbegin(); step != iDone.rend(); ++step) {
         if (step->isFolder)
@@ -302,7 +302,7 @@ bool PublishTransaction::undo() {
     return complete;
 }
 
-void PublishTransaction::removeMadeRoots() {
-    for (auto path = iMadeRoots.crbegin(); path != iMadeRoots.crend(); ++path)
+void PublishTransaction::removeCreatedRoots() {
+    for (auto path = iCreatedRoots.crbegin(); path != iCreatedRoots.crend(); ++path)
         ::rmdir(QFile::encodeName(*path).constData());
 }

@@ -24,7 +24,7 @@ public:
 
     // What a copy may be: another name for a file that nothing changes in place, or a file of its
     // own.
-    enum class Copy { independent, mayShare };
+    enum class Copy { independent, mayHardLink };
 
     // What a commit did. A file that already lay there with the same bytes is left alone, so that
     // it keeps its date and whoever copies the book elsewhere has less to copy.
@@ -60,7 +60,7 @@ public:
     // where their new content lies until then.
     std::vector<std::pair<QString, QString>> stagedFiles() const;
     // The same, and forgets all changes so far; the files stay as long as the transaction lives.
-    std::vector<std::pair<QString, QString>> takeBack();
+    std::vector<std::pair<QString, QString>> takeStagedFiles();
 
     void commit();
     const Counts& counts() const { return iCounts; }
@@ -79,24 +79,24 @@ private:
         bool isFolder = false;
     };
 
-    void rescueBackups() const;
+    void preserveBackups() const;
     void makeRoot(const QString& path);
     void makeFolderNow(const QString& path);
     // Moves what is there into the hidden folder.
-    void putAside(const QString& path);
+    void moveToStaging(const QString& path);
     // For what is to be replaced: so it never goes missing, and can come back. Null where a thing
     // that is no file can't have one.
-    QString secondName(const QString& path);
+    QString makeBackup(const QString& path);
     bool isBeneath(const QString& path) const;
     bool isBehindLink(const QString& path) const;
     QString newName();
     Change& changeOf(const QString& target);
-    bool isInPlace(const Change& change) const;
-    void putInPlace(const Change& change);
-    void takeAway(const Change& change);
+    bool isUpToDate(const Change& change) const;
+    void install(const Change& change);
+    void removeTarget(const Change& change);
     // False when an earlier file could not be put back.
-    bool undo();
-    void removeMadeRoots();
+    bool rollBack();
+    void removeCreatedRoots();
 
     QString iFolder;
     QString iStaging;
@@ -104,7 +104,7 @@ private:
     std::vector<Change> iChanges;
     QHash<QString, std::size_t> iIndexOfTarget;
     QStringList iFoldersToMake;
-    QStringList iMadeRoots;
+    QStringList iCreatedRoots;
     std::vector<Undo> iDone;
     Counts iCounts;
     bool iCommitted = false;

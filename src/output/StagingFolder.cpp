@@ -1,9 +1,9 @@
 #include "output/StagingFolder.h"
 
-#include "platform/ClaimedFolder.h"
-#include "platform/Descriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/Files.h"
 #include "platform/FolderRemoval.h"
+#include "platform/LockedFolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,8 +17,8 @@ namespace {
 
 const QString prefix = QStringLiteral(".folvero-publish-");
 
-Descriptor opened(const QString& folder) {
-    return Descriptor(
+FileDescriptor opened(const QString& folder) {
+    return FileDescriptor(
         ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
@@ -35,32 +35,32 @@ bool isOfGoneProcess(const QString& name) {
 } // namespace
 
 QString StagingFolder::make(const QString& inFolder) {
-    return ClaimedFolder::make(
+    return LockedFolder::make(
         Files::join(inFolder, QStringLiteral("%1%2-XXXXXX").arg(prefix).arg(::getpid())));
 }
 
 void StagingFolder::remove(const QString& path) {
-    ClaimedFolder::remove(path);
+    LockedFolder::remove(path);
 }
 
 bool StagingFolder::hasStale(const QString& inFolder) {
-    const Descriptor folder = opened(inFolder);
+    const FileDescriptor folder = opened(inFolder);
     const QStringList names = folder.isOpen() ? namesIn(inFolder) : QStringList();
     return std::any_of(names.begin(), names.end(), [&folder](const QString& name) {
         return isOfGoneProcess(name) &&
-               !ClaimedFolder::isClaimed(folder.number(), QFile::encodeName(name));
+               !LockedFolder::isLocked(folder.number(), QFile::encodeName(name));
     });
 }
 
 void StagingFolder::removeStale(const QString& inFolder) {
-    const Descriptor folder = opened(inFolder);
+    const FileDescriptor folder = opened(inFolder);
     if (!folder.isOpen())
         return;
     for (const QString& name : namesIn(inFolder)) {
         const QByteArray entry = QFile::encodeName(name);
         if (!isOfGoneProcess(name))
-            ClaimedFolder::removeIfAbandoned(folder.number(), entry, std::nullopt);
-        else if (!ClaimedFolder::isClaimed(folder.number(), entry))
+            LockedFolder::removeIfAbandoned(folder.number(), entry, std::nullopt);
+        else if (!LockedFolder::isLocked(folder.number(), entry))
             FolderRemoval::removeEntry(folder.number(), entry);
     }
 }

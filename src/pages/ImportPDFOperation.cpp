@@ -124,7 +124,7 @@ void ImportPDFOperation::importPages() {
             iFailures << iFlashPageSource->openError();
         iFlashPageSource->startDrawing();
         if (const auto document = iFlashPageSource->toPageConverter()->PDFDoc())
-            readFirstFacts(*document);
+            readDocumentProperties(*document);
         operationLog().debug(QStringLiteral("before generate pages"));
         iFlashPageSource->generatePages();
         operationLog().debug(QStringLiteral("after generate pages"));
@@ -132,7 +132,7 @@ void ImportPDFOperation::importPages() {
         iFlashPageSource->generateNormalPages();
         operationLog().debug(QStringLiteral("after generateNormalPages"));
         if (!isCancelled() && !iFlashPageSource->hasDrawnPages())
-            noteThatNothingWasDrawn();
+            reportNothingDrawn();
     } catch (const PlatformException& failure) {
         operationLog().error(
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
@@ -143,7 +143,7 @@ void ImportPDFOperation::importPages() {
 
 // Before links and bookmarks, which may break the process that reads too often for more; while the
 // first pages are drawn, since it takes as long.
-void ImportPDFOperation::readFirstFacts(const PDFDocument& document) {
+void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
     try {
         iFirstCropBox = firstReadableCropBox(document);
         iDocumentTitle = document.information("Title").trimmed();
@@ -153,7 +153,7 @@ void ImportPDFOperation::readFirstFacts(const PDFDocument& document) {
 }
 
 // The source stays: it may be of use to a caller that makes something of empty pages.
-void ImportPDFOperation::noteThatNothingWasDrawn() {
+void ImportPDFOperation::reportNothingDrawn() {
     if (!iFlashPageSource->openError().isNull())
         return;
     const auto& failed = iFlashPageSource->toPageConverter()->failedPages();

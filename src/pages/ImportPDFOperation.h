@@ -52,8 +52,8 @@ private:
     void clearResults();
     void importStages();
     void importPages();
-    void readFirstFacts(const PDFDocument& document);
-    void noteThatNothingWasDrawn();
+    void readDocumentProperties(const PDFDocument& document);
+    void reportNothingDrawn();
     void importPageLinks(const std::shared_ptr<PDFDocument>& document);
     void importOutline(const std::shared_ptr<PDFDocument>& document);
     void checkUnchanged(const PDFDocument& document);

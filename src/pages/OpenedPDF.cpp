@@ -2,5 +2,5 @@
 
 OpenedPDF OpenedPDF::open(const QString& path, std::function<bool()> stopped) {
     auto workers = std::make_shared<SpareWorkers>();
-    return {PDFDocument::openApart(path, std::move(stopped)), std::move(workers)};
+    return {PDFDocument::openSandboxed(path, std::move(stopped)), std::move(workers)};
 }

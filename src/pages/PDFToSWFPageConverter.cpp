@@ -2,9 +2,9 @@
 
 #include "pages/PageQuality.h"
 #include "platform/Bundle.h"
-#include "platform/EngineLimits.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
+#include "platform/PDFLimits.h"
 #include "platform/PlatformException.h"
 
 #include <QFileInfo>
@@ -64,7 +64,7 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
                 .arg(QString::number(page), QString::number(PDFDoc()->pageCount())));
     }
     const auto drawn = iWorkers ? iWorkers->waitFor(page) : std::nullopt;
-    const PageResult result = drawn ? *drawn : drawHere(page);
+    const PageResult result = drawn ? *drawn : drawInProcess(page);
     iTiming.draw += result.timing.draw;
     iTiming.encode += result.timing.encode;
     iTiming.write += result.timing.write;
@@ -74,14 +74,14 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
         iFailedPages.push_back({page, result.error});
 }
 
-PageResult PDFToSWFPageConverter::drawHere(int page) {
+PageResult PDFToSWFPageConverter::drawInProcess(int page) {
     try {
         if (!iPDFRep) {
             iOwnDocument = PDFDocument::open(PDFPath());
             iPDFRep = std::make_unique<PageImageMaker>(*iOwnDocument, compressionFactor(quality()));
         }
         return {QString(),
-                iPDFRep->make(page, workFile(page, "jpg"), {iStop, EngineLimits::maxPageTime})};
+                iPDFRep->make(page, workFile(page, "jpg"), {iStop, PDFLimits::maxPageTime})};
     } catch (const PlatformException& failure) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
         return {failure.message(), {}, failure.name() == QStringLiteral("PageWriteFailed")};

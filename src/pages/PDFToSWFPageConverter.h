@@ -48,7 +48,7 @@ public:
 
 private:
     QString workFile(int page, const char* extension) const;
-    PageResult drawHere(int page);
+    PageResult drawInProcess(int page);
 
     std::shared_ptr<SpareWorkers> iSpares;
     std::unique_ptr<PageWorkers> iWorkers;

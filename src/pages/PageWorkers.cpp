@@ -2,9 +2,9 @@
 
 #include "pages/WebPageFiles.h"
 #include "platform/Bundle.h"
-#include "platform/EngineLimits.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
+#include "platform/PDFLimits.h"
 #include "platform/PlatformException.h"
 
 #include <QFile>
@@ -23,10 +23,10 @@ constexpr int pollMilliseconds = 20;
 constexpr std::size_t maxPagesAhead = 64;
 
 // A worker gives a page up by itself; one that does not even do that is ended.
-constexpr auto usualPatience = EngineLimits::maxPageTime + std::chrono::seconds(10);
+constexpr auto defaultTimeout = PDFLimits::maxPageTime + std::chrono::seconds(10);
 
 // A document that ends so many workers in a row before they are ready will end them all.
-constexpr int maxEndedUnready = 20;
+constexpr int maxFailedStarts = 20;
 
 // Answers are short.
 constexpr qsizetype maxLine = qsizetype{1} << 20;
@@ -63,7 +63,7 @@ PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vect
       iWaiting(pages.begin(), pages.end()),
       iStop(stop),
       iPageCount(pages.size()),
-      iPatience(usualPatience) {}
+      iTimeout(defaultTimeout) {}
 
 PageWorkers::~PageWorkers() {
     killAll();
@@ -159,28 +159,28 @@ void PageWorkers::collect() {
         Worker& worker = iWorkers[i];
         if (descriptors[i].revents)
             readAnswers(worker);
-        if (worker.process && !worker.pages.empty() && now - worker.since > iPatience)
-            giveUpWaiting(worker);
+        if (worker.process && !worker.pages.empty() && now - worker.since > iTimeout)
+            timeOut(worker);
     }
     std::erase_if(iWorkers, [](const Worker& worker) { return !worker.process; });
 }
 
 void PageWorkers::readAnswers(Worker& worker) {
     if (!worker.process->readAvailable(maxLine)) {
-        if (drawsAgain(worker))
+        if (shouldRetry(worker))
             replace(worker);
         else
             replace(worker, endedReason());
         return;
     }
     while (const auto line = worker.process->takeLine())
-        takeAnswer(worker, *line);
+        readAnswer(worker, *line);
     feed(worker);
 }
 
 // "here", then "ready", or "fail REASON" when the document can't be opened.
-void PageWorkers::takeFirstLine(Worker& worker, const QByteArray& line) {
-    if (!std::exchange(worker.here, true) && line == "here")
+void PageWorkers::readStartupLine(Worker& worker, const QByteArray& line) {
+    if (!std::exchange(worker.sandboxed, true) && line == "here")
         return;
     if (line != "ready") {
         iOpenError = reasonFrom(line.mid(5));
@@ -188,15 +188,15 @@ void PageWorkers::takeFirstLine(Worker& worker, const QByteArray& line) {
     }
     worker.ready = true;
     worker.since = std::chrono::steady_clock::now();
-    iEndedUnready = 0;
+    iFailedStarts = 0;
 }
 
 // An answer is "ok DRAW ENCODE WRITE" in seconds, "fail REASON", or, when its files can't be
 // written, "full REASON" or "unwritable REASON", for the first page asked for. A full disk may have
 // room later.
-void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
+void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     if (!worker.ready) {
-        takeFirstLine(worker, line);
+        readStartupLine(worker, line);
         return;
     }
     if (worker.pages.empty())
@@ -216,10 +216,10 @@ void PageWorkers::takeAnswer(Worker& worker, const QByteArray& line) {
 }
 
 // One that hangs while it opens the document has no page to blame; few more are waited for.
-void PageWorkers::giveUpWaiting(Worker& worker) {
+void PageWorkers::timeOut(Worker& worker) {
     worker.process->kill();
     if (!worker.ready)
-        iEndedUnready += maxEndedUnready / 3;
+        iFailedStarts += maxFailedStarts / 3;
     replace(worker, Message::translate("PageFailure", "drawing it took too long"));
 }
 
@@ -227,23 +227,23 @@ void PageWorkers::giveUpWaiting(Worker& worker) {
 // page.
 void PageWorkers::replace(Worker& worker, const Message& reason) {
     if (!worker.ready) {
-        replaceUnready(worker);
+        replaceUnstarted(worker);
         return;
     }
     if (!reason.isNull())
-        giveUpPage(worker, reason);
-    handBack(worker);
+        failPage(worker, reason);
+    requeuePages(worker);
     worker = newWorker(startProcess());
 }
 
 // A page is not to blame for a worker that somebody killed; when it happens again it may be.
-bool PageWorkers::drawsAgain(Worker& worker) {
+bool PageWorkers::shouldRetry(Worker& worker) {
     return worker.ready && !worker.pages.empty() && worker.process->wasKilled() &&
-           iDrawnAgain.insert(worker.pages.front()).second;
+           iRetriedPages.insert(worker.pages.front()).second;
 }
 
 // The page that it was drawing is to blame.
-void PageWorkers::giveUpPage(Worker& worker, const Message& reason) {
+void PageWorkers::failPage(Worker& worker, const Message& reason) {
     if (worker.pages.empty())
         return;
     const int page = worker.pages.front();
@@ -256,23 +256,23 @@ void PageWorkers::giveUpPage(Worker& worker, const Message& reason) {
 
 // No page is to blame for a process that did not even get ready. One that has been heard of may
 // have opened the document, so how it ended is no reason to draw without it.
-void PageWorkers::replaceUnready(Worker& worker) {
-    handBack(worker);
-    iCanRun = iCanRun && (worker.here || !worker.process->couldNotRun());
-    const bool again = iCanRun && iOpenError.isNull() && ++iEndedUnready < maxEndedUnready;
+void PageWorkers::replaceUnstarted(Worker& worker) {
+    requeuePages(worker);
+    iCanRun = iCanRun && (worker.sandboxed || !worker.process->couldNotRun());
+    const bool again = iCanRun && iOpenError.isNull() && ++iFailedStarts < maxFailedStarts;
     worker = newWorker(again ? startProcess() : nullptr);
 }
 
 // A page counts as drawn or as given up, never half.
 void PageWorkers::removeFilesOf(int page) const {
     const WebPageFiles files(iFolder, page);
-    for (const QString& file : iForWebBook ? files.made() : QStringList(files.pageFile)) {
+    for (const QString& file : iForWebBook ? files.all() : QStringList(files.pageFile)) {
         QFile::remove(file);
-        QFile::remove(Files::workingPart(file));
+        QFile::remove(Files::temporaryPath(file));
     }
 }
 
-void PageWorkers::handBack(Worker& worker) {
+void PageWorkers::requeuePages(Worker& worker) {
     iWaiting.insert(iWaiting.begin(), worker.pages.begin(), worker.pages.end());
     std::sort(iWaiting.begin(), iWaiting.end());
     worker.pages.clear();

@@ -47,7 +47,7 @@ public:
     void setSpares(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
 
     // How long a worker may be silent over one page before it is ended.
-    void setPatience(std::chrono::milliseconds patience) { iPatience = patience; }
+    void setTimeout(std::chrono::milliseconds timeout) { iTimeout = timeout; }
 
     // Starts the processes. False when none could be started.
     bool start();
@@ -61,9 +61,9 @@ public:
 private:
     struct Worker {
         std::unique_ptr<ChildProcess> process;
-        bool here = false;     // it has been heard of, and opens the document
-        bool ready = false;    // it has opened the document
-        std::deque<int> pages; // asked for; the first one is being drawn
+        bool sandboxed = false; // it has been heard of, and opens the document
+        bool ready = false;     // it has opened the document
+        std::deque<int> pages;  // asked for; the first one is being drawn
         std::chrono::steady_clock::time_point since;
     };
 
@@ -75,14 +75,14 @@ private:
     void feedAll();
     void collect();
     void readAnswers(Worker& worker);
-    void takeFirstLine(Worker& worker, const QByteArray& line);
-    void takeAnswer(Worker& worker, const QByteArray& line);
-    void giveUpWaiting(Worker& worker);
+    void readStartupLine(Worker& worker, const QByteArray& line);
+    void readAnswer(Worker& worker, const QByteArray& line);
+    void timeOut(Worker& worker);
     void replace(Worker& worker, const Message& reason = {});
-    bool drawsAgain(Worker& worker);
-    void giveUpPage(Worker& worker, const Message& reason);
-    void replaceUnready(Worker& worker);
-    void handBack(Worker& worker);
+    bool shouldRetry(Worker& worker);
+    void failPage(Worker& worker, const Message& reason);
+    void replaceUnstarted(Worker& worker);
+    void requeuePages(Worker& worker);
     void removeFilesOf(int page) const;
     void killAll();
 
@@ -97,11 +97,11 @@ private:
     const std::atomic<bool>& iStop;
     std::function<bool()> iStopped;
     std::size_t iPageCount;
-    std::chrono::milliseconds iPatience;
-    int iEndedUnready = 0; // workers in a row that ended before they were ready
+    std::chrono::milliseconds iTimeout;
+    int iFailedStarts = 0; // workers in a row that ended before they were ready
     bool iCanRun = true;   // false once workers turn out to be unfit for this system
     Message iOpenError;    // why a worker could not open the document
     std::vector<Worker> iWorkers;
     std::map<int, PageResult> iResults; // made, not yet asked for
-    std::set<int> iDrawnAgain;          // pages whose worker was killed once
+    std::set<int> iRetriedPages;        // pages whose worker was killed once
 };

@@ -17,12 +17,12 @@ struct WebPageFiles {
     }
 
     // All that are made for a web book.
-    QStringList made() const { return {picture, thumbnail, largeVector, largePicture, text}; }
+    QStringList all() const { return {picture, thumbnail, largeVector, largePicture, text}; }
 
     QString pageFile;
     QString picture;      // the same size and sharpness in fewer bytes; none when that does not pay
     QString thumbnail;    // fits into WebPageMaker's thumbnail box
     QString largeVector;  // what is shown when the page is enlarged: one of
     QString largePicture; // the two, or none
-    QString text;         // as PDFFacts packs it
+    QString text;         // as PDFSerialization packs it
 };

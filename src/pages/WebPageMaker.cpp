@@ -2,7 +2,7 @@
 
 #include "pages/Stopwatch.h"
 #include "platform/Files.h"
-#include "platform/PDFFacts.h"
+#include "platform/PDFSerialization.h"
 #include "platform/PlatformException.h"
 #include "platform/WebPEncoder.h"
 
@@ -58,7 +58,7 @@ PageTiming WebPageMaker::make(int page, const WebPageFiles& files, const DrawCon
     Stopwatch watch;
     const PDFPage drawn = iDocument.page(page - 1);
     drawn.draw(normalScale, iBitmap, control);
-    const QByteArray text = PDFFacts::pack(drawn.text());
+    const QByteArray text = PDFSerialization::pack(drawn.text());
     timing.draw = watch.lap();
 
     const qint64 pageFileSize = QFileInfo(files.pageFile).size();

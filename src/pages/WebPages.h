@@ -16,7 +16,7 @@ struct WebPage {
     QString picture;   // the page file, or one that takes fewer bytes
     QString thumbnail; // WebP
     QString large;     // SVG or WebP
-    QString text;      // as PDFFacts packs it
+    QString text;      // as PDFSerialization packs it
     Message failure;   // why the page has less than it could have
 };
 

@@ -26,7 +26,7 @@ bool isThere(const QString& path) {
 
 } // namespace
 
-bool Confinement::holds(const QString& folder, const QString& path) {
+bool Confinement::contains(const QString& folder, const QString& path) {
     if (path.contains(QChar::Null))
         return false;
     const QString root = QDir::cleanPath(folder);

@@ -1,6 +1,6 @@
 #include "platform/Files.h"
 
-#include "platform/Descriptor.h"
+#include "platform/FileDescriptor.h"
 
 #include <QDir>
 #include <QFile>
@@ -78,8 +78,8 @@ bool Files::writeAtomically(const QString& path, const QByteArray& data, Message
 bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char> data,
                              Message* error) {
     const QByteArray name = QFile::encodeName(path);
-    const QByteArray part = QFile::encodeName(workingPart(path));
-    Descriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    const QByteArray part = QFile::encodeName(temporaryPath(path));
+    FileDescriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
     if (!file.isOpen())
         return fail(error);
     if (writeAll(file.number(), data.data(), data.size()) && file.close() &&
@@ -90,16 +90,16 @@ bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char>
     return result;
 }
 
-QString Files::workingPart(const QString& path) {
+QString Files::temporaryPath(const QString& path) {
     return path + QStringLiteral(".part");
 }
 
 bool Files::copy(const QString& source, const QString& target, Message* error) {
-    const Descriptor from(::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC));
+    const FileDescriptor from(::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC));
     if (!from.isOpen())
         return fail(error);
     const QByteArray name = QFile::encodeName(target);
-    Descriptor to(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    FileDescriptor to(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (!to.isOpen())
         return fail(error);
     if (copyBytes(from.number(), to.number()) && to.close())

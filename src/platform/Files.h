@@ -21,7 +21,7 @@ bool writeWorkingFile(const QString& path, std::span<const unsigned char> data,
                       Message* error = nullptr);
 
 // Where that is written before it gets its name. A process that is killed leaves it behind.
-QString workingPart(const QString& path);
+QString temporaryPath(const QString& path);
 
 // Copies a file in the cheapest way that yields an independent file: a shared-extent clone where
 // the file system has it, a copy otherwise. Fails when the target exists.

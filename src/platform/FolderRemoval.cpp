@@ -1,6 +1,6 @@
 #include "platform/FolderRemoval.h"
 
-#include "platform/Descriptor.h"
+#include "platform/FileDescriptor.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,7 +40,7 @@ bool emptyOnDevice(int folder, dev_t device);
 bool removeOnDevice(int folder, const QByteArray& name, dev_t device) {
     if (::unlinkat(folder, name.constData(), 0) == 0)
         return true;
-    const Descriptor inner(::openat(folder, name.constData(), openFolderItself));
+    const FileDescriptor inner(::openat(folder, name.constData(), openFolderItself));
     return inner.isOpen() && isOnDevice(inner.number(), device) &&
            emptyOnDevice(inner.number(), device) &&
            ::unlinkat(folder, name.constData(), AT_REMOVEDIR) == 0;
@@ -58,8 +58,9 @@ bool emptyOnDevice(int folder, dev_t device) {
 bool FolderRemoval::remove(const QString& path) {
     const QString clean = QDir::cleanPath(path);
     const QString parent = clean.contains(u'/') ? clean.section(u'/', 0, -2) + u'/' : QString();
-    const Descriptor folder(::open(parent.isEmpty() ? "." : QFile::encodeName(parent).constData(),
-                                   O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor folder(
+        ::open(parent.isEmpty() ? "." : QFile::encodeName(parent).constData(),
+               O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return folder.isOpen() &&
            removeEntry(folder.number(), QFile::encodeName(clean.section(u'/', -1)));
 }

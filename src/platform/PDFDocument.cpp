@@ -1,8 +1,8 @@
 #include "platform/PDFDocument.h"
 
-#include "platform/EngineLimits.h"
 #include "platform/Log.h"
 #include "platform/PDFEngine.h"
+#include "platform/PDFLimits.h"
 #include "platform/PDFReader.h"
 
 #include <QFile>
@@ -26,7 +26,7 @@ const Log& engineLog() {
 void* limitedRealloc(void* user, void* old, std::size_t size) {
     auto& held = *static_cast<std::size_t*>(user);
     const std::size_t before = old ? ::malloc_usable_size(old) : 0;
-    if (held - before + size > EngineLimits::maxEngineMemory)
+    if (held - before + size > PDFLimits::maxMuPDFMemory)
         return nullptr;
     void* memory = std::realloc(old, size);
     if (memory)
@@ -89,7 +89,7 @@ bool hasPDFHeader(const QString& path) {
 
 PDFDocument::Engine::Engine(QString filePath) : path(std::move(filePath)) {
     const fz_alloc_context allocator{&allocated, limitedMalloc, limitedRealloc, countedFree};
-    context = fz_new_context(&allocator, nullptr, EngineLimits::engineStore);
+    context = fz_new_context(&allocator, nullptr, PDFLimits::maxStoreSize);
     if (!context)
         throw std::bad_alloc();
     fz_set_warning_callback(context, logEngineMessage, nullptr);
@@ -152,7 +152,7 @@ QString PDFDocument::Engine::text(pdf_obj* string) const {
         return {};
     const char* bytes = get([&](fz_context* ctx) { return pdf_to_text_string(ctx, string); },
                             static_cast<const char*>(nullptr));
-    return bytes ? QString::fromUtf8(bytes).left(EngineLimits::maxTextLength) : QString();
+    return bytes ? QString::fromUtf8(bytes).left(PDFLimits::maxTextLength) : QString();
 }
 
 QString PDFDocument::Engine::name(pdf_obj* object) const {
@@ -255,8 +255,8 @@ std::shared_ptr<PDFDocument> PDFDocument::open(const QString& path, Access acces
     return document;
 }
 
-std::shared_ptr<PDFDocument> PDFDocument::openApart(const QString& path,
-                                                    std::function<bool()> stopped) {
+std::shared_ptr<PDFDocument> PDFDocument::openSandboxed(const QString& path,
+                                                        std::function<bool()> stopped) {
     const FileState state = FileState::of(path);
     checkFile(path);
     auto reader = std::make_unique<PDFReader>(path, std::move(stopped));
@@ -282,9 +282,9 @@ void PDFDocument::checkUnchanged() const {
             .temporary());
 }
 
-void PDFDocument::rest() const {
+void PDFDocument::stopReader() const {
     if (iReader)
-        iReader->rest();
+        iReader->stop();
 }
 
 QString PDFDocument::path() const {

@@ -33,11 +33,11 @@ public:
     // or to busy the PDF engine harms that process only: its questions then throw, see PDFReader.
     // Pages of such a document can't be drawn. stopped, asked while it is read, ends that. Where no
     // such process can be started the file is read here.
-    static std::shared_ptr<PDFDocument> openApart(const QString& path,
-                                                  std::function<bool()> stopped = {});
+    static std::shared_ptr<PDFDocument> openSandboxed(const QString& path,
+                                                      std::function<bool()> stopped = {});
 
     // Lets the process go that reads the file, if there is one, until it is needed again.
-    void rest() const;
+    void stopReader() const;
 
     ~PDFDocument();
     PDFDocument(const PDFDocument&) = delete;

@@ -1,6 +1,6 @@
-#include "platform/EngineLimits.h"
 #include "platform/PDFEngine.h"
 #include "platform/PDFImages.h"
+#include "platform/PDFLimits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -84,7 +84,7 @@ struct PixelSize {
 // The whole pixels of a page at a scale, or at the largest scale within the limits. A fraction of a
 // pixel at the right and lower edge is left out: drawn in part, it would show as a light seam.
 PixelSize pixelSize(double width, double height, double scale) {
-    using namespace EngineLimits;
+    using namespace PDFLimits;
     const double pixels = width * scale * height * scale;
     const double side = std::max(width, height) * scale;
     double factor = 1;

@@ -56,7 +56,7 @@ struct PDFDocument::Engine {
     int countPages() const;
 
     pdf_obj* entry(pdf_obj* dictionary, const char* key) const;
-    // Cut after EngineLimits::maxTextLength characters.
+    // Cut after PDFLimits::maxTextLength characters.
     QString text(pdf_obj* string) const;
     QString name(pdf_obj* name) const;
 

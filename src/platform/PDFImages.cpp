@@ -1,6 +1,6 @@
 #include "platform/PDFImages.h"
 
-#include "platform/EngineLimits.h"
+#include "platform/PDFLimits.h"
 
 #include <atomic>
 #include <cmath>
@@ -174,7 +174,7 @@ bool isPlainReduction(const fz_image* image, const fz_matrix& placement, float w
            (image->n == 1 || image->n == 3 || image->n == 4) && width >= 1 && height >= 1 &&
            width <= float(image->w) && height <= float(image->h) &&
            (width < float(image->w) || height < float(image->h)) &&
-           pixels <= 4 * EngineLimits::maxBitmapPixels;
+           pixels <= 4 * PDFLimits::maxBitmapPixels;
 }
 
 void fillImage(fz_context* ctx, fz_device* device, fz_image* image, fz_matrix placement,

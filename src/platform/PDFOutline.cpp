@@ -1,5 +1,5 @@
-#include "platform/EngineLimits.h"
 #include "platform/PDFEngine.h"
+#include "platform/PDFLimits.h"
 #include "platform/PDFReader.h"
 
 #include <set>
@@ -20,7 +20,7 @@ std::vector<PDFOutlineNode> PDFDocument::Engine::outlineLevel(pdf_obj* first, in
         pdf_obj* dictionary =
             get([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, object); },
                 static_cast<pdf_obj*>(nullptr));
-        if (!dictionary || seen.size() >= EngineLimits::maxOutlineEntries ||
+        if (!dictionary || seen.size() >= PDFLimits::maxOutlineEntries ||
             !seen.insert(dictionary).second)
             break;
         PDFOutlineNode node;

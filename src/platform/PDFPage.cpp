@@ -1,8 +1,8 @@
 #include "platform/PDFPage.h"
 
 #include "platform/AnnotationBudget.h"
-#include "platform/EngineLimits.h"
 #include "platform/PDFEngine.h"
+#include "platform/PDFLimits.h"
 #include "platform/PDFReader.h"
 
 namespace {
@@ -98,7 +98,7 @@ std::vector<PDFAnnotation> PDFPage::annotations() const {
         pdf_obj* action = engine.entry(object, "A");
         if (engine.name(engine.entry(action, "S")) == QStringLiteral("URI"))
             annotation.url = engine.text(engine.entry(action, "URI"));
-        if (annotation.url.size() == EngineLimits::maxTextLength)
+        if (annotation.url.size() == PDFLimits::maxTextLength)
             annotation.url = QString(); // cut, so that it would lead somewhere else
         annotation.destinationPage = engine.targetPage(object);
         budget.spend(annotation);

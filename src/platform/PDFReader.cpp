@@ -1,9 +1,9 @@
 #include "platform/PDFReader.h"
 
 #include "platform/Bundle.h"
-#include "platform/EngineLimits.h"
 #include "platform/Log.h"
-#include "platform/PDFFacts.h"
+#include "platform/PDFLimits.h"
+#include "platform/PDFSerialization.h"
 #include "platform/PlatformException.h"
 
 #include <QFile>
@@ -29,7 +29,7 @@ const Log& readerLog() {
     return log;
 }
 
-[[noreturn]] void giveUp(const char* name, const Message& reason) {
+[[noreturn]] void fail(const char* name, const Message& reason) {
     throw PlatformException(QString::fromLatin1(name), reason);
 }
 
@@ -57,7 +57,7 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
                                    QStringLiteral("PDFPageMissing"),
                                    QStringLiteral("PDFPageUnreadable")};
     if (!line.startsWith(begin) || end < 0 || !known.contains(name))
-        return PDFFacts::garbled();
+        return PDFSerialization::malformedAnswer();
     const QString reason = QString::fromUtf8(line.mid(end + 1, maxReason));
     if (name != known.first())
         return {name, Message::translate("PageFailure", reason.toUtf8().constData())};
@@ -75,10 +75,10 @@ PDFReader::~PDFReader() = default;
 
 bool PDFReader::open() {
     try {
-        iPageCount = PDFFacts::unpackNumber(ask(QByteArray()));
+        iPageCount = PDFSerialization::unpackNumber(ask(QByteArray()));
         return true;
     } catch (const PlatformException& failure) {
-        rest();
+        stop();
         if (failure.name() != QStringLiteral("ProcessStartFailed"))
             throw;
         readerLog().warn(failure.reason());
@@ -87,30 +87,30 @@ bool PDFReader::open() {
 }
 
 PDFPageBoxes PDFReader::boxes(int index) {
-    return PDFFacts::unpackBoxes(ask("page " + QByteArray::number(index)));
+    return PDFSerialization::unpackBoxes(ask("page " + QByteArray::number(index)));
 }
 
 std::vector<PDFAnnotation> PDFReader::annotations(int index) {
-    return PDFFacts::unpackAnnotations(ask("annotations " + QByteArray::number(index)));
+    return PDFSerialization::unpackAnnotations(ask("annotations " + QByteArray::number(index)));
 }
 
 std::vector<PDFOutlineNode> PDFReader::outline() {
-    return PDFFacts::unpackOutline(ask("outline"));
+    return PDFSerialization::unpackOutline(ask("outline"));
 }
 
 QString PDFReader::information(const char* key) {
-    return PDFFacts::unpackText(ask(QByteArray("information ") + key));
+    return PDFSerialization::unpackText(ask(QByteArray("information ") + key));
 }
 
 QString PDFReader::language() {
-    return PDFFacts::unpackText(ask("language"));
+    return PDFSerialization::unpackText(ask("language"));
 }
 
 std::vector<QString> PDFReader::pageLabels() {
-    return PDFFacts::unpackTexts(ask("labels"));
+    return PDFSerialization::unpackTexts(ask("labels"));
 }
 
-void PDFReader::rest() {
+void PDFReader::stop() {
     iProcess.reset();
 }
 
@@ -128,12 +128,12 @@ QByteArray PDFReader::ask(const QByteArray& question) {
 // An empty question is the one for the number of pages, which the opening answers.
 QByteArray PDFReader::askOnce(const QByteArray& question) {
     if (iEnded >= maxEnded)
-        giveUp("PDFReaderEnded", brokeOff());
+        fail("PDFReaderEnded", brokeOff());
     if (!iProcess) {
         iProcess = std::make_unique<ChildProcess>(
             QFile::encodeName(iProgram).toStdString(),
             std::vector<std::string>{"read", QFile::encodeName(iPath).toStdString()});
-        iIsHere = false;
+        iIsSandboxed = false;
         QByteArray count = awaitAnswer();
         if (question.isEmpty())
             return count;
@@ -143,12 +143,12 @@ QByteArray PDFReader::askOnce(const QByteArray& question) {
 }
 
 QByteArray PDFReader::awaitAnswer() {
-    const auto deadline = std::chrono::steady_clock::now() + iPatience;
+    const auto deadline = std::chrono::steady_clock::now() + iTimeout;
     for (;;) {
         if (const auto line = iProcess->takeLine()) {
-            if (!std::exchange(iIsHere, true)) {
+            if (!std::exchange(iIsSandboxed, true)) {
                 if (*line != "here")
-                    throw PDFFacts::garbled();
+                    throw PDFSerialization::malformedAnswer();
                 continue;
             }
             if (line->startsWith("ok "))
@@ -156,13 +156,13 @@ QByteArray PDFReader::awaitAnswer() {
             throw failureFrom(*line, iPath);
         }
         if (iStopped && iStopped()) {
-            rest();
-            giveUp("PDFReadStopped", Message::translate("PDFReader", "reading it was stopped"));
+            stop();
+            fail("PDFReadStopped", Message::translate("PDFReader", "reading it was stopped"));
         }
         if (std::chrono::steady_clock::now() > deadline) {
             ++iEnded;
-            rest();
-            giveUp("PDFReaderTimeout", Message::translate("PDFReader", "reading it took too long"));
+            stop();
+            fail("PDFReaderTimeout", Message::translate("PDFReader", "reading it took too long"));
         }
         pollfd descriptor{iProcess->readDescriptor(), POLLIN, 0};
         if (::poll(&descriptor, 1, pollMilliseconds) > 0 && !iProcess->readAvailable(maxAnswer))
@@ -173,12 +173,11 @@ QByteArray PDFReader::awaitAnswer() {
 // A program that the system could not run properly says nothing about the file. Once it has been
 // heard of it may have opened the file, and what it says is what the file makes it say.
 void PDFReader::reportEnd() {
-    const bool couldRun = iIsHere || !iProcess->couldNotRun();
-    rest();
+    const bool couldRun = iIsSandboxed || !iProcess->couldNotRun();
+    stop();
     if (!couldRun)
-        giveUp(
-            "ProcessStartFailed",
-            Message::translate("PDFReader", "the program that reads PDF files can't be started"));
+        fail("ProcessStartFailed",
+             Message::translate("PDFReader", "the program that reads PDF files can't be started"));
     ++iEnded;
-    giveUp("PDFReaderEnded", brokeOff());
+    fail("PDFReaderEnded", brokeOff());
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/ChildProcess.h"
-#include "platform/EngineLimits.h"
 #include "platform/PDFDocument.h"
+#include "platform/PDFLimits.h"
 
 #include <chrono>
 #include <functional>
@@ -12,8 +12,8 @@
 // keeps it busy for ever, ends that process and not this one. For one thread at a time.
 //
 // Questions throw PlatformException: "PDFReaderEnded", "PDFReaderTimeout", "PDFReadStopped",
-// "PDFReaderGarbled", or what the other side reports by its own name. The next question starts a
-// new process, until three have ended.
+// "PDFReaderMalformedAnswer", or what the other side reports by its own name. The next question
+// starts a new process, until three have ended.
 class PDFReader {
 public:
     // Nothing is read yet. stopped, asked while waiting, gives a question up; it may be none.
@@ -23,7 +23,7 @@ public:
     // The program to start instead of the one that is installed beside the running program, and how
     // long it may take for an answer.
     void setProgram(const QString& path) { iProgram = path; }
-    void setPatience(std::chrono::milliseconds patience) { iPatience = patience; }
+    void setTimeout(std::chrono::milliseconds timeout) { iTimeout = timeout; }
 
     // Opens the file. False when there is no such process to be had on this system.
     bool open();
@@ -38,7 +38,7 @@ public:
     std::vector<QString> pageLabels();
 
     // Ends the process until the next question. A document may stay open for hours.
-    void rest();
+    void stop();
 
 private:
     QByteArray ask(const QByteArray& question);
@@ -49,9 +49,9 @@ private:
     QString iProgram;
     QString iPath;
     std::function<bool()> iStopped;
-    std::chrono::milliseconds iPatience = EngineLimits::maxPageTime;
+    std::chrono::milliseconds iTimeout = PDFLimits::maxPageTime;
     std::unique_ptr<ChildProcess> iProcess;
-    bool iIsHere = false; // the process has been heard of
+    bool iIsSandboxed = false; // the process has been heard of
     int iPageCount = 0;
     int iEnded = 0; // processes lost so far
 };

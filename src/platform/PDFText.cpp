@@ -1,7 +1,7 @@
 #include "platform/PDFText.h"
 
-#include "platform/EngineLimits.h"
 #include "platform/PDFEngine.h"
+#include "platform/PDFLimits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,7 +30,7 @@ PDFTextLine lineFrom(const fz_stext_line& source, std::size_t& characters) {
     QRectF box;
     std::vector<PDFTextCharacter> found;
     for (const fz_stext_char* character = source.first_char;
-         character && characters < EngineLimits::maxPageCharacters; character = character->next) {
+         character && characters < PDFLimits::maxPageCharacters; character = character->next) {
         if (!isUsable(*character))
             continue;
         ++characters;

@@ -66,7 +66,7 @@ std::optional<BookFile> BookFile::open(const QString& folder, const QByteArray& 
     if (!file.startsWith(root.endsWith('/') ? root : root + '/'))
         return {};
     // Opening a pipe must not wait for somebody at its other end.
-    Descriptor descriptor(
+    FileDescriptor descriptor(
         ::open(file.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     struct stat facts {};
     if (!descriptor.isOpen() || ::fstat(descriptor.number(), &facts) != 0 ||

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Descriptor.h"
+#include "platform/FileDescriptor.h"
 
 #include <QByteArray>
 #include <QString>
@@ -8,7 +8,7 @@
 
 // A file of a book, open, with what a browser is told of it.
 struct BookFile {
-    Descriptor descriptor;
+    FileDescriptor descriptor;
     qint64 size;             // bytes
     QByteArray contentType;  // with the encoding of texts
     QByteArray entityTag;    // changes with the file, quotation marks included

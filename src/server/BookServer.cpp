@@ -200,7 +200,7 @@ BookServer::~BookServer() {
     stop();
 }
 
-int BookServer::takePort(int port) {
+int BookServer::bindPort(int port) {
     errno = 0;
     auto& server = iImplementation->iServer;
     const int taken = port == 0 ? server.bind_to_any_port(loopback)
@@ -220,13 +220,13 @@ void BookServer::start() {
     iImplementation->iListening =
         std::async(std::launch::async, [&server] { return server.listen_after_bind(); });
     // Before that it can't be stopped.
-    while (!server.is_running() && !hasEnded(std::chrono::milliseconds(1))) {
+    while (!server.is_running() && !waitForEnd(std::chrono::milliseconds(1))) {
     }
 }
 
-bool BookServer::hasEnded(std::chrono::milliseconds patience) const {
+bool BookServer::waitForEnd(std::chrono::milliseconds timeout) const {
     return !iImplementation->iListening.valid() ||
-           iImplementation->iListening.wait_for(patience) == std::future_status::ready;
+           iImplementation->iListening.wait_for(timeout) == std::future_status::ready;
 }
 
 void BookServer::stop() {

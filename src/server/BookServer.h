@@ -15,15 +15,15 @@ public:
     BookServer& operator=(const BookServer&) = delete;
 
     // Takes that port, or any free one when it is 0. Returns 0, or the system's error number.
-    int takePort(int port);
+    int bindPort(int port);
     // The port that was taken.
     int port() const;
 
     // Answers from now on, on threads of its own.
     void start();
     // True once no more requests are taken and all answers are given; waits that long for it.
-    bool hasEnded(std::chrono::milliseconds patience) const;
-    // Takes no more requests. Answers under way go on, see hasEnded().
+    bool waitForEnd(std::chrono::milliseconds timeout) const;
+    // Takes no more requests. Answers under way go on, see waitForEnd().
     void stop();
 
 private:

@@ -3,7 +3,7 @@
 #include "cli/CommandError.h"
 #include "cli/Interrupt.h"
 #include "cli/Terminal.h"
-#include "output/EarlierBook.h"
+#include "output/ExistingBook.h"
 #include "output/PlainTextPage.h"
 #include "platform/Files.h"
 #include "platform/Message.h"
@@ -45,18 +45,18 @@ QString pageOf(const QString& folder) {
         throw CommandError(QStringLiteral("%1: the folder can't be read (%2)")
                                .arg(folder, Message::ofLastSystemError().english()));
     }
-    const QStringList books = EarlierBook::pages(folder);
+    const QStringList books = ExistingBook::pages(folder);
     const QString page = books.isEmpty() ? anyPageOf(folder) : books.front();
     if (page.isNull())
         throw CommandError(QStringLiteral("%1: no book in it (there is no HTML page)").arg(folder));
     return page == u"index.html" ? QString() : QString::fromLatin1(QUrl::toPercentEncoding(page));
 }
 
-void takePort(BookServer& server, std::optional<int> wanted) {
+void bindPort(BookServer& server, std::optional<int> wanted) {
     int port = wanted.value_or(firstPort);
-    int error = server.takePort(port);
+    int error = server.bindPort(port);
     while (!wanted && error == EADDRINUSE && port < lastPort)
-        error = server.takePort(++port);
+        error = server.bindPort(++port);
     if (error == 0)
         return;
     const QString ports = wanted ? QStringLiteral("port %1").arg(port)
@@ -71,18 +71,18 @@ void serveBook(const QString& folder, std::optional<int> port) {
     const QString page = pageOf(folder);
     Interrupt::watch();
     BookServer server(QFileInfo(folder).absoluteFilePath());
-    takePort(server, port);
+    bindPort(server, port);
     server.start();
     Terminal::print(QStringLiteral("http://127.0.0.1:%1/%2").arg(server.port()).arg(page));
     Terminal::checkOutput();
-    Terminal::note(QStringLiteral("Ctrl-C ends it"));
+    Terminal::report(QStringLiteral("Ctrl-C ends it"));
     while (!Interrupt::wasRequested()) {
-        if (server.hasEnded(100ms))
+        if (server.waitForEnd(100ms))
             throw CommandError(QStringLiteral("the web server broke off"));
     }
     server.stop();
     // A browser that holds a connection open, or takes an answer slowly, is not waited for. Nothing
     // is written, so nothing is left half done.
-    if (!server.hasEnded(300ms))
+    if (!server.waitForEnd(300ms))
         std::_Exit(int(ExitCode::ok));
 }

@@ -29,10 +29,10 @@ int main(int argc, char** argv) {
         serveBook(QFile::decodeName(arguments[1]),
                   port == "usual" ? std::nullopt : std::optional(std::atoi(arguments[2])));
     } catch (const CommandError& error) {
-        Terminal::note(QStringLiteral("folvero: %1").arg(error.message()));
+        Terminal::report(QStringLiteral("folvero: %1").arg(error.message()));
         return int(error.code());
     } catch (const std::exception& failure) {
-        Terminal::note(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
+        Terminal::report(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
         return int(ExitCode::failed);
     }
     return int(ExitCode::ok);

@@ -117,7 +117,7 @@ void FlashTemplate::loadTemplate(const QString& name) {
                          .arg(path, failure.message());
         logger().error(loadError());
     }
-    tellOfFilesElsewhere(QStringLiteral("template \"%1\"").arg(name), {});
+    warnAboutOutsideFiles(QStringLiteral("template \"%1\"").arg(name), {});
 }
 
 void FlashTemplate::loadTemplateFile(const QString& path) {
@@ -171,7 +171,7 @@ void FlashTemplate::loadStyleByStylePath(const QString& stylePath) {
     iStyleName = Files::lastPathComponent(stylePath);
     const auto before = fileValues();
     importPropertiesSettingsFrom(Files::join(stylePath, QStringLiteral("tmplSetting.txt")));
-    tellOfFilesElsewhere(QStringLiteral("style \"%1\"").arg(iStyleName), before);
+    warnAboutOutsideFiles(QStringLiteral("style \"%1\"").arg(iStyleName), before);
 }
 
 QString FlashTemplate::tmplHTMLFilePath() const {
@@ -192,8 +192,8 @@ QString FlashTemplate::playerFile(const QString& name) const {
 }
 
 bool FlashTemplate::isOfLibrary(const QString& path) const {
-    if (Confinement::holds(tmplPathForName(iTmplName), path) ||
-        Confinement::holds(libraryFolder(), path))
+    if (Confinement::contains(tmplPathForName(iTmplName), path) ||
+        Confinement::contains(libraryFolder(), path))
         return true;
     logger().warn(
         QStringLiteral("the template \"%1\" has no right to this file, it lies elsewhere: %2")
@@ -208,7 +208,7 @@ QString FlashTemplate::valueAsFilePath(const QString& value) const {
         return value;
     const QString style = stylePathFor(iTmplName, iStyleName);
     const QString path = appendPathComponent(style, value.mid(found + prefix.size()));
-    if (Confinement::holds(style, path))
+    if (Confinement::contains(style, path))
         return path;
     logger().warn(
         QStringLiteral("the style \"%1\" has no right to this file, it lies elsewhere: %2")
@@ -224,15 +224,15 @@ std::vector<FlashTemplate::FileValue> FlashTemplate::fileValues() const {
 
 // They are not refused: a style may be the settings file that its user has exported, which names
 // files anywhere.
-void FlashTemplate::tellOfFilesElsewhere(const QString& source,
-                                         const std::vector<FileValue>& before) const {
+void FlashTemplate::warnAboutOutsideFiles(const QString& source,
+                                          const std::vector<FileValue>& before) const {
     const QStringList folders{stylePathFor(iTmplName, iStyleName), tmplPathForName(iTmplName),
                               libraryFolder()};
     const auto now = fileValues();
     for (std::size_t i = 0; i < now.size(); ++i) {
         const bool isNew = i >= before.size() || now[i] != before[i];
         const auto holds = [&](const QString& folder) {
-            return Confinement::holds(folder, now[i].value);
+            return Confinement::contains(folder, now[i].value);
         };
         if (isNew && !now[i].value.isEmpty() && std::none_of(folders.begin(), folders.end(), holds))
             logger().warn(

@@ -109,7 +109,7 @@ private:
     std::vector<FileValue> fileValues() const;
     // Logs what the source has named since then that lies neither with the template or the style
     // nor in the library.
-    void tellOfFilesElsewhere(const QString& source, const std::vector<FileValue>& before) const;
+    void warnAboutOutsideFiles(const QString& source, const std::vector<FileValue>& before) const;
 
     QString iTmplName;
     Properties iProperties;

@@ -1,6 +1,6 @@
 #include "template/XMLRepair.h"
 
-#include "platform/DeepThread.h"
+#include "platform/LargeStackThread.h"
 #include "template/TextDecoding.h"
 
 #include <QElapsedTimer>
@@ -158,6 +158,6 @@ QByteArray XMLRepair::repaired(const QByteArray& text) {
     if (text.size() > maximumBytes || text.count('<') > maximumTags)
         return {};
     QByteArray result;
-    runOnDeepStack(stackBytes, [&] { result = repairHere(text); });
+    runWithLargeStack(stackBytes, [&] { result = repairHere(text); });
     return result;
 }

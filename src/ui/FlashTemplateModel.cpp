@@ -72,13 +72,13 @@ int FlashTemplateModel::columnCount(const QModelIndex& /*parent*/) const {
     return value + 1;
 }
 
-QVariant FlashTemplateModel::shownText(const QModelIndex& index) const {
+QVariant FlashTemplateModel::displayText(const QModelIndex& index) const {
     const QVariant text = iSource.objectValueForTableColumn(columnName(index), item(index));
     const bool isWord = index.column() == key || item(index)->propertyType() == pt_list;
     return isWord ? TemplateTexts::shown(text.toString()) : text;
 }
 
-QString FlashTemplateModel::spokenValue(const FlashTemplateProperty& property) {
+QString FlashTemplateModel::accessibleValue(const FlashTemplateProperty& property) {
     switch (property.propertyType()) {
     case pt_list:
         return TemplateTexts::shown(property.value());
@@ -90,13 +90,13 @@ QString FlashTemplateModel::spokenValue(const FlashTemplateProperty& property) {
 }
 
 // The cursor stays in the column of the values, so a value names its setting.
-QString FlashTemplateModel::spokenText(const QModelIndex& index) const {
+QString FlashTemplateModel::accessibleText(const QModelIndex& index) const {
     const FlashTemplateProperty& property = *item(index);
-    const QString title = shownText(index.siblingAtColumn(key)).toString();
+    const QString title = displayText(index.siblingAtColumn(key)).toString();
     if (index.column() == key || property.propertyType() == pt_composite)
         return title;
     //: What a screen reader says: the name of a setting and its value.
-    return tr("%1: %2").arg(title, spokenValue(property));
+    return tr("%1: %2").arg(title, accessibleValue(property));
 }
 
 QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
@@ -105,7 +105,7 @@ QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
     const bool isGroup = item(index)->propertyType() == pt_composite;
     switch (role) {
     case Qt::DisplayRole:
-        return shownText(index);
+        return displayText(index);
     case Qt::EditRole:
         return iSource.objectValueForTableColumn(columnName(index), item(index));
     case Qt::ToolTipRole:
@@ -118,7 +118,7 @@ QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {
         return font;
     }
     case Qt::AccessibleTextRole:
-        return spokenText(index);
+        return accessibleText(index);
     default:
         return {};
     }

@@ -39,9 +39,9 @@ public:
 private:
     void reloadValuesBelow(const QModelIndex& parent);
     // As the user reads it: templates speak English.
-    QVariant shownText(const QModelIndex& index) const;
-    QString spokenText(const QModelIndex& index) const;
-    static QString spokenValue(const FlashTemplateProperty& property);
+    QVariant displayText(const QModelIndex& index) const;
+    QString accessibleText(const QModelIndex& index) const;
+    static QString accessibleValue(const FlashTemplateProperty& property);
 
     FlashTemplateOutlineDelegate& iSource;
 };

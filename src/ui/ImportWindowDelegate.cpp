@@ -204,7 +204,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     }
     if (iFlashPageSource) {
         logger().debug(QStringLiteral("import pdf ok..."));
-        noteFailedPages();
+        reportFailedPages();
         takePageSize(*operation);
         iIsImporting = false;
         endSheet(1);
@@ -217,7 +217,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
 }
 
 // The book lacks them; its maker must know which ones.
-void ImportWindowDelegate::noteFailedPages() {
+void ImportWindowDelegate::reportFailedPages() {
     const auto* source = dynamic_cast<const FlashPageSourcePDF*>(iFlashPageSource.get());
     if (!source)
         return;
@@ -238,7 +238,7 @@ void ImportWindowDelegate::takePageSize(const ImportPDFOperation& operation) {
     const QRectF box = operation.firstCropBox().value_or(QRectF());
     iPageWidth = int(box.width());
     iPageHeight = int(box.height());
-    document->rest(); // nothing more is asked of it
+    document->stopReader(); // nothing more is asked of it
     auto& settings = AppSettings::shareInstance();
     settings.setPageWidth(iPageWidth);
     settings.setPageHeight(iPageHeight);

@@ -78,7 +78,7 @@ private:
     void anyThread_handleMSG(const Notification& message);
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
-    void noteFailedPages();
+    void reportFailedPages();
     void takePageSize(const ImportPDFOperation& operation);
     void showFailure(const QStringList& failures);
     void endSheet(int returnCode);

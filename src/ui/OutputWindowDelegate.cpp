@@ -2,8 +2,8 @@
 
 #include "app/AppSettings.h"
 #include "app/PublishedBooks.h"
-#include "output/EarlierBook.h"
 #include "output/EmbedSnippet.h"
+#include "output/ExistingBook.h"
 #include "output/FolveroOutputApp.h"
 #include "output/FolveroOutputWeb.h"
 #include "platform/Files.h"
@@ -65,7 +65,7 @@ void showProgress(QProgressDialog& dialog, int done, int total) {
 OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
     : iWindow(new OutputWindow(parent)),
       iQuestions{Panels::chooseFolder, Panels::askToReplace, Panels::askToOpen, Panels::open,
-                 Panels::tell} {
+                 Panels::showMessage} {
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     awakeFromNib();
@@ -184,7 +184,7 @@ void OutputWindowDelegate::onPublish() {
     saveChoices();
     {
         const auto output = makeOutput();
-        const QString lost = whatWouldBeLost(*output);
+        const QString lost = overwriteWarning(*output);
         if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
             return;
         try {
@@ -197,16 +197,16 @@ void OutputWindowDelegate::onPublish() {
 }
 
 // The document's own earlier book is what it is published for.
-QString OutputWindowDelegate::whatWouldBeLost(const FolveroOutput& output) const {
+QString OutputWindowDelegate::overwriteWarning(const FolveroOutput& output) const {
     QStringList lost;
     if (const QStringList files = output.foreignFiles(); !files.isEmpty())
         lost << tr("This is not part of a book and would be lost:") << files.mid(0, mostFilesNamed)
              << QStringList(files.size() > mostFilesNamed, QStringLiteral("…"));
     const auto own = PublishedBooks::of(iDocument);
     const QString where = place(output);
-    const QString title = output.titleOfEarlierBook();
-    const bool isBook = !title.isNull() || EarlierBook::isIn(Files::join(output.saveToFolder(),
-                                                                         QStringLiteral("files")));
+    const QString title = output.titleOfExistingBook();
+    const bool isBook = !title.isNull() || ExistingBook::isIn(Files::join(output.saveToFolder(),
+                                                                          QStringLiteral("files")));
     if (isBook && !(own && own->place == where)) {
         lost << (title.isEmpty() ? tr("The book in %1 would be lost.").arg(where)
                                  : tr("The book “%1” in %2 would be lost.").arg(title, where));
@@ -249,7 +249,7 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
             output.publishErrors().isEmpty()
                 ? tr("The folder %1 could not be made.").arg(QFileInfo(result).path())
                 : localTexts(output.publishMessages()).join(u'\n');
-        iQuestions.tell(tr("The book was not published"), cause);
+        iQuestions.showMessage(tr("The book was not published"), cause);
         return;
     }
     rememberBook(output);
@@ -257,10 +257,11 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
         QStringList pages;
         for (const int page : missing)
             pages << QString::number(page);
-        iQuestions.tell(tr("The book is not complete"),
-                        tr("The pictures of these pages have gone: %1. Import the document again, "
-                           "then publish once more.")
-                            .arg(pages.join(QStringLiteral(", "))));
+        iQuestions.showMessage(
+            tr("The book is not complete"),
+            tr("The pictures of these pages have gone: %1. Import the document again, "
+               "then publish once more.")
+                .arg(pages.join(QStringLiteral(", "))));
     }
     if (iQuestions.openResult(tr("Open the result files?"), tr("Publish finished! Open the it?")))
         iQuestions.open(result);

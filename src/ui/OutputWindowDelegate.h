@@ -50,7 +50,7 @@ public:
         std::function<bool(const QString& message, const QString& information)> replace;
         std::function<bool(const QString& message, const QString& information)> openResult;
         std::function<void(const QString& path)> open;
-        std::function<void(const QString& message, const QString& information)> tell;
+        std::function<void(const QString& message, const QString& information)> showMessage;
     };
     void setQuestions(Questions questions) { iQuestions = std::move(questions); }
 
@@ -70,7 +70,7 @@ private:
     std::unique_ptr<FolveroOutput> makeOutput();
     std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name);
     // What a publish would replace and somebody may want to keep; empty for nothing.
-    QString whatWouldBeLost(const FolveroOutput& output) const;
+    QString overwriteWarning(const FolveroOutput& output) const;
     // What a publish replaces as a whole.
     static QString place(const FolveroOutput& output);
     void rememberBook(const FolveroOutput& output) const;

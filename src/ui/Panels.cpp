@@ -82,7 +82,7 @@ bool Panels::askToReplace(const QString& message, const QString& information) {
     return alert.clickedButton() == replace;
 }
 
-void Panels::tell(const QString& message, const QString& information) {
+void Panels::showMessage(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
                       QMessageBox::Ok, QApplication::activeWindow());
     alert.setInformativeText(information);

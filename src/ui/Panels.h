@@ -28,7 +28,7 @@ bool askToOpen(const QString& message, const QString& information);
 // True when the user wants to replace what would be lost; the safe answer is the default one.
 bool askToReplace(const QString& message, const QString& information);
 
-void tell(const QString& message, const QString& information);
+void showMessage(const QString& message, const QString& information);
 
 // What the program is, its version and its licence.
 void about();

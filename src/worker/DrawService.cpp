@@ -3,10 +3,10 @@
 #include "pages/PageImage.h"
 #include "pages/PageQuality.h"
 #include "pages/WebPageMaker.h"
-#include "platform/EngineLimits.h"
 #include "platform/Files.h"
+#include "platform/PDFLimits.h"
 #include "platform/PlatformException.h"
-#include "worker/Seclusion.h"
+#include "worker/WorkerSandbox.h"
 
 #include <QByteArrayList>
 #include <QFile>
@@ -51,7 +51,7 @@ Making makingOf(const PDFDocument& document, const QByteArrayList& order, const 
 }
 
 void servePages(const Making& make) {
-    const DrawControl control{nullptr, EngineLimits::maxPageTime};
+    const DrawControl control{nullptr, PDFLimits::maxPageTime};
     for (std::string line; std::getline(std::cin, line);) {
         const int page = std::atoi(line.c_str());
         try {
@@ -87,7 +87,7 @@ void serveDrawing() {
     const QByteArrayList order = QByteArray::fromStdString(line).split(' ');
     const QString path = QFile::decodeName(QByteArray::fromBase64(order.value(0)));
     const QString workFolder = QFile::decodeName(QByteArray::fromBase64(order.value(1)));
-    seclude(path, workFolder);
+    enterWorkerSandbox(path, workFolder);
     try {
         const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
         const Making make = makingOf(*document, order, workFolder);

@@ -1,9 +1,9 @@
 #include "worker/ReadService.h"
 
-#include "platform/EngineLimits.h"
-#include "platform/PDFFacts.h"
+#include "platform/PDFLimits.h"
+#include "platform/PDFSerialization.h"
 #include "platform/PlatformException.h"
-#include "worker/Seclusion.h"
+#include "worker/WorkerSandbox.h"
 
 #include <QFile>
 #include <functional>
@@ -15,25 +15,26 @@
 namespace {
 
 // A process that nobody waits for any more must not run on. The other side gives up before that.
-constexpr unsigned maxQuestionSeconds = unsigned(EngineLimits::maxPageTime.count()) + 10;
+constexpr unsigned maxQuestionSeconds = unsigned(PDFLimits::maxPageTime.count()) + 10;
 
 QByteArray answer(const PDFDocument& document, const QByteArray& question) {
     const qsizetype blank = question.indexOf(' ');
     const QByteArray what = blank < 0 ? question : question.left(blank);
     const QByteArray of = blank < 0 ? QByteArray() : question.mid(blank + 1);
     if (what == "page")
-        return PDFFacts::pack(document.page(of.toInt()).boxes());
+        return PDFSerialization::pack(document.page(of.toInt()).boxes());
     if (what == "annotations")
-        return PDFFacts::pack(document.page(of.toInt()).annotations());
+        return PDFSerialization::pack(document.page(of.toInt()).annotations());
     if (what == "outline")
-        return PDFFacts::pack(document.outline());
+        return PDFSerialization::pack(document.outline());
     if (what == "language")
-        return PDFFacts::pack(document.language());
+        return PDFSerialization::pack(document.language());
     if (what == "labels")
-        return PDFFacts::pack(document.pageLabels());
+        return PDFSerialization::pack(document.pageLabels());
     if (what == "information")
-        return PDFFacts::pack(document.information(of.constData()));
-    throw PlatformException(QStringLiteral("PDFReaderGarbled"), QStringLiteral("no such question"));
+        return PDFSerialization::pack(document.information(of.constData()));
+    throw PlatformException(QStringLiteral("PDFReaderMalformedAnswer"),
+                            QStringLiteral("no such question"));
 }
 
 void say(const std::function<QByteArray()>& work) {
@@ -58,11 +59,11 @@ void say(const std::function<QByteArray()>& work) {
 
 void serveReading(const char* pdf) {
     const QString path = QFile::decodeName(pdf);
-    seclude(path, QString());
+    enterWorkerSandbox(path, QString());
     std::shared_ptr<PDFDocument> document;
     say([&] {
         document = PDFDocument::open(path, PDFDocument::Access::mapped);
-        return PDFFacts::pack(document->pageCount());
+        return PDFSerialization::pack(document->pageCount());
     });
     for (std::string line; document && std::getline(std::cin, line);)
         say([&] { return answer(*document, QByteArray::fromStdString(line)); });

@@ -7,5 +7,5 @@
 // It says "here", opens the document and says "ok" with the number of pages. Then it reads
 // questions, one a line, from standard input: "page N", "annotations N" (zero-based), "outline",
 // "labels", "language", "information KEY". It answers each with one line: "ok PACKED" (base64 of
-// what PDFFacts packs) or "fail NAME REASON". The opening can fail too.
+// what PDFSerialization packs) or "fail NAME REASON". The opening can fail too.
 void serveReading(const char* pdf);

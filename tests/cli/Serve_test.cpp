@@ -70,8 +70,8 @@ protected:
 
     // What browsers have open: a connection in case that they need it, half a request, and the
     // begin of a long answer.
-    static std::vector<Descriptor> heldConnections(int port) {
-        std::vector<Descriptor> connections;
+    static std::vector<FileDescriptor> heldConnections(int port) {
+        std::vector<FileDescriptor> connections;
         for (const QByteArray& bytes :
              {QByteArray(), QByteArray("GET / HT"), WebClient::request(port, "/large.bin")}) {
             connections.push_back(WebClient::connect(port));
@@ -323,7 +323,7 @@ TEST_F(ServeTest, EndsAtOnceWhateverBrowsersHoldOpen) {
         for (const bool busy : {false, true}) {
             Served served(folder());
             const auto connections =
-                busy ? heldConnections(served.port()) : std::vector<Descriptor>();
+                busy ? heldConnections(served.port()) : std::vector<FileDescriptor>();
             QElapsedTimer clock;
             clock.start();
             ::kill(pid_t(served.process().processId()), signal);

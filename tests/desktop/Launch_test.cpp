@@ -3,7 +3,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
-#include "app/desktop/ScreenFrame.h"
+#include "app/desktop/WindowFitter.h"
 #include "desktop/DesktopProgram.h"
 #include "platform/Bundle.h"
 #include "platform/Folders.h"
@@ -70,11 +70,11 @@ TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
     EXPECT_FALSE(QFileInfo::exists(support + text("/Folvero/preview")));
 }
 
-TEST(ScreenFrame, FrameThatComesLateLiesOnTheScreenToo) {
+TEST(WindowFitter, FrameThatComesLateLiesOnTheScreenToo) {
     QWidget window;
     window.show();
     QMargins margins;
-    new ScreenFrame(window, [&margins] { return margins; });
+    new WindowFitter(window, [&margins] { return margins; });
     const QRect screen({0, 0}, QGuiApplication::primaryScreen()->size());
     EXPECT_EQ(window.geometry(), screen);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -148,7 +148,7 @@ TEST_F(Launch, SecondProgramHasAPreviewOfItsOwn) {
 
 TEST_F(Launch, PreviewComesBackAfterItsEngineDied) {
     launch();
-    const QSignalSpy deaths(window().webView, &PreviewView::engineDied);
+    const QSignalSpy deaths(window().webView, &PreviewView::rendererCrashed);
     evaluate(text("window.isOld = true"));
     const auto engine = pid_t(window().webView->page()->renderProcessPid());
     ASSERT_GT(engine, 0);

@@ -1,5 +1,5 @@
 #include "app/desktop/ApplicationSetup.h"
-#include "app/desktop/LinedStyle.h"
+#include "app/desktop/BorderedStyle.h"
 #include "desktop/DesktopProgram.h"
 #include "platform/Folders.h"
 #include "support/OwnFolders.h"
@@ -30,6 +30,6 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("FolveroDesktopTests"));
     QCoreApplication::setApplicationName(QStringLiteral("FolveroDesktopTests"));
-    QApplication::setStyle(new LinedStyle);
+    QApplication::setStyle(new BorderedStyle);
     return RUN_ALL_TESTS();
 }

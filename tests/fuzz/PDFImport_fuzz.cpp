@@ -1,9 +1,9 @@
 #include "annotations/FlashOutlinePDF.h"
 #include "annotations/FlashPagesAnnotationsPDF.h"
 #include "fuzz/Fuzz.h"
-#include "platform/EngineLimits.h"
 #include "platform/Log.h"
 #include "platform/PDFDocument.h"
+#include "platform/PDFLimits.h"
 #include "platform/PlatformException.h"
 
 #include <algorithm>
@@ -103,8 +103,8 @@ void drawFirstPage(const QString& path) {
     PageBitmap bitmap;
     page.draw(100 / std::max({size.width(), size.height(), 1.0}), bitmap, control);
     Fuzz::require(bitmap.width() > 0 && bitmap.height() > 0, "a drawn page has pixels");
-    Fuzz::require(bitmap.width() <= EngineLimits::maxBitmapSide &&
-                      bitmap.height() <= EngineLimits::maxBitmapSide,
+    Fuzz::require(bitmap.width() <= PDFLimits::maxBitmapSide &&
+                      bitmap.height() <= PDFLimits::maxBitmapSide,
                   "a drawn page keeps within the limits");
     page.vectorPicture();
     for (const PDFTextLine& line : page.text()) {

@@ -1,5 +1,5 @@
 #include "fuzz/Seeds.h"
-#include "platform/PDFFacts.h"
+#include "platform/PDFSerialization.h"
 #include "support/TemplateLibrary.h"
 #include "util/NSData+CocoaDevUsersAdditions.h"
 #include "util/NSData+CommonCrypto.h"
@@ -120,13 +120,14 @@ SeedSet factSeeds() {
                            90,
                            true,
                            {{QStringLiteral("two "), 0, 30}, {QStringLiteral("words"), 35, 55}}};
-    return {"PDFFacts",
-            {'\0' + PDFFacts::pack(7), '\1' + PDFFacts::pack(QStringLiteral("A title")),
-             '\1' + PDFFacts::pack(QString()), '\2' + PDFFacts::pack(boxes),
-             '\3' + PDFFacts::pack(std::vector{web, within}),
-             '\4' + PDFFacts::pack(std::vector{branch, leaf}),
-             '\5' + PDFFacts::pack(std::vector{QStringLiteral("iv"), QStringLiteral("A-3")}),
-             '\6' + PDFFacts::pack(std::vector{line})}};
+    return {
+        "PDFSerialization",
+        {'\0' + PDFSerialization::pack(7), '\1' + PDFSerialization::pack(QStringLiteral("A title")),
+         '\1' + PDFSerialization::pack(QString()), '\2' + PDFSerialization::pack(boxes),
+         '\3' + PDFSerialization::pack(std::vector{web, within}),
+         '\4' + PDFSerialization::pack(std::vector{branch, leaf}),
+         '\5' + PDFSerialization::pack(std::vector{QStringLiteral("iv"), QStringLiteral("A-3")}),
+         '\6' + PDFSerialization::pack(std::vector{line})}};
 }
 
 } // namespace

@@ -6,7 +6,7 @@ namespace {
 
 void expectAll(std::initializer_list<const char*> names, bool harmless) {
     for (const char* name : names)
-        EXPECT_EQ(BookName::isHarmless(QString::fromUtf8(name)), harmless) << name;
+        EXPECT_EQ(BookName::isSafe(QString::fromUtf8(name)), harmless) << name;
 }
 
 TEST(BookName, LetsNamesOfPicturesSoundsAndDocumentsBe) {

@@ -321,11 +321,11 @@ TEST(FolveroOutput, TellsTheTitleOfTheBookThatItWouldReplace) {
     book.library.addFile(text("AppFiles/Templates/float/index.html"),
                          "<head><title>${index.title}</title>\n"
                          "<meta name=\"generator\" content=\"Folvero\"></head>");
-    EXPECT_TRUE(book.publisher()->titleOfEarlierBook().isNull());
+    EXPECT_TRUE(book.publisher()->titleOfExistingBook().isNull());
     book.HTMLConfig->setHTMLTitle(text("<A & \"B\" &lt;>").toHtmlEscaped());
     book.publish();
-    EXPECT_EQ(book.publisher()->titleOfEarlierBook(), text("<A & \"B\" &lt;>"));
-    EXPECT_EQ(book.publisher(text("other.html"))->titleOfEarlierBook(), text("<A & \"B\" &lt;>"));
+    EXPECT_EQ(book.publisher()->titleOfExistingBook(), text("<A & \"B\" &lt;>"));
+    EXPECT_EQ(book.publisher(text("other.html"))->titleOfExistingBook(), text("<A & \"B\" &lt;>"));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "platform/PDFDocument.h"
 
 #include "builder/PDFBuilder.h"
-#include "platform/EngineLimits.h"
+#include "platform/PDFLimits.h"
 #include "platform/PlatformException.h"
 #include "support/PixelCheck.h"
 
@@ -279,10 +279,10 @@ TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
     PageBitmap bitmap;
     document->page(0).draw(2, bitmap);
     EXPECT_LE(std::size_t(bitmap.width()) * std::size_t(bitmap.height()),
-              EngineLimits::maxBitmapPixels * 101 / 100);
+              PDFLimits::maxBitmapPixels * 101 / 100);
     EXPECT_EQ(bitmap.width(), bitmap.height());
     document->page(1).draw(2, bitmap);
-    EXPECT_EQ(bitmap.width(), EngineLimits::maxBitmapSide);
+    EXPECT_EQ(bitmap.width(), PDFLimits::maxBitmapSide);
 }
 
 TEST_F(PDFDocumentTest, GivesUpAPageThatNeverEnds) {

@@ -1,6 +1,6 @@
 #include "platform/PDFReader.h"
 
-#include "platform/PDFFacts.h"
+#include "platform/PDFSerialization.h"
 #include "platform/PlatformException.h"
 #include "support/TemplateLibrary.h"
 
@@ -17,13 +17,13 @@ class PDFReaderTest : public testing::Test {
 protected:
     std::unique_ptr<PDFReader> reader(const QByteArray& script) {
         const QString program = iFolder.filePath(QStringLiteral("reader"));
-        TestFiles::write(program,
-                         "#!/bin/sh\ncount=" + PDFFacts::pack(3).toBase64() + "\n" + script);
+        TestFiles::write(program, "#!/bin/sh\ncount=" + PDFSerialization::pack(3).toBase64() +
+                                      "\n" + script);
         QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         auto made =
             std::make_unique<PDFReader>(QStringLiteral("none.pdf"), [this] { return iStop; });
         made->setProgram(program);
-        made->setPatience(1s);
+        made->setTimeout(1s);
         return made;
     }
 
@@ -87,12 +87,12 @@ TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
         EXPECT_TRUE(made->open());
         return failureOf([&] { made->outline(); });
     };
-    const QString garbled = QStringLiteral("PDFReaderGarbled");
+    const QString garbled = QStringLiteral("PDFReaderMalformedAnswer");
     EXPECT_EQ(answers(""), garbled);
     EXPECT_EQ(answers(QByteArray::fromHex("ffffffff")), garbled);
     EXPECT_EQ(answers(QByteArray::fromHex("000000017fffffff")), garbled);
-    EXPECT_EQ(answers(PDFFacts::pack(std::vector{nested(200)})), garbled);
-    EXPECT_EQ(answers(PDFFacts::pack(std::vector{nested(64)})), QString());
+    EXPECT_EQ(answers(PDFSerialization::pack(std::vector{nested(200)})), garbled);
+    EXPECT_EQ(answers(PDFSerialization::pack(std::vector{nested(64)})), QString());
 }
 
 TEST_F(PDFReaderTest, PassesReasonsOn) {
@@ -112,9 +112,9 @@ TEST_F(PDFReaderTest, DoesNotLetTheFileTalkItOutOfUsingTheProgram) {
     EXPECT_EQ(failureOf([&] { reader("echo here\nexit 127\n")->open(); }),
               QStringLiteral("PDFReaderEnded"));
     EXPECT_EQ(failureOf([&] { reader("echo here\necho fail ProcessStartFailed x\n")->open(); }),
-              QStringLiteral("PDFReaderGarbled"));
+              QStringLiteral("PDFReaderMalformedAnswer"));
     EXPECT_EQ(failureOf([&] { reader("echo \"ok $count\"\n")->open(); }),
-              QStringLiteral("PDFReaderGarbled"));
+              QStringLiteral("PDFReaderMalformedAnswer"));
 }
 
 TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {

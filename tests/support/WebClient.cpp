@@ -32,8 +32,8 @@ QByteArray WebClient::Answer::header(const QByteArray& name) const {
     return found == headers.end() ? QByteArray() : found->second;
 }
 
-Descriptor WebClient::connect(int port, const char* address) {
-    Descriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+FileDescriptor WebClient::connect(int port, const char* address) {
+    FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
     ::setsockopt(socket.number(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
     sockaddr_in place{};
     place.sin_family = AF_INET;
@@ -45,7 +45,7 @@ Descriptor WebClient::connect(int port, const char* address) {
 }
 
 WebClient::Answer WebClient::exchange(int port, const QByteArray& request) {
-    const Descriptor socket = connect(port);
+    const FileDescriptor socket = connect(port);
     if (!socket.isOpen())
         return {};
     ::send(socket.number(), request.constData(), std::size_t(request.size()), MSG_NOSIGNAL);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Descriptor.h"
+#include "platform/FileDescriptor.h"
 
 #include <QByteArray>
 #include <map>
@@ -18,7 +18,7 @@ struct Answer {
 
 // Connects to a port, by default at the address that our server listens on. Not open when nobody
 // answers.
-Descriptor connect(int port, const char* address = "127.0.0.1");
+FileDescriptor connect(int port, const char* address = "127.0.0.1");
 
 // Sends the bytes and reads until the server closes the connection.
 Answer exchange(int port, const QByteArray& request);

@@ -6,7 +6,7 @@
 // A deed that breaks the worker never answers. One that reaches for something forbidden answers
 // "ok" when it got there, and "fail REASON" when the system stopped it.
 
-#include "worker/Seclusion.h"
+#include "worker/WorkerSandbox.h"
 
 #include <QByteArrayList>
 #include <QFile>
@@ -133,7 +133,7 @@ int main() {
     const QByteArray file = QByteArray::fromBase64(order.value(0));
     const std::string folder = QByteArray::fromBase64(order.value(1)).toStdString();
     const auto deeds = readDeeds(file.constData());
-    seclude(QFile::decodeName(file), QFile::decodeName(folder.c_str()));
+    enterWorkerSandbox(QFile::decodeName(file), QFile::decodeName(folder.c_str()));
     if (const auto deed = deeds.find("opening"); deed != deeds.end())
         perform(deed->second, folder);
     std::cout << "ready" << std::endl;

@@ -42,11 +42,11 @@ Appearance::Appearance(QObject* parent) : QObject(parent) {
     QDBusConnection::sessionBus().connect(
         portal, portalPath, portalSettings, QStringLiteral("SettingChanged"), this,
         SLOT(systemSettingChanged(QString, QString, QDBusVariant)));
-    askSystem();
+    readSystemSetting();
     apply();
 }
 
-void Appearance::askSystem() {
+void Appearance::readSystemSetting() {
     iSystemIsDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     if (!QDBusConnection::sessionBus().isConnected())
         return;

@@ -32,7 +32,7 @@ private Q_SLOTS:
     void systemSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
-    void askSystem();
+    void readSystemSetting();
     void apply() const;
 
     Choice iChoice = system;

@@ -1,7 +1,7 @@
 #include "app/desktop/ApplicationSetup.h"
 
+#include "app/desktop/BorderedStyle.h"
 #include "app/desktop/BrisleafAppDelegate.h"
-#include "app/desktop/LinedStyle.h"
 #include "app/desktop/QuitSignals.h"
 #include "app/desktop/Translations.h"
 #include "platform/Bundle.h"
@@ -19,7 +19,7 @@ void setUpApplication(const QStringList& languages) {
     QCoreApplication::setApplicationVersion(Bundle::version());
     QGuiApplication::setDesktopFileName(QStringLiteral("folvero"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/folvero.svg")));
-    QApplication::setStyle(new LinedStyle);
+    QApplication::setStyle(new BorderedStyle);
     Translations::install(languages);
 }
 

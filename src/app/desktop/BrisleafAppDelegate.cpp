@@ -77,8 +77,8 @@ void BrisleafAppDelegate::applyChange(Book book) {
         publishPreview(book);
     } catch (const PlatformException& failure) {
         logger().error(QStringLiteral("apply change :%1").arg(failure.reason()));
-        iWindow->messages->tell(tr("The preview could not be brought up to date."),
-                                failure.message().local());
+        iWindow->messages->showError(tr("The preview could not be brought up to date."),
+                                     failure.message().local());
     }
 }
 
@@ -102,10 +102,10 @@ void BrisleafAppDelegate::publishPreview(Book book) {
     iWindow->webView->showFile(output.outputFileName(), book == OtherBook);
 }
 
-void BrisleafAppDelegate::previewEngineDied(bool reloads) {
+void BrisleafAppDelegate::previewCrashed(bool reloads) {
     if (!reloads)
-        iWindow->messages->tell(tr("The preview has stopped working."),
-                                tr("Press F5 to load it again. Your book is not affected."));
+        iWindow->messages->showError(tr("The preview has stopped working."),
+                                     tr("Press F5 to load it again. Your book is not affected."));
 }
 
 void BrisleafAppDelegate::previewDemo() {
@@ -161,7 +161,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
                                  QString::number(iImportWindow->pageWidth()));
     iFlashTmpl->setPropertyValue(QStringLiteral("pageHeight"),
                                  QString::number(iImportWindow->pageHeight()));
-    iHistory.takeNotes();
+    iHistory.snapshotValues();
     setFlashPageSource(iImportWindow->flashPageSource());
     setFlashPagesAnnotations(iImportWindow->flashPagesAnnotations());
     setFlashOutline(iImportWindow->flashOutline());
@@ -173,8 +173,8 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     iWindow->setDocumentName(QFileInfo(file).completeBaseName());
     iWindow->messages->hide();
     if (!iImportWindow->failures().isEmpty())
-        iWindow->messages->tell(tr("Not everything could be imported."),
-                                iImportWindow->failures().join(u'\n'));
+        iWindow->messages->showError(tr("Not everything could be imported."),
+                                     iImportWindow->failures().join(u'\n'));
     applyChange(OtherBook);
 }
 
@@ -212,7 +212,8 @@ void BrisleafAppDelegate::OnExportTmplSettings() {
         return;
     Message cause;
     if (!iFlashTmpl->exportPropertiesSettingsTo(*file, &cause))
-        iWindow->messages->tell(tr("The settings were not saved to %1.").arg(*file), cause.local());
+        iWindow->messages->showError(tr("The settings were not saved to %1.").arg(*file),
+                                     cause.local());
 }
 
 // Cancelling refreshes the preview as well.
@@ -222,11 +223,11 @@ void BrisleafAppDelegate::OnImportTmplSettings() {
     const QString file = iQuestions.fileToOpen({}, {settingsFileType}).value_or(QStringLiteral(""));
     iWindow->messages->hide();
     if (!file.isEmpty() && !QFileInfo(file).isReadable())
-        iWindow->messages->tell(tr("The settings were not loaded."),
-                                tr("The file %1 cannot be read.").arg(file));
+        iWindow->messages->showError(tr("The settings were not loaded."),
+                                     tr("The file %1 cannot be read.").arg(file));
     iFlashTmpl->importPropertiesSettingsFrom(file);
     //: Stands in "Undo %1".
-    iHistory.noteEdits(tr("loading of settings"));
+    iHistory.recordEdits(tr("loading of settings"));
     iOutline->reloadValues();
     applyChange(SameBook);
 }
@@ -257,21 +258,21 @@ void BrisleafAppDelegate::OnOpenHelp() {
     const QString local = Bundle::pathForResource(named, {});
     const QString file = local.isNull() ? Bundle::pathForResource(helpFile, {}) : local;
     if (file.isNull())
-        iWindow->messages->tell(tr("The help cannot be opened."),
-                                tr("The file %1 is missing.").arg(helpFile));
+        iWindow->messages->showError(tr("The help cannot be opened."),
+                                     tr("The file %1 is missing.").arg(helpFile));
     else
         iQuestions.open(file);
 }
 
 void BrisleafAppDelegate::showTemplate(const QString& name) {
-    iHistory.restart(iFlashTmpl);
+    iHistory.reset(iFlashTmpl);
     iOutline->reloadData();
     iWindow->outlineView->expandAll();
     iWindow->btnFloat->setText(TemplateTexts::templateName(name));
     iWindow->btnFloat->setIcon(
         QIcon(SelectTemplateWindowDelegate::iconFileIn(FlashTemplate::tmplPathForName(name))));
     if (!iFlashTmpl->loadError().isNull())
-        iWindow->messages->tell(
+        iWindow->messages->showError(
             tr("The template “%1” is damaged.").arg(TemplateTexts::templateName(name)),
             iFlashTmpl->loadMessage().local());
 }

@@ -110,7 +110,7 @@ private:
     void removeFlashPreviewFolder();
     void applyChange(Book book);
     void publishPreview(Book book);
-    void previewEngineDied(bool reloads);
+    void previewCrashed(bool reloads);
 
     Questions iQuestions;
     std::unique_ptr<Appearance> iAppearance;

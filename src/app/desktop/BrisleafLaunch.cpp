@@ -6,7 +6,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/PreviewView.h"
 #include "app/desktop/RecentFiles.h"
-#include "app/desktop/ScreenFrame.h"
+#include "app/desktop/WindowFitter.h"
 #include "pages/FlashPageSourceImg.h"
 #include "platform/Bundle.h"
 #include "platform/Log.h"
@@ -54,7 +54,7 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iWindow->show();
     iWindow->activateWindow();
     iFlashPreviewFolder = QStringLiteral("");
-    new ScreenFrame(*iWindow);
+    new WindowFitter(*iWindow);
     // Not on the first button: nothing is to happen at a stray key.
     iWindow->outlineView->setFocus();
     loadDemoPages();
@@ -108,7 +108,7 @@ void BrisleafAppDelegate::observeEditor() {
                                [this](const Notification&) { updateTmplPropertyTip(); });
     iChanges = center.addObserver(QString::fromUtf16(FlashTmplProValueChangedNotification), nullptr,
                                   [this](const Notification&) {
-                                      iHistory.noteEdits();
+                                      iHistory.recordEdits();
                                       tmplPpertyValueChanged();
                                   });
 }
@@ -140,8 +140,8 @@ void BrisleafAppDelegate::connectCommands() {
     }
     connect(iWindow->btnFloat, &QPushButton::clicked, this, &BrisleafAppDelegate::onSelectTemplate);
     connect(iWindow.get(), &MainWindow::fileDropped, this, &BrisleafAppDelegate::importFile);
-    connect(iWindow->webView, &PreviewView::engineDied, this,
-            &BrisleafAppDelegate::previewEngineDied);
+    connect(iWindow->webView, &PreviewView::rendererCrashed, this,
+            &BrisleafAppDelegate::previewCrashed);
 }
 
 void BrisleafAppDelegate::applicationWillTerminate() {

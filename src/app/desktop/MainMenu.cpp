@@ -27,7 +27,7 @@ MainMenu::MainMenu(QMainWindow& window, QUndoStack& edits) : QObject(&window), i
     fillMenuBar();
     fillToolBar();
     showRecentFiles({});
-    dress();
+    updateColors();
 }
 
 QAction* MainMenu::add(const QString& text, const QString& iconName, const QKeySequence& shortcut) {
@@ -183,7 +183,7 @@ void MainMenu::showApplyImage(const QString& name) {
     toolBarItemApplyChange->setIcon(Icons::icon(name, ink));
 }
 
-void MainMenu::dress() {
+void MainMenu::updateColors() {
     const QColor ink = iWindow.palette().color(QPalette::ButtonText);
     for (const auto& [action, name] : iIcons)
         action->setIcon(Icons::icon(name, ink));

@@ -38,7 +38,7 @@ public:
     // The image of the button that applies changes: "apply" or one of its phases.
     void showApplyImage(const QString& name);
     // Draws the icons in the colours of the window.
-    void dress();
+    void updateColors();
 
 Q_SIGNALS:
     void recentFileChosen(const QString& path);

@@ -180,7 +180,7 @@ void MainWindow::saveSizes() const {
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        menu->dress();
+        menu->updateColors();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

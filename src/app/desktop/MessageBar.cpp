@@ -27,11 +27,11 @@ MessageBar::MessageBar(QWidget* parent)
     layout->addWidget(iIcon, 0, Qt::AlignTop);
     layout->addWidget(iText, 1);
     layout->addWidget(iClose, 0, Qt::AlignTop);
-    dress();
+    updateColors();
     hide();
 }
 
-void MessageBar::tell(const QString& what, const QString& cause) {
+void MessageBar::showError(const QString& what, const QString& cause) {
     iText->setText(QStringLiteral("<b>%1</b><br>%2")
                        .arg(what.toHtmlEscaped(),
                             cause.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"))));
@@ -45,7 +45,7 @@ QString MessageBar::message() const {
 }
 
 // The signs; the style sheet does the rest.
-void MessageBar::dress() {
+void MessageBar::updateColors() {
     const bool dark = palette().color(QPalette::Window).lightness() < 128;
     const QColor ink = Appearance::noteColors(dark).ink;
     iIcon->setPixmap(Icons::icon(QStringLiteral("warning"), ink).pixmap(18, 18));
@@ -55,5 +55,5 @@ void MessageBar::dress() {
 void MessageBar::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        dress();
+        updateColors();
 }

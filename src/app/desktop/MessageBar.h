@@ -14,12 +14,12 @@ public:
     explicit MessageBar(QWidget* parent = nullptr);
 
     // The first text says what did not work, the second why.
-    void tell(const QString& what, const QString& cause);
+    void showError(const QString& what, const QString& cause);
     QString message() const;
 
 private:
     void changeEvent(QEvent* event) override;
-    void dress();
+    void updateColors();
 
     QLabel* iText;
     QLabel* iIcon;

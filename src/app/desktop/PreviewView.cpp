@@ -137,14 +137,14 @@ void PreviewView::setOpener(std::function<void(const QUrl&)> opener) {
 
 void PreviewView::recover() {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    iDeaths = now - iLastDeath < deathsWithin ? iDeaths + 1 : 1;
-    iLastDeath = now;
-    const bool reloads = iDeaths <= mostDeaths;
-    logger().warn(QStringLiteral("the engine of the preview has died (%1)").arg(iDeaths));
+    iCrashes = now - iLastCrash < deathsWithin ? iCrashes + 1 : 1;
+    iLastCrash = now;
+    const bool reloads = iCrashes <= mostDeaths;
+    logger().warn(QStringLiteral("the engine of the preview has died (%1)").arg(iCrashes));
     // The engine only comes back once the signal has been dealt with.
     if (reloads)
         QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);
-    Q_EMIT engineDied(reloads);
+    Q_EMIT rendererCrashed(reloads);
 }
 
 void PreviewView::contextMenuEvent(QContextMenuEvent* event) {

@@ -25,7 +25,7 @@ public:
 
 Q_SIGNALS:
     // The engine behind the page has died; the page is loaded again unless that keeps happening.
-    void engineDied(bool reloads);
+    void rendererCrashed(bool reloads);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -36,6 +36,6 @@ private:
     void recover();
 
     QWebEngineProfile* iProfile;
-    int iDeaths = 0;
-    qint64 iLastDeath = 0;
+    int iCrashes = 0;
+    qint64 iLastCrash = 0;
 };

@@ -50,20 +50,20 @@ private:
 
 } // namespace
 
-void PropertyHistory::restart(std::shared_ptr<FlashTemplate> tmpl) {
+void PropertyHistory::reset(std::shared_ptr<FlashTemplate> tmpl) {
     iStack.clear();
     iTmpl = std::move(tmpl);
-    takeNotes();
+    snapshotValues();
 }
 
-void PropertyHistory::takeNotes() {
+void PropertyHistory::snapshotValues() {
     iValues.clear();
     if (iTmpl)
         walk(iTmpl->properties(),
              [this](FlashTemplateProperty& property) { iValues[&property] = property.value(); });
 }
 
-void PropertyHistory::noteEdits(const QString& text) {
+void PropertyHistory::recordEdits(const QString& text) {
     std::vector<Change> changes;
     if (iTmpl)
         walk(iTmpl->properties(), [this, &changes](FlashTemplateProperty& property) {
@@ -73,13 +73,13 @@ void PropertyHistory::noteEdits(const QString& text) {
         });
     if (changes.empty())
         return;
-    takeNotes();
+    snapshotValues();
     //: A setting's name in quotation marks; stands in "Undo %1".
     const QString quoted = QCoreApplication::translate("PropertyHistory", "“%1”");
     const QString name =
         text.isNull() ? quoted.arg(TemplateTexts::shown(changes.front().property->title())) : text;
     iStack.push(new ChangeValues(std::move(changes), name, [this] {
-        takeNotes();
+        snapshotValues();
         iChanged();
     }));
 }

@@ -17,11 +17,11 @@ public:
     QUndoStack& stack() { return iStack; }
 
     // Forgets everything: the properties are others from now on.
-    void restart(std::shared_ptr<FlashTemplate> tmpl);
+    void reset(std::shared_ptr<FlashTemplate> tmpl);
     // Takes the values as they are for not to be undone.
-    void takeNotes();
+    void snapshotValues();
     // The user has changed values in one go. The text names it; without one the property does.
-    void noteEdits(const QString& text = QString());
+    void recordEdits(const QString& text = QString());
 
 private:
     std::shared_ptr<FlashTemplate> iTmpl;

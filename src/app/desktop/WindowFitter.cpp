@@ -1,4 +1,4 @@
-#include "app/desktop/ScreenFrame.h"
+#include "app/desktop/WindowFitter.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -7,7 +7,7 @@
 #include <QWindow>
 #include <utility>
 
-ScreenFrame::ScreenFrame(QWidget& window, Margins margins)
+WindowFitter::WindowFitter(QWidget& window, Margins margins)
     : QObject(&window), iWindow(window), iMargins(std::move(margins)) {
     if (!iMargins)
         iMargins = [this] {
@@ -20,17 +20,17 @@ ScreenFrame::ScreenFrame(QWidget& window, Margins margins)
 }
 
 // The whole screen, whatever part of it the system's own bars cover.
-void ScreenFrame::fit() {
+void WindowFitter::fit() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     iFitted = iMargins();
     iWindow.setGeometry(QRect({0, 0}, screen ? screen->size() : QSize(0, 0)) - iFitted);
     iWindow.update();
 }
 
-bool ScreenFrame::eventFilter(QObject* watched, QEvent* event) {
+bool WindowFitter::eventFilter(QObject* watched, QEvent* event) {
     const bool comesWithAFrame =
         event->type() == QEvent::Paint || event->type() == QEvent::WindowActivate;
     if (comesWithAFrame && iFitted.isNull() && !iMargins().isNull())
-        QMetaObject::invokeMethod(this, &ScreenFrame::fit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &WindowFitter::fit, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }

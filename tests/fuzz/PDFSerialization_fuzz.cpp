@@ -1,5 +1,5 @@
 #include "fuzz/Fuzz.h"
-#include "platform/PDFFacts.h"
+#include "platform/PDFSerialization.h"
 
 namespace {
 
@@ -10,12 +10,13 @@ void check(const QByteArray& bytes, Value (*unpack)(const QByteArray&)) {
     try {
         value = unpack(bytes);
     } catch (const PlatformException& failure) {
-        Fuzz::require(failure.name() == PDFFacts::garbled().name(), "a failure says so");
+        Fuzz::require(failure.name() == PDFSerialization::malformedAnswer().name(),
+                      "a failure says so");
         return;
     }
-    const QByteArray packed = PDFFacts::pack(value);
+    const QByteArray packed = PDFSerialization::pack(value);
     Fuzz::require(packed.size() <= bytes.size(), "nothing is added");
-    Fuzz::require(PDFFacts::pack(unpack(packed)) == packed, "what was packed comes back");
+    Fuzz::require(PDFSerialization::pack(unpack(packed)) == packed, "what was packed comes back");
 }
 
 } // namespace
@@ -25,25 +26,25 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Fuzz::Input input(data, size);
     switch (input.byte() % 7) {
     case 0:
-        check(input.rest(), PDFFacts::unpackNumber);
+        check(input.rest(), PDFSerialization::unpackNumber);
         break;
     case 1:
-        check(input.rest(), PDFFacts::unpackText);
+        check(input.rest(), PDFSerialization::unpackText);
         break;
     case 2:
-        check(input.rest(), PDFFacts::unpackBoxes);
+        check(input.rest(), PDFSerialization::unpackBoxes);
         break;
     case 3:
-        check(input.rest(), PDFFacts::unpackAnnotations);
+        check(input.rest(), PDFSerialization::unpackAnnotations);
         break;
     case 4:
-        check(input.rest(), PDFFacts::unpackOutline);
+        check(input.rest(), PDFSerialization::unpackOutline);
         break;
     case 5:
-        check(input.rest(), PDFFacts::unpackTexts);
+        check(input.rest(), PDFSerialization::unpackTexts);
         break;
     default:
-        check(input.rest(), PDFFacts::unpackTextLines);
+        check(input.rest(), PDFSerialization::unpackTextLines);
         break;
     }
     return 0;

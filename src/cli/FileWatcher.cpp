@@ -1,4 +1,4 @@
-#include "cli/FileWatch.h"
+#include "cli/FileWatcher.h"
 
 #include <algorithm>
 #include <chrono>
@@ -15,36 +15,36 @@ constexpr auto quietTime = 600ms;
 
 } // namespace
 
-FileWatch::FileWatch(const QStringList& paths) {
+FileWatcher::FileWatcher(const QStringList& paths) {
     for (const QString& path : paths) {
         if (!path.isNull())
             iPaths << path;
     }
 }
 
-void FileWatch::remember() {
-    iRemembered = look();
+void FileWatcher::takeSnapshot() {
+    iSnapshot = currentStates();
 }
 
-bool FileWatch::waitForChange(const std::function<bool()>& stopped) const {
-    States last = iRemembered;
+bool FileWatcher::waitForChange(const std::function<bool()>& stopped) const {
+    States last = iSnapshot;
     auto quietSince = Clock::now();
     while (!stopped()) {
-        States now = look();
+        States now = currentStates();
         if (now != last) {
             quietSince = Clock::now();
             last = std::move(now);
         }
         const bool isWhole = std::all_of(last.begin(), last.end(),
                                          [](const FileState& state) { return state.isThere; });
-        if (isWhole && last != iRemembered && Clock::now() - quietSince >= quietTime)
+        if (isWhole && last != iSnapshot && Clock::now() - quietSince >= quietTime)
             return true;
         std::this_thread::sleep_for(pollInterval);
     }
     return false;
 }
 
-FileWatch::States FileWatch::look() const {
+FileWatcher::States FileWatcher::currentStates() const {
     States states;
     for (const QString& path : iPaths)
         states.push_back(FileState::of(path));

@@ -13,7 +13,7 @@ class FlashOutline;
 
 // What a web book tells of itself: to its player, and to search engines and whoever passes its
 // address on.
-struct WebBookFacts {
+struct WebBookMetadata {
     QString title;
     QString author;
     QString subject;

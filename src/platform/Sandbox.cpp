@@ -1,4 +1,4 @@
-#include "platform/Walls.h"
+#include "platform/Sandbox.h"
 
 #ifdef __linux__
 #include <QFile>
@@ -84,16 +84,16 @@ private:
     bool iTruncates;
 };
 
-void closeOffFiles(const Walls::Needs& needs) {
+void closeOffFiles(const Sandbox::Policy& policy) {
     const long version =
         ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
         return;
     const Ruleset rules(static_cast<int>(version));
     // What can't be opened now can't be opened later either, which then gets its own error.
-    rules.allow(needs.file, Access::readFile);
-    if (!needs.workFolder.isNull())
-        rules.allow(needs.workFolder, Access::workFolder);
+    rules.allow(policy.file, Access::readFile);
+    if (!policy.workFolder.isNull())
+        rules.allow(policy.workFolder, Access::workFolder);
     rules.enforce();
 }
 
@@ -239,16 +239,16 @@ void limit(__rlimit_resource resource, std::size_t amount) {
     ::setrlimit(resource, &limits);
 }
 
-void setLimits(const Walls::Needs& needs) {
+void setLimits(const Sandbox::Policy& policy) {
     constexpr std::size_t maxOpenFiles = 64;
     limit(RLIMIT_CORE, 0); // its memory is a stranger's document
     limit(RLIMIT_NOFILE, maxOpenFiles);
-    if (needs.fileSize != 0)
-        limit(RLIMIT_FSIZE, needs.fileSize);
+    if (policy.fileSize != 0)
+        limit(RLIMIT_FSIZE, policy.fileSize);
         // Sanitizers reserve memory far beyond any limit.
 #ifndef FOLVERO_SANITIZED
-    if (needs.memory != 0)
-        limit(RLIMIT_DATA, needs.memory);
+    if (policy.memory != 0)
+        limit(RLIMIT_DATA, policy.memory);
 #endif
 }
 
@@ -265,18 +265,18 @@ void closeStandardError() {
 
 } // namespace
 
-void Walls::raise(const Needs& needs) {
+void Sandbox::enter(const Policy& policy) {
     ::tzset(); // reads a file, once
-    setLimits(needs);
+    setLimits(policy);
     closeStandardError();
     if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
         return;
-    closeOffFiles(needs);
+    closeOffFiles(policy);
     CallFilter().enforce();
 }
 
 #else
 
-void Walls::raise(const Needs& /*needs*/) {}
+void Sandbox::enter(const Policy& /*policy*/) {}
 
 #endif

@@ -1,5 +1,5 @@
 #include "app/desktop/Appearance.h"
-#include "app/desktop/LinedStyle.h"
+#include "app/desktop/BorderedStyle.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -8,7 +8,7 @@
 
 // The brightest line of an empty control against its own ground, in a dark window.
 static int contrast(QWidget& control) {
-    LinedStyle style;
+    BorderedStyle style;
     control.setStyle(&style);
     control.setPalette(Appearance::palette(true));
     control.resize(60, 24);
@@ -20,7 +20,7 @@ static int contrast(QWidget& control) {
     return brightest - Appearance::palette(true).color(QPalette::Window).lightness();
 }
 
-TEST(LinedStyle, EmptyControlsCanBeSeenInADarkWindow) {
+TEST(BorderedStyle, EmptyControlsCanBeSeenInADarkWindow) {
     QCheckBox box;
     QRadioButton radio;
     QLineEdit field;

@@ -1,4 +1,4 @@
-#include "platform/DeepThread.h"
+#include "platform/LargeStackThread.h"
 
 #include <exception>
 #include <pthread.h>
@@ -22,7 +22,7 @@ void* perform(void* argument) {
 
 } // namespace
 
-bool runOnDeepStack(std::size_t stackBytes, const std::function<void()>& work) {
+bool runWithLargeStack(std::size_t stackBytes, const std::function<void()>& work) {
     Job job{work, nullptr};
     pthread_attr_t attributes;
     pthread_t thread{};

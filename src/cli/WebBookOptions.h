@@ -10,7 +10,7 @@ class FolveroOutputWeb;
 struct PublishOptions;
 
 // What can be asked of web books only.
-namespace WebBookChoice {
+namespace WebBookOptions {
 
 // Throws CommandError when it is asked of a book of another kind.
 void check(const PublishOptions& options);
@@ -22,9 +22,9 @@ std::optional<std::vector<PageRun>> openPages(const PublishOptions& options, con
                                               int pageCount);
 
 // On standard error: files in the book's folder that are not of this book and were left there.
-void tellWhatStays(const PublishOptions& options, const FolveroOutputWeb& output);
+void printLeftoverFiles(const PublishOptions& options, const FolveroOutputWeb& output);
 
 // On standard error: the markup that shows the book in another page.
-void tellHowToEmbed(const FolveroOutputWeb& output);
+void printEmbedSnippet(const FolveroOutputWeb& output);
 
-} // namespace WebBookChoice
+} // namespace WebBookOptions

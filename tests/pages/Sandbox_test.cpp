@@ -47,7 +47,7 @@ protected:
         std::iota(numbers.begin(), numbers.end(), 1);
         iWorkers = std::make_unique<PageWorkers>(file, workFolder(), 100, numbers, iStop);
         iWorkers->setProgram(QStringLiteral(FOLVERO_STAND_IN_WORKER));
-        iWorkers->setPatience(1s);
+        iWorkers->setTimeout(1s);
         ASSERT_TRUE(iWorkers->start());
     }
 
@@ -198,19 +198,19 @@ TEST_F(KilledWorkers, CostTheirPagesWhichAreToldByNumber) {
 }
 
 TEST_F(KilledWorkers, AreMissedByNobodyWhenTheyOnlyRead) {
-    const auto document = PDFDocument::openApart(path());
+    const auto document = PDFDocument::openSandboxed(path());
     ASSERT_EQ(document->pageCount(), pageCount);
     for (const pid_t reader : ChildProcesses::running("read", ::getpid()))
         ::kill(reader, SIGKILL);
     EXPECT_EQ(document->page(7).cropBox(), QRectF(0, 0, 600, 800));
-    document->rest();
+    document->stopReader();
     EXPECT_TRUE(ChildProcesses::running("read", ::getpid()).empty());
     EXPECT_EQ(document->page(8).rotation(), 0);
 }
 
 // Walls hold what is in the thread that raises them, and libraries start threads of their own.
-TEST_F(KilledWorkers, AreBehindWallsWithAllTheirThreads) {
-    const auto document = PDFDocument::openApart(path());
+TEST_F(KilledWorkers, AreSandboxedWithAllTheirThreads) {
+    const auto document = PDFDocument::openSandboxed(path());
     std::atomic<bool> stop{false};
     PageWorkers workers(path(), iFolder.path(), 100, {1, 2, 3, 4}, stop);
     ASSERT_TRUE(workers.start());

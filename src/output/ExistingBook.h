@@ -3,7 +3,7 @@
 #include <QStringList>
 
 // The book that an earlier publish left in a folder. Every version of Folvero is recognised.
-namespace EarlierBook {
+namespace ExistingBook {
 
 // Whether the folder "files" holds the configuration of a book.
 bool isIn(const QString& filesFolder);
@@ -25,4 +25,4 @@ QStringList pages(const QString& folder);
 // The book's title as plain text, from its HTML page; null when the file is no such page.
 QString title(const QString& page);
 
-} // namespace EarlierBook
+} // namespace ExistingBook

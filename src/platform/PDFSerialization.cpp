@@ -1,4 +1,4 @@
-#include "platform/PDFFacts.h"
+#include "platform/PDFSerialization.h"
 
 #include <QDataStream>
 #include <QIODevice>
@@ -153,69 +153,69 @@ Value unpacked(const QByteArray& bytes) {
     int items = 0;
     read(stream, value, Bounds::outermost(items));
     if (stream.status() != QDataStream::Ok || !stream.atEnd())
-        throw PDFFacts::garbled();
+        throw PDFSerialization::malformedAnswer();
     return value;
 }
 
 } // namespace
 
-PlatformException PDFFacts::garbled() {
-    return {QStringLiteral("PDFReaderGarbled"),
+PlatformException PDFSerialization::malformedAnswer() {
+    return {QStringLiteral("PDFReaderMalformedAnswer"),
             Message::translate("PDFReader", "what was read of it makes no sense")};
 }
 
-QByteArray PDFFacts::pack(int number) {
+QByteArray PDFSerialization::pack(int number) {
     return packed(number);
 }
 
-QByteArray PDFFacts::pack(const QString& text) {
+QByteArray PDFSerialization::pack(const QString& text) {
     return packed(text);
 }
 
-QByteArray PDFFacts::pack(const PDFPageBoxes& boxes) {
+QByteArray PDFSerialization::pack(const PDFPageBoxes& boxes) {
     return packed(boxes);
 }
 
-QByteArray PDFFacts::pack(const std::vector<PDFAnnotation>& annotations) {
+QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>& annotations) {
     return packed(annotations);
 }
 
-QByteArray PDFFacts::pack(const std::vector<PDFOutlineNode>& nodes) {
+QByteArray PDFSerialization::pack(const std::vector<PDFOutlineNode>& nodes) {
     return packed(nodes);
 }
 
-QByteArray PDFFacts::pack(const std::vector<QString>& texts) {
+QByteArray PDFSerialization::pack(const std::vector<QString>& texts) {
     return packed(texts);
 }
 
-QByteArray PDFFacts::pack(const std::vector<PDFTextLine>& lines) {
+QByteArray PDFSerialization::pack(const std::vector<PDFTextLine>& lines) {
     return packed(lines);
 }
 
-int PDFFacts::unpackNumber(const QByteArray& packed) {
+int PDFSerialization::unpackNumber(const QByteArray& packed) {
     return unpacked<int>(packed);
 }
 
-QString PDFFacts::unpackText(const QByteArray& packed) {
+QString PDFSerialization::unpackText(const QByteArray& packed) {
     return unpacked<QString>(packed);
 }
 
-PDFPageBoxes PDFFacts::unpackBoxes(const QByteArray& packed) {
+PDFPageBoxes PDFSerialization::unpackBoxes(const QByteArray& packed) {
     return unpacked<PDFPageBoxes>(packed);
 }
 
-std::vector<PDFAnnotation> PDFFacts::unpackAnnotations(const QByteArray& packed) {
+std::vector<PDFAnnotation> PDFSerialization::unpackAnnotations(const QByteArray& packed) {
     return unpacked<std::vector<PDFAnnotation>>(packed);
 }
 
-std::vector<PDFOutlineNode> PDFFacts::unpackOutline(const QByteArray& packed) {
+std::vector<PDFOutlineNode> PDFSerialization::unpackOutline(const QByteArray& packed) {
     return unpacked<std::vector<PDFOutlineNode>>(packed);
 }
 
-std::vector<QString> PDFFacts::unpackTexts(const QByteArray& packed) {
+std::vector<QString> PDFSerialization::unpackTexts(const QByteArray& packed) {
     return unpacked<std::vector<QString>>(packed);
 }
 
-std::vector<PDFTextLine> PDFFacts::unpackTextLines(const QByteArray& packed) {
+std::vector<PDFTextLine> PDFSerialization::unpackTextLines(const QByteArray& packed) {
     return unpacked<std::vector<PDFTextLine>>(packed);
 }

@@ -6,11 +6,11 @@
 #include <QByteArray>
 
 // What one process tells another of a document, as bytes. Taking it apart trusts nothing: whatever
-// is not well formed throws garbled().
-namespace PDFFacts {
+// is not well formed throws malformedAnswer().
+namespace PDFSerialization {
 
-// The exception "PDFReaderGarbled".
-PlatformException garbled();
+// The exception "PDFReaderMalformedAnswer".
+PlatformException malformedAnswer();
 
 QByteArray pack(int number);
 QByteArray pack(const QString& text);
@@ -28,4 +28,4 @@ std::vector<PDFAnnotation> unpackAnnotations(const QByteArray& packed);
 std::vector<PDFOutlineNode> unpackOutline(const QByteArray& packed);
 std::vector<PDFTextLine> unpackTextLines(const QByteArray& packed);
 
-} // namespace PDFFacts
+} // namespace PDFSerialization

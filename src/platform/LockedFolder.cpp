@@ -1,6 +1,6 @@
-#include "platform/ClaimedFolder.h"
+#include "platform/LockedFolder.h"
 
-#include "platform/Descriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/FolderRemoval.h"
 
 #include <QFile>
@@ -22,7 +22,7 @@ constexpr mode_t ownersOnly = 0700;
 // The folders that this process has claimed.
 class Claims {
 public:
-    void add(const QByteArray& path, Descriptor folder) {
+    void add(const QByteArray& path, FileDescriptor folder) {
         const std::lock_guard lock(iMutex);
         iFolders.emplace(path, std::move(folder));
     }
@@ -33,7 +33,7 @@ public:
 
 private:
     std::mutex iMutex;
-    std::map<QByteArray, Descriptor> iFolders;
+    std::map<QByteArray, FileDescriptor> iFolders;
 };
 
 Claims& claims() {
@@ -41,13 +41,13 @@ Claims& claims() {
     return all;
 }
 
-bool lock(const Descriptor& folder) {
+bool lock(const FileDescriptor& folder) {
     return folder.isOpen() && ::flock(folder.number(), LOCK_EX | LOCK_NB) == 0;
 }
 
 // The mark comes after the lock: so a folder that has the one without the other is nobody's.
 void claim(const QByteArray& path) {
-    Descriptor folder(::open(path.constData(), openFolderItself));
+    FileDescriptor folder(::open(path.constData(), openFolderItself));
     struct stat info {};
     if (lock(folder) && ::fstat(folder.number(), &info) == 0 &&
         ::fchmod(folder.number(), (info.st_mode & 07777) | S_ISVTX) == 0)
@@ -72,7 +72,7 @@ bool isOld(const struct stat& info, std::optional<std::chrono::seconds> unlocked
 
 } // namespace
 
-QString ClaimedFolder::make(const QString& path) {
+QString LockedFolder::make(const QString& path) {
     QByteArray name = QFile::encodeName(path);
     if (!::mkdtemp(name.data()))
         return {};
@@ -80,20 +80,20 @@ QString ClaimedFolder::make(const QString& path) {
     return QFile::decodeName(name);
 }
 
-bool ClaimedFolder::remove(const QString& path) {
+bool LockedFolder::remove(const QString& path) {
     const bool isGone = FolderRemoval::remove(path);
     claims().drop(QFile::encodeName(path));
     return isGone;
 }
 
-bool ClaimedFolder::isClaimed(int parent, const QByteArray& name) {
-    const Descriptor folder(::openat(parent, name.constData(), openFolderItself));
+bool LockedFolder::isLocked(int parent, const QByteArray& name) {
+    const FileDescriptor folder(::openat(parent, name.constData(), openFolderItself));
     return folder.isOpen() && !lock(folder) && errno == EWOULDBLOCK;
 }
 
-bool ClaimedFolder::removeIfAbandoned(int parent, const QByteArray& name,
-                                      std::optional<std::chrono::seconds> unlockedFor) {
-    const Descriptor folder(::openat(parent, name.constData(), openFolderItself));
+bool LockedFolder::removeIfAbandoned(int parent, const QByteArray& name,
+                                     std::optional<std::chrono::seconds> unlockedFor) {
+    const FileDescriptor folder(::openat(parent, name.constData(), openFolderItself));
     struct stat info {};
     if (!folder.isOpen() || ::fstat(folder.number(), &info) != 0 || !isOwnPrivateFolder(info))
         return false;

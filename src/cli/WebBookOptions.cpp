@@ -1,4 +1,4 @@
-#include "cli/WebBookChoice.h"
+#include "cli/WebBookOptions.h"
 
 #include "app/AppSettings.h"
 #include "cli/CommandError.h"
@@ -33,7 +33,7 @@ PageSelection selectPreview(const QString& pages, int pageCount) {
 
 } // namespace
 
-void WebBookChoice::check(const PublishOptions& options) {
+void WebBookOptions::check(const PublishOptions& options) {
     if (options.type == PublishOptions::Type::web)
         return;
     const QString text = QStringLiteral("%1 is for web books only; add --type web");
@@ -43,13 +43,13 @@ void WebBookChoice::check(const PublishOptions& options) {
         throw CommandError(text.arg(QStringLiteral("--preview-pages")), ExitCode::usage);
 }
 
-std::optional<std::vector<PageRun>> WebBookChoice::openPages(const PublishOptions& options,
-                                                             const QString& range, int pageCount) {
+std::optional<std::vector<PageRun>> WebBookOptions::openPages(const PublishOptions& options,
+                                                              const QString& range, int pageCount) {
     if (options.previewPages.isNull())
         return {};
     const PageSelection selection = selectPreview(options.previewPages, pageCount);
     for (const QString& remark : selection.remarks)
-        Terminal::note(QStringLiteral("folvero: --preview-pages: %1").arg(remark));
+        Terminal::report(QStringLiteral("folvero: --preview-pages: %1").arg(remark));
     auto open = pageRunsFromExpression(selection.range, pageCount);
     if (!overlap(open, pageRunsFromExpression(range, pageCount))) {
         throw CommandError(QStringLiteral("--preview-pages %1: the book has none of these pages, "
@@ -59,28 +59,30 @@ std::optional<std::vector<PageRun>> WebBookChoice::openPages(const PublishOption
     return open;
 }
 
-void WebBookChoice::tellWhatStays(const PublishOptions& options, const FolveroOutputWeb& output) {
+void WebBookOptions::printLeftoverFiles(const PublishOptions& options,
+                                        const FolveroOutputWeb& output) {
     const QString& folder = options.outputFolder;
     if (options.singleFile) {
         if (QFileInfo::exists(Files::join(folder, QStringLiteral("files/UserConfig.bin")))) {
-            Terminal::note(QStringLiteral("folvero: %1 still holds the files of an earlier book; "
-                                          "of the new one it has %2 alone")
-                               .arg(folder, Files::lastPathComponent(output.outputHTMLFileName())));
+            Terminal::report(
+                QStringLiteral("folvero: %1 still holds the files of an earlier book; "
+                               "of the new one it has %2 alone")
+                    .arg(folder, Files::lastPathComponent(output.outputHTMLFileName())));
         }
-    } else if (!output.staysOffline()) {
-        Terminal::note(QStringLiteral("folvero: sw.js or manifest.webmanifest in %1 is not of a "
-                                      "book; it was left as it is, and readers can't keep this "
-                                      "book to read it without a connection")
-                           .arg(folder));
+    } else if (!output.worksOffline()) {
+        Terminal::report(QStringLiteral("folvero: sw.js or manifest.webmanifest in %1 is not of a "
+                                        "book; it was left as it is, and readers can't keep this "
+                                        "book to read it without a connection")
+                             .arg(folder));
     }
 }
 
-void WebBookChoice::tellHowToEmbed(const FolveroOutputWeb& output) {
+void WebBookOptions::printEmbedSnippet(const FolveroOutputWeb& output) {
     const auto& settings = AppSettings::shareInstance();
     const EmbedSnippet snippet(output.title(), {settings.PageWidth(), settings.PageHeight()},
                                Files::lastPathComponent(output.outputHTMLFileName()));
-    Terminal::note(QStringLiteral("To show the book inside a page of yours, put this line into "
-                                  "that page, with the book's\naddress on the web in place of "
-                                  "%1:\n%2")
-                       .arg(EmbedSnippet::placeholder(), snippet.html()));
+    Terminal::report(QStringLiteral("To show the book inside a page of yours, put this line into "
+                                    "that page, with the book's\naddress on the web in place of "
+                                    "%1:\n%2")
+                         .arg(EmbedSnippet::placeholder(), snippet.html()));
 }

@@ -5,7 +5,7 @@
 
 // What one page may cost. A page beyond a limit is drawn smaller or given up; the book is still
 // made.
-namespace EngineLimits {
+namespace PDFLimits {
 
 // A poster of A0 size at twice its point size has 32 million pixels; colour at the limit takes
 // 150 MB, which two workers can hold on any machine of today.
@@ -19,7 +19,7 @@ inline constexpr int maxBitmapSide = 32'000;
 inline constexpr std::chrono::seconds maxPageTime{60};
 
 // Memory that one engine instance may hold beside the bitmap.
-inline constexpr std::size_t maxEngineMemory = std::size_t{1} << 30;
+inline constexpr std::size_t maxMuPDFMemory = std::size_t{1} << 30;
 
 // All memory of a process that draws or reads: that, the bitmap, and its JPEG file in the making.
 inline constexpr std::size_t maxProcessMemory = std::size_t{2} << 30;
@@ -38,6 +38,6 @@ inline constexpr std::size_t maxPageCharacters = 200'000;
 inline constexpr std::size_t maxOutlineEntries = 100'000;
 
 // Cache of decoded images and glyphs within that. More doesn't make real documents faster.
-inline constexpr std::size_t engineStore = std::size_t{64} << 20;
+inline constexpr std::size_t maxStoreSize = std::size_t{64} << 20;
 
-} // namespace EngineLimits
+} // namespace PDFLimits

@@ -1,4 +1,4 @@
-#include "output/WebBookFacts.h"
+#include "output/WebBookMetadata.h"
 
 #include "annotations/FlashOutline.h"
 #include "output/WebScript.h"
@@ -10,7 +10,8 @@ namespace {
 
 constexpr int maxOutlineDepth = 64;
 
-QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookFacts& facts, int depth) {
+QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookMetadata& facts,
+                     int depth) {
     QJsonArray array;
     if (depth > maxOutlineDepth)
         return array;
@@ -23,7 +24,7 @@ QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookFacts& f
     return array;
 }
 
-QJsonValue openRuns(const WebBookFacts& facts) {
+QJsonValue openRuns(const WebBookMetadata& facts) {
     if (!facts.open)
         return QJsonValue::Null;
     QJsonArray array;
@@ -57,16 +58,16 @@ QByteArray alternate(const QString& page) {
 
 } // namespace
 
-int WebBookFacts::positionOf(int number) const {
+int WebBookMetadata::positionOf(int number) const {
     const auto found = std::lower_bound(numbers.begin(), numbers.end(), number);
     return found != numbers.end() && *found == number ? int(found - numbers.begin()) + 1 : 0;
 }
 
-bool WebBookFacts::isOpen(int position) const {
+bool WebBookMetadata::isOpen(int position) const {
     return !open || isWithin(*open, position);
 }
 
-QJsonObject WebBookFacts::forPlayer(const FlashOutline* outline) const {
+QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline) const {
     QJsonObject object{{QStringLiteral("version"), 1},
                        {QStringLiteral("large"), QJsonArray::fromStringList(large)},
                        {QStringLiteral("text"), hasText},
@@ -89,7 +90,7 @@ QJsonObject WebBookFacts::forPlayer(const FlashOutline* outline) const {
     return object;
 }
 
-QByteArray WebBookFacts::headMarkup() const {
+QByteArray WebBookMetadata::headMarkup() const {
     QJsonObject linked{{QStringLiteral("@context"), QStringLiteral("https://schema.org")},
                        {QStringLiteral("@type"), QStringLiteral("Book")},
                        {QStringLiteral("name"), title},

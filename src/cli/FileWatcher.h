@@ -8,14 +8,14 @@
 
 // Tells when files that other programs write have changed. It looks at them again and again, since
 // network drives send no word of changes.
-class FileWatch {
+class FileWatcher {
 public:
     // Null paths are left out.
-    explicit FileWatch(const QStringList& paths);
+    explicit FileWatcher(const QStringList& paths);
 
     // Changes count from here on. To be called before the files are read, so that none is missed
     // that comes meanwhile.
-    void remember();
+    void takeSnapshot();
 
     // Waits until some file is another one or has other contents than when it was remembered, all
     // of them are there, and they have been left alone for a moment: programs write slowly, or take
@@ -26,8 +26,8 @@ public:
 private:
     using States = std::vector<FileState>;
 
-    States look() const;
+    States currentStates() const;
 
     QStringList iPaths;
-    States iRemembered;
+    States iSnapshot;
 };

@@ -4,14 +4,14 @@
 #include <utility>
 
 // An open file or folder, closed when this goes.
-class Descriptor {
+class FileDescriptor {
 public:
-    explicit Descriptor(int number) : iNumber(number) {}
-    ~Descriptor() { close(); }
-    Descriptor(Descriptor&& other) noexcept : iNumber(std::exchange(other.iNumber, -1)) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor& operator=(Descriptor&&) = delete;
+    explicit FileDescriptor(int number) : iNumber(number) {}
+    ~FileDescriptor() { close(); }
+    FileDescriptor(FileDescriptor&& other) noexcept : iNumber(std::exchange(other.iNumber, -1)) {}
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(FileDescriptor&&) = delete;
 
     int number() const { return iNumber; }
     bool isOpen() const { return iNumber >= 0; }

@@ -7,7 +7,7 @@
 #include <memory>
 
 // Finding templates, styles and properties by the names that a user types.
-namespace TemplateChoice {
+namespace TemplateOptions {
 
 // Names of the templates of the library (folders that hold a template file), sorted.
 QStringList templateNames();
@@ -32,4 +32,4 @@ void applySettingsFile(FlashTemplate& tmpl, const QString& path);
 // take, or a file that does not exist.
 void applyAssignment(FlashTemplate& tmpl, const QString& assignment);
 
-} // namespace TemplateChoice
+} // namespace TemplateOptions

@@ -1,4 +1,4 @@
-#include "app/desktop/LinedStyle.h"
+#include "app/desktop/BorderedStyle.h"
 
 #include "ui/Icons.h"
 
@@ -29,10 +29,10 @@ void drawFocusOfItem(const QStyleOption& option, QPainter& painter) {
 
 } // namespace
 
-LinedStyle::LinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+BorderedStyle::BorderedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
-void LinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
-                               QPainter* painter, const QWidget* widget) const {
+void BorderedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                  QPainter* painter, const QWidget* widget) const {
     if (element == PE_FrameFocusRect && option->state.testFlag(State_Item)) {
         drawFocusOfItem(*option, *painter);
         return;
@@ -58,8 +58,8 @@ void LinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     painter->restore();
 }
 
-QIcon LinedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
-                               const QWidget* widget) const {
+QIcon BorderedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                  const QWidget* widget) const {
     switch (which) {
     case SP_MessageBoxInformation:
         return Icons::icon(QStringLiteral("message-info"), QColor("#3a83d0"));

@@ -5,10 +5,10 @@
 
 // Walls around a process that reads files made by strangers: once they are up, whoever takes the
 // process over can still compute, and do little else. They stay up for good.
-namespace Walls {
+namespace Sandbox {
 
 // What the process goes on to need of the file system and the machine.
-struct Needs {
+struct Policy {
     QString file;            // read; a symbolic link is followed
     QString workFolder;      // files in it are read, written, renamed and deleted; null for none
     std::size_t memory{0};   // bytes of data it may hold
@@ -18,6 +18,6 @@ struct Needs {
 // Takes away all but that: other files, the network, starting programs, memory without end, and the
 // standard error stream, which may be a terminal. A system that knows no such walls leaves the
 // process as it is. To be called while there is one thread: files are not closed off from others.
-void raise(const Needs& needs);
+void enter(const Policy& policy);
 
-} // namespace Walls
+} // namespace Sandbox

@@ -1,4 +1,4 @@
-#include "cli/TemplateChoice.h"
+#include "cli/TemplateOptions.h"
 
 #include "cli/CommandError.h"
 #include "platform/Bundle.h"
@@ -42,10 +42,10 @@ QString checkedValue(const FlashTemplateProperty& property, const QString& value
             refuse(key, value, QStringLiteral("a colour such as 0x1E90FF"));
         return QStringLiteral("0x") + value.right(6);
     case pt_list:
-        if (!TemplateChoice::choices(property).contains(value)) {
+        if (!TemplateOptions::choices(property).contains(value)) {
             refuse(key, value,
                    QStringLiteral("one of: %1")
-                       .arg(TemplateChoice::choices(property).join(QStringLiteral(", "))));
+                       .arg(TemplateOptions::choices(property).join(QStringLiteral(", "))));
         }
         return value;
     case pt_file:
@@ -65,7 +65,7 @@ QString checkedValue(const FlashTemplateProperty& property, const QString& value
 
 } // namespace
 
-QStringList TemplateChoice::templateNames() {
+QStringList TemplateOptions::templateNames() {
     QStringList names;
     for (const QString& path : FlashTemplate::tmplNames()) {
         if (QFileInfo::exists(Files::join(path, QStringLiteral("flashTemplate.xml"))))
@@ -75,7 +75,7 @@ QStringList TemplateChoice::templateNames() {
     return names;
 }
 
-QStringList TemplateChoice::styleNames(const QString& templateName) {
+QStringList TemplateOptions::styleNames(const QString& templateName) {
     QStringList names;
     for (const QString& path : FlashTemplate::tmplStyleNamesForTmpl(templateName)) {
         if (QFileInfo::exists(Files::join(path, QStringLiteral("tmplSetting.txt"))))
@@ -85,17 +85,17 @@ QStringList TemplateChoice::styleNames(const QString& templateName) {
     return names;
 }
 
-const FlashTemplateProperty* TemplateChoice::findProperty(const FlashTemplate& tmpl,
-                                                          const QString& key) {
+const FlashTemplateProperty* TemplateOptions::findProperty(const FlashTemplate& tmpl,
+                                                           const QString& key) {
     return findIn(tmpl.properties(), key);
 }
 
-QStringList TemplateChoice::choices(const FlashTemplateProperty& property) {
+QStringList TemplateOptions::choices(const FlashTemplateProperty& property) {
     return property.propertyType() == pt_list ? property.valueSource().split(u',') : QStringList();
 }
 
-std::shared_ptr<FlashTemplate> TemplateChoice::load(const QString& templateName,
-                                                    const QString& styleName) {
+std::shared_ptr<FlashTemplate> TemplateOptions::load(const QString& templateName,
+                                                     const QString& styleName) {
     if (templateNames().isEmpty()) {
         throw CommandError(QStringLiteral("%1: holds no templates; the program is not installed "
                                           "completely")
@@ -120,7 +120,7 @@ std::shared_ptr<FlashTemplate> TemplateChoice::load(const QString& templateName,
     return tmpl;
 }
 
-void TemplateChoice::applySettingsFile(FlashTemplate& tmpl, const QString& path) {
+void TemplateOptions::applySettingsFile(FlashTemplate& tmpl, const QString& path) {
     QFile file(path);
     if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
         throw CommandError(QStringLiteral("%1: the settings file can't be read (%2)")
@@ -131,7 +131,7 @@ void TemplateChoice::applySettingsFile(FlashTemplate& tmpl, const QString& path)
     tmpl.importPropertiesSettingsFrom(path);
 }
 
-void TemplateChoice::applyAssignment(FlashTemplate& tmpl, const QString& assignment) {
+void TemplateOptions::applyAssignment(FlashTemplate& tmpl, const QString& assignment) {
     const qsizetype equals = assignment.indexOf(u'=');
     if (equals <= 0) {
         throw CommandError(QStringLiteral("--set takes KEY=VALUE, not \"%1\"").arg(assignment),

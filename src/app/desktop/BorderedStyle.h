@@ -5,9 +5,9 @@
 // The toolkit's own style, with lines around fields and boxes that can be seen on a dark window as
 // well: it draws them darker than their ground, however dark that is. A line alone shows which line
 // of a list has the keyboard.
-class LinedStyle : public QProxyStyle {
+class BorderedStyle : public QProxyStyle {
 public:
-    LinedStyle();
+    BorderedStyle();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;

@@ -1,4 +1,4 @@
-#include "output/EarlierBook.h"
+#include "output/ExistingBook.h"
 
 #include "output/UserConfig.h"
 #include "output/WebScript.h"
@@ -55,22 +55,22 @@ QString unescaped(QString text) {
 
 } // namespace
 
-bool EarlierBook::isIn(const QString& filesFolder) {
+bool ExistingBook::isIn(const QString& filesFolder) {
     pugi::xml_document document;
     return loadConfiguration(filesFolder, document) && document.document_element().child("Ppts");
 }
 
-bool EarlierBook::isWebBookIn(const QString& filesFolder) {
+bool ExistingBook::isWebBookIn(const QString& filesFolder) {
     const QString facts = Files::join(filesFolder, webFacts);
     return isIn(filesFolder) && QFileInfo(facts).isFile() &&
            Files::contents(facts).startsWith(WebScript::start(QStringLiteral("web/book")));
 }
 
-bool EarlierBook::isPage(const QString& file) {
+bool ExistingBook::isPage(const QString& file) {
     return !headOfPage(file).isNull();
 }
 
-QStringList EarlierBook::pages(const QString& folder) {
+QStringList ExistingBook::pages(const QString& folder) {
     QStringList names = QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
     names.removeIf([&](const QString& name) { return !isPage(Files::join(folder, name)); });
     std::stable_partition(names.begin(), names.end(),
@@ -78,7 +78,7 @@ QStringList EarlierBook::pages(const QString& folder) {
     return names;
 }
 
-QString EarlierBook::title(const QString& page) {
+QString ExistingBook::title(const QString& page) {
     const QByteArray head = headOfPage(page);
     const qsizetype start = head.indexOf("<title>");
     const qsizetype end = head.indexOf("</title>", start);
@@ -88,7 +88,7 @@ QString EarlierBook::title(const QString& page) {
     return unescaped(QString::fromUtf8(head.mid(text, end - text)));
 }
 
-QStringList EarlierBook::files(const QString& filesFolder) {
+QStringList ExistingBook::files(const QString& filesFolder) {
     pugi::xml_document document;
     if (!loadConfiguration(filesFolder, document))
         return {};
