@@ -2,7 +2,7 @@
 
 #include "annotations/FlashOutlineItem.h"
 
-// A book's table of contents and its XML form "ols".
+// A book's table of contents and its XML form, the "ols" element.
 class FlashOutline {
 public:
     virtual ~FlashOutline() = default;

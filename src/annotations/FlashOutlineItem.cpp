@@ -23,7 +23,7 @@ void FlashOutlineItem::removeChild(const std::shared_ptr<FlashOutlineItem>& chil
 
 pugi::xml_node FlashOutlineItem::outlineItemAsXMLNode(pugi::xml_node parent) const {
     pugi::xml_node element = parent.append_child("o");
-    // Readers of this form know an entry without a caption by this text.
+    // The players expect this text for an entry without a caption.
     const QString caption = iCaption.isNull() ? QStringLiteral("(null)") : iCaption;
     element.append_child("c").text().set(XMLText::legal(caption).toUtf8().constData());
     element.append_child("p").text().set(iPageIndex);

@@ -5,11 +5,11 @@
 #include <pugixml.hpp>
 #include <vector>
 
-// One entry of a book's table of contents, with the entries beneath it.
+// An entry of a book's table of contents, with its child entries.
 class FlashOutlineItem {
 public:
-    // How deep the entries of an XML form may be nested; it keeps a hostile one from exhausting the
-    // stack of whoever walks the tree.
+    // The nesting limit when reading XML; it keeps a malicious file from exhausting the stack of
+    // code that walks the tree.
     static constexpr int maximumDepth = 1000;
 
     QString caption() const { return iCaption; }
@@ -17,10 +17,10 @@ public:
     // One-based PDF page number; 0 when none was set.
     int pageIndex() const { return iPageIndex; }
     void setPageIndex(int index) { iPageIndex = index; }
-    // The entry above, not owned; nullptr at the top level.
+    // The parent entry, not owned; nullptr at the top level.
     FlashOutlineItem* parent() const { return iParent; }
     void setParent(FlashOutlineItem* parent) { iParent = parent; }
-    // Depth; 1 for top-level entries read from a PDF.
+    // Nesting level; 1 for top-level entries read from a PDF.
     int level() const { return iLevel; }
     void setLevel(int level) { iLevel = level; }
 
@@ -31,7 +31,7 @@ public:
     void addChild(const std::shared_ptr<FlashOutlineItem>& child);
     void removeChild(const std::shared_ptr<FlashOutlineItem>& child);
 
-    // Appends this entry's "o" element, with those of its children, to a parent and returns it.
+    // Appends this entry's "o" element, including its children, to parent and returns it.
     pugi::xml_node outlineItemAsXMLNode(pugi::xml_node parent) const;
     // Throws PlatformException "ERROR_INIT_OUTLINE_ITEM" for an element of another name or one with
     // entries nested deeper than maximumDepth.

@@ -5,7 +5,7 @@
 
 #include <memory>
 
-// Reads a PDF's bookmarks as a book's table of contents. Page numbers stay those of the PDF,
+// Reads a PDF's bookmarks as a book's table of contents. Page numbers are those of the PDF,
 // whatever page range was imported; an entry that leads to no page has 0.
 class FlashOutlinePDF : public FlashOutline {
 public:

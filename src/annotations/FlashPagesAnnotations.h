@@ -19,7 +19,7 @@ public:
 
     // The root element, owned by this object; an empty node until links were read or set.
     pugi::xml_node pagesAnnotationsNode() const { return iDocument.document_element(); }
-    // Takes a copy of the element.
+    // Copies the element.
     void setPagesAnnotationsNode(const pugi::xml_node& element);
 
 protected:

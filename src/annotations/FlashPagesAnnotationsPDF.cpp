@@ -16,8 +16,8 @@ const Log& annotationsLog() {
     return log;
 }
 
-// A link's rectangle as fractions of the page. The player expects these very numbers: the origin of
-// the crop box is not subtracted, and on rotated pages the divisors stay as they are.
+// A link's rectangle in fractions of the page. The player expects exactly these numbers: the origin
+// of the crop box is not subtracted, and the divisors are not swapped on rotated pages.
 struct Location {
     float x;
     float y;
@@ -53,7 +53,7 @@ Location locationOnPage(const QRectF& bounds, const QSizeF& cropBox, int rotatio
             corner.height / pageHeight};
 }
 
-// A page may be so thin that no number says how many times a link is wider.
+// A page may be so narrow that the ratio overflows.
 void setFraction(pugi::xml_node node, const char* name, float value) {
     const double fraction = std::isfinite(value) ? double(value) : 0.0;
     node.append_attribute(name) = QString::asprintf("%f", fraction).toUtf8().constData();
@@ -67,7 +67,7 @@ void appendAction(pugi::xml_node anno, const char* type, const char* element,
     action.append_child(element).text().set(XMLText::legal(value).toUtf8().constData());
 }
 
-// True when the annotation is a link that leads somewhere.
+// True when the annotation is a link with a target.
 bool appendLink(pugi::xml_node pageAnnos, const PDFAnnotation& annotation) {
     const bool opensAddress = !annotation.url.isNull();
     if (annotation.type != QStringLiteral("Link") || (!opensAddress && !annotation.destinationPage))
@@ -99,9 +99,9 @@ void logAnnotation(std::size_t index, const PDFAnnotation& annotation) {
                                .arg(annotation.url));
 }
 
-// Not a page that the document lacks, which the range names in error, nor a reading that was
-// stopped.
-bool concernsOnePage(const PlatformException& failure) {
+// False for a page that the document lacks, since then the range is wrong, and for a cancelled
+// read.
+bool affectsOnePage(const PlatformException& failure) {
     static const QStringList names{
         QStringLiteral("PDFPageUnreadable"), QStringLiteral("PDFReaderEnded"),
         QStringLiteral("PDFReaderTimeout"), QStringLiteral("PDFReaderMalformedAnswer")};
@@ -130,7 +130,7 @@ void FlashPagesAnnotationsPDF::loadLinksFromPDF(std::shared_ptr<PDFDocument> doc
         try {
             parsePage();
         } catch (const PlatformException& failure) {
-            if (!concernsOnePage(failure))
+            if (!affectsOnePage(failure))
                 throw;
             annotationsLog().warn(
                 QStringLiteral("page %1: %2").arg(QString::number(number), failure.reason()));
@@ -158,7 +158,7 @@ void FlashPagesAnnotationsPDF::scheduledScanPage(const Notification& /*notificat
         return;
     }
     ++iCurrentIndex;
-    // The end of the list shows in parsePage(); this bound only guards the counter itself.
+    // parsePage() detects the end of the list; this only guards the counter itself.
     if (std::uintptr_t(iCurrentIndex) < reinterpret_cast<std::uintptr_t>(&iNeedToImportPages))
         NotificationCenter::defaultCenter().enqueueWhenIdle(QString::fromUtf16(scanPageForLinks),
                                                             this);

@@ -15,12 +15,12 @@ class FlashPagesAnnotationsPDF : public FlashPagesAnnotations {
 public:
     struct UnreadPage {
         int page;       // one-based
-        Message reason; // in words
+        Message reason; // for users
     };
 
-    // Reads all pages that the range expression names, at once. Without a document every listed
-    // page stays without links, and so do those that can't be read and those after the budget is
-    // spent. Throws PlatformException for a page that the document lacks, and when it is stopped.
+    // Reads all pages of the range expression. Pages stay without links when there is no document,
+    // when they can't be read, and once the budget is spent. Throws PlatformException for a page
+    // that the document lacks, and when reading is stopped.
     void loadLinksFromPDF(std::shared_ptr<PDFDocument> document, const QString& pageRange);
 
     // The same, one page at a time whenever the main thread's event loop is idle.

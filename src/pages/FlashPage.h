@@ -3,8 +3,8 @@
 #include <QString>
 #include <memory>
 
-// One page file of a book and its one-based page number: the number in the PDF for pages of a PDF,
-// the order of adding for pages made from image files.
+// A page file of a book with its one-based page number: the number in the PDF, or the order of
+// adding for pages made from image files.
 class FlashPage {
 public:
     virtual ~FlashPage() = default;
@@ -14,8 +14,8 @@ public:
     int pageIndex() const { return iPageIndex; }
     void setPageIndex(int index) { iPageIndex = index; }
 
-    // A new page of the same class for the same file. Both arguments are ignored: a copy is never
-    // resized or encoded again.
+    // Returns a new page of the same class for the same file. Both arguments are ignored: a copy is
+    // never resized or re-encoded.
     virtual std::shared_ptr<FlashPage> copyPage(int page, int quality) const;
 
 private:

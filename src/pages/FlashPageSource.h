@@ -7,8 +7,8 @@
 #include <memory>
 #include <vector>
 
-// The ordered set of page files that a book is made of. It is filled once, by generatePages() and
-// then generateNormalPages(), and read by the publisher any number of times.
+// The ordered list of page files of a book. It is filled once, by generatePages() and then
+// generateNormalPages(), and read by publishers any number of times.
 class FlashPageSource {
 public:
     using Pages = std::vector<std::shared_ptr<FlashPage>>;
@@ -31,7 +31,7 @@ public:
     const QString& sourceFile() const { return iSourceFile; }
     void setSourceFile(const QString& path) { iSourceFile = path; }
 
-    // Asks a running generation to end early. May be set from any thread; never cleared here.
+    // Asks a running generation to stop early. Thread-safe; never reset here.
     bool stop() const { return iStoped; }
     void setStop(bool stop) { iStoped = stop; }
 
@@ -40,21 +40,21 @@ public:
     virtual void generatePages() {}
     virtual void generateNormalPages() {}
 
-    // Zero-based position into pages(); no page past the end.
+    // Zero-based index into pages(); null beyond the end.
     virtual std::shared_ptr<FlashPage> getPageAtIndex(int index) const;
-    // The normal page with that one-based page number, or no page.
+    // The normal page with that one-based page number, or null.
     virtual std::shared_ptr<FlashPage> getNormalPageAtIndex(int pageIndex) const;
-    // No source makes these; the publisher derives them from the normal pages.
+    // No source has these; the publisher derives them from the normal pages.
     virtual std::shared_ptr<FlashPage> getZoomedPageAtIndex(int pageIndex) const;
     virtual std::shared_ptr<FlashPage> getThumbPageAtIndex(int pageIndex) const;
 
-    // True when the page files are working files of our own that nothing changes once written, so
-    // that a publisher may give them a second name instead of a copy.
+    // True when the page files are our own working files, which are never modified once written, so
+    // that a publisher may hard-link them instead of copying.
     virtual bool ownsPageFiles() const { return false; }
 
-    // The sorted one-based page numbers that a text such as "3,1-2" names, without duplicates; all
-    // of 1 to atTotalPage for "ALL". Numbers beyond the document pass through. Throws
-    // PlatformException when the text names more than a million pages.
+    // The one-based page numbers that a text such as "3,1-2" names, sorted and without duplicates;
+    // 1 to atTotalPage for "ALL". Numbers beyond the document are kept. Throws PlatformException
+    // when the text names more than a million pages.
     static std::vector<int> parsePageRange(const QString& expression, int atTotalPage);
 
 protected:

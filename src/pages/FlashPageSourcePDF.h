@@ -13,16 +13,16 @@
 // step), "totalPage" (number of steps), "type" ("geneatePage" while pages are drawn, then
 // "geneateNormalPage").
 inline constexpr char16_t ImportProgressInfoMSG[] = u"ImportProgressInfoMSG";
-// Kept for listeners of old; an import's end shows in its operation instead.
+// Kept for existing listeners; the end of an import is reported by its operation instead.
 inline constexpr char16_t ImportPDFDidFinish[] = u"ImportPDFDidFinish";
 
-// The chosen pages of a PDF. Its page files live as long as it does.
+// The selected pages of a PDF. Its page files are deleted with it.
 class FlashPageSourcePDF : public FlashPageSource {
 public:
-    // A file that can't be opened leaves the source without a document; openError() says why.
-    // dpi is kept but has no effect. The document may be given when it is open already; otherwise
-    // stopped, asked while it is read, ends that. Throws PlatformException for a page range beyond
-    // all bounds.
+    // A file that can't be opened leaves the source without a document; openError() has the cause.
+    // dpi is stored but has no effect. opened may hold the document if it is already open;
+    // otherwise stopped is polled while reading and cancels it. Throws PlatformException for a page
+    // range that is too long.
     FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi, int quality,
                        OpenedPDF opened = {}, std::function<bool()> stopped = {});
 
@@ -30,23 +30,23 @@ public:
         return iToPageConverter;
     }
 
-    // Lets page workers begin, so that something else can be done until generatePages().
+    // Starts the page workers, so that the caller can do other work before generatePages().
     void startDrawing();
 
-    // Draws the pages in order. A page that can't be drawn is listed all the same, with a file that
-    // does not exist. Throws PlatformException for a page that the document lacks, and when the
-    // work folder can't take a page or the file is changed meanwhile.
+    // Draws the pages in order. A page that can't be drawn is listed with a file that does not
+    // exist. Throws PlatformException for a page that the document lacks, and when the work folder
+    // can't be written or the PDF is changed meanwhile.
     void generatePages() override;
     void generateNormalPages() override;
 
-    // Returns no page as soon as stop() is set.
+    // Returns null once stop() is set.
     std::shared_ptr<FlashPage> getNormalPageAtIndex(int pageIndex) const override;
 
     bool ownsPageFiles() const override { return true; }
 
-    // Why the document could not be opened; null when it could.
+    // Why the document could not be opened; null when it was.
     const Message& openError() const { return iOpenError; }
-    // Whether there is at least one page to show.
+    // Whether at least one page was drawn.
     bool hasDrawnPages() const;
 
 private:

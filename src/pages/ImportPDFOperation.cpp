@@ -34,8 +34,8 @@ Message aboutLinks() {
     return Message::translate("ImportPDFOperation", "%1: links: %2");
 }
 
-// The first page stands for all: they may be thousands.
-Message whyUnread(const std::vector<FlashPagesAnnotationsPDF::UnreadPage>& pages) {
+// Reports the first page only: there may be thousands.
+Message linkFailure(const std::vector<FlashPagesAnnotationsPDF::UnreadPage>& pages) {
     const QString first = QString::number(pages.front().page);
     if (pages.size() == 1)
         return Message::translate("ImportPDFOperation", "page %1: %2")
@@ -54,11 +54,12 @@ void ImportPDFOperation::setPageSource(std::shared_ptr<FlashPageSourcePDF> sourc
     {
         const std::lock_guard lock(iMutex);
         iFlashPageSource.swap(source);
-        // A cancel that came before there was a source to stop.
+        // The cancel may have come before there was a source to stop.
         if (iFlashPageSource && isCancelled())
             iFlashPageSource->setStop(true);
     }
-    // The former source goes only here: clearing it away takes time, and cancel() must not wait.
+    // The old source is destroyed outside the lock: deleting its files takes time, and cancel()
+    // must not wait.
 }
 
 void ImportPDFOperation::clearResults() {
@@ -104,7 +105,7 @@ void ImportPDFOperation::importStages() {
         checkUnchanged(*document);
 }
 
-// Half a document, or two editions of it, is no book to replace a good one with.
+// A mix of two versions of a document must not replace a good book.
 void ImportPDFOperation::checkUnchanged(const PDFDocument& document) {
     try {
         document.checkUnchanged();
@@ -141,7 +142,7 @@ void ImportPDFOperation::importPages() {
     }
 }
 
-// Before links and bookmarks, which may break the process that reads too often for more; while the
+// Before links and bookmarks, which may crash the reader too often for further queries; while the
 // first pages are drawn, since it takes as long.
 void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
     try {
@@ -152,7 +153,7 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
     }
 }
 
-// The source stays: it may be of use to a caller that makes something of empty pages.
+// The source is kept: a caller may have a use for empty pages.
 void ImportPDFOperation::reportNothingDrawn() {
     if (!iFlashPageSource->openError().isNull())
         return;
@@ -173,7 +174,7 @@ void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& doc
         annotations->loadLinksFromPDF(document, iPageRange);
         iFlashPagesAnnotation = annotations;
         if (!annotations->unreadPages().empty())
-            iFailures << aboutLinks().arg(iPDFPath, whyUnread(annotations->unreadPages()));
+            iFailures << aboutLinks().arg(iPDFPath, linkFailure(annotations->unreadPages()));
     } catch (const PlatformException& failure) {
         operationLog().error(
             QStringLiteral("Run Import PDF Operation error,import links:%1").arg(failure.reason()));

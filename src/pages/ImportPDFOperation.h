@@ -12,24 +12,24 @@
 #include <mutex>
 #include <optional>
 
-// Imports one PDF in the background: its pages, and its links and outline when asked to. Read the
-// results once it is finished; a part that failed is none.
+// Imports a PDF in the background: its pages, and its links and outline if requested. Read the
+// results once it is finished; a part that failed is null.
 class ImportPDFOperation : public Operation {
 public:
     ImportPDFOperation(const QString& pdfPath, const QString& pageRange, int dpi, int quality);
 
-    // Set before the operation is queued.
+    // Set these before the operation is queued.
     bool importLinks() const { return iImportLinks; }
     void setImportLinks(bool on) { iImportLinks = on; }
     bool importBookmarks() const { return iImportBookmarks; }
     void setImportBookmarks(bool on) { iImportBookmarks = on; }
 
-    // The document, when the caller has it open already and leaves it alone until the import is
-    // finished; none by default, then the import opens the file.
+    // The document, if the caller has already opened it and does not use it until the import is
+    // finished. By default the import opens the file.
     void setDocument(OpenedPDF document) { iDocument = std::move(document); }
 
     void main() override;
-    // Also ends a page that is being drawn. From any thread.
+    // Thread-safe. Also stops the page that is being drawn.
     void cancel() override;
 
     std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
@@ -38,13 +38,13 @@ public:
     }
     std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
 
-    // Of the document's first page that can be read, or none.
+    // The crop box of the first readable page, if any.
     const std::optional<QRectF>& firstCropBox() const { return iFirstCropBox; }
-    // What the document calls itself, or an empty text.
+    // The document's own title, or an empty text.
     const QString& documentTitle() const { return iDocumentTitle; }
 
-    // What went wrong, in words for the user, one text per part that failed. There is no page
-    // source when the file was changed while it was read or the work folder is full.
+    // What went wrong, one text for users per part that failed. There is no page source when the
+    // file was changed while it was read or the work folder is full.
     const Messages& failures() const { return iFailures; }
 
 private:
@@ -59,7 +59,7 @@ private:
     void checkUnchanged(const PDFDocument& document);
 
     OpenedPDF iDocument;
-    // Outlives the operation, as the document may.
+    // Shared, since the document may outlive the operation.
     std::shared_ptr<std::atomic<bool>> iStopReading = std::make_shared<std::atomic<bool>>(false);
     std::mutex iMutex; // guards the page source, which cancel() reaches from another thread
     std::shared_ptr<FlashPageSourcePDF> iFlashPageSource;

@@ -6,11 +6,11 @@
 #include <functional>
 #include <memory>
 
-// A document that is about to be drawn, and workers that got ready while it was opened.
+// A document to be drawn, and workers that were started while it was opened.
 struct OpenedPDF {
     std::shared_ptr<PDFDocument> document;
     std::shared_ptr<SpareWorkers> workers;
 
-    // As PDFDocument::openSandboxed().
+    // See PDFDocument::openSandboxed().
     static OpenedPDF open(const QString& path, std::function<bool()> stopped = {});
 };

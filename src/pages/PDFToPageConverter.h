@@ -6,18 +6,19 @@
 #include <memory>
 #include <vector>
 
-// What a converter of PDF pages needs: the document, the quality, and a private work folder, which
-// it deletes with every page file in it when it goes. Whoever publishes the pages keeps it alive.
+// State of a converter of PDF pages: the document, the quality, and a private work folder, which
+// the destructor deletes with every page file in it. Publishers of the pages must keep the
+// converter alive.
 class PDFToPageConverter {
 public:
-    // pdfDoc may be none. quality is 0 to 100.
+    // pdfDoc may be null. quality is 0 to 100.
     PDFToPageConverter(const QString& pdfPath, std::shared_ptr<PDFDocument> pdfDoc, int quality);
     virtual ~PDFToPageConverter();
     PDFToPageConverter(const PDFToPageConverter&) = delete;
     PDFToPageConverter& operator=(const PDFToPageConverter&) = delete;
 
-    // Makes the page file of a one-based page number and returns its path; a null text here, in the
-    // base.
+    // Makes the page file of a one-based page number and returns its path; the base class returns a
+    // null text.
     virtual QString generatePage(int page);
     virtual void generateAllPage() {}
     virtual void generatePages(const std::vector<int>& /*pages*/) {}

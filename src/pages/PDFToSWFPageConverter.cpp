@@ -11,7 +11,7 @@
 #include <utility>
 
 PDFToSWFPageConverter::~PDFToSWFPageConverter() {
-    endDrawingAhead(); // before the work folder goes
+    endDrawingAhead(); // before the work folder is deleted
 }
 
 QString PDFToSWFPageConverter::getPDF2swfLibPath() {

@@ -9,40 +9,40 @@
 #include <vector>
 
 // Makes the page files of a PDF in the work folder: "N.jpg" at twice the page's size in points,
-// named by the one-based page number. A file "N.swf" that lies there already is used instead.
+// named by the one-based page number. An existing file "N.swf" in the folder is used instead.
 class PDFToSWFPageConverter : public PDFToPageConverter {
 public:
     struct FailedPage {
         int page;       // one-based
-        Message reason; // in words
+        Message reason; // for users
     };
 
     using PDFToPageConverter::PDFToPageConverter;
     ~PDFToSWFPageConverter() override;
 
-    // Path of the external page converter among the resources, or a null text.
+    // Path of the external page converter in the resources, or a null text.
     static QString getPDF2swfLibPath();
 
-    // Workers that are started already, for the next drawAhead().
+    // Workers that are already running, for the next drawAhead().
     void setSpareWorkers(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
 
-    // Lets page workers draw these pages ahead of the calls of generatePage(), which come in the
-    // same order. A stop flag that turns true ends a page that is being drawn.
+    // Starts drawing these pages in page workers, ahead of the calls of generatePage(), which must
+    // come in the same order. Setting stop also stops the page that is being drawn.
     void drawAhead(const std::vector<int>& pages, const std::atomic<bool>& stop);
 
-    // Ends the page workers.
+    // Stops the page workers.
     void endDrawingAhead();
 
-    // The path comes back whether or not the page could be drawn. Throws PlatformException when the
+    // Returns the path whether or not the page could be drawn. Throws PlatformException when the
     // document has no such page.
     QString generatePage(int page) override;
 
-    // Draws a page into the work folder; the path is always "N.jpg" there, whatever toPath says.
+    // Draws a page into the work folder; the path is always "N.jpg" there, toPath is ignored.
     void pdfPageToImage(int page, const QString& toPath);
 
     const std::vector<FailedPage>& failedPages() const { return iFailedPages; }
 
-    // Seconds spent on all pages so far.
+    // Total seconds for all pages so far.
     const PageTiming& timing() const { return iTiming; }
     std::size_t workerCount() const { return iWorkerCount; }
 
@@ -52,8 +52,8 @@ private:
 
     std::shared_ptr<SpareWorkers> iSpares;
     std::unique_ptr<PageWorkers> iWorkers;
-    std::shared_ptr<PDFDocument> iOwnDocument; // for pages
-    std::unique_ptr<PageImageMaker> iPDFRep;   // drawn in this process
+    std::shared_ptr<PDFDocument> iOwnDocument; // opened to draw
+    std::unique_ptr<PageImageMaker> iPDFRep;   // pages in this process
     const std::atomic<bool>* iStop = nullptr;
     std::vector<FailedPage> iFailedPages;
     PageTiming iTiming;

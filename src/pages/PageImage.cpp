@@ -6,7 +6,7 @@
 
 namespace {
 
-// A page of 72 points an inch becomes a picture of 144 pixels an inch.
+// 72 points per inch become 144 pixels per inch.
 constexpr double pixelsPerPoint = 2.0;
 
 } // namespace

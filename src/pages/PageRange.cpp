@@ -11,7 +11,7 @@
 
 namespace {
 
-// No book has more pages; a longer list is a slip of the keyboard or an attempt to exhaust memory.
+// No book has more pages; a longer list is a typing error or an attempt to exhaust memory.
 constexpr std::int64_t maxListedPages = 1'000'000;
 
 } // namespace

@@ -15,17 +15,17 @@
 
 namespace {
 
-// How often a waiting import looks at the stop flag.
+// How often a waiting import checks the stop flag.
 constexpr int pollMilliseconds = 20;
 
-// Made pages wait on disk, not in memory; the bound keeps a stopped import from having drawn far
-// more than was ever asked for.
+// Finished pages are on disk, not in memory; the limit keeps a cancelled import from having drawn
+// far more than was needed.
 constexpr std::size_t maxPagesAhead = 64;
 
-// A worker gives a page up by itself; one that does not even do that is ended.
+// A worker has its own time limit per page; one that exceeds even this is killed.
 constexpr auto defaultTimeout = PDFLimits::maxPageTime + std::chrono::seconds(10);
 
-// A document that ends so many workers in a row before they are ready will end them all.
+// A document that crashes so many workers in a row before they are ready will crash them all.
 constexpr int maxFailedStarts = 20;
 
 // Answers are short.
@@ -33,7 +33,7 @@ constexpr qsizetype maxLine = qsizetype{1} << 20;
 
 constexpr std::size_t maxWorkers = 16;
 
-Message endedReason() {
+Message crashReason() {
     return Message::translate("PageFailure", "the program that draws pages ended at this page");
 }
 
@@ -42,7 +42,7 @@ const Log& workersLog() {
     return log;
 }
 
-// Workers speak English. They give one of our own reasons, or a file's path and the system's words.
+// Workers report in English: one of our own reasons, or a file's path and the system's error text.
 Message reasonFrom(const QByteArray& words) {
     const qsizetype colon = words.lastIndexOf(": ");
     if (colon < 0)
@@ -69,14 +69,14 @@ PageWorkers::~PageWorkers() {
     killAll();
 }
 
-// All at once, so that the system clears them away side by side.
+// Kills all before waiting for any, so that they exit in parallel.
 void PageWorkers::killAll() {
     for (const Worker& worker : iWorkers)
         worker.process->kill();
     iWorkers.clear();
 }
 
-// The order is what a worker needs to know before it closes itself off.
+// The first line tells the worker everything that it needs before it enters its sandbox.
 std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
     const QByteArray order = QFile::encodeName(iPDFPath).toBase64() + ' ' +
                              QFile::encodeName(iFolder).toBase64() + ' ' +
@@ -87,7 +87,7 @@ std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
             process = std::make_unique<ChildProcess>(QFile::encodeName(iProgram).toStdString(),
                                                      std::vector<std::string>{"draw"});
         }
-        process->writeLine(order); // if it has ended, that shows when it is read
+        process->writeLine(order); // a failure shows when reading
         return process;
     } catch (const PlatformException& failure) {
         workersLog().warn(failure.reason());
@@ -122,14 +122,14 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
         if (iWorkers.empty()) {
             if (!iCanRun)
                 return std::nullopt;
-            return PageResult{iOpenError.isNull() ? endedReason() : iOpenError, {}};
+            return PageResult{iOpenError.isNull() ? crashReason() : iOpenError, {}};
         }
         collect();
     }
 }
 
-// Keeps one page waiting at the worker behind the one that it draws, so that it never waits for us.
-// Near the end each page goes to whoever is free.
+// Queues one page at the worker behind the one it draws, so that it never waits for us. Near the
+// end each page goes to the next free worker.
 void PageWorkers::feed(Worker& worker) {
     const std::size_t depth = iWaiting.size() > 2 * iWorkers.size() ? 2 : 1;
     while (!iWaiting.empty() && worker.pages.size() < depth &&
@@ -139,7 +139,7 @@ void PageWorkers::feed(Worker& worker) {
         worker.pages.push_back(iWaiting.front());
         iWaiting.pop_front();
         if (!worker.process->writeLine(QByteArray::number(worker.pages.back())))
-            return; // its end shows when it is read
+            return; // a failure shows when reading
     }
 }
 
@@ -148,7 +148,7 @@ void PageWorkers::feedAll() {
         feed(worker);
 }
 
-// Waits a moment for answers and takes those that came.
+// Waits briefly for answers and reads those that arrived.
 void PageWorkers::collect() {
     std::vector<pollfd> descriptors;
     for (const Worker& worker : iWorkers)
@@ -170,7 +170,7 @@ void PageWorkers::readAnswers(Worker& worker) {
         if (shouldRetry(worker))
             replace(worker);
         else
-            replace(worker, endedReason());
+            replace(worker, crashReason());
         return;
     }
     while (const auto line = worker.process->takeLine())
@@ -178,7 +178,7 @@ void PageWorkers::readAnswers(Worker& worker) {
     feed(worker);
 }
 
-// "here", then "ready", or "fail REASON" when the document can't be opened.
+// "here" (in its sandbox), then "ready", or "fail REASON" when the document can't be opened.
 void PageWorkers::readStartupLine(Worker& worker, const QByteArray& line) {
     if (!std::exchange(worker.sandboxed, true) && line == "here")
         return;
@@ -191,9 +191,9 @@ void PageWorkers::readStartupLine(Worker& worker, const QByteArray& line) {
     iFailedStarts = 0;
 }
 
-// An answer is "ok DRAW ENCODE WRITE" in seconds, "fail REASON", or, when its files can't be
-// written, "full REASON" or "unwritable REASON", for the first page asked for. A full disk may have
-// room later.
+// An answer is "ok DRAW ENCODE WRITE" in seconds, "fail REASON", or, when the files can't be
+// written, "full REASON" (may succeed later) or "unwritable REASON". It refers to the first
+// requested page.
 void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     if (!worker.ready) {
         readStartupLine(worker, line);
@@ -215,7 +215,7 @@ void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     worker.since = std::chrono::steady_clock::now();
 }
 
-// One that hangs while it opens the document has no page to blame; few more are waited for.
+// A worker that hangs while opening the document is not a page's fault; few more are tried.
 void PageWorkers::timeOut(Worker& worker) {
     worker.process->kill();
     if (!worker.ready)
@@ -223,8 +223,8 @@ void PageWorkers::timeOut(Worker& worker) {
     replace(worker, Message::translate("PageFailure", "drawing it took too long"));
 }
 
-// A new process takes over from one that is of no more use. Without a reason it draws the same
-// page.
+// Starts a new process in place of one that is unusable. Without a reason its current page is drawn
+// again.
 void PageWorkers::replace(Worker& worker, const Message& reason) {
     if (!worker.ready) {
         replaceUnstarted(worker);
@@ -236,13 +236,13 @@ void PageWorkers::replace(Worker& worker, const Message& reason) {
     worker = newWorker(startProcess());
 }
 
-// A page is not to blame for a worker that somebody killed; when it happens again it may be.
+// A worker killed from outside is not its page's fault; if it happens again it may be.
 bool PageWorkers::shouldRetry(Worker& worker) {
     return worker.ready && !worker.pages.empty() && worker.process->wasKilled() &&
            iRetriedPages.insert(worker.pages.front()).second;
 }
 
-// The page that it was drawing is to blame.
+// The page that the worker was drawing counts as the cause.
 void PageWorkers::failPage(Worker& worker, const Message& reason) {
     if (worker.pages.empty())
         return;
@@ -254,8 +254,8 @@ void PageWorkers::failPage(Worker& worker, const Message& reason) {
     workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
 }
 
-// No page is to blame for a process that did not even get ready. One that has been heard of may
-// have opened the document, so how it ended is no reason to draw without it.
+// A process that did not become ready is not a page's fault. One in its sandbox may have opened the
+// document, so how it ended is no reason to draw without workers.
 void PageWorkers::replaceUnstarted(Worker& worker) {
     requeuePages(worker);
     iCanRun = iCanRun && (worker.sandboxed || !worker.process->couldNotRun());
@@ -263,7 +263,7 @@ void PageWorkers::replaceUnstarted(Worker& worker) {
     worker = newWorker(again ? startProcess() : nullptr);
 }
 
-// A page counts as drawn or as given up, never half.
+// Leaves no partial files of a failed page.
 void PageWorkers::removeFilesOf(int page) const {
     const WebPageFiles files(iFolder, page);
     for (const QString& file : iForWebBook ? files.all() : QStringList(files.pageFile)) {

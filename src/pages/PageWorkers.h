@@ -16,44 +16,45 @@
 #include <set>
 #include <vector>
 
-// What became of one page.
+// The result of one page.
 struct PageResult {
     Message error; // null when the page file was written
     PageTiming timing;
-    bool isUnwritten = false; // the work folder can't take it; no fault of the page's
+    bool isUnwritten = false; // the work folder can't be written; not the page's fault
 };
 
-// Draws pages of one PDF ahead of the walk that collects them, on processes of our own: one per
-// core, each with the file open by itself, so that a page that crashes the engine costs that page
-// only. The walk goes through the pages in ascending order. For one thread.
+// Draws pages of a PDF in worker processes, ahead of the loop that collects them. There is one
+// worker per core, each with its own open file, so that a page that crashes MuPDF costs that page
+// only. Pages must be collected in ascending order. For one thread.
 class PageWorkers {
 public:
-    // Pages (one-based, ascending) are made as "N.jpg" in the folder. stop, watched while waiting,
-    // ends everything. No process is started before start().
+    // Pages (one-based, ascending) are written as "N.jpg" to the folder. stop is polled while
+    // waiting and cancels everything. No process is started before start().
     PageWorkers(QString pdfPath, QString folder, int quality, std::vector<int> pages,
                 const std::atomic<bool>& stop);
     ~PageWorkers();
 
-    // The worker to start instead of the one that is installed beside the running program.
+    // For tests: the worker to start instead of the one that is installed beside the running
+    // program.
     void setProgram(const QString& path) { iProgram = path; }
 
-    // A further reason to stop, asked while waiting.
+    // A second condition to stop, polled while waiting.
     void setStopped(std::function<bool()> stopped) { iStopped = std::move(stopped); }
 
-    // Makes what a web book has of each page beside its page file, instead of that.
+    // Makes the files that a web book has of each page instead of its page file.
     void setForWebBook(bool on) { iForWebBook = on; }
 
-    // Workers that are started already, to be taken first; none by default.
+    // Workers that are already running, to be used first; none by default.
     void setSpares(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
 
-    // How long a worker may be silent over one page before it is ended.
+    // How long a worker may take for one page before it is killed.
     void setTimeout(std::chrono::milliseconds timeout) { iTimeout = timeout; }
 
     // Starts the processes. False when none could be started.
     bool start();
 
-    // Waits for a page that was handed to the constructor. After a stop the result is an error.
-    // Nothing comes back when the system can't run workers at all: then the caller has to draw.
+    // Waits for one of the constructor's pages. After a stop the result is an error. Returns
+    // nothing when workers can't run on this system: the caller then has to draw.
     std::optional<PageResult> waitFor(int page);
 
     std::size_t workerCount() const { return iWorkers.size(); }
@@ -61,9 +62,9 @@ public:
 private:
     struct Worker {
         std::unique_ptr<ChildProcess> process;
-        bool sandboxed = false; // it has been heard of, and opens the document
-        bool ready = false;     // it has opened the document
-        std::deque<int> pages;  // asked for; the first one is being drawn
+        bool sandboxed = false; // its sandbox is in force and it is opening the document
+        bool ready = false;     // the document is open
+        std::deque<int> pages;  // requested; the first one is being drawn
         std::chrono::steady_clock::time_point since;
     };
 
@@ -92,16 +93,16 @@ private:
     QString iFolder;
     int iQuality;
     bool iForWebBook = false;
-    std::deque<int> iWaiting; // not yet handed to a worker, ascending
-    int iAwaited = 0;         // the page that the walk stands at
+    std::deque<int> iWaiting; // not yet sent to a worker, ascending
+    int iAwaited = 0;         // the page being waited for
     const std::atomic<bool>& iStop;
     std::function<bool()> iStopped;
     std::size_t iPageCount;
     std::chrono::milliseconds iTimeout;
-    int iFailedStarts = 0; // workers in a row that ended before they were ready
-    bool iCanRun = true;   // false once workers turn out to be unfit for this system
+    int iFailedStarts = 0; // consecutive workers that ended before they were ready
+    bool iCanRun = true;   // false when workers can't run on this system
     Message iOpenError;    // why a worker could not open the document
     std::vector<Worker> iWorkers;
-    std::map<int, PageResult> iResults; // made, not yet asked for
+    std::map<int, PageResult> iResults; // done, not yet collected
     std::set<int> iRetriedPages;        // pages whose worker was killed once
 };

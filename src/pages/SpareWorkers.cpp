@@ -9,7 +9,8 @@
 #include <thread>
 
 SpareWorkers::SpareWorkers() {
-    // A short document takes no more, and a long one does not notice that the others come later.
+    // A short document needs no more, and for a long one it makes no difference when the others
+    // start.
     constexpr unsigned most = 4;
     const unsigned count = std::clamp(std::thread::hardware_concurrency(), 1U, most);
     const std::string program = QFile::encodeName(Bundle::pageWorkerPath()).toStdString();

@@ -5,15 +5,15 @@
 #include <memory>
 #include <vector>
 
-// Page workers that are started before it is known what they are to draw: loading a program takes
-// about as long as drawing a page, and can go on while a document is being opened. Those that
-// nobody takes end with this object.
+// Page workers started before it is known what they are to draw: starting the program takes about
+// as long as drawing a page, and can overlap with opening the document. The destructor ends those
+// that were not taken.
 class SpareWorkers {
 public:
-    // Starts one for each core, but few. None where they can't be started.
+    // Starts one per core, up to a small number; none where they can't be started.
     SpareWorkers();
 
-    // One of them, or none when all are taken. It waits for its order.
+    // Takes one of them, or null when none is left. It waits for its first line.
     std::unique_ptr<ChildProcess> take();
 
 private:

@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-// Seconds between laps.
+// Measures seconds between laps.
 class Stopwatch {
 public:
     double lap() {

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-// The files that are made of one page for a web book, beside its page file "N.jpg" in the work
-// folder of an import. Each may be missing.
+// The files made of one page for a web book, beside its page file "N.jpg" in the work folder of an
+// import. Each may be missing.
 struct WebPageFiles {
     WebPageFiles(const QString& workFolder, int page) {
         const QString start = workFolder + u'/' + QString::number(page);
@@ -16,13 +16,13 @@ struct WebPageFiles {
         text = start + QStringLiteral(".text");
     }
 
-    // All that are made for a web book.
+    // All files that are made for a web book.
     QStringList all() const { return {picture, thumbnail, largeVector, largePicture, text}; }
 
     QString pageFile;
-    QString picture;      // the same size and sharpness in fewer bytes; none when that does not pay
-    QString thumbnail;    // fits into WebPageMaker's thumbnail box
-    QString largeVector;  // what is shown when the page is enlarged: one of
-    QString largePicture; // the two, or none
-    QString text;         // as PDFSerialization packs it
+    QString picture;   // same size and sharpness in fewer bytes; missing when that does not pay off
+    QString thumbnail; // fits into WebPageMaker's thumbnail box
+    QString largeVector;  // shown when the page is enlarged: at most
+    QString largePicture; // one of the two exists
+    QString text;         // as packed by PDFSerialization
 };

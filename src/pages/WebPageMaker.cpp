@@ -11,32 +11,32 @@
 
 namespace {
 
-constexpr double normalScale = 2.0; // pixels a point, as the page file
+constexpr double normalScale = 2.0; // pixels per point, as in the page file
 constexpr double largeScale = 4.0;
-constexpr double mediumScale = 3.0; // where that takes too many bytes
+constexpr double mediumScale = 3.0; // used when the large one has too many bytes
 
-// A drawer of thumbnails shows them at most half as wide and high, on screens of double density.
+// The thumbnail panel shows them at most half as wide and high, on double-density screens.
 constexpr int thumbnailWidth = 300;
 constexpr int thumbnailHeight = 256;
 constexpr float thumbnailQuality = 70;
 
-// All files of a page together against its page file alone.
-constexpr double mostBytes = 1.5;
+// All files of a page, relative to its page file.
+constexpr double maxBytesRatio = 1.5;
 
-// Another format must spare a tenth to be worth it.
+// Another format must save a tenth to be worth it.
 constexpr double worthwhile = 0.9;
 
 // As sharp as the page file, see bench/sharpness.py.
 constexpr float normalQuality = 86;
-// A pixel of a large picture is a quarter of the size, so its faults show less.
+// Pixels of a large picture are shown a quarter of the size, so artefacts show less.
 constexpr float largeQuality = 70;
 constexpr float leastQuality = 40;
 
-// Text and drawings repeat their pixels, photographs don't.
-constexpr double mostlyEven = 0.6;
+// Text and drawings have runs of equal pixels, photographs don't.
+constexpr double minEvenness = 0.6;
 
-// A page of a hundred thousand lines is a drawing that a browser would take seconds for.
-constexpr qint64 largestVector = qint64{1} << 20;
+// A larger vector picture would take a browser seconds to draw.
+constexpr qint64 maxVectorBytes = qint64{1} << 20;
 
 bool fitsWebP(const PageBitmap& bitmap) {
     return std::max(bitmap.width(), bitmap.height()) <= WebPEncoder::maxSide;
@@ -71,21 +71,21 @@ PageTiming WebPageMaker::make(int page, const WebPageFiles& files, const DrawCon
     write(files.text, text);
     timing.write = watch.lap();
 
-    // What the text takes in the book is close to what it takes packed.
+    // The text's size in the book is close to its packed size.
     const qint64 taken =
         (normal.isEmpty() ? pageFileSize : normal.size()) + small.size() + text.size();
-    makeLarge(drawn, files, qint64(mostBytes * double(pageFileSize)) - taken, control, timing);
+    makeLarge(drawn, files, qint64(maxBytesRatio * double(pageFileSize)) - taken, control, timing);
     return timing;
 }
 
-// Nothing when it is better to stay with the page file.
+// Empty when the page file is better.
 QByteArray WebPageMaker::normalPicture(qint64 pageFileSize) {
     if (!fitsWebP(iBitmap))
         return {};
     const auto pays = [&](const QByteArray& data) {
         return double(data.size()) <= worthwhile * double(pageFileSize);
     };
-    if (WebPEncoder::evenness(iBitmap) > mostlyEven) {
+    if (WebPEncoder::evenness(iBitmap) > minEvenness) {
         if (QByteArray data = WebPEncoder::lossless(iBitmap); pays(data))
             return data;
     }
@@ -106,7 +106,7 @@ void WebPageMaker::makeLarge(const PDFPage& page, const WebPageFiles& files, qin
     Stopwatch watch;
     const QByteArray vector = page.vectorPicture();
     timing.draw += watch.lap();
-    if (!vector.isEmpty() && vector.size() <= std::min(largest, largestVector)) {
+    if (!vector.isEmpty() && vector.size() <= std::min(largest, maxVectorBytes)) {
         write(files.largeVector, vector);
     } else {
         const QByteArray picture = largePicture(page, largest, control);
@@ -116,16 +116,16 @@ void WebPageMaker::makeLarge(const PDFPage& page, const WebPageFiles& files, qin
     timing.encode += watch.lap();
 }
 
-// The best that fits.
+// The best picture that fits the limit.
 QByteArray WebPageMaker::largePicture(const PDFPage& page, qint64 largest,
                                       const DrawControl& control) {
     const int normalWidth = iBitmap.width();
     for (const double scale : {largeScale, mediumScale}) {
         page.draw(scale, iBitmap, control);
-        // A page near the limits of a bitmap does not get any larger.
+        // A page near the bitmap limits can't get any larger.
         if (!fitsWebP(iBitmap) || iBitmap.width() <= normalWidth)
             continue;
-        if (WebPEncoder::evenness(iBitmap) > mostlyEven) {
+        if (WebPEncoder::evenness(iBitmap) > minEvenness) {
             if (QByteArray data = WebPEncoder::lossless(iBitmap); data.size() <= largest)
                 return data;
         }

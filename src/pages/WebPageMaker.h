@@ -3,15 +3,14 @@
 #include "pages/PageImage.h"
 #include "pages/WebPageFiles.h"
 
-// Makes the files of a page that a web book has beyond the page file, which must be there already:
-// it says how many bytes the page may take. Used by the page workers. Keeps its buffer between
-// pages.
+// Makes the files that a web book has of a page beyond the page file, which must exist: its size
+// limits theirs. Used by the page workers. Keeps its buffer from page to page.
 class WebPageMaker {
 public:
     explicit WebPageMaker(const PDFDocument& document) : iDocument(document) {}
 
-    // Writes the files of the page with that one-based number. Each appears whole or not at all. A
-    // page that holds no text has an empty list of it. Throws PlatformException.
+    // Writes the files of the page with that one-based number, each atomically. A page without text
+    // has an empty list. Throws PlatformException.
     PageTiming make(int page, const WebPageFiles& files, const DrawControl& control = {});
 
 private:

@@ -39,7 +39,7 @@ bool WebPages::make() {
     return !iIsCancelled();
 }
 
-// A page whose page file is missing could not be drawn, and won't be now.
+// A page without a page file could not be drawn before and won't be now.
 bool WebPages::drawMissing() {
     const auto& converter = *converterOf(iSource);
     std::map<int, WebPage*> missing;
@@ -84,7 +84,7 @@ WebPage WebPages::pageFrom(int number, const QString& pageFile) const {
         return result;
     const WebPageFiles files(converter->converterWorkFolder(), number);
     if (result.picture != files.pageFile)
-        return result; // brought along by the user
+        return result; // provided by the user
     if (QFileInfo::exists(files.picture))
         result.picture = files.picture;
     result.thumbnail = existing(files.thumbnail);

@@ -9,42 +9,42 @@
 
 class PDFDocument;
 
-// What a web book shows of one page, as files in a work folder; null for what there is none of.
+// The files of one page of a web book, in a work folder; null for those that don't exist.
 struct WebPage {
     QString pageFile;  // the page file of a classic book
-    int number = 0;    // the page's one-based number in the PDF, which names its files
-    QString picture;   // the page file, or one that takes fewer bytes
+    int number = 0;    // the page's one-based number in the PDF, used in file names
+    QString picture;   // the page file, or a smaller equivalent
     QString thumbnail; // WebP
     QString large;     // SVG or WebP
-    QString text;      // as PDFSerialization packs it
-    Message failure;   // why the page has less than it could have
+    QString text;      // as packed by PDFSerialization
+    Message failure;   // why the page lacks some of these
 };
 
-// The pages of a source as a web book shows them. Pages of a PDF are drawn once more, by page
-// workers; for others there is no more than the page files.
+// The pages of a source for a web book. Pages of a PDF are drawn once more by page workers; others
+// have their page files only.
 class WebPages {
 public:
     // The source must outlive this object.
     explicit WebPages(const FlashPageSource& source);
 
-    // Asked while pages are made; true ends that.
+    // Polled while pages are made; true cancels.
     void setCancelled(std::function<bool()> isCancelled) { iIsCancelled = std::move(isCancelled); }
-    // Called after each page with the number of pages done and that of all.
+    // Called after each page with the number of pages done and the total.
     void setProgress(std::function<void(int done, int total)> progress) {
         iProgress = std::move(progress);
     }
 
-    // Pages that are not wanted are not drawn again.
+    // Pages for which this is false are not drawn again.
     void setWanted(std::function<bool(int number)> isWanted) { iIsWanted = std::move(isWanted); }
 
-    // Makes what is not there yet. False when it was cancelled. Throws PlatformException when the
-    // work folder can't take it.
+    // Makes the missing files. False when cancelled. Throws PlatformException when the work folder
+    // can't be written.
     bool make();
 
-    // In the order of the book.
+    // In book order.
     const std::vector<WebPage>& pages() const { return iPages; }
 
-    // The document that the pages come from, or none.
+    // The document that the pages come from, or null.
     std::shared_ptr<PDFDocument> document() const;
 
 private:

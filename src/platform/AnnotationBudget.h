@@ -5,18 +5,16 @@
 #include <cstddef>
 #include <vector>
 
-// How many annotations are taken from one document, and how much text in them. All pages of a small
-// file may share one long list or one long address, which would take more memory than a machine
-// has. The richest of real books have a few tens of thousands of links, of a few megabytes.
+// Limits how many annotations are read from one document, and how many characters of text. All
+// pages of a small file may refer to one long list or one long address, which would exhaust memory.
+// Even the largest real books have only tens of thousands of links, a few megabytes in all.
 class AnnotationBudget {
 public:
-    static constexpr std::size_t mostAnnotations = 250'000;
-    static constexpr std::size_t mostCharacters = std::size_t{32} << 20;
+    static constexpr std::size_t maxAnnotations = 250'000;
+    static constexpr std::size_t maxCharacters = std::size_t{32} << 20;
 
-    // Whether further pages have to do without.
-    bool isSpent() const {
-        return iAnnotations >= mostAnnotations || iCharacters >= mostCharacters;
-    }
+    // Whether a limit has been reached; the remaining pages are then read without annotations.
+    bool isSpent() const { return iAnnotations >= maxAnnotations || iCharacters >= maxCharacters; }
 
     void spend(const PDFAnnotation& annotation) {
         ++iAnnotations;

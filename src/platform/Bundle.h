@@ -3,25 +3,25 @@
 #include <QString>
 #include <QStringList>
 
-// Finds the files that are installed with the program.
+// Locates files that are installed with the program.
 namespace Bundle {
 
-// The folder that holds AppFiles/ and the other resources, without a trailing separator. It is
-// share/folvero/ beside the bin/ folder that the running program lies in.
+// The folder that contains AppFiles/ and the other resources, without a trailing separator:
+// share/folvero/ beside the bin/ folder of the running program.
 QString resourcePath();
 
-// Path of a program that only ours start: it lies in libexec/folvero/ beside bin/, so that it is in
-// nobody's search path.
+// Path of a helper program that only our own programs start. It is installed in libexec/folvero/
+// beside bin/, outside the search path.
 QString pathForAuxiliaryExecutable(const QString& name);
 
-// That of the program which reads PDF files and draws their pages.
+// Path of the page worker, which reads PDF files and draws their pages.
 QString pageWorkerPath();
 
-// Tests point the program at a library of their own. A null text goes back to the installed one.
+// For tests: uses another resource folder. A null text restores the installed one.
 void setResourcePath(const QString& path);
 
 // Path of the resource NAME.TYPE (or NAME when type is empty) in a sub-folder of the resources, or
-// a null text when there is none.
+// a null text when it does not exist.
 QString pathForResource(const QString& name, const QString& type,
                         const QString& inDirectory = QString());
 

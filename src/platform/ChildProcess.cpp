@@ -13,7 +13,7 @@
 #include <unistd.h>
 #include <utility>
 
-extern char** environ; // NOLINT(readability-redundant-declaration): POSIX leaves it to the user
+extern char** environ; // NOLINT(readability-redundant-declaration): POSIX does not declare it
 
 namespace {
 
@@ -24,8 +24,8 @@ namespace {
             .arg(QString::fromLocal8Bit(program.c_str()), Message::ofSystemError(error)));
 }
 
-// Sockets rather than pipes: a write to a socket whose reader is gone can be told to fail instead
-// of raising a signal.
+// Sockets rather than pipes: writing to a socket whose peer is gone can return an error instead of
+// raising SIGPIPE.
 class Channel {
 public:
     explicit Channel(const std::string& program) {
@@ -42,8 +42,8 @@ public:
     Channel& operator=(const Channel&) = delete;
 
     int theirs() const { return iEnds[1]; }
-    // Hands our end over to the caller.
-    int takeOurs() { return std::exchange(iEnds[0], -1); }
+    // Transfers ownership of the parent's end to the caller.
+    int takeParentEnd() { return std::exchange(iEnds[0], -1); }
 
 private:
     std::array<int, 2> iEnds{-1, -1};
@@ -73,8 +73,8 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
     posix_spawnattr_destroy(&attributes);
     if (error != 0)
         fail(program, error);
-    iToChild = input.takeOurs();
-    iFromChild = output.takeOurs();
+    iToChild = input.takeParentEnd();
+    iFromChild = output.takeParentEnd();
 }
 
 ChildProcess::~ChildProcess() {
@@ -118,8 +118,8 @@ std::optional<QByteArray> ChildProcess::takeLine() {
     return line;
 }
 
-// Its streams are closed just before it ends.
-bool ChildProcess::endsSoon() {
+// The kernel closes a process's streams shortly before its exit status becomes available.
+bool ChildProcess::exitsSoon() {
     constexpr int patienceMilliseconds = 1000;
     for (int waited = 0; !iHasEnded && waited < patienceMilliseconds; ++waited) {
         if (::waitpid(iProcess, &iStatus, WNOHANG) == iProcess)
@@ -130,16 +130,17 @@ bool ChildProcess::endsSoon() {
     return iHasEnded;
 }
 
-// The loader and shells end with these when a program or its libraries are missing or unfit.
+// Exit codes of the dynamic loader and of shells when a program or one of its libraries is missing
+// or unusable.
 bool ChildProcess::couldNotRun() {
     constexpr int unfit = 126;
     constexpr int missing = 127;
-    return endsSoon() && WIFEXITED(iStatus) &&
+    return exitsSoon() && WIFEXITED(iStatus) &&
            (WEXITSTATUS(iStatus) == unfit || WEXITSTATUS(iStatus) == missing);
 }
 
 bool ChildProcess::wasKilled() {
-    return endsSoon() && WIFSIGNALED(iStatus) && WTERMSIG(iStatus) == SIGKILL;
+    return exitsSoon() && WIFSIGNALED(iStatus) && WTERMSIG(iStatus) == SIGKILL;
 }
 
 void ChildProcess::kill() {

@@ -6,9 +6,8 @@
 #include <sys/types.h>
 #include <vector>
 
-// A program of ours that runs beside us and speaks in lines: we write lines to its standard input
-// and read lines from its standard output. It is ended when this object goes. A Ctrl-C at the
-// terminal does not reach it.
+// A helper process that communicates in lines: we write lines to its standard input and read lines
+// from its standard output. The destructor kills it. It does not receive Ctrl-C from the terminal.
 class ChildProcess {
 public:
     // Throws PlatformException "ProcessStartFailed".
@@ -17,41 +16,40 @@ public:
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
-    // Never waits. False when the other side is gone, or has not read for so long that no more fits
-    // in between; nothing that is written then arrives whole.
+    // Never blocks. False when the process is gone, or when its input buffer is full because it has
+    // not been reading; a line written then does not arrive whole.
     bool writeLine(const QByteArray& line);
 
-    // Readable (or at its end) when a call of readAvailable() would not wait; for poll().
+    // For poll(): readable, or at end of file, when readAvailable() would not block.
     int readDescriptor() const { return iFromChild; }
 
-    // Reads what has arrived, waiting for something if need be. False at the end of the stream, and
-    // for a line of more bytes than that, which no sane program says.
+    // Reads what has arrived; blocks when nothing has. False at end of file, and when a line
+    // exceeds maxLine bytes, which no working helper sends.
     bool readAvailable(qsizetype maxLine);
 
-    // The next complete line that has been read, without its line end.
+    // The next complete line received, without its line ending.
     std::optional<QByteArray> takeLine();
 
-    // After the end of the stream: whether the system could not run the program properly, so that
-    // its end says nothing about its work.
+    // After end of file: whether the program could not be run properly, so that its exit says
+    // nothing about its input.
     bool couldNotRun();
 
-    // After the end of the stream: whether somebody killed the process (SIGKILL), as the system
-    // does when it is short of memory.
+    // After end of file: whether the process was killed with SIGKILL, as the kernel does when
+    // memory runs out.
     bool wasKilled();
 
-    // Ends the process at once, without waiting for the system to clear it away; the destructor
-    // waits.
+    // Kills the process without waiting for it; the destructor waits.
     void kill();
 
 private:
-    bool endsSoon();
+    bool exitsSoon();
     void waitForEnd();
 
     pid_t iProcess = -1;
-    bool iHasEnded = false; // and was cleared away
-    int iStatus = 0;        // once it has
+    bool iHasEnded = false; // and has been reaped
+    int iStatus = 0;        // valid once it has
     int iToChild = -1;
     int iFromChild = -1;
     QByteArray iBuffer;
-    qsizetype iSearched = 0; // bytes of it that hold no line end
+    qsizetype iSearched = 0; // bytes of iBuffer already searched for a line ending
 };

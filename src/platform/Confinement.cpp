@@ -12,7 +12,7 @@ bool isIn(const QString& folder, const QString& path) {
     return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
 }
 
-// Null for what is not there, links that lead nowhere or in a circle included.
+// Null for a path that does not exist, dangling and circular links included.
 QString realPath(const QString& path) {
     const std::unique_ptr<char, void (*)(void*)> real(
         ::realpath(QFile::encodeName(path).constData(), nullptr), std::free);
@@ -37,8 +37,8 @@ bool Confinement::contains(const QString& folder, const QString& path) {
     const QString real = realPath(path);
     if (!real.isEmpty())
         return !realRoot.isEmpty() && isIn(realRoot, real);
-    // Not there: nothing on the way may lead elsewhere, once it is there. With ".." behind a link
-    // the tidied path would say nothing.
+    // The file does not exist: no component may lead elsewhere once it does. With ".." behind a
+    // link the normalised path would not be reliable.
     if (path.split(u'/').contains(u".."))
         return false;
     QString part = clean;

@@ -2,12 +2,12 @@
 
 #include <QString>
 
-// Keeps file names that others wrote within the folder that they belong to.
+// Checks that file names from untrusted sources stay inside their folder.
 namespace Confinement {
 
-// Whether a path that begins with a folder's stays in that folder when it is opened, whatever ".."
-// and symbolic links it passes; so it does if the file is not there. The folder itself may be
-// reached through links.
+// Whether a path that begins with the folder's path stays inside the folder when opened, after
+// resolving ".." and symbolic links. Also works for files that do not exist. The folder itself may
+// be reached through links.
 bool contains(const QString& folder, const QString& path);
 
 } // namespace Confinement

@@ -3,7 +3,7 @@
 #include <unistd.h>
 #include <utility>
 
-// An open file or folder, closed when this goes.
+// Owns the descriptor of an open file or folder and closes it on destruction.
 class FileDescriptor {
 public:
     explicit FileDescriptor(int number) : iNumber(number) {}
@@ -15,8 +15,8 @@ public:
 
     int number() const { return iNumber; }
     bool isOpen() const { return iNumber >= 0; }
-    // False when it was not open or when closing failed: network file systems tell only then that
-    // the disk is full.
+    // False when it was not open or closing failed: network file systems may report a full disk
+    // only then.
     bool close() { return isOpen() && ::close(std::exchange(iNumber, -1)) == 0; }
 
 private:

@@ -4,8 +4,8 @@
 #include <sys/types.h>
 #include <time.h>
 
-// Which file lies at a path, and when it was written: two states differ when the file was replaced,
-// written or taken away in between.
+// Identity and modification time of the file at a path. Two states differ when the file was
+// replaced, written or removed in between.
 struct FileState {
     bool isThere = false;
     dev_t device = 0;

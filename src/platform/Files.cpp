@@ -65,11 +65,11 @@ QByteArray Files::contents(const QString& path) {
 bool Files::writeAtomically(const QString& path, const QByteArray& data, Message* error) {
     errno = 0;
     QSaveFile file(path);
-    // commit() flushes too, but takes no notice of a failure.
+    // commit() flushes too, but ignores errors.
     if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush() &&
         file.commit())
         return true;
-    // The toolkit's own words come in the window's language alone.
+    // Qt's own error text is available in the window's language only.
     if (error)
         *error = errno ? Message::ofLastSystemError() : Message(file.errorString());
     return false;

@@ -5,7 +5,7 @@
 #include <QDir>
 
 QStringList FolderList::foldersBeneath(const QString& folder) {
-    // With QDir::System pipes, sockets and links that lead nowhere would be among them.
+    // QDir::System would also return pipes, sockets and dangling links.
     constexpr auto foldersOnly =
         QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks;
     QStringList found;
@@ -14,7 +14,7 @@ QStringList FolderList::foldersBeneath(const QString& folder) {
         const QString current = pending.takeLast();
         if (current != folder)
             found << current;
-        // What lies on top of the pile comes next, so the last name goes in first.
+        // The top of the stack is visited next, so names are pushed in reverse.
         const QStringList names = QDir(current).entryList(foldersOnly, QDir::Name | QDir::Reversed);
         for (const QString& name : names)
             pending << Files::join(current, name);

@@ -5,8 +5,9 @@
 
 namespace FolderList {
 
-// Paths of all folders beneath one, at every depth, hidden ones included and a folder before its
-// contents, sorted by name within a folder. Links are not followed. Empty for a missing folder.
+// Paths of all folders below the given one, recursively, including hidden ones; each folder before
+// its contents, sorted by name. Symbolic links are not followed. Empty when the folder does not
+// exist.
 QStringList foldersBeneath(const QString& folder);
 
 } // namespace FolderList

@@ -14,8 +14,8 @@ namespace {
 
 constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
-// All before the first one is removed: what a list does that shrinks while it is read is up to the
-// file system.
+// Reads all names before removing any: what readdir() returns when entries are removed meanwhile
+// depends on the file system.
 std::vector<QByteArray> namesIn(int folder) {
     std::vector<QByteArray> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> list(

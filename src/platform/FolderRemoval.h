@@ -3,18 +3,18 @@
 #include <QByteArray>
 #include <QString>
 
-// Removes folders with all that lies beneath them, where others may have put something there: a
-// symbolic link goes as a link and is never followed, and what is mounted beneath stays.
+// Removes folders recursively where other users may have write access: symbolic links are removed,
+// never followed, and mounted file systems are left alone.
 namespace FolderRemoval {
 
-// Of a folder by its path; the folders on the way to it are followed as usual. True when nothing is
-// left of it.
+// Removes a folder by its path; links in the path leading to it are followed as usual. True when
+// nothing of it is left.
 bool remove(const QString& path);
 
-// Of an entry of an open folder. The entry may be a file.
+// Removes an entry, file or folder, of an open folder.
 bool removeEntry(int folder, const QByteArray& name);
 
-// Removes what an open folder holds. True when it is empty now.
+// Removes the contents of an open folder. True when it is empty afterwards.
 bool empty(int folder);
 
 } // namespace FolderRemoval

@@ -2,18 +2,18 @@
 
 #include <QString>
 
-// The operating system's standard folders. Paths come without a trailing separator; a null text
-// means that the system names none.
+// The operating system's standard folders. Paths have no trailing separator; a null text means that
+// the system defines none.
 namespace Folders {
 
 QString userApplicationSupport();
 QString machineApplicationSupport();
 QString temporary();
 
-// The fixed machine-wide folder in which Flash Player on a Mac looks for trust files.
+// The fixed system-wide folder in which Flash Player on a Mac looks for trust files.
 QString libraryApplicationSupport();
 
-// Tests move the two machine-wide folders beneath a folder of their own; an empty text undoes it.
+// For tests: moves the two system-wide folders below another folder; an empty text restores them.
 void setMachineRoot(const QString& folder);
 
 } // namespace Folders

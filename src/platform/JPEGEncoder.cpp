@@ -9,15 +9,15 @@
 
 namespace {
 
-// At 90 nobody can tell text from the drawing it was made from; at 25 text of 10 points is still
-// read without effort, and below it letters begin to break up.
+// At 90 text can't be distinguished from the original; at 25 text of 10 points is still easy to
+// read, and below that glyphs start to break up.
 constexpr int bestQuality = 90;
 constexpr int lowestQuality = 25;
 
-// Half-size colour planes save a third of the time and a quarter of the file, and show only where
-// saturated colours meet within two pixels: coloured text and line art. Those are found by the
-// difference of colour inside blocks of 2 by 2 pixels; a handful of blocks is noise. Every other
-// row of blocks is enough: letters are taller than that.
+// 4:2:0 chroma subsampling saves a third of the time and a quarter of the file size, and shows only
+// where saturated colours meet within two pixels: coloured text and line art. Those are detected by
+// the colour difference inside blocks of 2 by 2 pixels; a handful of such blocks is noise. Checking
+// every other row of blocks is enough: glyphs are taller than that.
 constexpr int visibleColourStep = 128;
 constexpr std::size_t toleratedBlocks = 32;
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <span>
 
-// Encodes page pictures as JPEG. One object encodes picture after picture into the same memory.
+// Encodes page bitmaps as JPEG. Reuses its output buffer from call to call.
 class JPEGEncoder {
 public:
     JPEGEncoder();

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <functional>
 
-// Runs work on a thread of its own with a stack of that many bytes and waits for its end: for
-// libraries that call themselves as deep as their input nests. False when there is no such thread
-// to be had; then nothing was run.
+// Runs work on a separate thread with a stack of that many bytes and waits for it to finish: for
+// libraries that recurse as deeply as their input is nested. Exceptions are rethrown to the caller.
+// False when the thread can't be created; work has not run then.
 bool runWithLargeStack(std::size_t stackBytes, const std::function<void()>& work);

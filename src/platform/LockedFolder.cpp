@@ -19,8 +19,8 @@ constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC
 constexpr mode_t permissions = 0777;
 constexpr mode_t ownersOnly = 0700;
 
-// The folders that this process has claimed.
-class Claims {
+// The folders that this process has locked.
+class HeldLocks {
 public:
     void add(const QByteArray& path, FileDescriptor folder) {
         const std::lock_guard lock(iMutex);
@@ -36,8 +36,8 @@ private:
     std::map<QByteArray, FileDescriptor> iFolders;
 };
 
-Claims& claims() {
-    static Claims all;
+HeldLocks& heldLocks() {
+    static HeldLocks all;
     return all;
 }
 
@@ -45,21 +45,21 @@ bool lock(const FileDescriptor& folder) {
     return folder.isOpen() && ::flock(folder.number(), LOCK_EX | LOCK_NB) == 0;
 }
 
-// The mark comes after the lock: so a folder that has the one without the other is nobody's.
-void claim(const QByteArray& path) {
+// The sticky bit is set after the lock is held: a folder that has the bit but no lock is abandoned.
+void lockAndMark(const QByteArray& path) {
     FileDescriptor folder(::open(path.constData(), openFolderItself));
     struct stat info {};
     if (lock(folder) && ::fstat(folder.number(), &info) == 0 &&
         ::fchmod(folder.number(), (info.st_mode & 07777) | S_ISVTX) == 0)
-        claims().add(path, std::move(folder));
+        heldLocks().add(path, std::move(folder));
 }
 
-bool isOwnPrivateFolder(const struct stat& info) {
+bool isPrivateFolderOfUser(const struct stat& info) {
     return S_ISDIR(info.st_mode) && info.st_uid == ::geteuid() &&
            (info.st_mode & permissions) == ownersOnly;
 }
 
-// Whether the name still stands for the folder that was looked at.
+// Whether the name still refers to the folder that was opened.
 bool isEntry(int parent, const QByteArray& name, const struct stat& folder) {
     struct stat info {};
     return ::fstatat(parent, name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0 &&
@@ -76,13 +76,13 @@ QString LockedFolder::make(const QString& path) {
     QByteArray name = QFile::encodeName(path);
     if (!::mkdtemp(name.data()))
         return {};
-    claim(name);
+    lockAndMark(name);
     return QFile::decodeName(name);
 }
 
 bool LockedFolder::remove(const QString& path) {
     const bool isGone = FolderRemoval::remove(path);
-    claims().drop(QFile::encodeName(path));
+    heldLocks().drop(QFile::encodeName(path));
     return isGone;
 }
 
@@ -95,12 +95,12 @@ bool LockedFolder::removeIfAbandoned(int parent, const QByteArray& name,
                                      std::optional<std::chrono::seconds> unlockedFor) {
     const FileDescriptor folder(::openat(parent, name.constData(), openFolderItself));
     struct stat info {};
-    if (!folder.isOpen() || ::fstat(folder.number(), &info) != 0 || !isOwnPrivateFolder(info))
+    if (!folder.isOpen() || ::fstat(folder.number(), &info) != 0 || !isPrivateFolderOfUser(info))
         return false;
     const bool wasLocked = (info.st_mode & S_ISVTX) != 0;
     if (!wasLocked && !isOld(info, unlockedFor))
         return false;
-    // Whoever else clears away at the same time stops here.
+    // Another process that is cleaning up at the same time fails here.
     if (!lock(folder) || !isEntry(parent, name, info))
         return false;
     return FolderRemoval::empty(folder.number()) &&

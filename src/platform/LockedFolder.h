@@ -5,26 +5,26 @@
 #include <chrono>
 #include <optional>
 
-// Working folders that show whether the process that made them is still alive: it holds a lock on
-// its folder, which the system lets go when the process ends, however it ends. A folder that was
-// locked once carries the sticky bit, so one without it may be in use although nobody locks it; it
-// stands on a file system without locks, or an older version made it.
+// Working folders locked by the process that made them. The kernel releases the lock when the
+// process ends, however it ends. A folder that was locked once carries the sticky bit; one without
+// it may be in use although it is not locked, since it is on a file system without locks or an
+// older version made it.
 namespace LockedFolder {
 
-// Makes a folder, for this user only, and claims it until it is removed or the process ends. The
-// path ends in "XXXXXX", which becomes something unique. Null with the reason in errno when the
-// folder can't be made.
+// Creates a folder that only this user can access, and locks it until it is removed or the process
+// ends. The path must end in "XXXXXX", which is replaced to make it unique. Null, with the cause in
+// errno, when the folder can't be created.
 QString make(const QString& path);
 
-// Removes a folder with its contents, and lets it go.
+// Removes a folder with its contents, and releases the lock.
 bool remove(const QString& path);
 
-// Whether another process, or this one, holds an entry of an open folder.
+// Whether any process, including this one, has locked an entry of an open folder.
 bool isLocked(int parent, const QByteArray& name);
 
-// Removes an entry of an open folder if it is a folder of this user that nobody but this user may
-// read, and whose process is gone. For one that was never locked this is taken for granted once
-// nothing in it has changed for that time; without a time it stays.
+// Removes an entry of an open folder if it is a folder that belongs to this user, that only this
+// user can read, and whose process is gone. A folder that was never locked counts as abandoned when
+// nothing in it has changed for unlockedFor; without that value it is kept.
 bool removeIfAbandoned(int parent, const QByteArray& name,
                        std::optional<std::chrono::seconds> unlockedFor);
 

@@ -23,8 +23,8 @@ Watcher& watcher() {
     return instance;
 }
 
-void tellWatcher(Log::Level level, const char* logger, const QString& text,
-                 const CodeLocation& where) {
+void notifyWatcher(Log::Level level, const char* logger, const QString& text,
+                   const CodeLocation& where) {
     const std::lock_guard lock(watcher().mutex);
     if (watcher().function)
         watcher().function({level, QString::fromLatin1(logger), text, where});
@@ -54,8 +54,8 @@ log4cplus::LogLevel libraryLevel(Log::Level level) {
     return log4cplus::ERROR_LOG_LEVEL;
 }
 
-// The library complains on standard error about a root logger without an appender, so it starts
-// with one that drops everything.
+// log4cplus complains on standard error about a root logger without an appender, so it starts with
+// one that discards everything.
 void startLibrary() {
     static std::once_flag once;
     std::call_once(once, [] {
@@ -97,7 +97,7 @@ void Log::error(const QString& text, CodeLocation where) const {
 }
 
 void Log::write(Level level, const QString& text, const CodeLocation& where) const {
-    tellWatcher(level, iName, text, where);
+    notifyWatcher(level, iName, text, where);
     if (hasEnded())
         return;
     auto logger = log4cplus::Logger::getInstance(iName);
@@ -108,7 +108,7 @@ void Log::write(Level level, const QString& text, const CodeLocation& where) con
 }
 
 void Log::system(const QString& text) {
-    tellWatcher(Level::warn, "system", text, CodeLocation::current());
+    notifyWatcher(Level::warn, "system", text, CodeLocation::current());
     ::syslog(LOG_USER | LOG_NOTICE, "%s", text.toUtf8().constData());
 }
 

@@ -5,14 +5,14 @@
 #include <utility>
 #include <vector>
 
-// A place in the code. The library's own type for it does not compile with every compiler that we
-// check the code with.
+// A source location. std::source_location does not compile with all compilers that we check the
+// code with.
 struct CodeLocation {
     const char* file;
     const char* function;
     unsigned line;
 
-    // The place of the call.
+    // The location of the call.
     static constexpr CodeLocation current(const char* file = __builtin_FILE(),
                                           const char* function = __builtin_FUNCTION(),
                                           unsigned line = __builtin_LINE()) {
@@ -34,7 +34,7 @@ public:
 
     explicit Log(const char* name);
 
-    // Use before building an expensive text.
+    // Check this before building an expensive text.
     bool isDebugEnabled() const;
 
     void debug(const QString& text, CodeLocation where = CodeLocation::current()) const;
@@ -45,21 +45,20 @@ public:
     // For the few messages that belong in the operating system's log rather than in ours.
     static void system(const QString& text);
 
-    // Configures the loggers from a properties file with the given keys replaced or added. Returns
-    // false when the file can't be read.
+    // Configures the loggers from a properties file, with the given keys replaced or added. False
+    // when the file can't be read.
     static bool configure(const QString& propertiesFile,
                           const std::vector<std::pair<QString, QString>>& overrides = {});
 
-    // What the headless program does: records below the level are dropped, the others go to
-    // standard error. Nothing at all is written before this or configure() was called.
+    // For terminal programs: records below the level are dropped, the others go to standard error.
+    // Nothing is written until this or configure() has been called.
     static void configureForTerminal(Level lowest);
 
-    // For a process that must have no other threads: nothing more is logged, and the threads that
-    // the logging library has started end.
+    // Stops logging and joins log4cplus's threads, for a process that must be single-threaded.
     static void end();
 
-    // Tests watch the records (system messages arrive under the logger name "system"). An empty
-    // function ends it.
+    // For tests: observes all records (system messages under the logger name "system"). An empty
+    // function removes the watcher.
     static void setWatcher(std::function<void(const Record&)> watcher);
 
 private:

@@ -3,13 +3,13 @@
 #include <QByteArray>
 #include <QString>
 
-// What kind of data a file holds, as the web names it.
+// Media types (MIME types) of files.
 namespace MediaType {
 
-// By the ending of the file's name; "application/octet-stream" for one that books don't have.
+// By the file name's extension; "application/octet-stream" for one that is not used in books.
 QByteArray ofFile(const QString& name);
 
-// The same with the character set behind the kinds that are text.
+// The same, with a charset parameter for text types.
 QByteArray withCharacterSet(const QString& name);
 
 } // namespace MediaType

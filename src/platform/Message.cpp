@@ -12,7 +12,7 @@ bool isTemporaryError(int error) {
     case ENOSPC:
     case EDQUOT:
     case EIO:
-    case ENOENT: // of a folder that was there
+    case ENOENT: // for a folder that existed
     case ESTALE:
     case ENODEV:
     case ENXIO:
@@ -39,8 +39,7 @@ Message Message::translate(const char* context, const char* text) {
     return {QString::fromUtf8(text), QCoreApplication::translate(context, text)};
 }
 
-// The function that is usually taken for this answers in the language of the system, which need be
-// neither English nor the window's.
+// strerror() would answer in the system's language, which may be neither English nor the window's.
 Message Message::ofSystemError(int error) {
     const char* text = ::strerrordesc_np(error);
     const Message words =

@@ -4,35 +4,34 @@
 #include <QString>
 #include <QStringList>
 
-// A text for people in two languages: English, for the log and for programs without a window, and
-// the one that the window speaks. Where no translations are installed the two are the same.
+// A text for users in two languages: English, for the log and the terminal, and the language of the
+// window. The two are the same when no translation is installed.
 class Message {
 public:
-    // None.
+    // The null message.
     Message() = default;
-    // The same in every language, such as a path or the words of a library.
+    // The same in every language, such as a path or an error text of a library.
     Message(const QString& text) : Message(text, text) {}
     Message(QString english, QString local)
         : iEnglish(std::move(english)), iLocal(std::move(local)) {}
 
-    // Looks a text up as the toolkit's function of that name does, from any thread.
+    // Looks up a translation like QCoreApplication::translate(). Thread-safe.
     static Message translate(const char* context, const char* text);
-    // The system's words for an error number, and for the last error of this thread. Temporary when
-    // the cause may be gone later without a change to the files or to the command: a full disk, a
-    // share that is not there, a folder that was taken away.
+    // The system's text for an error number, and for this thread's errno. Temporary when the cause
+    // may go away without a change to the files or the command: a full disk, a share that is not
+    // mounted, a folder that was removed.
     static Message ofSystemError(int error);
     static Message ofLastSystemError();
 
     const QString& english() const { return iEnglish; }
     const QString& local() const { return iLocal; }
     bool isNull() const { return iEnglish.isNull(); }
-    // Whether what it reports may be gone when it is tried again later.
+    // Whether trying again later may help.
     bool isTemporary() const { return iIsTemporary; }
-    // The same text, temporary from now on.
+    // The same text, marked as temporary.
     Message temporary() const;
 
-    // Puts texts or messages in place of %1, %2 and so on, all at once. Temporary when one of them
-    // is.
+    // Replaces %1, %2 and so on with texts or messages, all at once. Temporary when one of them is.
     template <class... Values>
     Message arg(const Values&... values) const {
         const Message filled(iEnglish.arg(Message(values).english()...),
@@ -49,7 +48,7 @@ private:
 
 using Messages = QList<Message>;
 
-// Whether one of them is temporary.
+// Whether any of them is temporary.
 bool areTemporary(const Messages& messages);
 
 QStringList englishTexts(const Messages& messages);

@@ -35,7 +35,7 @@ void NotificationCenter::post(const QString& name, const void* object,
 
 void NotificationCenter::enqueueWhenIdle(const QString& name, const void* object,
                                          const QVariantMap& userInfo) {
-    // A zero timer fires only after the events that are already waiting.
+    // A zero timer fires after all events that are already queued.
     QTimer::singleShot(0, QCoreApplication::instance(),
                        [this, name, object, userInfo] { post(name, object, userInfo); });
 }

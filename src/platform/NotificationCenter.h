@@ -13,14 +13,14 @@ struct Notification {
     QVariantMap userInfo;
 };
 
-// Delivers notifications by name to whoever subscribed. Safe to use from any thread; an observer is
-// called synchronously on the thread that posts.
+// Delivers notifications by name to subscribers. Thread-safe; observers are called synchronously on
+// the posting thread.
 class NotificationCenter {
 public:
     using Observer = std::function<void(const Notification&)>;
 
-    // Keeps one observer registered for as long as it lives. Once its destructor has returned the
-    // observer isn't started any more (a call already running on another thread may still finish).
+    // Keeps an observer registered for its lifetime. After the destructor returns, no new call to
+    // the observer starts; a call already running on another thread may still finish.
     class Subscription {
     public:
         Subscription() = default;
@@ -32,12 +32,12 @@ public:
 
     static NotificationCenter& defaultCenter();
 
-    // object == nullptr observes any sender.
+    // object == nullptr observes all senders.
     [[nodiscard]] Subscription addObserver(const QString& name, const void* object,
                                            Observer observer);
     void post(const QString& name, const void* object = nullptr, const QVariantMap& userInfo = {});
 
-    // Posts on the main thread once its event loop has nothing else to do.
+    // Posts on the main thread when its event loop is idle.
     void enqueueWhenIdle(const QString& name, const void* object = nullptr,
                          const QVariantMap& userInfo = {});
 

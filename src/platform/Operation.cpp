@@ -16,7 +16,7 @@ void Operation::start() {
 
 OperationQueue::OperationQueue() {
     iPool.setMaxThreadCount(1);
-    // Page drawing recurses through nested forms and groups; the engine expects a full-size stack.
+    // Page drawing recurses through nested forms and groups; MuPDF expects a full-size stack.
     iPool.setStackSize(8U << 20);
 }
 

@@ -7,23 +7,24 @@
 #include <mutex>
 #include <vector>
 
-// A piece of work that runs once on an operation queue.
+// A task that runs once on an operation queue.
 class Operation {
 public:
     virtual ~Operation() = default;
 
-    // The work itself. It is called also after a cancel and looks at isCancelled() on its own.
+    // The work itself. Also called after a cancel; implementations check isCancelled().
     virtual void main() = 0;
 
     virtual void cancel() { iCancelled = true; }
     bool isCancelled() const { return iCancelled; }
     bool isFinished() const { return iFinished; }
 
-    // Called once, on the operation's thread, when isFinished() has turned true. Set it before the
-    // operation is queued; hop to the main thread before touching a window.
+    // Called once, on the operation's thread, when isFinished() has become true. Set it before the
+    // operation is queued; switch to the main thread before touching a window.
     void setFinishedObserver(std::function<void()> observer) { iObserver = std::move(observer); }
 
-    // Runs main() and then counts as finished, even when main() throws (the exception is logged).
+    // Runs main() and marks the operation finished, even when main() throws (the exception is
+    // logged).
     void start();
 
 private:
@@ -32,8 +33,8 @@ private:
     std::function<void()> iObserver;
 };
 
-// Runs operations one after the other on a thread of its own. Its destructor cancels what is left
-// and waits for it.
+// Runs operations one at a time on its own thread. The destructor cancels the remaining ones and
+// waits for them.
 class OperationQueue {
 public:
     OperationQueue();
@@ -45,7 +46,7 @@ public:
     void cancelAllOperations();
     void waitUntilAllOperationsAreFinished();
 
-    // Waits at most that long; true when nothing is left.
+    // Waits at most that long; true when no operation is left.
     bool waitFor(int milliseconds);
 
     // Operations queued or running.

@@ -16,13 +16,13 @@
 
 namespace {
 
-const Log& engineLog() {
+const Log& muPDFLog() {
     static const Log log("PDFEngine");
     return log;
 }
 
-// The allocator counts what the engine holds and refuses to go past the limit. The engine then
-// empties its cache and tries again before it gives the page up.
+// Counts what MuPDF allocates and refuses to exceed the limit. MuPDF then empties its store and
+// tries again before it reports an error.
 void* limitedRealloc(void* user, void* old, std::size_t size) {
     auto& held = *static_cast<std::size_t*>(user);
     const std::size_t before = old ? ::malloc_usable_size(old) : 0;
@@ -45,17 +45,17 @@ void countedFree(void* user, void* memory) {
     std::free(memory);
 }
 
-// Called from inside the engine, which no exception may cross.
-void logEngineMessage(void* /*user*/, const char* message) noexcept {
+// Called from MuPDF's C code, so no exception may escape.
+void logMuPDFMessage(void* /*user*/, const char* message) noexcept {
     try {
-        if (engineLog().isDebugEnabled())
-            engineLog().debug(QString::fromUtf8(message));
+        if (muPDFLog().isDebugEnabled())
+            muPDFLog().debug(QString::fromUtf8(message));
     } catch (const std::exception&) {
-        return; // a lost warning harms nobody
+        return; // losing a warning is harmless
     }
 }
 
-// The cause follows the file's path and a colon.
+// The reason is "PATH: CAUSE".
 [[noreturn]] void failToOpen(const QString& path, const Message& cause) {
     throw PlatformException(QStringLiteral("PDFOpenFailed"),
                             Message(QStringLiteral("%1: %2")).arg(path, cause));
@@ -67,7 +67,7 @@ void checkFile(const QString& path) {
         failToOpen(path, Message::translate("PDFDocument", "no such file"));
     if (info.isDir())
         failToOpen(path, Message::translate("PDFDocument", "is a folder, not a PDF file"));
-    // It may never end.
+    // Reading a pipe or device may never end.
     if (!info.isFile())
         failToOpen(path,
                    Message::translate("PDFDocument", "is a pipe or a device, not a PDF file"));
@@ -92,8 +92,8 @@ PDFDocument::Engine::Engine(QString filePath) : path(std::move(filePath)) {
     context = fz_new_context(&allocator, nullptr, PDFLimits::maxStoreSize);
     if (!context)
         throw std::bad_alloc();
-    fz_set_warning_callback(context, logEngineMessage, nullptr);
-    fz_set_error_callback(context, logEngineMessage, nullptr);
+    fz_set_warning_callback(context, logMuPDFMessage, nullptr);
+    fz_set_error_callback(context, logMuPDFMessage, nullptr);
 }
 
 PDFDocument::Engine::~Engine() {
@@ -200,8 +200,8 @@ int PDFDocument::Engine::lookUpDestination(pdf_obj* destination) const {
     pdf_obj* first = get(
         [&](fz_context* ctx) {
             pdf_obj* target = destination;
-            // The engine doesn't look into the name tree of a document that has the older
-            // dictionary of names as well.
+            // MuPDF does not search the name tree of a document that also has the older dictionary
+            // of names.
             if (pdf_is_string(ctx, destination))
                 target = pdf_lookup_name(ctx, document, PDF_NAME(Dests), destination);
             if (pdf_is_name(ctx, destination) || !target)

@@ -21,22 +21,22 @@ struct PDFOutlineNode {
 // An open PDF file. One thread may use it at a time.
 class PDFDocument {
 public:
-    // How the file's bytes are read. A mapped file is the fastest, but a file that shrinks while it
-    // is mapped ends the process: only for processes that may die.
+    // How the file is read. mapped is faster, but the process crashes if the file shrinks while it
+    // is mapped: only for processes that may crash.
     enum class Access { stream, mapped };
 
-    // Throws PlatformException whose reason says, in words, why the file can't be used: missing,
-    // unreadable, empty, not a PDF, damaged, or protected by a password.
+    // Throws PlatformException whose reason says why the file can't be used: missing, unreadable,
+    // empty, not a PDF, damaged, or password-protected.
     static std::shared_ptr<PDFDocument> open(const QString& path, Access access = Access::stream);
 
-    // The same with another process that reads the file for this one, so that a file made to break
-    // or to busy the PDF engine harms that process only: its questions then throw, see PDFReader.
-    // Pages of such a document can't be drawn. stopped, asked while it is read, ends that. Where no
-    // such process can be started the file is read here.
+    // Opens the file in a sandboxed process, so that a file made to crash or hang MuPDF affects
+    // only that process: queries then throw, see PDFReader. Pages of such a document can't be
+    // drawn. stopped is polled while waiting and cancels reading. Where no such process can be
+    // started, the file is read in this one.
     static std::shared_ptr<PDFDocument> openSandboxed(const QString& path,
                                                       std::function<bool()> stopped = {});
 
-    // Lets the process go that reads the file, if there is one, until it is needed again.
+    // Ends the reader process, if there is one; it is started again when needed.
     void stopReader() const;
 
     ~PDFDocument();
@@ -44,27 +44,27 @@ public:
     PDFDocument& operator=(const PDFDocument&) = delete;
 
     QString path() const;
-    // Throws PlatformException "PDFChanged" when there is another file by now, or it was written
-    // since it was opened: what is read and drawn of it may be of two documents then. The reason is
+    // Throws PlatformException "PDFChanged" when the file was replaced or written since it was
+    // opened: what was read and drawn may then come from two different documents. The reason is
     // temporary, see Message.
     void checkUnchanged() const;
     int pageCount() const;
 
-    // The page at a zero-based index. It must not outlive the document. Throws PlatformException
+    // The page at a zero-based index. The document must outlive it. Throws PlatformException
     // "PDFPageMissing" when the document has no such page or the page can't be read.
     PDFPage page(int index) const;
 
-    // Text of the information dictionary ("Title", "Author" ...), or a null text.
+    // An entry of the information dictionary ("Title", "Author" ...), or a null text.
     QString information(const char* key) const;
 
-    // The natural language of the text ("de", "en-GB"), or a null text.
+    // The document's natural language ("de", "en-GB"), or a null text.
     QString language() const;
 
-    // What the pages are called ("iv", "A-3"), by zero-based index, empty texts where they have no
-    // name; nothing at all for a document that does not name its pages.
+    // Page labels ("iv", "A-3") by zero-based index, empty for pages without one. An empty list for
+    // a document without page labels.
     std::vector<QString> pageLabels() const;
 
-    // The entries at the top of the outline.
+    // The top-level entries of the outline.
     std::vector<PDFOutlineNode> outline() const;
 
 private:
@@ -76,7 +76,7 @@ private:
     PDFDocument(QString path, std::unique_ptr<PDFReader> reader);
 
     QString iPath;
-    FileState iState;                   // from before it was opened
+    FileState iState;                   // taken before it was opened
     std::unique_ptr<Engine> iEngine;    // one of
     std::unique_ptr<PDFReader> iReader; // the two
 };

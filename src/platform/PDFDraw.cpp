@@ -10,19 +10,19 @@
 
 namespace {
 
-// Colour values closer together than this count as gray. It is the step of an 8-bit channel, so
-// nobody can see it.
+// Colour values closer together than this count as gray: one step of an 8-bit channel, which is
+// invisible.
 constexpr float grayTolerance = 1.0F / 256;
 
-// Ends a drawing when its time is up or it is to stop, by raising the engine's abort flag.
-class DrawWatch {
+// Aborts a drawing through MuPDF's abort flag when it times out or is stopped.
+class DrawTimeout {
 public:
-    explicit DrawWatch(const DrawControl& control)
+    explicit DrawTimeout(const DrawControl& control)
         : iControl(control),
           iDeadline(std::chrono::steady_clock::now() + control.timeLimit),
           iThread([this] { watch(); }) {}
 
-    ~DrawWatch() {
+    ~DrawTimeout() {
         {
             const std::lock_guard lock(iMutex);
             iDone = true;
@@ -30,8 +30,8 @@ public:
         iWake.notify_one();
         iThread.join();
     }
-    DrawWatch(const DrawWatch&) = delete;
-    DrawWatch& operator=(const DrawWatch&) = delete;
+    DrawTimeout(const DrawTimeout&) = delete;
+    DrawTimeout& operator=(const DrawTimeout&) = delete;
 
     fz_cookie* cookie() { return &iCookie; }
 
@@ -81,8 +81,8 @@ struct PixelSize {
     double scale; // pixels per point
 };
 
-// The whole pixels of a page at a scale, or at the largest scale within the limits. A fraction of a
-// pixel at the right and lower edge is left out: drawn in part, it would show as a light seam.
+// The size in whole pixels at a scale, or at the largest scale within the limits. A fraction of a
+// pixel at the right and lower edges is dropped: it would show as a light seam.
 PixelSize pixelSize(double width, double height, double scale) {
     using namespace PDFLimits;
     const double pixels = width * scale * height * scale;
@@ -92,14 +92,14 @@ PixelSize pixelSize(double width, double height, double scale) {
         factor = std::sqrt(double(maxBitmapPixels) / pixels);
     if (side * factor > maxBitmapSide)
         factor = maxBitmapSide / side;
-    constexpr double rounding = 1e-3; // of the engine's single-precision numbers
+    constexpr double rounding = 1e-3; // error of MuPDF's single-precision numbers
     const auto whole = [&](double length) {
         return std::max(1, int(length * scale * factor + rounding));
     };
     return {whole(width), whole(height), scale * factor};
 }
 
-// Whether any pixel of a colour picture is more than gray.
+// Whether any pixel of a colour picture is not gray.
 bool hasColour(const PageBitmap& bitmap) {
     const unsigned char* pixel = bitmap.data();
     for (int y = 0; y < bitmap.height(); ++y) {
@@ -112,7 +112,7 @@ bool hasColour(const PageBitmap& bitmap) {
     return false;
 }
 
-// Keeps the first component of every pixel, in place.
+// Converts to gray in place by keeping the first component of every pixel.
 void dropColour(PageBitmap& bitmap) {
     const std::size_t count = std::size_t(bitmap.width()) * std::size_t(bitmap.height());
     unsigned char* samples = bitmap.data();
@@ -126,8 +126,8 @@ struct DrawnPage {
     int isColour = 0;
 };
 
-// Notices whether anything is blended into what lies beneath it other than by covering it.
-struct BlendWatch {
+// Detects whether anything is blended with its backdrop other than by covering it.
+struct BlendDetector {
     fz_device super;
     bool blends;
 };
@@ -135,11 +135,11 @@ struct BlendWatch {
 void watchGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
                 int /*isolated*/, int /*knockout*/, int blendMode, float /*alpha*/) {
     if (blendMode != FZ_BLEND_NORMAL)
-        reinterpret_cast<BlendWatch*>(device)->blends = true;
+        reinterpret_cast<BlendDetector*>(device)->blends = true;
 }
 
 bool blends(fz_context* ctx, fz_display_list* list) {
-    auto* watch = fz_new_derived_device(ctx, BlendWatch);
+    auto* watch = fz_new_derived_device(ctx, BlendDetector);
     watch->super.begin_group = watchGroup;
     bool result = true;
     fz_try(ctx) {
@@ -156,7 +156,7 @@ bool blends(fz_context* ctx, fz_display_list* list) {
     return result;
 }
 
-// Interprets the page once, which also tells whether it asks for any colour.
+// Interprets the page once into a display list and detects whether it uses colour.
 void recordPage(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& drawn) {
     fz_device* recorder = nullptr;
     fz_device* test = nullptr;
@@ -179,8 +179,8 @@ void recordPage(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& dr
     }
 }
 
-// Takes the links off a page. They don't show, but loading the page would follow each of them to
-// its destination, which takes longer than drawing on pages full of references.
+// Removes the links of a page. They are not drawn, but loading the page would resolve each
+// destination, which takes longer than drawing on pages full of references.
 void dropLinks(fz_context* ctx, pdf_obj* page) {
     pdf_obj* annotations = pdf_dict_get(ctx, page, PDF_NAME(Annots));
     const int count = pdf_array_len(ctx, annotations);
@@ -203,9 +203,9 @@ void dropLinks(fz_context* ctx, pdf_obj* page) {
     }
 }
 
-// A page that may blend is drawn as a picture of its own first, which is then laid on the paper.
-// Many a document says so of all its pages and means a few. Without blending the paper can be drawn
-// on directly, to the same effect in less time.
+// A page with a transparency group is drawn into a separate picture first, which is then composited
+// onto white. Many documents declare a group on every page but use blending on a few only. Without
+// blending the page can be drawn directly, faster and with the same result.
 void recordPageSimply(fz_context* ctx, fz_page* page, fz_cookie* cookie, DrawnPage& drawn) {
     pdf_page* pdfPage = pdf_page_from_fz_page(ctx, page);
     const int transparency = pdfPage->transparency;
@@ -230,7 +230,7 @@ void drawList(fz_context* ctx, fz_display_list* list, const fz_matrix& matrix, P
             ctx, bitmap.components() == 1 ? fz_device_gray(ctx) : fz_device_rgb(ctx),
             bitmap.width(), bitmap.height(), nullptr, 0, bitmap.stride(), bitmap.data());
         fz_clear_pixmap_with_value(ctx, pixmap, 0xFF);
-        // The list brings the matrix along, so that the device sees final positions of images.
+        // The list contains the matrix, so the device sees final positions of images.
         device = fz_new_draw_device(ctx, fz_identity, pixmap);
         scaleImagesFast(device);
         fz_run_display_list(ctx, list, device, matrix, fz_infinite_rect, cookie);
@@ -249,7 +249,7 @@ void drawList(fz_context* ctx, fz_display_list* list, const fz_matrix& matrix, P
 
 void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control) const {
     const auto& engine = *iDocument->iEngine;
-    DrawWatch watch(control);
+    DrawTimeout watch(control);
     DrawnPage drawn;
     fz_page* page = nullptr;
     fz_rect bounds = fz_empty_rect;
@@ -277,7 +277,7 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
     engine.run("PDFPageUnreadable",
                [&](fz_context* ctx) { drawList(ctx, drawn.list, matrix, bitmap, watch.cookie()); });
     watch.throwIfEnded();
-    // A colour space alone makes a page count as coloured; scans often are gray all the same.
+    // Using a colour space counts as colour so far; scans are often gray all the same.
     if (bitmap.components() == 3 && !hasColour(bitmap))
         dropColour(bitmap);
 }

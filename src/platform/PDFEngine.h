@@ -11,11 +11,10 @@
 #include <set>
 #include <unordered_map>
 
-// The open file behind a PDFDocument, shared by the files of this folder that speak to the PDF
-// engine.
+// The open file behind a PDFDocument, shared by the sources of this folder that call MuPDF.
 //
-// The engine reports errors by jumping out of its functions, past C++ destructors. So engine calls
-// stand in small lambdas passed to run() or get(), which hold no object that needs one.
+// MuPDF reports errors with longjmp(), which skips C++ destructors. So its calls are made in small
+// lambdas passed to run() or get(), which own no object with a destructor.
 struct PDFDocument::Engine {
     explicit Engine(QString path);
     ~Engine();
@@ -24,7 +23,7 @@ struct PDFDocument::Engine {
 
     void open(Access access);
 
-    // Runs engine calls; an engine error becomes a PlatformException of that name.
+    // Runs MuPDF calls; a MuPDF error becomes a PlatformException of that name.
     template <class Body>
     void run(const char* errorName, Body body) const {
         fz_try(context) {
@@ -35,7 +34,7 @@ struct PDFDocument::Engine {
         }
     }
 
-    // The value of an engine call, or the fallback when it reports an error.
+    // The result of a MuPDF call, or the fallback when it reports an error.
     template <class Body, class Value>
     Value get(Body body, Value fallback) const {
         Value value = fallback;
@@ -49,44 +48,44 @@ struct PDFDocument::Engine {
         return value;
     }
 
-    // The engine error just caught, in words.
+    // The text of the MuPDF error just caught.
     Message caughtReason() const;
 
-    // What the document says, but no more than it has objects.
+    // The document's page count, but no more than it has objects.
     int countPages() const;
 
     pdf_obj* entry(pdf_obj* dictionary, const char* key) const;
-    // Cut after PDFLimits::maxTextLength characters.
+    // Cut off after PDFLimits::maxTextLength characters.
     QString text(pdf_obj* string) const;
     QString name(pdf_obj* name) const;
 
-    // Zero-based page that an explicit or named destination, or a go-to action, leads to.
+    // Zero-based target page of an explicit or named destination or a go-to action.
     std::optional<int> destinationPage(pdf_obj* destination) const;
-    // What a destination is called, with a mark before it that tells names of the two kinds apart;
-    // empty for one that says where it leads.
+    // The name of a destination, with a prefix that distinguishes the two kinds of names; empty for
+    // an explicit destination.
     QByteArray nameOfDestination(pdf_obj* destination) const;
-    // The same as destinationPage() for any destination; -1 when it leads to no page.
+    // Resolves a destination of any kind without the cache of names; -1 when it leads to no page.
     int lookUpDestination(pdf_obj* destination) const;
-    // Zero-based number of a page that an array begins with, as reference or as number; -1 for
-    // others.
+    // Zero-based number of the page that an array begins with, as a reference or a number; -1
+    // otherwise.
     int pageNumber(pdf_obj* page) const;
     // The destination of an annotation or outline entry: its "Dest", or that of its go-to action.
     std::optional<int> targetPage(pdf_obj* dictionary) const;
 
-    // The entries of one outline level, from the first one on, with those beneath them. A file may
-    // chain its entries into a ring, so each is read once only.
+    // The entries of one outline level starting with first, with their children. A file may link
+    // its entries in a cycle, so each is read only once.
     std::vector<PDFOutlineNode> outlineLevel(pdf_obj* first, int depth,
                                              std::set<pdf_obj*>& seen) const;
 
     QString path;
-    std::size_t allocated = 0; // bytes held by the engine
+    std::size_t allocated = 0; // bytes allocated by MuPDF
     fz_context* context = nullptr;
     pdf_document* document = nullptr;
-    // As counted when the file was opened. The engine may come upon damage later, mend the file and
-    // count anew; what was read before would then disagree with what is read after.
+    // Counted when the file was opened. MuPDF may find damage later, repair the file and count
+    // again; what was read before would then disagree with what is read after.
     int pageCount = 0;
-    // The numbers of pages that something leads to, by the numbers of their objects and by names.
-    // The engine goes through the pages for each, and through all names for one that is missing.
+    // Caches of page numbers by object number and by name. MuPDF searches all pages for each
+    // lookup, and all names for a missing one.
     mutable std::unordered_map<int, int> pageNumbers;
     mutable std::map<QByteArray, int> namedPages;
     void* mapping = nullptr;

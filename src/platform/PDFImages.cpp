@@ -18,12 +18,12 @@ namespace {
 
 using FillImage = decltype(fz_device::fill_image);
 
-// What the engine's own drawing device does with an image; the same for all of them.
-std::atomic<FillImage> engineFillImage{nullptr};
+// fill_image of MuPDF's draw device; the same function for all of them.
+std::atomic<FillImage> defaultFillImage{nullptr};
 
-// Samples of an image, rows without padding: one, three or four bytes a pixel, where a fourth byte
-// beside three components has no meaning. Without data where memory ran out: an exception may not
-// cross the engine's functions.
+// Samples of an image, rows without padding: one, three or four bytes a pixel; the fourth byte
+// beside three components is unused. data is null when memory ran out: no exception may pass
+// through MuPDF's C functions.
 struct Samples {
     std::unique_ptr<unsigned char[]> data;
     int width = 0;
@@ -39,7 +39,7 @@ Samples makeSamples(int width, int height, int bytesPerPixel) {
             bytesPerPixel};
 }
 
-// The smallest size that the decoder yields at little cost and that is no smaller than wanted.
+// The smallest size that the JPEG decoder produces cheaply and that is at least the wanted size.
 tjscalingfactor decodeScale(int width, int height, int wantedWidth, int wantedHeight) {
     for (const int divisor : {8, 4, 2}) {
         const tjscalingfactor factor{1, divisor};
@@ -49,14 +49,14 @@ tjscalingfactor decodeScale(int width, int height, int wantedWidth, int wantedHe
     return {1, 1};
 }
 
-// Whether the decoded bytes are the image's samples as they stand.
+// Whether the decoded bytes are the image's samples without further conversion.
 bool isPlainJPEG(const fz_image* image, const fz_compressed_buffer* buffer) {
     return buffer && buffer->params.type == FZ_IMAGE_JPEG &&
            buffer->params.u.jpeg.color_transform == -1 && !image->use_decode &&
            !image->use_colorkey && image->bpc == 8 && (image->n == 1 || image->n == 3);
 }
 
-// An image that is a plain JPEG file; nothing for others and for damaged ones.
+// Decodes an image that is a plain JPEG file; empty for others and for damaged ones.
 Samples decodeJPEG(fz_context* ctx, fz_image* image, int wantedWidth, int wantedHeight) {
     const fz_compressed_buffer* buffer = fz_compressed_image_buffer(ctx, image);
     if (!isPlainJPEG(image, buffer))
@@ -83,9 +83,9 @@ Samples decodeJPEG(fz_context* ctx, fz_image* image, int wantedWidth, int wanted
     return samples;
 }
 
-// The engine's own decoding, or nullptr when it reports an error: it comes to the same error when
-// it draws, and reports it then.
-fz_pixmap* enginePixmap(fz_context* ctx, fz_image* image, fz_matrix placement) {
+// MuPDF's own decoding, or nullptr on an error: MuPDF hits the same error when it draws the image,
+// and reports it then.
+fz_pixmap* muPDFPixmap(fz_context* ctx, fz_image* image, fz_matrix placement) {
     fz_pixmap* pixmap = nullptr;
     fz_var(pixmap);
     fz_try(ctx) {
@@ -97,7 +97,7 @@ fz_pixmap* enginePixmap(fz_context* ctx, fz_image* image, fz_matrix placement) {
     return pixmap;
 }
 
-// An empty picture, or nullptr when there is no memory for it.
+// An empty pixmap, or nullptr when memory ran out.
 fz_pixmap* newPicture(fz_context* ctx, fz_colorspace* space, int width, int height) {
     fz_pixmap* picture = nullptr;
     fz_var(picture);
@@ -110,9 +110,9 @@ fz_pixmap* newPicture(fz_context* ctx, fz_colorspace* space, int width, int heig
     return picture;
 }
 
-// Any other image, decoded by the engine; nothing when its samples are of an unusual kind.
-Samples decodeByEngine(fz_context* ctx, fz_image* image, fz_matrix placement) {
-    fz_pixmap* pixmap = enginePixmap(ctx, image, placement);
+// Decodes any other image with MuPDF; empty when its samples are of an unusual kind.
+Samples decodeWithMuPDF(fz_context* ctx, fz_image* image, fz_matrix placement) {
+    fz_pixmap* pixmap = muPDFPixmap(ctx, image, placement);
     if (!pixmap)
         return {};
     Samples samples;
@@ -133,12 +133,12 @@ Samples decodeByEngine(fz_context* ctx, fz_image* image, fz_matrix placement) {
     return samples;
 }
 
-// A picture of that size in the image's own colours, or nullptr. Never raises an engine error.
+// The image scaled to that size in its own colours, or nullptr. Never raises a MuPDF error.
 fz_pixmap* scaledPicture(fz_context* ctx, fz_image* image, fz_matrix placement, int width,
                          int height) {
     Samples from = decodeJPEG(ctx, image, width, height);
     if (!from.data)
-        from = decodeByEngine(ctx, image, placement);
+        from = decodeWithMuPDF(ctx, image, placement);
     if (!from.data)
         return nullptr;
     Samples to = makeSamples(width, height, from.bytesPerPixel);
@@ -164,7 +164,7 @@ fz_pixmap* scaledPicture(fz_context* ctx, fz_image* image, fz_matrix placement, 
     return picture;
 }
 
-// Whether an image comes out smaller than it is, upright or turned by quarters.
+// Whether an image is scaled down, upright or rotated by a multiple of 90 degrees.
 bool isPlainReduction(const fz_image* image, const fz_matrix& placement, float width,
                       float height) {
     const bool upright = placement.b == 0 && placement.c == 0;
@@ -179,8 +179,8 @@ bool isPlainReduction(const fz_image* image, const fz_matrix& placement, float w
 
 void fillImage(fz_context* ctx, fz_device* device, fz_image* image, fz_matrix placement,
                float alpha, fz_color_params params) {
-    const FillImage draw = engineFillImage;
-    const fz_matrix fitted = fz_gridfit_matrix(0, placement); // whole pixels, as the engine does
+    const FillImage draw = defaultFillImage;
+    const fz_matrix fitted = fz_gridfit_matrix(0, placement); // whole pixels, as MuPDF does
     const float width = std::abs(fitted.a) + std::abs(fitted.b);
     const float height = std::abs(fitted.c) + std::abs(fitted.d);
     fz_pixmap* picture = nullptr;
@@ -210,6 +210,6 @@ void fillImage(fz_context* ctx, fz_device* device, fz_image* image, fz_matrix pl
 } // namespace
 
 void scaleImagesFast(fz_device* drawDevice) {
-    engineFillImage = drawDevice->fill_image;
+    defaultFillImage = drawDevice->fill_image;
     drawDevice->fill_image = fillImage;
 }

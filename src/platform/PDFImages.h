@@ -2,8 +2,7 @@
 
 #include <mupdf/fitz.h>
 
-// Makes a drawing device bring images to their size on the page with the processor's vector
-// instructions, where it would spend most of the time of a scanned or illustrated page. Images that
-// need more than that (masks, enlargements, slanted placement, unusual colour) stay with the
-// engine.
+// Makes a draw device scale images with SIMD code (libjpeg-turbo, libyuv), where most of the time
+// of a scanned or illustrated page is spent. Images that need more than that (masks, enlargement,
+// skew, unusual colour spaces) are left to MuPDF.
 void scaleImagesFast(fz_device* drawDevice);

@@ -6,14 +6,14 @@
 
 namespace {
 
-// How the pages from one on are labelled.
+// How the pages from a given one on are labelled.
 struct LabelRange {
-    QString style; // "D", "R", "r", "A", "a", or none for the prefix alone
+    QString style; // "D", "R", "r", "A", "a", or empty for the prefix alone
     QString prefix;
     int first = 1;
 };
 
-using LabelRanges = std::map<int, LabelRange>; // by the zero-based page that they begin at
+using LabelRanges = std::map<int, LabelRange>; // by zero-based first page
 
 constexpr int maxDepth = 32;
 constexpr qsizetype longestPrefix = 64;
@@ -22,7 +22,7 @@ QString roman(int number) {
     constexpr std::pair<int, const char*> numerals[] = {
         {1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"}, {90, "xc"}, {50, "l"},
         {40, "xl"},  {10, "x"},   {9, "ix"},  {5, "v"},    {4, "iv"},  {1, "i"}};
-    // Nobody reads the numerals of more.
+    // Larger Roman numerals are unreadable.
     constexpr int largest = 9999;
     if (number < 1 || number > largest)
         return QString::number(number);
@@ -58,7 +58,7 @@ std::vector<QString> expand(const LabelRanges& ranges, int pageCount) {
     std::vector<QString> labels;
     if (ranges.empty())
         return labels;
-    // Pages before the first range have none.
+    // Pages before the first range have no label.
     labels.resize(std::size_t(pageCount));
     for (auto range = ranges.begin(); range != ranges.end(); ++range) {
         const auto next = std::next(range);
@@ -74,7 +74,7 @@ std::vector<QString> expand(const LabelRanges& ranges, int pageCount) {
 
 } // namespace
 
-// Reads the leaves of the tree of labels. A file may nest it into a ring.
+// Reads the leaves of the number tree of labels. A malicious file may contain a cycle.
 class PDFDocument::LabelTree {
 public:
     explicit LabelTree(const Engine& engine) : iEngine(engine) {}

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Real outlines are a handful of levels deep; deeper ones are built to exhaust a reader's stack.
+// Real outlines are a handful of levels deep; deeper ones are built to exhaust the stack.
 constexpr int maxOutlineDepth = 64;
 
 } // namespace

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Without a rectangle the engine gives an inside-out one, which becomes zeros.
+// MuPDF returns an inverted rectangle for a missing one, which becomes all zeros.
 QRectF toRect(const fz_rect& rect) {
     if (!fz_is_valid_rect(rect))
         return {};
@@ -16,7 +16,7 @@ QRectF toRect(const fz_rect& rect) {
 
 } // namespace
 
-// An inheritable page box; an empty rectangle when the page has none.
+// An inheritable page box; empty when the page has none.
 QRectF PDFPage::box(pdf_obj* key) const {
     const auto rect = iDocument->iEngine->get(
         [&](fz_context* ctx) {
@@ -99,7 +99,7 @@ std::vector<PDFAnnotation> PDFPage::annotations() const {
         if (engine.name(engine.entry(action, "S")) == QStringLiteral("URI"))
             annotation.url = engine.text(engine.entry(action, "URI"));
         if (annotation.url.size() == PDFLimits::maxTextLength)
-            annotation.url = QString(); // cut, so that it would lead somewhere else
+            annotation.url = QString(); // a truncated address would lead somewhere else
         annotation.destinationPage = engine.targetPage(object);
         budget.spend(annotation);
         annotations.push_back(std::move(annotation));

@@ -19,13 +19,13 @@ struct pdf_obj;
 struct PDFAnnotation {
     QString type;  // "Link", "Text" ...
     QRectF bounds; // points in page space: x() and y() are the lower left corner
-    QString url;   // null when the annotation opens no address
+    QString url;   // null when the annotation has no URI action
     std::optional<int> destinationPage; // zero-based; none when it leads to no page
 };
 
-// What ends a drawing before it is done.
+// What cancels a drawing.
 struct DrawControl {
-    const std::atomic<bool>* stop = nullptr; // given up as soon as this turns true
+    const std::atomic<bool>* stop = nullptr; // cancels as soon as this becomes true
     std::chrono::milliseconds timeLimit{60'000};
 };
 
@@ -38,19 +38,20 @@ struct PDFPageBoxes {
     QString displayError; // why there is no display size; null when there is
 };
 
-// One page of an open document. Boxes are in points, in the page's own space (origin at the lower
-// left, before rotation).
+// One page of an open document. Boxes are in points, in PDF user space (origin at the lower left,
+// before rotation).
 class PDFPage {
 public:
     QRectF mediaBox() const;
 
-    // The part of the page that is shown: the crop box within the media box.
+    // The visible part of the page: the crop box clipped to the media box.
     QRectF cropBox() const;
 
-    // Degrees clockwise as the file says, brought into 0 to 359. Not necessarily a multiple of 90.
+    // Rotation in degrees clockwise as stored in the file, normalised to 0 to 359. Not necessarily
+    // a multiple of 90.
     int rotation() const;
 
-    // Size in points as drawn: rotated, and in the page's own unit of length. Throws
+    // Size in points as drawn: rotated, and scaled by the page's user unit. Throws
     // PlatformException "PDFPageUnreadable".
     QSizeF displaySize() const;
 
@@ -58,19 +59,19 @@ public:
 
     std::vector<PDFAnnotation> annotations() const;
 
-    // Draws the page as a reader sees it, rotated and with its annotations, on white. scale is
-    // pixels per point; a page too large for the limits is drawn at a smaller one. The bitmap has
-    // one component when the page holds no colour. Throws PlatformException when the page can't be
-    // read ("PDFPageUnreadable"), "PDFPageTimeout" or "PDFPageStopped". Not for documents that
-    // another process reads.
+    // Draws the page as a viewer shows it, rotated and with its annotations, on white. scale is in
+    // pixels per point; a page that exceeds the limits is drawn at a smaller scale. The bitmap has
+    // one component when the page is gray. Throws PlatformException when the page can't be read
+    // ("PDFPageUnreadable"), "PDFPageTimeout" or "PDFPageStopped". Not for documents that another
+    // process reads.
     void draw(double scale, PageBitmap& bitmap, const DrawControl& control = {}) const;
 
-    // The words on the page, line by line as the file gives them. Throws PlatformException
+    // The words on the page, line by line in the order of the file. Throws PlatformException
     // "PDFPageUnreadable". Not for documents that another process reads.
     std::vector<PDFTextLine> text() const;
 
-    // The page as an SVG file, in points, or nothing for a page of more than text and plain areas,
-    // which only a bitmap shows truly. Throws PlatformException "PDFPageUnreadable". Not for
+    // The page as an SVG file, in points, or empty for a page with more than text and plain fills,
+    // which only a bitmap shows correctly. Throws PlatformException "PDFPageUnreadable". Not for
     // documents that another process reads.
     QByteArray vectorPicture() const;
 
@@ -86,5 +87,5 @@ private:
     const PDFDocument* iDocument;
     int iIndex;
     pdf_obj* iObject = nullptr;         // owned by the document
-    std::optional<PDFPageBoxes> iBoxes; // as another process has read them
+    std::optional<PDFPageBoxes> iBoxes; // as read by another process
 };

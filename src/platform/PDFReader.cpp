@@ -12,16 +12,16 @@
 
 namespace {
 
-// How often a waiting reader looks whether it is to stop.
+// How often a waiting reader checks for a cancel.
 constexpr int pollMilliseconds = 20;
 
-// A document that has ended this many is not asked again.
+// Processes that a document may crash before it is not queried any more.
 constexpr int maxEnded = 3;
 
-// The longest answers are an outline, and a page's links.
+// The longest answers are an outline and a page's links.
 constexpr qsizetype maxAnswer = qsizetype{128} << 20;
 
-// A sentence, and a path in it.
+// A sentence with a path in it.
 constexpr qsizetype maxReason = 16'384;
 
 const Log& readerLog() {
@@ -33,12 +33,12 @@ const Log& readerLog() {
     throw PlatformException(QString::fromLatin1(name), reason);
 }
 
-Message brokeOff() {
+Message crashMessage() {
     return Message::translate("PDFReader", "the program that reads PDF files broke off at it");
 }
 
-// The other side speaks English.
-Message openCause(const QString& words) {
+// The process reports in English.
+Message openErrorFrom(const QString& words) {
     const QString damaged = QStringLiteral("is damaged beyond repair (");
     if (words.startsWith(damaged) && words.endsWith(u')')) {
         return Message::translate("PDFDocument", "is damaged beyond repair (%1)")
@@ -47,8 +47,8 @@ Message openCause(const QString& words) {
     return Message::translate("PDFDocument", words.toUtf8().constData());
 }
 
-// "fail NAME REASON". What can't be opened is named in the reason already. Names have their meaning
-// here, so only those count that a reader has a reason for.
+// "fail NAME REASON". The reason of an open error already contains the path. Names control our
+// behaviour, so only those that a reader may legitimately report are accepted.
 PlatformException failureFrom(const QByteArray& line, const QString& path) {
     const QByteArray begin = "fail ";
     const qsizetype end = line.indexOf(' ', begin.size());
@@ -63,7 +63,7 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
         return {name, Message::translate("PageFailure", reason.toUtf8().constData())};
     const QString start = path + QStringLiteral(": ");
     const QString cause = reason.startsWith(start) ? reason.mid(start.size()) : reason;
-    return {name, Message(QStringLiteral("%1: %2")).arg(path, openCause(cause))};
+    return {name, Message(QStringLiteral("%1: %2")).arg(path, openErrorFrom(cause))};
 }
 
 } // namespace
@@ -114,7 +114,7 @@ void PDFReader::stop() {
     iProcess.reset();
 }
 
-// A process may be killed without any fault of the document, so each question has a second try.
+// A process may be killed through no fault of the document, so each query is tried twice.
 QByteArray PDFReader::ask(const QByteArray& question) {
     try {
         return askOnce(question);
@@ -125,10 +125,10 @@ QByteArray PDFReader::ask(const QByteArray& question) {
     }
 }
 
-// An empty question is the one for the number of pages, which the opening answers.
+// An empty question asks for the page count, which the process reports after opening the file.
 QByteArray PDFReader::askOnce(const QByteArray& question) {
     if (iEnded >= maxEnded)
-        fail("PDFReaderEnded", brokeOff());
+        fail("PDFReaderEnded", crashMessage());
     if (!iProcess) {
         iProcess = std::make_unique<ChildProcess>(
             QFile::encodeName(iProgram).toStdString(),
@@ -138,7 +138,7 @@ QByteArray PDFReader::askOnce(const QByteArray& question) {
         if (question.isEmpty())
             return count;
     }
-    iProcess->writeLine(question); // if that fails, the wait for the answer does too
+    iProcess->writeLine(question); // a failure shows when waiting for the answer
     return awaitAnswer();
 }
 
@@ -170,8 +170,8 @@ QByteArray PDFReader::awaitAnswer() {
     }
 }
 
-// A program that the system could not run properly says nothing about the file. Once it has been
-// heard of it may have opened the file, and what it says is what the file makes it say.
+// A program that could not be run says nothing about the file. Once its sandbox is in force it may
+// have opened the file, and the file may control what it reports.
 void PDFReader::reportEnd() {
     const bool couldRun = iIsSandboxed || !iProcess->couldNotRun();
     stop();
@@ -179,5 +179,5 @@ void PDFReader::reportEnd() {
         fail("ProcessStartFailed",
              Message::translate("PDFReader", "the program that reads PDF files can't be started"));
     ++iEnded;
-    fail("PDFReaderEnded", brokeOff());
+    fail("PDFReaderEnded", crashMessage());
 }

@@ -8,28 +8,28 @@
 #include <functional>
 #include <memory>
 
-// Reads a PDF through a process of its own, behind walls: a file that breaks the PDF engine, or
-// keeps it busy for ever, ends that process and not this one. For one thread at a time.
+// Reads a PDF in a separate, sandboxed process: a file that crashes MuPDF or makes it hang ends
+// that process, not this one. For one thread at a time.
 //
-// Questions throw PlatformException: "PDFReaderEnded", "PDFReaderTimeout", "PDFReadStopped",
-// "PDFReaderMalformedAnswer", or what the other side reports by its own name. The next question
-// starts a new process, until three have ended.
+// Queries throw PlatformException: "PDFReaderEnded", "PDFReaderTimeout", "PDFReadStopped",
+// "PDFReaderMalformedAnswer", or the name that the process reports. The next query starts a new
+// process, until three have crashed or timed out.
 class PDFReader {
 public:
-    // Nothing is read yet. stopped, asked while waiting, gives a question up; it may be none.
+    // Does not read yet. stopped is polled while waiting and cancels a query; it may be empty.
     PDFReader(QString path, std::function<bool()> stopped);
     ~PDFReader();
 
-    // The program to start instead of the one that is installed beside the running program, and how
-    // long it may take for an answer.
+    // For tests: the program to start instead of the one that is installed beside the running
+    // program, and the time limit for an answer.
     void setProgram(const QString& path) { iProgram = path; }
     void setTimeout(std::chrono::milliseconds timeout) { iTimeout = timeout; }
 
-    // Opens the file. False when there is no such process to be had on this system.
+    // Opens the file. False when the process can't be started on this system.
     bool open();
 
     int pageCount() const { return iPageCount; }
-    // Of the page at a zero-based index, which must exist.
+    // index is zero-based and must exist.
     PDFPageBoxes boxes(int index);
     std::vector<PDFAnnotation> annotations(int index);
     std::vector<PDFOutlineNode> outline();
@@ -37,7 +37,7 @@ public:
     QString language();
     std::vector<QString> pageLabels();
 
-    // Ends the process until the next question. A document may stay open for hours.
+    // Ends the process until the next query. A document may stay open for hours.
     void stop();
 
 private:
@@ -51,7 +51,7 @@ private:
     std::function<bool()> iStopped;
     std::chrono::milliseconds iTimeout = PDFLimits::maxPageTime;
     std::unique_ptr<ChildProcess> iProcess;
-    bool iIsSandboxed = false; // the process has been heard of
+    bool iIsSandboxed = false; // it has reported that its sandbox is in force
     int iPageCount = 0;
-    int iEnded = 0; // processes lost so far
+    int iEnded = 0; // processes that crashed or timed out so far
 };

@@ -6,7 +6,7 @@
 
 namespace {
 
-// Bounds of what is taken apart, far beyond what a document is read to.
+// Limits for unpacking, far beyond what is read from a document.
 class Bounds {
 public:
     // For the items of a list: one level deeper.
@@ -23,7 +23,7 @@ private:
     Bounds(int depth, int& items) : iDepth(depth), iItems(items) {}
 
     int iDepth;
-    int& iItems; // of all lists so far
+    int& iItems; // in all lists so far
 };
 
 void write(QDataStream& stream, const PDFOutlineNode& node);
@@ -61,7 +61,7 @@ void write(QDataStream& stream, const std::vector<Item>& items) {
         write(stream, item);
 }
 
-// A count that lies ends at the end of the bytes.
+// A false count fails at the end of the data.
 template <class Item>
 void read(QDataStream& stream, std::vector<Item>& items, Bounds bounds) {
     quint32 count = 0;

@@ -5,8 +5,8 @@
 
 #include <QByteArray>
 
-// What one process tells another of a document, as bytes. Taking it apart trusts nothing: whatever
-// is not well formed throws malformedAnswer().
+// Serialises what one process reports to another about a document. Unpacking trusts nothing:
+// malformed data throws malformedAnswer().
 namespace PDFSerialization {
 
 // The exception "PDFReaderMalformedAnswer".

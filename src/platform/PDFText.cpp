@@ -8,7 +8,7 @@
 
 namespace {
 
-// The four ways in which a line can run; one at a slant counts as the nearest.
+// The text direction in degrees, rounded to a multiple of 90.
 int turnOf(const fz_point& direction) {
     if (std::abs(direction.x) >= std::abs(direction.y))
         return direction.x >= 0 ? 0 : 180;

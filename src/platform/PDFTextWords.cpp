@@ -8,7 +8,7 @@ namespace {
 
 enum class Direction { left, right, neutral };
 
-// A character and the marks upon it, which stay together.
+// A character with its combining marks.
 struct Cluster {
     QString text;
     double from;
@@ -30,8 +30,7 @@ Direction directionOf(char32_t code) {
     }
 }
 
-// Forms of letters that only printing tells apart: ligatures, and Arabic letters by their place in
-// the word.
+// Presentation forms: ligatures, and Arabic letters in their positional shapes.
 bool isPresentationForm(char32_t code) {
     return (code >= 0xFB00 && code <= 0xFDFF) || (code >= 0xFE70 && code <= 0xFEFC);
 }
@@ -45,8 +44,8 @@ bool isBlank(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar letter) { return letter.isSpace(); });
 }
 
-// Scripts that are written without blanks between words.
-bool standsAlone(const QString& text) {
+// Scripts that are written without spaces between words.
+bool isOfUnspacedScript(const QString& text) {
     switch (text.isEmpty() ? 0 : QChar::script(text.toUcs4().front())) {
     case QChar::Script_Han:
     case QChar::Script_Hiragana:
@@ -72,8 +71,9 @@ std::vector<Cluster> clustersOf(const std::vector<PDFTextCharacter>& characters)
     return clusters;
 }
 
-// What has no direction of its own goes with its neighbours when they agree, else with the line.
-void settleNeutrals(std::vector<Cluster>& clusters, Direction ofLine) {
+// Neutral characters take the direction of their neighbours when these agree, else that of the
+// line.
+void resolveNeutrals(std::vector<Cluster>& clusters, Direction ofLine) {
     for (std::size_t i = 0; i < clusters.size(); ++i) {
         if (clusters[i].direction != Direction::neutral)
             continue;
@@ -87,11 +87,11 @@ void settleNeutrals(std::vector<Cluster>& clusters, Direction ofLine) {
     }
 }
 
-// From the order on the page, left to right, to that of reading.
-void putInReadingOrder(std::vector<Cluster>& clusters, Direction ofLine) {
+// From visual order (left to right) to reading order.
+void reorderToReadingOrder(std::vector<Cluster>& clusters, Direction ofLine) {
     std::stable_sort(clusters.begin(), clusters.end(),
                      [](const Cluster& a, const Cluster& b) { return a.from < b.from; });
-    settleNeutrals(clusters, ofLine);
+    resolveNeutrals(clusters, ofLine);
     const auto againstLine = [&](const Cluster& cluster) { return cluster.direction != ofLine; };
     if (ofLine == Direction::right)
         std::reverse(clusters.begin(), clusters.end());
@@ -116,7 +116,7 @@ void PDFText::makeWords(std::vector<PDFTextCharacter> characters, double lineSta
     const auto rightToLeft = count(Direction::right);
     line.rightToLeft = rightToLeft > 0 && rightToLeft >= count(Direction::left);
     if (rightToLeft > 0)
-        putInReadingOrder(clusters, line.rightToLeft ? Direction::right : Direction::left);
+        reorderToReadingOrder(clusters, line.rightToLeft ? Direction::right : Direction::left);
 
     bool begins = true;
     for (const Cluster& cluster : clusters) {
@@ -126,7 +126,7 @@ void PDFText::makeWords(std::vector<PDFTextCharacter> characters, double lineSta
             begins = true;
             continue;
         }
-        const bool alone = standsAlone(cluster.text);
+        const bool alone = isOfUnspacedScript(cluster.text);
         if (begins || alone)
             line.words.push_back({QString(), cluster.from - lineStart, 0});
         PDFTextWord& word = line.words.back();

@@ -3,18 +3,18 @@
 
 namespace {
 
-// Notices whatever an SVG file would show differently, or as a picture of its own: images,
-// shadings, masks, patterns, blending, and fonts whose letters are small pages. And what lies
-// outside the page: an SVG file would hold it, and whoever publishes a page does not see it there.
-// Pages cut from one spread are often the whole spread, each with its own crop box.
-struct SimplicityWatch {
+// Detects content that an SVG file would render differently or embed as a bitmap: images, shadings,
+// masks, patterns, blending, and Type 3 fonts. Also detects content outside the page: the SVG file
+// would contain it although the publisher does not see it. Pages cut from one spread often contain
+// the whole spread, each with its own crop box.
+struct SimplicityChecker {
     fz_device super;
     fz_rect page;
     bool simple;
 };
 
-SimplicityWatch* watchOf(fz_device* device) {
-    return reinterpret_cast<SimplicityWatch*>(device);
+SimplicityChecker* watchOf(fz_device* device) {
+    return reinterpret_cast<SimplicityChecker*>(device);
 }
 
 void checkPlace(fz_device* device, fz_rect bounds) {
@@ -94,8 +94,8 @@ void noMask(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, int /*lumi
     watchOf(device)->simple = false;
 }
 
-// Many programs put all of a page into a group, which changes nothing as long as it is laid on the
-// paper as it is.
+// Many programs wrap all of a page in a group, which has no effect as long as it is composited
+// normally.
 void watchGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
                 int /*isolated*/, int knockout, int blendMode, float alpha) {
     if (knockout != 0 || blendMode != FZ_BLEND_NORMAL || alpha < 1)
@@ -109,7 +109,7 @@ int noTile(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_rect /*v
 }
 
 bool isSimple(fz_context* ctx, fz_display_list* list, fz_rect page) {
-    auto* watch = fz_new_derived_device(ctx, SimplicityWatch);
+    auto* watch = fz_new_derived_device(ctx, SimplicityChecker);
     watch->page = page;
     watch->simple = true;
     fz_device& device = watch->super;
@@ -193,7 +193,7 @@ QByteArray PDFPage::vectorPicture() const {
     const std::size_t size = fz_buffer_storage(engine.context, held.buffer, &bytes);
     QByteArray picture = VectorPage::compact(
         QByteArray::fromRawData(reinterpret_cast<const char*>(bytes), qsizetype(size)));
-    // On paper, as the page's other pictures: it may be shown over one of them.
+    // On a white background, like the page's other pictures: it may be shown on top of one of them.
     const qsizetype start = picture.indexOf('>', picture.indexOf("<svg")) + 1;
     picture.insert(start, "\n<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>");
     return picture;

@@ -3,12 +3,12 @@
 #include <cstddef>
 #include <memory>
 
-// An uncompressed page picture, rows top-down without padding. One object is used for page after
-// page: it keeps its memory, since fresh memory for every page costs as much as clearing it.
+// An uncompressed page picture, rows top-down without padding. Reuse one object for many pages: it
+// keeps its buffer, and allocating anew for every page costs as much as clearing it.
 class PageBitmap {
 public:
-    // Makes room for a picture; the pixels are left as they are. components is 1 (gray) or 3 (red,
-    // green, blue).
+    // Allocates room for a picture; pixels are left uninitialised. components is 1 (gray) or 3
+    // (RGB).
     void resize(int width, int height, int components) {
         const std::size_t size = std::size_t(width) * std::size_t(height) * std::size_t(components);
         if (size > iCapacity) {

@@ -6,8 +6,8 @@
 #include <exception>
 #include <string>
 
-// A failure that the caller may catch and report: a short name to tell kinds apart and a reason in
-// words for people. Any other C++ exception is a fault of ours and passes through.
+// An error that callers may catch and report: a short name that identifies its kind, and a reason
+// for users. Any other C++ exception is a bug and is not caught.
 class PlatformException : public std::exception {
 public:
     PlatformException(QString name, Message reason)
@@ -16,7 +16,7 @@ public:
           iWhat((iName + QStringLiteral(": ") + iReason.english()).toStdString()) {}
 
     const QString& name() const { return iName; }
-    // In English, and in the window's language as well.
+    // In English; message() also has it in the window's language.
     const QString& reason() const { return iReason.english(); }
     const Message& message() const { return iReason; }
     const char* what() const noexcept override { return iWhat.c_str(); }

@@ -18,7 +18,7 @@
 
 namespace {
 
-// The system's headers may be older than the system, so what came later stands here in numbers.
+// The installed headers may be older than the kernel, so later flags are defined here.
 namespace Access {
 constexpr std::uint64_t readFile = LANDLOCK_ACCESS_FS_READ_FILE;
 constexpr std::uint64_t ofFirstVersion = (std::uint64_t{1} << 13) - 1;
@@ -29,7 +29,7 @@ constexpr std::uint64_t workFolder = readFile | LANDLOCK_ACCESS_FS_WRITE_FILE |
                                      LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_REMOVE_FILE;
 } // namespace Access
 
-// The members that a version lacks are left off by the size that is handed over.
+// The size passed to the kernel leaves off the members that its version lacks.
 struct RulesetAttributes {
     std::uint64_t files;
     std::uint64_t network;
@@ -46,13 +46,13 @@ public:
         if (version >= 3)
             attributes.files |= Access::truncate;
         if (version >= 4) {
-            attributes.network = 0b11; // TCP, both ways
+            attributes.network = 0b11; // TCP bind and connect
             size += sizeof attributes.network;
         }
         if (version >= 5)
             attributes.files |= Access::control;
         if (version >= 6) {
-            attributes.scope = 0b11; // sockets without a file, signals
+            attributes.scope = 0b11; // abstract sockets, signals
             size += sizeof attributes.scope;
         }
         iDescriptor = int(::syscall(SYS_landlock_create_ruleset, &attributes, size, 0));
@@ -84,22 +84,22 @@ private:
     bool iTruncates;
 };
 
-void closeOffFiles(const Sandbox::Policy& policy) {
+void restrictFiles(const Sandbox::Policy& policy) {
     const long version =
         ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
         return;
     const Ruleset rules(static_cast<int>(version));
-    // What can't be opened now can't be opened later either, which then gets its own error.
+    // A file that can't be opened now can't be opened later either, and that is reported then.
     rules.allow(policy.file, Access::readFile);
     if (!policy.workFolder.isNull())
         rules.allow(policy.workFolder, Access::workFolder);
     rules.enforce();
 }
 
-// All that drawing, reading and the C library call, on machines of 64 and of 32 bits. Whatever is
-// not named here does not exist for the process.
-constexpr std::array harmlessCalls{
+// System calls used by drawing, reading and the C library, on 64-bit and 32-bit machines. All
+// others fail with ENOSYS.
+constexpr std::array allowedCalls{
     "_llseek",
     "access",
     "alarm",
@@ -202,28 +202,29 @@ public:
     void enforce() {
         if (!iFilter || ::seccomp_attr_set(iFilter, SCMP_FLTATR_CTL_TSYNC, 1) != 0)
             return;
-        for (const char* name : harmlessCalls)
+        for (const char* name : allowedCalls)
             allow(name);
 #ifdef FOLVERO_SANITIZED
-        // How sanitizers find out whether memory can be read.
+        // Sanitizers use them to check whether memory is readable.
         allow("pipe");
         allow("pipe2");
 #endif
-        // Memory, but none that can be run as code.
+        // Memory, but not executable.
         for (const char* name : {"mmap", "mmap2", "mprotect"})
             allow(name, scmp_arg_cmp{2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0});
-        // Threads, not processes. The newer call hides what it asks for; the C library falls back.
+        // Threads, not processes. clone3() can't be filtered by flags; the C library falls back to
+        // clone().
         allow("clone", scmp_arg_cmp{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD});
-        // Asking for a limit of its own, not setting one.
+        // Reading its own limits, not setting them.
         allow("prlimit64", scmp_arg_cmp{0, SCMP_CMP_EQ, 0, 0}, scmp_arg_cmp{2, SCMP_CMP_EQ, 0, 0});
-        // A process may abort itself.
+        // For abort().
         allow("tgkill", scmp_arg_cmp{0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(::getpid()), 0});
         ::seccomp_load(iFilter);
     }
 
 private:
-    // Allows a call, or its use with these arguments (number, comparison, operands). One that this
-    // machine does not have at all is none to allow.
+    // Allows a system call, or its use with these arguments (number, comparison, operands). Calls
+    // that this architecture does not have are skipped.
     template <class... Conditions>
     void allow(const char* name, Conditions... conditions) {
         const int call = ::seccomp_syscall_resolve_name(name);
@@ -241,19 +242,19 @@ void limit(__rlimit_resource resource, std::size_t amount) {
 
 void setLimits(const Sandbox::Policy& policy) {
     constexpr std::size_t maxOpenFiles = 64;
-    limit(RLIMIT_CORE, 0); // its memory is a stranger's document
+    limit(RLIMIT_CORE, 0); // its memory contains a user's document
     limit(RLIMIT_NOFILE, maxOpenFiles);
     if (policy.fileSize != 0)
         limit(RLIMIT_FSIZE, policy.fileSize);
-        // Sanitizers reserve memory far beyond any limit.
+        // Sanitizers reserve far more address space than any limit.
 #ifndef FOLVERO_SANITIZED
     if (policy.memory != 0)
         limit(RLIMIT_DATA, policy.memory);
 #endif
 }
 
-// Sanitizers tell there what they find.
-void closeStandardError() {
+// Sanitizers print their findings there.
+void redirectStandardError() {
 #ifndef FOLVERO_SANITIZED
     const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
     if (nowhere >= 0) {
@@ -266,12 +267,12 @@ void closeStandardError() {
 } // namespace
 
 void Sandbox::enter(const Policy& policy) {
-    ::tzset(); // reads a file, once
+    ::tzset(); // reads the time zone file, once
     setLimits(policy);
-    closeStandardError();
+    redirectStandardError();
     if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
         return;
-    closeOffFiles(policy);
+    restrictFiles(policy);
     CallFilter().enforce();
 }
 

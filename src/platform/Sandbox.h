@@ -3,21 +3,22 @@
 #include <QString>
 #include <cstddef>
 
-// Walls around a process that reads files made by strangers: once they are up, whoever takes the
-// process over can still compute, and do little else. They stay up for good.
+// A sandbox for processes that read untrusted files: after entering it, an attacker who controls
+// the process can compute and do little else. It can't be left.
 namespace Sandbox {
 
-// What the process goes on to need of the file system and the machine.
+// What the process may still use.
 struct Policy {
-    QString file;            // read; a symbolic link is followed
-    QString workFolder;      // files in it are read, written, renamed and deleted; null for none
-    std::size_t memory{0};   // bytes of data it may hold
-    std::size_t fileSize{0}; // bytes that a file may grow to; 0 for no limit
+    QString file;            // may be read; a symbolic link is followed
+    QString workFolder;      // files in it may be read, written, renamed and deleted; null for none
+    std::size_t memory{0};   // limit of data memory, in bytes
+    std::size_t fileSize{0}; // limit of a file's size, in bytes; 0 for none
 };
 
-// Takes away all but that: other files, the network, starting programs, memory without end, and the
-// standard error stream, which may be a terminal. A system that knows no such walls leaves the
-// process as it is. To be called while there is one thread: files are not closed off from others.
+// Restricts the process to the policy: no other files, no network, no new programs, limited memory,
+// and no standard error stream, which may be a terminal. Without support by the kernel the process
+// continues unrestricted. Call it while the process has one thread: file access of other threads is
+// not restricted.
 void enter(const Policy& policy);
 
 } // namespace Sandbox

@@ -10,10 +10,10 @@
 
 namespace {
 
-// A thousandth of the size of a letter, or of a point, is less than a hundredth of a pixel.
+// A thousandth of an em or of a point is less than a hundredth of a pixel.
 constexpr int digits = 3;
 
-// Without zeros at either end.
+// Without leading and trailing zeros.
 QByteArray shortNumber(double number, int decimals = digits) {
     QByteArray text = QByteArray::number(number, 'f', decimals);
     while (text.contains('.') && (text.endsWith('0') || text.endsWith('.')))
@@ -27,7 +27,7 @@ QByteArray shortNumber(double number, int decimals = digits) {
     return text;
 }
 
-// An element <use> that places a glyph.
+// A <use> element that places a glyph.
 struct Glyph {
     QByteArray name;
     std::array<double, 6> matrix{};
@@ -50,7 +50,7 @@ std::optional<std::array<double, 6>> matrixFrom(QByteArray text) {
     return std::abs(determinant) > 1e-9 ? std::optional(matrix) : std::nullopt;
 }
 
-// Takes 'NAME="VALUE"' with a blank before it out of an element.
+// Removes ' NAME="VALUE"' from an element and returns the value.
 QByteArray takeAttribute(QByteArray& element, const QByteArray& name) {
     const QByteArray begin = ' ' + name + "=\"";
     const qsizetype at = element.indexOf(begin);
@@ -80,7 +80,7 @@ std::optional<Glyph> glyphFrom(QByteArray line) {
     return glyph;
 }
 
-// "font_1_36" as "1_36".
+// "font_1_36" becomes "1_36".
 QByteArray shortName(const QByteArray& name) {
     return name.startsWith("font_") ? 'f' + name.mid(5) : name;
 }
@@ -127,7 +127,7 @@ private:
         iGroup.reset();
     }
 
-    // Glyphs' names, and the numbers of their outlines.
+    // Shortens the glyphs' ids and the numbers of their outlines.
     static QByteArray shortenNumbers(const QByteArray& line) {
         const QByteArray glyph = "<path id=\"font_";
         if (!line.startsWith(glyph))
@@ -155,7 +155,7 @@ private:
             const double number = std::strtod(at, &next);
             if (next == at)
                 return outline;
-            // A sign keeps two numbers apart; a point does not in every reader.
+            // A minus sign separates two numbers; a decimal point does not in every viewer.
             QByteArray text = shortNumber(number);
             const bool follows =
                 !result.isEmpty() && std::isdigit(static_cast<unsigned char>(result.back()));

@@ -15,7 +15,7 @@ namespace {
                             QStringLiteral("the picture can't be encoded as WebP"));
 }
 
-// The library takes colours only.
+// libwebp takes RGB only.
 void importPixels(WebPPicture& picture, const PageBitmap& bitmap) {
     if (bitmap.components() == 3) {
         if (!WebPPictureImportRGB(&picture, bitmap.data(), bitmap.stride()))
@@ -61,7 +61,7 @@ WebPConfig lossyConfig(float quality) {
     WebPConfig config;
     if (!WebPConfigPreset(&config, WEBP_PRESET_DEFAULT, quality))
         fail();
-    // The third of seven steps; further ones take long for little.
+    // Method 2 of 0 to 6; higher ones take much longer for little gain.
     config.method = 2;
     return config;
 }
@@ -70,7 +70,7 @@ WebPConfig lossyConfig(float quality) {
 
 QByteArray WebPEncoder::lossless(const PageBitmap& bitmap) {
     WebPConfig config;
-    // The second of ten steps: the next ones take twice the time for a few hundredths of the size.
+    // Level 1 of 0 to 9: the next ones take twice the time for a few percent of the size.
     if (!WebPConfigInit(&config) || !WebPConfigLosslessPreset(&config, 1))
         fail();
     return encode(bitmap, config);

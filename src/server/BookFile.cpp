@@ -12,7 +12,7 @@
 
 namespace {
 
-// The path beneath the folder, with a slash before each name; empty when the target is refused.
+// The path below the folder, with a slash before each name; empty when the request is refused.
 QByteArray pathOf(const QByteArray& target) {
     QByteArray escaped = target.split('?').front();
     if (!escaped.startsWith('/'))
@@ -24,7 +24,7 @@ QByteArray pathOf(const QByteArray& target) {
         if (part.isEmpty())
             continue;
         const QByteArray name = QByteArray::fromPercentEncoding(part);
-        // What is a separator only after it was unescaped has slipped past somebody.
+        // A separator that appears only after decoding is an attempt to get around checks.
         if (name.startsWith('.') || name.contains('/') || name.contains('\\') ||
             name.contains('\0'))
             return {};
@@ -33,7 +33,7 @@ QByteArray pathOf(const QByteArray& target) {
     return path;
 }
 
-// With all links followed; empty when there is no such thing.
+// The path with all links resolved; empty when it does not exist.
 QByteArray realPath(const QByteArray& path) {
     const std::unique_ptr<char, void (*)(void*)> real(::realpath(path.constData(), nullptr),
                                                       std::free);
@@ -65,7 +65,7 @@ std::optional<BookFile> BookFile::open(const QString& folder, const QByteArray& 
     const QByteArray file = realPath(root + path);
     if (!file.startsWith(root.endsWith('/') ? root : root + '/'))
         return {};
-    // Opening a pipe must not wait for somebody at its other end.
+    // Opening a pipe must not block.
     FileDescriptor descriptor(
         ::open(file.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY));
     struct stat facts {};

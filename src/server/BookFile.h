@@ -6,17 +6,17 @@
 #include <QString>
 #include <optional>
 
-// A file of a book, open, with what a browser is told of it.
+// An open file of a book with the headers that a browser gets for it.
 struct BookFile {
     FileDescriptor descriptor;
     qint64 size;             // bytes
-    QByteArray contentType;  // with the encoding of texts
+    QByteArray contentType;  // with the charset of texts
     QByteArray entityTag;    // changes with the file, quotation marks included
-    QByteArray lastModified; // as HTTP writes a date
+    QByteArray lastModified; // as an HTTP date
 
-    // Opens what a request names, beneath the book's folder. The target is the path of an address
-    // as the browser sends it: escaped, and perhaps with a question after it; one that ends in a
-    // slash means the "index.html" of that folder. None for whatever is missing, hidden or no file,
-    // and for a name or a link that would lead out of the folder.
+    // Opens the file that a request names, below the book's folder. target is the request's path as
+    // sent: percent-encoded, possibly with a query; a trailing slash means "index.html" of that
+    // folder. None for anything missing, hidden or not a regular file, and for names or links that
+    // lead out of the folder.
     static std::optional<BookFile> open(const QString& folder, const QByteArray& target);
 };

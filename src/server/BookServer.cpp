@@ -16,7 +16,7 @@ using httplib::Response;
 
 constexpr auto loopback = "127.0.0.1";
 
-// A browser opens half a dozen connections at once, and some only in case that it needs them.
+// A browser opens half a dozen connections at once, some of them speculatively.
 constexpr std::size_t threads = 16;
 
 const Log& serverLog() {
@@ -24,15 +24,14 @@ const Log& serverLog() {
     return log;
 }
 
-// The part of a file that an answer carries.
+// The range of a file that a response contains.
 struct Extent {
     qint64 begin;
-    qint64 length; // none is no part of the file
+    qint64 length; // 0 when the range is outside of the file
 };
 
-// The library would apply the request's range by itself to any content whose length it knows,
-// errors included, and does not look whether the content is that long. So it is not told the
-// length.
+// cpp-httplib would apply the request's range to any content of known length, error pages included,
+// and does not check that the content is that long. So it does not get the length.
 void setContent(Response& response, const QByteArray& type, qint64 length,
                 httplib::ContentProviderWithoutLength provider) {
     response.set_header("Content-Length", std::to_string(length));
@@ -49,8 +48,8 @@ void answer(Response& response, int status, const QByteArray& words) {
                });
 }
 
-// Names that no name server can give to this machine: a page elsewhere whose own name is made to
-// lead here could otherwise read the book.
+// Host names that no DNS server can point at this machine: otherwise a page elsewhere could read
+// the book through DNS rebinding.
 bool isForThisMachine(const Request& request) {
     static const QRegularExpression own(
         QStringLiteral("\\A(127\\.0\\.0\\.1|localhost|\\[::1\\])(:[0-9]{1,5})?\\z"),
@@ -59,7 +58,7 @@ bool isForThisMachine(const Request& request) {
            own.match(QString::fromStdString(request.get_header_value("Host"))).hasMatch();
 }
 
-// The browser has this very file already.
+// The browser's cached copy is current.
 bool isKnown(const Request& request, const BookFile& file) {
     if (!request.has_header("If-None-Match"))
         return request.get_header_value("If-Modified-Since") == file.lastModified.toStdString();
@@ -72,8 +71,7 @@ bool isKnown(const Request& request, const BookFile& file) {
     return false;
 }
 
-// A request may ask for several parts, or for the rest of a file that has changed since; it then
-// gets the whole.
+// A request for several ranges, or for a range of a file that has changed, gets the whole file.
 bool wantsPart(const Request& request, const BookFile& file) {
     if (request.ranges.size() != 1 || request.ranges.front() == httplib::Range(-1, -1))
         return false;
@@ -88,7 +86,7 @@ Extent partOf(const httplib::Range& range, qint64 size) {
     return {begin, std::max<qint64>(0, end - begin)};
 }
 
-// Hands an extent of the file on, piece by piece.
+// Sends a range of the file in chunks.
 class FileReader {
 public:
     FileReader(std::shared_ptr<const BookFile> file, Extent extent)
@@ -100,7 +98,7 @@ public:
         const auto got = ::pread(iFile->descriptor.number(), buffer.data(), std::size_t(wanted),
                                  off_t(iExtent.begin));
         if (got < 0 || (got == 0 && wanted > 0))
-            return false; // cut short: the connection ends before the promised length
+            return false; // too short: closes the connection before the promised length
         sink.write(buffer.data(), std::size_t(got));
         iExtent = {iExtent.begin + got, iExtent.length - got};
         if (iExtent.length == 0)
@@ -141,10 +139,10 @@ void answerWithFile(const Request& request, Response& response, BookFile&& opene
 }
 
 void answerRequest(const QString& folder, const Request& request, Response& response) {
-    // What is published anew shows at once.
+    // A republished book shows at once.
     response.set_header("Cache-Control", "no-cache");
     response.set_header("X-Content-Type-Options", "nosniff");
-    // Pages elsewhere must not take the book's pictures and scripts in.
+    // Other sites must not embed the book's pictures and scripts.
     response.set_header("Cross-Origin-Resource-Policy", "same-origin");
     if (!isForThisMachine(request))
         return answer(response, 403, "Forbidden: open the book by its address 127.0.0.1\n");
@@ -158,7 +156,7 @@ void answerRequest(const QString& folder, const Request& request, Response& resp
 }
 
 void logAnswer(const Request& request, const Response& response) {
-    // What is no proper address stays a line, and gives no orders to a terminal.
+    // Keeps a malformed address on one line and free of terminal escape sequences.
     const QByteArray target =
         QByteArray::fromStdString(request.target).toPercentEncoding("/%?=&;,+:@!$'()*");
     serverLog().debug(QString::fromStdString(request.method) + u' ' + QString::fromLatin1(target) +
@@ -171,11 +169,11 @@ class BookServer::Implementation {
 public:
     explicit Implementation(const QString& folder) {
         iServer.new_task_queue = [] { return new httplib::ThreadPool(threads); };
-        // One request a connection: an idle one would keep a thread, and what follows a refused
-        // request's head must not be read as another request.
+        // One request per connection: an idle one would hold a thread, and bytes after the headers
+        // of a refused request must not be read as another request.
         iServer.set_keep_alive_max_count(1);
         iServer.set_tcp_nodelay(true);
-        // Unlike the library's own choice this does not share the port with another server.
+        // Unlike cpp-httplib's default, does not share the port with another server.
         iServer.set_socket_options([](socket_t socket) {
             const int yes = 1;
             ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof(yes));
@@ -190,7 +188,7 @@ public:
 
     httplib::Server iServer;
     int iPort = 0;
-    std::future<bool> iListening; // waits for the server's threads when it goes
+    std::future<bool> iListening; // its destructor waits for the server's threads
 };
 
 BookServer::BookServer(const QString& folder)

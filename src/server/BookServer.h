@@ -4,26 +4,27 @@
 #include <chrono>
 #include <memory>
 
-// A small web server that shows a folder to the browsers of this machine: it listens on the
-// loopback address only, and it reads files and changes nothing.
+// A small web server that serves a folder to browsers on this machine: it listens on the loopback
+// address only and never writes.
 class BookServer {
 public:
     explicit BookServer(const QString& folder);
-    // Waits for answers under way.
+    // Waits for running responses.
     ~BookServer();
     BookServer(const BookServer&) = delete;
     BookServer& operator=(const BookServer&) = delete;
 
-    // Takes that port, or any free one when it is 0. Returns 0, or the system's error number.
+    // Binds the port, or any free one for 0. Returns 0 or the system's error number.
     int bindPort(int port);
-    // The port that was taken.
+    // The bound port.
     int port() const;
 
-    // Answers from now on, on threads of its own.
+    // Starts serving on its own threads.
     void start();
-    // True once no more requests are taken and all answers are given; waits that long for it.
+    // Waits up to that long for the server to end; true when it accepts no more requests and all
+    // responses are sent.
     bool waitForEnd(std::chrono::milliseconds timeout) const;
-    // Takes no more requests. Answers under way go on, see waitForEnd().
+    // Stops accepting requests. Running responses go on, see waitForEnd().
     void stop();
 
 private:

@@ -24,7 +24,8 @@ using namespace std::chrono_literals;
 constexpr int firstPort = 8000;
 constexpr int lastPort = 8020;
 
-// Of a folder without a page that shows itself as a book's; null for none.
+// An HTML page, preferably "index.html", of a folder in which no page is recognised as a book's,
+// but not a page of plain text; null for none.
 QString anyPageOf(const QString& folder) {
     QStringList pages = QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
     pages.removeIf(
@@ -32,7 +33,7 @@ QString anyPageOf(const QString& folder) {
     return pages.contains(u"index.html") ? QStringLiteral("index.html") : pages.value(0);
 }
 
-// What follows the slash of the book's address: nothing for "index.html".
+// The file name in the book's address: empty for "index.html".
 QString pageOf(const QString& folder) {
     if (folder.isEmpty())
         throw CommandError(QStringLiteral("the name of the book's folder is empty"),
@@ -81,8 +82,8 @@ void serveBook(const QString& folder, std::optional<int> port) {
             throw CommandError(QStringLiteral("the web server broke off"));
     }
     server.stop();
-    // A browser that holds a connection open, or takes an answer slowly, is not waited for. Nothing
-    // is written, so nothing is left half done.
+    // Does not wait for a browser that holds a connection open or reads slowly. Nothing is written,
+    // so nothing is left half done.
     if (!server.waitForEnd(300ms))
         std::_Exit(int(ExitCode::ok));
 }

@@ -3,6 +3,6 @@
 #include <QString>
 #include <optional>
 
-// Shows a published book to the browsers of this machine until Ctrl-C, on that port (0: any free
-// one) or else on the first free one of a few. Throws CommandError.
+// Serves a published book to browsers on this machine until Ctrl-C: on the given port (0 means any
+// free one), or on the first free one of a few. Throws CommandError.
 void serveBook(const QString& folder, std::optional<int> port);

@@ -1,5 +1,5 @@
-// The book server: what "folvero serve" becomes. It is a program of its own, as the libraries of a
-// web server would lengthen the start of every other command.
+// The book server, which "folvero serve" executes. It is a separate program because a web server's
+// libraries would slow down the start of every other command.
 //
 //     folvero-book-server FOLDER PORT|usual [verbose]
 

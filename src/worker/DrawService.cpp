@@ -26,17 +26,18 @@ void answerFailure(const QString& reason, const char* kind = "fail") {
     std::cout << kind << ' ' << line.toStdString() << std::endl;
 }
 
-// No page is to blame for a disk.
+// Write errors are not the page's fault.
 const char* kindOf(const PlatformException& failure) {
     if (failure.name() != QStringLiteral("PageWriteFailed"))
         return "fail";
     return failure.message().isTemporary() ? "full" : "unwritable";
 }
 
-using Making = std::function<PageTiming(int page, const DrawControl& control)>;
+using MakePage = std::function<PageTiming(int page, const DrawControl& control)>;
 
-// What is made of the pages.
-Making makingOf(const PDFDocument& document, const QByteArrayList& order, const QString& folder) {
+// The function that makes the requested kind of files.
+MakePage pageMaker(const PDFDocument& document, const QByteArrayList& order,
+                   const QString& folder) {
     if (order.value(3) == "web") {
         return [maker = std::make_shared<WebPageMaker>(document),
                 folder](int page, const DrawControl& control) {
@@ -50,7 +51,7 @@ Making makingOf(const PDFDocument& document, const QByteArrayList& order, const 
     };
 }
 
-void servePages(const Making& make) {
+void servePages(const MakePage& make) {
     const DrawControl control{nullptr, PDFLimits::maxPageTime};
     for (std::string line; std::getline(std::cin, line);) {
         const int page = std::atoi(line.c_str());
@@ -68,29 +69,29 @@ void servePages(const Making& make) {
     }
 }
 
-// Transparent pages take and free pictures of the page's size by the dozen. Keeping that memory
-// instead of giving it back saves the system from clearing it anew each time.
+// Transparent pages allocate and free page-sized pixmaps by the dozen. Keeping that memory spares
+// the kernel from clearing it each time.
 void keepFreedMemory() {
-    ::mallopt(M_MMAP_THRESHOLD, 32 << 20); // the most that it takes
+    ::mallopt(M_MMAP_THRESHOLD, 32 << 20); // the largest value allowed
     ::mallopt(M_TRIM_THRESHOLD, 256 << 20);
 }
 
 } // namespace
 
 void serveDrawing() {
-    // An import that is killed takes its workers along, even in the middle of a page.
+    // When the import is killed, its workers are killed too, even in the middle of a page.
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     keepFreedMemory();
     std::string line;
     if (!std::getline(std::cin, line))
-        return; // it was not needed
+        return; // a spare worker that was not needed
     const QByteArrayList order = QByteArray::fromStdString(line).split(' ');
     const QString path = QFile::decodeName(QByteArray::fromBase64(order.value(0)));
     const QString workFolder = QFile::decodeName(QByteArray::fromBase64(order.value(1)));
     enterWorkerSandbox(path, workFolder);
     try {
         const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
-        const Making make = makingOf(*document, order, workFolder);
+        const MakePage make = pageMaker(*document, order, workFolder);
         std::cout << "ready" << std::endl;
         servePages(make);
     } catch (const PlatformException& failure) {

@@ -4,10 +4,11 @@
 //
 //     folvero-page-worker draw
 //
-// The first line that it reads from standard input is its order: "PDF FOLDER QUALITY WHAT", both
-// paths as base64. It says "here" before it opens the document and "ready" after that; when it
-// can't be opened it says "fail REASON" and ends. Then it reads one-based page numbers, one a line.
-// WHAT says what it makes of them in the folder: for "pages" the page file "N.jpg", for "web" what
-// a web book has beside that. It answers each with one line: "ok DRAW ENCODE WRITE" (seconds) or
-// "fail REASON".
+// The first line of standard input is the job: "PDF FOLDER QUALITY WHAT", both paths in base64. It
+// prints "here" once its sandbox is in force and "ready" when the document is open, or "fail
+// REASON" when it can't be opened, and exits then. After that it reads one-based page numbers, one
+// per line. WHAT is the kind of files to make: "pages" for the page file "N.jpg", "web" for those
+// that a web book has beside it. It answers each number with one line: "ok DRAW ENCODE WRITE"
+// (seconds), "fail REASON", or "full REASON" or "unwritable REASON" when the folder can't be
+// written.
 void serveDrawing();

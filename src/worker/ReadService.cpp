@@ -14,7 +14,8 @@
 
 namespace {
 
-// A process that nobody waits for any more must not run on. The other side gives up before that.
+// A process that is no longer waited for must not keep running. The other side times out before
+// that.
 constexpr unsigned maxQuestionSeconds = unsigned(PDFLimits::maxPageTime.count()) + 10;
 
 QByteArray answer(const PDFDocument& document, const QByteArray& question) {
@@ -37,7 +38,7 @@ QByteArray answer(const PDFDocument& document, const QByteArray& question) {
                             QStringLiteral("no such question"));
 }
 
-void say(const std::function<QByteArray()>& work) {
+void answerWith(const std::function<QByteArray()>& work) {
     std::string line;
     ::alarm(maxQuestionSeconds);
     try {
@@ -61,10 +62,10 @@ void serveReading(const char* pdf) {
     const QString path = QFile::decodeName(pdf);
     enterWorkerSandbox(path, QString());
     std::shared_ptr<PDFDocument> document;
-    say([&] {
+    answerWith([&] {
         document = PDFDocument::open(path, PDFDocument::Access::mapped);
         return PDFSerialization::pack(document->pageCount());
     });
     for (std::string line; document && std::getline(std::cin, line);)
-        say([&] { return answer(*document, QByteArray::fromStdString(line)); });
+        answerWith([&] { return answer(*document, QByteArray::fromStdString(line)); });
 }

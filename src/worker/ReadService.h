@@ -4,8 +4,8 @@
 //
 //     folvero-page-worker read PDF
 //
-// It says "here", opens the document and says "ok" with the number of pages. Then it reads
-// questions, one a line, from standard input: "page N", "annotations N" (zero-based), "outline",
-// "labels", "language", "information KEY". It answers each with one line: "ok PACKED" (base64 of
-// what PDFSerialization packs) or "fail NAME REASON". The opening can fail too.
+// It prints "here" once its sandbox is in force, opens the document and prints "ok" with the number
+// of pages. Then it reads questions, one per line, from standard input: "page N", "annotations N"
+// (zero-based), "outline", "labels", "language", "information KEY". It answers each with one line:
+// "ok PACKED" (PDFSerialization in base64) or "fail NAME REASON". Opening can fail likewise.
 void serveReading(const char* pdf);

@@ -7,7 +7,7 @@
 #include <iostream>
 
 void enterWorkerSandbox(const QString& pdf, const QString& workFolder) {
-    Log::end(); // walls keep in the thread that raises them
+    Log::end(); // ends log4cplus's threads: file rules cover the calling thread only
     Sandbox::enter({pdf, workFolder, PDFLimits::maxProcessMemory, PDFLimits::maxPageFileSize});
     std::cout << "here" << std::endl;
 }

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-// Leaves this process nothing but that PDF, and that folder unless it is null: the file may be made
-// to take the process over. Then says "here", to be called before the file is opened: whoever has
-// started the process may read the file without walls as long as it has not been heard of.
+// Enters the sandbox, since the PDF may be built to take over the process: only that file and that
+// folder, unless it is null, stay accessible. Then prints "here". Call it before the file is
+// opened: as long as a worker has not printed that, the program that started it may conclude that
+// it does not run here and read the file itself.
 void enterWorkerSandbox(const QString& pdf, const QString& workFolder);

@@ -1,5 +1,5 @@
-// The page worker: works on one PDF for a program that does not touch the file itself. What it can
-// be asked stands in DrawService.h and ReadService.h.
+// The page worker: handles one PDF for a program that does not open the file itself. See
+// DrawService.h and ReadService.h for the protocol.
 
 #include "worker/DrawService.h"
 #include "worker/ReadService.h"
@@ -14,7 +14,7 @@
 int main(int argc, char** argv) {
     const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
     const std::string_view service = argc > 1 ? arguments[1] : "";
-    // Whatever the program that starts this one holds open is none of its business.
+    // Closes descriptors inherited from the program that started this one.
     ::closefrom(STDERR_FILENO + 1);
     try {
         if (service == "draw" && argc == 2) {
@@ -30,7 +30,6 @@ int main(int argc, char** argv) {
         std::cerr << "folvero-page-worker: " << failure.what() << '\n';
         return 1;
     }
-    // Clearing memory away is the system's work, and behind the walls no sanitizer can look for
-    // leaks in it.
+    // The kernel frees the memory, and in the sandbox no sanitizer can look for leaks.
     std::_Exit(0);
 }

@@ -207,7 +207,7 @@ TEST_F(FlashPagesAnnotationsPDFTest, KeepsTheLinksOfOtherPagesThanAnUnreadableOn
 
 TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
     constexpr int perPage = 5000;
-    constexpr int pages = 2 * AnnotationBudget::mostAnnotations / perPage;
+    constexpr int pages = 2 * AnnotationBudget::maxAnnotations / perPage;
     PDFBuilder builder;
     const int link = builder.addObject(
         PDFBuilder::link(QRectF(0, 0, 9, 9), PDFBuilder::toURL("https://a.org/")));
@@ -228,7 +228,7 @@ TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongList) {
         links += std::size_t(found);
     }
     EXPECT_EQ(listed, pages);
-    EXPECT_EQ(links, AnnotationBudget::mostAnnotations);
+    EXPECT_EQ(links, AnnotationBudget::maxAnnotations);
 }
 
 // The engine alone would go through five thousand pages, or names, for each of these links.
@@ -275,7 +275,7 @@ TEST_F(FlashPagesAnnotationsPDFTest, ReadsTheSameLinksOnePageAtATimeWhenIdle) {
 
 TEST_F(FlashPagesAnnotationsPDFTest, StopsReadingWhenPagesShareALongAddress) {
     constexpr int length = 60'000;
-    constexpr int pages = 2 * int(AnnotationBudget::mostCharacters) / length;
+    constexpr int pages = 2 * int(AnnotationBudget::maxCharacters) / length;
     const QByteArray address = "https://a.org/";
     const auto links = [&](int addressLength) {
         PDFBuilder builder;
