@@ -8,13 +8,13 @@
 
 namespace {
 
-constexpr qsizetype longestName = 255; // bytes, on all file systems in use
+constexpr qsizetype longestName = 255; // bytes, on all common file systems
 
 bool isRefused(QChar letter) {
     return letter.category() == QChar::Other_Control || QStringView(u"\\<>:\"|?*").contains(letter);
 }
 
-// For Windows, in every folder and with any ending.
+// On Windows, in every folder and with any extension.
 bool isDevice(const QString& name) {
     static const QRegularExpression device(
         QStringLiteral(
@@ -23,9 +23,8 @@ bool isDevice(const QString& name) {
     return device.match(name).hasMatch();
 }
 
-// Some servers look at every ending of a name, so that "a.php.jpg" is a program too. The endings of
-// the second group also stand for languages and countries, and are looked at in the last place
-// only.
+// Some servers check every extension of a name, so that "a.php.jpg" is executed too. The extensions
+// of the second group are also language and country codes, and are checked only at the end.
 bool isForServers(const QString& name) {
     static const QRegularExpression endings(
         QStringLiteral(

@@ -54,7 +54,7 @@ struct PixelSize {
 PixelSize thumbnailSize(PixelSize page) {
     if (page.width <= widestWithoutThumbnail)
         return page;
-    // Wraps around for absurd heights, as the 32-bit readers of the file do.
+    // Wraps around for absurd heights, as the 32-bit players do.
     const auto scaled = static_cast<std::int32_t>(static_cast<std::uint32_t>(page.height) * 85U);
     return {85, scaled / page.width};
 }
@@ -162,7 +162,7 @@ void FolveroOutput::appendBackgroundSound(pugi::xml_node background) const {
     pugi::xml_node sound = background.append_child("BackgroundSound");
     const QString key = QStringLiteral("backgroundSoundURL");
     const QString path = templateValue(key, QStringLiteral(""));
-    // A sound file without an extension does not count as one.
+    // A sound file without an extension is ignored.
     const bool hasExtension = !Files::pathExtension(path).isEmpty();
     append(sound, "SoundFile", hasExtension ? extFileURL(key, path) : QString());
     SaveXMLProperties(sound, QStringLiteral("SoundLoops"), QStringLiteral("backgroundSoundLoop"),

@@ -7,7 +7,7 @@ EmbedSnippet::EmbedSnippet(QString title, QSize pageSize, QString fileName)
 
 QString EmbedSnippet::html() const {
     const QString file = QString::fromLatin1(QUrl::toPercentEncoding(iFileName));
-    // An open book is two pages wide. One without a size gets that of upright paper.
+    // An open book is two pages wide. Without a size, portrait paper is assumed.
     const QSize open =
         iPageSize.isEmpty() ? QSize(10, 7) : QSize(2 * iPageSize.width(), iPageSize.height());
     return QStringLiteral("<iframe src=\"%1/%2\" title=\"%3\" loading=\"lazy\" allowfullscreen "

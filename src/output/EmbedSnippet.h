@@ -3,13 +3,13 @@
 #include <QSize>
 #include <QString>
 
-// The markup that shows a published book inside another page.
+// The HTML that embeds a published book in another page.
 class EmbedSnippet {
 public:
-    // A plain title, the size of one page in any unit, and the name of the book's page.
+    // A plain-text title, the size of one page in any unit, and the file name of the book's page.
     EmbedSnippet(QString title, QSize pageSize, QString fileName);
 
-    // One line. It has placeholder() where the address of the book's folder has to be put.
+    // One line. Contains placeholder() in place of the address of the book's folder.
     QString html() const;
 
     static QString placeholder() { return QStringLiteral("BOOK-ADDRESS"); }

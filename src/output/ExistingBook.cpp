@@ -14,38 +14,38 @@
 
 namespace {
 
-// Far beyond any book: the file may be anybody's.
-constexpr qint64 mostBytes = 64 << 20;
+// Far beyond any book: the file may be anything.
+constexpr qint64 maxConfigurationBytes = 64 << 20;
 
-// Of a page: its title and the marker stand far before that, the pictures of a book in one file
-// behind.
+// How much of a page is read: the title and the marker are far before this, the pictures of a
+// single-file book after it.
 constexpr qint64 headBytes = 1 << 20;
 
-const QString webFacts = QStringLiteral("web/book.js");
+const QString webMetadataFile = QStringLiteral("web/book.js");
 
 constexpr char marker[] = "<meta name=\"generator\" content=\"Folvero\">";
 
 bool loadConfiguration(const QString& filesFolder, pugi::xml_document& document) {
     const QString path = Files::join(filesFolder, QStringLiteral("UserConfig.bin"));
     const QFileInfo info(path);
-    if (!info.isFile() || info.size() > mostBytes)
+    if (!info.isFile() || info.size() > maxConfigurationBytes)
         return false;
     const QByteArray xml =
         CommonCryptor::decryptedRC4DataUsingKey(Files::contents(path), userConfigKey);
     return bool(document.load_buffer(xml.constData(), std::size_t(xml.size())));
 }
 
-// The beginning of a book's page; null for anything else.
+// The beginning of a book's page; null for other files.
 QByteArray headOfPage(const QString& path) {
     QFile file(path);
-    // Opening a pipe would wait for whoever writes to it.
+    // Opening a pipe would block.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
     const QByteArray head = file.read(headBytes);
     return head.contains(marker) ? head : QByteArray();
 }
 
-// What QString::toHtmlEscaped() was made from.
+// Reverses QString::toHtmlEscaped().
 QString unescaped(QString text) {
     return text.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
         .replace(QStringLiteral("&gt;"), QStringLiteral(">"))
@@ -61,9 +61,9 @@ bool ExistingBook::isIn(const QString& filesFolder) {
 }
 
 bool ExistingBook::isWebBookIn(const QString& filesFolder) {
-    const QString facts = Files::join(filesFolder, webFacts);
-    return isIn(filesFolder) && QFileInfo(facts).isFile() &&
-           Files::contents(facts).startsWith(WebScript::start(QStringLiteral("web/book")));
+    const QString metadata = Files::join(filesFolder, webMetadataFile);
+    return isIn(filesFolder) && QFileInfo(metadata).isFile() &&
+           Files::contents(metadata).startsWith(WebScript::start(QStringLiteral("web/book")));
 }
 
 bool ExistingBook::isPage(const QString& file) {
@@ -108,9 +108,9 @@ QStringList ExistingBook::files(const QString& filesFolder) {
         for (const auto* kind : {"thumb/%1.webp", "large/%1.svg", "large/%1.webp", "text/%1.js"})
             names << QString::fromLatin1(kind).arg(match.captured(1));
     }
-    // What it has of all its pages, and its player; at the end what it is known by.
+    // Data of all pages, and the player; last the file by which a web book is recognised.
     if (isWebBook)
         names << QStringLiteral("search/text.js") << QStringLiteral("web.js")
-              << QStringLiteral("web.css") << webFacts;
+              << QStringLiteral("web.css") << webMetadataFile;
     return names;
 }

@@ -62,7 +62,7 @@ QString FolveroOutput::outputSWFName() const {
     return Files::join(iSaveToFolder, QStringLiteral("book.swf"));
 }
 
-// A first publish that was killed left files without a configuration.
+// A first publish that was killed leaves files without a configuration.
 bool FolveroOutput::hasExistingBook() const {
     return ExistingBook::isIn(Files::join(iSaveToFolder, iResourceFolder)) ||
            StagingFolder::hasStale(iSaveToFolder);
@@ -85,7 +85,7 @@ QString FolveroOutput::titleOfExistingBook() const {
     const QString page = outputHTMLFileName();
     if (ExistingBook::isPage(page))
         return ExistingBook::title(page);
-    // Its page has another name then.
+    // The existing book's page may have another name.
     const QStringList pages = ExistingBook::isIn(Files::join(iSaveToFolder, iResourceFolder))
                                   ? ExistingBook::pages(iSaveToFolder)
                                   : QStringList();
@@ -266,7 +266,7 @@ void FolveroOutput::copyExtFilesOfChildren(const FlashTemplateProperty& property
         const bool namesFile = child->propertyType() == pt_file && !child->value().isEmpty();
         if (namesFile) {
             copyExtFile(*child, folder);
-            // What belongs to a missing file is left out with it.
+            // Children of a missing file are left out with it.
             if (!isReadableFile(child->value()))
                 continue;
         }
@@ -328,7 +328,7 @@ void FolveroOutput::removeExtFiles(const QString& base) {
     });
 }
 
-// Nothing speaks of them any more once the new configuration is there.
+// The new configuration does not refer to them.
 void FolveroOutput::removeFilesOfExistingBook() {
     OfflineFiles::removeOutdated(transaction(), iSaveToFolder);
     const QString files = Files::join(iSaveToFolder, iResourceFolder);
@@ -373,7 +373,7 @@ void FolveroOutput::copyTemplateFile(const QString& name, TemplateCopy copy,
     (iFlashTemplate.get()->*copy)(staged);
     if (QFileInfo::exists(staged))
         return;
-    // The template says nothing about its failures.
+    // The template does not report errors.
     const QString source = iFlashTemplate->playerFile(name);
     if (isReadableFile(source))
         transaction().copy(source, target, Copy::independent);
@@ -420,7 +420,7 @@ QString FolveroOutput::getNormalPageURL(const FlashPage& page) const {
 }
 
 QString FolveroOutput::getZoomedPageURL(const FlashPage& page) const {
-    // Zoomed pages go by the folder of the normal ones, whatever folder they lie in.
+    // Zoomed pages use the URL of the normal ones, whatever folder they are in.
     return getNormalPageURL(page);
 }
 

@@ -15,10 +15,10 @@
 #include <vector>
 
 // Writes a book into a folder: its pages, the files that its template's settings and its links
-// name, its enciphered configuration, its HTML page, and the template's player.
+// need, its enciphered configuration, its HTML page, and the template's player.
 //
-// A run changes the folder at its end, or not at all. Source files that are missing leave out what
-// would be made from them. A step called by itself is a run of its own.
+// A run changes the folder at its end, or not at all. Parts whose source files are missing are left
+// out. A step called on its own is a run of its own.
 class FolveroOutput {
 public:
     FolveroOutput() = default;
@@ -30,39 +30,41 @@ public:
     FolveroOutput(const FolveroOutput&) = delete;
     FolveroOutput& operator=(const FolveroOutput&) = delete;
 
-    // Writes the whole book; does nothing at all when its folder does not exist.
+    // Writes the whole book; does nothing when its folder does not exist.
     virtual void ouputTheBook();
 
-    // Full paths: of the HTML page, of what a caller opens to show the book, of the player.
+    // Full paths of the HTML page, of what a caller opens to show the book, and of the Flash
+    // player.
     virtual QString outputHTMLFileName() const;
     virtual QString outputFileName() const;
     QString outputSWFName() const;
 
-    // Full paths of files (of a folder, for an application) that a run would replace or remove and
-    // that no book has: somebody's own page, say. A run replaces them without asking, so callers
-    // ask before. Needs neither pages nor a title, so it can be asked before pages are drawn.
+    // Full paths of files (of a folder, for an application) that a run would replace or remove
+    // although they do not belong to a book, such as a user's own page. A run replaces them without
+    // asking, so callers must ask first. Works before pages and title are set, so it can be called
+    // before drawing.
     virtual QStringList foreignFiles() const;
-    // The title of the book that a run would replace, as plain text. Null when there is no book, or
-    // when its page doesn't tell.
+    // The title, as plain text, of the book that a run would replace. Null when there is none, or
+    // its page has no title.
     QString titleOfExistingBook() const;
 
-    // What went wrong in the last run, one "FILE: CAUSE" each; the folder is then as it was before.
+    // Errors of the last run, one "FILE: CAUSE" each; the folder is unchanged then.
     QStringList publishErrors() const { return englishTexts(iPublishErrors); }
     const Messages& publishMessages() const { return iPublishErrors; }
-    // What the last run did to the folder; nothing when it failed or was cancelled.
+    // What the last run changed in the folder; all zero when it failed or was cancelled.
     const PublishTransaction::Counts& fileCounts() const { return iFileCounts; }
     // Numbers of the pages that the last run left out because their file was missing.
     const std::vector<int>& missingPages() const { return iMissingPages; }
-    // Asked between files; true ends a run without a change to the folder.
+    // Polled between files; true cancels a run without a change to the folder.
     void setCancelled(std::function<bool()> isCancelled) { iIsCancelled = std::move(isCancelled); }
-    // Whether the last run ended so.
+    // Whether the last run was cancelled.
     bool wasCancelled() const { return iWasCancelled; }
 
-    // The steps of ouputTheBook(). An empty base means the book's folder. A base given to one of
-    // the first two is used; for the others any base means the current folder.
+    // The steps of ouputTheBook(). An empty base means the book's folder. The first two use a
+    // non-empty base; the others then use the current folder.
     void prepaireNomalPage(const QString& base);
     void prepaireZoomendPage(const QString& base);
-    // Books have no thumbnail files: the player shows the pages themselves in small.
+    // Does nothing: the player shows the pages themselves as thumbnails.
     void prepaireThumbPage(const QString& base);
     void prepaireExtFiles(const QString& base);
     void prepaireExtFiles(const QString& base, const FlashTemplateProperty& atChildPro);
@@ -70,12 +72,12 @@ public:
     // Removes files of an earlier run whose settings are now empty.
     void removeExtFiles(const QString& base);
     // Writes the enciphered configuration, and beside it, with the extension "js", the same bytes
-    // as a script for books that are opened from disk, where browsers don't read files.
+    // as a script, since browsers can't fetch files when a book is opened from disk.
     void ouputBookXML(const QString& path);
 
-    // The configuration in the clear; file names in it are relative to the folder "files".
+    // The unencrypted configuration; file names in it are relative to the folder "files".
     std::unique_ptr<pugi::xml_document> bookXML() const;
-    // Appends an element that holds the template's value, or the default when it has none.
+    // Appends an element with the template's value, or the default when it has none.
     void SaveXMLProperties(pugi::xml_node parent, const QString& nodeName, const QString& key,
                            const QString& defaultValue) const;
 
@@ -97,54 +99,53 @@ public:
     void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
         iFlashPagesAnnotations = std::move(value);
     }
-    // Held for callers; not written.
+    // Stored for callers; not written.
     const std::shared_ptr<FlashOutline>& flashOutline() const { return iFlashOutline; }
     void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
     QString saveToFolder() const { return iSaveToFolder; }
     void setSaveToFolder(const QString& folder) { iSaveToFolder = folder; }
     QString saveToFileName() const { return iSaveToFileName; }
     void setSaveToFileName(const QString& name) { iSaveToFileName = name; }
-    // Without one the template's page is copied as it is.
+    // When null, the template's page is copied unchanged.
     const std::shared_ptr<HTMLConfigInfo>& HTMLConfig() const { return iHTMLConfig; }
     void setHTMLConfig(std::shared_ptr<HTMLConfigInfo> value) { iHTMLConfig = std::move(value); }
 
 protected:
-    // Whether the book's folder is a book's already, so that what lies in "files" is that book's.
+    // Whether the folder already contains a book, so that the files in "files" are that book's.
     bool hasExistingBook() const;
 
     void resetResults();
     bool isCancelled() const { return iIsCancelled && iIsCancelled(); }
-    // Ends the run under way without a change to the folder when it was cancelled.
+    // Aborts the current run, without a change to the folder, if it was cancelled.
     void checkCancelled() const;
-    // For a subclass that was cancelled outside of a run.
+    // For subclasses: records a cancel outside of a run.
     void markCancelled();
-    // All steps of a run; a subclass may add its own around them.
+    // All steps of a run; subclasses may add their own.
     virtual void publish();
 
-    // What a subclass changes about the HTML page before it is put in place: a file that it may
-    // write anew.
+    // For subclasses: edits the staged HTML page, a file that may be rewritten.
     virtual void finishHTMLPage(const QString& /*file*/) {}
 
-    // Does the work inside the run under way or, when there is none, in a run of its own on that
-    // folder. False when that run failed or was cancelled.
+    // Does the work inside the current run or, when there is none, in a new run on that folder.
+    // False when that run failed or was cancelled.
     bool perform(const QString& folder, const std::function<void()>& work);
-    // For work inside perform(): what the run changes.
+    // The transaction of the current run; only inside perform().
     PublishTransaction& transaction() { return *iTransaction; }
-    // Copies a file under a name of its own in a folder of the book. Without the source, an earlier
-    // file of that name goes and false comes back; so it does for a name that a
-    // book's file may not have.
+    // Copies a file under a new name into a folder of the book. Without the source, or for a name
+    // that a book's file may not have, removes an existing file of that name and returns false.
     bool replaceWithCopy(const QString& source, const QString& folder, const QString& name,
                          PublishTransaction::Copy kind);
 
     QString resourceFolder(const QString& root, const QString& name) const;
 
-    // For what goes wrong outside of perform(): ends up in publishErrors() and in the log.
+    // Reports an error outside of perform(): adds it to publishErrors() and logs it.
     void reportFailure(const Message& reason);
-    // For a subclass that publishes somewhere else than into saveToFolder() at first: puts the
-    // final path in place of the working one in publishErrors().
+    // For subclasses that first publish to a working path: replaces it with the final path in
+    // publishErrors().
     void renameInErrors(const QString& working, const QString& final);
 
-    // Appends an "item" for each descendant of the property, parents first, all to one element.
+    // Appends an "item" to element for each descendant of the property, parents first, without
+    // nesting.
     void appendChildPropertyToNode(pugi::xml_node element,
                                    const FlashTemplateProperty& property) const;
 

@@ -44,8 +44,8 @@ void copyShell(const QString& contents) {
     }
 }
 
-// At no moment is there neither the old bundle nor the new one, where the file system can exchange
-// two names. The old one ends up under the working path.
+// Exchanges the two names atomically where the file system supports it, so that either the old
+// bundle or the new one is always there. The old one ends up under the working path.
 bool exchange(const QString& working, const QString& final) {
     const QByteArray from = QFile::encodeName(working);
     const QByteArray to = QFile::encodeName(final);
@@ -112,7 +112,7 @@ QStringList FolveroOutputApp::foreignFiles() const {
 
 void FolveroOutputApp::publishInto(const QString& bundle) {
     const QString contents = Files::join(bundle, QStringLiteral("Contents"));
-    // Not the folders around it, which may have been taken away with a memory stick.
+    // Does not create parent folders, which may have gone with an unplugged drive.
     if (!QDir().mkdir(bundle)) {
         reportFailure(lastErrorAt(bundle));
         return;

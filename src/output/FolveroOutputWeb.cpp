@@ -40,7 +40,7 @@ const Log& logger() {
     return log;
 }
 
-// The file comes from a process that has read a stranger's document.
+// The file was written by a process that has read an untrusted document.
 std::vector<PDFTextLine> textFrom(const QString& path) {
     if (path.isNull())
         return {};
@@ -54,11 +54,11 @@ std::vector<PDFTextLine> textFrom(const QString& path) {
 
 QString megabytes(qint64 bytes) {
     constexpr double megabyte = 1'000'000;
-    // Never below what it is: a file just over a limit has to look like it.
+    // Rounded up: a file just over a limit must not appear to be within it.
     return QString::number(std::ceil(10 * double(bytes) / megabyte) / 10, 'f', 1);
 }
 
-// Those at a terminal can be told the very options.
+// The terminal's text can name the options.
 Message tooLarge(qint64 size, qint64 limit) {
     const Message forWindow =
         Message::translate("FolveroOutput",
@@ -73,7 +73,7 @@ Message tooLarge(qint64 size, qint64 limit) {
     return {forTerminal, forWindow.local()};
 }
 
-// Only the name of a language may stand in a page.
+// Only a valid language tag may get into the page.
 QString languageTag(const QString& text) {
     const QString tag = text.trimmed().left(35);
     const bool isTag = std::all_of(tag.begin(), tag.end(), [](QChar letter) {
@@ -115,7 +115,7 @@ void FolveroOutputWeb::ouputTheBook() {
     });
     readMetadata();
     describeBook();
-    iFlashPageSource = sourceOfWebPages();
+    iFlashPageSource = webPageSource();
     FolveroOutput::ouputTheBook();
 }
 
@@ -130,7 +130,7 @@ bool FolveroOutputWeb::makePages() {
     return false;
 }
 
-// The pages' pictures may have come long before their texts and links.
+// The pages may have been drawn long before their texts and links are read.
 void FolveroOutputWeb::checkDocumentUnchanged() const {
     const auto document = iWebPages->document();
     if (!document)
@@ -155,7 +155,7 @@ QStringList FolveroOutputWeb::foreignFiles() const {
     return found;
 }
 
-// The page tells what the document says of itself.
+// Uses the document's own subject and keywords for the page.
 void FolveroOutputWeb::describeBook() {
     if (!iHTMLConfig)
         return;
@@ -166,9 +166,9 @@ void FolveroOutputWeb::describeBook() {
         iHTMLConfig->setHTMLKeywords(iMetadata.keywords.toHtmlEscaped());
 }
 
-// The same pages with the files that a web book shows, if it shows them. It owns them as the other
-// one does.
-std::shared_ptr<FlashPageSource> FolveroOutputWeb::sourceOfWebPages() const {
+// The same pages with the web book's files, for the pages that are included. Ownership of the files
+// is that of the original source.
+std::shared_ptr<FlashPageSource> FolveroOutputWeb::webPageSource() const {
     class Source : public FlashPageSource {
     public:
         explicit Source(bool owns) : iOwns(owns) {}
@@ -271,7 +271,7 @@ void FolveroOutputWeb::publish() {
     if (iWebPages)
         writePages();
     FolveroOutput::publish();
-    // It knows no pictures of this kind.
+    // The Flash player can't show these formats.
     transaction().remove(outputSWFName());
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("js"));
     copyPlayerPart(QStringLiteral("web"), QStringLiteral("css"));
@@ -315,7 +315,7 @@ void FolveroOutputWeb::packIntoPage() {
         PublishTransaction::fail(page, error);
 }
 
-// Path of a file that is installed with the program. Fails for the book's file that is made of it.
+// Path of an installed file of the player. Fails, naming target, when it is missing.
 QString FolveroOutputWeb::playerPart(const QString& name, const QString& type,
                                      const QString& target) const {
     const QString source = Bundle::pathForResource(name, type, QStringLiteral("AppFiles/Web"));
@@ -365,7 +365,7 @@ void FolveroOutputWeb::writePages() {
                         Phase::page);
 }
 
-// The files of one page beside its picture. Returns its text.
+// Writes the files of a page beside its picture. Returns its text.
 QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* document,
                                     AnnotationBudget& budget) {
     iPageBytes += QFileInfo(page.picture).size();
@@ -384,7 +384,7 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
                 annotations = source.annotations();
             budget.spend(annotations);
         } catch (const PlatformException& failure) {
-            if (QFileInfo::exists(page.picture)) // else it is a missing page
+            if (QFileInfo::exists(page.picture)) // otherwise it is a missing page
                 iDegradedPages.emplace_back(page.number, failure.message());
         }
     }
@@ -411,8 +411,7 @@ QString FolveroOutputWeb::getThumbPageURL(const FlashPage& page) const {
     return hasOne ? QStringLiteral("thumb/%1.webp").arg(page.pageIndex()) : getNormalPageURL(page);
 }
 
-// On slow connections each thing that is known of only when another has come costs more than the
-// thing itself.
+// On slow connections, files discovered only after another has arrived cost a round trip each.
 QByteArray FolveroOutputWeb::preloads() {
     QByteArray links = "<link rel=\"preload\" as=\"script\" href=\"files/web/book.js\">\n";
     const auto pages =
@@ -431,7 +430,7 @@ void FolveroOutputWeb::finishHTMLPage(const QString& file) {
     const qsizetype headEnd = html.indexOf("</head>");
     if (headEnd < 0)
         return;
-    // It shows a movie that web books don't have.
+    // Removes the Flash movie, which web books don't have.
     const qsizetype movie = html.indexOf("<object ");
     if (const qsizetype end = html.indexOf("</object>", movie); movie >= 0 && end >= 0)
         html.remove(movie, end + qsizetype(qstrlen("</object>")) - movie);

@@ -8,28 +8,28 @@
 #include <functional>
 #include <optional>
 
-// Writes a web book: the folder of a book whose pages take fewer bytes, and what a reader of today
-// expects beyond: links that can be clicked, contents, search, text that can be selected, a larger
-// picture for each page, thumbnails, and the whole text as a page of its own.
+// Writes a web book: a book folder whose pages take fewer bytes, with clickable links, contents,
+// search, selectable text, a larger picture of each page, thumbnails, and the whole text as a
+// separate page.
 class FolveroOutputWeb : public FolveroOutput {
 public:
     using FolveroOutput::FolveroOutput;
 
-    // Plain text, shown wherever the book tells of itself; by default that of the document.
+    // Plain text, shown wherever the book is named; by default the document's title.
     void setTitle(const QString& title) { iTitle = title; }
     QString title() const { return iTitle; }
 
-    // Everything in the HTML page and no other file, to be sent by mail or opened from a disk.
-    // There is no plain page of the text then.
+    // Puts everything into the HTML page, to be sent by mail or opened from disk. There is no page
+    // of plain text then.
     void setSingleFile(bool isSingleFile) { iIsSingleFile = isSingleFile; }
-    // Bytes up to which a book is written as one file; mail and browsers take no more.
+    // The maximum size of a single-file book in bytes; mail and browsers do not accept more.
     void setSingleFileLimit(qint64 bytes) { iSingleFileLimit = bytes; }
 
-    // Opens these pages only, given by their numbers in the PDF. Of the others the book says no
-    // more than that they are there: it has neither pictures nor texts of them. None opens all.
+    // Includes only these pages, by their numbers in the PDF; of the others the book contains
+    // neither pictures nor text. None includes all.
     void setOpenPages(std::optional<std::vector<PageRun>> pages) { iOpenPages = std::move(pages); }
 
-    // Called while pages are made, with the number of pages done and that of all.
+    // Called while pages are made, with the number of pages done and the total.
     void setProgress(std::function<void(int done, int total)> progress) {
         iProgress = std::move(progress);
     }
@@ -39,13 +39,13 @@ public:
 
     QString getThumbPageURL(const FlashPage& page) const override;
 
-    // Pages of the last run that have less than they could have, and why.
+    // Pages of the last run that lack some of their files, and why.
     const std::vector<std::pair<int, Message>>& degradedPages() const { return iDegradedPages; }
-    // False when the folder has a service worker or manifest of somebody else's, which then stays:
-    // readers can't keep the book. Nor can they in this way when it is one file.
+    // False when the folder contains another site's service worker or manifest, which is kept:
+    // readers can't save the book for offline use then, nor can they with a single-file book.
     bool worksOffline() const { return iMetadata.offline; }
-    // Bytes of all that the last run wrote for pages: pictures, larger ones, thumbnails, text; and
-    // those of the same pages in a classic book.
+    // Bytes that the last run wrote for pages (pictures, larger ones, thumbnails, text), and those
+    // of the same pages in a classic book.
     qint64 pageBytes() const { return iPageBytes; }
     qint64 classicPageBytes() const { return iClassicPageBytes; }
 
@@ -71,10 +71,10 @@ private:
     void packIntoPage();
     QString playerPart(const QString& name, const QString& type, const QString& target) const;
     void copyPlayerPart(const QString& name, const QString& type);
-    std::shared_ptr<FlashPageSource> sourceOfWebPages() const;
+    std::shared_ptr<FlashPageSource> webPageSource() const;
 
     std::function<void(int, int)> iProgress = [](int, int) {};
-    std::unique_ptr<WebPages> iWebPages; // of the run under way
+    std::unique_ptr<WebPages> iWebPages; // of the current run
     QString iTitle;
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;

@@ -10,8 +10,8 @@
 
 namespace {
 
-// Paths of a folder's files whose names match a whole pattern. A link in the place of the folder is
-// replaced, and what it leads to stays.
+// Paths of a folder's files whose names match a pattern. A link in place of the folder is replaced
+// by publishing; its target is untouched.
 QStringList matching(const QString& folder, const QString& pattern) {
     if (QFileInfo(folder).isSymLink())
         return {};
@@ -26,7 +26,7 @@ QStringList matching(const QString& folder, const QString& pattern) {
     return found;
 }
 
-// The same beneath "files", which may be a link as well.
+// The same below "files", which may be a link as well.
 QStringList inFiles(const QString& filesFolder,
                     const std::initializer_list<std::pair<const char*, const char*>>& patterns) {
     QStringList found;

@@ -4,20 +4,20 @@
 
 class FlashTemplate;
 
-// Files that a publish would replace or remove although no publish of ours made them. The
-// publishers' foreignFiles() put together what theirs would; callers ask those.
+// Finds files that a publish would replace or remove although we did not make them. The publishers'
+// foreignFiles() combine these functions; callers use those.
 namespace ForeignFiles {
 
-// Whether there is anything of that name that could be lost: an empty file holds nothing. A link
-// counts, wherever it leads.
+// Whether something of that name could be lost: an empty file has no content. A link counts,
+// wherever it points.
 bool isThere(const QString& path);
 
 // The HTML page, unless it is a book's; at most one path. A folder is left out, since publishing
-// fails at it.
+// fails there anyway.
 QStringList page(const QString& path);
 
-// For a folder "files" that no book has: paths of what lies where a book has its configuration, its
-// pages and the files of its template's properties; and what a web book has there beyond.
+// For a folder "files" without a book: paths of existing files where a book has its configuration,
+// pages and template files, or the additional files of a web book.
 QStringList ofBook(const QString& filesFolder, const FlashTemplate* flashTemplate);
 QStringList ofWebBook(const QString& filesFolder);
 

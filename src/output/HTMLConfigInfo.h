@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// What the HTML page of a book says about it.
+// Texts for the HTML page of a book.
 class HTMLConfigInfo {
 public:
     QString HTMLTitle() const { return iHTMLTitle; }
@@ -13,15 +13,15 @@ public:
     void setHTMLKeywords(const QString& keywords) { iHTMLKeywords = keywords; }
     QString HTMLDescription() const { return iHTMLDescription; }
     void setHTMLDescription(const QString& text) { iHTMLDescription = text; }
-    // Kept for callers; the page doesn't use the two scripts.
+    // Stored for callers; the page doesn't use the two scripts.
     QString HTMLScript() const { return iHTMLScript; }
     void setHTMLScript(const QString& script) { iHTMLScript = script; }
     QString otherScript() const { return iOtherScript; }
     void setOtherScript(const QString& script) { iOtherScript = script; }
 
-    // Fills the placeholders "index.title", "meta.keywords" and "meta.description" of a template
-    // file in UTF-8 and writes the page. A template that can't be read gives an empty page. On a
-    // failed write the old file stays, false comes back and *error (when given) tells why.
+    // Fills in the placeholders "index.title", "meta.keywords" and "meta.description" of a UTF-8
+    // template and writes the page. An unreadable template gives an empty page. On a failed write
+    // the old file is kept, false is returned and *error (when given) set.
     bool generateHTMLFrom(const QString& templatePath, const QString& toFile,
                           Message* error = nullptr) const;
 

@@ -8,10 +8,10 @@
 
 namespace {
 
-// Metadata comes before the pixels, and an Exif block is 64 KB at most.
+// Metadata comes before the pixels, and an Exif block is at most 64 KB.
 constexpr qint64 longestHead = 1 << 20;
 
-// Reads numbers at offsets of a block; past its end they are 0.
+// Reads numbers at offsets of a block; 0 past its end.
 class Bytes {
 public:
     explicit Bytes(QByteArrayView data, bool bigEndian = true)
@@ -51,7 +51,7 @@ std::optional<ImageResolution> plausible(double x, double y) {
     return ImageResolution{x, y};
 }
 
-// A resolution in whole dots per metre is off by up to one dot: 72 dots per inch come as 2835.
+// Whole dots per metre are off by up to one: 72 dots per inch are stored as 2835.
 double fromDotsPerMeter(quint32 dots) {
     const double exact = dots * 0.0254;
     const double whole = std::round(exact);
@@ -76,7 +76,7 @@ std::optional<ImageResolution> ofBMP(const Bytes& file) {
     return plausible(fromDotsPerMeter(file.u32(38)), fromDotsPerMeter(file.u32(42)));
 }
 
-// The first directory of a TIFF file, or of the Exif block of a JPEG file.
+// Reads the first directory of a TIFF file, or of the Exif block of a JPEG file.
 std::optional<ImageResolution> ofTIFF(const Bytes& file) {
     const Bytes block = file.from(0, file.at(0, 2) == "MM");
     const qsizetype directory = block.u32(4);
@@ -115,7 +115,7 @@ std::optional<ImageResolution> ofJFIF(const Bytes& segment) {
     return plausible(segment.u16(8) * perInch, segment.u16(10) * perInch);
 }
 
-// JFIF's own statement comes first; cameras leave it out and write Exif.
+// The JFIF density takes precedence; cameras omit it and write Exif.
 std::optional<ImageResolution> ofJPEG(const Bytes& file) {
     std::optional<ImageResolution> found;
     for (qsizetype at = 2; file.u8(at) == 0xFF && !found;) {

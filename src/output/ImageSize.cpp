@@ -24,7 +24,7 @@ QSize ImageSize::inPoints(const QString& path) {
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     QSize pixels = reader.size();
-    // Some formats tell their size only once read.
+    // Some formats report their size only after decoding.
     if (!pixels.isValid())
         pixels = reader.read().size();
     if (pixels.isEmpty())

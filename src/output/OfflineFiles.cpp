@@ -23,14 +23,14 @@ const QString manifestName = QStringLiteral("manifest.webmanifest");
 const QString listName = QStringLiteral("files/web/offline.json");
 const QString iconName = QStringLiteral("files/web/icon.svg");
 
-// How every worker of ours begins: folders may have scripts of that name of their own.
+// The start of all our service workers: folders may contain other scripts of that name.
 constexpr char declaration[] = "const BOOK = ";
 constexpr char workerStart[] = "const BOOK = {\"page\":";
 
-// Of systems that cut off what is longer.
+// Some systems truncate longer names.
 constexpr qsizetype longestShortName = 30;
 
-// Letters of a digest that the worker compares; it tells files of one book apart.
+// Digits of a digest that the service worker compares; enough to distinguish versions of a file.
 constexpr int digestLetters = 16;
 
 QByteArray digestOf(const QByteArray& bytes) {
@@ -41,14 +41,14 @@ QByteArray compact(const QJsonObject& object) {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
-// The order in which files of a book that is kept as a whole are fetched: what is read first, and
-// at the end what is seen only on enlarged pages. What the book needs to open comes with the
-// worker.
+// The order in which files are fetched when a reader saves the whole book: first what is read
+// first, last what shows only on enlarged pages. The files needed to open the book are cached when
+// the service worker is installed.
 enum class Part { shell, picture, text, large, none };
 
 Part partOf(const QString& path, const QString& page) {
-    // Browsers ask for sounds in pieces, which the worker leaves to them; the script stands for the
-    // configuration on disk only.
+    // Browsers request sounds in ranges, which the service worker does not handle; the script
+    // replaces the configuration from disk only.
     if (MediaType::ofFile(path).startsWith("audio/") || path == u"files/UserConfig.js")
         return Part::none;
     if (path.startsWith(QStringLiteral("files/large/")))
@@ -62,14 +62,14 @@ Part partOf(const QString& path, const QString& page) {
     return path == page || path.startsWith(QStringLiteral("files/")) ? Part::shell : Part::none;
 }
 
-// Objects of the library are sorted by name, and pages are to come in their order.
+// QJsonObject sorts by name, and pages must stay in order.
 QByteArray member(const QString& path, const QByteArray& digest) {
     const QByteArray name = QJsonDocument(QJsonArray{path}).toJson(QJsonDocument::Compact);
     return name.mid(1).chopped(1) + ":\"" + digest + '"';
 }
 
 struct List {
-    std::array<QByteArrayList, 4> parts; // members, by part
+    std::array<QByteArrayList, 4> parts; // JSON members by part
     qint64 bytes = 0;
 
     QByteArray shell() const { return parts[std::size_t(Part::shell)].join(','); }
@@ -99,7 +99,7 @@ QString shortened(const QString& title) {
     if (title.size() <= longestShortName)
         return title;
     const qsizetype blank = title.lastIndexOf(u' ', longestShortName);
-    // Not in the middle of a character that takes two.
+    // Not between the two halves of a surrogate pair.
     const qsizetype cut = title[longestShortName - 1].isHighSurrogate() ? 1 : 0;
     return title.left(blank > 0 ? blank : longestShortName - cut);
 }
@@ -167,7 +167,7 @@ QByteArray OfflineFiles::manifest() const {
     return QJsonDocument(object).toJson();
 }
 
-// The cover on a square, as systems want icons to be.
+// The cover on a square background, as systems expect icons.
 QByteArray OfflineFiles::icon(const PublishTransaction& transaction) const {
     QByteArray picture =
         "<path d=\"M256 150c-48-32-96-32-144-16v228c48-16 96-16 144 16 48-32 96-32 "

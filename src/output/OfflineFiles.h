@@ -6,26 +6,26 @@
 
 class PublishTransaction;
 
-// What lets readers of a web book keep it: the page's script that answers for the server, the list
-// of files that it goes by, and what systems ask for that put a book among their programs.
+// Files that make a web book available offline: its service worker, the list of files that it
+// caches, and the web app manifest with its icon, for installing the book.
 struct OfflineFiles {
-    QString folder;    // of the book
-    QString page;      // name of its HTML page
-    QString title;     // plain text
-    QString language;  // "de", or empty
-    QString cover;     // a picture that the transaction writes, a path in the book; empty for none
-    QColor ground;     // what lies around the book
-    QColor bar;        // what its controls lie on
-    QByteArray script; // that answers, as the player has it
+    QString folder;   // of the book
+    QString page;     // file name of its HTML page
+    QString title;    // plain text
+    QString language; // "de", or empty
+    QString cover;    // a picture written by the transaction, as a path in the book; empty for none
+    QColor ground;    // background around the book
+    QColor bar;       // background of its controls
+    QByteArray script; // the player's service worker
 
-    // Whether the folder has room for them: it may hold such files of somebody else's site.
+    // Whether the files may be written to the folder: false when it contains those of another site.
     static bool canWriteTo(const QString& folder);
 
-    // Stages them. The list has what the transaction writes, so it comes last.
+    // Stages them. The list contains what the transaction writes, so call it last.
     void write(PublishTransaction& transaction) const;
 
-    // For a book that does without them: takes away those of the earlier book that the transaction
-    // replaces, whose readers would go on with it, and its page of plain text.
+    // For a book without them: removes those of the existing book that the transaction replaces,
+    // whose readers would otherwise keep getting it, and its page of plain text.
     static void removeOutdated(PublishTransaction& transaction, const QString& folder);
 
 private:

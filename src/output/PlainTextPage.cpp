@@ -8,8 +8,7 @@
 
 namespace {
 
-// Begins the style of every such page, and tells it from pages that others wrote: it stays as it
-// is.
+// Start of the style of every such page, by which it is recognised: must not change.
 constexpr char styleStart[] = "\">\n<style>body{max-width:42em;margin:2em auto;padding:0 1em;";
 
 constexpr char style[] =
@@ -31,18 +30,19 @@ bool PlainTextPage::isOne(const QString& file) {
     return QFileInfo(file).isFile() && Files::contents(file).contains(styleStart);
 }
 
-PlainTextPage::PlainTextPage(const WebBookMetadata& facts, const QString& book) : iMetadata(facts) {
+PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book)
+    : iMetadata(metadata) {
     const QByteArray address = QUrl::toPercentEncoding(book);
     const QByteArray language =
-        escaped(facts.language.isEmpty() ? QStringLiteral("en") : facts.language);
+        escaped(metadata.language.isEmpty() ? QStringLiteral("en") : metadata.language);
     iHTML = "<!DOCTYPE html>\n<html lang=\"" + language +
-            "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(facts.title) +
+            "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(metadata.title) +
             "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<link rel=\"canonical\" href=\"" +
             address + styleStart + style + "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" +
-            address + "\">" + escaped(facts.title) + "</a></h1>\n";
-    if (!facts.author.isEmpty())
-        iHTML += "<p>" + escaped(facts.author) + "</p>\n";
+            address + "\">" + escaped(metadata.title) + "</a></h1>\n";
+    if (!metadata.author.isEmpty())
+        iHTML += "<p>" + escaped(metadata.author) + "</p>\n";
 }
 
 void PlainTextPage::addPage(const QString& text) {

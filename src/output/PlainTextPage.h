@@ -5,22 +5,22 @@
 
 struct WebBookMetadata;
 
-// All text of a book as a page without a script, page by page: for search engines, for old
-// browsers, and for readers who want no pictures.
+// All text of a book, page by page, as an HTML page without scripts: for search engines, old
+// browsers, and readers who prefer text.
 class PlainTextPage {
 public:
     // In the book's folder.
     static inline const QString fileName = QStringLiteral("text.html");
 
-    // Whether a file is such a page of any book, of whatever version.
+    // Whether a file is such a page, of any book and any version.
     static bool isOne(const QString& file);
 
-    // book is the address of the book's page, relative to this one.
-    PlainTextPage(const WebBookMetadata& facts, const QString& book);
+    // book is the URL of the book's page, relative to this one.
+    PlainTextPage(const WebBookMetadata& metadata, const QString& book);
 
-    // The next page of the book.
+    // Adds the next page of the book.
     void addPage(const QString& text);
-    // The next page of the book is not shown here.
+    // Skips the next page of the book.
     void skipPage() { ++iPosition; }
 
     QByteArray html() const;

@@ -22,8 +22,7 @@ namespace {
     PublishTransaction::fail(path, Message::ofLastSystemError());
 }
 
-// The kind of what is there, 0 for nothing. Symbolic links count as what they are, not as what they
-// point to.
+// The file type at a path, 0 for none. Symbolic links are not followed.
 mode_t kindOf(const QString& path) {
     struct stat info {};
     return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & S_IFMT : 0;
@@ -41,13 +40,13 @@ bool moveFile(const QString& from, const QString& to) {
     return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
 }
 
-// A second name for a link or the like, not for what it points to.
-bool nameAgain(const QString& path, const QString& name) {
+// A hard link to, or a copy of, a symbolic link or special file itself.
+bool linkOrCopySymlink(const QString& path, const QString& name) {
     const QByteArray from = QFile::encodeName(path);
     const QByteArray to = QFile::encodeName(name);
     if (::linkat(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), 0) == 0)
         return true;
-    // Systems may refuse that for what belongs to somebody else.
+    // Systems may refuse hard links to another user's files.
     std::error_code error;
     std::filesystem::copy_symlink(from.toStdString(), to.toStdString(), error);
     return !error;
@@ -88,7 +87,7 @@ PublishTransaction::~PublishTransaction() {
         removeCreatedRoots();
 }
 
-// Under a name that no later run takes for a leftover.
+// Renames the staging folder so that no later run removes it as stale.
 void PublishTransaction::preserveBackups() const {
     const QString rescue =
         Files::join(iFolder, QStringLiteral("folvero-rescued-%1").arg(::getpid()));
@@ -187,7 +186,7 @@ void PublishTransaction::commit() {
         if (!change.staged.isNull())
             install(change);
     }
-    // Last, since the earlier book may still speak of these files.
+    // Last, since the existing book may still refer to these files.
     for (const Change& change : iChanges) {
         if (change.staged.isNull())
             removeTarget(change);
@@ -227,15 +226,14 @@ void PublishTransaction::moveToStaging(const QString& path) {
 QString PublishTransaction::makeBackup(const QString& path) {
     const QString name = newName();
     if (kindOf(path) != S_IFREG)
-        return nameAgain(path, name) ? name : QString();
+        return linkOrCopySymlink(path, name) ? name : QString();
     Message error;
     if (!Files::linkOrCopy(path, name, &error))
         fail(path, error);
     return name;
 }
 
-// A file with a second name elsewhere is not the book's alone, so another of the same bytes has to
-// take its place.
+// A file with other hard links is replaced even by the same content: it is not the book's alone.
 bool PublishTransaction::isUpToDate(const Change& change) const {
     struct stat there {};
     struct stat staged {};
@@ -280,7 +278,7 @@ bool PublishTransaction::isBeneath(const QString& path) const {
     return path.startsWith(iFolder.endsWith(u'/') ? iFolder : iFolder + u'/') && path != iFolder;
 }
 
-// Whether a folder on the way from the transaction's folder is a link.
+// Whether a folder between the transaction's folder and the path is a link.
 bool PublishTransaction::isBehindLink(const QString& path) const {
     for (QString folder = parentOf(path); isBeneath(folder); folder = parentOf(folder)) {
         if (kindOf(folder) == S_IFLNK)

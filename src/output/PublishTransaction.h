@@ -9,57 +9,58 @@
 #include <utility>
 #include <vector>
 
-// The changes that one publish makes to a folder, made all at once at its end or not at all. New
-// content is staged in a hidden folder inside the folder, which a later transaction clears away if
-// this process dies. Every function but the destructor throws PlatformException with the file and
-// the cause in its reason; the folder is then as it was before.
+// Applies the changes of one publish to a folder, all at its end or none. New content is staged in
+// a hidden folder inside it; if this process dies, a later transaction removes that. Every function
+// but the destructor throws PlatformException with the file and the cause as its reason; the folder
+// is unchanged then.
 //
-// The folder itself may be reached through symbolic links. Beneath it none is followed: one that
-// lies where a file or a folder is to be is replaced.
+// The folder itself may be reached through symbolic links. Links below it are never followed: one
+// in place of a file or folder is replaced.
 class PublishTransaction {
 public:
-    // The order in which files are put in place: a book is never seen with a configuration or a
-    // page that speaks of files not there yet.
+    // The commit order: a reader never sees a configuration or a page that refers to files which
+    // are not there yet.
     enum class Phase { contents, configuration, page };
 
-    // What a copy may be: another name for a file that nothing changes in place, or a file of its
-    // own.
+    // How a file may be copied: as a hard link, if it is never modified in place, or as an
+    // independent file.
     enum class Copy { independent, mayHardLink };
 
-    // What a commit did. A file that already lay there with the same bytes is left alone, so that
-    // it keeps its date and whoever copies the book elsewhere has less to copy.
+    // What a commit did. An existing file with the same content is left alone, so that it keeps its
+    // modification time and syncing the book elsewhere copies less.
     struct Counts {
         int written = 0;
         int unchanged = 0;
         int removed = 0;
     };
 
-    // Makes the folder if it is missing.
+    // Creates the folder if it is missing.
     explicit PublishTransaction(const QString& folder);
-    // Unless a commit came to its end, undoes all that was done.
+    // Rolls back unless commit() succeeded.
     ~PublishTransaction();
     PublishTransaction(const PublishTransaction&) = delete;
     PublishTransaction& operator=(const PublishTransaction&) = delete;
 
-    // Paths are full paths (or relative to the current folder) beneath the transaction's folder.
-    // Folders for staged files need not be made.
+    // Paths are absolute (or relative to the current folder) and below the transaction's folder.
+    // Parent folders of staged files are created automatically.
     void makeFolder(const QString& path);
     void copy(const QString& source, const QString& target, Copy kind,
               Phase phase = Phase::contents);
     void write(const QString& target, const QByteArray& data, Phase phase = Phase::contents);
-    // A path where the caller writes the target's new content. What was staged for it is dropped.
+    // Returns the path to which the caller writes the target's new content. Discards anything
+    // staged for it before.
     QString stage(const QString& target, Phase phase = Phase::contents);
     void remove(const QString& target);
 
-    // Whether the file or folder will be there after a commit.
+    // Whether the file or folder will exist after a commit.
     bool willExist(const QString& path) const;
-    // Where new content lies that was staged for a file; null when there is none.
+    // The path of the content staged for a file; null when there is none.
     QString stagedFile(const QString& path) const;
     bool writes(const QString& path) const { return !stagedFile(path).isNull(); }
-    // All such files, in the order in which they were first spoken of: where they are to be, and
-    // where their new content lies until then.
+    // All staged files, in staging order: target path and staged path.
     std::vector<std::pair<QString, QString>> stagedFiles() const;
-    // The same, and forgets all changes so far; the files stay as long as the transaction lives.
+    // The same, and drops all changes so far; the staged files stay as long as the transaction
+    // exists.
     std::vector<std::pair<QString, QString>> takeStagedFiles();
 
     void commit();
@@ -75,17 +76,17 @@ private:
     };
     struct Undo {
         QString target;
-        QString backup; // null when there was no such file
+        QString backup; // null when the file did not exist
         bool isFolder = false;
     };
 
     void preserveBackups() const;
     void makeRoot(const QString& path);
     void makeFolderNow(const QString& path);
-    // Moves what is there into the hidden folder.
+    // Moves an existing entry into the staging folder.
     void moveToStaging(const QString& path);
-    // For what is to be replaced: so it never goes missing, and can come back. Null where a thing
-    // that is no file can't have one.
+    // Keeps a hard link or copy of a file that is about to be replaced, so that it never goes
+    // missing and can be restored. Null where other kinds of entries can't have one.
     QString makeBackup(const QString& path);
     bool isBeneath(const QString& path) const;
     bool isBehindLink(const QString& path) const;
@@ -94,7 +95,7 @@ private:
     bool isUpToDate(const Change& change) const;
     void install(const Change& change);
     void removeTarget(const Change& change);
-    // False when an earlier file could not be put back.
+    // False when an existing file could not be restored.
     bool rollBack();
     void removeCreatedRoots();
 

@@ -12,12 +12,12 @@
 
 namespace {
 
-// Bytes that are turned into base64 at a time: whole groups of three.
+// Bytes converted to base64 at a time: a multiple of three.
 constexpr qint64 pieceBytes = 3 << 16;
 
 const QString resourceFolder = QStringLiteral("files/");
 
-// Stand in the page in a way of their own, or not at all.
+// These are inlined differently, or left out.
 bool isOfPage(const QString& name) {
     return name.startsWith(QStringLiteral("UserConfig.")) ||
            name.startsWith(QStringLiteral("web."));
@@ -59,8 +59,8 @@ SingleFilePage::SingleFilePage(const std::map<QString, QString>& files, const QS
     insertBefore(html, html.indexOf("</head>"),
                  "<style>\n" + ofPlayer("web.css") + "</style>\n<script>\n" + ofPlayer("web.js") +
                      "</script>\n");
-    // Before the page's first script, which would load it, and behind the name of the character
-    // set, which browsers look for at the very beginning.
+    // Before the page's first script, which would load them, and after the charset declaration,
+    // which browsers expect at the very beginning.
     insertBefore(html, html.indexOf("<script"),
                  "<script>window.FolveroUserConfig = \"" + ofPlayer("UserConfig.bin").toBase64() +
                      "\";</script>\n");

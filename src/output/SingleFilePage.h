@@ -7,25 +7,24 @@
 #include <map>
 #include <vector>
 
-// A web book as one page that holds all of its files, so that it asks for none.
+// A web book as a single page that contains all of its files.
 class SingleFilePage {
 public:
-    // The book's files: where each lies, by its path in the book; page is that of the HTML page.
-    // What is neither the page nor beneath "files" is left out.
+    // The book's files: their paths on disk by their paths in the book; page is that of the HTML
+    // page. Files that are neither the page nor below "files" are left out.
     SingleFilePage(const std::map<QString, QString>& files, const QString& page);
 
-    // Bytes that it takes.
+    // Size in bytes.
     qint64 size() const;
 
-    // False, with the reason in *error, when a file can't be read or this one can't be written.
+    // False, with the cause in *error, when a file can't be read or this one can't be written.
     bool write(const QString& path, Message* error) const;
 
 private:
-    // A part of the page, in its order. Only bytes are read when they are written: they may be
-    // many.
+    // A part of the page, in order. Files are read only while writing: they may be large.
     struct Part {
         QByteArray text;
-        QString source; // of the bytes that follow the text; null for none
+        QString source; // file whose bytes follow the text; null for none
     };
 
     void addFile(const QString& name, const QString& source);

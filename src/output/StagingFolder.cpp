@@ -26,7 +26,7 @@ QStringList namesIn(const QString& folder) {
     return QDir(folder).entryList({prefix + u'*'}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
 }
 
-// By the number of its process alone, which another one may have got since.
+// By process ID alone, which may have been reused.
 bool isOfGoneProcess(const QString& name) {
     const pid_t process = name.mid(prefix.size()).section(u'-', 0, 0).toInt();
     return process > 0 && ::kill(process, 0) != 0 && errno == ESRCH;

@@ -2,20 +2,20 @@
 
 #include <QString>
 
-// Hidden working folders, made inside the folder that a publish changes. The lock on one, and the
-// number of its process in its name, tell a later publish whether it is still in use.
+// Hidden working folders inside the folder that a publish changes. The lock, and the process ID in
+// the name, show a later publish whether one is still in use.
 namespace StagingFolder {
 
-// Makes one and returns its path, or a null text with the reason in errno.
+// Creates one and returns its path, or a null text with the cause in errno.
 QString make(const QString& inFolder);
 
-// Removes one with what is in it.
+// Removes one with its contents.
 void remove(const QString& path);
 
-// Whether one is there whose process is gone: it was killed while it changed the folder.
+// Whether there is one whose process is gone: it was killed while it changed the folder.
 bool hasStale(const QString& inFolder);
 
-// Removes those of processes that are gone.
+// Removes those whose process is gone.
 void removeStale(const QString& inFolder);
 
 } // namespace StagingFolder

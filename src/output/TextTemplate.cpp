@@ -4,10 +4,10 @@ namespace {
 
 constexpr QStringView opening = u"${";
 constexpr QStringView closing = u"}";
-// Where the copying of an unsubstituted rest ends.
+// Where copying of the unsubstituted rest ends.
 constexpr QStringView endOfRest = u"___${__";
 
-// Takes views off the front of a text, skipping white space before each.
+// Consumes a text from the front, skipping white space before each token.
 class Scanner {
 public:
     explicit Scanner(QStringView text) : iLeft(text) {}
@@ -17,7 +17,7 @@ public:
         return iLeft.isEmpty();
     }
 
-    // The text before the next mark, or the whole rest when there is none.
+    // The text up to the next mark, or the whole rest when there is none.
     QStringView upTo(QStringView mark) {
         skipSpace();
         return take(iLeft.indexOf(mark));
@@ -61,7 +61,7 @@ QString TextTemplate::parse() const {
         const QStringView prefix = scanner.upTo(opening);
         if (prefix.isEmpty()) {
             const QStringView rest = scanner.upTo(endOfRest);
-            // Only the end of the text loses its white space, not the place before the mark.
+            // White space is dropped only at the end of the text, not before the mark.
             return result.append(scanner.isAtEnd() ? withoutTrailingSpace(rest) : rest);
         }
         if (!scanner.startsWith(opening))

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int maxOutlineDepth = 64;
 
-QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookMetadata& facts,
+QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookMetadata& metadata,
                      int depth) {
     QJsonArray array;
     if (depth > maxOutlineDepth)
@@ -18,23 +18,23 @@ QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookMetadata
     for (const auto& item : items) {
         if (!item)
             continue;
-        array.append(QJsonArray{item->caption(), facts.positionOf(item->pageIndex()),
-                                outlineOf(item->childItems(), facts, depth + 1)});
+        array.append(QJsonArray{item->caption(), metadata.positionOf(item->pageIndex()),
+                                outlineOf(item->childItems(), metadata, depth + 1)});
     }
     return array;
 }
 
-QJsonValue openRuns(const WebBookMetadata& facts) {
-    if (!facts.open)
+QJsonValue openRuns(const WebBookMetadata& metadata) {
+    if (!metadata.open)
         return QJsonValue::Null;
     QJsonArray array;
-    for (const PageRun& run : *facts.open)
+    for (const PageRun& run : *metadata.open)
         array.append(QJsonArray{run.first, run.last});
     return array;
 }
 
-// A name that is no more than the page's position says nothing.
-bool saysNothing(const QStringList& labels) {
+// Labels that just count the pages carry no information.
+bool areOnlyPositions(const QStringList& labels) {
     for (qsizetype i = 0; i < labels.size(); ++i) {
         if (labels[i] != QString::number(i + 1))
             return false;
@@ -85,7 +85,7 @@ QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline) const {
             array.append(number);
         object[QStringLiteral("numbers")] = array;
     }
-    if (!saysNothing(labels))
+    if (!areOnlyPositions(labels))
         object[QStringLiteral("labels")] = QJsonArray::fromStringList(labels);
     return object;
 }

@@ -11,32 +11,32 @@
 
 class FlashOutline;
 
-// What a web book tells of itself: to its player, and to search engines and whoever passes its
-// address on.
+// Metadata of a web book, for its player, search engines and link previews.
 struct WebBookMetadata {
     QString title;
     QString author;
     QString subject;
     QString keywords;
     QString language;         // "de", or empty
-    std::vector<int> numbers; // the pages' numbers in the PDF, in the order of the book
-    QStringList labels;       // what the pages are called, or nothing
+    std::vector<int> numbers; // page numbers in the PDF, in book order
+    QStringList labels;       // page labels, or empty
     QStringList large;        // the extension of each page's large picture, empty for none
-    QString cover;            // a page's thumbnail, a path in the book; empty for none
-    QString textPage;         // the whole text as a page, a path in the book; empty for none
+    QString cover;            // path in the book of a page's thumbnail; empty for none
+    QString textPage;         // path in the book of the page of plain text; empty for none
     bool hasText = false;
-    bool offline = false; // whether readers can keep the book
-    // In a preview, the runs of positions that can be read; none where the whole book can be.
+    bool offline = false; // whether readers can save the book for offline use
+    // In a preview, the runs of positions that are included; none when all are.
     std::optional<std::vector<PageRun>> open;
 
-    // The position in the book of a page by its number in the PDF; 0 when it is not in the book.
+    // The one-based position in the book of a page by its number in the PDF; 0 when it is not in
+    // the book.
     int positionOf(int number) const;
 
-    // Whether the page at a position can be read.
+    // Whether the page at a position is included.
     bool isOpen(int position) const;
 
-    // What the player is told; the outline may be none.
+    // The data for the player; the outline may be null.
     QJsonObject forPlayer(const FlashOutline* outline) const;
-    // What the head of the HTML page says beyond title, keywords and description.
+    // Markup for the HTML page's head beyond title, keywords and description.
     QByteArray headMarkup() const;
 };

@@ -17,12 +17,12 @@ void append(QJsonArray& array, const QRectF& box) {
         array.append(tenths(number));
 }
 
-// The nearest of the four ways in which a page can be turned, as it is drawn.
+// The page rotation in degrees, rounded to a multiple of 90, as it is drawn.
 int turnOf(int rotation) {
     return (rotation + 45) / 90 * 90 % 360;
 }
 
-// From the page's own space to the page as it is seen, both in points.
+// Maps PDF user space to the page as displayed, both in points.
 QTransform toSeen(const PDFPageBoxes& boxes) {
     const QRectF& crop = boxes.crop;
     const int turn = turnOf(boxes.rotation);
@@ -41,7 +41,7 @@ QTransform toSeen(const PDFPageBoxes& boxes) {
         transform = {1, 0, 0, -1, -crop.x(), crop.y() + crop.height()};
         break;
     }
-    // A page may have a unit of length of its own.
+    // A page may have its own user unit.
     const double width = turn % 180 == 0 ? crop.width() : crop.height();
     const double unit = width > 0 && boxes.display.width() > 0 ? boxes.display.width() / width : 1;
     return transform * QTransform::fromScale(unit, unit);

@@ -6,22 +6,22 @@
 #include <functional>
 #include <vector>
 
-// The words and links of a page as the player of a web book takes them.
+// The words and links of a page in the format of the web book's player.
 namespace WebPageText {
 
-// The position in the book of a page of the PDF, given by its zero-based index; 0 when the book
-// lacks it.
+// The one-based position in the book of a page by its zero-based index in the PDF; 0 when it is not
+// in the book.
 using Position = std::function<int(int pageIndex)>;
 
-// Where an annotation's rectangle lies on the page as it is seen: points from its top left corner.
+// An annotation's rectangle on the page as displayed: in points from its top left corner.
 QRectF placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes);
 
-// All numbers are whole tenths of a point. Addresses are as the document has them: the player
-// decides which ones it follows.
+// Numbers are integers in tenths of a point. URLs are copied from the document: the player decides
+// which ones to follow.
 QJsonObject asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
                    const std::vector<PDFAnnotation>& annotations, const Position& position);
 
-// The text alone: lines as they are read, a line break between them.
+// The text alone: lines in reading order, separated by line breaks.
 QString plain(const std::vector<PDFTextLine>& lines);
 
 } // namespace WebPageText

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Outside of texts these never occur in JSON.
+// These never occur in JSON outside of strings.
 QByteArray harmless(QByteArray json) {
     return json.replace('<', "\\u003c")
         .replace("\xe2\x80\xa8", "\\u2028")

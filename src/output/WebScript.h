@@ -7,13 +7,13 @@
 // Data for the player of a web book.
 namespace WebScript {
 
-// JSON that may stand in a script of an HTML page: no text in it can end the script or begin a
-// comment.
+// JSON that is safe inside a script element of an HTML page: no text in it can close the element or
+// start a comment.
 QByteArray json(const QJsonArray& array);
 QByteArray json(const QJsonObject& object);
 
-// A file of that name (a path beneath "files", without its ending): a script, since browsers load
-// scripts from a disk but no other data.
+// A file of that name (a path below "files", without extension): a script, since browsers load
+// scripts from disk but no other data.
 QByteArray file(const QString& name, const QByteArray& json);
 
 // How such a file begins.

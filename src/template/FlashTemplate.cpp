@@ -20,7 +20,7 @@ const Log& logger() {
     return log;
 }
 
-// One separator between the two, none at the end.
+// Joins with exactly one separator and none at the end.
 QString appendPathComponent(const QString& folder, const QString& component) {
     qsizetype start = 0;
     qsizetype end = component.size();
@@ -50,8 +50,8 @@ void collectFileValues(const FlashTemplate::Properties& nodes, FileValues& found
     }
 }
 
-// A null source removes the target. Whoever reads the target meanwhile sees the old file or the new
-// one, never a part of it.
+// A null source removes the target. Concurrent readers see the old file or the new one, never a
+// part.
 void replaceFile(const QString& source, const QString& target) {
     if (source.isNull()) {
         QFile::remove(target);
@@ -167,7 +167,7 @@ void FlashTemplate::loadStyleByStyleName(const QString& styleName) {
 }
 
 void FlashTemplate::loadStyleByStylePath(const QString& stylePath) {
-    // First, because the style's values refer to files of this style.
+    // First, since the style's values refer to files of this style.
     iStyleName = Files::lastPathComponent(stylePath);
     const auto before = fileValues();
     importPropertiesSettingsFrom(Files::join(stylePath, QStringLiteral("tmplSetting.txt")));
@@ -175,7 +175,7 @@ void FlashTemplate::loadStyleByStylePath(const QString& stylePath) {
 }
 
 QString FlashTemplate::tmplHTMLFilePath() const {
-    // Template files may be written with the separators of another system.
+    // Template files may use the path separators of another system.
     QString relative = iHTMLFilePath;
     relative.replace(u'\\', u'/');
     for (const QString& folder : {tmplPathForName(iTmplName), libraryFolder()}) {
@@ -222,8 +222,7 @@ std::vector<FlashTemplate::FileValue> FlashTemplate::fileValues() const {
     return found;
 }
 
-// They are not refused: a style may be the settings file that its user has exported, which names
-// files anywhere.
+// Not an error: a style may be a settings file exported by the user, which may name any file.
 void FlashTemplate::warnAboutOutsideFiles(const QString& source,
                                           const std::vector<FileValue>& before) const {
     const QStringList folders{stylePathFor(iTmplName, iStyleName), tmplPathForName(iTmplName),

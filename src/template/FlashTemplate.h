@@ -9,59 +9,60 @@
 #include <vector>
 
 // A template of the library: its files, its current style, and its tree of properties. Look-ups by
-// key walk the tree depth first; the first match wins.
+// key search depth first; the first match wins.
 class FlashTemplate {
 public:
     // Loads the template "float".
     FlashTemplate();
 
-    // Paths of all folders beneath the library's folder of templates, at every depth.
+    // Paths of all folders below the library's template folder, recursively.
     static QStringList tmplNames();
-    // Paths of all folders beneath a template's folder of styles.
+    // Paths of all folders below a template's style folder.
     static QStringList tmplStyleNamesForTmpl(const QString& name);
     static QString stylePathFor(const QString& tmplName, const QString& styleName);
     // The template's folder, ending in "/".
     static QString tmplPathForName(const QString& name);
     static QString tmplMetaPathForName(const QString& name);
 
-    // A file that can't be read leaves the new name and no properties; a malformed one leaves what
-    // was read before the fault. loadError() then says what was wrong. Values that name files are
-    // taken as they stand, here and from styles; those that lie elsewhere are logged as warnings.
+    // An unreadable file sets the new name and clears the properties; a malformed one keeps what
+    // was read before the error. loadError() has the cause. Values that name files are accepted as
+    // they are, here and from styles; files outside the library are logged as warnings.
     void loadTemplate(const QString& name);
-    // Page size and language survive the change.
+    // Keeps the page size and the language.
     void changeTmplTo(const QString& name, const QString& stylePath);
     void loadStyleByStyleName(const QString& styleName);
     void loadStyleByStylePath(const QString& stylePath);
 
-    // Why the last loadTemplate() did not come to its end; null when it did.
+    // Why the last loadTemplate() failed; null when it succeeded.
     QString loadError() const { return iLoadError.english(); }
     const Message& loadMessage() const { return iLoadError; }
 
-    // The value of the first property with that key, or the default when there is none.
+    // The value of the first property with that key, or the default.
     QString propertyValueFor(const QString& key, const QString& defaultValue) const;
     // The value of the first descendant with that key, or a null text.
     QString propertyValueFor(const FlashTemplateProperty& node, const QString& byKey) const;
     void setPropertyValue(const QString& key, const QString& value);
-    // True when a descendant had the key and was set.
+    // True when a descendant with that key was set.
     bool setPropertyValueAt(FlashTemplateProperty& node, const QString& key, const QString& value);
-    // Resolves "STYLE_RESOURCE:" into the current style's folder; the empty text for what leads out
-    // of it, by ".." or by links.
+    // Resolves "STYLE_RESOURCE:" to the current style's folder; empty for paths that leave it, by
+    // ".." or by links.
     QString valueAsFilePath(const QString& value) const;
 
     // The template's HTML page, in the template's folder or else in the library's root; a null text
-    // when neither has one. A page that leads out of the library counts as missing.
+    // when neither has one. A page outside the library counts as missing.
     QString tmplHTMLFilePath() const;
-    // Path of a file of the template's player; null when there is none or it leads out likewise.
+    // Path of a file of the template's player; null when it does not exist or is outside the
+    // library.
     QString playerFile(const QString& name) const;
-    // Each removes an existing destination first; a failure is silent.
+    // Each removes an existing destination first and ignores errors.
     void copyBookSWFToFile(const QString& destination) const;
     void copyBookSoundFile(const QString& destination) const;
     void copyBookJSFile(const QString& destination) const;
-    // Copies nothing: publishing makes the page from tmplHTMLFilePath().
+    // Does nothing: publishing makes the page from tmplHTMLFilePath().
     void copyHTMLToFile(const QString& /*destination*/) const {}
 
-    // The settings file: one record "key=value" per property. A file that can't be read has none;
-    // writing returns false on failure and *error (when given) tells why in words.
+    // The settings file: one record "key=value" per property. An unreadable file has no records;
+    // writing returns false on failure and sets *error (when given).
     void importPropertiesSettingsFrom(const QString& path);
     bool exportPropertiesSettingsTo(const QString& path, Message* error = nullptr) const;
     // Appends the records of a node and its descendants; of the whole tree for nullptr.
@@ -70,7 +71,7 @@ public:
 
     using Properties = std::vector<std::unique_ptr<FlashTemplateProperty>>;
     const Properties& properties() const { return iProperties; }
-    // Takes ownership; the nodes are at the top level from now on.
+    // Takes ownership; the nodes become the top level.
     void setProperties(Properties properties);
 
     QString tmplName() const { return iTmplName; }
@@ -101,14 +102,14 @@ private:
         bool operator==(const FileValue&) const = default;
     };
 
-    // Does nothing: properties come from the template file only.
+    // Does nothing: properties come only from the template file.
     void initTmplProperties() {}
     void loadTemplateFile(const QString& path);
     bool isOfLibrary(const QString& path) const;
-    // Of all properties that name a file, in the order of the tree.
+    // Values of all properties that name a file, in tree order.
     std::vector<FileValue> fileValues() const;
-    // Logs what the source has named since then that lies neither with the template or the style
-    // nor in the library.
+    // Logs the files that source has set since before was recorded and that are neither with the
+    // template or the style nor in the library.
     void warnAboutOutsideFiles(const QString& source, const std::vector<FileValue>& before) const;
 
     QString iTmplName;

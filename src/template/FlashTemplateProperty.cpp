@@ -23,7 +23,7 @@ QString requiredText(const pugi::xml_node& element, const char* name) {
     return TemplateFile::requiredText(element, name, [&] { return describe(element); });
 }
 
-// In the order of their numbers.
+// In enum order.
 constexpr std::array<QLatin1StringView, 11> typeNames{
     QLatin1StringView("pt_text"),
     QLatin1StringView("pt_number"),
@@ -63,7 +63,7 @@ void FlashTemplateProperty::load(const pugi::xml_node& element, int depth) {
     iATitle = caption ? XMLText::textOf(caption) : QStringLiteral("");
     iPropertyType = StringUtil::flashTemplatePropertyTypeFromString(
         QString::fromUtf8(element.attribute("type").value()));
-    // Templates mark a boolean by the mere presence of this attribute.
+    // The mere presence of this attribute marks a boolean.
     if (element.attribute("aType"))
         iPropertyType = pt_bool;
 

@@ -8,7 +8,7 @@ namespace pugi {
 class xml_node;
 }
 
-// Kinds of template property. The numbers are part of the format.
+// Types of template properties. The numbers are part of the file format.
 enum FlashTemplatePropertyType : int {
     pt_text = 0,
     pt_number = 1,
@@ -23,25 +23,25 @@ enum FlashTemplatePropertyType : int {
     pt_bool = 10,
 };
 
-// One node of a template's property tree: a key, what the editor shows for it, its value as text,
-// and its child nodes.
+// A node of a template's property tree: a key, the editor's texts, the value as text, and child
+// nodes.
 class FlashTemplateProperty {
 public:
-    // How deep properties may be nested in a template file, the top level counting as 1. Code all
-    // over the program walks the tree recursively; this keeps a hostile file from exhausting the
+    // Nesting limit of properties in a template file; the top level is 1. Code throughout the
+    // program walks the tree recursively; the limit keeps a malicious file from exhausting the
     // stack.
     static constexpr int maximumDepth = 200;
 
     FlashTemplateProperty() = default;
 
-    // Fills the node and its children from a "property" element; an absent element or one of
-    // another name leaves the node as it is. Throws PlatformException when one of the six required
-    // child elements is missing or the nesting exceeds maximumDepth, with the node partly filled.
+    // Fills the node and its children from a "property" element; a null element or one of another
+    // name changes nothing. Throws PlatformException when one of the six required child elements is
+    // missing or the nesting exceeds maximumDepth; the node is partly filled then.
     void loadFromNode(const pugi::xml_node& element);
 
     std::size_t childCount() const { return iChildProperties.size(); }
 
-    // The enclosing node, not owned; nullptr at the top level.
+    // The parent node, not owned; nullptr at the top level.
     FlashTemplateProperty* parent() const { return iParent; }
     void setParent(FlashTemplateProperty* parent) { iParent = parent; }
     int propertyType() const { return iPropertyType; }

@@ -12,7 +12,7 @@ const Log& logger() {
     return log;
 }
 
-// The order of the two is part of the format.
+// This order, LF before CR, is part of the format.
 const QString recordStart = QStringLiteral("\n\r");
 
 QString textOfFile(const QString& path) {

@@ -3,7 +3,7 @@
 
 namespace {
 
-// A property without a key is never found, not even by the empty key.
+// A property without a key is never found, not even with an empty key.
 bool hasKey(const FlashTemplateProperty& node, const QString& key) {
     const QString own = node.key();
     return own == key && !own.isNull() && !key.isNull();

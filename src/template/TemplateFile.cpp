@@ -35,7 +35,7 @@ QByteArray contentsOf(const QString& path) {
     return file.readAll();
 }
 
-// As the XML declaration names it; empty without one.
+// The encoding in the XML declaration; empty without one.
 QByteArray declaredEncoding(const QByteArray& data) {
     constexpr qsizetype longestDeclaration = 256;
     static const QRegularExpression declaration(
@@ -45,7 +45,7 @@ QByteArray declaredEncoding(const QByteArray& data) {
         .toLatin1();
 }
 
-// A byte order mark, or 16 or 32 bits a character, say more than the declaration.
+// A byte order mark, or 16 or 32 bits per character, takes precedence over the declaration.
 QByteArray inUTF8(const QByteArray& data) {
     if (const auto unicode = QStringConverter::encodingForData(data, u'<')) {
         QStringDecoder decode(*unicode);
@@ -55,7 +55,7 @@ QByteArray inUTF8(const QByteArray& data) {
     const QByteArray lower = name.toLower();
     if (lower.isEmpty() || lower.startsWith("utf") || lower == "us-ascii")
         return data;
-    // Texts under the name of the first edition often hold characters of the later ones.
+    // Texts declared as GB2312 often use characters of its successors.
     QStringDecoder decode(lower == "gb2312" ? "GB18030" : name.constData());
     const QString text = decode.isValid() ? QString(decode(data)) : QString();
     const QString shown = QString::fromLatin1(name);
@@ -79,7 +79,7 @@ std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
     const pugi::xml_parse_result first = parse(*document, data);
     if (first)
         return document;
-    // The place in the file as the user wrote it helps more than one in its repaired form.
+    // The position in the user's file is more useful than one in the repaired text.
     const Message cause = causeOf(first, data);
     const QByteArray repaired = XMLRepair::repaired(data);
     if (repaired.isEmpty() || !parse(*document, repaired))

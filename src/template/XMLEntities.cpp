@@ -9,7 +9,7 @@
 
 namespace {
 
-// A few hundred bytes of entities within entities can stand for gigabytes of text.
+// Nested entities of a few hundred bytes can expand to gigabytes.
 constexpr qsizetype maximumBytes = 1 << 20;
 constexpr int maximumDepth = 16;
 constexpr qsizetype maximumNameLength = 255;
@@ -28,8 +28,8 @@ qsizetype behind(const QByteArray& xml, QByteArrayView end, qsizetype from) {
     return found < 0 ? xml.size() : found + end.size();
 }
 
-// The end of the comment, the section or the instruction that starts there; the same place when
-// none does.
+// The end of the comment, CDATA section or processing instruction that starts at that position; the
+// same position when there is none.
 qsizetype behindVerbatim(const QByteArray& xml, qsizetype at) {
     static constexpr std::pair<const char*, const char*> kinds[] = {
         {"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
@@ -40,14 +40,14 @@ qsizetype behindVerbatim(const QByteArray& xml, qsizetype at) {
     return at;
 }
 
-// The same for declarations, where quotes may hold any character.
+// The same for declarations, where quoted strings may contain any character.
 qsizetype behindPart(const QByteArray& xml, qsizetype at) {
     if (xml[at] == '"' || xml[at] == '\'')
         return behind(xml, QByteArrayView(xml).sliced(at, 1), at + 1);
     return std::max(at + 1, behindVerbatim(xml, at));
 }
 
-// Where the declarations within the document type begin; the end of the text when there are none.
+// Where the internal DTD subset begins; the end of the text when there is none.
 qsizetype startOfDeclarations(const QByteArray& xml) {
     static const QByteArrayView space = " \t\r\n";
     qsizetype at = 0;
@@ -73,7 +73,7 @@ Entities declaredEntities(const QByteArray& xml) {
     static const QRegularExpression declaration(
         QStringLiteral(R"re(<!ENTITY\s++([^\s%"'<>&;]++)\s++(?:"([^"]*+)"|'([^']*+)')\s*+>)re"));
     static const QByteArrayList predefined{"amp", "lt", "gt", "quot", "apos"};
-    const QString text = QString::fromLatin1(xml); // a character for each byte
+    const QString text = QString::fromLatin1(xml); // one character per byte
     while (at < xml.size() && xml[at] != ']') {
         const auto match = startsAt(xml, at, "<!ENTITY")
                                ? declaration.match(text, at, QRegularExpression::NormalMatch,
@@ -103,7 +103,7 @@ public:
                 continue;
             }
             iResult.append(QByteArrayView(text).sliced(copied, at - copied));
-            spend(entity->size() + 1, depth); // empty texts take time, too
+            spend(entity->size() + 1, depth); // empty entities cost time, too
             append(*entity, 0, depth + 1);
             at += name.size() + 2;
             copied = at;

@@ -4,10 +4,9 @@
 
 namespace XMLEntities {
 
-// XML in UTF-8 with its references to the entities that its own document type declares replaced by
-// their texts. External and parameter entities are not read; references to them stay as they are.
-// Throws PlatformException when entities refer to themselves or their texts add up to more than
-// 1 MiB.
+// Expands references to entities that the document's own DTD declares; input and output are UTF-8.
+// External and parameter entities are not loaded, their references are left as they are. Throws
+// PlatformException when entities refer to themselves or the expanded texts exceed 1 MiB.
 QByteArray resolved(const QByteArray& xml);
 
 } // namespace XMLEntities

@@ -14,17 +14,17 @@
 
 namespace {
 
-// The library recurses once per open element, and in malformed text any tag may stay open. The
-// number of tags therefore bounds the recursion, and the stack is made to fit it.
+// libtidy recurses once per open element, and in malformed text any tag may stay open. So the
+// number of tags bounds the recursion, and the stack is sized for it.
 constexpr qsizetype maximumBytes = 4 << 20;
 constexpr qsizetype maximumTags = 20'000;
 constexpr uint stackBytes = 64U << 20;
 
-// Some malformed text costs the library time that grows with the square of its length.
+// For some malformed texts libtidy takes quadratic time.
 constexpr qint64 maximumMilliseconds = 2000;
 
-// Memory for one run of the library. Of some malformed texts the library loses nodes for good, so
-// what it has not freed in the end is freed here.
+// The allocator for one run of libtidy. It leaks nodes of some malformed texts, so whatever is left
+// is freed here.
 class Memory : private _TidyAllocator {
 public:
     Memory() : _TidyAllocator{&functions} {}
@@ -40,7 +40,7 @@ private:
     static void* allocate(TidyAllocator* self, std::size_t size) noexcept {
         return reallocate(self, nullptr, size);
     }
-    // The library takes for granted that there is memory.
+    // libtidy does not check for out-of-memory.
     static void* reallocate(TidyAllocator* self, void* block, std::size_t size) noexcept {
         auto& blocks = static_cast<Memory*>(self)->iBlocks;
         blocks.erase(block);
@@ -78,7 +78,7 @@ private:
     TidyBuffer iBuffer{};
 };
 
-// Feeds text to the library until the time is up.
+// Feeds text to libtidy until the time is up.
 class Source {
 public:
     explicit Source(const QByteArray& text) : iText(text) {
@@ -124,7 +124,7 @@ void setOptions(TidyDoc document) {
     tidySetCharEncoding(document, "utf8");
 }
 
-// Without this attribute at the root the library reflows all text.
+// Without this attribute at the root libtidy reflows all text.
 QByteArray withSpacePreserved(const QByteArray& text) {
     static const QRegularExpression rootTag(QStringLiteral("<[\\pL_][^\\s/>]*"));
     QString result = TextDecoding::decoded(text);

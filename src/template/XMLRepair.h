@@ -4,8 +4,8 @@
 
 namespace XMLRepair {
 
-// A well-formed rendering (UTF-8) of XML that is not well-formed; empty when that can't be had or
-// the text is too large to try.
+// Repairs XML that is not well-formed; the result is UTF-8. Empty when that fails or the text is
+// too large.
 QByteArray repaired(const QByteArray& text);
 
 } // namespace XMLRepair

@@ -5,7 +5,7 @@
 
 namespace {
 
-// The largest float below 256: all of [0, 1] falls into 256 equal steps.
+// The largest float below 256, so that [0, 1] maps to 256 equal steps.
 constexpr float steps = 255.99998474121094F;
 
 int hexDigit(QChar letter) {
@@ -19,7 +19,7 @@ int hexDigit(QChar letter) {
     return -1;
 }
 
-// Numbers that do not fit are taken for the largest one.
+// Saturates on overflow.
 std::uint32_t scanHexInt(QStringView text) {
     text = text.trimmed();
     if (text.startsWith(u"0x", Qt::CaseInsensitive))
@@ -35,8 +35,8 @@ std::uint32_t scanHexInt(QStringView text) {
 }
 
 QString componentText(quint16 stored) {
-    // A colour keeps its components in 65535 steps, rounded. The lower end of a step is taken, so
-    // that a half, which lies on the border of two bytes, still ends up in the lower one.
+    // QColor stores components as 16-bit integers, rounded. Using the lower end of a step maps a
+    // half, which is on the border between two bytes, to the lower one.
     const float value = std::max(0.0F, (float(stored) - 0.5F) / 65535.0F);
     return QStringLiteral("%1").arg(int(value * steps), 2, 16, QLatin1Char('0'));
 }

@@ -4,7 +4,7 @@
 #include <limits>
 #include <zlib.h>
 
-// Streams are fed and drained in pieces, since zlib counts bytes with 32 bits.
+// Streams are processed in pieces, since zlib counts bytes with 32 bits.
 namespace {
 
 constexpr qsizetype firstDeflated = 16384;
@@ -18,7 +18,7 @@ uInt piece(qsizetype size) {
     return uInt(std::min<qsizetype>(size, std::numeric_limits<uInt>::max()));
 }
 
-// Output that grows as it fills.
+// An output buffer that grows as it fills.
 class Output {
 public:
     explicit Output(qsizetype size) : iBytes(size, '\0') {}
@@ -52,12 +52,12 @@ void feed(z_stream& stream, const QByteArray& data) {
     stream.avail_in = piece(end - stream.next_in);
 }
 
-// True when the stream came to its end within the limit.
+// True when the stream ended within the limit.
 bool inflateAll(z_stream& stream, const QByteArray& data, Output& output, qsizetype limit) {
     int status = Z_OK;
     while (status == Z_OK) {
         if (output.isFull()) {
-            // One byte past the limit tells a stream that fits from one that doesn't.
+            // One byte past the limit distinguishes a stream that fits from one that doesn't.
             if (output.used() > limit)
                 return false;
             const qsizetype more = std::max({data.size() / 2, output.size() / 2, leastInflated});

@@ -17,7 +17,7 @@ std::uint8_t* bytes(QByteArray& data) {
     return reinterpret_cast<std::uint8_t*>(data.data());
 }
 
-// The direction is part of the key schedule for some ciphers and of the block function for others.
+// The direction is part of the key schedule for some ciphers, of the block function for others.
 template <typename Context, typename SetKey, typename Crypt>
 auto transformWith(SetKey setKey, Crypt crypt) {
     Context context;
@@ -77,7 +77,7 @@ Cryptor::Cipher Cryptor::cipherFor(Operation operation, CCAlgorithm algorithm,
                                                encrypts ? cast128_encrypt : cast128_decrypt)};
         break;
     case CCAlgorithmRC4:
-        // The key schedule has 256 steps: what a longer key holds beyond them has no effect.
+        // The key schedule has 256 steps: bytes of a longer key beyond that have no effect.
         if (!key.isEmpty())
             return {1, transformWith<arcfour_ctx>(
                            keyedByLength(arcfour_set_key, ARCFOUR_MAX_KEY_SIZE), arcfour_crypt)};
@@ -111,7 +111,7 @@ bool Cryptor::pads() const {
 CCCryptorStatus Cryptor::update(const QByteArray& input, QByteArray& output) {
     iPending += input;
     qsizetype ready = iPending.size() - iPending.size() % iCipher.blockSize;
-    // The last block holds the padding and waits for the end.
+    // The last block contains the padding and is kept for final().
     if (pads() && iOperation == Operation::decrypt && ready == iPending.size() && ready > 0)
         ready -= iCipher.blockSize;
     appendTransformed(iPending.left(ready), output);

@@ -28,29 +28,30 @@ enum CCCryptorStatus : int {
     CCUnimplemented = -4305,
 };
 
-// One run of a symmetric cipher, in one direction, over data that may come in pieces.
+// A symmetric cipher in one direction, over data that may come in pieces.
 class Cryptor {
 public:
     enum class Operation { encrypt, decrypt };
 
-    // `options` is a sum of CCOptions; RC4 has no blocks and takes no notice of them. Of the vector
-    // one block is used, filled up with zeros; a null one is all zeros. No cryptor comes back, and
-    // *status says why, for a key of a length the algorithm can't take (CCParamError) and for
-    // algorithms other than those above (CCUnimplemented).
+    // options is a sum of CCOptions; ignored by RC4. One block of vector is used, padded with
+    // zeros; null means all zeros. Returns null and sets *status for a key length that the
+    // algorithm does not support (CCParamError) and for algorithms other than those above
+    // (CCUnimplemented).
     static std::unique_ptr<Cryptor> create(Operation operation, CCAlgorithm algorithm, int options,
                                            const QByteArray& key, const QByteArray& vector,
                                            int* status);
 
-    // Appends what can be said so far to `output`.
+    // Appends the output available so far.
     CCCryptorStatus update(const QByteArray& input, QByteArray& output);
-    // Appends the rest. CCAlignmentError for an incomplete block, CCDecodeError for bad padding.
+    // Appends the remaining output. CCAlignmentError for an incomplete block, CCDecodeError for bad
+    // padding.
     CCCryptorStatus final(QByteArray& output);
 
 private:
     using Transform =
         std::function<void(std::size_t length, std::uint8_t* target, const std::uint8_t* source)>;
 
-    // The cipher over whole blocks, without chaining; blockSize is 1 for a stream cipher.
+    // The cipher for whole blocks, without chaining; blockSize is 1 for a stream cipher.
     struct Cipher {
         qsizetype blockSize = 0;
         Transform transform;

@@ -2,6 +2,6 @@
 
 #include <QStringView>
 
-// Reads an integer leniently: leading blanks are skipped, reading ends at the first character that
-// is no digit, and no digits at all are 0. Numbers beyond 32 bits stay at the nearest end.
+// Parses an integer leniently: leading blanks are skipped, parsing ends at the first character that
+// is not a digit, and no digits give 0. Values saturate at 32 bits.
 int lenientInteger(QStringView text);

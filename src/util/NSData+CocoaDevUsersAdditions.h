@@ -4,23 +4,23 @@
 #include <QString>
 #include <cstdint>
 
-// Encoders, compressors and checksums over byte buffers. No operation changes its argument. A null
-// buffer comes back where a result is said to be missing; an empty result is not null.
+// Encoders, compressors and checksums for byte buffers. Arguments are never modified. A null buffer
+// means that there is no result; an empty result is not null.
 namespace NSDataExtension {
 
-// A stretch of a buffer.
+// A range of a buffer.
 struct Range {
     static constexpr qsizetype notFound = INT32_MAX;
     qsizetype location = notFound;
     qsizetype length = 0;
 };
 
-// From the start (zero-based) up to, not including, the first zero byte at or after it; not found
-// when the start is outside the buffer or no zero byte follows.
+// From start (zero-based) up to, but not including, the next zero byte; not found when start is
+// outside the buffer or no zero byte follows.
 Range rangeOfNullTerminatedBytesFrom(const QByteArray& data, qsizetype start);
 
-// Base32 of RFC 4648, without padding. Reading takes small letters too and skips every character
-// that is not one of the alphabet, padding included.
+// Base32 of RFC 4648, without padding. Decoding ignores case and skips every character outside the
+// alphabet, padding included.
 QByteArray dataWithBase32String(const QString& text);
 QString base32String(const QByteArray& data);
 
@@ -29,24 +29,23 @@ QString base32String(const QByteArray& data);
 QByteArray encodeCOBS(const QByteArray& data);
 QByteArray decodeCOBS(const QByteArray& data);
 
-// More than most machines would miss, and far more than anything that we read.
+// Far more than anything that we read, and little enough for most machines.
 inline constexpr qsizetype defaultInflateLimit = qsizetype{256} * 1024 * 1024;
 
-// What a zlib stream holds; gzipInflate takes a gzip stream or a zlib stream. An empty buffer is
-// returned as it stands. Missing when the stream is damaged or incomplete, or holds more bytes than
-// the limit.
+// Decompress a zlib stream; gzipInflate accepts gzip and zlib streams. An empty buffer is returned
+// as is. No result when the stream is damaged or incomplete, or contains more bytes than the limit.
 QByteArray zlibInflate(const QByteArray& data, qsizetype limit = defaultInflateLimit);
 QByteArray gzipInflate(const QByteArray& data, qsizetype limit = defaultInflateLimit);
 
-// A zlib or gzip stream; an empty buffer is returned as it stands. Missing when the compressor
-// cannot start.
+// Compress to a zlib or gzip stream; an empty buffer is returned as is. No result when the
+// compressor can't be initialised.
 QByteArray zlibDeflate(const QByteArray& data);
 QByteArray gzipDeflate(const QByteArray& data);
 
-// The CRC of zlib and PNG.
+// CRC-32 as in zlib and PNG.
 std::uint32_t crc32(const QByteArray& data);
 
-// 16, 20 and 20 bytes; the texts hold two lower-case hexadecimal digits a byte.
+// 16, 20 and 20 bytes; the texts have two lower-case hexadecimal digits per byte.
 QByteArray md5Digest(const QByteArray& data);
 QByteArray sha1Digest(const QByteArray& data);
 QByteArray ripemd160Digest(const QByteArray& data);

@@ -77,7 +77,7 @@ void LowLevelCommonCryptor::FixKeyLengths(CCAlgorithm algorithm, QByteArray& key
     qsizetype length = key.size();
     switch (algorithm) {
     case CCAlgorithmAES:
-        // A key of exactly 16 bytes counts as one that is short of 24.
+        // A key of exactly 16 bytes is extended to 24.
         length = length <= 15 ? 16 : length <= 23 ? 24 : 32;
         break;
     case CCAlgorithmDES:

@@ -12,7 +12,7 @@ namespace CommonCryptoErrorDomain {
 
 inline constexpr char name[] = "CommonCryptoErrorDomain";
 
-// A cipher status in words. The texts are translated; the reason is null where there is none.
+// A cipher status as text. The texts are translated; the reason is null where there is none.
 struct Error {
     QString domain;
     int code = 0;
@@ -37,7 +37,7 @@ QByteArray SHA512Hash(const QByteArray& data);
 
 } // namespace CommonDigest
 
-// A key or a vector: bytes, or a text that stands for its UTF-8 bytes. Null means none.
+// A key or a vector: bytes, or a text in UTF-8. Null means none.
 class CipherBytes {
 public:
     CipherBytes(const QByteArray& bytes) : iBytes(bytes) {}
@@ -79,12 +79,12 @@ QByteArray decryptedCASTDataUsingKey(const QByteArray& data, const CipherBytes& 
 
 } // namespace CommonCryptor
 
-// The same with every choice open. `options` is a sum of CCOptions; without a vector the chain
-// starts from zeros. `error`, when given, receives the status of a failure.
+// The same with all options. options is a sum of CCOptions; without a vector the chain starts from
+// zeros. error, when given, receives the status of a failure.
 namespace LowLevelCommonCryptor {
 
-// Brings a key to a length that the algorithm takes, with zero bytes or by cutting its tail, and
-// gives a vector that is not null the same length.
+// Pads a key with zero bytes, or truncates it, to a length that the algorithm supports, and gives a
+// non-null vector the same length.
 void FixKeyLengths(CCAlgorithm algorithm, QByteArray& key, QByteArray& vector);
 
 QByteArray dataEncryptedUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
@@ -105,7 +105,7 @@ QByteArray decryptedDataUsingAlgorithm(const QByteArray& data, CCAlgorithm algor
                                        const CipherBytes& initializationVector, int options,
                                        int* error = nullptr);
 
-// Runs a fresh cryptor over all of the data. *result is set on failure only.
+// Runs a new cryptor over all of the data. *result is set on failure only.
 QByteArray _runCryptor(const QByteArray& data, Cryptor& cryptor, int* result = nullptr);
 
 } // namespace LowLevelCommonCryptor

@@ -30,7 +30,7 @@ QString XMLText::textOf(const pugi::xml_node& element) {
     TextCollector collector;
     pugi::xml_node start = element;
     start.traverse(collector);
-    // A text may begin with the character that files use as their byte order mark.
+    // A text may begin with U+FEFF, which must not be dropped as a byte order mark.
     QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     const QString text = decode(QByteArrayView(collector.text()));
     return text.isNull() ? QStringLiteral("") : text;

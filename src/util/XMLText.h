@@ -5,12 +5,12 @@
 
 namespace XMLText {
 
-// All text within an element, CDATA sections and nested elements included, comments not; never
-// null. Nesting of any depth is safe.
+// All text within an element, including CDATA sections and nested elements but not comments; never
+// null. Works for any nesting depth.
 QString textOf(const pugi::xml_node& element);
 
-// The text without the characters that XML 1.0 can't hold: most control characters, lone
-// surrogates and non-characters of the basic plane.
+// The text without characters that XML 1.0 does not allow: most control characters, lone surrogates
+// and non-characters of the BMP.
 QString legal(const QString& text);
 
 } // namespace XMLText
