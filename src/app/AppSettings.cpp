@@ -27,7 +27,7 @@ bool isText(const QMetaProperty& property) {
     return property.metaType().id() == QMetaType::QString;
 }
 
-// The store hands out a list for a text with commas that was typed into its file by hand.
+// QSettings returns a list for an unquoted text with commas, as typed into its file by hand.
 QString textOf(const QVariant& stored) {
     return stored.typeId() == QMetaType::QStringList ? stored.toStringList().join(u',')
                                                      : stored.toString();
@@ -67,7 +67,7 @@ void AppSettings::autoSave() {
     for (const QMetaProperty& property : declaredProperties()) {
         const QVariant value = property.read(this);
         const QString name = QString::fromLatin1(property.name());
-        // The store itself can't tell a null text from an empty one.
+        // QSettings can't distinguish a null text from an empty one.
         if (isText(property) && value.toString().isNull())
             store.remove(name);
         else

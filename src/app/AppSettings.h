@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QString>
 
-// The user's last choices, kept across runs. One shared object, for the main thread; every declared
+// The user's last choices, kept across runs. One shared object, for the main thread; each declared
 // property is a stored setting of the same name, in order of declaration.
 class AppSettings : public QObject {
     Q_OBJECT
@@ -21,11 +21,11 @@ class AppSettings : public QObject {
     Q_PROPERTY(int PageHeight READ PageHeight WRITE setPageHeight)
 
 public:
-    // Loads the stored settings. The page size starts at 1080 by 1440 whatever was stored: it
-    // belongs to the document imported in this run.
+    // Loads the stored settings. The page size always starts at 1080 by 1440: it belongs to the
+    // document imported in this run.
     AppSettings();
 
-    // The shared object, made on first use (from any thread).
+    // The shared object, created on first use (thread-safe).
     static AppSettings& shareInstance();
 
     void saveSettings();

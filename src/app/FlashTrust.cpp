@@ -12,7 +12,7 @@ namespace {
 
 const QString trustFolder = QStringLiteral("Macromedia/FlashPlayerTrust");
 
-// The text of a UTF-16 file, in either byte order; none when it can't be read as such.
+// The text of a UTF-16 file, in either byte order; none when it can't be read or decoded.
 std::optional<QString> readUTF16(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

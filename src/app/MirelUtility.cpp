@@ -32,8 +32,8 @@ QString MirelUtility::forceTmpDiractory(const QString& name) {
 void MirelUtility::openFolderFromFolderOrFile(const QString& path) {
     const QFileInfo info(path);
     const QString absolute = QDir::cleanPath(info.absoluteFilePath());
-    // The file manager's interface can select an entry; where none answers, the desktop opens the
-    // folder. A comma would separate two addresses.
+    // The file manager's D-Bus interface can select an entry; without one, the folder is opened. A
+    // comma would separate two URLs.
     const QString address = QString::fromLatin1(
         QUrl::fromLocalFile(absolute).toEncoded(QUrl::FullyEncoded).replace(',', "%2C"));
     const QString folder = info.isDir() ? absolute : QFileInfo(absolute).path();

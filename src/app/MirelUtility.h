@@ -9,11 +9,11 @@ class MirelUtility {
 public:
     MirelUtility() = delete;
 
-    // The user's temporary folder, or "/tmp" when the platform names none.
+    // The user's temporary folder, or "/tmp" when the platform has none.
     static QString tmpDiractoryForCurrentUser();
 
-    // Makes a new, unique folder "/tmp/NAME/temp.XXXXXX" and returns its path. One that an earlier
-    // run left is removed. See TemporaryFolders, whose remove() is for those who need it no more.
+    // Creates a unique folder "/tmp/NAME/temp.XXXXXX" and returns its path. Stale ones of earlier
+    // runs are removed. See TemporaryFolders; its remove() deletes the folder.
     static QString forceTmpDiractory(const QString& name);
 
     // Shows the file or folder selected in the platform's file browser.
@@ -22,7 +22,7 @@ public:
     // Names (not paths) of the entries that end in ".jpg" or ".png", case-sensitive.
     static QStringList imageFilesOfDiractoryAtPath(const QString& folder);
 
-    // Paths of all folders beneath one, a folder before its contents.
+    // Paths of all folders below one, recursively, each folder before its contents.
     static QStringList subFolderOfFolder(const QString& folder);
 
     // Adds the folder to the Flash Player trust file, once.

@@ -16,7 +16,7 @@ constexpr std::size_t most = 200;
 
 using Entry = std::pair<QString, PublishedBooks::Book>;
 
-// The latest first.
+// Most recent first.
 std::vector<Entry> stored() {
     QSettings settings;
     std::vector<Entry> entries(std::size_t(settings.beginReadArray(QLatin1String(listKey))));

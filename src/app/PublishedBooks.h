@@ -3,8 +3,8 @@
 #include <QString>
 #include <optional>
 
-// Where each document was published last and what was typed for it, kept across runs. A document is
-// the path of its file; the empty text stands for the demo book.
+// Remembers across runs where each document was published last and what was typed for it. A
+// document is identified by its path; the empty text is the demo book.
 namespace PublishedBooks {
 
 struct Book {
@@ -18,7 +18,7 @@ struct Book {
 // None for a document that was not published, or too long ago.
 std::optional<Book> of(const QString& document);
 
-// To be called after a publish: the place is that document's from now on, and nobody else's.
+// Call after a publish: the place is now that document's, and no other's.
 void add(const QString& document, const Book& book);
 
 } // namespace PublishedBooks

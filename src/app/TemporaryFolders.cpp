@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 
 const QString base = QStringLiteral("/tmp");
 const QString unique = QStringLiteral("XXXXXX");
-// Earlier versions held no lock on their folders; a program left open for that long is rare.
+// Earlier versions did not lock their folders; a program is rarely left open for that long.
 constexpr std::chrono::seconds unlockedIsOld = 7 * 24h;
 
 FileDescriptor openFolder(const QString& path) {
@@ -34,12 +34,13 @@ bool isOwn(const QString& path) {
     return open.isOpen() && ::fstat(open.number(), &info) == 0 && info.st_uid == ::geteuid();
 }
 
-// Whether nobody but root and this user can take away or exchange what this user makes in it.
+// Whether only root and this user can remove or replace what this user creates in it.
 bool isTrustworthy(int folder) {
     struct stat info {};
     if (::fstat(folder, &info) != 0)
         return false;
-    // Root takes the folder over, or whoever runs the program first could trick it.
+    // Root takes ownership of the folder, since the user who created it could otherwise attack
+    // root's runs.
     if (::geteuid() == 0 && info.st_uid != 0 &&
         (::fchown(folder, 0, 0) != 0 || ::fchmod(folder, 01777) != 0 ||
          ::fstat(folder, &info) != 0))
@@ -71,7 +72,8 @@ QString TemporaryFolders::make(const QString& name) {
     const QString parent = Files::join(base, name);
     const QString inParent = QStringLiteral("temp.");
     const QString inBase = name + QStringLiteral(".temp.");
-    // Open to all users like the folder above it, or the first user would lock out the others.
+    // Writable for all users with the sticky bit, like /tmp, or the first user would lock out the
+    // others.
     if (::mkdir(QFile::encodeName(parent).constData(), 0700) == 0)
         ::chmod(QFile::encodeName(parent).constData(), 01777);
     removeStaleIn(parent, inParent);

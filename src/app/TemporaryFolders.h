@@ -2,18 +2,17 @@
 
 #include <QString>
 
-// Private working folders in "/tmp", which all users of the machine share: what is found there may
-// be put there by somebody else.
+// Private working folders in "/tmp", which all users share: anything found there may have been
+// created by somebody else.
 namespace TemporaryFolders {
 
-// Makes "/tmp/NAME/temp.XXXXXX" and claims it for this process, after clearing away those that
-// processes of this user have left behind. Where "/tmp/NAME" is in the hands of another user, or
-// is closed to this one, the folder is "/tmp/NAME.temp.XXXXXX". Where no such folder can be made,
-// one with that very name and six letters X, which is not claimed. Throws PlatformException when
-// there is none of them.
+// Creates "/tmp/NAME/temp.XXXXXX" and locks it, after removing stale ones of this user. If
+// "/tmp/NAME" belongs to another user or is not accessible, the folder is "/tmp/NAME.temp.XXXXXX".
+// If neither can be created, a folder with literally six letters X is used, without a lock. Throws
+// PlatformException when that fails too.
 QString make(const QString& name);
 
-// Removes such a folder with what is in it.
+// Removes such a folder with its contents.
 void remove(const QString& path);
 
 } // namespace TemporaryFolders

@@ -5,23 +5,23 @@
 #include <QString>
 #include <exception>
 
-// What the program's exit code tells a script. Documented in docs/command-line.md.
+// Exit codes, documented in docs/command-line.md.
 enum class ExitCode : int {
     ok = 0,
-    failed = 1,     // nothing was made, and the same command fails again
-    usage = 2,      // the command line was not understood
-    incomplete = 3, // the book was made, but pages are missing from it
-    tryAgain = 75, // nothing was made, for a cause that may pass: a full disk, a share that is gone
-    cancelled = 130, // ended by Ctrl-C, as a shell reports it; nothing was made
+    failed = 1,      // nothing was made; the same command will fail again
+    usage = 2,       // invalid command line
+    incomplete = 3,  // the book was made, but pages are missing
+    tryAgain = 75,   // nothing was made; the cause may pass: a full disk, an unmounted share
+    cancelled = 130, // cancelled by Ctrl-C, as shells report it; nothing was made
 };
 
-// Ends a command: the message goes to standard error, the code to the caller of the program.
+// Ends a command with a message on standard error and an exit code.
 class CommandError : public std::exception {
 public:
     explicit CommandError(QString message, ExitCode code = ExitCode::failed)
         : iMessage(std::move(message)), iCode(code) {}
 
-    // tryAgain or failed, as the reasons are.
+    // tryAgain if any of the reasons is temporary, failed otherwise.
     explicit CommandError(const Messages& reasons)
         : CommandError(englishTexts(reasons).join(u'\n'),
                        areTemporary(reasons) ? ExitCode::tryAgain : ExitCode::failed) {}

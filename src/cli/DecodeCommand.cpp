@@ -22,7 +22,7 @@ QByteArray decipheredConfiguration(const QString& path) {
     return CommonCryptor::decryptedRC4DataUsingKey(file.readAll(), userConfigKey);
 }
 
-// An element as its text, or as an object of its children; children that share a name are a list.
+// An element's text, or an object of its children; children with the same name become an array.
 QJsonValue elementAsJson(const pugi::xml_node& element) {
     QJsonObject object;
     for (const pugi::xml_node child : element.children()) {

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-// Prints the deciphered configuration of a published book: its folder, or its UserConfig.bin.
-// Throws CommandError.
+// Prints the decrypted configuration of a published book, given by its folder or its
+// UserConfig.bin. Throws CommandError.
 void runDecode(const QString& book, bool json);

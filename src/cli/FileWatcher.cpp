@@ -9,7 +9,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-// Often enough that Ctrl-C seems to be answered at once.
+// Short enough that Ctrl-C seems immediate.
 constexpr auto pollInterval = 100ms;
 constexpr auto quietTime = 600ms;
 

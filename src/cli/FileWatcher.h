@@ -6,21 +6,19 @@
 #include <functional>
 #include <vector>
 
-// Tells when files that other programs write have changed. It looks at them again and again, since
-// network drives send no word of changes.
+// Detects changes of files by other programs. It polls, since network drives send no notifications.
 class FileWatcher {
 public:
-    // Null paths are left out.
+    // Null paths are ignored.
     explicit FileWatcher(const QStringList& paths);
 
-    // Changes count from here on. To be called before the files are read, so that none is missed
-    // that comes meanwhile.
+    // Sets the baseline for changes. Call it before reading the files, so that no change during
+    // reading is missed.
     void takeSnapshot();
 
-    // Waits until some file is another one or has other contents than when it was remembered, all
-    // of them are there, and they have been left alone for a moment: programs write slowly, or take
-    // the old file away before the new one comes. False once it is stopped, which is asked all
-    // along.
+    // Waits until a file differs from the snapshot, all files exist, and none has changed for a
+    // moment: programs write slowly, or remove the old file before the new one appears. False when
+    // stopped, which is polled, returns true.
     bool waitForChange(const std::function<bool()>& stopped) const;
 
 private:

@@ -11,19 +11,19 @@
 
 namespace {
 
-struct PageFacts {
-    QSizeF size; // points, as shown
+struct PageInfo {
+    QSizeF size; // points, as displayed
     int rotation = 0;
-    std::vector<PDFAnnotation> links; // those that lead somewhere
+    std::vector<PDFAnnotation> links; // those with a target
     QString error;
 
-    bool looksLike(const PageFacts& other) const {
+    bool looksLike(const PageInfo& other) const {
         return size == other.size && rotation == other.rotation && error == other.error;
     }
 };
 
-PageFacts factsOf(const PDFDocument& document, int index, AnnotationBudget& budget) {
-    PageFacts facts;
+PageInfo infoOf(const PDFDocument& document, int index, AnnotationBudget& budget) {
+    PageInfo facts;
     try {
         const PDFPage page = document.page(index);
         facts.size = page.displaySize();
@@ -72,7 +72,7 @@ void printAsJson(const PDFDocument& document) {
     QJsonArray pages;
     AnnotationBudget budget;
     for (int i = 0; i < document.pageCount(); ++i) {
-        const PageFacts facts = factsOf(document, i, budget);
+        const PageInfo facts = infoOf(document, i, budget);
         QJsonObject page{{QStringLiteral("number"), i + 1}};
         if (facts.error.isNull()) {
             page[QStringLiteral("width")] = facts.size.width();
@@ -94,7 +94,7 @@ void printAsJson(const PDFDocument& document) {
     Terminal::print(QString::fromUtf8(QJsonDocument(object).toJson()).trimmed());
 }
 
-void printRun(int first, int last, const PageFacts& facts, std::size_t links) {
+void printRun(int first, int last, const PageInfo& facts, std::size_t links) {
     const QString pages = first == last ? QStringLiteral("Page %1").arg(first)
                                         : QStringLiteral("Pages %1-%2").arg(first).arg(last);
     if (!facts.error.isNull()) {
@@ -114,12 +114,12 @@ void printRun(int first, int last, const PageFacts& facts, std::size_t links) {
 }
 
 void printPages(const PDFDocument& document) {
-    PageFacts current;
+    PageInfo current;
     int first = 0;
     std::size_t links = 0;
     AnnotationBudget budget;
     for (int i = 0; i < document.pageCount(); ++i) {
-        PageFacts facts = factsOf(document, i, budget);
+        PageInfo facts = infoOf(document, i, budget);
         if (i > 0 && !facts.looksLike(current)) {
             printRun(first + 1, i, current, links);
             first = i;

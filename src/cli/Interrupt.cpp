@@ -10,7 +10,7 @@ void raiseFlag(int /*signal*/) {
     requested = 1;
 }
 
-// nohup switches it off, and means the program to go on when its terminal is closed.
+// nohup ignores SIGHUP: the program is to go on when its terminal is closed.
 bool ignoresHangUp() {
     struct sigaction action {};
     return ::sigaction(SIGHUP, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
@@ -27,7 +27,7 @@ void Interrupt::watch() {
     ::sigaction(SIGTERM, &action, nullptr);
     if (!ignoresHangUp())
         ::sigaction(SIGHUP, &action, nullptr);
-    // Nobody to read the progress is no reason to stop.
+    // A closed progress pipe is no reason to stop.
     ::signal(SIGPIPE, SIG_IGN);
 }
 

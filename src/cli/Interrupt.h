@@ -1,11 +1,9 @@
 #pragma once
 
-// Ctrl-C, the request to terminate and a terminal that is closed, as a flag to look at rather than
-// a sudden death.
+// Turns SIGINT, SIGTERM and SIGHUP into a flag, instead of ending the program at once.
 namespace Interrupt {
 
-// From here on these signals only raise the flag, and writing to a pipe that nobody reads fails
-// without one.
+// From now on these signals only set the flag, and writing to a closed pipe fails without SIGPIPE.
 void watch();
 
 bool wasRequested();

@@ -15,8 +15,7 @@
 
 namespace {
 
-// Removes the folder and the ones around it, up to the outermost one that was made, as long as they
-// are empty.
+// Removes the folder and its parents, up to the outermost created one, as long as they are empty.
 void removeEmptyFolders(const QString& path, const QString& outermost) {
     for (QString folder = path; folder.size() >= outermost.size();
          folder = QFileInfo(folder).path()) {
@@ -25,7 +24,7 @@ void removeEmptyFolders(const QString& path, const QString& outermost) {
     }
 }
 
-// A way that leads nowhere won't lead anywhere at the next try.
+// ENOENT here is a wrong path, so trying again does not help.
 Message lastError() {
     const bool leadsNowhere = errno == ENOENT;
     const Message error = Message::ofLastSystemError();
@@ -68,7 +67,7 @@ void OutputFolder::make(const QString& path) {
 
 void OutputFolder::lock(const QString& path) {
     iLock = ::open(QFile::encodeName(iPath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    // Some network folders know no locks; two books at once are then up to the user.
+    // Some network file systems have no locks; avoiding two runs is then up to the user.
     if (iLock >= 0 && ::flock(iLock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         throw CommandError(
             QStringLiteral("%1: another folvero is making a book in this folder").arg(path),
@@ -88,7 +87,7 @@ void OutputFolder::checkPresence() const {
     struct stat made {};
     struct stat there {};
     const bool isThere = ::stat(QFile::encodeName(iPath).constData(), &there) == 0;
-    // Folders that can be written but not read have no descriptor.
+    // A folder that is writable but not readable has no descriptor.
     const bool isSame =
         ::fstat(iLock, &made) != 0 || (made.st_dev == there.st_dev && made.st_ino == there.st_ino);
     if (!isThere || !isSame)

@@ -2,12 +2,12 @@
 
 #include <QString>
 
-// The folder that a book goes into. It is made at once, so that a folder that can't be written
-// shows before an hour of drawing; unless it is kept, whatever had to be made is removed again.
-// While this lives, no other run of the program gets the same folder.
+// The output folder of a book. It is created at once, so that an unwritable folder is reported
+// before an hour of drawing; created folders are removed again unless keep() is called. While this
+// object exists, no other run of the program can use the folder.
 class OutputFolder {
 public:
-    // Throws CommandError when the folder can't be made or written, or is in use.
+    // Throws CommandError when the folder can't be created or written, or is in use.
     explicit OutputFolder(const QString& path);
     ~OutputFolder();
     OutputFolder(const OutputFolder&) = delete;
@@ -15,8 +15,8 @@ public:
 
     const QString& path() const { return iPath; }
     void keep() { iKept = true; }
-    // Throws CommandError when the folder is gone, or another one lies in its place: a share or a
-    // memory stick was taken away, say.
+    // Throws CommandError when the folder is gone or has been replaced, for example because a drive
+    // was unplugged.
     void checkPresence() const;
 
 private:
@@ -26,7 +26,7 @@ private:
     void removeCreated();
 
     QString iPath;
-    QString iFirstMade; // the outermost folder that did not exist; null when all did
+    QString iFirstMade; // outermost folder that was created; null when all existed
     int iLock = -1;
     bool iKept = false;
 };

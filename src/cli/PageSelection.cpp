@@ -14,7 +14,7 @@ QString runText(int first, int last) {
     return first == last ? QString::number(first) : QStringLiteral("%1-%2").arg(first).arg(last);
 }
 
-// The pieces of the range that are no page number and no run of pages, quoted.
+// The parts of the range, quoted, that are neither a page number nor a run of pages.
 QStringList unclearPieces(const QString& expression) {
     static const QRegularExpression clear(QStringLiteral("^\\s*(\\d+\\s*(-\\s*\\d+\\s*)?|all)$"),
                                           QRegularExpression::CaseInsensitiveOption);

@@ -3,11 +3,11 @@
 #include <QString>
 #include <QStringList>
 
-// A page range as typed, against a document.
+// A page range as typed, checked against a document.
 struct PageSelection {
-    QString range;       // names existing pages only
-    QStringList remarks; // what was left out, in words for the user
+    QString range;       // existing pages only
+    QStringList remarks; // what was left out, for the user
 };
 
-// Leaves out what the document lacks. Throws CommandError when no page is left.
+// Leaves out pages that the document lacks. Throws CommandError when no page is left.
 PageSelection selectPages(const QString& expression, int pageCount);

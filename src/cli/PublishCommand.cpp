@@ -43,8 +43,8 @@ std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options) {
     return tmpl;
 }
 
-// What the book is called in its folder. The page's ending marks where the name ends: an
-// application's name may have dots in it.
+// The file name of the book's page. Its extension marks where the name ends: an application's name
+// may contain dots.
 QString bookName(const PublishOptions& options) {
     QString name = options.name;
     if (name.isNull())
@@ -76,7 +76,7 @@ QString bookTitle(const PublishOptions& options, const ImportPDFOperation& impor
     return own.isEmpty() ? QFileInfo(options.pdf).completeBaseName() : own;
 }
 
-// Runs the import on its queue and waits for it, passing Ctrl-C on.
+// Runs the import on its queue and waits for it; Ctrl-C cancels it.
 void importPages(const std::shared_ptr<ImportPDFOperation>& operation, bool quiet) {
     ProgressDisplay progress(QStringLiteral("Drawing pages"), quiet);
     const auto subscription = NotificationCenter::defaultCenter().addObserver(
@@ -94,7 +94,7 @@ void importPages(const std::shared_ptr<ImportPDFOperation>& operation, bool quie
     }
 }
 
-// The page source of a finished import, or the reason why there is none.
+// The page source of a finished import; throws the reason if there is none.
 std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& operation) {
     if (operation.isCancelled())
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
@@ -130,7 +130,7 @@ std::unique_ptr<FolveroOutput> makeWebOutput(const PublishOptions& options,
     return output;
 }
 
-// Without pages, which come later.
+// Without pages, which are set later.
 std::unique_ptr<FolveroOutput> makeOutput(const PublishOptions& options,
                                           const std::shared_ptr<FlashTemplate>& tmpl,
                                           const QString& folder) {
@@ -142,16 +142,16 @@ std::unique_ptr<FolveroOutput> makeOutput(const PublishOptions& options,
     return std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name);
 }
 
-// Somebody's own page must not be lost because a book has the same name.
+// A user's own page must not be lost because a book has the same name.
 void refuseToReplace(const QStringList& foreignFiles) {
     if (foreignFiles.isEmpty())
         return;
-    constexpr qsizetype mostShown = 5;
+    constexpr qsizetype maxShown = 5;
     QStringList lines;
-    for (const QString& file : foreignFiles.first(std::min(foreignFiles.size(), mostShown)))
+    for (const QString& file : foreignFiles.first(std::min(foreignFiles.size(), maxShown)))
         lines << QStringLiteral("%1: is not of a book, and would be overwritten").arg(file);
-    if (foreignFiles.size() > mostShown)
-        lines << QStringLiteral("and %1 more").arg(foreignFiles.size() - mostShown);
+    if (foreignFiles.size() > maxShown)
+        lines << QStringLiteral("and %1 more").arg(foreignFiles.size() - maxShown);
     throw CommandError(
         lines.join(u'\n') +
         QStringLiteral("\nChoose another folder or --name, or overwrite with --force"));
@@ -162,7 +162,7 @@ void writeBook(FolveroOutput& output, const QString& title, const OutputFolder& 
     html->setHTMLTitle(title.toHtmlEscaped());
     output.setHTMLConfig(html);
     output.setCancelled(Interrupt::wasRequested);
-    // Publishers do nothing without their folder, or make it anew.
+    // Without their folder publishers do nothing, or create a new one.
     folder.checkPresence();
     output.ouputTheBook();
     if (output.wasCancelled())
@@ -176,7 +176,7 @@ void writeBook(FolveroOutput& output, const QString& title, const OutputFolder& 
             ExitCode::tryAgain);
 }
 
-// What a web book came to.
+// Prints the summary of a web book.
 void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options) {
     WebBookOptions::printLeftoverFiles(options, output);
     for (const auto& [page, reason] : output.degradedPages())
@@ -195,8 +195,8 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
     WebBookOptions::printEmbedSnippet(output);
 }
 
-// Pages that could not be drawn, and those whose file was gone before it was published; null when
-// the book has them all.
+// Pages that could not be drawn or whose file was gone before publishing; null when the book is
+// complete.
 QString missingPages(const PDFToSWFPageConverter& converter, const FolveroOutput& output) {
     std::map<int, QString> reasons;
     for (const int page : output.missingPages())
@@ -214,14 +214,14 @@ QString missingPages(const PDFToSWFPageConverter& converter, const FolveroOutput
 }
 
 struct MadeBook {
-    QString file; // what to open
+    QString file; // the file to open
     PublishTransaction::Counts counts;
-    QString missingPages; // null when none are
+    QString missingPages; // null when complete
 };
 
 MadeBook makeBook(const PublishOptions& options) {
     PublishTiming timing;
-    bookName(options); // a wrong name shows before an hour of drawing
+    bookName(options); // reports an invalid name before an hour of drawing
     WebBookOptions::check(options);
     const auto tmpl = prepareTemplate(options);
     OpenedPDF opened = openDocument(options.pdf);
@@ -230,7 +230,7 @@ MadeBook makeBook(const PublishOptions& options) {
     for (const QString& remark : pages.remarks)
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
     const auto openPages = WebBookOptions::openPages(options, pages.range, document->pageCount());
-    // Until here a signal ends the program at once, as it should: nothing is there to clear away.
+    // Until here a signal ends the program at once: there is nothing to clean up.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
     const auto output = makeOutput(options, tmpl, folder.path());
@@ -268,8 +268,8 @@ MadeBook makeBook(const PublishOptions& options) {
             missingPages(*source->toPageConverter(), *output)};
 }
 
-// With a single line of what came of it. Whatever goes wrong now costs this one time only.
-void makeBookAgain(PublishOptions options) {
+// Republishes and prints one summary line; errors are reported, the watch goes on.
+void republish(PublishOptions options) {
     options.quiet = true;
     QString trouble;
     try {
@@ -295,11 +295,11 @@ void makeBookAgain(PublishOptions options) {
                 .arg(trouble));
 }
 
-void watchAndMakeAgain(const PublishOptions& options, FileWatcher& files) {
+void watchAndRepublish(const PublishOptions& options, FileWatcher& files) {
     Terminal::report(QStringLiteral("Waiting for changes; Ctrl-C ends it"));
     while (files.waitForChange(Interrupt::wasRequested)) {
         files.takeSnapshot();
-        makeBookAgain(options);
+        republish(options);
     }
 }
 
@@ -315,5 +315,5 @@ void runPublish(const PublishOptions& options) {
     if (!made.missingPages.isNull())
         Terminal::report(QStringLiteral("folvero: %1").arg(made.missingPages));
     if (options.watch)
-        watchAndMakeAgain(options, files);
+        watchAndRepublish(options, files);
 }

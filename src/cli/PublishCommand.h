@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-// What "folvero publish" was asked to do.
+// The options of "folvero publish".
 struct PublishOptions {
     QString pdf;
     QString outputFolder;
@@ -12,8 +12,8 @@ struct PublishOptions {
     QString name;  // null: "index" for a page, the PDF's name for an application
     QString title; // null: the document's own title, or else its file name
     QString pages = QStringLiteral("ALL");
-    bool singleFile = false; // of a web book
-    QString previewPages;    // of a web book; null: all pages can be read
+    bool singleFile = false; // web books only
+    QString previewPages;    // web books only; null: all pages are included
     int quality = 100;
     bool links = false;
     bool bookmarks = false;
@@ -23,10 +23,10 @@ struct PublishOptions {
     QStringList assignments; // "key=value"
     QString timingFile;
     bool quiet = false;
-    bool force = false; // replace files that are no book's
-    bool watch = false; // publish again whenever the PDF or the settings file changes
+    bool force = false; // replace files that do not belong to a book
+    bool watch = false; // republish whenever the PDF or the settings file changes
 };
 
-// Makes a book from a PDF; to watch its files is to make it again and again, until Ctrl-C. Throws
+// Makes a book from a PDF, and with watch again after each change until Ctrl-C. Throws
 // CommandError.
 void runPublish(const PublishOptions& options);

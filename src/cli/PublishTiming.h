@@ -6,16 +6,16 @@
 
 class FlashPageSourcePDF;
 
-// Where the time of one publish run goes, for the benchmarks.
+// Time spent in the steps of one publish run, for the benchmarks.
 class PublishTiming {
 public:
     void opened();
     void imported(const FlashPageSourcePDF& source);
     void published();
 
-    // Writes seconds as JSON: "open", "import", "publish" and "total" by the clock; "draw",
-    // "encode" and "write" summed over the "workers" page workers, and "idle", what they waited
-    // during the import. A file that can't be written is reported: the book is there all the same.
+    // Writes seconds as JSON: "open", "import", "publish" and "total" in wall-clock time; "draw",
+    // "encode" and "write" summed over the "workers" page workers, and "idle", their waiting time
+    // during the import. A file that can't be written is reported, not an error: the book was made.
     void write(const QString& path) const;
 
 private:

@@ -25,7 +25,8 @@ const FlashTemplateProperty* findIn(const FlashTemplate::Properties& nodes, cons
                        ExitCode::usage);
 }
 
-// The value as it is stored; files become full paths, since a book may be made from anywhere.
+// Validates a value and returns it as stored; files become absolute paths, since a book may be made
+// from any folder.
 QString checkedValue(const FlashTemplateProperty& property, const QString& value) {
     static const QRegularExpression number(QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)$"));
     static const QRegularExpression colour(QStringLiteral("^(0[xX]|#)?[0-9a-fA-F]{6}$"));

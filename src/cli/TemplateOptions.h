@@ -6,10 +6,10 @@
 #include <QStringList>
 #include <memory>
 
-// Finding templates, styles and properties by the names that a user types.
+// Handles the options that name templates, styles and properties.
 namespace TemplateOptions {
 
-// Names of the templates of the library (folders that hold a template file), sorted.
+// Names of the templates in the library (folders with a template file), sorted.
 QStringList templateNames();
 
 // Names of a template's styles, sorted.
@@ -18,11 +18,11 @@ QStringList styleNames(const QString& templateName);
 // The first property with that key, or nullptr.
 const FlashTemplateProperty* findProperty(const FlashTemplate& tmpl, const QString& key);
 
-// The choices that a list property offers.
+// The choices of a list property.
 QStringList choices(const FlashTemplateProperty& property);
 
-// Loads a template, with a style when its name is not empty. Throws CommandError when there is no
-// such template or style or the template is damaged.
+// Loads a template, and a style when its name is not empty. Throws CommandError when either does
+// not exist or the template is damaged.
 std::shared_ptr<FlashTemplate> load(const QString& templateName, const QString& styleName);
 
 // Applies a settings file. Throws CommandError when it can't be read.

@@ -29,7 +29,7 @@ QJsonObject propertyAsJson(const FlashTemplateProperty& property) {
     return object;
 }
 
-// A damaged template is reported; the others are listed all the same.
+// Reports a damaged template and goes on with the others.
 void forEachTemplate(const std::function<void(const FlashTemplate&)>& action) {
     for (const QString& name : TemplateOptions::templateNames()) {
         try {

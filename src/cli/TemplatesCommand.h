@@ -1,4 +1,4 @@
 #pragma once
 
-// Lists the templates of the library with their styles and properties. Throws CommandError.
+// Prints the templates of the library with their styles and properties. Throws CommandError.
 void runTemplates(bool json);

@@ -10,9 +10,9 @@ namespace {
 constexpr int barWidth = 30;
 constexpr std::chrono::milliseconds redrawInterval{50};
 
-// Texts of documents and names of files must not give orders to the terminal that they are shown
-// on; whoever reads them from a pipe gets them as they are.
-QString withoutOrders(QString text) {
+// Texts from documents and file names must not contain terminal escape sequences when shown on a
+// terminal; pipes get them unchanged.
+QString withoutControls(QString text) {
     for (QChar& letter : text) {
         if (letter.category() == QChar::Other_Control && letter != u'\n' && letter != u'\t')
             letter = QChar::ReplacementCharacter;
@@ -29,7 +29,7 @@ void write(std::FILE* file, const QString& text) {
 } // namespace
 
 void Terminal::print(const QString& line) {
-    write(stdout, (::isatty(STDOUT_FILENO) != 0 ? withoutOrders(line) : line) + u'\n');
+    write(stdout, (::isatty(STDOUT_FILENO) != 0 ? withoutControls(line) : line) + u'\n');
 }
 
 void Terminal::checkOutput() {
@@ -38,7 +38,7 @@ void Terminal::checkOutput() {
 }
 
 void Terminal::report(const QString& line) {
-    write(stderr, (::isatty(STDERR_FILENO) != 0 ? withoutOrders(line) : line) + u'\n');
+    write(stderr, (::isatty(STDERR_FILENO) != 0 ? withoutControls(line) : line) + u'\n');
 }
 
 ProgressDisplay::ProgressDisplay(QString title, bool quiet)

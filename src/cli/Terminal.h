@@ -3,22 +3,22 @@
 #include <QString>
 #include <chrono>
 
-// Standard output and standard error as people and scripts read them.
+// Standard output and standard error.
 namespace Terminal {
 
-// A line on standard output: what was asked for.
+// Prints a line of the command's result on standard output.
 void print(const QString& line);
 
-// Throws CommandError when some line did not reach standard output.
+// Throws CommandError when writing to standard output has failed.
 void checkOutput();
 
-// A line on standard error: everything else.
+// Prints any other line on standard error.
 void report(const QString& line);
 
 } // namespace Terminal
 
-// Shows how far a long job has come, on standard error: one bar that is drawn over and over on a
-// terminal, otherwise a plain line for every tenth of the way. Shows nothing when quiet.
+// Shows the progress of a long job on standard error: a bar that is redrawn on a terminal,
+// otherwise a line for every tenth. Shows nothing when quiet.
 class ProgressDisplay {
 public:
     ProgressDisplay(QString title, bool quiet);

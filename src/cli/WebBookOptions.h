@@ -9,22 +9,22 @@
 class FolveroOutputWeb;
 struct PublishOptions;
 
-// What can be asked of web books only.
+// Options for web books only.
 namespace WebBookOptions {
 
-// Throws CommandError when it is asked of a book of another kind.
+// Throws CommandError when one is used with another type of book.
 void check(const PublishOptions& options);
 
-// The pages that a preview opens, by their numbers in the document, or none when all are open.
-// range: the pages that the book takes. What the document lacks is told on standard error. Throws
-// CommandError when no page of the book would be open.
+// The pages that a preview includes, by their numbers in the document, or none for all. range is
+// the book's page range. Reports pages that the document lacks on standard error. Throws
+// CommandError when no page of the book would be included.
 std::optional<std::vector<PageRun>> openPages(const PublishOptions& options, const QString& range,
                                               int pageCount);
 
-// On standard error: files in the book's folder that are not of this book and were left there.
+// Reports files in the book's folder that do not belong to this book and were left there.
 void printLeftoverFiles(const PublishOptions& options, const FolveroOutputWeb& output);
 
-// On standard error: the markup that shows the book in another page.
+// Prints the HTML that embeds the book in another page, on standard error.
 void printEmbedSnippet(const FolveroOutputWeb& output);
 
 } // namespace WebBookOptions

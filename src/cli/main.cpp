@@ -22,7 +22,7 @@
 
 namespace {
 
-// The command line as it was typed; texts are in the encoding of the terminal.
+// The parsed command line; texts are in the terminal's encoding.
 struct CommandLine {
     std::string pdf;
     std::string outputFolder;
@@ -208,7 +208,7 @@ void addServe(CLI::App& app, CommandLine& line) {
     command->callback([&line] { runServe(path(line.book), line.port, line.verbose); });
 }
 
-// What is wrong with the command line, and where to read on.
+// The error of the command line, with a pointer to the help.
 std::string explain(const CLI::App* app, const CLI::Error& error) {
     std::string cause = error.what();
     std::string help = "folvero --help";
@@ -221,7 +221,7 @@ std::string explain(const CLI::App* app, const CLI::Error& error) {
     return "folvero: " + cause + "; see " + help + "\n";
 }
 
-// A file opened later must not end up under the number of a standard stream that the caller closed.
+// A file opened later must not get the descriptor of a standard stream that the caller closed.
 void openStandardStreams() {
     for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
         if (::fcntl(stream, F_GETFD) < 0)
@@ -270,7 +270,7 @@ int run(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     openStandardStreams();
-    // A file that may not grow any further is a failure like a full disk.
+    // Exceeding the file size limit is an error like a full disk, not a signal.
     std::signal(SIGXFSZ, SIG_IGN);
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Folvero"));

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-// What shows and edits one value in a table or tree. Cells are made anew for each display pass.
+// Shows and edits one value in a table or tree. Cells are created for each display pass.
 class Cell {
 public:
     Cell() = default;
@@ -14,7 +14,7 @@ protected:
     Cell(const Cell&) = default;
 };
 
-// A choice of one text out of several.
+// A choice from a list of texts.
 class PopUpButtonCell : public Cell {
 public:
     explicit PopUpButtonCell(const QStringList& items) : iItems(items) {}

@@ -89,7 +89,8 @@ QString FlashTemplateModel::accessibleValue(const FlashTemplateProperty& propert
     }
 }
 
-// The cursor stays in the column of the values, so a value names its setting.
+// The keyboard focus stays in the value column, so a value's accessible text includes its setting's
+// name.
 QString FlashTemplateModel::accessibleText(const QModelIndex& index) const {
     const FlashTemplateProperty& property = *item(index);
     const QString title = displayText(index.siblingAtColumn(key)).toString();

@@ -4,8 +4,8 @@
 
 #include <QAbstractItemModel>
 
-// The property editor's rows and columns as the toolkit's views want them. The outline delegate
-// knows what is in them and outlives the model.
+// The property editor's rows and columns as a Qt model over the outline delegate, which must
+// outlive it.
 class FlashTemplateModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -14,16 +14,17 @@ public:
 
     explicit FlashTemplateModel(FlashTemplateOutlineDelegate& source, QObject* parent = nullptr);
 
-    // To be called when the template has changed; the rows are others then.
+    // Call when the template has changed; all rows are invalid then.
     void reloadData();
-    // To be called when values have changed from outside.
+    // Call when values have been changed from outside.
     void reloadValues();
 
     FlashTemplateOutlineDelegate& source() const { return iSource; }
-    // nullptr for an index of no row.
+    // nullptr for an invalid index.
     static FlashTemplateProperty* item(const QModelIndex& index);
     static QString columnName(const QModelIndex& index);
-    // The value of the property with that key, at whatever depth; invalid when there is none.
+    // The index of the value of the property with that key, at any depth; invalid when there is
+    // none.
     QModelIndex valueForKey(const QString& propertyKey, const QModelIndex& parent = {}) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
@@ -31,14 +32,14 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    // In the edit role: what a cell delivers.
+    // In the edit role: a value delivered by a cell.
     bool setData(const QModelIndex& index, const QVariant& object, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     void reloadValuesBelow(const QModelIndex& parent);
-    // As the user reads it: templates speak English.
+    // The text in the user's language; templates are in English.
     QVariant displayText(const QModelIndex& index) const;
     QString accessibleText(const QModelIndex& index) const;
     static QString accessibleValue(const FlashTemplateProperty& property);

@@ -17,7 +17,7 @@ bool isValueOf(const QString& column, FlashTemplateOutlineDelegate::Item item) {
     return item && column == valueColumn;
 }
 
-// Null when the index is none of a choice.
+// Null when the index is not that of a choice.
 QString acceptedText(const QVariant& object, const FlashTemplateProperty& property) {
     switch (property.propertyType()) {
     case pt_color:
@@ -119,7 +119,7 @@ std::unique_ptr<Cell> FlashTemplateOutlineDelegate::dataCellForTableColumn(const
 std::unique_ptr<Cell>
 FlashTemplateOutlineDelegate::listCell(const FlashTemplateProperty& property) const {
     auto cell = std::make_unique<PopUpButtonCell>(choices(property));
-    // A known value marks the second item for now; the right one is selected before each display.
+    // A known value selects the second item for now; the right one is selected before each display.
     if (cell->itemTitles().contains(property.value()))
         cell->selectItemAtIndex(1);
     return cell;
@@ -157,7 +157,7 @@ void FlashTemplateOutlineDelegate::outlineViewSelectionDidChange() {
 void FlashTemplateOutlineDelegate::onSelectFile(FlashTmplFileCell& sender) {
     const QString filter = sender.pro() ? sender.pro()->valueSource() : QString();
     const auto file = iFilePanel(sender.title(), allowedTypes(filter));
-    // Cancelling takes the file away: there is no other way to have none.
+    // Cancelling clears the file: there is no other way to have none.
     sender.setFileName2(file.value_or(QStringLiteral("")));
 }
 

@@ -14,15 +14,15 @@ class FlashTmplColorCell;
 class FlashTmplFileCell;
 class TextFieldCell;
 
-// Posted with the property whose value really changed.
+// Posted with the property whose value has changed.
 inline constexpr char16_t FlashTmplProValueChangedNotification[] =
     u"FlashTmplProValueChangedNotification";
 // Posted with the delegate when another row is selected.
 inline constexpr char16_t UpdateFlashTmplProTipNotification[] =
     u"UpdateFlashTmplProTipNotification";
 
-// What the property editor shows of a template, and how edits get back into it. Items are the
-// template's properties; nullptr stands for the root. The columns are "key" and "value".
+// The content of the property editor for a template, and the handling of edits. Items are the
+// template's properties; nullptr is the root. The columns are "key" and "value".
 class FlashTemplateOutlineDelegate {
 public:
     using Item = FlashTemplateProperty*;
@@ -35,8 +35,8 @@ public:
         iFlashTmpl = std::move(flashTmpl);
     }
 
-    // How files and colours are asked for. A file comes back as none when the panel is cancelled.
-    // Allowed types are file name extensions.
+    // How the user is asked for files and colours. No file is returned when the panel is cancelled.
+    // types are file name extensions.
     using FilePanel =
         std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>;
     using ColorPanel = std::function<QColor(const QColor& initial)>;
@@ -44,24 +44,24 @@ public:
     void setColorPanel(ColorPanel panel) { iColorPanel = std::move(panel); }
 
     int numberOfChildrenOfItem(Item item) const;
-    // nullptr for an index that no child has.
+    // nullptr for an index out of range.
     Item child(int index, Item ofItem) const;
     bool isItemExpandable(Item item) const;
 
     // A null column counts as "key".
     QVariant objectValueForTableColumn(const QString& column, Item byItem) const;
-    // nullptr where the column's plain text cell serves.
+    // nullptr where the column's plain text cell is used.
     std::unique_ptr<Cell> dataCellForTableColumn(const QString& column, Item item);
     // Called before a cell is shown.
     void willDisplayCell(Cell& cell, const QString& forTableColumn, Item item) const;
-    // Takes what a cell delivers: a text, the index of a choice, or a truth value.
+    // Handles a value from a cell: a text, the index of a choice, or a boolean.
     void setObjectValue(const QVariant& object, const QString& forTableColumn, Item byItem);
     void outlineViewSelectionDidChange();
 
-    // What the buttons of the cells do; the cell's title is the new value afterwards.
+    // Actions of the cells' buttons; the cell's title is the new value afterwards.
     void onSelectFile(FlashTmplFileCell& sender);
     void onSelectColor(FlashTmplColorCell& sender);
-    // For a file panel that runs as a sheet: its file goes to the cell, whatever the answer was.
+    // For a file panel that runs as a sheet: sets the cell to its file, whatever the return code.
     void openPanelDidEnd(const QString& panelFile, int returnCode,
                          FlashTmplFileCell& contextInfo) const;
 

@@ -40,7 +40,7 @@ void FlashTmplColorCell::drawInteriorWithFrame(QPainter& painter, const QRectF& 
     const QRectF swatch = imageRectForBounds(frame);
     painter.setPen(QPen(Qt::gray, 1));
     painter.setBrush(Qt::NoBrush);
-    // A line of one pixel lies inside the rectangle that it frames.
+    // Keeps the one-pixel line inside the rectangle.
     painter.drawRect(swatch.adjusted(0.5, 0.5, -0.5, -0.5));
     if (iColor.isValid())
         painter.fillRect(swatch.adjusted(1, 1, -1, -1), iColor);

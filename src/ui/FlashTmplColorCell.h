@@ -13,7 +13,7 @@ public:
 
     QColor color() const { return iColor; }
     void setColor(const QColor& color) { iColor = color; }
-    // Takes a colour that was picked: the text follows.
+    // Sets a picked colour and updates the text.
     void setColor2(const QColor& color);
 
     QRectF imageRectForBounds(const QRectF& bounds) const;

@@ -7,7 +7,7 @@ class FlashTmplFileCell : public FlashTmplCell {
 public:
     using FlashTmplCell::FlashTmplCell;
 
-    // Takes a file that was chosen: the text is its path.
+    // Sets a chosen file; the text is its path.
     void setFileName2(const QString& path) { setTitle(path); }
 
     QRectF titleRectForBounds(const QRectF& bounds) const override;

@@ -4,7 +4,7 @@
 #include <QString>
 #include <utility>
 
-// A style of a template as the chooser shows it: its picture with its name beneath.
+// A template style in the chooser: its picture with its name below.
 class IKBTmplStyleItem {
 public:
     IKBTmplStyleItem(QImage image, const QString& imageID, const QString& styleName)
@@ -13,12 +13,12 @@ public:
     // Null when the style has no picture.
     const QImage& image() const { return iImage; }
     void setImage(const QImage& image) { iImage = image; }
-    // Full path of the picture's file, whether or not it exists.
+    // Full path of the picture's file, which may not exist.
     QString imageID() const { return iImageID; }
     void setImageID(const QString& imageID) { iImageID = imageID; }
     QString styleName() const { return iStyleName; }
 
-    // The same as a browser of images asks for it.
+    // The same under the names that an image browser uses.
     QString imageUID() const { return iImageID; }
     static QString imageRepresentationType() {
         return QStringLiteral("IKImageBrowserNSImageRepresentationType");

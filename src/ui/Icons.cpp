@@ -7,7 +7,7 @@
 
 namespace {
 
-// Draws the picture anew for each size instead of scaling one that was drawn before.
+// Renders the SVG for each size instead of scaling a bitmap.
 class VectorEngine : public QIconEngine {
 public:
     VectorEngine(QByteArray drawing, const QColor& ink) : iDrawing(std::move(drawing)) {

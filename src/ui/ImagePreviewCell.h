@@ -9,7 +9,7 @@ class ImagePreviewCell : public TextFieldCell {
 public:
     using TextFieldCell::TextFieldCell;
 
-    // A null picture leaves a dashed frame in its place.
+    // A null picture is shown as a dashed frame.
     QPixmap image() const { return iImage; }
     void setImage(const QPixmap& image) { iImage = image; }
     QString subTitle() const { return iSubTitle; }

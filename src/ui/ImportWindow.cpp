@@ -17,7 +17,7 @@ ImportWindow::ImportWindow(QWidget* parent)
     : Sheet(tr("Import a PDF"), parent), btnOK(new QPushButton(tr("&Import"))) {
     makeFileField();
     importQuality = new QComboBox;
-    // The usual one does not know of style sheets.
+    // The default delegate ignores style sheets.
     importQuality->setItemDelegate(new QStyledItemDelegate(importQuality));
     //: The quality of the pictures of the pages, from the best to the worst.
     importQuality->addItems(
@@ -81,7 +81,7 @@ QWidget* ImportWindow::pagesRow() {
     return row;
 }
 
-// Keeps its place while it is empty, so that the window does not jump.
+// Keeps its space while empty, so that the window does not change size.
 QWidget* ImportWindow::progressRow() {
     prgBar = new QProgressBar;
     prgBar->setTextVisible(false);

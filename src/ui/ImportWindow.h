@@ -11,12 +11,12 @@ class QProgressBar;
 class QPushButton;
 class QRadioButton;
 
-// The import sheet's controls. What they do is its delegate's business.
+// The controls of the import sheet; its delegate implements them.
 class ImportWindow : public Sheet {
     Q_OBJECT
 
 public:
-    // The ids of the two choices of pages.
+    // IDs of the two page range buttons.
     enum PageRangeType { allPages = 0, typedPages = 1 };
 
     explicit ImportWindow(QWidget* parent = nullptr);
@@ -31,7 +31,7 @@ public:
     QCheckBox* btnImportLinks;
     QLabel* lblInfo;
     QProgressBar* prgBar;
-    // Why the last import brought nothing; hidden while there is nothing to say.
+    // Why the last import failed; hidden when there is nothing to show.
     QLabel* lblFailure;
     QPushButton* btnOK;
 

@@ -27,7 +27,7 @@ const Log& logger() {
     return log;
 }
 
-// Only a source of another kind is taken as it is.
+// Sources other than PDFs count as having pages.
 bool hasPages(const FlashPageSource* source) {
     const auto* pdf = dynamic_cast<const FlashPageSourcePDF*>(source);
     return pdf ? pdf->hasDrawnPages() : source != nullptr;
@@ -102,7 +102,7 @@ void ImportWindowDelegate::enableButtons(bool idle) {
     iWindow->importQuality->setEnabled(idle);
     iWindow->lblInfo->setVisible(!idle);
     iWindow->prgBar->setVisible(!idle);
-    // A bar without a range is one that moves by itself.
+    // Without a range the bar shows a busy animation.
     iWindow->prgBar->setRange(0, idle ? 1 : 0);
 }
 
@@ -188,7 +188,7 @@ void ImportWindowDelegate::mainThread_handleMSG(const QVariantMap& userInfo) {
 }
 
 void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation) {
-    // One that was given up for a newer one no longer counts.
+    // Ignores an operation that was cancelled for a newer one.
     if (!operation || operation != iImportPDF)
         return;
     logger().debug(QStringLiteral("import pdf isFinished."));
@@ -216,7 +216,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     iIsImporting = false;
 }
 
-// The book lacks them; its maker must know which ones.
+// The book lacks these pages, so the user must know which.
 void ImportWindowDelegate::reportFailedPages() {
     const auto* source = dynamic_cast<const FlashPageSourcePDF*>(iFlashPageSource.get());
     if (!source)
@@ -238,7 +238,7 @@ void ImportWindowDelegate::takePageSize(const ImportPDFOperation& operation) {
     const QRectF box = operation.firstCropBox().value_or(QRectF());
     iPageWidth = int(box.width());
     iPageHeight = int(box.height());
-    document->stopReader(); // nothing more is asked of it
+    document->stopReader(); // no more queries follow
     auto& settings = AppSettings::shareInstance();
     settings.setPageWidth(iPageWidth);
     settings.setPageHeight(iPageHeight);
@@ -264,7 +264,7 @@ void ImportWindowDelegate::onBrowseFileAction() {
     openPanelDidEnd(iFilePanel(iWindow->txtImportFile->text(), {QStringLiteral("pdf")}));
 }
 
-// A cancelled panel leaves what was typed.
+// Cancelling keeps what was typed.
 void ImportWindowDelegate::openPanelDidEnd(const std::optional<QString>& panelFile) {
     Log::system(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
     if (panelFile)

@@ -11,8 +11,8 @@
 
 class ImportWindow;
 
-// Runs the import sheet: takes the user's choices, imports in the background, shows how far it has
-// come, and keeps what came of it. The sheet ends with 1 after an import and 0 without one.
+// Controls the import sheet: reads the user's choices, imports in the background, shows progress,
+// and keeps the results. The sheet ends with 1 after an import and 0 without one.
 class ImportWindowDelegate : public QObject {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     // Imports all pages of that file as if the user had chosen it in the sheet.
     void importFile(const QString& path);
 
-    // The results of the last import; none before one and after one that failed.
+    // The results of the last import; null before one and after a failed one.
     std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
     void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
         iFlashPageSource = std::move(value);
@@ -39,8 +39,8 @@ public:
     }
     std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
     void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
-    // What the last import left out, and why; a text for each part or page that failed, those of
-    // many pages together.
+    // What the last import left out and why: one text per failed part or page; many failed pages
+    // share one.
     const QStringList& failures() const { return iFailures; }
     // Points; 0 until an import succeeds.
     int pageWidth() const { return iPageWidth; }
@@ -49,7 +49,7 @@ public:
     void setPageHeight(int height) { iPageHeight = height; }
     bool isImporting() const { return iIsImporting; }
 
-    // How a file is asked for (none when the panel is cancelled) and how one is opened.
+    // How the user is asked for a file (none when cancelled), and how one is opened.
     using FilePanel =
         std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>;
     void setFilePanel(FilePanel panel) { iFilePanel = std::move(panel); }
@@ -64,10 +64,10 @@ public:
     void onPageRangeTypeChangeAction();
     void openPanelDidEnd(const std::optional<QString>& panelFile);
 
-    // Idle or busy.
+    // Enables the controls for the idle or the busy state.
     void enableButtons(bool idle);
 
-    // The quality that a choice in the sheet stands for.
+    // The quality for a choice in the sheet.
     static int qualityForLevel(int importQualityLevel);
 
 private:
@@ -96,6 +96,6 @@ private:
     FilePanel iFilePanel;
     std::function<void(const QString&)> iOpenFile;
     std::function<void(int)> iOnEnd;
-    // Last, so that its thread has ended before anything that it might reach goes.
+    // Last, so that it is destroyed first: its thread must end before anything that it may use.
     OperationQueue iQueue;
 };

@@ -8,12 +8,12 @@ class QFormLayout;
 class QLineEdit;
 class QPushButton;
 
-// The publish sheet's controls. What they do is its delegate's business.
+// The controls of the publish sheet; its delegate implements them.
 class OutputWindow : public Sheet {
     Q_OBJECT
 
 public:
-    // The ids of the kinds of book.
+    // IDs of the output type buttons.
     enum OutputType { htmlBook = 0, application = 1, webBook = 2 };
 
     explicit OutputWindow(QWidget* parent = nullptr);
@@ -29,7 +29,7 @@ public:
     QPushButton* btnCopyEmbed;
     QPushButton* btnPublish;
 
-    // Shows or hides what is for web books only.
+    // Shows or hides the controls for web books.
     void showWebBookParts(bool isShown);
 
 private:

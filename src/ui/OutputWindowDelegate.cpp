@@ -38,7 +38,7 @@ const Log& logger() {
 constexpr int progressWidth = 340;
 constexpr qsizetype mostFilesNamed = 3;
 
-// Closes only with the run that it belongs to. Its bar is too low for a text.
+// Stays open until its run ends. Its bar is too low for a text.
 std::unique_ptr<QProgressDialog> progressWindow(QWidget* parent) {
     auto dialog = std::make_unique<QProgressDialog>(parent);
     constexpr int patienceMilliseconds = 400;
@@ -99,15 +99,15 @@ void OutputWindowDelegate::beginSheet() {
     iWindow->open();
 }
 
-// The first time there is no telling whose the texts of the last run are.
+// The first time it is unknown which document the last run's texts belong to.
 void OutputWindowDelegate::setDocument(const QString& path, const QString& name) {
     iIsOtherDocument = iIsOtherDocument || iDocumentName.isNull() || path != iDocument;
     iDocument = path;
     iDocumentName = name;
 }
 
-// What the document was published with, or what most people would type. What was typed for another
-// document goes: this one must not end up in that one's folder, or under its title.
+// Proposes the texts of the document's last publish, or the most likely ones. Texts typed for
+// another document are replaced: this one must not end up in that one's folder or under its title.
 void OutputWindowDelegate::proposeTexts() {
     const bool isOther = std::exchange(iIsOtherDocument, false);
     const auto propose = [](QLineEdit* field, const QString& text, bool always) {
@@ -123,7 +123,7 @@ void OutputWindowDelegate::proposeTexts() {
     propose(iWindow->txtOutputName, book ? book->name : QStringLiteral("index"), book.has_value());
 }
 
-// Without a folder or a name there is no telling where the book would end up.
+// Folder and name are required.
 void OutputWindowDelegate::showState() {
     iWindow->btnPublish->setEnabled(!iWindow->txtOutputFolder->text().trimmed().isEmpty() &&
                                     !iWindow->txtOutputName->text().trimmed().isEmpty());
@@ -152,7 +152,7 @@ QString OutputWindowDelegate::pageName() const {
     return iWindow->txtOutputName->text() + QStringLiteral(".html");
 }
 
-// The application takes its name from the same text: it replaces the ending.
+// The application's name comes from the same text, with another extension.
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     const QString folder = iWindow->txtOutputFolder->text();
     const QString name = pageName();
@@ -165,7 +165,7 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     return std::make_unique<FolveroOutput>(iFlashPageSource, iFlashTmpl, folder, name);
 }
 
-// Pages are drawn once more, which takes as long as an import.
+// Draws the pages again, which takes as long as an import.
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString& folder,
                                                                    const QString& name) {
     auto output = std::make_unique<FolveroOutputWeb>(iFlashPageSource, iFlashTmpl, folder, name);
@@ -179,7 +179,7 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString
     return output;
 }
 
-// Without the user's yes the sheet stays, to choose another folder.
+// If the user declines, the sheet stays open to choose another folder.
 void OutputWindowDelegate::onPublish() {
     saveChoices();
     {
@@ -196,7 +196,7 @@ void OutputWindowDelegate::onPublish() {
     endSheet(1);
 }
 
-// The document's own earlier book is what it is published for.
+// No warning about the book of the same document: republishing is meant to replace it.
 QString OutputWindowDelegate::overwriteWarning(const FolveroOutput& output) const {
     QStringList lost;
     if (const QStringList files = output.foreignFiles(); !files.isEmpty())
@@ -226,7 +226,7 @@ void OutputWindowDelegate::rememberBook(const FolveroOutput& output) const {
                          iWindow->txtTitle->text(), place(output)});
 }
 
-// The progress window ends with the run: it would stay open under the question that follows.
+// The progress window is closed with the run: it would stay open under the next question.
 void OutputWindowDelegate::run(FolveroOutput& output) {
     const auto end = qScopeGuard([this] { iProgress.reset(); });
     iProgress = progressWindow(iWindow);
@@ -276,7 +276,7 @@ void OutputWindowDelegate::onSelectFolder() {
     openPanelDidEnd(iQuestions.folder(tr("Choose folder")));
 }
 
-// A cancelled panel leaves what was typed.
+// Cancelling keeps what was typed.
 void OutputWindowDelegate::openPanelDidEnd(const std::optional<QString>& panelFile) {
     logger().debug(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
     if (panelFile)
@@ -289,7 +289,7 @@ void OutputWindowDelegate::onOpenFolder() {
 
 void OutputWindowDelegate::onCopyEmbed() {
     QGuiApplication::clipboard()->setText(iWindow->txtEmbed->text());
-    // Shows that it was done.
+    // Shows that the text was copied.
     iWindow->txtEmbed->setFocus();
     iWindow->txtEmbed->selectAll();
 }

@@ -10,8 +10,9 @@
 class OutputWindow;
 class QProgressDialog;
 
-// Runs the publish sheet: takes the user's choices, publishes while the sheet is up, and offers to
-// open the result. The sheet ends with 1 after a publish, whatever came of it, and 0 without one.
+// Controls the publish sheet: reads the user's choices, publishes while the sheet is open, and
+// offers to open the result. The sheet ends with 1 after a publish, successful or not, and 0
+// without one.
 class OutputWindowDelegate : public QObject {
     Q_OBJECT
 
@@ -22,7 +23,7 @@ public:
     OutputWindow& window() const { return *iWindow; }
     void beginSheet();
 
-    // What is published; set before the sheet is shown.
+    // What to publish; set before the sheet is shown.
     std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
     void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
         iFlashPageSource = std::move(value);
@@ -38,13 +39,13 @@ public:
         iFlashPagesAnnotations = std::move(value);
     }
 
-    // Whose book it is: the path of the document's file, empty for the demo book. Folder and title
-    // are those that it was published with last, or are proposed after its name.
+    // The document of the book: its path, empty for the demo book, and its name. Folder and title
+    // default to those of its last publish, or are derived from the name.
     void setDocument(const QString& path, const QString& name);
 
-    // How the user is asked: for a folder (none when cancelled), whether to replace what would be
-    // lost and whether to open the result (true for yes), and how a file or folder is opened and a
-    // failure told.
+    // How the user is asked for a folder (none when cancelled), whether to replace what would be
+    // lost and whether to open the result (true for yes); how a file or folder is opened; and how
+    // an error is shown.
     struct Questions {
         std::function<std::optional<QString>(const QString& prompt)> folder;
         std::function<bool(const QString& message, const QString& information)> replace;
@@ -69,7 +70,8 @@ private:
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput();
     std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name);
-    // What a publish would replace and somebody may want to keep; empty for nothing.
+    // A text about files or a book that a publish would replace and somebody may want to keep;
+    // empty for none.
     QString overwriteWarning(const FolveroOutput& output) const;
     // What a publish replaces as a whole.
     static QString place(const FolveroOutput& output);
@@ -85,9 +87,9 @@ private:
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
     QString iDocument;
     QString iDocumentName;
-    // The fields still hold what was typed for another document.
+    // Whether the fields still contain what was typed for another document.
     bool iIsOtherDocument = false;
     Questions iQuestions;
-    // Of the run under way.
+    // Of the current run.
     std::unique_ptr<QProgressDialog> iProgress;
 };

@@ -4,14 +4,14 @@
 
 class QMessageBox;
 
-// Shows texts that others wrote (names of files, texts of templates and documents, causes of
-// failures) as they stand: the toolkit otherwise takes what looks like markup for markup.
+// Shows texts from outside (file names, texts of templates and documents, error causes) literally:
+// Qt otherwise interprets text that looks like markup.
 namespace PlainText {
 
-// The text for a tool tip.
+// Converts a text for a tool tip.
 QString toolTip(const QString& text);
 
-// Both texts of a message box. Its informative text has to be set before.
+// Makes a message box show both of its texts literally. Set its informative text first.
 void show(QMessageBox& box);
 
 } // namespace PlainText

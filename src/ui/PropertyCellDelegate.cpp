@@ -20,13 +20,13 @@ constexpr qreal cellHeight = 19;
 constexpr int arrowSide = 12;
 constexpr int textMargin = 4;
 
-// Closes as a whole when its list is closed without a choice.
+// Closes the editor when its list is closed without a choice.
 class ListEditor : public QComboBox {
 public:
     explicit ListEditor(QWidget* parent) : QComboBox(parent) {
-        // The usual one does not know of style sheets.
+        // The default delegate ignores style sheets.
         setItemDelegate(new QStyledItemDelegate(this));
-        // A choice comes after the list was closed.
+        // activated() is emitted after the list has closed.
         withoutChoice.setSingleShot(true);
         connect(this, &QComboBox::activated, &withoutChoice, &QTimer::stop);
     }
@@ -37,7 +37,7 @@ public:
     QTimer withoutChoice;
 };
 
-// Cells are made for rows of one line; they sit in the middle of higher ones.
+// Cells are designed for single-line rows; they are centred in higher ones.
 QRectF frameIn(const QRect& row) {
     return QRectF(row).adjusted(0, std::max(0.0, (row.height() - cellHeight) / 2), 0, 0);
 }
@@ -65,7 +65,7 @@ bool isEditedAsText(const QModelIndex& index) {
     return index.flags().testFlag(Qt::ItemIsEditable) && type != pt_bool && type != pt_list;
 }
 
-// Players read numbers with a point, whatever the user's country writes.
+// Players expect a decimal point, whatever the user's locale.
 void takeCommasAsPoints(QLineEdit& edit) {
     QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&edit](QString text) {
         if (!text.contains(u','))
@@ -233,8 +233,8 @@ void PropertyCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* mod
     }
 }
 
-// Over the text alone, so that swatch and button stay free; but over all the room that a text may
-// take, since it can grow.
+// Only over the text, so that swatch and button stay free; but over all the space available to it,
+// since it can grow.
 void PropertyCellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                                 const QModelIndex& index) const {
     QRect rect = option.rect;
@@ -283,7 +283,7 @@ bool PropertyCellDelegate::trackButton(QMouseEvent& event, const QStyleOptionVie
     return true;
 }
 
-// The view does not pass on moves with a button down, nor what happens outside of a row.
+// The view does not forward moves with a pressed button, nor events outside of rows.
 bool PropertyCellDelegate::eventFilter(QObject* watched, QEvent* event) {
     const bool isKey = event->type() == QEvent::KeyPress;
     if (watched == &iView)
@@ -307,7 +307,7 @@ bool PropertyCellDelegate::eventFilter(QObject* watched, QEvent* event) {
         iTracked->trackMouse(mouse, frame, *iView.viewport());
         return true;
     }
-    // What the action opens may handle further events: nothing is held by then.
+    // The action may open something that handles further events: nothing may be tracked by then.
     const auto cell = std::move(iTracked);
     const QPersistentModelIndex index = std::exchange(iTrackedIndex, QPersistentModelIndex());
     const QString before = cell->title();
@@ -334,7 +334,7 @@ void PropertyCellDelegate::hover(const QPointF& at) {
 
 bool PropertyCellDelegate::keyPressed(const QKeyEvent& event) {
     const QModelIndex current = iView.currentIndex();
-    // An editor hands on what it does not use, such as the Return that ends it.
+    // An editor forwards keys that it does not use, such as the Return that ends it.
     const QWidget* focus = QApplication::focusWidget();
     const bool isOfEditor = focus && iView.viewport()->isAncestorOf(focus);
     if (!current.isValid() || isOfEditor)
@@ -348,7 +348,7 @@ bool PropertyCellDelegate::keyPressed(const QKeyEvent& event) {
     return true;
 }
 
-// A group opens or closes.
+// Opens the editor; for a group, expands or collapses it.
 void PropertyCellDelegate::edit(const QModelIndex& index, bool byItsButton) {
     iView.setCurrentIndex(index);
     const QModelIndex title = index.siblingAtColumn(FlashTemplateModel::key);
@@ -361,7 +361,7 @@ void PropertyCellDelegate::edit(const QModelIndex& index, bool byItsButton) {
         iView.edit(index);
 }
 
-// Takes what was typed and goes on to the next or previous row, whose text is edited at once.
+// Commits the text and moves to the next or previous row, whose text is edited at once.
 bool PropertyCellDelegate::leaveEditor(QWidget& editor, int key) {
     if (key != Qt::Key_Tab && key != Qt::Key_Backtab)
         return false;

@@ -8,9 +8,9 @@
 
 class QTreeView;
 
-// Puts the outline delegate's cells into the property editor's view: draws them, hands them the
-// mouse and the keyboard, and opens an editor over the text of one. A key always goes to the value
-// of its row, whichever column was clicked.
+// Connects the outline delegate's cells to the property editor's view: draws them, passes mouse and
+// keyboard events to them, and opens an editor over the text of one. Keys always go to the value of
+// the current row, whichever column was clicked.
 class PropertyCellDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // Does what a click on the button of a row's value does; false when it has none.
+    // Does what a click on the button of the row's value does; false when it has none.
     bool activate(const QModelIndex& index);
     bool keyPressed(const QKeyEvent& event);
     void edit(const QModelIndex& index, bool byItsButton);
@@ -51,7 +51,7 @@ private:
     void commit(const TextFieldCell& cell, const QModelIndex& index);
 
     QTreeView& iView;
-    // The cell that the mouse holds, and the row that the pointer is over the button of.
+    // The cell that tracks the mouse, and the row whose button the pointer is over.
     std::unique_ptr<TextFieldCell> iTracked;
     QPersistentModelIndex iTrackedIndex;
     QPersistentModelIndex iHoveredIndex;

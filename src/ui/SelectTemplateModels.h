@@ -4,17 +4,16 @@
 
 class SelectTemplateWindowDelegate;
 
-// The chooser's two lists as the toolkit's views want them. The sheet's delegate knows what is in
-// them and outlives them.
+// The template chooser's two lists as Qt models over the sheet's delegate, which must outlive them.
 
-// One row a template; the names are shown with capitals.
+// One row per template; names are capitalised.
 class TmplListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
     explicit TmplListModel(SelectTemplateWindowDelegate& source, QObject* parent = nullptr);
 
-    // Why a template can't be used, in words; a null text when it can.
+    // Why a template can't be used; a null text when it can.
     static constexpr int failureRole = Qt::UserRole;
 
     void reloadData();
@@ -27,7 +26,7 @@ private:
     SelectTemplateWindowDelegate& iSource;
 };
 
-// One row a style of the template that is shown, its picture as the decoration.
+// One row per style of the selected template, with its picture as decoration.
 class TmplStylesModel : public QAbstractListModel {
     Q_OBJECT
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-// The icon keeps its place in a row; what follows it moves.
+// The icon's place in a row is fixed; what follows it moves.
 constexpr int rowPadding = 5;
 constexpr int titlePadding = 6;
 constexpr int badgeSide = 16;
@@ -23,7 +23,7 @@ constexpr int nameGap = 10;
 constexpr int namePadding = 8;
 constexpr int nameHeightPadding = 3;
 constexpr qreal pictureRadius = 4;
-// The frame of the selected picture, and the space between the two.
+// The frame of the selected picture, and the gap between the two.
 constexpr qreal frameWidth = 3;
 constexpr qreal frameGap = 2;
 
@@ -54,8 +54,8 @@ QRect nameRect(const QRect& cell, const QFontMetrics& font, const QString& name)
             font.height() + 2 * nameHeightPadding};
 }
 
-// Scaled once for the screen's own pixels, which is sharper and faster than scaling at each draw.
-// Small pictures are not blown up.
+// Scaled once for the screen's device pixels, which is sharper and faster than scaling on each
+// paint. Small pictures are not enlarged.
 QPixmap scaled(const QImage& image, qreal pixelRatio) {
     const QSizeF natural = QSizeF(image.size()) * pixelRatio;
     const QSizeF box = (QSizeF(pictureSize) * pixelRatio).boundedTo(natural);
@@ -76,7 +76,7 @@ QPixmap scaled(const QImage& image, qreal pixelRatio) {
     return pixmap;
 }
 
-// Where the picture lies, or what stands in for it.
+// Draws the picture or its placeholder and returns its rectangle.
 QRectF drawPicture(QPainter& painter, const QStyleOptionViewItem& option, const QImage& image) {
     const QRectF room = pictureRect(option.rect);
     if (image.isNull()) {
@@ -140,7 +140,7 @@ void TmplRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option
     SelectTmplItemCell& cell = cellFor(index);
     cell.setFont(option.font);
     cell.setHighlighted(selected);
-    // A row's icon sits a pixel low in it.
+    // A cell's icon is one pixel too low.
     painter->translate(option.rect.x() + rowPadding, option.rect.y() - 1);
     const int width = option.rect.width() - 2 * rowPadding - titlePadding;
     cell.drawInteriorWithFrame(*painter, QRectF(titlePadding, 0, width, option.rect.height()));

@@ -13,7 +13,7 @@ class TmplRowPainter : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    // Cells hold their icons, so they are kept until the list is read anew.
+    // Cells cache their icons, so they are kept until the list is reloaded.
     void forgetCells() { iCells.clear(); }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -26,7 +26,7 @@ private:
     mutable std::map<int, std::unique_ptr<SelectTmplItemCell>> iCells;
 };
 
-// Draws the styles: a picture with the name beneath it, in the middle of the view's grid.
+// Draws the styles: a picture with the name below it, centred in the view's grid.
 class TmplStylePainter : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -35,12 +35,12 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
-    // The grid's, when the view has one.
+    // The grid size, if the view has one.
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    // A name that is cut off is shown whole.
+    // Shows the full text of an elided name.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
 
-    // The room that a style needs at least.
+    // The minimum size of a style's cell.
     static QSize smallestCell(const QFontMetrics& font);
 };

@@ -19,7 +19,7 @@ constexpr int firstColumns = 3;
 constexpr int firstRows = 2;
 constexpr int noticeIconSide = 20;
 
-// A text in the middle of a view that has nothing to show.
+// A text in the middle of an empty view.
 QLabel* emptyText(QListView& view, const QString& name, const QString& text) {
     auto* label = new QLabel(text);
     label->setObjectName(name);
@@ -49,7 +49,7 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     makeStyleBrowser();
     btnRefresh->setObjectName(QStringLiteral("refresh"));
     btnRefresh->setAutoDefault(false);
-    // On top of the letter in its caption, which a shortcut of the button's own would take away.
+    // In addition to the mnemonic in its caption, which a shortcut of the button would replace.
     const auto* refresh = new QShortcut(QKeySequence::Refresh, this);
     connect(refresh, &QShortcut::activated, btnRefresh, &QPushButton::click);
     //: %1 is a key.
@@ -159,14 +159,14 @@ void SelectTemplateWindow::fitGrid() {
     const int frame = 2 * iImgBrowserView->frameWidth();
     const QSize room = iImgBrowserView->size() - QSize(frame, frame);
     const int count = iImgBrowserView->model() ? iImgBrowserView->model()->rowCount() : 0;
-    // The view wraps a row that takes its width to the last pixel.
+    // The view wraps a row that uses its full width.
     const auto columnsIn = [&cell](int width) { return std::max(1, (width - 1) / cell.width()); };
     int width = room.width();
     const int rows = (count + columnsIn(width) - 1) / columnsIn(width);
     const bool scrolls = rows * cell.height() > room.height();
     if (scrolls)
         width -= iImgBrowserView->verticalScrollBar()->sizeHint().width();
-    // A bar that comes as needed costs its width even while there is none.
+    // A scroll bar shown as needed takes its width even while hidden.
     iImgBrowserView->setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn
                                                         : Qt::ScrollBarAlwaysOff);
     const QSize grid((width - 1) / columnsIn(width), cell.height());

@@ -5,7 +5,7 @@
 class QLabel;
 class QListView;
 
-// The template chooser's controls. What they do is its delegate's business.
+// The controls of the template chooser; its delegate implements them.
 class SelectTemplateWindow : public Sheet {
     Q_OBJECT
 
@@ -14,15 +14,15 @@ public:
 
     QListView* iTableViewTmpls;
     QListView* iImgBrowserView;
-    // In place of the templates or styles when there are none.
+    // Shown when there are no templates or styles.
     QLabel* lblNoTmpls;
     QLabel* lblNoStyles;
     QPushButton* btnRefresh;
     QPushButton* btnOK;
 
-    // Gives the styles all the width that there is; to be called when their number has changed.
+    // Adjusts the grid of styles to the available width; call when their number has changed.
     void fitGrid();
-    // Says which templates can't be used and why; hidden when there is nothing to say.
+    // Shows which templates can't be used and why; hidden when empty.
     void showNotice(const QString& notice);
 
 protected:

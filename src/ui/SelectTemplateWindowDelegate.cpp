@@ -31,8 +31,8 @@ QString reasonOf(const FlashTemplate& tmpl) {
     return tmpl.loadMessage().local();
 }
 
-// Templates and styles are found by name, right beneath the folder that holds them all. What lies
-// deeper belongs to one of them; nobody is to choose it.
+// Templates and styles are found by name, directly below their common folder. Deeper folders belong
+// to one of them and can't be chosen.
 bool isNestedTemplate(const QString& path) {
     return FlashTemplate::tmplPathForName(Files::lastPathComponent(path)) != path + u'/';
 }
@@ -58,7 +58,7 @@ SelectTemplateWindowDelegate::SelectTemplateWindowDelegate(QWidget* parent)
     wire();
 }
 
-// The sheet may outlive this for a moment; its lists show what lies here.
+// The sheet may outlive this object briefly; its lists show data owned here.
 SelectTemplateWindowDelegate::~SelectTemplateWindowDelegate() {
     if (!iWindow)
         return;
@@ -99,7 +99,7 @@ void SelectTemplateWindowDelegate::reloadTmplList() {
     iFailures.reset();
 }
 
-// Each template is read once a listing, and not before the list is looked at.
+// Each template is loaded once per listing, and not before it is needed.
 const QHash<QString, QString>& SelectTemplateWindowDelegate::failures() const {
     if (iFailures)
         return *iFailures;
@@ -139,7 +139,7 @@ void SelectTemplateWindowDelegate::prepairToTmpl(const QString& name,
         if (objectValueForTableColumn(QString(), row).toUpper() == name.toUpper())
             found = row;
     }
-    // A selected row brings its own styles: letter case tells folders apart.
+    // Selecting a row loads its own styles, since letter case distinguishes folders.
     if (found >= 0)
         selectRow(found);
     else
@@ -159,7 +159,7 @@ void SelectTemplateWindowDelegate::reloadStylesForTmpl(const QString& name) {
     showState();
 }
 
-// Also selects the style that the book has, where it is among them.
+// Also selects the book's current style, if it is among them.
 void SelectTemplateWindowDelegate::showStyles() {
     bool isEmpty = true;
     for (int item = 0; item < numberOfItemsInImageBrowser(); ++item) {
@@ -208,14 +208,14 @@ void SelectTemplateWindowDelegate::tableViewSelectionDidChange() {
     const int row = selectedIn(*iWindow->iTableViewTmpls);
     if (row < 0)
         return;
-    // A refreshed list that still has its row keeps the styles as they are.
+    // A refreshed list that still has its row keeps its styles.
     const QString name = objectValueForTableColumn(QString(), row);
     if (name != iShownTmpl)
         reloadStylesForTmpl(name);
 }
 
 void SelectTemplateWindowDelegate::selectRow(int row) {
-    // What is selected can be seen, even a part of a template with another template's name.
+    // A selected row must be visible, even that of a nested template.
     iWindow->iTableViewTmpls->setRowHidden(row, false);
     iWindow->iTableViewTmpls->setCurrentIndex(iTmplModel->index(row));
     iWindow->iTableViewTmpls->scrollTo(iTmplModel->index(row));
@@ -235,7 +235,7 @@ void SelectTemplateWindowDelegate::showState() {
     iWindow->showNotice(notice());
 }
 
-// The shown template's trouble alone, or else that of all others.
+// The error of the selected template, or else those of all others.
 QString SelectTemplateWindowDelegate::notice() const {
     if (!iShownTmpl.isEmpty() && !isListed(iShownTmpl))
         //: %1 is the template's name in quotation marks.

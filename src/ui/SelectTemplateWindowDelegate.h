@@ -17,9 +17,9 @@ class TmplListModel;
 class TmplRowPainter;
 class TmplStylesModel;
 
-// Runs the template chooser: lists the templates of the library and the styles of the one that is
-// selected. The sheet ends with 1 for a choice, which selectedStyle() then tells, and with 0
-// without one. A template that can't be loaded is listed, but can't be chosen.
+// Controls the template chooser: lists the templates of the library and the styles of the selected
+// one. The sheet ends with 1 for a choice, available from selectedStyle(), and with 0 without one.
+// A template that can't be loaded is listed, but can't be chosen.
 class SelectTemplateWindowDelegate : public QObject {
     Q_OBJECT
 
@@ -28,40 +28,40 @@ public:
     ~SelectTemplateWindowDelegate() override;
 
     SelectTemplateWindow& window() const { return *iWindow; }
-    // Lists the library anew and selects that template, in whatever letter case, and that style's
-    // folder where it is among the template's.
+    // Reloads the library and selects that template, ignoring case, and the style with that folder
+    // if it belongs to the template.
     void prepairToTmpl(const QString& name, const QString& currentStylePath = QString());
     // Shows the sheet on its parent; onEnd gets the return code.
     void beginSheet(std::function<void(int)> onEnd);
-    // Path of the chosen style's picture, whose folder is the style's; a null text without a
-    // choice. The picture itself may be missing.
+    // Path of the chosen style's picture, in the style's folder; a null text without a choice. The
+    // picture itself may be missing.
     QString selectedStyle();
-    // Index of the style that was last chosen or asked for.
+    // Index of the style that was last chosen or requested.
     quint32 selectedItemIndex() const { return iSelectedItemIndex; }
 
     void onOK();
     void onCancel();
-    // The shown styles stay until another template is selected.
+    // The displayed styles stay until another template is selected.
     void onRefresh();
 
-    // What the template list shows. A row beneath another template's folder is there, but hidden.
+    // The template list. A row for a template nested in another one's folder exists, but is hidden.
     int numberOfRowsInTableView() const { return int(iTmplListData.size()); }
     QString objectValueForTableColumn(const QString& column, int row) const;
     std::unique_ptr<SelectTmplItemCell> dataCellForTableColumn(const QString& column,
                                                                int row) const;
     void tableViewSelectionDidChange();
 
-    // What the browser of styles shows.
+    // The style browser.
     int numberOfItemsInImageBrowser() const { return int(iTmplStylesData.size()); }
     const IKBTmplStyleItem& itemAtIndex(int index) const { return *iTmplStylesData.at(index); }
     // Chooses the style and ends the sheet.
     void cellWasDoubleClickedAtIndex(int index);
 
-    // Why a template can't be used, in words; a null text when it can.
+    // Why a template can't be used; a null text when it can.
     QString failureOf(const QString& tmplName) const;
-    // The picture that stands for the template whose folder that is.
+    // The icon file of the template in that folder.
     static QString iconFileIn(const QString& tmplPath);
-    // A template's name as people write it: each word with a capital and small letters after it.
+    // A template's name for display: each word capitalised.
     static QString readableName(const QString& tmplName);
 
 private:
@@ -83,10 +83,10 @@ private:
     std::vector<std::unique_ptr<IKBTmplStyleItem>> iTmplStylesData;
     QStringList iTmplListData;
     quint32 iSelectedItemIndex = 0;
-    // The template whose styles are shown, and the style that the book has.
+    // The template whose styles are displayed, and the book's current style.
     QString iShownTmpl;
     QString iCurrentStylePath;
-    // By template; none until the list is looked at.
+    // By template; none until first needed.
     mutable std::optional<QHash<QString, QString>> iFailures;
     TmplListModel* iTmplModel;
     TmplStylesModel* iStylesModel;

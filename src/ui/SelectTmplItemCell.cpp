@@ -10,9 +10,9 @@ namespace {
 constexpr qreal iconSide = 32;
 constexpr qreal iconLeft = 1;
 constexpr qreal titleLeft = 35;
-// Free on both sides of the title.
+// Total space left free beside the title.
 constexpr qreal titleKept = 71;
-// From the title's place down to the middle of the row.
+// From the title's top to the middle of the row.
 constexpr qreal titleDrop = 8;
 
 } // namespace

@@ -13,7 +13,7 @@ public:
     // Path of the icon's file.
     QString tmplIconFile() const { return iTmplIconFile; }
     void setTmplIconFile(const QString& path) { iTmplIconFile = path; }
-    // Read at the first call and kept; null when the file can't be read.
+    // Loaded on the first call and cached; null when the file can't be read.
     const QImage& itemImage() const;
 
     QRectF titleRectForBounds(const QRectF& bounds) const override;
@@ -24,7 +24,7 @@ public:
     QSizeF cellSizeForBounds(const QRectF& bounds) const override;
     void drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const override;
 
-    // A cell for the same icon that still waits for a name of its own.
+    // A cell for the same icon, without a name.
     std::unique_ptr<SelectTmplItemCell> copyWithZone() const;
 
     static constexpr int rowHeight = 35;

@@ -6,8 +6,8 @@
 class QLineEdit;
 class QPushButton;
 
-// A window that hangs on the main window until it ends with a return code. What its controls do is
-// its delegate's business, closing included.
+// A dialog attached to the main window that ends with a return code. Its delegate implements its
+// controls, including closing.
 class Sheet : public QDialog {
     Q_OBJECT
 
@@ -16,23 +16,23 @@ public:
 
     QPushButton* btnCancel;
 
-    // Makes room for what has been shown or has become longer; a text that wraps would otherwise
-    // take its room from the other controls.
+    // Grows to fit controls that were shown or have become longer; otherwise a wrapped text would
+    // take space from the other controls.
     void growToContent();
 
     void reject() override { Q_EMIT closeRequested(); }
 
 Q_SIGNALS:
-    // Escape, or the window's own close button.
+    // Escape, or the window's close button.
     void closeRequested();
 
 protected:
-    // Around all that a sheet holds.
+    // Around the content of a sheet.
     static constexpr QMargins margins{16, 14, 16, 14};
-    // Of a sheet whose texts do not ask for more.
+    // Of a sheet whose texts need no more.
     static constexpr int usualWidth = 560;
-    // Widgets side by side; the first takes the room that is left.
+    // Widgets side by side; the first one stretches.
     static QWidget* row(const QList<QWidget*>& widgets);
-    // The button to cancel with, and the one that Return presses.
+    // The cancel button, and the default button.
     QWidget* buttonRow(QPushButton* main);
 };

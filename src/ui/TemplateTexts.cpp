@@ -6,9 +6,9 @@
 
 namespace {
 
-// The texts to translate are collected from the library itself when the translations are updated.
+// The texts to translate are collected from the library when the translations are updated.
 QString translated(const char* context, const QString& text) {
-    // An empty text would be taken for the head of the translations.
+    // An empty source text would return the header of the translation file.
     return text.isEmpty() ? text : QCoreApplication::translate(context, text.toUtf8().constData());
 }
 

@@ -32,7 +32,7 @@ int TextFieldCell::hitTestForEvent(const QPointF& location, const QRectF& inRect
 bool TextFieldCell::trackMouse(const QMouseEvent& event, const QRectF& inRect, QWidget& ofView) {
     const bool inside = infoButtonRectForBounds(inRect).contains(event.position());
     const bool isOver = event.type() == QEvent::MouseButtonRelease;
-    // A release tells nothing about a click that did not begin here.
+    // Ignores the release of a click that did not begin here.
     if (!isOver && iMouseDownInInfoButton != inside) {
         iMouseDownInInfoButton = inside;
         ofView.update(inRect.toAlignedRect());

@@ -11,12 +11,12 @@ class QMouseEvent;
 class QPainter;
 class QWidget;
 
-// Parts of a cell that a point can lie in; a hit is a combination of them.
+// Parts of a cell at a point; combined as flags.
 enum CellHit { hitNone = 0, hitContentArea = 1, hitEditableTextArea = 2, hitTrackableArea = 4 };
 
-// One field of a table or tree: a text and, in some kinds of cells, a small button. A cell draws
-// itself into a rectangle of a view, tells what lies where in it, and follows the mouse over its
-// button. Rectangles are in the view's coordinates, y growing downwards, in logical pixels.
+// A field of a table or tree: a text and, in some subclasses, a small button. A cell draws itself
+// into a rectangle of a view, does hit testing, and tracks the mouse over its button. Rectangles
+// are in view coordinates, y downwards, in logical pixels.
 class TextFieldCell : public Cell {
 public:
     using Action = std::function<void(TextFieldCell& sender)>;
@@ -37,10 +37,10 @@ public:
     bool isMouseDownInInfoButton() const { return iMouseDownInInfoButton; }
     bool isMouseHoveredInInfoButton() const { return iMouseHoveredInInfoButton; }
     void setMouseHoveredInInfoButton(bool hovered) { iMouseHoveredInInfoButton = hovered; }
-    // Name of the button's picture in the state that it is in.
+    // Name of the button's picture for its current state.
     QString infoButtonImage() const;
 
-    // The text's place, and that of the editor while the text is edited.
+    // The rectangle of the text, and of the editor while the text is edited.
     virtual QRectF titleRectForBounds(const QRectF& bounds) const = 0;
     // Empty when there is no room for the button.
     virtual QRectF infoButtonRectForBounds(const QRectF& bounds) const = 0;
@@ -48,24 +48,24 @@ public:
     virtual void drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const = 0;
     virtual int hitTestForEvent(const QPointF& location, const QRectF& inRect) const;
 
-    // A click goes on being followed outside of the cell.
+    // A click is tracked outside of the cell, too.
     static bool prefersTrackingUntilMouseUp() { return true; }
-    // Follows one left-button press, move or release; true when the click is over with it. The
-    // action is called then when it was released inside the button.
+    // Tracks a left-button press, move or release; true when it ends the click. Calls the action if
+    // it was released inside the button.
     bool trackMouse(const QMouseEvent& event, const QRectF& inRect, QWidget& ofView);
 
-    // The area to be watched for the pointer; a cell that the pointer is in already takes note.
+    // The area to track the pointer in; updates the hover state if the pointer is inside already.
     QRectF addTrackingAreas(const QRectF& inRect, const QPointF& mouseLocation);
     void mouseEntered() { iMouseHoveredInInfoButton = true; }
     void mouseExited() { iMouseHoveredInInfoButton = false; }
 
-    // Where a text that is cut off is shown whole, given the place that a plain cell would take for
-    // it, and how it is drawn there.
+    // The expansion tool tip of an elided text: its rectangle, given that of a plain cell, and how
+    // it is drawn.
     static QRectF expansionFrame(const QRectF& plain);
     void drawWithExpansionFrame(QPainter& painter, const QRectF& frame) const;
 
 protected:
-    // Zero without a text.
+    // Zero for an empty text.
     QSizeF textSize(const QString& text) const;
     QRectF titleRect(const QRectF& bounds, qreal left, qreal top, qreal kept) const;
     QSizeF cellSize(const QRectF& bounds, qreal left, qreal tallest) const;
@@ -74,7 +74,7 @@ protected:
     void drawTitle(QPainter& painter, const QRectF& bounds) const;
     void drawInfoButton(QPainter& painter, const QRectF& bounds) const;
 
-    // Room beside the title for the button.
+    // Space beside the title for the button.
     static constexpr qreal buttonRoom = 17;
     static constexpr qreal buttonSide = 13;
 

@@ -1,9 +1,9 @@
 #pragma once
 
-// Tells when the colour panel has been closed, so that its modal session can end.
+// Records that the colour panel was closed, so that its modal session can end.
 class wxCPWCDelegate {
 public:
-    // Lets the panel close.
+    // Allows the panel to close.
     bool windowShouldClose() {
         m_bIsClosed = true;
         return true;

@@ -11,7 +11,7 @@ namespace {
 
 const QString settingsKey = QStringLiteral("appearance");
 
-// The desktop's common place for such settings.
+// The desktop portal's settings interface.
 const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings");
@@ -19,7 +19,7 @@ const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const QString colorScheme = QStringLiteral("color-scheme");
 constexpr uint prefersDark = 1;
 
-// A desktop that is slow to answer must not hold up the start.
+// A slow desktop portal must not delay the start.
 constexpr int longestAnswer = 150; // ms
 
 uint number(QVariant value) {
@@ -87,7 +87,7 @@ QString Appearance::styleSheet(bool isDark) {
     sheet.replace(QStringLiteral("@fixedFont"),
                   QStringLiteral("normal %1pt \"%2\"").arg(fixed.pointSize()).arg(fixed.family()));
     const QPalette colors = palette(isDark);
-    // A name that begins like another one comes before it.
+    // Longer names come before names that are their prefix.
     for (const auto& [name, value] : std::initializer_list<std::pair<const char*, QColor>>{
              {"@accentHover", QColor(isDark ? "#3b7ec2" : "#2767ab")},
              {"@noteGround", noteColors(isDark).ground},
@@ -110,7 +110,7 @@ QString Appearance::styleSheet(bool isDark) {
     return sheet;
 }
 
-// Amber on either appearance, with text that can be read on it.
+// Amber in both appearances, with readable text.
 Appearance::NoteColors Appearance::noteColors(bool isDark) {
     if (isDark)
         return {QColor("#4a3a14"), QColor("#ffe9b8"), QColor("#7a6228")};

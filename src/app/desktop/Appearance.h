@@ -4,8 +4,8 @@
 #include <QObject>
 #include <QPalette>
 
-// Light or dark: as the system has it, also when that changes while the program runs, or as the
-// user has chosen. The choice is kept across runs.
+// Light or dark: follows the system's setting, including changes at run time, or the user's choice.
+// The choice is kept across runs.
 class Appearance : public QObject {
     Q_OBJECT
 
@@ -18,14 +18,14 @@ public:
     void setChoice(Choice choice);
 
     static QPalette palette(bool isDark);
-    // Those of a message that something has gone wrong.
+    // Colours of an error message.
     struct NoteColors {
         QColor ground;
         QColor ink;
         QColor line;
     };
     static NoteColors noteColors(bool isDark);
-    // The look of the parts that a palette alone does not settle.
+    // Styles that a palette alone can't express.
     static QString styleSheet(bool isDark);
 
 private Q_SLOTS:

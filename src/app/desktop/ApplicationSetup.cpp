@@ -38,7 +38,7 @@ int runApplication(const QStringList& arguments) {
 
     BrisleafAppDelegate controller;
     const QuitSignals quitSignals;
-    // Not quit(): that asks the windows first, and a sheet with an import under way says no.
+    // Not quit(): that asks the windows first, and a sheet with a running import refuses.
     QObject::connect(&quitSignals, &QuitSignals::requested, [] { QCoreApplication::exit(); });
     QTimer::singleShot(0, &controller, [&] {
         controller.applicationDidFinishLaunching();

@@ -2,9 +2,9 @@
 
 #include <QStringList>
 
-// Gives the running QApplication the program's name, icon and style, and the first of the languages
-// that the program speaks, named as QLocale::uiLanguages() names them.
+// Sets the name, icon, style and language of the running QApplication: the first of the languages
+// (as named by QLocale::uiLanguages()) that has a translation.
 void setUpApplication(const QStringList& languages);
 
-// Runs the program in the running QApplication to its end and returns its exit code.
+// Runs the program in the running QApplication and returns its exit code.
 int runApplication(const QStringList& arguments);

@@ -16,7 +16,7 @@ bool isLined(QStyle::PrimitiveElement element) {
            element == QStyle::PE_FrameLineEdit;
 }
 
-// Fusion fills the frame and so tints the text; on a selected line its edge is hardly seen.
+// Fusion fills the focus frame, which tints the text; on a selected row its edge is hardly visible.
 void drawFocusOfItem(const QStyleOption& option, QPainter& painter) {
     const auto role = option.state.testFlag(QStyle::State_Selected) ? QPalette::HighlightedText
                                                                     : QPalette::Highlight;
@@ -39,7 +39,7 @@ void BorderedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool isDark = option->palette.color(QPalette::Window).lightness() < darkBelow;
-    // The line around what has the keyboard is bright already.
+    // The border of the focused widget is bright already.
     const bool hasLine =
         element == PE_FrameLineEdit && option->state.testFlag(QStyle::State_HasFocus);
     if (!isLined(element) || !isDark || hasLine)

@@ -2,16 +2,16 @@
 
 #include <QProxyStyle>
 
-// The toolkit's own style, with lines around fields and boxes that can be seen on a dark window as
-// well: it draws them darker than their ground, however dark that is. A line alone shows which line
-// of a list has the keyboard.
+// Qt's Fusion style with borders around fields and boxes that are visible on a dark window, too:
+// Fusion draws them darker than their background, however dark that is. A border also marks the
+// current row of a list.
 class BorderedStyle : public QProxyStyle {
 public:
     BorderedStyle();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
-    // Those of message boxes are drawn by us; a system without a theme has very old ones.
+    // Replaces the icons of message boxes; without an icon theme Qt's are very old.
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
 };

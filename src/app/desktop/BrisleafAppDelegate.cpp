@@ -83,7 +83,7 @@ void BrisleafAppDelegate::applyChange(Book book) {
 }
 
 void BrisleafAppDelegate::publishPreview(Book book) {
-    // Somebody may have cleaned up while the program runs.
+    // Temporary files may have been cleaned up while the program runs.
     const Message failure = iPreviewFolder.restore();
     if (!failure.isNull())
         throw PlatformException(QStringLiteral("PreviewFolder"), failure);
@@ -187,7 +187,7 @@ void BrisleafAppDelegate::OnExportFlipBook() {
     iOuputWindow->beginSheet();
 }
 
-// The panel asks before a file is replaced, but it does not know of the ending that is added.
+// The panel asks before it replaces a file, but it does not know about the extension that is added.
 std::optional<QString> BrisleafAppDelegate::settingsFileToSave() const {
     QString proposed = QStringLiteral("tmplSetting.txt");
     while (true) {
@@ -216,7 +216,7 @@ void BrisleafAppDelegate::OnExportTmplSettings() {
                                      cause.local());
 }
 
-// Cancelling refreshes the preview as well.
+// Cancelling refreshes the preview, too.
 void BrisleafAppDelegate::OnImportTmplSettings() {
     if (!iFlashTmpl)
         return;

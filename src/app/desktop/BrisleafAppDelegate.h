@@ -21,8 +21,8 @@ class SelectTemplateWindowDelegate;
 
 inline constexpr char16_t APP_NAME[] = u"Folvero";
 
-// The hub of the desktop program: owns the book being edited, shows it in the preview, and runs the
-// commands of the menus and the toolbar. For the main thread.
+// The controller of the desktop program: owns the book being edited, shows it in the preview, and
+// runs the commands of the menus and the toolbar. For the main thread.
 class BrisleafAppDelegate : public QObject {
     Q_OBJECT
 
@@ -32,15 +32,14 @@ public:
 
     // Opens the window with the demo book.
     void applicationDidFinishLaunching();
-    // Gives up an import under way and removes the preview folder.
+    // Cancels a running import and removes the preview folder.
     void applicationWillTerminate();
-    // Shows the page "index.html" of the resource folder "Demo", if there is one, instead of the
-    // book.
+    // Shows the page "index.html" of the resource folder "Demo", if it exists, instead of the book.
     void previewDemo();
 
-    // How the user is asked for files (none when cancelled), whether to replace what is there, and
-    // for a colour, how a file is opened in the program that the system uses for it, and how the
-    // about box is shown. To be set before the launch.
+    // How the user is asked for files (none when cancelled), for permission to replace files and
+    // for colours, and how a file is opened in its default program and the about box shown. Set
+    // before the launch.
     struct Questions {
         std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>
             fileToOpen;
@@ -53,7 +52,7 @@ public:
     };
     void setQuestions(Questions questions) { iQuestions = std::move(questions); }
 
-    // None before the launch.
+    // Null before the launch.
     MainWindow* window() const { return iWindow.get(); }
     ImportWindowDelegate& importWindow() const { return *iImportWindow; }
     OutputWindowDelegate& ouputWindow() const { return *iOuputWindow; }
@@ -90,7 +89,7 @@ public:
     void selectTmplWindowDidEnd(int returnCode);
 
 private:
-    // Whether the preview stays open at the same page.
+    // Whether the preview keeps its current page.
     enum Book { SameBook, OtherBook };
 
     void prepaireTheLog() const;
@@ -125,10 +124,10 @@ private:
     std::shared_ptr<FlashPageSource> iFlashPageSource;
     std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
     std::shared_ptr<FlashOutline> iFlashOutline;
-    // The path of what was imported last; empty while the demo book is shown.
+    // The path of the last import; empty while the demo book is shown.
     QString iDocument = QStringLiteral("");
     std::unique_ptr<QTimer> iApplyChangeTimer;
-    // The empty text until the folder is made.
+    // Empty, not null, until the folder is created.
     QString iFlashPreviewFolder = QStringLiteral("");
     PreviewFolder iPreviewFolder;
     NotificationCenter::Subscription iTips;

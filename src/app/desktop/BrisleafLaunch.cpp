@@ -1,4 +1,4 @@
-// How the desktop program starts and ends.
+// Start and end of the desktop program.
 
 #include "app/desktop/Appearance.h"
 #include "app/desktop/BrisleafAppDelegate.h"
@@ -55,7 +55,7 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iWindow->activateWindow();
     iFlashPreviewFolder = QStringLiteral("");
     new WindowFitter(*iWindow);
-    // Not on the first button: nothing is to happen at a stray key.
+    // Not the first button: a stray key must not trigger anything.
     iWindow->outlineView->setFocus();
     loadDemoPages();
     iFlashTmpl = std::make_shared<FlashTemplate>();
@@ -64,7 +64,7 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     applyChange(OtherBook);
 }
 
-// The window stays hidden until everything in it has its place.
+// The window stays hidden until it is complete.
 void BrisleafAppDelegate::makeWindows() {
     iWindow = std::make_unique<MainWindow>(iHistory.stack());
     iWindow->hide();

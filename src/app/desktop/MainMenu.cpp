@@ -14,7 +14,7 @@
 
 namespace {
 
-// A text whose ampersands are shown as such.
+// Escapes ampersands, which would mark a mnemonic.
 QString withoutMnemonic(QString text) {
     return text.replace(u'&', QStringLiteral("&&"));
 }
@@ -76,7 +76,7 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     makeEditCommands(edits);
 }
 
-// The toolkit would put the name of an edit behind the verb, which suits few languages.
+// Qt would append the name of an edit to the verb, which does not work in many languages.
 void MainMenu::makeEditCommands(QUndoStack& edits) {
     undo = add(tr("&Undo"), QStringLiteral("undo"), QKeySequence::Undo);
     //: Beneath a picture in the toolbar: short.
@@ -155,7 +155,7 @@ void MainMenu::fillToolBar() {
     bar->addActions({exportFlipBook});
     bar->addSeparator();
     bar->addActions({openHelp});
-    // The keyboard reaches the buttons with Tab as it does everything else.
+    // Makes the buttons reachable with Tab like everything else.
     for (QAction* action : bar->actions()) {
         if (QWidget* button = bar->widgetForAction(action); button && !action->isSeparator())
             button->setFocusPolicy(action->text().isEmpty() ? Qt::NoFocus : Qt::TabFocus);

@@ -9,7 +9,7 @@ class QMainWindow;
 class QMenu;
 class QUndoStack;
 
-// The program's commands with their shortcuts, in the menus and in the toolbar of its window.
+// The program's commands with their shortcuts, in the menus and the toolbar of its window.
 class MainMenu : public QObject {
     Q_OBJECT
 
@@ -24,20 +24,20 @@ public:
     QAction* quit;
     QAction* undo;
     QAction* redo;
-    // Its data is the phase in which it blinks.
+    // Its data is the phase of its blinking.
     QAction* toolBarItemApplyChange;
     QAction* selectTemplate;
     QAction* reloadPreview;
-    // The data of its actions are the choices of Appearance.
+    // Its actions' data are values of Appearance::Choice.
     QActionGroup* appearance;
     QAction* openHelp;
     QAction* about;
 
-    // Shows that file list; the data of the actions are the paths.
+    // Shows this list of files; the actions' data are the paths.
     void showRecentFiles(const QStringList& files);
-    // The image of the button that applies changes: "apply" or one of its phases.
+    // The icon of the button that applies changes: "apply" or one of its phases.
     void showApplyImage(const QString& name);
-    // Draws the icons in the colours of the window.
+    // Redraws the icons in the window's colours.
     void updateColors();
 
 Q_SIGNALS:

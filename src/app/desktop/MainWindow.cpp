@@ -29,7 +29,7 @@ constexpr int leastColumnWidth = 60;
 constexpr int tipHeight = 130;
 constexpr int gap = 8;
 
-// A view in a frame with round corners.
+// A view in a frame with rounded corners.
 QWidget* card(QWidget* view, const QString& name) {
     auto* frame = new QFrame;
     frame->setObjectName(name);
@@ -39,7 +39,7 @@ QWidget* card(QWidget* view, const QString& name) {
     return frame;
 }
 
-// Null when none of the dropped things is a PDF file on this machine.
+// The path of the first dropped local PDF file, or null.
 QString droppedPDF(const QMimeData& data) {
     for (const QUrl& url : data.urls()) {
         const QString path = url.toLocalFile();
@@ -162,7 +162,7 @@ void MainWindow::restoreSizes() {
         iEditorAndTip->setSizes({10 * tipHeight, tipHeight});
     const int column =
         std::clamp(settings.value(columnKey, titleColumnWidth).toInt(), leastColumnWidth, 2000);
-    // There are no columns before there is a template.
+    // There are no columns before a template is loaded.
     connect(outlineView->header(), &QHeaderView::sectionCountChanged, this,
             [this, column](int before) {
                 if (before == 0)
@@ -198,7 +198,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     if (path.isNull())
         return;
     event->acceptProposedAction();
-    // The program that the file was dragged from waits until this function ends.
+    // The drag source is blocked until this function returns.
     QMetaObject::invokeMethod(
         this, [this, path] { Q_EMIT fileDropped(path); }, Qt::QueuedConnection);
 }

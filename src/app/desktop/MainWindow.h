@@ -14,7 +14,7 @@ class QToolButton;
 class QUndoStack;
 
 // The program's window: the template's settings with an explanation below them on the left, the
-// live preview on the right. What its controls do is the controller's business.
+// live preview on the right. The controller implements its controls.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ public:
     QPlainTextEdit* toolTip;
     PreviewView* webView;
 
-    // Null for the book that is shown before the first import.
+    // Null for the demo book, which is shown before the first import.
     void setDocumentName(const QString& name);
     const QString& documentName() const { return iDocumentName; }
 

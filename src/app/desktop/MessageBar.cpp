@@ -44,7 +44,7 @@ QString MessageBar::message() const {
     return text.toPlainText();
 }
 
-// The signs; the style sheet does the rest.
+// The icons; the style sheet does the rest.
 void MessageBar::updateColors() {
     const bool dark = palette().color(QPalette::Window).lightness() < 128;
     const QColor ink = Appearance::noteColors(dark).ink;

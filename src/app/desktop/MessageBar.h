@@ -5,15 +5,15 @@
 class QLabel;
 class QToolButton;
 
-// A line across the window that says what went wrong, until the user closes it or it no longer
-// holds.
+// A bar across the window with an error message, shown until the user closes it or it no longer
+// applies.
 class MessageBar : public QFrame {
     Q_OBJECT
 
 public:
     explicit MessageBar(QWidget* parent = nullptr);
 
-    // The first text says what did not work, the second why.
+    // what describes the failure, cause the reason.
     void showError(const QString& what, const QString& cause);
     QString message() const;
 

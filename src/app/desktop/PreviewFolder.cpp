@@ -14,7 +14,7 @@ const Log& logger() {
     return log;
 }
 
-// Past this many programs at once something else is wrong; the last folder is then shared.
+// With more programs than this something else is wrong; they share the last folder.
 constexpr int mostFolders = 32;
 
 } // namespace
@@ -30,7 +30,7 @@ QString PreviewFolder::claim(const QString& base) {
         path = home + (number == 1 ? QStringLiteral("/preview")
                                    : QStringLiteral("/preview-%1").arg(number));
         iLock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
-        // However long a program runs, its folder stays its own while it lives.
+        // The lock never expires while the program runs.
         iLock->setStaleLockTime(0);
         if (iLock->tryLock() || iLock->error() != QLockFile::LockFailedError)
             break;

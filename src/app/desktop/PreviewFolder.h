@@ -7,8 +7,8 @@
 
 class QLockFile;
 
-// The private folder that the book being edited is published into. Several programs may run side
-// by side: the first has "preview", the others "preview-2" and so on, each until it goes.
+// The private folder to which the edited book is published. The first running program uses
+// "preview", others "preview-2" and so on, until they end.
 class PreviewFolder {
 public:
     PreviewFolder();
@@ -16,12 +16,12 @@ public:
     PreviewFolder(const PreviewFolder&) = delete;
     PreviewFolder& operator=(const PreviewFolder&) = delete;
 
-    // Makes the folder and claims it for this program. Its path has no trailing separator. A folder
-    // that can't be made is logged; its path comes back all the same.
+    // Creates the folder and locks it for this program. The path has no trailing separator. An
+    // error is logged; the path is returned all the same.
     QString make();
-    // Makes it again when somebody else removed it; why that failed, or a null text.
+    // Creates it again if it was removed from outside; returns the error, or a null message.
     Message restore() const;
-    // Removes the folder with all its contents, if it is there.
+    // Removes the folder with all its contents, if it exists.
     void remove();
 
 private:

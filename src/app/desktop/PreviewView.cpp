@@ -20,9 +20,9 @@ const Log& logger() {
     return log;
 }
 
-// A page that brings the engine down each time it is loaded must not keep the program busy.
-constexpr int mostDeaths = 3;
-constexpr qint64 deathsWithin = 60'000; // ms
+// A page that crashes the renderer on each load must not be reloaded for ever.
+constexpr int maxCrashes = 3;
+constexpr qint64 crashWindow = 60'000; // ms
 
 bool isInMemory(const QUrl& url) {
     return url.scheme() == QStringLiteral("data") || url.scheme() == QStringLiteral("blob") ||
@@ -33,7 +33,7 @@ bool isShownHere(const QUrl& url) {
     return url.isLocalFile() || isInMemory(url);
 }
 
-// Lets only the book's own files through.
+// Blocks requests for anything but the book's own files.
 class OwnFilesOnly : public QWebEngineUrlRequestInterceptor {
 public:
     using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
@@ -52,7 +52,7 @@ private:
     QString iFolder;
 };
 
-// Sends what leaves the book to the user's browser.
+// Opens links that lead out of the book in the user's browser.
 class BookPage : public QWebEnginePage {
 public:
     using QWebEnginePage::QWebEnginePage;
@@ -67,11 +67,11 @@ protected:
                                           QStringLiteral("mailto"), QStringLiteral("tel")};
         if (followed.contains(url.scheme()) && isMainFrame)
             opener(url);
-        // Any other scheme would start whatever program the user's system has for it.
+        // Any other scheme would start whatever program is registered for it.
         return isShownHere(url) && QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
     }
 
-    // A link into a new window ends up as a navigation of this page, which is sent on.
+    // A link to a new window becomes a navigation of this page, which is handled above.
     QWebEnginePage* createWindow(WebWindowType /*type*/) override { return this; }
 
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString& message,
@@ -86,7 +86,7 @@ OwnFilesOnly& gateOf(QWebEngineProfile& profile) {
 
 } // namespace
 
-// A profile without a name keeps nothing on disk.
+// A profile without a name stores nothing on disk.
 PreviewView::PreviewView(QWidget* parent)
     : QWebEngineView(parent), iProfile(new QWebEngineProfile(this)) {
     setObjectName(QStringLiteral("preview"));
@@ -105,7 +105,7 @@ PreviewView::PreviewView(QWidget* parent)
             });
 }
 
-// The page must go before its profile.
+// The page must be deleted before its profile.
 PreviewView::~PreviewView() {
     delete page();
 }
@@ -116,8 +116,8 @@ void PreviewView::showFile(const QString& path, bool isOtherBook) {
     if (url().adjusted(QUrl::RemoveFragment) != address) {
         load(address);
     } else if (isOtherBook) {
-        // Loading the address without its page number would take pictures from the cache. The
-        // answer may come when this is about to go: then nothing must be loaded any more.
+        // Reloading without the page number would use cached pictures. The callback may run while
+        // this object is being destroyed: it must not load anything then.
         page()->runJavaScript(
             QStringLiteral("history.replaceState(null, '', '#page=1')"), [this](const QVariant&) {
                 QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);
@@ -137,11 +137,11 @@ void PreviewView::setOpener(std::function<void(const QUrl&)> opener) {
 
 void PreviewView::recover() {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    iCrashes = now - iLastCrash < deathsWithin ? iCrashes + 1 : 1;
+    iCrashes = now - iLastCrash < crashWindow ? iCrashes + 1 : 1;
     iLastCrash = now;
-    const bool reloads = iCrashes <= mostDeaths;
+    const bool reloads = iCrashes <= maxCrashes;
     logger().warn(QStringLiteral("the engine of the preview has died (%1)").arg(iCrashes));
-    // The engine only comes back once the signal has been dealt with.
+    // The renderer restarts only after the signal has been handled.
     if (reloads)
         QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);
     Q_EMIT rendererCrashed(reloads);

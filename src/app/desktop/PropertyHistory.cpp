@@ -33,7 +33,7 @@ public:
             change.property->setValue(change.before);
         iDone();
     }
-    // The edit is made already when the command is pushed.
+    // The edit has already been made when the command is pushed.
     void redo() override {
         if (std::exchange(iIsMade, false))
             return;

@@ -7,20 +7,21 @@
 #include <functional>
 #include <memory>
 
-// Lets edits of a template's values be undone. It learns of an edit after it was made and knows the
-// earlier values from its own notes.
+// Undo history of a template's values. It is notified after an edit and keeps a copy of the values
+// to know the earlier ones.
 class PropertyHistory {
 public:
-    // Called after an undo or a redo has changed values.
+    // changed is called after an undo or redo has changed values.
     explicit PropertyHistory(std::function<void()> changed) : iChanged(std::move(changed)) {}
 
     QUndoStack& stack() { return iStack; }
 
-    // Forgets everything: the properties are others from now on.
+    // Clears the history for another template.
     void reset(std::shared_ptr<FlashTemplate> tmpl);
-    // Takes the values as they are for not to be undone.
+    // Takes the current values as the baseline, not to be undone.
     void snapshotValues();
-    // The user has changed values in one go. The text names it; without one the property does.
+    // Records the user's changes since the last call as one undo step. text names it; by default
+    // the property does.
     void recordEdits(const QString& text = QString());
 
 private:

@@ -8,7 +8,7 @@
 
 namespace {
 
-// A signal handler may do little more than write to it.
+// Writing to it is one of the few things that a signal handler may do.
 std::array<int, 2> pair{-1, -1};
 
 void wake(int /*signal*/) {

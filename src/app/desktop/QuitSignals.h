@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-// Lets the program end in good order when the system or a terminal asks it to.
+// Emits requested() on SIGTERM and the like, so that the program can exit cleanly.
 class QuitSignals : public QObject {
     Q_OBJECT
 

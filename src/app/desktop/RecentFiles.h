@@ -2,10 +2,10 @@
 
 #include <QStringList>
 
-// The PDF files that were imported last, kept across runs, the latest first.
+// Recently imported PDF files, kept across runs, most recent first.
 namespace RecentFiles {
 
-// Files that are gone are left out.
+// Files that no longer exist are left out.
 QStringList list();
 void add(const QString& path);
 void clear();

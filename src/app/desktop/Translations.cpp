@@ -19,13 +19,13 @@ bool load(const QString& language, const QString& name, const QString& folder) {
 
 } // namespace
 
-// One language at a time: given them all, the translator would prefer a name that fits to the
-// letter, such as "de", to an earlier one that fits in part, such as "en-GB" for our "en".
+// One language at a time: given the whole list, QTranslator would prefer an exact match such as
+// "de" to an earlier partial one such as "en-GB" for our "en".
 QString Translations::install(const QStringList& languages) {
     for (const QString& language : languages) {
         if (!load(language, QStringLiteral("folvero"), QStringLiteral(":/translations")))
             continue;
-        // Dialogs in another language than the window's would not help anybody.
+        // Dialogs in another language than the window's would not help.
         load(language, QStringLiteral("qtbase"),
              QLibraryInfo::path(QLibraryInfo::TranslationsPath));
         return language;

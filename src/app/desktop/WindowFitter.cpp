@@ -14,12 +14,12 @@ WindowFitter::WindowFitter(QWidget& window, Margins margins)
             const QWindow* native = iWindow.windowHandle();
             return native ? native->frameMargins() : QMargins();
         };
-    // Not on the native window, which is made anew when a web view moves in.
+    // Not on the native window, which is recreated when a web view is added.
     iWindow.installEventFilter(this);
     fit();
 }
 
-// The whole screen, whatever part of it the system's own bars cover.
+// The whole screen, including the part covered by system bars.
 void WindowFitter::fit() {
     const QScreen* screen = QGuiApplication::primaryScreen();
     iFitted = iMargins();

@@ -6,16 +6,16 @@
 
 class QWidget;
 
-// Lays a window over the whole screen so that its frame lies on the screen too. The window manager
-// puts the frame around a window only when it is shown, and some tell its size later still; then
-// the window is fitted once more.
+// Resizes a window to fill the screen including its frame. The window manager adds the frame only
+// when the window is shown, and some report its size even later; the window is then fitted once
+// more.
 class WindowFitter : public QObject {
     Q_OBJECT
 
 public:
     using Margins = std::function<QMargins()>;
 
-    // A window that is shown. The margins are those of its frame, in logical pixels.
+    // window must be visible. margins returns those of its frame, in logical pixels.
     explicit WindowFitter(QWidget& window, Margins margins = {});
 
     bool eventFilter(QObject* watched, QEvent* event) override;
