@@ -92,9 +92,7 @@ void addPublish(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
     command->add_option("PDF", line.pdf, "The PDF file")->type_name("")->required();
-    command
-        ->add_option("FOLDER", line.outputFolder,
-                     "The folder that the book goes into; made if it is missing")
+    command->add_option("FOLDER", line.outputFolder, "The folder for the book; created if missing")
         ->type_name("")
         ->required();
     command
@@ -113,15 +111,15 @@ void addPublish(CLI::App& app, CommandLine& line) {
         ->add_option("--title", line.title,
                      "Title of the book; by default the title of the document")
         ->type_name("TEXT");
-    command->add_option("--pages", line.pages, "Pages to take, for example 1-3,7 or ALL")
+    command->add_option("--pages", line.pages, "Pages to include, for example 1-3,7 or ALL")
         ->type_name("PAGES")
         ->capture_default_str();
     command->add_flag("--single-file", line.singleFile,
-                      "Put all of a web book into its HTML page, for mail and memory sticks");
+                      "Put all of a web book into its HTML page, for mail and USB sticks");
     command
         ->add_option("--preview-pages", line.previewPages,
-                     "Pages of a web book that can be read, as in --pages; the others only tell\n"
-                     "that they are left out")
+                     "Pages that a preview of a web book contains, as in --pages; the others\n"
+                     "show that they are left out")
         ->type_name("PAGES");
     command
         ->add_option("--quality", line.quality,
@@ -130,9 +128,9 @@ void addPublish(CLI::App& app, CommandLine& line) {
         ->type_name("N")
         ->capture_default_str();
     command->add_flag("--links", line.links,
-                      "Read the links of the pages; web books show them in any case");
+                      "Read the links of the pages; web books always have them");
     command->add_flag("--bookmarks", line.bookmarks,
-                      "Read the bookmarks of the document; web books show them in any case");
+                      "Read the bookmarks of the document; web books always have them");
     command->add_option("--template", line.templateName, "Template of the book")
         ->type_name("NAME")
         ->capture_default_str();
@@ -145,11 +143,12 @@ void addPublish(CLI::App& app, CommandLine& line) {
                      "many times")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
-    command->add_flag("--force", line.force,
-                      "Replace a page, an application or other files that are no book's");
+    command->add_flag(
+        "--force", line.force,
+        "Overwrite a page, an application or other files that don't belong to a book");
     command->add_flag("--watch", line.watch,
-                      "Go on until Ctrl-C, and make the book again whenever the PDF or the\n"
-                      "settings file changes");
+                      "Run until Ctrl-C, and republish whenever the PDF or the settings file\n"
+                      "changes");
     command->add_flag("--quiet", line.quiet, "Show no progress");
     command
         ->add_option("--timing", line.timingFile,
@@ -246,7 +245,7 @@ int run(int argc, char** argv) {
             line.verbose = true;
             Log::configureForTerminal(Log::Level::debug);
         },
-        "Tell in detail what is done, on standard error");
+        "Log in detail to standard error");
     app.footer("Exit codes: 0 done, 1 nothing was made, 2 command line not understood, 3 the book "
                "was made\nbut pages are missing from it, 75 nothing was made but trying again may "
                "help, 130 cancelled.");
