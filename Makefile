@@ -29,8 +29,8 @@ packages-desktop:
 packages-test:
 	@tools/install-packages.sh tools/packages-desktop.txt tools/packages-test.txt
 
-# Publishing takes neither the window nor the tests, and the window takes no tests. What an earlier build of this folder
-# had on stays on.
+# `make book` builds neither the window nor the tests, and `make app` no tests. Options switched on by an earlier build
+# of this folder stay on.
 build-book: packages
 	@[ -e $(BUILD)/CMakeCache.txt ] || $(call configure,-D FOLVERO_DESKTOP=OFF -D BUILD_TESTING=OFF)
 	@cmake --build --preset $(PRESET) --target folvero resources sample-book
@@ -47,11 +47,11 @@ book: build-book
 	@$(BUILD)/bin/folvero publish "$(PDF)" "$(OUT)" --links --bookmarks
 	@echo "Open the page above with a double-click, or put the folder on a web server."
 
-# A PDF that was named is imported at once.
+# A PDF given as argument is imported at once.
 app: build-desktop
 	@$(BUILD)/bin/folvero-desktop $(if $(filter command% environment%,$(origin PDF)),"$(PDF)")
 
-# The same as `cpack` in the build folder, which says less clearly what it made.
+# Like `cpack` in the build folder, but prints the packages' paths more clearly.
 package: build-desktop
 	@cd $(BUILD) && cpack >package.log 2>&1 || { cat package.log; exit 1; }
 	@sed -n 's/^CPack: - package: \(.*\) generated\.$$/\1/p' $(BUILD)/package.log
@@ -59,7 +59,7 @@ package: build-desktop
 test: build format-check
 	@ctest --preset $(PRESET) -j 2
 
-# Two more builds of the core alone, which take what scripts make from the first one.
+# Two more builds of the core alone, which use the generated files of the first one.
 sanitizers: build
 	@for preset in fuzz tsan; do \
 		cmake --preset $$preset >build/$$preset.log 2>&1 || { cat build/$$preset.log; exit 1; }; \

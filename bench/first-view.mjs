@@ -2,10 +2,10 @@
 // How soon a reader sees the first page of a book of 1,000 pages over a slow connection.
 // Usage: first-view.mjs [BUILD_DIR] [--rounds 5]
 //
-// Publishes the same document as a classic and as a web book, shows both with `folvero serve`, and opens them by turns in
-// headless Chromium with nothing kept, over what its developer tools call "Fast 3G". Prints the medians of the seconds
-// from navigation until the first page is painted and the book turns, of the seconds until the next pages were turned
-// to by a key that is pressed then, and of what was loaded until the first page was there.
+// Publishes the same document as a classic and as a web book, serves both with `folvero serve`, and opens them alternately
+// in headless Chromium with an empty cache, over what its developer tools call "Fast 3G". Prints medians of the seconds
+// from navigation until the first page is painted and the book can be turned, of the seconds until the next pages are
+// shown after a key press at that moment, and of the bytes loaded until the first page.
 
 import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';
@@ -25,7 +25,7 @@ const build = given[0] && !given[0].startsWith('--') ? given[0] : path.join(here
 const program = path.join(build, 'bin/folvero');
 const FAST_3G = { offline: false, latency: 562.5, downloadThroughput: (1.6e6 / 8) * 0.9, uploadThroughput: (750e3 / 8) * 0.9 };
 
-/** In the page: notes when the first view has been painted. */
+/** In the page: records when the first view is painted. */
 function watchOpening() {
   new MutationObserver((_, observer) => {
     if (document.getElementById('folvero')?.dataset.state !== 'ready') return;

@@ -1,10 +1,10 @@
 #!/usr/bin/env node
-// Frame times of turning pages in headless Chromium, without a graphics card, at 1280 x 800.
+// Frame times of turning pages in headless Chromium, without a GPU, at 1280 x 800.
 // Usage: frames.mjs BOOK_DIR [--json FILE] [--turns 20] [--density 1]
 //
 // Turns the pages of a published book by key and by drag in each way of turning, and prints in milliseconds:
-// the time from frame to frame (requestAnimationFrame), and the processor time of a frame in the page's main
-// thread and in the process that puts the layers together, which a busy machine changes much less.
+// the frame interval (requestAnimationFrame), and the CPU time of a frame in the page's main thread and in the
+// compositor, which depends much less on the machine's load.
 
 import { cp, mkdtemp, readFile, rm, writeFile } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
@@ -29,7 +29,7 @@ if (!book || book.startsWith('--')) {
 const turns = Number(option('turns', '20'));
 const density = Number(option('density', '1'));
 
-/** Copies the book and has it turn its pages in another way. */
+/** Copies the book with another way of turning. */
 async function bookTurning(kind, folder) {
   await cp(book, folder, { recursive: true });
   const file = path.join(folder, 'index.html');
@@ -39,7 +39,7 @@ async function bookTurning(kind, folder) {
   await writeFile(file, page.replace(root, `$1${kind}`));
 }
 
-/** In the page: notes the time between frames while a page is in the air. */
+/** In the page: records frame intervals while a page is turning. */
 function watchFrames() {
   window.intervals = [];
   let last = 0;
@@ -52,7 +52,7 @@ function watchFrames() {
   requestAnimationFrame(note);
 }
 
-/** Records what the browser does; the result stops it and gives processor times by name of the step. */
+/** Starts a trace; the result stops it and returns CPU times by event name. */
 async function traceSteps(session) {
   const steps = { 'ProxyMain::BeginMainFrame': [], 'Display::DrawAndSwap': [] };
   const collect = ({ value }) => {

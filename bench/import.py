@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Measures import and publish against outside programs that draw the same pages.
+"""Compares import and publish with other programs that draw the same pages.
 
 All draw a range of pages at 144 dots an inch into JPEG files of quality 90. Ours is timed as a
 whole program, publishing included. The programs take turns, so that a busy moment of the machine
@@ -33,7 +33,7 @@ def pdftoppm(document, ranges, folder):
 
 
 def mutool(document, ranges, folder):
-    """Draws into PNM files, which cjpeg then turns into JPEG files one by one."""
+    """Draws to PNM files, which cjpeg then converts to JPEG one by one."""
     commands = []
     for first, last in ranges:
         part = folder / str(first)

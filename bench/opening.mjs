@@ -2,8 +2,8 @@
 // How long a book takes to show its first spread, with 10 pages and with 2,000.
 // Usage: opening.mjs [TEMPLATE_DIR] [--rounds 7]
 //
-// Writes both books from small pages of our own, opens them by turns in a new page of headless Chromium, from
-// disk and over http, and prints the medians of the time from navigation to the first view, in milliseconds.
+// Writes both books from small pages, opens them alternately in a new page of headless Chromium, from disk and
+// over http, and prints the medians of the time from navigation to the first view, in milliseconds.
 
 import { mkdtemp, rm } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
@@ -23,7 +23,7 @@ const rounds = at < 0 ? 7 : Number(given[at + 1]);
 const template = given[0] && !given[0].startsWith('--') ? given[0]
   : path.join(here, '../build/release/share/folvero/AppFiles/Templates/float');
 
-/** In the page: notes when the book is ready, counted from the start of the navigation. */
+/** In the page: records when the book is ready, since the start of the navigation. */
 function watchOpening() {
   new MutationObserver((_, observer) => {
     if (document.getElementById('folvero')?.dataset.state !== 'ready') return;

@@ -1,5 +1,5 @@
-// Measures publishing a book again whose pages are already imported, as the live preview and the
-// publish sheet do, and what the time is spent on.
+// Measures republishing a book whose pages are already imported, as the live preview and the
+// publish sheet do, and where the time goes.
 //
 //     folvero-bench-republish DOCUMENT PAGES [ROUNDS]
 

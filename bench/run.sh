@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs every benchmark and prints Markdown tables; docs/performance.md holds the figures of one run.
+# Runs every benchmark and prints Markdown tables; docs/performance.md has the figures of one run.
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build/release}

@@ -2,9 +2,9 @@
 // How fast a web book of 1,000 pages answers its readers' searches.
 // Usage: search.mjs [TEMPLATE_DIR] [--pages 1000]
 //
-// Writes a book whose pages have about 3,000 letters each, opens the search in headless Chromium over http and
-// prints how long the text takes to be ready for searching, the longest time for which that held up the page, and
-// for each search the time that a typed letter takes: finding, listing and marking, in milliseconds.
+// Writes a book with about 3,000 characters per page, opens the search in headless Chromium over http and prints
+// how long the text takes to be ready for searching, the longest time for which that blocked the page, and for each
+// search the time per key press: finding, listing and highlighting, in milliseconds.
 
 import { mkdtemp, rm } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Compares the sharpness of JPEG pages: structural similarity (SSIM) to an uncompressed drawing.
+"""Compares the sharpness of JPEG pages: structural similarity (SSIM) to uncompressed output.
 
 Each program's pages are compared with the drawing of its own engine, so that only what encoding
 and scaling take away counts, not how two engines place their edges. 1 means no difference.
@@ -48,7 +48,7 @@ def ssim(first, second):
 
 def similarity(page, reference):
     first, second = luma(page), luma(reference)
-    # Engines round a page's size up or down; more than a pixel is a fault.
+    # Renderers round a page's size up or down; more than a pixel is an error.
     if any(abs(a - b) > 1 for a, b in zip(first.shape, second.shape)):
         fail(f"{page}: {first.shape} pixels against {second.shape}")
     height = min(first.shape[0], second.shape[0])

@@ -1,6 +1,6 @@
-// Starts the desktop program as its own main function does, and prints when its start reached each
-// stage, in milliseconds after the time given as argument, which is one of the monotonic clock in
-// nanoseconds: main function, application, window with a published preview, book on show.
+// Starts the desktop program as its own main function does, and prints when each milestone was
+// reached, in milliseconds after the time given as argument (monotonic clock, nanoseconds): main
+// function, application, window with a published preview, book visible.
 // bench/startup.py runs it.
 
 #include "app/desktop/ApplicationSetup.h"
@@ -20,7 +20,7 @@ namespace {
 constexpr int pollInterval = 5;      // ms
 constexpr int longestStart = 60'000; // ms
 
-// True two frames after the book is ready: what was drawn for the first one is on the screen.
+// True two frames after the book is ready: the first one is on the screen then.
 constexpr char16_t isShown[] = uR"(
     if (window.startFrames === undefined &&
         document.querySelector('#folvero[data-state="ready"]')) {

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The desktop program's start, from its launch to the demo book on show, and where the time goes.
+"""The desktop program's start, from its launch until the demo book is visible, and where the time goes.
 
 Runs on the screen that DISPLAY names, and without a screen when there is none. The first start is
 shown as it is; the others, for which the system has the files in memory, as medians.
@@ -17,7 +17,7 @@ PROGRAM = BUILD / "bin" / "folvero-bench-startup"
 
 
 def start(home):
-    """Milliseconds after the launch at which each stage was reached."""
+    """Milliseconds after the launch at which each milestone was reached."""
     environment = os.environ | {"HOME": str(home), "XDG_CONFIG_HOME": "", "XDG_DATA_HOME": ""}
     if "DISPLAY" not in environment:
         environment["QT_QPA_PLATFORM"] = "offscreen"

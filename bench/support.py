@@ -1,4 +1,4 @@
-"""What the benchmark scripts share: documents, programs, running and timing them, tables."""
+"""Shared code of the benchmark scripts: documents, programs, running and timing them, tables."""
 
 import argparse
 import os
@@ -15,7 +15,7 @@ REPOSITORY = pathlib.Path(__file__).resolve().parent.parent
 BUILD = REPOSITORY / "build" / "release"
 GENERATED = BUILD / "bench-samples"
 
-# Documents of Debian packages, found wherever the package manager has put them.
+# Documents of Debian packages, found through the package manager.
 PACKAGED = {"R-exts.pdf": "r-doc-pdf", "pgfmanual.pdf": "texlive-pictures-doc"}
 GENERATED_NAMES = ("picture-heavy.pdf", "scanned.pdf")
 
@@ -36,7 +36,7 @@ def packaged_document(name):
 
 
 def generated_documents():
-    """The large documents of our own, made on first use."""
+    """Our own large documents, made on first use."""
     paths = [GENERATED / name for name in GENERATED_NAMES]
     maker = BUILD / "bin" / "folvero-make-samples"
     if not all(path.exists() for path in paths):
@@ -56,7 +56,7 @@ def page_count(document):
 
 
 def clamped_range(pages, document):
-    """(first, last) of a text such as 101-200, ended at the document's last page."""
+    """(first, last) of a text such as 101-200, limited to the document's last page."""
     first, last = (int(number) for number in pages.split("-"))
     last = min(last, page_count(document))
     if first > last:
@@ -86,7 +86,7 @@ def page_files(folder):
 
 
 def run(*commands):
-    """Runs commands side by side; fails with what the first failing one said."""
+    """Runs commands in parallel; fails with the error output of the first failing one."""
     running = [subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
                for command in commands]
     errors = [process.communicate()[1] for process in running]
@@ -96,7 +96,7 @@ def run(*commands):
 
 
 def timed(action):
-    """Runs it; returns the seconds by the clock and those that its processes computed."""
+    """Runs it; returns wall-clock and CPU seconds."""
     start, before = time.perf_counter(), os.times()
     action()
     elapsed, after = time.perf_counter() - start, os.times()

@@ -1,5 +1,5 @@
-// Measures what the words of a web book cost, for each page: reading them from the PDF, and making
-// of them what the player's text layer and its search load.
+// Measures the cost of a web book's words per page: reading them from the PDF, and making the files
+// for the player's text layer and its search.
 //
 //     folvero-bench-text DOCUMENT...
 

@@ -1,13 +1,13 @@
-# Settings that every target of ours links to.
+# Settings that all our targets link to.
 add_library(folvero-settings INTERFACE)
 target_compile_options(folvero-settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
     -Wno-sign-conversion -Werror)
-# Log records name source files; where these were built is nobody's business.
+# Log records contain source file names, but must not contain the build machine's paths.
 target_compile_options(folvero-settings INTERFACE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 target_compile_definitions(folvero-settings INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
-# Tables of functions are filled in and sealed before a document is read.
+# Resolves function addresses at start and makes their table read-only (full RELRO).
 target_link_options(folvero-settings INTERFACE -Wl,-z,now)
 
 set(FOLVERO_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
@@ -26,7 +26,7 @@ if(FOLVERO_ASSETS_OF)
     set(FOLVERO_DESKTOP OFF)
 endif()
 
-# Half of the time of a compilation goes into the same headers each time.
+# The same headers take half of each compilation's time.
 function(folvero_precompile target)
     target_precompile_headers(${target} PRIVATE ${ARGN} <QByteArray> <QDir> <QFile> <QFileInfo>
         <QRectF> <QString> <QStringList> <algorithm> <atomic> <functional> <map> <memory> <optional>

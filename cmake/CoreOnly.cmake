@@ -1,5 +1,5 @@
-# A build for sanitizers and fuzzing: the core, its programs and their tests, compiled as quickly as can
-# be. What scripts and other programs of ours make is taken from a finished build.
+# A build for sanitizers and fuzzing: the core, its programs and their tests, compiled as quickly as
+# possible. Generated files are taken from a finished build.
 foreach(folder IN ITEMS share samples)
     if(NOT IS_DIRECTORY ${FOLVERO_ASSETS_OF}/${folder})
         message(FATAL_ERROR "${FOLVERO_ASSETS_OF} has no ${folder}: build the preset \"release\" first")
@@ -9,6 +9,5 @@ endforeach()
 add_custom_target(resources)
 add_custom_target(sample-pdfs)
 
-# In ordinary builds the core does without this, so that a header that a file forgets to include is
-# noticed.
+# Ordinary builds of the core don't use this, so that missing includes are noticed.
 folvero_precompile(folvero-core <pugixml.hpp>)

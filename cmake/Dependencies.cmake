@@ -16,7 +16,7 @@ pkg_check_modules(nettle REQUIRED IMPORTED_TARGET nettle)
 pkg_check_modules(tidy REQUIRED IMPORTED_TARGET tidy)
 pkg_check_modules(webp REQUIRED IMPORTED_TARGET libwebp)
 pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
-# Its header shows other classes without the settings that Debian built the library with.
+# Its header declares different classes without the definitions that Debian's library was built with.
 pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)
 pkg_check_modules(turbojpeg REQUIRED IMPORTED_TARGET libturbojpeg)
 
@@ -24,7 +24,7 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     pkg_check_modules(seccomp REQUIRED IMPORTED_TARGET libseccomp)
 endif()
 
-# Debian ships the PDF engine as a static library without a pkg-config file.
+# Debian ships MuPDF as a static library without a pkg-config file.
 find_path(MUPDF_INCLUDE_DIR mupdf/fitz.h REQUIRED)
 find_library(MUPDF_LIBRARY mupdf REQUIRED)
 find_library(MUPDF_THIRD_LIBRARY mupdf-third REQUIRED)
@@ -33,7 +33,7 @@ target_include_directories(mupdf SYSTEM INTERFACE ${MUPDF_INCLUDE_DIR})
 target_link_libraries(mupdf INTERFACE ${MUPDF_LIBRARY} ${MUPDF_THIRD_LIBRARY}
     harfbuzz freetype jbig2dec jpeg openjp2 gumbo mujs z m)
 
-# The library that scales pixels comes without one as well.
+# libyuv has none, either.
 find_path(YUV_INCLUDE_DIR libyuv.h REQUIRED)
 find_library(YUV_LIBRARY yuv REQUIRED)
 add_library(yuv INTERFACE)

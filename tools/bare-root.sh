@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Runs a command over a clean clone of this repository's HEAD in a Debian 12 that holds nothing but make, git and
-# certificates: whatever our own scripts forget to install is missing there. Needs root.
+# Runs a command over a clean clone of this repository's HEAD in a Debian 12 with only make, git and
+# certificates: packages that our own scripts forget to install are missing there. Needs root.
 #   tools/bare-root.sh 'make book && make test'
 # Downloaded packages are kept in BARE_ROOT_CACHE, by default in ~/.cache/folvero-bare-root.
 set -euo pipefail
 
-# The mounts live in a mount namespace of their own and end with it, so that the clean-up below can't reach the host.
-# pivot_root and not chroot: within a chroot nobody may make a user namespace, and sandboxes of browsers are made of them.
+# The mounts are in a separate mount namespace and end with it, so that the clean-up below can't reach the host.
+# pivot_root and not chroot: in a chroot user namespaces can't be created, and browser sandboxes need them.
 enter() {
     local root=$1 cache=$2 command=$3
     mount --bind "$root" "$root"
@@ -43,7 +43,7 @@ root=$(mktemp -d "${TMPDIR:-/tmp}/bare-root.XXXXXX")
 trap 'rm -rf --one-file-system "$root"' EXIT
 mirrors=/etc/apt/sources.list.d/debian.sources
 [ -e $mirrors ] || mirrors=/etc/apt/sources.list
-# It is thrown away, so dpkg need not wait for the disk after each file.
+# The root is thrown away, so dpkg need not call fsync after each file.
 mmdebstrap --quiet --variant=minbase --include=make,git,ca-certificates --dpkgopt=force-unsafe-io \
     bookworm "$root" $mirrors
 mkdir -p "$cache/apt/partial" "$cache/npm" "$root/var/cache/npm"

@@ -1,5 +1,5 @@
 #!/usr/bin/env node
-// Takes pictures of every template in every style, on a desk and on a phone, and puts them on a sheet.
+// Takes screenshots of every template in every style, at desktop and phone size, and combines them on a sheet.
 // Usage: contact-sheet.mjs BUILT_RESOURCES_DIR OUTPUT_DIR [PART_OF_A_NAME]
 //
 // OUTPUT_DIR gets TEMPLATE/STYLE-cover.png, -spread, -turning, -phone and -phone-turning in full
@@ -36,7 +36,7 @@ async function open(book, options, hash = '') {
   return page;
 }
 
-/** Holds a page half turned. */
+/** Keeps a page half turned. */
 async function hold(page, [x, y], [toX, toY]) {
   await page.mouse.move(x, y);
   await page.mouse.down();

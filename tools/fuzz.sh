@@ -3,8 +3,8 @@
 #
 #   tools/fuzz.sh [MINUTES [NAME ...]]
 #
-# It goes on from the corpora of earlier runs. A harness that ends with a finding is started again
-# until its time is up; the inputs that did it are left in findings/.
+# It continues from the corpora of earlier runs. A harness that ends with a finding is restarted until
+# its time is up; the inputs that caused it are kept in findings/.
 #   FUZZ_BUILD   the build folder, build/fuzz by default
 #   FUZZ_FOLDER  where corpora, findings and logs are kept, fuzz/runs in the build folder by default
 #   FUZZ_JOBS    how many harnesses run at a time, 1 by default
@@ -22,10 +22,10 @@ if ((${#names[@]} == 0)); then
     done
 fi
 mkdir -p "$folder/findings" "$folder/logs"
-# What a harness writes stays in memory where there is a folder for that.
+# Files written by a harness stay in memory where there is a tmpfs.
 [ -w /dev/shm ] && export TMPDIR=/dev/shm
 
-# A harness that always fails at once would otherwise go on for ever.
+# Otherwise a harness that always fails at once would run for ever.
 most_findings=200
 
 run() {

@@ -1,16 +1,16 @@
 #!/bin/sh
-# Installs the Debian packages that are missing, of tools/packages.txt and of further lists named as arguments.
+# Installs missing Debian packages of tools/packages.txt and of further lists given as arguments.
 # Quick when nothing is missing.
 set -eu
 cd "$(dirname "$0")/.."
 
 wanted=$(cat tools/packages.txt "$@" | sed -e 's/#.*//' -e '/^[[:space:]]*$/d')
-# Many machines have Node.js from elsewhere, which Debian's packages would conflict with.
+# Many machines have Node.js from another source, which Debian's packages would conflict with.
 if command -v node >/dev/null && command -v npm >/dev/null; then
     wanted=$(printf '%s\n' "$wanted" | grep -vxE 'nodejs|npm')
 fi
 
-# shellcheck disable=SC2086 # one word a package
+# shellcheck disable=SC2086 # one word per package
 installed=$(dpkg-query -W -f '${Package} ${Status}\n' $wanted 2>/dev/null |
     sed -n 's/ install ok installed$//p' | sort -u)
 missing=

@@ -7,11 +7,11 @@ output=$2
 profile=$(mktemp -d)
 trap 'rm -rf "$profile"' EXIT
 
-# The browser refuses to run as root, as in a container, with its walls up.
+# Chromium refuses to run as root, as in a container, with its sandbox.
 sandbox=
 [ "$(id -u)" -ne 0 ] || sandbox=--no-sandbox
 mkdir -p "$(dirname "$output")"
-# It says much that is of no use here; what went wrong shows in the missing file.
+# Its output is of no use here; a failure shows in the missing file.
 HOME=$profile chromium --headless $sandbox --disable-gpu --user-data-dir="$profile/data" \
     --allow-file-access-from-files --no-pdf-header-footer --generate-pdf-document-outline \
     --print-to-pdf="$profile/help.pdf" "file://$source" >"$profile/log" 2>&1 || true

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Takes the pictures of the program that the help and the README show, and those of published books.
-# Run by hand after a change of the looks; the pictures are kept in the repository.
+# Takes the screenshots of the program for the help and the README, and those of published books.
+# Run by hand after visible changes; the pictures are kept in the repository.
 # Usage: make-pictures.sh [BUILD]
 set -eu
 cd "$(dirname "$0")/.."

@@ -1,5 +1,5 @@
 #!/usr/bin/env node
-// Writes the demo book in the look of a style, to look at the player with.
+// Writes the demo book with a style, for viewing the player.
 // Usage: player-demo-book.mjs TEMPLATE_DIR STYLE_DIR BOOK_DIR
 //
 // TEMPLATE_DIR is a built template, STYLE_DIR the built style with its pictures and sounds.
@@ -69,7 +69,7 @@ async function demoPages() {
 
 const drawn = new Map();
 
-/** What a template is shown with: slides where pages come singly, a book elsewhere; plain pages for an icon. */
+/** Pages for showing a template: slides for single-page templates, otherwise a book; plain pages for an icon. */
 async function pagesFor(template, asIcon) {
   const isDeck = (await readFile(path.join(template, 'index.html'), 'utf8')).includes('data-pages="single"');
   const size = isDeck ? SLIDE : { width: 600, height: 800 };
@@ -81,7 +81,7 @@ async function pagesFor(template, asIcon) {
   return { pages: drawn.get(name), declaredSize: [size.width, size.height] };
 }
 
-/** Writes a demo book in the look of a style; values replace the style's, by element name. */
+/** Writes a demo book with a style; values override the style's, by element name. */
 export async function writeDemoBook({ template, style, book, values = {}, asIcon = false }) {
   const own = await readStyle(style);
   await writeBook(book, {

@@ -1,5 +1,5 @@
-// Pages to look at templates with, as HTML documents: slides of a short talk about tides for templates
-// that show slides, and pages so plain that they can be told apart in an icon.
+// Pages for showing templates, as HTML documents: slides of a short talk about tides for templates
+// that show slides, and plain pages that can be distinguished in an icon.
 
 export const SLIDE = { width: 960, height: 540 };
 

@@ -14,11 +14,11 @@ const here = path.dirname(fileURLToPath(import.meta.url));
 const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
 
 const VIEW = { width: 800, height: 600 };
-// What the chooser shows at two pixels a point, and a little more.
+// The chooser's size at device pixel ratio 2, and a little more.
 const SHOT = { width: 480, height: 360 };
 const ICON = 64;
 
-/** The style that an icon shows a template in. */
+/** The style for each template's icon. */
 const ICONS = { float: 'Blank', desk: 'Oak', gallery: 'Blank', cinema: 'Velvet', deck: 'Bright' };
 const ICON_VIEW = { width: 660, height: 580 };
 
@@ -30,7 +30,7 @@ async function open(browser, book, options) {
   return page;
 }
 
-/** Bytes of a picture at another size, smoothly scaled; corners are cut round for an icon. */
+/** Bytes of a picture at another size, smoothly scaled; with rounded corners for an icon. */
 async function scaled(browser, bytes, { width, height }, { round = 0, type, quality }) {
   const page = await browser.newPage();
   const address = await page.evaluate(async ([source, size, radius, format, share]) => {
@@ -63,7 +63,7 @@ async function scaled(browser, bytes, { width, height }, { round = 0, type, qual
   return Buffer.from(address.split(',')[1], 'base64');
 }
 
-/** Takes a page at its corner and holds it where its turn is seen best. */
+/** Drags a page by its corner to where the turn is best visible. */
 async function holdPage(page, { width, height }) {
   await page.addStyleTag({ content: '.bar, .arrow, .caption { visibility: hidden !important }' });
   const curls = await page.evaluate(() => document.querySelector('#folvero').dataset.turn === 'curl');

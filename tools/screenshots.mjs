@@ -1,7 +1,7 @@
 #!/usr/bin/env node
-// Takes pictures of books on a desk and on a phone.
+// Takes screenshots of books at desktop and phone size.
 // Usage: screenshots.mjs --readme BUILT_RESOURCES    the README's pictures, into docs/images
-//        screenshots.mjs BOOK_DIR OUTPUT_DIR [NAME]  every view of a book, to look at the player with
+//        screenshots.mjs BOOK_DIR OUTPUT_DIR [NAME]  every view of a book, for viewing the player
 //
 // The first form shows the demo book in three templates. The second one writes NAME-desktop-cover,
 // -spread, -drag, -turning and NAME-phone, -phone-turning as PNG files.
@@ -34,7 +34,7 @@ async function open(book, options, hash = '') {
   return page;
 }
 
-/** Takes a corner and holds it until the sheet has come to rest under the pointer. */
+/** Drags a corner and holds it until the page has settled under the pointer. */
 async function dragAcross(page, from, to) {
   await page.mouse.move(...from);
   await page.mouse.down();
@@ -42,7 +42,7 @@ async function dragAcross(page, from, to) {
   await page.waitForTimeout(600);
 }
 
-/** The README's pictures: what is shown in which look, and how it is taken. */
+/** The README's pictures: template, style and view of each. */
 const README = [
   { file: 'desktop.jpg', template: 'float', style: 'Writing desk', view: DESKTOP, hash: '#page=2',
     drag: [[1130, 690], [780, 560]] },

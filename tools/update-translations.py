@@ -19,7 +19,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
 def property_texts():
-    """What the editor shows of the properties: titles, explanations, captions and choices."""
+    """The properties' texts in the editor: titles, explanations, captions and choices."""
     for node in ElementTree.parse(ROOT / "player/templates/properties.xml").iter("property"):
         for name in ("title", "desc", "aTitle"):
             yield node.findtext(name, "")
@@ -29,7 +29,7 @@ def property_texts():
 
 def template_names():
     for folder in sorted((ROOT / "player/templates").glob("*/template.json")):
-        # As the program writes the names of folders.
+        # As the program displays folder names.
         yield re.sub(r"\w+", lambda word: word[0].capitalize(), folder.parent.name)
 
 
@@ -39,12 +39,12 @@ def style_names():
 
 
 def library_source():
-    """The library's texts in a form that the tool reads."""
+    """The library's texts as source code for lupdate."""
     lines = []
     for context, texts in (("TemplateProperty", property_texts()),
                            ("TemplateName", template_names()), ("StyleName", style_names())):
         for text in dict.fromkeys(filter(None, texts)):
-            # A text of JSON is one of C++ as well.
+            # A JSON string is a C++ string literal as well.
             quoted = json.dumps(text, ensure_ascii=False)
             lines.append(f'QT_TRANSLATE_NOOP("{context}", {quoted})')
     return "\n".join(lines) + "\n"

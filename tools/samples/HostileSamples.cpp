@@ -4,7 +4,7 @@
 
 namespace {
 
-// Addresses that no reader may be led to, in spellings that browsers take for one another.
+// URLs that a book must not follow, in spellings that browsers treat alike.
 constexpr const char* addresses[] = {
     "javascript:window.broken=1",
     "JaVaScRiPt:window.broken=1",
@@ -18,8 +18,8 @@ constexpr const char* addresses[] = {
     "https://example.invalid/\"><script>window.broken=1</script>",
 };
 
-// A document all of whose texts try to become part of the page that shows them, and whose links
-// lead where none should.
+// A document whose texts all try to inject markup into the page that shows them, and whose links
+// lead to forbidden places.
 QByteArray hostile() {
     PDFBuilder pdf;
     pdf.setInfo("Title", QStringLiteral("</title><script>window.broken=1</script>]]> &lt;b&gt; "

@@ -11,7 +11,7 @@ struct Sample {
 };
 
 std::vector<Sample> bookSamples();
-// A novel, a picture book and slides, as people have them.
+// A novel, a picture book and slides: typical documents.
 std::vector<Sample> documentSamples();
 std::vector<Sample> textSamples();
 std::vector<Sample> navigationSamples();

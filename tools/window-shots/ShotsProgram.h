@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QString>
 
-// The desktop program, run to have its picture taken.
+// Runs the desktop program to take screenshots of it.
 class ShotsProgram {
 public:
     // The window's size in points, without a frame.
@@ -21,7 +21,7 @@ public:
     void showPage(int page);
     // Waits until the preview shows a book that is ready.
     void waitForBook();
-    // The row of that property is selected and in sight.
+    // Selects the row of that property and scrolls to it.
     void select(const QString& key);
 
     // The window with whatever sheet, menu or box is open before it.
@@ -32,7 +32,7 @@ public:
     QImage pictureOf(QWidget& part);
 
 private:
-    // Waits until the script is true in the preview, and what moves there has come to rest.
+    // Waits until the script is true in the preview, and its animations have ended.
     void waitFor(const QString& script, const char* what);
 
     BrisleafAppDelegate iProgram;

@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QString>
 
-// The program's pictures are taken without a desktop around it, so nobody draws its windows'
-// frames. These are plain ones, as common desktops have them.
+// Screenshots are taken without a desktop, so there are no window frames. This draws plain ones, as
+// on common desktops.
 namespace WindowFrame {
 
 // The content, which is to have its device pixel ratio set, in a frame with that title, and room

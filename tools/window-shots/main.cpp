@@ -1,4 +1,4 @@
-// folvero-window-shots: takes pictures of the desktop program. --help lists the options.
+// folvero-window-shots: takes screenshots of the desktop program. --help lists the options.
 
 #include "app/AppSettings.h"
 #include "app/desktop/ApplicationSetup.h"
@@ -57,7 +57,7 @@ public:
     }
 
 private:
-    // A copy of a sample, under a name and in a folder as people have them.
+    // A copy of a sample, with a realistic name and folder.
     QString document(const char* sample, const char* name) const {
         const QString folder = iOptions.language == QStringLiteral("de")
                                    ? QStringLiteral("Dokumente")
@@ -170,7 +170,7 @@ private:
         first->menu()->close();
     }
 
-    // These wait for the user: the picture is taken while they do.
+    // These wait for the user: the screenshot is taken meanwhile.
     void takeBoxes() {
         takeWhile("about", [] { Panels::about(); });
         takeWhile("colour", [] { Panels::chooseColor(QColor("#2f74c0")); });
@@ -243,7 +243,7 @@ int main(int argc, char** argv) {
     AppSettings::shareInstance().loadSettings();
     if (!QDir().mkpath(options.output))
         qFatal("cannot make %s", qPrintable(options.output));
-    // The documents' paths show in the pictures: they are to be short, and nobody's own.
+    // The documents' paths are visible in the screenshots: they must be short and impersonal.
     const QTemporaryDir documents;
     QDir::setCurrent(documents.path());
     Folders::setMachineRoot(documents.path());

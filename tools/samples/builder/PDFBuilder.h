@@ -8,12 +8,12 @@
 #include <optional>
 #include <vector>
 
-// Writes small PDF files of exactly the structure a test asks for, sound or not.
+// Writes small PDF files with exactly the structure a test needs, valid or not.
 //
 // All lengths are points; the origin is the lower left corner, so a rectangle's x() and y() are its
 // lower left corner and it grows upwards. Page indexes are zero-based and may point at pages that
-// are added later. Texts of PDF syntax (dictionary entries, content) are bytes, taken as they are.
-// The same calls always yield the same bytes.
+// are added later. PDF syntax (dictionary entries, content) is passed as bytes and copied
+// unchanged. The same calls always yield the same bytes.
 class PDFBuilder {
 public:
     enum class Compression { None, Flate };
@@ -53,7 +53,7 @@ public:
     // The dictionary's entries without Length and Filter, which are added here.
     int addStream(const QByteArray& entries, const QByteArray& data,
                   Compression compression = Compression::None);
-    // A stream whose dictionary is complete already, Length and Filter included.
+    // A stream with a complete dictionary, Length and Filter included.
     void setRawStream(int number, const QByteArray& dictionary, const QByteArray& data);
     static QByteArray reference(int number);
     static QByteArray rectangle(const QRectF& rect);
@@ -63,14 +63,14 @@ public:
     // -- Images: rows from the top down, without padding. They return an object number.
     int addGrayImage(QSize size, const QByteArray& pixels);
     int addRGBImage(QSize size, const QByteArray& pixels);
-    // An image that is already a JPEG file of 1 or 3 components.
+    // A JPEG file of 1 or 3 components as an image.
     int addJPEGImage(QSize size, int components, const QByteArray& jpeg);
     static QByteArray encodeJPEG(QSize size, int components, const QByteArray& pixels, int quality);
 
     // -- Pages
     // Returns the new page's index.
     int addPage(const Page& page);
-    // A page that the page tree names but whose object does not exist in the file.
+    // A page in the page tree whose object does not exist in the file.
     int addMissingPage();
     void setInherited(const PageAttributes& attributes);
     // The object number of a page that exists or will.

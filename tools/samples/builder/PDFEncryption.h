@@ -3,7 +3,7 @@
 #include <QByteArray>
 
 // The standard security handler of PDF 1.1 (40-bit RC4), as far as a test needs it to make
-// encrypted files. It stands on its own so that a fault in the program's ciphers cannot hide.
+// encrypted files. Independent of the program's ciphers, so that a bug in them can't hide.
 class PDFEncryption {
 public:
     PDFEncryption(const QByteArray& userPassword, const QByteArray& ownerPassword);
