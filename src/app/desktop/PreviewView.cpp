@@ -140,7 +140,7 @@ void PreviewView::recover() {
     iCrashes = now - iLastCrash < crashWindow ? iCrashes + 1 : 1;
     iLastCrash = now;
     const bool reloads = iCrashes <= maxCrashes;
-    logger().warn(QStringLiteral("the engine of the preview has died (%1)").arg(iCrashes));
+    logger().warn(QStringLiteral("the preview's renderer has crashed (%1)").arg(iCrashes));
     // The renderer restarts only after the signal has been handled.
     if (reloads)
         QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);
