@@ -12,7 +12,7 @@ constexpr char folderKey[] = "folder";
 constexpr char nameKey[] = "name";
 constexpr char titleKey[] = "title";
 constexpr char placeKey[] = "place";
-constexpr std::size_t most = 200;
+constexpr std::size_t maxBooks = 200;
 
 using Entry = std::pair<QString, PublishedBooks::Book>;
 
@@ -64,7 +64,7 @@ void PublishedBooks::add(const QString& document, const Book& book) {
         return entry.first == document || entry.second.place == book.place;
     });
     entries.emplace(entries.begin(), document, book);
-    if (entries.size() > most)
-        entries.resize(most);
+    if (entries.size() > maxBooks)
+        entries.resize(maxBooks);
     store(entries);
 }

@@ -11,7 +11,7 @@ using Clock = std::chrono::steady_clock;
 
 // Short enough that Ctrl-C seems immediate.
 constexpr auto pollInterval = 100ms;
-constexpr auto quietTime = 600ms;
+constexpr auto settleTime = 600ms;
 
 } // namespace
 
@@ -37,7 +37,7 @@ bool FileWatcher::waitForChange(const std::function<bool()>& stopped) const {
         }
         const bool isWhole = std::all_of(last.begin(), last.end(),
                                          [](const FileState& state) { return state.isThere; });
-        if (isWhole && last != iSnapshot && Clock::now() - quietSince >= quietTime)
+        if (isWhole && last != iSnapshot && Clock::now() - quietSince >= settleTime)
             return true;
         std::this_thread::sleep_for(pollInterval);
     }

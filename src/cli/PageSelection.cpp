@@ -15,7 +15,7 @@ QString runText(int first, int last) {
 }
 
 // The parts of the range, quoted, that are neither a page number nor a run of pages.
-QStringList unclearPieces(const QString& expression) {
+QStringList invalidParts(const QString& expression) {
     static const QRegularExpression clear(QStringLiteral("^\\s*(\\d+\\s*(-\\s*\\d+\\s*)?|all)$"),
                                           QRegularExpression::CaseInsensitiveOption);
     QStringList pieces;
@@ -46,7 +46,7 @@ PageSelection selectPages(const QString& expression, int pageCount) {
                                .arg(pageCount));
     }
     PageSelection selection{kept.join(u','), {}};
-    const QStringList unclear = unclearPieces(expression);
+    const QStringList unclear = invalidParts(expression);
     if (!unclear.isEmpty()) {
         selection.remarks << QStringLiteral("the page range is not clear at %1; taking pages %2")
                                  .arg(unclear.join(QStringLiteral(", ")), selection.range);

@@ -143,7 +143,7 @@ std::unique_ptr<FolveroOutput> makeOutput(const PublishOptions& options,
 }
 
 // A user's own page must not be lost because a book has the same name.
-void refuseToReplace(const QStringList& foreignFiles) {
+void failOnForeignFiles(const QStringList& foreignFiles) {
     if (foreignFiles.isEmpty())
         return;
     constexpr qsizetype maxShown = 5;
@@ -235,7 +235,7 @@ MadeBook makeBook(const PublishOptions& options) {
     OutputFolder folder(options.outputFolder);
     const auto output = makeOutput(options, tmpl, folder.path());
     if (!options.force)
-        refuseToReplace(output->foreignFiles());
+        failOnForeignFiles(output->foreignFiles());
     timing.opened();
 
     const auto operation =

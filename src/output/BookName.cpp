@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qsizetype longestName = 255; // bytes, on all common file systems
+constexpr qsizetype maxNameBytes = 255; // bytes, on all common file systems
 
 bool isRefused(QChar letter) {
     return letter.category() == QChar::Other_Control || QStringView(u"\\<>:\"|?*").contains(letter);
@@ -25,7 +25,7 @@ bool isDevice(const QString& name) {
 
 // Some servers check every extension of a name, so that "a.php.jpg" is executed too. The extensions
 // of the second group are also language and country codes, and are checked only at the end.
-bool isForServers(const QString& name) {
+bool isServerFile(const QString& name) {
     static const QRegularExpression endings(
         QStringLiteral(
             "\\.(php\\d*|phps|pht|phtml?|phar|cgi|fcgi|shtml?|stm|asp|aspx|asa|asax|ascx|"
@@ -50,5 +50,5 @@ bool BookName::isSafe(const QString& name) {
     const QString own = name.endsWith(u'.') ? name.chopped(1) : name;
     return staysInFolder(own) && !own.startsWith(u'.') && !own.endsWith(u'.') &&
            !own.endsWith(u' ') && std::none_of(own.begin(), own.end(), isRefused) &&
-           !isDevice(own) && !isForServers(own) && QFile::encodeName(name).size() <= longestName;
+           !isDevice(own) && !isServerFile(own) && QFile::encodeName(name).size() <= maxNameBytes;
 }

@@ -9,7 +9,7 @@
 namespace {
 
 // Metadata comes before the pixels, and an Exif block is at most 64 KB.
-constexpr qint64 longestHead = 1 << 20;
+constexpr qint64 maxHeadBytes = 1 << 20;
 
 // Reads numbers at offsets of a block; 0 past its end.
 class Bytes {
@@ -137,7 +137,7 @@ std::optional<ImageResolution> ofJPEG(const Bytes& file) {
 
 ImageResolution ImageResolution::ofFile(QIODevice& device) {
     device.seek(0);
-    const QByteArray head = device.read(longestHead);
+    const QByteArray head = device.read(maxHeadBytes);
     std::optional<ImageResolution> found;
     if (head.startsWith("\x89PNG"))
         found = ofPNG(Bytes(head));

@@ -28,7 +28,7 @@ constexpr char declaration[] = "const BOOK = ";
 constexpr char workerStart[] = "const BOOK = {\"page\":";
 
 // Some systems truncate longer names.
-constexpr qsizetype longestShortName = 30;
+constexpr qsizetype maxShortName = 30;
 
 // Digits of a digest that the service worker compares; enough to distinguish versions of a file.
 constexpr int digestLetters = 16;
@@ -96,12 +96,12 @@ List listOf(const PublishTransaction& transaction, const QString& folder, const 
 }
 
 QString shortened(const QString& title) {
-    if (title.size() <= longestShortName)
+    if (title.size() <= maxShortName)
         return title;
-    const qsizetype blank = title.lastIndexOf(u' ', longestShortName);
+    const qsizetype blank = title.lastIndexOf(u' ', maxShortName);
     // Not between the two halves of a surrogate pair.
-    const qsizetype cut = title[longestShortName - 1].isHighSurrogate() ? 1 : 0;
-    return title.left(blank > 0 ? blank : longestShortName - cut);
+    const qsizetype cut = title[maxShortName - 1].isHighSurrogate() ? 1 : 0;
+    return title.left(blank > 0 ? blank : maxShortName - cut);
 }
 
 } // namespace

@@ -27,7 +27,7 @@ QStringList namesIn(const QString& folder) {
 }
 
 // By process ID alone, which may have been reused.
-bool isOfGoneProcess(const QString& name) {
+bool isOfDeadProcess(const QString& name) {
     const pid_t process = name.mid(prefix.size()).section(u'-', 0, 0).toInt();
     return process > 0 && ::kill(process, 0) != 0 && errno == ESRCH;
 }
@@ -47,7 +47,7 @@ bool StagingFolder::hasStale(const QString& inFolder) {
     const FileDescriptor folder = opened(inFolder);
     const QStringList names = folder.isOpen() ? namesIn(inFolder) : QStringList();
     return std::any_of(names.begin(), names.end(), [&folder](const QString& name) {
-        return isOfGoneProcess(name) &&
+        return isOfDeadProcess(name) &&
                !LockedFolder::isLocked(folder.number(), QFile::encodeName(name));
     });
 }
@@ -58,7 +58,7 @@ void StagingFolder::removeStale(const QString& inFolder) {
         return;
     for (const QString& name : namesIn(inFolder)) {
         const QByteArray entry = QFile::encodeName(name);
-        if (!isOfGoneProcess(name))
+        if (!isOfDeadProcess(name))
             LockedFolder::removeIfAbandoned(folder.number(), entry, std::nullopt);
         else if (!LockedFolder::isLocked(folder.number(), entry))
             FolderRemoval::removeEntry(folder.number(), entry);

@@ -8,8 +8,8 @@
 namespace {
 
 int tenths(double points) {
-    constexpr double most = 1e8;
-    return int(std::lround(std::clamp(points, -most, most) * 10));
+    constexpr double limit = 1e8;
+    return int(std::lround(std::clamp(points, -limit, limit) * 10));
 }
 
 void append(QJsonArray& array, const QRectF& box) {

@@ -11,8 +11,8 @@
 SpareWorkers::SpareWorkers() {
     // A short document needs no more, and for a long one it makes no difference when the others
     // start.
-    constexpr unsigned most = 4;
-    const unsigned count = std::clamp(std::thread::hardware_concurrency(), 1U, most);
+    constexpr unsigned maxWorkers = 4;
+    const unsigned count = std::clamp(std::thread::hardware_concurrency(), 1U, maxWorkers);
     const std::string program = QFile::encodeName(Bundle::pageWorkerPath()).toStdString();
     try {
         while (iProcesses.size() < count) {

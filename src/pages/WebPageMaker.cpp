@@ -30,7 +30,7 @@ constexpr double worthwhile = 0.9;
 constexpr float normalQuality = 86;
 // Pixels of a large picture are shown a quarter of the size, so artefacts show less.
 constexpr float largeQuality = 70;
-constexpr float leastQuality = 40;
+constexpr float minQuality = 40;
 
 // Text and drawings have runs of equal pixels, photographs don't.
 constexpr double minEvenness = 0.6;
@@ -129,7 +129,7 @@ QByteArray WebPageMaker::largePicture(const PDFPage& page, qint64 largest,
             if (QByteArray data = WebPEncoder::lossless(iBitmap); data.size() <= largest)
                 return data;
         }
-        for (const float quality : {largeQuality, leastQuality}) {
+        for (const float quality : {largeQuality, minQuality}) {
             if (QByteArray data = WebPEncoder::lossy(iBitmap, quality); data.size() <= largest)
                 return data;
         }

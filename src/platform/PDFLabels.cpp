@@ -16,7 +16,7 @@ struct LabelRange {
 using LabelRanges = std::map<int, LabelRange>; // by zero-based first page
 
 constexpr int maxDepth = 32;
-constexpr qsizetype longestPrefix = 64;
+constexpr qsizetype maxPrefix = 64;
 
 QString roman(int number) {
     constexpr std::pair<int, const char*> numerals[] = {
@@ -37,9 +37,9 @@ QString roman(int number) {
 // a to z, then aa to zz, then aaa to zzz.
 QString letters(int number) {
     constexpr int alphabet = 26;
-    constexpr int mostLetters = 20;
+    constexpr int maxLetters = 20;
     const int count = (number - 1) / alphabet + 1;
-    if (number < 1 || count > mostLetters)
+    if (number < 1 || count > maxLetters)
         return QString::number(number);
     return {count, QChar(u'a' + (number - 1) % alphabet)};
 }
@@ -116,7 +116,7 @@ private:
             if (page < 0 || page >= iEngine.pageCount)
                 continue;
             iRanges[page] = {iEngine.name(iEngine.entry(label, "S")),
-                             iEngine.text(iEngine.entry(label, "P")).left(longestPrefix),
+                             iEngine.text(iEngine.entry(label, "P")).left(maxPrefix),
                              std::max(1, number(iEngine.entry(label, "St"), 1))};
         }
     }

@@ -50,7 +50,7 @@ void answer(Response& response, int status, const QByteArray& words) {
 
 // Host names that no DNS server can point at this machine: otherwise a page elsewhere could read
 // the book through DNS rebinding.
-bool isForThisMachine(const Request& request) {
+bool hasLocalHost(const Request& request) {
     static const QRegularExpression own(
         QStringLiteral("\\A(127\\.0\\.0\\.1|localhost|\\[::1\\])(:[0-9]{1,5})?\\z"),
         QRegularExpression::CaseInsensitiveOption);
@@ -144,7 +144,7 @@ void answerRequest(const QString& folder, const Request& request, Response& resp
     response.set_header("X-Content-Type-Options", "nosniff");
     // Other sites must not embed the book's pictures and scripts.
     response.set_header("Cross-Origin-Resource-Policy", "same-origin");
-    if (!isForThisMachine(request))
+    if (!hasLocalHost(request))
         return answer(response, 403, "Forbidden: open the book by its address 127.0.0.1\n");
     if (request.method != "GET" && request.method != "HEAD") {
         response.set_header("Allow", "GET, HEAD");

@@ -37,10 +37,10 @@ QByteArray contentsOf(const QString& path) {
 
 // The encoding in the XML declaration; empty without one.
 QByteArray declaredEncoding(const QByteArray& data) {
-    constexpr qsizetype longestDeclaration = 256;
+    constexpr qsizetype maxDeclarationLength = 256;
     static const QRegularExpression declaration(
         QStringLiteral(R"re(^\s*<\?xml\s[^>]*?\bencoding\s*=\s*["']([^"'>]*)["'])re"));
-    return declaration.match(QString::fromLatin1(data.left(longestDeclaration)))
+    return declaration.match(QString::fromLatin1(data.left(maxDeclarationLength)))
         .captured(1)
         .toLatin1();
 }

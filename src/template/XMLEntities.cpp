@@ -23,28 +23,28 @@ bool startsAt(const QByteArray& xml, qsizetype at, QByteArrayView text) {
     return QByteArrayView(xml).sliced(at).startsWith(text);
 }
 
-qsizetype behind(const QByteArray& xml, QByteArrayView end, qsizetype from) {
+qsizetype endOf(const QByteArray& xml, QByteArrayView end, qsizetype from) {
     const qsizetype found = xml.indexOf(end, from);
     return found < 0 ? xml.size() : found + end.size();
 }
 
 // The end of the comment, CDATA section or processing instruction that starts at that position; the
 // same position when there is none.
-qsizetype behindVerbatim(const QByteArray& xml, qsizetype at) {
+qsizetype endOfVerbatim(const QByteArray& xml, qsizetype at) {
     static constexpr std::pair<const char*, const char*> kinds[] = {
         {"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
     for (const auto& [start, end] : kinds) {
         if (startsAt(xml, at, start))
-            return behind(xml, end, at + qsizetype(qstrlen(start)));
+            return endOf(xml, end, at + qsizetype(qstrlen(start)));
     }
     return at;
 }
 
 // The same for declarations, where quoted strings may contain any character.
-qsizetype behindPart(const QByteArray& xml, qsizetype at) {
+qsizetype endOfPart(const QByteArray& xml, qsizetype at) {
     if (xml[at] == '"' || xml[at] == '\'')
-        return behind(xml, QByteArrayView(xml).sliced(at, 1), at + 1);
-    return std::max(at + 1, behindVerbatim(xml, at));
+        return endOf(xml, QByteArrayView(xml).sliced(at, 1), at + 1);
+    return std::max(at + 1, endOfVerbatim(xml, at));
 }
 
 // Where the internal DTD subset begins; the end of the text when there is none.
@@ -53,14 +53,14 @@ qsizetype startOfDeclarations(const QByteArray& xml) {
     qsizetype at = 0;
     for (qsizetype from = -1; from != at && at < xml.size();) {
         from = at;
-        at = space.contains(xml[at]) ? at + 1 : behindVerbatim(xml, at);
+        at = space.contains(xml[at]) ? at + 1 : endOfVerbatim(xml, at);
     }
     if (!startsAt(xml, at, "<!DOCTYPE"))
         return xml.size();
     while (at < xml.size() && xml[at] != '[') {
         if (xml[at] == '>')
             return xml.size();
-        at = behindPart(xml, at);
+        at = endOfPart(xml, at);
     }
     return at;
 }
@@ -79,7 +79,7 @@ Entities declaredEntities(const QByteArray& xml) {
                                ? declaration.match(text, at, QRegularExpression::NormalMatch,
                                                    QRegularExpression::AnchorAtOffsetMatchOption)
                                : QRegularExpressionMatch();
-        at = match.hasMatch() ? match.capturedEnd() : behindPart(xml, at);
+        at = match.hasMatch() ? match.capturedEnd() : endOfPart(xml, at);
         const QByteArray name = match.captured(1).toLatin1();
         // The first declaration of a name counts.
         if (match.hasMatch() && !predefined.contains(name) && !entities.texts.contains(name))
@@ -99,7 +99,7 @@ public:
             const QByteArray name = text[at] == '&' ? nameAt(text, at + 1) : QByteArray();
             const auto entity = iEntities.texts.constFind(name);
             if (entity == iEntities.texts.constEnd()) {
-                at = std::max(at + 1, behindVerbatim(text, at));
+                at = std::max(at + 1, endOfVerbatim(text, at));
                 continue;
             }
             iResult.append(QByteArrayView(text).sliced(copied, at - copied));

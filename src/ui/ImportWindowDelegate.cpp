@@ -20,7 +20,7 @@
 namespace {
 
 constexpr int importDPI = 144;
-constexpr std::size_t mostPagesTold = 5;
+constexpr std::size_t maxPagesShown = 5;
 
 const Log& logger() {
     static const Log log("ImportWindowDelegate");
@@ -222,7 +222,7 @@ void ImportWindowDelegate::reportFailedPages() {
     if (!source)
         return;
     const auto& failed = source->toPageConverter()->failedPages();
-    const auto told = std::min(failed.size(), mostPagesTold);
+    const auto told = std::min(failed.size(), maxPagesShown);
     for (const auto& page : std::span(failed).first(told))
         iFailures << tr("Page %1 could not be drawn: %2")
                          .arg(QString::number(page.page), page.reason.local());

@@ -36,7 +36,7 @@ const Log& logger() {
 }
 
 constexpr int progressWidth = 340;
-constexpr qsizetype mostFilesNamed = 3;
+constexpr qsizetype maxFilesShown = 3;
 
 // Stays open until its run ends. Its bar is too low for a text.
 std::unique_ptr<QProgressDialog> progressWindow(QWidget* parent) {
@@ -200,8 +200,8 @@ void OutputWindowDelegate::onPublish() {
 QString OutputWindowDelegate::overwriteWarning(const FolveroOutput& output) const {
     QStringList lost;
     if (const QStringList files = output.foreignFiles(); !files.isEmpty())
-        lost << tr("This is not part of a book and would be lost:") << files.mid(0, mostFilesNamed)
-             << QStringList(files.size() > mostFilesNamed, QStringLiteral("…"));
+        lost << tr("This is not part of a book and would be lost:") << files.mid(0, maxFilesShown)
+             << QStringList(files.size() > maxFilesShown, QStringLiteral("…"));
     const auto own = PublishedBooks::of(iDocument);
     const QString where = place(output);
     const QString title = output.titleOfExistingBook();

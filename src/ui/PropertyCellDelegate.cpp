@@ -46,7 +46,7 @@ QStyle& styleOf(const QStyleOptionViewItem& option) {
     return option.widget ? *option.widget->style() : *QApplication::style();
 }
 
-bool isKeyThatEdits(const QKeyEvent& event) {
+bool isEditKey(const QKeyEvent& event) {
     const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     switch (event.key()) {
     case Qt::Key_F2:
@@ -66,7 +66,7 @@ bool isEditedAsText(const QModelIndex& index) {
 }
 
 // Players expect a decimal point, whatever the user's locale.
-void takeCommasAsPoints(QLineEdit& edit) {
+void replaceCommasWithPoints(QLineEdit& edit) {
     QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&edit](QString text) {
         if (!text.contains(u','))
             return;
@@ -193,7 +193,7 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
         edit->setFrame(false);
         edit->setAccessibleName(TemplateTexts::shown(item->title()));
         if (item->propertyType() == pt_number)
-            takeCommasAsPoints(*edit);
+            replaceCommasWithPoints(*edit);
         return edit;
     }
     auto* list = new ListEditor(parent);
@@ -342,7 +342,7 @@ bool PropertyCellDelegate::keyPressed(const QKeyEvent& event) {
     const QModelIndex value = current.siblingAtColumn(FlashTemplateModel::value);
     if (current != value)
         iView.selectionModel()->setCurrentIndex(value, QItemSelectionModel::NoUpdate);
-    if (!isKeyThatEdits(event))
+    if (!isEditKey(event))
         return false;
     edit(value, event.key() == Qt::Key_Space || event.key() == Qt::Key_Select);
     return true;

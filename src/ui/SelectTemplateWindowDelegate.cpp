@@ -16,7 +16,7 @@ namespace {
 
 const QString pictureFile = QStringLiteral("shot.jpg");
 constexpr std::size_t usualCount = 12;
-constexpr int mostFailuresTold = 3;
+constexpr int maxFailuresShown = 3;
 
 QString quoted(const QString& tmplName) {
     //: A template's name in quotation marks; stands in other texts.
@@ -245,12 +245,12 @@ QString SelectTemplateWindowDelegate::notice() const {
     if (broken.contains(iShownTmpl))
         broken = QStringList{iShownTmpl};
     QStringList lines;
-    for (const QString& name : broken.mid(0, mostFailuresTold))
+    for (const QString& name : broken.mid(0, maxFailuresShown))
         //: %1 is the template's name in quotation marks, %2 a sentence that tells why.
         lines << tr("The template %1 cannot be used. %2").arg(quoted(name), failureOf(name));
-    if (broken.size() > mostFailuresTold)
+    if (broken.size() > maxFailuresShown)
         //: %n templates, after some were named.
-        lines << tr("%n more cannot be used.", nullptr, int(broken.size()) - mostFailuresTold);
+        lines << tr("%n more cannot be used.", nullptr, int(broken.size()) - maxFailuresShown);
     return lines.join(u'\n');
 }
 

@@ -8,7 +8,7 @@
 namespace {
 
 constexpr qsizetype firstDeflated = 16384;
-constexpr qsizetype leastInflated = 64;
+constexpr qsizetype minInflatedBytes = 64;
 constexpr int zlibHeader = MAX_WBITS;
 constexpr int gzipHeader = MAX_WBITS + 16;
 constexpr int eitherHeader = MAX_WBITS + 32;
@@ -60,7 +60,7 @@ bool inflateAll(z_stream& stream, const QByteArray& data, Output& output, qsizet
             // One byte past the limit distinguishes a stream that fits from one that doesn't.
             if (output.used() > limit)
                 return false;
-            const qsizetype more = std::max({data.size() / 2, output.size() / 2, leastInflated});
+            const qsizetype more = std::max({data.size() / 2, output.size() / 2, minInflatedBytes});
             output.grow(std::min(output.size() + more, limit + 1));
         }
         feed(stream, data);
@@ -77,7 +77,7 @@ QByteArray inflated(const QByteArray& data, int windowBits, qsizetype limit) {
     z_stream stream{};
     if (::inflateInit2(&stream, windowBits) != Z_OK)
         return {};
-    Output output(std::min(data.size() + data.size() / 2 + leastInflated, limit + 1));
+    Output output(std::min(data.size() + data.size() / 2 + minInflatedBytes, limit + 1));
     const bool complete = inflateAll(stream, data, output, limit);
     if (::inflateEnd(&stream) != Z_OK || !complete)
         return {};

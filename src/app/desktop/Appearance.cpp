@@ -20,7 +20,7 @@ const QString colorScheme = QStringLiteral("color-scheme");
 constexpr uint prefersDark = 1;
 
 // A slow desktop portal must not delay the start.
-constexpr int longestAnswer = 150; // ms
+constexpr int portalTimeout = 150; // ms
 
 uint number(QVariant value) {
     while (value.canConvert<QDBusVariant>())
@@ -53,7 +53,7 @@ void Appearance::readSystemSetting() {
     auto question =
         QDBusMessage::createMethodCall(portal, portalPath, portalSettings, QStringLiteral("Read"));
     question << appearanceGroup << colorScheme;
-    const auto answer = QDBusConnection::sessionBus().call(question, QDBus::Block, longestAnswer);
+    const auto answer = QDBusConnection::sessionBus().call(question, QDBus::Block, portalTimeout);
     if (answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty())
         iSystemIsDark = number(answer.arguments().first()) == prefersDark;
 }

@@ -25,7 +25,7 @@ const QString tipKey = QStringLiteral("mainWindow/editorAndTip");
 const QString columnKey = QStringLiteral("mainWindow/titleColumn");
 constexpr int editorWidth = 420;
 constexpr int titleColumnWidth = 172;
-constexpr int leastColumnWidth = 60;
+constexpr int minColumnWidth = 60;
 constexpr int tipHeight = 130;
 constexpr int gap = 8;
 
@@ -74,7 +74,7 @@ QWidget* MainWindow::editorSide() {
     outlineView->setFrameShape(QFrame::NoFrame);
     outlineView->setUniformRowHeights(true);
     outlineView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    outlineView->header()->setMinimumSectionSize(leastColumnWidth);
+    outlineView->header()->setMinimumSectionSize(minColumnWidth);
     outlineView->setEditTriggers(
         QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
         QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
@@ -161,7 +161,7 @@ void MainWindow::restoreSizes() {
     if (!iEditorAndTip->restoreState(settings.value(tipKey).toByteArray()))
         iEditorAndTip->setSizes({10 * tipHeight, tipHeight});
     const int column =
-        std::clamp(settings.value(columnKey, titleColumnWidth).toInt(), leastColumnWidth, 2000);
+        std::clamp(settings.value(columnKey, titleColumnWidth).toInt(), minColumnWidth, 2000);
     // There are no columns before a template is loaded.
     connect(outlineView->header(), &QHeaderView::sectionCountChanged, this,
             [this, column](int before) {

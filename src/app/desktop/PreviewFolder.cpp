@@ -15,7 +15,7 @@ const Log& logger() {
 }
 
 // With more programs than this something else is wrong; they share the last folder.
-constexpr int mostFolders = 32;
+constexpr int maxFolders = 32;
 
 } // namespace
 
@@ -26,7 +26,7 @@ QString PreviewFolder::claim(const QString& base) {
     const QString home = base + QStringLiteral("/Folvero");
     QDir().mkpath(home);
     QString path;
-    for (int number = 1; number <= mostFolders; ++number) {
+    for (int number = 1; number <= maxFolders; ++number) {
         path = home + (number == 1 ? QStringLiteral("/preview")
                                    : QStringLiteral("/preview-%1").arg(number));
         iLock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));

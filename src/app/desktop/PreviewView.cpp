@@ -29,7 +29,7 @@ bool isInMemory(const QUrl& url) {
            url.scheme() == QStringLiteral("about");
 }
 
-bool isShownHere(const QUrl& url) {
+bool staysInPreview(const QUrl& url) {
     return url.isLocalFile() || isInMemory(url);
 }
 
@@ -68,7 +68,8 @@ protected:
         if (followed.contains(url.scheme()) && isMainFrame)
             opener(url);
         // Any other scheme would start whatever program is registered for it.
-        return isShownHere(url) && QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
+        return staysInPreview(url) &&
+               QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
     }
 
     // A link to a new window becomes a navigation of this page, which is handled above.

@@ -7,7 +7,7 @@
 namespace {
 
 const QString key = QStringLiteral("recentFiles");
-constexpr int most = 8;
+constexpr int maxFiles = 8;
 
 QStringList stored() {
     return QSettings().value(key).toStringList();
@@ -28,7 +28,7 @@ void RecentFiles::add(const QString& path) {
     const QString whole = QFileInfo(path).absoluteFilePath();
     files.removeAll(whole);
     files.prepend(whole);
-    QSettings().setValue(key, QStringList(files.mid(0, most)));
+    QSettings().setValue(key, QStringList(files.mid(0, maxFiles)));
 }
 
 void RecentFiles::clear() {
