@@ -1,28 +1,28 @@
-import { dress } from './backdrop.js';
-import { Book } from './book.js';
-import { loadConfiguration } from './config.js';
-import { part } from './dom.js';
-import { Drawer } from './drawer.js';
-import { Gestures } from './gestures.js';
-import { Helping } from './helping.js';
-import { wireKeys } from './keys.js';
-import { fullLabel, labelOf } from './labels.js';
-import { Memory } from './memory.js';
-import { Menu } from './menu.js';
-import { tellReader } from './message.js';
-import { bringIn } from './opening.js';
-import { Place, pageInAddress } from './place.js';
-import { Printing } from './printing.js';
-import { Sharing } from './sharing.js';
-import { Sheets } from './sheets.js';
-import { Slideshow } from './slideshow.js';
-import { Sounds } from './sound.js';
-import { Toast } from './toast.js';
-import { Toolbar } from './toolbar.js';
-import { Turner } from './turner.js';
-import { learn, say, sayEverywhere } from './words.js';
-import { Zoom } from './zoom.js';
-import { ZoomGestures } from './zoomgestures.js';
+import { dress } from './book/backdrop.js';
+import { Book } from './book/book.js';
+import { loadConfiguration } from './book/config.js';
+import { part } from './book/dom.js';
+import { fullLabel, labelOf } from './book/labels.js';
+import { bringIn } from './book/opening.js';
+import { learn, say, sayEverywhere } from './book/words.js';
+import { Turner } from './turning/turner.js';
+import { Gestures } from './controls/gestures.js';
+import { wireKeys } from './controls/keys.js';
+import { Memory } from './controls/memory.js';
+import { Place, pageInAddress } from './controls/place.js';
+import { Slideshow } from './controls/slideshow.js';
+import { Sounds } from './controls/sound.js';
+import { Toolbar } from './controls/toolbar.js';
+import { Zoom } from './controls/zoom.js';
+import { ZoomGestures } from './controls/zoomgestures.js';
+import { Drawer } from './panels/drawer.js';
+import { Helping } from './panels/helping.js';
+import { Menu } from './panels/menu.js';
+import { tellReader } from './panels/message.js';
+import { Printing } from './panels/printing.js';
+import { Sharing } from './panels/sharing.js';
+import { Sheets } from './panels/sheets.js';
+import { Toast } from './panels/toast.js';
 
 /**
  * What other scripts add to the book. Each is called with the configuration before any picture is
@@ -33,7 +33,7 @@ const extensions = window.folveroExtensions ?? [];
 /**
  * What is announced to readers who do not see the pages.
  * @param {number[]} pages
- * @param {import('./config.js').BookConfig} config
+ * @param {import('./book/config.js').BookConfig} config
  */
 function announcement(pages, config) {
   const labels = pages.map((page) => fullLabel(config, page));
@@ -86,7 +86,7 @@ function addControls(root, turner, sounds) {
   const helping = new Helping(root);
   const menu = new Menu(root, () => toolbar.folding.folded);
   const toast = new Toast(root);
-  /** @type {import('./toolbar.js').Commands} */
+  /** @type {import('./controls/toolbar.js').Commands} */
   const commands = {
     thumbs: () => drawer.toggle(),
     zoomIn: () => zoom.in(),

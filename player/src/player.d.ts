@@ -1,17 +1,17 @@
 // What the player gives to the scripts beside it: those of web books. Nothing but types.
 
 import type { WEB_WORDS } from '../web/words.js';
-import type { Book } from './book.js';
-import type { BookConfig } from './config.js';
-import type { Drawer } from './drawer.js';
-import type { Gestures } from './gestures.js';
-import type { Sheets } from './sheets.js';
-import type { Slideshow } from './slideshow.js';
-import type { Toast } from './toast.js';
-import type { Commands, Toolbar } from './toolbar.js';
-import type { Turner } from './turner.js';
-import type { learn, Word } from './words.js';
-import type { Zoom } from './zoom.js';
+import type { Book } from './book/book.js';
+import type { BookConfig } from './book/config.js';
+import type { learn, Word } from './book/words.js';
+import type { Turner } from './turning/turner.js';
+import type { Gestures } from './controls/gestures.js';
+import type { Slideshow } from './controls/slideshow.js';
+import type { Commands, Toolbar } from './controls/toolbar.js';
+import type { Zoom } from './controls/zoom.js';
+import type { Drawer } from './panels/drawer.js';
+import type { Sheets } from './panels/sheets.js';
+import type { Toast } from './panels/toast.js';
 
 /** Words of the page's own and those that a web book adds. */
 export type AnyWord = Word | keyof typeof WEB_WORDS.en;

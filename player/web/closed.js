@@ -1,4 +1,4 @@
-/** @typedef {import('../src/config.js').BookConfig} BookConfig */
+/** @typedef {import('../src/book/config.js').BookConfig} BookConfig */
 /** @typedef {import('./facts.js').Facts} Facts */
 
 const LOCK = '<path d="M-17-6h34a4 4 0 0 1 4 4v24a4 4 0 0 1-4 4h-34a4 4 0 0 1-4-4v-24a4 4 0 0 1 4-4z'

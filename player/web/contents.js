@@ -1,5 +1,5 @@
-import { make } from '../src/dom.js';
-import { fullLabel, labelOf } from '../src/labels.js';
+import { make } from '../src/book/dom.js';
+import { fullLabel, labelOf } from '../src/book/labels.js';
 import { SidePanel } from './side.js';
 import { Tree } from './tree.js';
 

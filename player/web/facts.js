@@ -1,4 +1,4 @@
-/** @typedef {import('../src/config.js').BookConfig} BookConfig */
+/** @typedef {import('../src/book/config.js').BookConfig} BookConfig */
 /**
  * @typedef {object} Entry of the contents
  * @property {string} title

@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make } from '../src/book/dom.js';
 import { fold, sourceOf } from './foldtext.js';
 import { Layers } from './layers.js';
 

@@ -1,5 +1,5 @@
-import { make, part } from '../src/dom.js';
-import { Panel } from '../src/panel.js';
+import { make, part } from '../src/book/dom.js';
+import { Panel } from '../src/panels/panel.js';
 import { icon } from './icons.js';
 
 /** The panel in which readers keep the whole book for reading without a connection. */
@@ -90,8 +90,8 @@ export class Keeping {
 
   /**
    * Passes on what the service worker has to tell about files that can't be had.
-   * @param {import('../src/toast.js').Toast} toast
-   * @param {import('../src/images.js').PageImages} images
+   * @param {import('../src/panels/toast.js').Toast} toast
+   * @param {import('../src/book/images.js').PageImages} images
    * @param {import('./layers.js').Layers} layers
    */
   #passOn(toast, images, layers) {

@@ -1,5 +1,5 @@
-import { make, part } from '../src/dom.js';
-import { fullLabel } from '../src/labels.js';
+import { make, part } from '../src/book/dom.js';
+import { fullLabel } from '../src/book/labels.js';
 
 /** @typedef {import('./pagetext.js').PageText} PageText */
 /** @typedef {import('./pagetexts.js').PageTexts} PageTexts */

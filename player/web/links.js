@@ -1,6 +1,6 @@
-import { mayFollow } from '../src/addresses.js';
-import { make } from '../src/dom.js';
-import { fullLabel } from '../src/labels.js';
+import { mayFollow } from '../src/book/addresses.js';
+import { make } from '../src/book/dom.js';
+import { fullLabel } from '../src/book/labels.js';
 import { Layers } from './layers.js';
 
 /** @typedef {import('./layers.js').Face} Face */

@@ -1,4 +1,4 @@
-import { make, part } from '../src/dom.js';
+import { make, part } from '../src/book/dom.js';
 import { closePages } from './closed.js';
 import { Contents } from './contents.js';
 import { DataFiles } from './data.js';

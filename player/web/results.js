@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make } from '../src/book/dom.js';
 
 /** @typedef {import('./searchtext.js').Hit} Hit */
 /** @typedef {import('./searchtext.js').SearchText} SearchText */

@@ -1,4 +1,4 @@
-import { part } from '../src/dom.js';
+import { part } from '../src/book/dom.js';
 import { boxIn, distance, isUpright, runsBack } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */

@@ -1,5 +1,5 @@
-import { part } from '../src/dom.js';
-import { fileAddress } from '../src/values.js';
+import { part } from '../src/book/dom.js';
+import { fileAddress } from '../src/book/values.js';
 
 /** @typedef {import('./layers.js').Layers} Layers */
 /** @typedef {'left' | 'right'} Side */

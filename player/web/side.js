@@ -1,4 +1,4 @@
-import { make, part } from '../src/dom.js';
+import { make, part } from '../src/book/dom.js';
 import { icon } from './icons.js';
 
 /** Narrowest window in which a panel lies beside the book instead of over it, and over it instead of in its place. */

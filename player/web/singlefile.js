@@ -1,4 +1,4 @@
-import { bytesOf } from '../src/base64.js';
+import { bytesOf } from '../src/book/base64.js';
 
 /** Addresses of pictures that are kept at a time; what has been loaded needs its address no more. */
 const MOST_ADDRESSES = 40;

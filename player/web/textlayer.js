@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make } from '../src/book/dom.js';
 import { isUpright } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */

@@ -1,4 +1,4 @@
-import { make } from '../src/dom.js';
+import { make } from '../src/book/dom.js';
 import { icon } from './icons.js';
 
 /** @typedef {import('./facts.js').Entry} Entry */

@@ -1,6 +1,6 @@
-import { part } from './dom.js';
+import { part } from '../book/dom.js';
 import { Panel } from './panel.js';
-import { say } from './words.js';
+import { say } from '../book/words.js';
 
 /** The panel that gives the book's link away. */
 export class Sharing {

@@ -1,5 +1,5 @@
-/** @typedef {import('./book.js').Book} Book */
-/** @typedef {import('./book.js').Side} Side */
+/** @typedef {import('../book/book.js').Book} Book */
+/** @typedef {import('../book/book.js').Side} Side */
 /** @typedef {import('./fold.js').Point} Point */
 /** @typedef {import('./turnings.js').Painter} Painter */
 /** @typedef {{left: number, right: number}} PagePair page numbers, 0 for none */

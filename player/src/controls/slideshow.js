@@ -1,4 +1,4 @@
-/** @typedef {import('./turner.js').Turner} Turner */
+/** @typedef {import('../turning/turner.js').Turner} Turner */
 
 /** Turns pages by itself, a while after the last one has landed. */
 export class Slideshow {

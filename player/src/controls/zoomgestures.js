@@ -1,5 +1,5 @@
 /** @typedef {import('./zoom.js').Zoom} Zoom */
-/** @typedef {import('./fold.js').Point} Point */
+/** @typedef {import('../turning/fold.js').Point} Point */
 
 /** Pixels that an arrow key moves an enlarged page. */
 const KEY_PAN = 90;

@@ -1,4 +1,4 @@
-import { make, part } from './dom.js';
+import { make, part } from '../book/dom.js';
 
 const TIP_GAP = 9;
 

@@ -1,9 +1,9 @@
-import { make, part } from './dom.js';
-import { fullLabel, labelOf } from './labels.js';
+import { make, part } from '../book/dom.js';
+import { fullLabel, labelOf } from '../book/labels.js';
 import { Thumbnails } from './thumbnails.js';
-import { say } from './words.js';
+import { say } from '../book/words.js';
 
-/** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('../book/book.js').Book} Book */
 
 /** Room between thumbnails, and how far beyond the edges they are made ready, in CSS pixels. */
 const GAP = 14;

@@ -1,10 +1,7 @@
-/** @typedef {import('./book.js').Book} Book */
-/** @typedef {import('./turner.js').Turner} Turner */
-/** @typedef {import('./fold.js').Point} Point */
-/**
- * The book as it is enlarged: a place of the window that was at p is at level * p + (x, y).
- * @typedef {{level: number, x: number, y: number}} ZoomState
- */
+/** @typedef {import('../book/book.js').Book} Book */
+/** @typedef {import('../turning/turner.js').Turner} Turner */
+/** @typedef {import('../turning/fold.js').Point} Point */
+/** @typedef {import('../book/book.js').ZoomState} ZoomState */
 
 const MOST_ZOOM = 5;
 const TAP_ZOOM = 2.5;

@@ -1,8 +1,8 @@
-import { make, part } from './dom.js';
-import { fileAddress } from './values.js';
-import { say } from './words.js';
+import { make, part } from '../book/dom.js';
+import { fileAddress } from '../book/values.js';
+import { say } from '../book/words.js';
 
-/** @typedef {import('./config.js').PageEntry} PageEntry */
+/** @typedef {import('../book/config.js').PageEntry} PageEntry */
 
 /** Pages laid out for the printer, one a sheet; their images are there for the print only. */
 export class Sheets {

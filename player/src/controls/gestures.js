@@ -1,5 +1,5 @@
-/** @typedef {import('./turner.js').Turner} Turner */
-/** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('../turning/turner.js').Turner} Turner */
+/** @typedef {import('../book/book.js').Book} Book */
 /** @typedef {import('./zoom.js').Zoom} Zoom */
 
 const DRAG_START = 7;
@@ -101,7 +101,7 @@ export class Gestures {
    * @property {1 | -1} sign screen x of the leaf's own x
    * @property {number} gain
    * @property {number} pressX
-   * @property {import('./fold.js').Point} held
+   * @property {import('../turning/fold.js').Point} held
    */
 
   /** @param {PointerEvent} event */
@@ -148,7 +148,7 @@ export class Gestures {
     const steps = leftward !== config.rightToLeft ? 1 : -1;
     const edgeShare = snapped((press.y - layout.bookTop) / layout.pageHeight);
     if (!turner.grab(turner.current + steps, edgeShare)) return null;
-    const leaf = /** @type {import('./leaf.js').Leaf} */ (turner.leaf);
+    const leaf = /** @type {import('../turning/leaf.js').Leaf} */ (turner.leaf);
     const sign = leaf.mirrored ? -1 : 1;
     const pressX = sign * (press.x - layout.spineX - leaf.shift);
     return { sign, gain: turner.painter.gain(leaf, pressX), pressX, held: { ...leaf.held } };

@@ -1,6 +1,6 @@
-import { BookError } from './config.js';
-import { part } from './dom.js';
-import { say } from './words.js';
+import { BookError } from '../book/config.js';
+import { part } from '../book/dom.js';
+import { say } from '../book/words.js';
 
 /**
  * Tells the reader in words why there is no book to see.
@@ -12,7 +12,7 @@ export function tellReader(root, error) {
   if (told !== error) console.error(error);
   const message = part(root, '.message');
   part(message, 'h2').textContent = say(told.title);
-  part(message, 'p').textContent = say(/** @type {import('./words.js').Word} */ (told.title + 'Text'));
+  part(message, 'p').textContent = say(/** @type {import('../book/words.js').Word} */ (told.title + 'Text'));
   const button = part(message, 'button');
   button.hidden = !told.again;
   button.addEventListener('click', () => location.reload());

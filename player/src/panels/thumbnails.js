@@ -1,7 +1,7 @@
-import { fitted } from './face.js';
-import { fileAddress } from './values.js';
+import { fitted } from '../book/face.js';
+import { fileAddress } from '../book/values.js';
 
-/** @typedef {import('./config.js').PageEntry} PageEntry */
+/** @typedef {import('../book/config.js').PageEntry} PageEntry */
 
 /** Drawn thumbnails that are kept, about 150 kilobytes each. */
 const MOST_DRAWN = 96;

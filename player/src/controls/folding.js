@@ -1,4 +1,4 @@
-import { part } from './dom.js';
+import { part } from '../book/dom.js';
 
 /** Room that stays free at both sides of the bar together, in CSS pixels. */
 const BESIDE = 16;

@@ -1,4 +1,4 @@
-import { part } from './dom.js';
+import { part } from '../book/dom.js';
 
 /**
  * A dialog over the book. The browser keeps what lies behind it out of reach and gives the focus

@@ -1,4 +1,4 @@
-/** @typedef {import('./turner.js').Turner} Turner */
+/** @typedef {import('../turning/turner.js').Turner} Turner */
 
 /** Page that the address asks for, 0 when it asks for none. */
 export function pageInAddress() {

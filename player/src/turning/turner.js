@@ -1,7 +1,7 @@
 import { Leaf } from './leaf.js';
 import { painterFor } from './turnings.js';
 
-/** @typedef {import('./book.js').Book} Book */
+/** @typedef {import('../book/book.js').Book} Book */
 /** @typedef {import('./fold.js').Point} Point */
 /** @typedef {import('./leaf.js').Motion} Motion */
 

@@ -1,8 +1,8 @@
-import { make, part } from './dom.js';
+import { make, part } from '../book/dom.js';
 import { Panel } from './panel.js';
-import { say } from './words.js';
+import { say } from '../book/words.js';
 
-/** @typedef {import('./words.js').Word} Word */
+/** @typedef {import('../book/words.js').Word} Word */
 
 /** @type {[keys: string[], word: Word][]} keys of the book; the bar's buttons tell their own */
 const KEYS = [

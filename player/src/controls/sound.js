@@ -1,5 +1,5 @@
-/** @typedef {import('./config.js').BookConfig} BookConfig */
-import { fileAddress } from './values.js';
+/** @typedef {import('../book/config.js').BookConfig} BookConfig */
+import { fileAddress } from '../book/values.js';
 
 const TURN_SOUND = 'extfiles/moveSound.mp3';
 

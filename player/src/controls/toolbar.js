@@ -1,10 +1,10 @@
-import { part } from './dom.js';
+import { part } from '../book/dom.js';
 import { Folding } from './folding.js';
-import { labelOf, pageNamed } from './labels.js';
+import { labelOf, pageNamed } from '../book/labels.js';
 import { Tips } from './tips.js';
-import { say } from './words.js';
+import { say } from '../book/words.js';
 
-/** @typedef {import('./turner.js').Turner} Turner */
+/** @typedef {import('../turning/turner.js').Turner} Turner */
 /** @typedef {Record<string, () => void>} Commands what the reader can ask for, by name */
 
 const IDLE_MS = 2600;

@@ -1,4 +1,4 @@
-import { make, part } from './dom.js';
+import { make, part } from '../book/dom.js';
 import { Panel } from './panel.js';
 
 /** The panel with the controls for which the bar has no room. */

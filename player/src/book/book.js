@@ -7,6 +7,10 @@ import { Views } from './views.js';
 /** @typedef {import('./config.js').BookConfig} BookConfig */
 /** @typedef {import('./layout.js').Layout} Layout */
 /** @typedef {'left' | 'right'} Side */
+/**
+ * The book as it is enlarged: a place of the window that was at p is at level * p + (x, y).
+ * @typedef {{level: number, x: number, y: number}} ZoomState
+ */
 
 /** @type {Side[]} */
 const SIDES = ['left', 'right'];
@@ -35,7 +39,7 @@ export class Book {
     this.shift = 0;
     /** Room at the left edge of the window that a panel takes, in CSS pixels. */
     this.beside = 0;
-    /** @type {import('./zoom.js').ZoomState} */
+    /** @type {ZoomState} */
     this.zoom = { level: 1, x: 0, y: 0 };
     /** @type {(page: number) => void} */
     this.onImage = () => {};
@@ -105,7 +109,7 @@ export class Book {
     this.#place();
   }
 
-  /** @param {import('./zoom.js').ZoomState} state */
+  /** @param {ZoomState} state */
   zoomTo(state) {
     this.zoom = state;
     this.#place();
