@@ -16,6 +16,7 @@ import pathlib
 import re
 import sys
 
+import texts
 from bundle import bundled, joined_style, minified_script
 
 PLACEHOLDERS = ["index.title", "meta.keywords", "meta.description"]
@@ -45,7 +46,7 @@ def main():
     template = json.loads((folder / "template.json").read_text(encoding="utf-8"))
     sheets = [player / "style" / sheet for sheet in STYLES] + [folder / "look.css"]
     style = joined_style(esbuild, sheets)
-    script = bundled(esbuild, player / "src/main.js")
+    script = bundled(esbuild, player / "src/main.js", ("PAGE_TEXTS", texts.table(player, "page")))
     page = (player / "shell.html").read_text(encoding="utf-8")
     early = minified_script(esbuild, player / "early.js")
     page = page.replace("/*early*/", early).replace("/*style*/", style).replace("/*script*/", script)

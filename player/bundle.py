@@ -1,5 +1,6 @@
 """Bundles and minifies the player's scripts and styles with esbuild."""
 
+import json
 import subprocess
 import sys
 
@@ -16,9 +17,10 @@ def run(esbuild, options, text=None):
     return result.stdout.strip()
 
 
-def bundled(esbuild, first):
-    """The script that begins in a module, with all that it imports. Strict, as modules are."""
-    return run(esbuild, [str(first), "--bundle", "--format=iife", '--banner:js="use strict";', *SCRIPT])
+def bundled(esbuild, first, texts):
+    """The script that begins in a module, with all that it imports. Strict, as modules are. texts: name and value"""
+    define = f"--define:{texts[0]}={json.dumps(texts[1], ensure_ascii=False)}"
+    return run(esbuild, [str(first), "--bundle", "--format=iife", '--banner:js="use strict";', define, *SCRIPT])
 
 
 def minified_script(esbuild, path):

@@ -11,6 +11,7 @@ placeholders nor anything that ends the element around them.
 import pathlib
 import sys
 
+import texts
 from bundle import bundled, joined_style, minified_script
 
 STYLES = ["layers.css", "side.css", "contents.css", "search.css", "keeping.css", "looks.css"]
@@ -24,7 +25,7 @@ def check(name, text):
 
 def main():
     esbuild, player, output = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
-    parts = {"web.js": bundled(esbuild, player / "web/main.js"),
+    parts = {"web.js": bundled(esbuild, player / "web/main.js", ("WEB_TEXTS", texts.table(player, "web"))),
              "web.css": joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])}
     output.mkdir(parents=True, exist_ok=True)
     for name, text in parts.items():

@@ -187,6 +187,7 @@ function expose(book, turner, { drawer, sheets }) {
 }
 
 const root = /** @type {HTMLElement} */ (document.getElementById('folvero'));
+learn(PAGE_TEXTS);
 sayEverywhere(root);
 part(root, '.book-title').textContent = document.title;
 openBook(root).catch((error) => tellReader(root, error));

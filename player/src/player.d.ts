@@ -1,6 +1,6 @@
 // What the player gives to the scripts beside it: those of web books. Nothing but types.
 
-import type { WEB_WORDS } from '../web/words.js';
+import type english from '../texts/en.json';
 import type { Book } from './book/book.js';
 import type { BookConfig } from './book/config.js';
 import type { learn, Word } from './book/words.js';
@@ -14,7 +14,7 @@ import type { Sheets } from './panels/sheets.js';
 import type { Toast } from './panels/toast.js';
 
 /** Words of the page's own and those that a web book adds. */
-export type AnyWord = Word | keyof typeof WEB_WORDS.en;
+export type AnyWord = Word | keyof typeof english.web;
 
 /** What is there before any picture is loaded. */
 export interface Beginning {

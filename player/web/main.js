@@ -15,7 +15,6 @@ import { Sharper } from './sharper.js';
 import { SideRoom } from './side.js';
 import { SingleFile } from './singlefile.js';
 import { addTextLayer } from './textlayer.js';
-import { WEB_WORDS } from './words.js';
 
 const single = SingleFile.here ? new SingleFile() : null;
 const files = new DataFiles(single);
@@ -101,7 +100,7 @@ window.folveroFile = (path) => single?.address(path);
 window.folveroExtensions ??= [];
 window.folveroExtensions.push(async (beginning) => {
   const { config, say, learn } = beginning;
-  learn(WEB_WORDS);
+  learn(WEB_TEXTS);
   await single?.complete;
   const facts = await asked.then((raw) => new Facts(raw, config.pages.length)).catch(() => null);
   // Without them the book is still one to turn.

@@ -13,7 +13,7 @@ const kind = (files, sourceType, names) => ({ files, languageOptions: { sourceTy
 export default [
   js.configs.recommended,
   kind(['**/*.mjs'], 'module', { ...globals.node, ...globals.browser }),
-  kind(['player/{src,web}/**/*.js'], 'module', globals.browser),
+  kind(['player/{src,web}/**/*.js'], 'module', { ...globals.browser, PAGE_TEXTS: false, WEB_TEXTS: false }),
   kind(['player/early.js', 'player/swf/*.js'], 'script', globals.browser),
   kind(['player/sw.js'], 'script', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
   // Its one name is for the pages that take it.

@@ -1,0 +1,47 @@
+"""What the player's build refuses, and what books may weigh.
+
+Environment: FOLVERO_PLAYER, the player's source; FOLVERO_APP_FILES, what was built of it.
+"""
+
+import gzip
+import json
+import os
+from pathlib import Path
+import sys
+import tempfile
+import unittest
+
+PLAYER = Path(os.environ["FOLVERO_PLAYER"])
+BUILT = Path(os.environ["FOLVERO_APP_FILES"])
+sys.path.insert(0, str(PLAYER))
+import texts  # noqa: E402
+
+
+class Texts(unittest.TestCase):
+    def test_every_language_has_every_text(self):
+        texts.read(PLAYER)
+        languages = {file.stem: json.loads(file.read_text(encoding="utf-8")) for file in PLAYER.glob("texts/*.json")}
+        for language, section, name, text, fault in [
+                ("de", "page", "next", None, "de.json: page.next is missing"),
+                ("fr", "web", "search", "", "fr.json: web.search is missing"),
+                ("nl", "web", "other", "Ander", "nl.json: web.other is not in en.json"),
+                ("it", "page", "pageOf", "Pagina {0}", "it.json: page.pageOf must hold ['{0}', '{1}'], as in en.json"),
+                ("es", "page", "next", "Otra | más", "es.json: page.next may not hold |"),
+                ("pt_BR", None, None, None, "pt_BR.json: named by its language's code")]:
+            with self.subTest(fault), tempfile.TemporaryDirectory() as folder:
+                changed = json.loads(json.dumps(languages))
+                own = changed.setdefault(language, changed["pt"])
+                if text is None and name:
+                    del own[section][name]
+                elif name:
+                    own[section][name] = text
+                Path(folder, "texts").mkdir()
+                for code, values in changed.items():
+                    Path(folder, f"texts/{code}.json").write_text(json.dumps(values), encoding="utf-8")
+                with self.assertRaises(SystemExit) as refused:
+                    texts.table(Path(folder), "page")
+                self.assertTrue(str(refused.exception).startswith(f"player/texts/{fault}"), refused.exception)
+
+
+if __name__ == "__main__":
+    unittest.main()
