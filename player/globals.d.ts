@@ -1,9 +1,10 @@
 // Names of the window that the parts of a book's page leave to one another, and what browsers have that the type
 // checker does not know yet. Nothing but types: no part of a book.
 
-/** Texts of the page and of web books, in the form that learn() takes; the build puts them in. */
+/** Texts of each script, in the form that learn() takes; the build puts them in. */
 declare const PAGE_TEXTS: string;
 declare const WEB_TEXTS: string;
+declare const OFFLINE_TEXTS: string;
 
 interface Window {
   /** early.js has asked for the configuration. */

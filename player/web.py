@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Builds the parts of the player that web books have beside the page's own: web.js and web.css, and
-sw.js, which keeps a book for readers without a connection.
+"""Builds the parts of the player that web books have beside the page's own: web.js and web.css, and what books
+that readers can keep have beside these: offline.js and the service worker, sw.js.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
@@ -25,8 +25,10 @@ def check(name, text):
 
 def main():
     esbuild, player, output = sys.argv[1], pathlib.Path(sys.argv[2]), pathlib.Path(sys.argv[3])
-    parts = {"web.js": bundled(esbuild, player / "web/main.js", ("WEB_TEXTS", texts.table(player, "web"))),
-             "web.css": joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])}
+    scripts = {"web.js": ("main.js", "WEB_TEXTS", "web"), "offline.js": ("offlinepart.js", "OFFLINE_TEXTS", "offline")}
+    parts = {name: bundled(esbuild, player / "web" / first, (define, texts.table(player, section)))
+             for name, (first, define, section) in scripts.items()}
+    parts["web.css"] = joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])
     output.mkdir(parents=True, exist_ok=True)
     for name, text in parts.items():
         check(name, text)

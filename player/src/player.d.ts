@@ -14,7 +14,7 @@ import type { Sheets } from './panels/sheets.js';
 import type { Toast } from './panels/toast.js';
 
 /** Words of the page's own and those that a web book adds. */
-export type AnyWord = Word | keyof typeof english.web;
+export type AnyWord = Word | keyof typeof english.web | keyof typeof english.offline;
 
 /** What is there before any picture is loaded. */
 export interface Beginning {

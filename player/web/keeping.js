@@ -14,7 +14,6 @@ export class Keeping {
     this.say = say;
     this.offline = offline;
     this.button = button;
-    button.setAttribute('aria-haspopup', 'dialog');
     const title = make('h2', '', say('keep'));
     title.id = 'keep-title';
     const close = this.#button('close', '');
@@ -36,7 +35,16 @@ export class Keeping {
     this.panel = new Panel(dialog);
     offline.onChange = () => this.#show();
     this.#show();
-    this.#passOn(toast, book.images, layers);
+    this.toast = toast;
+    this.images = book.images;
+    this.layers = layers;
+    /** Whether pages are missing for want of a connection. */
+    this.alone = false;
+    layers.followers.push(() => this.#look());
+    window.addEventListener('online', () => {
+      this.alone = false;
+      this.images.retry();
+    });
   }
 
   open() {
@@ -90,28 +98,23 @@ export class Keeping {
 
   /**
    * Passes on what the service worker has to tell about files that can't be had.
-   * @param {import('../src/panels/toast.js').Toast} toast
-   * @param {import('../src/book/images.js').PageImages} images
-   * @param {import('./layers.js').Layers} layers
+   * @param {MessageEvent} message
    */
-  #passOn(toast, images, layers) {
+  hear({ data }) {
     const { say } = this;
-    let alone = false;
-    // Pages that are only fetched ahead are nothing to the reader yet.
-    const look = () => layers.inView.forEach(async (page) => {
-      const entry = images.get(page);
+    if (data.news === 'newEdition') this.toast.show(say('newEdition'), say('openNew'), () => location.reload());
+    this.alone ||= data.news === 'notKept';
+    this.#look();
+  }
+
+  /** Pages that are only fetched ahead are nothing to the reader yet. */
+  #look() {
+    const { say, layers, toast } = this;
+    layers.inView.forEach(async (page) => {
+      const entry = this.images.get(page);
       await entry.settled;
-      if (alone && entry.state === 'missing' && layers.inView.includes(page)) toast.show(say('notKept'), say('close'), () => {});
-    });
-    layers.followers.push(look);
-    navigator.serviceWorker.addEventListener('message', ({ data }) => {
-      if (data.news === 'newEdition') toast.show(say('newEdition'), say('openNew'), () => location.reload());
-      alone ||= data.news === 'notKept';
-      look();
-    });
-    window.addEventListener('online', () => {
-      alone = false;
-      images.retry();
+      const misses = this.alone && entry.state === 'missing' && layers.inView.includes(page);
+      if (misses) toast.show(say('notKept'), say('close'), () => {});
     });
   }
 }

@@ -4,10 +4,8 @@ import { Contents } from './contents.js';
 import { DataFiles } from './data.js';
 import { Facts } from './facts.js';
 import { icon } from './icons.js';
-import { Keeping } from './keeping.js';
 import { Layers } from './layers.js';
 import { Links } from './links.js';
-import { Offline } from './offline.js';
 import { PageTexts } from './pagetexts.js';
 import { Searching } from './searching.js';
 import { Selecting } from './selecting.js';
@@ -49,6 +47,53 @@ function addTextLink(root, address, words) {
   root.prepend(link);
 }
 
+/** Whether the browser keeps books: over https, and from this machine. */
+function mayKeep() {
+  return window.isSecureContext && /^https?:$/.test(location.protocol) && 'serviceWorker' in navigator;
+}
+
+/**
+ * Adds keeping the book for reading without a connection, which is a script of its own.
+ * @param {import('../src/player.js').Player} player
+ * @param {Layers} layers
+ */
+function addKeeping(player, layers) {
+  const { root, commands, toolbar, say } = player;
+  const button = barButton('keep', 'K', '2.5', say);
+  button.setAttribute('aria-haspopup', 'dialog');
+  /** @type {MessageEvent[]} */
+  const early = [];
+  /** @param {MessageEvent} message of the service worker */
+  let hear = (message) => { early.push(message); };
+  navigator.serviceWorker.addEventListener('message', (message) => hear(message));
+  const begin = async () => {
+    const add = await files.load('web/offline');
+    const keeping = /** @type {typeof import('./offlinepart.js').addKeeping} */ (add)(player, layers, button);
+    hear = (message) => keeping.hear(message);
+    early.forEach(hear);
+    return keeping;
+  };
+  /** @type {ReturnType<typeof begin> | null} */
+  let made = null;
+  const load = () => {
+    made ??= begin();
+    // Asked again it is loaded again.
+    made.catch(() => { made = null; });
+    return made;
+  };
+  // Nothing of this may be in the way of the first pages.
+  const observer = new MutationObserver(() => {
+    if (root.dataset.state !== 'ready') return;
+    observer.disconnect();
+    load();
+  });
+  observer.observe(root, { attributes: true, attributeFilter: ['data-state'] });
+  // Without a connection the page around a frame isn't there either.
+  if (window.parent !== window) return;
+  commands.keep = () => load().then((keeping) => keeping.open(), () => {});
+  toolbar.add(button, 'print');
+}
+
 /**
  * @param {import('../src/player.js').Player} player
  * @param {Facts} facts
@@ -77,15 +122,7 @@ function addToBook(player, facts) {
     commands.search = () => searching.panel.toggle();
     toolbar.add(button, 'thumbs');
   }
-  if (facts.offline && !single && Offline.possible) {
-    const button = barButton('keep', 'K', '2.5', say);
-    const keeping = new Keeping(player, layers, new Offline(root, layers), button);
-    // Without a connection the page around a frame isn't there either.
-    if (window.parent === window) {
-      commands.keep = () => keeping.open();
-      toolbar.add(button, 'print');
-    }
-  }
+  if (facts.offline && !single && mayKeep()) addKeeping(player, layers);
   if (facts.textPage) addTextLink(root, facts.textPage, say('textPage'));
   if (facts.labels) toolbar.box.inputMode = 'text';
   layers.followers.push(() => {

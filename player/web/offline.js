@@ -16,15 +16,8 @@ const REST = 2000;
  * this machine. So does the whole book where the reader asked for it, or where it is small.
  */
 export class Offline {
-  static get possible() {
-    return window.isSecureContext && /^https?:$/.test(location.protocol) && 'serviceWorker' in navigator;
-  }
-
-  /**
-   * @param {HTMLElement} root
-   * @param {import('./layers.js').Layers} layers
-   */
-  constructor(root, layers) {
+  /** @param {import('./layers.js').Layers} layers */
+  constructor(layers) {
     this.lastTurn = Date.now();
     /** How often fetching has begun: only the last round goes on. */
     this.round = 0;
@@ -39,14 +32,7 @@ export class Offline {
     /** @type {Promise<void> | null} */
     this.begun = null;
     layers.followers.push(() => { this.lastTurn = Date.now(); });
-    const begin = () => {
-      if (root.dataset.state !== 'ready') return;
-      observer.disconnect();
-      this.#quiet().then(() => this.begin());
-    };
-    // Nothing of this may be in the way of the first pages.
-    const observer = new MutationObserver(begin);
-    observer.observe(root, { attributes: true, attributeFilter: ['data-state'] });
+    this.#quiet().then(() => this.begin());
   }
 
   /** Takes up keeping the book, once. */

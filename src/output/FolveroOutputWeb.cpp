@@ -298,6 +298,8 @@ void FolveroOutputWeb::writeOfflineFiles() {
     files.bar = colour("mainColor", "0xffffff");
     files.script = Files::contents(playerPart(QStringLiteral("sw"), QStringLiteral("js"),
                                               Files::join(iSaveToFolder, QStringLiteral("sw.js"))));
+    files.player = playerPart(QStringLiteral("offline"), QStringLiteral("js"),
+                              Files::join(iSaveToFolder, QStringLiteral("files/web/offline.js")));
     files.write(transaction());
 }
 

@@ -77,7 +77,7 @@ QStringList ForeignFiles::ofBook(const QString& filesFolder, const FlashTemplate
 
 QStringList ForeignFiles::ofWebBook(const QString& filesFolder) {
     return inFiles(filesFolder, {{"", "web\\.(js|css)"},
-                                 {"web", "(book\\.js|offline\\.json|icon\\.svg)"},
+                                 {"web", "(book\\.js|offline\\.js(on)?|icon\\.svg)"},
                                  {"search", "text\\.js"},
                                  {"thumb", "[1-9][0-9]*\\.webp"},
                                  {"large", "[1-9][0-9]*\\.(svg|webp)"},

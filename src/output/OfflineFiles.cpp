@@ -21,6 +21,7 @@ namespace {
 const QString workerName = QStringLiteral("sw.js");
 const QString manifestName = QStringLiteral("manifest.webmanifest");
 const QString listName = QStringLiteral("files/web/offline.json");
+const QString playerName = QStringLiteral("files/web/offline.js");
 const QString iconName = QStringLiteral("files/web/icon.svg");
 
 // The start of all our service workers: folders may contain other scripts of that name.
@@ -115,6 +116,7 @@ bool OfflineFiles::canWriteTo(const QString& folder) {
 
 void OfflineFiles::write(PublishTransaction& transaction) const {
     transaction.write(Files::join(folder, iconName), icon(transaction));
+    transaction.write(Files::join(folder, playerName), Files::contents(player));
     const List list = listOf(transaction, folder, page);
     const QByteArray version = digestOf(list.shell() + list.rest() + script);
     transaction.write(Files::join(folder, listName),
@@ -141,7 +143,7 @@ void OfflineFiles::removeOutdated(PublishTransaction& transaction, const QString
         !transaction.writes(Files::join(folder, page)))
         return;
     for (const QString& name :
-         {workerName, manifestName, listName, iconName, PlainTextPage::fileName}) {
+         {workerName, manifestName, listName, iconName, playerName, PlainTextPage::fileName}) {
         const QString path = Files::join(folder, name);
         const bool isForeign = name == PlainTextPage::fileName && !PlainTextPage::isOne(path);
         if (!transaction.writes(path) && !isForeign)

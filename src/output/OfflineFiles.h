@@ -17,6 +17,7 @@ struct OfflineFiles {
     QColor ground;    // background around the book
     QColor bar;       // background of its controls
     QByteArray script; // the player's service worker
+    QString player;    // path of the part of the player that uses them
 
     // Whether the files may be written to the folder: false when it contains those of another site.
     static bool canWriteTo(const QString& folder);

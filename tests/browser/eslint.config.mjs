@@ -10,10 +10,13 @@ import globals from 'globals';
  */
 const kind = (files, sourceType, names) => ({ files, languageOptions: { sourceType, globals: names } });
 
+/** The build puts them in. */
+const TEXTS = { PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false };
+
 export default [
   js.configs.recommended,
   kind(['**/*.mjs'], 'module', { ...globals.node, ...globals.browser }),
-  kind(['player/{src,web}/**/*.js'], 'module', { ...globals.browser, PAGE_TEXTS: false, WEB_TEXTS: false }),
+  kind(['player/{src,web}/**/*.js'], 'module', { ...globals.browser, ...TEXTS }),
   kind(['player/early.js', 'player/swf/*.js'], 'script', globals.browser),
   kind(['player/sw.js'], 'script', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
   // Its one name is for the pages that take it.

@@ -344,7 +344,7 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
             QStringLiteral("FolveroUserConfig = \"%1\";").arg(QString::fromLatin1(configuration))));
         EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[QStringLiteral("web.js")])));
         EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[QStringLiteral("web.css")])));
-        EXPECT_EQ(wanted.size(), 6U) << "the other four are of no use in a page";
+        EXPECT_EQ(wanted.size(), 7U) << "the other five are of no use in a page";
         static const QRegularExpression outside(
             QStringLiteral(R"re(\s(?:src|href|data)="(?!data:))re"));
         EXPECT_FALSE(html.contains(outside)) << outside.match(html).captured().toStdString();
@@ -408,8 +408,8 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
     QStringList known = wordsOfPage(3) + wordsOfPage(4) + wordsOfPage(6);
     known << QString::fromUtf8(files.at(QStringLiteral("files/web/book.js"))).split(blank);
     auto ofBook = files;
-    for (const char* player :
-         {"index.html", "files/web.js", "files/web.css", "sw.js", "manifest.webmanifest"})
+    for (const char* player : {"index.html", "files/web.js", "files/web.css",
+                               "files/web/offline.js", "sw.js", "manifest.webmanifest"})
         ofBook.erase(QString::fromLatin1(player));
     QByteArray& plain = ofBook[QStringLiteral("text.html")];
     plain.remove(0, plain.indexOf("<main>"));
@@ -459,10 +459,13 @@ TEST_F(WebBookTest, LeavesOthersFilesAloneAndTakesItsOwnAway) {
 
     ASSERT_TRUE(QFile::remove(file(QStringLiteral("sw.js"))));
     publish(QStringLiteral("text.pdf"));
-    const QString own[] = {
-        QStringLiteral("sw.js"),           QStringLiteral("manifest.webmanifest"),
-        QStringLiteral("text.html"),       QStringLiteral("files/search/text.js"),
-        QStringLiteral("files/text/1.js"), QStringLiteral("files/web.js")};
+    const QString own[] = {QStringLiteral("sw.js"),
+                           QStringLiteral("manifest.webmanifest"),
+                           QStringLiteral("text.html"),
+                           QStringLiteral("files/search/text.js"),
+                           QStringLiteral("files/text/1.js"),
+                           QStringLiteral("files/web.js"),
+                           QStringLiteral("files/web/offline.js")};
     for (const QString& name : own)
         EXPECT_TRUE(QFileInfo::exists(file(name))) << name.toStdString();
     const auto plain = Program::run({QStringLiteral("publish"), iPDF, file({}),

@@ -7,6 +7,7 @@ import gzip
 import json
 import os
 from pathlib import Path
+import re
 import sys
 import tempfile
 import unittest
@@ -41,6 +42,15 @@ class Texts(unittest.TestCase):
                 with self.assertRaises(SystemExit) as refused:
                     texts.table(Path(folder), "page")
                 self.assertTrue(str(refused.exception).startswith(f"player/texts/{fault}"), refused.exception)
+
+
+class Sizes(unittest.TestCase):
+    def test_scripts_stay_within_their_budgets(self):
+        page = (BUILT / "Templates/float/index.html").read_text(encoding="utf-8")
+        scripts = {"page script": max(re.findall("<script>(.*?)</script>", page, re.DOTALL), key=len),
+                   "web.js": (BUILT / "Web/web.js").read_text(encoding="utf-8")}
+        for name, most in [("page script", 30_000), ("web.js", 18_000)]:
+            self.assertLessEqual(len(gzip.compress(scripts[name].strip().encode(), 9)), most, f"{name}, bytes of gzip -9")
 
 
 if __name__ == "__main__":

@@ -69,7 +69,7 @@ protected:
     }
     OutputWindow& window() { return sheet->window(); }
     static void installWebPlayer() {
-        for (const char* part : {"web.js", "web.css", "sw.js"}) {
+        for (const char* part : {"web.js", "web.css", "offline.js", "sw.js"}) {
             const QString folder = Bundle::resourcePath() + text("/AppFiles/Web/");
             ASSERT_TRUE(QDir().mkpath(folder));
             TestFiles::write(folder + text(part), part);

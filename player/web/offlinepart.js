@@ -1,0 +1,16 @@
+// A script of its own, files/web/offline.js: books on disk and books in one file never need it, others not at once.
+
+import { Keeping } from './keeping.js';
+import { Offline } from './offline.js';
+
+/**
+ * @param {import('../src/player.js').Player} player
+ * @param {import('./layers.js').Layers} layers
+ * @param {HTMLElement} button in the bar
+ */
+export function addKeeping(player, layers, button) {
+  player.learn(OFFLINE_TEXTS);
+  return new Keeping(player, layers, new Offline(layers), button);
+}
+
+window.folveroData?.('web/offline', addKeeping);
