@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Puts the player's script and style into its page, so that a book needs no further file.
+"""Puts the player's script and style into its page, so that a book needs no other file of it.
 
 Usage: build.py ESBUILD PLAYER_DIR TEMPLATE OUTPUT
 

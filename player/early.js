@@ -1,5 +1,5 @@
-// Stands at the top of the page: the configuration is on its way while the rest of the page is
-// still being read, which a long book gains most from.
+// Runs at the top of the page: requests the configuration while the rest of the page is still being parsed, which
+// matters most for long books.
 window.folveroConfiguration = (() => {
   /**
    * Browsers refuse to read sibling files of a page opened from disk, but run sibling scripts.
@@ -12,11 +12,11 @@ window.folveroConfiguration = (() => {
     script.onerror = () => reject(new Error('not found'));
     document.head.append(script);
   });
-  // A book that is one file has its configuration in its page.
+  // A single-file book has its configuration in its page.
   const here = window.FolveroUserConfig !== undefined;
   const asked = here ? Promise.resolve()
     : location.protocol === 'file:' ? runScript() : fetch('files/UserConfig.bin');
-  // Whoever waits for it deals with a failure; until then it is nobody's.
+  // The failure is handled where it is awaited; this avoids reporting it as unhandled.
   asked.catch(() => {});
   return { asked, runScript, here };
 })();

@@ -1,5 +1,4 @@
-// Names of the window that the parts of a book's page leave to one another, and what browsers have that the type
-// checker does not know yet. Nothing but types: no part of a book.
+// Types only: globals that the scripts of a book's page share, and browser APIs that the type checker does not know.
 
 /** Texts of each script, in the form that learn() takes; the build puts them in. */
 declare const PAGE_TEXTS: string;

@@ -1,28 +1,28 @@
-// Keeps a web book for readers without a connection: what they have read, and the whole book where
-// they asked for it or where it is small. The book's publisher puts a line before this that says which
-// book it is: const BOOK = {"page": ..., "version": ...}.
+// The service worker, which makes a web book available offline: what was read, and the whole book where the reader
+// asked for it or where it is small. The publisher prepends a line that identifies the book:
+// const BOOK = {"page": ..., "version": ...}.
 //
-// Every file is known by its digest, so that nothing of another edition is ever kept among the files
-// of this one, or given to a reader of this one, whenever it comes and whatever the server holds by then.
+// Every file is verified by its digest, so that files of different editions never mix in the cache or in a response,
+// whatever the server has by then.
 
 const worker = /** @type {ServiceWorkerGlobalScope} */ (/** @type {unknown} */ (self));
 const SCOPE = worker.registration.scope;
 const LIST = 'files/web/offline.json';
 
-/** Names of the caches of this book, whatever its edition; addresses hold no blanks. */
+/** Prefix of this book's cache names, whatever its edition; URLs contain no blanks. */
 const FAMILY = 'folvero ' + SCOPE + ' ';
 const STORE = FAMILY + BOOK.version;
 
-/** In the cache: what the reader wants kept, 'whole' or 'read'; nothing while they were not asked. */
+/** Cache key of what the reader wants saved, 'whole' or 'read'; missing until they choose. */
 const WISH = SCOPE + '?wish';
 
-/** In the cache: paths of what was read in an earlier edition and is to be fetched again. */
+/** Cache key of the paths that were read in an earlier edition and must be fetched again. */
 const READ = SCOPE + '?read';
 
-/** Milliseconds for the server to tell its edition before the reader gets the one that is here. */
-const PATIENCE = 2500;
+/** Milliseconds to wait for the server's edition before the cached one is used. */
+const EDITION_TIMEOUT = 2500;
 
-/** Bytes of a book that is kept as a whole without being asked for. */
+/** Maximum size of a book that is saved whole without being asked for, in bytes. */
 const SMALL_BYTES = 5e6;
 
 /** Files fetched ahead at a time. */
@@ -54,7 +54,7 @@ function pathOf(address) {
 }
 
 /**
- * The page of the book that an address opens. Some servers leave the ending off the address.
+ * The book's page at a URL. Some servers omit the extension.
  * @param {string} address
  */
 function pageAt(address) {
@@ -63,8 +63,8 @@ function pageAt(address) {
 }
 
 /**
- * In the cache: the other edition that an open page has. Its files are to come from the server; those of
- * an earlier one are not to be had any more.
+ * Cache key that marks an open page of another edition. Its files come from the server; those of an earlier edition are
+ * no longer available.
  * @param {string} client
  */
 function markOf(client) {
@@ -78,7 +78,7 @@ async function digestOf(bytes) {
 }
 
 /**
- * What a cache has under an address. Unlike opening a cache this makes none.
+ * Looks a URL up in a cache. Unlike opening the cache this does not create it.
  * @param {string} address
  * @param {string} cacheName
  */
@@ -112,7 +112,7 @@ async function listHere() {
   return ownList;
 }
 
-/** The list of this edition for what makes no sense without it. */
+/** The list of this edition; throws where it is missing. */
 async function listNeeded() {
   const list = await listHere();
   if (!list) throw new Error('the book is gone');
@@ -120,7 +120,7 @@ async function listNeeded() {
 }
 
 /**
- * The answer with its bytes if it is the very file that the list means, else null.
+ * The response with its bytes if its digest matches, else null.
  * @param {Response} answer
  * @param {string} digest
  */
@@ -128,12 +128,12 @@ async function verified(answer, digest) {
   const bytes = await answer.arrayBuffer();
   if (!answer.ok || await digestOf(bytes) !== digest) return null;
   const type = answer.headers.get('Content-Type') ?? 'application/octet-stream';
-  // Made anew, since browsers take no answer that came by a redirection for a page.
+  // Recreated, because browsers refuse a redirected response for a navigation.
   return new Response(bytes, { headers: { 'Content-Type': type } });
 }
 
 /**
- * Keeps a file that is not kept yet.
+ * Fetches a file into the cache unless it is there.
  * @param {Cache} store
  * @param {string} path
  * @param {string} digest
@@ -142,7 +142,7 @@ async function verified(answer, digest) {
  */
 async function fetchInto(store, path, digest, priority) {
   if (await store.match(addressOf(path))) return true;
-  // What the browser still has from reading need not come again, whatever its age: the digest decides.
+  // The browser's HTTP cache is good enough, whatever its age: the digest decides.
   for (const cache of ['force-cache', 'no-cache']) {
     const options = /** @type {RequestInit} */ ({ cache, priority });
     const answer = await verified(await fetch(addressOf(path), options), digest);
@@ -167,7 +167,7 @@ async function readIn(store) {
 }
 
 /**
- * Takes over what earlier editions have had already, what the reader wants, and what they have read.
+ * Copies unchanged files, the reader's choice and the list of read files from the caches of earlier editions.
  * @param {Cache} store
  * @param {Record<string, string>} files
  */
@@ -210,7 +210,7 @@ async function install() {
  * Open pages of this book that are not known to be of an edition.
  * @param {string} edition
  */
-async function strangersTo(edition) {
+async function pagesOfOtherEditions(edition) {
   const names = (await caches.keys()).filter((name) => name.startsWith(FAMILY));
   const open = (await worker.clients.matchAll({ includeUncontrolled: true, type: 'window' })).filter(({ url }) => pageAt(url));
   const strangers = [];
@@ -226,21 +226,21 @@ async function activate() {
   const earlier = (await caches.keys()).filter((name) => name.startsWith(FAMILY) && name !== STORE);
   if (list && earlier.length > 0) {
     const store = await caches.open(STORE);
-    // The reader has read on since this one was installed.
+    // The reader may have read on since this service worker was installed.
     await takeOver(store, list.files);
-    for (const id of await strangersTo(BOOK.version)) await store.put(markOf(id), new Response(EARLIER));
+    for (const id of await pagesOfOtherEditions(BOOK.version)) await store.put(markOf(id), new Response(EARLIER));
   }
   for (const name of earlier) await caches.delete(name);
   await worker.clients.claim();
 }
 
-/** Edition that the server has, null when it does not say. */
+/** The server's edition, null when it does not answer. */
 async function editionOnServer() {
   try {
-    const signal = /** @type {AbortSignals} */ (AbortSignal).timeout(PATIENCE);
+    const signal = /** @type {AbortSignals} */ (AbortSignal).timeout(EDITION_TIMEOUT);
     const answer = await fetch(addressOf('sw.js'), { cache: 'no-cache', signal });
     if (answer.status === 404 || answer.status === 410) return GONE;
-    // Whoever answers with something else has another page there now.
+    // Any other content means that another page has replaced the book.
     return answer.ok ? /"version":"([0-9a-f]+)"/.exec(await answer.text())?.[1] ?? OTHER : null;
   } catch {
     return null;
@@ -248,7 +248,7 @@ async function editionOnServer() {
 }
 
 /**
- * A page of the book. The server's edition goes before the one that is here.
+ * Responds with the book's page. The server's edition takes precedence over the cached one.
  * @param {FetchEvent} event
  * @param {string} page
  */
@@ -257,7 +257,7 @@ async function open(event, page) {
   const client = event.resultingClientId ?? '';
   const mark = markOf(client);
   if (edition && edition !== BOOK.version) {
-    if (edition === GONE && (await strangersTo(GONE)).length === 0) await forget();
+    if (edition === GONE && (await pagesOfOtherEditions(GONE)).length === 0) await forget();
     else {
       await (await caches.open(STORE)).put(mark, new Response(edition));
       worker.registration.update().catch(() => {});
@@ -268,7 +268,7 @@ async function open(event, page) {
   return serve(event, page, client);
 }
 
-/** The book went away, or one without this script took its place. */
+/** Unregisters: the book was removed, or replaced by one without a service worker. */
 async function forget() {
   await worker.registration.unregister();
   for (const name of await caches.keys()) {
@@ -277,8 +277,8 @@ async function forget() {
 }
 
 /**
- * The other edition that an open page has, undefined for one of this edition. Where the browser does not
- * say which page it opens, all are taken for the one that was opened last.
+ * The mark of an open page of another edition, undefined for one of this edition. Where the browser does not report the
+ * page's id, the page opened last counts for all.
  * @param {string} client
  */
 async function otherEditionOf(client) {
@@ -286,7 +286,7 @@ async function otherEditionOf(client) {
 }
 
 /**
- * A file of the book.
+ * Responds with a file of the book.
  * @param {FetchEvent} event
  * @param {string} path
  * @param {string} client page that it is for
@@ -312,7 +312,7 @@ async function serve(event, path, client) {
 }
 
 /**
- * A file that is not what this edition has there.
+ * Handles a file that does not match this edition's digest.
  * @param {string} client
  * @param {string} path
  * @param {string} digest
@@ -320,18 +320,18 @@ async function serve(event, path, client) {
  */
 async function answerOther(client, path, digest, answer) {
   const store = await caches.open(STORE);
-  // Some servers give browsers another form of a picture than they give to this script.
+  // Some servers send images to browsers in another format than to scripts.
   if (await fetchInto(store, path, digest, 'high')) return await kept(addressOf(path)) ?? answer;
   const pictures = SCOPE + 'files/page/';
   const altered = !(await store.keys()).some(({ url }) => url.startsWith(pictures));
-  // A server that changes every file on its way still has this edition.
+  // A server that alters every image still has this edition.
   if (altered && await editionOnServer() === BOOK.version) return answer;
   worker.registration.update().catch(() => {});
   return refuse(client);
 }
 
 /**
- * Rather none than a file of another edition.
+ * Fails: no file is better than one of another edition.
  * @param {string} client
  */
 function refuse(client) {
@@ -348,7 +348,7 @@ async function tell(client, news) {
 }
 
 /**
- * Files that a reader has seen before this script was there to keep them.
+ * Caches files that were loaded before the service worker was active.
  * @param {Cache} store
  * @param {string[]} addresses
  */
@@ -360,7 +360,7 @@ async function keepSeen(store, addresses) {
 }
 
 /**
- * What is wanted of the rest of the book, and how much of it is there.
+ * Which of the other files are wanted, and how many of them are cached.
  * @param {Cache} store
  */
 async function stateOf(store) {
@@ -377,9 +377,9 @@ async function stateOf(store) {
 }
 
 /**
- * Fetches some more of what is wanted.
+ * Fetches some more of the wanted files.
  * @param {Cache} store
- * @returns {Promise<boolean>} whether all of it came
+ * @returns {Promise<boolean>} whether all of them succeeded
  */
 async function fetchAhead(store) {
   const { rest } = await listNeeded();
@@ -389,7 +389,7 @@ async function fetchAhead(store) {
 }
 
 /**
- * Notes what the reader wants kept. Nothing but what the book opens with stays of one that is not to be.
+ * Stores the reader's choice. When the book is no longer wanted, only the files needed to open it stay cached.
  * @param {Cache} store
  * @param {'whole' | 'read'} wish
  */
@@ -401,7 +401,7 @@ async function note(store, wish) {
 }
 
 /**
- * What the book's page asks for; the answer is the state afterwards, null for a page of another edition.
+ * Handles a message of the book's page; responds with the state afterwards, null for a page of another edition.
  * @param {{does: string, seen?: string[], wish?: 'whole' | 'read'}} message
  * @param {string} client
  */
@@ -420,7 +420,7 @@ worker.addEventListener('install', (event) => event.waitUntil(install()));
 worker.addEventListener('activate', (event) => event.waitUntil(activate()));
 worker.addEventListener('fetch', (event) => {
   const { request } = event;
-  // Sounds are asked for in parts; the browser does that better alone.
+  // Sounds are requested in ranges, which are left to the browser.
   const path = request.method === 'GET' && !request.headers.has('range') ? pathOf(request.url) : null;
   if (path === null) return;
   const page = request.mode === 'navigate' ? pageAt(request.url) : undefined;

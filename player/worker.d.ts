@@ -1,4 +1,4 @@
-// Nothing but types: what sw.js uses and the type checker does not find in it.
+// Types only: globals of sw.js that the type checker does not know.
 
 /** Which book this is; the publisher writes it. */
 declare const BOOK: { page: string; version: string };

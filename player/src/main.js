@@ -1,10 +1,10 @@
-import { dress } from './book/backdrop.js';
+import { applyLook } from './book/backdrop.js';
 import { Book } from './book/book.js';
 import { loadConfiguration } from './book/config.js';
 import { part } from './book/dom.js';
 import { fullLabel, labelOf } from './book/labels.js';
-import { bringIn } from './book/opening.js';
-import { learn, say, sayEverywhere } from './book/words.js';
+import { playEntrance } from './book/opening.js';
+import { learn, say, setTexts } from './book/words.js';
 import { Turner } from './turning/turner.js';
 import { Gestures } from './controls/gestures.js';
 import { wireKeys } from './controls/keys.js';
@@ -18,20 +18,20 @@ import { ZoomGestures } from './controls/zoomgestures.js';
 import { Drawer } from './panels/drawer.js';
 import { Helping } from './panels/helping.js';
 import { Menu } from './panels/menu.js';
-import { tellReader } from './panels/message.js';
+import { showFailure } from './panels/message.js';
 import { Printing } from './panels/printing.js';
 import { Sharing } from './panels/sharing.js';
 import { Sheets } from './panels/sheets.js';
 import { Toast } from './panels/toast.js';
 
 /**
- * What other scripts add to the book. Each is called with the configuration before any picture is
- * loaded, and may give what is to be called once the controls are there.
+ * Extensions by other scripts. Each is called with the configuration before any page image is requested, and may return
+ * a function to call once the controls have been created.
  */
 const extensions = window.folveroExtensions ?? [];
 
 /**
- * What is announced to readers who do not see the pages.
+ * What screen readers announce.
  * @param {number[]} pages
  * @param {import('./book/config.js').BookConfig} config
  */
@@ -46,14 +46,14 @@ function announcement(pages, config) {
  * @param {Turner} turner
  * @param {Drawer} drawer
  * @param {() => number} page
- * @returns {() => void} lays everything out anew where the room for the book has changed
+ * @returns {() => void} lays everything out again when the space for the book has changed
  */
 function followWindow(root, turner, drawer, page) {
   const { book } = turner;
   let size = '';
   const fit = () => {
     const now = [root.clientWidth, root.clientHeight, book.beside].join(' ');
-    // Observers report once without a change, which must not undo a turn that is under way.
+    // Observers fire once without a change, which must not cancel a turn in progress.
     if (now === size) return;
     size = now;
     turner.settle();
@@ -68,7 +68,7 @@ function followWindow(root, turner, drawer, page) {
 }
 
 /**
- * Puts the controls around the book.
+ * Creates the controls around the book and connects them.
  * @param {HTMLElement} root
  * @param {Turner} turner
  * @param {Sounds} sounds
@@ -127,7 +127,7 @@ function addControls(root, turner, sounds) {
 async function openBook(root) {
   const config = await loadConfiguration();
   const additions = await Promise.all(extensions.map((extend) => extend({ root, config, say, learn })));
-  dress(root, config);
+  applyLook(root, config);
   const book = new Book(config, root);
   await book.measure();
   const turner = new Turner(book, /** @type {HTMLCanvasElement} */ (part(root, '.leaf')));
@@ -155,7 +155,7 @@ async function openBook(root) {
   await Promise.all(inView.map((shown) => book.images.get(shown).settled));
   root.dataset.state = 'ready';
   part(root, '.live').textContent = announcement(inView, config);
-  bringIn(book.element, config.initialShow);
+  playEntrance(book.element, config.initialShow);
   if (config.autoPlay) slideshow.run(true);
   if (left > 1) {
     toast.show(say('wasOn', labelOf(config, left)), say('startOver'), () => turner.go(0));
@@ -164,7 +164,7 @@ async function openBook(root) {
 }
 
 /**
- * State of the book for whoever embeds or tests it.
+ * Exposes the state of the book to pages that embed it and to tests.
  * @param {Book} book
  * @param {Turner} turner
  * @param {import('./player.js').Controls} controls
@@ -188,6 +188,6 @@ function expose(book, turner, { drawer, sheets }) {
 
 const root = /** @type {HTMLElement} */ (document.getElementById('folvero'));
 learn(PAGE_TEXTS);
-sayEverywhere(root);
+setTexts(root);
 part(root, '.book-title').textContent = document.title;
-openBook(root).catch((error) => tellReader(root, error));
+openBook(root).catch((error) => showFailure(root, error));

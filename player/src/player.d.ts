@@ -1,4 +1,4 @@
-// What the player gives to the scripts beside it: those of web books. Nothing but types.
+// Types only: what the player passes to extensions, such as the part for web books.
 
 import type english from '../texts/en.json';
 import type { Book } from './book/book.js';
@@ -13,10 +13,10 @@ import type { Drawer } from './panels/drawer.js';
 import type { Sheets } from './panels/sheets.js';
 import type { Toast } from './panels/toast.js';
 
-/** Words of the page's own and those that a web book adds. */
+/** Names of all texts, those of web books included. */
 export type AnyWord = Word | keyof typeof english.web | keyof typeof english.offline;
 
-/** What is there before any picture is loaded. */
+/** What is there before any page image is requested. */
 export interface Beginning {
   root: HTMLElement;
   /** May be changed until the book is laid out. */
@@ -37,11 +37,11 @@ export interface Controls {
   toast: Toast;
 }
 
-/** What is added to it once the controls are there. */
+/** What is there once the controls have been created. */
 export interface Parts extends Controls {
   book: Book;
   turner: Turner;
-  /** Lays everything out anew where the room for the book has changed. */
+  /** Lays everything out again when the space for the book has changed. */
   relayout: () => void;
 }
 
@@ -51,5 +51,5 @@ export type Say = Player['say'];
 
 type Addition = ((parts: Parts) => void) | undefined;
 
-/** What another script adds to the book: called with the beginning, and what that gives with the rest. */
+/** Called before the book is laid out; the function that it returns is called once the controls are there. */
 export type Extension = (beginning: Beginning) => Addition | Promise<Addition>;

@@ -5,8 +5,8 @@ const LOCK = '<path d="M-17-6h34a4 4 0 0 1 4 4v24a4 4 0 0 1-4 4h-34a4 4 0 0 1-4-
   + 'M-11-6v-8a11 11 0 0 1 22 0v8M0 7v7"/>';
 
 /**
- * Gives the pages that a preview leaves out pictures that tell so. The player then turns, prints and
- * enlarges them as it does any other.
+ * Replaces the images of pages that a preview omits by one that says so. The player then turns, prints and zooms them
+ * as any other page.
  * @param {BookConfig} config
  * @param {Facts} facts
  * @param {string} text

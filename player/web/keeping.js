@@ -2,7 +2,7 @@ import { make, part } from '../src/book/dom.js';
 import { Panel } from '../src/panels/panel.js';
 import { icon } from './icons.js';
 
-/** The panel in which readers keep the whole book for reading without a connection. */
+/** The panel in which readers save the whole book for reading offline. */
 export class Keeping {
   /**
    * @param {import('../src/player.js').Player} player
@@ -38,7 +38,7 @@ export class Keeping {
     this.toast = toast;
     this.images = book.images;
     this.layers = layers;
-    /** Whether pages are missing for want of a connection. */
+    /** Whether pages are missing because there is no connection. */
     this.alone = false;
     layers.followers.push(() => this.#look());
     window.addEventListener('online', () => {
@@ -62,7 +62,7 @@ export class Keeping {
     return button;
   }
 
-  /** Shows how much of the book is kept. */
+  /** Shows how much of the book is saved. */
   #show() {
     const { say, offline, button } = this;
     const { state, busy, unable } = offline;
@@ -87,7 +87,7 @@ export class Keeping {
     this.#holdFocus();
   }
 
-  /** The focus stays in the panel when the button that had it goes: keys pressed elsewhere are the book's. */
+  /** Keeps the focus in the panel when the focused button is hidden: elsewhere, keys would turn pages. */
   #holdFocus() {
     const { dialog } = this.panel;
     const active = /** @type {HTMLElement} */ (document.activeElement);
@@ -97,7 +97,7 @@ export class Keeping {
   }
 
   /**
-   * Passes on what the service worker has to tell about files that can't be had.
+   * Shows what the service worker reports about files that it can't provide.
    * @param {MessageEvent} message
    */
   hear({ data }) {
@@ -107,7 +107,7 @@ export class Keeping {
     this.#look();
   }
 
-  /** Pages that are only fetched ahead are nothing to the reader yet. */
+  /** Shows a note when a page in view is missing; those that are only prefetched do not matter yet. */
   #look() {
     const { say, layers, toast } = this;
     layers.inView.forEach(async (page) => {

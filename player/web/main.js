@@ -17,14 +17,14 @@ import { addTextLayer } from './textlayer.js';
 const single = SingleFile.here ? new SingleFile() : null;
 const files = new DataFiles(single);
 const asked = files.load('web/book');
-// Whoever waits for it deals with a failure; until then it is nobody's.
+// The failure is handled where it is awaited; this avoids reporting it as unhandled.
 asked.catch(() => {});
 
 /**
  * Makes a button for the bar.
  * @param {'contents' | 'search' | 'keep'} name
  * @param {string} key
- * @param {string} fold place in the order in which the bar's buttons go into its menu
+ * @param {string} fold position in the order in which buttons move from the bar to its menu
  * @param {import('../src/player.js').Say} say
  */
 function barButton(name, key, fold, say) {
@@ -36,7 +36,8 @@ function barButton(name, key, fold, say) {
 }
 
 /**
- * The first thing that is reached by key, for whom pages that turn are no help; unseen until then.
+ * Adds a link to the plain text, the first in the tab order and hidden until focused: for readers whom a page-flip
+ * book does not help.
  * @param {HTMLElement} root
  * @param {string} address
  * @param {string} words
@@ -47,13 +48,13 @@ function addTextLink(root, address, words) {
   root.prepend(link);
 }
 
-/** Whether the browser keeps books: over https, and from this machine. */
+/** Whether the browser has service workers here: over https, and from this machine. */
 function mayKeep() {
   return window.isSecureContext && /^https?:$/.test(location.protocol) && 'serviceWorker' in navigator;
 }
 
 /**
- * Adds keeping the book for reading without a connection, which is a script of its own.
+ * Adds reading offline, by a script of its own that is loaded after the first pages.
  * @param {import('../src/player.js').Player} player
  * @param {Layers} layers
  */
@@ -77,18 +78,18 @@ function addKeeping(player, layers) {
   let made = null;
   const load = () => {
     made ??= begin();
-    // Asked again it is loaded again.
+    // The next call tries again.
     made.catch(() => { made = null; });
     return made;
   };
-  // Nothing of this may be in the way of the first pages.
+  // None of this may delay the first pages.
   const observer = new MutationObserver(() => {
     if (root.dataset.state !== 'ready') return;
     observer.disconnect();
     load();
   });
   observer.observe(root, { attributes: true, attributeFilter: ['data-state'] });
-  // Without a connection the page around a frame isn't there either.
+  // In a frame: offline, the page around it is missing anyway.
   if (window.parent !== window) return;
   commands.keep = () => load().then((keeping) => keeping.open(), () => {});
   toolbar.add(button, 'print');
@@ -108,7 +109,7 @@ function addToBook(player, facts) {
   gestures.answersTap = (event) => selecting.answers || links.followAt(event);
   new Sharper(player, layers);
   const room = new SideRoom(player);
-  // Where the bar is short of room, the search is worth more than the number of pages.
+  // Where the bar is narrow, the search is worth more than the page count.
   part(toolbar.bar, '.of').dataset.fold = '7.2';
   if (facts.outline.length > 0) {
     const button = barButton('contents', 'C', '7.4', say);
@@ -127,7 +128,7 @@ function addToBook(player, facts) {
   if (facts.labels) toolbar.box.inputMode = 'text';
   layers.followers.push(() => {
     const idle = window.requestIdleCallback ?? ((/** @type {() => void} */ act) => setTimeout(act, 60));
-    // The words of the next pages are there when they are turned to.
+    // Prefetches the words of the next pages.
     idle(() => book.views.pagesOf(book.views.clamp(turner.current + 1)).forEach((page) => texts.get(page)));
   });
   layers.update();
@@ -140,7 +141,7 @@ window.folveroExtensions.push(async (beginning) => {
   learn(WEB_TEXTS);
   await single?.complete;
   const facts = await asked.then((raw) => new Facts(raw, config.pages.length)).catch(() => null);
-  // Without them the book is still one to turn.
+  // Without them the book still works as a classic one.
   if (!facts) return undefined;
   config.labels = facts.labels;
   const closed = closePages(config, facts, say('notOpen'));

@@ -1,33 +1,33 @@
-/** Milliseconds without a turn after which more of the book is fetched. */
+/** Milliseconds without a turn before more of the book is fetched. */
 const REST = 2000;
 
 /**
- * @typedef {object} KeptState what the service worker has of the book
+ * @typedef {object} KeptState how much of the book the service worker has cached
  * @property {number} bytes of the whole book
- * @property {boolean} whole whether all of it is to be kept
- * @property {number} share of its pages that is there, 0 to 1
- * @property {number} left files that are not there
- * @property {boolean} more whether any of these are to be kept
- * @property {boolean} failed whether the last of them did not come
+ * @property {boolean} whole whether all of it is wanted
+ * @property {number} share of its pages that is cached, 0 to 1
+ * @property {number} left files that are not cached
+ * @property {boolean} more whether any of these are wanted
+ * @property {boolean} failed whether the last fetch failed
  */
 
 /**
- * What is read stays to be read without a connection, where browsers allow that: over https, and from
- * this machine. So does the whole book where the reader asked for it, or where it is small.
+ * Makes a book available offline, where browsers allow that: the pages that were read, and the whole book where the
+ * reader asked for it or where it is small.
  */
 export class Offline {
   /** @param {import('./layers.js').Layers} layers */
   constructor(layers) {
     this.lastTurn = Date.now();
-    /** How often fetching has begun: only the last round goes on. */
+    /** Number of the current round of fetching; earlier ones stop. */
     this.round = 0;
     /** Whether files are being fetched. */
     this.busy = false;
-    /** Whether the browser keeps no books, by a setting or in a frame. */
+    /** Whether the browser refuses, by a setting or in a frame. */
     this.unable = false;
-    /** @type {KeptState | null} none while it is not known */
+    /** @type {KeptState | null} null until the service worker has answered */
     this.state = null;
-    /** Told of changes of what stands above. */
+    /** Called when any of these change. */
     this.onChange = () => {};
     /** @type {Promise<void> | null} */
     this.begun = null;
@@ -35,10 +35,10 @@ export class Offline {
     this.#quiet().then(() => this.begin());
   }
 
-  /** Takes up keeping the book, once. */
+  /** Registers the service worker, once. */
   begin() {
     this.begun ??= this.#register().catch(() => {
-      // Whoever can't have it reads as ever.
+      // The book is read online as usual.
       this.unable = true;
       this.onChange();
     });
@@ -46,7 +46,7 @@ export class Offline {
   }
 
   /**
-   * Does what the reader wants: the whole book at once, or none of it but what is read from now on.
+   * Saves the whole book at once, or removes it and caches only what is read from now on.
    * @param {'whole' | 'read'} wish
    */
   async want(wish) {
@@ -63,7 +63,7 @@ export class Offline {
   async #register() {
     this.#addManifest();
     const { serviceWorker } = navigator;
-    // A worker of another edition takes the place of the one that was asked, and has less.
+    // The service worker of another edition has taken over, and has cached less.
     serviceWorker.addEventListener('controllerchange', () => this.#goOn());
     const registration = await serviceWorker.register('sw.js');
     await Promise.race([serviceWorker.ready, failureOf(registration)]);
@@ -79,7 +79,7 @@ export class Offline {
     if (round === this.round && !navigator.connection?.saveData) await this.#fetchAhead(false);
   }
 
-  /** @param {boolean} atOnce and not only while the reader stays with a page */
+  /** @param {boolean} atOnce without waiting until the reader stays with a page */
   async #fetchAhead(atOnce) {
     const round = ++this.round;
     while (this.state?.more) {
@@ -94,7 +94,7 @@ export class Offline {
     this.onChange();
   }
 
-  /** From disk browsers complain about it. */
+  /** Added by script: for pages opened from disk browsers report an error. */
   #addManifest() {
     const link = document.createElement('link');
     link.rel = 'manifest';
@@ -102,7 +102,7 @@ export class Offline {
     document.head.append(link);
   }
 
-  /** Kept when the reader stays with a page. */
+  /** Resolves when the reader stays with a page. */
   async #quiet() {
     for (;;) {
       const left = this.lastTurn + REST - Date.now();
@@ -123,8 +123,8 @@ export class Offline {
 }
 
 /**
- * Never kept, and broken where no worker comes to work: the book is just being published, or its server
- * changes files on their way.
+ * Never resolves; rejects where the service worker could not be installed: the book is being published at this moment,
+ * or its server alters files.
  * @param {ServiceWorkerRegistration} registration
  */
 function failureOf(registration) {

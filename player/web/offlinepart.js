@@ -1,4 +1,4 @@
-// A script of its own, files/web/offline.js: books on disk and books in one file never need it, others not at once.
+// Entry point of files/web/offline.js, which only books on a server need, and not at once.
 
 import { Keeping } from './keeping.js';
 import { Offline } from './offline.js';

@@ -17,7 +17,7 @@ const STRONG_LTR = /[\p{L}\p{N}]/u;
 
 /** Words and links of one page, in tenths of a point from its upper left corner. */
 export class PageText {
-  /** @param {unknown} data as the page's file has it */
+  /** @param {unknown} data of the page's file */
   constructor(data) {
     const raw = fieldsOf(data);
     const [width, height] = listOf(raw.size).map(Number);
@@ -28,13 +28,13 @@ export class PageText {
     this.links = listOf(raw.links).filter((link) => Array.isArray(link)).map(linkOf);
   }
 
-  /** All words of the page as the text for searching has them. */
+  /** All words of the page, as in the text for searching. */
   get string() {
     return this.lines.map(({ words }) => words.map(({ text }) => text).join('')).join('\n');
   }
 
   /**
-   * Places of a part of the page's string, one for each line that it touches.
+   * Boxes of a part of the page's string, one for each line.
    * @param {number} from
    * @param {number} to
    * @returns {{box: Box, turn: number}[]}
@@ -124,7 +124,7 @@ export function boxIn(line, word, from, to) {
 }
 
 /**
- * How far a place is from a box; 0 inside.
+ * Distance of a point from a box; 0 inside.
  * @param {Box} box
  * @param {number} x
  * @param {number} y

@@ -3,10 +3,10 @@ import { PageText } from './pagetext.js';
 /** @typedef {import('./data.js').DataFiles} DataFiles */
 /** @typedef {import('./facts.js').Facts} Facts */
 
-/** Pages whose text is kept, whatever the length of the book. */
+/** Cached pages. */
 const MOST_TEXTS = 12;
 
-/** Loads the text of pages and keeps that of the last ones. */
+/** Loads the text of pages and caches that of the last ones. */
 export class PageTexts {
   /**
    * @param {DataFiles} files
@@ -38,7 +38,7 @@ export class PageTexts {
     try {
       return new PageText(await this.files.load('text/' + this.facts.numberOf(position)));
     } catch {
-      // The page is read without its words; shown again it asks for them again.
+      // The page is shown without its words; the next time they are requested again.
       this.kept.delete(position);
       return null;
     }

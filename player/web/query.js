@@ -1,9 +1,8 @@
 import { fold } from './foldtext.js';
 
 /**
- * What the reader searches. Words are looked for as they stand, one after the other; where the book
- * has them nowhere so, the pages that have all of them are found. In quotation marks they are looked
- * for as they stand only.
+ * A search query. It is searched for as a phrase first; if the book does not contain that, as words that must all be on
+ * the page. In quotation marks it is searched for as a phrase only.
  */
 export class Query {
   /** @param {string} text as it was typed */
@@ -13,21 +12,20 @@ export class Query {
     const whole = (quoted ? quoted[1] : typed).trim();
     const words = [...new Set(whole.split(' ').filter(Boolean))];
     this.empty = whole === '';
-    /** Parts that are looked for, the longest first. */
+    /** Terms to find, the longest first. */
     this.parts = this.empty ? [] : [whole];
-    /** @type {string[]} parts to look for when the first one is nowhere */
+    /** @type {string[]} terms to find instead when the phrase has no hits */
     this.words = quoted || words.length < 2 ? [] : words.sort((a, b) => b.length - a.length);
   }
 
-  /** Looks for the single words from now on. */
+  /** Searches for the single words from now on. */
   widen() {
     this.parts = this.words;
     this.words = [];
   }
 
   /**
-   * Places of the parts in a folded text, in its order and not over one another; none unless it has
-   * all of them.
+   * Matches in a folded text, in its order and without overlaps; none unless all terms match.
    * @param {string} folded
    * @returns {{at: number, length: number}[]}
    */

@@ -3,13 +3,13 @@ import { make } from '../src/book/dom.js';
 /** @typedef {import('./searchtext.js').Hit} Hit */
 /** @typedef {import('./searchtext.js').SearchText} SearchText */
 
-/** Results that are brought into the document at a time. */
+/** Results inserted into the document at a time. */
 const AT_A_TIME = 16;
 
 /** How near to its end the list is scrolled when more results come, in CSS pixels. */
 const NEAR_END = 600;
 
-/** The list of what was found, under the pages where it was found. */
+/** The list of hits, grouped by page. */
 export class Results {
   /**
    * @param {HTMLElement} element
@@ -55,12 +55,12 @@ export class Results {
     this.element.scrollTop = 0;
     if (hits.length === 0) return;
     this.#more();
-    // What is seen first is there in the frame in which it was asked for, the rest follows.
+    // The first results appear in this frame, the rest of the visible ones in the next.
     requestAnimationFrame(() => this.#fill());
   }
 
   /**
-   * Marks the result that is shown in the book, none below 0.
+   * Marks the result that is shown in the book; a negative index marks none.
    * @param {number} index
    */
   mark(index) {

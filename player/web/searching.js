@@ -8,7 +8,7 @@ import { SidePanel } from './side.js';
 
 /** @typedef {import('./searchtext.js').Answer} Answer */
 
-/** The panel for searching in the book, and the strip that stays of it where it would hide the book. */
+/** The search panel, and the strip that replaces it where it would cover the book. */
 export class Searching {
   /**
    * @param {import('../src/player.js').Player} player
@@ -33,9 +33,9 @@ export class Searching {
     this.loading = null;
     /** @type {Answer | null} */
     this.answer = null;
-    /** Hit that is shown, -1 for none yet. */
+    /** Index of the current hit, -1 for none. */
     this.index = -1;
-    /** Whether the strip stays when the panel goes. */
+    /** Whether the strip is shown when the panel closes. */
     this.stays = false;
     this.box = /** @type {HTMLInputElement} */ (make('input', 'search-box'));
     this.status = make('p', 'search-status');
@@ -115,7 +115,7 @@ export class Searching {
     else this.hits.show(null, null);
   }
 
-  /** Takes the marks and the strip away. */
+  /** Removes the marks and the strip. */
   end() {
     this.strip.hidden = true;
     this.hits.show(null, null);
@@ -152,7 +152,7 @@ export class Searching {
     this.#tell();
   }
 
-  /** Tells how much was found, and which of it is shown. */
+  /** Shows the number of hits and which one is current. */
   #tell() {
     const { hits, more, query } = /** @type {Answer} */ (this.answer);
     /** @param {number} value */
@@ -170,7 +170,7 @@ export class Searching {
   }
 
   /**
-   * Shows the hit after or before the one that is shown; the first time the next one from the pages in view.
+   * Shows the next or previous hit; the first time, the next one from the pages in view on.
    * @param {1 | -1} way
    */
   step(way) {
@@ -196,7 +196,7 @@ export class Searching {
   }
 
   /**
-   * The reader wants to see a result: where the panel hides the book, it makes room.
+   * Shows a hit that the reader chose; a panel that covers the book closes.
    * @param {number} index
    */
   #choose(index) {
@@ -215,7 +215,7 @@ export class Searching {
   }
 
   /**
-   * The browser's own search would find in the pages in view only; asked a second time it is left to it.
+   * Ctrl+F: the browser's own search would find only what is in view. A second Ctrl+F is left to the browser.
    * @param {KeyboardEvent} event
    */
   #key(event) {

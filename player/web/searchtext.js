@@ -5,17 +5,17 @@ import { Query } from './query.js';
 /** @typedef {{position: number, ordinal: number, at: number, length: number}} Hit at: in the page's folded text */
 /** @typedef {{query: Query, hits: Hit[], more: boolean}} Answer */
 
-/** Hits that are listed; nobody reads on beyond them. */
+/** Maximum number of hits listed. */
 const MOST_HITS = 5000;
 
-/** Time for which texts are folded without a pause, in milliseconds. */
+/** Time slice for folding texts, in milliseconds. */
 const SLICE_MS = 8;
 
-/** Characters that a hit is shown with, before and behind it. */
+/** Characters of context before and after a hit. */
 const BEFORE = 30;
 const BEHIND = 60;
 
-/** All text of the book, made ready for searching while the reader types. */
+/** The text of the book, folded for searching in slices while the reader types. */
 export class SearchText {
   /** @param {unknown} raw texts by position, as the file has them */
   constructor(raw) {
@@ -36,7 +36,7 @@ export class SearchText {
   }
 
   /**
-   * Finds in all that is ready.
+   * Searches the texts folded so far.
    * @param {string} typed
    * @returns {Answer}
    */
@@ -68,7 +68,7 @@ export class SearchText {
   }
 
   /**
-   * What stands around a hit.
+   * A hit and its context.
    * @param {Hit} hit
    * @returns {[before: string, hit: string, behind: string]}
    */
@@ -84,7 +84,7 @@ export class SearchText {
   }
 }
 
-/** Lets the page do what it has to do first. */
+/** Yields to the event loop. */
 function pause() {
   return new Promise((resolve) => {
     if (window.requestIdleCallback) window.requestIdleCallback(() => resolve(undefined), { timeout: 60 });
@@ -115,7 +115,7 @@ function wordEnd(source, wanted, least) {
 }
 
 /**
- * Does not part what is one character.
+ * Avoids splitting a surrogate pair.
  * @param {string} source
  * @param {number} at
  */

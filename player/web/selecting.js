@@ -5,14 +5,14 @@ import { boxIn, distance, isUpright, runsBack } from './pagetext.js';
 /** @typedef {import('./layers.js').Layers} Layers */
 /** @typedef {{node: Node, offset: number}} Caret */
 
-/** Way after which a press on a word marks text instead of being a click. */
+/** Distance after which a press on a word selects text instead of being a click. */
 const MARK_START = 4;
 
-/** Way up to which a finger rests, and the time after which a word under it is marked unless the browser has done so. */
+/** Maximum movement and minimum time of a long press, which selects a word unless the browser has done so. */
 const LONG_PRESS_WAY = 8;
 const LONG_PRESS_MS = 700;
 
-/** How far beside words a mouse and a finger still mean them, in CSS pixels: lines leave a little room between them. */
+/** Distance at which a mouse and a finger still hit words, in CSS pixels: it bridges the gaps between lines. */
 const MOUSE_REACH = 4;
 const FINGER_REACH = 12;
 
@@ -20,9 +20,9 @@ const FINGER_REACH = 12;
 const BESIDE = 0.4;
 
 /**
- * Marks text with the mouse, a word by a double click and a line by a third, and with a finger that rests where the
- * browser does not. The words' own places say what lies under the pointer: what browsers make of words that are placed
- * one by one leaps to the ends of the page between the lines.
+ * Selects text with the mouse, a word by a double click and a line by a triple click, and by a long press where the
+ * browser does not. Hit testing uses the boxes of the words: between lines of words placed one by one, the browser's
+ * own selection jumps to the ends of the page.
  */
 export class Selecting {
   /**
@@ -36,7 +36,7 @@ export class Selecting {
     gestures.textAt = (event) => this.#textAt(event);
     /** @type {{id: number, x: number, y: number, anchor: Caret, marks: boolean, timer: number} | null} */
     this.press = null;
-    /** Whether the press under way is about what is marked and means nothing else. */
+    /** Whether the current press only changes or clears the selection. */
     this.answers = false;
     /** Whether the last press was a mouse's. */
     this.byMouse = false;
@@ -50,7 +50,7 @@ export class Selecting {
     document.addEventListener('copy', (event) => this.#copy(event));
   }
 
-  /** Whether text of the pages is marked. */
+  /** Whether text of the pages is selected. */
   get marked() {
     const selection = getSelection();
     return Boolean(selection && !selection.isCollapsed && wordsIn(selection, this.layers).length);
@@ -61,14 +61,14 @@ export class Selecting {
     const word = wordAt(event.target);
     if (event.button !== 0 || !word) return;
     event.preventDefault();
-    // Taps come as clicks too, and two of them enlarge.
+    // Taps also arrive as clicks, and a double tap zooms.
     if (this.byMouse && event.detail > 1) this.#markWhole(word, event);
-    // What the browser would have done beside marking.
+    // The browser would have moved the focus beside selecting.
     if (document.activeElement instanceof HTMLElement) document.activeElement.blur();
   }
 
   /**
-   * Marks what a double or a triple click means.
+   * Selects a word or a line, for a double or a triple click.
    * @param {Element} word
    * @param {MouseEvent} event
    */
@@ -103,7 +103,7 @@ export class Selecting {
   #down(event) {
     if (event.button !== 0 || !onStage(event.target)) return;
     this.#letGo();
-    // A second finger means enlarging, however long either rests on a word.
+    // A second finger means zooming, however long either rests on a word.
     if (!event.isPrimary) return;
     const selection = getSelection();
     this.answers = this.marked;
@@ -133,7 +133,7 @@ export class Selecting {
     getSelection()?.setBaseAndExtent(node, 0, node, (node.textContent ?? '').trimEnd().length);
   }
 
-  /** From here on the press turns and moves nothing. */
+  /** From here on the press selects text and does nothing else. */
   #take() {
     this.gestures.drop();
     if (this.press) this.press.marks = true;
@@ -166,7 +166,7 @@ export class Selecting {
     if (here) getSelection()?.setBaseAndExtent(press.anchor.node, press.anchor.offset, here.node, here.offset);
   }
 
-  /** Where browsers let a finger that rests on a word mark it, it then turns nothing. */
+  /** Where the browser itself selects a word on a long press, the press must not turn a page. */
   #touched() {
     if (!this.gestures.press || this.answers || this.press?.marks || !this.marked) return;
     this.#letGo();
@@ -174,7 +174,7 @@ export class Selecting {
   }
 
   /**
-   * Place in the text that is nearest to the pointer.
+   * The caret position nearest to the pointer.
    * @param {MouseEvent} event
    * @returns {Caret | null}
    */
@@ -265,7 +265,7 @@ function caretIn(face, clientX, clientY) {
 }
 
 /**
- * The marked parts of words, in reading order.
+ * The selected parts of words, in reading order.
  * @param {Selection} selection
  * @param {Layers} layers
  * @returns {{line: Element | null, part: string}[]}

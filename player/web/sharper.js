@@ -4,13 +4,13 @@ import { fileAddress } from '../src/book/values.js';
 /** @typedef {import('./layers.js').Layers} Layers */
 /** @typedef {'left' | 'right'} Side */
 
-/** So much more than a picture has must be asked for before a finer one is loaded. */
+/** A larger image is loaded when the usual one has to be scaled up by more than this. */
 const ENOUGH = 1.15;
 
-/** Time for which the pages keep still before finer pictures are loaded, in milliseconds. */
+/** Delay after zooming before larger images are loaded, in milliseconds. */
 const REST_MS = 160;
 
-/** Shows finer pictures of the pages in view while they are enlarged beyond what the usual ones hold. */
+/** Shows larger images of the pages in view while they are zoomed beyond the resolution of the usual ones. */
 export class Sharper {
   /**
    * @param {import('../src/player.js').Player} player
@@ -39,7 +39,7 @@ export class Sharper {
 
   #soon() {
     clearTimeout(this.timer);
-    // What is no longer wanted goes at once, what is wanted comes when the pages rest.
+    // Images no longer wanted are removed at once; new ones are loaded when zooming has ended.
     for (const side of this.kept.keys()) {
       if (this.#wanted(side) !== this.kept.get(side)?.position) this.#drop(side);
     }
@@ -54,7 +54,7 @@ export class Sharper {
   }
 
   /**
-   * Page at a side that its usual picture shows too coarsely, 0 when there is none.
+   * The page at a side if its usual image is too coarse, else 0.
    * @param {Side} side
    * @returns {number}
    */
@@ -84,7 +84,7 @@ export class Sharper {
     try {
       await image.decode();
     } catch {
-      // The usual picture stays.
+      // The usual image stays.
       return;
     }
     const slot = part(this.book.element, '.page.' + side);

@@ -1,13 +1,13 @@
 import { make, part } from '../src/book/dom.js';
 import { icon } from './icons.js';
 
-/** Narrowest window in which a panel lies beside the book instead of over it, and over it instead of in its place. */
+/** Minimum window width for a panel beside the book, and for one over it instead of a full-window sheet. */
 const BESIDE_LEAST = 900;
 const OVER_LEAST = 600;
 
 /** @typedef {'beside' | 'over' | 'sheet'} Way how a panel lies to the book */
 
-/** The place at the left where one panel at a time opens. */
+/** The area at the left in which one panel at a time opens. */
 export class SideRoom {
   /** @param {import('../src/player.js').Player} player */
   constructor({ root, book, toolbar, commands, drawer, relayout, say }) {
@@ -62,7 +62,7 @@ export class SideRoom {
     return clientWidth >= OVER_LEAST ? 'over' : 'sheet';
   }
 
-  /** @param {number} beside CSS pixels that the book leaves to the panel */
+  /** @param {number} beside width reserved for the panel, in CSS pixels */
   #make(beside) {
     this.root.style.setProperty('--beside', beside + 'px');
     this.book.beside = beside;
@@ -71,7 +71,7 @@ export class SideRoom {
     this.folding.fit();
   }
 
-  /** The window has changed: an open panel may have to lie otherwise. */
+  /** Reopens an open panel in the way that fits the resized window. */
   #follow() {
     const panel = this.open;
     if (!panel || this.#wayNow() === this.way) return;
@@ -82,7 +82,7 @@ export class SideRoom {
   }
 }
 
-/** A panel of that place: at its head a title and a button to close it. */
+/** A panel of that area, with a title and a button to close it. */
 export class SidePanel {
   /**
    * @param {SideRoom} room
@@ -141,7 +141,7 @@ export class SidePanel {
     if (hadFocus) this.#opener()?.focus({ preventScroll: true });
   }
 
-  /** Closes the panel while another one takes its place. */
+  /** Closes the panel because another one opens. */
   leave() {
     this.dialog.close();
     this.button.setAttribute('aria-expanded', 'false');
@@ -155,7 +155,7 @@ export class SidePanel {
   }
 
   /**
-   * Keys typed here do not turn pages; the one for searching leads from the contents to the search.
+   * Keys typed here do not turn pages; / switches from the contents to the search.
    * @param {KeyboardEvent} event
    */
   #key(event) {

@@ -1,14 +1,14 @@
 import { bytesOf } from '../src/book/base64.js';
 
-/** Addresses of pictures that are kept at a time; what has been loaded needs its address no more. */
+/** Object URLs kept at a time; loaded images no longer need theirs. */
 const MOST_ADDRESSES = 40;
 
-/** Pictures that come and go with the pages; the few others (grounds, sounds) keep their addresses. */
+/** Images of pages; the few other files (backgrounds, sounds) keep their URLs. */
 const PASSING = /^(?:page|thumb|large)\//;
 
-/** The files of a book that is one file: they stand in its page. */
+/** Files of a single-file book, which are embedded in its page. */
 export class SingleFile {
-  /** Whether this book is one: only then the configuration was there before anything was loaded. */
+  /** Whether this is such a book: its page contains the configuration. */
   static get here() {
     return window.folveroConfiguration.here;
   }
@@ -18,7 +18,7 @@ export class SingleFile {
     this.elements = null;
     /** @type {Map<string, string>} addresses by path, the longest unused first */
     this.addresses = new Map();
-    /** @type {Promise<void>} kept when all of the page has been read */
+    /** @type {Promise<void>} resolves when all of the page has been parsed */
     this.complete = document.readyState !== 'loading' ? Promise.resolve()
       : new Promise((resolve) => document.addEventListener('DOMContentLoaded', () => resolve()));
   }
@@ -42,7 +42,7 @@ export class SingleFile {
   }
 
   /**
-   * Address of a picture or a sound, made when it is asked for.
+   * URL of an image or a sound, created on demand.
    * @param {string} path below the book's files
    * @returns {string | undefined} none for what is not in the page
    */

@@ -10,7 +10,7 @@ const MEASURED = 100;
 /** Share of a line's height that letters of its size take. */
 const LETTERS = 0.8;
 
-/** Measured words that are kept; the same ones come again and again. */
+/** Cached measurements; words recur often. */
 const MOST_MEASURED = 4000;
 
 const context = /** @type {CanvasRenderingContext2D} */ (document.createElement('canvas').getContext('2d'));
@@ -30,8 +30,8 @@ function widthOf(text) {
 }
 
 /**
- * Puts a page's words over their pictures: unseen, but real text that can be marked, copied and read out.
- * The layer is as large as the page in tenths of a point and scaled as a whole.
+ * Overlays a page's words as transparent text that can be selected, copied and read aloud. The layer has the page's
+ * size in tenths of a point and is scaled as a whole.
  * @param {Face} face whose text is there
  */
 export function addTextLayer({ box, text }) {

@@ -15,10 +15,10 @@ import { icon } from './icons.js';
 /** Time within which typed letters belong together, in milliseconds. */
 const TYPING_MS = 700;
 
-/** Steps to the right that are shown; deeper ones stand below one another. */
+/** Maximum indentation; deeper levels are not indented further. */
 const MOST_STEPS = 7;
 
-/** The contents as a tree of which one entry is in the tab order. Branches are made when they are opened. */
+/** The contents as an ARIA tree with a roving tab index. Branches are created when they are first opened. */
 export class Tree {
   /**
    * @param {HTMLElement} element that becomes the tree
@@ -34,7 +34,7 @@ export class Tree {
     this.choose = choose;
     this.typed = '';
     this.typedAt = 0;
-    /** Branches made so far, for their names. */
+    /** Number of branches created, for their ids. */
     this.made = 0;
     this.items = entries.map((entry) => itemOf(entry, null));
     /** @type {Item} */
@@ -53,13 +53,13 @@ export class Tree {
     return flat(this.items, () => true);
   }
 
-  /** The entries that can be seen. */
+  /** The visible entries. */
   get visible() {
     return flat(this.items, ({ open }) => open);
   }
 
   /**
-   * Marks the entry in which the reader is; where its branch is folded, the branch.
+   * Marks the reader's current entry, or the branch that contains it where that is collapsed.
    * @param {Item | null} item
    */
   mark(item) {
@@ -86,7 +86,7 @@ export class Tree {
     if (item) this.#activate(item, false);
   }
 
-  /** Scrolls an entry into sight and lets it have the focus. */
+  /** Scrolls the active entry into view and focuses it. */
   focus() {
     this.active.element?.focus({ preventScroll: true });
     this.active.element?.scrollIntoView({ block: 'nearest' });

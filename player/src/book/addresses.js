@@ -1,9 +1,9 @@
-/** What a reader may be led to. Anything else may run a script or reach into the reader's machine. */
+/** Schemes that links may have. Others may run scripts or open local files. */
 const FOLLOWED = ['http:', 'https:', 'mailto:', 'tel:'];
 
 /**
- * Whether a book may lead its reader to an address that stands in it. The browser's own reading of
- * the address decides, which passes over blanks, line breaks and control characters.
+ * Whether a book may link to an address. The URL is parsed as the browser does, which ignores leading blanks, line
+ * breaks and control characters.
  * @param {string} address a whole address, with its scheme
  */
 export function mayFollow(address) {

@@ -27,11 +27,11 @@ const POSITIONS = new Map([
 const SURFACE = 0.94;
 
 /**
- * Gives the book the colours, the pictures and the caption that its maker chose.
+ * Applies colours, backgrounds and caption of the configuration.
  * @param {HTMLElement} root
  * @param {BookConfig} config
  */
-export function dress(root, config) {
+export function applyLook(root, config) {
   paintGround(part(root, '.outer'), config.outer);
   paintGround(part(root, '.inner'), config.inner);
   paintSurface(root, '--bar', config.windowColour);
@@ -43,7 +43,7 @@ export function dress(root, config) {
 }
 
 /**
- * Paints one of the two grounds: its picture over its gradient.
+ * Sets one of the two backgrounds: an image over a gradient.
  * @param {HTMLElement} element
  * @param {Ground} ground
  */
@@ -64,7 +64,7 @@ function paintGround(element, ground) {
 }
 
 /**
- * Colours of bar or drawer, readable whatever colour the book's maker chose.
+ * Sets the colours of bar or drawer so that they are readable whatever colour is configured.
  * @param {HTMLElement} root
  * @param {'--bar' | '--drawer'} name
  * @param {string} colour
@@ -78,7 +78,7 @@ function paintSurface(root, name, colour) {
 }
 
 /**
- * The caption is text, and a link where it is an address.
+ * Sets the caption, as a link where it is an address.
  * @param {HTMLElement} caption
  * @param {string} text
  */

@@ -5,7 +5,7 @@
 export function bytesOf(base64) {
   if (Uint8Array.fromBase64) return Uint8Array.fromBase64(base64);
   const letters = atob(base64);
-  // A book of thousands of pages has a million of them, so no function is called for each.
+  // Not Uint8Array.from: thousands of pages make a million bytes, too many for a call each.
   const bytes = new Uint8Array(letters.length);
   for (let at = 0; at < letters.length; at++) bytes[at] = letters.charCodeAt(at);
   return bytes;

@@ -8,7 +8,7 @@ import { Views } from './views.js';
 /** @typedef {import('./layout.js').Layout} Layout */
 /** @typedef {'left' | 'right'} Side */
 /**
- * The book as it is enlarged: a place of the window that was at p is at level * p + (x, y).
+ * Zoom transform: what was at p in the window is at level * p + (x, y).
  * @typedef {{level: number, x: number, y: number}} ZoomState
  */
 
@@ -18,7 +18,7 @@ const SIDES = ['left', 'right'];
 /** Widest edge of the stack of pages that lies under each side, in CSS pixels. */
 const WIDEST_STACK = 9;
 
-/** The standing pages: what lies on the table while no leaf is in the air. */
+/** The pages in view while no leaf is turning. */
 export class Book {
   /**
    * @param {BookConfig} config
@@ -37,7 +37,7 @@ export class Book {
     this.shown = { left: 0, right: 0 };
     this.drawn = new FaceCache();
     this.shift = 0;
-    /** Room at the left edge of the window that a panel takes, in CSS pixels. */
+    /** Width of an open panel at the left edge of the window, in CSS pixels. */
     this.beside = 0;
     /** @type {ZoomState} */
     this.zoom = { level: 1, x: 0, y: 0 };
@@ -79,7 +79,7 @@ export class Book {
   }
 
   /**
-   * How far the book is moved aside so that a page standing alone is in the middle.
+   * How far the book is shifted to centre a single page.
    * @param {number} view
    */
   shiftFor(view) {
@@ -90,7 +90,7 @@ export class Book {
   }
 
   /**
-   * Where the pages of a view lie in the window when they are not enlarged.
+   * Bounds of a view's pages in the window at zoom level 1.
    * @param {number} view
    */
   boxOf(view) {
@@ -153,7 +153,7 @@ export class Book {
   }
 
   /**
-   * Whether all pictures of a view have arrived.
+   * Whether all images of a view have loaded or failed.
    * @param {number} view
    */
   ready(view) {
@@ -205,7 +205,7 @@ export class Book {
   }
 
   /**
-   * Where a picture of that size lies in a page, in CSS pixels.
+   * Position of an image of that size within a page, in CSS pixels.
    * @param {number} width
    * @param {number} height
    */
@@ -228,7 +228,7 @@ export class Book {
     const slot = /** @type {HTMLElement} */ (this.element.querySelector('.page.' + side));
     const page = this.shown[side];
     slot.hidden = page === 0;
-    // For the styles of what lies around the page; not every browser can select by what is inside.
+    // For styles of surrounding elements: not all browsers support :has().
     this.element.classList.toggle('no-' + side, page === 0);
     slot.dataset.page = String(page);
     if (page === 0) {

@@ -4,7 +4,7 @@ import { cssColour, isYes, numberIn, ownFile } from './values.js';
 
 const CONFIG_KEY = 'zq4mk2pw7rxv1bn8ty';
 
-/** A failure that is told to the reader in words of its own. */
+/** A failure that has a message of its own for the reader. */
 export class BookError extends Error {
   /**
    * @param {'failed' | 'unreachable' | 'incomplete' | 'damaged' | 'empty'} title
@@ -49,7 +49,7 @@ export class BookError extends Error {
  * @property {string[] | null} labels what pages are called, empty texts and none: by their numbers
  */
 
-/** What the top of the page has asked for already. */
+/** What early.js has requested already. */
 const { asked, runScript, here } = window.folveroConfiguration;
 
 /** @returns {Promise<Uint8Array>} the enciphered configuration */
@@ -83,7 +83,7 @@ export async function loadConfiguration() {
       return parseConfiguration(decipher(await source()));
     } catch (error) {
       if (error instanceof BookError) throw error;
-      // Fetching fails with this kind of error only when no server answers.
+      // fetch() rejects with a TypeError only when no server answers.
       if (error instanceof TypeError) answered = false;
     }
   }
@@ -107,7 +107,7 @@ export function parseConfiguration(xml) {
     ? [xml.slice(0, begin) + xml.slice(end + '</Ppts>'.length), xml.slice(begin, end)] : [xml, ''];
   const parsed = new DOMParser().parseFromString(rest, 'application/xml');
   const root = parsed.documentElement;
-  // What stands before a fault is kept beside the note of the fault.
+  // Browsers keep what precedes an XML error beside the error element.
   if (root.nodeName !== 'SlidePowerPoint' || parsed.getElementsByTagName('parsererror').length) {
     throw new BookError('damaged');
   }
@@ -169,7 +169,7 @@ function readGround(text, which, from, to) {
 }
 
 /**
- * Text of the element to which child names lead; empty when there is none.
+ * Text of the element at a path of child names; empty when there is none.
  * @param {Element} root
  * @param {string} path names with blanks between them
  */
@@ -184,7 +184,7 @@ function textAt(root, path) {
 
 const ENTITIES = new Map([['amp', '&'], ['lt', '<'], ['gt', '>'], ['quot', '"'], ['apos', "'"]]);
 
-/** One page of the list, read when it is asked for: a book may have thousands. */
+/** A page of the list, parsed when it is accessed: a book may have thousands. */
 class ListedPage {
   /**
    * @param {string} text the page's part of the list
@@ -218,8 +218,8 @@ class ListedPage {
 }
 
 /**
- * Lists the pages. A tree of elements for thousands of them would take longer than all the rest of
- * opening a book.
+ * Lists the pages without building a DOM: for thousands of them that would take longer than everything else that
+ * opening a book does.
  * @param {string} list
  * @returns {{page: PageEntry, thumb: PageEntry}[]}
  */

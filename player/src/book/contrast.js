@@ -1,6 +1,6 @@
 import { luminance } from './values.js';
 
-/** Least contrast between text and its ground that readers with weak eyes need. */
+/** Minimum contrast between text and background, as WCAG AA asks. */
 const ENOUGH = 4.5;
 const INKS = ['#ffffff', '#14181d', '#000000'];
 
@@ -14,7 +14,7 @@ export function contrast(one, other) {
 }
 
 /**
- * The colour that is seen where one lies over another.
+ * The colour that results from blending one over another.
  * @param {string} top
  * @param {string} ground
  * @param {number} opacity of the upper one
@@ -28,7 +28,7 @@ export function blend(top, ground, opacity) {
 }
 
 /**
- * How to write on a surface of any colour, so that the writing can be read over any ground.
+ * Text colour and opacity for a surface of any colour, so that text on it is readable over any background.
  * @param {string} colour
  * @param {number} opacity wanted; full where less would not do
  */
@@ -40,7 +40,7 @@ export function writingOn(colour, opacity) {
     const least = INKS.map((ink) => worst(ink, grounds));
     const best = least[0] >= least[2] ? 0 : (least[1] >= ENOUGH ? 1 : 2);
     if (least[best] < ENOUGH && shown < 1) continue;
-    // What is washed over the surface must leave the writing readable too.
+    // Text must stay readable on hovered controls too.
     const washed = ['#ffffff', '#000000'].map((wash) => worst(INKS[best],
       grounds.map((ground) => blend(wash, ground, 0.14))));
     const towardsInk = best === 0 ? 0 : 1;

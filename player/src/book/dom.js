@@ -1,5 +1,5 @@
 /**
- * The element that the page is known to have.
+ * The first matching element, which must exist.
  * @param {ParentNode} root
  * @param {string} selector
  * @returns {HTMLElement}

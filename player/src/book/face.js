@@ -22,7 +22,7 @@ export function missingText(page) {
  */
 export function fitted(imageWidth, imageHeight, width, height) {
   const scale = Math.min(width / imageWidth, height / imageHeight);
-  // A hair's breadth of paper at a page's edge looks like a fault; stretch it away.
+  // A sliver of paper at a page's edge looks like a fault, so such an image is stretched.
   const snap = (/** @type {number} */ part, /** @type {number} */ whole) =>
     (whole - part < whole * 0.006 ? whole : part);
   const w = snap(imageWidth * scale, width);
@@ -95,7 +95,7 @@ export function drawShowThrough(canvas, front, paper) {
 }
 
 /**
- * The canvas, of that size and ready to be drawn over; one of the same size keeps its memory.
+ * Sizes a canvas and resets its transform. One that has this size already keeps its memory, and its content.
  * @param {HTMLCanvasElement} canvas
  * @param {number} width device pixels
  * @param {number} height

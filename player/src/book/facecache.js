@@ -1,7 +1,7 @@
-/** Faces kept: those of the shown pages and of the leaves to both sides, and some spare. */
+/** Cached faces: enough for the pages in view and the leaves to both sides, and some spare. */
 const MOST_FACES = 8;
 
-/** Pictures of pages at the size shown, drawn once; canvases are used again. */
+/** Caches page faces drawn at display size, and reuses their canvases. */
 export class FaceCache {
   constructor() {
     /** @type {Map<string, {canvas: HTMLCanvasElement, page: number}>} the longest unused first */

@@ -12,7 +12,7 @@ import { say } from './words.js';
 /** Page images kept at a time, whatever the length of the book; one more is left for thumbnails. */
 const MOST_IMAGES = 11;
 
-/** Loads page images and keeps the ones that are wanted. */
+/** Loads page images and caches the ones in use. */
 export class PageImages {
   /**
    * @param {PageEntry[]} pages
@@ -54,7 +54,7 @@ export class PageImages {
     return entry;
   }
 
-  /** Asks once more for the pages that did not come. */
+  /** Requests pages that failed to load once more. */
   retry() {
     for (const [page, { state }] of this.kept) {
       if (state !== 'missing') continue;
@@ -75,7 +75,7 @@ export class PageImages {
     try {
       await entry.image.decode();
       entry.state = 'ready';
-      // It is decoded; put into the page it is to be there in the same frame.
+      // It is decoded already, so it may be painted in the very frame in which it is inserted.
       entry.image.decoding = 'sync';
     } catch {
       entry.state = 'missing';

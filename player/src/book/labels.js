@@ -1,7 +1,7 @@
 /** @typedef {import('./config.js').BookConfig} BookConfig */
 
 /**
- * What readers call a page.
+ * A page's label, by default its position.
  * @param {BookConfig} config
  * @param {number} page
  */
@@ -10,7 +10,7 @@ export function labelOf({ labels }, page) {
 }
 
 /**
- * What a page is called, and its number where that is another.
+ * A page's label, followed by its position where that differs.
  * @param {BookConfig} config
  * @param {number} page
  */
@@ -20,7 +20,7 @@ export function fullLabel(config, page) {
 }
 
 /**
- * Page that a reader's text names, "iv" as well as "12" and "4-5"; 0 when it names none.
+ * Position of the page that the reader entered, "iv" as well as "12" and "4-5"; 0 when there is no such page.
  * @param {BookConfig} config
  * @param {string} text
  */

@@ -1,10 +1,10 @@
 /** @typedef {import('./config.js').BookConfig} BookConfig */
 
-/** Room kept for the bar under the book where the window is high enough. */
+/** Height reserved for the bar where the window is high enough. */
 const BAR_ROOM = 64;
 const BAR_ROOM_LEAST_HEIGHT = 480;
 
-/** Room kept at both sides for the arrows and the edges of the pages beneath. */
+/** Width reserved at both sides for the arrows and the edges of the pages beneath. */
 const ARROW_ROOM = 70;
 
 /**
@@ -18,7 +18,7 @@ const ARROW_ROOM = 70;
  */
 
 /**
- * Margins as they fit the window: on a phone a margin made for a desk would eat the page.
+ * Limits margins to a share of the window: on a phone those chosen for a desktop would leave no room for the page.
  * @param {BookConfig['margins']} margins
  * @param {number} width
  * @param {number} height

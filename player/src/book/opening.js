@@ -1,4 +1,4 @@
-/** How the book comes in, by the name that the configuration gives. */
+/** Entrance animations of the book by their names in the configuration. */
 /** @type {Map<string, Keyframe[]>} */
 const WAYS = new Map([
   ['fade in', [{ opacity: 0 }, { opacity: 1 }]],
@@ -16,7 +16,7 @@ const WAYS = new Map([
  * @param {HTMLElement} element
  * @param {string} way
  */
-export function bringIn(element, way) {
+export function playEntrance(element, way) {
   const frames = WAYS.get(way.toLowerCase());
   if (!frames || matchMedia('(prefers-reduced-motion: reduce)').matches) return;
   element.animate(frames, { duration: 800, easing: 'cubic-bezier(.2, .8, .2, 1)' });

@@ -1,4 +1,4 @@
-/** Bytes at a time: browsers speed up what is called often sooner than what runs on and on. */
+/** Bytes per call: JIT compilers optimize a function that is called often sooner than a long loop. */
 const STRETCH = 1024;
 
 /**

@@ -41,7 +41,7 @@ export function luminance(colour) {
 }
 
 /**
- * A path that the configuration names, or nothing when it leads out of the book's files folder.
+ * A path of the configuration, or an empty text when it leads out of the book's files folder.
  * @param {string} text
  */
 export function ownFile(text) {
@@ -51,11 +51,11 @@ export function ownFile(text) {
 }
 
 /**
- * Address of a file that the configuration names, as the page can load it.
+ * URL of a file of the configuration.
  * @param {string} path relative to the book's files folder; an empty one has no address
  */
 export function fileAddress(path) {
-  // A book that is one file has its pictures and sounds in its page.
+  // A single-file book has its images and sounds in its page.
   return path && (window.folveroFile?.(path)
     ?? 'files/' + path.split('/').map(encodeURIComponent).join('/'));
 }

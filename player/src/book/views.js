@@ -1,6 +1,6 @@
 /**
- * How pages (numbered from 1) are dealt out to views (numbered from 0). In spread mode the first
- * page stands alone on the side where a book begins; in single mode every page is a view.
+ * Maps pages (numbered from 1) to views (numbered from 0). In spread mode the first page is alone, on the side where
+ * a book begins; in single mode every page is a view.
  */
 export class Views {
   /**

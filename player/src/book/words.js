@@ -4,7 +4,7 @@
 const texts = new Map();
 
 /**
- * Adds texts, in the first language that the reader prefers and the table has, else in its first.
+ * Adds texts in the most preferred of the browser's languages that the table has, else in its first.
  * @param {string} table a line of names, then a line for each language: its code and the texts, with | between them
  */
 export function learn(table) {
@@ -25,10 +25,10 @@ export function say(word, ...values) {
 }
 
 /**
- * Puts the words into the elements that ask for them, as text (data-say) or as name (data-name).
+ * Sets texts (data-say) and accessible names (data-name) of all elements below.
  * @param {HTMLElement} root
  */
-export function sayEverywhere(root) {
+export function setTexts(root) {
   document.documentElement.lang = texts.get('language') ?? '';
   for (const element of root.querySelectorAll('[data-say]')) {
     element.textContent = say(/** @type {Word} */ (element.getAttribute('data-say')));

@@ -1,12 +1,12 @@
 import { part } from '../book/dom.js';
 
-/** Room that stays free at both sides of the bar together, in CSS pixels. */
+/** Total margin at both sides of the bar, in CSS pixels. */
 const BESIDE = 16;
 
-/** A caption in less room than this cannot be read. */
+/** A caption narrower than this is unreadable. */
 const LEAST_CAPTION = 120;
 
-/** Keeps the bar within the window: what has no room goes into the menu, the least used first. */
+/** Fits the bar into the window: controls that do not fit move to the menu, the least used first. */
 export class Folding {
   /**
    * @param {HTMLElement} root
@@ -16,7 +16,7 @@ export class Folding {
     this.root = root;
     this.bar = bar;
     this.more = part(bar, '[data-does="more"]');
-    /** Room at the left edge that a panel takes, in CSS pixels. */
+    /** Width of an open panel at the left edge, in CSS pixels. */
     this.beside = 0;
     /** @type {HTMLElement[]} */
     this.order = [];
@@ -26,13 +26,13 @@ export class Folding {
     observer.observe(part(bar, '.pages'));
   }
 
-  /** Notes what may be folded away. */
+  /** Collects the controls that may move to the menu. */
   collect() {
     this.order = [.../** @type {NodeListOf<HTMLElement>} */ (this.bar.querySelectorAll('[data-fold]'))];
     this.order.sort((a, b) => Number(a.dataset.fold) - Number(b.dataset.fold));
   }
 
-  /** Buttons that are folded away, in the bar's order. */
+  /** Buttons that are in the menu, in the bar's order. */
   get folded() {
     return this.order.filter((one) => one.matches('button.folded:not([hidden])'))
       .sort((a, b) => (a.compareDocumentPosition(b) & Node.DOCUMENT_POSITION_FOLLOWING ? -1 : 1));

@@ -7,7 +7,7 @@ const FLICK_SPEED = 0.35;
 const TAP_MS = 450;
 const SWIPE_WAY = 40;
 
-/** Two taps that near to each other in time and place are a double tap. */
+/** Maximum time and distance between the taps of a double tap. */
 const DOUBLE_TAP_MS = 300;
 const DOUBLE_TAP_REACH = 30;
 
@@ -17,13 +17,13 @@ const EDGE = 0.15;
 /** How far beside a page a finger may still mean it, in CSS pixels. */
 const NEAR = 24;
 
-/** The same with all that turns after a while where nobody knows what a page shows: one alone, and one beside another. */
+/** The same for taps that turn after a delay, where a page's content is unknown: a single page, and one of two. */
 const WIDE_EDGE = { alone: 0.32, beside: 0.48 };
 
 /** Wheel events closer together belong to one push, which turns one page. */
 const WHEEL_PAUSE_MS = 160;
 
-/** Turns what pointers, wheel and keys do on the book into turns of pages. */
+/** Turns pages by pointer, wheel and keys. */
 export class Gestures {
   /**
    * @param {Book} book
@@ -44,7 +44,7 @@ export class Gestures {
     /** @type {Tap | null} last tap that a second may follow */
     this.lastTap = null;
     /**
-     * A turn that waits for a second tap, which means enlarging.
+     * A turn that is delayed because a second tap would mean zooming.
      * @type {{timer: number, turn: () => void} | null}
      */
     this.waiting = null;
@@ -54,7 +54,7 @@ export class Gestures {
      */
     this.textAt = null;
     /**
-     * Whether something on the pages has dealt with a tap.
+     * Whether something on the pages, such as a link, has handled a tap.
      * @type {(event: PointerEvent) => boolean}
      */
     this.answersTap = () => false;
@@ -90,7 +90,7 @@ export class Gestures {
    * @property {number} x
    * @property {number} y
    * @property {number} time
-   * @property {() => void} undo takes back what it did
+   * @property {() => void} undo reverts what it did
    *
    * @typedef {object} Turning what a tap turns
    * @property {1 | -1} steps
@@ -187,7 +187,7 @@ export class Gestures {
     }
   }
 
-  /** Lets go of everything: the pointer now means something else. */
+  /** Cancels the gesture: something else handles the pointer from now on. */
   drop() {
     if (this.press?.grip) this.turner.release(false);
     this.press = null;
@@ -232,7 +232,7 @@ export class Gestures {
 
   /**
    * @param {Turning} turning
-   * @returns {() => void} takes it back
+   * @returns {() => void} reverts it
    */
   #turn({ steps, waits }) {
     const { turner } = this;

@@ -1,7 +1,7 @@
 /** @typedef {import('./toolbar.js').Commands} Commands */
 
 /**
- * Lets the keys of the bar's buttons work from everywhere in the book.
+ * Makes the shortcut keys of the bar's buttons work everywhere in the book.
  * @param {HTMLElement} root
  * @param {Commands} commands
  */

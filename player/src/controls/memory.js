@@ -1,4 +1,4 @@
-/** Remembers the page at which the reader left this book, where the browser lets it. */
+/** Stores the page at which the reader left this book, where the browser allows it. */
 export class Memory {
   /** @param {number} pageCount a book published again with other pages is another book */
   constructor(pageCount) {
@@ -6,7 +6,7 @@ export class Memory {
     this.pageCount = pageCount;
   }
 
-  /** Page remembered, 0 when there is none. */
+  /** The stored page, 0 for none. */
   get page() {
     try {
       const page = Number(localStorage.getItem(this.key));
@@ -20,7 +20,7 @@ export class Memory {
     try {
       localStorage.setItem(this.key, String(page));
     } catch {
-      // Private windows and strict settings refuse it; the book opens at its cover then.
+      // Private windows and strict settings forbid it; then the book opens at its cover.
     }
   }
 }

@@ -1,12 +1,12 @@
 /** @typedef {import('../turning/turner.js').Turner} Turner */
 
-/** Page that the address asks for, 0 when it asks for none. */
+/** Page number in the URL's fragment, 0 for none. */
 export function pageInAddress() {
   const match = /(?:^#|&)page=(\d+)/.exec(location.hash);
   return match ? Number(match[1]) : 0;
 }
 
-/** The page where the reader is, in the address and in the browser's history. */
+/** Keeps the current page in the URL's fragment and in the browser's history. */
 export class Place {
   /**
    * @param {Turner} turner
@@ -23,7 +23,7 @@ export class Place {
   }
 
   /**
-   * A jump makes an entry, so that Back leads to the page where it began; turns replace the address.
+   * Jumps push a history entry, so that Back leads to where they began; turns replace the current one.
    * @param {number} view
    */
   #jump(view) {
@@ -32,12 +32,12 @@ export class Place {
   }
 
   /**
-   * Follows the pages that have landed.
+   * Updates the fragment after a turn.
    * @returns {boolean} whether the reader is on another page now
    */
   land() {
     const { turner, page } = this;
-    // The entry of a jump keeps its page while other pages are passed on the way.
+    // Pages passed on the way of a jump must not replace its entry.
     if (turner.destination !== turner.current) return false;
     const pages = turner.book.views.pagesOf(turner.current);
     const asked = pageInAddress();

@@ -1,6 +1,6 @@
 /** @typedef {import('../turning/turner.js').Turner} Turner */
 
-/** Turns pages by itself, a while after the last one has landed. */
+/** Turns pages automatically, an interval after the last turn has ended. */
 export class Slideshow {
   /**
    * @param {Turner} turner
@@ -14,7 +14,7 @@ export class Slideshow {
     this.running = false;
     this.timer = 0;
     this.onChange = () => {};
-    /** Whether something keeps the reader from the pages. */
+    /** Whether something pauses it, such as an open dialog. */
     this.isHeld = () => false;
   }
 
@@ -25,7 +25,7 @@ export class Slideshow {
     this.onChange();
   }
 
-  /** Starts the time until the next turn anew. */
+  /** Restarts the interval. */
   wait() {
     clearTimeout(this.timer);
     if (this.running) this.timer = window.setTimeout(() => this.#next(), this.interval * 1000);

@@ -3,7 +3,7 @@ import { fileAddress } from '../book/values.js';
 
 const TURN_SOUND = 'extfiles/moveSound.mp3';
 
-/** The page-turn sound and the background sound. Browsers allow neither before a gesture. */
+/** Plays the page-turn sound and the background sound. Browsers allow neither before a user gesture. */
 export class Sounds {
   /** @param {BookConfig['sound']} background */
   constructor(background) {
@@ -49,7 +49,7 @@ export class Sounds {
     if (!this.background.file || !this.on || !this.allowed || this.timesLeft === 0) return;
     if (!this.music) {
       this.music = new Audio(fileAddress(this.background.file));
-      // Left to the browser, an endless sound repeats without a gap.
+      // Looped by the browser, a sound repeats without a gap.
       this.music.loop = this.background.loops < 0;
       this.music.addEventListener('ended', () => {
         if (this.timesLeft > 0) this.timesLeft--;
@@ -61,7 +61,7 @@ export class Sounds {
 }
 
 /**
- * A sound that cannot be played is no reason to disturb the reader.
+ * Ignores failures: a sound that can't be played is no reason to disturb the reader.
  * @param {Promise<void>} playing
  */
 function quietly(playing) {

@@ -2,7 +2,7 @@ import { make, part } from '../book/dom.js';
 
 const TIP_GAP = 9;
 
-/** Names a control beside the pointer or the focus, with the key that does the same. */
+/** Tooltips of hovered and focused controls, with their shortcut keys. */
 export class Tips {
   /** @param {HTMLElement} root */
   constructor(root) {
@@ -25,7 +25,7 @@ export class Tips {
   }
 
   /**
-   * Names what the pointer or the focus is at, or nothing.
+   * Shows the tooltip of a control, or hides it for none.
    * @param {EventTarget | null} target
    */
   follow(target) {

@@ -10,7 +10,7 @@ import { say } from '../book/words.js';
 const IDLE_MS = 2600;
 const IDLE_TOUCH_MS = 4500;
 
-/** The bar and the arrows at the sides: they come with the pointer and go when it rests. */
+/** The bar and the arrows at the sides, shown while the reader is active. */
 export class Toolbar {
   /**
    * @param {HTMLElement} root
@@ -36,19 +36,19 @@ export class Toolbar {
     this.show();
   }
 
-  /** Shows the bar until the reader has been idle for a while. */
+  /** Shows the bar until the reader has been idle for some time. */
   show() {
     this.root.dataset.idle = 'no';
     clearTimeout(this.timer);
     this.timer = window.setTimeout(() => this.#hide(), this.idleTime);
   }
 
-  /** What a tap on the middle of the book does. */
+  /** Shows or hides the bar, for a tap on the middle of the book. */
   toggle() {
     if (!this.cameNow) this.#hide();
   }
 
-  /** Follows the shown page. */
+  /** Updates everything that depends on the current page. */
   update() {
     const { views, config } = this.turner.book;
     const { current } = this.turner;
@@ -67,7 +67,7 @@ export class Toolbar {
   }
 
   /**
-   * Shows a switch as on or off.
+   * Sets a toggle button's state.
    * @param {string} name
    * @param {boolean} on
    */
@@ -85,7 +85,7 @@ export class Toolbar {
     /** @type {HTMLButtonElement} */ (button).disabled = !able;
   }
 
-  /** Lets the reader type a page number. */
+  /** Focuses the page box. */
   askForPage() {
     this.show();
     this.box.focus();
@@ -127,7 +127,7 @@ export class Toolbar {
   }
 
   /**
-   * Puts one more button before another.
+   * Inserts a button before another.
    * @param {HTMLElement} button
    * @param {string} next name of the other
    */
@@ -138,7 +138,7 @@ export class Toolbar {
     this.folding.fit();
   }
 
-  /** The bar comes with a pointer, a finger or a key. */
+  /** Shows the bar on any pointer or key event. */
   #wireComing() {
     this.root.addEventListener('pointermove', (event) => {
       if (event.pointerType === 'mouse') this.show();
@@ -173,7 +173,7 @@ export class Toolbar {
     const { views, config } = this.turner.book;
     const pages = views.pagesOf(this.turner.current);
     this.box.value = pages.map((page) => labelOf(config, page)).join('\u2013');
-    // Beside a name of its own a page's place in the book is told too.
+    // Where pages have labels, screen readers get the position too.
     if (config.labels) part(this.bar, '.of > span').textContent = '(' + pages.join('\u2013') + ' /';
   }
 

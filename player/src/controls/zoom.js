@@ -8,22 +8,22 @@ const TAP_ZOOM = 2.5;
 const ZOOM_STEP = 1.5;
 const ZOOM_MS = 240;
 
-/** A level just above 1 would change how the book behaves and not how it looks: it is left only for a gesture's length. */
+/** Lower levels exist only during a gesture: they would change how the book behaves but hardly how it looks. */
 const LEAST_ZOOM = 1.04;
 
-/** How far whole pages give way to fingers that make them smaller: the power of these that is left. */
+/** Exponent that damps pinching below level 1. */
 const GIVE = 0.3;
 
-/** Pause after which a wheel's gesture has ended, and pages are drawn sharply, in milliseconds. */
+/** Pause that ends a wheel gesture; pages are then drawn sharply. In milliseconds. */
 const REST_MS = 200;
 
-/** Time in which a page that was thrown loses two thirds of its speed, in milliseconds. */
+/** Time constant of inertial panning, in milliseconds. */
 const GLIDE_MS = 300;
 
-/** Room between an enlarged page's edge and the window's, in CSS pixels. */
+/** Margin between the edges of a zoomed page and the window, in CSS pixels. */
 const ZOOM_AIR = 14;
 
-/** Enlarges the standing pages. While it does, pages change at once instead of turning. */
+/** Zooms and pans the pages in view. While zoomed in, views change without animation. */
 export class Zoom {
   /**
    * @param {Book} book
@@ -35,13 +35,13 @@ export class Zoom {
     this.onChange = () => {};
     /** @type {ZoomState} */
     this.now = { level: 1, x: 0, y: 0 };
-    /** @type {ZoomState} where the movement under way leads */
+    /** @type {ZoomState} end of the running animation */
     this.goal = this.now;
-    /** @type {ZoomState | null} where the gesture under way has led to, whatever limits say */
+    /** @type {ZoomState | null} state of the running gesture before limits apply */
     this.free = null;
-    /** Whether fingers hold the pages, which then go where these go. */
+    /** Whether two fingers hold the pages. */
     this.held = false;
-    /** Place of the book that is in the middle of the window, as shares of the shown pages. */
+    /** Point of the pages in the middle of the window, as shares of their size. */
     this.middle = { x: 0.5, y: 0.5 };
     this.frame = 0;
     turner.atOnce = () => this.active;
@@ -49,7 +49,7 @@ export class Zoom {
     turner.onJumped = () => this.#toReadingStart();
   }
 
-  /** 1 while whole pages are seen. */
+  /** 1 while not zoomed in. */
   get level() {
     return this.goal.level;
   }
@@ -71,7 +71,7 @@ export class Zoom {
   }
 
   /**
-   * Enlarges what lies at a place of the window, or shows whole pages again.
+   * Zooms in on a point of the window, or out to whole pages.
    * @param {number} clientX
    * @param {number} clientY
    */
@@ -81,7 +81,7 @@ export class Zoom {
   }
 
   /**
-   * Changes the level about a place of the window, at once.
+   * Zooms about a point of the window without animation.
    * @param {Point} place
    * @param {number} factor
    */
@@ -89,7 +89,7 @@ export class Zoom {
     this.#follow(place, place, factor);
   }
 
-  /** Two fingers take hold of the pages, until release(). */
+  /** Starts a pinch, which lasts until release(). */
   hold() {
     if (!this.active) this.turner.settle();
     this.#stop();
@@ -97,8 +97,8 @@ export class Zoom {
   }
 
   /**
-   * The fingers that hold the pages have moved.
-   * @param {Point} from the place between them before
+   * Continues a pinch.
+   * @param {Point} from the point between the fingers before
    * @param {Point} to and now
    * @param {number} factor by which they have moved apart
    */
@@ -106,13 +106,13 @@ export class Zoom {
     this.#follow(from, to, factor);
   }
 
-  /** One finger is left of two: it moves what is enlarged. */
+  /** One of two fingers was lifted; the other one pans. */
   loosen() {
     if (this.held && this.now.level < LEAST_ZOOM) this.#settle();
   }
 
   /**
-   * The fingers have let go. The pages come back to where they may be, or glide on.
+   * Ends a gesture. The pages return within their limits, or glide on.
    * @param {Point | null} speed CSS pixels a millisecond
    */
   release(speed) {
@@ -130,8 +130,8 @@ export class Zoom {
   }
 
   /**
-   * What lies at one place of the window comes to lie at another. Steps add up however small they are, and the way back
-   * is the way there: the next one goes on from where the gesture has led to and not from what limits made of that.
+   * Moves and scales the pages so that what was at one point of the window is at another. Steps add up however small,
+   * and reversing them leads back: each continues from the gesture's own state, before limits apply.
    * @param {Point} from
    * @param {Point} to
    * @param {number} factor
@@ -147,7 +147,7 @@ export class Zoom {
   }
 
   /**
-   * Ends a gesture: pages that are hardly enlarged are shown whole, others where they may be.
+   * Ends a gesture: hardly zoomed pages are shown whole, others return within their limits.
    * @returns {boolean} whether they must move for that
    */
   #settle() {
@@ -161,7 +161,7 @@ export class Zoom {
   }
 
   /**
-   * A thrown page glides on.
+   * Continues panning with decreasing speed.
    * @param {Point} speed CSS pixels a millisecond
    */
   #glide(speed) {
@@ -187,7 +187,7 @@ export class Zoom {
   }
 
   /**
-   * @param {Point} place that keeps still
+   * @param {Point} place the fixed point
    * @param {number} wanted level
    * @returns {ZoomState}
    */
@@ -201,7 +201,7 @@ export class Zoom {
   }
 
   /**
-   * The nearest state in which the pages do not leave the window.
+   * The nearest state within the limits: pages must not leave the window.
    * @param {ZoomState} state
    * @returns {ZoomState}
    */
@@ -262,7 +262,7 @@ export class Zoom {
     this.book.zoomTo(state);
   }
 
-  /** Keeps the same part of the pages in view when the window has changed. */
+  /** Keeps the same part of the pages in view after the window was resized. */
   #refit() {
     if (!this.active) return;
     this.#stop();
@@ -276,7 +276,7 @@ export class Zoom {
     this.goal = this.now;
   }
 
-  /** A page that has just been opened is read from its top. */
+  /** Shows the top of a new page, at the side where reading begins. */
   #toReadingStart() {
     this.#stop();
     const far = this.book.config.rightToLeft ? -1e6 : 1e6;
@@ -284,7 +284,7 @@ export class Zoom {
     this.goal = this.now;
   }
 
-  /** @param {(time: number) => boolean} step draws a frame and tells whether more follow */
+  /** @param {(time: number) => boolean} step draws a frame and returns whether more follow */
   #animate(step) {
     this.#stop();
     this.#move(true);
@@ -305,7 +305,7 @@ export class Zoom {
   }
 
   /**
-   * A layer of its own moves smoothly, but keeps the sharpness at which it was last drawn.
+   * A compositing layer moves smoothly, but keeps the resolution at which it was last rasterized.
    * @param {boolean} moving
    */
   #move(moving) {
@@ -323,7 +323,7 @@ export class Zoom {
 }
 
 /**
- * Level to which fingers bring pages.
+ * Level after pinching by a factor, damped below 1.
  * @param {number} level
  * @param {number} factor by which they move apart
  */
@@ -342,7 +342,7 @@ function stretched(level, factor) {
  */
 function heldInside(offset, level, from, to, end, start = 0) {
   const size = level * (to - from);
-  // Whole pages may lie nearer to the edge; what is hardly enlarged must not leap away from there.
+  // Whole pages may be nearer to the edge than the margin; hardly zoomed ones must not jump away from there.
   const [least, most] = [Math.min(from, start + ZOOM_AIR), Math.max(to, end - ZOOM_AIR)];
   if (size > most - least) {
     return Math.min(least, Math.max(most - size, offset + level * from)) - level * from;
@@ -358,7 +358,7 @@ function heldInside(offset, level, from, to, end, start = 0) {
  * @returns {ZoomState}
  */
 function between(from, to, share) {
-  // The place that keeps still keeps still all the way only if the offset follows the level.
+  // The fixed point stays fixed during the animation only if the offset depends linearly on the level.
   const level = from.level * (to.level / from.level) ** share;
   const part = to.level === from.level ? share : (level - from.level) / (to.level - from.level);
   return { level, x: from.x + (to.x - from.x) * part, y: from.y + (to.y - from.y) * part };

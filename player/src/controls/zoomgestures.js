@@ -1,13 +1,13 @@
 /** @typedef {import('./zoom.js').Zoom} Zoom */
 /** @typedef {import('../turning/fold.js').Point} Point */
 
-/** Pixels that an arrow key moves an enlarged page. */
+/** Pixels by which an arrow key pans. */
 const KEY_PAN = 90;
 
-/** Slowest throw after which a page glides on, in pixels a millisecond. */
+/** Minimum speed for inertial panning, in pixels a millisecond. */
 const LEAST_THROW = 0.08;
 
-/** Fingers, wheel and keys that enlarge pages and move enlarged ones. */
+/** Zooms and pans by fingers, wheel and keys. */
 export class ZoomGestures {
   /**
    * @param {Zoom} zoom
@@ -28,7 +28,7 @@ export class ZoomGestures {
       stage.addEventListener(name, (event) => this.#up(/** @type {PointerEvent} */ (event)));
     }
     stage.addEventListener('wheel', (event) => this.#wheel(event), { passive: false });
-    // One browser enlarges its whole page by these whatever touch-action says.
+    // Safari zooms its whole page by these whatever touch-action says.
     stage.addEventListener('gesturestart', (event) => event.preventDefault());
     window.addEventListener('keydown', (event) => this.#key(event));
   }
@@ -62,7 +62,7 @@ export class ZoomGestures {
   }
 
   /**
-   * One of two fingers has moved: the place between them stays between them.
+   * Handles a pinch: the point between the fingers stays between them.
    * @param {Point} before
    * @param {Point} here
    * @param {Point} other
@@ -84,7 +84,7 @@ export class ZoomGestures {
   }
 
   /**
-   * Speed with which a finger let go, in pixels a millisecond.
+   * Speed of a finger when it was lifted, in pixels a millisecond.
    * @param {number} time
    */
   #throwAt(time) {

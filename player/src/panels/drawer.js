@@ -5,13 +5,13 @@ import { say } from '../book/words.js';
 
 /** @typedef {import('../book/book.js').Book} Book */
 
-/** Room between thumbnails, and how far beyond the edges they are made ready, in CSS pixels. */
+/** Gap between thumbnails, and how far beyond the edges they are prepared, in CSS pixels. */
 const GAP = 14;
 const AHEAD = 320;
 const LARGEST = { width: 150, height: 128 };
 const LEAST = 36;
 
-/** The thumbnails of all pages; only those in sight are in the document. */
+/** Thumbnails of all pages; only the visible ones are in the document. */
 export class Drawer {
   /**
    * @param {HTMLElement} root
@@ -74,7 +74,7 @@ export class Drawer {
     else this.#fill();
   }
 
-  /** Lays the strip out anew, with the marked page in the middle. */
+  /** Lays the strip out again, with the marked page in the middle. */
   lay() {
     if (!this.open) return;
     const { pageCount } = this.book.views;
@@ -157,7 +157,7 @@ export class Drawer {
     this.strip.scrollLeft = this.book.config.rightToLeft ? -distance : distance;
   }
 
-  /** Brings the thumbnails in sight into the document and takes the others out. */
+  /** Inserts visible thumbnails into the document and removes the others. */
   #fill() {
     this.frame = 0;
     if (!this.open) return;

@@ -4,7 +4,7 @@ import { say } from '../book/words.js';
 
 /** @typedef {import('../book/words.js').Word} Word */
 
-/** @type {[keys: string[], word: Word][]} keys of the book; the bar's buttons tell their own */
+/** @type {[keys: string[], word: Word][]} keys of the book beside those of the bar's buttons */
 const KEYS = [
   [['\u2190', '\u2192', 'Page \u2191', 'Page \u2193', 'space'], 'turn'], [['Home', 'End'], 'ends'],
 ];

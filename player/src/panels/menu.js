@@ -1,7 +1,7 @@
 import { make, part } from '../book/dom.js';
 import { Panel } from './panel.js';
 
-/** The panel with the controls for which the bar has no room. */
+/** The panel with controls that do not fit into the bar. */
 export class Menu {
   /**
    * @param {HTMLElement} root

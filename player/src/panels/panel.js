@@ -1,8 +1,7 @@
 import { part } from '../book/dom.js';
 
 /**
- * A dialog over the book. The browser keeps what lies behind it out of reach and gives the focus
- * back when it closes.
+ * A modal dialog. The browser makes everything behind it inert and restores the focus when it closes.
  */
 export class Panel {
   /** @param {HTMLElement} element a dialog with a button to close it */
@@ -30,7 +29,7 @@ export class Panel {
   }
 
   /**
-   * Keys typed here do not turn pages, and the tab key stays among the panel's controls.
+   * Keys typed here do not turn pages, and Tab stays within the panel.
    * @param {KeyboardEvent} event
    */
   #key(event) {

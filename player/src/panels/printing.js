@@ -44,7 +44,7 @@ export class Printing {
     this.panel.open();
   }
 
-  /** @returns {number[] | null} none when the reader's page numbers name no pages */
+  /** @returns {number[] | null} null when the page numbers entered are invalid */
   #chosen() {
     const choice = new FormData(this.form).get('what');
     if (choice === 'these') return this.pagesInView();

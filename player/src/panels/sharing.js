@@ -2,7 +2,7 @@ import { part } from '../book/dom.js';
 import { Panel } from './panel.js';
 import { say } from '../book/words.js';
 
-/** The panel that gives the book's link away. */
+/** The panel for sharing the book's link. */
 export class Sharing {
   /**
    * @param {HTMLElement} root
@@ -47,7 +47,7 @@ export class Sharing {
       await navigator.clipboard.writeText(this.link.value);
     } catch {
       this.link.select();
-      // Pages from disk and over plain http have no clipboard but this older way.
+      // For pages from disk and over plain http, which have no clipboard API.
       if (!document.execCommand('copy')) {
         this.#part('.by-hand').textContent = say('copyByHand');
         return;

@@ -4,7 +4,7 @@ import { say } from '../book/words.js';
 
 /** @typedef {import('../book/config.js').PageEntry} PageEntry */
 
-/** Pages laid out for the printer, one a sheet; their images are there for the print only. */
+/** Pages for the printer, one a sheet; their images are loaded for printing only. */
 export class Sheets {
   /**
    * @param {PageEntry[]} pages
@@ -25,10 +25,10 @@ export class Sheets {
   }
 
   /**
-   * Loads pages one after the other and hands them to the printer.
+   * Loads pages one after the other and prints them.
    * @param {number[]} pages
    * @param {(done: number) => void} progress
-   * @returns {Promise<boolean>} false when it was called off
+   * @returns {Promise<boolean>} false when it was cancelled
    */
   async print(pages, progress) {
     this.clear();
@@ -46,12 +46,12 @@ export class Sheets {
     return true;
   }
 
-  /** Calls off a print that is being prepared. */
+  /** Cancels printing while pages load. */
   cancel() {
     this.run++;
   }
 
-  /** Lets the images go. */
+  /** Releases the images. */
   clear() {
     this.cancel();
     this.element.replaceChildren();
@@ -76,7 +76,7 @@ export class Sheets {
 }
 
 /**
- * Waits for a sheet's image; in place of one that cannot be had stands a note.
+ * Waits for a sheet's image; one that fails to load is replaced by a note.
  * @param {HTMLElement} sheet
  * @param {string} note
  * @returns {Promise<unknown>}

@@ -3,10 +3,10 @@ import { fileAddress } from '../book/values.js';
 
 /** @typedef {import('../book/config.js').PageEntry} PageEntry */
 
-/** Drawn thumbnails that are kept, about 150 kilobytes each. */
+/** Cached thumbnails, about 150 kilobytes each. */
 const MOST_DRAWN = 96;
 
-/** Draws thumbnails one after the other, so that never more than one page image is held. */
+/** Draws thumbnails one after the other, so that at most one page image is in memory. */
 export class Thumbnails {
   /**
    * @param {PageEntry[]} thumbs
@@ -27,7 +27,7 @@ export class Thumbnails {
     this.kept = new Map();
   }
 
-  /** @param {number[]} pages the most urgent first; earlier wishes are forgotten */
+  /** @param {number[]} pages the most urgent first; replaces earlier requests */
   want(pages) {
     this.wanted = pages.filter((page) => !this.kept.has(page));
     if (!this.busy) this.#drawAll();

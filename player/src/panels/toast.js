@@ -2,7 +2,7 @@ import { make, part } from '../book/dom.js';
 
 const TOAST_MS = 8000;
 
-/** A note at the edge of the window that goes by itself, unless the reader is at it. */
+/** A note that disappears after some time, unless the reader hovers or focuses it. */
 export class Toast {
   /** @param {HTMLElement} root */
   constructor(root) {
@@ -18,11 +18,11 @@ export class Toast {
 
   /**
    * @param {string} text
-   * @param {string} offer words on its button
+   * @param {string} offer the button's label
    * @param {() => void} accept
    */
   show(text, offer, accept) {
-    // Told again, it stays as it is under the pointer that is on its way to it.
+    // The same note again must not replace the button that the reader is about to click.
     if (!this.element.hidden && this.element.firstElementChild?.textContent === text) return;
     const button = make('button', 'plain-button', offer);
     button.addEventListener('click', () => {

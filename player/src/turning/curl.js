@@ -12,7 +12,7 @@ const RISING = [[0, 0, 0], [0.35, 0.1, 0], [0.6, 0, 0.04], [0.85, 0, 0.2], [1, 0
 /** The same of the paper that has come over, up to where it lies flat again. */
 const COMING_OVER = [[0, 0, 0.3], [0.26, 0, 0.12], [0.57, 0.28, 0], [0.94, 0.08, 0], [1, 0.06, 0.01]];
 
-/** Paper that bends as it is turned. */
+/** Paper that curls as it turns. */
 export class CurlPainter {
   whole = false;
   enough = 0.45;
@@ -94,7 +94,7 @@ function drawLying(context, leaf, fold, density) {
 }
 
 /**
- * What has come over and lies flat on its face.
+ * The part that has turned over and lies flat.
  * @param {CanvasRenderingContext2D} context
  * @param {Leaf} leaf
  * @param {Fold} fold
@@ -138,7 +138,7 @@ function acrossFold(context, fold, from, to, stops) {
 }
 
 /**
- * The shadow of the roll on the page that comes to light.
+ * The roll's shadow on the page that it uncovers.
  * @param {CanvasRenderingContext2D} context
  * @param {Leaf} leaf
  * @param {Fold} fold
@@ -157,7 +157,7 @@ function shadeBeneath(context, leaf, fold) {
 }
 
 /**
- * The shadow of the paper that has come over, on everything that it comes over.
+ * The shadow of the turned paper on everything below it.
  * @param {CanvasRenderingContext2D} context
  * @param {Leaf} leaf
  * @param {Fold} fold

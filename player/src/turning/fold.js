@@ -9,15 +9,15 @@
  * @property {number} radius of the roll that the paper makes about the fold line
  */
 
-/** Straight pieces that stand for an edge of the paper where it rolls. */
+/** Line segments that approximate a paper edge in the roll. */
 const EDGE_STEPS = 10;
 
 /** Widest roll, as a share of the leaf's width: paper that bends, not cardboard that snaps. */
 const WIDEST_ROLL = 0.13;
 
 /**
- * Nearest place to which the grabbed point of the edge can go without tearing the leaf from its
- * binding.
+ * The reachable point nearest to the one asked for: the held point of the edge can't go further from the binding than
+ * the paper reaches.
  * @param {Point} wanted
  * @param {Point} edge where the grabbed point lies in the flat leaf
  * @param {number} height

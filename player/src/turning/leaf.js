@@ -5,7 +5,7 @@
 /** @typedef {{left: number, right: number}} PagePair page numbers, 0 for none */
 
 /**
- * A way of the grabbed point that runs by itself.
+ * Animation of the held point.
  * @typedef {object} Motion
  * @property {number} start time stamp of the first frame, 0 before it
  * @property {number} time milliseconds
@@ -18,8 +18,8 @@
  */
 
 /**
- * What is in the air between two views: a leaf of the book, or the whole view where the book turns
- * by sliding. Its own coordinates begin at its binding and its top, with the flat leaf at positive x.
+ * What moves between two views: a leaf of the book, or the whole view where the book slides. The origin of its
+ * coordinates is at the top of its binding, and the flat leaf has positive x.
  */
 export class Leaf {
   /**
@@ -37,7 +37,7 @@ export class Leaf {
     this.whole = painter.whole;
     this.from = from;
     this.to = to;
-    /** Comes back from being turned over. */
+    /** Whether it turns backwards. */
     this.reversed = !forward && (this.whole || !spread);
     /** @type {Side} on which the leaf lies while it is flat */
     this.side = (spread && !this.whole ? forward !== rightToLeft : !rightToLeft) ? 'right' : 'left';
@@ -49,7 +49,7 @@ export class Leaf {
     this.edge = { x: pageWidth, y: edgeShare * pageHeight };
     /** @type {Point} */
     this.held = this.reversed ? { x: -this.edge.x, y: this.edge.y } : { ...this.edge };
-    /** 0 to 1: how far the book has moved to where the new view stands. */
+    /** Progress of the book's shift towards the offset of the new view, 0 to 1. */
     this.slide = 0;
     /** @type {Motion | null} none while a pointer holds the leaf */
     this.motion = null;
@@ -66,7 +66,7 @@ export class Leaf {
   }
 
   /**
-   * Pictures of what moves: both sides of the leaf, or the view in the one and nothing in the other.
+   * Draws what moves: both sides of the leaf, or the whole view as its front.
    * @param {number} density device pixels per CSS pixel
    */
   drawFaces(density) {
@@ -81,7 +81,7 @@ export class Leaf {
   }
 
   /**
-   * A face to fill outlines with.
+   * A face as a fill style.
    * @param {CanvasRenderingContext2D} context
    * @param {HTMLCanvasElement} face
    * @returns {CanvasPattern}
@@ -95,7 +95,7 @@ export class Leaf {
     return pattern;
   }
 
-  /** Where the book stands meanwhile, in CSS pixels from the middle; it may move along. */
+  /** Offset of the book from the middle at this moment, in CSS pixels. */
   get shift() {
     const { book } = this;
     if (this.whole) return book.shiftFor(this.reversed ? this.from : this.to);

@@ -1,5 +1,5 @@
 import { leafCorners, seenOutline } from './fold.js';
-import { emptied, traceOutline } from './shade.js';
+import { clearedCanvas, traceOutline } from './shade.js';
 
 /** @typedef {import('./fold.js').Fold} Fold */
 /** @typedef {import('./fold.js').Point} Point */
@@ -69,7 +69,7 @@ export class Roll {
     const { paper } = this;
     const face = /** @type {HTMLCanvasElement} */ (over ? leaf.back : leaf.front);
     const height = Math.ceil(quarter * density) + 2;
-    emptied(paper, length, height);
+    clearedCanvas(paper, length, height);
     const cos = Math.cos(fold.angle) * density;
     const sin = Math.sin(fold.angle) * density;
     const { x, y } = fold.middle;
@@ -91,7 +91,7 @@ export class Roll {
    */
   #bend(rows, length, quarter, over) {
     const { paper, band } = this;
-    emptied(band, length, Math.ceil(rows));
+    clearedCanvas(band, length, Math.ceil(rows));
     /** @param {number} seen */
     const onPaper = (seen) => {
       const bent = rows * Math.asin(Math.min(1, seen / rows));

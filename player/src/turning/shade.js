@@ -1,17 +1,17 @@
 /** @typedef {import('./fold.js').Point} Point */
 
-/** Pixels of the picture of a shadow for each CSS pixel: what is blurred needs no more. */
+/** Shadow pixels per CSS pixel: blurred shapes need no more. */
 const SHADE_DENSITY = 0.5;
 
-/** Way by which the shape lies outside of the picture that takes its shadow. */
-const OUT_OF_SIGHT = 4000;
+/** Offset that keeps the shape itself outside of its shadow's canvas. */
+const SHADOW_OFFSET = 4000;
 
 /** @type {CanvasRenderingContext2D | null} */
 let shadePicture = null;
 
 /**
- * Draws the shadow of a shape and not the shape. It is blurred at a low resolution: blurring takes more
- * time than anything else in a frame otherwise.
+ * Draws the shadow of a shape without the shape. It is blurred at a low resolution; at full resolution blurring would
+ * take most of a frame's time.
  * @param {CanvasRenderingContext2D} context
  * @param {Point[]} outline
  * @param {{opacity: number, blur: number, down: number}} shade blur and way down in CSS pixels
@@ -27,12 +27,12 @@ export function drawShade(context, outline, { opacity, blur, down }) {
   shadePicture = shadePicture ?? /** @type {CanvasRenderingContext2D} */ (
     document.createElement('canvas').getContext('2d'));
   const picture = shadePicture;
-  emptied(picture, width, height);
-  picture.setTransform(SHADE_DENSITY, 0, 0, SHADE_DENSITY, -left * SHADE_DENSITY - OUT_OF_SIGHT,
+  clearedCanvas(picture, width, height);
+  picture.setTransform(SHADE_DENSITY, 0, 0, SHADE_DENSITY, -left * SHADE_DENSITY - SHADOW_OFFSET,
     -top * SHADE_DENSITY);
   picture.shadowColor = 'rgba(0, 0, 0, ' + opacity + ')';
   picture.shadowBlur = blur * SHADE_DENSITY;
-  picture.shadowOffsetX = OUT_OF_SIGHT;
+  picture.shadowOffsetX = SHADOW_OFFSET;
   picture.shadowOffsetY = down * SHADE_DENSITY;
   traceOutline(picture, outline);
   picture.fill();
@@ -51,12 +51,12 @@ export function traceOutline(context, outline) {
 }
 
 /**
- * An empty picture of at least this size, in a canvas that only grows.
+ * A cleared canvas of at least this size; it is reused and only grows.
  * @param {CanvasRenderingContext2D} context
  * @param {number} width
  * @param {number} height
  */
-export function emptied(context, width, height) {
+export function clearedCanvas(context, width, height) {
   const { canvas } = context;
   if (canvas.width < width || canvas.height < height) {
     canvas.width = Math.max(canvas.width, width);

@@ -1,10 +1,10 @@
 /** @typedef {import('./fold.js').Point} Point */
 /** @typedef {import('./leaf.js').Leaf} Leaf */
 
-/** How far the shadow of the moving view reaches, in CSS pixels. */
+/** Width of the moving view's shadow, in CSS pixels. */
 const SLIDE_SHADOW = 44;
 
-/** Views that slide off one another, as slides of a talk do. */
+/** Views that slide off one another like slides of a presentation. */
 export class SlidePainter {
   whole = true;
   enough = 0.2;
@@ -44,7 +44,7 @@ export class SlidePainter {
   }
 
   /**
-   * The view beneath comes out of the dark.
+   * Darkens the view beneath, less and less as it is uncovered.
    * @param {CanvasRenderingContext2D} context
    * @param {Leaf} leaf
    */
@@ -75,7 +75,7 @@ export class SlidePainter {
 }
 
 /**
- * How far a view slides until it has left the window.
+ * Distance that a view slides to leave the window.
  * @param {Leaf} leaf
  */
 function way(leaf) {

@@ -9,11 +9,11 @@ const QUICK_MS = 220;
 const HURRIED_MS = 110;
 const FADE_MS = 260;
 
-/** Frames further apart come late; so many more late ones than others, and leaves are drawn more coarsely. */
+/** Frames further apart than this are late; with so many more late ones than others, the density is reduced. */
 const LATE_MS = 30;
 const MOST_LATE = 12;
 
-/** Turns leaves: by itself, under a pointer, or fading for readers who want little motion. */
+/** Turns leaves: animated, dragged, or as a cross-fade for readers who prefer reduced motion. */
 export class Turner {
   /**
    * @param {Book} book
@@ -30,9 +30,9 @@ export class Turner {
     /** @type {number | null} view asked for while a leaf was on its way */
     this.pending = null;
     this.density = 1;
-    /** Finest density at which this machine keeps up. */
+    /** Highest density at which this machine keeps up. */
     this.most = 2;
-    /** Frames that came late of late. */
+    /** Recent late frames. */
     this.late = 0;
     this.lastTick = 0;
     this.frame = 0;
@@ -41,24 +41,24 @@ export class Turner {
     this.fading = null;
     this.onTurn = () => {};
     this.onLanded = () => {};
-    /** Whether views change without any movement, as they do while pages are enlarged. */
+    /** Whether views change without animation, as they do while zoomed in. */
     this.atOnce = () => false;
     this.onStood = () => {};
     this.onJumped = () => {};
     /**
-     * Told before a jump begins.
+     * Called before a jump begins.
      * @type {(view: number) => void}
      */
     this.onJump = () => {};
     /**
-     * Told when a leaf is taken off the pages and when they stand again.
+     * Called when a leaf is lifted and when it has landed.
      * @type {(inAir: boolean) => void}
      */
     this.onAir = () => {};
     book.onImage = (page) => this.#imageArrived(page);
   }
 
-  /** View that the reader will see once everything in the air has landed. */
+  /** The view in which the turns in progress will end. */
   get destination() {
     if (this.pending !== null) return this.pending;
     return this.leaf?.motion?.end === 'over' ? this.leaf.to : this.current;
@@ -82,13 +82,13 @@ export class Turner {
     this.onLanded();
   }
 
-  /** Whatever is in the air lands now. */
+  /** Finishes turns in progress at once. */
   settle() {
     if (this.leaf || this.fading) this.stand(this.destination);
   }
 
   /**
-   * Jumps to a view somewhere in the book, from where the reader may want to come back.
+   * Jumps to a view; the reader can come back with the browser's Back.
    * @param {number} wanted
    */
   go(wanted) {
@@ -99,7 +99,7 @@ export class Turner {
   }
 
   /**
-   * Turns to a view; asked while a leaf is on its way, that leaf hurries and the turn follows.
+   * Turns to a view; during another turn, that one speeds up and this one follows.
    * @param {number} wanted
    */
   turnTo(wanted) {
@@ -134,7 +134,7 @@ export class Turner {
   }
 
   /**
-   * A pointer takes the leaf that leads to a view.
+   * Starts dragging the leaf that leads to a view.
    * @param {number} view
    * @param {number} edgeShare where it takes the edge, 0 (top) to 1
    * @returns {boolean} whether there is such a leaf
@@ -166,7 +166,7 @@ export class Turner {
     else this.#finish('back', config.riseTime * 800);
   }
 
-  /** Draws the pages of the next turns while nothing moves, so that those begin at once. */
+  /** Draws the faces of the next turns when idle, so that these start at once. */
   #prepareSoon() {
     const idle = window.requestIdleCallback ?? ((/** @type {() => void} */ act) => setTimeout(act, 60));
     const view = this.current;
@@ -185,7 +185,7 @@ export class Turner {
   }
 
   /**
-   * Lifts a corner a little to show that the page can be turned.
+   * Lifts a corner as a hint that the page can be turned.
    * @param {number} view
    * @param {number} edgeShare 0 or 1
    */
@@ -201,12 +201,12 @@ export class Turner {
     });
   }
 
-  /** Lets a lifted corner fall. */
+  /** Lowers a lifted corner. */
   endPeek() {
     if (this.leaf?.motion?.end === 'peek') this.#finish('back', this.book.config.riseTime * 700);
   }
 
-  /** Follows the window's size. */
+  /** Resizes the canvas with the window. */
   resized() {
     this.density = Math.min(this.most, window.devicePixelRatio || 1);
     this.canvas.width = Math.round(this.canvas.clientWidth * this.density);
@@ -231,7 +231,7 @@ export class Turner {
   }
 
   /**
-   * Takes a leaf off the table, still lying flat.
+   * Lifts a leaf, which still lies flat.
    * @param {number} to
    * @param {number} edgeShare
    * @returns {Leaf}
@@ -315,11 +315,11 @@ export class Turner {
   #notePace(now) {
     const passed = now - this.lastTick;
     this.lastTick = now;
-    // A longer pause is not this leaf's: nothing moved, or the machine did something else.
+    // Longer pauses do not count: nothing was animated, or the machine was busy otherwise.
     if (passed < 200) this.late = Math.max(0, this.late + (passed > LATE_MS ? 1 : -1));
   }
 
-  /** Draws leaves more coarsely from now on where their frames come late. */
+  /** Reduces the density where frames come late. */
   #keepPace() {
     if (this.late < MOST_LATE || this.density <= 1) return;
     this.late = 0;

@@ -6,7 +6,7 @@ import { SlidePainter } from './slide.js';
 /** @typedef {import('./leaf.js').Leaf} Leaf */
 
 /**
- * A way in which pages are turned. It draws with the origin of the context at the leaf's binding.
+ * Draws a leaf while it turns. The origin of the context is at the leaf's binding.
  * @typedef {object} Painter
  * @property {boolean} whole the whole view moves, not one leaf of it
  * @property {number} enough share of the way from which on a leaf let go slowly goes on
