@@ -111,12 +111,20 @@ export function parseConfiguration(xml) {
   if (root.nodeName !== 'SlidePowerPoint' || parsed.getElementsByTagName('parsererror').length) {
     throw new BookError('damaged');
   }
-  /** @param {string} path */
-  const text = (path) => textAt(root, path);
-  /** @param {string} side */
-  const margin = (side) => numberIn(text('Properties ' + side), 10, 0, 400);
   const entries = readPages(list);
   if (entries.length === 0) throw new BookError('empty');
+  return readConfiguration((path) => textAt(root, path), entries);
+}
+
+/**
+ * What the texts of a configuration mean.
+ * @param {(path: string) => string} text of the element to which child names lead, with blanks between them
+ * @param {{page: PageEntry, thumb: PageEntry}[]} entries
+ * @returns {BookConfig}
+ */
+export function readConfiguration(text, entries) {
+  /** @param {string} side */
+  const margin = (side) => numberIn(text('Properties ' + side), 10, 0, 400);
   return {
     margins: {
       top: margin('Top'), right: margin('Right'), bottom: margin('Bottom'), left: margin('Left'),
@@ -223,7 +231,7 @@ class ListedPage {
  * @param {string} list
  * @returns {{page: PageEntry, thumb: PageEntry}[]}
  */
-function readPages(list) {
+export function readPages(list) {
   return list.split('<Ppt>').slice(1).map((text) => {
     const page = new ListedPage(text, 'Normal', { path: '', width: 600, height: 800 });
     const thumb = { width: 85, height: 113, get path() { return page.path; } };

@@ -1,0 +1,84 @@
+import { Happening, Thing, clock, newWindow } from './browser.mjs';
+
+const { Book } = await import('../../src/book/book.js');
+const { Turner } = await import('../../src/turning/turner.js');
+const { Gestures } = await import('../../src/controls/gestures.js');
+const { Zoom } = await import('../../src/controls/zoom.js');
+const { ZoomGestures } = await import('../../src/controls/zoomgestures.js');
+
+export const PHONE = { width: 390, height: 844 };
+
+const MARGINS = { top: 10, right: 10, bottom: 10, left: 10 };
+
+/** A book that lies open before a reader, and what this one does with it. */
+export class Table {
+  /** further: what else the book's configuration says. */
+  constructor({ count = 9, page = 4, width = 1280, height = 800, look = {}, ...further } = {}) {
+    this.window = newWindow();
+    const root = Object.assign(new Thing(), { clientWidth: width, clientHeight: height, dataset: look });
+    const pages = Array.from({ length: count }, (_, index) => ({ path: `${index + 1}.jpg`, width: 120, height: 160 }));
+    this.book = new Book({ pages, margins: MARGINS, rightToLeft: false, moveTime: 0.6, riseTime: 0.3, ...further }, root);
+    this.book.resize();
+    this.turner = new Turner(this.book, new Thing());
+    this.turner.stand(this.book.views.viewOf(page));
+    this.stage = new Thing();
+    this.zoom = new Zoom(this.book, this.turner);
+    this.middleTaps = 0;
+    this.gestures = new Gestures(this.book, this.turner, this.stage, this.zoom, () => { this.middleTaps += 1; });
+    new ZoomGestures(this.zoom, this.stage, () => this.gestures.drop());
+  }
+
+  /** Pages that are seen once all has come to rest. */
+  get pages() {
+    clock.run(20000);
+    return this.pagesNow;
+  }
+
+  get pagesNow() {
+    return this.book.views.pagesOf(this.turner.current);
+  }
+
+  get level() {
+    clock.run(1000);
+    return this.zoom.now.level;
+  }
+
+  pointer(type, x, y, { id = 1, pointerType = 'mouse', button = 0 } = {}) {
+    this.stage.dispatchEvent(new Happening(`pointer${type}`, { clientX: x, clientY: y, pointerId: id, pointerType, button }));
+  }
+
+  tap(x, y, options) {
+    this.pointer('down', x, y, options);
+    clock.run(20);
+    this.pointer('up', x, y, options);
+  }
+
+  /** Drags along places, with that time from each to the next and before letting go. */
+  drag(places, { pause = 16, rest = pause, ...options } = {}) {
+    const [first, ...others] = places;
+    this.pointer('down', ...first, options);
+    for (const place of others) {
+      clock.run(pause);
+      this.pointer('move', ...place, options);
+    }
+    clock.run(rest);
+    this.pointer('up', ...places.at(-1), options);
+  }
+
+  wheel(details) {
+    this.stage.dispatchEvent(new Happening('wheel', { deltaX: 0, deltaY: 0, clientX: 640, clientY: 400, ...details }));
+  }
+
+  /** Gives whether the key was taken. */
+  key(key, details) {
+    const event = new Happening('keydown', { key, ...details });
+    this.window.dispatchEvent(event);
+    return event.defaultPrevented;
+  }
+
+  /** Where a place of the book that is not enlarged lies in the window now. */
+  seen(x, y) {
+    const { now } = this.zoom;
+    return [now.level * x + now.x, now.level * y + now.y];
+  }
+}
