@@ -1,0 +1,57 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { foldOf, leafCorners, reachable, seenAt, seenOutline, within } from '../../src/turning/fold.js';
+
+const WIDTH = 300;
+const HEIGHT = 400;
+const corners = leafCorners({ width: WIDTH, height: HEIGHT });
+const edges = [0, 150, HEIGHT].map((y) => ({ x: WIDTH, y }));
+const places = [-500, -299, -40, 0, 120, 299, 500].flatMap((x) => [-300, 0, 210, 400, 700].map((y) => ({ x, y })));
+
+const area = (outline) => Math.abs(outline.reduce((sum, { x, y }, index) => {
+  const next = outline[(index + 1) % outline.length];
+  return sum + x * next.y - next.x * y;
+}, 0)) / 2;
+
+test('paper is neither torn from its binding nor held back', () => {
+  for (const edge of edges) {
+    for (const wanted of places) {
+      const { x, y } = reachable(wanted, edge, HEIGHT);
+      const tension = [0, HEIGHT].map((bindingY) => Math.hypot(x, y - bindingY) / Math.hypot(edge.x, edge.y - bindingY));
+      assert.ok(Math.max(...tension) < 1.02, `${JSON.stringify(wanted)} from ${edge.y}: ${tension}`);
+      if (x !== wanted.x || y !== wanted.y) assert.ok(Math.max(...tension) > 0.9, 'goes as far as it can');
+    }
+  }
+});
+
+test('a leaf folds in the middle between where its edge lay and where it is, about a roll of paper', () => {
+  assert.equal(foldOf({ x: 299.7, y: 0 }, edges[0], WIDTH, HEIGHT), null);
+  for (const edge of edges) {
+    for (const wanted of places) {
+      const held = reachable(wanted, edge, HEIGHT);
+      const fold = foldOf(held, edge, WIDTH, HEIGHT);
+      if (!fold) continue;
+      const { middle, angle, radius } = fold;
+      assert.ok(radius > 0 && radius <= WIDTH * 0.2, `radius ${radius}`);
+      const beyond = ({ x, y }) => (x - middle.x) * Math.cos(angle) + (y - middle.y) * Math.sin(angle);
+      assert.ok(Math.abs(beyond(edge) + beyond(held)) < 1e-6, 'as far from the fold on both sides');
+      const parts = [within(corners, fold, -Infinity, 0), within(corners, fold, 0, Infinity)];
+      assert.ok(Math.abs(area(parts[0]) + area(parts[1]) - WIDTH * HEIGHT) < 1e-3, 'the parts are the whole');
+      assert.ok(parts[1].every((point) => beyond(point) > -1e-6));
+      const seen = seenOutline(corners, fold, -Infinity, Infinity);
+      assert.ok(seen.every((point) => beyond(point) <= radius), 'no paper beyond the roll');
+    }
+  }
+});
+
+test('paper is seen as it lies, then bent upwards, then as far back as it was beyond', () => {
+  for (const radius of [1, 20, 60]) {
+    const quarter = (Math.PI / 2) * radius;
+    for (const u of [-200, -quarter]) assert.equal(seenAt(u, radius), u);
+    for (const u of [quarter, 200]) assert.equal(seenAt(u, radius), -u);
+    assert.ok(Math.abs(seenAt(0, radius) - (radius - quarter)) < 1e-9, 'the roll is seen edge-on above the fold');
+    const steps = Array.from({ length: 101 }, (_, step) => seenAt(-quarter + (step / 50) * quarter, radius));
+    steps.slice(1).forEach((seen, step) => assert.ok(Math.abs(seen - steps[step]) <= quarter / 50 + 1e-9, 'no leap'));
+    assert.equal(Math.max(...steps), steps[50]);
+  }
+});

@@ -1,0 +1,124 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { Thing, clock } from '../support/browser.mjs';
+import { Table } from '../support/table.mjs';
+
+const { FaceCache } = await import('../../src/book/facecache.js');
+const { Leaf } = await import('../../src/turning/leaf.js');
+
+test('a turn takes the time that the book says, and a page let go that to fall back', () => {
+  const table = new Table({ moveTime: 1.2, riseTime: 2 });
+  table.key('ArrowRight');
+  clock.run(1100);
+  assert.equal(table.turner.turning, true);
+  clock.run(150);
+  assert.deepEqual([table.turner.turning, ...table.pagesNow], [false, 6, 7]);
+  table.drag([[1100, 300], [900, 300], [850, 300]], { pause: 200 });
+  clock.run(500);
+  assert.equal(table.turner.turning, true);
+  clock.run(1100);
+  assert.deepEqual([table.turner.turning, ...table.pagesNow], [false, 6, 7]);
+});
+
+test('turns asked for while one is under way hurry it and follow at once, and end where they lead', () => {
+  const table = new Table({ count: 40, page: 1, moveTime: 9 });
+  for (let press = 0; press < 9; press += 1) {
+    table.key('ArrowRight');
+    clock.run(20);
+  }
+  assert.equal(table.turner.destination, 9);
+  clock.run(1000);
+  assert.deepEqual([table.turner.turning, ...table.pagesNow], [false, 18, 19]);
+  for (const key of ['ArrowLeft', 'ArrowRight', 'End', 'ArrowLeft']) table.key(key);
+  assert.deepEqual(table.pages, [38, 39]);
+});
+
+test('jumps are told before they begin, and not those that lead nowhere or that a held page forbids', () => {
+  const table = new Table();
+  const jumps = [];
+  table.turner.onJump = (view) => jumps.push(view);
+  for (const view of [2, 99, 4]) {
+    table.turner.go(view);
+    clock.run(5000);
+  }
+  assert.deepEqual([jumps, ...table.pagesNow], [[4], 8, 9]);
+  table.pointer('down', 200, 300);
+  table.pointer('move', 300, 300);
+  table.turner.go(0);
+  table.pointer('up', 300, 300);
+  assert.deepEqual([jumps, ...table.pages], [[4], 8, 9]);
+});
+
+test('where readers want little motion pages change at once, and nothing lifts', () => {
+  const table = new Table();
+  table.turner.calm = { matches: true };
+  table.key('ArrowRight');
+  assert.deepEqual([table.turner.turning, ...table.pagesNow], [false, 6, 7]);
+  table.pointer('move', 1140, 60);
+  assert.equal(table.turner.leaf, null);
+});
+
+/** What is in the air: settings, views, its side, the pages of it, those that lie still. */
+const leaves = [
+  [{}, 2, 3, 'right', { left: 6, right: 5 }, { left: 4, right: 7 }], [{}, 2, 1, 'left', { left: 4, right: 3 }, { left: 2, right: 5 }],
+  [{ rightToLeft: true }, 2, 3, 'left', { left: 5, right: 6 }, { left: 7, right: 4 }],
+  [{ width: 400 }, 2, 3, 'right', { left: 0, right: 3 }, { left: 0, right: 4 }],
+  [{ width: 400 }, 2, 1, 'right', { left: 0, right: 2 }, { left: 0, right: 3 }],
+  [{ width: 400, rightToLeft: true }, 2, 3, 'left', { left: 3, right: 0 }, { left: 4, right: 0 }],
+  [{ look: { turn: 'slide' } }, 2, 3, 'right', { left: 4, right: 5 }, { left: 6, right: 7 }],
+  [{ look: { turn: 'slide' } }, 2, 1, 'right', { left: 2, right: 3 }, { left: 4, right: 5 }],
+];
+test('a leaf has the pages of both views on it, and others beneath', () => {
+  for (const [settings, from, to, side, pages, beneath] of leaves) {
+    const { book, turner } = new Table(settings);
+    const leaf = new Leaf(book, turner.painter, from, to, 1);
+    assert.deepEqual([leaf.side, leaf.pages, leaf.beneath], [side, pages, beneath], JSON.stringify(settings));
+    assert.equal(leaf.done, 0);
+    leaf.held = { x: -leaf.held.x, y: 0 };
+    assert.equal(leaf.done, 1);
+  }
+});
+
+test('the edge of a board or a slide goes to the other side and no further', () => {
+  for (const turn of ['flip', 'slide']) {
+    const { book, turner: { painter } } = new Table({ look: { turn } });
+    const leaf = new Leaf(book, painter, 2, 3, 0.5);
+    for (const [x, reached] of [[9e3, leaf.width], [-9e3, -leaf.width], [50, 50]]) assert.equal(painter.reach({ x, y: 0 }, leaf).x, reached, turn);
+  }
+});
+
+test('a machine that does not keep up draws leaves more coarsely', () => {
+  const table = new Table({ count: 40, page: 1 });
+  window.devicePixelRatio = 2;
+  table.turner.resized();
+  const turnAt = (pace) => {
+    globalThis.requestAnimationFrame = (act) => clock.after(act, pace);
+    table.key('ArrowRight');
+    clock.run(5000);
+    return table.turner.density;
+  };
+  assert.equal(turnAt(16), 2);
+  assert.equal(turnAt(40), 1.5);
+  assert.equal(turnAt(40), 1);
+  assert.equal(turnAt(40), 1);
+});
+
+test('pictures of pages are drawn once, and few are kept', () => {
+  const cache = new FaceCache();
+  const drawn = [];
+  const get = (page, kind = 'left') => cache.get(page, kind, (canvas) => drawn.push([page, canvas]));
+  for (let page = 1; page <= 8; page += 1) get(page);
+  const [first, second] = [get(1), get(2)];
+  assert.ok(first instanceof Thing && first !== second && drawn.length === 8);
+  get(1, 'right');
+  assert.equal(drawn.at(-1)[1], drawn[2][1], 'the longest unused canvas is used again');
+  get(3);
+  assert.equal(drawn.length, 10);
+  cache.drop(1);
+  get(1);
+  get(2);
+  assert.equal(drawn.length, 11);
+  cache.clear();
+  get(2);
+  assert.equal(drawn.length, 12);
+});
