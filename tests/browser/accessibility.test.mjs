@@ -45,14 +45,12 @@ test('nothing keeps readers with other senses or hands out: a message', async ()
   assert.deepEqual(await faults(book), []);
 });
 
-for (const [name, view] of [['a desk', DESK], ['a phone', PHONE]]) {
-  test(`nothing keeps readers with other senses or hands out: the note of the page left, on ${name}`, async () => {
-    const book = await reader.openOverHttp(await reader.book({ pages: plainPages(8) }), { view,
-      before: (page) => page.addInitScript(() => localStorage.setItem(`folvero:${location.pathname}:8`, '4')) });
-    assert.equal(await book.page.locator('.toast').isVisible(), true);
-    assert.deepEqual(await faults(book), []);
-  });
-}
+test('nothing keeps readers with other senses or hands out: the note of the page left', async () => {
+  const book = await reader.openOverHttp(await reader.book({ pages: plainPages(8) }), { view: PHONE,
+    before: (page) => page.addInitScript(() => localStorage.setItem(`folvero:${location.pathname}:8`, '4')) });
+  assert.equal(await book.page.locator('.toast').isVisible(), true);
+  assert.deepEqual(await faults(book), []);
+});
 
 test('where the system takes colours and shadows away, lines show surfaces, controls and the focus', async () => {
   const book = await reader.openFromDisk(await reader.book({ pages: plainPages(8) }),
@@ -68,32 +66,4 @@ test('where the system takes colours and shadows away, lines show surfaces, cont
   assert.deepEqual(await unlined('.drawer'), []);
   await press('l')(book);
   assert.deepEqual(await unlined('.share-panel', '.share-panel .copy', '.share-panel .link'), []);
-});
-
-/** The accent of least contrast between a surface and its writing, over black and over white. */
-async function leastContrast(book) {
-  return book.page.evaluate(() => {
-    const style = getComputedStyle(document.getElementById('folvero'));
-    const channels = (text) => [1, 3, 5].map((at) => parseInt(text.trim().slice(at, at + 2), 16));
-    const light = (rgb) => rgb.map((part) => (part / 255 <= 0.04045 ? part / 255 / 12.92 : ((part / 255 + 0.055) / 1.055) ** 2.4))
-      .reduce((sum, part, index) => sum + part * [0.2126, 0.7152, 0.0722][index], 0);
-    const bar = channels(style.getPropertyValue('--bar'));
-    const ink = light(channels(style.getPropertyValue('--bar-ink')));
-    const opacity = Number(style.getPropertyValue('--bar-opacity'));
-    const [shade, share] = /rgba\((\d+),\d+,\d+,([.\d]+)\)/.exec(style.getPropertyValue('--bar-wash')).slice(1).map(Number);
-    const over = [0, 255].flatMap((ground) => {
-      const seen = bar.map((part) => part * opacity + ground * (1 - opacity));
-      return [seen, seen.map((part) => shade * share + part * (1 - share))];
-    });
-    return Math.min(...over.map((seen) => (Math.max(light(seen), ink) + 0.05) / (Math.min(light(seen), ink) + 0.05)));
-  });
-}
-
-test('the bar can be read over any ground, whatever its colour', async () => {
-  for (const colour of ['0x777777', '0x757575', '0xff0000', '0x00a0ff', '0x888800']) {
-    const book = await reader.openFromDisk(await reader.book({ pages: plainPages(2), values: { FlashWindowsColor: colour } }));
-    const least = await leastContrast(book);
-    assert.ok(least >= 4.5, `${colour}: ${least}`);
-    await reader.closeBooks();
-  }
 });
