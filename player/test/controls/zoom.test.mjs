@@ -65,6 +65,7 @@ test('the wheel with Ctrl enlarges about the pointer, and small steps add up', (
   for (const [deltaY, times, wanted, further] of [[-30, 3, Math.exp(0.9)], [-100, 20, 5], [100, 20, 1], [-1, 90, Math.exp(0.9)],
     [1, 88, 1], [-2, 1, Math.exp(0.4), { deltaMode: 1 }]]) {
     push(deltaY, times, further);
+    assert.equal(table.wheel({ ctrlKey: true }), true);
     if (wanted > 1) lies(table, [800, 300], [800, 300], 'place');
     near(table.level, wanted, 0.01, `${times} of ${deltaY}`);
   }
@@ -74,7 +75,7 @@ test('an enlarged page follows wheel, keys and pointer, and never leaves the win
   const table = zoomed();
   const at = () => table.seen(0, 0);
   const [x, y] = at();
-  table.wheel({ deltaX: 10, deltaY: 50 });
+  assert.equal(table.wheel({ deltaX: 10, deltaY: 50 }), true);
   assert.deepEqual(at(), [x - 10, y - 50]);
   table.key('ArrowUp');
   assert.deepEqual(at(), [x - 10, y + 40]);
@@ -83,7 +84,15 @@ test('an enlarged page follows wheel, keys and pointer, and never leaves the win
   assert.deepEqual(at(), [x - 70, y + 20]);
   table.drag([[640, 400], [600, 400], [560, 400]]);
   clock.run(1000);
-  assert.ok(at()[0] < x - 250, 'thrown, it glides on');
+  const thrown = at();
+  assert.ok(thrown[0] < x - 250 && thrown[1] === y + 20, `thrown, it glides on: ${thrown}`);
+  table.drag([[560, 400], [600, 400], [640, 400]]);
+  clock.run(50);
+  table.pointer('down', 640, 400);
+  const caught = at();
+  clock.run(1000);
+  assert.ok(caught[0] < thrown[0] + 250);
+  assert.deepEqual(at(), caught, 'a finger stops it');
   for (const [dx, dy] of [[5000, 5000], [-5000, -5000]]) {
     table.zoom.panBy(dx, dy);
     const { left, right, top, bottom } = table.book.boxOf(table.turner.current);
@@ -133,6 +142,13 @@ test('whole pages give way to fingers that make them smaller, and come back like
     assert.equal(table.zoom.active, false);
     assert.deepEqual(table.seen(0, 0), [0, 0]);
   }
+});
+
+test('what is smaller than the window lies in its middle', () => {
+  const table = open({ ...PHONE, page: 2 });
+  table.zoom.scaleAt({ x: 100, y: 100 }, 1.5);
+  const { top, bottom } = table.book.boxOf(table.turner.current);
+  near(table.seen(0, top)[1] + table.seen(0, bottom)[1], top + bottom, 0.01, 'top and bottom');
 });
 
 test('a page that is turning lands when the reader enlarges it', () => {

@@ -65,15 +65,14 @@ export class Table {
     this.pointer('up', ...places.at(-1), options);
   }
 
+  /** Gives whether the browser is kept from what it would do itself. */
   wheel(details) {
-    this.stage.dispatchEvent(new Happening('wheel', { deltaX: 0, deltaY: 0, clientX: 640, clientY: 400, ...details }));
+    return !this.stage.dispatchEvent(new Happening('wheel', { deltaX: 0, deltaY: 0, clientX: 640, clientY: 400, ...details }));
   }
 
   /** Gives whether the key was taken. */
   key(key, details) {
-    const event = new Happening('keydown', { key, ...details });
-    this.window.dispatchEvent(event);
-    return event.defaultPrevented;
+    return !this.window.dispatchEvent(new Happening('keydown', { key, ...details }));
   }
 
   /** Where a place of the book that is not enlarged lies in the window now. */
