@@ -42,6 +42,20 @@ async function publish(document, template) {
   return folder;
 }
 
+/** Controls that lie over a corner of a page, where a reader takes hold of it, and arrows that touch the paper. */
+function inTheWay(book) {
+  return book.page.evaluate(() => {
+    const boxes = (selector) => [...document.querySelectorAll(selector)].map((one) => one.getBoundingClientRect())
+      .filter(({ width }) => width > 0);
+    const over = boxes('.page').flatMap(({ left, right, top, bottom }) => [left + 3, right - 3]
+      .flatMap((x) => [top + 3, bottom - 3].map((y) => document.elementFromPoint(x, y))))
+      .filter((at) => !at?.closest('.stage')).map((at) => at?.className ?? 'outside of the window');
+    const touching = boxes('.arrow').filter((arrow) => boxes('.page, .stack').some((paper) =>
+      arrow.left < paper.right + 2 && arrow.right > paper.left - 2));
+    return [...over, ...touching.map(() => 'arrow')];
+  });
+}
+
 /** Opens a book, looks at its first page, turns once and looks again. */
 async function tryOut(folder, place, { view, turn }) {
   const failed = [];
@@ -67,6 +81,8 @@ async function tryOut(folder, place, { view, turn }) {
   await book.waitForPages(...(spread ? [2, 3] : [2]));
   const side = spread ? 'left' : 'right';
   assert.match((await book.picture(side)).source, /files\/page\/2\.jpg$/);
+  await book.page.keyboard.press('Shift');
+  if (view === DESK) assert.deepEqual(await inTheWay(book), []);
 
   assert.deepEqual(book.errors, []);
   assert.deepEqual(failed, []);
