@@ -7,40 +7,30 @@ import { silence } from './support/wav.mjs';
 
 const reader = Reader.forTests();
 
-async function open(values, extras) {
-  return reader.openFromDisk(await reader.book({ pages: plainPages(4), values, extras }));
-}
-
-/** The same settings for both grounds, which take up the whole window. */
-function both(settings) {
+/** Opens a book with a ground, outer or inner, that takes up the whole window and is all that is seen. */
+async function openGround(which, settings) {
   const values = { Top: '0', Left: '0', Right: '0', Bottom: '0' };
-  for (const [name, value] of Object.entries(settings)) Object.assign(values, { [`Outer${name}`]: value, [`Inner${name}`]: value });
-  return values;
+  for (const [name, value] of Object.entries(settings)) values[which + name] = value;
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(2), values, extras: { 'extfiles/a.png': picture } }));
+  const others = { Outer: '.inner', Inner: '.outer, .inner::after' }[which];
+  await book.page.addStyleTag({ content: `${others}, .bar, .arrow, .stage, .leaf { display: none !important }
+    .outer, .inner { border-radius: 0 !important; image-rendering: pixelated }` });
+  await book.page.evaluate(async (selector) => {
+    const address = /url\("([^"]+)"\)/.exec(getComputedStyle(document.querySelector(selector)).backgroundImage)?.[1];
+    if (address) await Object.assign(new Image(), { src: address }).decode();
+    await new Promise((resolve) => { requestAnimationFrame(() => requestAnimationFrame(resolve)); });
+  }, `.${which.toLowerCase()}`);
+  return book;
 }
 
-/** Looks at one ground after the other, with nothing else to be seen and its picture decoded. */
-async function onEachGround(book, look) {
-  for (const [ground, rest] of [['.outer', '.inner'], ['.inner', '.outer, .inner::after']]) {
-    const style = await book.page.addStyleTag({ content: `${rest}, .bar, .arrow, .stage, .leaf { display: none !important }
-      .outer, .inner { border-radius: 0 !important; image-rendering: pixelated }` });
-    await book.page.evaluate(async (selector) => {
-      const address = /url\("([^"]+)"\)/.exec(getComputedStyle(document.querySelector(selector)).backgroundImage)?.[1];
-      if (address) await Object.assign(new Image(), { src: address }).decode();
-      await new Promise((resolve) => { requestAnimationFrame(() => requestAnimationFrame(resolve)); });
-    }, ground);
-    await look(ground);
-    await style.evaluate((one) => one.remove());
-  }
-}
-
-const directions = [['0', 5, 400, 1275, 400], ['90', 640, 5, 640, 795], ['180', 1275, 400, 5, 400], ['-90', 640, 795, 640, 5]];
+const directions = [
+  ['Outer', '0', 5, 400, 1275, 400], ['Inner', '90', 640, 5, 640, 795], ['Outer', '180', 1275, 400, 5, 400], ['Inner', '-90', 640, 795, 640, 5],
+];
 test('gradients run from colour A to B in the direction of their angle', async () => {
-  for (const [angle, ax, ay, bx, by] of directions) {
-    const book = await open(both({ GradiantColorA: '0x200000', GradiantColorB: '0xf0ffff', GradiantAngle: angle }));
-    await onEachGround(book, async (ground) => {
-      const [from, to] = [await book.colourAt(ax, ay), await book.colourAt(bx, by)];
-      assert.ok(from[1] < 12 && to[1] > 240, `${ground}, ${angle}: ${from} to ${to}`);
-    });
+  for (const [which, angle, ax, ay, bx, by] of directions) {
+    const book = await openGround(which, { GradiantColorA: '0x200000', GradiantColorB: '0xf0ffff', GradiantAngle: angle });
+    const [from, to] = [await book.colourAt(ax, ay), await book.colourAt(bx, by)];
+    assert.ok(from[1] < 12 && to[1] > 240, `${which}, ${angle}: ${from} to ${to}`);
     await reader.closeBooks();
   }
 });
@@ -50,51 +40,53 @@ const picture = png(60, 60, (x, y) => (x < 30 && y < 18 ? [250, 10, 10] : [10, 2
 const [RED, GREEN, NONE] = [[250, 10, 10], [10, 250, 10], [0, 0, 255]];
 const points = [[3, 3], [1276, 3], [3, 796], [1276, 796], [3, 200], [300, 5], [620, 375], [28, 38], [32, 42]];
 const stretched = [RED, GREEN, GREEN, GREEN, RED, RED, GREEN, RED, RED];
+/** Blue but at some of the points. */
+const over = (others) => points.map((_, index) => others[index] ?? NONE);
 /** Positions and sizes, and the colours at the points. */
 const seen = [
-  ['Scale to fit', 0, 0, stretched], ['something else', 0, 0, stretched], ['Fill', 0, 0, [RED, GREEN, GREEN, GREEN, GREEN, RED, GREEN, RED, RED]],
-  ['Fit', 0, 0, [NONE, NONE, NONE, NONE, NONE, RED, GREEN, NONE, NONE]], ['Tile', 0, 0, [RED, RED, RED, RED, GREEN, RED, RED, GREEN, GREEN]],
-  ['Center', 0, 0, [NONE, NONE, NONE, NONE, NONE, NONE, RED, NONE, NONE]], ['Top left', 0, 0, [RED, NONE, NONE, NONE, NONE, NONE, NONE, GREEN, GREEN]],
-  ['Top right', 0, 0, [NONE, GREEN, NONE, NONE, NONE, NONE, NONE, NONE, NONE]], ['Bottom left', 0, 0, [NONE, NONE, GREEN, NONE, NONE, NONE, NONE, NONE, NONE]],
-  ['Bottom right', 0, 0, [NONE, NONE, NONE, GREEN, NONE, NONE, NONE, NONE, NONE]],
-  ['Top left', 30, 40, [RED, NONE, NONE, NONE, NONE, NONE, NONE, GREEN, NONE]], ['Top left', 30, 0, [RED, NONE, NONE, NONE, NONE, NONE, NONE, GREEN, GREEN]],
+  ['Scale to fit', 0, 0, stretched], ['something else', 0, 0, stretched],
+  ['Fill', 0, 0, [RED, GREEN, GREEN, GREEN, GREEN, RED, GREEN, RED, RED]], ['Fit', 0, 0, over({ 5: RED, 6: GREEN })],
+  ['Tile', 0, 0, [RED, RED, RED, RED, GREEN, RED, RED, GREEN, GREEN]], ['Center', 0, 0, over({ 6: RED })],
+  ['Top left', 0, 0, over({ 0: RED, 7: GREEN, 8: GREEN })], ['Top right', 0, 0, over({ 1: GREEN })],
+  ['Bottom left', 0, 0, over({ 2: GREEN })], ['Bottom right', 0, 0, over({ 3: GREEN })],
+  ['Top left', 30, 40, over({ 0: RED, 7: GREEN })], ['Top left', 30, 0, over({ 0: RED, 7: GREEN, 8: GREEN })],
 ];
 test('background pictures lie as their positions say, in the size that is asked for', async () => {
-  for (const [position, width, height, colours] of seen) {
-    const settings = { GradiantColorA: '0x0000ff', GradiantColorB: '0x0000ff', BackgroundFile: 'extfiles/a.png',
-      BackgroundPosition: position, ImgWidth: String(width), ImgHeight: String(height) };
-    const book = await open(both(settings), { 'extfiles/a.png': picture });
-    await onEachGround(book, async (ground) => {
-      for (const [index, [x, y]] of points.entries()) {
-        assert.deepEqual(await book.colourAt(x, y), colours[index], `${ground}, ${position}, ${width} by ${height}, at ${x},${y}`);
-      }
-    });
+  for (const [index, [BackgroundPosition, width, height, colours]] of seen.entries()) {
+    const book = await openGround(index % 2 ? 'Inner' : 'Outer', { GradiantColorA: '0x0000ff', GradiantColorB: '0x0000ff',
+      BackgroundFile: 'extfiles/a.png', BackgroundPosition, ImgWidth: String(width), ImgHeight: String(height) });
+    const found = [];
+    for (const [x, y] of points) found.push(await book.colourAt(x, y));
+    assert.deepEqual(found, colours, `${BackgroundPosition}, ${width} by ${height}`);
     await reader.closeBooks();
   }
 });
 
-test('sounds begin with the first gesture and not before, and go when the reader switches them off', async () => {
-  const files = { 'extfiles/music.mp3': silence(0.05), 'extfiles/moveSound.mp3': silence(0.05) };
-  const folder = await reader.book({ pages: plainPages(6), values: { SoundFile: 'extfiles/music.mp3', SoundLoops: '-1' }, extras: files });
-  const book = await reader.openOverHttp(folder, { before: (page) => page.addInitScript(() => {
-    window.sounds = [];
-    const { play } = HTMLMediaElement.prototype;
-    HTMLMediaElement.prototype.play = function noted() {
-      window.sounds.push(this);
-      return play.call(this);
-    };
-  }) });
-  const played = () => book.page.evaluate(() => window.sounds.map(({ src }) => src.split('/').at(-1)));
-  const music = (test) => book.page.waitForFunction(test);
-  assert.deepEqual(await played(), []);
-  assert.ok(!book.server.requests.some((request) => request.path.endsWith('.mp3')));
-  await book.page.keyboard.press('ArrowRight');
-  await book.waitForPages(2, 3);
-  assert.deepEqual((await played()).sort(), ['moveSound.mp3', 'music.mp3']);
-  await music(() => window.sounds.some((one) => one.loop && !one.paused && one.played.length > 0));
-  await book.page.keyboard.press('s');
-  await music(() => window.sounds.every((one) => one.paused || one.ended));
-  await book.page.keyboard.press('ArrowRight');
-  await book.waitForPages(4, 5);
-  assert.equal((await played()).length, 2, 'nor does the turning page sound');
+test('sounds begin with the first gesture, and go when the reader switches them off; music plays as often as it should', async () => {
+  const extras = { 'extfiles/music.mp3': silence(0.05), 'extfiles/moveSound.mp3': silence(0.05) };
+  for (const [SoundLoops, times] of [['-1', 1], ['2', 2]]) {
+    const folder = await reader.book({ pages: plainPages(6), values: { SoundFile: 'extfiles/music.mp3', SoundLoops }, extras });
+    const book = await reader.openOverHttp(folder, { before: (page) => page.addInitScript(() => {
+      window.sounds = [];
+      const { play } = HTMLMediaElement.prototype;
+      HTMLMediaElement.prototype.play = function noted() {
+        window.sounds.push(this);
+        return play.call(this);
+      };
+    }) });
+    const played = () => book.page.evaluate(() => window.sounds.map(({ src }) => src.split('/').at(-1)).sort());
+    const until = (condition) => book.page.waitForFunction(condition, times);
+    assert.deepEqual(await played(), []);
+    assert.ok(!book.server.requests.some((request) => request.path.endsWith('.mp3')));
+    await book.page.keyboard.press('ArrowRight');
+    await book.waitForPages(2, 3);
+    await until((wanted) => window.sounds.length > wanted
+      && window.sounds.filter(({ src }) => src.endsWith('music.mp3')).every((one) => (wanted > 1 ? one.ended : one.loop && !one.paused)));
+    assert.deepEqual(await played(), ['moveSound.mp3', ...Array(times).fill('music.mp3')]);
+    await book.page.keyboard.press('s');
+    await until(() => window.sounds.every((one) => one.paused || one.ended));
+    await book.page.keyboard.press('ArrowRight');
+    await book.waitForPages(4, 5);
+    assert.equal((await played()).length, times + 1, 'nor does the turning page sound');
+  }
 });

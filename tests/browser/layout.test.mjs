@@ -43,18 +43,6 @@ test('a page of another shape is shown whole in its half, on paper of the bookâ€
   assert.deepEqual(await book.colourAt(half.x + 30, half.y + 30), [0x33, 0x66, 0x99], 'paper around it');
 });
 
-test('a long book keeps few pages and shows the right ones', async () => {
-  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(300, 12, 16) }));
-  for (const [page, side] of [[150, 'left'], [299, 'right'], [20, 'left']]) {
-    await book.page.evaluate((number) => window.folvero.goTo(number), page);
-    await book.page.waitForFunction((number) => window.folvero.pages.includes(number), page);
-    const kept = await book.page.evaluate(() => window.folvero.imagesKept);
-    assert.ok(kept <= 12, `${kept} images`);
-    await book.pages();
-    assert.match((await book.picture(side)).source, new RegExp(`/page/${page}\\.jpg$`));
-  }
-});
-
 for (const [binding, shaded] of [['yes', true], ['no', false]]) {
   test(`pages darken towards the middle and lie on others, binding: ${binding}`, async () => {
     const folder = await reader.book({ pages: plainPages(60), look: { binding } });

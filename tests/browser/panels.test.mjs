@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
-import { PHONE, Reader } from './support/reader.mjs';
+import { Reader } from './support/reader.mjs';
 
 const reader = Reader.forTests();
 
@@ -119,13 +119,4 @@ test('the note of the page left goes by itself', async () => {
   assert.ok(await visible(book, '.toast'));
   await book.page.clock.runFor(10000);
   assert.equal(await visible(book, '.toast'), false);
-});
-
-test('a storage that refuses does no harm', async () => {
-  const book = await open({ http: true, view: PHONE, before: (page) => page.addInitScript(() =>
-    Object.defineProperty(window, 'localStorage', { get() { throw new Error('forbidden'); } })) });
-  assert.deepEqual(await book.pages(), [1]);
-  await book.page.keyboard.press('ArrowRight');
-  await book.waitForPages(2);
-  assert.deepEqual(book.errors, []);
 });

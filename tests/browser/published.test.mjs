@@ -17,8 +17,6 @@ async function publish(sample, options = []) {
   return folder;
 }
 
-const shapeOf = ({ width, height }) => width / height;
-
 test('a published document has its title, and its pages in a browser as people have it', ready, async () => {
   const book = await reader.openFromDisk(await publish('sample', ['--title', 'Tea & <cake>']));
   assert.equal(await book.page.title(), 'Tea & <cake>');
@@ -26,24 +24,6 @@ test('a published document has its title, and its pages in a browser as people h
   await book.waitForPages(2, 3);
   assert.ok((await book.picture('left')).loaded && (await book.picture('right')).loaded);
   assert.deepEqual(book.errors, []);
-});
-
-test('pages of many sizes are shown whole and in their own shape', ready, async () => {
-  const book = await reader.openFromDisk(await publish('mixed-sizes'), { hash: '#page=2' });
-  const landscape = await book.picture('left');
-  assert.ok(Math.abs(shapeOf(landscape) - 792 / 612) < 0.02, `shape ${shapeOf(landscape)}`);
-  const half = await book.box('left');
-  assert.ok(landscape.width <= half.width + 1 && landscape.height <= half.height + 1);
-  await book.page.keyboard.press('End');
-  await book.waitForPages(8);
-});
-
-test('rotated pages stand as they are read', ready, async () => {
-  const book = await reader.openFromDisk(await publish('rotated'), { hash: '#page=2' });
-  const turnedByQuarter = shapeOf(await book.picture('left'));
-  const upsideDown = shapeOf(await book.picture('right'));
-  assert.ok(Math.abs(turnedByQuarter - 3 / 2) < 0.02, `page 2: ${turnedByQuarter}`);
-  assert.ok(Math.abs(upsideDown - 2 / 3) < 0.02, `page 3: ${upsideDown}`);
 });
 
 test('the style and the properties that were asked for are seen in the book', ready, async () => {

@@ -38,7 +38,9 @@ test('HidePageFrameBar leaves bar and arrows out, and keys still turn', async ()
 const captions = [
   ['Spring <2026> & more', 'Spring <2026> & more', null], ['HTTP://example.org/a', 'example.org/a', 'HTTP://example.org/a'],
   ['mailto:books@example.org', 'books@example.org', 'mailto:books@example.org'], ['tel:+49 30 1234', '+49 30 1234', 'tel:+49 30 1234'],
-  ['Tel: ask at the desk', 'Tel: ask at the desk', null], ['See https://example.org', 'See https://example.org', null],
+  ['https://example.org/"><script>x</script>', 'example.org/"><script>x</script>', 'https://example.org/"><script>x</script>'],
+  ...['Tel: ask at the desk', 'See https://example.org', 'javascript:alert(1)', 'java\tscript:alert(1)', '//example.org/', 'https://']
+    .map((text) => [text, text.replace('\t', ' '), null]),
 ];
 test('TutorialTitle is the caption: text, and a link when it is an address of the web, for mail or of a telephone', async () => {
   for (const [text, words, address] of captions) {

@@ -72,14 +72,6 @@ for (const [RightToLeft, onward, side] of [['No', [[320, 400], [90, 410]], 'righ
   });
 }
 
-test('a right-to-left book begins at the right', async () => {
-  const book = await open(6, { values: { RightToLeft: 'YES' } });
-  assert.deepEqual(await book.colourOf('left'), colourOf(1));
-  await book.page.keyboard.press('ArrowLeft');
-  await book.waitForPages(2, 3);
-  assert.deepEqual([await book.colourOf('left'), await book.colourOf('right')], [colourOf(3), colourOf(2)]);
-});
-
 test('the page box jumps to a page, the address follows, and Back leads to where the jump began', async () => {
   const book = await open(30);
   await book.page.locator('.page-box').fill('17');
@@ -98,17 +90,6 @@ test('readers who want little motion see pages change without a leaf', async () 
   await book.waitForPages(2, 3);
   await book.rest();
   assert.deepEqual(await book.colourOf('left'), colourOf(2));
-});
-
-test('a window that changes while a page turns shows the page that was turned to', async () => {
-  const book = await open(9, { hash: '#page=2', values: { PageMoveTime: '9' } });
-  for (const [width, height, pages] of [[390, 844, [4]], [844, 390, [4, 5]]]) {
-    await book.page.keyboard.press('PageDown');
-    await book.page.waitForFunction(() => window.folvero.turning);
-    await book.page.setViewportSize({ width, height });
-    await book.waitForPages(...pages);
-    assert.deepEqual(await book.colourOf('right'), colourOf(pages.at(-1)));
-  }
 });
 
 /** The same sequence of numbers from 0 to 1 for the same seed. */

@@ -1,6 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { colourOf, plainPages } from './support/book.mjs';
+import { plainPages } from './support/book.mjs';
 import { png } from './support/png.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
 
@@ -51,18 +51,6 @@ test('a double click, Ctrl with the wheel, and keys enlarge', async () => {
   await keyboard.press('Escape');
   assert.deepEqual(await atRest(book), book.whole);
   assert.deepEqual(await book.pages(), [4, 5]);
-});
-
-test('turning keeps the level and begins at the top', async () => {
-  const book = await open({ values: { PageMoveTime: '9' } });
-  await book.page.mouse.dblclick(640, 500);
-  await atRest(book);
-  await book.page.keyboard.press('PageDown');
-  assert.deepEqual(await book.page.evaluate(() => window.folvero.pages), [6, 7], 'at once');
-  near((await atRest(book)).width, book.whole.width * 2.5, 2, 'width');
-  const { x, y } = await book.box('left');
-  assert.ok(x >= 0 && x < 20 && y >= 0 && y < 20, `${x}, ${y}`);
-  assert.deepEqual(await book.colourAt(340, 400), colourOf(6));
 });
 
 test('two fingers enlarge about the place between them, and let go without turning', async () => {

@@ -1,39 +1,29 @@
-// What modules of the player find around them in a browser, as far as their rules need it. Nothing is seen here, and
-// time passes only when a test lets it.
+// What modules of the player find around them in a browser, as far as their rules need it. Nothing is seen here.
 
-class Clock {
-  now = 1000;
-
-  #tasks = new Map();
-
-  #last = 0;
-
+/** Time, which passes only when a test lets it. */
+export const clock = {
+  now: 1000,
+  tasks: [],
   after(act, time = 0) {
-    this.#last += 1;
-    this.#tasks.set(this.#last, { act, at: this.now + time });
-    return this.#last;
-  }
-
+    const task = { act, at: this.now + time };
+    this.tasks.push(task);
+    return task;
+  },
   cancel(task) {
-    this.#tasks.delete(task);
-  }
-
+    this.tasks = this.tasks.filter((one) => one !== task);
+  },
   /** Lets milliseconds pass. */
   run(time) {
     const end = this.now + time;
-    for (;;) {
-      const [next] = [...this.#tasks].filter(([, { at }]) => at <= end).sort((a, b) => a[1].at - b[1].at);
-      if (!next) break;
-      const [id, { act, at }] = next;
-      this.#tasks.delete(id);
-      this.now = at;
-      act(at);
+    const next = () => this.tasks.filter(({ at }) => at <= end).sort((a, b) => a.at - b.at)[0];
+    for (let task = next(); task; task = next()) {
+      this.cancel(task);
+      this.now = task.at;
+      task.act(task.at);
     }
     this.now = end;
-  }
-}
-
-export const clock = new Clock();
+  },
+};
 
 /** Takes every call and every value that a drawing makes of it. */
 function drawing(canvas) {
@@ -41,57 +31,30 @@ function drawing(canvas) {
   return context;
 }
 
+/** An element of the page. */
 export class Thing extends EventTarget {
   style = { setProperty(name, value) { this[name] = value; } };
-
   dataset = {};
-
   classList = { toggle() {} };
-
-  attributes = {};
-
-  #parts = {};
-
-  querySelector(selector) {
-    this.#parts[selector] ??= new Thing();
-    return this.#parts[selector];
-  }
-
-  setAttribute(name, value) {
-    this.attributes[name] = value;
-  }
-
-  getContext() {
-    this.context ??= drawing(this);
-    return this.context;
-  }
-
-  animate() {
-    return { finish() { this.onfinish?.(); } };
-  }
-
-  replaceChildren() {}
-
-  setPointerCapture() {}
+  parts = {};
+  context = drawing(this);
+  getContext = () => this.context;
+  querySelector = (selector) => (this.parts[selector] ??= new Thing());
+  animate = () => ({ finish() { this.onfinish?.(); } });
+  setAttribute = (name, value) => { this[name] = value; };
+  removeAttribute = (name) => { delete this[name]; };
+  replaceChildren = () => {};
+  setPointerCapture = () => {};
+  remove = () => {};
 }
 
-/** A picture that arrives unless its address says that it is missing. */
+/** A picture, which arrives unless its address says that it is missing. */
 class Picture extends Thing {
   naturalWidth = 120;
-
   naturalHeight = 160;
-
-  removed = [];
-
-  async decode() {
+  decode = async () => {
     if (this.src.includes('missing')) throw new Error('not found');
-  }
-
-  remove() {}
-
-  removeAttribute(name) {
-    this.removed.push(name);
-  }
+  };
 }
 
 /** Something that a reader does, at the time that it is. */
@@ -106,23 +69,22 @@ export class Happening extends Event {
   }
 }
 
-const timers = {
-  setTimeout: (act, time) => clock.after(act, time), clearTimeout: (task) => clock.cancel(task),
-  requestAnimationFrame: (act) => clock.after(act, 16), cancelAnimationFrame: (task) => clock.cancel(task),
-  requestIdleCallback: (act) => clock.after(act),
-};
-
-/** A window as it is when a page has just been opened. */
+/** Gives a window as it is when a page has just been opened. */
 export function newWindow() {
-  globalThis.window = Object.assign(new EventTarget(), timers, { devicePixelRatio: 1, folveroConfiguration: {} });
+  const timers = {
+    setTimeout: (act, time) => clock.after(act, time), clearTimeout: (task) => clock.cancel(task),
+    requestAnimationFrame: (act) => clock.after(act, 16), cancelAnimationFrame: (task) => clock.cancel(task),
+    requestIdleCallback: (act) => clock.after(act),
+  };
   Object.assign(globalThis, timers, {
-    document: { createElement: () => new Thing(), hidden: false },
+    window: Object.assign(new EventTarget(), timers, { devicePixelRatio: 1, folveroConfiguration: {} }),
+    document: Object.assign(new EventTarget(), { createElement: () => new Thing(), hidden: false }),
     location: { hash: '', pathname: '/book/', protocol: 'https:' },
     matchMedia: () => ({ matches: false }),
     performance: { now: () => clock.now },
     Image: Picture, HTMLInputElement: class {}, HTMLButtonElement: class {}, DOMMatrix: class {},
   });
-  Object.defineProperty(globalThis, 'navigator', { value: { languages: ['en'] }, configurable: true, writable: true });
+  Object.defineProperty(globalThis, 'navigator', { value: { languages: ['en'] }, configurable: true });
   return globalThis.window;
 }
 

@@ -6,9 +6,7 @@ const { Gestures } = await import('../../src/controls/gestures.js');
 const { Zoom } = await import('../../src/controls/zoom.js');
 const { ZoomGestures } = await import('../../src/controls/zoomgestures.js');
 
-export const PHONE = { width: 390, height: 844 };
-
-const MARGINS = { top: 10, right: 10, bottom: 10, left: 10 };
+export const PHONE = { width: 390, height: 844, page: 2 };
 
 /** A book that lies open before a reader, and what this one does with it. */
 export class Table {
@@ -16,8 +14,11 @@ export class Table {
   constructor({ count = 9, page = 4, width = 1280, height = 800, look = {}, ...further } = {}) {
     this.window = newWindow();
     const root = Object.assign(new Thing(), { clientWidth: width, clientHeight: height, dataset: look });
-    const pages = Array.from({ length: count }, (_, index) => ({ path: `${index + 1}.jpg`, width: 120, height: 160 }));
-    this.book = new Book({ pages, margins: MARGINS, rightToLeft: false, moveTime: 0.6, riseTime: 0.3, ...further }, root);
+    this.book = new Book({
+      pages: Array.from({ length: count }, (_, index) => ({ path: `${index + 1}.jpg`, width: 120, height: 160 })),
+      margins: { top: 10, right: 10, bottom: 10, left: 10 }, rightToLeft: false, moveTime: 0.6, riseTime: 0.3,
+      ...further,
+    }, root);
     this.book.resize();
     this.turner = new Turner(this.book, new Thing());
     this.turner.stand(this.book.views.viewOf(page));
@@ -28,14 +29,14 @@ export class Table {
     new ZoomGestures(this.zoom, this.stage, () => this.gestures.drop());
   }
 
+  get pagesNow() {
+    return this.book.views.pagesOf(this.turner.current);
+  }
+
   /** Pages that are seen once all has come to rest. */
   get pages() {
     clock.run(20000);
     return this.pagesNow;
-  }
-
-  get pagesNow() {
-    return this.book.views.pagesOf(this.turner.current);
   }
 
   get level() {
@@ -43,31 +44,29 @@ export class Table {
     return this.zoom.now.level;
   }
 
-  pointer(type, x, y, { id = 1, pointerType = 'mouse', button = 0 } = {}) {
-    this.stage.dispatchEvent(new Happening(`pointer${type}`, { clientX: x, clientY: y, pointerId: id, pointerType, button }));
-  }
-
-  tap(x, y, options) {
-    this.pointer('down', x, y, options);
-    clock.run(20);
-    this.pointer('up', x, y, options);
+  pointer(type, clientX, clientY, { id = 1, pointerType = 'mouse', button = 0 } = {}) {
+    const details = { clientX, clientY, pointerId: id, pointerType, button };
+    this.stage.dispatchEvent(new Happening(`pointer${type}`, details));
   }
 
   /** Drags along places, with that time from each to the next and before letting go. */
   drag(places, { pause = 16, rest = pause, ...options } = {}) {
-    const [first, ...others] = places;
-    this.pointer('down', ...first, options);
-    for (const place of others) {
-      clock.run(pause);
-      this.pointer('move', ...place, options);
-    }
+    places.forEach((place, index) => {
+      if (index > 0) clock.run(pause);
+      this.pointer(index > 0 ? 'move' : 'down', ...place, options);
+    });
     clock.run(rest);
     this.pointer('up', ...places.at(-1), options);
   }
 
+  tap(x, y, options) {
+    this.drag([[x, y]], options);
+  }
+
   /** Gives whether the browser is kept from what it would do itself. */
   wheel(details) {
-    return !this.stage.dispatchEvent(new Happening('wheel', { deltaX: 0, deltaY: 0, clientX: 640, clientY: 400, ...details }));
+    const nothing = { deltaX: 0, deltaY: 0, clientX: 640, clientY: 400 };
+    return !this.stage.dispatchEvent(new Happening('wheel', { ...nothing, ...details }));
   }
 
   /** Gives whether the key was taken. */

@@ -17,7 +17,7 @@ test('paper is neither torn from its binding nor held back', () => {
   for (const edge of edges) {
     for (const wanted of places) {
       const { x, y } = reachable(wanted, edge, HEIGHT);
-      const tension = [0, HEIGHT].map((bindingY) => Math.hypot(x, y - bindingY) / Math.hypot(edge.x, edge.y - bindingY));
+      const tension = [0, HEIGHT].map((at) => Math.hypot(x, y - at) / Math.hypot(edge.x, edge.y - at));
       assert.ok(Math.max(...tension) < 1.02, `${JSON.stringify(wanted)} from ${edge.y}: ${tension}`);
       if (x !== wanted.x || y !== wanted.y) assert.ok(Math.max(...tension) > 0.9, 'goes as far as it can');
     }
