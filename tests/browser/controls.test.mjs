@@ -19,11 +19,12 @@ test('a page number that is typed is gone to; what is no page number is put back
     await book.page.keyboard.type(text);
     await book.page.keyboard.press('Enter');
     await book.waitForPages(...pages);
-    await book.page.waitForFunction((shown) => document.querySelector('.page-box').value === shown, pages.join('\u2013'));
+    const shown = pages.join('\u2013');
+    await book.page.waitForFunction((wanted) => document.querySelector('.page-box').value === wanted, shown);
   }
 });
 
-test('the bar goes while the reader is idle and comes back with pointer, finger and key, and stays while it is in use', async () => {
+test('the bar goes while the reader is idle, comes with pointer, finger and key, and stays while in use', async () => {
   const book = await open(4, { view: { ...DESK, hasTouch: true }, before: (page) => page.clock.install() });
   const { clock, keyboard, mouse, touchscreen } = book.page;
   for (const come of [() => mouse.move(640, 300), () => touchscreen.tap(640, 300), () => keyboard.press('Tab')]) {
@@ -91,7 +92,8 @@ function misplaced(book) {
   return book.page.evaluate(() => {
     const boxes = [...document.querySelectorAll('.bar button, .bar input, .page-count, .arrow:enabled')]
       .filter((one) => one.getClientRects().length > 0).map((one) => ({ one, box: one.getBoundingClientRect() }));
-    const cut = boxes.filter(({ box }) => box.left < 0 || box.top < 0 || box.right > innerWidth + 0.5 || box.bottom > innerHeight);
+    const cut = boxes.filter(({ box: { left, top, right, bottom } }) =>
+      left < 0 || top < 0 || right > innerWidth + 0.5 || bottom > innerHeight);
     const over = boxes.filter(({ one, box }, index) => one.closest('.bar') && boxes.slice(index + 1).some((next) =>
       next.one.closest('.bar') && next.box.left < box.right - 0.5 && box.left < next.box.right - 0.5));
     const clipped = boxes.filter(({ one }) => one.matches('.page-box') && one.scrollWidth > one.clientWidth + 1);
@@ -108,7 +110,7 @@ for (const [name, view, size] of windows) {
   test(`no control is cut off or covered, and none is lost: ${name}`, async () => {
     const book = await open(120, { view, hash: '#page=114', values: { TutorialTitle: 'A caption' } });
     await book.page.addStyleTag({ content: `html { font-size: ${size}% }` });
-    await book.page.evaluate(() => new Promise((resolve) => { requestAnimationFrame(() => requestAnimationFrame(resolve)); }));
+    await book.drawn();
     assert.deepEqual(await misplaced(book), []);
     const inBar = await book.page.locator('.bar [data-does]').evaluateAll((all) => all
       .filter((one) => one.getClientRects().length > 0).map((one) => one.dataset.does));
@@ -127,8 +129,8 @@ for (const [name, view, size] of windows) {
   });
 }
 
-const words = [[['de-AT', 'en'], 'de', 'Drucken', 'Seiten 2 und 3 von 6'], [['xx', 'FR-ca'], 'fr', 'Imprimer', 'Pages 2 et 3 sur 6'],
-  [['ja'], 'en', 'Print', 'Pages 2 and 3 of 6']];
+const words = [[['de-AT', 'en'], 'de', 'Drucken', 'Seiten 2 und 3 von 6'],
+  [['xx', 'FR-ca'], 'fr', 'Imprimer', 'Pages 2 et 3 sur 6'], [['ja'], 'en', 'Print', 'Pages 2 and 3 of 6']];
 test('the book speaks the language that its reader prefers, and announces its pages in it', async () => {
   for (const [languages, tag, print, announced] of words) {
     const book = await open(6, { hash: '#page=2', before: (page) => page.addInitScript((tags) => {

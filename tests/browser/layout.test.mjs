@@ -14,17 +14,18 @@ test('the book lies within the window, whatever its size, and stays at its page'
     await book.page.setViewportSize({ width, height });
     await book.waitForPages(...width >= 844 ? [4, 5] : [5]);
     // Until the window's frame has been drawn, the pages are where they were before.
-    await book.page.waitForFunction(([across, down]) => [...document.querySelectorAll('.page:not([hidden])')].every((page) => {
-      const box = page.getBoundingClientRect();
-      return box.x >= 0 && box.y >= 0 && box.right <= across && box.bottom <= down && box.height > down * 0.3;
-    }), [width, height]);
+    await book.page.waitForFunction(() => [...document.querySelectorAll('.page:not([hidden])')].every((page) => {
+      const { left, top, right, bottom } = page.getBoundingClientRect();
+      return left >= 0 && top >= 0 && right <= innerWidth && bottom <= innerHeight && bottom - top > innerHeight * 0.3;
+    }));
     assert.deepEqual(await book.colourOf('right'), colourOf(5));
   }
 });
 
 test('pages take their shape from the pictures, and from the configuration where there are none', async () => {
   const shapeOf = async (options) => {
-    const { width, height } = await (await reader.openFromDisk(await reader.book({ declaredSize: [300, 100], ...options }))).box('right');
+    const book = await reader.openFromDisk(await reader.book({ declaredSize: [300, 100], ...options }));
+    const { width, height } = await book.box('right');
     return width / height;
   };
   near(await shapeOf({ pages: plainPages(3, 200, 100) }), 2, 0.02, 'shape of the picture');

@@ -91,7 +91,7 @@ async function tryOut(folder, place, { view, turn }) {
   await book.page.context().close();
 }
 
-test('templates and documents are there', { skip: ready ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' }, () => {
+test('templates and documents are there', { skip: ready ? false : 'the folders are not set' }, () => {
   assert.ok(templates.length > 0);
 });
 

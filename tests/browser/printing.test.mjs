@@ -16,7 +16,8 @@ async function open(folder, options = {}) {
 }
 
 const printed = (book) => book.page.waitForFunction(() => window.prints === 1);
-const sheets = (book) => book.page.locator('.sheet img').evaluateAll((all) => all.map((one) => Number(/(\d+)\.jpg$/.exec(one.src)[1])));
+const sheets = (book) => book.page.locator('.sheet img').evaluateAll((all) =>
+  all.map((one) => Number(/(\d+)\.jpg$/.exec(one.src)[1])));
 
 /** Sheets of a print as the browser makes it: for each its width and height in points. */
 async function onPaper(book) {

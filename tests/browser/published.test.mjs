@@ -27,7 +27,8 @@ test('a published document has its title, and its pages in a browser as people h
 });
 
 test('the style and the properties that were asked for are seen in the book', ready, async () => {
-  const book = await reader.openFromDisk(await publish('text', ['--style', 'Writing desk', '--set', 'RightToLeft=YES']));
+  const folder = await publish('text', ['--style', 'Writing desk', '--set', 'RightToLeft=YES']);
+  const book = await reader.openFromDisk(folder);
   assert.ok(await book.box('left'), 'begins at the right');
   const loaded = await book.page.evaluate(() => {
     const { backgroundImage } = getComputedStyle(document.querySelector('.inner'));

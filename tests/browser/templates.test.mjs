@@ -37,7 +37,8 @@ const LEGAL = {
   pt_color: (value) => /^0x[0-9a-f]{6}$/i.test(value),
   pt_list: (value, { valueSource }) => valueSource.split(',').includes(value),
   pt_bool: (value) => value === 'Yes' || value === 'No',
-  pt_file: (value, { valueSource }) => value === '' || valueSource.split('|')[1].split(';').includes(`*${path.extname(value)}`),
+  pt_file: (value, { valueSource }) => value === ''
+    || valueSource.split('|')[1].split(';').includes(`*${path.extname(value)}`),
 };
 
 for (const template of templates) {
@@ -66,7 +67,8 @@ for (const template of templates) {
       .filter(({ key, type }) => type !== 'pt_composite' && !INFORMATION.includes(key));
     for (const style of styles) {
       const settings = settingsOf(template, style);
-      assert.deepEqual([...settings.keys()].sort(), properties.map(({ key }) => key).sort(), `${style} leaves nothing as it was before`);
+      const keys = properties.map(({ key }) => key);
+      assert.deepEqual([...settings.keys()].sort(), keys.sort(), `${style} sets every value`);
       const used = ['shot.jpg', 'tmplSetting.txt'];
       for (const property of properties) {
         const value = settings.get(property.key);
@@ -74,7 +76,7 @@ for (const template of templates) {
         if (style === 'Blank') assert.equal(value, property.value, property.key);
         if (property.type === 'pt_file' && value) used.push(/^STYLE_RESOURCE:([^/]+)$/.exec(value)[1]);
       }
-      assert.deepEqual(readdirSync(styleFolder(template, style)).sort(), used.sort(), `${style}: the files that it names`);
+      assert.deepEqual(readdirSync(styleFolder(template, style)).sort(), used.sort(), `${style}: what it names`);
     }
   });
 }
@@ -84,14 +86,15 @@ const picture = path.join(styleFolder('float', 'Blank'), 'shot.jpg');
 /** Element of the configuration that each property sets, and another value for it. */
 const EFFECTS = {
   topMargin: ['Top', '31'], bottomMargin: ['Bottom', '32'], leftMargin: ['Left', '33'], rightMargin: ['Right', '34'],
-  mainColor: ['FlashWindowsColor', '0x123456'], InitialShow: ['InitialShow', 'None'], pageBackgroundColor: ['PageBackgroundColor', '0xfedcba'],
-  TutorialTitle: ['TutorialTitle', 'A caption'], hidePageFrameBar: ['HidePageFrameBar', 'YES'],
-  PageRiseOrFallTime: ['PageRiseOrFallTime', '1.1'], pageMoveTime: ['PageMoveTime', '2.2'], SlideInterval: ['SlideInterval', '33'],
-  RightToLeft: ['RightToLeft', 'YES'], AutoPlay: ['AutoPlay', 'YES'], LoopPlay: ['LoopPlay', 'NO'],
-  bgBeginColor: ['OuterGradiantColorA', '0x010203'], bgEndColor: ['OuterGradiantColorB', '0x040506'], bgMRotation: ['OuterGradiantAngle', '11'],
-  inBeginColor: ['InnerGradiantColorA', '0x070809'], inEndColor: ['InnerGradiantColorB', '0x0a0b0c'], inMRotation: ['InnerGradiantAngle', '22'],
-  mainbgImgPosition: ['OuterBackgroundPosition', 'Bottom right'], innerMainbgImgPosition: ['InnerBackgroundPosition', 'Top left'],
-  backgroundSoundLoop: ['SoundLoops', '7'],
+  mainColor: ['FlashWindowsColor', '0x123456'], InitialShow: ['InitialShow', 'None'],
+  pageBackgroundColor: ['PageBackgroundColor', '0xfedcba'], TutorialTitle: ['TutorialTitle', 'A caption'],
+  hidePageFrameBar: ['HidePageFrameBar', 'YES'], PageRiseOrFallTime: ['PageRiseOrFallTime', '1.1'],
+  pageMoveTime: ['PageMoveTime', '2.2'], SlideInterval: ['SlideInterval', '33'], RightToLeft: ['RightToLeft', 'YES'],
+  AutoPlay: ['AutoPlay', 'YES'], LoopPlay: ['LoopPlay', 'NO'], bgBeginColor: ['OuterGradiantColorA', '0x010203'],
+  bgEndColor: ['OuterGradiantColorB', '0x040506'], bgMRotation: ['OuterGradiantAngle', '11'],
+  inBeginColor: ['InnerGradiantColorA', '0x070809'], inEndColor: ['InnerGradiantColorB', '0x0a0b0c'],
+  inMRotation: ['InnerGradiantAngle', '22'], mainbgImgPosition: ['OuterBackgroundPosition', 'Bottom right'],
+  innerMainbgImgPosition: ['InnerBackgroundPosition', 'Top left'], backgroundSoundLoop: ['SoundLoops', '7'],
   mainbgImgUrl: ['OuterBackgroundFile', picture, 'extfiles/mainbgImgUrl.jpg'],
   innerMainbgImgUrl: ['InnerBackgroundFile', picture, 'extfiles/innerMainbgImgUrl.jpg'],
   backgroundSoundURL: ['SoundFile', path.join(TEMPLATE, 'moveSound.mp3'), 'extfiles/backgroundSoundURL.mp3'],
@@ -99,12 +102,14 @@ const EFFECTS = {
 test('every property changes the published book', ready, async () => {
   const published = async (name, options) => {
     const folder = path.join(reader.folder, name);
-    await run(FOLVERO_BIN, ['publish', '--quiet', '--style', 'Blank', ...options, path.join(FOLVERO_SAMPLES_DIR, 'mixed-sizes.pdf'), folder]);
+    const pdf = path.join(FOLVERO_SAMPLES_DIR, 'mixed-sizes.pdf');
+    await run(FOLVERO_BIN, ['publish', '--quiet', '--style', 'Blank', ...options, pdf, folder]);
     const xml = rc4(readFileSync(path.join(folder, 'files/UserConfig.bin')), CONFIG_KEY).toString('utf8');
     return (element) => new RegExp(`<${element}>([^<]*)</${element}>`).exec(xml)?.[1] ?? '';
   };
   const before = await published('plain', []);
-  const after = await published('changed', Object.entries(EFFECTS).flatMap(([key, [, value]]) => ['--set', `${key}=${value}`]));
+  const changes = Object.entries(EFFECTS).flatMap(([key, [, value]]) => ['--set', `${key}=${value}`]);
+  const after = await published('changed', changes);
   for (const [key, [element, value, written = value]] of Object.entries(EFFECTS)) {
     assert.notEqual(before(element), written, `${key} is ${written} from the start`);
     assert.equal(after(element), written, key);

@@ -14,8 +14,8 @@ test('mouse, wheel and keys reach the book', async () => {
   const { keyboard, mouse } = book.page;
   const ways = [
     [() => mouse.click(1130, 200), [6, 7]], [() => mouse.click(30, 200), [4, 5]], [() => mouse.wheel(0, 60), [6, 7]],
-    [() => keyboard.press('ArrowLeft'), [4, 5]], [() => keyboard.press('Space'), [6, 7]], [() => book.drag([200, 300], [900, 280]), [4, 5]],
-    [() => book.drag([1100, 300], [1000, 300], { pause: 250 }), [4, 5]], [() => keyboard.press('End'), [8, 9]],
+    [() => keyboard.press('ArrowLeft'), [4, 5]], [() => keyboard.press('Space'), [6, 7]],
+    [() => book.drag([200, 300], [900, 280]), [4, 5]], [() => keyboard.press('End'), [8, 9]],
   ];
   for (const [act, pages] of ways) {
     await act();
@@ -57,8 +57,9 @@ test('a page that slides keeps under the finger and uncovers the next', async ()
   await book.waitForPages(3);
 });
 
-for (const [RightToLeft, onward, side] of [['No', [[320, 400], [90, 410]], 'right'], ['Yes', [[90, 400], [320, 410]], 'left']]) {
-  test(`on a phone a swipe and a tap turn, a tap in the middle shows and hides the bar, right to left: ${RightToLeft}`, async () => {
+const swipes = [['No', [[320, 400], [90, 410]], 'right'], ['Yes', [[90, 400], [320, 410]], 'left']];
+for (const [RightToLeft, onward, side] of swipes) {
+  test(`on a phone swipes and taps turn, or show and hide the bar, right to left: ${RightToLeft}`, async () => {
     const book = await open(5, { view: PHONE, hash: '#page=2', values: { RightToLeft } });
     await book.swipe(...onward);
     await book.waitForPages(3);
@@ -109,7 +110,7 @@ async function act(book, chance) {
   const { width, height } = page.viewportSize();
   const within = () => [Math.round(width * chance()), Math.round(height * (0.1 + 0.7 * chance()))];
   const actions = [
-    () => page.keyboard.press(['ArrowRight', 'ArrowLeft', 'PageDown', 'PageUp', 'Space', 'End', 'Home'][Math.floor(chance() * 7)]),
+    () => page.keyboard.press(['ArrowRight', 'ArrowLeft', 'PageDown', 'End', 'Home'][Math.floor(chance() * 5)]),
     () => page.mouse.click(chance() < 0.5 ? 4 : width - 4, height / 3),
     () => book.drag(within(), within(), { steps: 3 }),
     () => page.mouse.move(...within()),

@@ -145,8 +145,16 @@ class OpenBook {
       const moving = () => document.getAnimations().filter(({ playState, effect }) =>
         playState === 'running' && Number.isFinite(effect.getComputedTiming().endTime));
       // One that is cancelled rejects its promise, and one that ends may begin another.
-      for (let all = moving(); all.length > 0; all = moving()) await Promise.allSettled(all.map(({ finished }) => finished));
+      for (let all = moving(); all.length > 0; all = moving()) {
+        await Promise.allSettled(all.map(({ finished }) => finished));
+      }
     });
+  }
+
+  /** Waits until what has changed is on the screen. */
+  async drawn() {
+    const frames = () => new Promise((done) => { requestAnimationFrame(() => requestAnimationFrame(done)); });
+    await this.page.evaluate(frames);
   }
 
   /** Colour that is really on the screen at a place. */
@@ -175,8 +183,9 @@ class OpenBook {
   /** Two taps of a finger, one right after the other. */
   async doubleTap(x, y) {
     const session = await this.page.context().newCDPSession(this.page);
-    await Promise.all([[{ x, y }], [], [{ x, y }], []].map((touchPoints) =>
-      session.send('Input.dispatchTouchEvent', { type: touchPoints.length > 0 ? 'touchStart' : 'touchEnd', touchPoints })));
+    const touch = (type, touchPoints) => session.send('Input.dispatchTouchEvent', { type, touchPoints });
+    const tap = () => [touch('touchStart', [{ x, y }]), touch('touchEnd', [])];
+    await Promise.all([...tap(), ...tap()]);
   }
 
   /** A finger that moves across a touch screen. */

@@ -5,7 +5,8 @@ import path from 'node:path';
 
 const TYPES = {
   '.html': 'text/html', '.js': 'text/javascript', '.jpg': 'image/jpeg', '.png': 'image/png',
-  '.css': 'text/css', '.svg': 'image/svg+xml', '.mp3': 'audio/mpeg', '.swf': 'application/x-shockwave-flash', '.wasm': 'application/wasm',
+  '.css': 'text/css', '.svg': 'image/svg+xml', '.mp3': 'audio/mpeg', '.swf': 'application/x-shockwave-flash',
+  '.wasm': 'application/wasm',
 };
 
 /**
