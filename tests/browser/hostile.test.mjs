@@ -1,18 +1,13 @@
 import assert from 'node:assert/strict';
-import { execFile } from 'node:child_process';
 import { copyFile, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { test } from 'node:test';
-import { promisify } from 'node:util';
 import { plainPages } from './support/book.mjs';
+import { folvero, ready, sample } from './support/program.mjs';
 import { TEMPLATE, Reader } from './support/reader.mjs';
 import { readProperties } from './support/template.mjs';
 import { typedPage } from './support/webbook.mjs';
 
-const run = promisify(execFile);
-const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
-const ready = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' };
-const HOSTILE_PDF = path.join(FOLVERO_SAMPLES_DIR ?? '', 'hostile.pdf');
 
 /** Texts that try to become part of the page, of its script or of its style. */
 const MARKUP = [
@@ -79,9 +74,9 @@ async function assertHarmless(book, folder) {
   assert.deepEqual(foreign, [], 'requests beyond the book');
 }
 
-async function publish(name, options, pdf = HOSTILE_PDF) {
+async function publish(name, options) {
   const folder = path.join(reader.folder, name);
-  await run(FOLVERO_BIN, ['publish', '--quiet', '--links', '--bookmarks', ...options, pdf, folder]);
+  await folvero('publish', '--quiet', '--links', '--bookmarks', ...options, sample('hostile'), folder);
   return folder;
 }
 
@@ -157,8 +152,7 @@ test('no path of a configuration leads out of the book', async () => {
 });
 
 test('the list of links keeps the addresses as they are in the document', ready, async () => {
-  const { stdout } = await run(FOLVERO_BIN, ['info', '--json', HOSTILE_PDF]);
-  const addresses = JSON.parse(stdout).pages[0].links.map(({ url }) => url);
+  const addresses = JSON.parse(await folvero('info', '--json', sample('hostile'))).pages[0].links.map(({ url }) => url);
   for (const wanted of ['javascript:', 'JaVaScRiPt:', 'vbscript:'].map((scheme) => `${scheme}window.broken=1`)) {
     assert.ok(addresses.includes(wanted), `${wanted} in ${JSON.stringify(addresses)}`);
   }

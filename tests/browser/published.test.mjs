@@ -1,24 +1,19 @@
 import assert from 'node:assert/strict';
-import { execFile } from 'node:child_process';
 import path from 'node:path';
 import { test } from 'node:test';
-import { promisify } from 'node:util';
+import { folvero, ready, sample } from './support/program.mjs';
 import { Reader } from './support/reader.mjs';
-
-const run = promisify(execFile);
-const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
-const ready = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' };
 
 const reader = Reader.forTests({ whole: true });
 
-async function publish(sample, options = []) {
-  const folder = path.join(reader.folder, sample);
-  await run(FOLVERO_BIN, ['publish', '--quiet', ...options, path.join(FOLVERO_SAMPLES_DIR, `${sample}.pdf`), folder]);
+async function publish(document, ...options) {
+  const folder = path.join(reader.folder, document);
+  await folvero('publish', '--quiet', ...options, sample(document), folder);
   return folder;
 }
 
 test('a published document has its title, and its pages in a browser as people have it', ready, async () => {
-  const book = await reader.openFromDisk(await publish('sample', ['--title', 'Tea & <cake>']));
+  const book = await reader.openFromDisk(await publish('sample', '--title', 'Tea & <cake>'));
   assert.equal(await book.page.title(), 'Tea & <cake>');
   await book.page.keyboard.press('ArrowRight');
   await book.waitForPages(2, 3);
@@ -27,7 +22,7 @@ test('a published document has its title, and its pages in a browser as people h
 });
 
 test('the style and the properties that were asked for are seen in the book', ready, async () => {
-  const folder = await publish('text', ['--style', 'Writing desk', '--set', 'RightToLeft=YES']);
+  const folder = await publish('text', '--style', 'Writing desk', '--set', 'RightToLeft=YES');
   const book = await reader.openFromDisk(folder);
   assert.ok(await book.box('left'), 'begins at the right');
   const loaded = await book.page.evaluate(() => {

@@ -1,16 +1,12 @@
 import assert from 'node:assert/strict';
-import { execFile } from 'node:child_process';
-import { readdirSync, readFileSync } from 'node:fs';
+import { mkdtempSync, readdirSync, readFileSync, rmSync } from 'node:fs';
+import { tmpdir } from 'node:os';
 import path from 'node:path';
 import { test } from 'node:test';
-import { promisify } from 'node:util';
+import { folvero, ready, sample } from './support/program.mjs';
 import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
-import { Reader, TEMPLATE } from './support/reader.mjs';
+import { TEMPLATE } from './support/reader.mjs';
 import { readProperties } from './support/template.mjs';
-
-const run = promisify(execFile);
-const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
-const ready = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' };
 
 const library = path.join(TEMPLATE, '../..');
 const templateFolder = (template) => path.join(library, 'Templates', template);
@@ -19,8 +15,6 @@ const templates = readdirSync(path.join(library, 'Templates'));
 
 /** Noted at import, without an effect of their own; their descriptions say so. */
 const INFORMATION = ['pageWidth', 'pageHeight'];
-
-const reader = Reader.forTests();
 
 /** Values of a style's settings file by key. */
 function settingsOf(template, style) {
@@ -99,11 +93,12 @@ const EFFECTS = {
   innerMainbgImgUrl: ['InnerBackgroundFile', picture, 'extfiles/innerMainbgImgUrl.jpg'],
   backgroundSoundURL: ['SoundFile', path.join(TEMPLATE, 'moveSound.mp3'), 'extfiles/backgroundSoundURL.mp3'],
 };
-test('every property changes the published book', ready, async () => {
+test('every property changes the published book', ready, async (t) => {
+  const books = mkdtempSync(path.join(tmpdir(), 'folvero-templates-'));
+  t.after(() => rmSync(books, { recursive: true }));
   const published = async (name, options) => {
-    const folder = path.join(reader.folder, name);
-    const pdf = path.join(FOLVERO_SAMPLES_DIR, 'mixed-sizes.pdf');
-    await run(FOLVERO_BIN, ['publish', '--quiet', '--style', 'Blank', ...options, pdf, folder]);
+    const folder = path.join(books, name);
+    await folvero('publish', '--quiet', '--style', 'Blank', ...options, sample('mixed-sizes'), folder);
     const xml = rc4(readFileSync(path.join(folder, 'files/UserConfig.bin')), CONFIG_KEY).toString('utf8');
     return (element) => new RegExp(`<${element}>([^<]*)</${element}>`).exec(xml)?.[1] ?? '';
   };

@@ -93,35 +93,22 @@ test('readers who want little motion see pages change without a leaf', async () 
   assert.deepEqual(await book.colourOf('left'), colourOf(2));
 });
 
-/** The same sequence of numbers from 0 to 1 for the same seed. */
-function sequence(seed) {
-  let state = seed;
-  return () => {
-    state = (state * 1664525 + 1013904223) % 2 ** 32;
-    return state / 2 ** 32;
-  };
-}
-
-const WINDOWS = [[800, 500], [330, 500], [560, 400]];
-
 /** Does one thing that a reader might do, chosen by chance. */
 async function act(book, chance) {
   const { page } = book;
   const { width, height } = page.viewportSize();
   const within = () => [Math.round(width * chance()), Math.round(height * (0.1 + 0.7 * chance()))];
+  const one = (choices) => choices[Math.floor(chance() * choices.length)];
   const actions = [
-    () => page.keyboard.press(['ArrowRight', 'ArrowLeft', 'PageDown', 'End', 'Home'][Math.floor(chance() * 5)]),
-    () => page.mouse.click(chance() < 0.5 ? 4 : width - 4, height / 3),
+    () => page.keyboard.press(one(['ArrowRight', 'ArrowLeft', 'PageDown', 'PageUp', 'Space', 'End', 'Home'])),
+    () => page.mouse.click(one([4, width - 4]), height / 3),
     () => book.drag(within(), within(), { steps: 3 }),
     () => page.mouse.move(...within()),
-    () => page.mouse.wheel(0, chance() < 0.5 ? 60 : -60),
+    () => page.mouse.wheel(0, one([60, -60])),
     () => page.evaluate((number) => window.folvero.goTo(number), 1 + Math.floor(chance() * 15)),
-    async () => {
-      const [w, h] = WINDOWS[Math.floor(chance() * WINDOWS.length)];
-      await page.setViewportSize({ width: w, height: h });
-    },
+    () => page.setViewportSize({ width: one([800, 330, 560]), height: one([500, 400]) }),
   ];
-  await actions[Math.floor(chance() * actions.length)]();
+  await one(actions)();
   if (chance() < 0.3) await page.waitForTimeout(chance() * 120);
 }
 
@@ -130,7 +117,11 @@ for (const [index, turn] of ['curl', 'flip', 'slide'].entries()) {
     test(`no order of actions jams pages that ${turn}, right to left: ${RightToLeft}`, async () => {
       const view = { viewport: { width: 800, height: 500 } };
       const book = await open(15, { look: { turn }, values: { RightToLeft, PageMoveTime: '0.2' }, view });
-      const chance = sequence(7 * index + RightToLeft.length);
+      let state = 7 * index + RightToLeft.length;
+      const chance = () => {
+        state = (state * 1664525 + 1013904223) % 2 ** 32;
+        return state / 2 ** 32;
+      };
       for (let round = 0; round < 2; round += 1) {
         for (let step = 0; step < 12; step += 1) await act(book, chance);
         await book.page.mouse.move(2, 2);

@@ -40,6 +40,8 @@ test('a leaf folds in the middle between where its edge lay and where it is, abo
       assert.ok(parts[1].every((point) => beyond(point) > -1e-6));
       const seen = seenOutline(corners, fold, -Infinity, Infinity);
       assert.ok(seen.every((point) => beyond(point) <= radius), 'no paper beyond the roll');
+      const lying = corners.filter((corner) => beyond(corner) < -1.6 * radius);
+      assert.ok(lying.every(({ x, y }) => seen.some((point) => Math.hypot(point.x - x, point.y - y) < 1e-6)));
     }
   }
 });
