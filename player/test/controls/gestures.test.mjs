@@ -55,6 +55,9 @@ test('two taps that are slow, far from each other, long, or answered by the page
   table.tap(1040, 300);
   table.tap(700, 300);
   assert.deepEqual([...table.pages, table.middleTaps], [6, 7, 1], 'one elsewhere lets the first turn');
+  table.turner.onTurn = () => assert.fail('turned meanwhile');
+  for (let tap = 0; tap < 2; tap += 1) table.tap(1040, 300);
+  assert.equal(table.level, 2.5);
   table.tap(700, 300, { pause: 500 });
   assert.equal(table.middleTaps, 1, 'held for long');
 });

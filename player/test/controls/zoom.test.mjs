@@ -114,6 +114,12 @@ test('two fingers enlarge; whole pages give way to them, and come back like thos
     const { level } = table.zoom.now;
     assert.ok(level > least && level < most, `${level}`);
     if (most > 1) lies(table, [150, 500], [150, 500], 'place');
+    if (most > 2) {
+      const [x] = table.seen(0, 0);
+      table.pointer('up', 240, 500, { id: 1 });
+      table.pointer('move', 560, 500, { id: 0 });
+      near(table.seen(0, 0)[0], x + 500, 1, 'follows the finger that is left, for the time being beyond the limits');
+    }
     fingers('up', to);
     if (most > 2) near(table.level, 3, 0.05, 'level afterwards');
     else assert.deepEqual([table.level, table.zoom.active, ...table.seen(0, 0)], [1, false, 0, 0]);
