@@ -1,24 +1,27 @@
 #include "annotations/FlashOutlinePDF.h"
 
 #include "builder/PDFBuilder.h"
+#include "support/RecordedLog.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-using Entry = PDFBuilder::OutlineEntry;
-
 QString shape(const FlashOutlineItem::Items& items) {
     QString text;
-    for (const auto& item : items) {
-        text += QStringLiteral("%1@%2/%3(%4)")
-                    .arg(item->caption())
-                    .arg(item->pageIndex())
-                    .arg(item->level())
-                    .arg(shape(item->childItems()));
-    }
+    for (const auto& item : items)
+        text += QString("%1@%2/%3(%4)")
+                    .arg(item->caption(), QString::number(item->pageIndex()),
+                         QString::number(item->level()), shape(item->childItems()));
     return text;
+}
+
+std::shared_ptr<PDFDocument> opened(PDFBuilder& builder) {
+    builder.addPage(PDFBuilder::page({10, 10}));
+    const QTemporaryDir folder;
+    EXPECT_TRUE(builder.write(folder.filePath("outline.pdf")));
+    return PDFDocument::open(folder.filePath("outline.pdf"));
 }
 
 } // namespace
@@ -27,40 +30,25 @@ TEST(FlashOutlinePDF, CopiesTheWholeTreeWithPDFPageNumbers) {
     PDFBuilder builder;
     const auto to = [&](int page) { return PDFBuilder::toDestination(builder.destination(page)); };
     builder.setOutline(
-        {Entry{QStringLiteral("A"),
-               to(0),
-               {Entry{QStringLiteral("A.1"), to(1), {Entry{QStringLiteral("A.1.a"), to(2), {}}}}}},
-         Entry{QStringLiteral("Überblick 概要"),
-               PDFBuilder::toDestinationByAction(builder.destination(2)),
-               {}},
-         Entry{QStringLiteral("nowhere"), {}, {}}});
-    for (int i = 0; i < 3; ++i) {
-        PDFBuilder::Page page;
-        page.mediaBox = QRectF(0, 0, 10, 10);
-        builder.addPage(page);
-    }
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("outline.pdf"));
-    ASSERT_TRUE(builder.write(path));
-
+        {{"A", to(0), {{"A.1", to(1), {{"A.1.a", to(2)}}}}},
+         {"Überblick 概要", PDFBuilder::toDestinationByAction(builder.destination(2))},
+         {"nowhere"}});
+    for (int i = 0; i < 2; ++i)
+        builder.addPage(PDFBuilder::page({10, 10}));
     FlashOutlinePDF outline;
-    outline.loadOutlineFromPDF(PDFDocument::open(path));
+    const RecordedLog log;
+    outline.loadOutlineFromPDF(opened(builder));
     EXPECT_EQ(shape(outline.items()),
-              QStringLiteral("A@1/1(A.1@2/2(A.1.a@3/3()))Überblick 概要@3/1()nowhere@0/1()"));
+              "A@1/1(A.1@2/2(A.1.a@3/3()))Überblick 概要@3/1()nowhere@0/1()");
     EXPECT_EQ(outline.items()[0]->parent(), nullptr);
     EXPECT_EQ(outline.items()[0]->childItems()[0]->parent(), outline.items()[0].get());
+    EXPECT_EQ(log.texts(), (QStringList{"A", "Überblick 概要", "nowhere"}));
 }
 
 TEST(FlashOutlinePDF, StaysEmptyWithoutBookmarks) {
     PDFBuilder builder;
-    PDFBuilder::Page page;
-    page.mediaBox = QRectF(0, 0, 10, 10);
-    builder.addPage(page);
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("plain.pdf"));
-    ASSERT_TRUE(builder.write(path));
     FlashOutlinePDF outline;
-    outline.loadOutlineFromPDF(PDFDocument::open(path));
+    outline.loadOutlineFromPDF(opened(builder));
     outline.loadOutlineFromPDF(nullptr);
     EXPECT_TRUE(outline.items().empty());
 }

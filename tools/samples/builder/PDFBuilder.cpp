@@ -164,12 +164,19 @@ int PDFBuilder::pageObject(int index) {
     return iPageNumbers[static_cast<size_t>(index)];
 }
 
-QByteArray PDFBuilder::blank(int pages, const QSizeF& size) {
-    PDFBuilder builder;
+PDFBuilder::Page PDFBuilder::page(const QSizeF& size, const QByteArray& content,
+                                  std::vector<QByteArray> annotations) {
     Page page;
     page.mediaBox = QRectF({0, 0}, size);
+    page.content = content;
+    page.annotations = std::move(annotations);
+    return page;
+}
+
+QByteArray PDFBuilder::blank(int pages, const QSizeF& size) {
+    PDFBuilder builder;
     for (int count = 0; count < pages; ++count)
-        builder.addPage(page);
+        builder.addPage(page(size));
     return builder.build();
 }
 

@@ -43,6 +43,9 @@ public:
         std::vector<OutlineEntry> children = {};
     };
 
+    // A page of that size whose lower left corner is the origin.
+    static Page page(const QSizeF& size, const QByteArray& content = {},
+                     std::vector<QByteArray> annotations = {});
     // A whole document of that many empty pages.
     static QByteArray blank(int pages, const QSizeF& size);
 
