@@ -17,8 +17,7 @@ TEST(BookName, LetsNamesOfPicturesSoundsAndDocumentsBe) {
 }
 
 TEST(BookName, LetsTheDotBeThatStandsForNoEnding) {
-    EXPECT_EQ(BookName::withExtensionOf(QStringLiteral("KEY"), QStringLiteral("/x.d/loop")),
-              u"KEY.");
+    EXPECT_EQ(BookName::withExtensionOf("KEY", "/x.d/loop"), u"KEY.");
     expectAll({"KEY."}, true);
     expectAll({"", ".", "..", "KEY..", "KEY ", "KEY .", "web.config.", "a.php.", "NUL."}, false);
 }

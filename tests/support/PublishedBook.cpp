@@ -1,5 +1,7 @@
 #include "support/PublishedBook.h"
 
+#include "support/BookReader.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <stdexcept>
@@ -40,6 +42,10 @@ bool PublishedBook::exists(const QString& relativePath) const {
 
 QByteArray PublishedBook::read(const QString& relativePath) const {
     return TestFiles::read(folder() + u'/' + relativePath);
+}
+
+QString PublishedBook::files(const QString& relativePath) const {
+    return BookReader::filesBeneath(folder() + u'/' + relativePath).join(u' ');
 }
 
 void PublishedBook::write(const QString& relativePath, const QByteArray& content) const {

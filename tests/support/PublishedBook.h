@@ -21,6 +21,9 @@ public:
 
     bool exists(const QString& relativePath) const;
     QByteArray read(const QString& relativePath) const;
+    // The files beneath the book's folder or one in it: relative paths, sorted, with blanks
+    // between.
+    QString files(const QString& relativePath = QString()) const;
     void write(const QString& relativePath, const QByteArray& content) const;
     // A publisher over all this; fileName is null for "index.html".
     std::unique_ptr<FolveroOutput> publisher(const QString& fileName = QString()) const;
@@ -31,7 +34,7 @@ public:
     std::shared_ptr<FlashTemplate> flashTemplate;
     std::shared_ptr<FlashPageSource> pageSource;
     std::shared_ptr<HTMLConfigInfo> HTMLConfig = std::make_shared<HTMLConfigInfo>();
-    std::shared_ptr<FlashPagesAnnotations> annotations;
+    std::shared_ptr<FlashPagesAnnotations> annotations = std::make_shared<FlashPagesAnnotations>();
 
 private:
     QTemporaryDir iRoot;
