@@ -16,7 +16,7 @@ TEST(FlashPageSourceImg, NumbersPagesInOrderOfAddingAndCopiesThemOnce) {
     EXPECT_EQ(source.getPageAtIndex(3), nullptr);
     const auto second = source.getNormalPageAtIndex(2);
     ASSERT_TRUE(second);
-    EXPECT_EQ(second->pageFilePath(), QStringLiteral("/b.png"));
+    EXPECT_EQ(second->pageFilePath(), "/b.png");
     EXPECT_NE(second, source.getPageAtIndex(1)); // a copy, of the same class
     EXPECT_TRUE(std::dynamic_pointer_cast<FlashPageImage>(second));
     EXPECT_EQ(source.getNormalPageAtIndex(0), nullptr);

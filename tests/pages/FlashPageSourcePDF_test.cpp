@@ -10,33 +10,30 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <thread>
 
 namespace {
 
-constexpr int dpi = 144;
-constexpr int best = 100;
-
-// A document whose pages are filled with gray, page N at N tenths.
 class FlashPageSourcePDFTest : public testing::Test {
 protected:
-    QString document(int pages) {
-        PDFBuilder builder;
-        for (int number = 1; number <= pages; ++number) {
-            PDFBuilder::Page page;
-            page.mediaBox = QRectF(0, 0, 100, 150);
-            page.content = QByteArray::number(number / 10.0) + " g 0 0 100 150 re f";
-            builder.addPage(page);
-        }
-        return write(builder);
+    // A document whose pages are filled with gray, page N at N tenths.
+    void fill(int pages) {
+        for (int number = 1; number <= pages; ++number)
+            builder.addPage(PDFBuilder::page({100, 150}, QByteArray::number(number / 10.0) +
+                                                             " g 0 0 100 150 re f"));
     }
 
-    QString write(const PDFBuilder& builder) {
-        const QString path = iFolder.filePath(QStringLiteral("book.pdf"));
-        EXPECT_TRUE(builder.write(path));
-        return path;
+    QString path() {
+        EXPECT_TRUE(builder.write(iFolder.filePath("book.pdf")));
+        return iFolder.filePath("book.pdf");
     }
 
+    std::unique_ptr<FlashPageSourcePDF> source(const QString& pages = "ALL", int quality = 100) {
+        return std::make_unique<FlashPageSourcePDF>(path(), pages, 144, quality);
+    }
+
+    PDFBuilder builder;
+
+private:
     QTemporaryDir iFolder;
 };
 
@@ -47,146 +44,122 @@ std::vector<int> numbers(const FlashPageSource::Pages& pages) {
     return result;
 }
 
+QString folderOf(const FlashPageSourcePDF& source) {
+    return source.toPageConverter()->converterWorkFolder();
+}
+
 } // namespace
 
 TEST_F(FlashPageSourcePDFTest, DrawsTheChosenPagesUnderTheirNumbersInOrder) {
+    fill(5);
     QStringList progress;
     const auto subscription = NotificationCenter::defaultCenter().addObserver(
         QString::fromUtf16(ImportProgressInfoMSG), nullptr, [&](const Notification& message) {
-            progress << QStringLiteral("%1 %2/%3")
-                            .arg(message.userInfo[QStringLiteral("type")].toString(),
-                                 message.userInfo[QStringLiteral("pageIndex")].toString(),
-                                 message.userInfo[QStringLiteral("totalPage")].toString());
+            progress << QString("%1 %2/%3")
+                            .arg(message.userInfo["type"].toString(),
+                                 message.userInfo["pageIndex"].toString(),
+                                 message.userInfo["totalPage"].toString());
         });
-    FlashPageSourcePDF source(document(5), QStringLiteral("4,2"), dpi, best);
-    source.generatePages();
-    source.generateNormalPages();
-    source.generateNormalPages();
+    const auto pages = source("4,2");
+    pages->generatePages();
+    pages->setStop(true);
+    pages->generateNormalPages();
+    EXPECT_TRUE(pages->normalPages().empty());
+    pages->setStop(false);
+    pages->generateNormalPages();
+    EXPECT_EQ(progress, (QStringList{"geneatePage 1/2", "geneatePage 2/2", "geneateNormalPage 1/2",
+                                     "geneateNormalPage 2/2"}));
+    pages->generateNormalPages();
+    EXPECT_EQ(numbers(pages->pages()), (std::vector{2, 4}));
+    EXPECT_EQ(numbers(pages->normalPages()), (std::vector{2, 4}));
+    EXPECT_EQ(pages->getPageAtIndex(1)->pageIndex(), 4);
+    EXPECT_EQ(pages->getNormalPageAtIndex(1), nullptr);
 
-    EXPECT_EQ(numbers(source.pages()), (std::vector{2, 4}));
-    EXPECT_EQ(numbers(source.normalPages()), (std::vector{2, 4}));
-    EXPECT_EQ(progress.mid(0, 4),
-              QStringList({QStringLiteral("geneatePage 1/2"), QStringLiteral("geneatePage 2/2"),
-                           QStringLiteral("geneateNormalPage 1/2"),
-                           QStringLiteral("geneateNormalPage 2/2")}));
-    EXPECT_EQ(source.getPageAtIndex(1)->pageIndex(), 4);
-    EXPECT_EQ(source.getNormalPageAtIndex(1), nullptr);
-
-    const QString folder = source.toPageConverter()->converterWorkFolder();
-    EXPECT_EQ(QDir(folder).entryList(QDir::Files),
-              QStringList({QStringLiteral("2.jpg"), QStringLiteral("4.jpg")}));
-    const QImage page(source.getNormalPageAtIndex(4)->pageFilePath());
+    EXPECT_EQ(QDir(folderOf(*pages)).entryList(QDir::Files), (QStringList{"2.jpg", "4.jpg"}));
+    const QImage page(pages->getNormalPageAtIndex(4)->pageFilePath());
     EXPECT_EQ(page.size(), QSize(200, 300));
     EXPECT_TRUE(page.isGrayscale());
     EXPECT_TRUE(isNear(colourAt(page, 0.5, 0.5), QColor(102, 102, 102)));
+    pages->setStop(true);
+    EXPECT_EQ(pages->getNormalPageAtIndex(4), nullptr);
+}
+
+TEST_F(FlashPageSourcePDFTest, DrawsInThisProcessWithoutWorkers) {
+    fill(2);
+    PDFToSWFPageConverter converter(path(), PDFDocument::open(path()), 100);
+    const QString page = converter.generatePage(2);
+    EXPECT_EQ(page, converter.converterWorkFolder() + "/2.jpg");
+    EXPECT_EQ(QImage(page).size(), QSize(200, 300));
+    QDir(converter.converterWorkFolder()).removeRecursively();
+    EXPECT_THROW(converter.generatePage(1), PlatformException);
+    EXPECT_TRUE(converter.failedPages().empty());
 }
 
 TEST_F(FlashPageSourcePDFTest, UsesAReadyPageFileInsteadOfDrawing) {
-    FlashPageSourcePDF source(document(3), QStringLiteral("ALL"), dpi, best);
-    const QString ready =
-        source.toPageConverter()->converterWorkFolder() + QStringLiteral("/2.swf");
-    QFile file(ready);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    source.generatePages();
-    EXPECT_EQ(source.getPageAtIndex(1)->pageFilePath(), ready);
-    EXPECT_FALSE(QFileInfo::exists(source.toPageConverter()->converterWorkFolder() +
-                                   QStringLiteral("/2.jpg")));
-    EXPECT_TRUE(QFileInfo::exists(source.getPageAtIndex(2)->pageFilePath()));
+    fill(3);
+    const auto pages = source();
+    QFile ready(folderOf(*pages) + "/2.swf");
+    ASSERT_TRUE(ready.open(QIODevice::WriteOnly));
+    pages->generatePages();
+    EXPECT_EQ(pages->getPageAtIndex(1)->pageFilePath(), ready.fileName());
+    EXPECT_EQ(QDir(folderOf(*pages)).entryList(QDir::Files),
+              (QStringList{"1.jpg", "2.swf", "3.jpg"}));
 }
 
 TEST_F(FlashPageSourcePDFTest, DeletesItsWorkFolderWhenItGoes) {
-    QString folder;
-    {
-        FlashPageSourcePDF source(document(1), QStringLiteral("ALL"), dpi, best);
-        source.generatePages();
-        folder = source.toPageConverter()->converterWorkFolder();
-        ASSERT_TRUE(QFileInfo::exists(folder));
-    }
+    fill(1);
+    auto pages = source();
+    pages->generatePages();
+    const QString folder = folderOf(*pages);
+    ASSERT_TRUE(QFileInfo::exists(folder));
+    pages.reset();
     EXPECT_FALSE(QFileInfo::exists(folder));
 }
 
 TEST_F(FlashPageSourcePDFTest, ThrowsForAPageThatTheDocumentLacks) {
-    FlashPageSourcePDF source(document(2), QStringLiteral("1-3"), dpi, best);
-    EXPECT_THROW(source.generatePages(), PlatformException);
-    EXPECT_EQ(source.pages().size(), 2U);
+    fill(2);
+    const auto pages = source("1-3");
+    EXPECT_THROW(pages->generatePages(), PlatformException);
+    EXPECT_EQ(pages->pages().size(), 2U);
 }
 
 TEST_F(FlashPageSourcePDFTest, ListsAPageThatCannotBeDrawnAndGoesOn) {
-    PDFBuilder builder;
-    PDFBuilder::Page page;
-    page.mediaBox = QRectF(0, 0, 100, 100);
-    builder.addPage(page);
-    // An empty branch that counts as a page: the engine finds none when it comes to it.
-    const int second = builder.addPage(page);
-    builder.setObject(builder.pageObject(second), "<< /Type /Pages /Count 1 /Kids [] >>");
-    builder.addPage(page);
-    FlashPageSourcePDF source(write(builder), QStringLiteral("ALL"), dpi, best);
-    source.generatePages();
-    ASSERT_EQ(source.pages().size(), 3U);
-    EXPECT_FALSE(QFileInfo::exists(source.pages()[1]->pageFilePath()));
-    EXPECT_TRUE(QFileInfo::exists(source.pages()[2]->pageFilePath()));
-    const auto& failed = source.toPageConverter()->failedPages();
+    fill(1);
+    // An empty branch that counts as a page: MuPDF finds none when it comes to it.
+    builder.setObject(builder.pageObject(builder.addMissingPage()),
+                      "<< /Type /Pages /Count 1 /Kids [] >>");
+    fill(1);
+    const auto pages = source();
+    pages->generatePages();
+    ASSERT_EQ(pages->pages().size(), 3U);
+    EXPECT_FALSE(QFileInfo::exists(pages->pages()[1]->pageFilePath()));
+    EXPECT_TRUE(QFileInfo::exists(pages->pages()[2]->pageFilePath()));
+    const auto& failed = pages->toPageConverter()->failedPages();
     ASSERT_EQ(failed.size(), 1U);
     EXPECT_EQ(failed[0].page, 2);
     EXPECT_FALSE(failed[0].reason.isNull());
 }
 
 TEST_F(FlashPageSourcePDFTest, StaysEmptyWithoutADocument) {
-    FlashPageSourcePDF source(iFolder.filePath(QStringLiteral("none.pdf")), QStringLiteral("ALL"),
-                              dpi, best);
-    source.generatePages();
-    EXPECT_TRUE(source.pages().empty());
-    EXPECT_EQ(source.toPageConverter()->PDFDoc(), nullptr);
-    EXPECT_TRUE(source.openError().english().contains(QStringLiteral("none.pdf: no such file")));
+    FlashPageSourcePDF pages("none.pdf", "ALL", 144, 100);
+    pages.generatePages();
+    EXPECT_TRUE(pages.pages().empty());
+    EXPECT_EQ(pages.toPageConverter()->PDFDoc(), nullptr);
+    EXPECT_EQ(pages.openError().english(), "none.pdf: no such file");
 }
 
 TEST_F(FlashPageSourcePDFTest, CompressesStronglyBelowTheBestQuality) {
-    PDFBuilder builder;
-    PDFBuilder::Page page;
-    page.mediaBox = QRectF(0, 0, 300, 300);
+    auto page = PDFBuilder::page(
+        {300, 300},
+        "BT /F1 12 Tf 14 TL 10 280 Td " +
+            QByteArray("(The quick brown fox jumps over the lazy dog) Tj T* ").repeated(18) + "ET");
     page.fonts["F1"] = "Helvetica";
-    page.content = "BT /F1 12 Tf 14 TL 10 280 Td " +
-                   QByteArray("(The quick brown fox jumps over the lazy dog) Tj T* ").repeated(18) +
-                   "ET";
     builder.addPage(page);
-    const QString path = write(builder);
     const auto size = [&](int quality) {
-        FlashPageSourcePDF source(path, QStringLiteral("ALL"), dpi, quality);
-        source.generatePages();
-        return QFileInfo(source.pages()[0]->pageFilePath()).size();
+        const auto pages = source("ALL", quality);
+        pages->generatePages();
+        return QFileInfo(pages->pages()[0]->pageFilePath()).size();
     };
-    const qint64 whole = size(100);
-    EXPECT_LT(size(80) * 2, whole);
+    EXPECT_LT(size(80) * 2, size(100));
     EXPECT_EQ(size(80), size(25));
-}
-
-// A page that would draw for hours: forms nested so that each draws the next ten times.
-TEST_F(FlashPageSourcePDFTest, StopsInTheMiddleOfAPage) {
-    PDFBuilder builder;
-    int form =
-        builder.addStream("/Type /XObject /Subtype /Form /BBox [0 0 100 100]", "0 0 100 100 re f");
-    for (int depth = 0; depth < 12; ++depth) {
-        form = builder.addStream("/Type /XObject /Subtype /Form /BBox [0 0 100 100] "
-                                 "/Resources << /XObject << /F " +
-                                     PDFBuilder::reference(form) + " >> >>",
-                                 QByteArray("/F Do ").repeated(10));
-    }
-    PDFBuilder::Page page;
-    page.mediaBox = QRectF(0, 0, 100, 100);
-    page.xObjects["F"] = form;
-    page.content = "/F Do";
-    builder.addPage(page);
-    builder.addPage(page);
-
-    FlashPageSourcePDF source(write(builder), QStringLiteral("ALL"), dpi, best);
-    std::thread stopper([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(200));
-        source.setStop(true);
-    });
-    source.generatePages();
-    stopper.join();
-    ASSERT_EQ(source.toPageConverter()->failedPages().size(), 1U);
-    EXPECT_TRUE(source.toPageConverter()->failedPages()[0].reason.english().contains(
-        QStringLiteral("stopped")));
-    EXPECT_EQ(source.pages().size(), 1U); // the second page was not begun
 }

@@ -3,28 +3,43 @@
 #include "builder/PDFBuilder.h"
 #include "output/FolveroOutputWeb.h"
 #include "platform/NotificationCenter.h"
+#include "support/ChildProcesses.h"
 #include "support/RecordedLog.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
+#include <csignal>
+#include <gmock/gmock.h>
+#include <stdexcept>
+#include <unistd.h>
 
 namespace {
 
 class ImportPDFOperationTest : public testing::Test {
 protected:
-    void SetUp() override {
+    ImportPDFOperationTest() {
         PDFBuilder builder;
-        for (int i = 0; i < 3; ++i) {
-            PDFBuilder::Page page;
-            page.mediaBox = QRectF(0, 0, 100, 100);
-            page.annotations = {PDFBuilder::link(QRectF(10, 10, 20, 20),
-                                                 PDFBuilder::toURL("https://example.org/"))};
-            builder.addPage(page);
-        }
-        builder.setOutline({{QStringLiteral("Start"), {}, {}}});
-        iPath = iFolder.filePath(QStringLiteral("three.pdf"));
-        ASSERT_TRUE(builder.write(iPath));
+        for (int i = 0; i < 3; ++i)
+            builder.addPage(PDFBuilder::page(
+                {100, 100}, {},
+                {PDFBuilder::link({10, 10, 20, 20}, PDFBuilder::toURL("https://example.org/"))}));
+        builder.setOutline({{"Start"}});
+        EXPECT_TRUE(builder.write(iPath));
+    }
+
+    std::shared_ptr<ImportPDFOperation> import(const QString& pages = "ALL",
+                                               bool all = true) const {
+        auto operation = std::make_shared<ImportPDFOperation>(iPath, pages, 144, 100);
+        operation->setImportLinks(all);
+        operation->setImportBookmarks(all);
+        return operation;
+    }
+
+    // Does that at each step of the import, given its number.
+    static NotificationCenter::Subscription atEachStep(std::function<void(int)> action) {
+        return NotificationCenter::defaultCenter().addObserver(
+            QString::fromUtf16(ImportProgressInfoMSG), nullptr,
+            [action, step = 0](const Notification&) mutable { action(++step); });
     }
 
     // Writes into the file, as a copy over it does.
@@ -35,101 +50,158 @@ protected:
     }
 
     QTemporaryDir iFolder;
-    QString iPath;
+    const QString iPath = iFolder.filePath("three.pdf");
 };
 
-// Does that as soon as a page was drawn.
-NotificationCenter::Subscription afterAPage(const std::function<void()>& action) {
-    return NotificationCenter::defaultCenter().addObserver(
-        QString::fromUtf16(ImportProgressInfoMSG), nullptr,
-        [action](const Notification&) { action(); });
+void expectNoResults(const ImportPDFOperation& operation) {
+    EXPECT_FALSE(operation.flashPageSource());
+    EXPECT_FALSE(operation.flashPagesAnnotation());
+    EXPECT_FALSE(operation.flashOutline());
 }
 
 } // namespace
 
 TEST_F(ImportPDFOperationTest, LeavesOutWhatWasNotAskedFor) {
-    ImportPDFOperation operation(iPath, QStringLiteral("ALL"), 144, 100);
-    operation.main();
-    ASSERT_TRUE(operation.flashPageSource());
-    EXPECT_EQ(operation.flashPageSource()->normalPages().size(), 3U);
-    EXPECT_FALSE(operation.flashPagesAnnotation());
-    EXPECT_FALSE(operation.flashOutline());
-    EXPECT_TRUE(operation.failures().isEmpty());
+    const RecordedLog log;
+    const auto operation = import("ALL", false);
+    operation->main();
+    ASSERT_TRUE(operation->flashPageSource());
+    EXPECT_EQ(operation->flashPageSource()->normalPages().size(), 3U);
+    EXPECT_FALSE(operation->flashPagesAnnotation());
+    EXPECT_FALSE(operation->flashOutline());
+    EXPECT_TRUE(operation->failures().isEmpty());
+    EXPECT_EQ(log.texts().filter("generate"),
+              (QStringList{"before generate pages", "after generate pages",
+                           "before generateNormalPages", "after generateNormalPages"}));
 }
 
-TEST_F(ImportPDFOperationTest, ReadsLinksAndBookmarksWhenAskedToAndTellsWhenItIsFinished) {
-    const auto operation =
-        std::make_shared<ImportPDFOperation>(iPath, QStringLiteral("2-3"), 144, 100);
-    operation->setImportLinks(true);
-    operation->setImportBookmarks(true);
-    bool finishedWhenTold = false;
-    operation->setFinishedObserver([&] { finishedWhenTold = operation->isFinished(); });
+TEST_F(ImportPDFOperationTest, ReadsLinksAndBookmarksWhenAskedToAndReportsWhenItIsFinished) {
+    const auto operation = import("2-3");
+    bool wasFinished = false;
+    operation->setFinishedObserver([&] { wasFinished = operation->isFinished(); });
     OperationQueue queue;
     queue.addOperation(operation);
     queue.waitUntilAllOperationsAreFinished();
-
-    EXPECT_TRUE(finishedWhenTold);
+    EXPECT_TRUE(wasFinished);
     const auto pages = operation->flashPagesAnnotation()->pagesAnnotationsNode();
     EXPECT_EQ(std::distance(pages.begin(), pages.end()), 2);
     ASSERT_EQ(operation->flashOutline()->items().size(), 1U);
-    EXPECT_EQ(operation->flashOutline()->items()[0]->caption(), QStringLiteral("Start"));
+    EXPECT_EQ(operation->flashOutline()->items()[0]->caption(), "Start");
 }
 
 TEST_F(ImportPDFOperationTest, DropsThePagesWhenOneIsMissingAndStillListsPagesForLinks) {
     const RecordedLog log(Log::Level::error);
-    ImportPDFOperation operation(iPath, QStringLiteral("2,9"), 144, 100);
-    operation.setImportLinks(true);
-    operation.setImportBookmarks(true);
-    operation.main();
-    EXPECT_FALSE(operation.flashPageSource());
+    const auto operation = import("2,9");
+    operation->main();
+    EXPECT_FALSE(operation->flashPageSource());
     ASSERT_EQ(log.texts().size(), 1);
-    EXPECT_TRUE(
-        log.texts()[0].startsWith(QStringLiteral("Run Import PDF Operation error,import pages:")));
-    EXPECT_TRUE(
-        operation.failures()[0].english().contains(QStringLiteral("page 9 does not exist")));
-
-    const auto pages = operation.flashPagesAnnotation()->pagesAnnotationsNode();
+    EXPECT_TRUE(log.texts()[0].startsWith("Run Import PDF Operation error,import pages:"));
+    EXPECT_TRUE(operation->failures()[0].english().contains("page 9 does not exist"));
+    const auto pages = operation->flashPagesAnnotation()->pagesAnnotationsNode();
     ASSERT_EQ(std::distance(pages.begin(), pages.end()), 2);
     EXPECT_FALSE(pages.first_child().first_child()); // no document is left to read links from
-    EXPECT_TRUE(operation.flashOutline()->items().empty());
+    EXPECT_TRUE(operation->flashOutline()->items().empty());
+}
+
+TEST_F(ImportPDFOperationTest, GoesOnWithoutLinksAndBookmarksThatCannotBeRead) {
+    const RecordedLog log(Log::Level::error);
+    const auto operation = import("1");
+    const auto observer = atEachStep([&](int step) {
+        if (step == 1)
+            return; // the pages are checked once more
+        QFile::remove(iPath);
+        for (const pid_t reader : ChildProcesses::running("read", ::getpid()))
+            ::kill(reader, SIGKILL);
+    });
+    operation->main();
+    EXPECT_THAT(
+        log.texts().join('\n').toStdString(),
+        testing::AllOf(testing::HasSubstr("Run Import PDF Operation error,import links:"),
+                       testing::HasSubstr("Run Import PDF Operation error,import outline:")));
+    expectNoResults(*operation);
+}
+
+TEST_F(ImportPDFOperationTest, ReportsPagesThatCannotBeReadAndUsesTheOthers) {
+    PDFBuilder builder;
+    builder.setObject(builder.pageObject(builder.addMissingPage()),
+                      "<< /Type /Pages /Count 1 /Kids [] >>");
+    builder.addPage(PDFBuilder::page({100, 150}));
+    builder.setInfo("Title", " A title ");
+    ASSERT_TRUE(builder.write(iPath));
+    const auto operation = import();
+    operation->main();
+    EXPECT_EQ(operation->firstCropBox(), QRectF(0, 0, 100, 150));
+    EXPECT_EQ(operation->documentTitle(), "A title");
+    ASSERT_EQ(operation->failures().size(), 1);
+    EXPECT_TRUE(operation->failures()[0].english().startsWith(iPath + ": links: page 1: "));
+    for (const auto& [range, reason] : {std::pair{"1", ": none of the pages could be drawn ("},
+                                        {"3-2", ": none of the pages asked for is in it"}}) {
+        const auto empty = import(range, false);
+        empty->main();
+        ASSERT_EQ(empty->failures().size(), 1) << range;
+        EXPECT_TRUE(empty->failures()[0].english().startsWith(iPath + reason)) << range;
+    }
 }
 
 TEST_F(ImportPDFOperationTest, EmptiesItsResultsWhenCancelled) {
-    ImportPDFOperation beforehand(iPath, QStringLiteral("ALL"), 144, 100);
-    beforehand.cancel();
-    beforehand.main();
-    EXPECT_FALSE(beforehand.flashPageSource());
+    const auto beforehand = import();
+    beforehand->cancel();
+    beforehand->main();
+    expectNoResults(*beforehand);
 
-    ImportPDFOperation underway(iPath, QStringLiteral("ALL"), 144, 100);
-    underway.setImportLinks(true);
-    underway.setImportBookmarks(true);
-    const auto observer = afterAPage([&] { underway.cancel(); });
-    underway.main();
-    EXPECT_FALSE(underway.flashPageSource());
-    EXPECT_FALSE(underway.flashPagesAnnotation());
-    EXPECT_FALSE(underway.flashOutline());
+    const RecordedLog log;
+    const auto underway = import();
+    int steps = 0;
+    const auto observer = atEachStep([&](int step) {
+        steps = step;
+        underway->cancel();
+    });
+    underway->main();
+    EXPECT_EQ(steps, 1); // no further pages
+    expectNoResults(*underway);
+    EXPECT_EQ(log.texts().last(), "import pdf is cancelled");
+}
+
+// The page range is read while the page source is made.
+TEST_F(ImportPDFOperationTest, DrawsNothingWhenCancelledBeforeThereIsAPageSource) {
+    const auto operation = import("1");
+    Log::setWatcher([&](const Log::Record& record) {
+        if (record.text == "range[0]=1")
+            operation->cancel();
+    });
+    int steps = 0;
+    const auto observer = atEachStep([&](int step) { steps = step; });
+    operation->main();
+    Log::setWatcher({});
+    EXPECT_EQ(steps, 0);
+    expectNoResults(*operation);
+}
+
+TEST_F(ImportPDFOperationTest, PassesFaultsOfOursOnWithoutResults) {
+    const auto operation = import();
+    const auto observer = atEachStep([](int /*step*/) { throw std::logic_error("fault"); });
+    EXPECT_THROW(operation->main(), std::logic_error);
+    expectNoResults(*operation);
+    EXPECT_EQ(englishTexts(operation->failures()), QStringList{iPath + ": fault"});
 }
 
 TEST_F(ImportPDFOperationTest, GivesNoPagesOfADocumentThatIsChangedMeanwhile) {
-    const RecordedLog log(Log::Level::error);
-    ImportPDFOperation operation(iPath, QStringLiteral("ALL"), 144, 100);
-    const auto observer = afterAPage([this] { changeDocument(); });
-    operation.main();
-    EXPECT_FALSE(operation.flashPageSource());
-    ASSERT_EQ(operation.failures().size(), 1);
-    EXPECT_EQ(operation.failures()[0].english(),
-              iPath + QStringLiteral(": the file was changed after reading it had begun"));
-    EXPECT_TRUE(operation.failures()[0].isTemporary());
+    const auto operation = import();
+    const auto observer = atEachStep([this](int /*step*/) { changeDocument(); });
+    operation->main();
+    EXPECT_FALSE(operation->flashPageSource());
+    EXPECT_EQ(englishTexts(operation->failures()),
+              QStringList{iPath + ": the file was changed after reading it had begun"});
+    EXPECT_TRUE(operation->failures()[0].isTemporary());
 }
 
 TEST_F(ImportPDFOperationTest, GivesNoWebBookOfADocumentThatIsChangedAfterwards) {
-    const RecordedLog log(Log::Level::error);
-    ImportPDFOperation operation(iPath, QStringLiteral("ALL"), 144, 100);
-    operation.main();
-    FolveroOutputWeb output(operation.flashPageSource(), nullptr, iFolder.path(), QString());
+    const auto operation = import();
+    operation->main();
+    FolveroOutputWeb output(operation->flashPageSource(), nullptr, iFolder.path(), QString());
     output.setProgress([this](int, int) { changeDocument(); });
     output.ouputTheBook();
     ASSERT_EQ(output.publishErrors().size(), 1);
-    EXPECT_TRUE(output.publishErrors()[0].startsWith(iPath + QStringLiteral(": the file was")));
+    EXPECT_TRUE(output.publishErrors()[0].startsWith(iPath + ": the file was"));
     EXPECT_TRUE(output.publishMessages()[0].isTemporary());
 }

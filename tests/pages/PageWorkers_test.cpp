@@ -15,13 +15,13 @@ namespace {
 class PageWorkersTest : public testing::Test {
 protected:
     std::unique_ptr<PageWorkers> start(int pages, const QByteArray& script) {
-        const QString program = iFolder.filePath(QStringLiteral("worker"));
+        const QString program = iFolder.filePath("worker");
         TestFiles::write(program, "#!/bin/sh\nread order\n" + script);
         QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         std::vector<int> numbers(static_cast<std::size_t>(pages));
         std::iota(numbers.begin(), numbers.end(), 1);
-        auto workers = std::make_unique<PageWorkers>(QStringLiteral("none.pdf"), iFolder.path(),
-                                                     100, numbers, iStop);
+        auto workers =
+            std::make_unique<PageWorkers>("none.pdf", iFolder.path(), 100, numbers, iStop);
         workers->setProgram(program);
         EXPECT_TRUE(workers->start());
         return workers;
@@ -69,7 +69,7 @@ TEST_F(PageWorkersTest, PassesReasonsAndTimesOn) {
     const auto workers = start(2, "echo ready\nwhile read page; do\n"
                                   "if [ $page = 1 ]; then echo fail no such colour; else\n"
                                   "echo ok 0.5 0.25 0.125; fi\ndone\n");
-    EXPECT_EQ(workers->waitFor(1)->error.english(), QStringLiteral("no such colour"));
+    EXPECT_EQ(workers->waitFor(1)->error.english(), "no such colour");
     const PageTiming timing = workers->waitFor(2)->timing;
     EXPECT_EQ(timing.draw + timing.encode + timing.write, 0.875);
 }
@@ -77,11 +77,11 @@ TEST_F(PageWorkersTest, PassesReasonsAndTimesOn) {
 TEST_F(PageWorkersTest, EndsAPageUnderWayWhenStopped) {
     const auto workers = start(3, "echo ready\nread page\nsleep 100\n");
     iStop = true;
-    EXPECT_TRUE(workers->waitFor(1)->error.english().contains(QStringLiteral("stopped")));
+    EXPECT_TRUE(workers->waitFor(1)->error.english().contains("stopped"));
 }
 
 TEST_F(PageWorkersTest, SaysWhenThereIsNoWorkerToStart) {
-    PageWorkers workers(QStringLiteral("none.pdf"), iFolder.path(), 100, {1}, iStop);
-    workers.setProgram(iFolder.filePath(QStringLiteral("missing")));
+    PageWorkers workers("none.pdf", iFolder.path(), 100, {1}, iStop);
+    workers.setProgram(iFolder.filePath("missing"));
     EXPECT_FALSE(workers.start());
 }
