@@ -3,6 +3,7 @@
 #include "support/Program.h"
 
 #include <gtest/gtest.h>
+#include <map>
 #include <random>
 
 using namespace NSDataExtension;
@@ -19,13 +20,6 @@ QByteArray noise(qsizetype size) {
     for (char& byte : bytes)
         byte = char(random() % 7 == 0 ? 0 : random());
     return bytes;
-}
-
-QByteArray runOn(const QString& program, const QStringList& arguments, const QByteArray& input) {
-    const auto result =
-        Program::runOther(program, arguments, QProcessEnvironment::systemEnvironment(), input);
-    EXPECT_EQ(result.exitCode, 0) << result.errors.constData();
-    return result.output;
 }
 
 } // namespace
@@ -47,16 +41,12 @@ TEST(NullTerminatedBytes, ReachFromTheStartToTheNextZero) {
 }
 
 TEST(Base32, AgreesWithTheStandardsExamplesWithoutTheirPadding) {
-    const std::pair<const char*, const char*> examples[] = {{"", ""},
-                                                            {"f", "MY"},
-                                                            {"fo", "MZXQ"},
-                                                            {"foo", "MZXW6"},
-                                                            {"foob", "MZXW6YQ"},
-                                                            {"fooba", "MZXW6YTB"},
-                                                            {"foobar", "MZXW6YTBOI"}};
-    for (const auto& [plain, encoded] : examples) {
-        EXPECT_EQ(base32String(plain), QString::fromLatin1(encoded));
-        EXPECT_EQ(dataWithBase32String(QString::fromLatin1(encoded)), QByteArray(plain));
+    const char* examples[] = {"", "MY", "MZXQ", "MZXW6", "MZXW6YQ", "MZXW6YTB", "MZXW6YTBOI"};
+    for (int length = 0; length <= 6; ++length) {
+        const QByteArray plain = QByteArray("foobar").left(length);
+        const QString encoded = QString::fromLatin1(examples[length]);
+        EXPECT_EQ(base32String(plain), encoded);
+        EXPECT_EQ(dataWithBase32String(encoded), plain);
     }
     EXPECT_FALSE(base32String(QByteArray("")).isNull());
 }
@@ -65,14 +55,14 @@ TEST(Base32, ReadsSmallLettersAndSkipsWhatIsNotInTheAlphabet) {
     for (const char* text :
          {"mzxw6ytboi", "MZXW6YTBOI======", "MZ XW\n6Y=TB-1089OI", "=MZXW6YTBOI~"})
         EXPECT_EQ(dataWithBase32String(QString::fromLatin1(text)), "foobar") << text;
-    EXPECT_EQ(dataWithBase32String(QStringLiteral("MZXWé6YTBOI")), "foobar");
+    EXPECT_EQ(dataWithBase32String("MZXWé6YTBOI"), "foobar");
     const QByteArray bytes = noise(1000);
     EXPECT_EQ(dataWithBase32String(base32String(bytes)), bytes);
     EXPECT_EQ(base32String(bytes).size(), (8 * 1000 + 4) / 5);
 }
 
 TEST(COBS, StuffsAsPublished) {
-    const std::pair<const char*, const char*> examples[] = {
+    const std::map<const char*, const char*> examples{
         {"11220033", "0311220233"}, {"00", "0101"},
         {"0000", "010101"},         {"", "01"},
         {"11000000", "0211010101"}, {"11223344", "0511223344"}};
@@ -99,11 +89,10 @@ TEST(COBS, DecodingRestoresWhatWasEncodedAndOneZero) {
 
 TEST(Deflate, OthersReadWhatItWrites) {
     const QByteArray bytes = noise(300000) + QByteArray(300000, 'z');
-    EXPECT_EQ(runOn(QStringLiteral("gzip"), {QStringLiteral("-dc")}, gzipDeflate(bytes)), bytes);
-    const QString script = QStringLiteral("import sys, zlib; b = sys.stdin.buffer.read(); "
-                                          "sys.stdout.buffer.write(zlib.decompress(b))");
-    EXPECT_EQ(runOn(QStringLiteral("python3"), {QStringLiteral("-c"), script}, zlibDeflate(bytes)),
-              bytes);
+    const auto environment = QProcessEnvironment::systemEnvironment();
+    EXPECT_EQ(Program::runOther("gzip", {"-dc"}, environment, gzipDeflate(bytes)).output, bytes);
+    const QByteArray sizeFirst = hex("000927c0"); // as Qt wants it
+    EXPECT_EQ(qUncompress(sizeFirst + zlibDeflate(bytes)), bytes);
     EXPECT_TRUE(zlibDeflate(QByteArray()).isNull());
     EXPECT_TRUE(gzipDeflate("").isEmpty() && !gzipDeflate("").isNull());
 }
@@ -116,8 +105,7 @@ TEST(Inflate, RestoresStreamsOfAnySize) {
             EXPECT_EQ(gzipInflate(zlibDeflate(bytes)), bytes);
         }
     }
-    const QByteArray outside = runOn(QStringLiteral("gzip"), {QStringLiteral("-c9")}, "hello");
-    EXPECT_EQ(gzipInflate(outside), "hello");
+    EXPECT_EQ(gzipInflate(hex("1f8b0800000000000203cb48cdc9c9070086a6103605000000")), "hello");
     const QByteArray nothing = zlibInflate(hex("789c030000000001"));
     EXPECT_TRUE(nothing.isEmpty() && !nothing.isNull());
 }
@@ -147,11 +135,7 @@ TEST(Inflate, StopsAtItsLimit) {
 TEST(Checksums, AgreeWithPublishedValues) {
     EXPECT_EQ(crc32("123456789"), 0xCBF43926U);
     EXPECT_EQ(crc32(""), 0U);
-    EXPECT_EQ(md5DigestString("abc"), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
-    EXPECT_EQ(sha1DigestString("abc"), QStringLiteral("a9993e364706816aba3e25717850c26c9cd0d89d"));
-    EXPECT_EQ(ripemd160DigestString("abc"),
-              QStringLiteral("8eb208f7e05d987a9b044a8e98c6b087f15a0bfc"));
-    EXPECT_EQ(md5DigestString(""), QStringLiteral("d41d8cd98f00b204e9800998ecf8427e"));
-    EXPECT_EQ(md5Digest("abc").size() + sha1Digest("abc").size() + ripemd160Digest("abc").size(),
-              16 + 20 + 20);
+    EXPECT_EQ(md5DigestString("abc"), "900150983cd24fb0d6963f7d28e17f72");
+    EXPECT_EQ(sha1DigestString("abc"), "a9993e364706816aba3e25717850c26c9cd0d89d");
+    EXPECT_EQ(ripemd160DigestString("abc"), "8eb208f7e05d987a9b044a8e98c6b087f15a0bfc");
 }
