@@ -89,7 +89,7 @@ TEST_F(FlashPagesAnnotationsPDFTest, WritesWebAndPageLinksPerImportedPage) {
                                    "1:Link,(60 700 120 40),d:4,url:\n"));
 }
 
-// What may be followed is for whoever shows the links.
+// The player decides which schemes it follows.
 TEST_F(FlashPagesAnnotationsPDFTest, KeepsAddressesOfAnySchemeAsTexts) {
     const QByteArrayList addresses{"JaVaScRiPt:x<&\"]]>", "file:///etc/passwd",
                                    "data:text/html,<script>x</script>"};

@@ -82,7 +82,7 @@ TEST_F(MisbehavingWorkers, CostNothingButTheirPages) {
     EXPECT_EQ(QDir(workFolder()).entryList(QDir::Files).size(), 30 - 8);
 }
 
-// Nobody else may read a document that makes its workers end, however they end.
+// A document that crashes its workers must not be read outside the sandbox.
 TEST_F(MisbehavingWorkers, AreBelievedNothingOnceTheDocumentIsOpened) {
     for (const QByteArray deed : {"exit", "crash", "loop"})
         EXPECT_EQ(failed(2, "opening " + deed + "\n"), (std::set{1, 2})) << deed.constData();
@@ -131,7 +131,7 @@ protected:
     QTemporaryDir iFolder;
 };
 
-// Whether that process or thread, by its folder, may call no more than the walls let through.
+// Whether the process or thread with that folder in /proc has a seccomp filter.
 bool isConfined(const QString& folder) {
     return TestFiles::read(folder + "status").contains("Seccomp:\t2\n");
 }
@@ -153,7 +153,7 @@ TEST_F(KilledWorkers, CostTheirPagesWhichAreListedByNumber) {
     for (int seen = 0;
          kills < 25 && !queue.waitFor(std::uniform_int_distribution(1, 60)(random));) {
         const auto workers = ChildProcesses::running("draw", ::getpid());
-        // Workers that are killed while they start, time and again, would be given up.
+        // Workers that are killed while they start, again and again, are not replaced.
         if (workers.empty() || progress == seen)
             continue;
         seen = progress;
@@ -179,7 +179,7 @@ TEST_F(KilledWorkers, CostTheirPagesWhichAreListedByNumber) {
     }
 }
 
-TEST_F(KilledWorkers, AreMissedByNobodyWhenTheyOnlyRead) {
+TEST_F(KilledWorkers, AreRestartedWhenTheyOnlyRead) {
     const auto document = PDFDocument::openSandboxed(path());
     ASSERT_EQ(document->pageCount(), pageCount);
     for (const pid_t reader : ChildProcesses::running("read", ::getpid()))
@@ -190,7 +190,7 @@ TEST_F(KilledWorkers, AreMissedByNobodyWhenTheyOnlyRead) {
     EXPECT_EQ(document->page(8).rotation(), 0);
 }
 
-// Walls hold what is in the thread that raises them, and libraries start threads of their own.
+// Landlock covers the thread that enters the sandbox, and libraries start threads of their own.
 TEST_F(KilledWorkers, AreSandboxedWithAllTheirThreads) {
     const auto document = PDFDocument::openSandboxed(path());
     std::atomic<bool> stop{false};
@@ -208,8 +208,8 @@ TEST_F(KilledWorkers, AreSandboxedWithAllTheirThreads) {
         const QDir threads(process + "task");
         const QStringList numbers = threads.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
 #ifndef FOLVERO_SANITIZED
-        // Files are closed off from the thread that raises the walls and those that it starts then,
-        // as drawing does; both services raise them in the same way.
+        // Landlock covers the thread that enters the sandbox and those that it starts later, as
+        // drawing does; both services enter it in the same way.
         if (service == "read"sv) {
             EXPECT_EQ(numbers.size(), 1);
         }

@@ -39,7 +39,7 @@ private:
     QTemporaryDir iRoot;
 };
 
-TEST_P(ConfinementTest, TellsWhatStaysInTheFolder) {
+TEST_P(ConfinementTest, KnowsWhatStaysInTheFolder) {
     const QString name = path("style/") + QString::fromLatin1(GetParam().path);
     EXPECT_EQ(Confinement::contains(path("style"), name), GetParam().stays);
     EXPECT_EQ(Confinement::contains(path("style/"), name), GetParam().stays);

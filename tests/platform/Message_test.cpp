@@ -38,7 +38,7 @@ TEST(Message, KeepsBothLanguagesWhenItIsPutTogether) {
     EXPECT_EQ(localTexts({moved}), QStringList{"/other/%2: LINE 3: odd %1"});
 }
 
-TEST(Message, TellsErrorsOfTheSystem) {
+TEST(Message, NamesErrorsOfTheSystem) {
     const Capitals language;
     const Message denied = Message::ofSystemError(EACCES);
     EXPECT_EQ(denied.english(), "Permission denied");

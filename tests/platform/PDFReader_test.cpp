@@ -65,12 +65,12 @@ TEST_F(PDFReaderTest, ReportsWhatEndsTheProgramAndStopsTrying) {
     EXPECT_EQ(TestFiles::read(iFolder.filePath("tries")), "x\nx\nx\n");
 }
 
-TEST_F(PDFReaderTest, StopsWaitingWhenTold) {
+TEST_F(PDFReaderTest, StopsWaitingWhenStopped) {
     iStop = true;
     EXPECT_EQ(failureOfOpening("exec sleep 100\n"), "PDFReadStopped");
 }
 
-// Whoever has taken the other process over may say anything.
+// A compromised worker may answer anything.
 TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
     const auto answers = [&](const QByteArray& packed) {
         auto made = reader("echo here\necho \"ok $count\"\nwhile read question; do echo ok " +
@@ -94,7 +94,7 @@ TEST_F(PDFReaderTest, PassesReasonsOn) {
 }
 
 // Then this process would read the file itself, as when there is no such program.
-TEST_F(PDFReaderTest, DoesNotLetTheFileTalkItOutOfUsingTheProgram) {
+TEST_F(PDFReaderTest, ReadsNoFileInProcessWhateverTheProgramAnswers) {
     EXPECT_EQ(failureOfOpening("echo here\nexit 127\n"), "PDFReaderEnded");
     EXPECT_EQ(failureOfOpening("echo here\necho fail ProcessStartFailed x\n"), "PDFReaderMalformedAnswer");
     EXPECT_EQ(failureOfOpening("echo \"ok $count\"\n"), "PDFReaderMalformedAnswer");
