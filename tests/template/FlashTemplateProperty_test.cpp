@@ -1,173 +1,122 @@
 #include "template/FlashTemplateProperty.h"
 
-#include "platform/PlatformException.h"
 #include "support/TemplateLibrary.h"
 
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString required =
-    QStringLiteral("<key>k</key><title>t</title><desc>d</desc><value>v</value>"
-                   "<valueSource>s</valueSource><defaultValue>f</defaultValue>");
+const QString required = "<key>k</key><title>t</title><desc>d</desc><value>v</value>"
+                         "<valueSource>s</valueSource><defaultValue>f</defaultValue>";
 
-void load(FlashTemplateProperty& node, const QString& xml) {
+void load(FlashTemplateProperty& node, const QString& content, const QString& attributes = {},
+          const QString& name = "property") {
+    const QString xml = u"<%1 %2>%3</%1>"_s.arg(name, attributes, content);
     pugi::xml_document document;
     ASSERT_TRUE(document.load_string(xml.toUtf8().constData(),
                                      pugi::parse_default | pugi::parse_ws_pcdata));
     node.loadFromNode(document.document_element());
 }
 
-QString element(const QString& attributes, const QString& content) {
-    return QStringLiteral("<property %1>%2</property>").arg(attributes, content);
+QStringList texts(const FlashTemplateProperty& node) {
+    return {node.key(),    node.title(),       node.desc(),        node.value(),
+            node.aTitle(), node.valueSource(), node.defaultValue()};
 }
 
 int typeOf(const QString& attributes) {
     FlashTemplateProperty node;
-    load(node, element(attributes, required));
+    load(node, required, attributes);
     return node.propertyType();
+}
+
+QString child(const QString& key, const QString& children = {}) {
+    return TemplateLibrary::composite(key, children);
 }
 
 } // namespace
 
-TEST(FlashTemplateProperty, StartsWithATitleAndNoTexts) {
-    const FlashTemplateProperty node;
-    EXPECT_EQ(node.title(), QStringLiteral("Empty"));
-    EXPECT_EQ(node.propertyType(), pt_text);
-    EXPECT_EQ(node.childCount(), 0U);
-    EXPECT_FALSE(node.readOnly());
-    for (const QString& text : {node.key(), node.aTitle(), node.desc(), node.value(),
-                                node.valueSource(), node.defaultValue()})
-        EXPECT_TRUE(text.isNull());
+TEST(FlashTemplateProperty, LoadsItsTextsFromTheFirstElementOfEachName) {
+    FlashTemplateProperty node;
+    load(node, required + "<aTitle>a</aTitle><aTitle>b</aTitle><value>second</value>");
+    EXPECT_EQ(texts(node).join(u' '), "k t d v a s f");
 }
 
-TEST(FlashTemplateProperty, LoadsItsTextsFromTheirElements) {
+TEST(FlashTemplateProperty, DistinguishesEmptyElementsFromNullTexts) {
     FlashTemplateProperty node;
-    load(node, element({}, required + QStringLiteral("<aTitle>a</aTitle><aTitle>b</aTitle>"
-                                                     "<value>second</value>")));
-    EXPECT_EQ(node.key(), u"k");
-    EXPECT_EQ(node.title(), u"t");
-    EXPECT_EQ(node.desc(), u"d");
-    EXPECT_EQ(node.value(), u"v");
-    EXPECT_EQ(node.valueSource(), u"s");
-    EXPECT_EQ(node.defaultValue(), u"f");
-    EXPECT_EQ(node.aTitle(), u"a");
-}
-
-TEST(FlashTemplateProperty, TellsAnEmptyElementFromNone) {
-    FlashTemplateProperty node;
-    load(node, element({}, QStringLiteral("<key/><title/><desc/><value></value><valueSource/>"
-                                          "<defaultValue/>")));
-    for (const QString& text : {node.key(), node.title(), node.aTitle(), node.desc(), node.value(),
-                                node.valueSource(), node.defaultValue()}) {
-        EXPECT_FALSE(text.isNull());
-        EXPECT_TRUE(text.isEmpty());
-    }
+    EXPECT_EQ(node.title(), "Empty");
+    EXPECT_TRUE(node.aTitle().isNull() && node.value().isNull());
+    load(node, "<key/><title/><desc/><value></value><valueSource/><defaultValue/>");
+    for (const QString& text : texts(node))
+        EXPECT_TRUE(text.isEmpty() && !text.isNull());
 }
 
 TEST(FlashTemplateProperty, KeepsWhiteSpaceAndJoinsAllTextOfAnElement) {
     FlashTemplateProperty node;
-    load(node, element({}, QStringLiteral("<key> </key><title>a<b>b<i>c</i></b><!--no-->d</title>"
-                                          "<desc><![CDATA[<x> & ]]> y</desc><value>\n 1 </value>"
-                                          "<valueSource/><defaultValue>&lt;&#65;</defaultValue>")));
-    EXPECT_EQ(node.key(), u" ");
-    EXPECT_EQ(node.title(), u"abcd");
-    EXPECT_EQ(node.desc(), u"<x> &  y");
-    EXPECT_EQ(node.value(), u"\n 1 ");
-    EXPECT_EQ(node.defaultValue(), u"<A");
+    load(node, "<key> </key><title>a<b>b<i>c</i></b><!--no-->d</title>"
+               "<desc><![CDATA[<x> & ]]> y</desc><value>\n 1 </value>"
+               "<valueSource/><defaultValue>&lt;&#65;</defaultValue>");
+    EXPECT_EQ(texts(node).join(u'|'), " |abcd|<x> &  y|\n 1 |||<A");
 }
 
 TEST(FlashTemplateProperty, ReadsItsTypeFromTheAttributes) {
-    const struct {
-        const char* attributes;
-        int type;
-    } cases[] = {
-        {"type='pt_text'", 0},
-        {"type='pt_number'", 1},
-        {"type='pt_color'", 2},
-        {"type='pt_list'", 3},
-        {"type='pt_composite'", 4},
-        {"type='pt_file'", 5},
-        {"type='pt_list_fromFunction'", 6},
-        {"type='pt_form_security'", 7},
-        {"type='pt_font'", 8},
-        {"type='pt_form_contactabout'", 9},
-        {"type='pt_bool'", 10},
-        {"type='PT_COLOR'", 0},
-        {"type=' pt_color'", 0},
-        {"type=''", 0},
-        {"", 0},
-        {"type='pt_color' aType=''", 10},
-        {"aType='no'", 10},
-    };
-    for (const auto& [attributes, type] : cases)
-        EXPECT_EQ(typeOf(QString::fromLatin1(attributes)), type) << attributes;
+    const QStringList names{"pt_text",
+                            "pt_number",
+                            "pt_color",
+                            "pt_list",
+                            "pt_composite",
+                            "pt_file",
+                            "pt_list_fromFunction",
+                            "pt_form_security",
+                            "pt_font",
+                            "pt_form_contactabout",
+                            "pt_bool"};
+    for (int type = 0; type < names.size(); ++type) {
+        EXPECT_EQ(typeOf(u"type='%1'"_s.arg(names[type])), type);
+        EXPECT_EQ(StringUtil::flashTemplatePropertyTypeName(type), names[type]);
+    }
+    for (const int none : {-1, 11})
+        EXPECT_TRUE(StringUtil::flashTemplatePropertyTypeName(none).isNull());
+    for (const QString text : {"type='PT_COLOR'", "type=' pt_color'", "type=''", ""})
+        EXPECT_EQ(typeOf(text), pt_text);
+    for (const QString marked : {"type='pt_color' aType=''", "aType='no'"})
+        EXPECT_EQ(typeOf(marked), pt_bool);
 }
 
 TEST(FlashTemplateProperty, LoadsTheChildrenOfTheFirstListOnly) {
-    const auto child = [](const char* key) {
-        return TemplateLibrary::property(QString::fromLatin1(key), QStringLiteral("1"));
-    };
     FlashTemplateProperty node;
-    load(node, element({}, required + child("direct") + QStringLiteral("<childProperties>") +
-                               child("one") + QStringLiteral("<other/>") +
-                               TemplateLibrary::composite(QStringLiteral("two"), child("deep")) +
-                               QStringLiteral("</childProperties><childProperties>") +
-                               child("late") + QStringLiteral("</childProperties>")));
+    load(node, required + child("direct") + "<childProperties>" + child("one") + "<other/>" +
+                   child("two", child("deep")) + "</childProperties><childProperties>" +
+                   child("late") + "</childProperties>");
     ASSERT_EQ(node.childCount(), 2U);
     const auto& one = *node.childProperties()[0];
     const auto& two = *node.childProperties()[1];
-    EXPECT_EQ(one.key(), u"one");
+    EXPECT_EQ(one.key(), "one");
     EXPECT_EQ(one.parent(), &node);
     ASSERT_EQ(two.childCount(), 1U);
-    EXPECT_EQ(two.childProperties()[0]->key(), u"deep");
+    EXPECT_EQ(two.childProperties()[0]->key(), "deep");
     EXPECT_EQ(two.childProperties()[0]->parent(), &two);
-}
 
-TEST(FlashTemplateProperty, ReplacesEverythingWhenLoadedAgain) {
     FlashTemplateProperty parent;
-    FlashTemplateProperty node;
-    load(node, TemplateLibrary::composite(QStringLiteral("a"),
-                                          TemplateLibrary::property(QStringLiteral("b"), {})));
     node.setParent(&parent);
-    load(node, element(QStringLiteral("type='pt_list'"), required));
+    load(node, required);
     EXPECT_EQ(node.parent(), nullptr);
-    EXPECT_EQ(node.key(), u"k");
-    EXPECT_EQ(node.propertyType(), pt_list);
     EXPECT_EQ(node.childCount(), 0U);
 }
 
-TEST(FlashTemplateProperty, StaysAsItIsForAnotherElement) {
+TEST(FlashTemplateProperty, IgnoresElementsOfOtherNames) {
     FlashTemplateProperty node;
-    node.setKey(QStringLiteral("kept"));
-    load(node, QStringLiteral("<Property>%1</Property>").arg(required));
+    load(node, required, {}, "Property");
     node.loadFromNode(pugi::xml_node());
-    EXPECT_EQ(node.key(), u"kept");
-    EXPECT_EQ(node.title(), u"Empty");
-}
-
-TEST(FlashTemplateProperty, NamesTheElementThatItLacks) {
-    for (const char* name : {"key", "title", "desc", "value", "valueSource", "defaultValue"}) {
-        const QString missing = QString::fromLatin1(name);
-        QString content = required;
-        content.replace(QStringLiteral("<%1>").arg(missing), QStringLiteral("<x>"))
-            .replace(QStringLiteral("</%1>").arg(missing), QStringLiteral("</x>"));
-        FlashTemplateProperty node;
-        try {
-            load(node, element({}, content));
-            ADD_FAILURE() << "loaded without " << name;
-        } catch (const PlatformException& failure) {
-            EXPECT_TRUE(failure.reason().contains(QStringLiteral("\"%1\"").arg(missing)))
-                << failure.what();
-        }
-    }
+    EXPECT_TRUE(node.key().isNull());
 }
 
 TEST(FlashTemplateProperty, ReadsTheTrueWordsInAnyLetterCase) {
-    for (const char* word : {"YES", "yes", "Show", "enable", "tRUE"})
-        EXPECT_TRUE(StringUtil::valueAsBool(QString::fromLatin1(word))) << word;
-    for (const char* word : {"No", "1", "ON", "Enabled", "", " YES", "ENABLED"})
-        EXPECT_FALSE(StringUtil::valueAsBool(QString::fromLatin1(word))) << word;
+    for (const QString word : {"YES", "yes", "Show", "enable", "tRUE"})
+        EXPECT_TRUE(StringUtil::valueAsBool(word)) << word.toStdString();
+    for (const QString word : {"No", "1", "ON", "Enabled", "", " YES"})
+        EXPECT_FALSE(StringUtil::valueAsBool(word)) << word.toStdString();
     EXPECT_FALSE(StringUtil::valueAsBool(QString()));
 }
