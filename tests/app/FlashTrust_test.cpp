@@ -14,92 +14,64 @@ class FlashTrustTest : public testing::Test {
 protected:
     FlashTrustTest() {
         Folders::setMachineRoot(iRoot.path());
-        QDir(iRoot.path()).mkpath(QStringLiteral("usr/local/share"));
-        iPath = Folders::machineApplicationSupport() +
-                QStringLiteral("/Macromedia/FlashPlayerTrust/PT.cfg");
+        QDir(iRoot.path()).mkpath("usr/local/share");
+        iPath = Folders::machineApplicationSupport() + "/Macromedia/FlashPlayerTrust/PT.cfg";
     }
     ~FlashTrustTest() override { Folders::setMachineRoot(QString()); }
 
-    static QByteArray encoded(const QString& text, QStringConverter::Encoding encoding) {
-        QStringEncoder encode(encoding, QStringConverter::Flag::WriteBom);
-        return encode(text);
+    static QByteArray utf16(const QString& text,
+                            QStringConverter::Encoding encoding = QStringConverter::Utf16) {
+        return QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(text);
     }
-    void write(const QString& text) {
-        TestFiles::write(iPath, encoded(text, QStringConverter::Utf16));
-    }
-    QByteArray content() const { return TestFiles::read(iPath); }
-    void expectText(const QString& text) const {
-        EXPECT_EQ(content().toHex(), encoded(text, QStringConverter::Utf16).toHex());
+    // What the file holds after a folder was added to it.
+    QByteArray added(const QString& folder) const {
+        MirelUtility::makeDiractoryTrustByFlash(folder);
+        return TestFiles::read(iPath);
     }
 
     QTemporaryDir iRoot;
     QString iPath;
-    QString iFolder = QStringLiteral("/home/ü/preview/");
+    QString iFolder = "/home/ü/preview/";
 };
 
 } // namespace
 
-TEST_F(FlashTrustTest, WritesTheFirstFolder) {
-    const RecordedLog log;
-    MirelUtility::makeDiractoryTrustByFlash(iFolder);
-    expectText(iFolder);
-    EXPECT_EQ(log.texts(), QStringList({QStringLiteral("trust folder is:") + iPath,
-                                        QStringLiteral("file is exits!!")}));
-    EXPECT_TRUE(QDir(Folders::libraryApplicationSupport())
-                    .exists(QStringLiteral("Macromedia/FlashPlayerTrust")));
-}
-
 TEST_F(FlashTrustTest, AddsAFolderOnce) {
-    for (const QString& folder : {iFolder, QStringLiteral("/b"), iFolder})
-        MirelUtility::makeDiractoryTrustByFlash(folder);
-    expectText(iFolder + QStringLiteral("\n/b"));
+    const RecordedLog log;
+    EXPECT_EQ(added(iFolder), utf16(iFolder));
+    EXPECT_EQ(log.texts(), QStringList({"trust folder is:" + iPath, "file is exits!!"}));
+    EXPECT_TRUE(QDir(Folders::libraryApplicationSupport()).exists("Macromedia/FlashPlayerTrust"));
+    for (const QString& folder : {QString("/b"), iFolder})
+        EXPECT_EQ(added(folder), utf16(iFolder + "\n/b"));
 }
 
 TEST_F(FlashTrustTest, ComparesWholeLinesOnly) {
-    const struct {
-        QString before;
-        QString after;
-    } cases[] = {
-        {iFolder + QStringLiteral("\r\n/b"), iFolder + QStringLiteral("\r\n/b\n") + iFolder},
-        {u'x' + iFolder, u'x' + iFolder + u'\n' + iFolder},
-        {QStringLiteral("/b\n"), QStringLiteral("/b\n\n") + iFolder},
-        {QStringLiteral(""), u'\n' + iFolder},
-    };
-    for (const auto& [before, after] : cases) {
-        write(before);
-        MirelUtility::makeDiractoryTrustByFlash(iFolder);
-        expectText(after);
+    for (const QString& before :
+         {iFolder + "\r\n/b", 'x' + iFolder, QString("/b\n"), QString("")}) {
+        TestFiles::write(iPath, utf16(before));
+        EXPECT_EQ(added(iFolder), utf16(before + '\n' + iFolder));
     }
-}
-
-TEST_F(FlashTrustTest, ReadsTheOtherByteOrder) {
-    TestFiles::write(iPath, encoded(QStringLiteral("/b"), QStringConverter::Utf16BE));
-    MirelUtility::makeDiractoryTrustByFlash(iFolder);
-    expectText(QStringLiteral("/b\n") + iFolder);
+    TestFiles::write(iPath, utf16("/b", QStringConverter::Utf16BE));
+    EXPECT_EQ(added(iFolder), utf16("/b\n" + iFolder));
 }
 
 TEST_F(FlashTrustTest, LeavesAFileAloneThatIsNotUTF16) {
     TestFiles::write(iPath, "odd");
-    MirelUtility::makeDiractoryTrustByFlash(iFolder);
-    EXPECT_EQ(content(), "odd");
+    EXPECT_EQ(added(iFolder), "odd");
 }
 
-TEST_F(FlashTrustTest, TellsWhenThereIsNoFile) {
-    // A file in the place of the machine's folder.
-    Folders::setMachineRoot(iRoot.filePath(QStringLiteral("file")));
-    TestFiles::write(iRoot.filePath(QStringLiteral("file")), "x");
+TEST_F(FlashTrustTest, LogsAFileThatCannotBeMade) {
+    Folders::setMachineRoot(iRoot.filePath("file"));
+    TestFiles::write(iRoot.filePath("file"), "in the way");
     const RecordedLog log;
     MirelUtility::makeDiractoryTrustByFlash(iFolder);
-    EXPECT_EQ(log.texts().last(), u"file doest not exits!!!!!!!!!");
+    EXPECT_EQ(log.texts().last(), "file doest not exits!!!!!!!!!");
 }
 
 TEST_F(FlashTrustTest, FallsBackToTheLibraryOnAMachineWithoutItsOwnFolder) {
-    QDir(iRoot.filePath(QStringLiteral("usr"))).removeRecursively();
-    MirelUtility::makeDiractoryTrustByFlash(iFolder);
-    const QString trust =
-        iRoot.filePath(QStringLiteral("Library/Application Support/Macromedia/FlashPlayerTrust"));
-    iPath = trust + QStringLiteral("/PT.cfg");
-    expectText(iFolder);
-    iPath = trust + QStringLiteral(".PT.cfg");
-    expectText(iFolder);
+    QDir(iRoot.filePath("usr")).removeRecursively();
+    const QString trust = iRoot.filePath("Library/Application Support/Macromedia/FlashPlayerTrust");
+    iPath = trust + "/PT.cfg";
+    EXPECT_EQ(added(iFolder), utf16(iFolder));
+    EXPECT_EQ(TestFiles::read(trust + ".PT.cfg"), utf16(iFolder));
 }

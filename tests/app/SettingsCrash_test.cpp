@@ -16,6 +16,8 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kills = 50;
@@ -71,8 +73,7 @@ void saveAndKill(const QString& file, const std::function<void(bool isNew)>& sav
 
 TEST(SettingsCrash, LeavesTheUsersSettingsWhole) {
     const QString former = QCoreApplication::applicationName();
-    QCoreApplication::setApplicationName(
-        QStringLiteral("crash-%1").arg(QCoreApplication::applicationPid()));
+    QCoreApplication::setApplicationName(u"crash-%1"_s.arg(QCoreApplication::applicationPid()));
     const QString file = QSettings().fileName();
     AppSettings settings;
     saveAndKill(file, [&settings](bool isNew) {
@@ -90,16 +91,15 @@ TEST(SettingsCrash, LeavesTheUsersSettingsWhole) {
 
 TEST(SettingsCrash, LeavesASettingsFileWhole) {
     TemplateLibrary library;
-    library.addTemplate(QStringLiteral("float"),
-                        TemplateLibrary::property(QStringLiteral("a"), {}) +
-                            TemplateLibrary::property(QStringLiteral("b"), {}));
+    library.addTemplate("float",
+                        TemplateLibrary::property("a", {}) + TemplateLibrary::property("b", {}));
     FlashTemplate tmpl;
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("my.txt"));
+    const QString file = folder.filePath("my.txt");
     saveAndKill(file, [&](bool isNew) {
         const QString text(20'000, isNew ? u'n' : u'o');
-        tmpl.setPropertyValue(QStringLiteral("a"), text);
-        tmpl.setPropertyValue(QStringLiteral("b"), text);
+        tmpl.setPropertyValue("a", text);
+        tmpl.setPropertyValue("b", text);
         EXPECT_TRUE(tmpl.exportPropertiesSettingsTo(file));
     });
 }
