@@ -18,11 +18,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-namespace {
+using namespace Qt::StringLiterals;
 
-QString text(const char* latin1) {
-    return QString::fromLatin1(latin1);
-}
+namespace {
 
 // The sheet with a document of some pages, the first 300 by 400 points.
 class ImportSheet : public testing::Test {
@@ -30,28 +28,35 @@ protected:
     ImportSheet() {
         auto& settings = AppSettings::shareInstance();
         settings.setImportPageRangeType(0);
-        settings.setImportPageRange(text(""));
+        settings.setImportPageRange("");
         settings.setImportQualityLevel(0);
         settings.setImportLinks(0);
         settings.setImportBookmark(0);
-        settings.setLastImportedFile(path(5));
     }
 
     QString path(int pages) {
-        const QString file = iFolder.filePath(text("%1.pdf").arg(pages));
+        const QString file = iFolder.filePath(u"%1.pdf"_s.arg(pages));
         TestFiles::write(file, PDFBuilder::blank(pages, {300, 400}));
         return file;
     }
 
-    ImportWindowDelegate& open() {
+    void open() {
         sheet = std::make_unique<ImportWindowDelegate>();
         sheet->beginSheet([this](int code) { ended << code; });
-        return *sheet;
     }
     ImportWindow& window() { return sheet->window(); }
-    void click(QPushButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+    void click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+    void choosePages(int type) { window().pageRangeType->button(type)->click(); }
+    void startImport(const QString& file) {
+        window().txtImportFile->setText(file);
+        click(window().btnOK);
+    }
     bool waitForIdle() {
         return QTest::qWaitFor([&] { return !sheet->isImporting(); }, 20000);
+    }
+    bool import(const QString& file) {
+        startImport(file);
+        return waitForIdle();
     }
 
     std::unique_ptr<ImportWindowDelegate> sheet;
@@ -63,32 +68,14 @@ private:
 
 } // namespace
 
-TEST_F(ImportSheet, ShowsTheChoicesOfLastTime) {
-    auto& settings = AppSettings::shareInstance();
-    settings.setImportPageRangeType(1);
-    settings.setImportPageRange(text("2-4"));
-    settings.setImportQualityLevel(3);
-    settings.setImportLinks(1);
-    open();
-    EXPECT_EQ(window().txtImportFile->text(), settings.lastImportedFile());
-    EXPECT_EQ(window().pageRangeType->checkedId(), 1);
-    EXPECT_EQ(window().txtPageRange->text(), text("2-4"));
-    EXPECT_TRUE(window().txtPageRange->isEnabled());
-    EXPECT_EQ(window().importQuality->currentIndex(), 3);
-    EXPECT_EQ(window().importQuality->count(), 5);
-    EXPECT_TRUE(window().btnImportLinks->isChecked());
-    EXPECT_FALSE(window().btnImportBookMark->isChecked());
-    EXPECT_TRUE(window().lblInfo->isHidden() && window().prgBar->isHidden());
-    window().pageRangeType->button(ImportWindow::allPages)->click();
-    EXPECT_FALSE(window().txtPageRange->isEnabled());
-}
-
 TEST_F(ImportSheet, ImportsAllPagesAndEndsWithOne) {
     open();
-    window().txtPageRange->setText(text("2"));
-    click(window().btnOK);
+    EXPECT_TRUE(window().lblInfo->isHidden() && window().prgBar->isHidden());
+    window().txtPageRange->setText("2");
+    startImport(path(5));
     EXPECT_TRUE(sheet->isImporting());
-    EXPECT_FALSE(window().btnOK->isEnabled() || window().txtImportFile->isEnabled());
+    EXPECT_FALSE(window().btnOK->isEnabled() || window().txtImportFile->isEnabled() ||
+                 window().importQuality->isEnabled());
     EXPECT_TRUE(window().btnCancel->isEnabled());
     EXPECT_TRUE(window().prgBar->isVisible());
     ASSERT_TRUE(waitForIdle());
@@ -96,78 +83,79 @@ TEST_F(ImportSheet, ImportsAllPagesAndEndsWithOne) {
     EXPECT_FALSE(window().isVisible());
     ASSERT_TRUE(sheet->flashPageSource());
     EXPECT_EQ(sheet->flashPageSource()->pages().size(), 5U);
-    EXPECT_EQ(sheet->pageWidth(), 300);
-    EXPECT_EQ(sheet->pageHeight(), 400);
-    EXPECT_EQ(AppSettings::shareInstance().PageWidth(), 300);
+    EXPECT_EQ(QSize(sheet->pageWidth(), sheet->pageHeight()), QSize(300, 400));
+    AppSettings& settings = AppSettings::shareInstance();
+    EXPECT_EQ(QSize(settings.PageWidth(), settings.PageHeight()), QSize(300, 400));
     EXPECT_EQ(sheet->flashPagesAnnotations(), nullptr);
 }
 
-TEST_F(ImportSheet, TakesTypedPagesLinksAndBookmarksAndRemembersThem) {
+TEST_F(ImportSheet, TakesTypedPagesLinksAndBookmarksAndShowsThemNextTime) {
     const RecordedLog log;
     open();
-    window().pageRangeType->button(ImportWindow::typedPages)->click();
-    window().txtPageRange->setText(text("1,3"));
+    EXPECT_FALSE(window().txtPageRange->isEnabled());
+    choosePages(ImportWindow::typedPages);
+    EXPECT_TRUE(window().txtPageRange->isEnabled());
+    window().txtPageRange->setText("1,3");
     window().importQuality->setCurrentIndex(4);
-    window().btnImportLinks->setChecked(true);
-    window().btnImportBookMark->setChecked(true);
-    click(window().btnOK);
-    ASSERT_TRUE(waitForIdle());
+    for (QCheckBox* box : {window().btnImportLinks, window().btnImportBookMark})
+        box->setChecked(true);
+    ASSERT_TRUE(import(path(5)));
     ASSERT_TRUE(sheet->flashPageSource());
     EXPECT_EQ(sheet->flashPageSource()->pages().size(), 2U);
     EXPECT_TRUE(sheet->flashPagesAnnotations());
-    EXPECT_TRUE(log.texts().contains(text("page range is:1,3")));
-    AppSettings stored;
-    EXPECT_EQ(stored.importPageRangeType(), 1);
-    EXPECT_EQ(stored.importPageRange(), text("1,3"));
-    EXPECT_EQ(stored.importQualityLevel(), 4);
-    EXPECT_EQ(stored.importLinks(), 1);
-    EXPECT_EQ(stored.importBookmark(), 1);
+    EXPECT_TRUE(log.texts().contains("page range is:1,3"));
+    AppSettings::shareInstance().loadSettings();
+    open();
+    EXPECT_EQ(window().txtImportFile->text(), path(5));
+    EXPECT_EQ(window().pageRangeType->checkedId(), ImportWindow::typedPages);
+    EXPECT_EQ(window().txtPageRange->text(), "1,3");
+    EXPECT_EQ(window().importQuality->currentIndex(), 4);
+    EXPECT_TRUE(window().btnImportLinks->isChecked() && window().btnImportBookMark->isChecked());
 }
 
 TEST_F(ImportSheet, HasAQualityForEachChoice) {
-    const int qualities[] = {100, 85, 65, 45, 25, 100};
-    for (int level = 0; level < 6; ++level)
-        EXPECT_EQ(ImportWindowDelegate::qualityForLevel(level), qualities[level]);
-    EXPECT_EQ(ImportWindowDelegate::qualityForLevel(-1), 100);
+    open();
+    EXPECT_EQ(window().importQuality->count(), 5);
+    QList<int> qualities;
+    for (int level = -1; level < 6; ++level)
+        qualities << ImportWindowDelegate::qualityForLevel(level);
+    EXPECT_EQ(qualities, QList<int>({100, 100, 85, 65, 45, 25, 100}));
 }
 
-TEST_F(ImportSheet, AFailureIsToldAndTheSheetStaysForAnotherTry) {
-    const QString good = path(2);
+TEST_F(ImportSheet, AFailureIsShownAndTheSheetStaysForAnotherTry) {
     const RecordedLog log(Log::Level::warn);
     open();
-    click(window().btnOK);
-    ASSERT_TRUE(waitForIdle());
+    ASSERT_TRUE(import(path(5)));
     window().open();
     ended.clear();
-    for (const QString& bad : {text("/no/such/file.pdf"), text("")}) {
-        window().txtImportFile->setText(bad);
-        click(window().btnOK);
-        ASSERT_TRUE(waitForIdle());
-        EXPECT_TRUE(window().isVisible());
+    const auto expectFailure = [&](const QString& file) {
+        ASSERT_TRUE(import(file));
         EXPECT_EQ(sheet->flashPageSource(), nullptr) << "nothing of the earlier import remains";
         EXPECT_EQ(sheet->pageWidth(), 0);
-        EXPECT_TRUE(window().lblFailure->isVisible());
-        EXPECT_FALSE(window().lblFailure->text().isEmpty());
+        const QLabel& message = *window().lblFailure;
+        EXPECT_TRUE(message.isVisible() && !message.text().isEmpty());
         EXPECT_TRUE(window().btnOK->isEnabled());
-    }
-    window().txtImportFile->setText(good);
-    window().pageRangeType->button(ImportWindow::typedPages)->click();
-    window().txtPageRange->setText(text("99"));
-    click(window().btnOK);
-    ASSERT_TRUE(waitForIdle());
-    EXPECT_TRUE(window().lblFailure->isVisible() && !window().lblFailure->text().isEmpty());
-    window().pageRangeType->button(ImportWindow::allPages)->click();
-    EXPECT_TRUE(log.texts().contains(text("import pdf failed...")));
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return message.height() >= message.heightForWidth(message.width()); }));
+        for (const QWidget* control : std::initializer_list<QWidget*>{
+                 window().txtImportFile, window().importQuality, window().btnOK})
+            EXPECT_GE(control->height(), control->minimumSizeHint().height());
+    };
+    for (const QString& file : {QString("/no such folder ").repeated(60), QString("")})
+        expectFailure(file);
+    choosePages(ImportWindow::typedPages);
+    window().txtPageRange->setText("99");
+    expectFailure(path(2));
+    choosePages(ImportWindow::allPages);
+    EXPECT_EQ(log.texts().filter("import pdf failed...").size(), 3);
     EXPECT_TRUE(ended.isEmpty());
-    click(window().btnOK);
-    ASSERT_TRUE(waitForIdle());
+    ASSERT_TRUE(import(path(2)));
     EXPECT_EQ(ended, QList<int>{1});
 }
 
 TEST_F(ImportSheet, CancellingAnImportKeepsTheSheetAndCancellingAgainClosesIt) {
-    AppSettings::shareInstance().setLastImportedFile(path(400));
     open();
-    click(window().btnOK);
+    startImport(path(400));
     click(window().btnCancel);
     ASSERT_TRUE(waitForIdle());
     EXPECT_TRUE(ended.isEmpty());
@@ -179,13 +167,10 @@ TEST_F(ImportSheet, CancellingAnImportKeepsTheSheetAndCancellingAgainClosesIt) {
 }
 
 TEST_F(ImportSheet, OnlyTheLastOfTwoImportsCounts) {
-    const QString small = path(3);
-    AppSettings::shareInstance().setLastImportedFile(path(400));
     open();
-    click(window().btnOK);
+    startImport(path(400));
     click(window().btnCancel);
-    window().txtImportFile->setText(small);
-    click(window().btnOK);
+    startImport(path(3));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !ended.isEmpty(); }, 20000));
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_EQ(sheet->flashPageSource()->pages().size(), 3U);
@@ -193,61 +178,41 @@ TEST_F(ImportSheet, OnlyTheLastOfTwoImportsCounts) {
 
 TEST_F(ImportSheet, ShowsProgressOnlyWhileItImports) {
     open();
-    const auto post = [](int page) {
-        NotificationCenter::defaultCenter().post(
-            QString::fromUtf16(ImportProgressInfoMSG), nullptr,
-            {{text("pageIndex"), page}, {text("totalPage"), 9}});
-        QTest::qWait(10);
+    const auto shownAfter = [this](int page) {
+        NotificationCenter::defaultCenter().post(QString::fromUtf16(ImportProgressInfoMSG), nullptr,
+                                                 {{"pageIndex", page}, {"totalPage", 9}});
+        QCoreApplication::sendPostedEvents();
+        return window().lblInfo->text();
     };
-    post(1);
-    EXPECT_EQ(window().lblInfo->text(), text(""));
+    EXPECT_EQ(shownAfter(1), "");
     sheet->enableButtons(false);
-    post(2);
-    EXPECT_EQ(window().lblInfo->text(), text("Importing:2/9"));
+    EXPECT_EQ(shownAfter(2), "Importing:2/9");
     sheet->enableButtons(true);
-    post(3);
-    EXPECT_EQ(window().lblInfo->text(), text("Importing:2/9"));
+    EXPECT_EQ(shownAfter(3), "Importing:2/9");
 }
 
 TEST_F(ImportSheet, MayBeDestroyedWhileItImports) {
-    AppSettings::shareInstance().setLastImportedFile(path(400));
     open();
-    click(window().btnOK);
-    QTest::qWait(30);
+    startImport(path(400));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window().lblInfo->text().isEmpty(); }, 20000));
     sheet.reset();
-    QTest::qWait(30);
+    QCoreApplication::processEvents();
     EXPECT_TRUE(ended.isEmpty());
 }
 
 TEST_F(ImportSheet, AsksForAFileAndOpensIt) {
     open();
-    std::optional<QString> answer = text("/a/b.pdf");
-    QStringList types;
+    std::optional<QString> answer = "/a/b.pdf";
     QString opened;
-    sheet->setFilePanel([&](const QString&, const QStringList& allowed) {
-        types = allowed;
+    sheet->setFilePanel([&](const QString&, const QStringList& types) {
+        EXPECT_EQ(types, QStringList{"pdf"});
         return answer;
     });
     sheet->setFileOpener([&](const QString& file) { opened = file; });
     click(window().btnBrowseFile);
-    EXPECT_EQ(types, QStringList{text("pdf")});
-    EXPECT_EQ(window().txtImportFile->text(), text("/a/b.pdf"));
     answer = std::nullopt;
     click(window().btnBrowseFile);
-    EXPECT_EQ(window().txtImportFile->text(), text("/a/b.pdf"));
+    EXPECT_EQ(window().txtImportFile->text(), "/a/b.pdf");
     click(window().btnOpenFile);
-    EXPECT_EQ(opened, text("/a/b.pdf"));
-}
-
-TEST_F(ImportSheet, LongMessageTakesNoRoomFromTheControls) {
-    open();
-    window().txtImportFile->setText(text("/no such folder ").repeated(60));
-    click(window().btnOK);
-    ASSERT_TRUE(waitForIdle());
-    QTest::qWait(20);
-    const QLabel& message = *window().lblFailure;
-    EXPECT_GE(message.height(), message.heightForWidth(message.width()));
-    for (const QWidget* control : std::initializer_list<QWidget*>{
-             window().txtImportFile, window().importQuality, window().btnOK})
-        EXPECT_GE(control->height(), control->minimumSizeHint().height());
+    EXPECT_EQ(opened, "/a/b.pdf");
 }

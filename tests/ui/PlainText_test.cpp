@@ -7,7 +7,7 @@
 
 namespace {
 
-const QString hostile = QStringLiteral("<b>Not bold</b> <img src='x'>");
+const QString hostile = "<b>Not bold</b> <img src='x'>";
 
 } // namespace
 
@@ -15,7 +15,7 @@ TEST(PlainText, ShowsMarkupInAToolTipAsItStands) {
     QTextDocument shown;
     shown.setHtml(PlainText::toolTip(hostile));
     EXPECT_EQ(shown.toPlainText(), hostile);
-    const QString harmless = QStringLiteral("Colour of the bar & arrows");
+    const QString harmless = "Colour of the bar & arrows";
     EXPECT_EQ(PlainText::toolTip(harmless), harmless);
 }
 

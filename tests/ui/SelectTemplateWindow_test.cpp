@@ -4,29 +4,19 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
-#include <QBuffer>
 #include <QDir>
-#include <QFontMetricsF>
 #include <QLabel>
 #include <QListView>
-#include <QPainter>
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
 namespace {
 
-QString text(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-QByteArray picture(const QColor& color, const char* format) {
+QImage picture(const QColor& color) {
     QImage image(64, 48, QImage::Format_RGB32);
     image.fill(color);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, format, 100);
-    return bytes;
+    return image;
 }
 
 // The sheet over a library with the templates "desk", which has the styles "Night" and "Plain", the
@@ -34,34 +24,35 @@ QByteArray picture(const QColor& color, const char* format) {
 class TemplateChooser : public testing::Test {
 protected:
     TemplateChooser() {
-        library.addTemplate(text("desk"));
-        library.addTemplate(text("float"));
+        library.addTemplate("desk");
+        library.addTemplate("float");
         addStyle("desk", "Night", Qt::darkBlue);
-        library.addStyle(text("desk"), text("Plain"), "");
+        library.addStyle("desk", "Plain", "");
         addStyle("float", "Blank", Qt::white);
         addStyle("float", "Sky", Qt::cyan);
     }
 
-    void addStyle(const char* tmpl, const char* style, const QColor& color) {
-        library.addStyle(text(tmpl), text(style), "");
-        library.addFile(text("AppFiles/Styles/%1/%2/shot.jpg").arg(text(tmpl), text(style)),
-                        picture(color, "JPG"));
+    void addStyle(const QString& tmpl, const QString& style, const QColor& color) {
+        library.addStyle(tmpl, style, "");
+        EXPECT_TRUE(picture(color).save(shot(tmpl, style)));
     }
-    QString shot(const char* tmpl, const char* style) const {
-        return library.stylePath(text(tmpl), text(style)) + text("/shot.jpg");
+    QString shot(const QString& tmpl, const QString& style) const {
+        return library.stylePath(tmpl, style) + "/shot.jpg";
     }
 
-    SelectTemplateWindowDelegate& open(const char* tmpl, const QString& style = QString()) {
+    // With the style of the book selected, if there is one.
+    void open(const QString& tmpl, const QString& style = {}) {
+        ended.clear();
         sheet = std::make_unique<SelectTemplateWindowDelegate>();
-        sheet->prepairToTmpl(text(tmpl), style);
+        sheet->prepairToTmpl(tmpl,
+                             style.isNull() ? style : library.stylePath(tmpl.toLower(), style));
         sheet->beginSheet([this](int code) { ended << code; });
-        return *sheet;
     }
     SelectTemplateWindow& window() { return sheet->window(); }
     QListView& list() { return *window().iTableViewTmpls; }
     QListView& styles() { return *window().iImgBrowserView; }
-    QString notice() { return window().findChild<QLabel*>(text("notice"))->text(); }
-    bool hasNotice() { return window().findChild<QWidget*>(text("noticeRow"))->isVisible(); }
+    QString notice() { return window().findChild<QLabel*>("notice")->text(); }
+    bool hasNotice() { return window().findChild<QWidget*>("noticeRow")->isVisible(); }
 
     // What the user sees in a list, and what is selected in it.
     static QStringList shown(const QListView& view) {
@@ -76,12 +67,15 @@ protected:
         const QModelIndexList rows = view.selectionModel()->selectedIndexes();
         return rows.size() == 1 ? rows.first().data().toString() : QString();
     }
-    static void click(QListView& view, const char* name) {
+    static void click(QListView& view, const QString& name) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, centre(view, name));
     }
-    static QPoint centre(const QListView& view, const char* name) {
-        const auto found = view.model()->match(view.model()->index(0, 0), Qt::DisplayRole,
-                                               text(name), 1, Qt::MatchExactly);
+    static void doubleClick(QListView& view, const QString& name) {
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, centre(view, name));
+    }
+    static QPoint centre(const QListView& view, const QString& name) {
+        const auto found = view.model()->match(view.model()->index(0, 0), Qt::DisplayRole, name, 1,
+                                               Qt::MatchExactly);
         return found.isEmpty() ? QPoint(-1, -1) : view.visualRect(found.first()).center();
     }
 
@@ -93,15 +87,18 @@ protected:
 } // namespace
 
 TEST_F(TemplateChooser, ListsTemplatesAndSelectsTheOneOfTheBookWithItsStyle) {
-    open("FLOAT", library.stylePath(text("float"), text("Sky")));
-    EXPECT_EQ(shown(list()), QStringList({text("Desk"), text("Float")}));
-    EXPECT_EQ(selected(list()), text("Float"));
-    EXPECT_EQ(shown(styles()), QStringList({text("Blank"), text("Sky")}));
-    EXPECT_EQ(selected(styles()), text("Sky"));
+    open("FLOAT", "Sky");
+    EXPECT_EQ(shown(list()), QStringList({"Desk", "Float"}));
+    EXPECT_EQ(selected(list()), "Float");
+    EXPECT_EQ(shown(styles()), QStringList({"Blank", "Sky"}));
+    EXPECT_EQ(selected(styles()), "Sky");
     EXPECT_TRUE(window().btnOK->isEnabled());
-    EXPECT_EQ(sheet->objectValueForTableColumn(text("any"), 1), text("float"));
-    EXPECT_EQ(sheet->itemAtIndex(1).image().pixelColor(9, 9).blue(), 255);
     EXPECT_FALSE(hasNotice());
+    EXPECT_EQ(sheet->objectValueForTableColumn("any", 1), "float");
+    const IKBTmplStyleItem& sky = sheet->itemAtIndex(1);
+    EXPECT_EQ(sky.imageRepresentation().pixelColor(9, 9).blue(), 255);
+    EXPECT_EQ(sky.imageUID(), shot("float", "Sky"));
+    EXPECT_EQ(sky.imageTitle(), "Sky");
 }
 
 TEST_F(TemplateChooser, WaitsForAStyleBeforeItEndsWithTheOneThatWasClicked) {
@@ -111,7 +108,7 @@ TEST_F(TemplateChooser, WaitsForAStyleBeforeItEndsWithTheOneThatWasClicked) {
     sheet->onOK();
     EXPECT_TRUE(ended.isEmpty());
     click(list(), "Desk");
-    EXPECT_EQ(shown(styles()), QStringList({text("Night"), text("Plain")}));
+    EXPECT_EQ(shown(styles()), QStringList({"Night", "Plain"}));
     EXPECT_FALSE(window().btnOK->isEnabled());
     click(styles(), "Plain");
     QTest::mouseClick(window().btnOK, Qt::LeftButton);
@@ -124,11 +121,10 @@ TEST_F(TemplateChooser, WaitsForAStyleBeforeItEndsWithTheOneThatWasClicked) {
 TEST_F(TemplateChooser, TakesADoubleClickAsOKAndCancelAsNone) {
     open("desk");
     click(styles(), "Plain");
-    QTest::mouseDClick(styles().viewport(), Qt::LeftButton, {}, centre(styles(), "Plain"));
+    doubleClick(styles(), "Plain");
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_EQ(sheet->selectedItemIndex(), 1U);
     EXPECT_EQ(sheet->selectedStyle(), shot("desk", "Plain"));
-    ended.clear();
     open("desk");
     QTest::mouseClick(window().btnCancel, Qt::LeftButton);
     EXPECT_EQ(ended, QList<int>{0});
@@ -136,21 +132,19 @@ TEST_F(TemplateChooser, TakesADoubleClickAsOKAndCancelAsNone) {
 }
 
 TEST_F(TemplateChooser, WorksWithTheKeysAlone) {
-    open("float", library.stylePath(text("float"), text("Blank")));
+    open("float", "Blank");
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     EXPECT_EQ(QApplication::focusWidget(), &list());
     QTest::keyClick(&list(), Qt::Key_Up);
-    EXPECT_EQ(selected(list()), text("Desk"));
+    EXPECT_EQ(selected(list()), "Desk");
     QTest::keyClick(&list(), Qt::Key_Tab);
     ASSERT_EQ(QApplication::focusWidget(), &styles());
     QTest::keyClick(&styles(), Qt::Key_Space);
-    EXPECT_EQ(selected(styles()), text("Night"));
+    EXPECT_EQ(selected(styles()), "Night");
     QTest::keyClick(&styles(), Qt::Key_Right);
-    EXPECT_EQ(selected(styles()), text("Plain"));
     QTest::keyClick(&styles(), Qt::Key_Return);
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_EQ(sheet->selectedStyle(), shot("desk", "Plain"));
-    ended.clear();
     open("float");
     QTest::keyClick(&styles(), Qt::Key_Return);
     EXPECT_TRUE(ended.isEmpty());
@@ -159,44 +153,42 @@ TEST_F(TemplateChooser, WorksWithTheKeysAlone) {
 }
 
 TEST_F(TemplateChooser, KeepsTheStylesThroughARefreshUntilAnotherTemplateIsSelected) {
-    open("float", library.stylePath(text("float"), text("Sky")));
-    library.addTemplate(text("album"));
+    open("float", "Sky");
+    library.addTemplate("album");
     addStyle("float", "Aurora", Qt::green);
     QTest::mouseClick(window().btnRefresh, Qt::LeftButton);
-    EXPECT_EQ(shown(list()), QStringList({text("Album"), text("Desk"), text("Float")}));
-    EXPECT_EQ(selected(list()), text("Float"));
-    EXPECT_EQ(shown(styles()), QStringList({text("Blank"), text("Sky")}));
-    EXPECT_EQ(selected(styles()), text("Sky"));
+    EXPECT_EQ(shown(list()), QStringList({"Album", "Desk", "Float"}));
+    EXPECT_EQ(selected(list()), "Float");
+    EXPECT_EQ(shown(styles()), QStringList({"Blank", "Sky"}));
     click(list(), "Album");
     EXPECT_TRUE(shown(styles()).isEmpty());
     EXPECT_TRUE(window().lblNoStyles->isVisible());
     click(list(), "Float");
-    EXPECT_EQ(shown(styles()), QStringList({text("Aurora"), text("Blank"), text("Sky")}));
-    EXPECT_EQ(selected(styles()), text("Sky"));
+    EXPECT_EQ(shown(styles()), QStringList({"Aurora", "Blank", "Sky"}));
+    EXPECT_EQ(selected(styles()), "Sky");
     EXPECT_FALSE(window().lblNoStyles->isVisible());
 }
 
-TEST_F(TemplateChooser, SaysWhichTemplatesAreBrokenAndDoesNotTakeThem) {
+TEST_F(TemplateChooser, NamesBrokenTemplatesAndDoesNotTakeThem) {
     const RecordedLog log;
+    library.addFile("AppFiles/Templates/empty/icon.png", "x");
     addStyle("empty", "Style", Qt::red);
-    library.addFile(text("AppFiles/Templates/empty/icon.png"), picture(Qt::red, "PNG"));
-    library.addTemplateFile(text("torn"), "<template><info><htmlPath>a</htmlPath></info>");
-    open("float", library.stylePath(text("float"), text("Sky")));
-    EXPECT_EQ(shown(list()),
-              QStringList({text("Desk"), text("Empty"), text("Float"), text("Torn")}));
+    library.addTemplateFile("torn", "<template><info><htmlPath>a</htmlPath></info>");
+    open("float", "Sky");
+    EXPECT_EQ(shown(list()), QStringList({"Desk", "Empty", "Float", "Torn"}));
     EXPECT_TRUE(hasNotice());
-    EXPECT_TRUE(notice().contains(text("“Empty” cannot be used. Its file flashTemplate.xml is")));
-    EXPECT_TRUE(notice().contains(text("“Torn”")) && notice().contains(text("\"swfPath\"")));
+    EXPECT_TRUE(notice().contains("“Empty” cannot be used. Its file flashTemplate.xml is"));
+    EXPECT_TRUE(notice().contains("“Torn”") && notice().contains("\"swfPath\""));
     EXPECT_TRUE(window().btnOK->isEnabled());
     click(list(), "Empty");
-    EXPECT_FALSE(notice().contains(text("Torn")));
+    EXPECT_FALSE(notice().contains("Torn"));
     click(styles(), "Style");
-    EXPECT_EQ(selected(styles()), text("Style"));
+    EXPECT_EQ(selected(styles()), "Style");
     EXPECT_FALSE(window().btnOK->isEnabled());
-    QTest::mouseDClick(styles().viewport(), Qt::LeftButton, {}, centre(styles(), "Style"));
+    doubleClick(styles(), "Style");
     EXPECT_TRUE(ended.isEmpty());
-    library.addTemplate(text("empty"));
-    library.addTemplate(text("torn"));
+    for (const char* name : {"empty", "torn"})
+        library.addTemplate(name);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
     QTest::keyClick(&styles(), Qt::Key_F5);
     EXPECT_FALSE(hasNotice());
@@ -204,87 +196,46 @@ TEST_F(TemplateChooser, SaysWhichTemplatesAreBrokenAndDoesNotTakeThem) {
 }
 
 TEST_F(TemplateChooser, HidesTheFoldersThatTemplatesAndStylesAreMadeOf) {
-    library.addFile(text("AppFiles/Templates/desk/images/wood.jpg"), "x");
-    library.addFile(text("AppFiles/Styles/desk/Night/stars/star.png"), "x");
+    library.addFile("AppFiles/Templates/desk/images/wood.jpg", "x");
+    library.addFile("AppFiles/Styles/desk/Night/stars/star.png", "x");
     open("desk");
     EXPECT_EQ(sheet->numberOfRowsInTableView(), 3);
-    EXPECT_EQ(shown(list()), QStringList({text("Desk"), text("Float")}));
+    EXPECT_EQ(shown(list()), QStringList({"Desk", "Float"}));
     EXPECT_EQ(sheet->numberOfItemsInImageBrowser(), 3);
-    EXPECT_EQ(shown(styles()), QStringList({text("Night"), text("Plain")}));
+    EXPECT_EQ(shown(styles()), QStringList({"Night", "Plain"}));
     EXPECT_FALSE(hasNotice());
     // Of several templates with the name the last is taken.
-    library.addFile(text("AppFiles/Templates/float/Desk/wood.jpg"), "x");
+    library.addFile("AppFiles/Templates/float/Desk/wood.jpg", "x");
     open("desk");
-    EXPECT_EQ(selected(list()), text("Desk"));
     EXPECT_EQ(list().currentIndex().row(), 3);
     EXPECT_FALSE(list().isRowHidden(3));
 }
 
-TEST_F(TemplateChooser, TellsOfATemplateOrALibraryThatIsGone) {
+TEST_F(TemplateChooser, SaysThatATemplateOrTheLibraryIsGone) {
     const RecordedLog log;
     open("gone");
     EXPECT_TRUE(selected(list()).isNull());
-    EXPECT_TRUE(notice().contains(text("“Gone” is not in the library")));
-    QDir(library.path() + text("/AppFiles/Templates")).removeRecursively();
+    EXPECT_TRUE(notice().contains("“Gone” is not in the library"));
+    QDir(library.path() + "/AppFiles/Templates").removeRecursively();
     QTest::mouseClick(window().btnRefresh, Qt::LeftButton);
     EXPECT_TRUE(shown(list()).isEmpty());
     EXPECT_TRUE(window().lblNoTmpls->isVisible());
 }
 
 TEST_F(TemplateChooser, PaintsPicturesSelectionAndIcons) {
-    library.addFile(text("AppFiles/Templates/desk/icon.png"), picture(Qt::magenta, "PNG"));
-    open("desk", library.stylePath(text("desk"), text("Night")));
+    EXPECT_TRUE(picture(Qt::magenta).save(library.templatePath("desk") + "/icon.png"));
+    open("desk", "Night");
     const QImage pictures = styles().viewport()->grab().toImage();
-    const QColor base = styles().palette().color(QPalette::Base);
+    const QPoint night = centre(styles(), "Night");
+    EXPECT_LT(pictures.pixelColor(night).red(), 20);
     const QColor highlight = styles().palette().color(QPalette::Highlight);
-    EXPECT_LT(
-        pictures.pixelColor(styles().visualRect(styles().model()->index(0, 0)).center()).red(), 20);
     int framed = 0;
     for (int y = 0; y < pictures.height(); ++y)
-        framed += pictures.pixelColor(centre(styles(), "Night").x(), y) == highlight ? 1 : 0;
+        framed += pictures.pixelColor(night.x(), y) == highlight ? 1 : 0;
     EXPECT_GE(framed, 4);
-    EXPECT_EQ(pictures.pixelColor(pictures.width() - 3, pictures.height() - 3), base);
     const QImage rows = list().viewport()->grab().toImage();
     const QRect row = list().visualRect(list().model()->index(0, 0));
     EXPECT_EQ(row.height(), 35);
     EXPECT_EQ(rows.pixelColor(row.left() + 20, row.center().y()), QColor(Qt::magenta));
     EXPECT_EQ(rows.pixelColor(row.right() - 20, row.center().y()), highlight);
-}
-
-TEST(TemplateCell, LaysOutIconAndTitle) {
-    SelectTmplItemCell cell(text("float"));
-    const QFontMetricsF metrics(cell.font());
-    const QRectF bounds(10, 50, 200, 35);
-    EXPECT_EQ(cell.titleRectForBounds(bounds),
-              QRectF(45, 51, metrics.horizontalAdvance(text("float")), metrics.height()));
-    EXPECT_EQ(cell.titleRectForBounds(QRectF(0, 0, 80, 35)).width(), 9);
-    EXPECT_EQ(cell.titleRectForBounds(QRectF(0, 0, 60, 35)).width(), 0);
-    EXPECT_EQ(cell.imageRectForBounds(bounds), QRectF(1, 53, 32, 32));
-    EXPECT_TRUE(cell.imageRectForBounds(QRectF(0, 0, 32.5, 35)).isEmpty());
-    EXPECT_FALSE(cell.imageRectForBounds(QRectF(0, 0, 33, 35)).isEmpty());
-}
-
-TEST(TemplateCell, ReadsItsIconOnceAndCopiesItsPath) {
-    TemplateLibrary library;
-    library.addFile(text("icon.png"), picture(Qt::red, "PNG"));
-    SelectTmplItemCell cell(text("float"));
-    cell.setTmplIconFile(library.path() + text("/icon.png"));
-    EXPECT_EQ(cell.itemImage().pixelColor(5, 5), QColor(Qt::red));
-    library.addFile(text("icon.png"), picture(Qt::blue, "PNG"));
-    QImage image(100, 35, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    cell.drawInteriorWithFrame(painter, QRectF(image.rect()));
-    EXPECT_EQ(image.pixelColor(16, 18), QColor(Qt::red));
-    EXPECT_EQ(image.pixelColor(16, 2), QColor(Qt::white));
-    const auto copy = cell.copyWithZone();
-    EXPECT_EQ(copy->title(), text("my god"));
-    EXPECT_EQ(copy->tmplIconFile(), cell.tmplIconFile());
-}
-
-TEST(StyleItem, AnswersAnImageBrowser) {
-    const IKBTmplStyleItem item(QImage(3, 2, QImage::Format_RGB32), text("/a/shot.jpg"), text("A"));
-    EXPECT_EQ(item.imageUID(), text("/a/shot.jpg"));
-    EXPECT_EQ(item.imageRepresentation().size(), QSize(3, 2));
-    EXPECT_EQ(item.imageTitle(), text("A"));
 }

@@ -9,8 +9,8 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("FolveroTests"));
-    QCoreApplication::setApplicationName(QStringLiteral("FolveroTests"));
+    QCoreApplication::setOrganizationName("FolveroTests");
+    QCoreApplication::setApplicationName("FolveroTests");
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
