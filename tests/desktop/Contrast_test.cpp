@@ -21,10 +21,6 @@
 
 namespace {
 
-QString text(const char* latin1) {
-    return QString::fromLatin1(latin1);
-}
-
 // As WCAG 2 has it.
 double luminance(QRgb color) {
     const auto linear = [](int part) {
@@ -73,28 +69,28 @@ protected:
     QHash<QString, QImage> highlights() {
         QHash<QString, QImage> all;
         auto* settings = window().outlineView;
-        for (const char* key : {"topMargin", "mainbgImgPosition", "RightToLeft"}) {
-            const QModelIndex value = valueOf(text(key));
-            all[text(key)] = chosen(*settings);
-            all[text(key) + text(" title")] =
+        for (const QString key : {"topMargin", "mainbgImgPosition", "RightToLeft"}) {
+            const QModelIndex value = valueOf(key);
+            all[key] = chosen(*settings);
+            all[key + " title"] =
                 inside(*settings->viewport(), settings->visualRect(value.siblingAtColumn(0)));
         }
-        settings->edit(valueOf(text("mainbgImgPosition")));
-        all[text("choices of a setting")] = chosenInPopup(*settings->findChild<QComboBox*>());
+        settings->edit(valueOf("mainbgImgPosition"));
+        all["choices of a setting"] = chosenInPopup(*settings->findChild<QComboBox*>());
         window().menu->importPDF->trigger();
         auto& import = program->importWindow();
-        all[text("quality")] = chosenInPopup(*import.window().importQuality);
+        all["quality"] = chosenInPopup(*import.window().importQuality);
         import.onCancelAction();
         program->onSelectTemplate();
         auto& chooser = program->selecteTmplWindow();
-        all[text("templates")] = chosen(*chooser.window().iTableViewTmpls);
+        all["templates"] = chosen(*chooser.window().iTableViewTmpls);
         const QImage style = chosen(*chooser.window().iImgBrowserView);
-        all[text("styles")] = style.copy(style.rect().adjusted(0, style.height() - 24, 0, 0));
+        all["styles"] = style.copy(style.rect().adjusted(0, style.height() - 24, 0, 0));
         chooser.onCancel();
         auto& menu = *window().menuBar()->actions().first()->menu();
         menu.popup({});
         menu.setActiveAction(window().menu->importPDF);
-        all[text("menu")] = inside(menu, menu.actionGeometry(window().menu->importPDF));
+        all["menu"] = inside(menu, menu.actionGeometry(window().menu->importPDF));
         menu.close();
         return all;
     }

@@ -18,6 +18,8 @@
 #include <QTest>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int longEnough = 30'000; // ms
@@ -61,8 +63,8 @@ QVariant DesktopProgram::evaluate(const QString& script) const {
 
 bool DesktopProgram::waitForPreview(const QString& condition) const {
     const QString script =
-        QStringLiteral("document.querySelector('#folvero[data-state=\"ready\"]') !== null && (%1)")
-            .arg(condition);
+        u"document.querySelector('#folvero[data-state=\"ready\"]') !== null && (%1)"_s.arg(
+            condition);
     QElapsedTimer waited;
     waited.start();
     while (!waited.hasExpired(longEnough)) {
@@ -115,7 +117,7 @@ QString DesktopProgram::value(const QString& key) const {
 }
 
 QString DesktopProgram::pdf(int pages) const {
-    const QString file = files.filePath(QStringLiteral("%1 pages.pdf").arg(pages));
+    const QString file = files.filePath(u"%1 pages.pdf"_s.arg(pages));
     TestFiles::write(file, PDFBuilder::blank(pages, {300, 400}));
     return file;
 }

@@ -26,10 +26,6 @@
 
 namespace {
 
-QString text(const char* latin1) {
-    return QString::fromLatin1(latin1);
-}
-
 class Launch : public DesktopProgram {};
 
 // Stands in for the program that the user's system has for a scheme.
@@ -56,18 +52,28 @@ private:
 TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
     launch();
     EXPECT_EQ(window().frameGeometry(), QRect({0, 0}, QGuiApplication::primaryScreen()->size()));
-    EXPECT_EQ(window().btnFloat->text(), text("Float"));
-    EXPECT_TRUE(window().windowTitle().contains(text("Demo book")));
+    EXPECT_EQ(window().btnFloat->text(), "Float");
+    EXPECT_TRUE(window().windowTitle().contains("Demo book"));
+    EXPECT_EQ(evaluate("document.title").toString(), "Preview");
+    EXPECT_EQ(configuration().at("Ppts").children.size(), 12u);
+    // The preview's Chromium is older than most browsers are.
+    const QString opacity = "getComputedStyle(document.querySelector('.shadow.%1')).opacity";
+    EXPECT_TRUE(waitForPreview(opacity.arg("left") + " === '0'")) << "the cover has no page beside";
+    EXPECT_EQ(evaluate(opacity.arg("right")).toString(), "1");
     const QString fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-    EXPECT_EQ(window().toolTip->font().family(), fixed);
-    EXPECT_EQ(evaluate(text("document.title")).toString(), text("Preview"));
-    EXPECT_EQ(configuration().at(text("Ppts")).children.size(), 12u);
+    for (QAction* choice : window().menu->appearance->actions()) {
+        choice->trigger();
+        const bool isDark = window().palette().color(QPalette::Window).lightness() < 128;
+        EXPECT_EQ(isDark, choice->data().toInt() == Appearance::dark);
+        EXPECT_EQ(window().toolTip->viewport()->font().family(), fixed);
+        EXPECT_EQ(window().toolTip->viewport()->font().weight(), QFont::Normal);
+    }
     const QString support = Folders::userApplicationSupport();
-    EXPECT_EQ(program->flashPreviewFolder(), support + text("/Folvero/preview"));
-    const QByteArray log = TestFiles::read(support + text("/Tessamar/Folvero/Folvero.log"));
+    EXPECT_EQ(program->flashPreviewFolder(), support + "/Folvero/preview");
+    const QByteArray log = TestFiles::read(support + "/Tessamar/Folvero/Folvero.log");
     EXPECT_TRUE(log.contains("version is:" + Bundle::version().toLatin1())) << log.toStdString();
     program.reset();
-    EXPECT_FALSE(QFileInfo::exists(support + text("/Folvero/preview")));
+    EXPECT_FALSE(QFileInfo::exists(support + "/Folvero/preview"));
 }
 
 TEST(WindowFitter, FrameThatComesLateLiesOnTheScreenToo) {
@@ -87,119 +93,87 @@ TEST(WindowFitter, FrameThatComesLateLiesOnTheScreenToo) {
     EXPECT_EQ(window.size(), QSize(300, 200)) << "the user's own size stays";
 }
 
-TEST_F(Launch, AppearanceIsChosenAndKeepsTheFontOfExplanations) {
-    launch();
-    const QString fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
-    for (QAction* choice : window().menu->appearance->actions()) {
-        choice->trigger();
-        const bool isDark = window().palette().color(QPalette::Window).lightness() < 128;
-        EXPECT_EQ(isDark, choice->data().toInt() == Appearance::dark);
-        EXPECT_EQ(window().toolTip->viewport()->font().family(), fixed);
-        EXPECT_EQ(window().toolTip->viewport()->font().weight(), QFont::Normal);
-    }
-}
-
-// The preview's engine is older than most browsers are.
-TEST_F(Launch, CoverCastsNoShadowOfAPageThatIsNotThere) {
-    launch();
-    const QString opacity = text("getComputedStyle(document.querySelector('.shadow.%1')).opacity");
-    EXPECT_TRUE(waitForPreview(opacity.arg(text("left")) + text(" === '0'")));
-    EXPECT_EQ(evaluate(opacity.arg(text("right"))).toString(), text("1"));
-}
-
 TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     launch();
-    TestFiles::write(path(text("secret.js")), "window.stolen = 'yes'");
-    const QString load = text("new Promise(() => 0); (() => { const s = "
-                              "document.createElement('script'); s.onerror = () => { "
-                              "window.refused = true }; s.src = '%1'; "
-                              "document.head.append(s) })()");
-    evaluate(load.arg(QUrl::fromLocalFile(path(text("secret.js"))).toString()));
-    EXPECT_TRUE(waitForPreview(text("window.refused === true && !window.stolen")));
+    TestFiles::write(path("secret.js"), "window.stolen = 'yes'");
+    evaluate(QString("const script = document.createElement('script'); script.src = '%1';"
+                     "script.onerror = () => { window.refused = true };"
+                     "document.head.append(script)")
+                 .arg(QUrl::fromLocalFile(path("secret.js")).toString()));
+    EXPECT_TRUE(waitForPreview("window.refused === true && !window.stolen"));
     QList<QUrl> addresses;
     window().webView->setOpener([&addresses](const QUrl& url) { addresses << url; });
-    evaluate(text("location.href = 'https://folvero.example/more'"));
+    evaluate("location.href = 'https://folvero.example/more'");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !addresses.isEmpty(); }));
-    SchemeProgram other(text("program"));
-    QDesktopServices::openUrl(QUrl(text("program://check")));
+    SchemeProgram other("program");
+    QDesktopServices::openUrl(QUrl("program://check"));
     ASSERT_EQ(other.started.size(), 1);
-    // Without a click the engine would not ask at all. With one it would start the program itself.
+    // Without a click Chromium would not ask at all. With one it would start the program itself.
     window().webView->page()->settings()->setUnknownUrlSchemePolicy(
         QWebEngineSettings::AllowAllUnknownUrlSchemes);
-    evaluate(text("location.href = 'program://run'"));
-    evaluate(text("location.href = 'tel:+49301234'"));
+    evaluate("location.href = 'program://run'");
+    evaluate("location.href = 'tel:+49301234'");
     EXPECT_TRUE(QTest::qWaitFor([&] { return addresses.size() == 2; }));
-    EXPECT_EQ(addresses.last(), QUrl(text("tel:+49301234")));
+    EXPECT_EQ(addresses.last(), QUrl("tel:+49301234"));
     EXPECT_TRUE(waitForPreview());
-    EXPECT_EQ(other.started.size(), 1) << "the engine has started the program by itself";
+    EXPECT_EQ(other.started.size(), 1) << "Chromium has started the program by itself";
 }
 
-TEST_F(Launch, SecondProgramHasAPreviewOfItsOwn) {
+TEST_F(Launch, PreviewFolderIsOfThisProgramAloneAndMadeAgainOnceRemoved) {
     launch();
+    const QString own = program->flashPreviewFolder();
     auto second = std::make_unique<BrisleafAppDelegate>();
     second->applicationDidFinishLaunching();
-    EXPECT_EQ(second->flashPreviewFolder(), program->flashPreviewFolder() + text("-2"));
-    const QString folder = second->flashPreviewFolder();
-    EXPECT_TRUE(QFileInfo::exists(folder + text("/index.html")));
+    EXPECT_EQ(second->flashPreviewFolder(), own + "-2");
+    EXPECT_TRUE(QFileInfo::exists(own + "-2/index.html"));
     second.reset();
-    EXPECT_FALSE(QFileInfo::exists(folder));
-    EXPECT_TRUE(QFileInfo::exists(program->flashPreviewFolder() + text("/index.html")));
+    EXPECT_FALSE(QFileInfo::exists(own + "-2"));
+    ASSERT_TRUE(QDir(own).removeRecursively());
+    program->OnApplyChange();
+    EXPECT_TRUE(QFileInfo::exists(own + "/files/UserConfig.bin"));
+    EXPECT_FALSE(window().messages->isVisible());
 }
 
 TEST_F(Launch, PreviewComesBackAfterItsEngineDied) {
     launch();
     const QSignalSpy deaths(window().webView, &PreviewView::rendererCrashed);
-    evaluate(text("window.isOld = true"));
+    evaluate("window.isOld = true");
     const auto engine = pid_t(window().webView->page()->renderProcessPid());
     ASSERT_GT(engine, 0);
     ASSERT_EQ(::kill(engine, SIGKILL), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return deaths.count() == 1; }, 20000));
-    EXPECT_TRUE(waitForPreview(text("!window.isOld")));
+    EXPECT_TRUE(waitForPreview("!window.isOld"));
     EXPECT_FALSE(window().messages->isVisible());
 }
 
-TEST_F(Launch, PreviewFolderThatWasRemovedIsMadeAgain) {
-    launch();
-    ASSERT_TRUE(QDir(program->flashPreviewFolder()).removeRecursively());
-    program->OnApplyChange();
-    EXPECT_TRUE(QFileInfo::exists(program->flashPreviewFolder() + text("/files/UserConfig.bin")));
-    EXPECT_FALSE(window().messages->isVisible());
-}
-
-TEST_F(Launch, PreviewFolderThatCannotBeMadeIsTold) {
-    TestFiles::write(Folders::userApplicationSupport() + text("/Folvero/preview"), "in the way");
+TEST_F(Launch, PreviewFolderThatCannotBeMadeIsReported) {
+    TestFiles::write(Folders::userApplicationSupport() + "/Folvero/preview", "in the way");
     const RecordedLog log(Log::Level::warn);
     program->applicationDidFinishLaunching();
     EXPECT_TRUE(window().messages->isVisible());
-    EXPECT_TRUE(window().messages->message().contains(text("preview")));
+    EXPECT_TRUE(window().messages->message().contains("preview"));
     ASSERT_FALSE(log.texts().isEmpty());
-    EXPECT_TRUE(log.texts().first().startsWith(text("flash preview folder cannot be crearted[")));
-    EXPECT_TRUE(log.texts().last().startsWith(text("apply change :")));
-    ASSERT_TRUE(QFile::remove(Folders::userApplicationSupport() + text("/Folvero/preview")));
+    EXPECT_TRUE(log.texts().first().startsWith("flash preview folder cannot be crearted["));
+    EXPECT_TRUE(log.texts().last().startsWith("apply change :"));
+    ASSERT_TRUE(QFile::remove(Folders::userApplicationSupport() + "/Folvero/preview"));
     program->OnApplyChange();
     EXPECT_FALSE(window().messages->isVisible()) << "it no longer holds";
     EXPECT_TRUE(waitForPreview());
 }
 
-TEST_F(Launch, DamagedTemplateIsTold) {
+TEST_F(Launch, NamesTheDamagedTemplateAndTheMissingHelp) {
     TemplateLibrary library;
-    library.addTemplateFile(text("float"), "<flashTemplate><property type='pt_text'>");
+    library.addTemplateFile("float", "<flashTemplate><property type='pt_text'>");
     program->applicationDidFinishLaunching();
-    EXPECT_TRUE(window().messages->message().contains(text("float")))
+    EXPECT_TRUE(window().messages->message().contains("float"))
         << window().messages->message().toStdString();
-}
-
-TEST_F(Launch, HelpThatIsMissingIsTold) {
-    TemplateLibrary library;
-    library.addTemplate(text("float"));
-    program->applicationDidFinishLaunching();
     window().menu->openHelp->trigger();
     EXPECT_TRUE(opened.isEmpty());
-    EXPECT_TRUE(window().messages->message().contains(text("PDF to Folvero for Mac.pdf")));
-    const QString file = text("PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf");
+    EXPECT_TRUE(window().messages->message().contains("PDF to Folvero for Mac.pdf"));
+    const QString file = "PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf";
     library.addFile(file, "%PDF-1.7");
     window().menu->openHelp->trigger();
-    EXPECT_EQ(opened, QStringList{library.path() + u'/' + file});
+    EXPECT_EQ(opened, QStringList{library.path() + '/' + file});
 }
 
 #include "Launch_test.moc"

@@ -11,8 +11,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPlainTextEdit>
-#include <QStyle>
 #include <QToolButton>
 #include <QWebEngineView>
 
@@ -36,38 +34,30 @@ void addRows(const QAbstractItemModel& model, const QModelIndex& parent, QString
     }
 }
 
-void addHeader(const QAbstractItemModel& model, QStringList& texts) {
-    for (int column = 0; column < model.columnCount(); ++column)
-        texts << model.headerData(column, Qt::Horizontal).toString();
-}
-
-// What is particular to a kind of widget.
+// What is particular to a kind of widget. What a field holds is the user's own.
 void addContent(const QWidget& widget, QStringList& texts) {
-    if (const auto* label = qobject_cast<const QLabel*>(&widget))
-        texts << label->text();
-    else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-        texts << button->text();
-    else if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
-        texts << group->title();
-    else if (const auto* field = qobject_cast<const QLineEdit*>(&widget))
-        texts << field->placeholderText();
-    else if (const auto* text = qobject_cast<const QPlainTextEdit*>(&widget))
-        texts << text->placeholderText() << text->toPlainText();
-    else if (const auto* menu = qobject_cast<const QMenu*>(&widget))
-        texts << menu->title();
-    else if (const auto* box = qobject_cast<const QComboBox*>(&widget))
+    const bool isCaption =
+        qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
+    if (isCaption)
+        texts << widget.property("text").toString();
+    if (qobject_cast<const QGroupBox*>(&widget) || qobject_cast<const QMenu*>(&widget))
+        texts << widget.property("title").toString();
+    for (const char* name : {"placeholderText", "plainText"})
+        texts << widget.property(name).toString();
+    if (const auto* box = qobject_cast<const QComboBox*>(&widget))
         addRows(*box->model(), {}, texts);
-    else if (const auto* view = qobject_cast<const QAbstractItemView*>(&widget);
-             view && view->model()) {
-        addHeader(*view->model(), texts);
-        addRows(*view->model(), {}, texts);
-    }
+    const auto* view = qobject_cast<const QAbstractItemView*>(&widget);
+    if (!view || !view->model())
+        return;
+    for (int column = 0; column < view->model()->columnCount(); ++column)
+        texts << view->model()->headerData(column, Qt::Horizontal).toString();
+    addRows(*view->model(), {}, texts);
 }
 
-// Without what comes and goes: what lies in the preview is the engine's own, and a menu bar without
+// Without what comes and goes: what lies in the preview is Chromium's own, and a menu bar without
 // room keeps what it hides in a menu.
 QList<const QWidget*> widgetsOf(const QWidget& window) {
-    const auto* hidden = window.findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"));
+    const auto* hidden = window.findChild<QToolButton*>("qt_menubar_ext_button");
     QList<const QWidget*> widgets{&window};
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         if (!qobject_cast<const QWebEngineView*>(widget->parent()) &&
@@ -77,19 +67,12 @@ QList<const QWidget*> widgetsOf(const QWidget& window) {
     return widgets;
 }
 
-QString mnemonic(const QString& text) {
-    return QKeySequence::mnemonic(text).toString();
-}
-
 void addClashes(const QStringList& captions, const QString& place, QStringList& clashes) {
     QHash<QString, QString> taken;
     for (const QString& caption : captions) {
-        const QString letter = mnemonic(caption);
-        if (letter.isEmpty())
-            continue;
-        if (taken.contains(letter))
-            clashes << place + QStringLiteral(": ") + taken[letter] + QStringLiteral(" / ") +
-                           caption;
+        const QString letter = QKeySequence::mnemonic(caption).toString();
+        if (!letter.isEmpty() && taken.contains(letter))
+            clashes << place + ": " + taken[letter] + " / " + caption;
         taken[letter] = caption;
     }
 }
@@ -135,13 +118,7 @@ QStringList WindowTexts::cutOff(const QWidget& window) {
             continue;
         QStringList content;
         addContent(*widget, content);
-        found << QStringLiteral("%1 “%2”: %3x%4 instead of %5x%6")
-                     .arg(QString::fromLatin1(widget->metaObject()->className()),
-                          content.join(u'|'))
-                     .arg(widget->width())
-                     .arg(widget->height())
-                     .arg(widget->sizeHint().width())
-                     .arg(widget->sizeHint().height());
+        found << QString("%1 “%2”").arg(widget->metaObject()->className(), content.join(u'|'));
     }
     return found;
 }
@@ -151,7 +128,7 @@ QStringList WindowTexts::clashingMnemonics(const QWidget& window) {
     for (const auto* menu : window.findChildren<QMenu*>())
         addClashes(textsOf(menu->actions()), menu->title(), clashes);
     for (const auto* bar : window.findChildren<QMenuBar*>())
-        addClashes(textsOf(bar->actions()), QStringLiteral("menu bar"), clashes);
+        addClashes(textsOf(bar->actions()), "menu bar", clashes);
     QStringList captions;
     for (const QWidget* widget : widgetsOf(window)) {
         const bool isCaption =

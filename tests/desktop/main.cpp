@@ -28,8 +28,8 @@ int main(int argc, char** argv) {
     // Listing the names of the tests needs neither.
     ::testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("FolveroDesktopTests"));
-    QCoreApplication::setApplicationName(QStringLiteral("FolveroDesktopTests"));
+    QCoreApplication::setOrganizationName("FolveroDesktopTests");
+    QCoreApplication::setApplicationName("FolveroDesktopTests");
     QApplication::setStyle(new BorderedStyle);
     return RUN_ALL_TESTS();
 }
