@@ -1,9 +1,7 @@
 #include "app/desktop/Appearance.h"
 #include "app/desktop/BorderedStyle.h"
 
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QRadioButton>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 // The brightest line of an empty control against its own ground, in a dark window.

@@ -1,21 +1,6 @@
 #include "app/desktop/Appearance.h"
-#include "app/desktop/MainMenu.h"
-#include "app/desktop/MainWindow.h"
 #include "desktop/DesktopProgram.h"
-#include "ui/FlashTemplateOutline.h"
-#include "ui/ImportWindow.h"
-#include "ui/ImportWindowDelegate.h"
-#include "ui/SelectTemplateWindow.h"
-#include "ui/SelectTemplateWindowDelegate.h"
 
-#include <QActionGroup>
-#include <QApplication>
-#include <QComboBox>
-#include <QHash>
-#include <QListView>
-#include <QMenu>
-#include <QMenuBar>
-#include <QTest>
 #include <algorithm>
 #include <cmath>
 

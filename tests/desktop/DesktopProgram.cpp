@@ -1,21 +1,9 @@
 #include "desktop/DesktopProgram.h"
 
 #include "app/AppSettings.h"
-#include "app/desktop/MainWindow.h"
-#include "app/desktop/PreviewView.h"
 #include "builder/PDFBuilder.h"
-#include "platform/Folders.h"
-#include "support/TemplateLibrary.h"
 #include "ui/FlashTemplateModel.h"
-#include "ui/FlashTemplateOutline.h"
-#include "ui/ImportWindowDelegate.h"
 
-#include <QComboBox>
-#include <QDir>
-#include <QElapsedTimer>
-#include <QLineEdit>
-#include <QSettings>
-#include <QTest>
 #include <utility>
 
 using namespace Qt::StringLiterals;

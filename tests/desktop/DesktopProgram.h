@@ -1,12 +1,24 @@
 #pragma once
 
+// With what tests of the program drive.
 #include "app/desktop/BrisleafAppDelegate.h"
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/MessageBar.h"
+#include "app/desktop/PreviewView.h"
+#include "platform/Folders.h"
 #include "support/BookReader.h"
+#include "support/TemplateLibrary.h"
+#include "ui/FlashTemplateOutline.h"
+#include "ui/ImportWindow.h"
+#include "ui/ImportWindowDelegate.h"
+#include "ui/OutputWindow.h"
+#include "ui/OutputWindowDelegate.h"
+#include "ui/SelectTemplateWindow.h"
+#include "ui/SelectTemplateWindowDelegate.h"
 
-#include <QColor>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <QVariant>
+#include <QTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 // An option of the test program: with a folder behind it, it runs as the desktop program.

@@ -1,15 +1,5 @@
-#include "app/desktop/MainMenu.h"
-#include "app/desktop/MainWindow.h"
-#include "app/desktop/MessageBar.h"
 #include "desktop/DesktopProgram.h"
 #include "platform/Bundle.h"
-#include "support/TemplateLibrary.h"
-#include "ui/SelectTemplateWindow.h"
-#include "ui/SelectTemplateWindowDelegate.h"
-
-#include <QFile>
-#include <QPushButton>
-#include <QTest>
 
 namespace {
 

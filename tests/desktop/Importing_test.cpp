@@ -1,27 +1,7 @@
 #include "app/AppSettings.h"
-#include "app/desktop/MainMenu.h"
-#include "app/desktop/MainWindow.h"
-#include "app/desktop/MessageBar.h"
-#include "app/desktop/PreviewView.h"
 #include "desktop/DesktopProgram.h"
 #include "support/ChildProcesses.h"
 #include "support/Program.h"
-#include "support/TemplateLibrary.h"
-#include "ui/ImportWindow.h"
-#include "ui/ImportWindowDelegate.h"
-#include "ui/OutputWindow.h"
-#include "ui/OutputWindowDelegate.h"
-
-#include <QDragEnterEvent>
-#include <QDropEvent>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMimeData>
-#include <QProcess>
-#include <QPushButton>
-#include <QTest>
-#include <QUrl>
 
 namespace {
 

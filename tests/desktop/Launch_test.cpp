@@ -1,25 +1,10 @@
 #include "app/desktop/Appearance.h"
-#include "app/desktop/MainMenu.h"
-#include "app/desktop/MainWindow.h"
-#include "app/desktop/MessageBar.h"
-#include "app/desktop/PreviewView.h"
 #include "app/desktop/WindowFitter.h"
 #include "desktop/DesktopProgram.h"
 #include "platform/Bundle.h"
-#include "platform/Folders.h"
 #include "support/RecordedLog.h"
-#include "support/TemplateLibrary.h"
 
-#include <QActionGroup>
-#include <QDesktopServices>
-#include <QFile>
-#include <QFileInfo>
-#include <QFontDatabase>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QScreen>
 #include <QSignalSpy>
-#include <QTest>
 #include <QWebEnginePage>
 #include <QWebEngineSettings>
 #include <csignal>

@@ -6,11 +6,7 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
-#include <QFontMetricsF>
-#include <QMouseEvent>
-#include <QPainter>
-#include <QSet>
-#include <QWidget>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace {

@@ -6,16 +6,8 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTemporaryDir>
 #include <QTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

@@ -6,20 +6,8 @@
 #include "support/PublishedBook.h"
 #include "support/RecordedLog.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QDir>
-#include <QFileInfo>
-#include <QGuiApplication>
-#include <QLineEdit>
-#include <QProgressBar>
-#include <QProgressDialog>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSettings>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace {

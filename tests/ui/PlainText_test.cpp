@@ -1,8 +1,6 @@
 #include "ui/PlainText.h"
 
-#include <QLabel>
-#include <QMessageBox>
-#include <QTextDocument>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace {

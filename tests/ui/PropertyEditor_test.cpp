@@ -8,10 +8,8 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

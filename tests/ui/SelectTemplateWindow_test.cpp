@@ -4,11 +4,8 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
-#include <QDir>
-#include <QLabel>
-#include <QListView>
-#include <QPushButton>
 #include <QTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 namespace {
