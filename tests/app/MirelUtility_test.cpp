@@ -80,20 +80,17 @@ TEST(MirelUtility, MakesMD5Texts) {
     EXPECT_EQ(MirelUtility::MD5DataOfString("abc").toHex(), "900150983cd24fb0d6963f7d28e17f72");
 }
 
-TEST(MirelUtility, AsksTheFileManagerToSelectAFile) {
+TEST(MirelUtility, AsksTheFileManagerToSelectAFileOrElseOpensTheFolder) {
     const QTemporaryDir folder;
-    TestFiles::write(folder.filePath("a, b#ü $(c).pdf"), "x");
-    const FakePrograms programs(0);
-    MirelUtility::openFolderFromFolderOrFile(folder.filePath("a, b#ü $(c).pdf"));
-    EXPECT_TRUE(
-        programs.argumentsOf("dbus-send")
-            .contains("array:string:file://" + folder.path() + "/a%2C%20b%23%C3%BC%20$(c).pdf"));
-}
-
-TEST(MirelUtility, OpensTheFolderWhereNoFileManagerAnswers) {
-    const QTemporaryDir folder;
-    const QString file = folder.filePath("a \"b\".pdf");
+    const QString file = folder.filePath("a, \"b\"#ü $(c).pdf");
     TestFiles::write(file, "x");
+    {
+        const FakePrograms programs(0);
+        MirelUtility::openFolderFromFolderOrFile(file);
+        EXPECT_TRUE(programs.argumentsOf("dbus-send")
+                        .contains("array:string:file://" + folder.path() +
+                                  "/a%2C%20%22b%22%23%C3%BC%20$(c).pdf"));
+    }
     for (const QString& path : {file, folder.path() + '/'}) {
         const FakePrograms programs(1);
         MirelUtility::openFolderFromFolderOrFile(path);
