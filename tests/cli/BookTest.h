@@ -1,0 +1,34 @@
+#pragma once
+
+#include "support/BookReader.h"
+#include "support/Program.h"
+#include "support/TemplateLibrary.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+// A folder for a book, and the program that publishes into it.
+class BookTest : public testing::Test {
+protected:
+    QString path(const QString& name) const { return iRoot.filePath(name); }
+    QString book() const { return path("book"); }
+    QString file(const QString& name) const { return book() + u'/' + name; }
+    bool exists(const QString& name) const { return QFileInfo::exists(file(name)); }
+    std::map<QString, QByteArray> contents() const { return BookReader::contentsBeneath(book()); }
+
+    // Publishes a sample, or the document at an absolute path.
+    Program::Result publish(const QString& document, const QStringList& options = {}) const {
+        const QDir samples(Program::sample({}));
+        return Program::run(QStringList{"publish", samples.filePath(document), book()} + options);
+    }
+    // The same, which must succeed.
+    Program::Result published(const QString& document, const QStringList& options = {}) const {
+        const auto result = publish(document, options);
+        EXPECT_EQ(result.exitCode, 0) << result.errors.constData();
+        return result;
+    }
+
+    QTemporaryDir iRoot;
+};

@@ -1,0 +1,77 @@
+#include "cli/BookTest.h"
+
+namespace {
+
+// A copy of the program, which looks for its resources and its page worker beside itself.
+class BrokenInstallation : public BookTest {
+protected:
+    BrokenInstallation() {
+        for (const QString& name : {QString("bin/folvero"), worker}) {
+            QDir(iRoot.path()).mkpath(QFileInfo(name).path());
+            EXPECT_TRUE(QFile::copy(Program::path("../" + name), path(name)));
+        }
+    }
+
+    Program::Result publish(const QString& document, const QString& resources) const {
+        QFile::link(resources, path("share"));
+        return Program::runOther(
+            path("bin/folvero"),
+            {"publish", "--links", "--bookmarks", "--quiet", Program::sample(document), book()});
+    }
+
+    const QString worker = "libexec/folvero/folvero-page-worker";
+};
+
+// Passes questions on to the real worker until one comes that breaks it.
+const QByteArray breakingReader = R"(#!/usr/bin/env python3
+import os, subprocess, sys
+real = sys.argv[0] + "-real"
+if sys.argv[1] == "draw":
+    os.execv(real, [real, "draw"])
+child = subprocess.Popen([real] + sys.argv[1:], stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+def passOn():
+    sys.stdout.buffer.write(child.stdout.readline())
+    sys.stdout.flush()
+passOn()
+passOn()
+for question in sys.stdin.buffer:
+    if question.split()[0] in [b"annotations", b"outline"]:
+        os.kill(child.pid, 9)
+        os.abort()
+    child.stdin.write(question)
+    child.stdin.flush()
+    passOn()
+)";
+
+} // namespace
+
+TEST_F(BrokenInstallation, NamesWhatIsWrongWithItsTemplates) {
+    TemplateLibrary library;
+    QDir().mkpath(path("resources"));
+    QFile::link(library.path(), path("resources/folvero"));
+    const auto expectFailure = [this](const char* cause) {
+        const auto result = publish("outline.pdf", path("resources"));
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_TRUE(result.errors.contains(cause)) << result.errors.constData();
+        EXPECT_FALSE(exists({}));
+    };
+    expectFailure("holds no templates");
+    for (const QByteArray& xml : {QByteArray("<template></template>"), QByteArray("\0\1\2", 3),
+                                  QByteArray("no markup"), QByteArray()}) {
+        library.addTemplateFile("float", xml);
+        expectFailure("float/flashTemplate.xml");
+    }
+}
+
+TEST_F(BrokenInstallation, CostsTheLinksAndTheBookmarksAndNotTheBook) {
+    ASSERT_TRUE(QFile::rename(path(worker), path(worker + "-real")));
+    TestFiles::write(path(worker), breakingReader);
+    QFile::setPermissions(path(worker), QFile::permissions(path("bin/folvero")));
+    const auto result = publish("links.pdf", Program::path("../share"));
+    EXPECT_EQ(result.exitCode, 0);
+    for (const char* cause :
+         {"links: page 1 and 5 more: the program that reads PDF", "bookmarks: "})
+        EXPECT_TRUE(result.errors.contains(cause)) << result.errors.constData();
+    EXPECT_TRUE(exists("files/page/1.jpg"));
+    EXPECT_TRUE(TestFiles::read(file("index.html")).contains("<title>Links"));
+}
