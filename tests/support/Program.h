@@ -17,7 +17,7 @@ struct Result {
 QString path(const QString& name = QStringLiteral("folvero"));
 QString sample(const QString& name);
 
-// Runs it to its end, which must come within half a minute.
+// Runs it to its end, for which it waits some minutes at most.
 Result run(const QStringList& arguments);
 
 // The same for any program; what is in the environment already can be changed.
