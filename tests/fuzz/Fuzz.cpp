@@ -1,9 +1,10 @@
 #include "fuzz/Fuzz.h"
 
+#include "support/TemplateLibrary.h"
+
+#include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/mman.h>
-#include <unistd.h>
 
 // Freed memory is overwritten, so that libraries that are built without a sanitizer don't get away
 // with reading it.
@@ -35,20 +36,9 @@ QByteArray Fuzz::Input::bytes(qsizetype atMost) {
     return taken;
 }
 
-Fuzz::MemoryFile::MemoryFile() : iDescriptor(::memfd_create("folvero-fuzz", MFD_CLOEXEC)) {
-    require(iDescriptor >= 0, "a file in memory can be made");
-}
-
-Fuzz::MemoryFile::~MemoryFile() {
-    ::close(iDescriptor);
-}
-
-QString Fuzz::MemoryFile::path() const {
-    return QStringLiteral("/proc/self/fd/%1").arg(iDescriptor);
-}
-
-void Fuzz::MemoryFile::write(const std::uint8_t* data, std::size_t size) {
-    const bool done = ::ftruncate(iDescriptor, 0) == 0 &&
-                      ::pwrite(iDescriptor, data, size, 0) == static_cast<ssize_t>(size);
-    require(done, "the file in memory can be written");
+QString Fuzz::fileWith(const std::uint8_t* data, std::size_t size) {
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath("input");
+    TestFiles::write(path, Input(data, size).rest());
+    return path;
 }

@@ -27,19 +27,7 @@ private:
     QByteArray iLeft;
 };
 
-// A regular file in memory, for code that reads from a path. Writing replaces what it held.
-class MemoryFile {
-public:
-    MemoryFile();
-    ~MemoryFile();
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-
-    QString path() const;
-    void write(const std::uint8_t* data, std::size_t size);
-
-private:
-    int iDescriptor;
-};
+// Writes the fuzzer's bytes into the one file that code under test reads from a path; returns it.
+QString fileWith(const std::uint8_t* data, std::size_t size);
 
 } // namespace Fuzz

@@ -2,25 +2,14 @@
 #include "fuzz/Fuzz.h"
 #include "platform/PlatformException.h"
 
-#include <string>
+#include <sstream>
 
 namespace {
 
-class Text : public pugi::xml_writer {
-public:
-    void write(const void* data, std::size_t size) override {
-        iText.append(static_cast<const char*>(data), size);
-    }
-    const std::string& text() const { return iText; }
-
-private:
-    std::string iText;
-};
-
 std::string written(const FlashOutline& outline) {
-    Text text;
+    std::ostringstream text;
     outline.outlineAsXMLNode()->save(text, "", pugi::format_raw);
-    return text.text();
+    return text.str();
 }
 
 pugi::xml_parse_result parse(pugi::xml_document& document, const void* data, std::size_t size) {

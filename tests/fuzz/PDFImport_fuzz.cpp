@@ -19,7 +19,7 @@ constexpr std::size_t complaintKinds = 4096;
 __attribute__((section("__libfuzzer_extra_counters"))) std::uint8_t complaints[complaintKinds];
 
 void countComplaint(const Log::Record& record) {
-    if (record.logger != QStringLiteral("PDFEngine"))
+    if (record.logger != "PDFEngine")
         return;
     std::uint32_t kind = 2166136261U;
     for (const QChar letter : record.text.left(40)) {
@@ -49,12 +49,8 @@ void checkPage(const PDFDocument& document, const PDFPage& page) {
 }
 
 void checkLocations(const pugi::xml_node& pagesAnnos) {
-    for (const pugi::xml_node& page : pagesAnnos.children("pageAnnos")) {
-        for (const pugi::xml_node& anno : page.children("anno")) {
-            for (const pugi::xml_attribute& fraction : anno.child("location").attributes())
-                Fuzz::require(std::isfinite(fraction.as_double(NAN)), "a link lies somewhere");
-        }
-    }
+    for (const auto& fraction : pagesAnnos.select_nodes("pageAnnos/anno/location/@*"))
+        Fuzz::require(std::isfinite(fraction.attribute().as_double(NAN)), "a link lies somewhere");
 }
 
 void checkOutline(const std::vector<PDFOutlineNode>& nodes, int pages, int depth) {
@@ -89,7 +85,7 @@ void readStructure(const QString& path) {
     outline.loadOutlineFromPDF(document);
     outline.outlineAsXMLNode();
     FlashPagesAnnotationsPDF links;
-    links.loadLinksFromPDF(document, QStringLiteral("1-%1").arg(std::min(pages, pagesLookedAt)));
+    links.loadLinksFromPDF(document, QString("1-%1").arg(std::min(pages, pagesLookedAt)));
     checkLocations(links.pagesAnnotationsNode());
 }
 
@@ -102,10 +98,9 @@ void drawFirstPage(const QString& path) {
     control.timeLimit = std::chrono::milliseconds(300);
     PageBitmap bitmap;
     page.draw(100 / std::max({size.width(), size.height(), 1.0}), bitmap, control);
-    Fuzz::require(bitmap.width() > 0 && bitmap.height() > 0, "a drawn page has pixels");
-    Fuzz::require(bitmap.width() <= PDFLimits::maxBitmapSide &&
-                      bitmap.height() <= PDFLimits::maxBitmapSide,
-                  "a drawn page keeps within the limits");
+    for (const int side : {bitmap.width(), bitmap.height()})
+        Fuzz::require(side > 0 && side <= PDFLimits::maxBitmapSide,
+                      "a drawn page has pixels and keeps within the limits");
     page.vectorPicture();
     for (const PDFTextLine& line : page.text()) {
         Fuzz::require(isFinite(line.box) && !line.words.empty(), "a line lies somewhere");
@@ -123,11 +118,10 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static Fuzz::MemoryFile file;
-    file.write(data, size);
+    const QString file = Fuzz::fileWith(data, size);
     for (const auto& read : {readStructure, drawFirstPage}) {
         try {
-            read(file.path());
+            read(file);
         } catch (const PlatformException& failure) {
             Fuzz::require(!failure.reason().isEmpty(), "a failure has a reason");
         }
