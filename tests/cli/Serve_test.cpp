@@ -1,17 +1,37 @@
 #include "cli/BookTest.h"
-#include "support/WebClient.h"
+#include "platform/FileDescriptor.h"
 
 #include <QUrl>
+#include <arpa/inet.h>
 #include <array>
 #include <csignal>
 #include <future>
+#include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-using WebClient::Answer;
+struct Answer {
+    int status = 0;                       // 0 when no answer came
+    QMap<QByteArray, QByteArray> headers; // names in small letters
+    QByteArray body;
+
+    QByteArray header(const QByteArray& name) const { return headers.value(name); }
+};
+
+Answer parsed(const QByteArray& bytes) {
+    const auto end = bytes.indexOf("\r\n\r\n");
+    if (end < 0 || !bytes.startsWith("HTTP/1.1 "))
+        return {};
+    Answer answer{bytes.mid(9, 3).toInt(), {}, bytes.mid(end + 4)};
+    for (const QByteArray& line : bytes.left(end).split('\n').mid(1)) {
+        const auto colon = line.indexOf(':');
+        answer.headers[line.left(colon).toLower()] = line.mid(colon + 1).trimmed();
+    }
+    return answer;
+}
 
 // "folvero serve" over a folder, until this goes.
 class Served {
@@ -32,10 +52,41 @@ public:
     Served(const Served&) = delete;
     Served& operator=(const Served&) = delete;
 
-    Answer get(const QByteArray& target, const QByteArray& moreLines = {}) const {
-        return WebClient::get(port, target, moreLines);
+    // Not open when nobody answers there.
+    FileDescriptor connect(const char* address = "127.0.0.1") const {
+        FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+        sockaddr_in place{};
+        place.sin_family = AF_INET;
+        place.sin_port = htons(std::uint16_t(port));
+        ::inet_pton(AF_INET, address, &place.sin_addr);
+        if (::connect(socket.number(), reinterpret_cast<sockaddr*>(&place), sizeof(place)) != 0)
+            socket.close();
+        return socket;
     }
-    Answer send(const QByteArray& request) const { return WebClient::exchange(port, request); }
+
+    // Sends the bytes as they are and reads until the server closes the connection.
+    Answer send(const QByteArray& request) const {
+        const FileDescriptor socket = connect();
+        ::send(socket.number(), request.constData(), std::size_t(request.size()), MSG_NOSIGNAL);
+        QByteArray bytes;
+        std::array<char, 65536> buffer;
+        for (;;) {
+            const auto got = ::recv(socket.number(), buffer.data(), buffer.size(), 0);
+            if (got <= 0)
+                return parsed(bytes);
+            bytes.append(buffer.data(), got);
+        }
+    }
+
+    // A request with the header lines that a browser would send, and more of them.
+    QByteArray request(const QByteArray& method, const QByteArray& target,
+                       const QByteArray& moreLines = {}) const {
+        return method + ' ' + target + " HTTP/1.1\r\nHost: 127.0.0.1:" + QByteArray::number(port) +
+               "\r\nAccept-Encoding: gzip, deflate, br\r\n" + moreLines + "\r\n";
+    }
+    Answer get(const QByteArray& target, const QByteArray& moreLines = {}) const {
+        return send(request("GET", target, moreLines));
+    }
     void signal(int number) const { ::kill(pid_t(process.processId()), number); }
 
     QProcess process;
@@ -188,21 +239,20 @@ TEST_F(ServeTest, AnswersThisMachineOnly) {
         EXPECT_FALSE(answer.body.contains("A book"));
     }
     // All of 127.0.0.0/8 is this machine; a server for the whole network would answer there too.
-    EXPECT_FALSE(WebClient::connect(served.port, "127.0.0.2").isOpen());
+    EXPECT_FALSE(served.connect("127.0.0.2").isOpen());
 }
 
 TEST_F(ServeTest, OnlyReads) {
     const Served served(book());
     for (const char* method : {"POST", "PUT", "DELETE", "PATCH", "OPTIONS", "TRACE", "CONNECT"}) {
-        const Answer answer = served.send(
-            WebClient::request(served.port, "/", "Content-Length: 4\r\n", method) + "text");
+        const Answer answer =
+            served.send(served.request(method, "/", "Content-Length: 4\r\n") + "text");
         EXPECT_EQ(answer.status, 405) << method;
         EXPECT_EQ(answer.header("allow"), "GET, HEAD") << method;
         // What follows must not count as a request.
         EXPECT_EQ(answer.header("connection"), "close") << method;
     }
-    const Answer head =
-        served.send(WebClient::request(served.port, "/files/page/1.jpg", {}, "HEAD"));
+    const Answer head = served.send(served.request("HEAD", "/files/page/1.jpg"));
     EXPECT_EQ(head.status, 200);
     EXPECT_EQ(head.header("content-length"), "10");
     EXPECT_EQ(head.header("content-type"), "image/jpeg");
@@ -245,10 +295,10 @@ TEST_F(ServeTest, EndsWhateverBrowsersHoldOpen) {
     for (const int signal : {SIGINT, SIGTERM}) {
         Served served(book());
         // A connection in case that it is needed, half a request, and a long answer.
-        const FileDescriptor idle = WebClient::connect(served.port);
-        const FileDescriptor asking = WebClient::connect(served.port);
-        const FileDescriptor reading = WebClient::connect(served.port);
-        const QByteArray request = WebClient::request(served.port, "/large.bin");
+        const FileDescriptor idle = served.connect();
+        const FileDescriptor asking = served.connect();
+        const FileDescriptor reading = served.connect();
+        const QByteArray request = served.request("GET", "/large.bin");
         ASSERT_GT(::send(asking.number(), "GET / HT", 8, 0), 0);
         ASSERT_GT(::send(reading.number(), request.constData(), std::size_t(request.size()), 0), 0);
         std::array<char, 100'000> buffer;

@@ -1,7 +1,7 @@
 // A page worker that misbehaves: it stands in for a PDF engine that a hostile page has broken or
 // taken over. In place of a PDF it is given a text file with lines "PAGE DEED", or "opening DEED"
 // for what opening it does; pages without a deed are "drawn" into a file of a few bytes. It is
-// behind the same walls as the real one.
+// in the same sandbox as the real one.
 //
 // A deed that breaks the worker never answers. One that reaches for something forbidden answers
 // "ok" when it got there, and "fail REASON" when the system stopped it.
@@ -11,12 +11,12 @@
 #include <QByteArrayList>
 #include <QFile>
 #include <QString>
-#include <arpa/inet.h>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <string>
@@ -37,18 +37,6 @@ std::map<std::string, std::string> readDeeds(const char* path) {
     return deeds;
 }
 
-// Far more than a worker may have; then it gives up, so that a missing limit shows as a drawn page.
-bool allocateWithoutEnd() {
-    constexpr std::size_t chunk = std::size_t{64} << 20;
-    constexpr std::size_t mostChunks = 6 * 16;
-    std::vector<char*> held;
-    for (std::size_t i = 0; i < mostChunks; ++i) {
-        held.push_back(new char[chunk]);
-        std::memset(held.back(), 1, chunk);
-    }
-    return true;
-}
-
 [[gnu::noinline]] int recurseWithoutEnd(int depth) {
     char frame[4096];
     std::memset(frame, depth, sizeof frame);
@@ -56,13 +44,21 @@ bool allocateWithoutEnd() {
     return depth < 0 ? 0 : recurseWithoutEnd(depth + 1) + frame[0];
 }
 
-bool connectOut() {
-    const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0);
-    return socket >= 0;
+// Far more than a worker may have; then it stops, so that a missing limit shows as a drawn page.
+bool allocateSixGigabytes() {
+    std::vector<std::string> held;
+    for (int i = 0; i < 96; ++i)
+        held.emplace_back(std::size_t{64} << 20, 'x');
+    return true;
 }
 
-bool opens(const char* path, int flags) {
-    return ::open(path, flags, 0600) >= 0;
+bool writeWithoutEnd(const std::string& text, unsigned pauseMicroseconds) {
+    for (;; ::usleep(pauseMicroseconds))
+        std::cout << text << std::flush;
+}
+
+bool opens(const std::string& path, int flags) {
+    return ::open(path.c_str(), flags, 0600) >= 0;
 }
 
 bool startProcess() {
@@ -77,52 +73,32 @@ bool mapsCode() {
                   -1, 0) != MAP_FAILED;
 }
 
-bool perform(const std::string& deed, const std::string& folder) {
-    if (deed == "crash")
-        return ::raise(SIGSEGV) == 0;
-    if (deed == "loop") {
-        for (;;)
-            asm volatile("");
-    }
-    if (deed == "allocate")
-        return allocateWithoutEnd();
-    if (deed == "recurse")
-        return recurseWithoutEnd(0) != 0;
-    if (deed == "exit")
-        std::_Exit(127); // as if it could not be run
-    if (deed == "trickle") {
-        for (;; ::usleep(5000))
-            std::cout << 'x' << std::flush;
-    }
-    if (deed == "babble") {
-        for (;;)
-            std::cout << std::string(1 << 16, 'x') << std::flush;
-    }
-    if (deed == "connect")
-        return connectOut();
-    if (deed == "read-outside")
-        return opens("/etc/passwd", O_RDONLY);
-    if (deed == "write-outside")
-        return opens((folder + "/../outside").c_str(), O_WRONLY | O_CREAT);
-    if (deed == "link-outside")
-        return ::symlink("/etc/passwd", (folder + "/1.jpg").c_str()) == 0;
-    if (deed == "fork")
-        return startProcess();
-    if (deed == "execute")
-        return ::execl("/bin/true", "true", nullptr) == 0;
-    if (deed == "map-code")
-        return mapsCode();
-    if (deed == "kill-parent")
-        return ::kill(::getppid(), 0) == 0;
-    if (deed == "trace-parent")
-        return ::ptrace(PTRACE_SEIZE, ::getppid(), nullptr, nullptr) == 0;
-    std::cerr << "no such deed: " << deed << '\n';
-    std::exit(2);
-}
-
-void draw(const std::string& page, const std::string& folder) {
-    std::ofstream(folder + '/' + page + ".jpg") << "drawn";
-}
+// Deeds by name. They get the work folder, and return whether they did what they are called.
+const std::map<std::string, std::function<bool(const std::string&)>> known = {
+    {"crash", [](auto&) { return ::raise(SIGSEGV) == 0; }},
+    {"loop",
+     [](auto&) -> bool {
+         for (;;)
+             asm volatile("");
+     }},
+    {"allocate", [](auto&) { return allocateSixGigabytes(); }},
+    {"recurse", [](auto&) { return recurseWithoutEnd(0) != 0; }},
+    {"exit", [](auto&) -> bool { std::_Exit(127); }}, // as if it could not be run
+    {"trickle", [](auto&) { return writeWithoutEnd("x", 5000); }},
+    {"babble", [](auto&) { return writeWithoutEnd(std::string(1 << 16, 'x'), 0); }},
+    {"connect", [](auto&) { return ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0) >= 0; }},
+    {"read-outside", [](auto&) { return opens("/etc/passwd", O_RDONLY); }},
+    {"write-outside",
+     [](auto& folder) { return opens(folder + "/../outside", O_WRONLY | O_CREAT); }},
+    {"link-outside",
+     [](auto& folder) { return ::symlink("/etc/passwd", (folder + "/1.jpg").c_str()) == 0; }},
+    {"fork", [](auto&) { return startProcess(); }},
+    {"execute", [](auto&) { return ::execl("/bin/true", "true", nullptr) == 0; }},
+    {"map-code", [](auto&) { return mapsCode(); }},
+    {"kill-parent", [](auto&) { return ::kill(::getppid(), 0) == 0; }},
+    {"trace-parent",
+     [](auto&) { return ::ptrace(PTRACE_SEIZE, ::getppid(), nullptr, nullptr) == 0; }},
+};
 
 } // namespace
 
@@ -135,16 +111,16 @@ int main() {
     const auto deeds = readDeeds(file.constData());
     enterWorkerSandbox(QFile::decodeName(file), QFile::decodeName(folder.c_str()));
     if (const auto deed = deeds.find("opening"); deed != deeds.end())
-        perform(deed->second, folder);
+        known.at(deed->second)(folder);
     std::cout << "ready" << std::endl;
     for (std::string page; std::getline(std::cin, page);) {
         const auto deed = deeds.find(page);
         errno = 0;
-        if (deed != deeds.end() && !perform(deed->second, folder)) {
+        if (deed != deeds.end() && !known.at(deed->second)(folder)) {
             std::cout << "fail " << std::strerror(errno) << std::endl;
             continue;
         }
-        draw(page, folder);
+        std::ofstream(folder + '/' + page + ".jpg") << "drawn";
         std::cout << "ok 0 0 0" << std::endl;
     }
     return 0;
