@@ -304,11 +304,12 @@ TEST_F(ServeTest, EndsWhateverBrowsersHoldOpen) {
         std::array<char, 100'000> buffer;
         ASSERT_GT(::recv(reading.number(), buffer.data(), buffer.size(), 0), 0);
         served.signal(signal);
-        // Both go on slowly, so that neither is ever given up for its silence.
+        // Both go on slowly, so that neither is ever dropped for its silence.
         for (int i = 0; i < 300 && !served.process.waitForFinished(100); ++i) {
             ::send(asking.number(), "T", 1, MSG_NOSIGNAL);
             ::recv(reading.number(), buffer.data(), buffer.size(), 0);
         }
+        EXPECT_EQ(served.process.state(), QProcess::NotRunning);
         const auto result = Program::finish(served.process);
         EXPECT_EQ(result.exitCode, 0);
         EXPECT_EQ(result.errors, "Ctrl-C ends it\n");
