@@ -1,10 +1,10 @@
+#include "support/OwnFolders.h"
+
 #include <QCoreApplication>
-#include <QStandardPaths>
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    // Keeps the tests off the settings and folders of whoever runs them.
-    QStandardPaths::setTestModeEnabled(true);
+    const OwnFolders folders;
     QCoreApplication app(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("FolveroTests"));
     QCoreApplication::setApplicationName(QStringLiteral("FolveroTests"));
