@@ -48,6 +48,11 @@ TEST(InfoCommand, ShowsTheOutlineWithItsDepth) {
               R"({"title":"Without a destination"},{"page":9,"title":"Appendix, by name"}]])");
 }
 
+TEST(InfoCommand, CountsTheLinksOfPagesThatLookAlike) {
+    EXPECT_TRUE(Program::run({"info", Program::sample("links.pdf")})
+                    .output.contains("\nPages 1-2: 600 x 800 points, 7 links\nPage 3: 800 x 600"));
+}
+
 TEST(InfoCommand, GivesAnUnreadablePageNoMeasures) {
     const auto page = info("damaged-page.pdf")["pages"][2].toObject();
     EXPECT_EQ(page.keys().join(u' '), "error links number");

@@ -1,8 +1,5 @@
 #include "builder/PDFBuilder.h"
 #include "cli/BookTest.h"
-#include "support/PixelCheck.h"
-
-#include <QImage>
 
 namespace {
 
@@ -40,22 +37,6 @@ TEST_F(PublishTest, TakesTitleAndSettingsIntoTheBook) {
     const BookElement book = BookReader::parse(xml);
     EXPECT_EQ(book.at("Ppts").children.size(), 6U);
     EXPECT_EQ(book.textAt("Ppts/Ppt/Normal/ImgPath"), "page/1.jpg");
-}
-
-TEST_F(PublishTest, TurnsPagesAsTheDocumentSays) {
-    published("rotated.pdf");
-    const QColor paper(250, 244, 225);
-    const QColor arrow(200, 60, 40);
-    // Quarters of a turn; a place in the arrow's head off its middle, and paper opposite of it.
-    const int quarters[] = {0, 1, 2, 3, 0, 3, 1};
-    for (const int page : {1, 2, 3, 4, 6, 7}) {
-        SCOPED_TRACE(page);
-        QImage image(file(QString("files/page/%1.jpg").arg(page)));
-        EXPECT_EQ(image.size(), quarters[page - 1] % 2 ? QSize(1200, 800) : QSize(800, 1200));
-        image = image.transformed(QTransform().rotate(-90 * quarters[page - 1]));
-        EXPECT_TRUE(isNear(colourAt(image, 0.65, 0.39), arrow));
-        EXPECT_TRUE(isNear(colourAt(image, 0.65, 0.61), paper));
-    }
 }
 
 TEST_F(PublishTest, MakesAnApplicationNamedAfterTheDocument) {
@@ -110,7 +91,7 @@ TEST_F(PublishTest, TakesThePageSizeOfTheFirstPageThatCanBeRead) {
     ASSERT_TRUE(pdf.write(path("first.pdf")));
     const auto result = publish(path("first.pdf"));
     EXPECT_EQ(result.exitCode, 3);
-    EXPECT_TRUE(result.errors.contains("page 1: ")) << result.errors.constData();
+    EXPECT_TRUE(result.errors.contains("page 1: malformed page tree")) << result.errors.constData();
     EXPECT_EQ(pages(), "2.jpg");
     EXPECT_EQ(BookReader::configuration(book()).textAt("Ppts/Ppt/Normal/Width"), "210");
 }

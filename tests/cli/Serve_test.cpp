@@ -145,30 +145,26 @@ TEST_F(ServeTest, OpensTheBooksPageAmongOthers) {
 }
 
 TEST_F(ServeTest, TellsWhatKindOfFileItIs) {
-    const std::pair<const char*, QByteArray> texts[] = {
-        {"a.html", "text/html"},      {"a.js", "text/javascript"},
-        {"a.css", "text/css"},        {"a.json", "application/json"},
-        {"a.svg", "image/svg+xml"},   {"a.webmanifest", "application/manifest+json"},
-        {"a.xml", "application/xml"}, {"a.txt", "text/plain"}};
-    const std::pair<const char*, QByteArray> others[] = {{"a.JPG", "image/jpeg"},
-                                                         {"a.png", "image/png"},
-                                                         {"a.webp", "image/webp"},
-                                                         {"a.gif", "image/gif"},
-                                                         {"a.mp3", "audio/mpeg"},
-                                                         {"a.bin", "application/octet-stream"},
-                                                         {"html", "application/octet-stream"}};
+    const QByteArray utf8 = "; charset=utf-8";
+    const std::pair<const char*, QByteArray> types[] = {
+        {"a.html", "text/html" + utf8},
+        {"a.js", "text/javascript" + utf8},
+        {"a.css", "text/css" + utf8},
+        {"a.json", "application/json" + utf8},
+        {"a.svg", "image/svg+xml" + utf8},
+        {"a.webmanifest", "application/manifest+json" + utf8},
+        {"a.JPG", "image/jpeg"},
+        {"a.png", "image/png"},
+        {"a.webp", "image/webp"},
+        {"a.mp3", "audio/mpeg"},
+        {"a.bin", "application/octet-stream"},
+        {"html", "application/octet-stream"}};
     const Served served(book());
     EXPECT_EQ(served.page, "/");
-    const auto expectType = [&](const char* name, const QByteArray& type) {
+    for (const auto& [name, type] : types) {
         write(name, {});
-        const Answer answer = served.get(QByteArray("/") + name);
-        EXPECT_EQ(answer.status, 200) << name;
-        EXPECT_EQ(answer.header("content-type"), type) << name;
-    };
-    for (const auto& [name, type] : texts)
-        expectType(name, type + "; charset=utf-8");
-    for (const auto& [name, type] : others)
-        expectType(name, type);
+        EXPECT_EQ(served.get(QByteArray("/") + name).header("content-type"), type) << name;
+    }
 }
 
 TEST_F(ServeTest, AnswersForPartsOfAFile) {
