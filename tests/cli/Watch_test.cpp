@@ -79,6 +79,7 @@ TEST_F(WatchTest, MakesTheBookAgainAndWritesOnlyWhatChanged) {
 
     // Another file of that name, after a time without one, as some programs save.
     ASSERT_TRUE(QFile::remove(iPDF));
+    EXPECT_FALSE(iProcess.waitForReadyRead(1500)) << iProcess.readAllStandardError().constData();
     TestFiles::write(iPDF + ".new", document({"one", "changed"}));
     ASSERT_TRUE(QFile::rename(iPDF + ".new", iPDF));
     const QByteArray line = nextLine();
