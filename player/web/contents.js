@@ -1,9 +1,10 @@
 import { make } from '../src/book/dom.js';
 import { fullLabel, labelOf } from '../src/book/labels.js';
+import { itemOfPage } from './branches.js';
 import { SidePanel } from './side.js';
 import { Tree } from './tree.js';
 
-/** @typedef {import('./tree.js').Item} Item */
+/** @typedef {import('./branches.js').Item} Item */
 
 /** Contents of so few entries are shown whole. */
 const SHORT = 24;
@@ -56,13 +57,6 @@ export class Contents {
   #follow() {
     const pages = this.layers.inView;
     if (this.chosen && !pages.includes(this.chosen.entry.position)) this.chosen = null;
-    const last = pages[pages.length - 1];
-    /** @type {Item | null} */
-    let here = null;
-    for (const item of this.tree.all) {
-      const { position } = item.entry;
-      if (position && position <= last && position >= (here?.entry.position ?? 0)) here = item;
-    }
-    this.tree.mark(this.chosen ?? here);
+    this.tree.mark(this.chosen ?? itemOfPage(this.tree.all, pages[pages.length - 1]));
   }
 }

@@ -65,19 +65,13 @@ export class Keeping {
   /** Shows how much of the book is saved. */
   #show() {
     const { say, offline, button } = this;
-    const { state, busy, unable } = offline;
-    const kept = state?.left === 0;
-    const keeping = !kept && busy && state?.whole === true;
+    const { state } = offline;
+    const { does, text: word } = shownOf(offline);
+    const [kept, keeping] = [does === 'kept', does === 'keeping'];
     const percent = Math.floor((state?.share ?? 0) * 100);
-    const size = sizeOf(state?.bytes ?? 0);
-    const name = (kept && say('kept')) || (keeping ? say('keeping', percent) : say('keep'));
     button.replaceChildren(icon(kept ? 'kept' : 'keep'));
-    button.setAttribute('aria-label', name);
-    let text = say('keepWait');
-    if (unable) text = say('keepNever');
-    else if (kept) text = say('keptText', size);
-    else if (keeping) text = name;
-    else if (state) text = say(state.whole && state.failed ? 'keepFailed' : 'keepText', size);
+    button.setAttribute('aria-label', say(does, percent));
+    const text = say(word, word === 'keeping' ? percent : sizeOf(state?.bytes ?? 0));
     if (this.text.textContent !== text) this.text.textContent = text;
     this.bar.hidden = !keeping;
     this.bar.value = state?.share ?? 0;
@@ -117,6 +111,21 @@ export class Keeping {
       if (misses) toast.show(say('notKept'), say('close'), () => {});
     });
   }
+}
+
+/**
+ * What the button and the panel say about keeping the book.
+ * @param {Pick<import('./offline.js').Offline, 'state' | 'busy' | 'unable'>} offline
+ * @returns {{does: 'keep' | 'keeping' | 'kept', text: import('../src/player.js').AnyWord}}
+ */
+export function shownOf({ state, busy, unable }) {
+  const wanted = busy && state?.whole ? 'keeping' : 'keep';
+  const does = state?.left === 0 ? 'kept' : wanted;
+  if (unable) return { does, text: 'keepNever' };
+  if (!state) return { does, text: 'keepWait' };
+  if (does === 'kept') return { does, text: 'keptText' };
+  if (does === 'keeping') return { does, text: 'keeping' };
+  return { does, text: state.whole && state.failed ? 'keepFailed' : 'keepText' };
 }
 
 /** @param {number} bytes */

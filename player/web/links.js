@@ -2,10 +2,10 @@ import { mayFollow } from '../src/book/addresses.js';
 import { make } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
 import { Layers } from './layers.js';
+import { distance } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */
 /** @typedef {import('./pagetext.js').PageLink} PageLink */
-/** @typedef {import('./pagetext.js').PageText} PageText */
 
 /** How far beside a link a finger may come down, in CSS pixels. */
 const FINGER = 12;
@@ -51,7 +51,7 @@ export class Links {
     if (!text || text.links.length === 0) return;
     const layer = make('div', 'link-layer');
     for (const link of text.links) {
-      const element = this.#element(link, nameIn(text, link));
+      const element = this.#element(link, text.wordsIn(link.box).slice(0, LONGEST_NAME));
       Layers.put(element, text, link.box);
       layer.append(element);
     }
@@ -121,8 +121,7 @@ export class Links {
     /** @type {NodeListOf<HTMLElement>} */
     const links = this.book.element.querySelectorAll('.over:not([hidden]) .page-link');
     for (const link of links) {
-      const box = link.getBoundingClientRect();
-      const away = Math.hypot(Math.max(box.left - x, 0, x - box.right), Math.max(box.top - y, 0, y - box.bottom));
+      const away = distance(link.getBoundingClientRect(), x, y);
       if (away <= reach && (!nearest || away < nearest.away)) nearest = { link, away };
     }
     return nearest?.link ?? null;
@@ -140,24 +139,4 @@ function isOn({ target }, selector) {
 /** @param {string} address */
 function shortened(address) {
   return address.length > LONGEST_TIP ? address.slice(0, LONGEST_TIP) + '\u2026' : address;
-}
-
-/**
- * The words that a link is drawn around.
- * @param {PageText} text
- * @param {PageLink} link
- */
-function nameIn(text, { box }) {
-  const words = [];
-  for (const line of text.lines) {
-    const { y, height, x, width } = line.box;
-    if (y > box.y + box.height || y + height < box.y || x > box.x + box.width || x + width < box.x) continue;
-    for (const { text: word, start, length } of line.words) {
-      const sideways = line.turn === 90 || line.turn === 270;
-      const [middleX, middleY] = sideways ? [x + width / 2, y + start + length / 2] : [x + start + length / 2, y + height / 2];
-      const inside = middleX > box.x && middleX < box.x + box.width && middleY > box.y && middleY < box.y + box.height;
-      if (inside) words.push(word.trim());
-    }
-  }
-  return words.join(' ').slice(0, LONGEST_NAME);
 }

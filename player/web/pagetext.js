@@ -57,6 +57,29 @@ export class PageText {
     }
     return boxes;
   }
+
+  /**
+   * The words whose middles lie in a box, with blanks between them.
+   * @param {Box} box
+   */
+  wordsIn(box) {
+    return this.lines.filter((line) => meet(line.box, box)).flatMap((line) => line.words.filter((word) =>
+      distance(box, ...middleOf(boxIn(line, word, 0, 1))) === 0)).map(({ text }) => text.trim()).join(' ');
+  }
+}
+
+/**
+ * @param {Box} one
+ * @param {Box} other
+ */
+function meet(one, other) {
+  return one.x <= other.x + other.width && other.x <= one.x + one.width
+    && one.y <= other.y + other.height && other.y <= one.y + one.height;
+}
+
+/** @param {Box} box */
+function middleOf({ x, y, width, height }) {
+  return /** @type {const} */ ([x + width / 2, y + height / 2]);
 }
 
 /** @param {any[]} raw */

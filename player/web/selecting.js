@@ -1,5 +1,6 @@
 import { part } from '../src/book/dom.js';
-import { boxIn, distance, isUpright, runsBack } from './pagetext.js';
+import { caretIn, wordAround } from './carets.js';
+import { distance } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */
 /** @typedef {import('./layers.js').Layers} Layers */
@@ -15,9 +16,6 @@ const LONG_PRESS_MS = 700;
 /** Distance at which a mouse and a finger still hit words, in CSS pixels: it bridges the gaps between lines. */
 const MOUSE_REACH = 4;
 const FINGER_REACH = 12;
-
-/** What a way along a line counts beside one from line to line: readers stop behind a line's end. */
-const BESIDE = 0.4;
 
 /**
  * Selects text with the mouse, a word by a double click and a line by a triple click, and by a long press where the
@@ -186,7 +184,7 @@ export class Selecting {
       const away = distance(face.box.getBoundingClientRect(), clientX, clientY);
       if (!nearest || away < nearest.away) nearest = { face, away };
     }
-    return nearest && caretIn(nearest.face, clientX, clientY);
+    return nearest && caretAt(nearest.face, clientX, clientY);
   }
 
   /** @param {ClipboardEvent} event */
@@ -214,20 +212,6 @@ function onStage(target) {
 }
 
 /**
- * From where to where the word runs that a place in a text lies in.
- * @param {string} text
- * @param {number} offset
- * @returns {[number, number]}
- */
-function wordAround(text, offset) {
-  // The word that a browser would mark: without signs beside it, and of scripts without spaces not the whole line.
-  const parts = 'Segmenter' in Intl ? [...new Intl.Segmenter(undefined, { granularity: 'word' }).segment(text)] : [];
-  const word = parts.find(({ isWordLike, index, segment }) =>
-    isWordLike && index <= offset && offset <= index + segment.length);
-  return word ? [word.index, word.index + word.segment.length] : [0, text.trimEnd().length];
-}
-
-/**
  * A place of the window in a page's own units, and how many CSS pixels one of these takes.
  * @param {Face} face whose text is there
  * @param {number} clientX
@@ -245,23 +229,12 @@ function placeIn({ box, text }, clientX, clientY) {
  * @param {number} clientY
  * @returns {Caret | null}
  */
-function caretIn(face, clientX, clientY) {
-  const { box, text } = face;
-  const layer = box.querySelector('.text-layer');
-  if (!text || !layer) return null;
+function caretAt(face, clientX, clientY) {
   const { x, y } = placeIn(face, clientX, clientY);
-  const near = text.lines.map((line, index) => {
-    const weights = /** @type {[number, number]} */ (isUpright(line) ? [1, BESIDE] : [BESIDE, 1]);
-    return { line, index, away: distance(line.box, x, y, weights) };
-  }).reduce((a, b) => (b.away < a.away ? b : a));
-  const { line } = near;
-  const words = line.words.map((word, index) => ({ word, index, away: distance(boxIn(line, word, 0, 1), x, y) }));
-  const { word, index } = words.reduce((a, b) => (b.away < a.away ? b : a));
-  const along = isUpright(line) ? y - line.box.y : x - line.box.x;
-  const share = Math.min(1, Math.max(0, (along - word.start) / word.length));
-  const offset = Math.round((runsBack(line, word) ? 1 - share : share) * word.text.trimEnd().length);
-  const node = layer.children[near.index].children[index].firstChild;
-  return node && { node, offset };
+  const caret = face.text && caretIn(face.text, x, y);
+  const layer = face.box.querySelector('.text-layer');
+  const node = caret && layer?.children[caret.line].children[caret.word].firstChild;
+  return node ? { node, offset: caret.offset } : null;
 }
 
 /**

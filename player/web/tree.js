@@ -1,16 +1,9 @@
 import { make } from '../src/book/dom.js';
+import { above, flat, itemOf, nextTyped, seenFor } from './branches.js';
 import { icon } from './icons.js';
 
 /** @typedef {import('./facts.js').Entry} Entry */
-/**
- * @typedef {object} Item
- * @property {Entry} entry
- * @property {Item | null} parent
- * @property {Item[]} children
- * @property {number} level from 1
- * @property {boolean} open
- * @property {HTMLElement | null} element none until its branch has been opened
- */
+/** @typedef {import('./branches.js').Item} Item */
 
 /** Time within which typed letters belong together, in milliseconds. */
 const TYPING_MS = 700;
@@ -36,7 +29,7 @@ export class Tree {
     this.typedAt = 0;
     /** Number of branches created, for their ids. */
     this.made = 0;
-    this.items = entries.map((entry) => itemOf(entry, null));
+    this.items = entries.map((entry) => itemOf(entry));
     /** @type {Item} */
     this.active = this.items[0];
     /** @type {Item | null} */
@@ -68,9 +61,8 @@ export class Tree {
     }
     this.element.querySelector('[aria-current]')?.removeAttribute('aria-current');
     this.current = item;
-    let seen = item;
-    for (let above = item?.parent; above; above = above.parent) if (!above.open) seen = above;
-    if (!seen) return;
+    if (!item) return;
+    const seen = seenFor(item);
     seen.element?.classList.add(seen === item ? 'current' : 'within');
     if (seen === item) seen.element?.setAttribute('aria-current', 'page');
   }
@@ -80,9 +72,7 @@ export class Tree {
    * @param {Item | null} item
    */
   reveal(item) {
-    const above = [];
-    for (let one = item?.parent; one; one = one.parent) above.unshift(one);
-    for (const one of above) this.#set(one, true);
+    for (const one of above(item).reverse()) this.#set(one, true);
     if (item) this.#activate(item, false);
   }
 
@@ -141,7 +131,7 @@ export class Tree {
     item.element?.setAttribute('aria-expanded', String(open));
     const group = /** @type {HTMLElement | null} */ (item.element?.nextElementSibling) ?? this.#makeGroup(item);
     group.hidden = !open;
-    if (!open && isBelow(this.active, item)) this.#activate(item, this.element.contains(document.activeElement));
+    if (!open && above(this.active).includes(item)) this.#activate(item, this.element.contains(document.activeElement));
     this.mark(this.current);
   }
 
@@ -215,39 +205,7 @@ export class Tree {
     const again = this.typed !== '' && event.timeStamp - this.typedAt < TYPING_MS;
     this.typed = (again ? this.typed : '') + event.key.toLowerCase();
     this.typedAt = event.timeStamp;
-    const from = at + (this.typed.length === 1 ? 1 : 0);
-    const ordered = [...visible.slice(from), ...visible.slice(0, from)];
-    const found = ordered.find(({ entry }) => entry.title.toLowerCase().startsWith(this.typed));
+    const found = nextTyped(visible, at, this.typed);
     if (found) this.#activate(found);
   }
-}
-
-/**
- * @param {Entry} entry
- * @param {Item | null} parent
- * @returns {Item}
- */
-function itemOf(entry, parent) {
-  /** @type {Item} */
-  const item = { entry, parent, children: [], level: (parent?.level ?? 0) + 1, open: false, element: null };
-  item.children = entry.children.map((child) => itemOf(child, item));
-  return item;
-}
-
-/**
- * @param {Item[]} items
- * @param {(item: Item) => boolean} into whether an item's children are wanted too
- * @returns {Item[]}
- */
-function flat(items, into) {
-  return items.flatMap((item) => [item, ...(into(item) ? flat(item.children, into) : [])]);
-}
-
-/**
- * @param {Item | null} item
- * @param {Item} above
- */
-function isBelow(item, above) {
-  for (let one = item?.parent; one; one = one.parent) if (one === above) return true;
-  return false;
 }
