@@ -40,7 +40,8 @@ const known = [];
  */
 function foldCharacter(code) {
   const character = String.fromCodePoint(code);
-  const plain = character.toLowerCase().normalize('NFKD').replace(/[\p{M}\p{Cf}\s]/gu, '');
+  // Compatibility forms of capitals have no lower case of their own.
+  const plain = character.normalize('NFKD').toLowerCase().replace(/[\p{M}\p{Cf}\s]/gu, '');
   const piece = [...plain].map((one) => SAME.get(one) ?? one).join('');
   const folded = { piece, kind: kindOf(character, piece) };
   known[code] = folded;

@@ -1,0 +1,83 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { fold, sourceOf } from '../../web/foldtext.js';
+import { Query } from '../../web/query.js';
+import { SearchText } from '../../web/searchtext.js';
+
+globalThis.window = globalThis;
+
+const FOLDED = [
+  ['Die Straße', 'die strasse'], ['Cafe\u0301 de Paris', 'cafe de paris'], ['un Œuvre', 'un oeuvre'], ['Smørrebrød', 'smorrebrod'],
+  ['Łódź', 'lodz'], ['the o\ufb03ce', 'the office'], ['it\u2019s \u201etrue\u201c', 'it\'s "true"'], ['1990\u20131995', '1990-1995'],
+  ['ὁ σοφός', 'ο σοφοσ'], ['\u0130stanbul ıstan', 'istanbul istan'], ['אָבְּג', 'אבג'], ['أحْمَد', 'احمد'], ['مكــتبة', 'مكتبه'], ['علی على', 'علي علي'],
+  ['a  b \u00a0 c', 'a b c'], [' \n a', 'a'], ['a\nb', 'a b'], ['a well-known one', 'a wellknown one'], ['har-\nbour', 'harbour'],
+  ['co\u00adoperate', 'cooperate'], ['a\u00ad b', 'a b'], ['pre- and', 'pre- and'], ['a--b', 'a--b'], ['- 5', '- 5'], ['x-5', 'x-5'], ['ab-', 'ab'],
+  ['東京都\n港区', '東京都港区'], ['東京 都', '東京 都'], ['東京\nabc', '東京 abc'], ['\u{1d538}b\u{1f600}', 'ab\u{1f600}'],
+];
+test('texts are folded alike, whatever their case, marks, forms and line ends', () => {
+  for (const [text, folded] of FOLDED) assert.equal(fold(text).text, folded, text);
+  const long = 'wörd '.repeat(5000);
+  assert.equal(fold(long).text, 'word '.repeat(5000).trim(), 'longer than the room at first');
+  assert.ok(fold(long, false, 10).text.length < 20, 'the rest does not matter');
+});
+
+test('a place in a folded text leads to its source, with the marks behind it', () => {
+  const sources = [['The Stra\u00dfe', 'ss', '\u00df'], ['Cafe\u0301!', 'e', 'e\u0301'], ['the har-\nbour!', 'harbour', 'har-\nbour'],
+    ['\u{1d538}b', 'b', 'b'], ['a \n b', ' ', ' \n '], ['x-5', '-5', '-5']];
+  for (const [source, part, wanted] of sources) {
+    const folded = fold(source, true);
+    const [from, to] = sourceOf(source, folded, folded.text.indexOf(part, part === 'e' ? 3 : 0), part.length);
+    assert.equal(source.slice(from, to), wanted);
+  }
+});
+
+test('a query is looked for as it stands, word by word when widened, and in quotation marks never so', () => {
+  const places = (query, text) => query.hitsIn(text).map(({ at, length }) => [at, length]);
+  const query = new Query('  Old Town Old  ');
+  assert.deepEqual([query.parts, query.words], [['old town old'], ['town', 'old']]);
+  assert.deepEqual(places(query, 'the old town'), []);
+  query.widen();
+  assert.deepEqual([query.parts, query.words], [['town', 'old'], []]);
+  assert.deepEqual(places(query, 'old old town'), [[0, 3], [4, 3], [8, 4]], 'in the order of the text');
+  assert.deepEqual(places(query, 'old only'), [], 'all of the words or none');
+  const nested = new Query('ab abc');
+  nested.widen();
+  assert.deepEqual(places(nested, 'abc ab'), [[0, 3], [4, 2]], 'not over one another');
+  assert.deepEqual(places(new Query('aa'), 'aaaa'), [[0, 2], [2, 2]]);
+  for (const quoted of ['"old town"', '\u201cold town', '\u201eOld  town\u201c']) {
+    assert.deepEqual([new Query(quoted).parts, new Query(quoted).words], [['old town'], []]);
+  }
+  assert.deepEqual(['', '  ', '""', 'word'].map((text) => new Query(text).empty), [true, true, true, false]);
+});
+
+async function textOf(...texts) {
+  const text = new SearchText(texts);
+  await text.ready;
+  return text;
+}
+
+test('hits are found on all pages, up to a number that nobody reads', async () => {
+  const text = await textOf('A harbour', 7, 'walls of the old', 'harbour, har-\nbour');
+  const { hits, more } = text.find('Harbour');
+  assert.deepEqual(hits.map(({ position, ordinal }) => [position, ordinal]), [[1, 0], [4, 0], [4, 1]]);
+  assert.equal(more, false);
+  assert.deepEqual(text.find('old walls').hits.map(({ position }) => position), [3, 3], 'no such phrase: both words');
+  for (const typed of ['"old walls"', 'old harbour', ' ']) assert.deepEqual(text.find(typed).hits, [], typed);
+  const many = (await textOf('e '.repeat(4999), 'e e')).find('e');
+  assert.deepEqual([many.hits.length, many.more], [5000, true]);
+});
+
+test('a hit is shown with whole words around it', async () => {
+  const excerpts = [
+    ['one needle', ['one ', 'needle', '']], ['needle.', ['', 'needle', '.']],
+    [`a ${'word '.repeat(9)}needle ${'after, '.repeat(9)}`, [`\u2026${'word '.repeat(5)}`, 'needle', ` ${'after, '.repeat(8).trim().slice(0, -1)}\u2026`]],
+    ['前\n後needle\nx', ['前後', 'needle', ' x']],
+    [`\u{20000}${'\u{1f600}'.repeat(40)}needle${'\u{1f600}'.repeat(40)}`,
+      [`\u2026${'\u{1f600}'.repeat(15)}`, 'needle', `${'\u{1f600}'.repeat(30)}\u2026`]],
+    [`x${'\u{1f600}'.repeat(40)}yneedle`, [`\u2026${'\u{1f600}'.repeat(14)}y`, 'needle', '']],
+  ];
+  for (const [source, wanted] of excerpts) {
+    const text = await textOf('', source);
+    assert.deepEqual(text.excerpt(text.find('needle').hits[0]), wanted);
+  }
+});
