@@ -37,7 +37,7 @@ function picture(aspect, text) {
   const height = 1000;
   const width = Math.round(height * aspect);
   const unit = Math.min(width, height) / 1000;
-  const lines = wrapped(text, 24);
+  const lines = text ? wrapped(text, 24) : [];
   const size = 40 * unit;
   const middle = height / 2 - (lines.length * size) / 2;
   const sign = text ? 2.3 * unit : 6 * unit;
