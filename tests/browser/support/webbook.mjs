@@ -91,3 +91,10 @@ async function inlined(html, files, parts, data) {
     .replace('</head>', () => `<style>${parts['web.css']}</style>\n<script>${parts['web.js']}</script>\n</head>`)
     .replace('</body>', () => `${[...json, ...pictures].join('\n')}\n</body>`);
 }
+
+/** Text that a copy in a page of either browser puts on the clipboard. */
+export const copied = (page) => page.evaluate(() => {
+  const data = new DataTransfer();
+  document.dispatchEvent(new ClipboardEvent('copy', { clipboardData: data, cancelable: true, bubbles: true }));
+  return data.getData('text/plain') || String(getSelection());
+});
