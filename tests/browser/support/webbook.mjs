@@ -1,7 +1,5 @@
-import { mkdir, readFile, readdir, rm, writeFile } from 'node:fs/promises';
+import { copyFile, mkdir, readFile, writeFile } from 'node:fs/promises';
 import path from 'node:path';
-
-const TYPES = { '.jpg': 'image/jpeg', '.png': 'image/png', '.webp': 'image/webp', '.svg': 'image/svg+xml', '.mp3': 'audio/mpeg' };
 
 /**
  * One line of a page, in tenths of a point. words: [text, start, length] each; turn in degrees.
@@ -31,65 +29,40 @@ function stringOf({ lines = [] } = {}) {
 const script = (name, value) => `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});\n`;
 
 /** The data files of a web book by their names; JSON of each. */
-function dataOf({ pages, numbers = null, labels = null, outline = [], large = [], open = null, language = '', textPage = '' }) {
+function dataOf({ pages, labels = null, outline = [], large = [], open = null, language = '', textPage = '' }) {
   const isOpen = (position) => !open || open.some(([from, to]) => position >= from && position <= to);
   const shown = pages.map((page, index) => (isOpen(index + 1) ? page : undefined));
   const files = {
     'web/book': {
-      version: 1, numbers, labels, outline, open, language, textPage,
+      version: 1, numbers: null, labels, outline, open, language, textPage,
       large: pages.map((_, index) => large[index]?.kind ?? ''), text: shown.some((page) => page?.lines?.length > 0),
     },
     'search/text': shown.map(stringOf),
   };
-  shown.forEach((page, index) => { if (page) files[`text/${numbers?.[index] ?? index + 1}`] = page; });
+  shown.forEach((page, index) => { if (page) files[`text/${index + 1}`] = page; });
   return files;
 }
 
 /**
  * Makes a published classic book one of the web kind.
- * description: pages: { size, lines, links } by position; numbers, labels, outline, open, language and
- * textPage as in the book's facts; large: { kind, bytes } by position; single: all in one file;
- * web: folder with the built web.js and web.css.
+ * description: pages: { size, lines, links } by position; labels, outline, open, language and
+ * textPage as in the book's facts; large: { kind, bytes } by position; web: folder with the built web.js and web.css.
  */
 export async function makeWebBook(folder, description) {
-  const { web, large = [], single = false, numbers } = description;
+  const { web, large = [] } = description;
   const data = dataOf(description);
-  const parts = Object.fromEntries(await Promise.all(['web.js', 'web.css'].map(async (name) => [name, await readFile(path.join(web, name), 'utf8')])));
   const files = path.join(folder, 'files');
   await Promise.all(['web', 'text', 'search', 'large'].map((name) => mkdir(path.join(files, name), { recursive: true })));
   for (const [index, picture] of large.entries()) {
-    if (picture) await writeFile(path.join(files, 'large', `${numbers?.[index] ?? index + 1}.${picture.kind}`), picture.bytes);
+    if (picture) await writeFile(path.join(files, 'large', `${index + 1}.${picture.kind}`), picture.bytes);
   }
   const page = path.join(folder, 'index.html');
   const html = await readFile(page, 'utf8');
-  if (single) {
-    await writeFile(page, await inlined(html, files, parts, data));
-    await rm(files, { recursive: true });
-    return folder;
-  }
   for (const [name, value] of Object.entries(data)) await writeFile(path.join(files, `${name}.js`), script(name, value));
-  for (const [name, text] of Object.entries(parts)) await writeFile(path.join(files, name), text);
+  for (const name of ['web.js', 'web.css']) await copyFile(path.join(web, name), path.join(files, name));
   const tags = '<link rel="stylesheet" href="files/web.css">\n<script src="files/web.js"></script>\n';
   await writeFile(page, html.replace('</head>', () => `${tags}</head>`));
   return folder;
-}
-
-/** The page with everything that the book consists of. */
-async function inlined(html, files, parts, data) {
-  const { groups } = /"(?<base64>[^"]*)"/.exec(await readFile(path.join(files, 'UserConfig.js'), 'utf8'));
-  const json = Object.entries(data).map(([name, value]) =>
-    `<script type="application/json" data-file="${name}">${JSON.stringify(value).replaceAll('<', '\\u003c')}</script>`);
-  const pictures = [];
-  for (const entry of await readdir(files, { recursive: true })) {
-    const type = TYPES[path.extname(entry)];
-    if (!type) continue;
-    const bytes = await readFile(path.join(files, entry));
-    pictures.push(`<script type="text/plain" data-file="${entry}" data-type="${type}">${bytes.toString('base64')}</script>`);
-  }
-  return html
-    .replace('<head>', () => `<head>\n<script>window.FolveroUserConfig = "${groups.base64}";</script>`)
-    .replace('</head>', () => `<style>${parts['web.css']}</style>\n<script>${parts['web.js']}</script>\n</head>`)
-    .replace('</body>', () => `${[...json, ...pictures].join('\n')}\n</body>`);
 }
 
 /** Text that a copy in a page of either browser puts on the clipboard. */
