@@ -9,30 +9,31 @@ import { promisify } from 'node:util';
 import { writeConfiguration } from './support/book.mjs';
 import { DESK, PHONE, findFirefox, launchFirefox, openBook } from './support/firefox.mjs';
 import { serve } from './support/server.mjs';
+import { copied } from './support/webbook.mjs';
 
-const run = promisify(execFile);
+// What Firefox does otherwise: reading from disk, decoding, drawing leaves, dialogs, selections.
 const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
 const firefox = findFirefox();
 const missing = [[firefox, 'Firefox is not installed'], [FOLVERO_BIN, 'FOLVERO_BIN is not set'],
   [FOLVERO_SAMPLES_DIR, 'FOLVERO_SAMPLES_DIR is not set']].find(([there]) => !there);
 const ready = { skip: missing ? missing[1] : false };
+const templates = missing ? [] : JSON.parse(execFileSync(FOLVERO_BIN, ['templates', '--json'])).map(({ name }) => name);
 
 let browser;
 let folder;
 let server;
 
-const templates = missing ? [] : JSON.parse(execFileSync(FOLVERO_BIN, ['templates', '--json'])).map(({ name }) => name);
-
 async function publish(name, ...options) {
   const target = path.join(folder, name);
-  await run(FOLVERO_BIN, ['publish', '--quiet', ...options, path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf'), target]);
-  return target;
+  const sample = path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf');
+  await promisify(execFile)(FOLVERO_BIN, ['publish', '--quiet', '--pages', '1-8', '--set', 'pageMoveTime=0.2', ...options, sample, target]);
+  return pathToFileURL(path.join(target, 'index.html')).href;
 }
 
 before(async () => {
   if (missing) return;
   folder = await mkdtemp(path.join(tmpdir(), 'folvero-firefox-'));
-  server = await serve(await publish('book'));
+  server = await serve(folder);
   browser = await launchFirefox(firefox);
 });
 after(async () => {
@@ -41,65 +42,81 @@ after(async () => {
   if (folder) await rm(folder, { recursive: true });
 });
 
-const places = ['from disk', 'over http'];
-const addressOf = (target, own, place) => (place === 'over http' ? own.address : pathToFileURL(path.join(target, 'index.html')).href);
-const screens = [['a desk', DESK, [[2, 3], [4, 5]]], ['a phone', PHONE, [[2], [3]]]];
-for (const [index, place] of places.entries()) {
-  const [name, viewport, [second, third]] = screens[index];
-  test(`Firefox opens a published book ${place} on ${name}, and turns it`, ready, async () => {
-    const book = await openBook(browser, addressOf(path.join(folder, 'book'), server, place), viewport);
-    await book.waitForPages(1);
-    assert.deepEqual(await book.picture(), { file: '1.jpg', seen: true });
-    await book.page.keyboard.press('ArrowRight');
-    await book.waitForPages(...second);
-    assert.deepEqual(await book.picture(), { file: '2.jpg', seen: true });
+const overHttp = (address) => address.replace(pathToFileURL(folder).href, server.address.slice(0, -1));
+
+test('Firefox shows and turns a book in each template, from disk and over http', ready, async () => {
+  for (const [index, template] of templates.entries()) {
+    const address = await publish(template, '--template', template);
+    const book = await openBook(browser, index % 2 ? overHttp(address) : address, DESK);
+    const spread = await book.page.evaluate(() => window.folvero.spread);
+    for (const [key, pages] of [['ArrowRight', [2, 3]], ['End', [8]], ['ArrowLeft', spread ? [6, 7] : [7]]]) {
+      await book.page.keyboard.press(key);
+      await book.waitForPages(...(spread ? pages : pages.slice(0, 1)));
+      assert.deepEqual(await book.picture(), { file: `${pages[0]}.jpg`, seen: true }, template);
+    }
+    await book.page.keyboard.press('t');
+    assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.getBoundingClientRect().height > 60), true, template);
+    assert.deepEqual(book.errors, [], template);
+    await book.close();
+  }
+});
+
+const kinds = { 'over http': [[], overHttp], 'from disk': [[], (address) => address], 'as a single file': [['--single-file'], (address) => address] };
+for (const [name, [options, addressOf]] of Object.entries(kinds)) {
+  test(`Firefox reads a web book ${name}: drags, contents, links, search, words and finer pictures`, ready, async () => {
+    const book = await openBook(browser, addressOf(await publish(`web${options}`, '--type', 'web', ...options)), DESK);
+    const { page } = book;
+    const press = async (...keys) => { for (const key of keys) await page.keyboard.press(key); };
+    const middle = async (selector) => {
+      const { x, y, width, height } = await (await page.waitForSelector(selector)).boundingBox();
+      return [x + width / 2, y + height / 2];
+    };
+    await press('ArrowRight');
+    await book.waitForPages(2, 3);
     const { x, y, width, height } = await book.box('right');
-    await book.drag([x + width - 20, y + height / 2], [x - width * (second.length > 1 ? 0.9 : 0) + 10, y + height / 2 - 20]);
-    await book.waitForPages(...third);
+    await book.drag([x + width - 20, y + height / 2], [x - width * 0.9, y + height / 2 - 20]);
+    await book.waitForPages(4, 5);
+    await press('c', 'Home', 'ArrowDown', 'Enter');
+    await book.waitForPages(2, 3);
+    await page.mouse.click(...await middle('.over.right .page-link'));
+    await page.waitForFunction(() => !window.folvero.turning && window.folvero.page > 3);
+    await press('/', ...'THE HAND LIFTS the corner');
+    await page.waitForSelector('.result');
+    await press('Enter');
+    await book.waitForPages(4, 5);
+    await page.waitForSelector('.hit.current');
+    await press('Escape');
+    const [from, to] = await page.$$eval('.over.left .line', (lines) => {
+      const line = lines.find((one) => /The hand lifts the corner/.test(one.textContent)).getBoundingClientRect();
+      return [[line.left + 1, line.top + line.height / 2], [line.right - 1, line.top + line.height / 2]];
+    });
+    await book.drag(from, to);
+    assert.match(await copied(page), /The hand lifts the corner, /);
+    await book.waitForPages(4, 5);
+    await page.mouse.click(640, 20);
+    await press('+', '+', '+', '+');
+    await page.waitForSelector('.page.left img.large');
     assert.deepEqual(book.errors, []);
     await book.close();
   });
 }
 
-// Each template on both screens and from both places, which go together by turns.
-for (const [templateIndex, template] of templates.entries()) {
-  test(`Firefox shows all of a book in ${template}, on a desk and on a phone`, ready, async () => {
-    const target = await publish(`in-${template}`, '--template', template, '--pages', '1-7', '--set', 'pageMoveTime=0.2');
-    const own = await serve(target);
-    for (const [index, [name, viewport]] of screens.entries()) {
-      const book = await openBook(browser, addressOf(target, own, places[(index + templateIndex) % 2]), viewport);
-      const spread = await book.page.evaluate(() => window.folvero.spread);
-      assert.equal(spread, name === 'a desk' && template !== 'deck');
-      for (const [key, pages] of [['ArrowRight', spread ? [2, 3] : [2]], ['ArrowLeft', [1]], ['End', spread ? [6, 7] : [7]]]) {
-        await book.page.keyboard.press(key);
-        await book.waitForPages(...pages);
-        assert.deepEqual(await book.picture(), { file: `${pages[0]}.jpg`, seen: true });
-      }
-      await book.page.keyboard.press('t');
-      assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.getBoundingClientRect().height > 60), true);
-      assert.deepEqual(book.errors, []);
-      await book.close();
-    }
-    assert.deepEqual(own.requests.filter(({ status }) => status !== 200), []);
-    await own.close();
-  });
-}
-
-test('keys typed in a panel do not reach the book in Firefox', ready, async () => {
-  const book = await openBook(browser, server.address, DESK);
-  await book.page.keyboard.press('?');
-  await book.page.click('.help-panel h2');
-  await book.page.keyboard.press('ArrowRight');
-  await book.page.keyboard.press('t');
+test('Firefox gives a panel the whole window of a phone and keeps what is typed in it', ready, async () => {
+  const book = await openBook(browser, overHttp(await publish('phone', '--type', 'web')), PHONE);
+  await book.page.keyboard.press('c');
+  const size = await book.page.$eval('.contents-side', (one) => [one.offsetWidth, one.offsetHeight]);
+  assert.deepEqual(size, [PHONE.width, PHONE.height]);
+  for (const key of ['PageDown', 't']) await book.page.keyboard.press(key);
   await book.waitForPages(1);
   assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.hidden), true);
+  await book.page.click('.contents-side .tree-row');
+  await book.page.waitForFunction(() => !document.querySelector('.contents-side').open);
   await book.close();
 });
 
-test('Firefox tells that a book is damaged', ready, async () => {
-  const damaged = await publish('damaged');
-  await writeConfiguration(damaged, Buffer.from('no configuration'));
-  const book = await openBook(browser, pathToFileURL(path.join(damaged, 'index.html')).href, DESK);
-  const words = await book.page.$eval('.message', (message) => message.innerText);
-  assert.match(words, /damaged/);
+test('Firefox says that a book is damaged', ready, async () => {
+  const address = await publish('damaged');
+  await writeConfiguration(path.join(folder, 'damaged'), Buffer.from('no configuration'));
+  const book = await openBook(browser, address, DESK);
+  assert.match(await book.page.$eval('.message', (message) => message.innerText), /damaged/);
 });
