@@ -204,7 +204,7 @@ class OpenBook {
 }
 
 /** Colour of a PNG file of one pixel. */
-function pixelOf(file) {
+export function pixelOf(file) {
   const parts = [];
   for (let at = 8; at < file.length;) {
     const length = file.readUInt32BE(at);

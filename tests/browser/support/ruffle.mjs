@@ -1,7 +1,7 @@
 import { copyFile, symlink, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
-import { TEMPLATE } from './reader.mjs';
+import { TEMPLATE, pixelOf } from './reader.mjs';
 import { serve } from './server.mjs';
 
 const EMULATOR = fileURLToPath(new URL('../node_modules/@ruffle-rs/ruffle', import.meta.url));
@@ -106,55 +106,30 @@ class PlayedMovie {
     await this.waitFor(`(state) => !state.lifted && state.pages.includes(${number})`);
   }
 
+  /** Where the page on a side lies in the window. */
+  async box(side) {
+    return (await this.state())[side];
+  }
+
+  async middle(side) {
+    const { x, y, width, height } = await this.box(side);
+    return [x + width / 2, y + height / 2];
+  }
+
   /** Colour that is really on the screen at a place. */
   async colourAt(x, y) {
-    const [colour] = await this.#pixels({ x: Math.round(x), y: Math.round(y), width: 1, height: 1 }, 1, 1);
-    return colour;
+    const clip = { x: Math.round(x), y: Math.round(y), width: 1, height: 1 };
+    return pixelOf(await this.page.screenshot({ clip }));
   }
 
   /** Waits until a place on the screen has a colour; emulators load pictures after their turn. */
-  async waitForColour(x, y, wanted, within = 6) {
+  async waitForColour([x, y], wanted, within = 6) {
     const until = Date.now() + WAIT_MS;
-    let found;
-    do {
-      found = await this.colourAt(x, y);
+    for (;;) {
+      const found = await this.colourAt(x, y);
       if (found.every((part, index) => Math.abs(part - wanted[index]) <= within)) return;
+      if (Date.now() > until) throw new Error(`${x},${y} is ${found} instead of ${wanted}`);
       await this.page.waitForTimeout(100);
-    } while (Date.now() < until);
-    throw new Error(`${x},${y} is ${found} instead of ${wanted}`);
-  }
-
-  /** How the middle of the page on a side differs from each of some pictures, 0 (not at all) to 255. */
-  async differencesFrom(side, pictures) {
-    const { x, y, width, height } = (await this.state())[side];
-    // The edges are left out: the binding darkens them.
-    const clip = { x: x + width * 0.2, y: y + height * 0.05, width: width * 0.6, height: height * 0.9 };
-    const shown = await this.#pixels(clip, 24, 36);
-    return Promise.all(pictures.map(async (picture) => {
-      const wanted = await this.#decode(picture, [0.2, 0.05, 0.6, 0.9], 24, 36);
-      const parts = shown.flatMap((colour, index) => colour.map((part, at) => Math.abs(part - wanted[index][at])));
-      return parts.reduce((sum, part) => sum + part, 0) / parts.length;
-    }));
-  }
-
-  async #pixels(clip, columns, rows) {
-    return this.#decode(await this.page.screenshot({ clip }), [0, 0, 1, 1], columns, rows);
-  }
-
-  /** Mean colours of a part of a picture, in columns by rows. */
-  #decode(bytes, part, columns, rows) {
-    return this.page.evaluate(async ([base64, [left, top, width, height], across, down]) => {
-      const picture = new Image();
-      picture.src = `data:;base64,${base64}`;
-      await picture.decode();
-      const canvas = document.createElement('canvas');
-      [canvas.width, canvas.height] = [across, down];
-      const context = canvas.getContext('2d');
-      context.imageSmoothingQuality = 'high';
-      const { naturalWidth: w, naturalHeight: h } = picture;
-      context.drawImage(picture, left * w, top * h, width * w, height * h, 0, 0, across, down);
-      const { data } = context.getImageData(0, 0, across, down);
-      return Array.from({ length: across * down }, (_, index) => [...data.slice(4 * index, 4 * index + 3)]);
-    }, [bytes.toString('base64'), part, columns, rows]);
+    }
   }
 }
