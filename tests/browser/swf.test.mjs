@@ -1,18 +1,15 @@
 import assert from 'node:assert/strict';
 import { execFile } from 'node:child_process';
-import { mkdtemp, readFile, rm, writeFile } from 'node:fs/promises';
+import { readFile, rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { after, before, test } from 'node:test';
-import { fileURLToPath } from 'node:url';
 import { promisify } from 'node:util';
 import { colourOf, plainPages } from './support/book.mjs';
 import { differencesOf } from './support/likeness.mjs';
-import { png } from './support/png.mjs';
-import { Reader } from './support/reader.mjs';
+import { Reader, TEMPLATE } from './support/reader.mjs';
 import { Emulator, TURN_SOUND } from './support/ruffle.mjs';
 
 // The movie is what readers get where they have no more than the Flash Player.
-const run = promisify(execFile);
 const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
 const published = { skip: FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set' };
 
@@ -80,30 +77,6 @@ test('a right-to-left book begins at the right, and a narrow window shows single
   await shows(narrow, 0, 2);
   const { right: { x, width } } = await narrow.state();
   assert.ok(x >= 0 && x + width <= 390);
-});
-
-test('pages of another shape are shown whole, and one without a picture leaves a note', async () => {
-  const pages = plainPages(5);
-  [, pages[1]] = plainPages(2, 160, 80);
-  const folder = await reader.book({ pages, values: { PageBackgroundColor: '0x336699' } });
-  await rm(path.join(folder, 'files/page/3.jpg'));
-  const book = await emulator.play(folder);
-  await book.goTo(2);
-  const { left, right } = await book.state();
-  await book.waitForColour(await book.middle('left'), colourOf(2));
-  for (const { x, y } of [left, right]) await book.waitForColour([x + 30, y + 30], [0x33, 0x66, 0x99]);
-  await book.goTo(4);
-});
-
-test('the outer ground has its picture and colour, the inner one begins at the margins', async () => {
-  const book = await open({
-    count: 1, extras: { 'extfiles/mainbgImgUrl.png': png(200, 200, () => [250, 10, 10]) },
-    values: { Top: '20', Left: '100', Right: '0', Bottom: '0', OuterBackgroundFile: 'extfiles/mainbgImgUrl.png', OuterBackgroundPosition: 'Fit',
-      OuterGradiantColorA: '0x0000ff', OuterGradiantColorB: '0x0000ff', InnerGradiantColorA: '0x408080', InnerGradiantColorB: '0x408080' },
-  });
-  for (const [place, colour] of [[[500, 5], [250, 10, 10]], [[50, 300], [0, 0, 255]]]) await book.waitForColour(place, colour);
-  const [, green] = await book.colourAt(130, 320);
-  assert.ok(green > 90);
 });
 
 /** Where the bar's buttons lie in a window of 1000 by 640 pixels. */
@@ -177,7 +150,7 @@ test('a configuration that is damaged or missing is reported', async () => {
 
 test('a published document opens in the movie', published, async () => {
   const folder = path.join(reader.folder, 'published');
-  await run(FOLVERO_BIN, ['publish', '--quiet', path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf'), folder]);
+  await promisify(execFile)(FOLVERO_BIN, ['publish', '--quiet', path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf'), folder]);
   const book = await emulator.play(folder);
   await book.page.keyboard.press('ArrowRight');
   await book.waitForPages(2, 3);
@@ -186,15 +159,9 @@ test('a published document opens in the movie', published, async () => {
   assert.deepEqual(book.complaints, []);
 });
 
-/** Template options: the movie is compiled with them and must still turn. */
-const options = { slide: [['turn=slide', 'pages=single', 'binding=no'], 0, 2], flip: [['turn=flip', 'pages=spread', 'binding=yes'], 2, 3] };
-for (const [name, [defines, ...pages]] of Object.entries(options)) {
-  test(`a movie compiled to ${name} turns to the right pages`, async () => {
-    const movie = path.join(await mkdtemp(path.join(reader.folder, 'movie-')), 'book.swf');
-    const source = fileURLToPath(new URL('../../player/swf', import.meta.url));
-    await run('haxe', ['--class-path', source, '--main', 'Main', '--swf', movie, '--swf-version', '11.5',
-      '--swf-header', '960:600:60:E4EAF0', ...defines.flatMap((define) => ['-D', define])]);
-    const book = await open({ movie });
+for (const [template, ...pages] of [['deck', 0, 2], ['gallery', 2, 3]]) {
+  test(`the movie of ${template}, which does not curl, turns to the right pages`, async () => {
+    const book = await open({ movie: path.join(TEMPLATE, '..', template, 'book.swf') });
     await book.page.keyboard.press('ArrowRight');
     await shows(book, ...pages);
   });
