@@ -20,16 +20,19 @@ test('a tree lists what is open, and folded branches stand for what is in them',
   assert.equal(titleOf(seenFor(named('Deep water'))), 'Deep water');
   named('River').open = false;
   assert.equal(titleOf(seenFor(named('Deep water'))), 'River');
-  assert.deepEqual(flat(items, ({ open }) => open).map(titleOf).slice(0, 5), ['Preface', 'First part', 'River', 'Harbour', 'Second part']);
+  assert.deepEqual(flat(items, ({ open }) => open).map(titleOf).slice(0, 5),
+    ['Preface', 'First part', 'River', 'Harbour', 'Second part']);
 });
 
 test('a page belongs to the last entry that begins before it', () => {
-  const places = [[0, undefined], [1, 'Preface'], [2, 'Appendix'], [4, 'River'], [6, 'Deep water'], [8, 'Harbour'], [20, 'Rest']];
+  const places = [[0, undefined], [1, 'Preface'], [2, 'Appendix'], [4, 'River'], [6, 'Deep water'], [8, 'Harbour'],
+    [20, 'Rest']];
   for (const [page, title] of places) assert.equal(titleOf(itemOfPage(all, page)), title, String(page));
 });
 
 test('letters lead to the next entry that begins with them', () => {
   const from = (title, typed) => titleOf(nextTyped(items, items.indexOf(named(title)), typed));
-  assert.deepEqual([from('Preface', 's'), from('Rest', 'p'), from('Preface', 'p'), from('Preface', 'pr'), from('First part', 'n'), from('Preface', 'x')],
+  assert.deepEqual([from('Preface', 's'), from('Rest', 'p'), from('Preface', 'p'), from('Preface', 'pr'),
+    from('First part', 'n'), from('Preface', 'x')],
     ['Second part', 'Preface', 'Preface', 'Preface', 'Nothing', undefined]);
 });

@@ -7,11 +7,13 @@ import { SearchText } from '../../web/searchtext.js';
 globalThis.window = globalThis;
 
 const FOLDED = [
-  ['Die Straße', 'die strasse'], ['Cafe\u0301 de Paris', 'cafe de paris'], ['un Œuvre', 'un oeuvre'], ['Smørrebrød', 'smorrebrod'],
-  ['Łódź', 'lodz'], ['the o\ufb03ce', 'the office'], ['it\u2019s \u201etrue\u201c', 'it\'s "true"'], ['1990\u20131995', '1990-1995'],
-  ['ὁ σοφός', 'ο σοφοσ'], ['\u0130stanbul ıstan', 'istanbul istan'], ['אָבְּג', 'אבג'], ['أحْمَد', 'احمد'], ['مكــتبة', 'مكتبه'], ['علی على', 'علي علي'],
-  ['a  b \u00a0 c', 'a b c'], [' \n a', 'a'], ['a\nb', 'a b'], ['a well-known one', 'a wellknown one'], ['har-\nbour', 'harbour'],
-  ['co\u00adoperate', 'cooperate'], ['a\u00ad b', 'a b'], ['pre- and', 'pre- and'], ['a--b', 'a--b'], ['- 5', '- 5'], ['x-5', 'x-5'], ['ab-', 'ab'],
+  ['Die Straße', 'die strasse'], ['Cafe\u0301 de Paris', 'cafe de paris'], ['un Œuvre', 'un oeuvre'],
+  ['Smørrebrød', 'smorrebrod'], ['Łódź', 'lodz'], ['the o\ufb03ce', 'the office'],
+  ['it\u2019s \u201etrue\u201c', 'it\'s "true"'], ['1990\u20131995', '1990-1995'], ['ὁ σοφός', 'ο σοφοσ'],
+  ['\u0130stanbul ıstan', 'istanbul istan'], ['אָבְּג', 'אבג'], ['أحْمَد', 'احمد'], ['مكــتبة', 'مكتبه'],
+  ['علی على', 'علي علي'], ['a  b \u00a0 c', 'a b c'], [' \n a', 'a'], ['a\nb', 'a b'],
+  ['a well-known one', 'a wellknown one'], ['har-\nbour', 'harbour'], ['co\u00adoperate', 'cooperate'],
+  ['a\u00ad b', 'a b'], ['pre- and', 'pre- and'], ['a--b', 'a--b'], ['- 5', '- 5'], ['x-5', 'x-5'], ['ab-', 'ab'],
   ['東京都\n港区', '東京都港区'], ['東京 都', '東京 都'], ['東京\nabc', '東京 abc'], ['\u{1d538}b\u{1f600}', 'ab\u{1f600}'],
 ];
 test('texts are folded alike, whatever their case, marks, forms and line ends', () => {
@@ -22,7 +24,8 @@ test('texts are folded alike, whatever their case, marks, forms and line ends', 
 });
 
 test('a place in a folded text leads to its source, with the marks behind it', () => {
-  const sources = [['The Stra\u00dfe', 'ss', '\u00df'], ['Cafe\u0301!', 'e', 'e\u0301'], ['the har-\nbour!', 'harbour', 'har-\nbour'],
+  const sources = [['The Stra\u00dfe', 'ss', '\u00df'], ['Cafe\u0301!', 'e', 'e\u0301'],
+    ['the har-\nbour!', 'harbour', 'har-\nbour'],
     ['\u{1d538}b', 'b', 'b'], ['a \n b', ' ', ' \n '], ['x-5', '-5', '-5']];
   for (const [source, part, wanted] of sources) {
     const folded = fold(source, true);
@@ -70,7 +73,8 @@ test('hits are found on all pages, up to a number that nobody reads', async () =
 test('a hit is shown with whole words around it', async () => {
   const excerpts = [
     ['one needle', ['one ', 'needle', '']], ['needle.', ['', 'needle', '.']],
-    [`a ${'word '.repeat(9)}needle ${'after, '.repeat(9)}`, [`\u2026${'word '.repeat(5)}`, 'needle', ` ${'after, '.repeat(8).trim().slice(0, -1)}\u2026`]],
+    [`a ${'word '.repeat(9)}needle ${'after, '.repeat(9)}`,
+    [`\u2026${'word '.repeat(5)}`, 'needle', ` ${'after, '.repeat(8).trim().slice(0, -1)}\u2026`]],
     ['前\n後needle\nx', ['前後', 'needle', ' x']],
     [`\u{20000}${'\u{1f600}'.repeat(40)}needle${'\u{1f600}'.repeat(40)}`,
       [`\u2026${'\u{1f600}'.repeat(15)}`, 'needle', `${'\u{1f600}'.repeat(30)}\u2026`]],

@@ -28,7 +28,8 @@ class World {
     const digests = (files) => Object.fromEntries(Object.entries(files).map(([path, text]) => [path, digest(text)]));
     const [shell, rest] = [{ 'index.html': `page of ${version}` }, pages];
     const list = JSON.stringify({ version, bytes, shell: digests(shell), rest: digests(rest) });
-    this.files = { ...shell, ...rest, 'files/web/offline.json': list, 'sw.js': `const BOOK={"page":"index.html","version":"${version}"};` };
+    this.files = { ...shell, ...rest, 'files/web/offline.json': list,
+      'sw.js': `const BOOK={"page":"index.html","version":"${version}"};` };
   }
 
   fetch = async (request) => {
@@ -43,16 +44,19 @@ class World {
     const on = {};
     const stores = this.stores;
     const caches = {
-      has: async (name) => stores.has(name), keys: async () => [...stores.keys()], delete: async (name) => stores.delete(name),
+      has: async (name) => stores.has(name), keys: async () => [...stores.keys()],
+      delete: async (name) => stores.delete(name),
       open: async (name) => stores.get(name) ?? stores.set(name, new Cache()).get(name),
       match: async (address, { cacheName }) => stores.get(cacheName)?.match(address),
     };
-    const self = { registration: this.registration, skipWaiting: async () => {}, addEventListener: (name, act) => { on[name] = act; },
+    const self = { registration: this.registration, skipWaiting: async () => {},
+      addEventListener: (name, act) => { on[name] = act; },
       clients: { claim: async () => {}, matchAll: async () => this.clients.map((id) => ({ id, url: SCOPE })),
         get: async (id) => ({ postMessage: ({ news }) => this.told.push([id, news]) }) } };
     runInNewContext(`const BOOK = { page: 'index.html', version: '${version}' };${SCRIPT}`,
       { self, caches, fetch: this.fetch, crypto: webcrypto, Response, URL, AbortSignal, Uint8Array });
-    const lasting = (name, event = {}) => new Promise((resolve, reject) => { on[name]({ ...event, waitUntil: (work) => work.then(resolve, reject) }); });
+    const lasting = (name, event = {}) =>
+      new Promise((resolve, reject) => { on[name]({ ...event, waitUntil: (work) => work.then(resolve, reject) }); });
     return {
       install: () => lasting('install').then(() => lasting('activate')),
       /** The body that a page gets, a status of none where the worker leaves it to the browser, 0 for a refusal. */
@@ -81,7 +85,8 @@ class World {
 
   /** Paths that are kept of an edition, without what the book opens with. */
   kept(version) {
-    return [...this.stores.get(`folvero ${SCOPE} ${version}`).entries()].map(([url]) => decodeURI(url).slice(decodeURI(SCOPE).length))
+    return [...this.stores.get(`folvero ${SCOPE} ${version}`).entries()]
+      .map(([url]) => decodeURI(url).slice(decodeURI(SCOPE).length))
       .filter((path) => path.startsWith('files/page/'));
   }
 }
@@ -93,7 +98,8 @@ const page = { mode: 'navigate' };
 test('a book is installed only whole and of one edition', async () => {
   const world = new World();
   for (const [spoil, message] of [[() => { world.files['index.html'] = 'page of bb'; }, /just being published/],
-    [() => world.publish('bb', pages('bb')), /just being published/], [() => { world.files = null; }, /no connection/]]) {
+    [() => world.publish('bb', pages('bb')), /just being published/],
+    [() => { world.files = null; }, /no connection/]]) {
     world.publish('aa', pages('aa'));
     spoil();
     await assert.rejects((await world.start('aa')).install(), message);
@@ -112,12 +118,13 @@ test('what was read is kept and read again without a connection; the rest is sai
   assert.equal(await worker.get(ONE), `${ONE} of aa`);
   await assert.rejects(worker.get(TWO), TypeError);
   assert.deepEqual(world.told, [['reader', 'notKept']]);
-  for (const [path, request] of [['other.html', page], ['sw.js', {}], [ONE, { method: 'POST' }], [ONE, { headers: { Range: 'bytes=0-' } }]]) {
+  for (const [path, request] of [['other.html', page], ['sw.js', {}], [ONE, { method: 'POST' }],
+    [ONE, { headers: { Range: 'bytes=0-' } }]]) {
     assert.equal(await worker.get(path, 'reader', request), undefined, path);
   }
 });
 
-test('no file of another edition is kept or given, and none of an earlier one to a page that has it no more', async () => {
+test('no file of another edition is kept or given, and none of an earlier one once it is gone', async () => {
   const world = new World();
   const worker = await world.install('aa', pages('aa'));
   await worker.get(ONE);
@@ -157,7 +164,8 @@ test('a small book is kept as a whole, a long one as it is read or where that is
   for (const [bytes, whole] of [[5e6, true], [5e6 + 1, false]]) {
     const world = new World();
     const worker = await world.install('aa', pages('aa'), { bytes });
-    assert.deepEqual({ ...await worker.ask({ does: 'state' }) }, { bytes, asked: false, whole, share: 0, left: 8, more: whole, failed: false });
+    assert.deepEqual({ ...await worker.ask({ does: 'state' }) },
+      { bytes, asked: false, whole, share: 0, left: 8, more: whole, failed: false });
     await worker.ask({ does: 'seen', seen: [SCOPE + ONE, `${SCOPE}files/none.js`, 'https://example.org/x'] });
     assert.deepEqual(world.kept('aa'), [ONE]);
     await worker.ask({ does: 'wish', wish: 'whole' });
