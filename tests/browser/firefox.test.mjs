@@ -26,7 +26,8 @@ let server;
 async function publish(name, ...options) {
   const target = path.join(folder, name);
   const sample = path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf');
-  await promisify(execFile)(FOLVERO_BIN, ['publish', '--quiet', '--pages', '1-8', '--set', 'pageMoveTime=0.2', ...options, sample, target]);
+  await promisify(execFile)(FOLVERO_BIN,
+    ['publish', '--quiet', '--pages', '1-8', '--set', 'pageMoveTime=0.2', ...options, sample, target]);
   return pathToFileURL(path.join(target, 'index.html')).href;
 }
 
@@ -54,16 +55,15 @@ test('Firefox shows and turns a book in each template, from disk and over http',
       await book.waitForPages(...(spread ? pages : pages.slice(0, 1)));
       assert.deepEqual(await book.picture(), { file: `${pages[0]}.jpg`, seen: true }, template);
     }
-    await book.page.keyboard.press('t');
-    assert.equal(await book.page.$eval('.drawer', (drawer) => drawer.getBoundingClientRect().height > 60), true, template);
     assert.deepEqual(book.errors, [], template);
     await book.close();
   }
 });
 
-const kinds = { 'over http': [[], overHttp], 'from disk': [[], (address) => address], 'as a single file': [['--single-file'], (address) => address] };
+const kinds = { 'over http': [[], overHttp], 'from disk': [[], (address) => address],
+  'as a single file': [['--single-file'], (address) => address] };
 for (const [name, [options, addressOf]] of Object.entries(kinds)) {
-  test(`Firefox reads a web book ${name}: drags, contents, links, search, words and finer pictures`, ready, async () => {
+  test(`Firefox reads a web book ${name}: drags, panels, links, words and finer pictures`, ready, async () => {
     const book = await openBook(browser, addressOf(await publish(`web${options}`, '--type', 'web', ...options)), DESK);
     const { page } = book;
     const press = async (...keys) => { for (const key of keys) await page.keyboard.press(key); };

@@ -8,12 +8,14 @@ import { typedPage } from './support/webbook.mjs';
 const reader = Reader.forTests();
 
 const OUTLINE = [['Preface', 1, []], ['First part', 3, [['River', 4, []], ['Nowhere', 0, []]]]];
-const pages = Array.from({ length: 8 }, (_, index) => typedPage([`text of page ${index + 1}`, 'and a dead link', 'and a page'],
+const pages = Array.from({ length: 8 },
+  (_, index) => typedPage([`text of page ${index + 1}`, 'and a dead link', 'and a page'],
   { links: [[0, 0, 4, 'https://example.org/'], [1, 6, 9, 0], [2, 6, 4, 1]] }));
 
 async function open({ values, change, ...options }) {
   const folder = await reader.webBook({ pages: plainPages(8), values: { TutorialTitle: 'Spring', ...values },
-    description: { pages, outline: OUTLINE, labels: ['i', 'ii'], language: 'en', textPage: 'text.html', open: [[1, 6]], ...change } });
+    description: { pages, outline: OUTLINE, labels: ['i', 'ii'], language: 'en', textPage: 'text.html', open: [[1, 6]],
+      ...change } });
   const book = await reader.openFromDisk(folder, options);
   await book.page.waitForSelector('.word', { state: 'attached' });
   return book;
@@ -33,13 +35,15 @@ async function strip(book) {
 }
 const key = (name) => (book) => book.page.keyboard.press(name);
 const states = {
-  'a desk': [DESK, '#page=4', [['a spread', () => {}], ['the contents', contents], ['the search', search], ['pages that are left out', key('End')]]],
-  'a phone': [PHONE, '', [['the strip of the search', strip], ['a page', key('ArrowRight')], ['the contents', contents], ['the search', search]]],
+  'a desk': [DESK, '#page=4',
+    { 'a spread': () => {}, 'the contents': contents, 'the search': search, 'pages left out': key('End') }],
+  'a phone': [PHONE, '',
+    { 'the strip of the search': strip, 'a page': key('ArrowRight'), 'the contents': contents, 'the search': search }],
 };
 for (const [name, [view, hash, shown]] of Object.entries(states)) {
   test(`nothing keeps readers with other senses or hands out of a web book, on ${name}`, async () => {
     const book = await open({ view, hash });
-    for (const [what, act] of shown) {
+    for (const [what, act] of Object.entries(shown)) {
       await key('Escape')(book);
       await act(book);
       await book.pages();
@@ -49,16 +53,18 @@ for (const [name, [view, hash, shown]] of Object.entries(states)) {
 }
 
 test('panels of a colour between light and dark can be read', async () => {
-  const book = await open({ hash: '#page=4', values: { FlashWindowsColor: '0x767676', ThumbnailsBgColor: '0x767676' } });
+  const book = await open({ hash: '#page=4',
+    values: { FlashWindowsColor: '0x767676', ThumbnailsBgColor: '0x767676' } });
   for (const act of [contents, search]) {
     await act(book);
     assert.deepEqual(await faults(book), []);
   }
 });
 
-test('where the system takes colours and shadows away, panels, marks and focus stay and the words stay unseen', async () => {
+test('where the system takes colours away, panels, marks and focus stay and words stay unseen', async () => {
   const book = await open({ hash: '#page=2', before: (page) => page.emulateMedia({ forcedColors: 'active' }) });
-  const style = (selector, ...names) => book.page.locator(selector).first().evaluate((one, all) => all.map((name) => getComputedStyle(one)[name]), names);
+  const style = (selector, ...names) => book.page.locator(selector).first()
+    .evaluate((one, all) => all.map((name) => getComputedStyle(one)[name]), names);
   await search(book);
   assert.deepEqual(await style('.search-side', 'borderTopStyle'), ['solid']);
   assert.deepEqual(await style('.search-field', 'borderTopStyle'), ['solid']);
@@ -82,11 +88,14 @@ test('readers who want little motion see none in the panels', async () => {
 test('all of a page is reached by key, in the order in which it is read', async () => {
   const book = await open({ hash: '#page=2' });
   await book.page.waitForSelector('.over.right .page-link');
-  const order = await book.page.locator('.page-link').evaluateAll((all) => all.map((one) => `${one.closest('.over').ariaLabel}: ${one.ariaLabel}`));
-  assert.deepEqual(order, ['Page ii (2): text', 'Page ii (2): dead link, This link leads to a page that is not in this book', 'Page ii (2): page, Page i (1)',
-    'Page 3: text', 'Page 3: dead link, This link leads to a page that is not in this book', 'Page 3: page, Page i (1)']);
+  const order = await book.page.locator('.page-link')
+    .evaluateAll((all) => all.map((one) => `${one.closest('.over').ariaLabel}: ${one.ariaLabel}`));
+  const links = (name) => [`${name}: text`,
+    `${name}: dead link, This link leads to a page that is not in this book`, `${name}: page, Page i (1)`];
+  assert.deepEqual(order, [...links('Page ii (2)'), ...links('Page 3')]);
   await book.page.keyboard.press('Tab');
-  assert.deepEqual(await book.page.evaluate(() => [document.activeElement.textContent, document.activeElement.getAttribute('href'),
+  assert.deepEqual(await book.page.evaluate(() =>
+    [document.activeElement.textContent, document.activeElement.getAttribute('href'),
     document.activeElement.offsetWidth > 100]), ['Read as plain text', 'text.html', true]);
   await book.page.locator('.page-link').nth(1).focus();
   await book.page.keyboard.press('Tab');

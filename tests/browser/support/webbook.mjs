@@ -14,10 +14,12 @@ export function line([x, y, width, height], words, { turn = 0, rtl = false } = {
  */
 export function typedPage(texts, { size = [6000, 8000], links = [], left = 600, top = 800 } = {}) {
   const lines = texts.map((text, index) => {
-    const words = [...text.matchAll(/\S+ ?/g)].map(({ 0: word, index: at }) => [word, at * 60, word.trimEnd().length * 60]);
+    const words = [...text.matchAll(/\S+ ?/g)]
+      .map(({ 0: word, index: at }) => [word, at * 60, word.trimEnd().length * 60]);
     return line([left, top + index * 200, text.trimEnd().length * 60, 140], words);
   });
-  const areas = links.map(([row, letter, letters, target]) => [left + letter * 60, top + row * 200, letters * 60, 140, target]);
+  const areas = links.map(([row, letter, letters, target]) =>
+    [left + letter * 60, top + row * 200, letters * 60, 140, target]);
   return { size, lines, links: areas };
 }
 
@@ -25,8 +27,6 @@ export function typedPage(texts, { size = [6000, 8000], links = [], left = 600, 
 function stringOf({ lines = [] } = {}) {
   return lines.map(({ 6: words }) => words.filter((_, index) => index % 3 === 0).join('')).join('\n');
 }
-
-const script = (name, value) => `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});\n`;
 
 /** The data files of a web book by their names; JSON of each. */
 function dataOf({ pages, labels = null, outline = [], large = [], open = null, language = '', textPage = '' }) {
@@ -50,15 +50,17 @@ function dataOf({ pages, labels = null, outline = [], large = [], open = null, l
  */
 export async function makeWebBook(folder, description) {
   const { web, large = [] } = description;
-  const data = dataOf(description);
   const files = path.join(folder, 'files');
-  await Promise.all(['web', 'text', 'search', 'large'].map((name) => mkdir(path.join(files, name), { recursive: true })));
+  await Promise.all(['web', 'text', 'search', 'large']
+    .map((name) => mkdir(path.join(files, name), { recursive: true })));
   for (const [index, picture] of large.entries()) {
     if (picture) await writeFile(path.join(files, 'large', `${index + 1}.${picture.kind}`), picture.bytes);
   }
   const page = path.join(folder, 'index.html');
   const html = await readFile(page, 'utf8');
-  for (const [name, value] of Object.entries(data)) await writeFile(path.join(files, `${name}.js`), script(name, value));
+  for (const [name, value] of Object.entries(dataOf(description))) {
+    await writeFile(path.join(files, `${name}.js`), `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});`);
+  }
   for (const name of ['web.js', 'web.css']) await copyFile(path.join(web, name), path.join(files, name));
   const tags = '<link rel="stylesheet" href="files/web.css">\n<script src="files/web.js"></script>\n';
   await writeFile(page, html.replace('</head>', () => `${tags}</head>`));
