@@ -1,23 +1,18 @@
 import assert from 'node:assert/strict';
-import { execFile, execFileSync } from 'node:child_process';
 import { mkdtemp, rm } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import path from 'node:path';
 import { after, before, test } from 'node:test';
 import { pathToFileURL } from 'node:url';
-import { promisify } from 'node:util';
 import { writeConfiguration } from './support/book.mjs';
 import { DESK, PHONE, findFirefox, launchFirefox, openBook } from './support/firefox.mjs';
+import { folvero, ready as program, sample } from './support/program.mjs';
 import { serve } from './support/server.mjs';
 import { copied } from './support/webbook.mjs';
 
 // What Firefox does otherwise: reading from disk, decoding, drawing leaves, dialogs, selections.
-const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
 const firefox = findFirefox();
-const missing = [[firefox, 'Firefox is not installed'], [FOLVERO_BIN, 'FOLVERO_BIN is not set'],
-  [FOLVERO_SAMPLES_DIR, 'FOLVERO_SAMPLES_DIR is not set']].find(([there]) => !there);
-const ready = { skip: missing ? missing[1] : false };
-const templates = missing ? [] : JSON.parse(execFileSync(FOLVERO_BIN, ['templates', '--json'])).map(({ name }) => name);
+const ready = firefox ? program : { skip: 'Firefox is not installed' };
 
 let browser;
 let folder;
@@ -25,14 +20,12 @@ let server;
 
 async function publish(name, ...options) {
   const target = path.join(folder, name);
-  const sample = path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf');
-  await promisify(execFile)(FOLVERO_BIN,
-    ['publish', '--quiet', '--pages', '1-8', '--set', 'pageMoveTime=0.2', ...options, sample, target]);
+  await folvero('publish', '--quiet', '--pages=1-8', '--set', 'pageMoveTime=0.2', ...options, sample('sample'), target);
   return pathToFileURL(path.join(target, 'index.html')).href;
 }
 
 before(async () => {
-  if (missing) return;
+  if (ready.skip) return;
   folder = await mkdtemp(path.join(tmpdir(), 'folvero-firefox-'));
   server = await serve(folder);
   browser = await launchFirefox(firefox);
@@ -46,7 +39,8 @@ after(async () => {
 const overHttp = (address) => address.replace(pathToFileURL(folder).href, server.address.slice(0, -1));
 
 test('Firefox shows and turns a book in each template, from disk and over http', ready, async () => {
-  for (const [index, template] of templates.entries()) {
+  const templates = JSON.parse(await folvero('templates', '--json'));
+  for (const [index, { name: template }] of templates.entries()) {
     const address = await publish(template, '--template', template);
     const book = await openBook(browser, index % 2 ? overHttp(address) : address, DESK);
     const spread = await book.page.evaluate(() => window.folvero.spread);

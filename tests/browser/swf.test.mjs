@@ -1,18 +1,14 @@
 import assert from 'node:assert/strict';
-import { execFile } from 'node:child_process';
 import { readFile, rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { after, before, test } from 'node:test';
-import { promisify } from 'node:util';
 import { colourOf, plainPages } from './support/book.mjs';
 import { differencesOf } from './support/likeness.mjs';
+import { folvero, ready, sample } from './support/program.mjs';
 import { Reader, TEMPLATE } from './support/reader.mjs';
 import { Emulator, TURN_SOUND } from './support/ruffle.mjs';
 
 // The movie is what readers get where they have no more than the Flash Player.
-const { FOLVERO_BIN, FOLVERO_SAMPLES_DIR } = process.env;
-const skip = FOLVERO_BIN && FOLVERO_SAMPLES_DIR ? false : 'FOLVERO_BIN and FOLVERO_SAMPLES_DIR are not set';
-
 const reader = new Reader();
 let emulator;
 before(async () => {
@@ -144,9 +140,9 @@ test('a configuration that is damaged or missing is reported', async () => {
   }
 });
 
-test('a published document opens in the movie', { skip }, async () => {
+test('a published document opens in the movie', ready, async () => {
   const folder = path.join(reader.folder, 'published');
-  await promisify(execFile)(FOLVERO_BIN, ['publish', '--quiet', path.join(FOLVERO_SAMPLES_DIR, 'sample.pdf'), folder]);
+  await folvero('publish', '--quiet', sample('sample'), folder);
   const book = await emulator.play(folder);
   await book.page.keyboard.press('ArrowRight');
   await book.waitForPages(2, 3);

@@ -2,9 +2,11 @@ import assert from 'node:assert/strict';
 import { rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { test } from 'node:test';
+import { pathToFileURL } from 'node:url';
 import { colourOf, plainPages } from './support/book.mjs';
 import { png } from './support/png.mjs';
-import { PHONE, Reader } from './support/reader.mjs';
+import { folvero, ready, sample } from './support/program.mjs';
+import { DESK, PHONE, Reader } from './support/reader.mjs';
 import { typedPage } from './support/webbook.mjs';
 
 const reader = Reader.forTests();
@@ -89,6 +91,29 @@ test('a preview that begins with a page left out opens at once', async () => {
   assert.ok((await book.picture('right')).loaded);
   const { width, height } = await book.box('right');
   assert.ok(Math.abs(width / height - 0.75) < 0.01);
+});
+
+test('a published book in one file is read from disk without a network', ready, async () => {
+  const folder = path.join(reader.folder, 'single');
+  await folvero('publish', '--quiet', '--type=web', '--single-file', '--pages=1-8', sample('sample'), folder);
+  for (const view of [DESK, PHONE]) {
+    const book = await reader.openFromDisk(folder, { view, before: (page) => page.context().setOffline(true) });
+    if (view === PHONE) await book.swipe([330, 400], [60, 400]);
+    else await book.page.keyboard.press('ArrowRight');
+    await book.waitForPages(...(view === PHONE ? [2] : [2, 3]));
+    assert.ok((await book.picture('right')).loaded);
+    await book.page.keyboard.press('/');
+    await book.page.locator('.search-box').fill('HAND lifts the corner');
+    await book.page.locator('.result').first().click();
+    await book.page.waitForFunction(() => !window.folvero.turning && window.folvero.page === 4);
+    await book.page.locator('.hit.current').first().waitFor();
+    // Keys that are typed in the panel stay there.
+    await book.page.keyboard.press('Escape');
+    for (let step = 0; step < 4; step += 1) await book.page.keyboard.press('+');
+    await book.page.locator('img.large').first().waitFor();
+    const asked = book.requests.filter((address) => !/^(?:blob|data):/.test(address));
+    assert.deepEqual([asked, book.errors], [[pathToFileURL(path.join(folder, 'index.html')).href], []]);
+  }
 });
 
 const DAMAGE = [

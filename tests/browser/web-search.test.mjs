@@ -2,7 +2,7 @@ import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
-import { line, typedPage } from './support/webbook.mjs';
+import { typedPage } from './support/webbook.mjs';
 
 const reader = Reader.forTests();
 
@@ -91,16 +91,6 @@ test('Ctrl+F searches the book, asked again the browser; the list is used by mou
   await book.waitForPages(1);
   assert.equal(await search(book, 'nowhere at all'), 'Nothing found');
   assert.equal(await book.page.locator('.results').isVisible(), false);
-});
-
-test('a part of a word is marked as far as it goes, whatever way its line runs', async () => {
-  const book = await open([{ size: [6000, 8000], links: [], lines: [
-    line([1000, 2000, 1600, 200], [['sideways ', 800, 800], ['סוף', 0, 300]], { rtl: true }),
-    line([4000, 1000, 200, 800], [['sideways', 0, 800]], { turn: 90 }),
-  ] }]);
-  await search(book, 'ways');
-  await marksAre(book, 'right', [[2200, 2000, 400, 200], [4000, 1400, 200, 400]]);
-  assert.equal(await book.page.locator('.hit.upright').count(), 1);
 });
 
 test('on a phone a result makes room for the book, and the strip that stays leads on', async () => {

@@ -54,6 +54,7 @@ test('words lie over their pictures, enlarged and in a changed window too, those
   await book.waitForPages(6);
   await word(book, 'end').waitFor();
   assert.equal(await word(book, 'river').count(), 0);
+  assert.equal(book.requests.some((asked) => asked.endsWith('sw.js')), false);
   assert.deepEqual(book.errors, []);
   // A page of another shape has paper around its picture.
   const pages = [typedPage(['wide words'], { size: [8000, 4000] }), typedPage(['x']), typedPage(['x'])];
@@ -133,17 +134,6 @@ test('on a phone a double tap on a word enlarges it, and only a tap beside words
   assert.deepEqual(await deeds(book, () => book.page.touchscreen.tap(...at)), { bar: false, turning: false });
   await book.waitForPages(1);
   assert.deepEqual(await deeds(book, () => book.page.touchscreen.tap(370, 600)), { bar: false, turning: true });
-});
-
-test('on an enlarged page a drag on words marks them and a drag beside them moves the page', async () => {
-  const book = await open({ pages: typed({ left: 3600, top: 4000 }) });
-  await book.page.keyboard.press('+');
-  await book.rest();
-  const before = await boxOf(book, 'river');
-  assert.equal(await mark(book, 'river', 'below'), 'river runs below');
-  assert.deepEqual(await boxOf(book, 'river'), before);
-  await book.drag([before.x, before.y + 150], [before.x - 80, before.y + 100]);
-  assert.ok(before.x - (await boxOf(book, 'river')).x > 60);
 });
 
 test('a finger that rests on a word marks it and goes on marking, one that swipes turns the page', async () => {

@@ -100,12 +100,6 @@ class PlayedMovie {
     await this.waitFor(`(state) => !state.lifted && String(state.pages) === '${pages}'`);
   }
 
-  /** Turns to a page without a key or a click. */
-  async goTo(number) {
-    await this.page.evaluate((wanted) => window.movie.folveroGoTo(wanted), number);
-    await this.waitFor(`(state) => !state.lifted && state.pages.includes(${number})`);
-  }
-
   /** Where the page on a side lies in the window. */
   async box(side) {
     return (await this.state())[side];
