@@ -27,6 +27,7 @@ test('labels count where they say more than the number, languages and text pages
   const facts = (name, ...values) => values.map((value) => new Facts({ [name]: value }, 3)[name]);
   assert.deepEqual(facts('language', 'de', 'en-GB', 'zh-Hant-TW', 'x', 'de-', 'de"'),
     ['de', 'en-GB', 'zh-Hant-TW', '', '', '']);
+  assert.deepEqual(facts('offline', true, 1), [true, false]);
   assert.deepEqual(facts('textPage', 'text.html', '../a.html', '/a.html', '.a.html', 'a.svg'),
     ['text.html', '', '', '', '']);
 });

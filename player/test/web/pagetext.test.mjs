@@ -32,7 +32,7 @@ test('parts of the text lie where their letters are read, one box a line', () =>
     [0, 2, [100, 100, 20, 20, 0]], [2, 6, [120, 100, 50, 20, 0]], [4, 5], [8, 10, [170, 200, 20, 20, 0]],
     [13, 14, [120, 200, 10, 20, 0]], [16, 17, [100, 200, 5, 20, 0]], [19, 21, [300, 100, 20, 20, 90]],
     [27, 28, [480, 300, 10, 20, 180]], [35, 37, [500, 170, 20, 20, 270]],
-    [5, 9, [150, 100, 40, 20, 0], [180, 200, 10, 20, 0]],
+    [5, 9, [150, 100, 40, 20, 0], [180, 200, 10, 20, 0]], [8, 14, [120, 200, 70, 20, 0]],
   ];
   for (const [from, to, ...wanted] of places) assert.deepEqual(boxes(from, to), wanted, `${from} to ${to}`);
 });
@@ -56,6 +56,7 @@ test('a point leads to the nearest place between letters', () => {
 
 test('a link is named by the words that it is drawn around', () => {
   const named = [[[100, 90, 45, 40], 'abcd'], [[90, 90, 110, 140], 'abcd ef שלום ab 12'], [[130, 90, 30, 40], ''],
+    [[0, 109, 200, 2], 'abcd ef'],
     [[500, 100, 20, 50], 'ef'], [[0, 0, 5, 5], '']];
   for (const [[x, y, width, height], words] of named) assert.equal(page.wordsIn({ x, y, width, height }), words);
 });

@@ -135,6 +135,7 @@ test('no file of another edition is kept or given, and none of an earlier one on
   assert.equal(await worker.get('', 'newcomer', page), 'page of bb');
   assert.equal(await worker.get(ONE, 'newcomer'), `${ONE} of bb`);
   assert.deepEqual([world.kept('aa'), await worker.ask({ does: 'state' }, 'newcomer')], [[ONE], null]);
+  assert.equal(await worker.get(ONE), `${ONE} of aa`, 'who has the earlier one reads on');
   world.clients = ['reader', 'newcomer'];
   const next = await world.install('bb', pages('bb'));
   assert.equal(await next.get(ONE, 'reader'), 0);
