@@ -257,7 +257,7 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
         EXPECT_TRUE(html.contains("FolveroUserConfig = \"" + wanted["UserConfig.bin"].toBase64()));
         for (const char* player : {"web.js", "web.css"})
             EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[player]))) << player;
-        EXPECT_EQ(wanted.size(), 6U) << "the other four are of no use in a page";
+        EXPECT_EQ(wanted.size(), 7U) << "the other five are of no use in a page";
         static const QRegularExpression outside(R"re(\s(?:src|href|data)="(?!data:))re");
         EXPECT_FALSE(html.contains(outside)) << outside.match(html).captured().toStdString();
         EXPECT_EQ(html.count("<script"), html.count("</script>"));
@@ -311,8 +311,8 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
     // What is open, contents included, may say the same.
     const QString open = textByPoppler(3) + textByPoppler(4) + textByPoppler(6) +
                          QString::fromUtf8(files.at("files/web/book.js"));
-    for (const char* player :
-         {"index.html", "files/web.js", "files/web.css", "sw.js", "manifest.webmanifest"})
+    for (const char* player : {"index.html", "files/web.js", "files/web.css",
+                               "files/web/offline.js", "sw.js", "manifest.webmanifest"})
         files.erase(player);
     QByteArray& plain = files["text.html"];
     plain.remove(0, plain.indexOf("<main>"));
@@ -342,8 +342,9 @@ TEST_F(WebBookTest, LeavesOthersFilesAloneAndTakesItsOwnAway) {
 
     ASSERT_TRUE(QFile::remove(file("sw.js")));
     publishWeb("text.pdf");
-    const char* const own[] = {"sw.js",     "manifest.webmanifest", "files/search/text.js",
-                               "text.html", "files/text/1.js",      "files/web.js"};
+    const char* const own[] = {
+        "sw.js",     "files/web/offline.js", "manifest.webmanifest", "files/search/text.js",
+        "text.html", "files/text/1.js",      "files/web.js"};
     for (const char* name : own)
         EXPECT_TRUE(exists(name)) << name;
     published("text.pdf", {"--pages=1"});

@@ -19,8 +19,8 @@ protected:
     std::unique_ptr<PDFReader> reader(const QByteArray& script,
                                       std::chrono::milliseconds patience = 60s) {
         const QString program = iFolder.filePath("reader");
-        TestFiles::write(program,
-                         "#!/bin/sh\ncount=" + PDFSerialization::pack(3).toBase64() + "\n" + script);
+        TestFiles::write(program, "#!/bin/sh\ncount=" + PDFSerialization::pack(3).toBase64() +
+                                      "\n" + script);
         QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         auto made = std::make_unique<PDFReader>("none.pdf", [this] { return iStop; });
         made->setProgram(program);
@@ -96,7 +96,8 @@ TEST_F(PDFReaderTest, PassesReasonsOn) {
 // Then this process would read the file itself, as when there is no such program.
 TEST_F(PDFReaderTest, ReadsNoFileInProcessWhateverTheProgramAnswers) {
     EXPECT_EQ(failureOfOpening("echo here\nexit 127\n"), "PDFReaderEnded");
-    EXPECT_EQ(failureOfOpening("echo here\necho fail ProcessStartFailed x\n"), "PDFReaderMalformedAnswer");
+    EXPECT_EQ(failureOfOpening("echo here\necho fail ProcessStartFailed x\n"),
+              "PDFReaderMalformedAnswer");
     EXPECT_EQ(failureOfOpening("echo \"ok $count\"\n"), "PDFReaderMalformedAnswer");
 }
 
@@ -111,7 +112,8 @@ TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {
 TEST(PDFSerialization, RefusesTextLinesThatMakeNoSense) {
     const auto failureWith = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
         const std::vector lines{PDFTextLine{box, turn, false, {word}}};
-        return failureOf([&] { PDFSerialization::unpackTextLines(PDFSerialization::pack(lines)); }).name();
+        return failureOf([&] { PDFSerialization::unpackTextLines(PDFSerialization::pack(lines)); })
+            .name();
     };
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     for (const int turn : {0, 90, 180, 270})

@@ -54,7 +54,7 @@ protected:
     }
     OutputWindow& window() { return sheet->window(); }
     void openForWebBook() {
-        for (const char* part : {"web.js", "web.css", "sw.js"})
+        for (const char* part : {"web.js", "web.css", "offline.js", "sw.js"})
             book.library.addFile(QString("AppFiles/Web/") + part, part);
         open();
         window().mOutputType->button(OutputWindow::webBook)->click();
