@@ -1,4 +1,5 @@
 #include "app/desktop/Appearance.h"
+#include "app/desktop/BorderedStyle.h"
 #include "desktop/DesktopProgram.h"
 
 #include <algorithm>
@@ -49,6 +50,20 @@ QImage chosenInPopup(QComboBox& list) {
     return picture;
 }
 
+// The brightest line of an empty control against its own ground, in a dark window.
+int lineContrast(QWidget& control) {
+    BorderedStyle style;
+    control.setStyle(&style);
+    control.setPalette(Appearance::palette(true));
+    control.resize(60, 24);
+    const QImage image = control.grab().toImage();
+    int brightest = 0;
+    for (int x = 0; x < image.width(); ++x)
+        brightest = std::max(brightest, image.pixelColor(x, image.height() / 2).lightness());
+    control.setStyle(nullptr);
+    return brightest - Appearance::palette(true).color(QPalette::Window).lightness();
+}
+
 class Contrast : public DesktopProgram {
 protected:
     QHash<QString, QImage> highlights() {
@@ -96,4 +111,12 @@ TEST_F(Contrast, ChosenLineOfEveryListCanBeRead) {
             EXPECT_GE(contrast(it.value()), 4.5) << it.key().toStdString() << ", " << choice;
     }
     QApplication::setFont(usual);
+}
+
+TEST(BorderedStyle, EmptyControlsCanBeSeenInADarkWindow) {
+    QCheckBox box;
+    QRadioButton radio;
+    QLineEdit field;
+    for (QWidget* control : std::initializer_list<QWidget*>{&box, &radio, &field})
+        EXPECT_GT(lineContrast(*control), 45) << control->metaObject()->className();
 }

@@ -40,7 +40,7 @@ void DesktopProgram::launch() {
     ASSERT_TRUE(waitForPreview());
 }
 
-// An engine that dies answers late or not at all.
+// A renderer that dies answers late or not at all.
 QVariant DesktopProgram::evaluate(const QString& script) const {
     const auto result = std::make_shared<std::optional<QVariant>>();
     window().webView->page()->runJavaScript(script,
@@ -53,14 +53,7 @@ bool DesktopProgram::waitForPreview(const QString& condition) const {
     const QString script =
         u"document.querySelector('#folvero[data-state=\"ready\"]') !== null && (%1)"_s.arg(
             condition);
-    QElapsedTimer waited;
-    waited.start();
-    while (!waited.hasExpired(longEnough)) {
-        if (evaluate(script).toBool())
-            return true;
-        QTest::qWait(50);
-    }
-    return false;
+    return waitUntil([&] { return evaluate(script).toBool(); });
 }
 
 BookElement DesktopProgram::configuration() const {
@@ -69,6 +62,7 @@ BookElement DesktopProgram::configuration() const {
 
 QModelIndex DesktopProgram::valueOf(const QString& key) const {
     const QModelIndex index = program->outline().valueForKey(key);
+    EXPECT_TRUE(index.isValid()) << "no property " << key.toStdString();
     window().outlineView->scrollTo(index);
     window().outlineView->setCurrentIndex(index);
     return index;
@@ -76,9 +70,7 @@ QModelIndex DesktopProgram::valueOf(const QString& key) const {
 
 void DesktopProgram::edit(const QString& key, const QString& value) const {
     auto* view = window().outlineView;
-    const QModelIndex index = valueOf(key);
-    ASSERT_TRUE(index.isValid()) << "no property " << key.toStdString();
-    view->edit(index);
+    view->edit(valueOf(key));
     if (auto* list = view->findChild<QComboBox*>()) {
         list->setCurrentText(value);
         Q_EMIT list->activated(list->currentIndex());
@@ -89,13 +81,12 @@ void DesktopProgram::edit(const QString& key, const QString& value) const {
         QTest::keyClicks(field, value);
         QTest::keyClick(field, Qt::Key_Return);
     }
-    // The editor closes a little later, and is deleted later still.
-    QTest::qWait(20);
+    EXPECT_TRUE(waitUntil(
+        [view] { return !view->findChild<QLineEdit*>() && !view->findChild<QComboBox*>(); }));
 }
 
 void DesktopProgram::press(const QString& key) const {
-    const QModelIndex index = valueOf(key);
-    ASSERT_TRUE(index.isValid()) << "no property " << key.toStdString();
+    valueOf(key);
     window().outlineView->setFocus();
     QTest::keyClick(window().outlineView, Qt::Key_Space);
 }
@@ -111,5 +102,16 @@ QString DesktopProgram::pdf(int pages) const {
 }
 
 bool DesktopProgram::waitForImport() const {
-    return QTest::qWaitFor([this] { return !program->importWindow().isImporting(); }, longEnough);
+    return waitUntil([this] { return !program->importWindow().isImporting(); });
+}
+
+// QTest::qWaitFor would look again only when no event is left, which a moving page may put off.
+bool DesktopProgram::waitUntil(const std::function<bool()>& condition) {
+    const QDeadlineTimer end(longEnough);
+    while (!condition()) {
+        if (end.hasExpired())
+            return false;
+        QTest::qWait(20);
+    }
+    return true;
 }

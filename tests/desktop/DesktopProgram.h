@@ -54,6 +54,8 @@ protected:
     QString path(const QString& name) const { return files.filePath(name); }
     // Waits until the import sheet's work is done.
     bool waitForImport() const;
+    // Whether the condition comes true within 30 seconds.
+    static bool waitUntil(const std::function<bool()>& condition);
 
     QTemporaryDir files;
     std::unique_ptr<BrisleafAppDelegate> program;

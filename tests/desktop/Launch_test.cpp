@@ -13,25 +13,6 @@ namespace {
 
 class Launch : public DesktopProgram {};
 
-// Stands in for the program that the user's system has for a scheme.
-class SchemeProgram : public QObject {
-    Q_OBJECT
-
-public:
-    explicit SchemeProgram(const QString& scheme) : iScheme(scheme) {
-        QDesktopServices::setUrlHandler(scheme, this, "start");
-    }
-    ~SchemeProgram() override { QDesktopServices::unsetUrlHandler(iScheme); }
-
-    QList<QUrl> started;
-
-public Q_SLOTS:
-    void start(const QUrl& url) { started << url; }
-
-private:
-    QString iScheme;
-};
-
 } // namespace
 
 TEST_F(Launch, ShowsTheDemoBookOnTheWholeScreen) {
@@ -90,9 +71,11 @@ TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     window().webView->setOpener([&addresses](const QUrl& url) { addresses << url; });
     evaluate("location.href = 'https://folvero.example/more'");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !addresses.isEmpty(); }));
-    SchemeProgram other("program");
+    // Stands in for the program that the user's system has for a scheme.
+    QTextBrowser other;
+    QDesktopServices::setUrlHandler("program", &other, "setSource");
     QDesktopServices::openUrl(QUrl("program://check"));
-    ASSERT_EQ(other.started.size(), 1);
+    ASSERT_EQ(other.source(), QUrl("program://check"));
     // Without a click Chromium would not ask at all. With one it would start the program itself.
     window().webView->page()->settings()->setUnknownUrlSchemePolicy(
         QWebEngineSettings::AllowAllUnknownUrlSchemes);
@@ -101,7 +84,8 @@ TEST_F(Launch, PreviewKeepsToTheFilesOfTheBook) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return addresses.size() == 2; }));
     EXPECT_EQ(addresses.last(), QUrl("tel:+49301234"));
     EXPECT_TRUE(waitForPreview());
-    EXPECT_EQ(other.started.size(), 1) << "Chromium has started the program by itself";
+    EXPECT_EQ(other.source(), QUrl("program://check")) << "Chromium has started the program";
+    QDesktopServices::unsetUrlHandler("program");
 }
 
 TEST_F(Launch, PreviewFolderIsOfThisProgramAloneAndMadeAgainOnceRemoved) {
@@ -146,6 +130,12 @@ TEST_F(Launch, PreviewFolderThatCannotBeMadeIsReported) {
     EXPECT_TRUE(waitForPreview());
 }
 
+TEST(MessageBar, ShowsTextsAsTheyStand) {
+    MessageBar bar(nullptr);
+    bar.showError("<b>What?</b>", "first & last\nsecond");
+    EXPECT_EQ(bar.message(), "<b>What?</b>\nfirst & last\nsecond");
+}
+
 TEST_F(Launch, NamesTheDamagedTemplateAndTheMissingHelp) {
     TemplateLibrary library;
     library.addTemplateFile("float", "<flashTemplate><property type='pt_text'>");
@@ -160,5 +150,3 @@ TEST_F(Launch, NamesTheDamagedTemplateAndTheMissingHelp) {
     window().menu->openHelp->trigger();
     EXPECT_EQ(opened, QStringList{library.path() + '/' + file});
 }
-
-#include "Launch_test.moc"

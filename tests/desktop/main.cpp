@@ -12,11 +12,10 @@
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The web engine refuses to run as root, as it is in a container, with its walls up.
+    // Chromium refuses to run as root, as in a container, with its sandbox.
     if (::geteuid() == 0)
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    // The program itself, for tests that end it from outside. Its machine-wide folders are beneath
-    // the one that is named.
+    // The program itself, for tests that terminate it, with its machine-wide folders in that one.
     if (argc > 2 && qstrcmp(argv[1], programOption) == 0) {
         Folders::setMachineRoot(QFile::decodeName(argv[2]));
         const QApplication app(argc, argv);

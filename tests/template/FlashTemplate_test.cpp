@@ -98,8 +98,8 @@ TEST_F(FlashTemplateTest, FindsTheFirstMatchDepthFirst) {
 }
 
 TEST_F(FlashTemplateTest, TakesAPropertyWithoutValueForNone) {
-    library.addTemplate("float",
-                        group("g", property("a", "1")) + property("a", "2") + property("b", "3"));
+    library.addTemplate("float", group("g", property("a", "1")) + property("a", "2") +
+                                     property("b", "3") + property("a", "4"));
     const FlashTemplate tmpl;
     tmpl.properties()[0]->childProperties()[0]->setValue(QString());
     EXPECT_EQ(value(tmpl, "a"), "2");

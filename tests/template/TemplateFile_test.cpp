@@ -163,11 +163,7 @@ TEST_F(TemplateFileTest, FetchesNoEntity) {
 }
 
 TEST_F(TemplateFileTest, ReadsTheEncodingThatItDeclares) {
-    const struct {
-        const char* encoding;
-        QByteArray bytes;
-        QString text;
-    } cases[] = {
+    const std::tuple<const char*, QByteArray, QString> cases[] = {
         {"utf-8", "Gr\xC3\xB6\xC3\x9F\x65", "Größe"},
         {"iso-8859-1", "Gr\xF6\xDF\x65", "Größe"},
         {"windows-1252", "\x80 \xFC", "€ ü"},

@@ -132,11 +132,7 @@ TEST_F(Editor, ShowsTitlesAndValues) {
     FlashTemplateProperty blank;
     blank.setTitle(QString());
     item("flag")->setValue("enable");
-    const struct {
-        QString column;
-        FlashTemplateProperty* item;
-        QVariant shown;
-    } cases[] = {
+    const std::tuple<QString, FlashTemplateProperty*, QVariant> cases[] = {
         {"key", item("words"), "Title of words"},
         {QString(), item("words"), "Title of words"},
         {"value", item("words"), "Hello"},
@@ -182,11 +178,7 @@ TEST_F(Editor, HasACellForEachKind) {
 }
 
 TEST_F(Editor, TakesWhatCellsDeliver) {
-    const struct {
-        QString key;
-        QVariant object;
-        QString value;
-    } cases[] = {
+    const std::tuple<QString, QVariant, QString> cases[] = {
         {"words", "Good bye", "Good bye"},
         {"words", "", ""},
         {"count", "7", "7"},
