@@ -106,6 +106,7 @@ test('of a long book what was read is kept, all of it for whom asks, and no read
   await page.waitForFunction(() => navigator.serviceWorker.controller);
   await page.keyboard.press('ArrowRight');
   await page.waitForSelector('.page.right[data-page="3"][data-image="ready"]');
+  await page.waitForFunction(() => location.hash !== '');
   // An answer that is there before it is kept.
   await page.evaluate(async () => {
     while (!await caches.match('files/page/3.webp')) await new Promise((resolve) => { setTimeout(resolve, 100); });
