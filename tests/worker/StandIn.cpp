@@ -25,7 +25,6 @@
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
 namespace {
 
@@ -44,14 +43,6 @@ std::map<std::string, std::string> readDeeds(const char* path) {
     return depth < 0 ? 0 : recurseWithoutEnd(depth + 1) + frame[0];
 }
 
-// Far more than a worker may have; then it stops, so that a missing limit shows as a drawn page.
-bool allocateSixGigabytes() {
-    std::vector<std::string> held;
-    for (int i = 0; i < 96; ++i)
-        held.emplace_back(std::size_t{64} << 20, 'x');
-    return true;
-}
-
 bool writeWithoutEnd(const std::string& text, unsigned pauseMicroseconds) {
     for (;; ::usleep(pauseMicroseconds))
         std::cout << text << std::flush;
@@ -68,9 +59,10 @@ bool startProcess() {
     return child > 0;
 }
 
-bool mapsCode() {
-    return ::mmap(nullptr, 4096, PROT_READ | PROT_WRITE | PROT_EXEC, MAP_PRIVATE | MAP_ANONYMOUS,
-                  -1, 0) != MAP_FAILED;
+// Nothing is written there, so that neither the machine's memory nor time ends it.
+bool maps(std::size_t size, int furtherAccess = 0) {
+    return ::mmap(nullptr, size, PROT_READ | PROT_WRITE | furtherAccess,
+                  MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0) != MAP_FAILED;
 }
 
 // Deeds by name. They get the work folder, and return whether they did what they are called.
@@ -81,7 +73,7 @@ const std::map<std::string, std::function<bool(const std::string&)>> known = {
          for (;;)
              asm volatile("");
      }},
-    {"allocate", [](auto&) { return allocateSixGigabytes(); }},
+    {"allocate", [](auto&) { return maps(std::size_t{6} << 30); }},
     {"recurse", [](auto&) { return recurseWithoutEnd(0) != 0; }},
     {"exit", [](auto&) -> bool { std::_Exit(127); }}, // as if it could not be run
     {"trickle", [](auto&) { return writeWithoutEnd("x", 5000); }},
@@ -94,7 +86,7 @@ const std::map<std::string, std::function<bool(const std::string&)>> known = {
      [](auto& folder) { return ::symlink("/etc/passwd", (folder + "/1.jpg").c_str()) == 0; }},
     {"fork", [](auto&) { return startProcess(); }},
     {"execute", [](auto&) { return ::execl("/bin/true", "true", nullptr) == 0; }},
-    {"map-code", [](auto&) { return mapsCode(); }},
+    {"map-code", [](auto&) { return maps(4096, PROT_EXEC); }},
     {"kill-parent", [](auto&) { return ::kill(::getppid(), 0) == 0; }},
     {"trace-parent",
      [](auto&) { return ::ptrace(PTRACE_SEIZE, ::getppid(), nullptr, nullptr) == 0; }},
