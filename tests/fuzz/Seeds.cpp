@@ -17,16 +17,6 @@ QByteArray inUTF16(const QString& text) {
     return QStringEncoder(QStringConverter::Utf16, QStringConverter::Flag::WriteBom)(text);
 }
 
-// The first byte is the number of pages.
-Seeds pageRanges() {
-    return {"\017ALL",
-            "\0051",
-            "\1441-3,5,8-9",
-            "\0013,1-2,1-2",
-            "\377 5-3, 7 ,x,-2,2-",
-            "\0202147483647,-2147483648-1,1-99999999999"};
-}
-
 Seeds textTemplates() {
     return {"<title>${title}</title>",
             QByteArrayLiteral("a ${x} b ${y} c\0x\0ONE\0y\0TWO"),
@@ -34,20 +24,6 @@ Seeds textTemplates() {
             QByteArrayLiteral("a ${x}  ${y} b\0x\0${y}\0y\0}"),
             "a ${open",
             "  blanks  "};
-}
-
-Seeds outlines() {
-    const QByteArray entry = "<o><c>Chapter &amp; verse</c><p>3</p><l>1</l><ci/></o>";
-    QByteArray deep = "<o><c>deepest</c></o>";
-    for (int depth = 0; depth < 12; ++depth)
-        deep = "<o><c>d</c><p>1</p><l>2</l><ci>" + deep + "</ci></o>";
-    return {"<ols/>",
-            "<ols>" + entry + entry + "</ols>",
-            "<ols>" + deep + "</ols>",
-            "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<ols>\n <o><c><![CDATA[ a<b ]]></c>"
-            "<p>-1</p><l> 07x</l><ci><o/></ci><ci><o><c>  </c></o></ci></o>\n</ols>",
-            "<ols><o><c>&#x1F4D6;&#13;&lt;</c></o><x/></ols>",
-            "<o><c>no list</c></o>"};
 }
 
 Seeds settings() {
@@ -168,15 +144,9 @@ Seeds documents() {
 int main(int argc, char** argv) {
     QHashSeed::setDeterministicGlobalSeed();
     const std::pair<const char*, Seeds> sets[] = {
-        {"PageRange", pageRanges()},
-        {"TextTemplate", textTemplates()},
-        {"OutlineXML", outlines()},
-        {"SettingsFile", settings()},
-        {"TemplateXML", templates()},
-        {"Codecs", codecs()},
-        {"PDFSerialization", facts()},
-        {"PDFImport", documents()},
-        {"ColorText", {"0x000000", "0xffFFff", "0x7F8081", " 0Xabc", "12345678", "#c0ffee"}}};
+        {"TextTemplate", textTemplates()}, {"SettingsFile", settings()},
+        {"TemplateXML", templates()},      {"Codecs", codecs()},
+        {"PDFSerialization", facts()},     {"PDFImport", documents()}};
     if (argc != 3)
         return 2;
     const QDir root(QFile::decodeName(argv[1]));
