@@ -63,11 +63,6 @@ TEST_F(AppTest, TheNameLosesItsExtension) {
     EXPECT_EQ(publisher("Vol. 2.html")->outputFileName(), book.folder() + "/Vol. 2.app");
 }
 
-TEST_F(AppTest, MakesTheFolderThatTheBundleLiesIn) {
-    publisher("Book", "/a/b")->ouputTheBook();
-    EXPECT_TRUE(book.exists("a/b/Book.app/Contents/Resources/index.html"));
-}
-
 TEST_F(AppTest, NothingOfAnEarlierBundleRemains) {
     book.write("Book.app/Contents/Resources/files/page/7.jpg", "old");
     book.write("Book.app/left.txt", "old");
@@ -104,12 +99,4 @@ TEST_F(AppTest, AnEarlierBundleSurvivesARunThatFailsOrIsCancelled) {
     cancelled->ouputTheBook();
     EXPECT_TRUE(cancelled->wasCancelled());
     EXPECT_EQ(BookReader::contentsBeneath(book.folder()), before);
-}
-
-TEST_F(AppTest, AFolderThatCannotBeMadeIsReported) {
-    book.write("file", "x");
-    const auto output = publisher("Book", "/file/in");
-    output->ouputTheBook();
-    EXPECT_EQ(output->publishErrors().size(), 1);
-    EXPECT_EQ(book.read("file"), "x");
 }

@@ -44,33 +44,12 @@ TEST(FolveroOutput, WritesAWholeBook) {
 
 TEST(FolveroOutput, NamesItsFilesAfterTheFolderAndTheName) {
     PublishedBook book;
-    EXPECT_EQ(book.publisher()->outputHTMLFileName(), book.folder() + "/index.html");
-    EXPECT_EQ(book.publisher("")->outputHTMLFileName(), book.folder());
     const auto named = book.publisher("book.html");
     EXPECT_EQ(named->outputFileName(), book.folder() + "/book.html");
     EXPECT_EQ(named->outputSWFName(), book.folder() + "/book.swf");
     named->ouputTheBook();
     EXPECT_TRUE(book.exists("book.html"));
     EXPECT_FALSE(book.exists("index.html"));
-}
-
-TEST(FolveroOutput, CopiesTheTemplatesPageWithoutHTMLSettings) {
-    PublishedBook book;
-    book.HTMLConfig.reset();
-    book.write("index.html", "old");
-    book.publish();
-    EXPECT_EQ(book.read("index.html"), "<title>${index.title}</title>");
-
-    QFile::remove(book.flashTemplate->tmplHTMLFilePath());
-    book.publish();
-    EXPECT_FALSE(book.exists("index.html"));
-}
-
-TEST(FolveroOutput, DoesNothingWithoutItsFolder) {
-    PublishedBook book;
-    QDir(book.folder()).removeRecursively();
-    book.publish();
-    EXPECT_FALSE(book.exists(""));
 }
 
 TEST(FolveroOutput, ReplacesPagesAndSettingsFilesButNotFilesOfLinks) {
@@ -103,20 +82,17 @@ TEST(FolveroOutput, RemovesLeftoversOfClearedSettings) {
 TEST(FolveroOutput, CopiesSettingsFilesAtAnyDepthButNotBelowAMissingOne) {
     PublishedBook book;
     const QString file = book.addSource("a.png", "a");
-    const QString missing = book.sourcePath("missing.png");
     book.library.addTemplate(
         "float",
         fileProperty("top", file, fileProperty("below", file)) +
-            fileProperty("topMissing", missing, fileProperty("belowTopMissing", file)) +
             TemplateLibrary::composite(
-                "group", fileProperty("missing", missing, fileProperty("belowMissing", file)) +
+                "group", fileProperty("missing", book.sourcePath("missing.png"),
+                                      fileProperty("belowMissing", file)) +
                              fileProperty("empty", QString(), fileProperty("belowEmpty", file))));
     book.flashTemplate->loadTemplate("float");
     book.write("files/extfiles/missing.png", "old");
-    book.write("files/extfiles/topMissing.png", "old");
     book.publish();
-    EXPECT_EQ(book.files("files/extfiles"),
-              "below.png belowEmpty.png belowTopMissing.png moveSound.mp3 top.png");
+    EXPECT_EQ(book.files("files/extfiles"), "below.png belowEmpty.png moveSound.mp3 top.png");
 }
 
 TEST(FolveroOutput, LeavesOutAMissingPageAndSaysWhich) {
@@ -132,68 +108,39 @@ TEST(FolveroOutput, LeavesOutAMissingPageAndSaysWhich) {
     EXPECT_EQ(book.files("files/page"), "2.jpg");
 }
 
-TEST(FolveroOutput, DropsEarlierPlayerFilesThatTheTemplateLacks) {
-    PublishedBook book;
-    book.publish();
-    QFile::remove(book.library.templatePath("float") + "/book.swf");
-    book.publish();
-    EXPECT_FALSE(book.exists("book.swf"));
-    EXPECT_TRUE(book.exists("files/extfiles/moveSound.mp3"));
-}
-
 TEST(FolveroOutput, NeverWritesOutsideItsFolder) {
     PublishedBook book;
     const QString file = book.addSource("a.png", "a");
     book.library.addTemplate(
         "float", fileProperty("../../../evil", file) + fileProperty("", "/x/.hidden") +
-                     fileProperty(".", book.addSource("b", "b")) + fileProperty("a..b", file));
+                     fileProperty(".", book.addSource("b", "b")) + fileProperty("a..b", file) +
+                     fileProperty("run", book.addSource("c.php", "c")) +
+                     fileProperty(QString(252, 'x'), file));
     book.flashTemplate->loadTemplate("float");
     book.annotations->setNeedFiles({file + "/..", "/", QString()});
     book.publisher("../escaped.html")->ouputTheBook();
     EXPECT_EQ(book.files(".."), "book/book.swf book/files/UserConfig.bin book/files/UserConfig.js "
                                 "book/files/extfiles/a..b.png book/files/extfiles/moveSound.mp3 "
-                                "sources/a.png sources/b");
-}
-
-TEST(FolveroOutput, GivesNoFileANameThatOthersCouldMisuse) {
-    PublishedBook book;
-    const QString file = book.addSource("a.png", "a");
-    const QString long250(250, u'x');
-    book.library.addTemplate(
-        "float",
-        fileProperty(".htaccess", file) + fileProperty("", book.addSource("b.htaccess", "b")) +
-            fileProperty("..\\..\\evil", file) + fileProperty("/etc/passwd", file) +
-            fileProperty("a&#10;b", file) + fileProperty("web", book.addSource("c.config", "c")) +
-            fileProperty("run", book.addSource("d.php", "d")) + fileProperty("NUL", file) +
-            fileProperty(long250 + "xx", file) + fileProperty(long250, file) +
-            fileProperty("Bild \u00fc 1", file));
-    book.flashTemplate->loadTemplate("float");
-    book.publish();
-    EXPECT_EQ(book.files("files/extfiles"), "Bild \u00fc 1.png moveSound.mp3 " + long250 + ".png");
+                                "sources/a.png sources/b sources/c.php");
 }
 
 TEST(FolveroOutput, ReplacesLinksThatLieInItsFolder) {
     PublishedBook book(fileProperty("mainbgImgUrl", QString()));
     book.addPage("1.jpg", 1, "page");
-    book.annotations->setNeedFiles({book.addSource("clip.mp4", "clip")});
     const QTemporaryDir outside;
-    for (const char* name : {"secret", "page/1.jpg", "pageConfig/clip.mp4", "mainbgImgUrl.png"})
+    for (const char* name : {"secret", "page/1.jpg", "mainbgImgUrl.png"})
         TestFiles::write(outside.filePath(name), "kept");
     const std::map<QString, QString> links{
-        {"index.html", "secret"},           {"book.swf", "secret"},
-        {"files/UserConfig.bin", "secret"}, {"files/page", "page"},
-        {"files/pageConfig", "pageConfig"}, {"files/extfiles", ""}};
+        {"index.html", "secret"}, {"files/page", "page"}, {"files/extfiles", ""}};
     QDir(book.folder()).mkdir("files");
     for (const auto& [name, target] : links)
         ASSERT_TRUE(QFile::link(outside.filePath(target), book.folder() + '/' + name));
     book.publish();
-    EXPECT_EQ(book.read("files/page/1.jpg") + book.read("files/pageConfig/clip.mp4"), "pageclip");
+    EXPECT_EQ(book.read("files/page/1.jpg"), "page");
     for (const auto& [name, target] : links)
         EXPECT_FALSE(QFileInfo(book.folder() + '/' + name).isSymLink()) << name.toStdString();
-    const std::map<QString, QByteArray> kept{{"mainbgImgUrl.png", "kept"},
-                                             {"page/1.jpg", "kept"},
-                                             {"pageConfig/clip.mp4", "kept"},
-                                             {"secret", "kept"}};
+    const std::map<QString, QByteArray> kept{
+        {"mainbgImgUrl.png", "kept"}, {"page/1.jpg", "kept"}, {"secret", "kept"}};
     EXPECT_EQ(BookReader::contentsBeneath(outside.path()), kept);
 }
 
@@ -216,53 +163,6 @@ TEST(FolveroOutput, SharesOnlyPageFilesOfItsOwn) {
     // Once more over the same file.
     book.publish();
     EXPECT_EQ(book.read("files/page/1.jpg"), "another");
-}
-
-class ZoomedOutput : public FolveroOutput {
-public:
-    using FolveroOutput::FolveroOutput;
-    void separateZoomedPages() { iZoomedPageSameAsNormalPage = false; }
-};
-
-TEST(FolveroOutput, WritesSeparateZoomedPagesOnlyIntoAnExistingFolder) {
-    PublishedBook book;
-    book.addPage("3.jpg", 3, "three");
-    book.pageSource->setZoomedPages(book.pageSource->pages());
-    ZoomedOutput output(book.pageSource, book.flashTemplate, book.folder(), QString());
-    output.separateZoomedPages();
-    output.prepaireZoomendPage("");
-    EXPECT_FALSE(book.exists("files/large"));
-    QDir(book.folder()).mkpath("files/large");
-    output.prepaireZoomendPage("");
-    EXPECT_EQ(book.read("files/large/3.swf"), "three");
-    EXPECT_EQ(output.getZoomedPageURL(*book.pageSource->pages().front()), "page/3.jpg");
-
-    book.addSource("3.jpg", "changed");
-    output.prepaireZoomendPage("");
-    EXPECT_EQ(book.read("files/large/3.swf"), "three");
-}
-
-TEST(FolveroOutput, RunsAStepByItselfInAnyBaseFolder) {
-    PublishedBook book;
-    book.addPage("1.jpg", 1, "one");
-    const QString base = book.folder() + "/else/where";
-    book.publisher()->prepaireNomalPage(base);
-    EXPECT_EQ(book.files(), "else/where/files/page/1.jpg");
-}
-
-TEST(FolveroOutput, TakesAnyBaseOfOtherFilesForTheCurrentFolder) {
-    PublishedBook book(fileProperty("key", QString()));
-    book.flashTemplate->setPropertyValue("key", book.addSource("a.png", "a"));
-    book.annotations->setNeedFiles({book.addSource("clip.mp4", "clip")});
-    book.write("current/files/extfiles/mainbgImgUrl.png", "left over");
-    const QString before = QDir::currentPath();
-    ASSERT_TRUE(QDir::setCurrent(book.folder() + "/current"));
-    const auto output = book.publisher();
-    output->prepaireExtFiles("/somewhere/else");
-    output->PrepareAnnotationFiles("/somewhere/else");
-    output->removeExtFiles("/somewhere/else");
-    QDir::setCurrent(before);
-    EXPECT_EQ(book.files(), "current/files/extfiles/key.png current/files/pageConfig/clip.mp4");
 }
 
 TEST(FolveroOutput, ReportsTheTitleOfTheBookThatItWouldReplace) {

@@ -25,17 +25,4 @@ TEST_F(HTMLPage, HoldsTitleKeywordsAndDescriptionInUtf8) {
               "<t>B\u00fccher</t>\n<k>k1,k2</k><d>about</d>\u00e9");
 }
 
-TEST_F(HTMLPage, IsEmptyWhenTheTemplateCannotBeRead) {
-    TestFiles::write(path("index.html"), "old");
-    EXPECT_TRUE(info.generateHTMLFrom(path("missing.html"), path("index.html")));
-    EXPECT_EQ(TestFiles::read(path("index.html")), "");
-}
-
-TEST_F(HTMLPage, ReportsAFailedWrite) {
-    TestFiles::write(path("t.html"), "text");
-    Message error;
-    EXPECT_FALSE(info.generateHTMLFrom(path("t.html"), path("no/folder/index.html"), &error));
-    EXPECT_FALSE(error.isNull());
-}
-
 } // namespace

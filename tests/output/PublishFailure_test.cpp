@@ -91,16 +91,6 @@ TEST_F(ChangedBook, StaysWholeWhenAPageCannotBeWritten) {
     EXPECT_EQ(book.read("files/page/1.jpg"), "new");
 }
 
-TEST_F(ChangedBook, StaysWholeWhenTheConfigurationCannotBeWritten) {
-    book.pageSource->setNormalPages({});
-    const RecordedLog log;
-    publishWithLimit(1000);
-    EXPECT_TRUE(log.texts().contains("Could not write document out..."));
-    ASSERT_EQ(output->publishErrors().size(), 1);
-    EXPECT_TRUE(output->publishErrors()[0].contains("UserConfig.bin"));
-    expectUntouched();
-}
-
 TEST_F(ChangedBook, StaysWholeWhenTheRunIsCancelled) {
     int filesToGo = 0;
     output->setCancelled([&] { return filesToGo-- == 0; });
@@ -140,14 +130,6 @@ TEST_F(ChangedBook, IsRolledBackWhenTheLastStepsFail) {
     expectUntouched();
 }
 
-TEST_F(ChangedBook, StaysWholeInAFolderThatIsReadOnly) {
-    if (::geteuid() != 0)
-        GTEST_SKIP() << "needs root to be two users";
-    publishAsOrdinaryUser();
-    EXPECT_EQ(output->publishErrors(), QStringList{book.folder() + ": Permission denied"});
-    expectUntouched();
-}
-
 TEST(ouputBookXML, LogsToTheSystemWhenItsFolderIsMissing) {
     const PublishedBook book;
     const RecordedLog log;
@@ -156,12 +138,6 @@ TEST(ouputBookXML, LogsToTheSystemWhenItsFolderIsMissing) {
     EXPECT_TRUE(log.texts().contains("Could not write document out..."));
     EXPECT_EQ(output->publishErrors().size(), 1);
     EXPECT_FALSE(book.exists("no"));
-}
-
-TEST(ouputBookXML, WritesBothFormsUnderTheGivenName) {
-    const PublishedBook book;
-    book.publisher()->ouputBookXML(book.folder() + "/My.bin");
-    EXPECT_EQ(book.files(), "My.bin My.js");
 }
 
 } // namespace

@@ -34,8 +34,6 @@ const EVP_CIPHER* rc4() {
 BookElement readElement(QXmlStreamReader& reader) {
     BookElement element;
     element.name = reader.name().toString();
-    for (const QXmlStreamAttribute& attribute : reader.attributes())
-        element.attributes[attribute.name().toString()] = attribute.value().toString();
     QString text;
     while (!reader.atEnd() && reader.readNext() != QXmlStreamReader::EndElement) {
         if (reader.isStartElement())

@@ -10,7 +10,6 @@
 struct BookElement {
     QString name;
     QString text;
-    std::map<QString, QString> attributes;
     std::vector<BookElement> children;
 
     QStringList childNames() const;
