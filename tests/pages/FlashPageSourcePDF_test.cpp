@@ -95,17 +95,6 @@ TEST_F(FlashPageSourcePDFTest, DrawsInThisProcessWithoutWorkers) {
     EXPECT_TRUE(converter.failedPages().empty());
 }
 
-TEST_F(FlashPageSourcePDFTest, UsesAReadyPageFileInsteadOfDrawing) {
-    fill(3);
-    const auto pages = source();
-    QFile ready(folderOf(*pages) + "/2.swf");
-    ASSERT_TRUE(ready.open(QIODevice::WriteOnly));
-    pages->generatePages();
-    EXPECT_EQ(pages->getPageAtIndex(1)->pageFilePath(), ready.fileName());
-    EXPECT_EQ(QDir(folderOf(*pages)).entryList(QDir::Files),
-              (QStringList{"1.jpg", "2.swf", "3.jpg"}));
-}
-
 TEST_F(FlashPageSourcePDFTest, DeletesItsWorkFolderWhenItGoes) {
     fill(1);
     auto pages = source();
@@ -114,38 +103,6 @@ TEST_F(FlashPageSourcePDFTest, DeletesItsWorkFolderWhenItGoes) {
     ASSERT_TRUE(QFileInfo::exists(folder));
     pages.reset();
     EXPECT_FALSE(QFileInfo::exists(folder));
-}
-
-TEST_F(FlashPageSourcePDFTest, ThrowsForAPageThatTheDocumentLacks) {
-    fill(2);
-    const auto pages = source("1-3");
-    EXPECT_THROW(pages->generatePages(), PlatformException);
-    EXPECT_EQ(pages->pages().size(), 2U);
-}
-
-TEST_F(FlashPageSourcePDFTest, ListsAPageThatCannotBeDrawnAndGoesOn) {
-    fill(1);
-    // An empty branch that counts as a page: MuPDF finds none when it comes to it.
-    builder.setObject(builder.pageObject(builder.addMissingPage()),
-                      "<< /Type /Pages /Count 1 /Kids [] >>");
-    fill(1);
-    const auto pages = source();
-    pages->generatePages();
-    ASSERT_EQ(pages->pages().size(), 3U);
-    EXPECT_FALSE(QFileInfo::exists(pages->pages()[1]->pageFilePath()));
-    EXPECT_TRUE(QFileInfo::exists(pages->pages()[2]->pageFilePath()));
-    const auto& failed = pages->toPageConverter()->failedPages();
-    ASSERT_EQ(failed.size(), 1U);
-    EXPECT_EQ(failed[0].page, 2);
-    EXPECT_FALSE(failed[0].reason.isNull());
-}
-
-TEST_F(FlashPageSourcePDFTest, StaysEmptyWithoutADocument) {
-    FlashPageSourcePDF pages("none.pdf", "ALL", 144, 100);
-    pages.generatePages();
-    EXPECT_TRUE(pages.pages().empty());
-    EXPECT_EQ(pages.toPageConverter()->PDFDoc(), nullptr);
-    EXPECT_EQ(pages.openError().english(), "none.pdf: no such file");
 }
 
 TEST_F(FlashPageSourcePDFTest, CompressesStronglyBelowTheBestQuality) {

@@ -3,15 +3,12 @@
 #include "builder/PDFBuilder.h"
 #include "output/FolveroOutputWeb.h"
 #include "platform/NotificationCenter.h"
-#include "support/ChildProcesses.h"
 #include "support/RecordedLog.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <csignal>
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace {
 
@@ -62,7 +59,6 @@ void expectNoResults(const ImportPDFOperation& operation) {
 } // namespace
 
 TEST_F(ImportPDFOperationTest, LeavesOutWhatWasNotAskedFor) {
-    const RecordedLog log;
     const auto operation = import("ALL", false);
     operation->main();
     ASSERT_TRUE(operation->flashPageSource());
@@ -70,9 +66,6 @@ TEST_F(ImportPDFOperationTest, LeavesOutWhatWasNotAskedFor) {
     EXPECT_FALSE(operation->flashPagesAnnotation());
     EXPECT_FALSE(operation->flashOutline());
     EXPECT_TRUE(operation->failures().isEmpty());
-    EXPECT_EQ(log.texts().filter("generate"),
-              (QStringList{"before generate pages", "after generate pages",
-                           "before generateNormalPages", "after generateNormalPages"}));
 }
 
 TEST_F(ImportPDFOperationTest, ReadsLinksAndBookmarksWhenAskedToAndReportsWhenItIsFinished) {
@@ -103,24 +96,6 @@ TEST_F(ImportPDFOperationTest, DropsThePagesWhenOneIsMissingAndStillListsPagesFo
     EXPECT_TRUE(operation->flashOutline()->items().empty());
 }
 
-TEST_F(ImportPDFOperationTest, GoesOnWithoutLinksAndBookmarksThatCannotBeRead) {
-    const RecordedLog log(Log::Level::error);
-    const auto operation = import("1");
-    const auto observer = atEachStep([&](int step) {
-        if (step == 1)
-            return; // the pages are checked once more
-        QFile::remove(iPath);
-        for (const pid_t reader : ChildProcesses::running("read", ::getpid()))
-            ::kill(reader, SIGKILL);
-    });
-    operation->main();
-    EXPECT_THAT(
-        log.texts().join('\n').toStdString(),
-        testing::AllOf(testing::HasSubstr("Run Import PDF Operation error,import links:"),
-                       testing::HasSubstr("Run Import PDF Operation error,import outline:")));
-    expectNoResults(*operation);
-}
-
 TEST_F(ImportPDFOperationTest, ReportsPagesThatCannotBeReadAndUsesTheOthers) {
     PDFBuilder builder;
     builder.setObject(builder.pageObject(builder.addMissingPage()),
@@ -149,7 +124,6 @@ TEST_F(ImportPDFOperationTest, EmptiesItsResultsWhenCancelled) {
     beforehand->main();
     expectNoResults(*beforehand);
 
-    const RecordedLog log;
     const auto underway = import();
     int steps = 0;
     const auto observer = atEachStep([&](int step) {
@@ -159,22 +133,6 @@ TEST_F(ImportPDFOperationTest, EmptiesItsResultsWhenCancelled) {
     underway->main();
     EXPECT_EQ(steps, 1); // no further pages
     expectNoResults(*underway);
-    EXPECT_EQ(log.texts().last(), "import pdf is cancelled");
-}
-
-// The page range is read while the page source is made.
-TEST_F(ImportPDFOperationTest, DrawsNothingWhenCancelledBeforeThereIsAPageSource) {
-    const auto operation = import("1");
-    Log::setWatcher([&](const Log::Record& record) {
-        if (record.text == "range[0]=1")
-            operation->cancel();
-    });
-    int steps = 0;
-    const auto observer = atEachStep([&](int step) { steps = step; });
-    operation->main();
-    Log::setWatcher({});
-    EXPECT_EQ(steps, 0);
-    expectNoResults(*operation);
 }
 
 TEST_F(ImportPDFOperationTest, PassesFaultsOfOursOnWithoutResults) {

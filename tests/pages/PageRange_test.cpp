@@ -1,7 +1,6 @@
 #include "pages/FlashPageSource.h"
 
 #include "platform/PlatformException.h"
-#include "support/RecordedLog.h"
 #include "util/LenientInteger.h"
 
 #include <climits>
@@ -46,11 +45,4 @@ TEST(PageRange, StaysWithin32BitsAndWithinReason) {
     EXPECT_EQ(lenientInteger(u"-99999999999999999999"), INT_MIN);
     EXPECT_EQ(numbersIn("2147483646-2147483647"), "2147483646 2147483647");
     EXPECT_THROW(FlashPageSource::parsePageRange("1-2147483647", 5), PlatformException);
-}
-
-TEST(PageRange, LogsEachNumberUnlessAllAreTaken) {
-    const RecordedLog log;
-    FlashPageSource::parsePageRange("all", 2);
-    FlashPageSource::parsePageRange("7,3", 2);
-    EXPECT_EQ(log.texts(), (QStringList{"range[0]=3", "range[1]=7"}));
 }

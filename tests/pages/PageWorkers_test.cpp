@@ -65,15 +65,6 @@ TEST_F(PageWorkersTest, GoesOnWithAPageHandedBackLongAfterTheOthersRanAhead) {
     }
 }
 
-TEST_F(PageWorkersTest, PassesReasonsAndTimesOn) {
-    const auto workers = start(2, "echo ready\nwhile read page; do\n"
-                                  "if [ $page = 1 ]; then echo fail no such colour; else\n"
-                                  "echo ok 0.5 0.25 0.125; fi\ndone\n");
-    EXPECT_EQ(workers->waitFor(1)->error.english(), "no such colour");
-    const PageTiming timing = workers->waitFor(2)->timing;
-    EXPECT_EQ(timing.draw + timing.encode + timing.write, 0.875);
-}
-
 TEST_F(PageWorkersTest, EndsAPageUnderWayWhenStopped) {
     const auto workers = start(3, "echo ready\nread page\nsleep 100\n");
     iStop = true;

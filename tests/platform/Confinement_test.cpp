@@ -9,13 +9,8 @@
 
 namespace {
 
-struct Case {
-    const char* path; // beneath the style's folder
-    bool stays;
-};
-
 // A style's folder with links of every kind, beside things that are none of its business.
-class ConfinementTest : public testing::TestWithParam<Case> {
+class ConfinementTest : public testing::Test {
 protected:
     ConfinementTest() {
         TestFiles::write(path("style/a.jpg"), "x");
@@ -39,23 +34,21 @@ private:
     QTemporaryDir iRoot;
 };
 
-TEST_P(ConfinementTest, KnowsWhatStaysInTheFolder) {
-    const QString name = path("style/") + QString::fromLatin1(GetParam().path);
-    EXPECT_EQ(Confinement::contains(path("style"), name), GetParam().stays);
-    EXPECT_EQ(Confinement::contains(path("style/"), name), GetParam().stays);
+TEST_F(ConfinementTest, KnowsWhatStaysInTheFolder) {
+    const auto expectAll = [this](std::initializer_list<const char*> names, bool stay) {
+        for (const char* name : names) {
+            EXPECT_EQ(Confinement::contains(path("style"), path("style/") + name), stay) << name;
+            EXPECT_EQ(Confinement::contains(path("style/"), path("style/") + name), stay) << name;
+        }
+    };
+    expectAll({"a.jpg", "", "inner/b.jpg", "inner/../a.jpg", "inner/up.jpg", "within/b.jpg",
+               "missing.jpg", "missing/deep.jpg", "outer/../style/a.jpg"},
+              true);
+    expectAll({"..", "../secret/key", "../style-of-another/a.jpg", "inner/../../secret/key",
+               "../../../../../../../../etc/passwd", "out.jpg", "outer/key", "outer/missing",
+               "outer", "dangling", "loop", "loop/a.jpg", "outer/../missing"},
+              false);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Paths, ConfinementTest,
-    testing::Values(Case{"a.jpg", true}, Case{"", true}, Case{"inner/b.jpg", true},
-                    Case{"inner/../a.jpg", true}, Case{"inner/up.jpg", true},
-                    Case{"within/b.jpg", true}, Case{"missing.jpg", true},
-                    Case{"missing/deep.jpg", true}, Case{"..", false}, Case{"../secret/key", false},
-                    Case{"../style-of-another/a.jpg", false}, Case{"inner/../../secret/key", false},
-                    Case{"../../../../../../../../etc/passwd", false}, Case{"out.jpg", false},
-                    Case{"outer/key", false}, Case{"outer/missing", false}, Case{"outer", false},
-                    Case{"dangling", false}, Case{"loop", false}, Case{"loop/a.jpg", false},
-                    Case{"outer/../style/a.jpg", true}, Case{"outer/../missing", false}));
 
 TEST_F(ConfinementTest, AllowsTheFolderItselfToBeALink) {
     ASSERT_TRUE(QFile::link(path("style"), path("shortcut")));

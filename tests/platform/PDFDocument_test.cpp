@@ -6,7 +6,6 @@
 #include "support/PixelCheck.h"
 #include "support/TemplateLibrary.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -19,11 +18,6 @@ protected:
         return PDFDocument::open(iFolder.filePath("test.pdf"));
     }
     std::shared_ptr<PDFDocument> open() const { return open(builder.build()); }
-
-    QString openFailure(const QByteArray& bytes) const {
-        const auto failure = failureOf([&] { open(bytes); });
-        return QString(failure.reason()).remove(iFolder.path());
-    }
 
     PDFBuilder builder;
 
@@ -45,16 +39,6 @@ QImage draw(const PDFDocument& document, int index, double scale = 1) {
 }
 
 } // namespace
-
-TEST_F(PDFDocumentTest, SaysWhyAFileCannotBeOpened) {
-    builder.addPage(PDFBuilder::page(pageSize));
-    builder.encrypt("secret", "owner");
-    EXPECT_EQ(openFailure(""), "/test.pdf: the file is empty");
-    EXPECT_EQ(openFailure("Dear reader, this is a letter."), "/test.pdf: is not a PDF document");
-    EXPECT_TRUE(openFailure("%PDF-1.4\nnothing").startsWith("/test.pdf: is damaged beyond repair"));
-    EXPECT_EQ(openFailure(builder.build()), "/test.pdf: is protected by a password");
-    EXPECT_THROW(PDFDocument::open(QDir::tempPath()), PlatformException);
-}
 
 TEST_F(PDFDocumentTest, OpensADocumentLockedWithAnEmptyPassword) {
     builder.addPage(PDFBuilder::page(pageSize, redCorner));

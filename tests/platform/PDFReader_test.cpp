@@ -86,13 +86,6 @@ TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
     EXPECT_EQ(answers(PDFSerialization::pack(std::vector{nested(64)})), QString());
 }
 
-TEST_F(PDFReaderTest, PassesReasonsOn) {
-    const auto reason = "none.pdf: is damaged beyond repair (no objects)";
-    const auto failing =
-        reader("echo here\necho 'fail PDFOpenFailed " + QByteArray(reason) + "'\n");
-    EXPECT_EQ(failureOf([&] { failing->open(); }).reason(), reason);
-}
-
 // Then this process would read the file itself, as when there is no such program.
 TEST_F(PDFReaderTest, ReadsNoFileInProcessWhateverTheProgramAnswers) {
     EXPECT_EQ(failureOfOpening("echo here\nexit 127\n"), "PDFReaderEnded");
