@@ -66,28 +66,6 @@ TEST(FlashOutline, ReadsBackWhatItWrites) {
     EXPECT_EQ(first.childItems()[0]->childItems()[0]->parent(), first.childItems()[0].get());
 }
 
-TEST(FlashOutline, RefusesElementsOfAnotherName) {
-    EXPECT_EQ(nameOfFailure("<o/>"), "ERROR_INIT_OUTLINES");
-    EXPECT_EQ(nameOfFailure("<ols><x/></ols>"), QString());
-    EXPECT_THROW(FlashOutline().loadFromXMLNode(pugi::xml_node()), PlatformException);
-    pugi::xml_document document;
-    const auto failure =
-        failureOf([&] { FlashOutlineItem().loadItemFromXMLNode(document.append_child("ols")); });
-    EXPECT_EQ(failure.name(), "ERROR_INIT_OUTLINE_ITEM");
-    EXPECT_EQ(failure.reason(), "Not a flash outline item");
-}
-
-TEST(FlashOutline, KeepsFieldsThatAnElementLacks) {
-    pugi::xml_document document;
-    const auto item = entry("kept", 5, 2);
-    item->addChild(entry("dropped", 1, 3));
-    item->loadItemFromXMLNode(document.append_child("o"));
-    EXPECT_EQ(item->caption(), u"kept");
-    EXPECT_EQ(item->pageIndex(), 5);
-    EXPECT_EQ(item->level(), 2);
-    EXPECT_TRUE(item->childItems().empty());
-}
-
 TEST(FlashOutline, ReadsTheNumberThatATextBeginsWith) {
     for (const auto& [text, number] :
          {std::pair{" \n-3x", -3}, {"+-4", 0}, {"<![CDATA[6]]>7", 67}}) {
@@ -105,15 +83,4 @@ TEST(FlashOutline, RefusesEntriesNestedTooDeep) {
     };
     EXPECT_EQ(nameOfFailure(nested(FlashOutlineItem::maximumDepth)), QString());
     EXPECT_EQ(nameOfFailure(nested(FlashOutlineItem::maximumDepth + 1)), "ERROR_INIT_OUTLINE_ITEM");
-}
-
-TEST(FlashOutlineItem, RemovesAChild) {
-    FlashOutlineItem item;
-    const auto first = entry("a", 1, 1);
-    const auto second = entry("a", 1, 1);
-    item.addChild(first);
-    item.addChild(second);
-    item.removeChild(first);
-    ASSERT_EQ(item.childItems().size(), 1U);
-    EXPECT_EQ(item.childItems()[0], second);
 }
