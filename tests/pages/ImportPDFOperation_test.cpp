@@ -135,6 +135,21 @@ TEST_F(ImportPDFOperationTest, EmptiesItsResultsWhenCancelled) {
     expectNoResults(*underway);
 }
 
+// The page range is read while the page source is made.
+TEST_F(ImportPDFOperationTest, DrawsNothingWhenCancelledBeforeThereIsAPageSource) {
+    const auto operation = import("1");
+    Log::setWatcher([&](const Log::Record& record) {
+        if (record.text == "range[0]=1")
+            operation->cancel();
+    });
+    int steps = 0;
+    const auto observer = atEachStep([&](int step) { steps = step; });
+    operation->main();
+    Log::setWatcher({});
+    EXPECT_EQ(steps, 0);
+    expectNoResults(*operation);
+}
+
 TEST_F(ImportPDFOperationTest, PassesFaultsOfOursOnWithoutResults) {
     const auto operation = import();
     const auto observer = atEachStep([](int /*step*/) { throw std::logic_error("fault"); });

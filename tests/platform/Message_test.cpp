@@ -2,6 +2,7 @@
 
 #include "platform/PDFDocument.h"
 #include "support/FailureOf.h"
+#include "support/Program.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -44,9 +45,11 @@ TEST(Message, NamesErrorsOfTheSystem) {
     EXPECT_EQ(Message::ofSystemError(99999).english(), "Unknown error 99999");
 }
 
+// They come from another process, which speaks English.
 TEST(Message, FailuresOfReadingHaveBothLanguages) {
     const Capitals language;
-    const auto reading = failureOf([&] { PDFDocument::open("/none.pdf"); });
-    EXPECT_EQ(reading.reason(), "/none.pdf: no such file");
-    EXPECT_EQ(reading.message().local(), "/none.pdf: NO SUCH FILE");
+    const QString path = Program::sample("not-a-pdf.pdf");
+    const auto reading = failureOf([&] { PDFDocument::openSandboxed(path); });
+    EXPECT_EQ(reading.reason(), path + ": is not a PDF document");
+    EXPECT_EQ(reading.message().local(), path + ": IS NOT A PDF DOCUMENT");
 }
