@@ -2,7 +2,6 @@
 
 #include "builder/PDFBuilder.h"
 
-#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <ctime>
 #include <gtest/gtest.h>

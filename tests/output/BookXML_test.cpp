@@ -139,9 +139,4 @@ TEST(BookXML, ListsThePagesInOrderUnderTheNamesOfTheirNormalPages) {
     EXPECT_EQ(entries[1].textAt("Normal/ImgPath"), "page/12.swf");
 }
 
-class Nodes : public FolveroOutput {
-public:
-    using FolveroOutput::appendChildPropertyToNode;
-};
-
 } // namespace

@@ -6,7 +6,6 @@
 #include "support/PixelCheck.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

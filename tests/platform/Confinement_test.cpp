@@ -2,7 +2,6 @@
 
 #include "support/TemplateLibrary.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
