@@ -2,6 +2,7 @@ import assert from 'node:assert/strict';
 import { readFile, rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { test } from 'node:test';
+import { faults } from './support/axe.mjs';
 import { colourOf, configurationXml, plainPages, writeConfiguration } from './support/book.mjs';
 import { CONFIG_KEY, rc4 } from './support/rc4.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
@@ -14,31 +15,9 @@ const enciphered = (text) => rc4(Buffer.from(text), CONFIG_KEY);
 /** A book without some of its files. */
 async function bookWithout(...files) {
   const folder = await reader.book({ pages: plainPages(5) });
-  for (const file of files) await rm(path.join(folder, 'files', file), { recursive: true });
+  for (const file of files) await rm(path.join(folder, 'files', file));
   return folder;
 }
-
-test('a book shows its cover, from disk and over http', async () => {
-  const folder = await reader.book({ pages: plainPages(5), title: 'My title' });
-  for (const book of [await reader.openFromDisk(folder), await reader.openOverHttp(folder)]) {
-    assert.deepEqual(await book.pages(), [1]);
-    assert.deepEqual(await book.colourOf('right'), colourOf(1));
-    assert.equal(await book.box('left'), null);
-    assert.equal(await book.page.title(), 'My title');
-    assert.deepEqual(book.errors, []);
-  }
-});
-
-test('a book asks for nothing but its own files', async () => {
-  const book = await reader.openOverHttp(await bookWithout());
-  await book.page.keyboard.press('ArrowRight');
-  await book.waitForPages(2, 3);
-  const own = /^\/(index\.html|files\/UserConfig\.bin|files\/page\/\d\.jpg|files\/extfiles\/moveSound\.mp3)?$/;
-  for (const url of book.requests.filter((one) => !one.startsWith('data:'))) {
-    assert.ok(url.startsWith(book.server.address) && own.test(new URL(url).pathname), url);
-  }
-  assert.ok(book.server.requests.some((request) => request.path === '/files/UserConfig.bin'));
-});
 
 test('a server that withholds the binary file is answered with the script copy', async () => {
   assert.deepEqual(await (await reader.openOverHttp(await bookWithout('UserConfig.bin'))).pages(), [1]);
@@ -59,17 +38,20 @@ test('a page without a file, or with one that is no picture, leaves a note in it
   assert.deepEqual(await book.colourOf('right'), colourOf(5));
 });
 
+const written = (bytes) => (folder) => writeConfiguration(folder, bytes);
 const damages = [
-  ['noise', Buffer.from('this is no configuration'), /damaged/i], ['nothing', Buffer.alloc(0), /damaged/i],
-  ['half of the document', enciphered('<SlidePowerPoint><Properties><Search>No</Sea'), /damaged/i],
-  ['no pages', enciphered('<SlidePowerPoint><Properties/><BackgroundConfig/><Ppts/></SlidePowerPoint>'), /no pages/i],
+  ['a configuration of noise', written(Buffer.from('this is no configuration')), /damaged/i],
+  ['an empty configuration', written(Buffer.alloc(0)), /damaged/i],
+  ['half a configuration', written(enciphered('<SlidePowerPoint><Properties><Search>No</Sea')), /damaged/i],
+  ['no pages', written(enciphered('<SlidePowerPoint><Properties/><Ppts/></SlidePowerPoint>')), /no pages/i],
+  ['no files', (folder) => rm(path.join(folder, 'files'), { recursive: true }), /incomplete/i],
 ];
-for (const [name, bytes, words] of damages) {
-  test(`a configuration of ${name} is explained to the reader`, async () => {
+for (const [name, damage, words] of damages) {
+  test(`a book with ${name} says so`, async () => {
     const folder = await bookWithout();
-    await writeConfiguration(folder, bytes);
+    await damage(folder);
     assert.match(await messageOf(await reader.openFromDisk(folder)), words);
-    assert.match(await messageOf(await reader.openOverHttp(folder)), words);
+    assert.match(await messageOf(await reader.openOverHttp(folder, { view: PHONE })), words);
   });
 }
 
@@ -80,12 +62,6 @@ test('bytes after the document, and blanks in it, do no harm', async () => {
   assert.equal(await book.page.evaluate(() => window.folvero.pageCount), 2);
 });
 
-test('a book without its files folder says what is missing', async () => {
-  const folder = await bookWithout('');
-  assert.match(await messageOf(await reader.openFromDisk(folder)), /incomplete/i);
-  assert.match(await messageOf(await reader.openOverHttp(folder, { view: PHONE })), /incomplete/i);
-});
-
 test('a book may be asked for again where that can help', async () => {
   const folder = await bookWithout('UserConfig.bin', 'UserConfig.js');
   const fromDisk = await reader.openFromDisk(folder);
@@ -93,6 +69,7 @@ test('a book may be asked for again where that can help', async () => {
   const book = await reader.openOverHttp(folder);
   const again = book.page.locator('.message button');
   assert.equal(await again.innerText(), 'Try again');
+  assert.deepEqual(await faults(book), []);
   await writeConfiguration(folder, enciphered(configurationXml(3)));
   await again.click();
   await book.page.waitForSelector('#folvero[data-state="ready"]');

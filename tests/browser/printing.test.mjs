@@ -49,8 +49,10 @@ for (const [name, choose, wanted] of choices) {
   });
 }
 
-test('a page fills its sheet, and nothing else of the player is printed', async () => {
-  const book = await open(await reader.book({ pages: plainPages(3, 160, 120) }), { hash: '#page=2' });
+test('a page fills its sheet, or leaves a note on it, and nothing else of the player is printed', async () => {
+  const folder = await reader.book({ pages: plainPages(3, 160, 120) });
+  await rm(path.join(folder, 'files/page/3.jpg'));
+  const book = await open(folder, { hash: '#page=2' });
   await book.page.keyboard.press('p');
   await book.page.locator('.print-panel .main-button').click();
   await printed(book);
@@ -59,6 +61,7 @@ test('a page fills its sheet, and nothing else of the player is printed', async 
   const { width, height } = await book.page.locator('.sheet img').first().boundingBox();
   assert.deepEqual([width, height], [page.width, page.height]);
   assert.equal(await book.page.locator('#folvero').isVisible(), false);
+  assert.equal(await book.page.locator('.sheet').nth(1).textContent(), 'Page 3 could not be shown');
   const [[wide, high]] = await onPaper(book);
   assert.ok(wide > high, `the sheet lies as the page does: ${wide} by ${high}`);
 });
@@ -79,14 +82,4 @@ test('page numbers that name no pages are explained', async () => {
 test("the browser's own command prints the pages in view", async () => {
   const book = await open(await reader.book({ pages: plainPages(6) }), { hash: '#page=4' });
   assert.equal((await onPaper(book)).length, 2);
-});
-
-test('a page without a file leaves a note on its sheet', async () => {
-  const folder = await reader.book({ pages: plainPages(3) });
-  await rm(path.join(folder, 'files/page/3.jpg'));
-  const book = await open(folder, { hash: '#page=2' });
-  await book.page.keyboard.press('p');
-  await book.page.locator('.print-panel .main-button').click();
-  await printed(book);
-  assert.equal(await book.page.locator('.sheet').nth(1).textContent(), 'Page 3 could not be shown');
 });

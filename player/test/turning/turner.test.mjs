@@ -3,7 +3,6 @@ import { test } from 'node:test';
 import { clock } from '../support/browser.mjs';
 import { Table } from '../support/table.mjs';
 
-const { FaceCache } = await import('../../src/book/facecache.js');
 const { Leaf } = await import('../../src/turning/leaf.js');
 
 test('a turn takes the time that the book says, and a page let go that to fall back', () => {
@@ -71,28 +70,34 @@ test('a leaf has the pages of both views on it, and others beneath', () => {
   }
 });
 
-test('a machine that does not keep up draws leaves more coarsely', () => {
-  const table = new Table({ count: 40, page: 1 });
-  window.devicePixelRatio = 2;
-  table.turner.resized();
-  for (const [pace, density] of [[16, 2], [40, 1.5], [40, 1], [40, 1]]) {
-    globalThis.requestAnimationFrame = (act) => clock.after(act, pace);
-    table.key('ArrowRight');
-    clock.run(5000);
-    assert.equal(table.turner.density, density);
+test('no order of what readers do jams the pages', () => {
+  const keys = ['ArrowRight', 'ArrowLeft', 'PageDown', 'PageUp', ' ', 'End', 'Home', '+', '0'];
+  let state = 7;
+  const below = (end) => {
+    state = (state * 1664525 + 1013904223) % 2 ** 32;
+    return Math.floor((state / 2 ** 32) * end);
+  };
+  for (let round = 0; round < 60; round += 1) {
+    const table = new Table({ count: 15, look: { turn: ['curl', 'flip', 'slide'][round % 3] }, rightToLeft: round % 2 > 0 });
+    const { book, turner } = table;
+    const place = () => [below(1280), below(800)];
+    const resize = (width) => {
+      book.root.clientWidth = width;
+      turner.settle();
+      const [page] = table.pagesNow;
+      book.resize();
+      turner.resized();
+      turner.stand(book.views.viewOf(page));
+    };
+    const actions = [() => table.key(keys[below(keys.length)]), () => table.tap(...place()), () => table.wheel({ deltaY: 60 }),
+      () => table.drag([place(), place(), place()]), () => table.pointer('move', ...place()),
+      () => turner.go(below(15)), () => resize([1280, 330][below(2)])];
+    for (let step = 0; step < 30; step += 1) {
+      actions[below(actions.length)]();
+      clock.run(below(400));
+    }
+    clock.run(20000);
+    for (const key of ['0', 'Home', 'PageDown']) table.key(key);
+    assert.deepEqual([...table.pages, turner.turning], [2, ...(book.layout.spread ? [3] : []), false], `round ${round}`);
   }
-});
-
-test('pictures of pages are drawn once, and few are kept', () => {
-  const cache = new FaceCache();
-  const drawn = [];
-  const get = (...pages) => pages.map((page) => cache.get(page, 'left', (canvas) => drawn.push([page, canvas])));
-  get(1, 2, 3, 4, 5, 6, 7, 8, 1, 2, 9, 3);
-  assert.deepEqual(drawn.map(([page]) => page), [1, 2, 3, 4, 5, 6, 7, 8, 9, 3]);
-  assert.equal(drawn[8][1], drawn[2][1], 'the canvas that has not been used for longest is used again');
-  cache.drop(1);
-  get(1, 2);
-  cache.clear();
-  get(2);
-  assert.deepEqual(drawn.slice(10).map(([page]) => page), [1, 2]);
 });

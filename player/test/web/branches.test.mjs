@@ -1,6 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { above, flat, itemOf, itemOfPage, nextTyped, seenFor } from '../../web/branches.js';
+import { above, flat, itemOf, itemOfPage, seenFor } from '../../web/branches.js';
 
 const entry = (title, position, ...children) => ({ title, position, children });
 const items = [
@@ -28,11 +28,4 @@ test('a page belongs to the last entry that begins before it', () => {
   const places = [[0, undefined], [1, 'Preface'], [2, 'Appendix'], [4, 'River'], [6, 'Deep water'], [8, 'Harbour'],
     [20, 'Rest']];
   for (const [page, title] of places) assert.equal(titleOf(itemOfPage(all, page)), title, String(page));
-});
-
-test('letters lead to the next entry that begins with them', () => {
-  const from = (title, typed) => titleOf(nextTyped(items, items.indexOf(named(title)), typed));
-  assert.deepEqual([from('Preface', 'f'), from('Preface', 's'), from('Rest', 'p'), from('Preface', 'p'),
-    from('Preface', 'pr'), from('First part', 's'), from('Preface', 'x')],
-    ['First part', 'Second part', 'Preface', 'Preface', 'Preface', 'Second part', undefined]);
 });

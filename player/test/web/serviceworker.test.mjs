@@ -141,11 +141,6 @@ test('no file of another edition is kept or given, and none of an earlier one on
   assert.equal(await next.get(ONE, 'reader'), 0);
   assert.equal(await next.get(ONE, 'newcomer'), `${ONE} of bb`);
   assert.equal(world.stores.size, 1, 'the earlier edition is gone');
-  // A server that alters each file on its way is left alone.
-  const altered = new World();
-  const other = await altered.install('aa', pages('aa'));
-  Object.assign(altered.files, pages('elsewhere'));
-  assert.deepEqual([await other.get(ONE), altered.kept('aa')], [`${ONE} of elsewhere`, []]);
 });
 
 test('a new edition takes over what is the same, what was wanted, and fetches what was read', async () => {

@@ -1,7 +1,7 @@
 import puppeteer from 'puppeteer-core';
 import { findProgram } from './programs.mjs';
 
-export const DESK = { width: 1280, height: 800 };
+const DESK = { width: 1280, height: 800 };
 export const PHONE = { width: 390, height: 844 };
 
 /** Path of Debian's Firefox, null where it is not installed. */
@@ -19,10 +19,10 @@ export async function launchFirefox(executablePath) {
  * Opens a book's address, as a reader who has never read it, and waits until the player says that
  * it is ready or tells an error.
  */
-export async function openBook(browser, address, viewport) {
+export async function openBook(browser, address) {
   const context = await browser.createBrowserContext();
   const page = await context.newPage();
-  await page.setViewport(viewport);
+  await page.setViewport(DESK);
   const errors = [];
   page.on('pageerror', (error) => errors.push(error.message));
   page.on('console', (message) => { if (/error|warn/.test(message.type())) errors.push(message.text()); });
@@ -49,17 +49,9 @@ class FirefoxBook {
       { timeout: 60000 }, String(pages));
   }
 
-  /** The picture that the first page on the screen shows: its file and whether it can be seen. */
+  /** File of the picture that the first page on the screen shows, once it is there. */
   picture() {
-    return this.page.$eval('.page:not([hidden]) img', (image) => {
-      const { width, height } = image.getBoundingClientRect();
-      return { file: image.src.split('/').at(-1), seen: image.naturalWidth > 0 && width > 50 && height > 50 };
-    });
-  }
-
-  async box(side) {
-    const { x, y, width, height } = await (await this.page.$(`.page.${side}`)).boundingBox();
-    return { x, y, width, height };
+    return this.page.$eval('.page:not([hidden]) img', (image) => image.naturalWidth > 0 && image.src.split('/').at(-1));
   }
 
   async drag(from, to) {

@@ -1,14 +1,4 @@
-import { deflateSync } from 'node:zlib';
-
-// The Node.js of Debian 12 does not have it in zlib yet.
-function crc32(bytes) {
-  let crc = ~0;
-  for (const byte of bytes) {
-    crc ^= byte;
-    for (let bit = 0; bit < 8; bit += 1) crc = (crc >>> 1) ^ (crc & 1 ? 0xedb88320 : 0);
-  }
-  return ~crc >>> 0;
-}
+import { deflateSync, gzipSync } from 'node:zlib';
 
 const SIGNATURE = Buffer.from([0x89, 0x50, 0x4e, 0x47, 0x0d, 0x0a, 0x1a, 0x0a]);
 
@@ -17,7 +7,8 @@ function chunk(type, data) {
   const result = Buffer.alloc(body.length + 8);
   result.writeUInt32BE(data.length, 0);
   body.copy(result, 4);
-  result.writeUInt32BE(crc32(body), body.length + 4);
+  // A gzip file ends with the checksum that a chunk ends with, and with the length.
+  result.writeUInt32BE(gzipSync(body).readUInt32LE(gzipSync(body).length - 8), body.length + 4);
   return result;
 }
 

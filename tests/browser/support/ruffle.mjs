@@ -100,13 +100,8 @@ class PlayedMovie {
     await this.waitFor(`(state) => !state.lifted && String(state.pages) === '${pages}'`);
   }
 
-  /** Where the page on a side lies in the window. */
-  async box(side) {
-    return (await this.state())[side];
-  }
-
   async middle(side) {
-    const { x, y, width, height } = await this.box(side);
+    const { x, y, width, height } = (await this.state())[side];
     return [x + width / 2, y + height / 2];
   }
 

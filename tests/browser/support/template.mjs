@@ -3,7 +3,7 @@ import path from 'node:path';
 
 const FIELDS = ['key', 'title', 'desc', 'value', 'valueSource', 'defaultValue'];
 const PROPERTY = new RegExp(`<property type="(\\w+)"( aType="\\w*")?>\\s*${
-  FIELDS.map((name) => `<${name}>([^<]*)</${name}>`).join('\\s*')}(?:\\s*<aTitle>([^<]*)</aTitle>)?`, 'g');
+  FIELDS.map((name) => `<${name}>([^<]*)</${name}>`).join('\\s*')}`, 'g');
 
 function plain(text) {
   return text.replaceAll('&lt;', '<').replaceAll('&gt;', '>').replaceAll('&amp;', '&');
@@ -13,7 +13,7 @@ function plain(text) {
 export function readProperties(templateFolder) {
   const xml = readFileSync(path.join(templateFolder, 'flashTemplate.xml'), 'utf8');
   const found = Array.from(xml.matchAll(PROPERTY), ([, type, check, ...texts]) => ({
-    type: check ? 'pt_bool' : type, aTitle: texts.pop(),
+    type: check ? 'pt_bool' : type,
     ...Object.fromEntries(FIELDS.map((name, index) => [name, plain(texts[index])])),
   }));
   const count = xml.split('<property ').length - 1;
