@@ -80,15 +80,7 @@ test('a web book is read on without a connection, and anew when it was published
   assert.equal(await page.title(), 'Second edition');
   await page.keyboard.press('End');
   await page.waitForSelector('.page.right[data-page="5"][data-image="ready"]');
-
-  // A book that does without a worker gets rid of it.
-  await folvero('publish', '--quiet', '--title=Plain', sample('sample'), bookFolder());
-  await startServing();
-  await reload(page);
-  assert.equal(await page.title(), 'Plain');
-  const left = await page.evaluate(async () =>
-    [await caches.keys(), (await navigator.serviceWorker.getRegistrations()).length]);
-  assert.deepEqual([left, errors], [[[], 0], []]);
+  assert.deepEqual(errors, []);
 });
 
 test('of a long book what was read is kept, all of it for whom asks, and no reader gets two', ready, async () => {
