@@ -21,7 +21,13 @@ for (const [key, name] of [['l', 'share'], ['p', 'print'], ['?', 'help']]) {
     assert.equal(await dialog.getAttribute('aria-modal'), 'true');
     for (const step of [...Array(7).fill('Tab'), 'Shift+Tab', 'Shift+Tab', 'Shift+Tab']) {
       await book.page.keyboard.press(step);
-      assert.ok(await dialog.evaluate((element) => element.contains(document.activeElement)), step);
+      const [within, moved] = await dialog.evaluate((element) => {
+        const { activeElement } = document;
+        const { before } = window;
+        window.before = activeElement;
+        return [element.contains(activeElement), activeElement !== before];
+      });
+      assert.ok(within && (moved || name === 'help'), step);
     }
     await book.page.keyboard.press('ArrowRight');
     assert.deepEqual(await book.pages(), [1], 'keys do not reach the book');

@@ -38,6 +38,7 @@ test('thumbnails show the pages and lead to them', async () => {
   await openDrawer(book);
   const ground = await book.page.locator('.drawer').evaluate((one) => getComputedStyle(one, '::before').backgroundColor);
   assert.equal(ground, 'rgb(74, 21, 48)');
+  assert.equal(await book.page.locator('[data-does="thumbs"]').getAttribute('aria-expanded'), 'true');
   for (const page of [1, 2, 7]) assert.deepEqual(await thumbColour(book, page), colourOf(page), `page ${page}`);
   assert.deepEqual(await marked(book), [1]);
   await book.page.locator('#thumb-6').click();
@@ -75,8 +76,10 @@ test('the thumbnails of a book that is read from the right lie from right to lef
   await openDrawer(book);
   const left = async (page) => (await book.page.locator(`#thumb-${page}`).boundingBox()).x;
   assert.ok(await left(1) > await left(2));
-  await book.page.keyboard.press('ArrowLeft');
-  assert.equal(await active(book), 2);
+  for (const [key, page] of [['ArrowLeft', 2], ['ArrowLeft', 3], ['ArrowRight', 2]]) {
+    await book.page.keyboard.press(key);
+    assert.equal(await active(book), page, key);
+  }
   await book.page.keyboard.press('End');
   assert.ok(await left(40) >= 0 && await left(40) < await left(39));
 });

@@ -4,15 +4,8 @@ import { clock } from '../support/browser.mjs';
 import { Table } from '../support/table.mjs';
 
 const { Memory } = await import('../../src/controls/memory.js');
-const { Place, pageInAddress } = await import('../../src/controls/place.js');
+const { Place } = await import('../../src/controls/place.js');
 const { Slideshow } = await import('../../src/controls/slideshow.js');
-
-test('the address names a page', () => {
-  for (const [hash, page] of [['#page=17', 17], ['#a=1&page=3', 3], ['', 0], ['#homepage=3', 0], ['#page=x', 0]]) {
-    globalThis.location.hash = hash;
-    assert.equal(pageInAddress(), page, hash);
-  }
-});
 
 test('the address follows the reader, a jump can be taken back, and of two pages one may be asked for', () => {
   const table = new Table({ page: 1 });

@@ -3,6 +3,7 @@ import { test } from 'node:test';
 import { clock } from '../support/browser.mjs';
 import { Table } from '../support/table.mjs';
 
+const { FaceCache } = await import('../../src/book/facecache.js');
 const { Leaf } = await import('../../src/turning/leaf.js');
 
 test('a turn takes the time that the book says, and a page let go that to fall back', () => {
@@ -100,4 +101,14 @@ test('no order of what readers do jams the pages', () => {
     for (const key of ['0', 'Home', 'PageDown']) table.key(key);
     assert.deepEqual([...table.pages, turner.turning], [2, ...(book.layout.spread ? [3] : []), false], `round ${round}`);
   }
+});
+
+test('a page is drawn once, and again when its picture has changed', () => {
+  const cache = new FaceCache();
+  const drawn = [];
+  const get = (...pages) => pages.forEach((page) => cache.get(page, 'left', () => drawn.push(page)));
+  get(1, 2, 1);
+  cache.drop(1);
+  get(1, 2);
+  assert.deepEqual(drawn, [1, 2, 1]);
 });

@@ -4,7 +4,7 @@ import { findProgram } from './programs.mjs';
 const DESK = { width: 1280, height: 800 };
 export const PHONE = { width: 390, height: 844 };
 
-/** Path of Debian's Firefox, null where it is not installed. */
+/** Path of Debian's Firefox, empty where it is not installed. */
 export const findFirefox = () => findProgram(['firefox-esr', 'firefox']);
 
 /** Firefox as it comes, driven over WebDriver BiDi. */
