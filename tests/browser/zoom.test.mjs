@@ -65,16 +65,6 @@ test('two fingers enlarge about the place between them, and let go without turni
   assert.deepEqual(book.errors, []);
 });
 
-test('a double tap enlarges and turns nothing, and the bar is as it was', async () => {
-  const book = await open({ view: PHONE, hash: '#page=2' });
-  const idle = () => book.page.locator('#folvero').getAttribute('data-idle');
-  const before = await idle();
-  await book.doubleTap(350, 300);
-  await enlarged(book, 2.5);
-  assert.deepEqual(await book.pages(), [2]);
-  assert.equal(await idle(), before);
-});
-
 test('an enlarged page shows all detail of its picture, when the window has changed too', async () => {
   const bytes = png(1200, 1600, (x) => (x % 2 ? [0, 0, 0] : [255, 255, 255]));
   const view = { viewport: { width: 500, height: 700 }, deviceScaleFactor: 2 };

@@ -180,14 +180,6 @@ class OpenBook {
     await mouse.up();
   }
 
-  /** Two taps of a finger, one right after the other. */
-  async doubleTap(x, y) {
-    const session = await this.page.context().newCDPSession(this.page);
-    const touch = (type, touchPoints) => session.send('Input.dispatchTouchEvent', { type, touchPoints });
-    const tap = () => [touch('touchStart', [{ x, y }]), touch('touchEnd', [])];
-    await Promise.all([...tap(), ...tap()]);
-  }
-
   /** A finger that moves across a touch screen. */
   async swipe(from, to) {
     const session = await this.page.context().newCDPSession(this.page);
