@@ -47,15 +47,6 @@ test('a panel closes with its button and with a click beside it', async () => {
   }
 });
 
-test('the help lists every key that the bar knows', async () => {
-  const book = await open();
-  await book.use('help');
-  const caps = await book.page.locator('.help-panel kbd').allInnerTexts();
-  const buttons = book.page.locator('.bar [data-does][data-key]');
-  const keys = await buttons.evaluateAll((all) => all.map((one) => one.dataset.key));
-  assert.deepEqual(keys.filter((key) => !caps.includes(key)), []);
-});
-
 test('the link that is shared leads to the page in view, or to the beginning', async () => {
   const book = await open({ http: true, hash: '#page=4', before: (page) => page.addInitScript(() => {
     navigator.share = async (what) => { window.sent = what; };
