@@ -1,6 +1,5 @@
 #include "app/MirelUtility.h"
 #include "platform/Folders.h"
-#include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 
 #include <QDir>
@@ -37,9 +36,7 @@ protected:
 } // namespace
 
 TEST_F(FlashTrustTest, AddsAFolderOnce) {
-    const RecordedLog log;
     EXPECT_EQ(added(iFolder), utf16(iFolder));
-    EXPECT_EQ(log.texts(), QStringList({"trust folder is:" + iPath, "file is exits!!"}));
     EXPECT_TRUE(QDir(Folders::libraryApplicationSupport()).exists("Macromedia/FlashPlayerTrust"));
     for (const QString& folder : {QString("/b"), iFolder})
         EXPECT_EQ(added(folder), utf16(iFolder + "\n/b"));
@@ -58,14 +55,6 @@ TEST_F(FlashTrustTest, ComparesWholeLinesOnly) {
 TEST_F(FlashTrustTest, LeavesAFileAloneThatIsNotUTF16) {
     TestFiles::write(iPath, "odd");
     EXPECT_EQ(added(iFolder), "odd");
-}
-
-TEST_F(FlashTrustTest, LogsAFileThatCannotBeMade) {
-    Folders::setMachineRoot(iRoot.filePath("file"));
-    TestFiles::write(iRoot.filePath("file"), "in the way");
-    const RecordedLog log;
-    MirelUtility::makeDiractoryTrustByFlash(iFolder);
-    EXPECT_EQ(log.texts().last(), "file doest not exits!!!!!!!!!");
 }
 
 TEST_F(FlashTrustTest, FallsBackToTheLibraryOnAMachineWithoutItsOwnFolder) {

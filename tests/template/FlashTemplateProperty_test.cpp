@@ -12,9 +12,8 @@ namespace {
 const QString required = "<key>k</key><title>t</title><desc>d</desc><value>v</value>"
                          "<valueSource>s</valueSource><defaultValue>f</defaultValue>";
 
-void load(FlashTemplateProperty& node, const QString& content, const QString& attributes = {},
-          const QString& name = "property") {
-    const QString xml = u"<%1 %2>%3</%1>"_s.arg(name, attributes, content);
+void load(FlashTemplateProperty& node, const QString& content, const QString& attributes = {}) {
+    const QString xml = u"<property %1>%2</property>"_s.arg(attributes, content);
     pugi::xml_document document;
     ASSERT_TRUE(document.load_string(xml.toUtf8().constData(),
                                      pugi::parse_default | pugi::parse_ws_pcdata));
@@ -38,12 +37,6 @@ QString child(const QString& key, const QString& children = {}) {
 
 } // namespace
 
-TEST(FlashTemplateProperty, LoadsItsTextsFromTheFirstElementOfEachName) {
-    FlashTemplateProperty node;
-    load(node, required + "<aTitle>a</aTitle><aTitle>b</aTitle><value>second</value>");
-    EXPECT_EQ(texts(node).join(u' '), "k t d v a s f");
-}
-
 TEST(FlashTemplateProperty, DistinguishesEmptyElementsFromNullTexts) {
     FlashTemplateProperty node;
     EXPECT_EQ(node.title(), "Empty");
@@ -53,32 +46,21 @@ TEST(FlashTemplateProperty, DistinguishesEmptyElementsFromNullTexts) {
         EXPECT_TRUE(text.isEmpty() && !text.isNull());
 }
 
-TEST(FlashTemplateProperty, KeepsWhiteSpaceAndJoinsAllTextOfAnElement) {
+TEST(FlashTemplateProperty, KeepsWhiteSpaceAndJoinsAllTextOfTheFirstElementOfAName) {
     FlashTemplateProperty node;
-    load(node, "<key> </key><title>a<b>b<i>c</i></b><!--no-->d</title>"
-               "<desc><![CDATA[<x> & ]]> y</desc><value>\n 1 </value>"
-               "<valueSource/><defaultValue>&lt;&#65;</defaultValue>");
-    EXPECT_EQ(texts(node).join(u'|'), " |abcd|<x> &  y|\n 1 |||<A");
+    load(node, "<key> </key><title>a<b>b<i>c</i></b><!--no-->d</title><title>second</title>"
+               "<desc><![CDATA[<x> & ]]> y</desc><value>\n 1 </value><aTitle>a</aTitle>"
+               "<valueSource>s</valueSource><defaultValue>&lt;&#65;</defaultValue>");
+    EXPECT_EQ(texts(node).join(u'|'), " |abcd|<x> &  y|\n 1 |a|s|<A");
 }
 
 TEST(FlashTemplateProperty, ReadsItsTypeFromTheAttributes) {
-    const QStringList names{"pt_text",
-                            "pt_number",
-                            "pt_color",
-                            "pt_list",
-                            "pt_composite",
-                            "pt_file",
-                            "pt_list_fromFunction",
-                            "pt_form_security",
-                            "pt_font",
-                            "pt_form_contactabout",
-                            "pt_bool"};
+    const QStringList names =
+        u"pt_text pt_number pt_color pt_list pt_composite pt_file pt_list_fromFunction "
+        "pt_form_security pt_font pt_form_contactabout pt_bool"_s.split(u' ');
     for (int type = 0; type < names.size(); ++type) {
         EXPECT_EQ(typeOf(u"type='%1'"_s.arg(names[type])), type);
-        EXPECT_EQ(StringUtil::flashTemplatePropertyTypeName(type), names[type]);
     }
-    for (const int none : {-1, 11})
-        EXPECT_TRUE(StringUtil::flashTemplatePropertyTypeName(none).isNull());
     for (const QString text : {"type='PT_COLOR'", "type=' pt_color'", "type=''", ""})
         EXPECT_EQ(typeOf(text), pt_text);
     for (const QString marked : {"type='pt_color' aType=''", "aType='no'"})
@@ -98,19 +80,6 @@ TEST(FlashTemplateProperty, LoadsTheChildrenOfTheFirstListOnly) {
     ASSERT_EQ(two.childCount(), 1U);
     EXPECT_EQ(two.childProperties()[0]->key(), "deep");
     EXPECT_EQ(two.childProperties()[0]->parent(), &two);
-
-    FlashTemplateProperty parent;
-    node.setParent(&parent);
-    load(node, required);
-    EXPECT_EQ(node.parent(), nullptr);
-    EXPECT_EQ(node.childCount(), 0U);
-}
-
-TEST(FlashTemplateProperty, IgnoresElementsOfOtherNames) {
-    FlashTemplateProperty node;
-    load(node, required, {}, "Property");
-    node.loadFromNode(pugi::xml_node());
-    EXPECT_TRUE(node.key().isNull());
 }
 
 TEST(FlashTemplateProperty, ReadsTheTrueWordsInAnyLetterCase) {
