@@ -61,7 +61,9 @@ TEST_F(AppSettingsTest, ResetsOnlyTheSettingWhoseEntryIsGone) {
     settings.setOutputType(1);
     settings.setImportBookmark(1);
     settings.saveSettings();
-    QSettings().remove("lastOutputFileName");
+    settings.setLastOutputFileName(QString());
+    settings.saveSettings();
+    EXPECT_FALSE(QSettings().contains("lastOutputFileName"));
     QSettings().remove("outputType");
     const AppSettings restarted;
     EXPECT_TRUE(restarted.lastOutputFileName().isEmpty());
