@@ -73,21 +73,12 @@ TEST(Cells, PlaceTextButtonAndPicture) {
 }
 
 TEST(Cells, DrawTheirParts) {
-    const QRect frame(0, 0, 100, 40);
     FlashTmplColorCell color;
     color.setColor(Qt::darkGreen);
     const QImage swatch = drawn(color);
     EXPECT_EQ(swatch.pixelColor(12, 8), QColor(Qt::darkGreen));
     EXPECT_EQ(swatch.pixelColor(5, 8), QColor(Qt::gray));
     EXPECT_FALSE(hasInk(swatch, QRect(24, 0, 76, 40)));
-    ImagePreviewCell image("Title");
-    image.setSubTitle("Second");
-    image.setImage(QPixmap::fromImage(swatch.scaled(32, 32)));
-    const QImage whole = drawn(image);
-    for (const QRectF& part :
-         {image.titleRectForBounds(frame), image.subTitleRectForBounds(frame),
-          image.imageRectForBounds(frame), image.infoButtonRectForBounds(frame)})
-        EXPECT_TRUE(hasInk(whole, part.toRect()));
     EXPECT_TRUE(hasInk(drawn(FlashTmplFileCell("a.png")), QRect(4, 1, 30, 15)));
 }
 
