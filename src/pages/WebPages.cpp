@@ -48,6 +48,7 @@ bool WebPages::drawMissing() {
             missing[page.number] = &page;
     }
     std::vector<int> numbers;
+    numbers.reserve(missing.size());
     for (const auto& [number, page] : missing)
         numbers.push_back(number);
 

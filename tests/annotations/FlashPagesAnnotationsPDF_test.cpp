@@ -165,7 +165,6 @@ TEST_F(FlashPagesAnnotationsPDFTest, KeepsTheLinksOfOtherPagesThanAnUnreadableOn
 // All pages share one list, of that many links with addresses of that length.
 class SharedLinks : public FlashPagesAnnotationsPDFTest {
 protected:
-    // The numbers of links on the pages.
     std::vector<std::ptrdiff_t> linksOn(int pages, int perPage, int length) {
         const int link = builder.addObject(PDFBuilder::link(
             rect, PDFBuilder::toURL("https://a.org/" + QByteArray(length - 14, 'a'))));

@@ -22,7 +22,6 @@ protected:
                             QStringConverter::Encoding encoding = QStringConverter::Utf16) {
         return QStringEncoder(encoding, QStringConverter::Flag::WriteBom)(text);
     }
-    // What the file holds after a folder was added to it.
     QByteArray added(const QString& folder) const {
         MirelUtility::makeDiractoryTrustByFlash(folder);
         return TestFiles::read(iPath);

@@ -45,7 +45,6 @@ test('keys, clicks and drags turn to the pages that the movie says it shows', as
   await shows(book, 14, 15);
   const { right: { x, y, width, height }, imagesKept } = await book.state();
   assert.ok(imagesKept <= 12, `${imagesKept} images`);
-  // A page follows the pointer, shows the one beneath and goes over.
   await mouse.move(x + width - 30, y + height / 2);
   await mouse.down();
   await mouse.move(x - width * 0.4, y + height / 2, { steps: 6 });

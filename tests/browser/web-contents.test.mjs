@@ -80,7 +80,6 @@ test('long contents are folded but for the reader\'s place and used by key as tr
   assert.equal(await entry(book, 'Nothing').getAttribute('aria-disabled'), 'true');
   await press(book, 'Home', 'ArrowDown', 'Enter');
   await book.waitForPages(2, 3);
-  // What is typed in the panel turns no page and opens nothing.
   await press(book, 't', 'PageDown', ' ');
   assert.deepEqual(await book.pages(), [2, 3]);
   assert.equal(await book.page.locator('.drawer').isVisible(), false);

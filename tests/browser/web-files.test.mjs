@@ -83,7 +83,6 @@ test('a published book in one file is read from disk without a network', ready, 
   await book.page.locator('.result').first().click();
   await book.waitForPages(4, 5);
   await book.page.locator('.hit.current').first().waitFor();
-  // Keys that are typed in the panel stay there.
   await book.page.keyboard.press('Escape');
   for (let step = 0; step < 4; step += 1) await book.page.keyboard.press('+');
   await book.page.locator('img.large').first().waitFor();

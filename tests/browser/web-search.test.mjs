@@ -43,7 +43,6 @@ test('what is searched is found, listed by page with its surroundings and marked
     book.page.locator('.over.right .word').nth(1).boundingBox()]);
   assert.ok(['x', 'y', 'width'].every((key) => Math.abs(mark[key] - word[key]) < 2), JSON.stringify([mark, word]));
   const current = book.page.locator('.hit.current');
-  // On from the pages in view.
   const steps = [['Enter', '2 of 5', 1, 2, 3], ['Enter', '3 of 5', 2, 2, 3], ['Enter', '4 of 5', 1, 2, 3],
     ['Enter', '5 of 5', 1, 6], ['Enter', '1 of 5', 1, 1], ['Shift+Enter', '5 of 5', 1, 6]];
   for (const [key, said, marks, ...pages] of steps) {

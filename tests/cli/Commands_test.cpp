@@ -53,6 +53,10 @@ TEST(InfoCommand, CountsTheLinksOfPagesThatLookAlike) {
                     .output.contains("\nPages 1-2: 600 x 800 points, 7 links\nPage 3: 800 x 600"));
 }
 
+TEST(InfoCommand, ReadsADocumentThatCanBeRepaired) {
+    EXPECT_EQ(info("damaged-xref.pdf")["pages"].toArray().size(), 5);
+}
+
 TEST(InfoCommand, GivesAnUnreadablePageNoMeasures) {
     const auto page = info("damaged-page.pdf")["pages"][2].toObject();
     EXPECT_EQ(page.keys().join(u' '), "error links number");

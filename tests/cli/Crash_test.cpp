@@ -56,7 +56,6 @@ protected:
         process.waitForFinished();
     }
 
-    // Every file must be there, as one of the two books has it.
     void expectWholeFiles(const Contents& before, const Contents& after) const {
         const Contents now = contents();
         for (const auto& [name, content] : before) {

@@ -4,25 +4,16 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
-class HTMLPage : public testing::Test {
-protected:
-    QString path(const char* name) const { return folder.filePath(name); }
-
-    QTemporaryDir folder;
+TEST(HTMLPage, HoldsTitleKeywordsAndDescriptionInUtf8) {
+    const QTemporaryDir folder;
+    const QString source = folder.filePath("t.html");
+    TestFiles::write(source, "\xef\xbb\xbf<t>${index.title}</t>\n<k>${meta.keywords}</k>"
+                             "<d>${meta.description}</d>\xc3\xa9");
     HTMLConfigInfo info;
-};
-
-TEST_F(HTMLPage, HoldsTitleKeywordsAndDescriptionInUtf8) {
-    TestFiles::write(path("t.html"), "\xef\xbb\xbf<t>${index.title}</t>\n<k>${meta.keywords}</k>"
-                                     "<d>${meta.description}</d>\xc3\xa9");
     info.setHTMLTitle("B\u00fccher");
     info.setHTMLKeywords("k1,k2");
     info.setHTMLDescription("about");
-    EXPECT_TRUE(info.generateHTMLFrom(path("t.html"), path("index.html")));
-    EXPECT_EQ(TestFiles::read(path("index.html")),
-              "<t>B\u00fccher</t>\n<k>k1,k2</k><d>about</d>\u00e9");
+    const QString page = folder.filePath("index.html");
+    EXPECT_TRUE(info.generateHTMLFrom(source, page));
+    EXPECT_EQ(TestFiles::read(page), "<t>B\u00fccher</t>\n<k>k1,k2</k><d>about</d>\u00e9");
 }
-
-} // namespace

@@ -1,7 +1,6 @@
 """The entry in the menu, the page in a software centre, and the icon."""
 
 import configparser
-import re
 import struct
 import subprocess
 import tempfile
@@ -9,7 +8,7 @@ import unittest
 import xml.etree.ElementTree as xml
 from pathlib import Path
 
-from support import SOURCE, VERSION, contents
+from support import VERSION, contents
 
 ENTRY = "./usr/share/applications/folvero.desktop"
 METAINFO = "./usr/share/metainfo/invalid.folvero.folvero.metainfo.xml"
@@ -44,11 +43,6 @@ class DesktopEntry(unittest.TestCase):
         self.assertIn(f"./usr/bin/{program}", self.files.getnames())
         self.assertEqual(argument, "%f")
         self.assertEqual(entry["MimeType"], "application/pdf;")
-
-    def test_windows_are_known_by_the_name_of_the_entry(self):
-        sources = "".join(path.read_text() for path in (SOURCE / "src/app/desktop").glob("*.cpp"))
-        set_name = re.search(r'setDesktopFileName\(QStringLiteral\("(.*?)"\)\)', sources).group(1)
-        self.assertEqual(set_name + ".desktop", Path(ENTRY).name)
 
     def test_metainfo_is_valid_and_of_this_version(self):
         self.check(METAINFO, "appstreamcli", "validate", "--no-net")

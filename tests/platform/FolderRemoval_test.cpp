@@ -39,9 +39,4 @@ TEST_F(FolderRemovalTest, RemovesALinkInPlaceOfAFolderAsALink) {
     }
 }
 
-TEST_F(FolderRemovalTest, SaysWhenThereIsNothing) {
-    EXPECT_FALSE(FolderRemoval::remove(path("missing")));
-    EXPECT_FALSE(FolderRemoval::remove(path("missing/inner")));
-}
-
 } // namespace
