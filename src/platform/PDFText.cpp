@@ -42,7 +42,7 @@ PDFTextLine lineFrom(const fz_stext_line& source, std::size_t& characters) {
     if (found.empty())
         return line;
     line.box = box;
-    PDFText::makeWords(std::move(found), upright ? box.x() : box.y(), line);
+    PDFText::makeWords(found, upright ? box.x() : box.y(), line);
     return line;
 }
 
@@ -71,7 +71,8 @@ std::vector<PDFTextLine> PDFPage::text() const {
 
     std::vector<PDFTextLine> lines;
     std::size_t characters = 0;
-    for (const fz_stext_block* block = text->first_block; block; block = block->next) {
+    for (const fz_stext_block* block = text ? text->first_block : nullptr; block;
+         block = block->next) {
         if (block->type != FZ_STEXT_BLOCK_TEXT)
             continue;
         for (const fz_stext_line* line = block->u.t.first_line; line; line = line->next) {

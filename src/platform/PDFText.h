@@ -33,6 +33,7 @@ namespace PDFText {
 // Splits a line into words; sets rightToLeft and words. If any character is of a right-to-left
 // script the characters may come in any order, since documents store them both from right to left
 // and from left to right; otherwise they must be in reading order. start counts from lineStart.
-void makeWords(std::vector<PDFTextCharacter> characters, double lineStart, PDFTextLine& line);
+void makeWords(const std::vector<PDFTextCharacter>& characters, double lineStart,
+               PDFTextLine& line);
 
 } // namespace PDFText

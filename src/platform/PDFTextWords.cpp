@@ -105,7 +105,7 @@ void reorderToReadingOrder(std::vector<Cluster>& clusters, Direction ofLine) {
 
 } // namespace
 
-void PDFText::makeWords(std::vector<PDFTextCharacter> characters, double lineStart,
+void PDFText::makeWords(const std::vector<PDFTextCharacter>& characters, double lineStart,
                         PDFTextLine& line) {
     std::vector<Cluster> clusters = clustersOf(characters);
     const auto count = [&](Direction direction) {

@@ -39,7 +39,7 @@ struct Glyph {
     }
 };
 
-std::optional<std::array<double, 6>> matrixFrom(QByteArray text) {
+std::optional<std::array<double, 6>> matrixFrom(const QByteArray& text) {
     const auto parts = text.split(',');
     std::array<double, 6> matrix{};
     if (parts.size() != int(matrix.size()))

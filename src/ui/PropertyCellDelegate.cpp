@@ -114,7 +114,7 @@ std::unique_ptr<TextFieldCell> PropertyCellDelegate::buttonCellFor(const QModelI
     option.font = iView.font();
     auto cell = cellFor(option, index);
     if (auto* text = dynamic_cast<TextFieldCell*>(cell.get())) {
-        cell.release();
+        static_cast<void>(cell.release());
         return std::unique_ptr<TextFieldCell>(text);
     }
     return nullptr;
