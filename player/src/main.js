@@ -126,7 +126,15 @@ function addControls(root, turner, sounds) {
 /** @param {HTMLElement} root */
 async function openBook(root) {
   const config = await loadConfiguration();
-  const additions = await Promise.all(extensions.map((extend) => extend({ root, config, say, learn })));
+  // An extension of another version, from the browser's cache, may fail; the book works without it.
+  const additions = await Promise.all(extensions.map(async (extend) => {
+    try {
+      return await extend({ root, config, say, learn });
+    } catch (error) {
+      console.error(error);
+      return undefined;
+    }
+  }));
   applyLook(root, config);
   const book = new Book(config, root);
   await book.measure();

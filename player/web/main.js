@@ -59,7 +59,7 @@ function mayKeep() {
  * @param {Layers} layers
  */
 function addKeeping(player, layers) {
-  const { root, commands, toolbar, say } = player;
+  const { root, commands, toolbar, say, toast } = player;
   const button = barButton('keep', 'K', '2.5', say);
   button.setAttribute('aria-haspopup', 'dialog');
   /** @type {MessageEvent[]} */
@@ -91,7 +91,10 @@ function addKeeping(player, layers) {
   observer.observe(root, { attributes: true, attributeFilter: ['data-state'] });
   // In a frame: offline, the page around it is missing anyway.
   if (window.parent !== window) return;
-  commands.keep = () => load().then((keeping) => keeping.open(), () => {});
+  commands.keep = () => load().then((keeping) => {
+    // On a slow connection the reader may have opened another dialog meanwhile.
+    if (!root.querySelector('dialog[open]')) keeping.open();
+  }, () => toast.show(say('unreachableText'), say('tryAgain'), () => commands.keep?.()));
   toolbar.add(button, 'print');
 }
 

@@ -94,6 +94,7 @@ const DAMAGE = [
   ['no facts', 'web/book', null], ['facts that are no script', 'web/book', '<html>not found</html>'],
   ['facts of another file', 'web/book', 'folveroData("web/other", {});'], ['no words', 'text/1', null],
   ['words that are no script', 'text/1', '{{{'],
+  ['a part of another version', 'web', 'folveroExtensions = [() => { throw Error("Not of this page"); }];'],
 ];
 test('a book whose data is missing or damaged is still one to read', async () => {
   for (const [index, [name, file, text]] of DAMAGE.entries()) {

@@ -90,9 +90,14 @@ test('of a long book what was read is kept, all of it for whom asks, and no read
   const panel = page.locator('.keep-panel');
   const missing = (side) => page.waitForSelector(`.page.${side}[data-image="missing"]`);
   const toast = page.locator('.toast');
+  await page.route('**/web/offline.js', (route) => route.abort());
   await page.goto(address);
   await page.waitForSelector('#folvero[data-state="ready"]');
   await page.keyboard.press('k');
+  const again = toast.getByRole('button', { name: 'Try again' });
+  await again.waitFor();
+  await page.unroute('**/web/offline.js');
+  await again.click();
   await panel.getByText(/^Keep the whole book .*29 MB/).waitFor();
   await page.keyboard.press('Escape');
   await page.waitForFunction(() => navigator.serviceWorker.controller);
