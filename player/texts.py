@@ -8,11 +8,19 @@ import sys
 def read(player):
     """Texts by section ("page": of every book, "web": of web books, "offline") and name, by language, English first."""
     files = sorted((player / "texts").glob("*.json"), key=lambda file: (file.stem != "en", file.stem))
-    languages = {file.stem: json.loads(file.read_text(encoding="utf-8")) for file in files}
+    languages = {file.stem: parsed(file) for file in files}
     faults = [fault for language, texts in languages.items() for fault in compared(texts, languages["en"], language)]
     if faults:
         sys.exit("\n".join(f"player/texts/{fault}" for fault in faults))
     return languages
+
+
+def parsed(file):
+    try:
+        # Some editors begin a file with a byte order mark.
+        return json.loads(file.read_text(encoding="utf-8-sig"))
+    except ValueError as error:
+        sys.exit(f"player/texts/{file.name}: {error}")
 
 
 def compared(texts, english, language):
@@ -23,7 +31,7 @@ def compared(texts, english, language):
         text = own.get(name)
         if name not in wanted:
             yield f"{language}.json: {name} is not in en.json"
-        elif not text:
+        elif not isinstance(text, str) or not text:
             yield f"{language}.json: {name} is missing"
         elif placeholders(text) != placeholders(wanted[name]):
             yield f"{language}.json: {name} must hold {placeholders(wanted[name]) or 'no placeholder'}, as in en.json"
@@ -32,7 +40,8 @@ def compared(texts, english, language):
 
 
 def flat(texts):
-    return {f"{section}.{name}": text for section, own in texts.items() for name, text in own.items()}
+    return {f"{section}.{name}": text for section, own in texts.items() if isinstance(own, dict)
+            for name, text in own.items()}
 
 
 def placeholders(text):

@@ -28,6 +28,7 @@ class Texts(unittest.TestCase):
                 ("nl", "web", "other", "Ander", "nl.json: web.other is not in en.json"),
                 ("it", "page", "pageOf", "Pagina {0}", "it.json: page.pageOf must hold ['{0}', '{1}'], as in en.json"),
                 ("es", "page", "next", "Otra | más", "es.json: page.next may not hold |"),
+                ("es", "web", "search", 7, "es.json: web.search is missing"),
                 ("pt_BR", None, None, None, "pt_BR.json: named by its language's code")]:
             with self.subTest(fault), tempfile.TemporaryDirectory() as folder:
                 changed = json.loads(json.dumps(languages))
