@@ -77,6 +77,7 @@ tidy: build
 
 # A changed header is looked at with the sources that bear its name.
 tidy-change: build
+	@git rev-parse --verify --quiet "$(BASE)^{commit}" >/dev/null || { echo "make tidy-change: BASE names no commit"; exit 1; }
 	@git diff --name-only --diff-filter=d $(BASE) -- src | sed -n 's/\.\(cpp\|h\)$$/.cpp/p' | sort -u | \
 		xargs -r ls 2>/dev/null | xargs -r -n 4 -P 2 clang-tidy --quiet -p $(BUILD)
 
