@@ -13,7 +13,7 @@ function divides(decide, yes, no) {
   for (const text of no) assert.equal(decide(text), false, text);
 }
 
-test('yes is told in the spellings of templates, and nothing else is yes', () => {
+test('yes is read in the spellings of templates, and nothing else is yes', () => {
   divides(isYes, ['Yes', ' show ', 'enable', 'True'], ['No', '', 'yesterday', '1']);
 });
 

@@ -7,7 +7,7 @@ const { Memory } = await import('../../src/controls/memory.js');
 const { Place } = await import('../../src/controls/place.js');
 const { Slideshow } = await import('../../src/controls/slideshow.js');
 
-test('the address follows the reader, a jump can be taken back, and of two pages one may be asked for', () => {
+test('the address follows the reader, Back undoes a jump, and of two pages one may be asked for', () => {
   const table = new Table({ page: 1 });
   const { turner } = table;
   const entries = ['#page=1'];
