@@ -151,7 +151,7 @@ def shuffled(paths, seed):
 def limit():
     """A fault may fill the memory or the disk."""
     resource.setrlimit(resource.RLIMIT_DATA, (4 << 30, 4 << 30))
-    resource.setrlimit(resource.RLIMIT_FSIZE, (1 << 30, 1 << 30))
+    resource.setrlimit(resource.RLIMIT_FSIZE, (8 << 30, 8 << 30))
 
 
 def run(command, patience=None, home=None):
