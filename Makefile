@@ -7,7 +7,7 @@ PDF ?= $(BUILD)/samples/sample.pdf
 
 configure = { mkdir -p build && cmake --preset $(PRESET) $(1) >$(BUILD).log 2>&1 || { cat $(BUILD).log; exit 1; }; }
 
-.PHONY: book app package test sanitizers bench packages packages-desktop packages-test build-book build-desktop build \
+.PHONY: book app package test sanitizers bench packages packages-desktop packages-test build-book build-desktop build build-tidy \
 	format format-check tidy tidy-change help
 
 help:
@@ -72,14 +72,19 @@ format-check: packages-test
 format:
 	@git ls-files -z '*.cpp' '*.h' | xargs -0 clang-format -i
 
-tidy: build
-	@git ls-files -z 'src/*.cpp' | xargs -0 -n 8 -P 2 clang-tidy --quiet -p $(BUILD)
+tidy: build-tidy
+	@git ls-files -z 'src/*.cpp' | xargs -0 -n 8 -P 2 clang-tidy --quiet -p build/tidy
+
+# Commands to compile with, nothing compiled.
+build-tidy: packages-test
+	@mkdir -p build && cmake --preset release -B build/tidy -D FOLVERO_PRECOMPILE=OFF >build/tidy.log 2>&1 || \
+		{ cat build/tidy.log; exit 1; }
 
 # A changed header is looked at with the sources that bear its name.
-tidy-change: build
+tidy-change: build-tidy
 	@git rev-parse --verify --quiet "$(BASE)^{commit}" >/dev/null || { echo "make tidy-change: BASE names no commit"; exit 1; }
 	@git diff --name-only --diff-filter=d $(BASE) -- src | sed -n 's/\.\(cpp\|h\)$$/.cpp/p' | sort -u | \
-		xargs -r ls 2>/dev/null | xargs -r -n 4 -P 2 clang-tidy --quiet -p $(BUILD)
+		xargs -r ls 2>/dev/null | xargs -r -n 4 -P 2 clang-tidy --quiet -p build/tidy
 
 bench: build
 	@tools/install-packages.sh bench/packages.txt

@@ -9,6 +9,3 @@ endforeach()
 add_custom_target(resources)
 add_custom_target(sample-pdfs)
 add_custom_target(sample-book)
-
-# Ordinary builds of the core don't use this, so that missing includes are noticed.
-folvero_precompile(folvero-core <pugixml.hpp>)
