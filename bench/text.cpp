@@ -3,10 +3,10 @@
 //
 //     folvero-bench-text DOCUMENT...
 
-#include "output/WebPageText.h"
-#include "output/WebScript.h"
-#include "platform/PDFDocument.h"
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
+#include "pdf/PDFDocument.h"
+#include "webbook/WebPageText.h"
+#include "webbook/WebScript.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "annotations/FlashOutline.h"
 
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
 #include "annotations/FlashOutlineItem.h"
 
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
 #include "util/LenientInteger.h"
 #include "util/XMLText.h"
 

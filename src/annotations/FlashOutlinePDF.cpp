@@ -1,6 +1,6 @@
 #include "annotations/FlashOutlinePDF.h"
 
-#include "platform/Log.h"
+#include "base/Log.h"
 
 void FlashOutlinePDF::loadOutlineFromPDF(const std::shared_ptr<PDFDocument>& document) {
     if (!document)

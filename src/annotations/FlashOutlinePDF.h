@@ -1,7 +1,7 @@
 #pragma once
 
 #include "annotations/FlashOutline.h"
-#include "platform/PDFDocument.h"
+#include "pdf/PDFDocument.h"
 
 #include <memory>
 

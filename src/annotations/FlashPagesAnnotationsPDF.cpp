@@ -1,8 +1,8 @@
 #include "annotations/FlashPagesAnnotationsPDF.h"
 
-#include "pages/FlashPageSource.h"
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
+#include "util/PageRange.h"
 #include "util/XMLText.h"
 
 #include <cmath>
@@ -113,8 +113,7 @@ bool affectsOnePage(const PlatformException& failure) {
 void FlashPagesAnnotationsPDF::begin(std::shared_ptr<PDFDocument> document,
                                      const QString& pageRange) {
     iPDFDoc = std::move(document);
-    iNeedToImportPages =
-        FlashPageSource::parsePageRange(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
+    iNeedToImportPages = pagesFromExpression(pageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
     iCurrentIndex = 0;
     iBudget = {};
     iUnreadPages.clear();

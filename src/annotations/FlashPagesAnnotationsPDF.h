@@ -1,10 +1,10 @@
 #pragma once
 
 #include "annotations/FlashPagesAnnotations.h"
-#include "platform/AnnotationBudget.h"
-#include "platform/Message.h"
-#include "platform/NotificationCenter.h"
-#include "platform/PDFDocument.h"
+#include "base/Message.h"
+#include "base/NotificationCenter.h"
+#include "pdf/AnnotationBudget.h"
+#include "pdf/PDFDocument.h"
 
 #include <QString>
 #include <memory>

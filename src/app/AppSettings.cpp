@@ -1,6 +1,6 @@
 #include "app/AppSettings.h"
 
-#include "platform/Log.h"
+#include "base/Log.h"
 
 #include <QMetaProperty>
 #include <QSettings>

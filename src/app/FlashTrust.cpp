@@ -1,7 +1,7 @@
 #include "app/MirelUtility.h"
-#include "platform/Files.h"
-#include "platform/Folders.h"
-#include "platform/Log.h"
+#include "base/Log.h"
+#include "system/Files.h"
+#include "system/Folders.h"
 
 #include <QDir>
 #include <QFile>

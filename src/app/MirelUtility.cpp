@@ -1,8 +1,8 @@
 #include "app/MirelUtility.h"
 
-#include "app/TemporaryFolders.h"
-#include "platform/FolderList.h"
-#include "platform/Folders.h"
+#include "system/FolderList.h"
+#include "system/Folders.h"
+#include "system/TemporaryFolders.h"
 
 #include <QCryptographicHash>
 #include <QDir>

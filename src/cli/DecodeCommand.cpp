@@ -1,9 +1,9 @@
 #include "cli/DecodeCommand.h"
 
-#include "cli/CommandError.h"
-#include "cli/Terminal.h"
+#include "console/CommandError.h"
+#include "console/Terminal.h"
 #include "output/UserConfig.h"
-#include "platform/Files.h"
+#include "system/Files.h"
 #include "util/NSData+CommonCrypto.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileState.h"
+#include "system/FileState.h"
 
 #include <QStringList>
 #include <functional>

@@ -1,9 +1,9 @@
 #include "cli/InfoCommand.h"
 
+#include "base/PlatformException.h"
 #include "cli/InputFile.h"
-#include "cli/Terminal.h"
-#include "platform/AnnotationBudget.h"
-#include "platform/PlatformException.h"
+#include "console/Terminal.h"
+#include "pdf/AnnotationBudget.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,8 +1,8 @@
 #include "cli/InputFile.h"
 
-#include "cli/CommandError.h"
-#include "cli/Interrupt.h"
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
+#include "console/CommandError.h"
+#include "console/Interrupt.h"
 
 namespace {
 

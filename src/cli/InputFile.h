@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/OpenedPDF.h"
+#include "drawing/OpenedPDF.h"
 
 #include <QString>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "cli/OutputFolder.h"
 
-#include "cli/CommandError.h"
-#include "platform/Message.h"
+#include "base/Message.h"
+#include "console/CommandError.h"
 
 #include <QDir>
 #include <QFile>

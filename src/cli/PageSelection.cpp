@@ -1,7 +1,7 @@
 #include "cli/PageSelection.h"
 
-#include "cli/CommandError.h"
-#include "pages/PageRange.h"
+#include "console/CommandError.h"
+#include "util/PageRange.h"
 
 #include <QRegularExpression>
 #include <QStringList>

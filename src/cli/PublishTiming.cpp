@@ -1,8 +1,8 @@
 #include "cli/PublishTiming.h"
 
-#include "cli/Terminal.h"
+#include "console/Terminal.h"
 #include "pages/FlashPageSourcePDF.h"
-#include "platform/Files.h"
+#include "system/Files.h"
 
 #include <QJsonDocument>
 #include <algorithm>

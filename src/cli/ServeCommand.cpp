@@ -1,8 +1,8 @@
 #include "cli/ServeCommand.h"
 
-#include "cli/CommandError.h"
-#include "platform/Bundle.h"
-#include "platform/Message.h"
+#include "base/Message.h"
+#include "console/CommandError.h"
+#include "system/Bundle.h"
 
 #include <QFile>
 #include <array>

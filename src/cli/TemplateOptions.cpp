@@ -1,8 +1,8 @@
 #include "cli/TemplateOptions.h"
 
-#include "cli/CommandError.h"
-#include "platform/Bundle.h"
-#include "platform/Files.h"
+#include "console/CommandError.h"
+#include "system/Bundle.h"
+#include "system/Files.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "cli/TemplatesCommand.h"
 
-#include "cli/CommandError.h"
 #include "cli/TemplateOptions.h"
-#include "cli/Terminal.h"
+#include "console/CommandError.h"
+#include "console/Terminal.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

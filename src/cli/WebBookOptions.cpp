@@ -1,13 +1,13 @@
 #include "cli/WebBookOptions.h"
 
 #include "app/AppSettings.h"
-#include "cli/CommandError.h"
 #include "cli/PageSelection.h"
 #include "cli/PublishCommand.h"
-#include "cli/Terminal.h"
+#include "console/CommandError.h"
+#include "console/Terminal.h"
 #include "output/EmbedSnippet.h"
-#include "output/FolveroOutputWeb.h"
-#include "platform/Files.h"
+#include "system/Files.h"
+#include "webbook/FolveroOutputWeb.h"
 
 #include <QFileInfo>
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/PageRange.h"
+#include "util/PageRange.h"
 
 #include <QString>
 #include <optional>

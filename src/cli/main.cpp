@@ -1,14 +1,14 @@
 // folvero: makes page-flip books from PDF files without a window.
 
-#include "cli/CommandError.h"
+#include "base/Log.h"
 #include "cli/DecodeCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/PublishCommand.h"
 #include "cli/ServeCommand.h"
 #include "cli/TemplatesCommand.h"
-#include "cli/Terminal.h"
-#include "platform/Bundle.h"
-#include "platform/Log.h"
+#include "console/CommandError.h"
+#include "console/Terminal.h"
+#include "system/Bundle.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>

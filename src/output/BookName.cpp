@@ -1,6 +1,6 @@
 #include "output/BookName.h"
 
-#include "platform/Files.h"
+#include "system/Files.h"
 
 #include <QFile>
 #include <QRegularExpression>

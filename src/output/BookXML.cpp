@@ -2,7 +2,7 @@
 #include "output/BookName.h"
 #include "output/FolveroOutput.h"
 #include "output/ImageSize.h"
-#include "platform/Files.h"
+#include "system/Files.h"
 #include "util/XMLText.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "output/UserConfig.h"
 #include "output/WebScript.h"
-#include "platform/Files.h"
+#include "system/Files.h"
 #include "util/NSData+CommonCrypto.h"
 
 #include <QDir>

@@ -1,15 +1,15 @@
 #include "output/FolveroOutput.h"
 
+#include "base/Log.h"
+#include "base/PlatformException.h"
 #include "output/BookName.h"
 #include "output/ExistingBook.h"
 #include "output/ForeignFiles.h"
-#include "output/OfflineFiles.h"
 #include "output/StagingFolder.h"
 #include "output/UserConfig.h"
-#include "platform/Files.h"
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "system/Files.h"
 #include "util/NSData+CommonCrypto.h"
+#include "webbook/OfflineFiles.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,10 +1,10 @@
 #include "output/FolveroOutputApp.h"
 
+#include "base/Log.h"
 #include "output/ForeignFiles.h"
 #include "output/StagingFolder.h"
-#include "platform/Bundle.h"
-#include "platform/Files.h"
-#include "platform/Log.h"
+#include "system/Bundle.h"
+#include "system/Files.h"
 
 #include <QDir>
 #include <QFile>

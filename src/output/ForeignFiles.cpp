@@ -1,7 +1,7 @@
 #include "output/ForeignFiles.h"
 
 #include "output/ExistingBook.h"
-#include "platform/Files.h"
+#include "system/Files.h"
 #include "template/FlashTemplate.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "output/HTMLConfigInfo.h"
 
 #include "output/TextTemplate.h"
-#include "platform/Files.h"
+#include "system/Files.h"
 
 bool HTMLConfigInfo::generateHTMLFrom(const QString& templatePath, const QString& toFile,
                                       Message* error) const {

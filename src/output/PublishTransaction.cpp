@@ -1,9 +1,9 @@
 #include "output/PublishTransaction.h"
 
+#include "base/Log.h"
+#include "base/PlatformException.h"
 #include "output/StagingFolder.h"
-#include "platform/Files.h"
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "system/Files.h"
 
 #include <QDir>
 #include <QFile>

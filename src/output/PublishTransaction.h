@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Message.h"
+#include "base/Message.h"
 
 #include <QByteArray>
 #include <QHash>

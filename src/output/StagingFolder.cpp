@@ -1,9 +1,9 @@
 #include "output/StagingFolder.h"
 
-#include "platform/FileDescriptor.h"
-#include "platform/Files.h"
-#include "platform/FolderRemoval.h"
-#include "platform/LockedFolder.h"
+#include "system/FileDescriptor.h"
+#include "system/Files.h"
+#include "system/FolderRemoval.h"
+#include "system/LockedFolder.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,11 @@
 #include "pages/FlashPageSource.h"
 
+#include "util/PageRange.h"
+
+std::vector<int> FlashPageSource::parsePageRange(const QString& expression, int atTotalPage) {
+    return pagesFromExpression(expression, atTotalPage);
+}
+
 void FlashPageSource::clearPages() {
     iPages.clear();
     iNormalPages.clear();

@@ -1,8 +1,8 @@
 #include "pages/FlashPageSourcePDF.h"
 
-#include "platform/Log.h"
-#include "platform/NotificationCenter.h"
-#include "platform/PlatformException.h"
+#include "base/Log.h"
+#include "base/NotificationCenter.h"
+#include "base/PlatformException.h"
 
 #include <QScopeGuard>
 #include <utility>

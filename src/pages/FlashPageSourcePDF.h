@@ -1,7 +1,7 @@
 #pragma once
 
+#include "drawing/OpenedPDF.h"
 #include "pages/FlashPageSource.h"
-#include "pages/OpenedPDF.h"
 #include "pages/PDFToSWFPageConverter.h"
 
 #include <QString>

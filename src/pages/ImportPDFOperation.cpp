@@ -2,8 +2,8 @@
 
 #include "annotations/FlashOutlinePDF.h"
 #include "annotations/FlashPagesAnnotationsPDF.h"
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
 
 #include <utility>
 

@@ -2,8 +2,8 @@
 
 #include "annotations/FlashOutline.h"
 #include "annotations/FlashPagesAnnotations.h"
+#include "base/Operation.h"
 #include "pages/FlashPageSourcePDF.h"
-#include "platform/Operation.h"
 
 #include <QString>
 #include <QStringList>

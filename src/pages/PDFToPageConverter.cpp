@@ -1,13 +1,12 @@
 #include "pages/PDFToPageConverter.h"
 
-#include "app/MirelUtility.h"
-#include "app/TemporaryFolders.h"
+#include "system/TemporaryFolders.h"
 
 PDFToPageConverter::PDFToPageConverter(const QString& pdfPath, std::shared_ptr<PDFDocument> pdfDoc,
                                        int quality)
     : iQuality(quality),
       iPDFPath(pdfPath),
-      iConverterWorkFolder(MirelUtility::forceTmpDiractory(QStringLiteral("Lumivex"))),
+      iConverterWorkFolder(TemporaryFolders::make(QStringLiteral("Lumivex"))),
       iPDFDoc(std::move(pdfDoc)) {}
 
 PDFToPageConverter::~PDFToPageConverter() {

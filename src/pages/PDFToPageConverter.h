@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PDFDocument.h"
+#include "pdf/PDFDocument.h"
 
 #include <QString>
 #include <memory>

@@ -1,11 +1,11 @@
 #include "pages/PDFToSWFPageConverter.h"
 
-#include "pages/PageQuality.h"
-#include "platform/Bundle.h"
-#include "platform/Files.h"
-#include "platform/Log.h"
-#include "platform/PDFLimits.h"
-#include "platform/PlatformException.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
+#include "drawing/PageQuality.h"
+#include "pdf/PDFLimits.h"
+#include "system/Bundle.h"
+#include "system/Files.h"
 
 #include <QFileInfo>
 #include <utility>

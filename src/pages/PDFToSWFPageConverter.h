@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Message.h"
+#include "drawing/PageWorkers.h"
 #include "pages/PDFToPageConverter.h"
-#include "pages/PageWorkers.h"
-#include "platform/Message.h"
 
 #include <atomic>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "server/BookFile.h"
 
-#include "platform/MediaType.h"
+#include "system/MediaType.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileDescriptor.h"
+#include "system/FileDescriptor.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "server/BookServer.h"
 
-#include "platform/Log.h"
+#include "base/Log.h"
 #include "server/BookFile.h"
 
 #include <QRegularExpression>

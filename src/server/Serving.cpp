@@ -1,13 +1,13 @@
 #include "server/Serving.h"
 
-#include "cli/CommandError.h"
-#include "cli/Interrupt.h"
-#include "cli/Terminal.h"
+#include "base/Message.h"
+#include "console/CommandError.h"
+#include "console/Interrupt.h"
+#include "console/Terminal.h"
 #include "output/ExistingBook.h"
-#include "output/PlainTextPage.h"
-#include "platform/Files.h"
-#include "platform/Message.h"
 #include "server/BookServer.h"
+#include "system/Files.h"
+#include "webbook/PlainTextPage.h"
 
 #include <QDir>
 #include <QFile>

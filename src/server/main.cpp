@@ -3,9 +3,9 @@
 //
 //     folvero-book-server FOLDER PORT|usual [verbose]
 
-#include "cli/CommandError.h"
-#include "cli/Terminal.h"
-#include "platform/Log.h"
+#include "base/Log.h"
+#include "console/CommandError.h"
+#include "console/Terminal.h"
 #include "server/Serving.h"
 
 #include <QCoreApplication>

@@ -1,11 +1,11 @@
 #include "template/FlashTemplate.h"
 
-#include "platform/Bundle.h"
-#include "platform/Confinement.h"
-#include "platform/Files.h"
-#include "platform/FolderList.h"
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
+#include "system/Bundle.h"
+#include "system/Confinement.h"
+#include "system/Files.h"
+#include "system/FolderList.h"
 #include "template/TemplateFile.h"
 
 #include <QFile>

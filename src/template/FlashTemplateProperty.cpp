@@ -1,6 +1,6 @@
 #include "template/FlashTemplateProperty.h"
 
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
 #include "template/TemplateFile.h"
 #include "util/XMLText.h"
 

@@ -1,5 +1,5 @@
-#include "platform/Files.h"
-#include "platform/Log.h"
+#include "base/Log.h"
+#include "system/Files.h"
 #include "template/FlashTemplate.h"
 #include "template/TextDecoding.h"
 

@@ -1,7 +1,7 @@
 #include "template/TemplateFile.h"
 
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
 #include "template/XMLEntities.h"
 #include "template/XMLRepair.h"
 #include "util/XMLText.h"

@@ -1,6 +1,6 @@
 #include "template/XMLEntities.h"
 
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
 
 #include <QHash>
 #include <QRegularExpression>

@@ -1,6 +1,6 @@
 #include "template/XMLRepair.h"
 
-#include "platform/LargeStackThread.h"
+#include "system/LargeStackThread.h"
 #include "template/TextDecoding.h"
 
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 #include "ui/FlashTemplateOutlineDelegate.h"
 
-#include "platform/Log.h"
-#include "platform/NotificationCenter.h"
+#include "base/Log.h"
+#include "base/NotificationCenter.h"
 #include "ui/FlashTmplColorCell.h"
 #include "ui/FlashTmplFileCell.h"
 #include "ui/Panels.h"

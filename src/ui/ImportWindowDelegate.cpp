@@ -1,8 +1,8 @@
 #include "ui/ImportWindowDelegate.h"
 
 #include "app/AppSettings.h"
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
 #include "ui/ImportWindow.h"
 #include "ui/Panels.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/NotificationCenter.h"
+#include "base/Operation.h"
 #include "pages/ImportPDFOperation.h"
-#include "platform/NotificationCenter.h"
-#include "platform/Operation.h"
 
 #include <QObject>
 #include <functional>

@@ -2,15 +2,15 @@
 
 #include "app/AppSettings.h"
 #include "app/PublishedBooks.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
 #include "output/EmbedSnippet.h"
 #include "output/ExistingBook.h"
 #include "output/FolveroOutputApp.h"
-#include "output/FolveroOutputWeb.h"
-#include "platform/Files.h"
-#include "platform/Log.h"
-#include "platform/PlatformException.h"
+#include "system/Files.h"
 #include "ui/OutputWindow.h"
 #include "ui/Panels.h"
+#include "webbook/FolveroOutputWeb.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

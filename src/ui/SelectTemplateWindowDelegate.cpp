@@ -1,6 +1,6 @@
 #include "ui/SelectTemplateWindowDelegate.h"
 
-#include "platform/Files.h"
+#include "system/Files.h"
 #include "template/FlashTemplate.h"
 #include "ui/SelectTemplateModels.h"
 #include "ui/SelectTemplatePainters.h"

@@ -1,6 +1,6 @@
 #include "ui/TextFieldCell.h"
 
-#include "platform/Log.h"
+#include "base/Log.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>

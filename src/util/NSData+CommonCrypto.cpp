@@ -1,6 +1,6 @@
 #include "util/NSData+CommonCrypto.h"
 
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
 
 using Error = CommonCryptoErrorDomain::Error;
 using Operation = Cryptor::Operation;

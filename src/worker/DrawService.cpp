@@ -1,11 +1,11 @@
 #include "worker/DrawService.h"
 
-#include "pages/PageImage.h"
-#include "pages/PageQuality.h"
-#include "pages/WebPageMaker.h"
-#include "platform/Files.h"
-#include "platform/PDFLimits.h"
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
+#include "drawing/PageImage.h"
+#include "drawing/PageQuality.h"
+#include "drawing/WebPageMaker.h"
+#include "pdf/PDFLimits.h"
+#include "system/Files.h"
 #include "worker/WorkerSandbox.h"
 
 #include <QByteArrayList>

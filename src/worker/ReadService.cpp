@@ -1,8 +1,8 @@
 #include "worker/ReadService.h"
 
-#include "platform/PDFLimits.h"
-#include "platform/PDFSerialization.h"
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
+#include "pdf/PDFLimits.h"
+#include "pdf/PDFSerialization.h"
 #include "worker/WorkerSandbox.h"
 
 #include <QFile>

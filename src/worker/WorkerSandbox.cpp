@@ -1,8 +1,8 @@
 #include "worker/WorkerSandbox.h"
 
-#include "platform/Log.h"
-#include "platform/PDFLimits.h"
-#include "platform/Sandbox.h"
+#include "base/Log.h"
+#include "pdf/PDFLimits.h"
+#include "system/Sandbox.h"
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 #include "app/MirelUtility.h"
-#include "platform/Folders.h"
 #include "support/TemplateLibrary.h"
+#include "system/Folders.h"
 
 #include <QDir>
 #include <QStringConverter>

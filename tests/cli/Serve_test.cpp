@@ -1,5 +1,5 @@
 #include "cli/BookTest.h"
-#include "platform/FileDescriptor.h"
+#include "system/FileDescriptor.h"
 
 #include <QUrl>
 #include <arpa/inet.h>

@@ -1,7 +1,7 @@
 #include "cli/BookTest.h"
-#include "output/FolveroOutputWeb.h"
-#include "platform/Bundle.h"
 #include "support/PublishedBook.h"
+#include "system/Bundle.h"
+#include "webbook/FolveroOutputWeb.h"
 
 #include <QImage>
 #include <QJsonArray>

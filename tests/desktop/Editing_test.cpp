@@ -1,5 +1,5 @@
 #include "desktop/DesktopProgram.h"
-#include "platform/Bundle.h"
+#include "system/Bundle.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "app/desktop/Appearance.h"
 #include "app/desktop/WindowFitter.h"
 #include "desktop/DesktopProgram.h"
-#include "platform/Bundle.h"
+#include "system/Bundle.h"
 
 #include <QWebEnginePage>
 #include <QWebEngineSettings>

@@ -1,8 +1,8 @@
 #include "app/desktop/ApplicationSetup.h"
 #include "app/desktop/BorderedStyle.h"
 #include "desktop/DesktopProgram.h"
-#include "platform/Folders.h"
 #include "support/OwnFolders.h"
+#include "system/Folders.h"
 
 #include <QApplication>
 #include <QFile>

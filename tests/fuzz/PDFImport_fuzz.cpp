@@ -1,10 +1,10 @@
 #include "annotations/FlashOutlinePDF.h"
 #include "annotations/FlashPagesAnnotationsPDF.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
 #include "fuzz/Fuzz.h"
-#include "platform/Log.h"
-#include "platform/PDFDocument.h"
-#include "platform/PDFLimits.h"
-#include "platform/PlatformException.h"
+#include "pdf/PDFDocument.h"
+#include "pdf/PDFLimits.h"
 
 #include <algorithm>
 #include <cmath>

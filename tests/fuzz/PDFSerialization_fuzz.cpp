@@ -1,5 +1,5 @@
 #include "fuzz/Fuzz.h"
-#include "platform/PDFSerialization.h"
+#include "pdf/PDFSerialization.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "builder/PDFBuilder.h"
 #include "builder/PDFContent.h"
-#include "platform/PDFSerialization.h"
+#include "pdf/PDFSerialization.h"
 #include "support/TemplateLibrary.h"
 #include "util/NSData+CocoaDevUsersAdditions.h"
 #include "util/NSData+CommonCrypto.h"

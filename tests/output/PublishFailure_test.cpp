@@ -1,9 +1,9 @@
 #include "output/FolveroOutput.h"
 
-#include "platform/FileDescriptor.h"
 #include "support/BookReader.h"
 #include "support/PublishedBook.h"
 #include "support/RecordedLog.h"
+#include "system/FileDescriptor.h"
 
 #include <QFile>
 #include <csignal>

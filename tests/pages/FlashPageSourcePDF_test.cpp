@@ -1,8 +1,8 @@
 #include "pages/FlashPageSourcePDF.h"
 
+#include "base/NotificationCenter.h"
+#include "base/PlatformException.h"
 #include "builder/PDFBuilder.h"
-#include "platform/NotificationCenter.h"
-#include "platform/PlatformException.h"
 #include "support/PixelCheck.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 #include "pages/ImportPDFOperation.h"
 
+#include "base/NotificationCenter.h"
 #include "builder/PDFBuilder.h"
-#include "output/FolveroOutputWeb.h"
-#include "platform/NotificationCenter.h"
 #include "support/RecordedLog.h"
+#include "webbook/FolveroOutputWeb.h"
 
 #include <QFile>
 #include <QTemporaryDir>

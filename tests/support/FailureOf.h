@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
 
 // The failure that an action ends with; one without a name when it succeeds.
 template <class Action>

@@ -1,6 +1,6 @@
 #include "support/OwnFolders.h"
 
-#include "platform/Folders.h"
+#include "system/Folders.h"
 
 #include <QDir>
 #include <QFile>

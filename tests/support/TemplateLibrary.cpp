@@ -1,6 +1,6 @@
 #include "support/TemplateLibrary.h"
 
-#include "platform/Bundle.h"
+#include "system/Bundle.h"
 
 #include <QDir>
 #include <QFile>

@@ -4,7 +4,7 @@
 #include "ui/FlashTmplFileCell.h"
 #include "ui/PropertyCellDelegate.h"
 
-#include "platform/NotificationCenter.h"
+#include "base/NotificationCenter.h"
 #include "support/TemplateLibrary.h"
 
 #include <QTest>

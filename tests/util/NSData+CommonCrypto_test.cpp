@@ -1,6 +1,6 @@
 #include "util/NSData+CommonCrypto.h"
 
-#include "platform/PlatformException.h"
+#include "base/PlatformException.h"
 
 #include <gtest/gtest.h>
 #include <map>

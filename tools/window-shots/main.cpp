@@ -5,7 +5,7 @@
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
-#include "platform/Folders.h"
+#include "system/Folders.h"
 #include "ui/FlashTemplateOutline.h"
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"

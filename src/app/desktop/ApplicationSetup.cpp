@@ -4,7 +4,7 @@
 #include "app/desktop/BrisleafAppDelegate.h"
 #include "app/desktop/QuitSignals.h"
 #include "app/desktop/Translations.h"
-#include "platform/Bundle.h"
+#include "system/Bundle.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -2,8 +2,8 @@
 
 #include "app/desktop/PreviewFolder.h"
 #include "app/desktop/PropertyHistory.h"
+#include "base/NotificationCenter.h"
 #include "output/FolveroOutput.h"
-#include "platform/NotificationCenter.h"
 #include "ui/FlashTemplateOutlineDelegate.h"
 
 #include <QObject>

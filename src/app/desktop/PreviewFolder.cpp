@@ -1,7 +1,7 @@
 #include "app/desktop/PreviewFolder.h"
 
-#include "platform/Folders.h"
-#include "platform/Log.h"
+#include "base/Log.h"
+#include "system/Folders.h"
 
 #include <QDir>
 #include <QLockFile>

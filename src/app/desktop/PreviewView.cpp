@@ -1,6 +1,6 @@
 #include "app/desktop/PreviewView.h"
 
-#include "platform/Log.h"
+#include "base/Log.h"
 
 #include <QContextMenuEvent>
 #include <QDateTime>

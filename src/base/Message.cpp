@@ -1,0 +1,85 @@
+#include "base/Message.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace {
+
+bool isTemporaryError(int error) {
+    switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+    case EIO:
+    case ENOENT: // for a folder that existed
+    case ESTALE:
+    case ENODEV:
+    case ENXIO:
+    case ENOTCONN:
+    case EHOSTDOWN:
+    case EHOSTUNREACH:
+    case ENETUNREACH:
+    case ETIMEDOUT:
+    case ECONNRESET:
+    case EAGAIN:
+    case EBUSY:
+    case EMFILE:
+    case ENFILE:
+    case ENOMEM:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+Message Message::translate(const char* context, const char* text) {
+    return {QString::fromUtf8(text), QCoreApplication::translate(context, text)};
+}
+
+// strerror() would answer in the system's language, which may be neither English nor the window's.
+Message Message::ofSystemError(int error) {
+    const char* text = ::strerrordesc_np(error);
+    const Message words =
+        text ? translate("SystemError", text)
+             : translate("SystemError", "Unknown error %1").arg(QString::number(error));
+    return isTemporaryError(error) ? words.temporary() : words;
+}
+
+Message Message::ofLastSystemError() {
+    return ofSystemError(errno);
+}
+
+Message Message::temporary() const {
+    Message result = *this;
+    result.iIsTemporary = true;
+    return result;
+}
+
+Message Message::replaced(const QString& before, const QString& after) const {
+    Message result = *this;
+    result.iEnglish.replace(before, after);
+    result.iLocal.replace(before, after);
+    return result;
+}
+
+bool areTemporary(const Messages& messages) {
+    return std::any_of(messages.begin(), messages.end(),
+                       [](const Message& message) { return message.isTemporary(); });
+}
+
+QStringList englishTexts(const Messages& messages) {
+    QStringList texts;
+    for (const Message& message : messages)
+        texts << message.english();
+    return texts;
+}
+
+QStringList localTexts(const Messages& messages) {
+    QStringList texts;
+    for (const Message& message : messages)
+        texts << message.local();
+    return texts;
+}

@@ -1,0 +1,75 @@
+#include "console/Terminal.h"
+
+#include "console/CommandError.h"
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+
+constexpr int barWidth = 30;
+constexpr std::chrono::milliseconds redrawInterval{50};
+
+// Texts from documents and file names must not contain terminal escape sequences when shown on a
+// terminal; pipes get them unchanged.
+QString withoutControls(QString text) {
+    for (QChar& letter : text) {
+        if (letter.category() == QChar::Other_Control && letter != u'\n' && letter != u'\t')
+            letter = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+void write(std::FILE* file, const QString& text) {
+    const QByteArray bytes = text.toLocal8Bit();
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), file);
+    std::fflush(file);
+}
+
+} // namespace
+
+void Terminal::print(const QString& line) {
+    write(stdout, (::isatty(STDOUT_FILENO) != 0 ? withoutControls(line) : line) + u'\n');
+}
+
+void Terminal::checkOutput() {
+    if (std::ferror(stdout))
+        throw CommandError(QStringLiteral("standard output can't be written"));
+}
+
+void Terminal::report(const QString& line) {
+    write(stderr, (::isatty(STDERR_FILENO) != 0 ? withoutControls(line) : line) + u'\n');
+}
+
+ProgressDisplay::ProgressDisplay(QString title, bool quiet)
+    : iTitle(std::move(title)), iQuiet(quiet), iTerminal(::isatty(STDERR_FILENO) != 0) {}
+
+ProgressDisplay::~ProgressDisplay() {
+    if (iBarShown)
+        write(stderr, QStringLiteral("\r\033[K"));
+}
+
+void ProgressDisplay::show(int done, int total) {
+    if (iQuiet || total <= 0)
+        return;
+    if (iTerminal) {
+        drawBar(done, total);
+        return;
+    }
+    const int tenth = int(10LL * done / total);
+    if (tenth > iLastTenth) {
+        iLastTenth = tenth;
+        Terminal::report(QStringLiteral("%1: %2 of %3").arg(iTitle).arg(done).arg(total));
+    }
+}
+
+void ProgressDisplay::drawBar(int done, int total) {
+    const auto now = std::chrono::steady_clock::now();
+    if (now < iNextDraw && done < total)
+        return;
+    iNextDraw = now + redrawInterval;
+    const int filled = int(qint64(barWidth) * done / total);
+    const QString bar = QString(filled, u'#') + QString(barWidth - filled, u'.');
+    write(stderr, QStringLiteral("\r%1 [%2] %3/%4\033[K").arg(iTitle, bar).arg(done).arg(total));
+    iBarShown = true;
+}

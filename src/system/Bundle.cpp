@@ -1,0 +1,55 @@
+#include "system/Bundle.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+QString& resourceOverride() {
+    static QString path;
+    return path;
+}
+
+QString besideProgramFolder(const QString& path) {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../") + path);
+}
+
+} // namespace
+
+QString Bundle::resourcePath() {
+    if (!resourceOverride().isNull())
+        return resourceOverride();
+    return besideProgramFolder(QStringLiteral("share/folvero"));
+}
+
+QString Bundle::pathForAuxiliaryExecutable(const QString& name) {
+    return besideProgramFolder(QStringLiteral("libexec/folvero/") + name);
+}
+
+QString Bundle::pageWorkerPath() {
+    return pathForAuxiliaryExecutable(QStringLiteral("folvero-page-worker"));
+}
+
+void Bundle::setResourcePath(const QString& path) {
+    resourceOverride() = path;
+}
+
+QString Bundle::pathForResource(const QString& name, const QString& type,
+                                const QString& inDirectory) {
+    const QString file = type.isEmpty() ? name : name + u'.' + type;
+    const QString path = QDir(QDir(resourcePath()).filePath(inDirectory)).filePath(file);
+    return QFileInfo::exists(path) ? path : QString();
+}
+
+QStringList Bundle::pathsForResourcesOfType(const QString& type, const QString& inDirectory) {
+    const QDir folder(QDir(resourcePath()).filePath(inDirectory));
+    QStringList paths;
+    for (const QString& name : folder.entryList({QStringLiteral("*.") + type}, QDir::Files))
+        paths << folder.filePath(name);
+    return paths;
+}
+
+QString Bundle::version() {
+    return QStringLiteral(FOLVERO_VERSION);
+}

@@ -1,0 +1,153 @@
+#include "system/Files.h"
+
+#include "system/FileDescriptor.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+bool fail(Message* error) {
+    if (error)
+        *error = Message::ofLastSystemError();
+    return false;
+}
+
+bool writeAll(int to, const void* data, std::size_t size) {
+    const auto* bytes = static_cast<const unsigned char*>(data);
+    for (std::size_t done = 0; done < size;) {
+        const ssize_t written = ::write(to, bytes + done, size - done);
+        if (written < 0 && errno != EINTR)
+            return false;
+        done += std::size_t(std::max<ssize_t>(written, 0));
+    }
+    return true;
+}
+
+bool copyBytes(int from, int to) {
+    struct stat info {};
+    if (::fstat(from, &info) != 0)
+        return false;
+    if (::ioctl(to, FICLONE, from) == 0)
+        return true;
+    off_t left = info.st_size;
+    while (left > 0) {
+        const ssize_t count = ::copy_file_range(from, nullptr, to, nullptr, left, 0);
+        if (count <= 0)
+            break;
+        left -= count;
+    }
+    char buffer[1 << 16];
+    for (;;) {
+        const ssize_t count = ::read(from, buffer, sizeof buffer);
+        if (count <= 0)
+            return count == 0;
+        if (!writeAll(to, buffer, std::size_t(count)))
+            return false;
+    }
+}
+
+} // namespace
+
+QByteArray Files::contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool Files::writeAtomically(const QString& path, const QByteArray& data, Message* error) {
+    errno = 0;
+    QSaveFile file(path);
+    // commit() flushes too, but ignores errors.
+    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush() &&
+        file.commit())
+        return true;
+    // Qt's own error text is available in the window's language only.
+    if (error)
+        *error = errno ? Message::ofLastSystemError() : Message(file.errorString());
+    return false;
+}
+
+bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char> data,
+                             Message* error) {
+    const QByteArray name = QFile::encodeName(path);
+    const QByteArray part = QFile::encodeName(temporaryPath(path));
+    FileDescriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (!file.isOpen())
+        return fail(error);
+    if (writeAll(file.number(), data.data(), data.size()) && file.close() &&
+        ::rename(part.constData(), name.constData()) == 0)
+        return true;
+    const bool result = fail(error);
+    ::unlink(part.constData());
+    return result;
+}
+
+QString Files::temporaryPath(const QString& path) {
+    return path + QStringLiteral(".part");
+}
+
+bool Files::copy(const QString& source, const QString& target, Message* error) {
+    const FileDescriptor from(::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC));
+    if (!from.isOpen())
+        return fail(error);
+    const QByteArray name = QFile::encodeName(target);
+    FileDescriptor to(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!to.isOpen())
+        return fail(error);
+    if (copyBytes(from.number(), to.number()) && to.close())
+        return true;
+    const bool result = fail(error);
+    ::unlink(name.constData());
+    return result;
+}
+
+bool Files::linkOrCopy(const QString& source, const QString& target, Message* error) {
+    if (::link(QFile::encodeName(source).constData(), QFile::encodeName(target).constData()) == 0)
+        return true;
+    return copy(source, target, error);
+}
+
+bool Files::haveSameContent(const QString& one, const QString& other) {
+    QFile first(one);
+    QFile second(other);
+    const auto mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
+    if (!first.open(mode) || !second.open(mode) || first.size() != second.size())
+        return false;
+    constexpr qint64 piece = 1 << 18;
+    for (qint64 left = first.size(); left > 0;) {
+        const QByteArray bytes = first.read(std::min(piece, left));
+        if (bytes.isEmpty() || second.read(bytes.size()) != bytes)
+            return false;
+        left -= bytes.size();
+    }
+    return true;
+}
+
+QString Files::join(const QString& folder, const QString& name) {
+    if (name.isEmpty())
+        return folder;
+    if (folder.isEmpty())
+        return name;
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+QString Files::pathExtension(const QString& path) {
+    const QString name = lastPathComponent(path);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot <= 0 ? QStringLiteral("") : name.mid(dot + 1);
+}
+
+QString Files::lastPathComponent(const QString& path) {
+    qsizetype end = path.size();
+    while (end > 1 && path[end - 1] == u'/')
+        --end;
+    return path.mid(0, end).section(u'/', -1);
+}

@@ -1,0 +1,76 @@
+#include "system/FolderRemoval.h"
+
+#include "system/FileDescriptor.h"
+
+#include <QDir>
+#include <QFile>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <vector>
+
+namespace {
+
+constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+// Reads all names before removing any: what readdir() returns when entries are removed meanwhile
+// depends on the file system.
+std::vector<QByteArray> namesIn(int folder) {
+    std::vector<QByteArray> names;
+    const std::unique_ptr<DIR, int (*)(DIR*)> list(
+        ::fdopendir(::openat(folder, ".", openFolderItself)), ::closedir);
+    if (!list)
+        return names;
+    while (const dirent* entry = ::readdir(list.get())) {
+        const QByteArray name(entry->d_name);
+        if (name != "." && name != "..")
+            names.push_back(name);
+    }
+    return names;
+}
+
+bool isOnDevice(int folder, dev_t device) {
+    struct stat info {};
+    return ::fstat(folder, &info) == 0 && info.st_dev == device;
+}
+
+bool emptyOnDevice(int folder, dev_t device);
+
+bool removeOnDevice(int folder, const QByteArray& name, dev_t device) {
+    if (::unlinkat(folder, name.constData(), 0) == 0)
+        return true;
+    const FileDescriptor inner(::openat(folder, name.constData(), openFolderItself));
+    return inner.isOpen() && isOnDevice(inner.number(), device) &&
+           emptyOnDevice(inner.number(), device) &&
+           ::unlinkat(folder, name.constData(), AT_REMOVEDIR) == 0;
+}
+
+bool emptyOnDevice(int folder, dev_t device) {
+    bool isEmpty = true;
+    for (const QByteArray& name : namesIn(folder))
+        isEmpty = removeOnDevice(folder, name, device) && isEmpty;
+    return isEmpty;
+}
+
+} // namespace
+
+bool FolderRemoval::remove(const QString& path) {
+    const QString clean = QDir::cleanPath(path);
+    const QString parent = clean.contains(u'/') ? clean.section(u'/', 0, -2) + u'/' : QString();
+    const FileDescriptor folder(
+        ::open(parent.isEmpty() ? "." : QFile::encodeName(parent).constData(),
+               O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return folder.isOpen() &&
+           removeEntry(folder.number(), QFile::encodeName(clean.section(u'/', -1)));
+}
+
+bool FolderRemoval::removeEntry(int folder, const QByteArray& name) {
+    struct stat info {};
+    return ::fstat(folder, &info) == 0 && removeOnDevice(folder, name, info.st_dev);
+}
+
+bool FolderRemoval::empty(int folder) {
+    struct stat info {};
+    return ::fstat(folder, &info) == 0 && emptyOnDevice(folder, info.st_dev);
+}

@@ -1,0 +1,283 @@
+#include "system/Sandbox.h"
+
+#ifdef __linux__
+#include <QFile>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <ctime>
+#include <fcntl.h>
+#include <linux/landlock.h>
+#include <seccomp.h>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+// The installed headers may be older than the kernel, so later flags are defined here.
+namespace Access {
+constexpr std::uint64_t readFile = LANDLOCK_ACCESS_FS_READ_FILE;
+constexpr std::uint64_t ofFirstVersion = (std::uint64_t{1} << 13) - 1;
+constexpr std::uint64_t refer = std::uint64_t{1} << 13;
+constexpr std::uint64_t truncate = std::uint64_t{1} << 14;
+constexpr std::uint64_t control = std::uint64_t{1} << 15;
+constexpr std::uint64_t workFolder = readFile | LANDLOCK_ACCESS_FS_WRITE_FILE |
+                                     LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_REMOVE_FILE;
+} // namespace Access
+
+// The size passed to the kernel leaves off the members that its version lacks.
+struct RulesetAttributes {
+    std::uint64_t files;
+    std::uint64_t network;
+    std::uint64_t scope;
+};
+
+class Ruleset {
+public:
+    explicit Ruleset(int version) : iTruncates(version >= 3) {
+        RulesetAttributes attributes{Access::ofFirstVersion, 0, 0};
+        std::size_t size = sizeof attributes.files;
+        if (version >= 2)
+            attributes.files |= Access::refer;
+        if (version >= 3)
+            attributes.files |= Access::truncate;
+        if (version >= 4) {
+            attributes.network = 0b11; // TCP bind and connect
+            size += sizeof attributes.network;
+        }
+        if (version >= 5)
+            attributes.files |= Access::control;
+        if (version >= 6) {
+            attributes.scope = 0b11; // abstract sockets, signals
+            size += sizeof attributes.scope;
+        }
+        iDescriptor = int(::syscall(SYS_landlock_create_ruleset, &attributes, size, 0));
+    }
+    ~Ruleset() {
+        if (iDescriptor >= 0)
+            ::close(iDescriptor);
+    }
+    Ruleset(const Ruleset&) = delete;
+    Ruleset& operator=(const Ruleset&) = delete;
+
+    bool allow(const QString& path, std::uint64_t access) const {
+        if (iTruncates && (access & LANDLOCK_ACCESS_FS_WRITE_FILE))
+            access |= Access::truncate;
+        const int target = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
+        if (target < 0)
+            return false;
+        const landlock_path_beneath_attr rule{access, target};
+        const bool done = ::syscall(SYS_landlock_add_rule, iDescriptor, LANDLOCK_RULE_PATH_BENEATH,
+                                    &rule, 0) == 0;
+        ::close(target);
+        return done;
+    }
+
+    void enforce() const { ::syscall(SYS_landlock_restrict_self, iDescriptor, 0); }
+
+private:
+    int iDescriptor = -1;
+    bool iTruncates;
+};
+
+void restrictFiles(const Sandbox::Policy& policy) {
+    const long version =
+        ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
+    if (version < 1)
+        return;
+    const Ruleset rules(static_cast<int>(version));
+    // A file that can't be opened now can't be opened later either, and that is reported then.
+    rules.allow(policy.file, Access::readFile);
+    if (!policy.workFolder.isNull())
+        rules.allow(policy.workFolder, Access::workFolder);
+    rules.enforce();
+}
+
+// System calls used by drawing, reading and the C library, on 64-bit and 32-bit machines. All
+// others fail with ENOSYS.
+constexpr std::array allowedCalls{
+    "_llseek",
+    "access",
+    "alarm",
+    "brk",
+    "clock_getres",
+    "clock_getres_time64",
+    "clock_gettime",
+    "clock_gettime64",
+    "clock_nanosleep",
+    "clock_nanosleep_time64",
+    "close",
+    "exit",
+    "exit_group",
+    "faccessat",
+    "faccessat2",
+    "fallocate",
+    "fcntl64",
+    "fstat",
+    "fstat64",
+    "fstatat64",
+    "fstatfs",
+    "fstatfs64",
+    "fsync",
+    "ftruncate",
+    "ftruncate64",
+    "futex",
+    "futex_time64",
+    "getcwd",
+    "getegid",
+    "getegid32",
+    "geteuid",
+    "geteuid32",
+    "getgid",
+    "getgid32",
+    "getpid",
+    "getrandom",
+    "getrusage",
+    "gettid",
+    "gettimeofday",
+    "getuid",
+    "getuid32",
+    "lseek",
+    "lstat",
+    "lstat64",
+    "madvise",
+    "membarrier",
+    "mremap",
+    "munmap",
+    "nanosleep",
+    "newfstatat",
+    "open",
+    "openat",
+    "poll",
+    "ppoll",
+    "ppoll_time64",
+    "pread64",
+    "pwrite64",
+    "read",
+    "readlink",
+    "readlinkat",
+    "readv",
+    "rename",
+    "renameat",
+    "renameat2",
+    "restart_syscall",
+    "rseq",
+    "rt_sigaction",
+    "rt_sigpending",
+    "rt_sigprocmask",
+    "rt_sigreturn",
+    "rt_sigsuspend",
+    "rt_sigtimedwait",
+    "rt_sigtimedwait_time64",
+    "sched_getaffinity",
+    "sched_yield",
+    "set_robust_list",
+    "setitimer",
+    "sigaltstack",
+    "sigreturn",
+    "stat",
+    "stat64",
+    "statx",
+    "sysinfo",
+    "time",
+    "ugetrlimit",
+    "uname",
+    "unlink",
+    "unlinkat",
+    "write",
+    "writev",
+};
+
+class CallFilter {
+public:
+    CallFilter() : iFilter(::seccomp_init(SCMP_ACT_ERRNO(ENOSYS))) {}
+    ~CallFilter() { ::seccomp_release(iFilter); }
+    CallFilter(const CallFilter&) = delete;
+    CallFilter& operator=(const CallFilter&) = delete;
+
+    void enforce() {
+        if (!iFilter || ::seccomp_attr_set(iFilter, SCMP_FLTATR_CTL_TSYNC, 1) != 0)
+            return;
+        for (const char* name : allowedCalls)
+            allow(name);
+#ifdef FOLVERO_SANITIZED
+        // Sanitizers use them to check whether memory is readable.
+        allow("pipe");
+        allow("pipe2");
+#endif
+        // Memory, but not executable.
+        for (const char* name : {"mmap", "mmap2", "mprotect"})
+            allow(name, scmp_arg_cmp{2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0});
+        // Threads, not processes. clone3() can't be filtered by flags; the C library falls back to
+        // clone().
+        allow("clone", scmp_arg_cmp{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD});
+        // Reading its own limits, not setting them.
+        allow("prlimit64", scmp_arg_cmp{0, SCMP_CMP_EQ, 0, 0}, scmp_arg_cmp{2, SCMP_CMP_EQ, 0, 0});
+        // For abort().
+        allow("tgkill", scmp_arg_cmp{0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(::getpid()), 0});
+        ::seccomp_load(iFilter);
+    }
+
+private:
+    // Allows a system call, or its use with these arguments (number, comparison, operands). Calls
+    // that this architecture does not have are skipped.
+    template <class... Conditions>
+    void allow(const char* name, Conditions... conditions) {
+        const int call = ::seccomp_syscall_resolve_name(name);
+        if (call != __NR_SCMP_ERROR)
+            ::seccomp_rule_add(iFilter, SCMP_ACT_ALLOW, call, sizeof...(conditions), conditions...);
+    }
+
+    scmp_filter_ctx iFilter;
+};
+
+void limit(__rlimit_resource resource, std::size_t amount) {
+    const rlimit limits{amount, amount};
+    ::setrlimit(resource, &limits);
+}
+
+void setLimits(const Sandbox::Policy& policy) {
+    constexpr std::size_t maxOpenFiles = 64;
+    limit(RLIMIT_CORE, 0); // its memory contains a user's document
+    limit(RLIMIT_NOFILE, maxOpenFiles);
+    if (policy.fileSize != 0)
+        limit(RLIMIT_FSIZE, policy.fileSize);
+        // Sanitizers reserve far more address space than any limit.
+#ifndef FOLVERO_SANITIZED
+    if (policy.memory != 0)
+        limit(RLIMIT_DATA, policy.memory);
+#endif
+}
+
+// Sanitizers print their findings there.
+void redirectStandardError() {
+#ifndef FOLVERO_SANITIZED
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (nowhere >= 0) {
+        ::dup2(nowhere, STDERR_FILENO);
+        ::close(nowhere);
+    }
+#endif
+}
+
+} // namespace
+
+void Sandbox::enter(const Policy& policy) {
+    ::tzset(); // reads the time zone file, once
+    setLimits(policy);
+    redirectStandardError();
+    if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
+        return;
+    restrictFiles(policy);
+    CallFilter().enforce();
+}
+
+#else
+
+void Sandbox::enter(const Policy& /*policy*/) {}
+
+#endif

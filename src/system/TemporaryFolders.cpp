@@ -1,0 +1,100 @@
+#include "system/TemporaryFolders.h"
+
+#include "base/Log.h"
+#include "base/PlatformException.h"
+#include "system/FileDescriptor.h"
+#include "system/Files.h"
+#include "system/LockedFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString base = QStringLiteral("/tmp");
+const QString unique = QStringLiteral("XXXXXX");
+// Earlier versions did not lock their folders; a program is rarely left open for that long.
+constexpr std::chrono::seconds unlockedIsOld = 7 * 24h;
+
+FileDescriptor openFolder(const QString& path) {
+    return FileDescriptor(::open(QFile::encodeName(path).constData(),
+                                 O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+bool isOwn(const QString& path) {
+    const FileDescriptor open = openFolder(path);
+    struct stat info {};
+    return open.isOpen() && ::fstat(open.number(), &info) == 0 && info.st_uid == ::geteuid();
+}
+
+// Whether only root and this user can remove or replace what this user creates in it.
+bool isTrustworthy(int folder) {
+    struct stat info {};
+    if (::fstat(folder, &info) != 0)
+        return false;
+    // Root takes ownership of the folder, since the user who created it could otherwise attack
+    // root's runs.
+    if (::geteuid() == 0 && info.st_uid != 0 &&
+        (::fchown(folder, 0, 0) != 0 || ::fchmod(folder, 01777) != 0 ||
+         ::fstat(folder, &info) != 0))
+        return false;
+    const bool isOpenToOthers = (info.st_mode & (S_IWGRP | S_IWOTH)) != 0;
+    return (info.st_uid == 0 || info.st_uid == ::geteuid()) &&
+           (!isOpenToOthers || (info.st_mode & S_ISVTX) != 0);
+}
+
+void removeStaleIn(const QString& folder, const QString& prefix) {
+    const FileDescriptor open = openFolder(folder);
+    if (!open.isOpen())
+        return;
+    const QRegularExpression pattern(u'^' + QRegularExpression::escape(prefix) +
+                                     QStringLiteral("[A-Za-z0-9]{6}$"));
+    const auto filter = QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks;
+    for (const QString& name : QDir(folder).entryList({prefix + u'*'}, filter)) {
+        if (pattern.match(name).hasMatch() &&
+            LockedFolder::removeIfAbandoned(open.number(), QFile::encodeName(name), unlockedIsOld))
+            Log("MirelUtility")
+                .info(QStringLiteral("removed what an earlier run left: %1")
+                          .arg(Files::join(folder, name)));
+    }
+}
+
+} // namespace
+
+QString TemporaryFolders::make(const QString& name) {
+    const QString parent = Files::join(base, name);
+    const QString inParent = QStringLiteral("temp.");
+    const QString inBase = name + QStringLiteral(".temp.");
+    // Writable for all users with the sticky bit, like /tmp, or the first user would lock out the
+    // others.
+    if (::mkdir(QFile::encodeName(parent).constData(), 0700) == 0)
+        ::chmod(QFile::encodeName(parent).constData(), 01777);
+    removeStaleIn(parent, inParent);
+    removeStaleIn(base, inBase);
+    const FileDescriptor open = openFolder(parent);
+    QString path;
+    if (open.isOpen() && isTrustworthy(open.number()))
+        path = LockedFolder::make(Files::join(parent, inParent + unique));
+    if (path.isNull() && !name.contains(u'/'))
+        path = LockedFolder::make(Files::join(base, inBase + unique));
+    if (!path.isNull())
+        return path;
+    // The last resort is not unique.
+    const Message cause = Message::ofLastSystemError();
+    const QString pattern = Files::join(parent, inParent + unique);
+    if (!QDir().mkpath(pattern) || !isOwn(pattern))
+        throw PlatformException(QStringLiteral("TemporaryFolder"),
+                                Message(QStringLiteral("%1: %2")).arg(parent, cause));
+    return pattern;
+}
+
+void TemporaryFolders::remove(const QString& path) {
+    LockedFolder::remove(path);
+}

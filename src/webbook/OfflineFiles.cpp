@@ -1,0 +1,188 @@
+#include "webbook/OfflineFiles.h"
+
+#include "output/PublishTransaction.h"
+#include "system/Files.h"
+#include "system/MediaType.h"
+#include "util/NSData+CommonCrypto.h"
+#include "webbook/PlainTextPage.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUrl>
+#include <array>
+
+using Phase = PublishTransaction::Phase;
+
+namespace {
+
+const QString workerName = QStringLiteral("sw.js");
+const QString manifestName = QStringLiteral("manifest.webmanifest");
+const QString listName = QStringLiteral("files/web/offline.json");
+const QString playerName = QStringLiteral("files/web/offline.js");
+const QString iconName = QStringLiteral("files/web/icon.svg");
+
+// The start of all our service workers: folders may contain other scripts of that name.
+constexpr char declaration[] = "const BOOK = ";
+constexpr char workerStart[] = "const BOOK = {\"page\":";
+
+// Some systems truncate longer names.
+constexpr qsizetype maxShortName = 30;
+
+// Digits of a digest that the service worker compares; enough to distinguish versions of a file.
+constexpr int digestLetters = 16;
+
+QByteArray digestOf(const QByteArray& bytes) {
+    return CommonDigest::SHA256Hash(bytes).toHex().left(digestLetters);
+}
+
+QByteArray compact(const QJsonObject& object) {
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+// The order in which files are fetched when a reader saves the whole book: first what is read
+// first, last what shows only on enlarged pages. The files needed to open the book are cached when
+// the service worker is installed.
+enum class Part { shell, picture, text, large, none };
+
+Part partOf(const QString& path, const QString& page) {
+    // Browsers request sounds in ranges, which the service worker does not handle; the script
+    // replaces the configuration from disk only.
+    if (MediaType::ofFile(path).startsWith("audio/") || path == u"files/UserConfig.js")
+        return Part::none;
+    if (path.startsWith(QStringLiteral("files/large/")))
+        return Part::large;
+    if (path.startsWith(QStringLiteral("files/page/")))
+        return Part::picture;
+    if (path.startsWith(QStringLiteral("files/text/")) ||
+        path.startsWith(QStringLiteral("files/thumb/")) ||
+        path.startsWith(QStringLiteral("files/search/")) || path == PlainTextPage::fileName)
+        return Part::text;
+    return path == page || path.startsWith(QStringLiteral("files/")) ? Part::shell : Part::none;
+}
+
+// QJsonObject sorts by name, and pages must stay in order.
+QByteArray member(const QString& path, const QByteArray& digest) {
+    const QByteArray name = QJsonDocument(QJsonArray{path}).toJson(QJsonDocument::Compact);
+    return name.mid(1).chopped(1) + ":\"" + digest + '"';
+}
+
+struct List {
+    std::array<QByteArrayList, 4> parts; // JSON members by part
+    qint64 bytes = 0;
+
+    QByteArray shell() const { return parts[std::size_t(Part::shell)].join(','); }
+    QByteArray rest() const {
+        return (parts[std::size_t(Part::picture)] + parts[std::size_t(Part::text)] +
+                parts[std::size_t(Part::large)])
+            .join(',');
+    }
+};
+
+List listOf(const PublishTransaction& transaction, const QString& folder, const QString& page) {
+    List list;
+    const QDir root(folder);
+    for (const auto& [target, staged] : transaction.stagedFiles()) {
+        const QString path = root.relativeFilePath(target);
+        const Part part = partOf(path, page);
+        if (part == Part::none)
+            continue;
+        const QByteArray bytes = Files::contents(staged);
+        list.parts[std::size_t(part)] << member(path, digestOf(bytes));
+        list.bytes += bytes.size();
+    }
+    return list;
+}
+
+QString shortened(const QString& title) {
+    if (title.size() <= maxShortName)
+        return title;
+    const qsizetype blank = title.lastIndexOf(u' ', maxShortName);
+    // Not between the two halves of a surrogate pair.
+    const qsizetype cut = title[maxShortName - 1].isHighSurrogate() ? 1 : 0;
+    return title.left(blank > 0 ? blank : maxShortName - cut);
+}
+
+} // namespace
+
+bool OfflineFiles::canWriteTo(const QString& folder) {
+    const QString worker = Files::join(folder, workerName);
+    if (QFileInfo::exists(worker))
+        return QFileInfo(worker).isFile() && Files::contents(worker).startsWith(workerStart);
+    return !QFileInfo::exists(Files::join(folder, manifestName));
+}
+
+void OfflineFiles::write(PublishTransaction& transaction) const {
+    transaction.write(Files::join(folder, iconName), icon(transaction));
+    transaction.write(Files::join(folder, playerName), Files::contents(player));
+    const List list = listOf(transaction, folder, page);
+    const QByteArray version = digestOf(list.shell() + list.rest() + script);
+    transaction.write(Files::join(folder, listName),
+                      "{\"version\":\"" + version +
+                          "\",\"bytes\":" + QByteArray::number(list.bytes) + ",\"shell\":{" +
+                          list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
+                      Phase::configuration);
+    transaction.write(Files::join(folder, manifestName), manifest(), Phase::page);
+    const QByteArray about = compact({{QStringLiteral("page"), page},
+                                      {QStringLiteral("version"), QString::fromLatin1(version)}});
+    transaction.write(Files::join(folder, workerName), declaration + about + ";\n" + script,
+                      Phase::page);
+}
+
+void OfflineFiles::removeOutdated(PublishTransaction& transaction, const QString& folder) {
+    const QString worker = Files::join(folder, workerName);
+    const QByteArray script = QFileInfo(worker).isFile() ? Files::contents(worker) : QByteArray();
+    if (!script.startsWith(workerStart) || transaction.writes(worker))
+        return;
+    const QByteArray about = script.left(script.indexOf('\n')).mid(qstrlen(declaration)).chopped(1);
+    const QString page =
+        QJsonDocument::fromJson(about).object().value(QStringLiteral("page")).toString();
+    if (!transaction.writes(Files::join(folder, QStringLiteral("files/UserConfig.bin"))) &&
+        !transaction.writes(Files::join(folder, page)))
+        return;
+    for (const QString& name :
+         {workerName, manifestName, listName, iconName, playerName, PlainTextPage::fileName}) {
+        const QString path = Files::join(folder, name);
+        const bool isForeign = name == PlainTextPage::fileName && !PlainTextPage::isOne(path);
+        if (!transaction.writes(path) && !isForeign)
+            transaction.remove(path);
+    }
+}
+
+QByteArray OfflineFiles::manifest() const {
+    QJsonObject object{
+        {QStringLiteral("name"), title},
+        {QStringLiteral("short_name"), shortened(title)},
+        {QStringLiteral("start_url"), QString::fromLatin1(QUrl::toPercentEncoding(page))},
+        {QStringLiteral("scope"), QStringLiteral("./")},
+        {QStringLiteral("display"), QStringLiteral("standalone")},
+        {QStringLiteral("background_color"), ground.name()},
+        {QStringLiteral("theme_color"), bar.name()},
+        {QStringLiteral("icons"),
+         QJsonArray{QJsonObject{{QStringLiteral("src"), iconName},
+                                {QStringLiteral("sizes"), QStringLiteral("any")},
+                                {QStringLiteral("type"), QStringLiteral("image/svg+xml")}}}}};
+    if (!language.isEmpty())
+        object[QStringLiteral("lang")] = language;
+    return QJsonDocument(object).toJson();
+}
+
+// The cover on a square background, as systems expect icons.
+QByteArray OfflineFiles::icon(const PublishTransaction& transaction) const {
+    QByteArray picture =
+        "<path d=\"M256 150c-48-32-96-32-144-16v228c48-16 96-16 144 16 48-32 96-32 "
+        "144-16V134c-48-16-96-16-144 16z\" fill=\"#fff\" stroke=\"#2f5d7c\" "
+        "stroke-width=\"12\"/>";
+    const QByteArray bytes =
+        cover.isEmpty() ? QByteArray()
+                        : Files::contents(transaction.stagedFile(Files::join(folder, cover)));
+    if (!bytes.isEmpty())
+        picture = "<image x=\"40\" y=\"40\" width=\"432\" height=\"432\" "
+                  "href=\"data:image/webp;base64," +
+                  bytes.toBase64() + "\"/>";
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 512 512\" width=\"512\" "
+           "height=\"512\"><rect width=\"512\" height=\"512\" fill=\"" +
+           ground.name().toLatin1() + "\"/>" + picture + "</svg>\n";
+}

@@ -1,0 +1,61 @@
+#include "webbook/PlainTextPage.h"
+
+#include "system/Files.h"
+#include "webbook/WebBookMetadata.h"
+
+#include <QFileInfo>
+#include <QUrl>
+
+namespace {
+
+// Start of the style of every such page, by which it is recognised: must not change.
+constexpr char styleStart[] = "\">\n<style>body{max-width:42em;margin:2em auto;padding:0 1em;";
+
+constexpr char style[] =
+    "font:17px/1.6 "
+    "Georgia,serif;color:#222;background:#fff}h1{font-size:1.7em;line-height:1.25}h2{font:600 "
+    ".85em/1 system-ui,sans-serif;"
+    "color:#666;margin:2.5em 0 1em;border-top:1px solid #ddd;padding-top:1em}"
+    "p{white-space:pre-line}a{color:#1d5a86}"
+    "@media(prefers-color-scheme:dark){body{background:#16181b;color:#ddd}a{color:#8cc2ea}"
+    "h2{color:#aaa;border-color:#333}}";
+
+QByteArray escaped(const QString& text) {
+    return text.toHtmlEscaped().toUtf8();
+}
+
+} // namespace
+
+bool PlainTextPage::isOne(const QString& file) {
+    return QFileInfo(file).isFile() && Files::contents(file).contains(styleStart);
+}
+
+PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book)
+    : iMetadata(metadata) {
+    const QByteArray address = QUrl::toPercentEncoding(book);
+    const QByteArray language =
+        escaped(metadata.language.isEmpty() ? QStringLiteral("en") : metadata.language);
+    iHTML = "<!DOCTYPE html>\n<html lang=\"" + language +
+            "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(metadata.title) +
+            "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+            "<link rel=\"canonical\" href=\"" +
+            address + styleStart + style + "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" +
+            address + "\">" + escaped(metadata.title) + "</a></h1>\n";
+    if (!metadata.author.isEmpty())
+        iHTML += "<p>" + escaped(metadata.author) + "</p>\n";
+}
+
+void PlainTextPage::addPage(const QString& text) {
+    const QString label = iMetadata.labels.value(iPosition);
+    ++iPosition;
+    const QString name = label.isEmpty() ? QString::number(iPosition) : label;
+    iHTML += "<section id=\"page-" + QByteArray::number(iPosition) + "\"><h2>" + escaped(name) +
+             "</h2>\n";
+    if (!text.isEmpty())
+        iHTML += "<p dir=\"auto\">" + escaped(text) + "</p>\n";
+    iHTML += "</section>\n";
+}
+
+QByteArray PlainTextPage::html() const {
+    return iHTML + "</main>\n</body>\n</html>\n";
+}

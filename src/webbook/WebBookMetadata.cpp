@@ -1,0 +1,115 @@
+#include "webbook/WebBookMetadata.h"
+
+#include "annotations/FlashOutline.h"
+#include "output/WebScript.h"
+
+#include <QJsonArray>
+#include <algorithm>
+
+namespace {
+
+constexpr int maxOutlineDepth = 64;
+
+QJsonArray outlineOf(const FlashOutlineItem::Items& items, const WebBookMetadata& metadata,
+                     int depth) {
+    QJsonArray array;
+    if (depth > maxOutlineDepth)
+        return array;
+    for (const auto& item : items) {
+        if (!item)
+            continue;
+        array.append(QJsonArray{item->caption(), metadata.positionOf(item->pageIndex()),
+                                outlineOf(item->childItems(), metadata, depth + 1)});
+    }
+    return array;
+}
+
+QJsonValue openRuns(const WebBookMetadata& metadata) {
+    if (!metadata.open)
+        return QJsonValue::Null;
+    QJsonArray array;
+    for (const PageRun& run : *metadata.open)
+        array.append(QJsonArray{run.first, run.last});
+    return array;
+}
+
+// Labels that just count the pages carry no information.
+bool areOnlyPositions(const QStringList& labels) {
+    for (qsizetype i = 0; i < labels.size(); ++i) {
+        if (labels[i] != QString::number(i + 1))
+            return false;
+    }
+    return true;
+}
+
+QByteArray meta(const char* kind, const char* name, const QString& content) {
+    if (content.isEmpty())
+        return {};
+    return QByteArray("<meta ") + kind + "=\"" + name + "\" content=\"" +
+           content.toHtmlEscaped().toUtf8() + "\">\n";
+}
+
+QByteArray alternate(const QString& page) {
+    if (page.isEmpty())
+        return {};
+    return "<link rel=\"alternate\" type=\"text/html\" href=\"" + page.toHtmlEscaped().toUtf8() +
+           "\">\n";
+}
+
+} // namespace
+
+int WebBookMetadata::positionOf(int number) const {
+    const auto found = std::lower_bound(numbers.begin(), numbers.end(), number);
+    return found != numbers.end() && *found == number ? int(found - numbers.begin()) + 1 : 0;
+}
+
+bool WebBookMetadata::isOpen(int position) const {
+    return !open || isWithin(*open, position);
+}
+
+QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline) const {
+    QJsonObject object{{QStringLiteral("version"), 1},
+                       {QStringLiteral("large"), QJsonArray::fromStringList(large)},
+                       {QStringLiteral("text"), hasText},
+                       {QStringLiteral("language"), language},
+                       {QStringLiteral("open"), openRuns(*this)},
+                       {QStringLiteral("textPage"), textPage},
+                       {QStringLiteral("offline"), offline},
+                       {QStringLiteral("numbers"), QJsonValue::Null},
+                       {QStringLiteral("labels"), QJsonValue::Null}};
+    object[QStringLiteral("outline")] =
+        outline ? outlineOf(outline->items(), *this, 0) : QJsonArray();
+    if (!numbers.empty() && numbers.back() != int(numbers.size())) {
+        QJsonArray array;
+        for (const int number : numbers)
+            array.append(number);
+        object[QStringLiteral("numbers")] = array;
+    }
+    if (!areOnlyPositions(labels))
+        object[QStringLiteral("labels")] = QJsonArray::fromStringList(labels);
+    return object;
+}
+
+QByteArray WebBookMetadata::headMarkup() const {
+    QJsonObject linked{{QStringLiteral("@context"), QStringLiteral("https://schema.org")},
+                       {QStringLiteral("@type"), QStringLiteral("Book")},
+                       {QStringLiteral("name"), title},
+                       {QStringLiteral("bookFormat"), QStringLiteral("https://schema.org/EBook")},
+                       {QStringLiteral("numberOfPages"), int(numbers.size())}};
+    const auto add = [&](const QString& key, const QString& value) {
+        if (!value.isEmpty())
+            linked[key] = value;
+    };
+    if (!author.isEmpty()) {
+        linked[QStringLiteral("author")] = QJsonObject{
+            {QStringLiteral("@type"), QStringLiteral("Person")}, {QStringLiteral("name"), author}};
+    }
+    add(QStringLiteral("description"), subject);
+    add(QStringLiteral("keywords"), keywords);
+    add(QStringLiteral("inLanguage"), language);
+    return meta("name", "author", author) + meta("property", "og:type", QStringLiteral("book")) +
+           meta("property", "og:title", title) + meta("property", "og:description", subject) +
+           meta("property", "og:image", cover) +
+           meta("name", "twitter:card", QStringLiteral("summary")) + alternate(textPage) +
+           "<script type=\"application/ld+json\">" + WebScript::json(linked) + "</script>\n";
+}

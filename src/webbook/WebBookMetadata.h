@@ -1,0 +1,42 @@
+#pragma once
+
+#include "util/PageRange.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+class FlashOutline;
+
+// Metadata of a web book, for its player, search engines and link previews.
+struct WebBookMetadata {
+    QString title;
+    QString author;
+    QString subject;
+    QString keywords;
+    QString language;         // "de", or empty
+    std::vector<int> numbers; // page numbers in the PDF, in book order
+    QStringList labels;       // page labels, or empty
+    QStringList large;        // the extension of each page's large picture, empty for none
+    QString cover;            // path in the book of a page's thumbnail; empty for none
+    QString textPage;         // path in the book of the page of plain text; empty for none
+    bool hasText = false;
+    bool offline = false; // whether readers can save the book for offline use
+    // In a preview, the runs of positions that are included; none when all are.
+    std::optional<std::vector<PageRun>> open;
+
+    // The one-based position in the book of a page by its number in the PDF; 0 when it is not in
+    // the book.
+    int positionOf(int number) const;
+
+    // Whether the page at a position is included.
+    bool isOpen(int position) const;
+
+    // The data for the player; the outline may be null.
+    QJsonObject forPlayer(const FlashOutline* outline) const;
+    // Markup for the HTML page's head beyond title, keywords and description.
+    QByteArray headMarkup() const;
+};

@@ -1,0 +1,115 @@
+#include "webbook/WebPageText.h"
+
+#include <QJsonArray>
+#include <QTransform>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+int tenths(double points) {
+    constexpr double limit = 1e8;
+    return int(std::lround(std::clamp(points, -limit, limit) * 10));
+}
+
+void append(QJsonArray& array, const QRectF& box) {
+    for (const double number : {box.x(), box.y(), box.width(), box.height()})
+        array.append(tenths(number));
+}
+
+// The page rotation in degrees, rounded to a multiple of 90, as it is drawn.
+int turnOf(int rotation) {
+    return (rotation + 45) / 90 * 90 % 360;
+}
+
+// Maps PDF user space to the page as displayed, both in points.
+QTransform toSeen(const PDFPageBoxes& boxes) {
+    const QRectF& crop = boxes.crop;
+    const int turn = turnOf(boxes.rotation);
+    QTransform transform;
+    switch (turn) {
+    case 90:
+        transform = {0, 1, 1, 0, -crop.y(), -crop.x()};
+        break;
+    case 180:
+        transform = {-1, 0, 0, 1, crop.x() + crop.width(), -crop.y()};
+        break;
+    case 270:
+        transform = {0, -1, -1, 0, crop.y() + crop.height(), crop.x() + crop.width()};
+        break;
+    default:
+        transform = {1, 0, 0, -1, -crop.x(), crop.y() + crop.height()};
+        break;
+    }
+    // A page may have its own user unit.
+    const double width = turn % 180 == 0 ? crop.width() : crop.height();
+    const double unit = width > 0 && boxes.display.width() > 0 ? boxes.display.width() / width : 1;
+    return transform * QTransform::fromScale(unit, unit);
+}
+
+QJsonArray linksOf(const PDFPageBoxes& boxes, const std::vector<PDFAnnotation>& annotations,
+                   const WebPageText::Position& position) {
+    const QRectF page({0, 0}, boxes.display);
+    QJsonArray links;
+    for (const PDFAnnotation& annotation : annotations) {
+        if (annotation.type != QStringLiteral("Link"))
+            continue;
+        const bool toAddress = !annotation.url.isNull();
+        if (!toAddress && !annotation.destinationPage)
+            continue;
+        const QRectF place = WebPageText::placeOnPage(annotation.bounds, boxes).intersected(page);
+        if (place.isEmpty())
+            continue;
+        QJsonArray link;
+        append(link, place);
+        link.append(toAddress ? QJsonValue(annotation.url)
+                              : QJsonValue(position(*annotation.destinationPage)));
+        links.append(link);
+    }
+    return links;
+}
+
+QJsonArray linesOf(const std::vector<PDFTextLine>& lines) {
+    QJsonArray array;
+    for (const PDFTextLine& line : lines) {
+        QJsonArray entry;
+        append(entry, line.box);
+        entry.append(line.turn);
+        entry.append(line.rightToLeft ? 1 : 0);
+        QJsonArray words;
+        for (const PDFTextWord& word : line.words) {
+            words.append(word.text);
+            words.append(tenths(word.start));
+            words.append(tenths(word.length));
+        }
+        entry.append(words);
+        array.append(entry);
+    }
+    return array;
+}
+
+} // namespace
+
+QRectF WebPageText::placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes) {
+    return toSeen(boxes).mapRect(bounds).normalized();
+}
+
+QJsonObject WebPageText::asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
+                                const std::vector<PDFAnnotation>& annotations,
+                                const Position& position) {
+    const QSizeF size = boxes.display.isValid() ? boxes.display : QSizeF(0, 0);
+    return {{QStringLiteral("size"), QJsonArray{tenths(size.width()), tenths(size.height())}},
+            {QStringLiteral("lines"), linesOf(lines)},
+            {QStringLiteral("links"), linksOf(boxes, annotations, position)}};
+}
+
+QString WebPageText::plain(const std::vector<PDFTextLine>& lines) {
+    QString text;
+    for (const PDFTextLine& line : lines) {
+        if (!text.isEmpty())
+            text += u'\n';
+        for (const PDFTextWord& word : line.words)
+            text += word.text;
+    }
+    return text;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "pdf/PDFPage.h"
+
+#include <QJsonObject>
+#include <functional>
+#include <vector>
+
+// The words and links of a page in the format of the web book's player.
+namespace WebPageText {
+
+// The one-based position in the book of a page by its zero-based index in the PDF; 0 when it is not
+// in the book.
+using Position = std::function<int(int pageIndex)>;
+
+// An annotation's rectangle on the page as displayed: in points from its top left corner.
+QRectF placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes);
+
+// Numbers are integers in tenths of a point. URLs are copied from the document: the player decides
+// which ones to follow.
+QJsonObject asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
+                   const std::vector<PDFAnnotation>& annotations, const Position& position);
+
+// The text alone: lines in reading order, separated by line breaks.
+QString plain(const std::vector<PDFTextLine>& lines);
+
+} // namespace WebPageText

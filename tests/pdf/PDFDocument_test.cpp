@@ -1,0 +1,258 @@
+#include "pdf/PDFDocument.h"
+
+#include "builder/PDFBuilder.h"
+#include "pdf/PDFLimits.h"
+#include "support/FailureOf.h"
+#include "support/PixelCheck.h"
+#include "support/TemplateLibrary.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+class PDFDocumentTest : public testing::Test {
+protected:
+    std::shared_ptr<PDFDocument> open(const QByteArray& bytes) const {
+        TestFiles::write(iFolder.filePath("test.pdf"), bytes);
+        return PDFDocument::open(iFolder.filePath("test.pdf"));
+    }
+    std::shared_ptr<PDFDocument> open() const { return open(builder.build()); }
+
+    PDFBuilder builder;
+
+private:
+    QTemporaryDir iFolder;
+};
+
+// Its lower left quarter is red.
+const QSizeF pageSize(200, 100);
+constexpr char redCorner[] = "1 0 0 rg 0 0 100 50 re f";
+
+QImage draw(const PDFDocument& document, int index, double scale = 1) {
+    PageBitmap bitmap;
+    document.page(index).draw(scale, bitmap);
+    const bool gray = bitmap.components() == 1;
+    return QImage(bitmap.data(), bitmap.width(), bitmap.height(), bitmap.stride(),
+                  gray ? QImage::Format_Grayscale8 : QImage::Format_RGB888)
+        .copy();
+}
+
+} // namespace
+
+TEST_F(PDFDocumentTest, OpensADocumentLockedWithAnEmptyPassword) {
+    builder.addPage(PDFBuilder::page(pageSize, redCorner));
+    builder.encrypt("", "owner");
+    EXPECT_TRUE(isNear(colourAt(draw(*open(), 0), 0.1, 0.9), Qt::red));
+}
+
+// The link can't be read. When MuPDF comes to it, it repairs the whole file anew, up to the second
+// page: it then knows of no page any more.
+TEST_F(PDFDocumentTest, KeepsItsCountOfPagesWhateverIsReadLater) {
+    builder.addPage(
+        PDFBuilder::page(pageSize, redCorner,
+                         {PDFBuilder::link({0, 0, 9, 9}, PDFBuilder::toURL("http://a.invalid/"))}));
+    builder.addPage(PDFBuilder::page({77, 77}, redCorner));
+    QByteArray bytes = builder.build();
+    bytes.replace("obj\n<< /Type /Annot", "obb\n<< /Type /Annot")
+        .replace("[0 0 77 77]", "[0(0 77 77]");
+    const auto document = open(bytes);
+    ASSERT_EQ(document->pageCount(), 2);
+    document->page(0).annotations();
+    EXPECT_EQ(document->pageCount(), 2);
+    EXPECT_THROW(draw(*document, 1), PlatformException);
+}
+
+TEST_F(PDFDocumentTest, DrawsPagesTheWayTheyAreTurned) {
+    struct Case {
+        int rotate, reported;
+        QSizeF size;
+        QPointF red; // fractions from the upper left corner
+    };
+    const std::vector<Case> cases{
+        {0, 0, {200, 100}, {0.1, 0.9}},     {90, 90, {100, 200}, {0.1, 0.1}},
+        {180, 180, {200, 100}, {0.9, 0.1}}, {270, 270, {100, 200}, {0.9, 0.9}},
+        {-90, 270, {100, 200}, {0.9, 0.9}}, {450, 90, {100, 200}, {0.1, 0.1}}};
+    for (const Case& each : cases) {
+        auto page = PDFBuilder::page(pageSize, redCorner);
+        page.rotate = each.rotate;
+        builder.addPage(page);
+    }
+    const auto document = open();
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const auto& [rotate, reported, size, red] = cases[i];
+        const PDFPage page = document->page(int(i));
+        EXPECT_EQ(page.rotation(), reported) << rotate;
+        EXPECT_EQ(page.displaySize(), size) << rotate;
+        const QImage image = draw(*document, int(i));
+        EXPECT_EQ(image.size(), size.toSize()) << rotate;
+        EXPECT_TRUE(isNear(colourAt(image, red.x(), red.y()), Qt::red)) << rotate;
+        EXPECT_TRUE(isNear(colourAt(image, 1 - red.x(), red.y()), Qt::white)) << rotate;
+    }
+}
+
+TEST_F(PDFDocumentTest, ShowsTheCropBoxWithinTheMediaBox) {
+    auto shifted = PDFBuilder::page(pageSize, "0 0 1 rg 50 20 50 30 re f");
+    shifted.cropBox = QRectF(50, 20, 50, 30);
+    PDFBuilder::Page beyond;
+    beyond.mediaBox = QRectF(-10, -10, 100, 100);
+    beyond.cropBox = QRectF(0, 0, 500, 500);
+    builder.addPage(shifted);
+    builder.addPage(beyond);
+    PDFBuilder::PageAttributes inherited;
+    inherited.rotate = 90;
+    builder.setInherited(inherited);
+    const auto document = open();
+
+    EXPECT_EQ(document->page(0).cropBox(), QRectF(50, 20, 50, 30));
+    EXPECT_EQ(document->page(0).mediaBox(), QRectF(0, 0, 200, 100));
+    EXPECT_EQ(document->page(1).cropBox(), QRectF(0, 0, 90, 90));
+    EXPECT_EQ(document->page(0).rotation(), 90);
+    const QImage image = draw(*document, 0);
+    EXPECT_EQ(image.size(), QSize(30, 50));
+    EXPECT_TRUE(isNear(colourAt(image, 0.02, 0.02), Qt::blue));
+    EXPECT_TRUE(isNear(colourAt(image, 0.97, 0.97), Qt::blue));
+}
+
+TEST_F(PDFDocumentTest, DrawsWithoutColourWhatHasNone) {
+    const QByteArray grayPixels(3 * 4, char(0x80));
+    auto grayButRGB = PDFBuilder::page(pageSize, "200 0 0 100 0 0 cm /I Do");
+    grayButRGB.xObjects["I"] = builder.addRGBImage({2, 2}, grayPixels);
+    builder.addPage(PDFBuilder::page(pageSize, "0.5 g 0 0 200 100 re f"));
+    builder.addPage(grayButRGB);
+    builder.addPage(PDFBuilder::page(pageSize, "0.5 0.5 0.51 rg 0 0 200 100 re f"));
+    builder.addPage(PDFBuilder::page(pageSize, "0.5 0.4 0.6 rg 0 0 1 1 re f"));
+    const auto document = open();
+    EXPECT_EQ(draw(*document, 0).format(), QImage::Format_Grayscale8);
+    const QImage scan = draw(*document, 1);
+    EXPECT_EQ(scan.format(), QImage::Format_Grayscale8);
+    EXPECT_TRUE(isNear(colourAt(scan, 0.9, 0.9), QColor(128, 128, 128)));
+    EXPECT_EQ(draw(*document, 2).format(), QImage::Format_RGB888);
+    EXPECT_EQ(draw(*document, 3).format(), QImage::Format_RGB888);
+}
+
+// Pictures in four colours, one a quarter, far larger than they come out.
+TEST_F(PDFDocumentTest, ReducesImagesInEveryPlacementAndEncoding) {
+    const auto quarters = [](const char* topLeft, const char* topRight, const char* left,
+                             const char* right) {
+        const auto half = [](const char* first, const char* second) {
+            const auto row = QByteArray::fromHex(first).repeated(210) +
+                             QByteArray::fromHex(second).repeated(210);
+            return row.repeated(210);
+        };
+        return half(topLeft, topRight) + half(left, right);
+    };
+    const QSize size(420, 420);
+    const QByteArray rgb = quarters("ff0000", "00ff00", "0000ff", "ffffff");
+    const QByteArray gray = quarters("00", "50", "a0", "f0");
+    const std::vector<int> images{
+        builder.addRGBImage(size, rgb), builder.addGrayImage(size, gray),
+        builder.addJPEGImage(size, 3, PDFBuilder::encodeJPEG(size, 3, rgb, 95)),
+        builder.addJPEGImage(size, 1, PDFBuilder::encodeJPEG(size, 1, gray, 95))};
+    struct Placement {
+        QByteArray matrix;
+        int rotate;
+        double x, y; // where the image's upper left quarter comes out
+    };
+    const std::vector<Placement> placements{{"101.3 0 0 99.6 0 0 cm", 0, 0.25, 0.25},
+                                            {"101.3 0 0 99.6 0 0 cm", 90, 0.75, 0.25},
+                                            {"-100 0 0 100 100 0 cm", 0, 0.75, 0.25},
+                                            {"100 0 0 -100 0 100 cm", 0, 0.25, 0.75},
+                                            {"0 100 -100 0 100 0 cm", 0, 0.25, 0.75}};
+    for (const int image : images) {
+        for (const Placement& placement : placements) {
+            auto page = PDFBuilder::page({100, 100}, placement.matrix + " /I Do");
+            page.xObjects["I"] = image;
+            page.rotate = placement.rotate;
+            builder.addPage(page);
+        }
+    }
+    const auto document = open();
+    for (std::size_t i = 0; i < images.size() * placements.size(); ++i) {
+        const auto& [matrix, rotate, x, y] = placements[i % placements.size()];
+        const bool isGray = i / placements.size() % 2 == 1;
+        const QImage drawn = draw(*document, int(i));
+        EXPECT_TRUE(isNear(colourAt(drawn, x, y), isGray ? Qt::black : Qt::red)) << i;
+        EXPECT_TRUE(
+            isNear(colourAt(drawn, 1 - x, 1 - y), isGray ? QColor(240, 240, 240) : Qt::white))
+            << i;
+    }
+}
+
+// Blending needs the page as a picture of its own: on white paper the difference to white shows.
+TEST_F(PDFDocumentTest, BlendsWithinThePageNotWithThePaper) {
+    auto plain = PDFBuilder::page(pageSize, "0 0 1 rg 0 0 200 100 re f");
+    plain.extraEntries = "/Group << /S /Transparency /I true /CS /DeviceRGB >>";
+    builder.addPage(plain);
+    auto blended = PDFBuilder::page(pageSize, "/D gs 1 1 0 rg 0 0 200 100 re f");
+    const int state = builder.addObject("<< /BM /Difference >>");
+    blended.extraEntries = "/Resources << /ExtGState << /D " + PDFBuilder::reference(state) +
+                           " >> >> /Group << /S /Transparency /I true /CS /DeviceRGB >>";
+    builder.addPage(blended);
+    const auto document = open();
+    EXPECT_TRUE(isNear(colourAt(draw(*document, 0), 0.5, 0.5), Qt::blue));
+    EXPECT_TRUE(isNear(colourAt(draw(*document, 1), 0.5, 0.5), Qt::yellow));
+    // A group that changes nothing keeps no page from being vectors; blending does.
+    EXPECT_TRUE(document->page(0).vectorPicture().contains("fill=\"#0000ff\""));
+    EXPECT_TRUE(document->page(1).vectorPicture().isEmpty());
+}
+
+// Halves of a spread are often the whole of it, each with its own crop box.
+TEST_F(PDFDocumentTest, GivesNoVectorsOfWhatLiesOutsideThePage) {
+    for (const QByteArray& content :
+         {QByteArray("0 0 1 rg 20 20 60 60 re f"), QByteArray("120 20 60 60 re f"),
+          QByteArray("BT /F 20 Tf 20 50 Td (in) Tj 110 0 Td (out) Tj ET")}) {
+        auto half = PDFBuilder::page(pageSize, content);
+        half.cropBox = QRectF(0, 0, 100, 100);
+        half.fonts = {{"F", "Helvetica"}};
+        builder.addPage(half);
+    }
+    const auto document = open();
+    const QByteArray picture = document->page(0).vectorPicture();
+    EXPECT_TRUE(picture.contains("fill=\"#0000ff\""));
+    EXPECT_TRUE(picture.contains("fill=\"#fff\"")) << "it lies on paper";
+    EXPECT_TRUE(document->page(1).vectorPicture().isEmpty());
+    EXPECT_TRUE(document->page(2).vectorPicture().isEmpty());
+}
+
+TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
+    builder.addPage(PDFBuilder::page({14400, 14400}, redCorner));
+    builder.addPage(PDFBuilder::page({30000, 10}, ""));
+    const auto document = open();
+    PageBitmap bitmap;
+    document->page(0).draw(2, bitmap);
+    EXPECT_LE(std::size_t(bitmap.width()) * std::size_t(bitmap.height()),
+              PDFLimits::maxBitmapPixels * 101 / 100);
+    EXPECT_EQ(bitmap.width(), bitmap.height());
+    document->page(1).draw(2, bitmap);
+    EXPECT_EQ(bitmap.width(), PDFLimits::maxBitmapSide);
+}
+
+TEST_F(PDFDocumentTest, EndsADrawingThatTakesTooLongOrIsStopped) {
+    builder.addPage(
+        PDFBuilder::page(pageSize, QByteArray("0 0 200 100 re f ").repeated(3'000'000)));
+    const auto document = open();
+    PageBitmap bitmap;
+    const std::atomic<bool> stop{true};
+    const auto failureWith = [&](const DrawControl& control) {
+        return failureOf([&] { document->page(0).draw(2, bitmap, control); }).name();
+    };
+    EXPECT_EQ(failureWith({nullptr, std::chrono::milliseconds(50)}), "PDFPageTimeout");
+    EXPECT_EQ(failureWith({&stop}), "PDFPageStopped");
+}
+
+TEST_F(PDFDocumentTest, ReadsOutlinesThatRunInCirclesOnce) {
+    builder.addPage(PDFBuilder::page(pageSize, ""));
+    const int outlines = builder.reserveObject();
+    const int first = builder.reserveObject();
+    const QByteArray toFirst = PDFBuilder::reference(first);
+    const int second = builder.addObject("<< /Title (two) /Next " + toFirst + " >>");
+    builder.setObject(outlines, "<< /First " + toFirst + " >>");
+    builder.setObject(first, "<< /Title (one) /Next " + PDFBuilder::reference(second) + " /First " +
+                                 toFirst + " >>");
+    builder.addCatalogEntries("/Outlines " + PDFBuilder::reference(outlines));
+    const auto outline = open()->outline();
+    ASSERT_EQ(outline.size(), 2U);
+    EXPECT_EQ(outline[1].label, "two");
+    EXPECT_TRUE(outline[0].children.empty());
+}

@@ -1,0 +1,120 @@
+#include "pdf/PDFReader.h"
+
+#include "pdf/PDFSerialization.h"
+#include "support/FailureOf.h"
+#include "support/TemplateLibrary.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Readers that are shell scripts: what happens when the process that reads is not well.
+class PDFReaderTest : public testing::Test {
+protected:
+    std::unique_ptr<PDFReader> reader(const QByteArray& script,
+                                      std::chrono::milliseconds patience = 60s) {
+        const QString program = iFolder.filePath("reader");
+        TestFiles::write(program, "#!/bin/sh\ncount=" + PDFSerialization::pack(3).toBase64() +
+                                      "\n" + script);
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        auto made = std::make_unique<PDFReader>("none.pdf", [this] { return iStop; });
+        made->setProgram(program);
+        made->setTimeout(patience);
+        return made;
+    }
+
+    QString failureOfOpening(const QByteArray& script, std::chrono::milliseconds patience = 60s) {
+        return failureOf([&] { reader(script, patience)->open(); }).name();
+    }
+
+    QTemporaryDir iFolder;
+    bool iStop = false;
+};
+
+PDFOutlineNode nested(int depth) {
+    PDFOutlineNode node{QString("level %1").arg(depth), depth, {}};
+    if (depth > 0)
+        node.children.push_back(nested(depth - 1));
+    return node;
+}
+
+} // namespace
+
+TEST_F(PDFReaderTest, LeavesTheFileToItsOwnerWhenThereIsNoProgramToReadIt) {
+    EXPECT_FALSE(reader("exit 127\n")->open());
+    const auto none = reader("");
+    none->setProgram(iFolder.filePath("missing"));
+    EXPECT_FALSE(none->open());
+}
+
+TEST_F(PDFReaderTest, ReportsWhatEndsTheProgramAndStopsTrying) {
+    EXPECT_EQ(failureOfOpening("echo here\nkill -SEGV $$\n"), "PDFReaderEnded");
+    EXPECT_EQ(failureOfOpening("exec sleep 100\n", 100ms), "PDFReaderTimeout");
+
+    const auto ends = reader("echo here\necho \"ok $count\"\nread question\necho x >>" +
+                             QFile::encodeName(iFolder.filePath("tries")) + "\nkill -SEGV $$\n");
+    ASSERT_TRUE(ends->open());
+    EXPECT_EQ(ends->pageCount(), 3);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(failureOf([&] { ends->boxes(0); }).name(), "PDFReaderEnded");
+    EXPECT_EQ(TestFiles::read(iFolder.filePath("tries")), "x\nx\nx\n");
+}
+
+TEST_F(PDFReaderTest, StopsWaitingWhenStopped) {
+    iStop = true;
+    EXPECT_EQ(failureOfOpening("exec sleep 100\n"), "PDFReadStopped");
+}
+
+// A compromised worker may answer anything.
+TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
+    const auto answers = [&](const QByteArray& packed) {
+        auto made = reader("echo here\necho \"ok $count\"\nwhile read question; do echo ok " +
+                           packed.toBase64() + "; done\n");
+        EXPECT_TRUE(made->open());
+        return failureOf([&] { made->outline(); }).name();
+    };
+    const QString garbled = "PDFReaderMalformedAnswer";
+    EXPECT_EQ(answers(""), garbled);
+    EXPECT_EQ(answers(QByteArray::fromHex("ffffffff")), garbled);
+    EXPECT_EQ(answers(QByteArray::fromHex("000000017fffffff")), garbled);
+    EXPECT_EQ(answers(PDFSerialization::pack(std::vector{nested(200)})), garbled);
+    EXPECT_EQ(answers(PDFSerialization::pack(std::vector{nested(64)})), QString());
+}
+
+// Then this process would read the file itself, as when there is no such program.
+TEST_F(PDFReaderTest, ReadsNoFileInProcessWhateverTheProgramAnswers) {
+    EXPECT_EQ(failureOfOpening("echo here\nexit 127\n"), "PDFReaderEnded");
+    EXPECT_EQ(failureOfOpening("echo here\necho fail ProcessStartFailed x\n"),
+              "PDFReaderMalformedAnswer");
+    EXPECT_EQ(failureOfOpening("echo \"ok $count\"\n"), "PDFReaderMalformedAnswer");
+}
+
+TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {
+    const auto deaf = reader("echo here\necho \"ok $count\"\nexec sleep 100\n");
+    ASSERT_TRUE(deaf->open());
+    deaf->setTimeout(100ms);
+    const QByteArray key(4 << 20, 'k');
+    EXPECT_EQ(failureOf([&] { deaf->information(key.constData()); }).name(), "PDFReaderTimeout");
+}
+
+TEST(PDFSerialization, RefusesTextLinesThatMakeNoSense) {
+    const auto failureWith = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
+        const std::vector lines{PDFTextLine{box, turn, false, {word}}};
+        return failureOf([&] { PDFSerialization::unpackTextLines(PDFSerialization::pack(lines)); })
+            .name();
+    };
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    for (const int turn : {0, 90, 180, 270})
+        EXPECT_EQ(failureWith({}, turn), QString());
+    EXPECT_EQ(failureWith({}, 45), "PDFReaderMalformedAnswer");
+    for (const QRectF& box : {QRectF(none, 0, 0, 0), QRectF(0, none, 0, 0), QRectF(0, 0, none, 0),
+                              QRectF(0, 0, 0, none)})
+        EXPECT_EQ(failureWith(box, 0), "PDFReaderMalformedAnswer");
+    for (const PDFTextWord& word : {PDFTextWord{"x", none, 0}, PDFTextWord{"x", 0, none}})
+        EXPECT_EQ(failureWith({}, 0, word), "PDFReaderMalformedAnswer");
+}
