@@ -95,6 +95,29 @@ TEST(FolveroOutput, CopiesSettingsFilesAtAnyDepthButNotBelowAMissingOne) {
     EXPECT_EQ(book.files("files/extfiles"), "below.png belowEmpty.png moveSound.mp3 top.png");
 }
 
+TEST(FolveroOutput, StepsWorkInTheCurrentFolderForAnyBaseButThatOfPages) {
+    PublishedBook book(TemplateLibrary::composite("group", fileProperty("mainbgImgUrl", "") +
+                                                               fileProperty("below", "")));
+    const QString file = book.addSource("a.png", "a");
+    book.addPage("1.jpg", 1, "one");
+    book.annotations->setNeedFiles({file});
+    const auto output = book.publisher();
+    QDir().mkpath(book.sourcePath("current/files/extfiles"));
+    QDir().mkpath(book.sourcePath("base"));
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(book.sourcePath("current"));
+    book.addSource("current/files/extfiles/mainbgImgUrl.gif", "old");
+    output->prepaireNomalPage(book.sourcePath("base"));
+    output->removeExtFiles("base");
+    book.flashTemplate->setPropertyValue("below", file);
+    output->prepaireExtFiles("base", *book.flashTemplate->properties()[0]);
+    output->PrepareAnnotationFiles("base");
+    QDir::setCurrent(before);
+    EXPECT_EQ(book.files("../sources"),
+              "1.jpg a.png base/files/page/1.jpg current/files/extfiles/below.png "
+              "current/files/pageConfig/a.png");
+}
+
 TEST(FolveroOutput, LeavesOutAMissingPageAndSaysWhich) {
     PublishedBook book;
     book.addPage("1.jpg", 1, "one");
