@@ -33,8 +33,8 @@ BIN = WORK / "build/release/bin"
 PROGRAMS = [("app/desktop", ["folvero-desktop-tests"]), ("ui", ["folvero-ui-tests", "folvero-desktop-tests"]),
             ("app|template", ["folvero-tests", "folvero-ui-tests"]), ("", ["folvero-tests"])]
 # Folders whose tests are not in the folder of tests/ that has their name.
-NEAR = {"server": "cli", "worker": "pages", "app/desktop": "desktop"}
-# Tests that take a larger share of their program's time are run for the sources of their own folder only, and last.
+NEAR = {"server": "cli", "console": "cli", "webbook": "cli", "worker": "drawing", "app/desktop": "desktop"}
+# Tests that take a larger share of their program's time are run last.
 SLOW_SHARE = 0.02
 # Files of tests/browser for the folders of the player.
 BROWSER = {"book": "opening|layout|settings|backgrounds|hostile", "turning": "turning|zoom", "web": "web-.*",
@@ -85,7 +85,7 @@ def changed_text(line, code):
 def swapped_arguments(line, code):
     value = r"((?:[\w.]|->|::)+(?:\(\))?)"
     for match in re.finditer(rf"(?<=[(,{{ ]){value}, {value}(?=[,)}}])", code):
-        if match[1] != match[2] and not re.search(r"\b\w*(?:max|min|[sS]wap|hypot)\w*\($", code[:match.start()]):
+        if match[1] != match[2] and not re.search(r"\b\w*(?:max|min|[sS]wap|hypot)\w*(?:<\w+>)?\($", code[:match.start()]):
             yield *match.span(), f"{line[slice(*match.span(2))]}, {line[slice(*match.span(1))]}"
 
 
@@ -217,7 +217,7 @@ def tests_of(program):
     tests = [(f"{suite['name']}.{test['name']}", test) for suite in suites for test in suite["testsuite"]]
     for name, test in tests:
         if "failures" in test:
-            print(f"{name} fails without a fault: left out", flush=True)
+            print(f"{name} fails without a fault: left out\n{test['failures'][0]['failure']}", flush=True)
     return [Test(name, pathlib.Path(test["file"]).parent.name, float(test["time"][:-1]))
             for name, test in tests if "failures" not in test]
 
@@ -242,8 +242,7 @@ def checks_of(path, in_browser):
         slow_seconds = SLOW_SHARE * sum(test.seconds for test in tests_of(program))
         for test in tests_of(program):
             is_slow = test.seconds > slow_seconds
-            if test.folder == near or not is_slow:
-                steps[2 if is_slow else test.folder != near].append(test)
+            steps[2 if is_slow else test.folder != near].append(test)
         checks += [(program, (str(BIN / program), "--gtest_fail_fast",
                               "--gtest_filter=" + ":".join(test.name for test in step)),
                     max(test.seconds for test in step)) for step in steps if step]
