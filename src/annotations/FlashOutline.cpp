@@ -14,8 +14,7 @@ std::unique_ptr<pugi::xml_document> FlashOutline::outlineAsXMLNode() const {
 
 void FlashOutline::loadFromXMLNode(const pugi::xml_node& element) {
     if (std::string_view(element.name()) != "ols")
-        throw PlatformException(QStringLiteral("ERROR_INIT_OUTLINES"),
-                                QStringLiteral("Not a flash outline"));
+        throw PlatformException(ErrorKind::outline, QStringLiteral("Not a flash outline"));
     iItems.clear();
     for (const pugi::xml_node& node : element.children("o")) {
         auto item = std::make_shared<FlashOutlineItem>();

@@ -9,7 +9,7 @@
 
 namespace {
 
-const QString errorName = QStringLiteral("ERROR_INIT_OUTLINE_ITEM");
+constexpr ErrorKind errorKind = ErrorKind::outlineItem;
 
 } // namespace
 
@@ -40,10 +40,10 @@ void FlashOutlineItem::loadItemFromXMLNode(const pugi::xml_node& element) {
 
 void FlashOutlineItem::load(const pugi::xml_node& element, int depth) {
     if (std::string_view(element.name()) != "o")
-        throw PlatformException(errorName, QStringLiteral("Not a flash outline item"));
+        throw PlatformException(errorKind, QStringLiteral("Not a flash outline item"));
     if (depth > maximumDepth)
         throw PlatformException(
-            errorName, QStringLiteral("entries are nested more than %1 deep").arg(maximumDepth));
+            errorKind, QStringLiteral("entries are nested more than %1 deep").arg(maximumDepth));
     if (const pugi::xml_node caption = element.child("c"))
         iCaption = XMLText::textOf(caption);
     if (const pugi::xml_node page = element.child("p"))

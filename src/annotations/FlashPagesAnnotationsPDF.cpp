@@ -102,10 +102,15 @@ void logAnnotation(std::size_t index, const PDFAnnotation& annotation) {
 // False for a page that the document lacks, since then the range is wrong, and for a cancelled
 // read.
 bool affectsOnePage(const PlatformException& failure) {
-    static const QStringList names{
-        QStringLiteral("PDFPageUnreadable"), QStringLiteral("PDFReaderEnded"),
-        QStringLiteral("PDFReaderTimeout"), QStringLiteral("PDFReaderMalformedAnswer")};
-    return names.contains(failure.name());
+    switch (failure.kind()) {
+    case ErrorKind::pageUnreadable:
+    case ErrorKind::readerEnded:
+    case ErrorKind::readerTimeout:
+    case ErrorKind::readerMalformedAnswer:
+        return true;
+    default:
+        return false;
+    }
 }
 
 } // namespace
@@ -166,7 +171,7 @@ void FlashPagesAnnotationsPDF::scheduledScanPage(const Notification& /*notificat
 void FlashPagesAnnotationsPDF::parsePage() {
     if (std::size_t(iCurrentIndex) >= iNeedToImportPages.size()) {
         throw PlatformException(
-            QStringLiteral("PageListEnded"),
+            ErrorKind::pageListEnded,
             Message::translate("FlashPagesAnnotationsPDF", "no page at position %1")
                 .arg(QString::number(iCurrentIndex)));
     }

@@ -20,7 +20,7 @@ PageTiming PageImageMaker::make(int page, const QString& path, const DrawControl
     timing.encode = watch.lap();
     Message error;
     if (!Files::writeWorkingFile(path, jpeg, &error)) {
-        throw PlatformException(QStringLiteral("PageWriteFailed"),
+        throw PlatformException(ErrorKind::pageWrite,
                                 Message(QStringLiteral("%1: %2")).arg(path, error));
     }
     timing.write = watch.lap();

@@ -59,7 +59,7 @@ QString parentOf(const QString& path) {
 } // namespace
 
 void PublishTransaction::fail(const QString& path, const Message& cause) {
-    throw PlatformException(QStringLiteral("PublishError"),
+    throw PlatformException(ErrorKind::publishing,
                             Message(QStringLiteral("%1: %2")).arg(path, cause));
 }
 

@@ -19,7 +19,7 @@ QRectF firstReadableCropBox(const PDFDocument& document) {
         try {
             return document.page(i).cropBox();
         } catch (const PlatformException& failure) {
-            if (failure.name() != QStringLiteral("PDFPageUnreadable"))
+            if (failure.kind() != ErrorKind::pageUnreadable)
                 throw;
         }
     }

@@ -59,7 +59,7 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
         return;
     if (page < 1 || page > PDFDoc()->pageCount()) {
         throw PlatformException(
-            QStringLiteral("PDFPageMissing"),
+            ErrorKind::pageMissing,
             Message::translate("PDFDocument", "page %1 does not exist; the document has %2")
                 .arg(QString::number(page), QString::number(PDFDoc()->pageCount())));
     }
@@ -69,7 +69,7 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
     iTiming.encode += result.timing.encode;
     iTiming.write += result.timing.write;
     if (result.isUnwritten)
-        throw PlatformException(QStringLiteral("WorkFolderFailed"), result.error);
+        throw PlatformException(ErrorKind::workFolder, result.error);
     if (!result.error.isNull())
         iFailedPages.push_back({page, result.error});
 }
@@ -84,7 +84,7 @@ PageResult PDFToSWFPageConverter::drawInProcess(int page) {
                 iPDFRep->make(page, workFile(page, "jpg"), {iStop, PDFLimits::maxPageTime})};
     } catch (const PlatformException& failure) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
-        return {failure.message(), {}, failure.name() == QStringLiteral("PageWriteFailed")};
+        return {failure.message(), {}, failure.kind() == ErrorKind::pageWrite};
     } catch (const std::exception& failure) {
         return {QString::fromUtf8(failure.what()), {}};
     }

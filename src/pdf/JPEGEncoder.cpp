@@ -78,7 +78,7 @@ std::span<const unsigned char> JPEGEncoder::encode(const PageBitmap& bitmap, dou
     if (tjCompress2(iState->compressor, bitmap.data(), bitmap.width(), bitmap.stride(),
                     bitmap.height(), gray ? TJPF_GRAY : TJPF_RGB, &output, &size, sampling, quality,
                     TJFLAG_NOREALLOC | TJFLAG_ACCURATEDCT) != 0) {
-        throw PlatformException(QStringLiteral("JPEGEncodeFailed"),
+        throw PlatformException(ErrorKind::jpegEncode,
                                 QString::fromUtf8(tjGetErrorStr2(iState->compressor)));
     }
     return {output, size};

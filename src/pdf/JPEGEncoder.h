@@ -14,7 +14,7 @@ public:
     JPEGEncoder& operator=(const JPEGEncoder&) = delete;
 
     // factor is 0 (strongest compression) to 1 (best). The result is valid until the next call.
-    // Throws PlatformException "JPEGEncodeFailed".
+    // Throws PlatformException.
     std::span<const unsigned char> encode(const PageBitmap& bitmap, double factor);
 
 private:

@@ -57,8 +57,7 @@ void logMuPDFMessage(void* /*user*/, const char* message) noexcept {
 
 // The reason is "PATH: CAUSE".
 [[noreturn]] void failToOpen(const QString& path, const Message& cause) {
-    throw PlatformException(QStringLiteral("PDFOpenFailed"),
-                            Message(QStringLiteral("%1: %2")).arg(path, cause));
+    throw PlatformException(ErrorKind::pdfOpen, Message(QStringLiteral("%1: %2")).arg(path, cause));
 }
 
 void checkFile(const QString& path) {
@@ -114,7 +113,7 @@ void PDFDocument::Engine::open(Access access) {
         mapping = memory == MAP_FAILED ? nullptr : memory;
     }
     try {
-        run("PDFOpenFailed", [&](fz_context* ctx) {
+        run(ErrorKind::pdfOpen, [&](fz_context* ctx) {
             if (!mapping) {
                 document = pdf_open_document(ctx, name.constData());
                 return;
@@ -264,7 +263,7 @@ std::shared_ptr<PDFDocument> PDFDocument::openSandboxed(const QString& path,
         if (!reader->open())
             return open(path);
     } catch (const PlatformException& failure) {
-        if (failure.name() == QStringLiteral("PDFOpenFailed"))
+        if (failure.kind() == ErrorKind::pdfOpen)
             throw;
         failToOpen(path, failure.message());
     }
@@ -277,7 +276,7 @@ void PDFDocument::checkUnchanged() const {
     if (FileState::of(iPath) == iState)
         return;
     throw PlatformException(
-        QStringLiteral("PDFChanged"),
+        ErrorKind::pdfChanged,
         Message::translate("PDFDocument", "the file was changed after reading it had begun")
             .temporary());
 }
@@ -298,14 +297,14 @@ int PDFDocument::pageCount() const {
 PDFPage PDFDocument::page(int index) const {
     if (index < 0 || index >= pageCount()) {
         throw PlatformException(
-            QStringLiteral("PDFPageMissing"),
+            ErrorKind::pageMissing,
             Message::translate("PDFDocument", "page %1 does not exist; the document has %2")
                 .arg(QString::number(qint64(index) + 1), QString::number(pageCount())));
     }
     if (iReader)
         return {*this, index, iReader->boxes(index)};
     pdf_obj* object = nullptr;
-    iEngine->run("PDFPageUnreadable", [&](fz_context* ctx) {
+    iEngine->run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         object = pdf_lookup_page_obj(ctx, iEngine->document, index);
     });
     return {*this, index, object};

@@ -44,14 +44,14 @@ public:
     PDFDocument& operator=(const PDFDocument&) = delete;
 
     QString path() const;
-    // Throws PlatformException "PDFChanged" when the file was replaced or written since it was
+    // Throws PlatformException (pdfChanged) when the file was replaced or written since it was
     // opened: what was read and drawn may then come from two different documents. The reason is
     // temporary, see Message.
     void checkUnchanged() const;
     int pageCount() const;
 
-    // The page at a zero-based index. The document must outlive it. Throws PlatformException
-    // "PDFPageMissing" when the document has no such page or the page can't be read.
+    // The page at a zero-based index. The document must outlive it. Throws PlatformException:
+    // pageMissing, or pageUnreadable.
     PDFPage page(int index) const;
 
     // An entry of the information dictionary ("Title", "Author" ...), or a null text.

@@ -37,11 +37,11 @@ public:
 
     void throwIfEnded() const {
         if (isStopped()) {
-            throw PlatformException(QStringLiteral("PDFPageStopped"),
+            throw PlatformException(ErrorKind::pageStopped,
                                     Message::translate("PageFailure", "drawing it was stopped"));
         }
         if (iTimedOut) {
-            throw PlatformException(QStringLiteral("PDFPageTimeout"),
+            throw PlatformException(ErrorKind::pageTimeout,
                                     Message::translate("PageFailure", "drawing it took too long"));
         }
     }
@@ -259,7 +259,7 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
     };
     const std::unique_ptr<void, decltype(drop)> cleanup(&drawn, drop);
 
-    engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
+    engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         if (engine.mapping)
             dropLinks(ctx, iObject);
         page = fz_load_page(ctx, &engine.document->super, iIndex);
@@ -274,7 +274,7 @@ void PDFPage::draw(double scale, PageBitmap& bitmap, const DrawControl& control)
     bitmap.resize(size.width, size.height, drawn.isColour ? 3 : 1);
     const fz_matrix matrix =
         fz_pre_translate(fz_scale(float(size.scale), float(size.scale)), -bounds.x0, -bounds.y0);
-    engine.run("PDFPageUnreadable",
+    engine.run(ErrorKind::pageUnreadable,
                [&](fz_context* ctx) { drawList(ctx, drawn.list, matrix, bitmap, watch.cookie()); });
     watch.throwIfEnded();
     // Using a colour space counts as colour so far; scans are often gray all the same.

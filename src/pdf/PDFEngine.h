@@ -23,14 +23,14 @@ struct PDFDocument::Engine {
 
     void open(Access access);
 
-    // Runs MuPDF calls; a MuPDF error becomes a PlatformException of that name.
+    // Runs MuPDF calls; a MuPDF error becomes a PlatformException of that kind.
     template <class Body>
-    void run(const char* errorName, Body body) const {
+    void run(ErrorKind errorKind, Body body) const {
         fz_try(context) {
             body(context);
         }
         fz_catch(context) {
-            throw PlatformException(QString::fromLatin1(errorName), caughtReason());
+            throw PlatformException(errorKind, caughtReason());
         }
     }
 

@@ -55,11 +55,11 @@ int PDFPage::rotation() const {
 QSizeF PDFPage::displaySize() const {
     if (iBoxes) {
         if (!iBoxes->displayError.isNull())
-            throw PlatformException(QStringLiteral("PDFPageUnreadable"), iBoxes->displayError);
+            throw PlatformException(ErrorKind::pageUnreadable, iBoxes->displayError);
         return iBoxes->display;
     }
     fz_rect mediaBox = fz_empty_rect;
-    iDocument->iEngine->run("PDFPageUnreadable", [&](fz_context* ctx) {
+    iDocument->iEngine->run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         fz_matrix matrix;
         pdf_page_obj_transform(ctx, iObject, &mediaBox, &matrix);
         mediaBox = fz_transform_rect(mediaBox, matrix);

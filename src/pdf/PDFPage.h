@@ -52,7 +52,7 @@ public:
     int rotation() const;
 
     // Size in points as drawn: rotated, and scaled by the page's user unit. Throws
-    // PlatformException "PDFPageUnreadable".
+    // PlatformException (pageUnreadable).
     QSizeF displaySize() const;
 
     PDFPageBoxes boxes() const;
@@ -61,17 +61,16 @@ public:
 
     // Draws the page as a viewer shows it, rotated and with its annotations, on white. scale is in
     // pixels per point; a page that exceeds the limits is drawn at a smaller scale. The bitmap has
-    // one component when the page is gray. Throws PlatformException when the page can't be read
-    // ("PDFPageUnreadable"), "PDFPageTimeout" or "PDFPageStopped". Not for documents that another
-    // process reads.
+    // one component when the page is gray. Throws PlatformException:
+    // pageUnreadable, pageTimeout or pageStopped. Not for documents that another process reads.
     void draw(double scale, PageBitmap& bitmap, const DrawControl& control = {}) const;
 
     // The words on the page, line by line in the order of the file. Throws PlatformException
-    // "PDFPageUnreadable". Not for documents that another process reads.
+    // (pageUnreadable). Not for documents that another process reads.
     std::vector<PDFTextLine> text() const;
 
     // The page as an SVG file, in points, or empty for a page with more than text and plain fills,
-    // which only a bitmap shows correctly. Throws PlatformException "PDFPageUnreadable". Not for
+    // which only a bitmap shows correctly. Throws PlatformException (pageUnreadable). Not for
     // documents that another process reads.
     QByteArray vectorPicture() const;
 

@@ -29,10 +29,6 @@ const Log& readerLog() {
     return log;
 }
 
-[[noreturn]] void fail(const char* name, const Message& reason) {
-    throw PlatformException(QString::fromLatin1(name), reason);
-}
-
 Message crashMessage() {
     return Message::translate("PDFReader", "the program that reads PDF files broke off at it");
 }
@@ -47,23 +43,30 @@ Message openErrorFrom(const QString& words) {
     return Message::translate("PDFDocument", words.toUtf8().constData());
 }
 
-// "fail NAME REASON". The reason of an open error already contains the path. Names control our
-// behaviour, so only those that a reader may legitimately report are accepted.
+// Kinds of errors control our behaviour, so only those that a reader may legitimately report are
+// accepted.
+std::optional<ErrorKind> reportedKind(const QByteArray& name) {
+    for (const ErrorKind kind :
+         {ErrorKind::pdfOpen, ErrorKind::pageMissing, ErrorKind::pageUnreadable}) {
+        if (name == nameOf(kind))
+            return kind;
+    }
+    return std::nullopt;
+}
+
+// "fail NAME REASON". The reason of an open error already contains the path.
 PlatformException failureFrom(const QByteArray& line, const QString& path) {
     const QByteArray begin = "fail ";
     const qsizetype end = line.indexOf(' ', begin.size());
-    const QString name = QString::fromLatin1(line.mid(begin.size(), end - begin.size()));
-    static const QStringList known{QStringLiteral("PDFOpenFailed"),
-                                   QStringLiteral("PDFPageMissing"),
-                                   QStringLiteral("PDFPageUnreadable")};
-    if (!line.startsWith(begin) || end < 0 || !known.contains(name))
+    const auto kind = reportedKind(line.mid(begin.size(), end - begin.size()));
+    if (!line.startsWith(begin) || end < 0 || !kind)
         return PDFSerialization::malformedAnswer();
     const QString reason = QString::fromUtf8(line.mid(end + 1, maxReason));
-    if (name != known.first())
-        return {name, Message::translate("PageFailure", reason.toUtf8().constData())};
+    if (kind != ErrorKind::pdfOpen)
+        return {*kind, Message::translate("PageFailure", reason.toUtf8().constData())};
     const QString start = path + QStringLiteral(": ");
     const QString cause = reason.startsWith(start) ? reason.mid(start.size()) : reason;
-    return {name, Message(QStringLiteral("%1: %2")).arg(path, openErrorFrom(cause))};
+    return {*kind, Message(QStringLiteral("%1: %2")).arg(path, openErrorFrom(cause))};
 }
 
 } // namespace
@@ -79,7 +82,7 @@ bool PDFReader::open() {
         return true;
     } catch (const PlatformException& failure) {
         stop();
-        if (failure.name() != QStringLiteral("ProcessStartFailed"))
+        if (failure.kind() != ErrorKind::processStart)
             throw;
         readerLog().warn(failure.reason());
         return false;
@@ -119,7 +122,7 @@ QByteArray PDFReader::ask(const QByteArray& question) {
     try {
         return askOnce(question);
     } catch (const PlatformException& failure) {
-        if (failure.name() != QStringLiteral("PDFReaderEnded") || iEnded >= maxEnded)
+        if (failure.kind() != ErrorKind::readerEnded || iEnded >= maxEnded)
             throw;
         return askOnce(question);
     }
@@ -128,7 +131,7 @@ QByteArray PDFReader::ask(const QByteArray& question) {
 // An empty question asks for the page count, which the process reports after opening the file.
 QByteArray PDFReader::askOnce(const QByteArray& question) {
     if (iEnded >= maxEnded)
-        fail("PDFReaderEnded", crashMessage());
+        throw PlatformException(ErrorKind::readerEnded, crashMessage());
     if (!iProcess) {
         iProcess = std::make_unique<ChildProcess>(
             QFile::encodeName(iProgram).toStdString(),
@@ -157,12 +160,14 @@ QByteArray PDFReader::awaitAnswer() {
         }
         if (iStopped && iStopped()) {
             stop();
-            fail("PDFReadStopped", Message::translate("PDFReader", "reading it was stopped"));
+            throw PlatformException(ErrorKind::readStopped,
+                                    Message::translate("PDFReader", "reading it was stopped"));
         }
         if (std::chrono::steady_clock::now() > deadline) {
             ++iEnded;
             stop();
-            fail("PDFReaderTimeout", Message::translate("PDFReader", "reading it took too long"));
+            throw PlatformException(ErrorKind::readerTimeout,
+                                    Message::translate("PDFReader", "reading it took too long"));
         }
         pollfd descriptor{iProcess->readDescriptor(), POLLIN, 0};
         if (::poll(&descriptor, 1, pollMilliseconds) > 0 && !iProcess->readAvailable(maxAnswer))
@@ -176,8 +181,9 @@ void PDFReader::reportEnd() {
     const bool couldRun = iIsSandboxed || !iProcess->couldNotRun();
     stop();
     if (!couldRun)
-        fail("ProcessStartFailed",
-             Message::translate("PDFReader", "the program that reads PDF files can't be started"));
+        throw PlatformException(
+            ErrorKind::processStart,
+            Message::translate("PDFReader", "the program that reads PDF files can't be started"));
     ++iEnded;
-    fail("PDFReaderEnded", crashMessage());
+    throw PlatformException(ErrorKind::readerEnded, crashMessage());
 }

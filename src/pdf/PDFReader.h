@@ -11,9 +11,9 @@
 // Reads a PDF in a separate, sandboxed process: a file that crashes MuPDF or makes it hang ends
 // that process, not this one. For one thread at a time.
 //
-// Queries throw PlatformException: "PDFReaderEnded", "PDFReaderTimeout", "PDFReadStopped",
-// "PDFReaderMalformedAnswer", or the name that the process reports. The next query starts a new
-// process, until three have crashed or timed out.
+// Queries throw PlatformException: readerEnded, readerTimeout, readStopped, readerMalformedAnswer,
+// or the kind that the process reports. The next query starts a new process, until three have
+// crashed or timed out.
 class PDFReader {
 public:
     // Does not read yet. stopped is polled while waiting and cancels a query; it may be empty.

@@ -160,7 +160,7 @@ Value unpacked(const QByteArray& bytes) {
 } // namespace
 
 PlatformException PDFSerialization::malformedAnswer() {
-    return {QStringLiteral("PDFReaderMalformedAnswer"),
+    return {ErrorKind::readerMalformedAnswer,
             Message::translate("PDFReader", "what was read of it makes no sense")};
 }
 

@@ -9,7 +9,7 @@
 // malformed data throws malformedAnswer().
 namespace PDFSerialization {
 
-// The exception "PDFReaderMalformedAnswer".
+// An exception of the kind readerMalformedAnswer.
 PlatformException malformedAnswer();
 
 QByteArray pack(int number);

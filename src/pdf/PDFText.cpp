@@ -54,7 +54,7 @@ std::vector<PDFTextLine> PDFPage::text() const {
     fz_rect bounds = fz_empty_rect;
     const auto drop = [&](fz_stext_page** page) { fz_drop_stext_page(engine.context, *page); };
     const std::unique_ptr<fz_stext_page*, decltype(drop)> cleanup(&text, drop);
-    engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
+    engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         fz_page* page = fz_load_page(ctx, &engine.document->super, iIndex);
         fz_try(ctx) {
             const fz_stext_options options{FZ_STEXT_MEDIABOX_CLIP, 1};

@@ -178,7 +178,7 @@ QByteArray PDFPage::vectorPicture() const {
         fz_drop_page(engine.context, all->page);
     };
     const std::unique_ptr<Held, decltype(drop)> cleanup(&held, drop);
-    engine.run("PDFPageUnreadable", [&](fz_context* ctx) {
+    engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         held.page = fz_load_page(ctx, &engine.document->super, iIndex);
         held.list = fz_new_display_list_from_page(ctx, held.page);
         const fz_rect bounds = fz_bound_page(ctx, held.page);

@@ -11,7 +11,7 @@
 namespace {
 
 [[noreturn]] void fail() {
-    throw PlatformException(QStringLiteral("WebPEncodeFailed"),
+    throw PlatformException(ErrorKind::webpEncode,
                             QStringLiteral("the picture can't be encoded as WebP"));
 }
 

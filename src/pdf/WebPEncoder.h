@@ -4,7 +4,7 @@
 
 #include <QByteArray>
 
-// Encodes page bitmaps as WebP. Throws PlatformException "WebPEncodeFailed".
+// Encodes page bitmaps as WebP. Throws PlatformException.
 namespace WebPEncoder {
 
 // The longest side that the format allows.

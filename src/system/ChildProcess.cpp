@@ -19,7 +19,7 @@ namespace {
 
 [[noreturn]] void fail(const std::string& program, int error) {
     throw PlatformException(
-        QStringLiteral("ProcessStartFailed"),
+        ErrorKind::processStart,
         Message(QStringLiteral("%1: %2"))
             .arg(QString::fromLocal8Bit(program.c_str()), Message::ofSystemError(error)));
 }

@@ -10,7 +10,7 @@
 // from its standard output. The destructor kills it. It does not receive Ctrl-C from the terminal.
 class ChildProcess {
 public:
-    // Throws PlatformException "ProcessStartFailed".
+    // Throws PlatformException (processStart).
     ChildProcess(const std::string& program, const std::vector<std::string>& arguments);
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;

@@ -49,7 +49,7 @@ void FlashTemplateProperty::load(const pugi::xml_node& element, int depth) {
         return;
     if (depth > maximumDepth)
         throw PlatformException(
-            QStringLiteral("ERROR_TEMPLATE_PROPERTY"),
+            ErrorKind::templateProperty,
             Message::translate("TemplateFile", "properties are nested more than %1 deep")
                 .arg(QString::number(maximumDepth)));
     iParent = nullptr;

@@ -13,7 +13,7 @@
 
 namespace {
 
-const QString errorName = QStringLiteral("ERROR_TEMPLATE_FILE");
+constexpr ErrorKind errorKind = ErrorKind::templateFile;
 
 pugi::xml_parse_result parse(pugi::xml_document& document, const QByteArray& data) {
     return document.load_buffer(data.constData(), static_cast<std::size_t>(data.size()),
@@ -31,7 +31,7 @@ QByteArray contentsOf(const QString& path) {
     errno = 0;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw PlatformException(errorName, Message::ofLastSystemError());
+        throw PlatformException(errorKind, Message::ofLastSystemError());
     return file.readAll();
 }
 
@@ -61,11 +61,11 @@ QByteArray inUTF8(const QByteArray& data) {
     const QString shown = QString::fromLatin1(name);
     if (!decode.isValid())
         throw PlatformException(
-            errorName,
+            errorKind,
             Message::translate("TemplateFile", "the encoding \"%1\" is not known").arg(shown));
     if (decode.hasError())
         throw PlatformException(
-            errorName,
+            errorKind,
             Message::translate("TemplateFile", "is not in the encoding \"%1\" that it declares")
                 .arg(shown));
     return text.toUtf8();
@@ -83,7 +83,7 @@ std::unique_ptr<pugi::xml_document> TemplateFile::read(const QString& path) {
     const Message cause = causeOf(first, data);
     const QByteArray repaired = XMLRepair::repaired(data);
     if (repaired.isEmpty() || !parse(*document, repaired))
-        throw PlatformException(errorName, cause);
+        throw PlatformException(errorKind, cause);
     Log("TemplateFile")
         .warn(QStringLiteral("repaired the template file \"%1\" (%2)").arg(path, cause.english()));
     return document;
@@ -94,7 +94,7 @@ pugi::xml_node TemplateFile::required(const pugi::xml_node& parent, const char* 
     const pugi::xml_node child = parent.child(name);
     if (!child)
         //: %1 is another element of the file.
-        throw PlatformException(errorName,
+        throw PlatformException(errorKind,
                                 Message::translate("TemplateFile", "%1 lacks its \"%2\" element")
                                     .arg(describeParent(), QString::fromUtf8(name)));
     return child;

@@ -123,7 +123,7 @@ private:
         iLeft -= bytes;
         if (iLeft < 0 || depth == maximumDepth)
             throw PlatformException(
-                QStringLiteral("ERROR_TEMPLATE_FILE"),
+                ErrorKind::templateFile,
                 Message::translate("TemplateFile",
                                    "its entities stand for too much text or for themselves"));
     }

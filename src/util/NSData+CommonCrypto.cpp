@@ -10,7 +10,7 @@ namespace {
 QByteArray run(Operation operation, const QByteArray& data, CCAlgorithm algorithm,
                const CipherBytes& key, const CipherBytes& vector, int options, int* error) {
     if (key.isNull())
-        throw PlatformException(QStringLiteral("InvalidParameter"),
+        throw PlatformException(ErrorKind::invalidParameter,
                                 QStringLiteral("Invalid parameter not satisfying: key"));
     QByteArray keyBytes = key.bytes();
     QByteArray vectorBytes = vector.bytes();

@@ -40,7 +40,7 @@ std::vector<int> pagesFromExpression(const QString& expression, int total) {
         count += std::int64_t{run.last} - run.first + 1;
     if (count > maxListedPages) {
         throw PlatformException(
-            QStringLiteral("PageRangeTooLong"),
+            ErrorKind::pageRangeTooLong,
             Message::translate("PageRange", "the page range \"%1\" names %2 pages")
                 .arg(expression, QString::number(count)));
     }

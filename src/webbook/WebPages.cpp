@@ -67,7 +67,7 @@ bool WebPages::drawMissing() {
         if (!result)
             return true;
         if (result->isUnwritten)
-            throw PlatformException(QStringLiteral("WorkFolderFailed"), result->error);
+            throw PlatformException(ErrorKind::workFolder, result->error);
         *page = pageFrom(number, page->pageFile);
         page->failure = result->error;
         iProgress(++done, int(missing.size()));

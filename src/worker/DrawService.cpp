@@ -28,7 +28,7 @@ void answerFailure(const QString& reason, const char* kind = "fail") {
 
 // Write errors are not the page's fault.
 const char* kindOf(const PlatformException& failure) {
-    if (failure.name() != QStringLiteral("PageWriteFailed"))
+    if (failure.kind() != ErrorKind::pageWrite)
         return "fail";
     return failure.message().isTemporary() ? "full" : "unwritable";
 }

@@ -34,8 +34,7 @@ QByteArray answer(const PDFDocument& document, const QByteArray& question) {
         return PDFSerialization::pack(document.pageLabels());
     if (what == "information")
         return PDFSerialization::pack(document.information(of.constData()));
-    throw PlatformException(QStringLiteral("PDFReaderMalformedAnswer"),
-                            QStringLiteral("no such question"));
+    throw PlatformException(ErrorKind::readerMalformedAnswer, QStringLiteral("no such question"));
 }
 
 void answerWith(const std::function<QByteArray()>& work) {

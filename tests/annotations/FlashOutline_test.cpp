@@ -29,7 +29,7 @@ void load(FlashOutline& outline, const std::string& xml) {
 
 QString nameOfFailure(const std::string& xml) {
     FlashOutline outline;
-    return failureOf([&] { load(outline, xml); }).name();
+    return failureOf([&] { load(outline, xml); }).name;
 }
 
 } // namespace

@@ -50,6 +50,6 @@ TEST(Message, FailuresOfReadingHaveBothLanguages) {
     const Capitals language;
     const QString path = Program::sample("not-a-pdf.pdf");
     const auto reading = failureOf([&] { PDFDocument::openSandboxed(path); });
-    EXPECT_EQ(reading.reason(), path + ": is not a PDF document");
-    EXPECT_EQ(reading.message().local(), path + ": IS NOT A PDF DOCUMENT");
+    EXPECT_EQ(reading.message.english(), path + ": is not a PDF document");
+    EXPECT_EQ(reading.message.local(), path + ": IS NOT A PDF DOCUMENT");
 }

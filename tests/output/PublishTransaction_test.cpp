@@ -111,7 +111,7 @@ TEST_F(Transaction, NamesTheFileAndTheCauseOfAFailure) {
     write("file");
     PublishTransaction run(folder.path());
     run.write(path("file/beneath"), "x");
-    EXPECT_EQ(failureOf([&] { run.commit(); }).reason(), path("file") + ": File exists");
+    EXPECT_EQ(failureOf([&] { run.commit(); }).message.english(), path("file") + ": File exists");
 }
 
 // With a link to a file and one to a folder, as somebody may hand it on, and a folder where a file

@@ -235,7 +235,7 @@ TEST_F(PDFDocumentTest, EndsADrawingThatTakesTooLongOrIsStopped) {
     PageBitmap bitmap;
     const std::atomic<bool> stop{true};
     const auto failureWith = [&](const DrawControl& control) {
-        return failureOf([&] { document->page(0).draw(2, bitmap, control); }).name();
+        return failureOf([&] { document->page(0).draw(2, bitmap, control); }).name;
     };
     EXPECT_EQ(failureWith({nullptr, std::chrono::milliseconds(50)}), "PDFPageTimeout");
     EXPECT_EQ(failureWith({&stop}), "PDFPageStopped");

@@ -29,7 +29,7 @@ protected:
     }
 
     QString failureOfOpening(const QByteArray& script, std::chrono::milliseconds patience = 60s) {
-        return failureOf([&] { reader(script, patience)->open(); }).name();
+        return failureOf([&] { reader(script, patience)->open(); }).name;
     }
 
     QTemporaryDir iFolder;
@@ -61,7 +61,7 @@ TEST_F(PDFReaderTest, ReportsWhatEndsTheProgramAndStopsTrying) {
     ASSERT_TRUE(ends->open());
     EXPECT_EQ(ends->pageCount(), 3);
     for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(failureOf([&] { ends->boxes(0); }).name(), "PDFReaderEnded");
+        EXPECT_EQ(failureOf([&] { ends->boxes(0); }).name, "PDFReaderEnded");
     EXPECT_EQ(TestFiles::read(iFolder.filePath("tries")), "x\nx\nx\n");
 }
 
@@ -76,7 +76,7 @@ TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
         auto made = reader("echo here\necho \"ok $count\"\nwhile read question; do echo ok " +
                            packed.toBase64() + "; done\n");
         EXPECT_TRUE(made->open());
-        return failureOf([&] { made->outline(); }).name();
+        return failureOf([&] { made->outline(); }).name;
     };
     const QString garbled = "PDFReaderMalformedAnswer";
     EXPECT_EQ(answers(""), garbled);
@@ -99,14 +99,14 @@ TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {
     ASSERT_TRUE(deaf->open());
     deaf->setTimeout(100ms);
     const QByteArray key(4 << 20, 'k');
-    EXPECT_EQ(failureOf([&] { deaf->information(key.constData()); }).name(), "PDFReaderTimeout");
+    EXPECT_EQ(failureOf([&] { deaf->information(key.constData()); }).name, "PDFReaderTimeout");
 }
 
 TEST(PDFSerialization, RefusesTextLinesThatMakeNoSense) {
     const auto failureWith = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
         const std::vector lines{PDFTextLine{box, turn, false, {word}}};
         return failureOf([&] { PDFSerialization::unpackTextLines(PDFSerialization::pack(lines)); })
-            .name();
+            .name;
     };
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     for (const int turn : {0, 90, 180, 270})

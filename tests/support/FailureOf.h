@@ -2,13 +2,18 @@
 
 #include "base/PlatformException.h"
 
-// The failure that an action ends with; one without a name when it succeeds.
+// The PlatformException that an action ends with; null texts when it succeeds.
+struct Failure {
+    QString name;
+    Message message;
+};
+
 template <class Action>
-PlatformException failureOf(Action action) {
+Failure failureOf(Action action) {
     try {
         action();
     } catch (const PlatformException& failure) {
-        return failure;
+        return {failure.name(), failure.message()};
     }
-    return {QString(), Message()};
+    return {};
 }

@@ -86,7 +86,7 @@ void BrisleafAppDelegate::publishPreview(Book book) {
     // Temporary files may have been cleaned up while the program runs.
     const Message failure = iPreviewFolder.restore();
     if (!failure.isNull())
-        throw PlatformException(QStringLiteral("PreviewFolder"), failure);
+        throw PlatformException(ErrorKind::previewFolder, failure);
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(QStringLiteral("Preview"));
     FolveroOutput output(iFlashPageSource, iFlashTmpl, iFlashPreviewFolder,
@@ -97,7 +97,7 @@ void BrisleafAppDelegate::publishPreview(Book book) {
     output.ouputTheBook();
     if (!output.publishErrors().isEmpty())
         throw PlatformException(
-            QStringLiteral("Publish"),
+            ErrorKind::preview,
             {output.publishErrors().join(u'\n'), localTexts(output.publishMessages()).join(u'\n')});
     iWindow->webView->showFile(output.outputFileName(), book == OtherBook);
 }

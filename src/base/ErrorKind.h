@@ -1,0 +1,42 @@
+#pragma once
+
+// The kinds of PlatformException, for callers that treat some of them differently.
+enum class ErrorKind {
+    invalidParameter,
+    processStart,
+    temporaryFolder,
+    pageRangeTooLong,
+
+    // A PDF and its pages.
+    pdfOpen,
+    pdfChanged, // while it was open
+    pageMissing,
+    pageUnreadable,
+    pageTimeout,
+    pageStopped,
+
+    // The process that reads a PDF.
+    readerEnded,
+    readerTimeout,
+    readerMalformedAnswer,
+    readStopped,
+
+    // Page files and what is imported with them.
+    jpegEncode,
+    webpEncode,
+    pageWrite,
+    workFolder,
+    pageListEnded,
+    outline,
+    outlineItem,
+
+    templateFile,
+    templateProperty,
+
+    publishing,
+    preview,
+    previewFolder,
+};
+
+// The name of a kind in the log and in the answers of page workers.
+const char* nameOf(ErrorKind kind);
