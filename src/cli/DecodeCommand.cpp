@@ -2,6 +2,7 @@
 
 #include "console/CommandError.h"
 #include "console/Terminal.h"
+#include "output/BookLayout.h"
 #include "output/UserConfig.h"
 #include "system/Files.h"
 #include "util/NSData+CommonCrypto.h"
@@ -48,11 +49,10 @@ QJsonValue elementAsJson(const pugi::xml_node& element) {
 
 void runDecode(const QString& book, bool json) {
     const QString path =
-        QFileInfo(book).isDir() ? Files::join(book, QStringLiteral("files/UserConfig.bin")) : book;
+        QFileInfo(book).isDir() ? Files::join(book, BookLayout::configuration) : book;
     if (!QFileInfo(path).isFile()) {
-        throw CommandError(
-            QStringLiteral("%1: is not a published book (it has no files/UserConfig.bin)")
-                .arg(book));
+        throw CommandError(QStringLiteral("%1: is not a published book (it has no %2)")
+                               .arg(book, BookLayout::configuration));
     }
     const QByteArray xml = decipheredConfiguration(path);
     pugi::xml_document document;

@@ -5,6 +5,7 @@
 #include "cli/PublishCommand.h"
 #include "console/CommandError.h"
 #include "console/Terminal.h"
+#include "output/BookLayout.h"
 #include "output/EmbedSnippet.h"
 #include "system/Files.h"
 #include "webbook/FolveroOutputWeb.h"
@@ -63,17 +64,17 @@ void WebBookOptions::printLeftoverFiles(const PublishOptions& options,
                                         const FolveroOutputWeb& output) {
     const QString& folder = options.outputFolder;
     if (options.singleFile) {
-        if (QFileInfo::exists(Files::join(folder, QStringLiteral("files/UserConfig.bin")))) {
+        if (QFileInfo::exists(Files::join(folder, BookLayout::configuration))) {
             Terminal::report(
                 QStringLiteral("folvero: %1 still holds the files of an earlier book; "
                                "of the new one it has %2 alone")
                     .arg(folder, Files::lastPathComponent(output.outputHTMLFileName())));
         }
     } else if (!output.worksOffline()) {
-        Terminal::report(QStringLiteral("folvero: sw.js or manifest.webmanifest in %1 is not of a "
-                                        "book; it was left as it is, and readers can't keep this "
-                                        "book to read it without a connection")
-                             .arg(folder));
+        Terminal::report(QStringLiteral("folvero: %1 or %2 in %3 is not of a book; it was left as "
+                                        "it is, and readers can't keep this book to read it "
+                                        "without a connection")
+                             .arg(BookLayout::serviceWorker, BookLayout::manifest, folder));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "cli/TemplatesCommand.h"
 #include "console/CommandError.h"
 #include "console/Terminal.h"
+#include "output/BookLayout.h"
 #include "system/Bundle.h"
 
 #include <CLI/CLI.hpp>
@@ -183,7 +184,9 @@ void addDecode(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("decode", "Print the deciphered configuration of a published book")
             ->group("Commands");
-    command->add_option("BOOK", line.book, "The book's folder, or its files/UserConfig.bin")
+    command
+        ->add_option("BOOK", line.book,
+                     "The book's folder, or its " + BookLayout::configuration.toStdString())
         ->type_name("")
         ->required();
     command->add_flag("--json", line.json, "Print JSON");

@@ -1,5 +1,6 @@
 #include "output/ExistingBook.h"
 
+#include "output/BookLayout.h"
 #include "output/UserConfig.h"
 #include "output/WebScript.h"
 #include "system/Files.h"
@@ -8,7 +9,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <algorithm>
 #include <pugixml.hpp>
 
@@ -21,12 +23,10 @@ constexpr qint64 maxConfigurationBytes = 64 << 20;
 // single-file book after it.
 constexpr qint64 headBytes = 1 << 20;
 
-const QString webMetadataFile = QStringLiteral("web/book.js");
-
 constexpr char marker[] = "<meta name=\"generator\" content=\"Folvero\">";
 
-bool loadConfiguration(const QString& filesFolder, pugi::xml_document& document) {
-    const QString path = Files::join(filesFolder, QStringLiteral("UserConfig.bin"));
+bool loadConfiguration(const QString& folder, pugi::xml_document& document) {
+    const QString path = Files::join(folder, BookLayout::configuration);
     const QFileInfo info(path);
     if (!info.isFile() || info.size() > maxConfigurationBytes)
         return false;
@@ -55,26 +55,41 @@ QString unescaped(QString text) {
 
 } // namespace
 
-bool ExistingBook::isIn(const QString& filesFolder) {
+bool ExistingBook::isIn(const QString& folder) {
     pugi::xml_document document;
-    return loadConfiguration(filesFolder, document) && document.document_element().child("Ppts");
+    return loadConfiguration(folder, document) && document.document_element().child("Ppts");
 }
 
-bool ExistingBook::isWebBookIn(const QString& filesFolder) {
-    const QString metadata = Files::join(filesFolder, webMetadataFile);
-    return isIn(filesFolder) && QFileInfo(metadata).isFile() &&
-           Files::contents(metadata).startsWith(WebScript::start(QStringLiteral("web/book")));
+bool ExistingBook::isWebBookIn(const QString& folder) {
+    const QString metadata = Files::join(folder, BookLayout::metadata);
+    return isIn(folder) && QFileInfo(metadata).isFile() &&
+           Files::contents(metadata).startsWith(WebScript::start(BookLayout::metadata));
 }
 
 bool ExistingBook::isPage(const QString& file) {
     return !headOfPage(file).isNull();
 }
 
+bool ExistingBook::isTextPage(const QString& file) {
+    return QFileInfo(file).isFile() && Files::contents(file).contains(textPageMark);
+}
+
+QString ExistingBook::pageOfServiceWorker(const QString& folder) {
+    const QString worker = Files::join(folder, BookLayout::serviceWorker);
+    const QByteArray script = QFileInfo(worker).isFile() ? Files::contents(worker) : QByteArray();
+    if (!script.startsWith(serviceWorkerStart))
+        return {};
+    const QByteArray line = script.left(script.indexOf('\n'));
+    const QByteArray about = line.mid(line.indexOf('{')).chopped(1);
+    const QJsonObject object = QJsonDocument::fromJson(about).object();
+    return object.value(QStringLiteral("page")).toString(QStringLiteral(""));
+}
+
 QStringList ExistingBook::pages(const QString& folder) {
     QStringList names = QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
     names.removeIf([&](const QString& name) { return !isPage(Files::join(folder, name)); });
     std::stable_partition(names.begin(), names.end(),
-                          [](const QString& name) { return name == u"index.html"; });
+                          [](const QString& name) { return name == BookLayout::defaultPage; });
     return names;
 }
 
@@ -88,29 +103,23 @@ QString ExistingBook::title(const QString& page) {
     return unescaped(QString::fromUtf8(head.mid(text, end - text)));
 }
 
-QStringList ExistingBook::files(const QString& filesFolder) {
+QStringList ExistingBook::files(const QString& folder) {
     pugi::xml_document document;
-    if (!loadConfiguration(filesFolder, document))
+    if (!loadConfiguration(folder, document))
         return {};
-    static const QRegularExpression pageFile(
-        QStringLiteral("\\Apage/([1-9][0-9]{0,8})\\.[A-Za-z0-9]{1,5}\\z"));
-    const bool isWebBook = isWebBookIn(filesFolder);
+    const bool isWebBook = isWebBookIn(folder);
     QStringList names;
     for (const auto page : document.document_element().child("Ppts").children("Ppt")) {
-        const QString picture =
-            QString::fromUtf8(page.child("Normal").child("ImgPath").text().get());
-        const auto match = pageFile.match(picture);
-        if (!match.hasMatch())
+        const QString picture = BookLayout::in(
+            QString(), QString::fromUtf8(page.child("Normal").child("ImgPath").text().get()));
+        const int number = BookLayout::numberOfPage(picture);
+        if (number == 0)
             continue;
         names << picture;
-        if (!isWebBook)
-            continue;
-        for (const auto* kind : {"thumb/%1.webp", "large/%1.svg", "large/%1.webp", "text/%1.js"})
-            names << QString::fromLatin1(kind).arg(match.captured(1));
+        if (isWebBook)
+            names << BookLayout::webFilesOfPage(number);
     }
-    // Data of all pages, and the player; last the file by which a web book is recognised.
     if (isWebBook)
-        names << QStringLiteral("search/text.js") << QStringLiteral("web.js")
-              << QStringLiteral("web.css") << webMetadataFile;
+        names << BookLayout::webFiles();
     return names;
 }

@@ -9,7 +9,6 @@
 #include "output/UserConfig.h"
 #include "system/Files.h"
 #include "util/NSData+CommonCrypto.h"
-#include "webbook/OfflineFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -20,8 +19,6 @@ using Copy = PublishTransaction::Copy;
 using Phase = PublishTransaction::Phase;
 
 namespace {
-
-const QString configurationName = QStringLiteral("UserConfig.bin");
 
 struct Cancelled {};
 
@@ -50,8 +47,7 @@ FolveroOutput::FolveroOutput(std::shared_ptr<FlashPageSource> pageSource,
       iSaveToFileName(toName) {}
 
 QString FolveroOutput::outputHTMLFileName() const {
-    return Files::join(iSaveToFolder,
-                       iSaveToFileName.isNull() ? QStringLiteral("index.html") : iSaveToFileName);
+    return layout().at(iSaveToFileName.isNull() ? BookLayout::defaultPage : iSaveToFileName);
 }
 
 QString FolveroOutput::outputFileName() const {
@@ -59,25 +55,23 @@ QString FolveroOutput::outputFileName() const {
 }
 
 QString FolveroOutput::outputSWFName() const {
-    return Files::join(iSaveToFolder, QStringLiteral("book.swf"));
+    return layout().at(BookLayout::movie);
 }
 
 // A first publish that was killed leaves files without a configuration.
 bool FolveroOutput::hasExistingBook() const {
-    return ExistingBook::isIn(Files::join(iSaveToFolder, iResourceFolder)) ||
-           StagingFolder::hasStale(iSaveToFolder);
+    return ExistingBook::isIn(iSaveToFolder) || StagingFolder::hasStale(iSaveToFolder);
 }
 
 QStringList FolveroOutput::foreignFiles() const {
     QStringList found = ForeignFiles::page(outputHTMLFileName());
-    const QString files = Files::join(iSaveToFolder, iResourceFolder);
     const bool hasBook = hasExistingBook();
-    const bool hasMovie =
-        hasBook && (StagingFolder::hasStale(iSaveToFolder) || !ExistingBook::isWebBookIn(files));
+    const bool hasMovie = hasBook && (StagingFolder::hasStale(iSaveToFolder) ||
+                                      !ExistingBook::isWebBookIn(iSaveToFolder));
     if (!hasMovie && ForeignFiles::isThere(outputSWFName()))
         found << outputSWFName();
     if (!hasBook)
-        found << ForeignFiles::ofBook(files, iFlashTemplate.get());
+        found << ForeignFiles::ofBook(layout(), iFlashTemplate.get());
     return found;
 }
 
@@ -86,9 +80,8 @@ QString FolveroOutput::titleOfExistingBook() const {
     if (ExistingBook::isPage(page))
         return ExistingBook::title(page);
     // The existing book's page may have another name.
-    const QStringList pages = ExistingBook::isIn(Files::join(iSaveToFolder, iResourceFolder))
-                                  ? ExistingBook::pages(iSaveToFolder)
-                                  : QStringList();
+    const QStringList pages =
+        ExistingBook::isIn(iSaveToFolder) ? ExistingBook::pages(iSaveToFolder) : QStringList();
     return pages.isEmpty() ? QString()
                            : ExistingBook::title(Files::join(iSaveToFolder, pages.front()));
 }
@@ -112,12 +105,9 @@ void FolveroOutput::publish() {
     prepaireExtFiles(base);
     PrepareAnnotationFiles(base);
     writeHTMLPage();
-    ouputBookXML(resourceFolder(iSaveToFolder, configurationName));
-    copyTemplateFile(QStringLiteral("book.swf"), &FlashTemplate::copyBookSWFToFile,
-                     outputSWFName());
-    const QString sound = QStringLiteral("moveSound.mp3");
-    copyTemplateFile(sound, &FlashTemplate::copyBookSoundFile,
-                     Files::join(resourceFolder(iSaveToFolder, iExterFilesFolder), sound));
+    ouputBookXML(layout().at(BookLayout::configuration));
+    copyTemplateFile(&FlashTemplate::copyBookSWFToFile, BookLayout::movie);
+    copyTemplateFile(&FlashTemplate::copyBookSoundFile, BookLayout::sound);
 }
 
 bool FolveroOutput::perform(const QString& folder, const std::function<void()>& work) {
@@ -170,10 +160,6 @@ void FolveroOutput::checkCancelled() const {
         throw Cancelled();
 }
 
-QString FolveroOutput::resourceFolder(const QString& root, const QString& name) const {
-    return Files::join(Files::join(root, iResourceFolder), name);
-}
-
 bool FolveroOutput::replaceWithCopy(const QString& source, const QString& folder,
                                     const QString& name, Copy kind) {
     checkCancelled();
@@ -193,7 +179,7 @@ bool FolveroOutput::replaceWithCopy(const QString& source, const QString& folder
 void FolveroOutput::prepaireNomalPage(const QString& base) {
     const QString root = base.isEmpty() ? iSaveToFolder : base;
     perform(root, [&] {
-        const QString folder = resourceFolder(root, iNormalPageFolder);
+        const QString folder = BookLayout(root).at(iNormalPageFolder, {});
         transaction().makeFolder(folder);
         if (!iFlashPageSource)
             return;
@@ -218,7 +204,7 @@ void FolveroOutput::prepaireZoomendPage(const QString& base) {
         return;
     const QString root = base.isEmpty() ? iSaveToFolder : base;
     perform(root, [&] {
-        const QString folder = resourceFolder(root, iZoomedPageFolder);
+        const QString folder = BookLayout(root).at(iZoomedPageFolder, {});
         if (!transaction().willExist(folder))
             return;
         for (const auto& page : iFlashPageSource->zoomedPages()) {
@@ -238,7 +224,7 @@ void FolveroOutput::prepaireThumbPage(const QString& /*base*/) {}
 void FolveroOutput::prepaireExtFiles(const QString& base) {
     const QString root = base.isEmpty() ? iSaveToFolder : QString();
     perform(root, [&] {
-        const QString folder = resourceFolder(root, iExterFilesFolder);
+        const QString folder = BookLayout(root).at(iExterFilesFolder, {});
         transaction().makeFolder(folder);
         if (!iFlashTemplate)
             return;
@@ -254,8 +240,9 @@ void FolveroOutput::prepaireExtFiles(const QString& base) {
 
 void FolveroOutput::prepaireExtFiles(const QString& base, const FlashTemplateProperty& atChildPro) {
     const QString root = base.isEmpty() ? iSaveToFolder : QString();
-    perform(root,
-            [&] { copyExtFilesOfChildren(atChildPro, resourceFolder(root, iExterFilesFolder)); });
+    perform(root, [&] {
+        copyExtFilesOfChildren(atChildPro, BookLayout(root).at(iExterFilesFolder, {}));
+    });
 }
 
 void FolveroOutput::copyExtFilesOfChildren(const FlashTemplateProperty& property,
@@ -287,7 +274,7 @@ void FolveroOutput::PrepareAnnotationFiles(const QString& base) {
         return;
     const QString root = base.isEmpty() ? iSaveToFolder : QString();
     perform(root, [&] {
-        const QString folder = resourceFolder(root, iAnnotationFilesFolder);
+        const QString folder = BookLayout(root).at(iAnnotationFilesFolder, {});
         transaction().makeFolder(folder);
         for (const QString& source : iFlashPagesAnnotations->needFiles()) {
             checkCancelled();
@@ -305,7 +292,7 @@ void FolveroOutput::PrepareAnnotationFiles(const QString& base) {
 
 void FolveroOutput::removeExtFiles(const QString& base) {
     const QString root = base.isEmpty() ? iSaveToFolder : QString();
-    const QString folder = resourceFolder(root, iExterFilesFolder);
+    const QString folder = BookLayout(root).at(iExterFilesFolder, {});
     QStringList leftovers;
     const auto collect = [&](const QString& key, const QStringList& extensions) {
         if (!templateValue(key, QStringLiteral("")).isEmpty())
@@ -330,14 +317,31 @@ void FolveroOutput::removeExtFiles(const QString& base) {
 
 // The new configuration does not refer to them.
 void FolveroOutput::removeFilesOfExistingBook() {
-    OfflineFiles::removeOutdated(transaction(), iSaveToFolder);
-    const QString files = Files::join(iSaveToFolder, iResourceFolder);
-    if (!iFlashPageSource || !transaction().writes(Files::join(files, configurationName)))
+    removeOfflineFiles();
+    if (!iFlashPageSource || !transaction().writes(layout().at(BookLayout::configuration)))
         return;
-    for (const QString& name : ExistingBook::files(files)) {
-        const QString path = Files::join(files, name);
+    for (const QString& name : ExistingBook::files(iSaveToFolder)) {
+        const QString path = layout().at(name);
         if (!transaction().writes(path) && QFileInfo(path).isFile())
             transaction().remove(path);
+    }
+}
+
+// Readers would otherwise keep getting the existing book.
+void FolveroOutput::removeOfflineFiles() {
+    const QString page = ExistingBook::pageOfServiceWorker(iSaveToFolder);
+    const auto writes = [this](const QString& path) {
+        return transaction().writes(layout().at(path));
+    };
+    if (page.isNull() || writes(BookLayout::serviceWorker) ||
+        !(writes(BookLayout::configuration) || writes(page)))
+        return;
+    QStringList outdated = BookLayout::offlineFiles();
+    if (ExistingBook::isTextPage(layout().at(BookLayout::textPage)))
+        outdated << BookLayout::textPage;
+    for (const QString& path : outdated) {
+        if (!writes(path))
+            transaction().remove(layout().at(path));
     }
 }
 
@@ -364,17 +368,18 @@ void FolveroOutput::writeHTMLPage() {
     }
 }
 
-void FolveroOutput::copyTemplateFile(const QString& name, TemplateCopy copy,
-                                     const QString& target) {
+// Under the name that it has in the template's folder.
+void FolveroOutput::copyTemplateFile(TemplateCopy copy, const QString& path) {
     checkCancelled();
     if (!iFlashTemplate)
         return;
+    const QString target = layout().at(path);
     const QString staged = transaction().stage(target);
     (iFlashTemplate.get()->*copy)(staged);
     if (QFileInfo::exists(staged))
         return;
     // The template does not report errors.
-    const QString source = iFlashTemplate->playerFile(name);
+    const QString source = iFlashTemplate->playerFile(Files::lastPathComponent(path));
     if (isReadableFile(source))
         transaction().copy(source, target, Copy::independent);
     else
@@ -415,8 +420,8 @@ void FolveroOutput::stageBookXML(const QString& path) {
 }
 
 QString FolveroOutput::getNormalPageURL(const FlashPage& page) const {
-    return QStringLiteral("page/") +
-           BookName::withExtensionOf(QString::number(page.pageIndex()), page.pageFilePath());
+    return BookLayout::inFiles(
+        BookLayout::page(page.pageIndex(), Files::pathExtension(page.pageFilePath())));
 }
 
 QString FolveroOutput::getZoomedPageURL(const FlashPage& page) const {

@@ -2,6 +2,7 @@
 
 #include "annotations/FlashOutline.h"
 #include "annotations/FlashPagesAnnotations.h"
+#include "output/BookLayout.h"
 #include "output/HTMLConfigInfo.h"
 #include "output/PublishTransaction.h"
 #include "pages/FlashPageSource.h"
@@ -136,7 +137,7 @@ protected:
     bool replaceWithCopy(const QString& source, const QString& folder, const QString& name,
                          PublishTransaction::Copy kind);
 
-    QString resourceFolder(const QString& root, const QString& name) const;
+    BookLayout layout() const { return BookLayout(iSaveToFolder); }
 
     // Reports an error outside of perform(): adds it to publishErrors() and logs it.
     void reportFailure(const Message& reason);
@@ -156,13 +157,13 @@ protected:
     QString iSaveToFolder;
     QString iSaveToFileName;
     std::shared_ptr<HTMLConfigInfo> iHTMLConfig;
-    const QString iResourceFolder = QStringLiteral("files");
-    const QString iNormalPageFolder = QStringLiteral("page");
-    const QString iZoomedPageFolder = QStringLiteral("large");
-    const QString iThumbPageFolder = QStringLiteral("thumb");
-    const QString iExterFilesFolder = QStringLiteral("extfiles");
-    const QString iSearchInfoFolder = QStringLiteral("search");
-    const QString iAnnotationFilesFolder = QStringLiteral("pageConfig");
+    const QString iResourceFolder = BookLayout::files;
+    const QString iNormalPageFolder = BookLayout::pages;
+    const QString iZoomedPageFolder = BookLayout::largePages;
+    const QString iThumbPageFolder = BookLayout::thumbnails;
+    const QString iExterFilesFolder = BookLayout::settingsFiles;
+    const QString iSearchInfoFolder = BookLayout::search;
+    const QString iAnnotationFilesFolder = BookLayout::linkedFiles;
     bool iZoomedPageSameAsNormalPage = true;
 
 private:
@@ -171,8 +172,9 @@ private:
     QString extFileURL(const QString& key, const QString& value) const;
     void copyExtFile(const FlashTemplateProperty& property, const QString& folder);
     void copyExtFilesOfChildren(const FlashTemplateProperty& property, const QString& folder);
-    void copyTemplateFile(const QString& name, TemplateCopy copy, const QString& target);
+    void copyTemplateFile(TemplateCopy copy, const QString& path);
     void removeFilesOfExistingBook();
+    void removeOfflineFiles();
     void writeHTMLPage();
     void stageBookXML(const QString& path);
 

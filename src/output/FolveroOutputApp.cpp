@@ -72,7 +72,7 @@ FolveroOutputApp::FolveroOutputApp(std::shared_ptr<FlashPageSource> pageSource,
                     bundleName(toName)) {}
 
 QString FolveroOutputApp::outputHTMLFileName() const {
-    return Files::join(iSaveToFolder, QStringLiteral("index.html"));
+    return layout().at(BookLayout::defaultPage);
 }
 
 QString FolveroOutputApp::outputFileName() const {

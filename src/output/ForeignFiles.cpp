@@ -1,5 +1,6 @@
 #include "output/ForeignFiles.h"
 
+#include "output/BookLayout.h"
 #include "output/ExistingBook.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
@@ -26,15 +27,18 @@ QStringList matching(const QString& folder, const QString& pattern) {
     return found;
 }
 
-// The same below "files", which may be a link as well.
-QStringList inFiles(const QString& filesFolder,
-                    const std::initializer_list<std::pair<const char*, const char*>>& patterns) {
+// The same in a folder of the book's "files", which may be a link as well.
+QStringList inFiles(const BookLayout& book, const QString& folder, const QString& pattern) {
+    return QFileInfo(book.at(BookLayout::files)).isSymLink()
+               ? QStringList()
+               : matching(book.at(folder, {}), pattern);
+}
+
+QStringList inFiles(const BookLayout& book, const QStringList& paths) {
     QStringList found;
-    if (QFileInfo(filesFolder).isSymLink())
-        return found;
-    for (const auto& [folder, pattern] : patterns)
-        found += matching(Files::join(filesFolder, QString::fromLatin1(folder)),
-                          QString::fromLatin1(pattern));
+    for (const QString& path : paths)
+        found += inFiles(book, BookLayout::inFiles(path).section(u'/', 0, -2),
+                         QRegularExpression::escape(Files::lastPathComponent(path)));
     return found;
 }
 
@@ -61,25 +65,25 @@ QStringList ForeignFiles::page(const QString& path) {
     return isThere(path) && !isOurs ? QStringList{path} : QStringList();
 }
 
-QStringList ForeignFiles::ofBook(const QString& filesFolder, const FlashTemplate* flashTemplate) {
-    QStringList keys{QStringLiteral("moveSound")};
+QStringList ForeignFiles::ofBook(const BookLayout& book, const FlashTemplate* flashTemplate) {
+    QStringList keys{QFileInfo(BookLayout::sound).baseName()};
     if (flashTemplate) {
         for (const auto& property : flashTemplate->properties()) {
             if (property)
                 keys += keysOfFiles(*property);
         }
     }
-    const QByteArray ofProperties = "(" + keys.join(u'|').toUtf8() + ")\\.[^.]*";
-    return inFiles(filesFolder, {{"", "UserConfig\\.(bin|js)"},
-                                 {"page", "[1-9][0-9]*\\.[A-Za-z0-9]{1,5}"},
-                                 {"extfiles", ofProperties.constData()}});
+    return inFiles(book, {BookLayout::configuration, BookLayout::configurationScript}) +
+           inFiles(book, BookLayout::pages, BookLayout::namesIn(BookLayout::pages)) +
+           inFiles(book, BookLayout::settingsFiles,
+                   QStringLiteral("(%1)\\.[^.]*").arg(keys.join(u'|')));
 }
 
-QStringList ForeignFiles::ofWebBook(const QString& filesFolder) {
-    return inFiles(filesFolder, {{"", "web\\.(js|css)"},
-                                 {"web", "(book\\.js|offline\\.js(on)?|icon\\.svg)"},
-                                 {"search", "text\\.js"},
-                                 {"thumb", "[1-9][0-9]*\\.webp"},
-                                 {"large", "[1-9][0-9]*\\.(svg|webp)"},
-                                 {"text", "[1-9][0-9]*\\.js"}});
+QStringList ForeignFiles::ofWebBook(const BookLayout& book) {
+    QStringList found = inFiles(
+        book, {BookLayout::webStyle, BookLayout::webScript, BookLayout::metadata, BookLayout::icon,
+               BookLayout::offlineScript, BookLayout::offlineList, BookLayout::searchText});
+    for (const auto& folder : {BookLayout::thumbnails, BookLayout::largePages, BookLayout::texts})
+        found += inFiles(book, folder, BookLayout::namesIn(folder));
+    return found;
 }

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+class BookLayout;
 class FlashTemplate;
 
 // Finds files that a publish would replace or remove although we did not make them. The publishers'
@@ -16,9 +17,9 @@ bool isThere(const QString& path);
 // fails there anyway.
 QStringList page(const QString& path);
 
-// For a folder "files" without a book: paths of existing files where a book has its configuration,
-// pages and template files, or the additional files of a web book.
-QStringList ofBook(const QString& filesFolder, const FlashTemplate* flashTemplate);
-QStringList ofWebBook(const QString& filesFolder);
+// For a folder without a book: paths of existing files where a book has its configuration, pages
+// and template files, or the additional files of a web book.
+QStringList ofBook(const BookLayout& book, const FlashTemplate* flashTemplate);
+QStringList ofWebBook(const BookLayout& book);
 
 } // namespace ForeignFiles

@@ -1,5 +1,7 @@
 #include "output/WebScript.h"
 
+#include "output/BookLayout.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -26,14 +28,14 @@ QByteArray WebScript::json(const QJsonObject& object) {
     return harmless(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-QByteArray WebScript::start(const QString& name) {
-    return "folveroData(\"" + name.toUtf8() + "\", ";
+QByteArray WebScript::start(const QString& path) {
+    return "folveroData(\"" + BookLayout::dataName(path).toUtf8() + "\", ";
 }
 
-QByteArray WebScript::file(const QString& name, const QByteArray& json) {
-    return start(name) + json + end.data();
+QByteArray WebScript::file(const QString& path, const QByteArray& json) {
+    return start(path) + json + end.data();
 }
 
-QByteArray WebScript::jsonIn(const QString& name, const QByteArray& script) {
-    return script.mid(start(name).size()).chopped(qsizetype(end.size()));
+QByteArray WebScript::jsonIn(const QString& path, const QByteArray& script) {
+    return script.mid(start(path).size()).chopped(qsizetype(end.size()));
 }

@@ -12,14 +12,14 @@ namespace WebScript {
 QByteArray json(const QJsonArray& array);
 QByteArray json(const QJsonObject& object);
 
-// A file of that name (a path below "files", without extension): a script, since browsers load
-// scripts from disk but no other data.
-QByteArray file(const QString& name, const QByteArray& json);
+// The file at that path in a book: a script, since browsers load scripts from disk but no other
+// data.
+QByteArray file(const QString& path, const QByteArray& json);
 
 // How such a file begins.
-QByteArray start(const QString& name);
+QByteArray start(const QString& path);
 
 // The JSON of such a file.
-QByteArray jsonIn(const QString& name, const QByteArray& script);
+QByteArray jsonIn(const QString& path, const QByteArray& script);
 
 } // namespace WebScript

@@ -1,5 +1,6 @@
 #include "server/BookFile.h"
 
+#include "output/BookLayout.h"
 #include "system/MediaType.h"
 
 #include <QDateTime>
@@ -18,7 +19,7 @@ QByteArray pathOf(const QByteArray& target) {
     if (!escaped.startsWith('/'))
         return {};
     if (escaped.endsWith('/'))
-        escaped += "index.html";
+        escaped += BookLayout::defaultPage.toUtf8();
     QByteArray path;
     for (const QByteArray& part : escaped.split('/')) {
         if (part.isEmpty())

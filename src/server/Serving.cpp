@@ -4,10 +4,10 @@
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
 #include "console/Terminal.h"
+#include "output/BookLayout.h"
 #include "output/ExistingBook.h"
 #include "server/BookServer.h"
 #include "system/Files.h"
-#include "webbook/PlainTextPage.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,8 +29,8 @@ constexpr int lastPort = 8020;
 QString anyPageOf(const QString& folder) {
     QStringList pages = QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files, QDir::Name);
     pages.removeIf(
-        [&](const QString& name) { return PlainTextPage::isOne(Files::join(folder, name)); });
-    return pages.contains(u"index.html") ? QStringLiteral("index.html") : pages.value(0);
+        [&](const QString& name) { return ExistingBook::isTextPage(Files::join(folder, name)); });
+    return pages.contains(BookLayout::defaultPage) ? BookLayout::defaultPage : pages.value(0);
 }
 
 // The file name in the book's address: empty for "index.html".
@@ -50,7 +50,8 @@ QString pageOf(const QString& folder) {
     const QString page = books.isEmpty() ? anyPageOf(folder) : books.front();
     if (page.isNull())
         throw CommandError(QStringLiteral("%1: no book in it (there is no HTML page)").arg(folder));
-    return page == u"index.html" ? QString() : QString::fromLatin1(QUrl::toPercentEncoding(page));
+    return page == BookLayout::defaultPage ? QString()
+                                           : QString::fromLatin1(QUrl::toPercentEncoding(page));
 }
 
 void bindPort(BookServer& server, std::optional<int> wanted) {

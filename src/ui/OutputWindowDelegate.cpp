@@ -205,8 +205,7 @@ QString OutputWindowDelegate::overwriteWarning(const FolveroOutput& output) cons
     const auto own = PublishedBooks::of(iDocument);
     const QString where = place(output);
     const QString title = output.titleOfExistingBook();
-    const bool isBook = !title.isNull() || ExistingBook::isIn(Files::join(output.saveToFolder(),
-                                                                          QStringLiteral("files")));
+    const bool isBook = !title.isNull() || ExistingBook::isIn(output.saveToFolder());
     if (isBook && !(own && own->place == where)) {
         lost << (title.isEmpty() ? tr("The book in %1 would be lost.").arg(where)
                                  : tr("The book “%1” in %2 would be lost.").arg(title, where));

@@ -30,10 +30,10 @@ using Phase = PublishTransaction::Phase;
 
 namespace {
 
-const QString textFolder = QStringLiteral("text");
-
-constexpr char playerMarkup[] = "<link rel=\"stylesheet\" href=\"files/web.css\">\n"
-                                "<script src=\"files/web.js\"></script>\n";
+QByteArray playerMarkup() {
+    return "<link rel=\"stylesheet\" href=\"" + BookLayout::webStyle.toUtf8() +
+           "\">\n<script src=\"" + BookLayout::webScript.toUtf8() + "\"></script>\n";
+}
 
 const Log& logger() {
     static const Log log("FolveroOutputWeb");
@@ -146,12 +146,11 @@ QStringList FolveroOutputWeb::foreignFiles() const {
     if (iIsSingleFile)
         return ForeignFiles::page(outputHTMLFileName());
     QStringList found = FolveroOutput::foreignFiles();
-    const QString text = Files::join(iSaveToFolder, PlainTextPage::fileName);
-    if (ForeignFiles::isThere(text) && !PlainTextPage::isOne(text))
+    const QString text = layout().at(BookLayout::textPage);
+    if (ForeignFiles::isThere(text) && !ExistingBook::isTextPage(text))
         found << text;
-    const QString files = Files::join(iSaveToFolder, iResourceFolder);
-    if (!ExistingBook::isWebBookIn(files) && !StagingFolder::hasStale(iSaveToFolder))
-        found << ForeignFiles::ofWebBook(files);
+    if (!ExistingBook::isWebBookIn(iSaveToFolder) && !StagingFolder::hasStale(iSaveToFolder))
+        found << ForeignFiles::ofWebBook(layout());
     return found;
 }
 
@@ -203,7 +202,7 @@ void FolveroOutputWeb::readMetadata() {
         iMetadata.large << (hasLarge ? QFileInfo(page.large).suffix() : QString());
     }
     if (!iIsSingleFile) {
-        iMetadata.textPage = PlainTextPage::fileName;
+        iMetadata.textPage = BookLayout::textPage;
         iMetadata.cover = cover();
     }
     if (const auto document = iWebPages->document()) {
@@ -223,7 +222,7 @@ QString FolveroOutputWeb::cover() const {
                                     [this](const WebPage& page) { return isOpen(page.number); });
     if (first == pages.end() || first->thumbnail.isNull())
         return {};
-    return QStringLiteral("files/thumb/%1.webp").arg(first->number);
+    return BookLayout::thumbnail(first->number);
 }
 
 void FolveroOutputWeb::noteOpenPages() {
@@ -263,18 +262,18 @@ void FolveroOutputWeb::readDocumentMetadata(const PDFDocument& document) {
 
 void FolveroOutputWeb::publish() {
     const QString page = Files::lastPathComponent(outputHTMLFileName());
-    if (!iIsSingleFile && page.compare(PlainTextPage::fileName, Qt::CaseInsensitive) == 0)
+    if (!iIsSingleFile && page.compare(BookLayout::textPage, Qt::CaseInsensitive) == 0)
         PublishTransaction::fail(
             outputHTMLFileName(),
             Message::translate("FolveroOutput", "The page with the book's text has that name"));
-    iMetadata.offline = !iIsSingleFile && OfflineFiles::canWriteTo(iSaveToFolder);
+    iMetadata.offline = !iIsSingleFile && OfflineFiles::canWriteTo(layout());
     if (iWebPages)
         writePages();
     FolveroOutput::publish();
     // The Flash player can't show these formats.
     transaction().remove(outputSWFName());
-    copyPlayerPart(QStringLiteral("web"), QStringLiteral("js"));
-    copyPlayerPart(QStringLiteral("web"), QStringLiteral("css"));
+    for (const QString& path : {BookLayout::webScript, BookLayout::webStyle})
+        transaction().copy(playerPart(path), layout().at(path), Copy::independent);
     if (iIsSingleFile)
         packIntoPage();
     else if (iMetadata.offline)
@@ -289,17 +288,15 @@ void FolveroOutputWeb::writeOfflineFiles() {
             iFlashTemplate ? iFlashTemplate->propertyValueFor(name, value) : value);
     };
     OfflineFiles files;
-    files.folder = iSaveToFolder;
+    files.book = layout();
     files.page = Files::lastPathComponent(outputHTMLFileName());
     files.title = iMetadata.title;
     files.language = iMetadata.language;
     files.cover = iMetadata.cover;
     files.ground = colour("bgBeginColor", "0xC0C0C0");
     files.bar = colour("mainColor", "0xffffff");
-    files.script = Files::contents(playerPart(QStringLiteral("sw"), QStringLiteral("js"),
-                                              Files::join(iSaveToFolder, QStringLiteral("sw.js"))));
-    files.player = playerPart(QStringLiteral("offline"), QStringLiteral("js"),
-                              Files::join(iSaveToFolder, QStringLiteral("files/web/offline.js")));
+    files.script = Files::contents(playerPart(BookLayout::serviceWorker));
+    files.player = playerPart(BookLayout::offlineScript);
     files.write(transaction());
 }
 
@@ -317,25 +314,19 @@ void FolveroOutputWeb::packIntoPage() {
         PublishTransaction::fail(page, error);
 }
 
-// Path of an installed file of the player. Fails, naming target, when it is missing.
-QString FolveroOutputWeb::playerPart(const QString& name, const QString& type,
-                                     const QString& target) const {
-    const QString source = Bundle::pathForResource(name, type, QStringLiteral("AppFiles/Web"));
+// The installed file of the player that a book has at that path. Fails when it is missing.
+QString FolveroOutputWeb::playerPart(const QString& path) const {
+    const QString source =
+        Bundle::pathForResource(Files::lastPathComponent(path), {}, QStringLiteral("AppFiles/Web"));
     if (source.isNull())
         PublishTransaction::fail(
-            target, Message::translate("FolveroOutput", "the player is not installed"));
+            layout().at(path), Message::translate("FolveroOutput", "the player is not installed"));
     return source;
 }
 
-void FolveroOutputWeb::copyPlayerPart(const QString& name, const QString& type) {
-    const QString target = resourceFolder(iSaveToFolder, name + u'.' + type);
-    transaction().copy(playerPart(name, type, target), target, Copy::independent);
-}
-
-void FolveroOutputWeb::writeScript(const QString& name, const QByteArray& json) {
-    const QByteArray script = WebScript::file(name, json);
-    transaction().write(resourceFolder(iSaveToFolder, name + QStringLiteral(".js")), script,
-                        Phase::contents);
+void FolveroOutputWeb::writeScript(const QString& path, const QByteArray& json) {
+    const QByteArray script = WebScript::file(path, json);
+    transaction().write(layout().at(path), script, Phase::contents);
     iPageBytes += script.size();
 }
 
@@ -360,11 +351,9 @@ void FolveroOutputWeb::writePages() {
     if (document)
         document->stopReader();
     checkDocumentUnchanged();
-    writeScript(QStringLiteral("search/text"), WebScript::json(search));
-    writeScript(QStringLiteral("web/book"),
-                WebScript::json(iMetadata.forPlayer(iFlashOutline.get())));
-    transaction().write(Files::join(iSaveToFolder, PlainTextPage::fileName), plain.html(),
-                        Phase::page);
+    writeScript(BookLayout::searchText, WebScript::json(search));
+    writeScript(BookLayout::metadata, WebScript::json(iMetadata.forPlayer(iFlashOutline.get())));
+    transaction().write(layout().at(BookLayout::textPage), plain.html(), Phase::page);
 }
 
 // Writes the files of a page beside its picture. Returns its text.
@@ -372,9 +361,8 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
                                     AnnotationBudget& budget) {
     iPageBytes += QFileInfo(page.picture).size();
     iClassicPageBytes += QFileInfo(page.pageFile).size();
-    const QString number = QString::number(page.number);
-    copyPageFile(page.thumbnail, iThumbPageFolder, number + QStringLiteral(".webp"));
-    copyPageFile(page.large, iZoomedPageFolder, number + u'.' + QFileInfo(page.large).suffix());
+    copyPageFile(page.thumbnail, BookLayout::thumbnail(page.number));
+    copyPageFile(page.large, BookLayout::largePage(page.number, QFileInfo(page.large).suffix()));
     const auto lines = textFrom(page.text);
     PDFPageBoxes boxes;
     std::vector<PDFAnnotation> annotations;
@@ -390,19 +378,18 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
                 iDegradedPages.emplace_back(page.number, failure.message());
         }
     }
-    writeScript(textFolder + u'/' + number,
+    writeScript(BookLayout::text(page.number),
                 WebScript::json(WebPageText::asJson(boxes, lines, annotations, [this](int index) {
                     return iMetadata.positionOf(index + 1);
                 })));
     return WebPageText::plain(lines);
 }
 
-void FolveroOutputWeb::copyPageFile(const QString& source, const QString& folder,
-                                    const QString& name) {
+void FolveroOutputWeb::copyPageFile(const QString& source, const QString& path) {
     if (source.isNull())
         return;
     iPageBytes += QFileInfo(source).size();
-    transaction().copy(source, Files::join(resourceFolder(iSaveToFolder, folder), name),
+    transaction().copy(source, layout().at(path),
                        iFlashPageSource->ownsPageFiles() ? Copy::mayHardLink : Copy::independent);
 }
 
@@ -410,18 +397,20 @@ QString FolveroOutputWeb::getThumbPageURL(const FlashPage& page) const {
     const int position = iWebPages ? iMetadata.positionOf(page.pageIndex()) : 0;
     const bool hasOne =
         position > 0 && !iWebPages->pages()[std::size_t(position) - 1].thumbnail.isNull();
-    return hasOne ? QStringLiteral("thumb/%1.webp").arg(page.pageIndex()) : getNormalPageURL(page);
+    return hasOne ? BookLayout::inFiles(BookLayout::thumbnail(page.pageIndex()))
+                  : getNormalPageURL(page);
 }
 
 // On slow connections, files discovered only after another has arrived cost a round trip each.
 QByteArray FolveroOutputWeb::preloads() {
-    QByteArray links = "<link rel=\"preload\" as=\"script\" href=\"files/web/book.js\">\n";
+    QByteArray links =
+        "<link rel=\"preload\" as=\"script\" href=\"" + BookLayout::metadata.toUtf8() + "\">\n";
     const auto pages =
         iFlashPageSource ? iFlashPageSource->normalPages() : FlashPageSource::Pages();
     if (pages.empty() || !pages.front() || iMetadata.positionOf(pages.front()->pageIndex()) != 1)
         return links;
-    const QString picture = Files::join(iResourceFolder, getNormalPageURL(*pages.front()));
-    if (transaction().writes(Files::join(iSaveToFolder, picture)))
+    const QString picture = BookLayout::in({}, getNormalPageURL(*pages.front()));
+    if (transaction().writes(layout().at(picture)))
         links += "<link rel=\"preload\" as=\"image\" href=\"" + picture.toUtf8() +
                  "\" fetchpriority=\"high\">\n";
     return links;
@@ -437,7 +426,7 @@ void FolveroOutputWeb::finishHTMLPage(const QString& file) {
     if (const qsizetype end = html.indexOf("</object>", movie); movie >= 0 && end >= 0)
         html.remove(movie, end + qsizetype(qstrlen("</object>")) - movie);
     html.insert(headEnd, iIsSingleFile ? iMetadata.headMarkup()
-                                       : preloads() + iMetadata.headMarkup() + playerMarkup);
+                                       : preloads() + iMetadata.headMarkup() + playerMarkup());
     if (!iMetadata.language.isEmpty())
         html.replace("<html lang=\"en\">", "<html lang=\"" + iMetadata.language.toUtf8() + "\">");
     Message error;

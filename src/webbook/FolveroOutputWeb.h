@@ -66,11 +66,10 @@ private:
     QByteArray preloads();
     void writePages();
     QString writePage(const WebPage& page, const PDFDocument* document, AnnotationBudget& budget);
-    void copyPageFile(const QString& source, const QString& folder, const QString& name);
-    void writeScript(const QString& name, const QByteArray& json);
+    void copyPageFile(const QString& source, const QString& path);
+    void writeScript(const QString& path, const QByteArray& json);
     void packIntoPage();
-    QString playerPart(const QString& name, const QString& type, const QString& target) const;
-    void copyPlayerPart(const QString& name, const QString& type);
+    QString playerPart(const QString& path) const;
     std::shared_ptr<FlashPageSource> webPageSource() const;
 
     std::function<void(int, int)> iProgress = [](int, int) {};

@@ -1,10 +1,10 @@
 #include "webbook/OfflineFiles.h"
 
+#include "output/ExistingBook.h"
 #include "output/PublishTransaction.h"
 #include "system/Files.h"
 #include "system/MediaType.h"
 #include "util/NSData+CommonCrypto.h"
-#include "webbook/PlainTextPage.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -18,16 +18,6 @@ using Phase = PublishTransaction::Phase;
 
 namespace {
 
-const QString workerName = QStringLiteral("sw.js");
-const QString manifestName = QStringLiteral("manifest.webmanifest");
-const QString listName = QStringLiteral("files/web/offline.json");
-const QString playerName = QStringLiteral("files/web/offline.js");
-const QString iconName = QStringLiteral("files/web/icon.svg");
-
-// The start of all our service workers: folders may contain other scripts of that name.
-constexpr char declaration[] = "const BOOK = ";
-constexpr char workerStart[] = "const BOOK = {\"page\":";
-
 // Some systems truncate longer names.
 constexpr qsizetype maxShortName = 30;
 
@@ -38,10 +28,6 @@ QByteArray digestOf(const QByteArray& bytes) {
     return CommonDigest::SHA256Hash(bytes).toHex().left(digestLetters);
 }
 
-QByteArray compact(const QJsonObject& object) {
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
-}
-
 // The order in which files are fetched when a reader saves the whole book: first what is read
 // first, last what shows only on enlarged pages. The files needed to open the book are cached when
 // the service worker is installed.
@@ -50,23 +36,26 @@ enum class Part { shell, picture, text, large, none };
 Part partOf(const QString& path, const QString& page) {
     // Browsers request sounds in ranges, which the service worker does not handle; the script
     // replaces the configuration from disk only.
-    if (MediaType::ofFile(path).startsWith("audio/") || path == u"files/UserConfig.js")
+    if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configurationScript)
         return Part::none;
-    if (path.startsWith(QStringLiteral("files/large/")))
+    if (BookLayout::isIn(BookLayout::largePages, path))
         return Part::large;
-    if (path.startsWith(QStringLiteral("files/page/")))
+    if (BookLayout::isIn(BookLayout::pages, path))
         return Part::picture;
-    if (path.startsWith(QStringLiteral("files/text/")) ||
-        path.startsWith(QStringLiteral("files/thumb/")) ||
-        path.startsWith(QStringLiteral("files/search/")) || path == PlainTextPage::fileName)
+    if (BookLayout::isIn(BookLayout::texts, path) ||
+        BookLayout::isIn(BookLayout::thumbnails, path) ||
+        BookLayout::isIn(BookLayout::search, path) || path == BookLayout::textPage)
         return Part::text;
-    return path == page || path.startsWith(QStringLiteral("files/")) ? Part::shell : Part::none;
+    return path == page || !BookLayout::inFiles(path).isNull() ? Part::shell : Part::none;
+}
+
+QByteArray quoted(const QString& text) {
+    return QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact).mid(1).chopped(1);
 }
 
 // QJsonObject sorts by name, and pages must stay in order.
 QByteArray member(const QString& path, const QByteArray& digest) {
-    const QByteArray name = QJsonDocument(QJsonArray{path}).toJson(QJsonDocument::Compact);
-    return name.mid(1).chopped(1) + ":\"" + digest + '"';
+    return quoted(path) + ":\"" + digest + '"';
 }
 
 struct List {
@@ -107,48 +96,27 @@ QString shortened(const QString& title) {
 
 } // namespace
 
-bool OfflineFiles::canWriteTo(const QString& folder) {
-    const QString worker = Files::join(folder, workerName);
-    if (QFileInfo::exists(worker))
-        return QFileInfo(worker).isFile() && Files::contents(worker).startsWith(workerStart);
-    return !QFileInfo::exists(Files::join(folder, manifestName));
+bool OfflineFiles::canWriteTo(const BookLayout& book) {
+    if (QFileInfo::exists(book.at(BookLayout::serviceWorker)))
+        return !ExistingBook::pageOfServiceWorker(book.folder()).isNull();
+    return !QFileInfo::exists(book.at(BookLayout::manifest));
 }
 
 void OfflineFiles::write(PublishTransaction& transaction) const {
-    transaction.write(Files::join(folder, iconName), icon(transaction));
-    transaction.write(Files::join(folder, playerName), Files::contents(player));
-    const List list = listOf(transaction, folder, page);
+    transaction.write(book.at(BookLayout::icon), icon(transaction));
+    transaction.write(book.at(BookLayout::offlineScript), Files::contents(player));
+    const List list = listOf(transaction, book.folder(), page);
     const QByteArray version = digestOf(list.shell() + list.rest() + script);
-    transaction.write(Files::join(folder, listName),
+    transaction.write(book.at(BookLayout::offlineList),
                       "{\"version\":\"" + version +
                           "\",\"bytes\":" + QByteArray::number(list.bytes) + ",\"shell\":{" +
                           list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
                       Phase::configuration);
-    transaction.write(Files::join(folder, manifestName), manifest(), Phase::page);
-    const QByteArray about = compact({{QStringLiteral("page"), page},
-                                      {QStringLiteral("version"), QString::fromLatin1(version)}});
-    transaction.write(Files::join(folder, workerName), declaration + about + ";\n" + script,
+    transaction.write(book.at(BookLayout::manifest), manifest(), Phase::page);
+    transaction.write(book.at(BookLayout::serviceWorker),
+                      ExistingBook::serviceWorkerStart + quoted(page) + ",\"version\":\"" +
+                          version + "\"};\n" + script,
                       Phase::page);
-}
-
-void OfflineFiles::removeOutdated(PublishTransaction& transaction, const QString& folder) {
-    const QString worker = Files::join(folder, workerName);
-    const QByteArray script = QFileInfo(worker).isFile() ? Files::contents(worker) : QByteArray();
-    if (!script.startsWith(workerStart) || transaction.writes(worker))
-        return;
-    const QByteArray about = script.left(script.indexOf('\n')).mid(qstrlen(declaration)).chopped(1);
-    const QString page =
-        QJsonDocument::fromJson(about).object().value(QStringLiteral("page")).toString();
-    if (!transaction.writes(Files::join(folder, QStringLiteral("files/UserConfig.bin"))) &&
-        !transaction.writes(Files::join(folder, page)))
-        return;
-    for (const QString& name :
-         {workerName, manifestName, listName, iconName, playerName, PlainTextPage::fileName}) {
-        const QString path = Files::join(folder, name);
-        const bool isForeign = name == PlainTextPage::fileName && !PlainTextPage::isOne(path);
-        if (!transaction.writes(path) && !isForeign)
-            transaction.remove(path);
-    }
 }
 
 QByteArray OfflineFiles::manifest() const {
@@ -161,7 +129,7 @@ QByteArray OfflineFiles::manifest() const {
         {QStringLiteral("background_color"), ground.name()},
         {QStringLiteral("theme_color"), bar.name()},
         {QStringLiteral("icons"),
-         QJsonArray{QJsonObject{{QStringLiteral("src"), iconName},
+         QJsonArray{QJsonObject{{QStringLiteral("src"), BookLayout::icon},
                                 {QStringLiteral("sizes"), QStringLiteral("any")},
                                 {QStringLiteral("type"), QStringLiteral("image/svg+xml")}}}}};
     if (!language.isEmpty())
@@ -176,8 +144,7 @@ QByteArray OfflineFiles::icon(const PublishTransaction& transaction) const {
         "144-16V134c-48-16-96-16-144 16z\" fill=\"#fff\" stroke=\"#2f5d7c\" "
         "stroke-width=\"12\"/>";
     const QByteArray bytes =
-        cover.isEmpty() ? QByteArray()
-                        : Files::contents(transaction.stagedFile(Files::join(folder, cover)));
+        cover.isEmpty() ? QByteArray() : Files::contents(transaction.stagedFile(book.at(cover)));
     if (!bytes.isEmpty())
         picture = "<image x=\"40\" y=\"40\" width=\"432\" height=\"432\" "
                   "href=\"data:image/webp;base64," +

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "output/BookLayout.h"
+
 #include <QByteArray>
 #include <QColor>
 #include <QString>
@@ -9,7 +11,7 @@ class PublishTransaction;
 // Files that make a web book available offline: its service worker, the list of files that it
 // caches, and the web app manifest with its icon, for installing the book.
 struct OfflineFiles {
-    QString folder;   // of the book
+    BookLayout book{QString()};
     QString page;     // file name of its HTML page
     QString title;    // plain text
     QString language; // "de", or empty
@@ -20,14 +22,10 @@ struct OfflineFiles {
     QString player;    // path of the part of the player that uses them
 
     // Whether the files may be written to the folder: false when it contains those of another site.
-    static bool canWriteTo(const QString& folder);
+    static bool canWriteTo(const BookLayout& book);
 
     // Stages them. The list contains what the transaction writes, so call it last.
     void write(PublishTransaction& transaction) const;
-
-    // For a book without them: removes those of the existing book that the transaction replaces,
-    // whose readers would otherwise keep getting it, and its page of plain text.
-    static void removeOutdated(PublishTransaction& transaction, const QString& folder);
 
 private:
     QByteArray manifest() const;

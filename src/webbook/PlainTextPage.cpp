@@ -1,15 +1,11 @@
 #include "webbook/PlainTextPage.h"
 
-#include "system/Files.h"
+#include "output/ExistingBook.h"
 #include "webbook/WebBookMetadata.h"
 
-#include <QFileInfo>
 #include <QUrl>
 
 namespace {
-
-// Start of the style of every such page, by which it is recognised: must not change.
-constexpr char styleStart[] = "\">\n<style>body{max-width:42em;margin:2em auto;padding:0 1em;";
 
 constexpr char style[] =
     "font:17px/1.6 "
@@ -26,10 +22,6 @@ QByteArray escaped(const QString& text) {
 
 } // namespace
 
-bool PlainTextPage::isOne(const QString& file) {
-    return QFileInfo(file).isFile() && Files::contents(file).contains(styleStart);
-}
-
 PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book)
     : iMetadata(metadata) {
     const QByteArray address = QUrl::toPercentEncoding(book);
@@ -39,8 +31,9 @@ PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& boo
             "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(metadata.title) +
             "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
             "<link rel=\"canonical\" href=\"" +
-            address + styleStart + style + "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" +
-            address + "\">" + escaped(metadata.title) + "</a></h1>\n";
+            address + ExistingBook::textPageMark + style +
+            "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + address + "\">" +
+            escaped(metadata.title) + "</a></h1>\n";
     if (!metadata.author.isEmpty())
         iHTML += "<p>" + escaped(metadata.author) + "</p>\n";
 }

@@ -9,12 +9,6 @@ struct WebBookMetadata;
 // browsers, and readers who prefer text.
 class PlainTextPage {
 public:
-    // In the book's folder.
-    static inline const QString fileName = QStringLiteral("text.html");
-
-    // Whether a file is such a page, of any book and any version.
-    static bool isOne(const QString& file);
-
     // book is the URL of the book's page, relative to this one.
     PlainTextPage(const WebBookMetadata& metadata, const QString& book);
 

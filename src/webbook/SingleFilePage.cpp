@@ -1,12 +1,12 @@
 #include "webbook/SingleFilePage.h"
 
+#include "output/BookLayout.h"
 #include "output/WebScript.h"
 #include "system/Files.h"
 #include "system/MediaType.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <algorithm>
 #include <cerrno>
 
@@ -15,17 +15,10 @@ namespace {
 // Bytes converted to base64 at a time: a multiple of three.
 constexpr qint64 pieceBytes = 3 << 16;
 
-const QString resourceFolder = QStringLiteral("files/");
-
 // These are inlined differently, or left out.
-bool isOfPage(const QString& name) {
-    return name.startsWith(QStringLiteral("UserConfig.")) ||
-           name.startsWith(QStringLiteral("web."));
-}
-
-bool isData(const QString& name) {
-    static const QRegularExpression data(QStringLiteral("\\A(web|text|search)/[^/]+\\.js\\z"));
-    return data.match(name).hasMatch();
+bool isOfPage(const QString& path) {
+    return path == BookLayout::configuration || path == BookLayout::configurationScript ||
+           path == BookLayout::webScript || path == BookLayout::webStyle;
 }
 
 void insertBefore(QByteArray& html, qsizetype place, const QByteArray& text) {
@@ -52,36 +45,35 @@ SingleFilePage::SingleFilePage(const std::map<QString, QString>& files, const QS
         const auto found = files.find(path);
         return found == files.end() ? QByteArray() : Files::contents(found->second);
     };
-    const auto ofPlayer = [&](const char* name) {
-        return contents(resourceFolder + QString::fromLatin1(name));
-    };
     QByteArray html = contents(page);
     insertBefore(html, html.indexOf("</head>"),
-                 "<style>\n" + ofPlayer("web.css") + "</style>\n<script>\n" + ofPlayer("web.js") +
-                     "</script>\n");
+                 "<style>\n" + contents(BookLayout::webStyle) + "</style>\n<script>\n" +
+                     contents(BookLayout::webScript) + "</script>\n");
     // Before the page's first script, which would load them, and after the charset declaration,
     // which browsers expect at the very beginning.
     insertBefore(html, html.indexOf("<script"),
-                 "<script>window.FolveroUserConfig = \"" + ofPlayer("UserConfig.bin").toBase64() +
-                     "\";</script>\n");
+                 "<script>window.FolveroUserConfig = \"" +
+                     contents(BookLayout::configuration).toBase64() + "\";</script>\n");
     const qsizetype bodyEnd = std::max<qsizetype>(html.lastIndexOf("</body>"), 0);
     addText(html.left(bodyEnd));
     for (const auto& [path, source] : files) {
-        if (path.startsWith(resourceFolder) && !isOfPage(path.mid(resourceFolder.size())))
-            addFile(path.mid(resourceFolder.size()), source);
+        if (!BookLayout::inFiles(path).isNull() && !isOfPage(path))
+            addFile(path, source);
     }
     addText(html.mid(bodyEnd));
 }
 
-void SingleFilePage::addFile(const QString& name, const QString& source) {
-    if (isData(name)) {
-        const QString data = name.chopped(3);
-        addText("<script type=\"application/json\" data-file=\"" + data.toHtmlEscaped().toUtf8() +
-                "\">" + WebScript::jsonIn(data, Files::contents(source)) + "</script>\n");
+void SingleFilePage::addFile(const QString& path, const QString& source) {
+    const auto named = [](const QString& name) {
+        return " data-file=\"" + name.toHtmlEscaped().toUtf8() + '"';
+    };
+    if (BookLayout::isData(path)) {
+        addText("<script type=\"application/json\"" + named(BookLayout::dataName(path)) + '>' +
+                WebScript::jsonIn(path, Files::contents(source)) + "</script>\n");
         return;
     }
-    iParts.push_back({"<script type=\"text/plain\" data-file=\"" + name.toHtmlEscaped().toUtf8() +
-                          "\" data-type=\"" + MediaType::ofFile(name) + "\">",
+    iParts.push_back({"<script type=\"text/plain\"" + named(BookLayout::inFiles(path)) +
+                          " data-type=\"" + MediaType::ofFile(path) + "\">",
                       source});
     addText("</script>\n");
 }

@@ -27,7 +27,7 @@ private:
         QString source; // file whose bytes follow the text; null for none
     };
 
-    void addFile(const QString& name, const QString& source);
+    void addFile(const QString& path, const QString& source);
     void addText(const QByteArray& text) { iParts.push_back({text, QString()}); }
 
     std::vector<Part> iParts;

@@ -90,7 +90,7 @@ void BrisleafAppDelegate::publishPreview(Book book) {
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(QStringLiteral("Preview"));
     FolveroOutput output(iFlashPageSource, iFlashTmpl, iFlashPreviewFolder,
-                         QStringLiteral("index.html"));
+                         BookLayout::defaultPage);
     output.setHTMLConfig(html);
     output.setFlashPagesAnnotations(iFlashPagesAnnotations);
     output.setFlashOutline(iFlashOutline);

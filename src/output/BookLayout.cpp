@@ -1,0 +1,89 @@
+#include "output/BookLayout.h"
+
+#include "system/Files.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+const QString script = QStringLiteral("js");
+const QString picture = QStringLiteral("webp");
+const QString vectors = QStringLiteral("svg");
+
+QString numbered(const QString& folder, int number, const QString& extension) {
+    return BookLayout::in(folder, QString::number(number) + u'.' + extension);
+}
+
+} // namespace
+
+QString BookLayout::in(const QString& folder, const QString& name) {
+    return Files::join(Files::join(files, folder), name);
+}
+
+QString BookLayout::page(int number, const QString& extension) {
+    return numbered(pages, number, extension);
+}
+
+QString BookLayout::thumbnail(int number) {
+    return numbered(thumbnails, number, picture);
+}
+
+QString BookLayout::largePage(int number, const QString& extension) {
+    return numbered(largePages, number, extension);
+}
+
+QString BookLayout::text(int number) {
+    return numbered(texts, number, script);
+}
+
+QStringList BookLayout::webFilesOfPage(int number) {
+    return {thumbnail(number), largePage(number, vectors), largePage(number, picture),
+            text(number)};
+}
+
+QStringList BookLayout::webFiles() {
+    return {searchText, webScript, webStyle, metadata};
+}
+
+QStringList BookLayout::offlineFiles() {
+    return {serviceWorker, manifest, offlineList, icon, offlineScript};
+}
+
+QString BookLayout::namesIn(const QString& folder) {
+    QString extension = QStringLiteral("[A-Za-z0-9]{1,5}");
+    if (folder == largePages)
+        extension = QStringLiteral("(%1|%2)").arg(vectors, picture);
+    else if (folder == thumbnails)
+        extension = picture;
+    else if (folder == texts)
+        extension = script;
+    return QStringLiteral("[1-9][0-9]*\\.") + extension;
+}
+
+int BookLayout::numberOfPage(const QString& path) {
+    static const QRegularExpression picture(
+        QRegularExpression::anchoredPattern(in(pages, namesIn(pages))));
+    return picture.match(path).hasMatch() ? path.section(u'/', -1).section(u'.', 0, 0).toInt() : 0;
+}
+
+bool BookLayout::isIn(const QString& folder, const QString& path) {
+    return path.startsWith(in(folder, QString()) + u'/');
+}
+
+bool BookLayout::isData(const QString& path) {
+    return (isIn(texts, path) || isIn(search, path) || isIn(webData, path)) &&
+           Files::pathExtension(path) == script;
+}
+
+QString BookLayout::inFiles(const QString& path) {
+    const QString start = files + u'/';
+    return path.startsWith(start) ? path.sliced(start.size()) : QString();
+}
+
+QString BookLayout::dataName(const QString& path) {
+    return inFiles(path).section(u'.', 0, -2);
+}
+
+QString BookLayout::at(const QString& path) const {
+    return Files::join(iFolder, path);
+}
