@@ -4,6 +4,7 @@
 //     folvero-bench-text DOCUMENT...
 
 #include "base/PlatformException.h"
+#include "pdf/DrawablePage.h"
 #include "pdf/PDFDocument.h"
 #include "webbook/WebPageText.h"
 #include "webbook/WebScript.h"
@@ -37,7 +38,8 @@ void measure(const QString& path) {
     for (int index = 0; index < pages; ++index) {
         Lap lap;
         const PDFPage page = document->page(index);
-        const auto lines = page.text();
+        const auto lines =
+            DrawablePage(*document, index, {}, DrawablePage::Content::picturesAndText).text();
         reading += lap.milliseconds();
         const auto json = WebPageText::asJson(page.boxes(), lines, page.annotations(),
                                               [](int target) { return target + 1; });

@@ -14,7 +14,7 @@ constexpr double pixelsPerPoint = 2.0;
 PageTiming PageImageMaker::make(int page, const QString& path, const DrawControl& control) {
     PageTiming timing;
     Stopwatch watch;
-    iDocument.page(page - 1).draw(pixelsPerPoint, iBitmap, control);
+    DrawablePage(iDocument, page - 1, control).draw(pixelsPerPoint, iBitmap);
     timing.draw = watch.lap();
     const auto jpeg = iEncoder.encode(iBitmap, iFactor);
     timing.encode = watch.lap();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pdf/DrawablePage.h"
 #include "pdf/JPEGEncoder.h"
 #include "pdf/PDFDocument.h"
 

@@ -56,8 +56,8 @@ void write(const QString& path, const QByteArray& data) {
 PageTiming WebPageMaker::make(int page, const WebPageFiles& files, const DrawControl& control) {
     PageTiming timing;
     Stopwatch watch;
-    const PDFPage drawn = iDocument.page(page - 1);
-    drawn.draw(normalScale, iBitmap, control);
+    const DrawablePage drawn(iDocument, page - 1, control, DrawablePage::Content::picturesAndText);
+    drawn.draw(normalScale, iBitmap);
     const QByteArray text = PDFSerialization::pack(drawn.text());
     timing.draw = watch.lap();
 
@@ -74,7 +74,7 @@ PageTiming WebPageMaker::make(int page, const WebPageFiles& files, const DrawCon
     // The text's size in the book is close to its packed size.
     const qint64 taken =
         (normal.isEmpty() ? pageFileSize : normal.size()) + small.size() + text.size();
-    makeLarge(drawn, files, qint64(maxBytesRatio * double(pageFileSize)) - taken, control, timing);
+    makeLarge(drawn, files, qint64(maxBytesRatio * double(pageFileSize)) - taken, timing);
     return timing;
 }
 
@@ -101,15 +101,15 @@ QByteArray WebPageMaker::thumbnail() const {
                                 thumbnailQuality);
 }
 
-void WebPageMaker::makeLarge(const PDFPage& page, const WebPageFiles& files, qint64 largest,
-                             const DrawControl& control, PageTiming& timing) {
+void WebPageMaker::makeLarge(const DrawablePage& page, const WebPageFiles& files, qint64 largest,
+                             PageTiming& timing) {
     Stopwatch watch;
     const QByteArray vector = page.vectorPicture();
     timing.draw += watch.lap();
     if (!vector.isEmpty() && vector.size() <= std::min(largest, maxVectorBytes)) {
         write(files.largeVector, vector);
     } else {
-        const QByteArray picture = largePicture(page, largest, control);
+        const QByteArray picture = largePicture(page, largest);
         if (!picture.isEmpty())
             write(files.largePicture, picture);
     }
@@ -117,11 +117,10 @@ void WebPageMaker::makeLarge(const PDFPage& page, const WebPageFiles& files, qin
 }
 
 // The best picture that fits the limit.
-QByteArray WebPageMaker::largePicture(const PDFPage& page, qint64 largest,
-                                      const DrawControl& control) {
+QByteArray WebPageMaker::largePicture(const DrawablePage& page, qint64 largest) {
     const int normalWidth = iBitmap.width();
     for (const double scale : {largeScale, mediumScale}) {
-        page.draw(scale, iBitmap, control);
+        page.draw(scale, iBitmap);
         // A page near the bitmap limits can't get any larger.
         if (!fitsWebP(iBitmap) || iBitmap.width() <= normalWidth)
             continue;

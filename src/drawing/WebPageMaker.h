@@ -17,9 +17,9 @@ private:
     QByteArray normalPicture(qint64 pageFileSize);
     QByteArray thumbnail() const;
     // largest is in bytes.
-    void makeLarge(const PDFPage& page, const WebPageFiles& files, qint64 largest,
-                   const DrawControl& control, PageTiming& timing);
-    QByteArray largePicture(const PDFPage& page, qint64 largest, const DrawControl& control);
+    void makeLarge(const DrawablePage& page, const WebPageFiles& files, qint64 largest,
+                   PageTiming& timing);
+    QByteArray largePicture(const DrawablePage& page, qint64 largest);
 
     const PDFDocument& iDocument;
     PageBitmap iBitmap;

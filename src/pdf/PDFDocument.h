@@ -69,6 +69,7 @@ public:
 
 private:
     friend class PDFPage;
+    friend class DrawablePage;
     struct Engine;
     class LabelTree;
 

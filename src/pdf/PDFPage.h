@@ -1,13 +1,8 @@
 #pragma once
 
-#include "pdf/PDFText.h"
-#include "pdf/PageBitmap.h"
-
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
-#include <atomic>
-#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -21,12 +16,6 @@ struct PDFAnnotation {
     QRectF bounds; // points in page space: x() and y() are the lower left corner
     QString url;   // null when the annotation has no URI action
     std::optional<int> destinationPage; // zero-based; none when it leads to no page
-};
-
-// What cancels a drawing.
-struct DrawControl {
-    const std::atomic<bool>* stop = nullptr; // cancels as soon as this becomes true
-    std::chrono::milliseconds timeLimit{60'000};
 };
 
 // The boxes of a page, as PDFPage gives them.
@@ -59,23 +48,9 @@ public:
 
     std::vector<PDFAnnotation> annotations() const;
 
-    // Draws the page as a viewer shows it, rotated and with its annotations, on white. scale is in
-    // pixels per point; a page that exceeds the limits is drawn at a smaller scale. The bitmap has
-    // one component when the page is gray. Throws PlatformException:
-    // pageUnreadable, pageTimeout or pageStopped. Not for documents that another process reads.
-    void draw(double scale, PageBitmap& bitmap, const DrawControl& control = {}) const;
-
-    // The words on the page, line by line in the order of the file. Throws PlatformException
-    // (pageUnreadable). Not for documents that another process reads.
-    std::vector<PDFTextLine> text() const;
-
-    // The page as an SVG file, in points, or empty for a page with more than text and plain fills,
-    // which only a bitmap shows correctly. Throws PlatformException (pageUnreadable). Not for
-    // documents that another process reads.
-    QByteArray vectorPicture() const;
-
 private:
     friend class PDFDocument;
+    friend class DrawablePage;
     PDFPage(const PDFDocument& document, int index, pdf_obj* object)
         : iDocument(&document), iIndex(index), iObject(object) {}
     PDFPage(const PDFDocument& document, int index, PDFPageBoxes boxes)

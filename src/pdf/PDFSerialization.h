@@ -2,6 +2,7 @@
 
 #include "base/PlatformException.h"
 #include "pdf/PDFDocument.h"
+#include "pdf/PDFText.h"
 
 #include <QByteArray>
 

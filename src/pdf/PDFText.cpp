@@ -1,7 +1,7 @@
 #include "pdf/PDFText.h"
 
-#include "pdf/PDFEngine.h"
 #include "pdf/PDFLimits.h"
+#include "pdf/PDFRecording.h"
 
 #include <algorithm>
 #include <cmath>
@@ -48,36 +48,21 @@ PDFTextLine lineFrom(const fz_stext_line& source, std::size_t& characters) {
 
 } // namespace
 
-std::vector<PDFTextLine> PDFPage::text() const {
-    const auto& engine = *iDocument->iEngine;
-    fz_stext_page* text = nullptr;
-    fz_rect bounds = fz_empty_rect;
-    const auto drop = [&](fz_stext_page** page) { fz_drop_stext_page(engine.context, *page); };
-    const std::unique_ptr<fz_stext_page*, decltype(drop)> cleanup(&text, drop);
-    engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
-        fz_page* page = fz_load_page(ctx, &engine.document->super, iIndex);
-        fz_try(ctx) {
-            const fz_stext_options options{FZ_STEXT_MEDIABOX_CLIP, 1};
-            bounds = fz_bound_page(ctx, page);
-            text = fz_new_stext_page_from_page(ctx, page, &options);
-        }
-        fz_always(ctx) {
-            fz_drop_page(ctx, page);
-        }
-        fz_catch(ctx) {
-            fz_rethrow(ctx);
-        }
-    });
-
+std::vector<PDFTextLine> DrawablePage::text() const {
+    const Recording& page = *iRecording;
+    if (page.textError.front() != '\0') {
+        throw PlatformException(ErrorKind::pageUnreadable,
+                                QString::fromUtf8(page.textError.data()));
+    }
     std::vector<PDFTextLine> lines;
     std::size_t characters = 0;
-    for (const fz_stext_block* block = text ? text->first_block : nullptr; block;
+    for (const fz_stext_block* block = page.text ? page.text->first_block : nullptr; block;
          block = block->next) {
         if (block->type != FZ_STEXT_BLOCK_TEXT)
             continue;
         for (const fz_stext_line* line = block->u.t.first_line; line; line = line->next) {
             PDFTextLine found = lineFrom(*line, characters);
-            found.box.translate(-bounds.x0, -bounds.y0);
+            found.box.translate(-page.bounds.x0, -page.bounds.y0);
             if (!found.words.empty())
                 lines.push_back(std::move(found));
         }

@@ -1,4 +1,4 @@
-#include "pdf/PDFEngine.h"
+#include "pdf/PDFRecording.h"
 #include "pdf/VectorPage.h"
 
 namespace {
@@ -108,7 +108,7 @@ int noTile(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_rect /*v
     return 0;
 }
 
-bool isSimple(fz_context* ctx, fz_display_list* list, fz_rect page) {
+bool isSimple(fz_context* ctx, fz_display_list* list, fz_rect page, fz_cookie* cookie) {
     auto* watch = fz_new_derived_device(ctx, SimplicityChecker);
     watch->page = page;
     watch->simple = true;
@@ -127,7 +127,7 @@ bool isSimple(fz_context* ctx, fz_display_list* list, fz_rect page) {
     device.begin_tile = noTile;
     bool result = false;
     fz_try(ctx) {
-        fz_run_display_list(ctx, list, &device, fz_identity, fz_infinite_rect, nullptr);
+        fz_run_display_list(ctx, list, &device, fz_identity, fz_infinite_rect, cookie);
         fz_close_device(ctx, &device);
         result = watch->simple;
     }
@@ -140,7 +140,8 @@ bool isSimple(fz_context* ctx, fz_display_list* list, fz_rect page) {
     return result;
 }
 
-void writeSVG(fz_context* ctx, fz_display_list* list, fz_rect bounds, fz_buffer* buffer) {
+void writeSVG(fz_context* ctx, fz_display_list* list, fz_rect bounds, fz_buffer* buffer,
+              fz_cookie* cookie) {
     fz_output* output = nullptr;
     fz_device* device = nullptr;
     fz_var(output);
@@ -150,7 +151,7 @@ void writeSVG(fz_context* ctx, fz_display_list* list, fz_rect bounds, fz_buffer*
         device = fz_new_svg_device(ctx, output, bounds.x1 - bounds.x0, bounds.y1 - bounds.y0,
                                    FZ_SVG_TEXT_AS_PATH, 1);
         fz_run_display_list(ctx, list, device, fz_translate(-bounds.x0, -bounds.y0),
-                            fz_infinite_rect, nullptr);
+                            fz_infinite_rect, cookie);
         fz_close_device(ctx, device);
         fz_close_output(ctx, output);
     }
@@ -165,32 +166,23 @@ void writeSVG(fz_context* ctx, fz_display_list* list, fz_rect bounds, fz_buffer*
 
 } // namespace
 
-QByteArray PDFPage::vectorPicture() const {
-    const auto& engine = *iDocument->iEngine;
-    struct Held {
-        fz_page* page = nullptr;
-        fz_display_list* list = nullptr;
-        fz_buffer* buffer = nullptr;
-    } held;
-    const auto drop = [&](Held* all) {
-        fz_drop_buffer(engine.context, all->buffer);
-        fz_drop_display_list(engine.context, all->list);
-        fz_drop_page(engine.context, all->page);
-    };
-    const std::unique_ptr<Held, decltype(drop)> cleanup(&held, drop);
-    engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
-        held.page = fz_load_page(ctx, &engine.document->super, iIndex);
-        held.list = fz_new_display_list_from_page(ctx, held.page);
-        const fz_rect bounds = fz_bound_page(ctx, held.page);
-        if (!isSimple(ctx, held.list, bounds))
+QByteArray DrawablePage::vectorPicture() const {
+    Recording& page = *iRecording;
+    fz_context* const context = page.engine.context;
+    fz_buffer* buffer = nullptr;
+    const auto drop = [&](fz_buffer** held) { fz_drop_buffer(context, *held); };
+    const std::unique_ptr<fz_buffer*, decltype(drop)> cleanup(&buffer, drop);
+    page.engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
+        if (!isSimple(ctx, page.list, page.bounds, page.watch.cookie()))
             return;
-        held.buffer = fz_new_buffer(ctx, std::size_t{1} << 18);
-        writeSVG(ctx, held.list, bounds, held.buffer);
+        buffer = fz_new_buffer(ctx, std::size_t{1} << 18);
+        writeSVG(ctx, page.list, page.bounds, buffer, page.watch.cookie());
     });
-    if (!held.buffer)
+    page.watch.throwIfEnded();
+    if (!buffer)
         return {};
     unsigned char* bytes = nullptr;
-    const std::size_t size = fz_buffer_storage(engine.context, held.buffer, &bytes);
+    const std::size_t size = fz_buffer_storage(context, buffer, &bytes);
     QByteArray picture = VectorPage::compact(
         QByteArray::fromRawData(reinterpret_cast<const char*>(bytes), qsizetype(size)));
     // On a white background, like the page's other pictures: it may be shown on top of one of them.

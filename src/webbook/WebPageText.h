@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pdf/PDFPage.h"
+#include "pdf/PDFText.h"
 
 #include <QJsonObject>
 #include <functional>

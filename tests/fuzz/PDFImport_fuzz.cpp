@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "fuzz/Fuzz.h"
+#include "pdf/DrawablePage.h"
 #include "pdf/PDFDocument.h"
 #include "pdf/PDFLimits.h"
 
@@ -92,12 +93,12 @@ void readStructure(const QString& path) {
 // What a page worker does, at a size that takes little time.
 void drawFirstPage(const QString& path) {
     const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
-    const PDFPage page = document->page(0);
-    const QSizeF size = page.displaySize();
+    const QSizeF size = document->page(0).displaySize();
     DrawControl control;
     control.timeLimit = std::chrono::milliseconds(300);
+    const DrawablePage page(*document, 0, control, DrawablePage::Content::picturesAndText);
     PageBitmap bitmap;
-    page.draw(100 / std::max({size.width(), size.height(), 1.0}), bitmap, control);
+    page.draw(100 / std::max({size.width(), size.height(), 1.0}), bitmap);
     for (const int side : {bitmap.width(), bitmap.height()})
         Fuzz::require(side > 0 && side <= PDFLimits::maxBitmapSide,
                       "a drawn page has pixels and keeps within the limits");

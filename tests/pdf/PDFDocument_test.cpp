@@ -1,6 +1,7 @@
 #include "pdf/PDFDocument.h"
 
 #include "builder/PDFBuilder.h"
+#include "pdf/DrawablePage.h"
 #include "pdf/PDFLimits.h"
 #include "support/FailureOf.h"
 #include "support/PixelCheck.h"
@@ -31,7 +32,7 @@ constexpr char redCorner[] = "1 0 0 rg 0 0 100 50 re f";
 
 QImage draw(const PDFDocument& document, int index, double scale = 1) {
     PageBitmap bitmap;
-    document.page(index).draw(scale, bitmap);
+    DrawablePage(document, index).draw(scale, bitmap);
     const bool gray = bitmap.components() == 1;
     return QImage(bitmap.data(), bitmap.width(), bitmap.height(), bitmap.stride(),
                   gray ? QImage::Format_Grayscale8 : QImage::Format_RGB888)
@@ -193,8 +194,8 @@ TEST_F(PDFDocumentTest, BlendsWithinThePageNotWithThePaper) {
     EXPECT_TRUE(isNear(colourAt(draw(*document, 0), 0.5, 0.5), Qt::blue));
     EXPECT_TRUE(isNear(colourAt(draw(*document, 1), 0.5, 0.5), Qt::yellow));
     // A group that changes nothing keeps no page from being vectors; blending does.
-    EXPECT_TRUE(document->page(0).vectorPicture().contains("fill=\"#0000ff\""));
-    EXPECT_TRUE(document->page(1).vectorPicture().isEmpty());
+    EXPECT_TRUE(DrawablePage(*document, 0).vectorPicture().contains("fill=\"#0000ff\""));
+    EXPECT_TRUE(DrawablePage(*document, 1).vectorPicture().isEmpty());
 }
 
 // Halves of a spread are often the whole of it, each with its own crop box.
@@ -208,11 +209,11 @@ TEST_F(PDFDocumentTest, GivesNoVectorsOfWhatLiesOutsideThePage) {
         builder.addPage(half);
     }
     const auto document = open();
-    const QByteArray picture = document->page(0).vectorPicture();
+    const QByteArray picture = DrawablePage(*document, 0).vectorPicture();
     EXPECT_TRUE(picture.contains("fill=\"#0000ff\""));
     EXPECT_TRUE(picture.contains("fill=\"#fff\"")) << "it lies on paper";
-    EXPECT_TRUE(document->page(1).vectorPicture().isEmpty());
-    EXPECT_TRUE(document->page(2).vectorPicture().isEmpty());
+    EXPECT_TRUE(DrawablePage(*document, 1).vectorPicture().isEmpty());
+    EXPECT_TRUE(DrawablePage(*document, 2).vectorPicture().isEmpty());
 }
 
 TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
@@ -220,11 +221,11 @@ TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
     builder.addPage(PDFBuilder::page({30000, 10}, ""));
     const auto document = open();
     PageBitmap bitmap;
-    document->page(0).draw(2, bitmap);
+    DrawablePage(*document, 0).draw(2, bitmap);
     EXPECT_LE(std::size_t(bitmap.width()) * std::size_t(bitmap.height()),
               PDFLimits::maxBitmapPixels * 101 / 100);
     EXPECT_EQ(bitmap.width(), bitmap.height());
-    document->page(1).draw(2, bitmap);
+    DrawablePage(*document, 1).draw(2, bitmap);
     EXPECT_EQ(bitmap.width(), PDFLimits::maxBitmapSide);
 }
 
@@ -235,7 +236,7 @@ TEST_F(PDFDocumentTest, EndsADrawingThatTakesTooLongOrIsStopped) {
     PageBitmap bitmap;
     const std::atomic<bool> stop{true};
     const auto failureWith = [&](const DrawControl& control) {
-        return failureOf([&] { document->page(0).draw(2, bitmap, control); }).name;
+        return failureOf([&] { DrawablePage(*document, 0, control).draw(2, bitmap); }).name;
     };
     EXPECT_EQ(failureWith({nullptr, std::chrono::milliseconds(50)}), "PDFPageTimeout");
     EXPECT_EQ(failureWith({&stop}), "PDFPageStopped");

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "pdf/PDFText.h"
+#include "pdf/PageBitmap.h"
+
+#include <QByteArray>
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <vector>
+
+class PDFDocument;
+
+// What cancels the making of a page's pictures.
+struct DrawControl {
+    const std::atomic<bool>* stop = nullptr; // cancels as soon as this becomes true
+    std::chrono::milliseconds timeLimit{60'000};
+};
+
+// A page that was interpreted once, into a display list from which any number of pictures can be
+// made. The time limit is for all of them together. The document must outlive it. Every function
+// throws PlatformException: pageUnreadable, pageTimeout or pageStopped.
+class DrawablePage {
+public:
+    enum class Content { pictures, picturesAndText };
+
+    // index is zero-based. Not for documents that another process reads.
+    DrawablePage(const PDFDocument& document, int index, const DrawControl& control = {},
+                 Content content = Content::pictures);
+    ~DrawablePage();
+    DrawablePage(const DrawablePage&) = delete;
+    DrawablePage& operator=(const DrawablePage&) = delete;
+
+    // Draws the page as a viewer shows it, rotated and with its annotations, on white. scale is in
+    // pixels per point; a page that exceeds the limits is drawn at a smaller scale. The bitmap has
+    // one component when the page is gray.
+    void draw(double scale, PageBitmap& bitmap) const;
+
+    // The words on the page without its annotations, line by line in the order of the file. Empty
+    // for a page that was recorded without its text.
+    std::vector<PDFTextLine> text() const;
+
+    // The page as an SVG file, in points, or empty for a page with more than text and plain fills,
+    // which only a bitmap shows correctly.
+    QByteArray vectorPicture() const;
+
+private:
+    struct Recording;
+
+    std::unique_ptr<Recording> iRecording;
+};

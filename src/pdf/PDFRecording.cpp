@@ -1,0 +1,163 @@
+#include "pdf/PDFRecording.h"
+
+#include "pdf/ForwardingDevice.h"
+
+namespace {
+
+// Colour values closer together than this count as gray: one step of an 8-bit channel, which is
+// invisible.
+constexpr float grayTolerance = 1.0F / 256;
+
+using ErrorText = std::array<char, 256>;
+
+// Keeps a text device's error instead of raising it: it must not cost the page its picture.
+template <class Body>
+void runText(fz_context* ctx, ErrorText& error, Body body) {
+    if (error.front() != '\0')
+        return;
+    fz_try(ctx) {
+        body();
+    }
+    fz_catch(ctx) {
+        fz_strlcpy(error.data(), fz_caught_message(ctx), error.size());
+    }
+}
+
+// Passes texts to a second device, too.
+struct TextTap : ForwardingDevice {
+    fz_device* text;
+    ErrorText* error;
+
+    template <auto Call, class... Arguments>
+    static void forwardText(fz_context* ctx, fz_device* device, Arguments... arguments) {
+        Call(ctx, targetOf(device), arguments...);
+        auto* tap = static_cast<TextTap*>(reinterpret_cast<ForwardingDevice*>(device));
+        runText(ctx, *tap->error, [&] { Call(ctx, tap->text, arguments...); });
+    }
+
+    static fz_device* make(fz_context* ctx, fz_device* target, fz_device* text, ErrorText& error) {
+        auto* tap = ForwardingDevice::make<TextTap>(ctx, target);
+        tap->text = text;
+        tap->error = &error;
+        tap->super.fill_text = forwardText<fz_fill_text>;
+        tap->super.stroke_text = forwardText<fz_stroke_text>;
+        tap->super.clip_text = forwardText<fz_clip_text>;
+        tap->super.clip_stroke_text = forwardText<fz_clip_stroke_text>;
+        tap->super.ignore_text = forwardText<fz_ignore_text>;
+        return &tap->super;
+    }
+};
+
+// Detects whether anything is blended with its backdrop other than by covering it.
+struct BlendDetector {
+    fz_device super;
+    bool blends;
+};
+
+void watchGroup(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, fz_colorspace* /*space*/,
+                int /*isolated*/, int /*knockout*/, int blendMode, float /*alpha*/) {
+    if (blendMode != FZ_BLEND_NORMAL)
+        reinterpret_cast<BlendDetector*>(device)->blends = true;
+}
+
+bool blends(fz_context* ctx, fz_display_list* list) {
+    auto* watch = fz_new_derived_device(ctx, BlendDetector);
+    watch->super.begin_group = watchGroup;
+    bool result = true;
+    fz_try(ctx) {
+        fz_run_display_list(ctx, list, &watch->super, fz_identity, fz_infinite_rect, nullptr);
+        fz_close_device(ctx, &watch->super);
+        result = watch->blends;
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, &watch->super);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+    return result;
+}
+
+// Removes the links of a page. They are not drawn, but loading the page would resolve each
+// destination, which takes longer than drawing on pages full of references.
+void dropLinks(fz_context* ctx, pdf_obj* page) {
+    pdf_obj* annotations = pdf_dict_get(ctx, page, PDF_NAME(Annots));
+    const int count = pdf_array_len(ctx, annotations);
+    if (count == 0)
+        return;
+    pdf_obj* kept = pdf_new_array(ctx, pdf_get_bound_document(ctx, page), count);
+    fz_try(ctx) {
+        for (int i = 0; i < count; ++i) {
+            pdf_obj* annotation = pdf_array_get(ctx, annotations, i);
+            if (!pdf_name_eq(ctx, pdf_dict_get(ctx, annotation, PDF_NAME(Subtype)), PDF_NAME(Link)))
+                pdf_array_push(ctx, kept, annotation);
+        }
+        pdf_dict_put(ctx, page, PDF_NAME(Annots), kept);
+    }
+    fz_always(ctx) {
+        pdf_drop_obj(ctx, kept);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+}
+
+} // namespace
+
+DrawablePage::Recording::~Recording() {
+    fz_drop_stext_page(engine.context, text);
+    fz_drop_display_list(engine.context, list);
+    fz_drop_page(engine.context, page);
+}
+
+void DrawablePage::Recording::load(fz_context* ctx, int index, pdf_obj* object, Content content) {
+    if (engine.mapping)
+        dropLinks(ctx, object);
+    page = fz_load_page(ctx, &engine.document->super, index);
+    bounds = fz_bound_page(ctx, page);
+    list = fz_new_display_list(ctx, bounds);
+    if (content == Content::picturesAndText)
+        text = fz_new_stext_page(ctx, bounds);
+}
+
+// The texts do not come from the list: it leaves out those in empty clips and invisible ones of
+// fonts without outlines, which scanned pages have.
+void DrawablePage::Recording::record(fz_context* ctx) {
+    fz_device* recorder = nullptr;
+    fz_device* test = nullptr;
+    fz_device* texts = nullptr;
+    fz_device* tap = nullptr;
+    fz_var(recorder);
+    fz_var(test);
+    fz_var(texts);
+    fz_var(tap);
+    fz_try(ctx) {
+        recorder = fz_new_list_device(ctx, list);
+        test = fz_new_test_device(ctx, &isColour, grayTolerance, 0, recorder);
+        if (text) {
+            const fz_stext_options options{FZ_STEXT_MEDIABOX_CLIP, 1};
+            texts = fz_new_stext_device(ctx, text, &options);
+            tap = TextTap::make(ctx, test, texts, textError);
+        }
+        fz_run_page_contents(ctx, page, tap ? tap : test, fz_identity, watch.cookie());
+        if (texts)
+            runText(ctx, textError, [&] { fz_close_device(ctx, texts); });
+        fz_run_page_annots(ctx, page, test, fz_identity, watch.cookie());
+        fz_run_page_widgets(ctx, page, test, fz_identity, watch.cookie());
+        fz_close_device(ctx, test);
+        fz_close_device(ctx, recorder);
+    }
+    fz_always(ctx) {
+        fz_drop_device(ctx, tap);
+        fz_drop_device(ctx, texts);
+        fz_drop_device(ctx, test);
+        fz_drop_device(ctx, recorder);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+    // A page with a transparency group is drawn into a separate picture first, which is then
+    // composited onto white. Many documents declare a group on every page but use blending on a few
+    // only. Without blending the page can be drawn directly, faster and with the same result.
+    hasPlainGroup = pdf_page_from_fz_page(ctx, page)->transparency != 0 && !blends(ctx, list);
+}

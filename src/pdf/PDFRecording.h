@@ -1,0 +1,31 @@
+#pragma once
+
+#include "pdf/DrawTimeout.h"
+#include "pdf/DrawablePage.h"
+#include "pdf/PDFEngine.h"
+
+#include <array>
+
+// What a DrawablePage keeps, for the sources of this folder that make something of it.
+struct DrawablePage::Recording {
+    Recording(const PDFDocument::Engine& ofDocument, const DrawControl& control)
+        : engine(ofDocument), watch(control) {}
+    ~Recording();
+    Recording(const Recording&) = delete;
+    Recording& operator=(const Recording&) = delete;
+
+    // Interprets the page, once. Both functions raise MuPDF errors.
+    void load(fz_context* ctx, int index, pdf_obj* object, Content content);
+    void record(fz_context* ctx);
+
+    const PDFDocument::Engine& engine;
+    DrawTimeout watch;
+    fz_page* page = nullptr;
+    fz_display_list* list = nullptr;
+    fz_rect bounds = fz_empty_rect;
+    int isColour = 0;
+    // The list begins with a group around the page's content that need not be drawn.
+    bool hasPlainGroup = false;
+    fz_stext_page* text = nullptr;     // null when not asked for
+    std::array<char, 256> textError{}; // why it is not complete; empty when it is
+};
