@@ -1,6 +1,7 @@
 #include "app/AppSettings.h"
 
 #include "base/Log.h"
+#include "pages/Book.h"
 
 #include <QMetaProperty>
 #include <QSettings>
@@ -11,9 +12,6 @@
 namespace {
 
 std::unique_ptr<AppSettings> gSetting;
-
-constexpr int startPageWidth = 1080;
-constexpr int startPageHeight = 1440;
 
 std::vector<QMetaProperty> declaredProperties() {
     const QMetaObject& meta = AppSettings::staticMetaObject;
@@ -42,8 +40,7 @@ AppSettings::AppSettings() {
         if (text->isNull())
             *text = QStringLiteral("");
     }
-    iPageWidth = startPageWidth;
-    iPageHeight = startPageHeight;
+    setPageSize(Book::defaultPageSize);
 }
 
 AppSettings& AppSettings::shareInstance() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QSize>
 #include <QString>
 
 // The user's last choices, kept across runs. One shared object, for the main thread; each declared
@@ -59,6 +60,11 @@ public:
     void setPageWidth(int width) { iPageWidth = width; }
     int PageHeight() const { return iPageHeight; }
     void setPageHeight(int height) { iPageHeight = height; }
+    QSize pageSize() const { return {iPageWidth, iPageHeight}; }
+    void setPageSize(QSize size) {
+        iPageWidth = size.width();
+        iPageHeight = size.height();
+    }
 
 private:
     QString iLastImportedFile;

@@ -1,6 +1,5 @@
 #include "cli/PublishCommand.h"
 
-#include "app/AppSettings.h"
 #include "base/NotificationCenter.h"
 #include "base/PlatformException.h"
 #include "cli/FileWatcher.h"
@@ -69,10 +68,10 @@ OpenedPDF openDocument(const QString& path) {
     return opened;
 }
 
-QString bookTitle(const PublishOptions& options, const ImportPDFOperation& imported) {
+QString bookTitle(const PublishOptions& options, const Book& imported) {
     if (!options.title.isNull())
         return options.title;
-    const QString& own = imported.documentTitle();
+    const QString& own = imported.documentTitle;
     return own.isEmpty() ? QFileInfo(options.pdf).completeBaseName() : own;
 }
 
@@ -94,52 +93,50 @@ void importPages(const std::shared_ptr<ImportPDFOperation>& operation, bool quie
     }
 }
 
-// The page source of a finished import; throws the reason if there is none.
-std::shared_ptr<FlashPageSourcePDF> importedPages(const ImportPDFOperation& operation) {
+// The result of a finished import; throws the reason if there are no pages.
+const Book& importedBook(const ImportPDFOperation& operation) {
     if (operation.isCancelled())
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
-    const auto source = std::dynamic_pointer_cast<FlashPageSourcePDF>(operation.flashPageSource());
-    if (!source || !source->hasDrawnPages()) {
+    if (!operation.book().hasDrawnPages()) {
         if (operation.failures().isEmpty())
             throw CommandError(QStringLiteral("the pages could not be drawn"));
         throw CommandError(operation.failures());
     }
     for (const Message& failure : operation.failures())
         Terminal::report(QStringLiteral("folvero: %1").arg(failure.english()));
-    return source;
+    return operation.book();
 }
 
-// The book's page size is that of the document's first page; it also goes into the template.
-void takePageSize(const ImportPDFOperation& imported, FlashTemplate& tmpl) {
-    const QRectF box = imported.firstCropBox().value_or(QRectF());
-    auto& settings = AppSettings::shareInstance();
-    settings.setPageWidth(int(box.width()));
-    settings.setPageHeight(int(box.height()));
-    tmpl.setPropertyValue(QStringLiteral("pageWidth"), QString::number(settings.PageWidth()));
-    tmpl.setPropertyValue(QStringLiteral("pageHeight"), QString::number(settings.PageHeight()));
+void setPageSize(QSize size, FlashTemplate& tmpl) {
+    tmpl.setPropertyValue(QStringLiteral("pageWidth"), QString::number(size.width()));
+    tmpl.setPropertyValue(QStringLiteral("pageHeight"), QString::number(size.height()));
 }
 
-std::unique_ptr<FolveroOutput> makeWebOutput(const PublishOptions& options,
-                                             const std::shared_ptr<FlashTemplate>& tmpl,
-                                             const QString& folder) {
+struct Publisher {
+    std::unique_ptr<FolveroOutput> output;
+    FolveroOutputWeb* web = nullptr; // the output, if it makes a web book
+};
+
+Publisher makeWebPublisher(const PublishOptions& options,
+                           const std::shared_ptr<FlashTemplate>& tmpl, const QString& folder) {
     auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, bookName(options));
     output->setSingleFile(options.singleFile);
     const auto progress =
         std::make_shared<ProgressDisplay>(QStringLiteral("Making the web book"), options.quiet);
     output->setProgress([progress](int done, int total) { progress->show(done, total); });
-    return output;
+    auto* web = output.get();
+    return {std::move(output), web};
 }
 
 // Without pages, which are set later.
-std::unique_ptr<FolveroOutput> makeOutput(const PublishOptions& options,
-                                          const std::shared_ptr<FlashTemplate>& tmpl,
-                                          const QString& folder) {
+Publisher makePublisher(const PublishOptions& options, const std::shared_ptr<FlashTemplate>& tmpl,
+                        const QString& folder) {
     const QString name = bookName(options);
     if (options.type == Type::app)
-        return std::make_unique<FolveroOutputApp>(nullptr, tmpl, folder, name);
+        return {std::make_unique<FolveroOutputApp>(nullptr, tmpl, folder, name)};
     if (options.type == Type::web)
-        return makeWebOutput(options, tmpl, folder);
-    return std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name);
+        return makeWebPublisher(options, tmpl, folder);
+    return {std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name)};
 }
 
 // A user's own page must not be lost because a book has the same name.
@@ -233,7 +230,7 @@ MadeBook makeBook(const PublishOptions& options) {
     // Until here a signal ends the program at once: there is nothing to clean up.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
-    const auto output = makeOutput(options, tmpl, folder.path());
+    const auto [output, web] = makePublisher(options, tmpl, folder.path());
     if (!options.force)
         failOnForeignFiles(output->foreignFiles());
     timing.opened();
@@ -244,15 +241,13 @@ MadeBook makeBook(const PublishOptions& options) {
     operation->setImportLinks(options.links);
     operation->setImportBookmarks(options.bookmarks);
     importPages(operation, options.quiet);
-    const auto source = importedPages(*operation);
-    timing.imported(*source);
+    const Book& book = importedBook(*operation);
+    timing.imported(book);
 
-    takePageSize(*operation, *tmpl);
-    const QString title = bookTitle(options, *operation);
-    output->setFlashPageSource(source);
-    output->setFlashPagesAnnotations(operation->flashPagesAnnotation());
-    output->setFlashOutline(operation->flashOutline());
-    if (auto* web = dynamic_cast<FolveroOutputWeb*>(output.get())) {
+    setPageSize(book.pageSize, *tmpl);
+    const QString title = bookTitle(options, book);
+    output->setBook(book);
+    if (web) {
         web->setTitle(title);
         web->setOpenPages(openPages);
     }
@@ -262,10 +257,9 @@ MadeBook makeBook(const PublishOptions& options) {
     if (!options.timingFile.isNull())
         timing.write(options.timingFile);
 
-    if (const auto* web = dynamic_cast<const FolveroOutputWeb*>(output.get()))
+    if (web)
         reportWebBook(*web, options);
-    return {output->outputFileName(), output->fileCounts(),
-            missingPages(*source->toPageConverter(), *output)};
+    return {output->outputFileName(), output->fileCounts(), missingPages(*book.converter, *output)};
 }
 
 // Republishes and prints one summary line; errors are reported, the watch goes on.

@@ -1,7 +1,9 @@
 #include "cli/PublishTiming.h"
 
 #include "console/Terminal.h"
-#include "pages/FlashPageSourcePDF.h"
+#include "pages/Book.h"
+#include "pages/FlashPageSource.h"
+#include "pages/PDFToSWFPageConverter.h"
 #include "system/Files.h"
 
 #include <QJsonDocument>
@@ -19,12 +21,12 @@ void PublishTiming::opened() {
     iSeconds[QStringLiteral("open")] = lap();
 }
 
-void PublishTiming::imported(const FlashPageSourcePDF& source) {
+void PublishTiming::imported(const Book& book) {
     const double seconds = lap();
-    const PageTiming& pages = source.toPageConverter()->timing();
-    const auto workers = double(std::max<std::size_t>(1, source.toPageConverter()->workerCount()));
+    const PageTiming& pages = book.converter->timing();
+    const auto workers = double(std::max<std::size_t>(1, book.converter->workerCount()));
     iSeconds[QStringLiteral("import")] = seconds;
-    iSeconds[QStringLiteral("pages")] = double(source.pages().size());
+    iSeconds[QStringLiteral("pages")] = double(book.pageSource->pages().size());
     iSeconds[QStringLiteral("workers")] = workers;
     iSeconds[QStringLiteral("draw")] = pages.draw;
     iSeconds[QStringLiteral("encode")] = pages.encode;

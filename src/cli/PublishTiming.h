@@ -4,13 +4,13 @@
 #include <QString>
 #include <chrono>
 
-class FlashPageSourcePDF;
+struct Book;
 
 // Time spent in the steps of one publish run, for the benchmarks.
 class PublishTiming {
 public:
     void opened();
-    void imported(const FlashPageSourcePDF& source);
+    void imported(const Book& book);
     void published();
 
     // Writes seconds as JSON: "open", "import", "publish" and "total" in wall-clock time; "draw",

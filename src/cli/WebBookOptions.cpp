@@ -1,6 +1,5 @@
 #include "cli/WebBookOptions.h"
 
-#include "app/AppSettings.h"
 #include "cli/PageSelection.h"
 #include "cli/PublishCommand.h"
 #include "console/CommandError.h"
@@ -79,8 +78,7 @@ void WebBookOptions::printLeftoverFiles(const PublishOptions& options,
 }
 
 void WebBookOptions::printEmbedSnippet(const FolveroOutputWeb& output) {
-    const auto& settings = AppSettings::shareInstance();
-    const EmbedSnippet snippet(output.title(), {settings.PageWidth(), settings.PageHeight()},
+    const EmbedSnippet snippet(output.title(), output.book().pageSize,
                                Files::lastPathComponent(output.outputHTMLFileName()));
     Terminal::report(QStringLiteral("To show the book inside a page of yours, put this line into "
                                     "that page, with the book's\naddress on the web in place of "

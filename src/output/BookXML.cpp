@@ -1,4 +1,3 @@
-#include "app/AppSettings.h"
 #include "output/BookName.h"
 #include "output/FolveroOutput.h"
 #include "output/ImageSize.h"
@@ -170,17 +169,15 @@ void FolveroOutput::appendBackgroundSound(pugi::xml_node background) const {
 }
 
 void FolveroOutput::appendPages(pugi::xml_node root) const {
-    const AppSettings& settings = AppSettings::shareInstance();
-    const PixelSize size{settings.PageWidth(), settings.PageHeight()};
+    const PixelSize size{iBook.pageSize.width(), iBook.pageSize.height()};
     const PixelSize thumbnail = thumbnailSize(size);
     pugi::xml_node pages = root.append_child("Ppts");
-    if (!iFlashPageSource)
+    if (!iBook.pageSource)
         return;
-    for (std::size_t i = 0; i < iFlashPageSource->pages().size(); ++i) {
-        const auto entry = iFlashPageSource->pages()[i];
+    for (const auto& entry : iBook.pageSource->pages()) {
         if (!entry)
             continue;
-        const auto normal = iFlashPageSource->getNormalPageAtIndex(entry->pageIndex());
+        const auto normal = iBook.pageSource->getNormalPageAtIndex(entry->pageIndex());
         // A page without a file keeps its place in the book under the name that it would have.
         const FlashPage& page = normal ? *normal : *entry;
         pugi::xml_node element = pages.append_child("Ppt");

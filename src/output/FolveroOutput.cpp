@@ -42,9 +42,10 @@ FolveroOutput::FolveroOutput(std::shared_ptr<FlashPageSource> pageSource,
                              std::shared_ptr<FlashTemplate> flashTemplate,
                              const QString& saveToFolder, const QString& toName)
     : iFlashTemplate(std::move(flashTemplate)),
-      iFlashPageSource(std::move(pageSource)),
       iSaveToFolder(saveToFolder),
-      iSaveToFileName(toName) {}
+      iSaveToFileName(toName) {
+    iBook.pageSource = std::move(pageSource);
+}
 
 QString FolveroOutput::outputHTMLFileName() const {
     return layout().at(iSaveToFileName.isNull() ? BookLayout::defaultPage : iSaveToFileName);
@@ -181,10 +182,10 @@ void FolveroOutput::prepaireNomalPage(const QString& base) {
     perform(root, [&] {
         const QString folder = BookLayout(root).at(iNormalPageFolder, {});
         transaction().makeFolder(folder);
-        if (!iFlashPageSource)
+        if (!iBook.pageSource)
             return;
-        const Copy kind = iFlashPageSource->ownsPageFiles() ? Copy::mayHardLink : Copy::independent;
-        for (const auto& page : iFlashPageSource->normalPages()) {
+        const Copy kind = iBook.pageSource->ownsPageFiles() ? Copy::mayHardLink : Copy::independent;
+        for (const auto& page : iBook.pageSource->normalPages()) {
             if (!page)
                 continue;
             const QString name =
@@ -200,14 +201,14 @@ void FolveroOutput::prepaireNomalPage(const QString& base) {
 }
 
 void FolveroOutput::prepaireZoomendPage(const QString& base) {
-    if (iZoomedPageSameAsNormalPage || !iFlashPageSource)
+    if (iZoomedPageSameAsNormalPage || !iBook.pageSource)
         return;
     const QString root = base.isEmpty() ? iSaveToFolder : base;
     perform(root, [&] {
         const QString folder = BookLayout(root).at(iZoomedPageFolder, {});
         if (!transaction().willExist(folder))
             return;
-        for (const auto& page : iFlashPageSource->zoomedPages()) {
+        for (const auto& page : iBook.pageSource->zoomedPages()) {
             checkCancelled();
             if (!page || !isReadableFile(page->pageFilePath()))
                 continue;
@@ -270,13 +271,13 @@ void FolveroOutput::copyExtFile(const FlashTemplateProperty& property, const QSt
 }
 
 void FolveroOutput::PrepareAnnotationFiles(const QString& base) {
-    if (!iFlashPagesAnnotations)
+    if (!iBook.annotations)
         return;
     const QString root = base.isEmpty() ? iSaveToFolder : QString();
     perform(root, [&] {
         const QString folder = BookLayout(root).at(iAnnotationFilesFolder, {});
         transaction().makeFolder(folder);
-        for (const QString& source : iFlashPagesAnnotations->needFiles()) {
+        for (const QString& source : iBook.annotations->needFiles()) {
             checkCancelled();
             const QString name = Files::lastPathComponent(source);
             if (!isReadableFile(source) || !BookName::isSafe(name)) {
@@ -318,7 +319,7 @@ void FolveroOutput::removeExtFiles(const QString& base) {
 // The new configuration does not refer to them.
 void FolveroOutput::removeFilesOfExistingBook() {
     removeOfflineFiles();
-    if (!iFlashPageSource || !transaction().writes(layout().at(BookLayout::configuration)))
+    if (!iBook.pageSource || !transaction().writes(layout().at(BookLayout::configuration)))
         return;
     for (const QString& name : ExistingBook::files(iSaveToFolder)) {
         const QString path = layout().at(name);

@@ -5,6 +5,7 @@
 #include "output/BookLayout.h"
 #include "output/HTMLConfigInfo.h"
 #include "output/PublishTransaction.h"
+#include "pages/Book.h"
 #include "pages/FlashPageSource.h"
 #include "template/FlashTemplate.h"
 
@@ -90,19 +91,22 @@ public:
     void setFlashTemplate(std::shared_ptr<FlashTemplate> value) {
         iFlashTemplate = std::move(value);
     }
-    const std::shared_ptr<FlashPageSource>& flashPageSource() const { return iFlashPageSource; }
+    // What is published. The accessors below read and write parts of it.
+    const Book& book() const { return iBook; }
+    void setBook(Book value) { iBook = std::move(value); }
+    const std::shared_ptr<FlashPageSource>& flashPageSource() const { return iBook.pageSource; }
     void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iFlashPageSource = std::move(value);
+        iBook.pageSource = std::move(value);
     }
     const std::shared_ptr<FlashPagesAnnotations>& flashPagesAnnotations() const {
-        return iFlashPagesAnnotations;
+        return iBook.annotations;
     }
     void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iFlashPagesAnnotations = std::move(value);
+        iBook.annotations = std::move(value);
     }
     // Stored for callers; not written.
-    const std::shared_ptr<FlashOutline>& flashOutline() const { return iFlashOutline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+    const std::shared_ptr<FlashOutline>& flashOutline() const { return iBook.outline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
     QString saveToFolder() const { return iSaveToFolder; }
     void setSaveToFolder(const QString& folder) { iSaveToFolder = folder; }
     QString saveToFileName() const { return iSaveToFileName; }
@@ -151,9 +155,7 @@ protected:
                                    const FlashTemplateProperty& property) const;
 
     std::shared_ptr<FlashTemplate> iFlashTemplate;
-    std::shared_ptr<FlashPageSource> iFlashPageSource;
-    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
-    std::shared_ptr<FlashOutline> iFlashOutline;
+    Book iBook;
     QString iSaveToFolder;
     QString iSaveToFileName;
     std::shared_ptr<HTMLConfigInfo> iHTMLConfig;

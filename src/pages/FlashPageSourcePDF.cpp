@@ -73,7 +73,3 @@ std::shared_ptr<FlashPage> FlashPageSourcePDF::getNormalPageAtIndex(int pageInde
     }
     return nullptr;
 }
-
-bool FlashPageSourcePDF::hasDrawnPages() const {
-    return iOpenError.isNull() && iToPageConverter->failedPages().size() < pages().size();
-}

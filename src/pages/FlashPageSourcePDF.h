@@ -46,8 +46,6 @@ public:
 
     // Why the document could not be opened; null when it was.
     const Message& openError() const { return iOpenError; }
-    // Whether at least one page was drawn.
-    bool hasDrawnPages() const;
 
 private:
     void postProgress(std::size_t step, const char* type) const;

@@ -50,31 +50,25 @@ ImportPDFOperation::ImportPDFOperation(const QString& pdfPath, const QString& pa
                                        int quality)
     : iDPI(dpi), iQuality(quality), iPDFPath(pdfPath), iPageRange(pageRange) {}
 
-void ImportPDFOperation::setPageSource(std::shared_ptr<FlashPageSourcePDF> source) {
+void ImportPDFOperation::setBook(Book book) {
     {
         const std::lock_guard lock(iMutex);
-        iFlashPageSource.swap(source);
+        std::swap(iBook, book);
         // The cancel may have come before there was a source to stop.
-        if (iFlashPageSource && isCancelled())
-            iFlashPageSource->setStop(true);
+        if (iBook.pageSource && isCancelled())
+            iBook.pageSource->setStop(true);
     }
-    // The old source is destroyed outside the lock: deleting its files takes time, and cancel()
+    // The old pages are destroyed outside the lock: deleting their files takes time, and cancel()
     // must not wait.
 }
 
-void ImportPDFOperation::clearResults() {
-    setPageSource(nullptr);
-    iFlashPagesAnnotation = nullptr;
-    iFlashOutline = nullptr;
-}
-
 void ImportPDFOperation::cancel() {
-    // In this order setPageSource() can't miss a cancel that finds no source.
+    // In this order setBook() can't miss a cancel that finds no source.
     Operation::cancel();
     *iStopReading = true;
     const std::lock_guard lock(iMutex);
-    if (iFlashPageSource)
-        iFlashPageSource->setStop(true);
+    if (iBook.pageSource)
+        iBook.pageSource->setStop(true);
 }
 
 void ImportPDFOperation::main() {
@@ -84,70 +78,75 @@ void ImportPDFOperation::main() {
         importStages();
     } catch (const std::exception& failure) {
         iFailures << aboutFile().arg(iPDFPath, QString::fromUtf8(failure.what()));
-        clearResults();
+        setBook({});
         throw;
     }
     if (isCancelled()) {
         operationLog().debug(QStringLiteral("import pdf is cancelled"));
-        clearResults();
+        setBook({});
     }
 }
 
 void ImportPDFOperation::importStages() {
     importPages();
-    const auto document =
-        iFlashPageSource ? iFlashPageSource->toPageConverter()->PDFDoc() : nullptr;
     if (!isCancelled() && iImportLinks)
-        importPageLinks(document);
+        importPageLinks();
     if (!isCancelled() && iImportBookmarks)
-        importOutline(document);
-    if (!isCancelled() && document)
-        checkUnchanged(*document);
+        importOutline();
+    if (!isCancelled() && iBook.document)
+        checkUnchanged();
 }
 
 // A mix of two versions of a document must not replace a good book.
-void ImportPDFOperation::checkUnchanged(const PDFDocument& document) {
+void ImportPDFOperation::checkUnchanged() {
     try {
-        document.checkUnchanged();
+        iBook.document->checkUnchanged();
     } catch (const PlatformException& failure) {
         operationLog().error(failure.reason());
         iFailures = {aboutFile().arg(iPDFPath, failure.message())};
-        clearResults();
+        setBook({});
     }
 }
 
 void ImportPDFOperation::importPages() {
     try {
-        setPageSource(std::make_shared<FlashPageSourcePDF>(
+        const auto source = std::make_shared<FlashPageSourcePDF>(
             iPDFPath, iPageRange, iDPI, iQuality, std::exchange(iDocument, {}),
-            [stopped = iStopReading] { return stopped->load(); }));
-        if (!iFlashPageSource->openError().isNull())
-            iFailures << iFlashPageSource->openError();
-        iFlashPageSource->startDrawing();
-        if (const auto document = iFlashPageSource->toPageConverter()->PDFDoc())
-            readDocumentProperties(*document);
+            [stopped = iStopReading] { return stopped->load(); });
+        Book book;
+        book.pageSource = source;
+        book.converter = source->toPageConverter();
+        book.document = book.converter->PDFDoc();
+        setBook(std::move(book));
+        if (!source->openError().isNull())
+            iFailures << source->openError();
+        source->startDrawing();
+        if (iBook.document)
+            readDocumentProperties(*iBook.document);
         operationLog().debug(QStringLiteral("before generate pages"));
-        iFlashPageSource->generatePages();
+        source->generatePages();
         operationLog().debug(QStringLiteral("after generate pages"));
         operationLog().debug(QStringLiteral("before generateNormalPages"));
-        iFlashPageSource->generateNormalPages();
+        source->generateNormalPages();
         operationLog().debug(QStringLiteral("after generateNormalPages"));
-        if (!isCancelled() && !iFlashPageSource->hasDrawnPages())
+        if (!isCancelled() && iBook.document && !iBook.hasDrawnPages())
             reportNothingDrawn();
     } catch (const PlatformException& failure) {
         operationLog().error(
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
         iFailures << aboutFile().arg(iPDFPath, failure.message());
-        setPageSource(nullptr);
+        setBook({});
     }
 }
 
 // Before links and bookmarks, which may crash the reader too often for further queries; while the
 // first pages are drawn, since it takes as long.
 void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
+    iBook.pageSize = QSize(0, 0);
     try {
-        iFirstCropBox = firstReadableCropBox(document);
-        iDocumentTitle = document.information("Title").trimmed();
+        const QRectF box = firstReadableCropBox(document);
+        iBook.pageSize = QSize(int(box.width()), int(box.height()));
+        iBook.documentTitle = document.information("Title").trimmed();
     } catch (const PlatformException& failure) {
         operationLog().warn(failure.reason());
     }
@@ -155,9 +154,7 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
 
 // The source is kept: a caller may have a use for empty pages.
 void ImportPDFOperation::reportNothingDrawn() {
-    if (!iFlashPageSource->openError().isNull())
-        return;
-    const auto& failed = iFlashPageSource->toPageConverter()->failedPages();
+    const auto& failed = iBook.converter->failedPages();
     if (failed.empty())
         iFailures << Message::translate("ImportPDFOperation",
                                         "%1: none of the pages asked for is in it")
@@ -168,11 +165,11 @@ void ImportPDFOperation::reportNothingDrawn() {
                          .arg(iPDFPath, failed.front().reason);
 }
 
-void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& document) {
+void ImportPDFOperation::importPageLinks() {
     const auto annotations = std::make_shared<FlashPagesAnnotationsPDF>();
     try {
-        annotations->loadLinksFromPDF(document, iPageRange);
-        iFlashPagesAnnotation = annotations;
+        annotations->loadLinksFromPDF(iBook.document, iPageRange);
+        iBook.annotations = annotations;
         if (!annotations->unreadPages().empty())
             iFailures << aboutLinks().arg(iPDFPath, linkFailure(annotations->unreadPages()));
     } catch (const PlatformException& failure) {
@@ -182,11 +179,11 @@ void ImportPDFOperation::importPageLinks(const std::shared_ptr<PDFDocument>& doc
     }
 }
 
-void ImportPDFOperation::importOutline(const std::shared_ptr<PDFDocument>& document) {
+void ImportPDFOperation::importOutline() {
     const auto outline = std::make_shared<FlashOutlinePDF>();
     try {
-        outline->loadOutlineFromPDF(document);
-        iFlashOutline = outline;
+        outline->loadOutlineFromPDF(iBook.document);
+        iBook.outline = outline;
     } catch (const PlatformException& failure) {
         operationLog().error(QStringLiteral("Run Import PDF Operation error,import outline:%1")
                                  .arg(failure.reason()));

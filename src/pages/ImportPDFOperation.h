@@ -3,6 +3,7 @@
 #include "annotations/FlashOutline.h"
 #include "annotations/FlashPagesAnnotations.h"
 #include "base/Operation.h"
+#include "pages/Book.h"
 #include "pages/FlashPageSourcePDF.h"
 
 #include <QString>
@@ -10,10 +11,9 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
-#include <optional>
 
 // Imports a PDF in the background: its pages, and its links and outline if requested. Read the
-// results once it is finished; a part that failed is null.
+// results once it is finished.
 class ImportPDFOperation : public Operation {
 public:
     ImportPDFOperation(const QString& pdfPath, const QString& pageRange, int dpi, int quality);
@@ -32,41 +32,32 @@ public:
     // Thread-safe. Also stops the page that is being drawn.
     void cancel() override;
 
-    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    const Book& book() const { return iBook; }
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iBook.pageSource; }
     std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotation() const {
-        return iFlashPagesAnnotation;
+        return iBook.annotations;
     }
-    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
-
-    // The crop box of the first readable page, if any.
-    const std::optional<QRectF>& firstCropBox() const { return iFirstCropBox; }
-    // The document's own title, or an empty text.
-    const QString& documentTitle() const { return iDocumentTitle; }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iBook.outline; }
 
     // What went wrong, one text for users per part that failed. There is no page source when the
     // file was changed while it was read or the work folder is full.
     const Messages& failures() const { return iFailures; }
 
 private:
-    void setPageSource(std::shared_ptr<FlashPageSourcePDF> source);
-    void clearResults();
+    void setBook(Book book);
     void importStages();
     void importPages();
     void readDocumentProperties(const PDFDocument& document);
     void reportNothingDrawn();
-    void importPageLinks(const std::shared_ptr<PDFDocument>& document);
-    void importOutline(const std::shared_ptr<PDFDocument>& document);
-    void checkUnchanged(const PDFDocument& document);
+    void importPageLinks();
+    void importOutline();
+    void checkUnchanged();
 
     OpenedPDF iDocument;
     // Shared, since the document may outlive the operation.
     std::shared_ptr<std::atomic<bool>> iStopReading = std::make_shared<std::atomic<bool>>(false);
     std::mutex iMutex; // guards the page source, which cancel() reaches from another thread
-    std::shared_ptr<FlashPageSourcePDF> iFlashPageSource;
-    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotation;
-    std::shared_ptr<FlashOutline> iFlashOutline;
-    std::optional<QRectF> iFirstCropBox;
-    QString iDocumentTitle;
+    Book iBook;
     int iDPI;
     int iQuality;
     QString iPDFPath;

@@ -27,12 +27,6 @@ const Log& logger() {
     return log;
 }
 
-// Sources other than PDFs count as having pages.
-bool hasPages(const FlashPageSource* source) {
-    const auto* pdf = dynamic_cast<const FlashPageSourcePDF*>(source);
-    return pdf ? pdf->hasDrawnPages() : source != nullptr;
-}
-
 } // namespace
 
 ImportWindowDelegate::ImportWindowDelegate(QWidget* parent)
@@ -115,9 +109,7 @@ void ImportWindowDelegate::onImportAction() {
     saveChoices();
     enableButtons(false);
     AppSettings::shareInstance().saveSettings();
-    iFlashPageSource = nullptr;
-    iFlashPagesAnnotations = nullptr;
-    iFlashOutline = nullptr;
+    iBook = emptyBook();
     iWindow->lblInfo->clear();
     showFailure({});
     logger().debug(QStringLiteral("start to import pdf now..."));
@@ -150,8 +142,6 @@ int ImportWindowDelegate::qualityForLevel(int importQualityLevel) {
 }
 
 void ImportWindowDelegate::startImport() {
-    iPageWidth = 0;
-    iPageHeight = 0;
     iQueue.cancelAllOperations();
     const bool typed = iWindow->pageRangeType->checkedId() == ImportWindow::typedPages;
     const QString range = typed ? iWindow->txtPageRange->text() : QStringLiteral("ALL");
@@ -192,20 +182,13 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     if (!operation || operation != iImportPDF)
         return;
     logger().debug(QStringLiteral("import pdf isFinished."));
-    iFlashPageSource = operation->flashPageSource();
-    iFlashPagesAnnotations = operation->flashPagesAnnotation();
-    iFlashOutline = operation->flashOutline();
     iFailures = localTexts(operation->failures());
     enableButtons(true);
-    if (!hasPages(iFlashPageSource.get())) {
-        iFlashPageSource = nullptr;
-        iFlashPagesAnnotations = nullptr;
-        iFlashOutline = nullptr;
-    }
-    if (iFlashPageSource) {
+    if (operation->book().hasDrawnPages()) {
         logger().debug(QStringLiteral("import pdf ok..."));
+        iBook = operation->book();
         reportFailedPages();
-        takePageSize(*operation);
+        storePageSize();
         iIsImporting = false;
         endSheet(1);
         return;
@@ -218,10 +201,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
 
 // The book lacks these pages, so the user must know which.
 void ImportWindowDelegate::reportFailedPages() {
-    const auto* source = dynamic_cast<const FlashPageSourcePDF*>(iFlashPageSource.get());
-    if (!source)
-        return;
-    const auto& failed = source->toPageConverter()->failedPages();
+    const auto& failed = iBook.converter->failedPages();
     const auto told = std::min(failed.size(), maxPagesShown);
     for (const auto& page : std::span(failed).first(told))
         iFailures << tr("Page %1 could not be drawn: %2")
@@ -230,19 +210,17 @@ void ImportWindowDelegate::reportFailedPages() {
         iFailures << tr("%n more page(s) could not be drawn.", nullptr, int(failed.size() - told));
 }
 
-void ImportWindowDelegate::takePageSize(const ImportPDFOperation& operation) {
-    const auto* source = dynamic_cast<const FlashPageSourcePDF*>(iFlashPageSource.get());
-    const auto document = source ? source->toPageConverter()->PDFDoc() : nullptr;
-    if (!document)
-        return;
-    const QRectF box = operation.firstCropBox().value_or(QRectF());
-    iPageWidth = int(box.width());
-    iPageHeight = int(box.height());
-    document->stopReader(); // no more queries follow
+void ImportWindowDelegate::storePageSize() const {
+    iBook.document->stopReader(); // no more queries follow
     auto& settings = AppSettings::shareInstance();
-    settings.setPageWidth(iPageWidth);
-    settings.setPageHeight(iPageHeight);
+    settings.setPageSize(iBook.pageSize);
     settings.saveSettings();
+}
+
+Book ImportWindowDelegate::emptyBook() {
+    Book book;
+    book.pageSize = QSize(0, 0);
+    return book;
 }
 
 void ImportWindowDelegate::showFailure(const QStringList& failures) {

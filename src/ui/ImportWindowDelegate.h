@@ -26,27 +26,29 @@ public:
     // Imports all pages of that file as if the user had chosen it in the sheet.
     void importFile(const QString& path);
 
-    // The results of the last import; null before one and after a failed one.
-    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    // The result of the last import, without pages before one and after a failed one. The accessors
+    // below read and write parts of it.
+    const Book& book() const { return iBook; }
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iBook.pageSource; }
     void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iFlashPageSource = std::move(value);
+        iBook.pageSource = std::move(value);
     }
     std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
-        return iFlashPagesAnnotations;
+        return iBook.annotations;
     }
     void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iFlashPagesAnnotations = std::move(value);
+        iBook.annotations = std::move(value);
     }
-    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iBook.outline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
     // What the last import left out and why: one text per failed part or page; many failed pages
     // share one.
     const QStringList& failures() const { return iFailures; }
     // Points; 0 until an import succeeds.
-    int pageWidth() const { return iPageWidth; }
-    void setPageWidth(int width) { iPageWidth = width; }
-    int pageHeight() const { return iPageHeight; }
-    void setPageHeight(int height) { iPageHeight = height; }
+    int pageWidth() const { return iBook.pageSize.width(); }
+    void setPageWidth(int width) { iBook.pageSize.setWidth(width); }
+    int pageHeight() const { return iBook.pageSize.height(); }
+    void setPageHeight(int height) { iBook.pageSize.setHeight(height); }
     bool isImporting() const { return iIsImporting; }
 
     // How the user is asked for a file (none when cancelled), and how one is opened.
@@ -79,17 +81,14 @@ private:
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
     void reportFailedPages();
-    void takePageSize(const ImportPDFOperation& operation);
+    void storePageSize() const;
+    static Book emptyBook();
     void showFailure(const QStringList& failures);
     void endSheet(int returnCode);
 
     ImportWindow* iWindow;
-    int iPageWidth = 0;
-    int iPageHeight = 0;
     bool iIsImporting = false;
-    std::shared_ptr<FlashPageSource> iFlashPageSource;
-    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
-    std::shared_ptr<FlashOutline> iFlashOutline;
+    Book iBook = emptyBook();
     QStringList iFailures;
     std::shared_ptr<ImportPDFOperation> iImportPDF;
     NotificationCenter::Subscription iProgress;

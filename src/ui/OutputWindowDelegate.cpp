@@ -128,9 +128,8 @@ void OutputWindowDelegate::showState() {
     iWindow->btnPublish->setEnabled(!iWindow->txtOutputFolder->text().trimmed().isEmpty() &&
                                     !iWindow->txtOutputName->text().trimmed().isEmpty());
     iWindow->showWebBookParts(iWindow->mOutputType->checkedId() == OutputWindow::webBook);
-    const auto& settings = AppSettings::shareInstance();
-    const EmbedSnippet snippet(iWindow->txtTitle->text(),
-                               {settings.PageWidth(), settings.PageHeight()}, pageName());
+    const EmbedSnippet snippet(iWindow->txtTitle->text(), AppSettings::shareInstance().pageSize(),
+                               pageName());
     iWindow->txtEmbed->setText(snippet.html());
     iWindow->txtEmbed->setCursorPosition(0);
 }
@@ -157,18 +156,18 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     const QString folder = iWindow->txtOutputFolder->text();
     const QString name = pageName();
     if (AppSettings::shareInstance().outputType() == OutputWindow::application)
-        return std::make_unique<FolveroOutputApp>(iFlashPageSource, iFlashTmpl, folder, name);
+        return std::make_unique<FolveroOutputApp>(iBook.pageSource, iFlashTmpl, folder, name);
     if (!QFileInfo::exists(folder))
         QDir().mkdir(folder);
     if (AppSettings::shareInstance().outputType() == OutputWindow::webBook)
         return makeWebOutput(folder, name);
-    return std::make_unique<FolveroOutput>(iFlashPageSource, iFlashTmpl, folder, name);
+    return std::make_unique<FolveroOutput>(iBook.pageSource, iFlashTmpl, folder, name);
 }
 
 // Draws the pages again, which takes as long as an import.
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString& folder,
                                                                    const QString& name) {
-    auto output = std::make_unique<FolveroOutputWeb>(iFlashPageSource, iFlashTmpl, folder, name);
+    auto output = std::make_unique<FolveroOutputWeb>(iBook.pageSource, iFlashTmpl, folder, name);
     output->setTitle(AppSettings::shareInstance().lastOutputFileTitle());
     output->setSingleFile(iWindow->chkSingleFile->isChecked());
     output->setProgress([this](int done, int total) { showProgress(*iProgress, done, total); });
@@ -237,8 +236,9 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(AppSettings::shareInstance().lastOutputFileTitle().toHtmlEscaped());
     output.setHTMLConfig(html);
-    output.setFlashPagesAnnotations(iFlashPagesAnnotations);
-    output.setFlashOutline(iFlashOutline);
+    Book book = iBook;
+    book.pageSize = AppSettings::shareInstance().pageSize();
+    output.setBook(std::move(book));
     run(output);
     if (output.wasCancelled())
         return;

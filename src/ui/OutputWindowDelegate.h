@@ -23,20 +23,22 @@ public:
     OutputWindow& window() const { return *iWindow; }
     void beginSheet();
 
-    // What to publish; set before the sheet is shown.
-    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    // What to publish; set before the sheet is shown. Its page size is that of the settings.
+    const Book& book() const { return iBook; }
+    void setBook(Book value) { iBook = std::move(value); }
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iBook.pageSource; }
     void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iFlashPageSource = std::move(value);
+        iBook.pageSource = std::move(value);
     }
     std::shared_ptr<FlashTemplate> flashTmpl() const { return iFlashTmpl; }
     void setFlashTmpl(std::shared_ptr<FlashTemplate> value) { iFlashTmpl = std::move(value); }
-    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iBook.outline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
     std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
-        return iFlashPagesAnnotations;
+        return iBook.annotations;
     }
     void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iFlashPagesAnnotations = std::move(value);
+        iBook.annotations = std::move(value);
     }
 
     // The document of the book: its path, empty for the demo book, and its name. Folder and title
@@ -81,10 +83,8 @@ private:
     void endSheet(int returnCode);
 
     OutputWindow* iWindow;
-    std::shared_ptr<FlashPageSource> iFlashPageSource;
+    Book iBook;
     std::shared_ptr<FlashTemplate> iFlashTmpl;
-    std::shared_ptr<FlashOutline> iFlashOutline;
-    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
     QString iDocument;
     QString iDocumentName;
     // Whether the fields still contain what was typed for another document.

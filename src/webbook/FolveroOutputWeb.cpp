@@ -89,11 +89,11 @@ void FolveroOutputWeb::ouputTheBook() {
     iDegradedPages.clear();
     iPageBytes = 0;
     iClassicPageBytes = 0;
-    if (!iFlashPageSource || !QFileInfo(iSaveToFolder).isDir()) {
+    if (!iBook.pageSource || !QFileInfo(iSaveToFolder).isDir()) {
         FolveroOutput::ouputTheBook();
         return;
     }
-    iWebPages = std::make_unique<WebPages>(*iFlashPageSource);
+    iWebPages = std::make_unique<WebPages>(iBook);
     const auto end = qScopeGuard([this] { iWebPages.reset(); });
     iWebPages->setCancelled([this] { return isCancelled(); });
     iWebPages->setProgress(iProgress);
@@ -105,17 +105,15 @@ void FolveroOutputWeb::ouputTheBook() {
         if (!page.failure.isNull())
             iDegradedPages.emplace_back(page.number, page.failure);
     }
-    const auto source = iFlashPageSource;
+    const Book book = iBook;
     const auto html = iHTMLConfig;
-    const auto outline = iFlashOutline;
     const auto restore = qScopeGuard([&] {
-        iFlashPageSource = source;
+        iBook = book;
         iHTMLConfig = html;
-        iFlashOutline = outline;
     });
     readMetadata();
     describeBook();
-    iFlashPageSource = webPageSource();
+    iBook.pageSource = webPageSource();
     FolveroOutput::ouputTheBook();
 }
 
@@ -132,7 +130,7 @@ bool FolveroOutputWeb::makePages() {
 
 // The pages may have been drawn long before their texts and links are read.
 void FolveroOutputWeb::checkDocumentUnchanged() const {
-    const auto document = iWebPages->document();
+    const auto document = iBook.document;
     if (!document)
         return;
     try {
@@ -176,7 +174,7 @@ std::shared_ptr<FlashPageSource> FolveroOutputWeb::webPageSource() const {
     private:
         bool iOwns;
     };
-    auto source = std::make_shared<Source>(iFlashPageSource->ownsPageFiles());
+    auto source = std::make_shared<Source>(iBook.pageSource->ownsPageFiles());
     FlashPageSource::Pages pages;
     FlashPageSource::Pages open;
     for (const WebPage& page : iWebPages->pages()) {
@@ -205,7 +203,7 @@ void FolveroOutputWeb::readMetadata() {
         iMetadata.textPage = BookLayout::textPage;
         iMetadata.cover = cover();
     }
-    if (const auto document = iWebPages->document()) {
+    if (const auto document = iBook.document) {
         try {
             readDocumentMetadata(*document);
         } catch (const PlatformException& failure) {
@@ -247,10 +245,10 @@ void FolveroOutputWeb::readDocumentMetadata(const PDFDocument& document) {
     iMetadata.subject = document.information("Subject").trimmed();
     iMetadata.keywords = document.information("Keywords").trimmed();
     iMetadata.language = languageTag(document.language());
-    if (!iFlashOutline) {
+    if (!iBook.outline) {
         const auto outline = std::make_shared<FlashOutlinePDF>();
-        outline->loadOutlineFromPDF(iWebPages->document());
-        iFlashOutline = outline;
+        outline->loadOutlineFromPDF(iBook.document);
+        iBook.outline = outline;
     }
     const auto labels = document.pageLabels();
     if (labels.empty())
@@ -331,7 +329,7 @@ void FolveroOutputWeb::writeScript(const QString& path, const QByteArray& json) 
 }
 
 void FolveroOutputWeb::writePages() {
-    const auto document = iWebPages->document();
+    const auto document = iBook.document;
     const QString book = Files::lastPathComponent(outputHTMLFileName());
     PlainTextPage plain(iMetadata, book);
     QJsonArray search;
@@ -352,7 +350,7 @@ void FolveroOutputWeb::writePages() {
         document->stopReader();
     checkDocumentUnchanged();
     writeScript(BookLayout::searchText, WebScript::json(search));
-    writeScript(BookLayout::metadata, WebScript::json(iMetadata.forPlayer(iFlashOutline.get())));
+    writeScript(BookLayout::metadata, WebScript::json(iMetadata.forPlayer(iBook.outline.get())));
     transaction().write(layout().at(BookLayout::textPage), plain.html(), Phase::page);
 }
 
@@ -390,7 +388,7 @@ void FolveroOutputWeb::copyPageFile(const QString& source, const QString& path) 
         return;
     iPageBytes += QFileInfo(source).size();
     transaction().copy(source, layout().at(path),
-                       iFlashPageSource->ownsPageFiles() ? Copy::mayHardLink : Copy::independent);
+                       iBook.pageSource->ownsPageFiles() ? Copy::mayHardLink : Copy::independent);
 }
 
 QString FolveroOutputWeb::getThumbPageURL(const FlashPage& page) const {
@@ -406,7 +404,7 @@ QByteArray FolveroOutputWeb::preloads() {
     QByteArray links =
         "<link rel=\"preload\" as=\"script\" href=\"" + BookLayout::metadata.toUtf8() + "\">\n";
     const auto pages =
-        iFlashPageSource ? iFlashPageSource->normalPages() : FlashPageSource::Pages();
+        iBook.pageSource ? iBook.pageSource->normalPages() : FlashPageSource::Pages();
     if (pages.empty() || !pages.front() || iMetadata.positionOf(pages.front()->pageIndex()) != 1)
         return links;
     const QString picture = BookLayout::in({}, getNormalPageURL(*pages.front()));

@@ -3,17 +3,14 @@
 #include "base/PlatformException.h"
 #include "drawing/PageWorkers.h"
 #include "drawing/WebPageFiles.h"
-#include "pages/FlashPageSourcePDF.h"
+#include "pages/FlashPageSource.h"
+#include "pages/PDFToSWFPageConverter.h"
 
 #include <QFileInfo>
 #include <map>
+#include <utility>
 
 namespace {
-
-const PDFToSWFPageConverter* converterOf(const FlashPageSource& source) {
-    const auto* pdf = dynamic_cast<const FlashPageSourcePDF*>(&source);
-    return pdf && pdf->toPageConverter()->PDFDoc() ? pdf->toPageConverter().get() : nullptr;
-}
 
 QString existing(const QString& path) {
     return QFileInfo::exists(path) ? path : QString();
@@ -21,27 +18,22 @@ QString existing(const QString& path) {
 
 } // namespace
 
-WebPages::WebPages(const FlashPageSource& source) : iSource(source) {
-    for (const auto& page : source.normalPages()) {
+WebPages::WebPages(Book book) : iBook(std::move(book)) {
+    for (const auto& page : iBook.pageSource->normalPages()) {
         if (page)
             iPages.push_back(pageFrom(page->pageIndex(), page->pageFilePath()));
     }
 }
 
-std::shared_ptr<PDFDocument> WebPages::document() const {
-    const auto* converter = converterOf(iSource);
-    return converter ? converter->PDFDoc() : nullptr;
-}
-
 bool WebPages::make() {
-    if (converterOf(iSource) && !drawMissing())
+    if (iBook.document && !drawMissing())
         return false;
     return !iIsCancelled();
 }
 
 // A page without a page file could not be drawn before and won't be now.
 bool WebPages::drawMissing() {
-    const auto& converter = *converterOf(iSource);
+    const auto& converter = *iBook.converter;
     std::map<int, WebPage*> missing;
     for (WebPage& page : iPages) {
         if (iIsWanted(page.number) && page.text.isNull() && QFileInfo::exists(page.picture))
@@ -80,10 +72,9 @@ WebPage WebPages::pageFrom(int number, const QString& pageFile) const {
     result.number = number;
     result.pageFile = pageFile;
     result.picture = pageFile;
-    const auto* converter = converterOf(iSource);
-    if (!converter)
+    if (!iBook.document)
         return result;
-    const WebPageFiles files(converter->converterWorkFolder(), number);
+    const WebPageFiles files(iBook.converter->converterWorkFolder(), number);
     if (result.picture != files.pageFile)
         return result; // provided by the user
     if (QFileInfo::exists(files.picture))

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "base/Message.h"
-#include "pages/FlashPageSource.h"
+#include "pages/Book.h"
 
 #include <functional>
 #include <memory>
 #include <vector>
-
-class PDFDocument;
 
 // The files of one page of a web book, in a work folder; null for those that don't exist.
 struct WebPage {
@@ -20,12 +18,12 @@ struct WebPage {
     Message failure;   // why the page lacks some of these
 };
 
-// The pages of a source for a web book. Pages of a PDF are drawn once more by page workers; others
+// The pages of a book for a web book. Pages of a PDF are drawn once more by page workers; others
 // have their page files only.
 class WebPages {
 public:
-    // The source must outlive this object.
-    explicit WebPages(const FlashPageSource& source);
+    // The book needs a page source.
+    explicit WebPages(Book book);
 
     // Polled while pages are made; true cancels.
     void setCancelled(std::function<bool()> isCancelled) { iIsCancelled = std::move(isCancelled); }
@@ -44,14 +42,11 @@ public:
     // In book order.
     const std::vector<WebPage>& pages() const { return iPages; }
 
-    // The document that the pages come from, or null.
-    std::shared_ptr<PDFDocument> document() const;
-
 private:
     bool drawMissing();
     WebPage pageFrom(int number, const QString& pageFile) const;
 
-    const FlashPageSource& iSource;
+    Book iBook;
     std::function<bool()> iIsCancelled = [] { return false; };
     std::function<bool(int)> iIsWanted = [](int) { return true; };
     std::function<void(int, int)> iProgress = [](int, int) {};

@@ -42,6 +42,7 @@ TEST_F(Importing, DocumentBecomesTheBook) {
     EXPECT_EQ(publishedPages(), 5u);
     EXPECT_EQ(value("pageWidth"), "300");
     EXPECT_EQ(value("pageHeight"), "400");
+    EXPECT_EQ(configuration().textAt("Ppts/Ppt/Normal/Width"), "300");
     EXPECT_TRUE(window().windowTitle().contains("5 pages"));
     EXPECT_FALSE(window().menu->undo->isEnabled());
     EXPECT_TRUE(waitForPreview("!window.isOld"));

@@ -1,9 +1,7 @@
-#include "app/AppSettings.h"
 #include "support/BookReader.h"
 #include "support/PublishedBook.h"
 
 #include <QImage>
-#include <QScopeGuard>
 #include <gtest/gtest.h>
 #include <sstream>
 
@@ -123,13 +121,7 @@ TEST(BookXML, ListsThePagesInOrderUnderTheNamesOfTheirNormalPages) {
     pages.insert(pages.begin() + 1, nullptr);
     pages[0]->setPageFilePath("/tmp/x/other.png");
     book.pageSource->setPages(pages);
-    AppSettings& settings = AppSettings::shareInstance();
-    const auto end = qScopeGuard([&, width = settings.PageWidth(), height = settings.PageHeight()] {
-        settings.setPageWidth(width);
-        settings.setPageHeight(height);
-    });
-    settings.setPageWidth(600);
-    settings.setPageHeight(800);
+    book.pageSize = {600, 800};
     const BookElement root = configurationOf(book);
     const auto& entries = root.at("Ppts").children;
     ASSERT_EQ(entries.size(), 2U);

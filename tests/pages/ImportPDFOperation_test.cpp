@@ -105,8 +105,8 @@ TEST_F(ImportPDFOperationTest, ReportsPagesThatCannotBeReadAndUsesTheOthers) {
     ASSERT_TRUE(builder.write(iPath));
     const auto operation = import();
     operation->main();
-    EXPECT_EQ(operation->firstCropBox(), QRectF(0, 0, 100, 150));
-    EXPECT_EQ(operation->documentTitle(), "A title");
+    EXPECT_EQ(operation->book().pageSize, QSize(100, 150));
+    EXPECT_EQ(operation->book().documentTitle, "A title");
     ASSERT_EQ(operation->failures().size(), 1);
     EXPECT_TRUE(operation->failures()[0].english().startsWith(iPath + ": links: page 1: "));
     for (const auto& [range, reason] : {std::pair{"1", ": none of the pages could be drawn ("},
@@ -171,7 +171,8 @@ TEST_F(ImportPDFOperationTest, GivesNoPagesOfADocumentThatIsChangedMeanwhile) {
 TEST_F(ImportPDFOperationTest, GivesNoWebBookOfADocumentThatIsChangedAfterwards) {
     const auto operation = import();
     operation->main();
-    FolveroOutputWeb output(operation->flashPageSource(), nullptr, iFolder.path(), QString());
+    FolveroOutputWeb output(nullptr, nullptr, iFolder.path(), QString());
+    output.setBook(operation->book());
     output.setProgress([this](int, int) { changeDocument(); });
     output.ouputTheBook();
     ASSERT_EQ(output.publishErrors().size(), 1);

@@ -55,7 +55,10 @@ void PublishedBook::write(const QString& relativePath, const QByteArray& content
 std::unique_ptr<FolveroOutput> PublishedBook::publisher(const QString& fileName) const {
     auto output = std::make_unique<FolveroOutput>(pageSource, flashTemplate, folder(), fileName);
     output->setHTMLConfig(HTMLConfig);
-    output->setFlashPagesAnnotations(annotations);
+    Book book = output->book();
+    book.annotations = annotations;
+    book.pageSize = pageSize;
+    output->setBook(book);
     return output;
 }
 

@@ -33,6 +33,7 @@ public:
     TemplateLibrary library;
     std::shared_ptr<FlashTemplate> flashTemplate;
     std::shared_ptr<FlashPageSource> pageSource;
+    QSize pageSize = Book::defaultPageSize;
     std::shared_ptr<HTMLConfigInfo> HTMLConfig = std::make_shared<HTMLConfigInfo>();
     std::shared_ptr<FlashPagesAnnotations> annotations = std::make_shared<FlashPagesAnnotations>();
 

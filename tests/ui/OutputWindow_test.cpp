@@ -2,6 +2,7 @@
 #include "ui/OutputWindowDelegate.h"
 
 #include "app/AppSettings.h"
+#include "support/BookReader.h"
 #include "support/PublishedBook.h"
 
 #include <QTest>
@@ -177,17 +178,21 @@ TEST_F(PublishSheet, NamesThePageWhosePictureHasGone) {
 
 TEST_F(PublishSheet, PublishesAnApplication) {
     AppSettings::shareInstance().setOutputType(OutputWindow::application);
+    AppSettings::shareInstance().setPageSize({300, 400});
     open();
     publish();
-    EXPECT_TRUE(book.exists("mybook.app/Contents/Resources/index.html"));
+    const QString resources = "mybook.app/Contents/Resources";
+    EXPECT_TRUE(book.exists(resources + "/index.html"));
+    EXPECT_EQ(
+        BookReader::configuration(book.folder() + '/' + resources).textAt("Ppts/Ppt/Normal/Width"),
+        "300");
     EXPECT_TRUE(opened.isEmpty()) << "the answer was no";
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_EQ(AppSettings().outputType(), OutputWindow::application);
 }
 
 TEST_F(PublishSheet, OffersAWebBookInOneFileAndTheTextToEmbedIt) {
-    AppSettings::shareInstance().setPageWidth(420);
-    AppSettings::shareInstance().setPageHeight(595);
+    AppSettings::shareInstance().setPageSize({420, 595});
     open();
     EXPECT_FALSE(window().chkSingleFile->isVisible() || window().txtEmbed->isVisible());
     openForWebBook();

@@ -68,13 +68,13 @@ void BrisleafAppDelegate::OnApplyChange() {
     applyChange(SameBook);
 }
 
-void BrisleafAppDelegate::applyChange(Book book) {
+void BrisleafAppDelegate::applyChange(PreviewedBook previewed) {
     iApplyChangeTimer.reset();
     iWindow->menu->showApplyImage(QStringLiteral("apply"));
     if (iFlashPreviewFolder.isEmpty())
         makeFlashPreviewFolder();
     try {
-        publishPreview(book);
+        publishPreview(previewed);
     } catch (const PlatformException& failure) {
         logger().error(QStringLiteral("apply change :%1").arg(failure.reason()));
         iWindow->messages->showError(tr("The preview could not be brought up to date."),
@@ -82,24 +82,24 @@ void BrisleafAppDelegate::applyChange(Book book) {
     }
 }
 
-void BrisleafAppDelegate::publishPreview(Book book) {
+void BrisleafAppDelegate::publishPreview(PreviewedBook previewed) {
     // Temporary files may have been cleaned up while the program runs.
     const Message failure = iPreviewFolder.restore();
     if (!failure.isNull())
         throw PlatformException(ErrorKind::previewFolder, failure);
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(QStringLiteral("Preview"));
-    FolveroOutput output(iFlashPageSource, iFlashTmpl, iFlashPreviewFolder,
-                         BookLayout::defaultPage);
+    FolveroOutput output(nullptr, iFlashTmpl, iFlashPreviewFolder, BookLayout::defaultPage);
     output.setHTMLConfig(html);
-    output.setFlashPagesAnnotations(iFlashPagesAnnotations);
-    output.setFlashOutline(iFlashOutline);
+    Book book = iBook;
+    book.pageSize = AppSettings::shareInstance().pageSize();
+    output.setBook(std::move(book));
     output.ouputTheBook();
     if (!output.publishErrors().isEmpty())
         throw PlatformException(
             ErrorKind::preview,
             {output.publishErrors().join(u'\n'), localTexts(output.publishMessages()).join(u'\n')});
-    iWindow->webView->showFile(output.outputFileName(), book == OtherBook);
+    iWindow->webView->showFile(output.outputFileName(), previewed == OtherBook);
 }
 
 void BrisleafAppDelegate::previewCrashed(bool reloads) {
@@ -162,9 +162,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     iFlashTmpl->setPropertyValue(QStringLiteral("pageHeight"),
                                  QString::number(iImportWindow->pageHeight()));
     iHistory.snapshotValues();
-    setFlashPageSource(iImportWindow->flashPageSource());
-    setFlashPagesAnnotations(iImportWindow->flashPagesAnnotations());
-    setFlashOutline(iImportWindow->flashOutline());
+    iBook = iImportWindow->book();
     iOutline->reloadValues();
     const QString file = AppSettings::shareInstance().lastImportedFile();
     RecentFiles::add(file);
@@ -180,9 +178,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
 
 void BrisleafAppDelegate::OnExportFlipBook() {
     iOuputWindow->setFlashTmpl(iFlashTmpl);
-    iOuputWindow->setFlashPageSource(iFlashPageSource);
-    iOuputWindow->setFlashOutline(iFlashOutline);
-    iOuputWindow->setFlashPagesAnnotations(iFlashPagesAnnotations);
+    iOuputWindow->setBook(iBook);
     iOuputWindow->setDocument(iDocument, iWindow->documentName());
     iOuputWindow->beginSheet();
 }

@@ -62,18 +62,19 @@ public:
     QString flashPreviewFolder() const { return iFlashPreviewFolder; }
     bool isChangePending() const { return iApplyChangeTimer != nullptr; }
 
-    std::shared_ptr<FlashPageSource> flashPageSource() const { return iFlashPageSource; }
+    // Parts of the book that is edited.
+    std::shared_ptr<FlashPageSource> flashPageSource() const { return iBook.pageSource; }
     void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iFlashPageSource = std::move(value);
+        iBook.pageSource = std::move(value);
     }
     std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
-        return iFlashPagesAnnotations;
+        return iBook.annotations;
     }
     void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iFlashPagesAnnotations = std::move(value);
+        iBook.annotations = std::move(value);
     }
-    std::shared_ptr<FlashOutline> flashOutline() const { return iFlashOutline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iFlashOutline = std::move(value); }
+    std::shared_ptr<FlashOutline> flashOutline() const { return iBook.outline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
 
     void OnApplyChange();
     void OnImportPDF();
@@ -90,7 +91,7 @@ public:
 
 private:
     // Whether the preview keeps its current page.
-    enum Book { SameBook, OtherBook };
+    enum PreviewedBook { SameBook, OtherBook };
 
     void prepaireTheLog() const;
     void makeWindows();
@@ -107,8 +108,8 @@ private:
 
     void makeFlashPreviewFolder();
     void removeFlashPreviewFolder();
-    void applyChange(Book book);
-    void publishPreview(Book book);
+    void applyChange(PreviewedBook previewed);
+    void publishPreview(PreviewedBook previewed);
     void previewCrashed(bool reloads);
 
     Questions iQuestions;
@@ -121,9 +122,7 @@ private:
     std::shared_ptr<FlashTemplate> iFlashTmpl;
     std::unique_ptr<FlashTemplateOutlineDelegate> tmplDelegate;
     std::unique_ptr<FlashTemplateModel> iOutline;
-    std::shared_ptr<FlashPageSource> iFlashPageSource;
-    std::shared_ptr<FlashPagesAnnotations> iFlashPagesAnnotations;
-    std::shared_ptr<FlashOutline> iFlashOutline;
+    Book iBook;
     // The path of the last import; empty while the demo book is shown.
     QString iDocument = QStringLiteral("");
     std::unique_ptr<QTimer> iApplyChangeTimer;

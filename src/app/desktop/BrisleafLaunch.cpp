@@ -84,7 +84,7 @@ void BrisleafAppDelegate::loadDemoPages() {
     for (const QString& file : files)
         pages->addImgPageFromFile(file);
     pages->generateNormalPages();
-    iFlashPageSource = pages;
+    iBook.pageSource = pages;
 }
 
 void BrisleafAppDelegate::showEditor() {
@@ -147,6 +147,6 @@ void BrisleafAppDelegate::connectCommands() {
 void BrisleafAppDelegate::applicationWillTerminate() {
     iImportWindow.reset();
     iFlashTmpl.reset();
-    iFlashPageSource.reset();
+    iBook = {};
     removeFlashPreviewFolder();
 }

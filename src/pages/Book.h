@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QSize>
+#include <QString>
+#include <memory>
+
+class FlashOutline;
+class FlashPageSource;
+class FlashPagesAnnotations;
+class PDFDocument;
+class PDFToSWFPageConverter;
+
+// What an import makes and publishers read: the pages of a book and what belongs to them. A value
+// whose copies share the pages; their files exist as long as one of the copies.
+struct Book {
+    // Null members were not imported, or failed.
+    std::shared_ptr<FlashPageSource> pageSource;
+    std::shared_ptr<FlashPagesAnnotations> annotations;
+    std::shared_ptr<FlashOutline> outline;
+
+    // The PDF that the pages come from, and what draws them. Null for pages made from image files.
+    std::shared_ptr<PDFDocument> document;
+    std::shared_ptr<const PDFToSWFPageConverter> converter;
+
+    // The document's own title, or an empty text.
+    QString documentTitle = QStringLiteral("");
+
+    // The size in points of each page in the configuration. That of a document is its first
+    // readable page's, or 0 by 0 when it has none.
+    static constexpr QSize defaultPageSize{1080, 1440};
+    QSize pageSize = defaultPageSize;
+
+    // Whether at least one page of the document was drawn.
+    bool hasDrawnPages() const;
+};
