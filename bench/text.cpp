@@ -4,10 +4,10 @@
 //     folvero-bench-text DOCUMENT...
 
 #include "base/PlatformException.h"
+#include "output/WebScript.h"
+#include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
-#include "pdf/PDFDocument.h"
 #include "webbook/WebPageText.h"
-#include "webbook/WebScript.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -29,20 +29,20 @@ private:
 };
 
 void measure(const QString& path) {
-    const auto document = PDFDocument::open(path);
-    const int pages = document->pageCount();
+    const DrawablePDF document(path);
+    const int pages = document.pageCount();
     double reading = 0;
     double layers = 0;
     qsizetype layerBytes = 0;
     QJsonArray texts;
     for (int index = 0; index < pages; ++index) {
         Lap lap;
-        const PDFPage page = document->page(index);
         const auto lines =
-            DrawablePage(*document, index, {}, DrawablePage::Content::picturesAndText).text();
+            DrawablePage(document, index, {}, DrawablePage::Content::picturesAndText).text();
         reading += lap.milliseconds();
-        const auto json = WebPageText::asJson(page.boxes(), lines, page.annotations(),
-                                              [](int target) { return target + 1; });
+        const auto json =
+            WebPageText::asJson(document.page(index), lines, document.annotations(index),
+                                [](int target) { return target + 1; });
         layerBytes += WebScript::file(QStringLiteral("text"), WebScript::json(json)).size();
         texts.append(WebPageText::plain(lines));
         layers += lap.milliseconds();

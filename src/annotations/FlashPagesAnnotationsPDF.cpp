@@ -186,7 +186,7 @@ void FlashPagesAnnotationsPDF::parsePage() {
         annotationsLog().warn(QStringLiteral("page %1: too many links before it").arg(number));
         return;
     }
-    const auto annotations = page.annotations();
+    const auto annotations = iPDFDoc->annotations(number - 1);
     iBudget.spend(annotations);
     if (annotations.empty())
         return;
@@ -196,7 +196,7 @@ void FlashPagesAnnotationsPDF::parsePage() {
         if (!appendLink(pageAnnos, annotations[i]))
             continue;
         const Location place =
-            locationOnPage(annotations[i].bounds, page.cropBox().size(), page.rotation());
+            locationOnPage(annotations[i].bounds, page.cropBox.size(), page.rotation);
         pugi::xml_node location = pageAnnos.last_child().append_child("location");
         setFraction(location, "x", place.x);
         setFraction(location, "y", place.y);

@@ -27,10 +27,10 @@ PageInfo infoOf(const PDFDocument& document, int index, AnnotationBudget& budget
     try {
         const PDFPage page = document.page(index);
         facts.size = page.displaySize();
-        facts.rotation = page.rotation();
+        facts.rotation = page.rotation;
         if (budget.isSpent())
             return facts;
-        auto annotations = page.annotations();
+        auto annotations = document.annotations(index);
         budget.spend(annotations);
         for (auto& annotation : annotations) {
             if (annotation.type == QStringLiteral("Link") &&

@@ -3,6 +3,7 @@
 #include "base/PlatformException.h"
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
+#include "pdf/PDFReader.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ auto opened(const QString& path, Opening opening) {
 } // namespace
 
 std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
-    return opened(path, [](const QString& file) { return PDFDocument::openSandboxed(file); });
+    return opened(path, [](const QString& file) { return PDFReader::open(file); });
 }
 
 OpenedPDF InputFile::openForDrawing(const QString& path) {

@@ -11,6 +11,6 @@ struct OpenedPDF {
     std::shared_ptr<PDFDocument> document;
     std::shared_ptr<SpareWorkers> workers;
 
-    // See PDFDocument::openSandboxed().
+    // See PDFReader::open().
     static OpenedPDF open(const QString& path, std::function<bool()> stopped = {});
 };

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
 #include "pdf/JPEGEncoder.h"
-#include "pdf/PDFDocument.h"
 
 #include <QString>
 
@@ -18,7 +18,7 @@ struct PageTiming {
 class PageImageMaker {
 public:
     // factor is the JPEG compression factor, 0 (smallest) to 1 (best).
-    PageImageMaker(const PDFDocument& document, double factor)
+    PageImageMaker(const DrawablePDF& document, double factor)
         : iDocument(document), iFactor(factor) {}
 
     // Writes the page with that one-based number to a file, at twice its size in points. The file
@@ -26,7 +26,7 @@ public:
     PageTiming make(int page, const QString& path, const DrawControl& control = {});
 
 private:
-    const PDFDocument& iDocument;
+    const DrawablePDF& iDocument;
     double iFactor;
     PageBitmap iBitmap;
     JPEGEncoder iEncoder;

@@ -7,7 +7,7 @@
 // limits theirs. Used by the page workers. Keeps its buffer from page to page.
 class WebPageMaker {
 public:
-    explicit WebPageMaker(const PDFDocument& document) : iDocument(document) {}
+    explicit WebPageMaker(const DrawablePDF& document) : iDocument(document) {}
 
     // Writes the files of the page with that one-based number, each atomically. A page without text
     // has an empty list. Throws PlatformException.
@@ -21,6 +21,6 @@ private:
                    PageTiming& timing);
     QByteArray largePicture(const DrawablePage& page, qint64 largest);
 
-    const PDFDocument& iDocument;
+    const DrawablePDF& iDocument;
     PageBitmap iBitmap;
 };

@@ -17,7 +17,7 @@ const Log& operationLog() {
 QRectF firstReadableCropBox(const PDFDocument& document) {
     for (int i = 0;; ++i) {
         try {
-            return document.page(i).cropBox();
+            return document.page(i).cropBox;
         } catch (const PlatformException& failure) {
             if (failure.kind() != ErrorKind::pageUnreadable)
                 throw;

@@ -77,7 +77,7 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
 PageResult PDFToSWFPageConverter::drawInProcess(int page) {
     try {
         if (!iPDFRep) {
-            iOwnDocument = PDFDocument::open(PDFPath());
+            iOwnDocument = std::make_unique<DrawablePDF>(PDFPath());
             iPDFRep = std::make_unique<PageImageMaker>(*iOwnDocument, compressionFactor(quality()));
         }
         return {QString(),

@@ -52,7 +52,7 @@ private:
 
     std::shared_ptr<SpareWorkers> iSpares;
     std::unique_ptr<PageWorkers> iWorkers;
-    std::shared_ptr<PDFDocument> iOwnDocument; // opened to draw
+    std::unique_ptr<DrawablePDF> iOwnDocument; // opened to draw
     std::unique_ptr<PageImageMaker> iPDFRep;   // pages in this process
     const std::atomic<bool>* iStop = nullptr;
     std::vector<FailedPage> iFailedPages;

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-class PDFDocument;
+class DrawablePDF;
 
 // What cancels the making of a page's pictures.
 struct DrawControl {
@@ -24,8 +24,8 @@ class DrawablePage {
 public:
     enum class Content { pictures, picturesAndText };
 
-    // index is zero-based. Not for documents that another process reads.
-    DrawablePage(const PDFDocument& document, int index, const DrawControl& control = {},
+    // The page at a zero-based index. Throws also pageMissing.
+    DrawablePage(const DrawablePDF& document, int index, const DrawControl& control = {},
                  Content content = Content::pictures);
     ~DrawablePage();
     DrawablePage(const DrawablePage&) = delete;

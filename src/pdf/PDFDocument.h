@@ -4,11 +4,7 @@
 #include "system/FileState.h"
 
 #include <QString>
-#include <functional>
-#include <memory>
 #include <vector>
-
-class PDFReader;
 
 // One entry of a PDF's outline.
 struct PDFOutlineNode {
@@ -18,66 +14,51 @@ struct PDFOutlineNode {
     std::vector<PDFOutlineNode> children;
 };
 
-// An open PDF file. One thread may use it at a time.
+// What can be read from a PDF, in this process (DrawablePDF) or by another one (PDFReader). Queries
+// throw PlatformException, and pageMissing for a page that the document does not have. One thread
+// may use it at a time.
 class PDFDocument {
 public:
-    // How the file is read. mapped is faster, but the process crashes if the file shrinks while it
-    // is mapped: only for processes that may crash.
-    enum class Access { stream, mapped };
-
-    // Throws PlatformException whose reason says why the file can't be used: missing, unreadable,
-    // empty, not a PDF, damaged, or password-protected.
-    static std::shared_ptr<PDFDocument> open(const QString& path, Access access = Access::stream);
-
-    // Opens the file in a sandboxed process, so that a file made to crash or hang MuPDF affects
-    // only that process: queries then throw, see PDFReader. Pages of such a document can't be
-    // drawn. stopped is polled while waiting and cancels reading. Where no such process can be
-    // started, the file is read in this one.
-    static std::shared_ptr<PDFDocument> openSandboxed(const QString& path,
-                                                      std::function<bool()> stopped = {});
-
-    // Ends the reader process, if there is one; it is started again when needed.
-    void stopReader() const;
-
-    ~PDFDocument();
+    virtual ~PDFDocument() = default;
     PDFDocument(const PDFDocument&) = delete;
     PDFDocument& operator=(const PDFDocument&) = delete;
 
-    QString path() const;
+    const QString& path() const { return iPath; }
     // Throws PlatformException (pdfChanged) when the file was replaced or written since it was
     // opened: what was read and drawn may then come from two different documents. The reason is
     // temporary, see Message.
     void checkUnchanged() const;
-    int pageCount() const;
 
-    // The page at a zero-based index. The document must outlive it. Throws PlatformException:
-    // pageMissing, or pageUnreadable.
-    PDFPage page(int index) const;
+    virtual int pageCount() const = 0;
+    // Throws PlatformException (pageMissing) unless there is a page at that zero-based index.
+    void requirePage(int index) const;
+
+    // The page at a zero-based index, and its annotations. Throw pageUnreadable, too.
+    virtual PDFPage page(int index) const = 0;
+    virtual std::vector<PDFAnnotation> annotations(int index) const = 0;
 
     // An entry of the information dictionary ("Title", "Author" ...), or a null text.
-    QString information(const char* key) const;
+    virtual QString information(const char* key) const = 0;
 
     // The document's natural language ("de", "en-GB"), or a null text.
-    QString language() const;
+    virtual QString language() const = 0;
 
     // Page labels ("iv", "A-3") by zero-based index, empty for pages without one. An empty list for
     // a document without page labels.
-    std::vector<QString> pageLabels() const;
+    virtual std::vector<QString> pageLabels() const = 0;
 
     // The top-level entries of the outline.
-    std::vector<PDFOutlineNode> outline() const;
+    virtual std::vector<PDFOutlineNode> outline() const = 0;
+
+    // Ends the process that reads, if there is one, until the next query. A document may stay open
+    // for hours.
+    virtual void stopReader() const {}
+
+protected:
+    // Does not open the file.
+    explicit PDFDocument(const QString& path) : iPath(path), iState(FileState::of(path)) {}
 
 private:
-    friend class PDFPage;
-    friend class DrawablePage;
-    struct Engine;
-    class LabelTree;
-
-    explicit PDFDocument(std::unique_ptr<Engine> engine);
-    PDFDocument(QString path, std::unique_ptr<PDFReader> reader);
-
     QString iPath;
-    FileState iState;                   // taken before it was opened
-    std::unique_ptr<Engine> iEngine;    // one of
-    std::unique_ptr<PDFReader> iReader; // the two
+    FileState iState; // before it was opened
 };

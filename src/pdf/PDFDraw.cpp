@@ -1,3 +1,4 @@
+#include "pdf/DrawablePDF.h"
 #include "pdf/ForwardingDevice.h"
 #include "pdf/PDFImages.h"
 #include "pdf/PDFLimits.h"
@@ -7,10 +8,6 @@
 #include <cmath>
 
 namespace {
-
-// Colour values closer together than this count as gray: one step of an 8-bit channel, which is
-// invisible.
-constexpr float grayTolerance = 1.0F / 256;
 
 struct PixelSize {
     int width;
@@ -123,11 +120,12 @@ void drawList(fz_context* ctx, fz_display_list* list, bool skipsGroup, const fz_
 
 } // namespace
 
-DrawablePage::DrawablePage(const PDFDocument& document, int index, const DrawControl& control,
+DrawablePage::DrawablePage(const DrawablePDF& document, int index, const DrawControl& control,
                            Content content)
-    : iRecording(std::make_unique<Recording>(*document.iEngine, control)) {
+    : iRecording(std::make_unique<Recording>(document.engine(), control)) {
     Recording& recording = *iRecording;
-    pdf_obj* object = document.page(index).iObject;
+    document.requirePage(index);
+    pdf_obj* object = recording.engine.pageObject(index);
     recording.engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         recording.load(ctx, index, object, content);
         recording.record(ctx);

@@ -1,27 +1,28 @@
 #pragma once
 
 #include "base/PlatformException.h"
-#include "pdf/PDFDocument.h"
 
 #include <QByteArray>
+#include <QString>
 #include <map>
 #include <mupdf/fitz.h>
 #include <mupdf/pdf.h>
 #include <optional>
-#include <set>
 #include <unordered_map>
 
-// The open file behind a PDFDocument, shared by the sources of this folder that call MuPDF.
+// The open file behind a DrawablePDF, shared by the sources of this folder that call MuPDF.
 //
 // MuPDF reports errors with longjmp(), which skips C++ destructors. So its calls are made in small
 // lambdas passed to run() or get(), which own no object with a destructor.
-struct PDFDocument::Engine {
-    explicit Engine(QString path);
-    ~Engine();
-    Engine(const Engine&) = delete;
-    Engine& operator=(const Engine&) = delete;
+class PDFEngine {
+public:
+    PDFEngine();
+    ~PDFEngine();
+    PDFEngine(const PDFEngine&) = delete;
+    PDFEngine& operator=(const PDFEngine&) = delete;
 
-    void open(Access access);
+    // For errors see DrawablePDF.
+    void open(const QString& path, bool mapped);
 
     // Runs MuPDF calls; a MuPDF error becomes a PlatformException of that kind.
     template <class Body>
@@ -51,15 +52,35 @@ struct PDFDocument::Engine {
     // The text of the MuPDF error just caught.
     Message caughtReason() const;
 
-    // The document's page count, but no more than it has objects.
-    int countPages() const;
-
+    // The object of the page at a zero-based index. Throws PlatformException (pageUnreadable).
+    pdf_obj* pageObject(int index) const;
     pdf_obj* entry(pdf_obj* dictionary, const char* key) const;
+    // "Root" is the catalog, "Info" the information dictionary.
+    pdf_obj* trailerEntry(const char* key) const;
     // Cut off after PDFLimits::maxTextLength characters.
     QString text(pdf_obj* string) const;
     QString name(pdf_obj* name) const;
 
-    // Zero-based target page of an explicit or named destination or a go-to action.
+    // The zero-based target page of an annotation or outline entry: that of its "Dest", or of its
+    // go-to action.
+    std::optional<int> targetPage(pdf_obj* dictionary) const;
+
+    std::size_t allocated = 0; // bytes allocated by MuPDF
+    fz_context* context = nullptr;
+    pdf_document* document = nullptr;
+    // Counted when the file was opened. MuPDF may find damage later, repair the file and count
+    // again; what was read before would then disagree with what is read after.
+    int pageCount = 0;
+    void* mapping = nullptr; // null when the file is not mapped
+    std::size_t mappingSize = 0;
+
+private:
+    void map(const QString& path);
+    void openDocument(fz_context* ctx, const char* path);
+    // The document's page count, but no more than it has objects.
+    int countPages() const;
+
+    // The page of an explicit or named destination.
     std::optional<int> destinationPage(pdf_obj* destination) const;
     // The name of a destination, with a prefix that distinguishes the two kinds of names; empty for
     // an explicit destination.
@@ -69,25 +90,9 @@ struct PDFDocument::Engine {
     // Zero-based number of the page that an array begins with, as a reference or a number; -1
     // otherwise.
     int pageNumber(pdf_obj* page) const;
-    // The destination of an annotation or outline entry: its "Dest", or that of its go-to action.
-    std::optional<int> targetPage(pdf_obj* dictionary) const;
 
-    // The entries of one outline level starting with first, with their children. A file may link
-    // its entries in a cycle, so each is read only once.
-    std::vector<PDFOutlineNode> outlineLevel(pdf_obj* first, int depth,
-                                             std::set<pdf_obj*>& seen) const;
-
-    QString path;
-    std::size_t allocated = 0; // bytes allocated by MuPDF
-    fz_context* context = nullptr;
-    pdf_document* document = nullptr;
-    // Counted when the file was opened. MuPDF may find damage later, repair the file and count
-    // again; what was read before would then disagree with what is read after.
-    int pageCount = 0;
     // Caches of page numbers by object number and by name. MuPDF searches all pages for each
     // lookup, and all names for a missing one.
     mutable std::unordered_map<int, int> pageNumbers;
     mutable std::map<QByteArray, int> namedPages;
-    void* mapping = nullptr;
-    std::size_t mappingSize = 0;
 };

@@ -1,5 +1,5 @@
+#include "pdf/DrawablePDF.h"
 #include "pdf/PDFEngine.h"
-#include "pdf/PDFReader.h"
 
 #include <map>
 #include <set>
@@ -72,12 +72,10 @@ std::vector<QString> expand(const LabelRanges& ranges, int pageCount) {
     return labels;
 }
 
-} // namespace
-
 // Reads the leaves of the number tree of labels. A malicious file may contain a cycle.
-class PDFDocument::LabelTree {
+class LabelTree {
 public:
-    explicit LabelTree(const Engine& engine) : iEngine(engine) {}
+    explicit LabelTree(const PDFEngine& engine) : iEngine(engine) {}
 
     void read(pdf_obj* node, int depth) {
         pdf_obj* dictionary =
@@ -121,18 +119,15 @@ private:
         }
     }
 
-    const Engine& iEngine;
+    const PDFEngine& iEngine;
     std::set<pdf_obj*> iSeen;
     LabelRanges iRanges;
 };
 
-std::vector<QString> PDFDocument::pageLabels() const {
-    if (iReader)
-        return iReader->pageLabels();
-    pdf_obj* trailer =
-        iEngine->get([this](fz_context* ctx) { return pdf_trailer(ctx, iEngine->document); },
-                     static_cast<pdf_obj*>(nullptr));
+} // namespace
+
+std::vector<QString> DrawablePDF::pageLabels() const {
     LabelTree tree(*iEngine);
-    tree.read(iEngine->entry(iEngine->entry(trailer, "Root"), "PageLabels"), 0);
+    tree.read(iEngine->entry(iEngine->trailerEntry("Root"), "PageLabels"), 0);
     return expand(tree.ranges(), iEngine->pageCount);
 }

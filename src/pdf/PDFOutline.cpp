@@ -1,6 +1,6 @@
+#include "pdf/DrawablePDF.h"
 #include "pdf/PDFEngine.h"
 #include "pdf/PDFLimits.h"
-#include "pdf/PDFReader.h"
 
 #include <set>
 
@@ -9,36 +9,33 @@ namespace {
 // Real outlines are a handful of levels deep; deeper ones are built to exhaust the stack.
 constexpr int maxOutlineDepth = 64;
 
-} // namespace
-
-std::vector<PDFOutlineNode> PDFDocument::Engine::outlineLevel(pdf_obj* first, int depth,
-                                                              std::set<pdf_obj*>& seen) const {
+// The entries of one level starting with first, with their children. A file may link its entries in
+// a cycle, so each is read only once.
+std::vector<PDFOutlineNode> outlineLevel(const PDFEngine& engine, pdf_obj* first, int depth,
+                                         std::set<pdf_obj*>& seen) {
     std::vector<PDFOutlineNode> nodes;
     if (depth > maxOutlineDepth)
         return nodes;
-    for (pdf_obj* object = first; object; object = entry(object, "Next")) {
+    for (pdf_obj* object = first; object; object = engine.entry(object, "Next")) {
         pdf_obj* dictionary =
-            get([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, object); },
-                static_cast<pdf_obj*>(nullptr));
+            engine.get([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, object); },
+                       static_cast<pdf_obj*>(nullptr));
         if (!dictionary || seen.size() >= PDFLimits::maxOutlineEntries ||
             !seen.insert(dictionary).second)
             break;
         PDFOutlineNode node;
-        node.label = text(entry(dictionary, "Title"));
-        node.destinationPage = targetPage(dictionary).value_or(-1);
-        node.children = outlineLevel(entry(dictionary, "First"), depth + 1, seen);
+        node.label = engine.text(engine.entry(dictionary, "Title"));
+        node.destinationPage = engine.targetPage(dictionary).value_or(-1);
+        node.children = outlineLevel(engine, engine.entry(dictionary, "First"), depth + 1, seen);
         nodes.push_back(std::move(node));
     }
     return nodes;
 }
 
-std::vector<PDFOutlineNode> PDFDocument::outline() const {
-    if (iReader)
-        return iReader->outline();
-    pdf_obj* trailer =
-        iEngine->get([this](fz_context* ctx) { return pdf_trailer(ctx, iEngine->document); },
-                     static_cast<pdf_obj*>(nullptr));
-    pdf_obj* root = iEngine->entry(iEngine->entry(trailer, "Root"), "Outlines");
+} // namespace
+
+std::vector<PDFOutlineNode> DrawablePDF::outline() const {
+    pdf_obj* root = iEngine->entry(iEngine->trailerEntry("Root"), "Outlines");
     std::set<pdf_obj*> seen;
-    return iEngine->outlineLevel(iEngine->entry(root, "First"), 1, seen);
+    return outlineLevel(*iEngine, iEngine->entry(root, "First"), 1, seen);
 }

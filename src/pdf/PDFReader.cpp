@@ -2,7 +2,8 @@
 
 #include "base/Log.h"
 #include "base/PlatformException.h"
-#include "pdf/PDFLimits.h"
+#include "pdf/DrawablePDF.h"
+#include "pdf/PDFFile.h"
 #include "pdf/PDFSerialization.h"
 #include "system/Bundle.h"
 
@@ -71,17 +72,29 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
 
 } // namespace
 
-PDFReader::PDFReader(QString path, std::function<bool()> stopped)
-    : iProgram(Bundle::pageWorkerPath()), iPath(std::move(path)), iStopped(std::move(stopped)) {}
+std::shared_ptr<PDFDocument> PDFReader::open(const QString& path, std::function<bool()> stopped) {
+    PDFFile::check(path);
+    auto reader = std::make_shared<PDFReader>(path, std::move(stopped));
+    try {
+        if (reader->start())
+            return reader;
+    } catch (const PlatformException& failure) {
+        if (failure.kind() == ErrorKind::pdfOpen)
+            throw;
+        PDFFile::failToOpen(path, failure.message());
+    }
+    return std::make_shared<DrawablePDF>(path);
+}
 
-PDFReader::~PDFReader() = default;
+PDFReader::PDFReader(const QString& path, std::function<bool()> stopped)
+    : PDFDocument(path), iProgram(Bundle::pageWorkerPath()), iStopped(std::move(stopped)) {}
 
-bool PDFReader::open() {
+bool PDFReader::start() {
     try {
         iPageCount = PDFSerialization::unpackNumber(ask(QByteArray()));
         return true;
     } catch (const PlatformException& failure) {
-        stop();
+        stopReader();
         if (failure.kind() != ErrorKind::processStart)
             throw;
         readerLog().warn(failure.reason());
@@ -89,36 +102,34 @@ bool PDFReader::open() {
     }
 }
 
-PDFPageBoxes PDFReader::boxes(int index) {
-    return PDFSerialization::unpackBoxes(ask("page " + QByteArray::number(index)));
+PDFPage PDFReader::page(int index) const {
+    requirePage(index);
+    return PDFSerialization::unpackPage(ask("page " + QByteArray::number(index)));
 }
 
-std::vector<PDFAnnotation> PDFReader::annotations(int index) {
+std::vector<PDFAnnotation> PDFReader::annotations(int index) const {
+    requirePage(index);
     return PDFSerialization::unpackAnnotations(ask("annotations " + QByteArray::number(index)));
 }
 
-std::vector<PDFOutlineNode> PDFReader::outline() {
-    return PDFSerialization::unpackOutline(ask("outline"));
-}
-
-QString PDFReader::information(const char* key) {
+QString PDFReader::information(const char* key) const {
     return PDFSerialization::unpackText(ask(QByteArray("information ") + key));
 }
 
-QString PDFReader::language() {
+QString PDFReader::language() const {
     return PDFSerialization::unpackText(ask("language"));
 }
 
-std::vector<QString> PDFReader::pageLabels() {
+std::vector<QString> PDFReader::pageLabels() const {
     return PDFSerialization::unpackTexts(ask("labels"));
 }
 
-void PDFReader::stop() {
-    iProcess.reset();
+std::vector<PDFOutlineNode> PDFReader::outline() const {
+    return PDFSerialization::unpackOutline(ask("outline"));
 }
 
 // A process may be killed through no fault of the document, so each query is tried twice.
-QByteArray PDFReader::ask(const QByteArray& question) {
+QByteArray PDFReader::ask(const QByteArray& question) const {
     try {
         return askOnce(question);
     } catch (const PlatformException& failure) {
@@ -129,13 +140,13 @@ QByteArray PDFReader::ask(const QByteArray& question) {
 }
 
 // An empty question asks for the page count, which the process reports after opening the file.
-QByteArray PDFReader::askOnce(const QByteArray& question) {
+QByteArray PDFReader::askOnce(const QByteArray& question) const {
     if (iEnded >= maxEnded)
         throw PlatformException(ErrorKind::readerEnded, crashMessage());
     if (!iProcess) {
         iProcess = std::make_unique<ChildProcess>(
             QFile::encodeName(iProgram).toStdString(),
-            std::vector<std::string>{"read", QFile::encodeName(iPath).toStdString()});
+            std::vector<std::string>{"read", QFile::encodeName(path()).toStdString()});
         iIsSandboxed = false;
         QByteArray count = awaitAnswer();
         if (question.isEmpty())
@@ -145,7 +156,7 @@ QByteArray PDFReader::askOnce(const QByteArray& question) {
     return awaitAnswer();
 }
 
-QByteArray PDFReader::awaitAnswer() {
+QByteArray PDFReader::awaitAnswer() const {
     const auto deadline = std::chrono::steady_clock::now() + iTimeout;
     for (;;) {
         if (const auto line = iProcess->takeLine()) {
@@ -156,16 +167,16 @@ QByteArray PDFReader::awaitAnswer() {
             }
             if (line->startsWith("ok "))
                 return QByteArray::fromBase64(line->mid(3));
-            throw failureFrom(*line, iPath);
+            throw failureFrom(*line, path());
         }
         if (iStopped && iStopped()) {
-            stop();
+            stopReader();
             throw PlatformException(ErrorKind::readStopped,
                                     Message::translate("PDFReader", "reading it was stopped"));
         }
         if (std::chrono::steady_clock::now() > deadline) {
             ++iEnded;
-            stop();
+            stopReader();
             throw PlatformException(ErrorKind::readerTimeout,
                                     Message::translate("PDFReader", "reading it took too long"));
         }
@@ -177,9 +188,9 @@ QByteArray PDFReader::awaitAnswer() {
 
 // A program that could not be run says nothing about the file. Once its sandbox is in force it may
 // have opened the file, and the file may control what it reports.
-void PDFReader::reportEnd() {
+void PDFReader::reportEnd() const {
     const bool couldRun = iIsSandboxed || !iProcess->couldNotRun();
-    stop();
+    stopReader();
     if (!couldRun)
         throw PlatformException(
             ErrorKind::processStart,

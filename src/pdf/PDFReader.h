@@ -8,17 +8,22 @@
 #include <functional>
 #include <memory>
 
-// Reads a PDF in a separate, sandboxed process: a file that crashes MuPDF or makes it hang ends
-// that process, not this one. For one thread at a time.
+// A PDF that a separate, sandboxed process reads: a file that crashes MuPDF or makes it hang ends
+// that process, not this one.
 //
 // Queries throw PlatformException: readerEnded, readerTimeout, readStopped, readerMalformedAnswer,
 // or the kind that the process reports. The next query starts a new process, until three have
 // crashed or timed out.
-class PDFReader {
+class PDFReader final : public PDFDocument {
 public:
-    // Does not read yet. stopped is polled while waiting and cancels a query; it may be empty.
-    PDFReader(QString path, std::function<bool()> stopped);
-    ~PDFReader();
+    // Opens a PDF. Where no such process can be started on this system, the file is read in this
+    // one. stopped is polled while waiting and cancels a query; it may be empty. Throws as
+    // DrawablePDF does.
+    static std::shared_ptr<PDFDocument> open(const QString& path,
+                                             std::function<bool()> stopped = {});
+
+    // Does not read yet; start() must come first.
+    PDFReader(const QString& path, std::function<bool()> stopped);
 
     // For tests: the program to start instead of the one that is installed beside the running
     // program, and the time limit for an answer.
@@ -26,32 +31,29 @@ public:
     void setTimeout(std::chrono::milliseconds timeout) { iTimeout = timeout; }
 
     // Opens the file. False when the process can't be started on this system.
-    bool open();
+    bool start();
 
-    int pageCount() const { return iPageCount; }
-    // index is zero-based and must exist.
-    PDFPageBoxes boxes(int index);
-    std::vector<PDFAnnotation> annotations(int index);
-    std::vector<PDFOutlineNode> outline();
-    QString information(const char* key);
-    QString language();
-    std::vector<QString> pageLabels();
-
-    // Ends the process until the next query. A document may stay open for hours.
-    void stop();
+    int pageCount() const override { return iPageCount; }
+    PDFPage page(int index) const override;
+    std::vector<PDFAnnotation> annotations(int index) const override;
+    QString information(const char* key) const override;
+    QString language() const override;
+    std::vector<QString> pageLabels() const override;
+    std::vector<PDFOutlineNode> outline() const override;
+    void stopReader() const override { iProcess.reset(); }
 
 private:
-    QByteArray ask(const QByteArray& question);
-    QByteArray askOnce(const QByteArray& question);
-    QByteArray awaitAnswer();
-    [[noreturn]] void reportEnd();
+    QByteArray ask(const QByteArray& question) const;
+    QByteArray askOnce(const QByteArray& question) const;
+    QByteArray awaitAnswer() const;
+    [[noreturn]] void reportEnd() const;
 
     QString iProgram;
-    QString iPath;
     std::function<bool()> iStopped;
     std::chrono::milliseconds iTimeout = PDFLimits::maxPageTime;
-    std::unique_ptr<ChildProcess> iProcess;
-    bool iIsSandboxed = false; // it has reported that its sandbox is in force
     int iPageCount = 0;
-    int iEnded = 0; // processes that crashed or timed out so far
+    // The process comes and goes while the document stays the same.
+    mutable std::unique_ptr<ChildProcess> iProcess;
+    mutable bool iIsSandboxed = false; // it has reported that its sandbox is in force
+    mutable int iEnded = 0;            // processes that crashed or timed out so far
 };

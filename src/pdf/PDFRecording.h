@@ -8,7 +8,7 @@
 
 // What a DrawablePage keeps, for the sources of this folder that make something of it.
 struct DrawablePage::Recording {
-    Recording(const PDFDocument::Engine& ofDocument, const DrawControl& control)
+    Recording(const PDFEngine& ofDocument, const DrawControl& control)
         : engine(ofDocument), watch(control) {}
     ~Recording();
     Recording(const Recording&) = delete;
@@ -18,7 +18,7 @@ struct DrawablePage::Recording {
     void load(fz_context* ctx, int index, pdf_obj* object, Content content);
     void record(fz_context* ctx);
 
-    const PDFDocument::Engine& engine;
+    const PDFEngine& engine;
     DrawTimeout watch;
     fz_page* page = nullptr;
     fz_display_list* list = nullptr;

@@ -76,15 +76,15 @@ void read(QDataStream& stream, std::vector<Item>& items, Bounds bounds) {
     }
 }
 
-void write(QDataStream& stream, const PDFPageBoxes& boxes) {
-    stream << boxes.media << boxes.crop << qint32(boxes.rotation) << boxes.display
-           << boxes.displayError;
+void write(QDataStream& stream, const PDFPage& page) {
+    stream << page.mediaBox << page.cropBox << qint32(page.rotation) << page.display
+           << page.displayError;
 }
 
-void read(QDataStream& stream, PDFPageBoxes& boxes, Bounds /*bounds*/) {
+void read(QDataStream& stream, PDFPage& page, Bounds /*bounds*/) {
     qint32 rotation = 0;
-    stream >> boxes.media >> boxes.crop >> rotation >> boxes.display >> boxes.displayError;
-    boxes.rotation = rotation;
+    stream >> page.mediaBox >> page.cropBox >> rotation >> page.display >> page.displayError;
+    page.rotation = rotation;
 }
 
 void write(QDataStream& stream, const PDFAnnotation& annotation) {
@@ -172,8 +172,8 @@ QByteArray PDFSerialization::pack(const QString& text) {
     return packed(text);
 }
 
-QByteArray PDFSerialization::pack(const PDFPageBoxes& boxes) {
-    return packed(boxes);
+QByteArray PDFSerialization::pack(const PDFPage& page) {
+    return packed(page);
 }
 
 QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>& annotations) {
@@ -200,8 +200,8 @@ QString PDFSerialization::unpackText(const QByteArray& packed) {
     return unpacked<QString>(packed);
 }
 
-PDFPageBoxes PDFSerialization::unpackBoxes(const QByteArray& packed) {
-    return unpacked<PDFPageBoxes>(packed);
+PDFPage PDFSerialization::unpackPage(const QByteArray& packed) {
+    return unpacked<PDFPage>(packed);
 }
 
 std::vector<PDFAnnotation> PDFSerialization::unpackAnnotations(const QByteArray& packed) {

@@ -15,7 +15,7 @@ PlatformException malformedAnswer();
 
 QByteArray pack(int number);
 QByteArray pack(const QString& text);
-QByteArray pack(const PDFPageBoxes& boxes);
+QByteArray pack(const PDFPage& page);
 QByteArray pack(const std::vector<QString>& texts);
 QByteArray pack(const std::vector<PDFAnnotation>& annotations);
 QByteArray pack(const std::vector<PDFOutlineNode>& nodes);
@@ -23,7 +23,7 @@ QByteArray pack(const std::vector<PDFTextLine>& lines);
 
 int unpackNumber(const QByteArray& packed);
 QString unpackText(const QByteArray& packed);
-PDFPageBoxes unpackBoxes(const QByteArray& packed);
+PDFPage unpackPage(const QByteArray& packed);
 std::vector<QString> unpackTexts(const QByteArray& packed);
 std::vector<PDFAnnotation> unpackAnnotations(const QByteArray& packed);
 std::vector<PDFOutlineNode> unpackOutline(const QByteArray& packed);

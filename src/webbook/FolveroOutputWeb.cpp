@@ -362,14 +362,13 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
     copyPageFile(page.thumbnail, BookLayout::thumbnail(page.number));
     copyPageFile(page.large, BookLayout::largePage(page.number, QFileInfo(page.large).suffix()));
     const auto lines = textFrom(page.text);
-    PDFPageBoxes boxes;
+    PDFPage source;
     std::vector<PDFAnnotation> annotations;
     if (document && page.number <= document->pageCount()) {
         try {
-            const PDFPage source = document->page(page.number - 1);
-            boxes = source.boxes();
+            source = document->page(page.number - 1);
             if (!budget.isSpent())
-                annotations = source.annotations();
+                annotations = document->annotations(page.number - 1);
             budget.spend(annotations);
         } catch (const PlatformException& failure) {
             if (QFileInfo::exists(page.picture)) // otherwise it is a missing page
@@ -377,7 +376,7 @@ QString FolveroOutputWeb::writePage(const WebPage& page, const PDFDocument* docu
         }
     }
     writeScript(BookLayout::text(page.number),
-                WebScript::json(WebPageText::asJson(boxes, lines, annotations, [this](int index) {
+                WebScript::json(WebPageText::asJson(source, lines, annotations, [this](int index) {
                     return iMetadata.positionOf(index + 1);
                 })));
     return WebPageText::plain(lines);

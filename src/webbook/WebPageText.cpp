@@ -23,9 +23,9 @@ int turnOf(int rotation) {
 }
 
 // Maps PDF user space to the page as displayed, both in points.
-QTransform toSeen(const PDFPageBoxes& boxes) {
-    const QRectF& crop = boxes.crop;
-    const int turn = turnOf(boxes.rotation);
+QTransform toSeen(const PDFPage& page) {
+    const QRectF& crop = page.cropBox;
+    const int turn = turnOf(page.rotation);
     QTransform transform;
     switch (turn) {
     case 90:
@@ -43,13 +43,13 @@ QTransform toSeen(const PDFPageBoxes& boxes) {
     }
     // A page may have its own user unit.
     const double width = turn % 180 == 0 ? crop.width() : crop.height();
-    const double unit = width > 0 && boxes.display.width() > 0 ? boxes.display.width() / width : 1;
+    const double unit = width > 0 && page.display.width() > 0 ? page.display.width() / width : 1;
     return transform * QTransform::fromScale(unit, unit);
 }
 
-QJsonArray linksOf(const PDFPageBoxes& boxes, const std::vector<PDFAnnotation>& annotations,
+QJsonArray linksOf(const PDFPage& page, const std::vector<PDFAnnotation>& annotations,
                    const WebPageText::Position& position) {
-    const QRectF page({0, 0}, boxes.display);
+    const QRectF whole({0, 0}, page.display);
     QJsonArray links;
     for (const PDFAnnotation& annotation : annotations) {
         if (annotation.type != QStringLiteral("Link"))
@@ -57,7 +57,7 @@ QJsonArray linksOf(const PDFPageBoxes& boxes, const std::vector<PDFAnnotation>& 
         const bool toAddress = !annotation.url.isNull();
         if (!toAddress && !annotation.destinationPage)
             continue;
-        const QRectF place = WebPageText::placeOnPage(annotation.bounds, boxes).intersected(page);
+        const QRectF place = WebPageText::placeOnPage(annotation.bounds, page).intersected(whole);
         if (place.isEmpty())
             continue;
         QJsonArray link;
@@ -90,17 +90,17 @@ QJsonArray linesOf(const std::vector<PDFTextLine>& lines) {
 
 } // namespace
 
-QRectF WebPageText::placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes) {
-    return toSeen(boxes).mapRect(bounds).normalized();
+QRectF WebPageText::placeOnPage(const QRectF& bounds, const PDFPage& page) {
+    return toSeen(page).mapRect(bounds).normalized();
 }
 
-QJsonObject WebPageText::asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
+QJsonObject WebPageText::asJson(const PDFPage& page, const std::vector<PDFTextLine>& lines,
                                 const std::vector<PDFAnnotation>& annotations,
                                 const Position& position) {
-    const QSizeF size = boxes.display.isValid() ? boxes.display : QSizeF(0, 0);
+    const QSizeF size = page.display.isValid() ? page.display : QSizeF(0, 0);
     return {{QStringLiteral("size"), QJsonArray{tenths(size.width()), tenths(size.height())}},
             {QStringLiteral("lines"), linesOf(lines)},
-            {QStringLiteral("links"), linksOf(boxes, annotations, position)}};
+            {QStringLiteral("links"), linksOf(page, annotations, position)}};
 }
 
 QString WebPageText::plain(const std::vector<PDFTextLine>& lines) {

@@ -15,11 +15,11 @@ namespace WebPageText {
 using Position = std::function<int(int pageIndex)>;
 
 // An annotation's rectangle on the page as displayed: in points from its top left corner.
-QRectF placeOnPage(const QRectF& bounds, const PDFPageBoxes& boxes);
+QRectF placeOnPage(const QRectF& bounds, const PDFPage& page);
 
 // Numbers are integers in tenths of a point. URLs are copied from the document: the player decides
 // which ones to follow.
-QJsonObject asJson(const PDFPageBoxes& boxes, const std::vector<PDFTextLine>& lines,
+QJsonObject asJson(const PDFPage& page, const std::vector<PDFTextLine>& lines,
                    const std::vector<PDFAnnotation>& annotations, const Position& position);
 
 // The text alone: lines in reading order, separated by line breaks.

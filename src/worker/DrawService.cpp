@@ -36,7 +36,7 @@ const char* kindOf(const PlatformException& failure) {
 using MakePage = std::function<PageTiming(int page, const DrawControl& control)>;
 
 // The function that makes the requested kind of files.
-MakePage pageMaker(const PDFDocument& document, const QByteArrayList& order,
+MakePage pageMaker(const DrawablePDF& document, const QByteArrayList& order,
                    const QString& folder) {
     if (order.value(3) == "web") {
         return [maker = std::make_shared<WebPageMaker>(document),
@@ -90,8 +90,8 @@ void serveDrawing() {
     const QString workFolder = QFile::decodeName(QByteArray::fromBase64(order.value(1)));
     enterWorkerSandbox(path, workFolder);
     try {
-        const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
-        const MakePage make = pageMaker(*document, order, workFolder);
+        const DrawablePDF document(path, DrawablePDF::Access::mapped);
+        const MakePage make = pageMaker(document, order, workFolder);
         std::cout << "ready" << std::endl;
         servePages(make);
     } catch (const PlatformException& failure) {

@@ -1,6 +1,7 @@
 #include "worker/ReadService.h"
 
 #include "base/PlatformException.h"
+#include "pdf/DrawablePDF.h"
 #include "pdf/PDFLimits.h"
 #include "pdf/PDFSerialization.h"
 #include "worker/WorkerSandbox.h"
@@ -23,9 +24,9 @@ QByteArray answer(const PDFDocument& document, const QByteArray& question) {
     const QByteArray what = blank < 0 ? question : question.left(blank);
     const QByteArray of = blank < 0 ? QByteArray() : question.mid(blank + 1);
     if (what == "page")
-        return PDFSerialization::pack(document.page(of.toInt()).boxes());
+        return PDFSerialization::pack(document.page(of.toInt()));
     if (what == "annotations")
-        return PDFSerialization::pack(document.page(of.toInt()).annotations());
+        return PDFSerialization::pack(document.annotations(of.toInt()));
     if (what == "outline")
         return PDFSerialization::pack(document.outline());
     if (what == "language")
@@ -62,7 +63,7 @@ void serveReading(const char* pdf) {
     enterWorkerSandbox(path, QString());
     std::shared_ptr<PDFDocument> document;
     answerWith([&] {
-        document = PDFDocument::open(path, PDFDocument::Access::mapped);
+        document = std::make_shared<DrawablePDF>(path, DrawablePDF::Access::mapped);
         return PDFSerialization::pack(document->pageCount());
     });
     for (std::string line; document && std::getline(std::cin, line);)

@@ -1,6 +1,7 @@
 #include "annotations/FlashOutlinePDF.h"
 
 #include "builder/PDFBuilder.h"
+#include "pdf/DrawablePDF.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -30,7 +31,7 @@ TEST(FlashOutlinePDF, CopiesTheWholeTreeWithPDFPageNumbers) {
     const QTemporaryDir folder;
     ASSERT_TRUE(builder.write(folder.filePath("outline.pdf")));
     FlashOutlinePDF outline;
-    outline.loadOutlineFromPDF(PDFDocument::open(folder.filePath("outline.pdf")));
+    outline.loadOutlineFromPDF(std::make_shared<DrawablePDF>(folder.filePath("outline.pdf")));
     EXPECT_EQ(shape(outline.items()),
               "A@1/1(A.1@2/2(A.1.a@3/3()))Überblick 概要@3/1()nowhere@0/1()");
     EXPECT_EQ(outline.items()[0]->parent(), nullptr);

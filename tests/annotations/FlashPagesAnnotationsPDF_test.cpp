@@ -1,6 +1,7 @@
 #include "annotations/FlashPagesAnnotationsPDF.h"
 
 #include "builder/PDFBuilder.h"
+#include "pdf/DrawablePDF.h"
 
 #include <QTemporaryDir>
 #include <ctime>
@@ -17,10 +18,10 @@ std::string asText(const pugi::xml_node& node) {
 
 class FlashPagesAnnotationsPDFTest : public testing::Test {
 protected:
-    std::shared_ptr<PDFDocument> open() {
+    std::shared_ptr<DrawablePDF> open() {
         const QString path = iFolder.filePath("links.pdf");
         EXPECT_TRUE(builder.write(path));
-        return PDFDocument::open(path);
+        return std::make_shared<DrawablePDF>(path);
     }
 
     // Loads twice, since nothing of an earlier load may remain.
@@ -209,8 +210,8 @@ TEST_F(FlashPagesAnnotationsPDFTest, FindsTheSamePageAgainQuickly) {
     }
     const auto document = open();
     const std::clock_t start = std::clock();
-    const auto byPage = document->page(0).annotations();
-    const auto byName = document->page(1).annotations();
+    const auto byPage = document->annotations(0);
+    const auto byName = document->annotations(1);
     EXPECT_LT(double(std::clock() - start) / CLOCKS_PER_SEC, 4);
     EXPECT_EQ(byPage.at(links - 1).destinationPage, pages - 1);
     EXPECT_EQ(byName.at(links - 1).destinationPage, std::nullopt);

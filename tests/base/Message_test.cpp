@@ -1,6 +1,6 @@
 #include "base/Message.h"
 
-#include "pdf/PDFDocument.h"
+#include "pdf/PDFReader.h"
 #include "support/FailureOf.h"
 #include "support/Program.h"
 
@@ -49,7 +49,7 @@ TEST(Message, NamesErrorsOfTheSystem) {
 TEST(Message, FailuresOfReadingHaveBothLanguages) {
     const Capitals language;
     const QString path = Program::sample("not-a-pdf.pdf");
-    const auto reading = failureOf([&] { PDFDocument::openSandboxed(path); });
+    const auto reading = failureOf([&] { PDFReader::open(path); });
     EXPECT_EQ(reading.message.english(), path + ": is not a PDF document");
     EXPECT_EQ(reading.message.local(), path + ": IS NOT A PDF DOCUMENT");
 }

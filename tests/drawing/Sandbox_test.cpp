@@ -4,6 +4,7 @@
 #include "base/NotificationCenter.h"
 #include "base/PlatformException.h"
 #include "builder/PDFBuilder.h"
+#include "pdf/PDFReader.h"
 #include "support/ChildProcesses.h"
 #include "support/TemplateLibrary.h"
 
@@ -180,19 +181,19 @@ TEST_F(KilledWorkers, CostTheirPagesWhichAreListedByNumber) {
 }
 
 TEST_F(KilledWorkers, AreRestartedWhenTheyOnlyRead) {
-    const auto document = PDFDocument::openSandboxed(path());
+    const auto document = PDFReader::open(path());
     ASSERT_EQ(document->pageCount(), pageCount);
     for (const pid_t reader : ChildProcesses::running("read", ::getpid()))
         ::kill(reader, SIGKILL);
-    EXPECT_EQ(document->page(7).cropBox(), QRectF(0, 0, 600, 800));
+    EXPECT_EQ(document->page(7).cropBox, QRectF(0, 0, 600, 800));
     document->stopReader();
     EXPECT_TRUE(ChildProcesses::running("read", ::getpid()).empty());
-    EXPECT_EQ(document->page(8).rotation(), 0);
+    EXPECT_EQ(document->page(8).rotation, 0);
 }
 
 // Landlock covers the thread that enters the sandbox, and libraries start threads of their own.
 TEST_F(KilledWorkers, AreSandboxedWithAllTheirThreads) {
-    const auto document = PDFDocument::openSandboxed(path());
+    const auto document = PDFReader::open(path());
     std::atomic<bool> stop{false};
     PageWorkers workers(path(), iFolder.path(), 100, {1, 2, 3, 4}, stop);
     ASSERT_TRUE(workers.start());

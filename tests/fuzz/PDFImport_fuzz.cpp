@@ -3,8 +3,8 @@
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "fuzz/Fuzz.h"
+#include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
-#include "pdf/PDFDocument.h"
 #include "pdf/PDFLimits.h"
 
 #include <algorithm>
@@ -36,16 +36,16 @@ bool isFinite(const QRectF& rect) {
            std::isfinite(rect.height());
 }
 
-void checkPage(const PDFDocument& document, const PDFPage& page) {
-    const QRectF media = page.mediaBox();
-    const QRectF crop = page.cropBox();
+void checkPage(const PDFPage& page, const std::vector<PDFAnnotation>& annotations, int pages) {
+    const QRectF& media = page.mediaBox;
+    const QRectF& crop = page.cropBox;
     Fuzz::require(isFinite(media) && !media.isEmpty(), "a page has a size");
     Fuzz::require(isFinite(crop) && !crop.isEmpty(), "a page shows something");
     Fuzz::require(media.contains(crop), "the part that is shown lies on the page");
-    Fuzz::require(page.rotation() >= 0 && page.rotation() < 360, "a rotation is less than a turn");
-    for (const PDFAnnotation& annotation : page.annotations())
+    Fuzz::require(page.rotation >= 0 && page.rotation < 360, "a rotation is less than a turn");
+    for (const PDFAnnotation& annotation : annotations)
         Fuzz::require(annotation.destinationPage.value_or(0) >= 0 &&
-                          annotation.destinationPage.value_or(0) < document.pageCount(),
+                          annotation.destinationPage.value_or(0) < pages,
                       "links lead to pages of the document");
 }
 
@@ -65,14 +65,14 @@ void checkOutline(const std::vector<PDFOutlineNode>& nodes, int pages, int depth
 
 // What the program itself reads.
 void readStructure(const QString& path) {
-    const auto document = PDFDocument::open(path);
+    const auto document = std::make_shared<DrawablePDF>(path);
     for (const char* key : {"Title", "Author"})
         document->information(key);
     const int pages = document->pageCount();
     for (int i = 0; i < std::min(pages, pagesLookedAt); ++i) {
         try {
             const PDFPage page = document->page(i);
-            checkPage(*document, page);
+            checkPage(page, document->annotations(i), pages);
             page.displaySize();
         } catch (const PlatformException&) {
             continue;
@@ -92,11 +92,11 @@ void readStructure(const QString& path) {
 
 // What a page worker does, at a size that takes little time.
 void drawFirstPage(const QString& path) {
-    const auto document = PDFDocument::open(path, PDFDocument::Access::mapped);
-    const QSizeF size = document->page(0).displaySize();
+    const DrawablePDF document(path, DrawablePDF::Access::mapped);
+    const QSizeF size = document.page(0).displaySize();
     DrawControl control;
     control.timeLimit = std::chrono::milliseconds(300);
-    const DrawablePage page(*document, 0, control, DrawablePage::Content::picturesAndText);
+    const DrawablePage page(document, 0, control, DrawablePage::Content::picturesAndText);
     PageBitmap bitmap;
     page.draw(100 / std::max({size.width(), size.height(), 1.0}), bitmap);
     for (const int side : {bitmap.width(), bitmap.height()})

@@ -20,7 +20,7 @@ void check(const QByteArray& bytes) {
 
 constexpr void (*checks[])(const QByteArray&) = {
     check<PDFSerialization::unpackNumber>,   check<PDFSerialization::unpackText>,
-    check<PDFSerialization::unpackBoxes>,    check<PDFSerialization::unpackAnnotations>,
+    check<PDFSerialization::unpackPage>,     check<PDFSerialization::unpackAnnotations>,
     check<PDFSerialization::unpackOutline>,  check<PDFSerialization::unpackTexts>,
     check<PDFSerialization::unpackTextLines>};
 

@@ -81,9 +81,9 @@ Seeds codecs() {
 // The first byte says what the rest is.
 Seeds facts() {
     using PDFSerialization::pack;
-    PDFPageBoxes boxes;
-    boxes.media = boxes.crop = QRectF(0, 0, 612, 792);
-    boxes.display = QSizeF(612, 792);
+    PDFPage page;
+    page.mediaBox = page.cropBox = QRectF(0, 0, 612, 792);
+    page.display = QSizeF(612, 792);
     const PDFAnnotation web{"Link", QRectF(1, 2, 3, 4), "http://a/", {}};
     const PDFAnnotation within{"Link", QRectF(1, 2, 3, 4), {}, 5};
     const PDFOutlineNode leaf{"Leaf", 2, {}};
@@ -92,7 +92,7 @@ Seeds facts() {
     return {'\0' + pack(7),
             '\1' + pack(QString("A title")),
             '\1' + pack(QString()),
-            '\2' + pack(boxes),
+            '\2' + pack(page),
             '\3' + pack(std::vector{web, within}),
             '\4' + pack(std::vector{branch, leaf}),
             '\5' + pack(std::vector{QString("iv"), QString("A-3")}),

@@ -85,7 +85,7 @@ TEST_F(FlashPageSourcePDFTest, DrawsTheChosenPagesUnderTheirNumbersInOrder) {
 
 TEST_F(FlashPageSourcePDFTest, DrawsInThisProcessWithoutWorkers) {
     fill(2);
-    PDFToSWFPageConverter converter(path(), PDFDocument::open(path()), 100);
+    PDFToSWFPageConverter converter(path(), std::make_shared<DrawablePDF>(path()), 100);
     const QString page = converter.generatePage(2);
     EXPECT_EQ(page, converter.converterWorkFolder() + "/2.jpg");
     EXPECT_EQ(QImage(page).size(), QSize(200, 300));

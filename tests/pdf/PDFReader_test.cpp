@@ -29,7 +29,7 @@ protected:
     }
 
     QString failureOfOpening(const QByteArray& script, std::chrono::milliseconds patience = 60s) {
-        return failureOf([&] { reader(script, patience)->open(); }).name;
+        return failureOf([&] { reader(script, patience)->start(); }).name;
     }
 
     QTemporaryDir iFolder;
@@ -46,10 +46,10 @@ PDFOutlineNode nested(int depth) {
 } // namespace
 
 TEST_F(PDFReaderTest, LeavesTheFileToItsOwnerWhenThereIsNoProgramToReadIt) {
-    EXPECT_FALSE(reader("exit 127\n")->open());
+    EXPECT_FALSE(reader("exit 127\n")->start());
     const auto none = reader("");
     none->setProgram(iFolder.filePath("missing"));
-    EXPECT_FALSE(none->open());
+    EXPECT_FALSE(none->start());
 }
 
 TEST_F(PDFReaderTest, ReportsWhatEndsTheProgramAndStopsTrying) {
@@ -58,10 +58,10 @@ TEST_F(PDFReaderTest, ReportsWhatEndsTheProgramAndStopsTrying) {
 
     const auto ends = reader("echo here\necho \"ok $count\"\nread question\necho x >>" +
                              QFile::encodeName(iFolder.filePath("tries")) + "\nkill -SEGV $$\n");
-    ASSERT_TRUE(ends->open());
+    ASSERT_TRUE(ends->start());
     EXPECT_EQ(ends->pageCount(), 3);
     for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(failureOf([&] { ends->boxes(0); }).name, "PDFReaderEnded");
+        EXPECT_EQ(failureOf([&] { ends->page(0); }).name, "PDFReaderEnded");
     EXPECT_EQ(TestFiles::read(iFolder.filePath("tries")), "x\nx\nx\n");
 }
 
@@ -75,7 +75,7 @@ TEST_F(PDFReaderTest, RefusesAnswersThatMakeNoSense) {
     const auto answers = [&](const QByteArray& packed) {
         auto made = reader("echo here\necho \"ok $count\"\nwhile read question; do echo ok " +
                            packed.toBase64() + "; done\n");
-        EXPECT_TRUE(made->open());
+        EXPECT_TRUE(made->start());
         return failureOf([&] { made->outline(); }).name;
     };
     const QString garbled = "PDFReaderMalformedAnswer";
@@ -96,7 +96,7 @@ TEST_F(PDFReaderTest, ReadsNoFileInProcessWhateverTheProgramAnswers) {
 
 TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {
     const auto deaf = reader("echo here\necho \"ok $count\"\nexec sleep 100\n");
-    ASSERT_TRUE(deaf->open());
+    ASSERT_TRUE(deaf->start());
     deaf->setTimeout(100ms);
     const QByteArray key(4 << 20, 'k');
     EXPECT_EQ(failureOf([&] { deaf->information(key.constData()); }).name, "PDFReaderTimeout");

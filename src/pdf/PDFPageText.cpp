@@ -1,5 +1,3 @@
-#include "pdf/PDFText.h"
-
 #include "pdf/PDFLimits.h"
 #include "pdf/PDFRecording.h"
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "pdf/PDFDocument.h"
+
+#include <memory>
+
+class PDFEngine;
+
+// A PDF that MuPDF has open in this process, so that its pages can be drawn, see DrawablePage. A
+// malicious file may crash MuPDF or make it hang, see PDFReader.
+class DrawablePDF final : public PDFDocument {
+public:
+    // How the file is read. mapped is faster, but the process crashes if the file shrinks while it
+    // is mapped: only for processes that may crash.
+    enum class Access { stream, mapped };
+
+    // Throws PlatformException (pdfOpen) whose reason says why the file can't be used: missing,
+    // unreadable, empty, not a PDF, damaged, or password-protected.
+    explicit DrawablePDF(const QString& path, Access access = Access::stream);
+    ~DrawablePDF() override;
+
+    int pageCount() const override;
+    PDFPage page(int index) const override;
+    std::vector<PDFAnnotation> annotations(int index) const override;
+    QString information(const char* key) const override;
+    QString language() const override;
+    std::vector<QString> pageLabels() const override;
+    std::vector<PDFOutlineNode> outline() const override;
+
+    // For DrawablePage.
+    const PDFEngine& engine() const { return *iEngine; }
+
+private:
+    std::unique_ptr<PDFEngine> iEngine;
+};

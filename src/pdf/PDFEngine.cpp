@@ -1,0 +1,232 @@
+#include "pdf/PDFEngine.h"
+
+#include "base/Log.h"
+#include "pdf/PDFFile.h"
+#include "pdf/PDFLimits.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <cstdlib>
+#include <fcntl.h>
+#include <malloc.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace {
+
+const Log& muPDFLog() {
+    static const Log log("PDFEngine");
+    return log;
+}
+
+// Counts what MuPDF allocates and refuses to exceed the limit. MuPDF then empties its store and
+// tries again before it reports an error.
+void* limitedRealloc(void* user, void* old, std::size_t size) {
+    auto& held = *static_cast<std::size_t*>(user);
+    const std::size_t before = old ? ::malloc_usable_size(old) : 0;
+    if (held - before + size > PDFLimits::maxMuPDFMemory)
+        return nullptr;
+    void* memory = std::realloc(old, size);
+    if (memory)
+        held += ::malloc_usable_size(memory) - before;
+    return memory;
+}
+
+void* limitedMalloc(void* user, std::size_t size) {
+    return limitedRealloc(user, nullptr, size);
+}
+
+void countedFree(void* user, void* memory) {
+    if (!memory)
+        return;
+    *static_cast<std::size_t*>(user) -= ::malloc_usable_size(memory);
+    std::free(memory);
+}
+
+// Called from MuPDF's C code, so no exception may escape.
+void logMuPDFMessage(void* /*user*/, const char* message) noexcept {
+    try {
+        if (muPDFLog().isDebugEnabled())
+            muPDFLog().debug(QString::fromUtf8(message));
+    } catch (const std::exception&) {
+        return; // losing a warning is harmless
+    }
+}
+
+bool hasPDFHeader(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(1024).contains("%PDF-");
+}
+
+} // namespace
+
+PDFEngine::PDFEngine() {
+    const fz_alloc_context allocator{&allocated, limitedMalloc, limitedRealloc, countedFree};
+    context = fz_new_context(&allocator, nullptr, PDFLimits::maxStoreSize);
+    if (!context)
+        throw std::bad_alloc();
+    fz_set_warning_callback(context, logMuPDFMessage, nullptr);
+    fz_set_error_callback(context, logMuPDFMessage, nullptr);
+}
+
+PDFEngine::~PDFEngine() {
+    pdf_drop_document(context, document);
+    fz_drop_context(context);
+    if (mapping)
+        ::munmap(mapping, mappingSize);
+}
+
+void PDFEngine::open(const QString& path, bool mapped) {
+    PDFFile::check(path);
+    if (mapped)
+        map(path);
+    const QByteArray name = QFile::encodeName(path);
+    try {
+        run(ErrorKind::pdfOpen, [&](fz_context* ctx) { openDocument(ctx, name.constData()); });
+    } catch (const PlatformException& failure) {
+        if (!hasPDFHeader(path))
+            PDFFile::failToOpen(path, Message::translate("PDFDocument", "is not a PDF document"));
+        PDFFile::failToOpen(path, Message::translate("PDFDocument", "is damaged beyond repair (%1)")
+                                      .arg(failure.message()));
+    }
+    if (get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
+        PDFFile::failToOpen(path, Message::translate("PDFDocument", "is protected by a password"));
+    pageCount = countPages();
+}
+
+// Leaves it unmapped where that fails.
+void PDFEngine::map(const QString& path) {
+    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    mappingSize = static_cast<std::size_t>(QFileInfo(path).size());
+    void* memory = ::mmap(nullptr, mappingSize, PROT_READ, MAP_PRIVATE, file, 0);
+    ::close(file);
+    mapping = memory == MAP_FAILED ? nullptr : memory;
+}
+
+void PDFEngine::openDocument(fz_context* ctx, const char* path) {
+    if (!mapping) {
+        document = pdf_open_document(ctx, path);
+        return;
+    }
+    fz_stream* stream =
+        fz_open_memory(ctx, static_cast<const unsigned char*>(mapping), mappingSize);
+    fz_try(ctx) {
+        document = pdf_open_document_with_stream(ctx, stream);
+    }
+    fz_always(ctx) {
+        fz_drop_stream(ctx, stream);
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+}
+
+pdf_obj* PDFEngine::pageObject(int index) const {
+    pdf_obj* object = nullptr;
+    run(ErrorKind::pageUnreadable,
+        [&](fz_context* ctx) { object = pdf_lookup_page_obj(ctx, document, index); });
+    return object;
+}
+
+pdf_obj* PDFEngine::entry(pdf_obj* dictionary, const char* key) const {
+    return get([&](fz_context* ctx) { return pdf_dict_gets(ctx, dictionary, key); },
+               static_cast<pdf_obj*>(nullptr));
+}
+
+pdf_obj* PDFEngine::trailerEntry(const char* key) const {
+    return entry(get([this](fz_context* ctx) { return pdf_trailer(ctx, document); },
+                     static_cast<pdf_obj*>(nullptr)),
+                 key);
+}
+
+QString PDFEngine::text(pdf_obj* string) const {
+    if (!get([&](fz_context* ctx) { return pdf_is_string(ctx, string); }, 0))
+        return {};
+    const char* bytes = get([&](fz_context* ctx) { return pdf_to_text_string(ctx, string); },
+                            static_cast<const char*>(nullptr));
+    return bytes ? QString::fromUtf8(bytes).left(PDFLimits::maxTextLength) : QString();
+}
+
+QString PDFEngine::name(pdf_obj* object) const {
+    return QString::fromUtf8(get([&](fz_context* ctx) { return pdf_to_name(ctx, object); }, ""));
+}
+
+Message PDFEngine::caughtReason() const {
+    if (fz_caught(context) == FZ_ERROR_MEMORY)
+        return Message::translate("PageFailure", "it takes more memory than a page may have");
+    return QString::fromUtf8(fz_caught_message(context));
+}
+
+int PDFEngine::countPages() const {
+    return get(
+        [this](fz_context* ctx) {
+            return std::clamp(pdf_count_pages(ctx, document), 0, pdf_xref_len(ctx, document));
+        },
+        0);
+}
+
+std::optional<int> PDFEngine::destinationPage(pdf_obj* destination) const {
+    const QByteArray called = nameOfDestination(destination);
+    const auto known = namedPages.find(called);
+    const int page = known == namedPages.end() ? lookUpDestination(destination) : known->second;
+    if (!called.isEmpty())
+        namedPages.emplace(called, page);
+    return page >= 0 && page < pageCount ? std::optional(page) : std::nullopt;
+}
+
+QByteArray PDFEngine::nameOfDestination(pdf_obj* destination) const {
+    std::size_t size = 0;
+    const char* string = get(
+        [&](fz_context* ctx) {
+            return pdf_is_string(ctx, destination) ? pdf_to_string(ctx, destination, &size)
+                                                   : nullptr;
+        },
+        static_cast<const char*>(nullptr));
+    if (string)
+        return '(' + QByteArray(string, qsizetype(size));
+    const char* word = get([&](fz_context* ctx) { return pdf_to_name(ctx, destination); }, "");
+    return *word ? '/' + QByteArray(word) : QByteArray();
+}
+
+int PDFEngine::lookUpDestination(pdf_obj* destination) const {
+    pdf_obj* first = get(
+        [&](fz_context* ctx) {
+            pdf_obj* target = destination;
+            // MuPDF does not search the name tree of a document that also has the older dictionary
+            // of names.
+            if (pdf_is_string(ctx, destination))
+                target = pdf_lookup_name(ctx, document, PDF_NAME(Dests), destination);
+            if (pdf_is_name(ctx, destination) || !target)
+                target = pdf_lookup_dest(ctx, document, destination);
+            if (pdf_is_dict(ctx, target))
+                target = pdf_dict_get(ctx, target, PDF_NAME(D));
+            return pdf_array_get(ctx, target, 0);
+        },
+        static_cast<pdf_obj*>(nullptr));
+    return pageNumber(first);
+}
+
+int PDFEngine::pageNumber(pdf_obj* page) const {
+    if (get([&](fz_context* ctx) { return pdf_is_int(ctx, page); }, 0))
+        return get([&](fz_context* ctx) { return pdf_to_int(ctx, page); }, -1);
+    const int object = get([&](fz_context* ctx) { return pdf_to_num(ctx, page); }, 0);
+    if (object == 0)
+        return -1;
+    const auto known = pageNumbers.find(object);
+    if (known != pageNumbers.end())
+        return known->second;
+    const int number =
+        get([&](fz_context* ctx) { return pdf_lookup_page_number(ctx, document, page); }, -1);
+    pageNumbers.emplace(object, number);
+    return number;
+}
+
+std::optional<int> PDFEngine::targetPage(pdf_obj* dictionary) const {
+    if (pdf_obj* destination = entry(dictionary, "Dest"))
+        return destinationPage(destination);
+    pdf_obj* action = entry(dictionary, "A");
+    if (action && name(entry(action, "S")) == QStringLiteral("GoTo"))
+        return destinationPage(entry(action, "D"));
+    return std::nullopt;
+}
