@@ -3,6 +3,7 @@
 //
 //     folvero-bench-republish DOCUMENT PAGES [ROUNDS]
 
+#include "base/Stopwatch.h"
 #include "output/FolveroOutput.h"
 #include "pages/FlashPageSourcePDF.h"
 #include "template/FlashTemplate.h"
@@ -11,7 +12,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <functional>
 #include <vector>
@@ -21,11 +21,9 @@ namespace {
 double medianMilliseconds(int rounds, const std::function<void()>& action) {
     std::vector<double> times;
     for (int i = 0; i < rounds; ++i) {
-        const auto start = std::chrono::steady_clock::now();
+        Stopwatch watch;
         action();
-        times.push_back(
-            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-                .count());
+        times.push_back(1000 * watch.lap());
     }
     std::nth_element(times.begin(), times.begin() + times.size() / 2, times.end());
     return times[times.size() / 2];

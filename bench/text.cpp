@@ -4,6 +4,7 @@
 //     folvero-bench-text DOCUMENT...
 
 #include "base/PlatformException.h"
+#include "base/Stopwatch.h"
 #include "output/WebScript.h"
 #include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
@@ -12,21 +13,9 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <chrono>
 #include <cstdio>
 
 namespace {
-
-class Lap {
-public:
-    double milliseconds() {
-        const auto now = std::chrono::steady_clock::now();
-        return std::chrono::duration<double, std::milli>(now - std::exchange(iStart, now)).count();
-    }
-
-private:
-    std::chrono::steady_clock::time_point iStart = std::chrono::steady_clock::now();
-};
 
 void measure(const QString& path) {
     const DrawablePDF document(path);
@@ -36,20 +25,20 @@ void measure(const QString& path) {
     qsizetype layerBytes = 0;
     QJsonArray texts;
     for (int index = 0; index < pages; ++index) {
-        Lap lap;
+        Stopwatch watch;
         const auto lines =
             DrawablePage(document, index, {}, DrawablePage::Content::picturesAndText).text();
-        reading += lap.milliseconds();
+        reading += 1000 * watch.lap();
         const auto json =
             WebPageText::asJson(document.page(index), lines, document.annotations(index),
                                 [](int target) { return target + 1; });
         layerBytes += WebScript::file(QStringLiteral("text"), WebScript::json(json)).size();
         texts.append(WebPageText::plain(lines));
-        layers += lap.milliseconds();
+        layers += 1000 * watch.lap();
     }
-    Lap lap;
+    Stopwatch watch;
     const auto search = WebScript::file(QStringLiteral("search/text"), WebScript::json(texts));
-    const double index = lap.milliseconds();
+    const double index = 1000 * watch.lap();
     std::printf("| %s | %d | %.2f ms | %.2f ms | %.3f ms | %lld kB | %lld kB |\n",
                 qPrintable(QFileInfo(path).fileName()), pages, reading / pages, layers / pages,
                 index / pages, static_cast<long long>(layerBytes / 1000),

@@ -66,18 +66,16 @@ void startLibrary() {
     });
 }
 
-} // namespace
-
-Log::Log(const char* name) : iName(name) {
-    if (!hasEnded())
-        startLibrary();
+log4cplus::Logger libraryLogger(const char* name) {
+    startLibrary();
+    return log4cplus::Logger::getInstance(name);
 }
 
+} // namespace
+
 bool Log::isDebugEnabled() const {
-    if (hasEnded())
-        return isWatched();
     return isWatched() ||
-           log4cplus::Logger::getInstance(iName).isEnabledFor(log4cplus::DEBUG_LOG_LEVEL);
+           (!hasEnded() && libraryLogger(iName).isEnabledFor(log4cplus::DEBUG_LOG_LEVEL));
 }
 
 void Log::debug(const QString& text, CodeLocation where) const {
@@ -100,7 +98,7 @@ void Log::write(Level level, const QString& text, const CodeLocation& where) con
     notifyWatcher(level, iName, text, where);
     if (hasEnded())
         return;
-    auto logger = log4cplus::Logger::getInstance(iName);
+    auto logger = libraryLogger(iName);
     if (!logger.isEnabledFor(libraryLevel(level)))
         return;
     logger.forcedLog(libraryLevel(level), text.toStdString(), where.file,

@@ -15,6 +15,10 @@ public:
     Message(QString english, QString local)
         : iEnglish(std::move(english)), iLocal(std::move(local)) {}
 
+    // "SUBJECT: CAUSE", such as a file and why it can't be used.
+    static Message about(const QString& subject, const Message& cause) {
+        return Message(QStringLiteral("%1: %2")).arg(subject, cause);
+    }
     // Looks up a translation like QCoreApplication::translate(). Thread-safe.
     static Message translate(const char* context, const char* text);
     // The system's text for an error number, and for this thread's errno. Temporary when the cause

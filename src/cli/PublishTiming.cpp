@@ -10,9 +10,7 @@
 #include <algorithm>
 
 double PublishTiming::lap() {
-    const auto now = std::chrono::steady_clock::now();
-    const double seconds = std::chrono::duration<double>(now - iLap).count();
-    iLap = now;
+    const double seconds = iWatch.lap();
     iSeconds[QStringLiteral("total")] = iSeconds[QStringLiteral("total")].toDouble() + seconds;
     return seconds;
 }

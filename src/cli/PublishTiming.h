@@ -1,8 +1,9 @@
 #pragma once
 
+#include "base/Stopwatch.h"
+
 #include <QJsonObject>
 #include <QString>
-#include <chrono>
 
 struct Book;
 
@@ -21,6 +22,6 @@ public:
 private:
     double lap();
 
-    std::chrono::steady_clock::time_point iLap = std::chrono::steady_clock::now();
+    Stopwatch iWatch;
     QJsonObject iSeconds;
 };

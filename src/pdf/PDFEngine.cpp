@@ -15,10 +15,7 @@
 
 namespace {
 
-const Log& muPDFLog() {
-    static const Log log("PDFEngine");
-    return log;
-}
+constexpr Log logger("PDFEngine");
 
 // Counts what MuPDF allocates and refuses to exceed the limit. MuPDF then empties its store and
 // tries again before it reports an error.
@@ -47,8 +44,8 @@ void countedFree(void* user, void* memory) {
 // Called from MuPDF's C code, so no exception may escape.
 void logMuPDFMessage(void* /*user*/, const char* message) noexcept {
     try {
-        if (muPDFLog().isDebugEnabled())
-            muPDFLog().debug(QString::fromUtf8(message));
+        if (logger.isDebugEnabled())
+            logger.debug(QString::fromUtf8(message));
     } catch (const std::exception&) {
         return; // losing a warning is harmless
     }

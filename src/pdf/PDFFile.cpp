@@ -7,7 +7,7 @@
 #include <cerrno>
 
 void PDFFile::failToOpen(const QString& path, const Message& cause) {
-    throw PlatformException(ErrorKind::pdfOpen, Message(QStringLiteral("%1: %2")).arg(path, cause));
+    throw PlatformException(ErrorKind::pdfOpen, Message::about(path, cause));
 }
 
 void PDFFile::check(const QString& path) {

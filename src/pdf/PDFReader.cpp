@@ -25,10 +25,7 @@ constexpr qsizetype maxAnswer = qsizetype{128} << 20;
 // A sentence with a path in it.
 constexpr qsizetype maxReason = 16'384;
 
-const Log& readerLog() {
-    static const Log log("PDFReader");
-    return log;
-}
+constexpr Log logger("PDFReader");
 
 Message crashMessage() {
     return Message::translate("PDFReader", "the program that reads PDF files broke off at it");
@@ -67,7 +64,7 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
         return {*kind, Message::translate("PageFailure", reason.toUtf8().constData())};
     const QString start = path + QStringLiteral(": ");
     const QString cause = reason.startsWith(start) ? reason.mid(start.size()) : reason;
-    return {*kind, Message(QStringLiteral("%1: %2")).arg(path, openErrorFrom(cause))};
+    return {*kind, Message::about(path, openErrorFrom(cause))};
 }
 
 } // namespace
@@ -97,7 +94,7 @@ bool PDFReader::start() {
         stopReader();
         if (failure.kind() != ErrorKind::processStart)
             throw;
-        readerLog().warn(failure.reason());
+        logger.warn(failure.reason());
         return false;
     }
 }

@@ -19,10 +19,7 @@ constexpr auto loopback = "127.0.0.1";
 // A browser opens half a dozen connections at once, some of them speculatively.
 constexpr std::size_t threads = 16;
 
-const Log& serverLog() {
-    static const Log log("BookServer");
-    return log;
-}
+constexpr Log logger("BookServer");
 
 // The range of a file that a response contains.
 struct Extent {
@@ -159,8 +156,8 @@ void logAnswer(const Request& request, const Response& response) {
     // Keeps a malformed address on one line and free of terminal escape sequences.
     const QByteArray target =
         QByteArray::fromStdString(request.target).toPercentEncoding("/%?=&;,+:@!$'()*");
-    serverLog().debug(QString::fromStdString(request.method) + u' ' + QString::fromLatin1(target) +
-                      QStringLiteral(": ") + QString::number(response.status));
+    logger.debug(QString::fromStdString(request.method) + u' ' + QString::fromLatin1(target) +
+                 QStringLiteral(": ") + QString::number(response.status));
 }
 
 } // namespace
@@ -182,7 +179,7 @@ public:
             answerRequest(folder, request, response);
             return httplib::Server::HandlerResponse::Handled;
         });
-        if (serverLog().isDebugEnabled())
+        if (logger.isDebugEnabled())
             iServer.set_logger(logAnswer);
     }
 

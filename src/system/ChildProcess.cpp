@@ -20,8 +20,7 @@ namespace {
 [[noreturn]] void fail(const std::string& program, int error) {
     throw PlatformException(
         ErrorKind::processStart,
-        Message(QStringLiteral("%1: %2"))
-            .arg(QString::fromLocal8Bit(program.c_str()), Message::ofSystemError(error)));
+        Message::about(QString::fromLocal8Bit(program.c_str()), Message::ofSystemError(error)));
 }
 
 // Sockets rather than pipes: writing to a socket whose peer is gone can return an error instead of

@@ -90,8 +90,7 @@ QString TemporaryFolders::make(const QString& name) {
     const Message cause = Message::ofLastSystemError();
     const QString pattern = Files::join(parent, inParent + unique);
     if (!QDir().mkpath(pattern) || !isOwn(pattern))
-        throw PlatformException(ErrorKind::temporaryFolder,
-                                Message(QStringLiteral("%1: %2")).arg(parent, cause));
+        throw PlatformException(ErrorKind::temporaryFolder, Message::about(parent, cause));
     return pattern;
 }
 

@@ -7,10 +7,7 @@
 
 namespace {
 
-const Log& logger() {
-    static const Log log("FlashTemplate");
-    return log;
-}
+constexpr Log logger("FlashTemplate");
 
 // This order, LF before CR, is part of the format.
 const QString recordStart = QStringLiteral("\n\r");
@@ -38,7 +35,7 @@ void FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
         const QString key = line.left(equals);
         const QString value = line.mid(equals + 1);
         if (key == u"innerMainbgImgUrl")
-            logger().debug(QStringLiteral("key 0[%1=%2]").arg(key, value));
+            logger.debug(QStringLiteral("key 0[%1=%2]").arg(key, value));
         setPropertyValue(key, value);
     }
     // The page size belongs to the imported document, not to a style.
@@ -55,7 +52,7 @@ bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, Message* err
     Message cause;
     const bool written = Files::writeAtomically(path, text.toUtf8(), &cause);
     if (!written)
-        logger().warn(
+        logger.warn(
             QStringLiteral("can't write the settings file \"%1\": %2").arg(path, cause.english()));
     if (error)
         *error = cause;

@@ -27,10 +27,7 @@
 
 namespace {
 
-const Log& logger() {
-    static const Log log("BrisleafAppDelegate");
-    return log;
-}
+constexpr Log logger("BrisleafAppDelegate");
 
 constexpr int indentationPerLevel = 8;
 
@@ -50,7 +47,7 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     prepaireTheLog();
     iAppearance = std::make_unique<Appearance>();
     makeWindows();
-    logger().info(QStringLiteral("version is:%1").arg(Bundle::version()));
+    logger.info(QStringLiteral("version is:%1").arg(Bundle::version()));
     iWindow->show();
     iWindow->activateWindow();
     iFlashPreviewFolder = QStringLiteral("");

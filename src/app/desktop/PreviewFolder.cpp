@@ -9,10 +9,7 @@
 
 namespace {
 
-const Log& logger() {
-    static const Log log("BrisleafAppDelegate");
-    return log;
-}
+constexpr Log logger("BrisleafAppDelegate");
 
 // With more programs than this something else is wrong; they share the last folder.
 constexpr int maxFolders = 32;
@@ -43,7 +40,7 @@ QString PreviewFolder::make() {
     iPath = claim(support.isNull() ? QStringLiteral("/temp") : support);
     const Message failure = restore();
     if (!failure.isNull())
-        logger().warn(
+        logger.warn(
             QStringLiteral("flash preview folder cannot be crearted[%1]").arg(failure.english()));
     return iPath;
 }
@@ -52,7 +49,7 @@ Message PreviewFolder::restore() const {
     errno = 0;
     if (QDir(iPath).exists() || QDir().mkpath(iPath))
         return {};
-    return Message(QStringLiteral("%1: %2")).arg(iPath, Message::ofLastSystemError());
+    return Message::about(iPath, Message::ofLastSystemError());
 }
 
 void PreviewFolder::remove() {

@@ -15,10 +15,7 @@
 
 namespace {
 
-const Log& logger() {
-    static const Log log("PreviewView");
-    return log;
-}
+constexpr Log logger("PreviewView");
 
 // A page that crashes the renderer on each load must not be reloaded for ever.
 constexpr int maxCrashes = 3;
@@ -77,7 +74,7 @@ protected:
 
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString& message,
                                   int line, const QString& source) override {
-        logger().debug(QStringLiteral("%1:%2: %3").arg(source).arg(line).arg(message));
+        logger.debug(QStringLiteral("%1:%2: %3").arg(source).arg(line).arg(message));
     }
 };
 
@@ -141,7 +138,7 @@ void PreviewView::recover() {
     iCrashes = now - iLastCrash < crashWindow ? iCrashes + 1 : 1;
     iLastCrash = now;
     const bool reloads = iCrashes <= maxCrashes;
-    logger().warn(QStringLiteral("the preview's renderer has crashed (%1)").arg(iCrashes));
+    logger.warn(QStringLiteral("the preview's renderer has crashed (%1)").arg(iCrashes));
     // The renderer restarts only after the signal has been handled.
     if (reloads)
         QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);
