@@ -114,6 +114,7 @@ TEST_F(PublishTest, ReplacesFilesThatAreNoBooksWithForceOnly) {
         {"files/page/1.jpg", {}, true},
         {"files/page/photo.jpg", {}, false},
         {"files/extfiles/mainbgImgUrl.jpg", {}, true},
+        {"files/extfiles/moveSound.mp3", {}, true},
         {"files/web.js", {}, false},
         {"files/thumb/1.webp", {}, false},
         {"files/web.js", web, true},

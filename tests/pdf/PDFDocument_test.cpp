@@ -47,6 +47,21 @@ TEST_F(PDFDocumentTest, OpensADocumentLockedWithAnEmptyPassword) {
     EXPECT_TRUE(isNear(colourAt(draw(*open(), 0), 0.1, 0.9), Qt::red));
 }
 
+TEST_F(PDFDocumentTest, LabelsItsPages) {
+    const std::pair<QByteArray, QStringList> ranges[] = {
+        {"/S /r /St 8", {"viii", "ix", "x"}}, {"/S /R /St 1994", {"MCMXCIV"}},
+        {"/S /A /St 26", {"Z", "AA", "BB"}},  {"/S /a /P (C-)", {"C-a", "C-b"}},
+        {"/P (Cover)", {"Cover", "Cover"}},   {"/S /D /St 5", {"5", "6"}}};
+    std::vector<QString> expected;
+    for (const auto& [entries, labels] : ranges) {
+        builder.setPageLabels(int(expected.size()), entries);
+        expected.insert(expected.end(), labels.begin(), labels.end());
+    }
+    for (std::size_t i = 0; i < expected.size(); ++i)
+        builder.addPage(PDFBuilder::page(pageSize));
+    EXPECT_EQ(open()->pageLabels(), expected);
+}
+
 // The link can't be read. When MuPDF comes to it, it repairs the whole file anew, up to the second
 // page: it then knows of no page any more.
 TEST_F(PDFDocumentTest, KeepsItsCountOfPagesWhateverIsReadLater) {
