@@ -1,31 +1,6 @@
 #pragma once
 
-#include <QString>
-#include <QStringList>
-
-// The options of "folvero publish".
-struct PublishOptions {
-    QString pdf;
-    QString outputFolder;
-    enum class Type { html, app, web };
-    Type type = Type::html;
-    QString name;  // null: "index" for a page, the PDF's name for an application
-    QString title; // null: the document's own title, or else its file name
-    QString pages = QStringLiteral("ALL");
-    bool singleFile = false; // web books only
-    QString previewPages;    // web books only; null: all pages are included
-    int quality = 100;
-    bool links = false;
-    bool bookmarks = false;
-    QString templateName = QStringLiteral("float");
-    QString styleName;
-    QString settingsFile;
-    QStringList assignments; // "key=value"
-    QString timingFile;
-    bool quiet = false;
-    bool force = false; // replace files that do not belong to a book
-    bool watch = false; // republish whenever the PDF or the settings file changes
-};
+#include "cli/PublishOptions.h"
 
 // Makes a book from a PDF, and with watch again after each change until Ctrl-C. Throws
 // CommandError.

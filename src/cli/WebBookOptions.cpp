@@ -1,7 +1,7 @@
 #include "cli/WebBookOptions.h"
 
 #include "cli/PageSelection.h"
-#include "cli/PublishCommand.h"
+#include "cli/PublishOptions.h"
 #include "console/CommandError.h"
 #include "console/Terminal.h"
 #include "output/BookLayout.h"
