@@ -75,7 +75,8 @@ TEST(FlashOutline, ReadsTheNumberThatATextBeginsWith) {
     }
 }
 
-TEST(FlashOutline, RefusesEntriesNestedTooDeep) {
+TEST(FlashOutline, RefusesOtherElementsAndEntriesNestedTooDeep) {
+    EXPECT_EQ(nameOfFailure("<o/>"), "ERROR_INIT_OUTLINES");
     const auto nested = [](int depth) {
         const QByteArray text =
             QByteArray("<o><ci>").repeated(depth) + QByteArray("</ci></o>").repeated(depth);

@@ -161,6 +161,7 @@ TEST_F(FlashPagesAnnotationsPDFTest, KeepsTheLinksOfOtherPagesThanAnUnreadableOn
     EXPECT_EQ(links, "1+2-3+");
     ASSERT_EQ(annotations.unreadPages().size(), 1U);
     EXPECT_EQ(annotations.unreadPages()[0].page, 2);
+    EXPECT_THROW(load("4"), PlatformException) << "a page that does not exist";
 }
 
 // All pages share one list, of that many links with addresses of that length.
