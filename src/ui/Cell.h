@@ -3,12 +3,22 @@
 #include <QString>
 #include <QStringList>
 
+class QPainter;
+class QStyleOptionViewItem;
+
 // Shows and edits one value in a table or tree. Cells are created for each display pass.
 class Cell {
 public:
     Cell() = default;
     virtual ~Cell() = default;
     Cell& operator=(const Cell&) = delete;
+
+    // Shows that value of a property. By default a cell keeps the one that it was made with.
+    virtual void showValue(const QString& /*value*/) {}
+    // Takes what it needs from the row that shows it; isHovered is for the cell's button.
+    virtual void setRow(const QStyleOptionViewItem& /*row*/, bool /*isHovered*/) {}
+    // Draws over the background of the row.
+    virtual void paint(QPainter& painter, const QStyleOptionViewItem& row) const = 0;
 
 protected:
     Cell(const Cell&) = default;
@@ -27,6 +37,9 @@ public:
     }
     void selectItemWithTitle(const QString& title) { iSelected = int(iItems.indexOf(title)); }
 
+    void showValue(const QString& value) override { selectItemWithTitle(value); }
+    void paint(QPainter& painter, const QStyleOptionViewItem& row) const override;
+
 private:
     QStringList iItems;
     int iSelected = -1;
@@ -40,6 +53,9 @@ public:
     QString title() const { return iTitle; }
     bool state() const { return iState; }
     void setState(bool state) { iState = state; }
+
+    void showValue(const QString& value) override;
+    void paint(QPainter& painter, const QStyleOptionViewItem& row) const override;
 
 private:
     QString iTitle;

@@ -89,6 +89,20 @@ std::unique_ptr<Cell> FlashTemplateOutlineDelegate::dataCellForTableColumn(const
                                                                            Item item) {
     if (!isValueOf(column, item))
         return nullptr;
+    switch (item->propertyType()) {
+    case pt_list:
+        return listCell(*item);
+    case pt_bool:
+        return std::make_unique<ButtonCell>(item->aTitle());
+    default:
+        return fieldCellForTableColumn(column, item);
+    }
+}
+
+std::unique_ptr<TextFieldCell>
+FlashTemplateOutlineDelegate::fieldCellForTableColumn(const QString& column, Item item) {
+    if (!isValueOf(column, item))
+        return nullptr;
     const QString value = item->value();
     switch (item->propertyType()) {
     case pt_color: {
@@ -107,10 +121,6 @@ std::unique_ptr<Cell> FlashTemplateOutlineDelegate::dataCellForTableColumn(const
         });
         return cell;
     }
-    case pt_list:
-        return listCell(*item);
-    case pt_bool:
-        return std::make_unique<ButtonCell>(item->aTitle());
     default:
         return nullptr;
     }
@@ -127,14 +137,8 @@ FlashTemplateOutlineDelegate::listCell(const FlashTemplateProperty& property) co
 
 void FlashTemplateOutlineDelegate::willDisplayCell(Cell& cell, const QString& forTableColumn,
                                                    Item item) const {
-    if (!isValueOf(forTableColumn, item))
-        return;
-    if (auto* list = dynamic_cast<PopUpButtonCell*>(&cell))
-        list->selectItemWithTitle(item->value());
-    else if (auto* button = dynamic_cast<ButtonCell*>(&cell))
-        button->setState(StringUtil::valueAsBool(item->value()));
-    else if (auto* file = dynamic_cast<FlashTmplFileCell*>(&cell))
-        file->setTitle(item->value());
+    if (isValueOf(forTableColumn, item))
+        cell.showValue(item->value());
 }
 
 void FlashTemplateOutlineDelegate::setObjectValue(const QVariant& object,

@@ -52,6 +52,8 @@ public:
     QVariant objectValueForTableColumn(const QString& column, Item byItem) const;
     // nullptr where the column's plain text cell is used.
     std::unique_ptr<Cell> dataCellForTableColumn(const QString& column, Item item);
+    // The same for cells with a button, of a colour or a file; nullptr for others.
+    std::unique_ptr<TextFieldCell> fieldCellForTableColumn(const QString& column, Item item);
     // Called before a cell is shown.
     void willDisplayCell(Cell& cell, const QString& forTableColumn, Item item) const;
     // Handles a value from a cell: a text, the index of a choice, or a boolean.

@@ -10,6 +10,8 @@ public:
     // Sets a chosen file; the text is its path.
     void setFileName2(const QString& path) { setTitle(path); }
 
+    void showValue(const QString& value) override { setTitle(value); }
+
     QRectF titleRectForBounds(const QRectF& bounds) const override;
     QRectF infoButtonRectForBounds(const QRectF& bounds) const override;
     QRectF rectForInfoButtonBasedOnTitleRect(const QRectF& titleRect, const QRectF& inBounds) const;

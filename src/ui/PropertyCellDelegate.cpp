@@ -1,7 +1,5 @@
 #include "ui/PropertyCellDelegate.h"
 
-#include "ui/FlashTmplColorCell.h"
-#include "ui/FlashTmplFileCell.h"
 #include "ui/TemplateTexts.h"
 
 #include <QApplication>
@@ -16,9 +14,6 @@
 namespace {
 
 constexpr int rowHeight = 24;
-constexpr qreal cellHeight = 19;
-constexpr int arrowSide = 12;
-constexpr int textMargin = 4;
 
 // Closes the editor when its list is closed without a choice.
 class ListEditor : public QComboBox {
@@ -37,13 +32,10 @@ public:
     QTimer withoutChoice;
 };
 
-// Cells are designed for single-line rows; they are centred in higher ones.
-QRectF frameIn(const QRect& row) {
-    return QRectF(row).adjusted(0, std::max(0.0, (row.height() - cellHeight) / 2), 0, 0);
-}
-
-QStyle& styleOf(const QStyleOptionViewItem& option) {
-    return option.widget ? *option.widget->style() : *QApplication::style();
+// Null for an index of another model.
+FlashTemplateOutlineDelegate* sourceOf(const QModelIndex& index) {
+    const auto* model = qobject_cast<const FlashTemplateModel*>(index.model());
+    return model ? &model->source() : nullptr;
 }
 
 bool isEditKey(const QKeyEvent& event) {
@@ -90,91 +82,47 @@ PropertyCellDelegate::PropertyCellDelegate(QTreeView& view)
     view.installEventFilter(this);
 }
 
-std::unique_ptr<Cell> PropertyCellDelegate::cellFor(const QStyleOptionViewItem& option,
-                                                    const QModelIndex& index) const {
-    const auto* model = qobject_cast<const FlashTemplateModel*>(index.model());
-    if (!model)
-        return nullptr;
-    FlashTemplateProperty* item = FlashTemplateModel::item(index);
-    const QString column = FlashTemplateModel::columnName(index);
-    auto cell = model->source().dataCellForTableColumn(column, item);
-    if (!cell)
-        return nullptr;
-    model->source().willDisplayCell(*cell, column, item);
-    if (auto* text = dynamic_cast<TextFieldCell*>(cell.get())) {
-        text->setFont(option.font);
-        text->setHighlighted(option.state.testFlag(QStyle::State_Selected));
-        text->setMouseHoveredInInfoButton(iHoveredIndex == index);
-    }
-    return cell;
+void PropertyCellDelegate::prepare(Cell& cell, const QStyleOptionViewItem& option,
+                                   const QModelIndex& index) const {
+    sourceOf(index)->willDisplayCell(cell, FlashTemplateModel::columnName(index),
+                                     FlashTemplateModel::item(index));
+    cell.setRow(option, iHoveredIndex == index);
 }
 
 std::unique_ptr<TextFieldCell> PropertyCellDelegate::buttonCellFor(const QModelIndex& index) const {
+    auto* source = sourceOf(index);
+    if (!source)
+        return nullptr;
+    auto cell = source->fieldCellForTableColumn(FlashTemplateModel::columnName(index),
+                                                FlashTemplateModel::item(index));
+    if (!cell)
+        return nullptr;
     QStyleOptionViewItem option;
     option.font = iView.font();
-    auto cell = cellFor(option, index);
-    if (auto* text = dynamic_cast<TextFieldCell*>(cell.get())) {
-        static_cast<void>(cell.release());
-        return std::unique_ptr<TextFieldCell>(text);
-    }
-    return nullptr;
+    prepare(*cell, option, index);
+    return cell;
 }
 
 void PropertyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const {
     QStyleOptionViewItem plain(option);
     initStyleOption(&plain, index);
-    const auto cell = cellFor(plain, index);
+    auto* source = sourceOf(index);
+    const auto cell = source ? source->dataCellForTableColumn(FlashTemplateModel::columnName(index),
+                                                              FlashTemplateModel::item(index))
+                             : nullptr;
     if (!cell) {
         QStyledItemDelegate::paint(painter, option, index);
         return;
     }
+    prepare(*cell, plain, index);
     plain.text.clear();
-    styleOf(plain).drawControl(QStyle::CE_ItemViewItem, &plain, painter, plain.widget);
+    iView.style()->drawControl(QStyle::CE_ItemViewItem, &plain, painter, plain.widget);
     painter->save();
     painter->setClipRect(plain.rect);
-    if (const auto* list = dynamic_cast<const PopUpButtonCell*>(cell.get())) {
-        const QString chosen = list->itemTitles().value(list->indexOfSelectedItem());
-        paintList(*painter, plain, TemplateTexts::shown(chosen));
-    } else if (const auto* button = dynamic_cast<const ButtonCell*>(cell.get())) {
-        paintCheckBox(*painter, plain, *button);
-    } else {
-        const bool isHeld = iTracked && iTrackedIndex == index;
-        const auto& text = isHeld ? *iTracked : dynamic_cast<const TextFieldCell&>(*cell);
-        text.drawInteriorWithFrame(*painter, frameIn(plain.rect));
-    }
+    const Cell& shown = iTracked && iTrackedIndex == index ? *iTracked : *cell;
+    shown.paint(*painter, plain);
     painter->restore();
-}
-
-void PropertyCellDelegate::paintList(QPainter& painter, const QStyleOptionViewItem& option,
-                                     const QString& text) const {
-    QStyleOption arrow(option);
-    arrow.rect = QRect(option.rect.right() - arrowSide - textMargin,
-                       option.rect.center().y() - arrowSide / 2, arrowSide, arrowSide);
-    const QRect room = option.rect.adjusted(textMargin, 0, -arrowSide - 2 * textMargin, 0);
-    const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const auto role = selected ? QPalette::HighlightedText : QPalette::Text;
-    painter.setFont(option.font);
-    painter.setPen(option.palette.color(role));
-    painter.drawText(room, int(Qt::AlignVCenter | Qt::AlignLeft),
-                     option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
-    arrow.palette.setColor(QPalette::ButtonText, option.palette.color(role));
-    styleOf(option).drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, option.widget);
-}
-
-void PropertyCellDelegate::paintCheckBox(QPainter& painter, const QStyleOptionViewItem& option,
-                                         const ButtonCell& cell) const {
-    QStyleOptionButton box;
-    box.QStyleOption::operator=(option);
-    box.rect = option.rect.adjusted(textMargin, 0, 0, 0);
-    box.text = TemplateTexts::shown(cell.title());
-    box.fontMetrics = option.fontMetrics;
-    box.state = option.state & ~QStyle::State_HasFocus;
-    box.state |= cell.state() ? QStyle::State_On : QStyle::State_Off;
-    if (option.state.testFlag(QStyle::State_Selected)) {
-        box.palette.setColor(QPalette::WindowText, option.palette.color(QPalette::HighlightedText));
-    }
-    styleOf(option).drawControl(QStyle::CE_CheckBox, &box, &painter, option.widget);
 }
 
 QSize PropertyCellDelegate::sizeHint(const QStyleOptionViewItem& option,
@@ -239,7 +187,7 @@ void PropertyCellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOpt
                                                 const QModelIndex& index) const {
     QRect rect = option.rect;
     if (const auto cell = buttonCellFor(index)) {
-        const QRectF frame = frameIn(option.rect);
+        const QRectF frame = TextFieldCell::frameIn(option.rect);
         const QRectF button = cell->infoButtonRectForBounds(frame);
         const QRectF title = cell->titleRectForBounds(frame);
         rect.setLeft(int(title.left()) - 2);
@@ -272,7 +220,7 @@ bool PropertyCellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
 
 bool PropertyCellDelegate::trackButton(QMouseEvent& event, const QStyleOptionViewItem& option,
                                        const QModelIndex& index) {
-    const QRectF frame = frameIn(option.rect);
+    const QRectF frame = TextFieldCell::frameIn(option.rect);
     auto cell = buttonCellFor(index);
     if (!cell || !(cell->hitTestForEvent(event.position(), frame) & hitTrackableArea))
         return false;
@@ -302,7 +250,7 @@ bool PropertyCellDelegate::eventFilter(QObject* watched, QEvent* event) {
         hover(mouse.position());
     if (!iTracked)
         return false;
-    const QRectF frame = frameIn(iView.visualRect(iTrackedIndex));
+    const QRectF frame = TextFieldCell::frameIn(iView.visualRect(iTrackedIndex));
     if (isMove) {
         iTracked->trackMouse(mouse, frame, *iView.viewport());
         return true;
@@ -321,7 +269,8 @@ void PropertyCellDelegate::hover(const QPointF& at) {
     const QModelIndex index = iView.indexAt(at.toPoint());
     const auto cell = index.isValid() ? buttonCellFor(index) : nullptr;
     const bool isOver =
-        cell && cell->infoButtonRectForBounds(frameIn(iView.visualRect(index))).contains(at);
+        cell &&
+        cell->infoButtonRectForBounds(TextFieldCell::frameIn(iView.visualRect(index))).contains(at);
     const QPersistentModelIndex before = iHoveredIndex;
     iHoveredIndex = isOver ? index : QModelIndex();
     if (before == iHoveredIndex)

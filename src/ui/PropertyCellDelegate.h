@@ -37,13 +37,9 @@ private:
     bool keyPressed(const QKeyEvent& event);
     void edit(const QModelIndex& index, bool byItsButton);
     bool leaveEditor(QWidget& editor, int key);
-    std::unique_ptr<Cell> cellFor(const QStyleOptionViewItem& option,
-                                  const QModelIndex& index) const;
+    void prepare(Cell& cell, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+    // Null for a value without a button.
     std::unique_ptr<TextFieldCell> buttonCellFor(const QModelIndex& index) const;
-    void paintList(QPainter& painter, const QStyleOptionViewItem& option,
-                   const QString& text) const;
-    void paintCheckBox(QPainter& painter, const QStyleOptionViewItem& option,
-                       const ButtonCell& cell) const;
     bool trackButton(QMouseEvent& event, const QStyleOptionViewItem& option,
                      const QModelIndex& index);
     void toggle(QAbstractItemModel& model, const QModelIndex& index) const;

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QStyleOptionViewItem>
 #include <QWidget>
 #include <algorithm>
 
@@ -19,6 +20,21 @@ QString TextFieldCell::infoButtonImage() const {
         state = QStringLiteral("-hovered");
     return QStringLiteral("info-%1%2")
         .arg(iHighlighted ? QStringLiteral("selected") : QStringLiteral("normal"), state);
+}
+
+void TextFieldCell::setRow(const QStyleOptionViewItem& row, bool isHovered) {
+    iFont = row.font;
+    iHighlighted = row.state.testFlag(QStyle::State_Selected);
+    iMouseHoveredInInfoButton = isHovered;
+}
+
+void TextFieldCell::paint(QPainter& painter, const QStyleOptionViewItem& row) const {
+    drawInteriorWithFrame(painter, frameIn(row.rect));
+}
+
+QRectF TextFieldCell::frameIn(const QRect& row) {
+    constexpr qreal height = 19;
+    return QRectF(row).adjusted(0, std::max(0.0, (row.height() - height) / 2), 0, 0);
 }
 
 int TextFieldCell::hitTestForEvent(const QPointF& location, const QRectF& inRect) const {

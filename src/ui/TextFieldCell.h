@@ -40,6 +40,12 @@ public:
     // Name of the button's picture for its current state.
     QString infoButtonImage() const;
 
+    void setRow(const QStyleOptionViewItem& row, bool isHovered) override;
+    void paint(QPainter& painter, const QStyleOptionViewItem& row) const override;
+    // The frame of a cell in a row: cells are designed for single-line rows, and centred in higher
+    // ones.
+    static QRectF frameIn(const QRect& row);
+
     // The rectangle of the text, and of the editor while the text is edited.
     virtual QRectF titleRectForBounds(const QRectF& bounds) const = 0;
     // Empty when there is no room for the button.
