@@ -121,9 +121,6 @@ Publisher makeWebPublisher(const PublishOptions& options,
                            const std::shared_ptr<FlashTemplate>& tmpl, const QString& folder) {
     auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, bookName(options));
     output->setSingleFile(options.singleFile);
-    const auto progress =
-        std::make_shared<ProgressDisplay>(QStringLiteral("Making the web book"), options.quiet);
-    output->setProgress([progress](int done, int total) { progress->show(done, total); });
     auto* web = output.get();
     return {std::move(output), web};
 }
@@ -210,6 +207,17 @@ QString missingPages(const PDFToSWFPageConverter& converter, const FolveroOutput
            lines.join(u'\n');
 }
 
+// Pages that a preview leaves out need no more than their page file.
+FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& openPages) {
+    if (type != Type::web)
+        return classicFiles;
+    if (!openPages)
+        return webFiles;
+    return [open = *openPages](int page) {
+        return isWithin(open, page) ? PageFiles::web : PageFiles::classic;
+    };
+}
+
 struct MadeBook {
     QString file; // the file to open
     PublishTransaction::Counts counts;
@@ -238,6 +246,7 @@ MadeBook makeBook(const PublishOptions& options) {
     const auto operation =
         std::make_shared<ImportPDFOperation>(options.pdf, pages.range, importDPI, options.quality);
     operation->setDocument(std::move(opened));
+    operation->setFilesOf(filesFor(options.type, openPages));
     operation->setImportLinks(options.links);
     operation->setImportBookmarks(options.bookmarks);
     importPages(operation, options.quiet);

@@ -15,8 +15,9 @@ public:
     void published();
 
     // Writes seconds as JSON: "open", "import", "publish" and "total" in wall-clock time; "draw",
-    // "encode" and "write" summed over the "workers" page workers, and "idle", their waiting time
-    // during the import. A file that can't be written is reported, not an error: the book was made.
+    // "encode" and "write" summed over the "workers" page workers, a web book's files included, and
+    // "idle", their waiting time during the import. A file that can't be written is reported, not
+    // an error: the book was made.
     void write(const QString& path) const;
 
 private:

@@ -2,7 +2,6 @@
 
 #include "base/Log.h"
 #include "base/PlatformException.h"
-#include "drawing/WebPageFiles.h"
 #include "pdf/PDFLimits.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
@@ -80,7 +79,7 @@ void PageWorkers::killAll() {
 std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
     const QByteArray order = QFile::encodeName(iPDFPath).toBase64() + ' ' +
                              QFile::encodeName(iFolder).toBase64() + ' ' +
-                             QByteArray::number(iQuality) + (iForWebBook ? " web" : " pages");
+                             QByteArray::number(iQuality);
     try {
         auto process = iSpares ? iSpares->take() : nullptr;
         if (!process) {
@@ -115,7 +114,7 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
             iResults.erase(found);
             return result;
         }
-        if (iStop || (iStopped && iStopped())) {
+        if (iStop) {
             killAll();
             return PageResult{Message::translate("PageFailure", "drawing it was stopped"), {}};
         }
@@ -138,7 +137,9 @@ void PageWorkers::feed(Worker& worker) {
             worker.since = std::chrono::steady_clock::now();
         worker.pages.push_back(iWaiting.front());
         iWaiting.pop_front();
-        if (!worker.process->writeLine(QByteArray::number(worker.pages.back())))
+        const int page = worker.pages.back();
+        if (!worker.process->writeLine(QByteArray::number(page) +
+                                       (iFilesOf(page) == PageFiles::web ? " web" : "")))
             return; // a failure shows when reading
     }
 }
@@ -191,9 +192,9 @@ void PageWorkers::readStartupLine(Worker& worker, const QByteArray& line) {
     iFailedStarts = 0;
 }
 
-// An answer is "ok DRAW ENCODE WRITE" in seconds, "fail REASON", or, when the files can't be
-// written, "full REASON" (may succeed later) or "unwritable REASON". It refers to the first
-// requested page.
+// An answer is "ok DRAW ENCODE WRITE" in seconds, with a reason if files for a web book are
+// missing, "fail REASON", or, when the files can't be written, "full REASON" (may succeed later) or
+// "unwritable REASON". It refers to the first requested page.
 void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     if (!worker.ready) {
         readStartupLine(worker, line);
@@ -201,16 +202,19 @@ void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     }
     if (worker.pages.empty())
         return;
-    PageResult result;
+    PageResult& result = iResults[worker.pages.front()];
     const auto fields = line.split(' ');
-    if (fields[0] == "ok" && fields.size() == 4) {
-        result.timing = {fields[1].toDouble(), fields[2].toDouble(), fields[3].toDouble()};
-    } else {
+    if (fields[0] == "ok" && fields.size() >= 4) {
+        result.made.timing = {fields[1].toDouble(), fields[2].toDouble(), fields[3].toDouble()};
+        if (fields.size() > 4)
+            result.made.degraded = reasonFrom(fields.mid(4).join(' '));
+    } else if (fields[0] == "full" || fields[0] == "unwritable") {
         const Message reason = reasonFrom(line.mid(fields[0].size() + 1));
         result.error = fields[0] == "full" ? reason.temporary() : reason;
-        result.isUnwritten = fields[0] == "full" || fields[0] == "unwritable";
+        result.isUnwritten = true;
+    } else {
+        result.error = reasonFrom(line.mid(fields[0].size() + 1));
     }
-    iResults[worker.pages.front()] = std::move(result);
     worker.pages.pop_front();
     worker.since = std::chrono::steady_clock::now();
 }
@@ -263,13 +267,15 @@ void PageWorkers::replaceUnstarted(Worker& worker) {
     worker = newWorker(again ? startProcess() : nullptr);
 }
 
-// Leaves no partial files of a failed page.
+// Leaves no partial files of a failed page. A page file that is there before the others is
+// complete.
 void PageWorkers::removeFilesOf(int page) const {
     const WebPageFiles files(iFolder, page);
-    for (const QString& file : iForWebBook ? files.all() : QStringList(files.pageFile)) {
+    const bool isForWeb = iFilesOf(page) == PageFiles::web;
+    for (const QString& file : isForWeb ? files.all() : QStringList(files.pageFile))
         QFile::remove(file);
+    for (const QString& file : files.all() + QStringList(files.pageFile))
         QFile::remove(Files::temporaryPath(file));
-    }
 }
 
 void PageWorkers::requeuePages(Worker& worker) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
-#include "drawing/PageImage.h"
+#include "drawing/PageMaker.h"
 #include "drawing/SpareWorkers.h"
 #include "system/ChildProcess.h"
 
@@ -18,8 +18,8 @@
 
 // The result of one page.
 struct PageResult {
-    Message error; // null when the page file was written
-    PageTiming timing;
+    Message error; // why it could not be made; null when it was. There may be a page file even so
+    MadePage made;
     bool isUnwritten = false; // the work folder can't be written; not the page's fault
 };
 
@@ -28,7 +28,7 @@ struct PageResult {
 // only. Pages must be collected in ascending order. For one thread.
 class PageWorkers {
 public:
-    // Pages (one-based, ascending) are written as "N.jpg" to the folder. stop is polled while
+    // Pages (one-based, ascending) are written as WebPageFiles to the folder. stop is polled while
     // waiting and cancels everything. No process is started before start().
     PageWorkers(QString pdfPath, QString folder, int quality, std::vector<int> pages,
                 const std::atomic<bool>& stop);
@@ -38,11 +38,8 @@ public:
     // program.
     void setProgram(const QString& path) { iProgram = path; }
 
-    // A second condition to stop, polled while waiting.
-    void setStopped(std::function<bool()> stopped) { iStopped = std::move(stopped); }
-
-    // Makes the files that a web book has of each page instead of its page file.
-    void setForWebBook(bool on) { iForWebBook = on; }
+    // Which files a page gets; page files by default.
+    void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
 
     // Workers that are already running, to be used first; none by default.
     void setSpares(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
@@ -92,11 +89,10 @@ private:
     QString iPDFPath;
     QString iFolder;
     int iQuality;
-    bool iForWebBook = false;
+    FilesOfPages iFilesOf = classicFiles;
     std::deque<int> iWaiting; // not yet sent to a worker, ascending
     int iAwaited = 0;         // the page being waited for
     const std::atomic<bool>& iStop;
-    std::function<bool()> iStopped;
     std::size_t iPageCount;
     std::chrono::milliseconds iTimeout;
     int iFailedStarts = 0; // consecutive workers that ended before they were ready

@@ -2,6 +2,19 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
+
+// Which files are made of a page: its page file, or all that a web book has of it.
+enum class PageFiles { classic, web };
+
+// Which files each page gets, by its one-based number.
+using FilesOfPages = std::function<PageFiles(int page)>;
+inline PageFiles classicFiles(int /*page*/) {
+    return PageFiles::classic;
+}
+inline PageFiles webFiles(int /*page*/) {
+    return PageFiles::web;
+}
 
 // The files made of one page for a web book, beside its page file "N.jpg" in the work folder of an
 // import. Each may be missing.
@@ -24,5 +37,5 @@ struct WebPageFiles {
     QString thumbnail; // fits into WebPageMaker's thumbnail box
     QString largeVector;  // shown when the page is enlarged: at most
     QString largePicture; // one of the two exists
-    QString text;         // as packed by PDFSerialization
+    QString text;         // as packed by PDFSerialization; the last one to be written
 };

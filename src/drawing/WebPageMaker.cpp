@@ -6,13 +6,11 @@
 #include "pdf/WebPEncoder.h"
 #include "system/Files.h"
 
-#include <QFileInfo>
 #include <algorithm>
 
 namespace {
 
-constexpr double normalScale = 2.0; // pixels per point, as in the page file
-constexpr double largeScale = 4.0;
+constexpr double largeScale = 4.0;  // pixels per point, twice those of the page file
 constexpr double mediumScale = 3.0; // used when the large one has too many bytes
 
 // The thumbnail panel shows them at most half as wide and high, on double-density screens.
@@ -53,33 +51,37 @@ void write(const QString& path, const QByteArray& data) {
 
 } // namespace
 
-PageTiming WebPageMaker::make(int page, const WebPageFiles& files, const DrawControl& control) {
-    PageTiming timing;
+PageTiming WebPageMaker::make(const WebPageFiles& files, qint64 pageFileSize) {
     Stopwatch watch;
-    const DrawablePage drawn(iDocument, page - 1, control, DrawablePage::Content::picturesAndText);
-    drawn.draw(normalScale, iBitmap);
-    const QByteArray text = PDFSerialization::pack(drawn.text());
-    timing.draw = watch.lap();
-
-    const qint64 pageFileSize = QFileInfo(files.pageFile).size();
+    const QByteArray text = PDFSerialization::pack(iPage.text());
+    iTiming.draw += watch.lap();
     const QByteArray normal = normalPicture(pageFileSize);
     const QByteArray small = thumbnail();
-    timing.encode = watch.lap();
-    if (!normal.isEmpty())
-        write(files.picture, normal);
-    write(files.thumbnail, small);
-    write(files.text, text);
-    timing.write = watch.lap();
+    iTiming.encode += watch.lap();
+    const auto writeAll = [&] {
+        watch.lap();
+        if (!normal.isEmpty())
+            write(files.picture, normal);
+        write(files.thumbnail, small);
+        write(files.text, text);
+        iTiming.write += watch.lap();
+    };
 
     // The text's size in the book is close to its packed size.
     const qint64 taken =
         (normal.isEmpty() ? pageFileSize : normal.size()) + small.size() + text.size();
-    makeLarge(drawn, files, qint64(maxBytesRatio * double(pageFileSize)) - taken, timing);
-    return timing;
+    try {
+        makeLarge(files, qint64(maxBytesRatio * double(pageFileSize)) - taken);
+    } catch (...) {
+        writeAll();
+        throw;
+    }
+    writeAll();
+    return iTiming;
 }
 
 // Empty when the page file is better.
-QByteArray WebPageMaker::normalPicture(qint64 pageFileSize) {
+QByteArray WebPageMaker::normalPicture(qint64 pageFileSize) const {
     if (!fitsWebP(iBitmap))
         return {};
     const auto pays = [&](const QByteArray& data) {
@@ -101,26 +103,25 @@ QByteArray WebPageMaker::thumbnail() const {
                                 thumbnailQuality);
 }
 
-void WebPageMaker::makeLarge(const DrawablePage& page, const WebPageFiles& files, qint64 largest,
-                             PageTiming& timing) {
+void WebPageMaker::makeLarge(const WebPageFiles& files, qint64 largest) {
     Stopwatch watch;
-    const QByteArray vector = page.vectorPicture();
-    timing.draw += watch.lap();
+    const QByteArray vector = iPage.vectorPicture();
+    iTiming.draw += watch.lap();
     if (!vector.isEmpty() && vector.size() <= std::min(largest, maxVectorBytes)) {
         write(files.largeVector, vector);
     } else {
-        const QByteArray picture = largePicture(page, largest);
+        const QByteArray picture = largePicture(largest);
         if (!picture.isEmpty())
             write(files.largePicture, picture);
     }
-    timing.encode += watch.lap();
+    iTiming.encode += watch.lap();
 }
 
 // The best picture that fits the limit.
-QByteArray WebPageMaker::largePicture(const DrawablePage& page, qint64 largest) {
+QByteArray WebPageMaker::largePicture(qint64 largest) {
     const int normalWidth = iBitmap.width();
     for (const double scale : {largeScale, mediumScale}) {
-        page.draw(scale, iBitmap);
+        iPage.draw(scale, iBitmap);
         // A page near the bitmap limits can't get any larger.
         if (!fitsWebP(iBitmap) || iBitmap.width() <= normalWidth)
             continue;

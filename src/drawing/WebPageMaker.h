@@ -1,26 +1,27 @@
 #pragma once
 
-#include "drawing/PageImage.h"
+#include "drawing/PageTiming.h"
 #include "drawing/WebPageFiles.h"
+#include "pdf/DrawablePage.h"
 
-// Makes the files that a web book has of a page beyond the page file, which must exist: its size
-// limits theirs. Used by the page workers. Keeps its buffer from page to page.
+// Makes the files that a web book has of one page beyond the page file, whose size limits theirs.
 class WebPageMaker {
 public:
-    explicit WebPageMaker(const DrawablePDF& document) : iDocument(document) {}
+    // bitmap is the page as it was drawn for the page file. It is overwritten.
+    WebPageMaker(const DrawablePage& page, PageBitmap& bitmap) : iPage(page), iBitmap(bitmap) {}
 
-    // Writes the files of the page with that one-based number, each atomically. A page without text
-    // has an empty list. Throws PlatformException.
-    PageTiming make(int page, const WebPageFiles& files, const DrawControl& control = {});
+    // Writes the files, each atomically. A page without text has an empty list. Throws
+    // PlatformException; what was made before is written all the same.
+    PageTiming make(const WebPageFiles& files, qint64 pageFileSize);
 
 private:
-    QByteArray normalPicture(qint64 pageFileSize);
+    QByteArray normalPicture(qint64 pageFileSize) const;
     QByteArray thumbnail() const;
     // largest is in bytes.
-    void makeLarge(const DrawablePage& page, const WebPageFiles& files, qint64 largest,
-                   PageTiming& timing);
-    QByteArray largePicture(const DrawablePage& page, qint64 largest);
+    void makeLarge(const WebPageFiles& files, qint64 largest);
+    QByteArray largePicture(qint64 largest);
 
-    const DrawablePDF& iDocument;
-    PageBitmap iBitmap;
+    const DrawablePage& iPage;
+    PageBitmap& iBitmap;
+    PageTiming iTiming;
 };

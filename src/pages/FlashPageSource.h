@@ -1,10 +1,15 @@
 #pragma once
 
+#include "base/Message.h"
+#include "drawing/WebPageFiles.h"
 #include "pages/FlashPage.h"
 
 #include <QString>
 #include <atomic>
+#include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 // The ordered list of page files of a book. It is filled once, by generatePages() and then
@@ -51,6 +56,18 @@ public:
     // True when the page files are our own working files, which are never modified once written, so
     // that a publisher may hard-link them instead of copying.
     virtual bool ownsPageFiles() const { return false; }
+
+    // Where the files are that a web book has beside a page file, by the page's one-based number;
+    // none when the source makes no such files.
+    virtual std::optional<WebPageFiles> webFilesOf(int /*page*/) const { return {}; }
+    // Pages whose files could not all be made, by their numbers, and why.
+    virtual std::map<int, Message> degradedPages() const { return {}; }
+    // The numbers of the pages whose files for a web book have not been made yet, ascending.
+    virtual std::vector<int> pagesWithoutWebFiles() const { return {}; }
+    // Makes the files of these pages. Returns early when stop is set. progress gets the number of
+    // pages done. Throws PlatformException when the work folder can't be written.
+    virtual void makeWebFiles(const std::vector<int>& /*pages*/, const std::atomic<bool>& /*stop*/,
+                              const std::function<void(int done)>& /*progress*/) {}
 
     // The one-based page numbers that a text such as "3,1-2" names, sorted and without duplicates;
     // 1 to atTotalPage for "ALL". Numbers beyond the document are kept. Throws PlatformException

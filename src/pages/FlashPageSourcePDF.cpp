@@ -4,7 +4,9 @@
 #include "base/NotificationCenter.h"
 #include "base/PlatformException.h"
 
+#include <QFileInfo>
 #include <QScopeGuard>
+#include <algorithm>
 #include <utility>
 
 FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi,
@@ -72,4 +74,23 @@ std::shared_ptr<FlashPage> FlashPageSourcePDF::getNormalPageAtIndex(int pageInde
             return page;
     }
     return nullptr;
+}
+
+std::optional<WebPageFiles> FlashPageSourcePDF::webFilesOf(int page) const {
+    return WebPageFiles(iToPageConverter->converterWorkFolder(), page);
+}
+
+// A page that could not be drawn won't be now, and one that is not a picture of ours has no such
+// files.
+std::vector<int> FlashPageSourcePDF::pagesWithoutWebFiles() const {
+    std::vector<int> numbers;
+    const auto& degraded = iToPageConverter->degradedPages();
+    for (const auto& page : normalPages()) {
+        const WebPageFiles files(iToPageConverter->converterWorkFolder(), page->pageIndex());
+        if (page->pageFilePath() == files.pageFile && QFileInfo::exists(files.pageFile) &&
+            !QFileInfo::exists(files.text) && !degraded.contains(page->pageIndex()))
+            numbers.push_back(page->pageIndex());
+    }
+    std::sort(numbers.begin(), numbers.end());
+    return numbers;
 }

@@ -43,6 +43,15 @@ public:
     std::shared_ptr<FlashPage> getNormalPageAtIndex(int pageIndex) const override;
 
     bool ownsPageFiles() const override { return true; }
+    std::optional<WebPageFiles> webFilesOf(int page) const override;
+    std::map<int, Message> degradedPages() const override {
+        return iToPageConverter->degradedPages();
+    }
+    std::vector<int> pagesWithoutWebFiles() const override;
+    void makeWebFiles(const std::vector<int>& pages, const std::atomic<bool>& stop,
+                      const std::function<void(int done)>& progress) override {
+        iToPageConverter->makeWebFiles(pages, stop, progress);
+    }
 
     // Why the document could not be opened; null when it was.
     const Message& openError() const { return iOpenError; }

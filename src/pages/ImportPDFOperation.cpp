@@ -120,6 +120,7 @@ void ImportPDFOperation::importPages() {
         setBook(std::move(book));
         if (!source->openError().isNull())
             iFailures << source->openError();
+        source->toPageConverter()->setFilesOf(iFilesOf);
         source->startDrawing();
         if (iBook.document)
             readDocumentProperties(*iBook.document);

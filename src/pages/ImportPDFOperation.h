@@ -24,6 +24,9 @@ public:
     bool importBookmarks() const { return iImportBookmarks; }
     void setImportBookmarks(bool on) { iImportBookmarks = on; }
 
+    // Which files pages get; page files by default.
+    void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
+
     // The document, if the caller has already opened it and does not use it until the import is
     // finished. By default the import opens the file.
     void setDocument(OpenedPDF document) { iDocument = std::move(document); }
@@ -54,6 +57,7 @@ private:
     void checkUnchanged();
 
     OpenedPDF iDocument;
+    FilesOfPages iFilesOf = classicFiles;
     // Shared, since the document may outlive the operation.
     std::shared_ptr<std::atomic<bool>> iStopReading = std::make_shared<std::atomic<bool>>(false);
     std::mutex iMutex; // guards the page source, which cancel() reaches from another thread

@@ -8,6 +8,7 @@
 #include "system/Files.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <utility>
 
 PDFToSWFPageConverter::~PDFToSWFPageConverter() {
@@ -35,6 +36,7 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     iWorkers = std::make_unique<PageWorkers>(PDFPath(), converterWorkFolder(), quality(),
                                              std::move(toDraw), stop);
     iWorkers->setSpares(std::exchange(iSpares, nullptr));
+    iWorkers->setFilesOf(iFilesOf);
     if (!iWorkers->start())
         iWorkers.reset();
     iWorkerCount = iWorkers ? iWorkers->workerCount() : 0;
@@ -63,25 +65,49 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
             Message::translate("PDFDocument", "page %1 does not exist; the document has %2")
                 .arg(QString::number(page), QString::number(PDFDoc()->pageCount())));
     }
+    makePage(page);
+}
+
+void PDFToSWFPageConverter::makeWebFiles(const std::vector<int>& pages,
+                                         const std::atomic<bool>& stop,
+                                         const std::function<void(int)>& progress) {
+    const auto end = qScopeGuard([this] { endDrawingAhead(); });
+    iFilesOf = webFiles;
+    drawAhead(pages, stop);
+    for (std::size_t i = 0; i < pages.size() && !stop; ++i) {
+        makePage(pages[i]);
+        progress(int(i) + 1);
+    }
+}
+
+void PDFToSWFPageConverter::makePage(int page) {
     const auto drawn = iWorkers ? iWorkers->waitFor(page) : std::nullopt;
     const PageResult result = drawn ? *drawn : drawInProcess(page);
-    iTiming.draw += result.timing.draw;
-    iTiming.encode += result.timing.encode;
-    iTiming.write += result.timing.write;
+    iTiming += result.made.timing;
     if (result.isUnwritten)
         throw PlatformException(ErrorKind::workFolder, result.error);
-    if (!result.error.isNull())
-        iFailedPages.push_back({page, result.error});
+    if (iStop && *iStop)
+        return; // no page's fault
+    const Message& failure = result.error.isNull() ? result.made.degraded : result.error;
+    if (failure.isNull())
+        return;
+    const bool hasPageFile =
+        iFilesOf(page) == PageFiles::web && QFileInfo::exists(workFile(page, "jpg"));
+    if (hasPageFile)
+        iDegradedPages[page] = failure;
+    else
+        iFailedPages.push_back({page, failure});
 }
 
 PageResult PDFToSWFPageConverter::drawInProcess(int page) {
+    const PageFiles wanted = iFilesOf(page);
     try {
         if (!iPDFRep) {
             iOwnDocument = std::make_unique<DrawablePDF>(PDFPath());
-            iPDFRep = std::make_unique<PageImageMaker>(*iOwnDocument, compressionFactor(quality()));
+            iPDFRep = std::make_unique<PageMaker>(*iOwnDocument, converterWorkFolder(),
+                                                  compressionFactor(quality()));
         }
-        return {QString(),
-                iPDFRep->make(page, workFile(page, "jpg"), {iStop, PDFLimits::maxPageTime})};
+        return {{}, iPDFRep->make(page, wanted, {iStop, PDFLimits::maxPageTime})};
     } catch (const PlatformException& failure) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
         return {failure.message(), {}, failure.kind() == ErrorKind::pageWrite};

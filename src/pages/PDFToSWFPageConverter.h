@@ -5,6 +5,8 @@
 #include "pages/PDFToPageConverter.h"
 
 #include <atomic>
+#include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -22,6 +24,9 @@ public:
 
     // Path of the external page converter in the resources, or a null text.
     static QString getPDF2swfLibPath();
+
+    // Which files pages get; page files by default.
+    void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
 
     // Workers that are already running, for the next drawAhead().
     void setSpareWorkers(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
@@ -41,6 +46,14 @@ public:
     void pdfPageToImage(int page, const QString& toPath);
 
     const std::vector<FailedPage>& failedPages() const { return iFailedPages; }
+    // Pages with a page file that lack files of a web book, by their one-based numbers.
+    const std::map<int, Message>& degradedPages() const { return iDegradedPages; }
+
+    // Makes what a web book needs of these pages and is not there yet; their page files are.
+    // Returns early when stop is set. progress gets the number of pages done. Throws
+    // PlatformException when the work folder can't be written.
+    void makeWebFiles(const std::vector<int>& pages, const std::atomic<bool>& stop,
+                      const std::function<void(int done)>& progress);
 
     // Total seconds for all pages so far.
     const PageTiming& timing() const { return iTiming; }
@@ -49,13 +62,16 @@ public:
 private:
     QString workFile(int page, const char* extension) const;
     PageResult drawInProcess(int page);
+    void makePage(int page);
 
     std::shared_ptr<SpareWorkers> iSpares;
     std::unique_ptr<PageWorkers> iWorkers;
     std::unique_ptr<DrawablePDF> iOwnDocument; // opened to draw
-    std::unique_ptr<PageImageMaker> iPDFRep;   // pages in this process
+    std::unique_ptr<PageMaker> iPDFRep;        // pages in this process
+    FilesOfPages iFilesOf = classicFiles;
     const std::atomic<bool>* iStop = nullptr;
     std::vector<FailedPage> iFailedPages;
+    std::map<int, Message> iDegradedPages;
     PageTiming iTiming;
     std::size_t iWorkerCount = 0;
 };

@@ -4,6 +4,7 @@
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "ui/ImportWindow.h"
+#include "ui/OutputWindow.h"
 #include "ui/Panels.h"
 
 #include <QButtonGroup>
@@ -155,6 +156,9 @@ void ImportWindowDelegate::startImport() {
             this, [this, operation = weak.lock()] { importDidFinish(operation); },
             Qt::QueuedConnection);
     });
+    // Most likely the next book is of the same kind as the last.
+    if (settings.outputType() == OutputWindow::webBook)
+        iImportPDF->setFilesOf(webFiles);
     iImportPDF->setImportLinks(settings.importLinks() == 1);
     iImportPDF->setImportBookmarks(settings.importBookmark() == 1);
     logger().debug(QStringLiteral("before add operation"));

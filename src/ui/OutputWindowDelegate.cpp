@@ -7,6 +7,7 @@
 #include "output/EmbedSnippet.h"
 #include "output/ExistingBook.h"
 #include "output/FolveroOutputApp.h"
+#include "pages/WebFilesOperation.h"
 #include "system/Files.h"
 #include "ui/OutputWindow.h"
 #include "ui/Panels.h"
@@ -15,7 +16,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -24,7 +24,6 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopeGuard>
 #include <QStandardPaths>
 #include <utility>
 
@@ -39,8 +38,8 @@ constexpr int progressWidth = 340;
 constexpr qsizetype maxFilesShown = 3;
 
 // Stays open until its run ends. Its bar is too low for a text.
-std::unique_ptr<QProgressDialog> progressWindow(QWidget* parent) {
-    auto dialog = std::make_unique<QProgressDialog>(parent);
+QProgressDialog* progressWindow(QWidget* parent) {
+    auto* dialog = new QProgressDialog(parent);
     constexpr int patienceMilliseconds = 400;
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setMinimumDuration(patienceMilliseconds);
@@ -53,11 +52,15 @@ std::unique_ptr<QProgressDialog> progressWindow(QWidget* parent) {
     return dialog;
 }
 
-void showProgress(QProgressDialog& dialog, int done, int total) {
-    dialog.setLabelText(OutputWindowDelegate::tr("Making the web book… %1%")
-                            .arg(total > 0 ? 100LL * done / total : 0));
-    dialog.setMaximum(total);
-    dialog.setValue(done);
+// Not with setValue() of the dialog, which processes events.
+void showProgress(QProgressDialog* dialog, int done, int total) {
+    if (!dialog)
+        return;
+    dialog->setLabelText(OutputWindowDelegate::tr("Making the web book… %1%")
+                             .arg(total > 0 ? 100LL * done / total : 0));
+    auto* bar = dialog->findChild<QProgressBar*>();
+    bar->setMaximum(total);
+    bar->setValue(done);
 }
 
 } // namespace
@@ -135,6 +138,7 @@ void OutputWindowDelegate::showState() {
 }
 
 void OutputWindowDelegate::endSheet(int returnCode) {
+    iOutput.reset();
     iWindow->done(returnCode);
 }
 
@@ -164,33 +168,67 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     return std::make_unique<FolveroOutput>(iBook.pageSource, iFlashTmpl, folder, name);
 }
 
-// Draws the pages again, which takes as long as an import.
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString& folder,
                                                                    const QString& name) {
     auto output = std::make_unique<FolveroOutputWeb>(iBook.pageSource, iFlashTmpl, folder, name);
     output->setTitle(AppSettings::shareInstance().lastOutputFileTitle());
     output->setSingleFile(iWindow->chkSingleFile->isChecked());
-    output->setProgress([this](int done, int total) { showProgress(*iProgress, done, total); });
-    output->setCancelled([this] {
-        QCoreApplication::processEvents();
-        return iProgress->wasCanceled();
-    });
     return output;
 }
 
 // If the user declines, the sheet stays open to choose another folder.
 void OutputWindowDelegate::onPublish() {
     saveChoices();
-    {
-        const auto output = makeOutput();
-        const QString lost = overwriteWarning(*output);
-        if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
-            return;
-        try {
-            publish(*output);
-        } catch (const PlatformException& failure) {
-            logger().error(QStringLiteral("publish error:%1").arg(failure.reason()));
-        }
+    iOutput = makeOutput();
+    const QString lost = overwriteWarning(*iOutput);
+    if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
+        return;
+    const bool isWebBook = AppSettings::shareInstance().outputType() == OutputWindow::webBook;
+    if (isWebBook && iBook.pageSource && !iBook.pageSource->pagesWithoutWebFiles().empty())
+        makeWebFiles();
+    else
+        publishAndEnd();
+}
+
+// Of pages that were imported for another kind of book. Takes as long as an import.
+void OutputWindowDelegate::makeWebFiles() {
+    iProgress = progressWindow(iWindow);
+    showProgress(iProgress, 0, 1);
+    connect(iProgress, &QProgressDialog::canceled, this, [this] { iQueue.cancelAllOperations(); });
+    const auto operation = std::make_shared<WebFilesOperation>(iBook.pageSource);
+    operation->setProgress([this](int done, int total) {
+        QMetaObject::invokeMethod(
+            this, [=, this] { showProgress(iProgress, done, total); }, Qt::QueuedConnection);
+    });
+    operation->setFinishedObserver([this, weak = std::weak_ptr<WebFilesOperation>(operation)] {
+        QMetaObject::invokeMethod(
+            this, [this, operation = weak.lock()] { webFilesAreMade(operation); },
+            Qt::QueuedConnection);
+    });
+    iQueue.addOperation(operation);
+}
+
+// The progress window is closed first: it would stay open under the next question.
+void OutputWindowDelegate::webFilesAreMade(const std::shared_ptr<WebFilesOperation>& operation) {
+    const bool isCancelled = iProgress && iProgress->wasCanceled();
+    delete iProgress;
+    if (isCancelled) {
+        endSheet(1);
+        return;
+    }
+    if (!operation->failure().isNull()) {
+        iQuestions.showMessage(tr("The book was not published"), operation->failure().local());
+        endSheet(1);
+        return;
+    }
+    publishAndEnd();
+}
+
+void OutputWindowDelegate::publishAndEnd() {
+    try {
+        publish(*iOutput);
+    } catch (const PlatformException& failure) {
+        logger().error(QStringLiteral("publish error:%1").arg(failure.reason()));
     }
     endSheet(1);
 }
@@ -224,14 +262,6 @@ void OutputWindowDelegate::rememberBook(const FolveroOutput& output) const {
                          iWindow->txtTitle->text(), place(output)});
 }
 
-// The progress window is closed with the run: it would stay open under the next question.
-void OutputWindowDelegate::run(FolveroOutput& output) {
-    const auto end = qScopeGuard([this] { iProgress.reset(); });
-    iProgress = progressWindow(iWindow);
-    showProgress(*iProgress, 0, 1);
-    output.ouputTheBook();
-}
-
 void OutputWindowDelegate::publish(FolveroOutput& output) {
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(AppSettings::shareInstance().lastOutputFileTitle().toHtmlEscaped());
@@ -239,9 +269,7 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     Book book = iBook;
     book.pageSize = AppSettings::shareInstance().pageSize();
     output.setBook(std::move(book));
-    run(output);
-    if (output.wasCancelled())
-        return;
+    output.ouputTheBook();
     const QString result = output.outputFileName();
     if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
         const QString cause =

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "base/Operation.h"
 #include "output/FolveroOutput.h"
 
 #include <QObject>
+#include <QPointer>
 #include <functional>
 #include <memory>
 #include <optional>
 
 class OutputWindow;
 class QProgressDialog;
+class WebFilesOperation;
 
 // Controls the publish sheet: reads the user's choices, publishes while the sheet is open, and
 // offers to open the result. The sheet ends with 1 after a publish, successful or not, and 0
@@ -79,7 +82,9 @@ private:
     static QString place(const FolveroOutput& output);
     void rememberBook(const FolveroOutput& output) const;
     void publish(FolveroOutput& output);
-    void run(FolveroOutput& output);
+    void publishAndEnd();
+    void makeWebFiles();
+    void webFilesAreMade(const std::shared_ptr<WebFilesOperation>& operation);
     void endSheet(int returnCode);
 
     OutputWindow* iWindow;
@@ -91,5 +96,8 @@ private:
     bool iIsOtherDocument = false;
     Questions iQuestions;
     // Of the current run.
-    std::unique_ptr<QProgressDialog> iProgress;
+    std::unique_ptr<FolveroOutput> iOutput;
+    QPointer<QProgressDialog> iProgress; // while web files are made
+    // Last, so that it is destroyed first: its thread must end before anything that it may use.
+    OperationQueue iQueue;
 };

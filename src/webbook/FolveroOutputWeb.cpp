@@ -93,14 +93,8 @@ void FolveroOutputWeb::ouputTheBook() {
         FolveroOutput::ouputTheBook();
         return;
     }
-    iWebPages = std::make_unique<WebPages>(iBook);
+    iWebPages = std::make_unique<WebPages>(*iBook.pageSource);
     const auto end = qScopeGuard([this] { iWebPages.reset(); });
-    iWebPages->setCancelled([this] { return isCancelled(); });
-    iWebPages->setProgress(iProgress);
-    iWebPages->setWanted(
-        [this](int number) { return !iOpenPages || isWithin(*iOpenPages, number); });
-    if (!makePages())
-        return;
     for (const WebPage& page : iWebPages->pages()) {
         if (!page.failure.isNull())
             iDegradedPages.emplace_back(page.number, page.failure);
@@ -115,17 +109,6 @@ void FolveroOutputWeb::ouputTheBook() {
     describeBook();
     iBook.pageSource = webPageSource();
     FolveroOutput::ouputTheBook();
-}
-
-bool FolveroOutputWeb::makePages() {
-    try {
-        if (iWebPages->make())
-            return true;
-        markCancelled();
-    } catch (const PlatformException& failure) {
-        reportFailure(failure.message());
-    }
-    return false;
 }
 
 // The pages may have been drawn long before their texts and links are read.

@@ -5,7 +5,6 @@
 #include "webbook/WebBookMetadata.h"
 #include "webbook/WebPages.h"
 
-#include <functional>
 #include <optional>
 
 // Writes a web book: a book folder whose pages take fewer bytes, with clickable links, contents,
@@ -29,11 +28,6 @@ public:
     // neither pictures nor text. None includes all.
     void setOpenPages(std::optional<std::vector<PageRun>> pages) { iOpenPages = std::move(pages); }
 
-    // Called while pages are made, with the number of pages done and the total.
-    void setProgress(std::function<void(int done, int total)> progress) {
-        iProgress = std::move(progress);
-    }
-
     void ouputTheBook() override;
     QStringList foreignFiles() const override;
 
@@ -54,7 +48,6 @@ protected:
     void finishHTMLPage(const QString& file) override;
 
 private:
-    bool makePages();
     void checkDocumentUnchanged() const;
     void readMetadata();
     void describeBook();
@@ -72,7 +65,6 @@ private:
     QString playerPart(const QString& path) const;
     std::shared_ptr<FlashPageSource> webPageSource() const;
 
-    std::function<void(int, int)> iProgress = [](int, int) {};
     std::unique_ptr<WebPages> iWebPages; // of the current run
     QString iTitle;
     bool iIsSingleFile = false;

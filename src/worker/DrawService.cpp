@@ -1,18 +1,16 @@
 #include "worker/DrawService.h"
 
 #include "base/PlatformException.h"
-#include "drawing/PageImage.h"
+#include "drawing/PageMaker.h"
 #include "drawing/PageQuality.h"
-#include "drawing/WebPageMaker.h"
+#include "pdf/DrawablePDF.h"
 #include "pdf/PDFLimits.h"
-#include "system/Files.h"
 #include "worker/WorkerSandbox.h"
 
 #include <QByteArrayList>
 #include <QFile>
 #include <csignal>
 #include <cstdlib>
-#include <functional>
 #include <iostream>
 #include <malloc.h>
 #include <string>
@@ -20,10 +18,12 @@
 
 namespace {
 
+std::string onOneLine(QString reason) {
+    return reason.replace(u'\n', u' ').toStdString();
+}
+
 void answerFailure(const QString& reason, const char* kind = "fail") {
-    QString line = reason;
-    line.replace(u'\n', u' ');
-    std::cout << kind << ' ' << line.toStdString() << std::endl;
+    std::cout << kind << ' ' << onOneLine(reason) << std::endl;
 }
 
 // Write errors are not the page's fault.
@@ -33,32 +33,20 @@ const char* kindOf(const PlatformException& failure) {
     return failure.message().isTemporary() ? "full" : "unwritable";
 }
 
-using MakePage = std::function<PageTiming(int page, const DrawControl& control)>;
-
-// The function that makes the requested kind of files.
-MakePage pageMaker(const DrawablePDF& document, const QByteArrayList& order,
-                   const QString& folder) {
-    if (order.value(3) == "web") {
-        return [maker = std::make_shared<WebPageMaker>(document),
-                folder](int page, const DrawControl& control) {
-            return maker->make(page, WebPageFiles(folder, page), control);
-        };
-    }
-    const double factor = compressionFactor(order.value(2).toInt());
-    return [maker = std::make_shared<PageImageMaker>(document, factor),
-            folder](int page, const DrawControl& control) {
-        return maker->make(page, Files::join(folder, QStringLiteral("%1.jpg").arg(page)), control);
-    };
+void answer(const MadePage& made) {
+    std::cout << "ok " << made.timing.draw << ' ' << made.timing.encode << ' ' << made.timing.write;
+    if (!made.degraded.isNull())
+        std::cout << ' ' << onOneLine(made.degraded.english());
+    std::cout << std::endl;
 }
 
-void servePages(const MakePage& make) {
+void servePages(PageMaker& maker) {
     const DrawControl control{nullptr, PDFLimits::maxPageTime};
     for (std::string line; std::getline(std::cin, line);) {
         const int page = std::atoi(line.c_str());
+        const auto wanted = line.ends_with(" web") ? PageFiles::web : PageFiles::classic;
         try {
-            const PageTiming timing = make(page, control);
-            std::cout << "ok " << timing.draw << ' ' << timing.encode << ' ' << timing.write
-                      << std::endl;
+            answer(maker.make(page, wanted, control));
         } catch (const PlatformException& failure) {
             answerFailure(failure.reason(), kindOf(failure));
         } catch (const std::bad_alloc&) {
@@ -91,9 +79,9 @@ void serveDrawing() {
     enterWorkerSandbox(path, workFolder);
     try {
         const DrawablePDF document(path, DrawablePDF::Access::mapped);
-        const MakePage make = pageMaker(document, order, workFolder);
+        PageMaker maker(document, workFolder, compressionFactor(order.value(2).toInt()));
         std::cout << "ready" << std::endl;
-        servePages(make);
+        servePages(maker);
     } catch (const PlatformException& failure) {
         answerFailure(failure.reason());
     }

@@ -23,11 +23,13 @@ protected:
         auto workers =
             std::make_unique<PageWorkers>("none.pdf", iFolder.path(), 100, numbers, iStop);
         workers->setProgram(program);
+        workers->setFilesOf([this](int) { return iFiles; });
         EXPECT_TRUE(workers->start());
         return workers;
     }
 
     QTemporaryDir iFolder;
+    PageFiles iFiles = PageFiles::classic;
     std::atomic<bool> iStop{false};
 };
 
@@ -51,6 +53,23 @@ TEST_F(PageWorkersTest, LosesOnlyThePageThatEndsAWorker) {
         ASSERT_TRUE(result) << page;
         EXPECT_EQ(result->error.isNull(), !lost.contains(page)) << page;
     }
+}
+
+// Its page file is complete when the others are begun.
+TEST_F(PageWorkersTest, KeepsThePageFileOfAPageThatEndsAWorkerLater) {
+    iFiles = PageFiles::web;
+    const auto workers = start(3, "cd \"${0%/*}\"\necho ready\nwhile read page kind; do\n"
+                                  "[ $kind = web ] && :>$page.webp\n"
+                                  "case $page in 1) :>1.jpg; exit 1;; 2) exit 1;; esac\n"
+                                  "echo ok 0 0 0 too large\ndone\n");
+    for (int page = 1; page <= 3; ++page) {
+        const auto result = workers->waitFor(page);
+        ASSERT_TRUE(result);
+        EXPECT_EQ(result->error.isNull(), page == 3) << page;
+        EXPECT_EQ(result->made.degraded.english(), page == 3 ? "too large" : QString()) << page;
+        EXPECT_EQ(QFile::exists(iFolder.filePath(QString("%1.webp").arg(page))), page == 3) << page;
+    }
+    EXPECT_TRUE(QFile::exists(iFolder.filePath("1.jpg")));
 }
 
 // The one worker is slow to die with the first page while the others run far ahead.

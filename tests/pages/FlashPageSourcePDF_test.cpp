@@ -3,6 +3,7 @@
 #include "base/NotificationCenter.h"
 #include "base/PlatformException.h"
 #include "builder/PDFBuilder.h"
+#include "support/BookReader.h"
 #include "support/PixelCheck.h"
 
 #include <QDir>
@@ -83,10 +84,40 @@ TEST_F(FlashPageSourcePDFTest, DrawsTheChosenPagesUnderTheirNumbersInOrder) {
     EXPECT_EQ(pages->getNormalPageAtIndex(4), nullptr);
 }
 
+// At once, or later for those that are wanted and not there yet.
+TEST_F(FlashPageSourcePDFTest, MakesTheFilesForWebBooksToo) {
+    fill(3);
+    const auto classic = source();
+    classic->generatePages();
+    classic->generateNormalPages();
+    EXPECT_EQ(classic->pagesWithoutWebFiles(), (std::vector{1, 2, 3}));
+    const auto web = source();
+    web->toPageConverter()->setFilesOf(
+        [](int page) { return page == 3 ? PageFiles::classic : PageFiles::web; });
+    web->generatePages();
+    web->generateNormalPages();
+    EXPECT_EQ(web->pagesWithoutWebFiles(), std::vector{3});
+    QFile::remove(folderOf(*web) + "/2.text");
+
+    std::vector<int> progress;
+    const std::atomic<bool> stop{false};
+    for (const auto& pages : {&classic, &web}) {
+        (*pages)->makeWebFiles((*pages)->pagesWithoutWebFiles(), stop,
+                               [&](int done) { progress.push_back(done); });
+        EXPECT_TRUE((*pages)->pagesWithoutWebFiles().empty());
+    }
+    EXPECT_EQ(progress, (std::vector{1, 2, 3, 1, 2}));
+    const auto files = BookReader::contentsBeneath(folderOf(*classic));
+    EXPECT_EQ(files.size(), 15U);
+    EXPECT_EQ(files, BookReader::contentsBeneath(folderOf(*web)));
+}
+
 TEST_F(FlashPageSourcePDFTest, DrawsInThisProcessWithoutWorkers) {
     fill(2);
     PDFToSWFPageConverter converter(path(), std::make_shared<DrawablePDF>(path()), 100);
+    converter.setFilesOf(webFiles);
     const QString page = converter.generatePage(2);
+    EXPECT_TRUE(QFile::exists(WebPageFiles(converter.converterWorkFolder(), 2).text));
     EXPECT_EQ(page, converter.converterWorkFolder() + "/2.jpg");
     EXPECT_EQ(QImage(page).size(), QSize(200, 300));
     QDir(converter.converterWorkFolder()).removeRecursively();

@@ -1,5 +1,6 @@
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"
+#include "ui/OutputWindow.h"
 
 #include "app/AppSettings.h"
 #include "builder/PDFBuilder.h"
@@ -23,6 +24,7 @@ protected:
         settings.setImportQualityLevel(0);
         settings.setImportLinks(0);
         settings.setImportBookmark(0);
+        settings.setOutputType(OutputWindow::htmlBook);
     }
 
     QString path(int pages) {
@@ -60,6 +62,7 @@ private:
 } // namespace
 
 TEST_F(ImportSheet, ImportsAllPagesAndEndsWithOne) {
+    AppSettings::shareInstance().setOutputType(OutputWindow::webBook);
     open();
     EXPECT_TRUE(window().lblInfo->isHidden() && window().prgBar->isHidden());
     window().txtPageRange->setText("2");
@@ -72,6 +75,7 @@ TEST_F(ImportSheet, ImportsAllPagesAndEndsWithOne) {
     EXPECT_FALSE(window().isVisible());
     ASSERT_TRUE(sheet->flashPageSource());
     EXPECT_EQ(sheet->flashPageSource()->pages().size(), 5U);
+    EXPECT_TRUE(sheet->flashPageSource()->pagesWithoutWebFiles().empty()) << "as published last";
     AppSettings& settings = AppSettings::shareInstance();
     EXPECT_EQ(QSize(settings.PageWidth(), settings.PageHeight()), QSize(300, 400));
     EXPECT_EQ(sheet->flashPagesAnnotations(), nullptr);

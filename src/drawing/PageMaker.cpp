@@ -1,0 +1,56 @@
+#include "drawing/PageMaker.h"
+
+#include "base/PlatformException.h"
+#include "base/Stopwatch.h"
+#include "drawing/WebPageMaker.h"
+#include "system/Files.h"
+
+#include <QFileInfo>
+
+namespace {
+
+// 72 points per inch become 144 pixels per inch.
+constexpr double pixelsPerPoint = 2.0;
+
+} // namespace
+
+MadePage PageMaker::make(int page, PageFiles wanted, const DrawControl& control) {
+    const bool isForWeb = wanted == PageFiles::web;
+    const WebPageFiles files(iFolder, page);
+    MadePage made;
+    Stopwatch watch;
+    const DrawablePage drawn(iDocument, page - 1, control,
+                             isForWeb ? DrawablePage::Content::picturesAndText
+                                      : DrawablePage::Content::pictures);
+    drawn.draw(pixelsPerPoint, iBitmap);
+    made.timing.draw = watch.lap();
+    const qint64 earlier = isForWeb ? QFileInfo(files.pageFile).size() : 0;
+    const qint64 size = earlier > 0 ? earlier : makePageFile(files.pageFile, made.timing);
+    if (!isForWeb)
+        return made;
+    try {
+        made.timing += WebPageMaker(drawn, iBitmap).make(files, size);
+    } catch (const PlatformException& failure) {
+        if (failure.kind() == ErrorKind::pageWrite)
+            throw;
+        made.degraded = failure.message();
+    } catch (const std::bad_alloc&) {
+        made.degraded =
+            Message::translate("PageFailure", "it takes more memory than a page may have");
+    }
+    return made;
+}
+
+// Returns its size in bytes.
+qint64 PageMaker::makePageFile(const QString& path, PageTiming& timing) {
+    Stopwatch watch;
+    const auto jpeg = iEncoder.encode(iBitmap, iFactor);
+    timing.encode += watch.lap();
+    Message error;
+    if (!Files::writeWorkingFile(path, jpeg, &error)) {
+        throw PlatformException(ErrorKind::pageWrite,
+                                Message(QStringLiteral("%1: %2")).arg(path, error));
+    }
+    timing.write += watch.lap();
+    return qint64(jpeg.size());
+}

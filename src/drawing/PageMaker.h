@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/Message.h"
+#include "drawing/PageTiming.h"
+#include "drawing/WebPageFiles.h"
+#include "pdf/DrawablePDF.h"
+#include "pdf/DrawablePage.h"
+#include "pdf/JPEGEncoder.h"
+
+#include <QString>
+
+// What was made of a page.
+struct MadePage {
+    PageTiming timing;
+    Message degraded; // why not all of the web book's files were made; null when they were
+};
+
+// Makes the files of pages: interprets a page once, draws and encodes it, and writes the files.
+// Used by the page workers and, where none can be started, by the program itself. Keeps its buffers
+// from page to page.
+class PageMaker {
+public:
+    // factor is the JPEG compression factor, 0 (smallest) to 1 (best).
+    PageMaker(const DrawablePDF& document, QString folder, double factor)
+        : iDocument(document), iFolder(std::move(folder)), iFactor(factor) {}
+
+    // Makes the page file of a one-based page number, at twice its size in points, and what a web
+    // book needs beside it, if wanted; a page file that an earlier import made is kept then. Each
+    // file is written atomically. Throws PlatformException when there is no page file, and
+    // pageWrite when the folder can't be written.
+    MadePage make(int page, PageFiles wanted, const DrawControl& control = {});
+
+private:
+    qint64 makePageFile(const QString& path, PageTiming& timing);
+
+    const DrawablePDF& iDocument;
+    QString iFolder;
+    double iFactor;
+    PageBitmap iBitmap;
+    JPEGEncoder iEncoder;
+};

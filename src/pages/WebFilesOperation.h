@@ -1,0 +1,33 @@
+#pragma once
+
+#include "base/Operation.h"
+#include "pages/FlashPageSource.h"
+
+#include <atomic>
+#include <functional>
+#include <memory>
+
+// Makes in the background what a web book needs of pages that were imported without it.
+class WebFilesOperation : public Operation {
+public:
+    explicit WebFilesOperation(std::shared_ptr<FlashPageSource> source)
+        : iSource(std::move(source)) {}
+
+    // Called after each page, on the operation's thread. Set it before the operation is queued.
+    void setProgress(std::function<void(int done, int total)> progress) {
+        iProgress = std::move(progress);
+    }
+
+    void main() override;
+    // Thread-safe. Also stops the page that is being drawn.
+    void cancel() override;
+
+    // Why it ended early; null when it did not, or was cancelled.
+    const Message& failure() const { return iFailure; }
+
+private:
+    std::shared_ptr<FlashPageSource> iSource;
+    std::function<void(int, int)> iProgress = [](int, int) {};
+    std::atomic<bool> iStop{false};
+    Message iFailure;
+};
