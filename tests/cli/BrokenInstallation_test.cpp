@@ -12,11 +12,17 @@ protected:
         }
     }
 
-    Program::Result publish(const QString& document, const QString& resources) const {
+    Program::Result publish(const QString& document, const QString& resources,
+                            const QString& type = "html") const {
         QFile::link(resources, path("share"));
-        return Program::runOther(
-            path("bin/folvero"),
-            {"publish", "--links", "--bookmarks", "--quiet", Program::sample(document), book()});
+        return Program::runOther(path("bin/folvero"),
+                                 {"publish", "--links", "--bookmarks", "--quiet", "--type", type,
+                                  Program::sample(document), book()});
+    }
+    void replaceWorker(const QByteArray& script) const {
+        ASSERT_TRUE(QFile::rename(path(worker), path(worker + "-real")));
+        TestFiles::write(path(worker), script);
+        QFile::setPermissions(path(worker), QFile::permissions(path("bin/folvero")));
     }
 
     const QString worker = "libexec/folvero/folvero-page-worker";
@@ -64,9 +70,7 @@ TEST_F(BrokenInstallation, NamesWhatIsWrongWithItsTemplates) {
 }
 
 TEST_F(BrokenInstallation, CostsTheLinksAndTheBookmarksAndNotTheBook) {
-    ASSERT_TRUE(QFile::rename(path(worker), path(worker + "-real")));
-    TestFiles::write(path(worker), breakingReader);
-    QFile::setPermissions(path(worker), QFile::permissions(path("bin/folvero")));
+    replaceWorker(breakingReader);
     const auto result = publish("links.pdf", Program::path("../share"));
     EXPECT_EQ(result.exitCode, 0);
     for (const char* cause :
@@ -74,4 +78,16 @@ TEST_F(BrokenInstallation, CostsTheLinksAndTheBookmarksAndNotTheBook) {
         EXPECT_TRUE(result.errors.contains(cause)) << result.errors.constData();
     EXPECT_TRUE(exists("files/page/1.jpg"));
     EXPECT_TRUE(TestFiles::read(file("index.html")).contains("<title>Links"));
+}
+
+// Keeps what the drawing workers are asked for.
+TEST_F(BrokenInstallation, DrawsEachPageOnceAndNamesThoseThatAWebBookHasAPictureOfOnly) {
+    replaceWorker("#!/bin/sh\n[ $1 = draw ] || exec \"$0-real\" \"$@\"\n"
+                  "tee -a \"$0.asked\" | \"$0-real\" draw | sed -u 's/^ok .*/& too large/'\n");
+    const auto result = publish("links.pdf", Program::path("../share"), "web");
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_TRUE(result.errors.contains("page 6 has its picture only: too large"));
+    const QByteArray asked = TestFiles::read(path(worker + ".asked"));
+    for (int page = 1; page <= 6; ++page)
+        EXPECT_EQ(asked.count('\n' + QByteArray::number(page) + " web\n"), 1) << asked.constData();
 }
