@@ -18,7 +18,8 @@ struct Book {
     std::shared_ptr<FlashPagesAnnotations> annotations;
     std::shared_ptr<FlashOutline> outline;
 
-    // The PDF that the pages come from, and what draws them. Null for pages made from image files.
+    // The PDF that the pages come from, null when it could not be opened, and what draws them. Both
+    // are null for pages made from image files.
     std::shared_ptr<PDFDocument> document;
     std::shared_ptr<const PDFToSWFPageConverter> converter;
 

@@ -42,12 +42,14 @@ TEST_F(Importing, DocumentBecomesTheBook) {
     EXPECT_EQ(publishedPages(), 5u);
     EXPECT_EQ(value("pageWidth"), "300");
     EXPECT_EQ(value("pageHeight"), "400");
-    EXPECT_EQ(configuration().textAt("Ppts/Ppt/Normal/Width"), "300");
     EXPECT_TRUE(window().windowTitle().contains("5 pages"));
     EXPECT_FALSE(window().menu->undo->isEnabled());
     EXPECT_TRUE(waitForPreview("!window.isOld"));
     const QAction* recent = window().menu->recentFiles->actions().first();
     EXPECT_EQ(recent->data().toString(), QFileInfo(pdf(5)).absoluteFilePath());
+    AppSettings::shareInstance().setPageWidth(420);
+    program->OnApplyChange();
+    EXPECT_EQ(configuration().textAt("Ppts/Ppt/Normal/Width"), "420") << "the stored size";
 }
 
 TEST_F(Importing, DroppedDocumentIsImportedAtOnce) {
