@@ -8,7 +8,7 @@ how leaves turn ("turn"), whether two pages may lie side by side ("pages") and w
 bound in the middle ("binding"); style and script find these as data attributes of the root.
 
 The page passes through a text template that takes every dollar sign followed by an opening brace
-for a placeholder, so the page may hold exactly the three that the template knows.
+for a placeholder, so the page may hold exactly those that the template knows.
 """
 
 import json
@@ -19,7 +19,8 @@ import sys
 import texts
 from bundle import bundled, joined_style, minified_script
 
-PLACEHOLDERS = ["index.title", "meta.keywords", "meta.description"]
+PLACEHOLDERS = ["book.language", "index.title", "meta.keywords", "meta.description", "book.start", "book.head",
+                "book.movie", "book.end"]
 STYLES = ["book.css", "controls.css", "drawer.css", "panels.css", "print.css"]
 
 

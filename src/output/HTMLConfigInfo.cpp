@@ -1,13 +1,29 @@
 #include "output/HTMLConfigInfo.h"
 
-#include "output/TextTemplate.h"
+#include "output/BookLayout.h"
 #include "system/Files.h"
 
-bool HTMLConfigInfo::generateHTMLFrom(const QString& templatePath, const QString& toFile,
-                                      Message* error) const {
-    TextTemplate page(QString::fromUtf8(Files::contents(templatePath)));
+QString PagePlaces::flashMovie() {
+    return QStringLiteral(
+               "<object type=\"application/x-shockwave-flash\" data=\"%1\" width=\"100%\" "
+               "height=\"90%\"></object>")
+        .arg(BookLayout::movie);
+}
+
+TextTemplate HTMLConfigInfo::filled(const QString& pageTemplate, const PagePlaces& places) const {
+    TextTemplate page(pageTemplate);
     page.setItem(QStringLiteral("index.title"), iHTMLTitle);
     page.setItem(QStringLiteral("meta.keywords"), iHTMLKeywords);
     page.setItem(QStringLiteral("meta.description"), iHTMLDescription);
-    return Files::writeAtomically(toFile, page.parse().toUtf8(), error);
+    page.setItem(PagePlaces::languageName, places.language);
+    page.setItem(PagePlaces::startName, places.start);
+    page.setItem(PagePlaces::headName, places.head);
+    page.setItem(PagePlaces::movieName, places.movie);
+    return page;
+}
+
+bool HTMLConfigInfo::generateHTMLFrom(const QString& templatePath, const QString& toFile,
+                                      Message* error) const {
+    const QString page = QString::fromUtf8(Files::contents(templatePath));
+    return Files::writeAtomically(toFile, filled(page, {}).parse().toUtf8(), error);
 }

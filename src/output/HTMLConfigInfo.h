@@ -1,8 +1,26 @@
 #pragma once
 
 #include "base/Message.h"
+#include "output/TextTemplate.h"
 
 #include <QString>
+
+// What a kind of book puts into the places of its template's page; by default a classic one.
+struct PagePlaces {
+    // Its placeholders. The last is empty: what a book adds there may be too large for memory.
+    static inline const QString languageName = QStringLiteral("book.language");
+    static inline const QString startName = QStringLiteral("book.start");
+    static inline const QString headName = QStringLiteral("book.head");
+    static inline const QString movieName = QStringLiteral("book.movie");
+    static inline const QString endName = QStringLiteral("book.end");
+
+    QString language = QStringLiteral("en");
+    QString start;                // markup before the first script
+    QString head;                 // markup at the end of the head
+    QString movie = flashMovie(); // the Flash movie, for browsers that run no scripts
+
+    static QString flashMovie();
+};
 
 // Texts for the HTML page of a book.
 class HTMLConfigInfo {
@@ -19,9 +37,13 @@ public:
     QString otherScript() const { return iOtherScript; }
     void setOtherScript(const QString& script) { iOtherScript = script; }
 
-    // Fills in the placeholders "index.title", "meta.keywords" and "meta.description" of a UTF-8
-    // template and writes the page. An unreadable template gives an empty page. On a failed write
-    // the old file is kept, false is returned and *error (when given) set.
+    // A page's template with values for its placeholders: "index.title", "meta.keywords",
+    // "meta.description" and the places.
+    TextTemplate filled(const QString& pageTemplate, const PagePlaces& places) const;
+
+    // Fills in a UTF-8 template for a classic book and writes the page. An unreadable template
+    // gives an empty page. On a failed write the old file is kept, false is returned and *error
+    // (when given) set.
     bool generateHTMLFrom(const QString& templatePath, const QString& toFile,
                           Message* error = nullptr) const;
 

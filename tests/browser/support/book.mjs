@@ -74,7 +74,7 @@ export async function writeBook(folder, options) {
   const shell = await readFile(path.join(template, 'index.html'), 'utf8');
   const html = Object.entries(look).reduce((page, [name, value]) => page.replace(
     new RegExp(`(<main id="folvero"[^>]* data-${name}=")[^"]*`), (_, before) => before + value),
-  shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => (name === 'index.title' ? title : '')));
+  shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => ({ 'index.title': title, 'book.language': 'en' }[name] ?? '')));
   await writeFile(path.join(folder, 'index.html'), html);
   for (const [index, page] of pages.entries()) {
     await writeFile(path.join(folder, 'files/page', `${index + 1}.jpg`), page.bytes);
