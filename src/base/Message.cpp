@@ -58,13 +58,6 @@ Message Message::temporary() const {
     return result;
 }
 
-Message Message::replaced(const QString& before, const QString& after) const {
-    Message result = *this;
-    result.iEnglish.replace(before, after);
-    result.iLocal.replace(before, after);
-    return result;
-}
-
 bool areTemporary(const Messages& messages) {
     return std::any_of(messages.begin(), messages.end(),
                        [](const Message& message) { return message.isTemporary(); });

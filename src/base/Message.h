@@ -42,7 +42,6 @@ public:
                              iLocal.arg(Message(values).local()...));
         return (iIsTemporary || ... || Message(values).isTemporary()) ? filled.temporary() : filled;
     }
-    Message replaced(const QString& before, const QString& after) const;
 
 private:
     QString iEnglish;

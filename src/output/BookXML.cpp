@@ -1,7 +1,10 @@
+#include "output/BookXML.h"
+
+#include "output/BookLayout.h"
 #include "output/BookName.h"
-#include "output/FolveroOutput.h"
 #include "output/ImageSize.h"
 #include "system/Files.h"
+#include "template/FlashTemplate.h"
 #include "util/XMLText.h"
 
 #include <cstdint>
@@ -73,115 +76,115 @@ void appendPage(pugi::xml_node parent, const char* name, const QString& url, Pix
     append(page, "Height", size.height);
 }
 
-} // namespace
+// Appends elements with the template's values.
+class Writer {
+public:
+    explicit Writer(const FlashTemplate* flashTemplate) : iTemplate(flashTemplate) {}
 
-std::unique_ptr<pugi::xml_document> FolveroOutput::bookXML() const {
-    auto document = std::make_unique<pugi::xml_document>();
-    pugi::xml_node root = document->append_child("SlidePowerPoint");
-    appendProperties(root);
-    pugi::xml_node background = root.append_child("BackgroundConfig");
-    appendBackgroundColor(background);
-    appendBackgroundImage(background);
-    appendBackgroundSound(background);
-    appendPages(root);
-    return document;
-}
-
-void FolveroOutput::SaveXMLProperties(pugi::xml_node parent, const QString& nodeName,
-                                      const QString& key, const QString& defaultValue) const {
-    append(parent, nodeName.toUtf8().constData(), templateValue(key, defaultValue));
-}
-
-void FolveroOutput::appendChildPropertyToNode(pugi::xml_node element,
-                                              const FlashTemplateProperty& property) const {
-    for (const auto& child : property.childProperties()) {
-        if (!child)
-            continue;
-        const QString text = child->propertyType() == pt_file
-                                 ? QStringLiteral("./%1/%2").arg(
-                                       iResourceFolder, extFileURL(child->key(), child->value()))
-                                 : child->value();
-        append(element, "item", text);
-        element.last_child().append_attribute("name").set_value(
-            XMLText::legal(child->key()).toUtf8().constData());
-        appendChildPropertyToNode(element, *child);
+    QString value(const QString& key, const QString& defaultValue) const {
+        return iTemplate ? iTemplate->propertyValueFor(key, defaultValue) : defaultValue;
     }
+    void appendRow(pugi::xml_node parent, const Row& row) const {
+        append(parent, row.element,
+               value(QString::fromLatin1(row.key), QString::fromLatin1(row.defaultValue)));
+    }
+
+    void appendProperties(pugi::xml_node root) const;
+    void appendBackground(pugi::xml_node root) const;
+
+private:
+    void appendImage(pugi::xml_node parent, const QByteArray& side, const QString& key) const;
+    void appendSound(pugi::xml_node background) const;
+
+    const FlashTemplate* iTemplate;
+};
+
+QString settingsFileURL(const QString& key, const QString& value) {
+    return BookLayout::inFiles(
+        BookLayout::in(BookLayout::settingsFiles, BookName::withExtensionOf(key, value)));
 }
 
-QString FolveroOutput::templateValue(const QString& key, const QString& defaultValue) const {
-    return iFlashTemplate ? iFlashTemplate->propertyValueFor(key, defaultValue) : defaultValue;
-}
-
-QString FolveroOutput::extFileURL(const QString& key, const QString& value) const {
-    return iExterFilesFolder + u'/' + BookName::withExtensionOf(key, value);
-}
-
-void FolveroOutput::appendProperties(pugi::xml_node root) const {
+void Writer::appendProperties(pugi::xml_node root) const {
     pugi::xml_node properties = root.append_child("Properties");
     append(properties, "Search", QStringLiteral("No"));
     append(properties, "IsExe", QStringLiteral("No"));
     append(properties, "Style", QStringLiteral("0"));
     for (const Row& row : optionRows)
-        SaveXMLProperties(properties, QString::fromLatin1(row.element),
-                          QString::fromLatin1(row.key), QString::fromLatin1(row.defaultValue));
+        appendRow(properties, row);
 }
 
-void FolveroOutput::appendBackgroundColor(pugi::xml_node background) const {
+void Writer::appendBackground(pugi::xml_node root) const {
+    pugi::xml_node background = root.append_child("BackgroundConfig");
     pugi::xml_node color = background.append_child("BackgroundColor");
     for (const Row& row : colorRows)
-        SaveXMLProperties(color, QString::fromLatin1(row.element), QString::fromLatin1(row.key),
-                          QString::fromLatin1(row.defaultValue));
-}
-
-void FolveroOutput::appendBackgroundImage(pugi::xml_node background) const {
-    const QString scaled = QStringLiteral("Scale to fit");
+        appendRow(color, row);
     pugi::xml_node image = background.append_child("BackgroundImage");
-    appendImage(image, QStringLiteral("Outer"), QStringLiteral("mainbgImgUrl"));
-    SaveXMLProperties(image, QStringLiteral("OuterBackgroundPosition"),
-                      QStringLiteral("mainbgImgPosition"), scaled);
-    appendImage(image, QStringLiteral("Inner"), QStringLiteral("innerMainbgImgUrl"));
-    SaveXMLProperties(image, QStringLiteral("InnerBackgroundPosition"),
-                      QStringLiteral("innerMainbgImgPosition"), scaled);
+    appendImage(image, "Outer", QStringLiteral("mainbgImgUrl"));
+    appendRow(image, {"OuterBackgroundPosition", "mainbgImgPosition", "Scale to fit"});
+    appendImage(image, "Inner", QStringLiteral("innerMainbgImgUrl"));
+    appendRow(image, {"InnerBackgroundPosition", "innerMainbgImgPosition", "Scale to fit"});
+    appendSound(background);
 }
 
-void FolveroOutput::appendImage(pugi::xml_node parent, const QString& side,
-                                const QString& key) const {
-    const QString path = templateValue(key, QStringLiteral(""));
+void Writer::appendImage(pugi::xml_node parent, const QByteArray& side, const QString& key) const {
+    const QString path = value(key, QStringLiteral(""));
     const QSize size = path.isEmpty() ? QSize(0, 0) : ImageSize::inPoints(path);
-    const auto name = [&side](const char* rest) {
-        return (side + QString::fromLatin1(rest)).toLatin1();
-    };
-    append(parent, name("BackgroundFile").constData(),
-           path.isEmpty() ? QString() : extFileURL(key, path));
-    append(parent, name("ImgWidth").constData(), size.width());
-    append(parent, name("ImgHeight").constData(), size.height());
+    append(parent, side + "BackgroundFile",
+           path.isEmpty() ? QString() : settingsFileURL(key, path));
+    append(parent, side + "ImgWidth", size.width());
+    append(parent, side + "ImgHeight", size.height());
 }
 
-void FolveroOutput::appendBackgroundSound(pugi::xml_node background) const {
+void Writer::appendSound(pugi::xml_node background) const {
     pugi::xml_node sound = background.append_child("BackgroundSound");
     const QString key = QStringLiteral("backgroundSoundURL");
-    const QString path = templateValue(key, QStringLiteral(""));
+    const QString path = value(key, QStringLiteral(""));
     // A sound file without an extension is ignored.
     const bool hasExtension = !Files::pathExtension(path).isEmpty();
-    append(sound, "SoundFile", hasExtension ? extFileURL(key, path) : QString());
-    SaveXMLProperties(sound, QStringLiteral("SoundLoops"), QStringLiteral("backgroundSoundLoop"),
-                      QStringLiteral("-1"));
+    append(sound, "SoundFile", hasExtension ? settingsFileURL(key, path) : QString());
+    appendRow(sound, {"SoundLoops", "backgroundSoundLoop", "-1"});
 }
 
-void FolveroOutput::appendPages(pugi::xml_node root) const {
-    const PixelSize size{iBook.pageSize.width(), iBook.pageSize.height()};
+} // namespace
+
+std::unique_ptr<pugi::xml_document> BookXML::make(const FlashTemplate* flashTemplate,
+                                                  const std::vector<PageURLs>& pages,
+                                                  QSize pageSize) {
+    auto document = std::make_unique<pugi::xml_document>();
+    pugi::xml_node root = document->append_child("SlidePowerPoint");
+    const Writer writer(flashTemplate);
+    writer.appendProperties(root);
+    writer.appendBackground(root);
+    const PixelSize size{pageSize.width(), pageSize.height()};
     const PixelSize thumbnail = thumbnailSize(size);
-    pugi::xml_node pages = root.append_child("Ppts");
-    if (!iBook.pageSource)
-        return;
-    for (const auto& entry : iBook.pageSource->pages()) {
-        if (!entry)
+    pugi::xml_node list = root.append_child("Ppts");
+    for (const auto& [normalURL, thumbnailURL] : pages) {
+        pugi::xml_node page = list.append_child("Ppt");
+        appendPage(page, "Normal", normalURL, size);
+        appendPage(page, "Thumb", thumbnailURL, thumbnail);
+    }
+    return document;
+}
+
+void BookXML::appendValue(pugi::xml_node parent, const QString& nodeName,
+                          const FlashTemplate* flashTemplate, const QString& key,
+                          const QString& defaultValue) {
+    append(parent, nodeName.toUtf8().constData(), Writer(flashTemplate).value(key, defaultValue));
+}
+
+void BookXML::appendDescendants(pugi::xml_node element, const FlashTemplateProperty& property) {
+    for (const auto& child : property.childProperties()) {
+        if (!child)
             continue;
-        const auto normal = iBook.pageSource->getNormalPageAtIndex(entry->pageIndex());
-        // A page without a file keeps its place in the book under the name that it would have.
-        const FlashPage& page = normal ? *normal : *entry;
-        pugi::xml_node element = pages.append_child("Ppt");
-        appendPage(element, "Normal", getNormalPageURL(page), size);
-        appendPage(element, "Thumb", getThumbPageURL(page), thumbnail);
+        const QString text =
+            child->propertyType() == pt_file
+                ? QStringLiteral("./") +
+                      BookLayout::in(BookLayout::settingsFiles,
+                                     BookName::withExtensionOf(child->key(), child->value()))
+                : child->value();
+        append(element, "item", text);
+        element.last_child().append_attribute("name").set_value(
+            XMLText::legal(child->key()).toUtf8().constData());
+        appendDescendants(element, *child);
     }
 }

@@ -4,7 +4,7 @@
 #include "annotations/FlashPagesAnnotations.h"
 #include "output/BookLayout.h"
 #include "output/HTMLConfigInfo.h"
-#include "output/PublishTransaction.h"
+#include "output/PublishRun.h"
 #include "pages/Book.h"
 #include "pages/FlashPageSource.h"
 #include "template/FlashTemplate.h"
@@ -51,16 +51,16 @@ public:
     QString titleOfExistingBook() const;
 
     // Errors of the last run, one "FILE: CAUSE" each; the folder is unchanged then.
-    QStringList publishErrors() const { return englishTexts(iPublishErrors); }
-    const Messages& publishMessages() const { return iPublishErrors; }
+    QStringList publishErrors() const { return englishTexts(iOutcome.errors); }
+    const Messages& publishMessages() const { return iOutcome.errors; }
     // What the last run changed in the folder; all zero when it failed or was cancelled.
-    const PublishTransaction::Counts& fileCounts() const { return iFileCounts; }
+    const PublishTransaction::Counts& fileCounts() const { return iOutcome.counts; }
     // Numbers of the pages that the last run left out because their file was missing.
     const std::vector<int>& missingPages() const { return iMissingPages; }
     // Polled between files; true cancels a run without a change to the folder.
     void setCancelled(std::function<bool()> isCancelled) { iIsCancelled = std::move(isCancelled); }
     // Whether the last run was cancelled.
-    bool wasCancelled() const { return iWasCancelled; }
+    bool wasCancelled() const { return iOutcome.wasCancelled; }
 
     // The steps of ouputTheBook(). An empty base means the book's folder. The first two use a
     // non-empty base; the others then use the current folder.
@@ -73,8 +73,7 @@ public:
     void PrepareAnnotationFiles(const QString& base);
     // Removes files of an earlier run whose settings are now empty.
     void removeExtFiles(const QString& base);
-    // Writes the enciphered configuration, and beside it, with the extension "js", the same bytes
-    // as a script, since browsers can't fetch files when a book is opened from disk.
+    // Writes the enciphered configuration and the same as a script.
     void ouputBookXML(const QString& path);
 
     // The unencrypted configuration; file names in it are relative to the folder "files".
@@ -85,7 +84,7 @@ public:
 
     QString getNormalPageURL(const FlashPage& page) const;
     QString getZoomedPageURL(const FlashPage& page) const;
-    virtual QString getThumbPageURL(const FlashPage& page) const;
+    QString getThumbPageURL(const FlashPage& page) const;
 
     const std::shared_ptr<FlashTemplate>& flashTemplate() const { return iFlashTemplate; }
     void setFlashTemplate(std::shared_ptr<FlashTemplate> value) {
@@ -116,38 +115,20 @@ public:
     void setHTMLConfig(std::shared_ptr<HTMLConfigInfo> value) { iHTMLConfig = std::move(value); }
 
 protected:
+    BookLayout layout() const { return BookLayout(iSaveToFolder); }
     // Whether the folder already contains a book, so that the files in "files" are that book's.
     bool hasExistingBook() const;
 
+    // The steps that write a classic book; see BookSteps.
+    PublishSteps steps();
+    // How page files are copied: only our own may be hard-linked.
+    PublishTransaction::Copy kindOfCopy() const;
+
     void resetResults();
-    bool isCancelled() const { return iIsCancelled && iIsCancelled(); }
-    // Aborts the current run, without a change to the folder, if it was cancelled.
-    void checkCancelled() const;
-    // For subclasses: records a cancel outside of a run.
-    void markCancelled();
-    // All steps of a run; subclasses may add their own.
-    virtual void publish();
-
-    // For subclasses: edits the staged HTML page, a file that may be rewritten.
-    virtual void finishHTMLPage(const QString& /*file*/) {}
-
-    // Does the work inside the current run or, when there is none, in a new run on that folder.
-    // False when that run failed or was cancelled.
-    bool perform(const QString& folder, const std::function<void()>& work);
-    // The transaction of the current run; only inside perform().
-    PublishTransaction& transaction() { return *iTransaction; }
-    // Copies a file under a new name into a folder of the book. Without the source, or for a name
-    // that a book's file may not have, removes an existing file of that name and returns false.
-    bool replaceWithCopy(const QString& source, const QString& folder, const QString& name,
-                         PublishTransaction::Copy kind);
-
-    BookLayout layout() const { return BookLayout(iSaveToFolder); }
-
-    // Reports an error outside of perform(): adds it to publishErrors() and logs it.
+    // Takes the steps in a run of its own; see PublishRun. False when it failed or was cancelled.
+    bool run(const BookLayout& book, const PublishSteps& steps, const QString& workingFolder = {});
+    // Records an error outside of a run, and logs it.
     void reportFailure(const Message& reason);
-    // For subclasses that first publish to a working path: replaces it with the final path in
-    // publishErrors().
-    void renameInErrors(const QString& working, const QString& final);
 
     // Appends an "item" to element for each descendant of the property, parents first, without
     // nesting.
@@ -167,31 +148,14 @@ protected:
     const QString iSearchInfoFolder = BookLayout::search;
     const QString iAnnotationFilesFolder = BookLayout::linkedFiles;
     bool iZoomedPageSameAsNormalPage = true;
+    std::vector<int> iMissingPages;
 
 private:
-    using TemplateCopy = void (FlashTemplate::*)(const QString&) const;
+    PublishStep pages();
+    PublishStep zoomedPages() const;
+    // What most steps make of their base: only the empty one is the book's folder.
+    BookLayout layoutFor(const QString& base) const;
 
-    QString extFileURL(const QString& key, const QString& value) const;
-    void copyExtFile(const FlashTemplateProperty& property, const QString& folder);
-    void copyExtFilesOfChildren(const FlashTemplateProperty& property, const QString& folder);
-    void copyTemplateFile(TemplateCopy copy, const QString& path);
-    void removeFilesOfExistingBook();
-    void removeOfflineFiles();
-    void writeHTMLPage();
-    void stageBookXML(const QString& path);
-
-    QString templateValue(const QString& key, const QString& defaultValue) const;
-    void appendProperties(pugi::xml_node root) const;
-    void appendBackgroundColor(pugi::xml_node background) const;
-    void appendBackgroundImage(pugi::xml_node background) const;
-    void appendBackgroundSound(pugi::xml_node background) const;
-    void appendImage(pugi::xml_node parent, const QString& side, const QString& key) const;
-    void appendPages(pugi::xml_node root) const;
-
-    PublishTransaction* iTransaction = nullptr;
     std::function<bool()> iIsCancelled;
-    Messages iPublishErrors;
-    std::vector<int> iMissingPages;
-    PublishTransaction::Counts iFileCounts;
-    bool iWasCancelled = false;
+    PublishOutcome iOutcome;
 };

@@ -26,7 +26,7 @@ QString bundleName(const QString& name) {
 }
 
 Message lastErrorAt(const QString& path) {
-    return Message(QStringLiteral("%1: %2")).arg(path, Message::ofLastSystemError());
+    return Message::about(path, Message::ofLastSystemError());
 }
 
 // The shell's files keep their permissions: one of them has to be executable.
@@ -95,11 +95,7 @@ void FolveroOutputApp::ouputTheBook() {
     }
     const auto end = qScopeGuard([&] { StagingFolder::remove(staging); });
     const QString working = Files::join(staging, QFileInfo(bundle).fileName());
-    publishInto(working);
-    renameInErrors(working, bundle);
-    if (!publishErrors().isEmpty() || wasCancelled())
-        return;
-    if (!exchange(working, bundle))
+    if (publishInto(working) && !exchange(working, bundle))
         reportFailure(lastErrorAt(bundle));
 }
 
@@ -110,20 +106,17 @@ QStringList FolveroOutputApp::foreignFiles() const {
     return {bundle};
 }
 
-void FolveroOutputApp::publishInto(const QString& bundle) {
-    const QString contents = Files::join(bundle, QStringLiteral("Contents"));
+bool FolveroOutputApp::publishInto(const QString& working) {
     // Does not create parent folders, which may have gone with an unplugged drive.
-    if (!QDir().mkdir(bundle)) {
-        reportFailure(lastErrorAt(bundle));
-        return;
+    if (!QDir().mkdir(working)) {
+        reportFailure(lastErrorAt(outputFileName()));
+        return false;
     }
-    copyShell(contents);
-    const QString final = iSaveToFolder;
-    const auto end = qScopeGuard([&] { iSaveToFolder = final; });
-    iSaveToFolder = Files::join(bundle, resourcesInBundle);
-    if (!QDir().mkpath(iSaveToFolder)) {
+    copyShell(Files::join(working, QStringLiteral("Contents")));
+    const QString resources = Files::join(working, resourcesInBundle);
+    if (!QDir().mkpath(resources)) {
         reportFailure(lastErrorAt(iSaveToFolder));
-        return;
+        return false;
     }
-    FolveroOutput::ouputTheBook();
+    return run(layout(), steps(), resources);
 }

@@ -24,5 +24,7 @@ public:
     QString outputFileName() const override;
 
 private:
-    void publishInto(const QString& bundle);
+    // Makes the bundle at a working path, from which it is moved to its own. False when that failed
+    // or was cancelled.
+    bool publishInto(const QString& working);
 };

@@ -18,10 +18,6 @@
 
 namespace {
 
-[[noreturn]] void failWithErrno(const QString& path) {
-    PublishTransaction::fail(path, Message::ofLastSystemError());
-}
-
 // The file type at a path, 0 for none. Symbolic links are not followed.
 mode_t kindOf(const QString& path) {
     struct stat info {};
@@ -52,6 +48,11 @@ bool linkOrCopySymlink(const QString& path, const QString& name) {
     return !error;
 }
 
+// A clean path in one folder as the same path in another; other paths as they are.
+QString moved(const QString& path, const QString& from, const QString& to) {
+    return path == from || path.startsWith(from + u'/') ? to + path.sliced(from.size()) : path;
+}
+
 QString parentOf(const QString& path) {
     return QDir::cleanPath(path).section(u'/', 0, -2);
 }
@@ -59,12 +60,12 @@ QString parentOf(const QString& path) {
 } // namespace
 
 void PublishTransaction::fail(const QString& path, const Message& cause) {
-    throw PlatformException(ErrorKind::publishing,
-                            Message(QStringLiteral("%1: %2")).arg(path, cause));
+    throw PlatformException(ErrorKind::publishing, Message::about(path, cause));
 }
 
-PublishTransaction::PublishTransaction(const QString& folder)
-    : iFolder(folder.isEmpty() ? QStringLiteral(".") : QDir::cleanPath(folder)) {
+PublishTransaction::PublishTransaction(const QString& folder, const QString& workingFolder)
+    : iNamedFolder(folder.isEmpty() ? QStringLiteral(".") : QDir::cleanPath(folder)),
+      iFolder(workingFolder.isNull() ? iNamedFolder : QDir::cleanPath(workingFolder)) {
     try {
         makeRoot(iFolder);
         StagingFolder::removeStale(iFolder);
@@ -75,6 +76,18 @@ PublishTransaction::PublishTransaction(const QString& folder)
         removeCreatedRoots();
         throw;
     }
+}
+
+QString PublishTransaction::onDisk(const QString& path) const {
+    return moved(QDir::cleanPath(path), iNamedFolder, iFolder);
+}
+
+void PublishTransaction::failAt(const QString& pathOnDisk, const Message& cause) const {
+    fail(moved(pathOnDisk, iFolder, iNamedFolder), cause);
+}
+
+void PublishTransaction::failWithErrno(const QString& pathOnDisk) const {
+    failAt(pathOnDisk, Message::ofLastSystemError());
 }
 
 PublishTransaction::~PublishTransaction() {
@@ -98,7 +111,7 @@ void PublishTransaction::preserveBackups() const {
 }
 
 void PublishTransaction::makeFolder(const QString& path) {
-    iFoldersToMake << QDir::cleanPath(path);
+    iFoldersToMake << onDisk(path);
 }
 
 void PublishTransaction::copy(const QString& source, const QString& target, Copy kind,
@@ -133,16 +146,8 @@ void PublishTransaction::remove(const QString& target) {
     change.staged = QString();
 }
 
-std::vector<std::pair<QString, QString>> PublishTransaction::takeStagedFiles() {
-    auto files = stagedFiles();
-    iChanges.clear();
-    iIndexOfTarget.clear();
-    iFoldersToMake.clear();
-    return files;
-}
-
 bool PublishTransaction::willExist(const QString& path) const {
-    const QString clean = QDir::cleanPath(path);
+    const QString clean = onDisk(path);
     const auto found = iIndexOfTarget.constFind(clean);
     if (found != iIndexOfTarget.cend())
         return !iChanges[*found].staged.isNull();
@@ -150,7 +155,7 @@ bool PublishTransaction::willExist(const QString& path) const {
 }
 
 QString PublishTransaction::stagedFile(const QString& path) const {
-    const auto found = iIndexOfTarget.constFind(QDir::cleanPath(path));
+    const auto found = iIndexOfTarget.constFind(onDisk(path));
     return found != iIndexOfTarget.cend() ? iChanges[*found].staged : QString();
 }
 
@@ -158,7 +163,7 @@ std::vector<std::pair<QString, QString>> PublishTransaction::stagedFiles() const
     std::vector<std::pair<QString, QString>> files;
     for (const Change& change : iChanges) {
         if (!change.staged.isNull())
-            files.emplace_back(change.target, change.staged);
+            files.emplace_back(moved(change.target, iFolder, iNamedFolder), change.staged);
     }
     return files;
 }
@@ -168,7 +173,7 @@ QString PublishTransaction::newName() {
 }
 
 PublishTransaction::Change& PublishTransaction::changeOf(const QString& target) {
-    const QString clean = QDir::cleanPath(target);
+    const QString clean = onDisk(target);
     const auto found = iIndexOfTarget.constFind(clean);
     if (found != iIndexOfTarget.cend())
         return iChanges[*found];
@@ -229,7 +234,7 @@ QString PublishTransaction::makeBackup(const QString& path) {
         return linkOrCopySymlink(path, name) ? name : QString();
     Message error;
     if (!Files::linkOrCopy(path, name, &error))
-        fail(path, error);
+        failAt(path, error);
     return name;
 }
 
@@ -255,7 +260,8 @@ void PublishTransaction::install(const Change& change) {
     }
     const mode_t kind = kindOf(change.target);
     if (kind == S_IFDIR)
-        fail(change.target, Message::translate("FolveroOutput", "There is a folder of that name"));
+        failAt(change.target,
+               Message::translate("FolveroOutput", "There is a folder of that name"));
     const QString backup = kind == 0 ? QString() : makeBackup(change.target);
     if (kind != 0 && backup.isNull())
         moveToStaging(change.target);

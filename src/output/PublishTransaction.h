@@ -34,8 +34,9 @@ public:
         int removed = 0;
     };
 
-    // Creates the folder if it is missing.
-    explicit PublishTransaction(const QString& folder);
+    // Creates the folder if it is missing. workingFolder, if not null, is changed in its place, to
+    // be moved there afterwards: paths, those in errors included, are still below the folder.
+    explicit PublishTransaction(const QString& folder, const QString& workingFolder = {});
     // Rolls back unless commit() succeeded.
     ~PublishTransaction();
     PublishTransaction(const PublishTransaction&) = delete;
@@ -59,9 +60,6 @@ public:
     bool writes(const QString& path) const { return !stagedFile(path).isNull(); }
     // All staged files, in staging order: target path and staged path.
     std::vector<std::pair<QString, QString>> stagedFiles() const;
-    // The same, and drops all changes so far; the staged files stay as long as the transaction
-    // exists.
-    std::vector<std::pair<QString, QString>> takeStagedFiles();
 
     void commit();
     const Counts& counts() const { return iCounts; }
@@ -80,6 +78,10 @@ private:
         bool isFolder = false;
     };
 
+    // Translates between the folder and the working folder; returns a clean path.
+    QString onDisk(const QString& path) const;
+    [[noreturn]] void failAt(const QString& pathOnDisk, const Message& cause) const;
+    [[noreturn]] void failWithErrno(const QString& pathOnDisk) const;
     void preserveBackups() const;
     void makeRoot(const QString& path);
     void makeFolderNow(const QString& path);
@@ -99,7 +101,8 @@ private:
     bool rollBack();
     void removeCreatedRoots();
 
-    QString iFolder;
+    QString iNamedFolder;
+    QString iFolder; // the one that is changed; all other members are about it
     QString iStaging;
     int iNameCount = 0;
     std::vector<Change> iChanges;

@@ -54,6 +54,19 @@ QStringView withoutTrailingSpace(QStringView text) {
 } // namespace
 
 QString TextTemplate::parse() const {
+    qsizetype anywhere = 0;
+    return parse({}, anywhere);
+}
+
+QString TextTemplate::parse(const QString& name, qsizetype& position) const {
+    position = -1;
+    const QString result = filled(name, position);
+    if (position < 0)
+        position = result.size();
+    return result;
+}
+
+QString TextTemplate::filled(const QString& wanted, qsizetype& position) const {
     QString result = QStringLiteral("");
     result.reserve(iFromStr.size());
     Scanner scanner(iFromStr);
@@ -70,6 +83,8 @@ QString TextTemplate::parse() const {
         const QStringView name = scanner.upTo(closing);
         scanner.skip(closing);
         result += prefix;
+        if (position < 0 && name == wanted)
+            position = result.size();
         result += iKeyAndValues.value(name.toString());
     }
     return result;

@@ -15,8 +15,13 @@ public:
 
     // The text with all placeholders replaced, in linear time.
     QString parse() const;
+    // The same; position is set to where in the result the value of the first placeholder of that
+    // name begins, or to the result's end when the text has none that is replaced.
+    QString parse(const QString& name, qsizetype& position) const;
 
 private:
+    QString filled(const QString& wanted, qsizetype& position) const;
+
     QString iFromStr;
     QHash<QString, QString> iKeyAndValues;
 };

@@ -1,7 +1,7 @@
 #include "webbook/OfflineFiles.h"
 
 #include "output/ExistingBook.h"
-#include "output/PublishTransaction.h"
+#include "output/PublishRun.h"
 #include "system/Files.h"
 #include "system/MediaType.h"
 #include "util/NSData+CommonCrypto.h"
@@ -70,10 +70,10 @@ struct List {
     }
 };
 
-List listOf(const PublishTransaction& transaction, const QString& folder, const QString& page) {
+List listOf(const PublishTarget& to, const QString& page) {
     List list;
-    const QDir root(folder);
-    for (const auto& [target, staged] : transaction.stagedFiles()) {
+    const QDir root(to.layout.folder());
+    for (const auto& [target, staged] : to.transaction.stagedFiles()) {
         const QString path = root.relativeFilePath(target);
         const Part part = partOf(path, page);
         if (part == Part::none)
@@ -102,21 +102,24 @@ bool OfflineFiles::canWriteTo(const BookLayout& book) {
     return !QFileInfo::exists(book.at(BookLayout::manifest));
 }
 
-void OfflineFiles::write(PublishTransaction& transaction) const {
-    transaction.write(book.at(BookLayout::icon), icon(transaction));
-    transaction.write(book.at(BookLayout::offlineScript), Files::contents(player));
-    const List list = listOf(transaction, book.folder(), page);
+void OfflineFiles::write(PublishTarget& to) const {
+    const auto write = [&to](const QString& path, const QByteArray& data,
+                             Phase phase = Phase::contents) {
+        to.transaction.write(to.layout.at(path), data, phase);
+    };
+    write(BookLayout::icon, icon(to));
+    write(BookLayout::offlineScript, Files::contents(player));
+    const List list = listOf(to, page);
     const QByteArray version = digestOf(list.shell() + list.rest() + script);
-    transaction.write(book.at(BookLayout::offlineList),
-                      "{\"version\":\"" + version +
-                          "\",\"bytes\":" + QByteArray::number(list.bytes) + ",\"shell\":{" +
-                          list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
-                      Phase::configuration);
-    transaction.write(book.at(BookLayout::manifest), manifest(), Phase::page);
-    transaction.write(book.at(BookLayout::serviceWorker),
-                      ExistingBook::serviceWorkerStart + quoted(page) + ",\"version\":\"" +
-                          version + "\"};\n" + script,
-                      Phase::page);
+    write(BookLayout::offlineList,
+          "{\"version\":\"" + version + "\",\"bytes\":" + QByteArray::number(list.bytes) +
+              ",\"shell\":{" + list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
+          Phase::configuration);
+    write(BookLayout::manifest, manifest(), Phase::page);
+    write(BookLayout::serviceWorker,
+          ExistingBook::serviceWorkerStart + quoted(page) + ",\"version\":\"" + version + "\"};\n" +
+              script,
+          Phase::page);
 }
 
 QByteArray OfflineFiles::manifest() const {
@@ -138,13 +141,14 @@ QByteArray OfflineFiles::manifest() const {
 }
 
 // The cover on a square background, as systems expect icons.
-QByteArray OfflineFiles::icon(const PublishTransaction& transaction) const {
+QByteArray OfflineFiles::icon(const PublishTarget& to) const {
     QByteArray picture =
         "<path d=\"M256 150c-48-32-96-32-144-16v228c48-16 96-16 144 16 48-32 96-32 "
         "144-16V134c-48-16-96-16-144 16z\" fill=\"#fff\" stroke=\"#2f5d7c\" "
         "stroke-width=\"12\"/>";
-    const QByteArray bytes =
-        cover.isEmpty() ? QByteArray() : Files::contents(transaction.stagedFile(book.at(cover)));
+    const QByteArray bytes = cover.isEmpty()
+                                 ? QByteArray()
+                                 : Files::contents(to.transaction.stagedFile(to.layout.at(cover)));
     if (!bytes.isEmpty())
         picture = "<image x=\"40\" y=\"40\" width=\"432\" height=\"432\" "
                   "href=\"data:image/webp;base64," +

@@ -7,7 +7,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <algorithm>
 #include <cerrno>
 
 namespace {
@@ -19,11 +18,6 @@ constexpr qint64 pieceBytes = 3 << 16;
 bool isOfPage(const QString& path) {
     return path == BookLayout::configuration || path == BookLayout::configurationScript ||
            path == BookLayout::webScript || path == BookLayout::webStyle;
-}
-
-void insertBefore(QByteArray& html, qsizetype place, const QByteArray& text) {
-    if (place >= 0)
-        html.insert(place, text);
 }
 
 bool writeInBase64(const QString& source, QFile& to) {
@@ -40,27 +34,14 @@ bool writeInBase64(const QString& source, QFile& to) {
 
 } // namespace
 
-SingleFilePage::SingleFilePage(const std::map<QString, QString>& files, const QString& page) {
-    const auto contents = [&files](const QString& path) {
-        const auto found = files.find(path);
-        return found == files.end() ? QByteArray() : Files::contents(found->second);
-    };
-    QByteArray html = contents(page);
-    insertBefore(html, html.indexOf("</head>"),
-                 "<style>\n" + contents(BookLayout::webStyle) + "</style>\n<script>\n" +
-                     contents(BookLayout::webScript) + "</script>\n");
-    // Before the page's first script, which would load them, and after the charset declaration,
-    // which browsers expect at the very beginning.
-    insertBefore(html, html.indexOf("<script"),
-                 "<script>window.FolveroUserConfig = \"" +
-                     contents(BookLayout::configuration).toBase64() + "\";</script>\n");
-    const qsizetype bodyEnd = std::max<qsizetype>(html.lastIndexOf("</body>"), 0);
-    addText(html.left(bodyEnd));
+SingleFilePage::SingleFilePage(const QByteArray& start, const std::map<QString, QString>& files,
+                               const QByteArray& end) {
+    addText(start);
     for (const auto& [path, source] : files) {
-        if (!BookLayout::inFiles(path).isNull() && !isOfPage(path))
+        if (!isOfPage(path))
             addFile(path, source);
     }
-    addText(html.mid(bodyEnd));
+    addText(end);
 }
 
 void SingleFilePage::addFile(const QString& path, const QString& source) {

@@ -10,9 +10,10 @@
 // A web book as a single page that contains all of its files.
 class SingleFilePage {
 public:
-    // The book's files: their paths on disk by their paths in the book; page is that of the HTML
-    // page. Files that are neither the page nor below "files" are left out.
-    SingleFilePage(const std::map<QString, QString>& files, const QString& page);
+    // The book's files, their paths on disk by their paths in the book, between the two parts of
+    // its HTML page. The page's parts contain the configuration and the player.
+    SingleFilePage(const QByteArray& start, const std::map<QString, QString>& files,
+                   const QByteArray& end);
 
     // Size in bytes.
     qint64 size() const;

@@ -67,7 +67,7 @@ bool WebBookMetadata::isOpen(int position) const {
     return !open || isWithin(*open, position);
 }
 
-QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline) const {
+QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, bool hasText) const {
     QJsonObject object{{QStringLiteral("version"), 1},
                        {QStringLiteral("large"), QJsonArray::fromStringList(large)},
                        {QStringLiteral("text"), hasText},

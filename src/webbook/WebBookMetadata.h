@@ -23,8 +23,7 @@ struct WebBookMetadata {
     QStringList large;        // the extension of each page's large picture, empty for none
     QString cover;            // path in the book of a page's thumbnail; empty for none
     QString textPage;         // path in the book of the page of plain text; empty for none
-    bool hasText = false;
-    bool offline = false; // whether readers can save the book for offline use
+    bool offline = false;     // whether readers can save the book for offline use
     // In a preview, the runs of positions that are included; none when all are.
     std::optional<std::vector<PageRun>> open;
 
@@ -35,8 +34,8 @@ struct WebBookMetadata {
     // Whether the page at a position is included.
     bool isOpen(int position) const;
 
-    // The data for the player; the outline may be null.
-    QJsonObject forPlayer(const FlashOutline* outline) const;
+    // The data for the player; the outline may be null. hasText: whether there is any to search.
+    QJsonObject forPlayer(const FlashOutline* outline, bool hasText) const;
     // Markup for the HTML page's head beyond title, keywords and description.
     QByteArray headMarkup() const;
 };

@@ -236,6 +236,32 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
     }
 }
 
+// A template from before pages had places, and one whose placeholders end too early for them.
+TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
+    PublishedBook book;
+    for (const char* part : {"web.js", "web.css", "offline.js", "sw.js"})
+        book.library.addFile(QString("AppFiles/Web/") + part, part);
+    FolveroOutputWeb output(book.pageSource, book.flashTemplate, book.folder(), QString());
+    const auto page = [&](const QByteArray& start, bool isSingleFile) {
+        book.library.addFile("AppFiles/Templates/float/index.html",
+                             start + "<script>1</script></head><body><object x>2</object>3</body>");
+        output.setSingleFile(isSingleFile);
+        output.ouputTheBook();
+        return QString::fromUtf8(book.read("index.html"));
+    };
+    const QString folder = page("<head>", false);
+    EXPECT_TRUE(folder.startsWith("<head><script>1</script><link rel=\"preload\""))
+        << folder.toStdString();
+    EXPECT_TRUE(folder.endsWith("<script src=\"files/web.js\"></script>\n</head><body>3</body>"));
+    const QString single = page("<head>", true);
+    EXPECT_TRUE(single.startsWith("<head><script>window.FolveroUserConfig = \""));
+    EXPECT_TRUE(
+        single.contains("<script>\nweb.js</script>\n</head><body>3<script type=\"text/plain\""));
+    EXPECT_TRUE(single.endsWith("</script>\n</body>"));
+    EXPECT_EQ(page("<head>a${x}${y}", false),
+              "<head>a${y}<script>1</script></head><body><object x>2</object>3</body>");
+}
+
 TEST_F(WebBookTest, OneFileBeyondTheLimitLeavesTheEarlierOne) {
     PublishedBook book;
     for (const char* part : {"web.js", "web.css"})

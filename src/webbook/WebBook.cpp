@@ -1,0 +1,131 @@
+#include "webbook/WebBook.h"
+
+#include "annotations/FlashOutlinePDF.h"
+#include "base/Log.h"
+#include "base/PlatformException.h"
+#include "output/BookLayout.h"
+#include "output/BookXML.h"
+#include "pdf/PDFDocument.h"
+#include "system/Files.h"
+
+#include <QFileInfo>
+#include <algorithm>
+
+namespace {
+
+constexpr Log logger("FolveroOutputWeb");
+
+// Only a valid language tag may get into the page.
+QString languageTag(const QString& text) {
+    const QString tag = text.trimmed().left(35);
+    const bool isTag = std::all_of(tag.begin(), tag.end(), [](QChar letter) {
+        return letter.unicode() < 0x80 && (letter.isLetterOrNumber() || letter == u'-');
+    });
+    return isTag ? tag : QString();
+}
+
+std::vector<PageRun> runsOfPositions(const std::vector<int>& numbers,
+                                     const std::vector<PageRun>& openPages) {
+    std::vector<PageRun> runs;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        const int position = int(i) + 1;
+        if (!isWithin(openPages, numbers[i]))
+            continue;
+        if (!runs.empty() && runs.back().last == position - 1)
+            runs.back().last = position;
+        else
+            runs.push_back({position, position});
+    }
+    return runs;
+}
+
+void readInformation(const PDFDocument& document, WebBookMetadata& metadata) {
+    metadata.title = document.information("Title").trimmed();
+    metadata.author = document.information("Author").trimmed();
+    metadata.subject = document.information("Subject").trimmed();
+    metadata.keywords = document.information("Keywords").trimmed();
+    metadata.language = languageTag(document.language());
+}
+
+void readLabels(const PDFDocument& document, WebBookMetadata& metadata) {
+    const auto labels = document.pageLabels();
+    if (labels.empty())
+        return;
+    for (const int number : metadata.numbers)
+        metadata.labels << (number <= int(labels.size()) ? labels[std::size_t(number) - 1]
+                                                         : QString());
+}
+
+} // namespace
+
+void WebBook::readDocument(const std::optional<std::vector<PageRun>>& openPages) {
+    for (const WebPage& page : pages)
+        metadata.numbers.push_back(page.number);
+    if (openPages)
+        metadata.open = runsOfPositions(metadata.numbers, *openPages);
+    for (const WebPage& page : pages) {
+        const bool hasLarge = isOpen(page) && !page.large.isNull();
+        metadata.large << (hasLarge ? QFileInfo(page.large).suffix() : QString());
+    }
+    const auto& document = content.document;
+    if (!document)
+        return;
+    try {
+        readInformation(*document, metadata);
+        if (!content.outline) {
+            const auto ofDocument = std::make_shared<FlashOutlinePDF>();
+            ofDocument->loadOutlineFromPDF(document);
+            content.outline = ofDocument;
+        }
+        readLabels(*document, metadata);
+    } catch (const PlatformException& failure) {
+        logger.warn(failure.reason());
+    }
+    if (!metadata.subject.isEmpty())
+        texts.setHTMLDescription(metadata.subject.toHtmlEscaped());
+    if (!metadata.keywords.isEmpty())
+        texts.setHTMLKeywords(metadata.keywords.toHtmlEscaped());
+}
+
+QString WebBook::htmlName() const {
+    return Files::lastPathComponent(htmlFile);
+}
+
+bool WebBook::isOpen(const WebPage& page) const {
+    return metadata.isOpen(metadata.positionOf(page.number));
+}
+
+FlashPageSource::Pages WebBook::pictures() const {
+    FlashPageSource::Pages pictures;
+    for (const WebPage& page : pages) {
+        if (!isOpen(page))
+            continue;
+        auto picture = std::make_shared<FlashPage>();
+        picture->setPageIndex(page.number);
+        picture->setPageFilePath(page.picture);
+        pictures.push_back(std::move(picture));
+    }
+    return pictures;
+}
+
+QString WebBook::picturePath(const WebPage& page) {
+    return BookLayout::page(page.number, Files::pathExtension(page.picture));
+}
+
+std::unique_ptr<pugi::xml_document> WebBook::configuration() const {
+    std::vector<BookXML::PageURLs> urls;
+    for (const WebPage& page : pages) {
+        const QString picture = picturePath(page);
+        const QString thumbnail =
+            page.thumbnail.isNull() ? picture : BookLayout::thumbnail(page.number);
+        urls.push_back({BookLayout::inFiles(picture), BookLayout::inFiles(thumbnail)});
+    }
+    return BookXML::make(flashTemplate.get(), urls, content.pageSize);
+}
+
+QString WebBook::cover() const {
+    const auto first = std::find_if(pages.begin(), pages.end(),
+                                    [this](const WebPage& page) { return isOpen(page); });
+    return first == pages.end() || first->thumbnail.isNull() ? QString()
+                                                             : BookLayout::thumbnail(first->number);
+}

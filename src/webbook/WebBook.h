@@ -1,0 +1,40 @@
+#pragma once
+
+#include "output/HTMLConfigInfo.h"
+#include "output/PublishTransaction.h"
+#include "pages/Book.h"
+#include "pages/FlashPageSource.h"
+#include "webbook/WebBookMetadata.h"
+#include "webbook/WebPages.h"
+
+#include <memory>
+#include <optional>
+#include <pugixml.hpp>
+#include <vector>
+
+class FlashTemplate;
+
+// What the steps that make a web book read.
+struct WebBook {
+    QString htmlFile;                             // full path of the HTML page
+    std::shared_ptr<FlashTemplate> flashTemplate; // null for none
+    HTMLConfigInfo texts;
+    WebBookMetadata metadata;
+    std::vector<WebPage> pages; // in book order
+    Book content;               // as imported
+    PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
+
+    // Reads metadata and outline, unless there is one, from the document, and the texts for search
+    // engines. The pages included are those in these runs of PDF page numbers; none includes all.
+    void readDocument(const std::optional<std::vector<PageRun>>& openPages);
+
+    QString htmlName() const;
+    bool isOpen(const WebPage& page) const;
+    // The pictures of the included pages.
+    FlashPageSource::Pages pictures() const;
+    // Path in the book of a page's picture.
+    static QString picturePath(const WebPage& page);
+    std::unique_ptr<pugi::xml_document> configuration() const;
+    // Path in the book of the picture that stands for it; null for none.
+    QString cover() const;
+};

@@ -1,0 +1,272 @@
+#include "webbook/WebBookSteps.h"
+
+#include "base/Log.h"
+#include "base/PlatformException.h"
+#include "output/BookSteps.h"
+#include "output/WebScript.h"
+#include "pdf/AnnotationBudget.h"
+#include "pdf/PDFDocument.h"
+#include "pdf/PDFSerialization.h"
+#include "system/Bundle.h"
+#include "system/Files.h"
+#include "template/FlashTemplate.h"
+#include "util/ColorCategory.h"
+#include "webbook/OfflineFiles.h"
+#include "webbook/PlainTextPage.h"
+#include "webbook/SingleFilePage.h"
+#include "webbook/WebBook.h"
+#include "webbook/WebPageTemplate.h"
+#include "webbook/WebPageText.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <cmath>
+
+using Copy = PublishTransaction::Copy;
+using Phase = PublishTransaction::Phase;
+
+namespace {
+
+constexpr Log logger("FolveroOutputWeb");
+
+// The file was written by a process that has read an untrusted document.
+std::vector<PDFTextLine> textFrom(const QString& path) {
+    if (path.isNull())
+        return {};
+    try {
+        return PDFSerialization::unpackTextLines(Files::contents(path));
+    } catch (const PlatformException& failure) {
+        logger.warn(QStringLiteral("%1: %2").arg(path, failure.reason()));
+        return {};
+    }
+}
+
+// The pages may have been drawn long before their texts and links are read.
+void checkUnchanged(const PDFDocument& document) {
+    try {
+        document.checkUnchanged();
+    } catch (const PlatformException& failure) {
+        PublishTransaction::fail(document.path(), failure.message());
+    }
+}
+
+// Writes the files of pages and counts their bytes.
+class PageWriter {
+public:
+    PageWriter(PublishTarget& to, const WebBook& book, WebBookReport& report)
+        : iTo(to), iBook(book), iReport(report) {}
+
+    // Returns the page's text.
+    QString write(const WebPage& page);
+    void writeScript(const QString& path, const QByteArray& json);
+
+private:
+    void copy(const QString& source, const QString& path);
+    QByteArray textOf(const WebPage& page, const std::vector<PDFTextLine>& lines);
+
+    PublishTarget& iTo;
+    const WebBook& iBook;
+    WebBookReport& iReport;
+    AnnotationBudget iBudget;
+};
+
+void PageWriter::copy(const QString& source, const QString& path) {
+    if (source.isNull())
+        return;
+    iReport.pageBytes += QFileInfo(source).size();
+    iTo.transaction.copy(source, iTo.layout.at(path), iBook.kindOfCopy);
+}
+
+void PageWriter::writeScript(const QString& path, const QByteArray& json) {
+    const QByteArray script = WebScript::file(path, json);
+    iTo.transaction.write(iTo.layout.at(path), script);
+    iReport.pageBytes += script.size();
+}
+
+QString PageWriter::write(const WebPage& page) {
+    iReport.pageBytes += QFileInfo(page.picture).size();
+    iReport.classicPageBytes += QFileInfo(page.pageFile).size();
+    copy(page.thumbnail, BookLayout::thumbnail(page.number));
+    copy(page.large, BookLayout::largePage(page.number, QFileInfo(page.large).suffix()));
+    const auto lines = textFrom(page.text);
+    writeScript(BookLayout::text(page.number), textOf(page, lines));
+    return WebPageText::plain(lines);
+}
+
+QByteArray PageWriter::textOf(const WebPage& page, const std::vector<PDFTextLine>& lines) {
+    PDFPage source;
+    std::vector<PDFAnnotation> annotations;
+    if (iBook.content.document && page.number <= iBook.content.document->pageCount()) {
+        try {
+            source = iBook.content.document->page(page.number - 1);
+            if (!iBudget.isSpent())
+                annotations = iBook.content.document->annotations(page.number - 1);
+            iBudget.spend(annotations);
+        } catch (const PlatformException& failure) {
+            if (QFileInfo::exists(page.picture)) // otherwise it is a missing page
+                iReport.degradedPages.emplace_back(page.number, failure.message());
+        }
+    }
+    return WebScript::json(WebPageText::asJson(source, lines, annotations, [this](int index) {
+        return iBook.metadata.positionOf(index + 1);
+    }));
+}
+
+// The installed file of the player that a book has at that path. Fails when it is missing.
+QString playerPart(const BookLayout& layout, const QString& path) {
+    const QString source =
+        Bundle::pathForResource(Files::lastPathComponent(path), {}, QStringLiteral("AppFiles/Web"));
+    if (source.isNull())
+        PublishTransaction::fail(
+            layout.at(path), Message::translate("FolveroOutput", "the player is not installed"));
+    return source;
+}
+
+QString textOfPlayerPart(const BookLayout& layout, const QString& path) {
+    return QString::fromUtf8(Files::contents(playerPart(layout, path)));
+}
+
+// On slow connections, files discovered only after another has arrived cost a round trip each.
+QString preloads(const PublishTarget& to, const WebBook& book) {
+    QString links = QStringLiteral("<link rel=\"preload\" as=\"script\" href=\"%1\">\n")
+                        .arg(BookLayout::metadata);
+    if (book.pages.empty() || !book.isOpen(book.pages.front()))
+        return links;
+    const QString picture = WebBook::picturePath(book.pages.front());
+    if (to.writes(picture))
+        links += QStringLiteral("<link rel=\"preload\" as=\"image\" href=\"%1\" "
+                                "fetchpriority=\"high\">\n")
+                     .arg(picture);
+    return links;
+}
+
+// What web books of both forms put into the page.
+PagePlaces placesOf(const WebBook& book) {
+    PagePlaces places;
+    if (!book.metadata.language.isEmpty())
+        places.language = book.metadata.language;
+    // The Flash player can't show a web book's pictures.
+    places.movie = QString();
+    places.head = QString::fromUtf8(book.metadata.headMarkup());
+    return places;
+}
+
+QString megabytes(qint64 bytes) {
+    constexpr double megabyte = 1'000'000;
+    // Rounded up: a file just over a limit must not appear to be within it.
+    return QString::number(std::ceil(10 * double(bytes) / megabyte) / 10, 'f', 1);
+}
+
+// The terminal's text can name the options.
+Message tooLarge(qint64 size, qint64 limit) {
+    const Message forWindow =
+        Message::translate("FolveroOutput",
+                           "As one file the book would have %1 MB, and the most is %2 MB. Import "
+                           "fewer pages or choose the smallest files, or publish it as a folder")
+            .arg(megabytes(size), megabytes(limit));
+    const QString forTerminal =
+        QStringLiteral("as one file the book would have %1 MB, and the most is %2 MB; take fewer "
+                       "pages (--pages) or smaller pictures (--quality 0), or leave out "
+                       "--single-file")
+            .arg(megabytes(size), megabytes(limit));
+    return {forTerminal, forWindow.local()};
+}
+
+} // namespace
+
+void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookReport& report) {
+    PlainTextPage plain(book.metadata, book.htmlName());
+    QJsonArray search;
+    bool hasText = false;
+    PageWriter writer(to, book, report);
+    for (const WebPage& page : book.pages) {
+        to.checkCancelled();
+        if (!book.isOpen(page)) {
+            search.append(QString());
+            plain.skipPage();
+            continue;
+        }
+        const QString text = writer.write(page);
+        hasText = hasText || !text.isEmpty();
+        search.append(text);
+        plain.addPage(text);
+    }
+    if (book.content.document) {
+        book.content.document->stopReader();
+        checkUnchanged(*book.content.document);
+    }
+    writer.writeScript(BookLayout::searchText, WebScript::json(search));
+    writer.writeScript(BookLayout::metadata, WebScript::json(book.metadata.forPlayer(
+                                                 book.content.outline.get(), hasText)));
+    if (!book.metadata.textPage.isEmpty())
+        to.transaction.write(to.layout.at(book.metadata.textPage), plain.html(), Phase::page);
+}
+
+void WebBookSteps::writePage(PublishTarget& to, const WebBook& book) {
+    to.checkCancelled();
+    if (!BookSteps::isInFolder(to.layout, book.htmlFile))
+        return;
+    PagePlaces places = placesOf(book);
+    places.head = preloads(to, book) + places.head +
+                  QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
+                                 "<script src=\"%2\"></script>\n")
+                      .arg(BookLayout::webStyle, BookLayout::webScript);
+    const TextTemplate page =
+        book.texts.filled(WebPageTemplate::of(book.flashTemplate.get()), places);
+    to.transaction.write(book.htmlFile, page.parse().toUtf8(), Phase::page);
+}
+
+void WebBookSteps::copyPlayer(PublishTarget& to) {
+    for (const QString& path : {BookLayout::webScript, BookLayout::webStyle})
+        to.transaction.copy(playerPart(to.layout, path), to.layout.at(path), Copy::independent);
+}
+
+void WebBookSteps::writeOfflineFiles(PublishTarget& to, const WebBook& book) {
+    if (!book.metadata.offline)
+        return;
+    const auto colour = [&](const char* key, const char* usual) {
+        const QString name = QString::fromLatin1(key);
+        const QString value = QString::fromLatin1(usual);
+        return MyColorOper::colorFromHexRGB(
+            book.flashTemplate ? book.flashTemplate->propertyValueFor(name, value) : value);
+    };
+    OfflineFiles files;
+    files.page = book.htmlName();
+    files.title = book.metadata.title;
+    files.language = book.metadata.language;
+    files.cover = book.metadata.cover;
+    files.ground = colour("bgBeginColor", "0xC0C0C0");
+    files.bar = colour("mainColor", "0xffffff");
+    files.script = Files::contents(playerPart(to.layout, BookLayout::serviceWorker));
+    files.player = playerPart(to.layout, BookLayout::offlineScript);
+    files.write(to);
+}
+
+void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& parts,
+                                   const WebBook& book, qint64 limit) {
+    to.checkCancelled();
+    if (!BookSteps::isInFolder(to.layout, book.htmlFile))
+        return;
+    PagePlaces places = placesOf(book);
+    const QByteArray configuration =
+        Files::contents(parts.stagedFile(to.layout.at(BookLayout::configuration)));
+    places.start = QStringLiteral("<script>window.FolveroUserConfig = \"%1\";</script>\n")
+                       .arg(QString::fromLatin1(configuration.toBase64()));
+    places.head += QStringLiteral("<style>\n") + textOfPlayerPart(to.layout, BookLayout::webStyle) +
+                   QStringLiteral("</style>\n<script>\n") +
+                   textOfPlayerPart(to.layout, BookLayout::webScript) +
+                   QStringLiteral("</script>\n");
+    qsizetype end = 0;
+    const QString page = book.texts.filled(WebPageTemplate::of(book.flashTemplate.get()), places)
+                             .parse(PagePlaces::endName, end);
+    std::map<QString, QString> files;
+    for (const auto& [target, staged] : parts.stagedFiles())
+        files.emplace(QDir(to.layout.folder()).relativeFilePath(target), staged);
+    const SingleFilePage single(page.left(end).toUtf8(), files, page.mid(end).toUtf8());
+    if (single.size() > limit)
+        PublishTransaction::fail(book.htmlFile, tooLarge(single.size(), limit));
+    Message error;
+    if (!single.write(to.transaction.stage(book.htmlFile, Phase::page), &error))
+        PublishTransaction::fail(book.htmlFile, error);
+}

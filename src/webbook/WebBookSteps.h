@@ -1,0 +1,40 @@
+#pragma once
+
+#include "base/Message.h"
+#include "output/PublishRun.h"
+
+#include <vector>
+
+struct WebBook;
+
+// About the pages of a web book that was made.
+struct WebBookReport {
+    // Pages that lack some of their files, by number, and why.
+    std::vector<std::pair<int, Message>> degradedPages;
+    // Bytes of all files of pages, and of the same pages in a classic book.
+    qint64 pageBytes = 0;
+    qint64 classicPageBytes = 0;
+};
+
+// The steps that make a web book, beside those of BookSteps.
+namespace WebBookSteps {
+
+// Text with links, thumbnail and larger picture of each page, then the data for all pages: search,
+// metadata, and the page of plain text if metadata names one.
+void writePages(PublishTarget& to, const WebBook& book, WebBookReport& report);
+
+// The HTML page; after pictures.
+void writePage(PublishTarget& to, const WebBook& book);
+
+// Scripts and styles that the HTML page loads.
+void copyPlayer(PublishTarget& to);
+
+// What lets readers save the book, unless metadata rules it out; after all other files.
+void writeOfflineFiles(PublishTarget& to, const WebBook& book);
+
+// In place of the HTML page, one that contains all files staged in parts. Fails when it would have
+// more bytes than the limit.
+void writeSingleFile(PublishTarget& to, const PublishTransaction& parts, const WebBook& book,
+                     qint64 limit);
+
+} // namespace WebBookSteps

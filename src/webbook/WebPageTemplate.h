@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+class FlashTemplate;
+
+// The page of a template as a web book needs it.
+namespace WebPageTemplate {
+
+// The page's text with the places for what a web book adds; see PagePlaces. Pages of templates from
+// before there were places get them at the elements where they belong, but none where there is no
+// such element or the text is not filled in any more.
+QString of(const FlashTemplate* flashTemplate);
+
+} // namespace WebPageTemplate
