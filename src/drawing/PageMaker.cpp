@@ -48,8 +48,7 @@ qint64 PageMaker::makePageFile(const QString& path, PageTiming& timing) {
     timing.encode += watch.lap();
     Message error;
     if (!Files::writeWorkingFile(path, jpeg, &error)) {
-        throw PlatformException(ErrorKind::pageWrite,
-                                Message(QStringLiteral("%1: %2")).arg(path, error));
+        throw PlatformException(ErrorKind::pageWrite, Message::about(path, error));
     }
     timing.write += watch.lap();
     return qint64(jpeg.size());

@@ -36,19 +36,15 @@ Message crashReason() {
     return Message::translate("PageFailure", "the program that draws pages ended at this page");
 }
 
-const Log& workersLog() {
-    static const Log log("PageWorkers");
-    return log;
-}
+constexpr Log logger("PageWorkers");
 
 // Workers report in English: one of our own reasons, or a file's path and the system's error text.
 Message reasonFrom(const QByteArray& words) {
     const qsizetype colon = words.lastIndexOf(": ");
     if (colon < 0)
         return Message::translate("PageFailure", words);
-    return Message(QStringLiteral("%1: %2"))
-        .arg(QString::fromUtf8(words.left(colon)),
-             Message::translate("SystemError", words.mid(colon + 2)));
+    return Message::about(QString::fromUtf8(words.left(colon)),
+                          Message::translate("SystemError", words.mid(colon + 2)));
 }
 
 } // namespace
@@ -89,7 +85,7 @@ std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
         process->writeLine(order); // a failure shows when reading
         return process;
     } catch (const PlatformException& failure) {
-        workersLog().warn(failure.reason());
+        logger.warn(failure.reason());
         return nullptr;
     }
 }
@@ -255,7 +251,7 @@ void PageWorkers::failPage(Worker& worker, const Message& reason) {
     worker.process->kill();
     removeFilesOf(page);
     iResults[page].error = reason;
-    workersLog().warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
+    logger.warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
 }
 
 // A process that did not become ready is not a page's fault. One in its sandbox may have opened the

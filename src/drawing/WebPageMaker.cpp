@@ -44,8 +44,7 @@ void write(const QString& path, const QByteArray& data) {
     Message error;
     const auto* bytes = reinterpret_cast<const unsigned char*>(data.constData());
     if (!Files::writeWorkingFile(path, {bytes, std::size_t(data.size())}, &error)) {
-        throw PlatformException(ErrorKind::pageWrite,
-                                Message(QStringLiteral("%1: %2")).arg(path, error));
+        throw PlatformException(ErrorKind::pageWrite, Message::about(path, error));
     }
 }
 

@@ -9,10 +9,7 @@
 
 namespace {
 
-const Log& operationLog() {
-    static const Log log("ImportPDFOperation");
-    return log;
-}
+constexpr Log logger("ImportPDFOperation");
 
 QRectF firstReadableCropBox(const PDFDocument& document) {
     for (int i = 0;; ++i) {
@@ -23,10 +20,6 @@ QRectF firstReadableCropBox(const PDFDocument& document) {
                 throw;
         }
     }
-}
-
-Message aboutFile() {
-    return QStringLiteral("%1: %2");
 }
 
 Message aboutLinks() {
@@ -77,12 +70,12 @@ void ImportPDFOperation::main() {
     try {
         importStages();
     } catch (const std::exception& failure) {
-        iFailures << aboutFile().arg(iPDFPath, QString::fromUtf8(failure.what()));
+        iFailures << Message::about(iPDFPath, QString::fromUtf8(failure.what()));
         setBook({});
         throw;
     }
     if (isCancelled()) {
-        operationLog().debug(QStringLiteral("import pdf is cancelled"));
+        logger.debug(QStringLiteral("import pdf is cancelled"));
         setBook({});
     }
 }
@@ -102,8 +95,8 @@ void ImportPDFOperation::checkUnchanged() {
     try {
         iBook.document->checkUnchanged();
     } catch (const PlatformException& failure) {
-        operationLog().error(failure.reason());
-        iFailures = {aboutFile().arg(iPDFPath, failure.message())};
+        logger.error(failure.reason());
+        iFailures = {Message::about(iPDFPath, failure.message())};
         setBook({});
     }
 }
@@ -124,18 +117,18 @@ void ImportPDFOperation::importPages() {
         source->startDrawing();
         if (iBook.document)
             readDocumentProperties(*iBook.document);
-        operationLog().debug(QStringLiteral("before generate pages"));
+        logger.debug(QStringLiteral("before generate pages"));
         source->generatePages();
-        operationLog().debug(QStringLiteral("after generate pages"));
-        operationLog().debug(QStringLiteral("before generateNormalPages"));
+        logger.debug(QStringLiteral("after generate pages"));
+        logger.debug(QStringLiteral("before generateNormalPages"));
         source->generateNormalPages();
-        operationLog().debug(QStringLiteral("after generateNormalPages"));
+        logger.debug(QStringLiteral("after generateNormalPages"));
         if (!isCancelled() && iBook.document && !iBook.hasDrawnPages())
             reportNothingDrawn();
     } catch (const PlatformException& failure) {
-        operationLog().error(
+        logger.error(
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
-        iFailures << aboutFile().arg(iPDFPath, failure.message());
+        iFailures << Message::about(iPDFPath, failure.message());
         setBook({});
     }
 }
@@ -149,7 +142,7 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
         iBook.pageSize = QSize(int(box.width()), int(box.height()));
         iBook.documentTitle = document.information("Title").trimmed();
     } catch (const PlatformException& failure) {
-        operationLog().warn(failure.reason());
+        logger.warn(failure.reason());
     }
 }
 
@@ -174,7 +167,7 @@ void ImportPDFOperation::importPageLinks() {
         if (!annotations->unreadPages().empty())
             iFailures << aboutLinks().arg(iPDFPath, linkFailure(annotations->unreadPages()));
     } catch (const PlatformException& failure) {
-        operationLog().error(
+        logger.error(
             QStringLiteral("Run Import PDF Operation error,import links:%1").arg(failure.reason()));
         iFailures << aboutLinks().arg(iPDFPath, failure.message());
     }
@@ -186,8 +179,8 @@ void ImportPDFOperation::importOutline() {
         outline->loadOutlineFromPDF(iBook.document);
         iBook.outline = outline;
     } catch (const PlatformException& failure) {
-        operationLog().error(QStringLiteral("Run Import PDF Operation error,import outline:%1")
-                                 .arg(failure.reason()));
+        logger.error(QStringLiteral("Run Import PDF Operation error,import outline:%1")
+                         .arg(failure.reason()));
         //: %1 is the PDF file, %2 tells what is wrong with its bookmarks.
         iFailures << Message::translate("ImportPDFOperation", "%1: bookmarks: %2")
                          .arg(iPDFPath, failure.message());

@@ -59,12 +59,7 @@ QString PDFToSWFPageConverter::generatePage(int page) {
 void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) {
     if (!PDFDoc())
         return;
-    if (page < 1 || page > PDFDoc()->pageCount()) {
-        throw PlatformException(
-            ErrorKind::pageMissing,
-            Message::translate("PDFDocument", "page %1 does not exist; the document has %2")
-                .arg(QString::number(page), QString::number(PDFDoc()->pageCount())));
-    }
+    PDFDoc()->requirePage(page - 1);
     makePage(page);
 }
 

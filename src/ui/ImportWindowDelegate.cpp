@@ -23,10 +23,7 @@ namespace {
 constexpr int importDPI = 144;
 constexpr std::size_t maxPagesShown = 5;
 
-const Log& logger() {
-    static const Log log("ImportWindowDelegate");
-    return log;
-}
+constexpr Log logger("ImportWindowDelegate");
 
 } // namespace
 
@@ -113,7 +110,7 @@ void ImportWindowDelegate::onImportAction() {
     iBook = emptyBook();
     iWindow->lblInfo->clear();
     showFailure({});
-    logger().debug(QStringLiteral("start to import pdf now..."));
+    logger.debug(QStringLiteral("start to import pdf now..."));
     startImport();
 }
 
@@ -146,7 +143,7 @@ void ImportWindowDelegate::startImport() {
     iQueue.cancelAllOperations();
     const bool typed = iWindow->pageRangeType->checkedId() == ImportWindow::typedPages;
     const QString range = typed ? iWindow->txtPageRange->text() : QStringLiteral("ALL");
-    logger().debug(QStringLiteral("page range is:%1").arg(range));
+    logger.debug(QStringLiteral("page range is:%1").arg(range));
     const auto& settings = AppSettings::shareInstance();
     iImportPDF =
         std::make_shared<ImportPDFOperation>(iWindow->txtImportFile->text(), range, importDPI,
@@ -161,9 +158,9 @@ void ImportWindowDelegate::startImport() {
         iImportPDF->setFilesOf(webFiles);
     iImportPDF->setImportLinks(settings.importLinks() == 1);
     iImportPDF->setImportBookmarks(settings.importBookmark() == 1);
-    logger().debug(QStringLiteral("before add operation"));
+    logger.debug(QStringLiteral("before add operation"));
     iQueue.addOperation(iImportPDF);
-    logger().debug(QStringLiteral("after add operation"));
+    logger.debug(QStringLiteral("after add operation"));
 }
 
 void ImportWindowDelegate::anyThread_handleMSG(const Notification& message) {
@@ -185,11 +182,11 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     // Ignores an operation that was cancelled for a newer one.
     if (!operation || operation != iImportPDF)
         return;
-    logger().debug(QStringLiteral("import pdf isFinished."));
+    logger.debug(QStringLiteral("import pdf isFinished."));
     iFailures = localTexts(operation->failures());
     enableButtons(true);
     if (operation->book().hasDrawnPages()) {
-        logger().debug(QStringLiteral("import pdf ok..."));
+        logger.debug(QStringLiteral("import pdf ok..."));
         iBook = operation->book();
         reportFailedPages();
         storePageSize();
@@ -197,7 +194,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
         endSheet(1);
         return;
     }
-    logger().warn(QStringLiteral("import pdf failed..."));
+    logger.warn(QStringLiteral("import pdf failed..."));
     if (!operation->isCancelled())
         showFailure(iFailures);
     iIsImporting = false;

@@ -29,10 +29,7 @@
 
 namespace {
 
-const Log& logger() {
-    static const Log log("OutputWindowDelegate");
-    return log;
-}
+constexpr Log logger("OutputWindowDelegate");
 
 constexpr int progressWidth = 340;
 constexpr qsizetype maxFilesShown = 3;
@@ -228,7 +225,7 @@ void OutputWindowDelegate::publishAndEnd() {
     try {
         publish(*iOutput);
     } catch (const PlatformException& failure) {
-        logger().error(QStringLiteral("publish error:%1").arg(failure.reason()));
+        logger.error(QStringLiteral("publish error:%1").arg(failure.reason()));
     }
     endSheet(1);
 }
@@ -305,7 +302,7 @@ void OutputWindowDelegate::onSelectFolder() {
 
 // Cancelling keeps what was typed.
 void OutputWindowDelegate::openPanelDidEnd(const std::optional<QString>& panelFile) {
-    logger().debug(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
+    logger.debug(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
     if (panelFile)
         iWindow->txtOutputFolder->setText(*panelFile);
 }

@@ -28,10 +28,7 @@
 
 namespace {
 
-const Log& logger() {
-    static const Log log("BrisleafAppDelegate");
-    return log;
-}
+constexpr Log logger("BrisleafAppDelegate");
 
 const QString settingsFileType = QStringLiteral("txt");
 const QString helpFile = QStringLiteral("PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf");
@@ -76,7 +73,7 @@ void BrisleafAppDelegate::applyChange(PreviewedBook previewed) {
     try {
         publishPreview(previewed);
     } catch (const PlatformException& failure) {
-        logger().error(QStringLiteral("apply change :%1").arg(failure.reason()));
+        logger.error(QStringLiteral("apply change :%1").arg(failure.reason()));
         iWindow->messages->showError(tr("The preview could not be brought up to date."),
                                      failure.message().local());
     }
