@@ -12,7 +12,16 @@ namespace {
 // 72 points per inch become 144 pixels per inch.
 constexpr double pixelsPerPoint = 2.0;
 
+// Integer division: every quality below 100 gives the smallest files.
+constexpr double compressionFactor(int quality) {
+    const int wholeHundreds = quality / 100;
+    return wholeHundreds;
+}
+
 } // namespace
+
+PageMaker::PageMaker(const DrawablePDF& document, QString folder, int quality)
+    : iDocument(document), iFolder(std::move(folder)), iFactor(compressionFactor(quality)) {}
 
 MadePage PageMaker::make(int page, PageFiles wanted, const DrawControl& control) {
     const bool isForWeb = wanted == PageFiles::web;

@@ -20,9 +20,8 @@ struct MadePage {
 // from page to page.
 class PageMaker {
 public:
-    // factor is the JPEG compression factor, 0 (smallest) to 1 (best).
-    PageMaker(const DrawablePDF& document, QString folder, double factor)
-        : iDocument(document), iFolder(std::move(folder)), iFactor(factor) {}
+    // quality is 0 to 100.
+    PageMaker(const DrawablePDF& document, QString folder, int quality);
 
     // Makes the page file of a one-based page number, at twice its size in points, and what a web
     // book needs beside it, if wanted; a page file that an earlier import made is kept then. Each
@@ -35,7 +34,7 @@ private:
 
     const DrawablePDF& iDocument;
     QString iFolder;
-    double iFactor;
+    double iFactor; // JPEG compression factor, 0 (smallest) to 1 (best)
     PageBitmap iBitmap;
     JPEGEncoder iEncoder;
 };

@@ -2,7 +2,6 @@
 
 #include "base/Log.h"
 #include "base/PlatformException.h"
-#include "drawing/PageQuality.h"
 #include "pdf/PDFLimits.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
@@ -99,8 +98,7 @@ PageResult PDFToSWFPageConverter::drawInProcess(int page) {
     try {
         if (!iPDFRep) {
             iOwnDocument = std::make_unique<DrawablePDF>(PDFPath());
-            iPDFRep = std::make_unique<PageMaker>(*iOwnDocument, converterWorkFolder(),
-                                                  compressionFactor(quality()));
+            iPDFRep = std::make_unique<PageMaker>(*iOwnDocument, converterWorkFolder(), quality());
         }
         return {{}, iPDFRep->make(page, wanted, {iStop, PDFLimits::maxPageTime})};
     } catch (const PlatformException& failure) {

@@ -2,7 +2,6 @@
 
 #include "base/PlatformException.h"
 #include "drawing/PageMaker.h"
-#include "drawing/PageQuality.h"
 #include "pdf/DrawablePDF.h"
 #include "pdf/PDFLimits.h"
 #include "worker/WorkerSandbox.h"
@@ -79,7 +78,7 @@ void serveDrawing() {
     enterWorkerSandbox(path, workFolder);
     try {
         const DrawablePDF document(path, DrawablePDF::Access::mapped);
-        PageMaker maker(document, workFolder, compressionFactor(order.value(2).toInt()));
+        PageMaker maker(document, workFolder, order.value(2).toInt());
         std::cout << "ready" << std::endl;
         servePages(maker);
     } catch (const PlatformException& failure) {
