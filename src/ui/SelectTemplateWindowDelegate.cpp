@@ -193,17 +193,6 @@ QString SelectTemplateWindowDelegate::iconFileIn(const QString& tmplPath) {
     return Files::join(tmplPath, QStringLiteral("icon.png"));
 }
 
-QString SelectTemplateWindowDelegate::readableName(const QString& tmplName) {
-    QString name = tmplName.toLower();
-    bool atStart = true;
-    for (QChar& letter : name) {
-        if (atStart)
-            letter = letter.toUpper();
-        atStart = !letter.isLetterOrNumber();
-    }
-    return name;
-}
-
 void SelectTemplateWindowDelegate::tableViewSelectionDidChange() {
     const int row = selectedIn(*iWindow->iTableViewTmpls);
     if (row < 0)

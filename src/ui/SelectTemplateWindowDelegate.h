@@ -61,8 +61,6 @@ public:
     QString failureOf(const QString& tmplName) const;
     // The icon file of the template in that folder.
     static QString iconFileIn(const QString& tmplPath);
-    // A template's name for display: each word capitalised.
-    static QString readableName(const QString& tmplName);
 
 private:
     void awakeFromNib();

@@ -1,7 +1,5 @@
 #include "ui/TemplateTexts.h"
 
-#include "ui/SelectTemplateWindowDelegate.h"
-
 #include <QCoreApplication>
 
 namespace {
@@ -12,6 +10,18 @@ QString translated(const char* context, const QString& text) {
     return text.isEmpty() ? text : QCoreApplication::translate(context, text.toUtf8().constData());
 }
 
+// Each word of a name.
+QString capitalised(const QString& tmplName) {
+    QString name = tmplName.toLower();
+    bool atStart = true;
+    for (QChar& letter : name) {
+        if (atStart)
+            letter = letter.toUpper();
+        atStart = !letter.isLetterOrNumber();
+    }
+    return name;
+}
+
 } // namespace
 
 QString TemplateTexts::shown(const QString& text) {
@@ -19,7 +29,7 @@ QString TemplateTexts::shown(const QString& text) {
 }
 
 QString TemplateTexts::templateName(const QString& tmplName) {
-    return translated("TemplateName", SelectTemplateWindowDelegate::readableName(tmplName));
+    return translated("TemplateName", capitalised(tmplName));
 }
 
 QString TemplateTexts::styleName(const QString& styleName) {
