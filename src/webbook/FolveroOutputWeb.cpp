@@ -57,7 +57,7 @@ WebBook FolveroOutputWeb::webBook(const WebPages& pages) const {
 }
 
 PublishSteps FolveroOutputWeb::contents(const WebBook& book) {
-    return {{"pages",
+    return {{"data of pages",
              [this, &book](PublishTarget& to) { WebBookSteps::writePages(to, book, iReport); }},
             BookSteps::pages(book.pictures(), book.kindOfCopy, iMissingPages),
             BookSteps::settingsFiles(book.flashTemplate.get()),
