@@ -1,4 +1,4 @@
-#include "fuzz/Fuzz.h"
+#include "Fuzz.h"
 #include "pdf/PDFSerialization.h"
 
 namespace {

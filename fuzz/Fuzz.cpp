@@ -1,4 +1,4 @@
-#include "fuzz/Fuzz.h"
+#include "Fuzz.h"
 
 #include "support/TemplateLibrary.h"
 

@@ -1,4 +1,4 @@
-#include "fuzz/Fuzz.h"
+#include "Fuzz.h"
 #include "support/TemplateLibrary.h"
 #include "template/FlashTemplate.h"
 #include "template/XMLRepair.h"

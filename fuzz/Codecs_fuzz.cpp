@@ -1,4 +1,4 @@
-#include "fuzz/Fuzz.h"
+#include "Fuzz.h"
 #include "util/NSData+CocoaDevUsersAdditions.h"
 #include "util/NSData+CommonCrypto.h"
 
