@@ -106,6 +106,7 @@ TEST_F(Contrast, ChosenLineOfEveryListCanBeRead) {
     const auto choices = window().menu->appearance->actions();
     for (const auto choice : {Appearance::dark, Appearance::light}) {
         choices.at(choice)->trigger();
+        EXPECT_FALSE(qApp->styleSheet().contains(u'@')); // a colour without a value
         const auto all = highlights();
         for (auto it = all.cbegin(); it != all.cend(); ++it)
             EXPECT_GE(contrast(it.value()), 4.5) << it.key().toStdString() << ", " << choice;

@@ -71,6 +71,8 @@ TEST(ImageSize, TakesAnUnstatedResolutionFor72) {
     EXPECT_EQ(measured(jpegWithoutJfif()), QSize(300, 150));
     EXPECT_EQ(measured(QByteArray(encoded("JPG", 11811)).replace(13, 1, QByteArray(1, '\0'))),
               QSize(300, 150));
+    // Per centimetre.
+    EXPECT_EQ(measured(QByteArray(encoded("JPG", 11811)).replace(13, 1, "\2")), QSize(28, 14));
 }
 
 TEST(ImageSize, ReadsTheResolutionThatCamerasWrite) {
