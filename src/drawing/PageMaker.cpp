@@ -3,7 +3,6 @@
 #include "base/PlatformException.h"
 #include "base/Stopwatch.h"
 #include "drawing/WebPageMaker.h"
-#include "system/Files.h"
 
 #include <QFileInfo>
 
@@ -55,10 +54,7 @@ qint64 PageMaker::makePageFile(const QString& path, PageTiming& timing) {
     Stopwatch watch;
     const auto jpeg = iEncoder.encode(iBitmap, iFactor);
     timing.encode += watch.lap();
-    Message error;
-    if (!Files::writeWorkingFile(path, jpeg, &error)) {
-        throw PlatformException(ErrorKind::pageWrite, Message::about(path, error));
-    }
+    writePageFile(path, jpeg);
     timing.write += watch.lap();
     return qint64(jpeg.size());
 }

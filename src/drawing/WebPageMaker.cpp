@@ -41,14 +41,17 @@ bool fitsWebP(const PageBitmap& bitmap) {
 }
 
 void write(const QString& path, const QByteArray& data) {
-    Message error;
     const auto* bytes = reinterpret_cast<const unsigned char*>(data.constData());
-    if (!Files::writeWorkingFile(path, {bytes, std::size_t(data.size())}, &error)) {
-        throw PlatformException(ErrorKind::pageWrite, Message::about(path, error));
-    }
+    writePageFile(path, {bytes, std::size_t(data.size())});
 }
 
 } // namespace
+
+void writePageFile(const QString& path, std::span<const unsigned char> data) {
+    Message error;
+    if (!Files::writeWorkingFile(path, data, &error))
+        throw PlatformException(ErrorKind::pageWrite, Message::about(path, error));
+}
 
 PageTiming WebPageMaker::make(const WebPageFiles& files, qint64 pageFileSize) {
     Stopwatch watch;

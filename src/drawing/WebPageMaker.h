@@ -4,6 +4,11 @@
 #include "drawing/WebPageFiles.h"
 #include "pdf/DrawablePage.h"
 
+#include <span>
+
+// Writes a file of a page atomically. Throws PlatformException of the kind pageWrite.
+void writePageFile(const QString& path, std::span<const unsigned char> data);
+
 // Makes the files that a web book has of one page beyond the page file, whose size limits theirs.
 class WebPageMaker {
 public:
