@@ -105,6 +105,9 @@ async function listOf(name) {
 /** @type {List | undefined} */
 let ownList;
 
+/** Counts removals of the book: what was being fetched meanwhile must not come back. */
+let removals = 0;
+
 /** The list of this edition, undefined before it is there and once it is gone. */
 async function listHere() {
   if (!await caches.has(STORE)) return undefined;
@@ -142,11 +145,13 @@ async function verified(answer, digest) {
  */
 async function fetchInto(store, path, digest, priority) {
   if (await store.match(addressOf(path))) return true;
+  const before = removals;
   // The browser's HTTP cache is good enough, whatever its age: the digest decides.
   for (const cache of ['force-cache', 'no-cache']) {
     const options = /** @type {RequestInit} */ ({ cache, priority });
     const answer = await verified(await fetch(addressOf(path), options), digest);
     if (!answer) continue;
+    if (before !== removals) return false;
     await store.put(addressOf(path), answer);
     return true;
   }
@@ -396,6 +401,7 @@ async function fetchAhead(store) {
 async function note(store, wish) {
   await store.put(WISH, new Response(wish));
   if (wish === 'whole') return;
+  removals += 1;
   await store.delete(READ);
   for (const path of Object.keys((await listNeeded()).rest)) await store.delete(addressOf(path));
 }

@@ -171,9 +171,10 @@ public:
         iServer.set_keep_alive_max_count(1);
         iServer.set_tcp_nodelay(true);
         // Unlike cpp-httplib's default, does not share the port with another server.
-        iServer.set_socket_options([](socket_t socket) {
+        iServer.set_socket_options([this](socket_t socket) {
             const int yes = 1;
             ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof(yes));
+            iSocket = socket;
         });
         iServer.set_pre_routing_handler([folder](const Request& request, Response& response) {
             answerRequest(folder, request, response);
@@ -184,6 +185,7 @@ public:
     }
 
     httplib::Server iServer;
+    socket_t iSocket = INVALID_SOCKET;
     int iPort = 0;
     std::future<bool> iListening; // its destructor waits for the server's threads
 };
@@ -202,6 +204,9 @@ int BookServer::bindPort(int port) {
                                 : (server.bind_to_port(loopback, port) ? port : -1);
     if (taken <= 0)
         return errno != 0 ? errno : EADDRNOTAVAIL;
+    // cpp-httplib lets 5 connections wait. With more, which a browser makes when it opens a book,
+    // the kernel drops packets, and the page waits for seconds until they are sent again.
+    ::listen(iImplementation->iSocket, SOMAXCONN);
     iImplementation->iPort = taken;
     return 0;
 }

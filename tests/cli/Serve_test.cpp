@@ -9,6 +9,7 @@
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 
 namespace {
 
@@ -54,6 +55,8 @@ public:
     // Not open when nobody answers there.
     FileDescriptor connect(const char* address = "127.0.0.1") const {
         FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
+        const timeval patience{20, 0};
+        ::setsockopt(socket.number(), SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof(patience));
         sockaddr_in place{};
         place.sin_family = AF_INET;
         place.sin_port = htons(std::uint16_t(port));
@@ -276,6 +279,16 @@ TEST_F(ServeTest, StaysInTheFolderAndShowsNothingHidden) {
         const Answer answer = served.get(target);
         EXPECT_EQ(answer.status, 404) << target.constData();
         EXPECT_EQ(answer.body, "Not found\n") << target.constData();
+    }
+}
+
+TEST_F(ServeTest, LetsAllConnectionsOfABrowserWait) {
+    const Served served(book());
+    served.signal(SIGSTOP);
+    std::vector<FileDescriptor> waiting;
+    for (int i = 0; i < 40; ++i) {
+        waiting.push_back(served.connect());
+        ASSERT_TRUE(waiting.back().isOpen()) << i;
     }
 }
 
