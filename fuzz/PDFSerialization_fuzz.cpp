@@ -3,26 +3,29 @@
 
 namespace {
 
+using namespace PDFSerialization;
+
 // What was unpacked is packed and unpacked once more.
-template <auto unpack>
+template <class Value>
 void check(const QByteArray& bytes) {
     QByteArray packed;
     try {
-        packed = PDFSerialization::pack(unpack(bytes));
+        packed = pack(unpack<Value>(bytes));
     } catch (const PlatformException& failure) {
-        Fuzz::require(failure.kind() == PDFSerialization::malformedAnswer().kind(),
-                      "a failure says so");
+        Fuzz::require(failure.kind() == malformedAnswer().kind(), "a failure says so");
         return;
     }
     Fuzz::require(packed.size() <= bytes.size(), "nothing is added");
-    Fuzz::require(PDFSerialization::pack(unpack(packed)) == packed, "what was packed comes back");
+    Fuzz::require(pack(unpack<Value>(packed)) == packed, "what was packed comes back");
 }
 
-constexpr void (*checks[])(const QByteArray&) = {
-    check<PDFSerialization::unpackNumber>,   check<PDFSerialization::unpackText>,
-    check<PDFSerialization::unpackPage>,     check<PDFSerialization::unpackAnnotations>,
-    check<PDFSerialization::unpackOutline>,  check<PDFSerialization::unpackTexts>,
-    check<PDFSerialization::unpackTextLines>};
+constexpr void (*checks[])(const QByteArray&) = {check<int>,
+                                                 check<QString>,
+                                                 check<PDFPage>,
+                                                 check<std::vector<PDFAnnotation>>,
+                                                 check<std::vector<PDFOutlineNode>>,
+                                                 check<std::vector<QString>>,
+                                                 check<std::vector<PDFTextLine>>};
 
 } // namespace
 

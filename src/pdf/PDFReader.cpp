@@ -88,7 +88,7 @@ PDFReader::PDFReader(const QString& path, std::function<bool()> stopped)
 
 bool PDFReader::start() {
     try {
-        iPageCount = PDFSerialization::unpackNumber(ask(QByteArray()));
+        iPageCount = PDFSerialization::unpack<int>(ask(QByteArray()));
         return true;
     } catch (const PlatformException& failure) {
         stopReader();
@@ -101,28 +101,29 @@ bool PDFReader::start() {
 
 PDFPage PDFReader::page(int index) const {
     requirePage(index);
-    return PDFSerialization::unpackPage(ask("page " + QByteArray::number(index)));
+    return PDFSerialization::unpack<PDFPage>(ask("page " + QByteArray::number(index)));
 }
 
 std::vector<PDFAnnotation> PDFReader::annotations(int index) const {
     requirePage(index);
-    return PDFSerialization::unpackAnnotations(ask("annotations " + QByteArray::number(index)));
+    return PDFSerialization::unpack<std::vector<PDFAnnotation>>(
+        ask("annotations " + QByteArray::number(index)));
 }
 
 QString PDFReader::information(const char* key) const {
-    return PDFSerialization::unpackText(ask(QByteArray("information ") + key));
+    return PDFSerialization::unpack<QString>(ask(QByteArray("information ") + key));
 }
 
 QString PDFReader::language() const {
-    return PDFSerialization::unpackText(ask("language"));
+    return PDFSerialization::unpack<QString>(ask("language"));
 }
 
 std::vector<QString> PDFReader::pageLabels() const {
-    return PDFSerialization::unpackTexts(ask("labels"));
+    return PDFSerialization::unpack<std::vector<QString>>(ask("labels"));
 }
 
 std::vector<PDFOutlineNode> PDFReader::outline() const {
-    return PDFSerialization::unpackOutline(ask("outline"));
+    return PDFSerialization::unpack<std::vector<PDFOutlineNode>>(ask("outline"));
 }
 
 // A process may be killed through no fault of the document, so each query is tried twice.

@@ -6,156 +6,117 @@
 
 namespace {
 
-// Limits for unpacking, far beyond what is read from a document.
-class Bounds {
-public:
-    // For the items of a list: one level deeper.
-    Bounds beneath() const { return {iDepth + 1, iItems}; }
-    // Whether one more item may be read.
-    bool allowItem() { return iDepth <= maxDepth && ++iItems <= maxItems; }
+// Far beyond what is read from a document.
+constexpr int maxDepth = 100;
+constexpr int maxItems = 1'000'000;
 
-    static Bounds outermost(int& items) { return {0, items}; }
+// The members of a struct in the order in which they are written and read, and what must be true of
+// them.
+template <class Archive>
+void describe(Archive& archive, PDFPage& page) {
+    archive(page.mediaBox, page.cropBox, page.rotation, page.display, page.displayError);
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFAnnotation& annotation) {
+    archive(annotation.type, annotation.bounds, annotation.url, annotation.destinationPage);
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFOutlineNode& node) {
+    archive(node.label, node.destinationPage, node.children);
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFTextWord& word) {
+    archive(word.text, word.start, word.length);
+    archive.require(std::isfinite(word.start) && std::isfinite(word.length));
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFTextLine& line) {
+    archive(line.box, line.turn, line.rightToLeft, line.words);
+    archive.require(line.turn == 0 || line.turn == 90 || line.turn == 180 || line.turn == 270);
+    archive.require(std::isfinite(line.box.x()) && std::isfinite(line.box.y()) &&
+                    std::isfinite(line.box.width()) && std::isfinite(line.box.height()));
+}
+
+class Writer {
+public:
+    explicit Writer(QByteArray& bytes) : iStream(&bytes, QIODevice::WriteOnly) {}
+
+    template <class... Values>
+    void operator()(const Values&... values) {
+        (write(values), ...);
+    }
+    void require(bool /*isSound*/) {}
 
 private:
-    static constexpr int maxDepth = 100;
-    static constexpr int maxItems = 1'000'000;
+    template <class Value>
+    void write(const Value& value) {
+        if constexpr (requires { iStream << value; })
+            iStream << value;
+        else
+            describe(*this, const_cast<Value&>(value)); // which only reads it
+    }
+    void write(const std::optional<int>& number) { iStream << number.value_or(-1); }
+    template <class Item>
+    void write(const std::vector<Item>& items) {
+        iStream << quint32(items.size());
+        for (const Item& item : items)
+            write(item);
+    }
 
-    Bounds(int depth, int& items) : iDepth(depth), iItems(items) {}
-
-    int iDepth;
-    int& iItems; // in all lists so far
+    QDataStream iStream;
 };
 
-void write(QDataStream& stream, const PDFOutlineNode& node);
-void read(QDataStream& stream, PDFOutlineNode& node, Bounds bounds);
-void write(QDataStream& stream, const PDFAnnotation& annotation);
-void read(QDataStream& stream, PDFAnnotation& annotation, Bounds bounds);
+class Reader {
+public:
+    explicit Reader(const QByteArray& bytes) : iStream(bytes) {}
 
-void write(QDataStream& stream, const PDFTextLine& line);
-void read(QDataStream& stream, PDFTextLine& line, Bounds bounds);
-void write(QDataStream& stream, const PDFTextWord& word);
-void read(QDataStream& stream, PDFTextWord& word, Bounds bounds);
-
-void write(QDataStream& stream, int number) {
-    stream << qint32(number);
-}
-
-void read(QDataStream& stream, int& number, Bounds /*bounds*/) {
-    qint32 value = 0;
-    stream >> value;
-    number = value;
-}
-
-void write(QDataStream& stream, const QString& text) {
-    stream << text;
-}
-
-void read(QDataStream& stream, QString& text, Bounds /*bounds*/) {
-    stream >> text;
-}
-
-template <class Item>
-void write(QDataStream& stream, const std::vector<Item>& items) {
-    stream << quint32(items.size());
-    for (const Item& item : items)
-        write(stream, item);
-}
-
-// A false count fails at the end of the data.
-template <class Item>
-void read(QDataStream& stream, std::vector<Item>& items, Bounds bounds) {
-    quint32 count = 0;
-    stream >> count;
-    while (count-- > 0 && stream.status() == QDataStream::Ok) {
-        Item item{};
-        if (bounds.allowItem())
-            read(stream, item, bounds.beneath());
-        else
-            stream.setStatus(QDataStream::ReadCorruptData);
-        items.push_back(std::move(item));
+    template <class... Values>
+    void operator()(Values&... values) {
+        (read(values), ...);
     }
-}
+    void require(bool isSound) {
+        if (!isSound)
+            iStream.setStatus(QDataStream::ReadCorruptData);
+    }
+    bool isOk() const { return iStream.status() == QDataStream::Ok; }
+    bool isAtEnd() const { return iStream.atEnd(); }
 
-void write(QDataStream& stream, const PDFPage& page) {
-    stream << page.mediaBox << page.cropBox << qint32(page.rotation) << page.display
-           << page.displayError;
-}
+private:
+    template <class Value>
+    void read(Value& value) {
+        if constexpr (requires { iStream >> value; })
+            iStream >> value;
+        else
+            describe(*this, value);
+    }
+    void read(std::optional<int>& number) {
+        int found = -1;
+        iStream >> found;
+        if (found >= 0)
+            number = found;
+    }
+    // A false count fails at the end of the data.
+    template <class Item>
+    void read(std::vector<Item>& items) {
+        quint32 count = 0;
+        iStream >> count;
+        ++iDepth;
+        for (; count > 0 && isOk(); --count) {
+            require(iDepth <= maxDepth && ++iItems <= maxItems);
+            if (isOk())
+                read(items.emplace_back());
+        }
+        --iDepth;
+    }
 
-void read(QDataStream& stream, PDFPage& page, Bounds /*bounds*/) {
-    qint32 rotation = 0;
-    stream >> page.mediaBox >> page.cropBox >> rotation >> page.display >> page.displayError;
-    page.rotation = rotation;
-}
-
-void write(QDataStream& stream, const PDFAnnotation& annotation) {
-    stream << annotation.type << annotation.bounds << annotation.url
-           << qint32(annotation.destinationPage.value_or(-1));
-}
-
-void read(QDataStream& stream, PDFAnnotation& annotation, Bounds /*bounds*/) {
-    qint32 page = -1;
-    stream >> annotation.type >> annotation.bounds >> annotation.url >> page;
-    if (page >= 0)
-        annotation.destinationPage = page;
-}
-
-void write(QDataStream& stream, const PDFOutlineNode& node) {
-    stream << node.label << qint32(node.destinationPage);
-    write(stream, node.children);
-}
-
-void read(QDataStream& stream, PDFOutlineNode& node, Bounds bounds) {
-    qint32 page = -1;
-    stream >> node.label >> page;
-    node.destinationPage = page;
-    read(stream, node.children, bounds);
-}
-
-void write(QDataStream& stream, const PDFTextWord& word) {
-    stream << word.text << word.start << word.length;
-}
-
-void read(QDataStream& stream, PDFTextWord& word, Bounds /*bounds*/) {
-    stream >> word.text >> word.start >> word.length;
-    if (!std::isfinite(word.start) || !std::isfinite(word.length))
-        stream.setStatus(QDataStream::ReadCorruptData);
-}
-
-void write(QDataStream& stream, const PDFTextLine& line) {
-    stream << line.box << qint32(line.turn) << line.rightToLeft;
-    write(stream, line.words);
-}
-
-void read(QDataStream& stream, PDFTextLine& line, Bounds bounds) {
-    qint32 turn = 0;
-    stream >> line.box >> turn >> line.rightToLeft;
-    line.turn = turn;
-    read(stream, line.words, bounds);
-    const bool isSound = (turn == 0 || turn == 90 || turn == 180 || turn == 270) &&
-                         std::isfinite(line.box.x()) && std::isfinite(line.box.y()) &&
-                         std::isfinite(line.box.width()) && std::isfinite(line.box.height());
-    if (!isSound)
-        stream.setStatus(QDataStream::ReadCorruptData);
-}
-
-template <class Value>
-QByteArray packed(const Value& value) {
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    write(stream, value);
-    return bytes;
-}
-
-template <class Value>
-Value unpacked(const QByteArray& bytes) {
-    QDataStream stream(bytes);
-    Value value{};
-    int items = 0;
-    read(stream, value, Bounds::outermost(items));
-    if (stream.status() != QDataStream::Ok || !stream.atEnd())
-        throw PDFSerialization::malformedAnswer();
-    return value;
-}
+    QDataStream iStream;
+    int iDepth = 0; // of lists
+    int iItems = 0; // in all lists so far
+};
 
 } // namespace
 
@@ -164,58 +125,36 @@ PlatformException PDFSerialization::malformedAnswer() {
             Message::translate("PDFReader", "what was read of it makes no sense")};
 }
 
-QByteArray PDFSerialization::pack(int number) {
-    return packed(number);
+template <class Value>
+QByteArray PDFSerialization::pack(const Value& value) {
+    QByteArray bytes;
+    Writer writer(bytes);
+    writer(value);
+    return bytes;
 }
 
-QByteArray PDFSerialization::pack(const QString& text) {
-    return packed(text);
+template <class Value>
+Value PDFSerialization::unpack(const QByteArray& packed) {
+    Value value{};
+    Reader reader(packed);
+    reader(value);
+    if (!reader.isOk() || !reader.isAtEnd())
+        throw malformedAnswer();
+    return value;
 }
 
-QByteArray PDFSerialization::pack(const PDFPage& page) {
-    return packed(page);
-}
+template QByteArray PDFSerialization::pack(const int&);
+template QByteArray PDFSerialization::pack(const QString&);
+template QByteArray PDFSerialization::pack(const PDFPage&);
+template QByteArray PDFSerialization::pack(const std::vector<QString>&);
+template QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>&);
+template QByteArray PDFSerialization::pack(const std::vector<PDFOutlineNode>&);
+template QByteArray PDFSerialization::pack(const std::vector<PDFTextLine>&);
 
-QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>& annotations) {
-    return packed(annotations);
-}
-
-QByteArray PDFSerialization::pack(const std::vector<PDFOutlineNode>& nodes) {
-    return packed(nodes);
-}
-
-QByteArray PDFSerialization::pack(const std::vector<QString>& texts) {
-    return packed(texts);
-}
-
-QByteArray PDFSerialization::pack(const std::vector<PDFTextLine>& lines) {
-    return packed(lines);
-}
-
-int PDFSerialization::unpackNumber(const QByteArray& packed) {
-    return unpacked<int>(packed);
-}
-
-QString PDFSerialization::unpackText(const QByteArray& packed) {
-    return unpacked<QString>(packed);
-}
-
-PDFPage PDFSerialization::unpackPage(const QByteArray& packed) {
-    return unpacked<PDFPage>(packed);
-}
-
-std::vector<PDFAnnotation> PDFSerialization::unpackAnnotations(const QByteArray& packed) {
-    return unpacked<std::vector<PDFAnnotation>>(packed);
-}
-
-std::vector<PDFOutlineNode> PDFSerialization::unpackOutline(const QByteArray& packed) {
-    return unpacked<std::vector<PDFOutlineNode>>(packed);
-}
-
-std::vector<QString> PDFSerialization::unpackTexts(const QByteArray& packed) {
-    return unpacked<std::vector<QString>>(packed);
-}
-
-std::vector<PDFTextLine> PDFSerialization::unpackTextLines(const QByteArray& packed) {
-    return unpacked<std::vector<PDFTextLine>>(packed);
-}
+template int PDFSerialization::unpack(const QByteArray&);
+template QString PDFSerialization::unpack(const QByteArray&);
+template PDFPage PDFSerialization::unpack(const QByteArray&);
+template std::vector<QString> PDFSerialization::unpack(const QByteArray&);
+template std::vector<PDFAnnotation> PDFSerialization::unpack(const QByteArray&);
+template std::vector<PDFOutlineNode> PDFSerialization::unpack(const QByteArray&);
+template std::vector<PDFTextLine> PDFSerialization::unpack(const QByteArray&);

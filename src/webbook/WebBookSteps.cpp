@@ -35,7 +35,7 @@ std::vector<PDFTextLine> textFrom(const QString& path) {
     if (path.isNull())
         return {};
     try {
-        return PDFSerialization::unpackTextLines(Files::contents(path));
+        return PDFSerialization::unpack<std::vector<PDFTextLine>>(Files::contents(path));
     } catch (const PlatformException& failure) {
         logger.warn(QStringLiteral("%1: %2").arg(path, failure.reason()));
         return {};

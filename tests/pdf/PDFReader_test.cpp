@@ -105,7 +105,10 @@ TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {
 TEST(PDFSerialization, RefusesTextLinesThatMakeNoSense) {
     const auto failureWith = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
         const std::vector lines{PDFTextLine{box, turn, false, {word}}};
-        return failureOf([&] { PDFSerialization::unpackTextLines(PDFSerialization::pack(lines)); })
+        return failureOf([&] {
+                   PDFSerialization::unpack<std::vector<PDFTextLine>>(
+                       PDFSerialization::pack(lines));
+               })
             .name;
     };
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
