@@ -1,10 +1,11 @@
 #include "util/Cryptor.h"
 
 #include <algorithm>
-#include <nettle/aes.h>
 #include <nettle/arcfour.h>
 #include <nettle/cast128.h>
+#include <nettle/cbc.h>
 #include <nettle/des.h>
+#include <nettle/nettle-meta.h>
 #include <utility>
 
 namespace {
@@ -17,15 +18,18 @@ std::uint8_t* bytes(QByteArray& data) {
     return reinterpret_cast<std::uint8_t*>(data.data());
 }
 
-// The direction is part of the key schedule for some ciphers, of the block function for others.
-template <typename Context, typename SetKey, typename Crypt>
-auto transformWith(SetKey setKey, Crypt crypt) {
-    Context context;
-    setKey(&context);
-    return [context, crypt](std::size_t length, std::uint8_t* target,
-                            const std::uint8_t* source) mutable {
-        crypt(&context, length, target, source);
-    };
+// A cipher's own function as nettle's general type. RC4 changes its context.
+template <class Context, auto function>
+void transformWith(const void* context, std::size_t length, std::uint8_t* target,
+                   const std::uint8_t* source) {
+    function(static_cast<Context*>(const_cast<void*>(context)), length, target, source);
+}
+
+template <class Context, class SetKey>
+QByteArray contextWith(SetKey setKey) {
+    QByteArray context(sizeof(Context), '\0');
+    setKey(reinterpret_cast<Context*>(context.data()));
+    return context;
 }
 
 } // namespace
@@ -33,139 +37,100 @@ auto transformWith(SetKey setKey, Crypt crypt) {
 Cryptor::Cipher Cryptor::cipherFor(Operation operation, CCAlgorithm algorithm,
                                    const QByteArray& key) {
     const bool encrypts = operation == Operation::encrypt;
-    const auto keyed = [&key](auto setKey) {
-        return [setKey, &key](auto* context) { setKey(context, bytes(key)); };
-    };
-    const auto keyedByLength = [&key](auto setKey, qsizetype longest) {
-        return [setKey, longest, &key](auto* context) {
-            setKey(context, std::min(key.size(), longest), bytes(key));
-        };
-    };
+    const auto length = std::size_t(key.size());
     switch (algorithm) {
     case CCAlgorithmAES:
-        if (key.size() == AES128_KEY_SIZE)
-            return {AES_BLOCK_SIZE,
-                    transformWith<aes128_ctx>(
-                        keyed(encrypts ? aes128_set_encrypt_key : aes128_set_decrypt_key),
-                        encrypts ? aes128_encrypt : aes128_decrypt)};
-        if (key.size() == AES192_KEY_SIZE)
-            return {AES_BLOCK_SIZE,
-                    transformWith<aes192_ctx>(
-                        keyed(encrypts ? aes192_set_encrypt_key : aes192_set_decrypt_key),
-                        encrypts ? aes192_encrypt : aes192_decrypt)};
-        if (key.size() == AES256_KEY_SIZE)
-            return {AES_BLOCK_SIZE,
-                    transformWith<aes256_ctx>(
-                        keyed(encrypts ? aes256_set_encrypt_key : aes256_set_decrypt_key),
-                        encrypts ? aes256_encrypt : aes256_decrypt)};
+        for (const auto* aes : {&nettle_aes128, &nettle_aes192, &nettle_aes256}) {
+            if (length != aes->key_size)
+                continue;
+            QByteArray context(aes->context_size, '\0');
+            (encrypts ? aes->set_encrypt_key : aes->set_decrypt_key)(context.data(), bytes(key));
+            return {aes->block_size, context, encrypts ? aes->encrypt : aes->decrypt};
+        }
         break;
     case CCAlgorithmDES:
-        if (key.size() == DES_KEY_SIZE)
-            return {DES_BLOCK_SIZE, transformWith<des_ctx>(keyed(des_set_key),
-                                                           encrypts ? des_encrypt : des_decrypt)};
+        if (length == DES_KEY_SIZE)
+            return {DES_BLOCK_SIZE,
+                    contextWith<des_ctx>([&](auto* des) { des_set_key(des, bytes(key)); }),
+                    encrypts ? transformWith<des_ctx, des_encrypt>
+                             : transformWith<des_ctx, des_decrypt>};
         break;
     case CCAlgorithm3DES:
-        if (key.size() == DES3_KEY_SIZE)
+        if (length == DES3_KEY_SIZE)
             return {DES3_BLOCK_SIZE,
-                    transformWith<des3_ctx>(keyed(des3_set_key),
-                                            encrypts ? des3_encrypt : des3_decrypt)};
+                    contextWith<des3_ctx>([&](auto* des) { des3_set_key(des, bytes(key)); }),
+                    encrypts ? transformWith<des3_ctx, des3_encrypt>
+                             : transformWith<des3_ctx, des3_decrypt>};
         break;
     case CCAlgorithmCAST:
-        if (key.size() >= CAST5_MIN_KEY_SIZE && key.size() <= CAST5_MAX_KEY_SIZE)
-            return {CAST128_BLOCK_SIZE,
-                    transformWith<cast128_ctx>(keyedByLength(cast5_set_key, CAST5_MAX_KEY_SIZE),
-                                               encrypts ? cast128_encrypt : cast128_decrypt)};
+        if (length >= CAST5_MIN_KEY_SIZE && length <= CAST5_MAX_KEY_SIZE)
+            return {CAST128_BLOCK_SIZE, contextWith<cast128_ctx>([&](auto* cast) {
+                        cast5_set_key(cast, length, bytes(key));
+                    }),
+                    encrypts ? transformWith<cast128_ctx, cast128_encrypt>
+                             : transformWith<cast128_ctx, cast128_decrypt>};
         break;
     case CCAlgorithmRC4:
         // The key schedule has 256 steps: bytes of a longer key beyond that have no effect.
-        if (!key.isEmpty())
-            return {1, transformWith<arcfour_ctx>(
-                           keyedByLength(arcfour_set_key, ARCFOUR_MAX_KEY_SIZE), arcfour_crypt)};
+        if (length > 0)
+            return {1, contextWith<arcfour_ctx>([&](auto* rc4) {
+                        arcfour_set_key(rc4, std::min<std::size_t>(length, ARCFOUR_MAX_KEY_SIZE),
+                                        bytes(key));
+                    }),
+                    transformWith<arcfour_ctx, arcfour_crypt>};
         break;
     }
     return {};
 }
 
-std::unique_ptr<Cryptor> Cryptor::create(Operation operation, CCAlgorithm algorithm, int options,
-                                         const QByteArray& key, const QByteArray& vector,
-                                         int* status) {
+std::optional<Cryptor> Cryptor::create(Operation operation, CCAlgorithm algorithm, int options,
+                                       const QByteArray& key, const QByteArray& vector,
+                                       int* status) {
     Cipher cipher = cipherFor(operation, algorithm, key);
     if (cipher.transform)
-        return std::unique_ptr<Cryptor>(new Cryptor(operation, options, std::move(cipher), vector));
+        return Cryptor(operation, options, std::move(cipher), vector);
     const bool known = algorithm >= CCAlgorithmAES && algorithm <= CCAlgorithmRC4;
     if (status)
         *status = known ? CCParamError : CCUnimplemented;
-    return nullptr;
+    return std::nullopt;
 }
 
 Cryptor::Cryptor(Operation operation, int options, Cipher cipher, const QByteArray& vector)
     : iOperation(operation),
       iOptions(options),
       iCipher(std::move(cipher)),
-      iPreviousBlock(vector.left(iCipher.blockSize).leftJustified(iCipher.blockSize, '\0')) {}
+      iVector(vector.left(iCipher.blockSize).leftJustified(iCipher.blockSize, '\0')) {}
 
-bool Cryptor::pads() const {
-    return iCipher.blockSize > 1 && (iOptions & CCOptionPKCS7Padding) != 0;
-}
-
-CCCryptorStatus Cryptor::update(const QByteArray& input, QByteArray& output) {
-    iPending += input;
-    qsizetype ready = iPending.size() - iPending.size() % iCipher.blockSize;
-    // The last block contains the padding and is kept for final().
-    if (pads() && iOperation == Operation::decrypt && ready == iPending.size() && ready > 0)
-        ready -= iCipher.blockSize;
-    appendTransformed(iPending.left(ready), output);
-    iPending.remove(0, ready);
-    return CCSuccess;
-}
-
-CCCryptorStatus Cryptor::final(QByteArray& output) {
-    if (pads() && iOperation == Operation::encrypt) {
-        const qsizetype missing = iCipher.blockSize - iPending.size();
-        appendTransformed(iPending + QByteArray(missing, static_cast<char>(missing)), output);
-        return CCSuccess;
+CCCryptorStatus Cryptor::run(const QByteArray& input, QByteArray& output) {
+    const qsizetype size = iCipher.blockSize;
+    const bool isPadded = size > 1 && (iOptions & CCOptionPKCS7Padding) != 0;
+    QByteArray blocks = input;
+    if (isPadded && iOperation == Operation::encrypt) {
+        const qsizetype missing = size - blocks.size() % size;
+        blocks += QByteArray(missing, static_cast<char>(missing));
     }
-    if (iPending.size() % iCipher.blockSize != 0)
+    if (blocks.size() % size != 0)
         return CCAlignmentError;
-    if (!pads())
-        return CCSuccess;
-
-    QByteArray last;
-    appendTransformed(iPending, last);
-    const int count = last.isEmpty() ? 0 : static_cast<unsigned char>(last.back());
-    if (count < 1 || count > iCipher.blockSize || !last.endsWith(QByteArray(count, last.back())))
-        return CCDecodeError;
-    output += last.chopped(count);
+    transform(blocks);
+    if (isPadded && iOperation == Operation::decrypt) {
+        const int count = blocks.isEmpty() ? 0 : static_cast<unsigned char>(blocks.back());
+        if (count < 1 || count > size || !blocks.endsWith(QByteArray(count, blocks.back())))
+            return CCDecodeError;
+        blocks.chop(count);
+    }
+    output += blocks;
     return CCSuccess;
 }
 
-void Cryptor::appendTransformed(const QByteArray& blocks, QByteArray& output) {
-    QByteArray result = blocks;
-    if (iCipher.blockSize > 1 && (iOptions & CCOptionECBMode) == 0)
-        chain(result);
+void Cryptor::transform(QByteArray& blocks) {
+    const auto size = std::size_t(iCipher.blockSize);
+    const auto length = std::size_t(blocks.size());
+    const void* context = iCipher.context.constData();
+    std::uint8_t* data = bytes(blocks);
+    if (size == 1 || (iOptions & CCOptionECBMode) != 0)
+        iCipher.transform(context, length, data, data);
+    else if (iOperation == Operation::encrypt)
+        cbc_encrypt(context, iCipher.transform, size, bytes(iVector), length, data, data);
     else
-        iCipher.transform(result.size(), bytes(result), bytes(blocks));
-    output += result;
-}
-
-void Cryptor::chain(QByteArray& blocks) {
-    const auto size = static_cast<std::size_t>(iCipher.blockSize);
-    std::uint8_t* previous = bytes(iPreviousBlock);
-    const auto mix = [&](std::uint8_t* block) {
-        for (std::size_t i = 0; i < size; ++i)
-            block[i] ^= previous[i];
-    };
-    std::uint8_t* const begin = bytes(blocks);
-    for (std::uint8_t* block = begin; block != begin + blocks.size(); block += size) {
-        if (iOperation == Operation::encrypt) {
-            mix(block);
-            iCipher.transform(size, block, block);
-            std::copy_n(block, size, previous);
-        } else {
-            const QByteArray cipherText(reinterpret_cast<const char*>(block), iCipher.blockSize);
-            iCipher.transform(size, block, block);
-            mix(block);
-            std::copy_n(bytes(cipherText), size, previous);
-        }
-    }
+        cbc_decrypt(context, iCipher.transform, size, bytes(iVector), length, data, data);
 }

@@ -1,6 +1,7 @@
 #include "util/NSData+CocoaDevUsersAdditions.h"
 
-#include <openssl/evp.h>
+#include "util/NSData+CommonCrypto.h"
+
 #include <zlib.h>
 
 namespace {
@@ -17,14 +18,6 @@ int base32Value(char16_t letter) {
     if (letter >= u'2' && letter <= u'7')
         return letter - u'2' + 26;
     return -1;
-}
-
-QByteArray digest(const EVP_MD* algorithm, const QByteArray& data) {
-    QByteArray result(EVP_MD_get_size(algorithm), '\0');
-    const bool done = EVP_Digest(data.constData(), std::size_t(data.size()),
-                                 reinterpret_cast<unsigned char*>(result.data()), nullptr,
-                                 algorithm, nullptr) == 1;
-    return done ? result : QByteArray();
 }
 
 QString hexadecimal(const QByteArray& data) {
@@ -121,15 +114,11 @@ std::uint32_t NSDataExtension::crc32(const QByteArray& data) {
 }
 
 QByteArray NSDataExtension::md5Digest(const QByteArray& data) {
-    return digest(EVP_md5(), data);
+    return CommonDigest::MD5Sum(data);
 }
 
 QByteArray NSDataExtension::sha1Digest(const QByteArray& data) {
-    return digest(EVP_sha1(), data);
-}
-
-QByteArray NSDataExtension::ripemd160Digest(const QByteArray& data) {
-    return digest(EVP_ripemd160(), data);
+    return CommonDigest::SHA1Hash(data);
 }
 
 QString NSDataExtension::md5DigestString(const QByteArray& data) {

@@ -15,8 +15,7 @@ QByteArray run(Operation operation, const QByteArray& data, CCAlgorithm algorith
     QByteArray keyBytes = key.bytes();
     QByteArray vectorBytes = vector.bytes();
     LowLevelCommonCryptor::FixKeyLengths(algorithm, keyBytes, vectorBytes);
-    const auto cryptor =
-        Cryptor::create(operation, algorithm, options, keyBytes, vectorBytes, error);
+    auto cryptor = Cryptor::create(operation, algorithm, options, keyBytes, vectorBytes, error);
     return cryptor ? LowLevelCommonCryptor::_runCryptor(data, *cryptor, error) : QByteArray();
 }
 
@@ -98,36 +97,10 @@ void LowLevelCommonCryptor::FixKeyLengths(CCAlgorithm algorithm, QByteArray& key
         vector.resize(length, '\0');
 }
 
-QByteArray LowLevelCommonCryptor::dataEncryptedUsingAlgorithm(const QByteArray& data,
-                                                              CCAlgorithm algorithm,
-                                                              const CipherBytes& key, int* error) {
-    return run(Operation::encrypt, data, algorithm, key, nullptr, 0, error);
-}
-
-QByteArray LowLevelCommonCryptor::dataEncryptedUsingAlgorithm(const QByteArray& data,
-                                                              CCAlgorithm algorithm,
-                                                              const CipherBytes& key, int options,
-                                                              int* error) {
-    return run(Operation::encrypt, data, algorithm, key, nullptr, options, error);
-}
-
 QByteArray LowLevelCommonCryptor::dataEncryptedUsingAlgorithm(
     const QByteArray& data, CCAlgorithm algorithm, const CipherBytes& key,
     const CipherBytes& initializationVector, int options, int* error) {
     return run(Operation::encrypt, data, algorithm, key, initializationVector, options, error);
-}
-
-QByteArray LowLevelCommonCryptor::decryptedDataUsingAlgorithm(const QByteArray& data,
-                                                              CCAlgorithm algorithm,
-                                                              const CipherBytes& key, int* error) {
-    return run(Operation::decrypt, data, algorithm, key, nullptr, 0, error);
-}
-
-QByteArray LowLevelCommonCryptor::decryptedDataUsingAlgorithm(const QByteArray& data,
-                                                              CCAlgorithm algorithm,
-                                                              const CipherBytes& key, int options,
-                                                              int* error) {
-    return run(Operation::decrypt, data, algorithm, key, nullptr, options, error);
 }
 
 QByteArray LowLevelCommonCryptor::decryptedDataUsingAlgorithm(
@@ -139,9 +112,7 @@ QByteArray LowLevelCommonCryptor::decryptedDataUsingAlgorithm(
 QByteArray LowLevelCommonCryptor::_runCryptor(const QByteArray& data, Cryptor& cryptor,
                                               int* result) {
     QByteArray output("");
-    CCCryptorStatus status = cryptor.update(data, output);
-    if (status == CCSuccess)
-        status = cryptor.final(output);
+    const CCCryptorStatus status = cryptor.run(data, output);
     if (status == CCSuccess)
         return output;
     if (result)

@@ -88,22 +88,32 @@ namespace LowLevelCommonCryptor {
 void FixKeyLengths(CCAlgorithm algorithm, QByteArray& key, QByteArray& vector);
 
 QByteArray dataEncryptedUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
-                                       const CipherBytes& key, int* error = nullptr);
-QByteArray dataEncryptedUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
-                                       const CipherBytes& key, int options, int* error = nullptr);
-QByteArray dataEncryptedUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
                                        const CipherBytes& key,
                                        const CipherBytes& initializationVector, int options,
                                        int* error = nullptr);
+inline QByteArray dataEncryptedUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
+                                              const CipherBytes& key, int options,
+                                              int* error = nullptr) {
+    return dataEncryptedUsingAlgorithm(data, algorithm, key, nullptr, options, error);
+}
+inline QByteArray dataEncryptedUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
+                                              const CipherBytes& key, int* error = nullptr) {
+    return dataEncryptedUsingAlgorithm(data, algorithm, key, nullptr, 0, error);
+}
 
 QByteArray decryptedDataUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
-                                       const CipherBytes& key, int* error = nullptr);
-QByteArray decryptedDataUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
-                                       const CipherBytes& key, int options, int* error = nullptr);
-QByteArray decryptedDataUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
                                        const CipherBytes& key,
                                        const CipherBytes& initializationVector, int options,
                                        int* error = nullptr);
+inline QByteArray decryptedDataUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
+                                              const CipherBytes& key, int options,
+                                              int* error = nullptr) {
+    return decryptedDataUsingAlgorithm(data, algorithm, key, nullptr, options, error);
+}
+inline QByteArray decryptedDataUsingAlgorithm(const QByteArray& data, CCAlgorithm algorithm,
+                                              const CipherBytes& key, int* error = nullptr) {
+    return decryptedDataUsingAlgorithm(data, algorithm, key, nullptr, 0, error);
+}
 
 // Runs a new cryptor over all of the data. *result is set on failure only.
 QByteArray _runCryptor(const QByteArray& data, Cryptor& cryptor, int* result = nullptr);
