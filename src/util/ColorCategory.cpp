@@ -1,6 +1,7 @@
 #include "util/ColorCategory.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdint>
 
 namespace {
@@ -8,30 +9,15 @@ namespace {
 // The largest float below 256, so that [0, 1] maps to 256 equal steps.
 constexpr float steps = 255.99998474121094F;
 
-int hexDigit(QChar letter) {
-    const char16_t c = letter.unicode();
-    if (c >= u'0' && c <= u'9')
-        return c - u'0';
-    if (c >= u'a' && c <= u'f')
-        return c - u'a' + 10;
-    if (c >= u'A' && c <= u'F')
-        return c - u'A' + 10;
-    return -1;
-}
-
 // Saturates on overflow.
 std::uint32_t scanHexInt(QStringView text) {
     text = text.trimmed();
     if (text.startsWith(u"0x", Qt::CaseInsensitive))
         text = text.mid(2);
-    std::uint64_t value = 0;
-    for (const QChar letter : text) {
-        const int digit = hexDigit(letter);
-        if (digit < 0)
-            break;
-        value = std::min<std::uint64_t>(value * 16 + std::uint64_t(digit), UINT32_MAX);
-    }
-    return std::uint32_t(value);
+    const QByteArray digits = text.toLatin1();
+    std::uint32_t value = 0;
+    const auto result = std::from_chars(digits.begin(), digits.end(), value, 16);
+    return result.ec == std::errc::result_out_of_range ? UINT32_MAX : value;
 }
 
 QString componentText(quint16 stored) {
