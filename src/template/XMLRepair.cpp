@@ -1,12 +1,13 @@
 #include "template/XMLRepair.h"
 
-#include "system/LargeStackThread.h"
 #include "template/TextDecoding.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>
+#include <QThread>
 #include <algorithm>
 #include <cstdlib>
+#include <future>
 #include <memory>
 #include <tidy/tidy.h>
 #include <tidy/tidybuffio.h>
@@ -157,7 +158,13 @@ QByteArray repairHere(const QByteArray& text) {
 QByteArray XMLRepair::repaired(const QByteArray& text) {
     if (text.size() > maximumBytes || text.count('<') > maximumTags)
         return {};
-    QByteArray result;
-    runWithLargeStack(stackBytes, [&] { result = repairHere(text); });
-    return result;
+    std::packaged_task<QByteArray()> repair([&] { return repairHere(text); });
+    auto result = repair.get_future();
+    const std::unique_ptr<QThread> thread(QThread::create(std::ref(repair)));
+    thread->setStackSize(stackBytes);
+    thread->start();
+    thread->wait();
+    // Not when there was no memory for the stack.
+    const bool hasRun = result.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+    return hasRun ? result.get() : QByteArray();
 }
