@@ -17,7 +17,7 @@ constexpr auto settleTime = 600ms;
 
 FileWatcher::FileWatcher(const QStringList& paths) {
     for (const QString& path : paths) {
-        if (!path.isNull())
+        if (!path.isEmpty())
             iPaths << path;
     }
 }

@@ -9,7 +9,7 @@
 // Detects changes of files by other programs. It polls, since network drives send no notifications.
 class FileWatcher {
 public:
-    // Null paths are ignored.
+    // Empty paths are ignored.
     explicit FileWatcher(const QStringList& paths);
 
     // Sets the baseline for changes. Call it before reading the files, so that no change during

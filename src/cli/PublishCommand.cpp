@@ -35,7 +35,7 @@ constexpr int interruptPollMilliseconds = 25;
 
 std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options) {
     auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
-    if (!options.settingsFile.isNull())
+    if (!options.settingsFile.isEmpty())
         TemplateOptions::applySettingsFile(*tmpl, options.settingsFile);
     for (const QString& assignment : options.assignments)
         TemplateOptions::applyAssignment(*tmpl, assignment);
@@ -117,23 +117,18 @@ struct Publisher {
     FolveroOutputWeb* web = nullptr; // the output, if it makes a web book
 };
 
-Publisher makeWebPublisher(const PublishOptions& options,
-                           const std::shared_ptr<FlashTemplate>& tmpl, const QString& folder) {
-    auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, bookName(options));
-    output->setSingleFile(options.singleFile);
-    auto* web = output.get();
-    return {std::move(output), web};
-}
-
 // Without pages, which are set later.
 Publisher makePublisher(const PublishOptions& options, const std::shared_ptr<FlashTemplate>& tmpl,
                         const QString& folder) {
     const QString name = bookName(options);
     if (options.type == Type::app)
         return {std::make_unique<FolveroOutputApp>(nullptr, tmpl, folder, name)};
-    if (options.type == Type::web)
-        return makeWebPublisher(options, tmpl, folder);
-    return {std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name)};
+    if (options.type == Type::html)
+        return {std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name)};
+    auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, name);
+    output->setSingleFile(options.singleFile);
+    auto* web = output.get();
+    return {std::move(output), web};
 }
 
 // A user's own page must not be lost because a book has the same name.
@@ -263,7 +258,7 @@ MadeBook makeBook(const PublishOptions& options) {
     writeBook(*output, title, folder);
     folder.keep();
     timing.published();
-    if (!options.timingFile.isNull())
+    if (!options.timingFile.isEmpty())
         timing.write(options.timingFile);
 
     if (web)

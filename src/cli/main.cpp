@@ -13,7 +13,6 @@
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
-#include <QFile>
 #include <csignal>
 #include <fcntl.h>
 #include <optional>
@@ -23,139 +22,102 @@
 
 namespace {
 
-// The parsed command line; texts are in the terminal's encoding.
+// The parsed command line.
 struct CommandLine {
-    std::string pdf;
-    std::string outputFolder;
-    std::string type = "html";
-    std::string name;
-    std::string title;
-    std::string pages = "ALL";
-    bool singleFile = false;
-    std::string previewPages;
-    int quality = 100;
-    bool links = false;
-    bool bookmarks = false;
-    std::string templateName = "float";
-    std::string styleName;
-    std::vector<std::string> assignments;
-    std::string settingsFile;
-    std::string timingFile;
-    bool quiet = false;
-    bool force = false;
-    bool watch = false;
+    PublishOptions publish;
+    QString pdf;
+    QString book;
+    std::optional<int> port;
     bool json = false;
     bool verbose = false;
-    std::string book;
-    std::optional<int> port;
 };
 
-QString text(const std::string& typed) {
-    return QString::fromLocal8Bit(typed.data(), qsizetype(typed.size()));
+// Arguments and file names have the same encoding.
+QString decoded(const std::string& typed) {
+    return QStringLiteral("") + QString::fromLocal8Bit(typed.data(), qsizetype(typed.size()));
 }
 
-QString path(const std::string& typed) {
-    return QFile::decodeName(QByteArray::fromStdString(typed));
+// An option whose value is a text; the text is not null when the option was given.
+CLI::Option* addText(CLI::App& command, const std::string& name, QString& value,
+                     const std::string& help) {
+    return command.add_option_function<std::string>(
+        name, [&value](const std::string& typed) { value = decoded(typed); }, help);
 }
 
-void publish(const CommandLine& line, const CLI::App& command) {
-    PublishOptions options;
-    options.pdf = path(line.pdf);
-    options.outputFolder = path(line.outputFolder);
+PublishOptions::Type typeNamed(const std::string& name) {
     using Type = PublishOptions::Type;
-    options.type = line.type == "app" ? Type::app : line.type == "web" ? Type::web : Type::html;
-    if (command.count("--name") > 0)
-        options.name = path(line.name).isNull() ? QStringLiteral("") : path(line.name);
-    if (command.count("--title") > 0)
-        options.title = text(line.title).isNull() ? QStringLiteral("") : text(line.title);
-    options.pages = text(line.pages);
-    options.singleFile = line.singleFile;
-    if (command.count("--preview-pages") > 0)
-        options.previewPages = QStringLiteral("") + text(line.previewPages);
-    options.quality = line.quality;
-    options.links = line.links;
-    options.bookmarks = line.bookmarks;
-    options.templateName = text(line.templateName);
-    options.styleName = text(line.styleName);
-    if (!line.settingsFile.empty())
-        options.settingsFile = path(line.settingsFile);
-    for (const std::string& assignment : line.assignments)
-        options.assignments << text(assignment);
-    if (!line.timingFile.empty())
-        options.timingFile = path(line.timingFile);
-    options.quiet = line.quiet;
-    options.force = line.force;
-    options.watch = line.watch;
-    runPublish(options);
+    return name == "app" ? Type::app : name == "web" ? Type::web : Type::html;
 }
 
-void addPublish(CLI::App& app, CommandLine& line) {
+void addPublish(CLI::App& app, PublishOptions& options) {
     auto* command =
         app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
-    command->add_option("PDF", line.pdf, "The PDF file")->type_name("")->required();
-    command->add_option("FOLDER", line.outputFolder, "The folder for the book; created if missing")
+    addText(*command, "PDF", options.pdf, "The PDF file")->type_name("")->required();
+    addText(*command, "FOLDER", options.outputFolder, "The folder for the book; created if missing")
         ->type_name("")
         ->required();
     command
-        ->add_option("--type", line.type,
-                     "html: a page with its files, for disk and web; web: the same with links,\n"
-                     "contents, search and text to select; app: a Mac application")
+        ->add_option_function<std::string>(
+            "--type", [&options](const std::string& name) { options.type = typeNamed(name); },
+            "html: a page with its files, for disk and web; web: the same with links,\n"
+            "contents, search and text to select; app: a Mac application")
         ->check(CLI::IsMember({"html", "web", "app"}))
         ->type_name("TYPE")
-        ->capture_default_str();
-    command
-        ->add_option("--name", line.name,
-                     "Name of the HTML page (by default index) or of the application (by\n"
-                     "default that of the PDF file), without its extension")
+        ->default_str("html");
+    addText(*command, "--name", options.name,
+            "Name of the HTML page (by default index) or of the application (by\n"
+            "default that of the PDF file), without its extension")
         ->type_name("NAME");
-    command
-        ->add_option("--title", line.title,
-                     "Title of the book; by default the title of the document")
+    addText(*command, "--title", options.title,
+            "Title of the book; by default the title of the document")
         ->type_name("TEXT");
-    command->add_option("--pages", line.pages, "Pages to include, for example 1-3,7 or ALL")
+    addText(*command, "--pages", options.pages, "Pages to include, for example 1-3,7 or ALL")
         ->type_name("PAGES")
-        ->capture_default_str();
-    command->add_flag("--single-file", line.singleFile,
+        ->default_str("ALL");
+    command->add_flag("--single-file", options.singleFile,
                       "Put all of a web book into its HTML page, for mail and USB sticks");
-    command
-        ->add_option("--preview-pages", line.previewPages,
-                     "Pages that a preview of a web book contains, as in --pages; the others\n"
-                     "show that they are left out")
+    addText(*command, "--preview-pages", options.previewPages,
+            "Pages that a preview of a web book contains, as in --pages; the others\n"
+            "show that they are left out")
         ->type_name("PAGES");
     command
-        ->add_option("--quality", line.quality,
+        ->add_option("--quality", options.quality,
                      "100 for the sharpest pages, below that for the smallest files")
         ->check(CLI::Range(0, 100, "0-100"))
         ->type_name("N")
         ->capture_default_str();
-    command->add_flag("--links", line.links,
+    command->add_flag("--links", options.links,
                       "Read the links of the pages; web books always have them");
-    command->add_flag("--bookmarks", line.bookmarks,
+    command->add_flag("--bookmarks", options.bookmarks,
                       "Read the bookmarks of the document; web books always have them");
-    command->add_option("--template", line.templateName, "Template of the book")
+    addText(*command, "--template", options.templateName, "Template of the book")
         ->type_name("NAME")
-        ->capture_default_str();
-    command->add_option("--style", line.styleName, "Style of the template")->type_name("NAME");
-    command->add_option("--settings", line.settingsFile, "A settings file to apply")
+        ->default_str("float");
+    addText(*command, "--style", options.styleName, "Style of the template")->type_name("NAME");
+    addText(*command, "--settings", options.settingsFile, "A settings file to apply")
         ->type_name("FILE");
     command
-        ->add_option("--set", line.assignments,
-                     "Set one property of the template, see folvero templates; may be given\n"
-                     "many times")
+        ->add_option_function<std::vector<std::string>>(
+            "--set",
+            [&options](const std::vector<std::string>& typed) {
+                for (const std::string& assignment : typed)
+                    options.assignments << decoded(assignment);
+            },
+            "Set one property of the template, see folvero templates; may be given\n"
+            "many times")
         ->type_name("KEY=VALUE")
         ->allow_extra_args(false);
     command->add_flag(
-        "--force", line.force,
+        "--force", options.force,
         "Overwrite a page, an application or other files that don't belong to a book");
-    command->add_flag("--watch", line.watch,
+    command->add_flag("--watch", options.watch,
                       "Run until Ctrl-C, and republish whenever the PDF or the settings file\n"
                       "changes");
-    command->add_flag("--quiet", line.quiet, "Show no progress");
-    command
-        ->add_option("--timing", line.timingFile,
-                     "Write how long the steps took to this file, as JSON")
+    command->add_flag("--quiet", options.quiet, "Show no progress");
+    addText(*command, "--timing", options.timingFile,
+            "Write how long the steps took to this file, as JSON")
         ->type_name("FILE");
-    command->callback([&line, command] { publish(line, *command); });
+    command->callback([&options] { runPublish(options); });
 }
 
 void addTemplates(CLI::App& app, CommandLine& line) {
@@ -172,10 +134,10 @@ void addInfo(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file")
             ->group("Commands");
-    command->add_option("PDF", line.pdf, "The PDF file")->type_name("")->required();
+    addText(*command, "PDF", line.pdf, "The PDF file")->type_name("")->required();
     command->add_flag("--json", line.json, "Print JSON");
     command->callback([&line] {
-        runInfo(path(line.pdf), line.json);
+        runInfo(line.pdf, line.json);
         Terminal::checkOutput();
     });
 }
@@ -184,14 +146,13 @@ void addDecode(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("decode", "Print the deciphered configuration of a published book")
             ->group("Commands");
-    command
-        ->add_option("BOOK", line.book,
-                     "The book's folder, or its " + BookLayout::configuration.toStdString())
+    addText(*command, "BOOK", line.book,
+            "The book's folder, or its " + BookLayout::configuration.toStdString())
         ->type_name("")
         ->required();
     command->add_flag("--json", line.json, "Print JSON");
     command->callback([&line] {
-        runDecode(path(line.book), line.json);
+        runDecode(line.book, line.json);
         Terminal::checkOutput();
     });
 }
@@ -200,14 +161,14 @@ void addServe(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("serve", "Show a published book in the browser, as on a web server")
             ->group("Commands");
-    command->add_option("BOOKDIR", line.book, "The book's folder")->type_name("")->required();
+    addText(*command, "BOOKDIR", line.book, "The book's folder")->type_name("")->required();
     command
         ->add_option("--port", line.port,
                      "Port of the address; by default 8000 or the next free one, 0 for any\n"
                      "free one")
         ->check(CLI::Range(0, 65535, "0-65535"))
         ->type_name("N");
-    command->callback([&line] { runServe(path(line.book), line.port, line.verbose); });
+    command->callback([&line] { runServe(line.book, line.port, line.verbose); });
 }
 
 // The error of the command line, with a pointer to the help.
@@ -235,10 +196,8 @@ int run(int argc, char** argv) {
     CLI::App app("Turns PDF files into page-flip books.", "folvero");
     CommandLine line;
     app.failure_message(explain);
-    for (const auto& [label, shown] : {std::pair{"SUBCOMMAND", "COMMAND"},
-
-                                       {"Positionals", "Arguments"},
-                                       {"REQUIRED", ""}})
+    for (const auto& [label, shown] :
+         {std::pair{"SUBCOMMAND", "COMMAND"}, {"Positionals", "Arguments"}, {"REQUIRED", ""}})
         app.get_formatter()->label(label, shown);
     app.set_version_flag("--version", "folvero " + Bundle::version().toStdString());
     app.require_subcommand(1);
@@ -252,7 +211,7 @@ int run(int argc, char** argv) {
     app.footer("Exit codes: 0 done, 1 nothing was made, 2 command line not understood, 3 the book "
                "was made\nbut pages are missing from it, 75 nothing was made but trying again may "
                "help, 130 cancelled.");
-    addPublish(app, line);
+    addPublish(app, line.publish);
     addTemplates(app, line);
     addInfo(app, line);
     addDecode(app, line);
