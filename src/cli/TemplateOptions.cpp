@@ -10,6 +10,18 @@
 
 namespace {
 
+// The names of the folders that contain that file, sorted.
+QStringList namesWith(const QString& file, const QStringList& folders) {
+    QStringList names;
+    for (const QString& path : folders) {
+        if (QFileInfo::exists(Files::join(path, file)))
+            names << Files::lastPathComponent(path);
+    }
+    names.sort();
+    return names;
+}
+
+// The first property with that key, or nullptr.
 const FlashTemplateProperty* findIn(const FlashTemplate::Properties& nodes, const QString& key) {
     for (const auto& node : nodes) {
         if (node->key() == key)
@@ -67,28 +79,12 @@ QString checkedValue(const FlashTemplateProperty& property, const QString& value
 } // namespace
 
 QStringList TemplateOptions::templateNames() {
-    QStringList names;
-    for (const QString& path : FlashTemplate::tmplNames()) {
-        if (QFileInfo::exists(Files::join(path, QStringLiteral("flashTemplate.xml"))))
-            names << Files::lastPathComponent(path);
-    }
-    names.sort();
-    return names;
+    return namesWith(QStringLiteral("flashTemplate.xml"), FlashTemplate::tmplNames());
 }
 
 QStringList TemplateOptions::styleNames(const QString& templateName) {
-    QStringList names;
-    for (const QString& path : FlashTemplate::tmplStyleNamesForTmpl(templateName)) {
-        if (QFileInfo::exists(Files::join(path, QStringLiteral("tmplSetting.txt"))))
-            names << Files::lastPathComponent(path);
-    }
-    names.sort();
-    return names;
-}
-
-const FlashTemplateProperty* TemplateOptions::findProperty(const FlashTemplate& tmpl,
-                                                           const QString& key) {
-    return findIn(tmpl.properties(), key);
+    return namesWith(QStringLiteral("tmplSetting.txt"),
+                     FlashTemplate::tmplStyleNamesForTmpl(templateName));
 }
 
 QStringList TemplateOptions::choices(const FlashTemplateProperty& property) {
@@ -139,7 +135,7 @@ void TemplateOptions::applyAssignment(FlashTemplate& tmpl, const QString& assign
                            ExitCode::usage);
     }
     const QString key = assignment.left(equals);
-    const FlashTemplateProperty* property = findProperty(tmpl, key);
+    const FlashTemplateProperty* property = findIn(tmpl.properties(), key);
     if (!property) {
         throw CommandError(QStringLiteral("--set: the template \"%1\" has no property \"%2\"; "
                                           "\"folvero templates\" lists them")

@@ -15,9 +15,6 @@ QStringList templateNames();
 // Names of a template's styles, sorted.
 QStringList styleNames(const QString& templateName);
 
-// The first property with that key, or nullptr.
-const FlashTemplateProperty* findProperty(const FlashTemplate& tmpl, const QString& key);
-
 // The choices of a list property.
 QStringList choices(const FlashTemplateProperty& property);
 
