@@ -20,8 +20,8 @@
 // need, its enciphered configuration, its HTML page, and the template's player.
 //
 // A run changes the folder at its end, or not at all. Parts whose source files are missing are left
-// out. A step called on its own is a run of its own.
-class FolveroOutput {
+// out. A step called on its own is a run of its own. The outline is kept for callers, not written.
+class FolveroOutput : public HasBook {
 public:
     FolveroOutput() = default;
     // A null file name means "index.html".
@@ -90,22 +90,6 @@ public:
     void setFlashTemplate(std::shared_ptr<FlashTemplate> value) {
         iFlashTemplate = std::move(value);
     }
-    // What is published. The accessors below read and write parts of it.
-    const Book& book() const { return iBook; }
-    void setBook(Book value) { iBook = std::move(value); }
-    const std::shared_ptr<FlashPageSource>& flashPageSource() const { return iBook.pageSource; }
-    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iBook.pageSource = std::move(value);
-    }
-    const std::shared_ptr<FlashPagesAnnotations>& flashPagesAnnotations() const {
-        return iBook.annotations;
-    }
-    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iBook.annotations = std::move(value);
-    }
-    // Stored for callers; not written.
-    const std::shared_ptr<FlashOutline>& flashOutline() const { return iBook.outline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
     QString saveToFolder() const { return iSaveToFolder; }
     void setSaveToFolder(const QString& folder) { iSaveToFolder = folder; }
     QString saveToFileName() const { return iSaveToFileName; }
@@ -136,7 +120,6 @@ protected:
                                    const FlashTemplateProperty& property) const;
 
     std::shared_ptr<FlashTemplate> iFlashTemplate;
-    Book iBook;
     QString iSaveToFolder;
     QString iSaveToFileName;
     std::shared_ptr<HTMLConfigInfo> iHTMLConfig;

@@ -3,6 +3,7 @@
 #include <QSize>
 #include <QString>
 #include <memory>
+#include <utility>
 
 class FlashOutline;
 class FlashPageSource;
@@ -33,4 +34,26 @@ struct Book {
 
     // Whether at least one page of the document was drawn.
     bool hasDrawnPages() const;
+};
+
+// Accessors of what has a book, for the whole of it and for parts.
+class HasBook {
+public:
+    const Book& book() const { return iBook; }
+    void setBook(Book value) { iBook = std::move(value); }
+    const std::shared_ptr<FlashPageSource>& flashPageSource() const { return iBook.pageSource; }
+    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
+        iBook.pageSource = std::move(value);
+    }
+    const std::shared_ptr<FlashPagesAnnotations>& flashPagesAnnotations() const {
+        return iBook.annotations;
+    }
+    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
+        iBook.annotations = std::move(value);
+    }
+    const std::shared_ptr<FlashOutline>& flashOutline() const { return iBook.outline; }
+    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
+
+protected:
+    Book iBook;
 };

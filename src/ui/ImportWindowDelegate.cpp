@@ -14,7 +14,6 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QRadioButton>
 #include <algorithm>
 #include <span>
 
@@ -40,6 +39,7 @@ ImportWindowDelegate::~ImportWindowDelegate() {
 }
 
 void ImportWindowDelegate::awakeFromNib() {
+    iBook = emptyBook();
     const auto& settings = AppSettings::shareInstance();
     iWindow->txtImportFile->setText(settings.lastImportedFile());
     auto* chosen = iWindow->pageRangeType->button(settings.importPageRangeType());

@@ -12,8 +12,9 @@
 class ImportWindow;
 
 // Controls the import sheet: reads the user's choices, imports in the background, shows progress,
-// and keeps the results. The sheet ends with 1 after an import and 0 without one.
-class ImportWindowDelegate : public QObject {
+// and keeps the result as its book, without pages before an import and after a failed one. The
+// sheet ends with 1 after an import and 0 without one.
+class ImportWindowDelegate : public QObject, public HasBook {
     Q_OBJECT
 
 public:
@@ -26,21 +27,6 @@ public:
     // Imports all pages of that file as if the user had chosen it in the sheet.
     void importFile(const QString& path);
 
-    // The result of the last import, without pages before one and after a failed one. The accessors
-    // below read and write parts of it.
-    const Book& book() const { return iBook; }
-    std::shared_ptr<FlashPageSource> flashPageSource() const { return iBook.pageSource; }
-    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iBook.pageSource = std::move(value);
-    }
-    std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
-        return iBook.annotations;
-    }
-    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iBook.annotations = std::move(value);
-    }
-    std::shared_ptr<FlashOutline> flashOutline() const { return iBook.outline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
     // What the last import left out and why: one text per failed part or page; many failed pages
     // share one.
     const QStringList& failures() const { return iFailures; }
@@ -88,7 +74,6 @@ private:
 
     ImportWindow* iWindow;
     bool iIsImporting = false;
-    Book iBook = emptyBook();
     QStringList iFailures;
     std::shared_ptr<ImportPDFOperation> iImportPDF;
     NotificationCenter::Subscription iProgress;

@@ -14,9 +14,9 @@ class QProgressDialog;
 class WebFilesOperation;
 
 // Controls the publish sheet: reads the user's choices, publishes while the sheet is open, and
-// offers to open the result. The sheet ends with 1 after a publish, successful or not, and 0
-// without one.
-class OutputWindowDelegate : public QObject {
+// offers to open the result. Set its book before it is shown; the page size is that of the
+// settings. The sheet ends with 1 after a publish, successful or not, and 0 without one.
+class OutputWindowDelegate : public QObject, public HasBook {
     Q_OBJECT
 
 public:
@@ -26,23 +26,8 @@ public:
     OutputWindow& window() const { return *iWindow; }
     void beginSheet();
 
-    // What to publish; set before the sheet is shown. Its page size is that of the settings.
-    const Book& book() const { return iBook; }
-    void setBook(Book value) { iBook = std::move(value); }
-    std::shared_ptr<FlashPageSource> flashPageSource() const { return iBook.pageSource; }
-    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iBook.pageSource = std::move(value);
-    }
     std::shared_ptr<FlashTemplate> flashTmpl() const { return iFlashTmpl; }
     void setFlashTmpl(std::shared_ptr<FlashTemplate> value) { iFlashTmpl = std::move(value); }
-    std::shared_ptr<FlashOutline> flashOutline() const { return iBook.outline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
-    std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
-        return iBook.annotations;
-    }
-    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iBook.annotations = std::move(value);
-    }
 
     // The document of the book: its path, empty for the demo book, and its name. Folder and title
     // default to those of its last publish, or are derived from the name.
@@ -88,7 +73,6 @@ private:
     void endSheet(int returnCode);
 
     OutputWindow* iWindow;
-    Book iBook;
     std::shared_ptr<FlashTemplate> iFlashTmpl;
     QString iDocument;
     QString iDocumentName;

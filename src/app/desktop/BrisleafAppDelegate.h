@@ -23,7 +23,7 @@ inline constexpr char16_t APP_NAME[] = u"Folvero";
 
 // The controller of the desktop program: owns the book being edited, shows it in the preview, and
 // runs the commands of the menus and the toolbar. For the main thread.
-class BrisleafAppDelegate : public QObject {
+class BrisleafAppDelegate : public QObject, public HasBook {
     Q_OBJECT
 
 public:
@@ -61,20 +61,6 @@ public:
     FlashTemplateModel& outline() const { return *iOutline; }
     QString flashPreviewFolder() const { return iFlashPreviewFolder; }
     bool isChangePending() const { return iApplyChangeTimer != nullptr; }
-
-    // Parts of the book that is edited.
-    std::shared_ptr<FlashPageSource> flashPageSource() const { return iBook.pageSource; }
-    void setFlashPageSource(std::shared_ptr<FlashPageSource> value) {
-        iBook.pageSource = std::move(value);
-    }
-    std::shared_ptr<FlashPagesAnnotations> flashPagesAnnotations() const {
-        return iBook.annotations;
-    }
-    void setFlashPagesAnnotations(std::shared_ptr<FlashPagesAnnotations> value) {
-        iBook.annotations = std::move(value);
-    }
-    std::shared_ptr<FlashOutline> flashOutline() const { return iBook.outline; }
-    void setFlashOutline(std::shared_ptr<FlashOutline> value) { iBook.outline = std::move(value); }
 
     void OnApplyChange();
     void OnImportPDF();
@@ -122,7 +108,6 @@ private:
     std::shared_ptr<FlashTemplate> iFlashTmpl;
     std::unique_ptr<FlashTemplateOutlineDelegate> tmplDelegate;
     std::unique_ptr<FlashTemplateModel> iOutline;
-    Book iBook;
     // The path of the last import; empty while the demo book is shown.
     QString iDocument = QStringLiteral("");
     std::unique_ptr<QTimer> iApplyChangeTimer;
