@@ -26,23 +26,22 @@ void FolveroOutputWeb::ouputTheBook() {
     iReport = {};
     if (!iBook.pageSource || !QFileInfo(iSaveToFolder).isDir())
         return;
-    const WebPages pages(*iBook.pageSource);
-    for (const WebPage& page : pages.pages()) {
+    const WebBook book = webBook();
+    for (const WebPage& page : book.pages) {
         if (!page.failure.isNull())
             iReport.degradedPages.emplace_back(page.number, page.failure);
     }
-    const WebBook book = webBook(pages);
     iWorksOffline = book.metadata.offline;
     run(layout(), iIsSingleFile ? singleFileSteps(book) : folderSteps(book));
 }
 
-WebBook FolveroOutputWeb::webBook(const WebPages& pages) const {
+WebBook FolveroOutputWeb::webBook() const {
     WebBook book;
     book.htmlFile = outputHTMLFileName();
     book.flashTemplate = iFlashTemplate;
     if (iHTMLConfig)
         book.texts = *iHTMLConfig;
-    book.pages = pages.pages();
+    book.pages = webPagesOf(*iBook.pageSource);
     book.content = iBook;
     book.kindOfCopy = kindOfCopy();
     book.readDocument(iOpenPages);
@@ -76,8 +75,7 @@ PublishSteps FolveroOutputWeb::folderSteps(const WebBook& book) {
               {"page", [&book](PublishTarget& to) { WebBookSteps::writePage(to, book); }}};
     steps += configuration(book);
     steps += {{"player", WebBookSteps::copyPlayer},
-              {"offline files",
-               [&book](PublishTarget& to) { WebBookSteps::writeOfflineFiles(to, book); }},
+              {"offline files", [&book](PublishTarget& to) { OfflineFiles::write(to, book); }},
               {"movie of a classic book",
                [](PublishTarget& to) { to.transaction.remove(to.layout.at(BookLayout::movie)); }},
               BookSteps::outdatedOfflineFiles(),

@@ -6,7 +6,6 @@
 
 #include <optional>
 
-class WebPages;
 struct WebBook;
 
 // Writes a web book: a book folder whose pages take fewer bytes, with clickable links, contents,
@@ -47,7 +46,7 @@ public:
     qint64 classicPageBytes() const { return iReport.classicPageBytes; }
 
 private:
-    WebBook webBook(const WebPages& pages) const;
+    WebBook webBook() const;
     // The steps of a web book, and of one in a single file; what both contain. The book must live
     // as long as the steps.
     PublishSteps folderSteps(const WebBook& book);

@@ -4,7 +4,11 @@
 #include "output/PublishRun.h"
 #include "system/Files.h"
 #include "system/MediaType.h"
+#include "template/FlashTemplate.h"
+#include "util/ColorCategory.h"
 #include "util/NSData+CommonCrypto.h"
+#include "webbook/WebBook.h"
+#include "webbook/WebBookSteps.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -94,54 +98,40 @@ QString shortened(const QString& title) {
     return title.left(blank > 0 ? blank : maxShortName - cut);
 }
 
-} // namespace
-
-bool OfflineFiles::canWriteTo(const BookLayout& book) {
-    if (QFileInfo::exists(book.at(BookLayout::serviceWorker)))
-        return !ExistingBook::pageOfServiceWorker(book.folder()).isNull();
-    return !QFileInfo::exists(book.at(BookLayout::manifest));
+QColor colourOf(const WebBook& book, const char* key, const char* usual) {
+    const QString value = QString::fromLatin1(usual);
+    return MyColorOper::colorFromHexRGB(
+        book.flashTemplate ? book.flashTemplate->propertyValueFor(QString::fromLatin1(key), value)
+                           : value);
 }
 
-void OfflineFiles::write(PublishTarget& to) const {
-    const auto write = [&to](const QString& path, const QByteArray& data,
-                             Phase phase = Phase::contents) {
-        to.transaction.write(to.layout.at(path), data, phase);
-    };
-    write(BookLayout::icon, icon(to));
-    write(BookLayout::offlineScript, Files::contents(player));
-    const List list = listOf(to, page);
-    const QByteArray version = digestOf(list.shell() + list.rest() + script);
-    write(BookLayout::offlineList,
-          "{\"version\":\"" + version + "\",\"bytes\":" + QByteArray::number(list.bytes) +
-              ",\"shell\":{" + list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
-          Phase::configuration);
-    write(BookLayout::manifest, manifest(), Phase::page);
-    write(BookLayout::serviceWorker,
-          ExistingBook::serviceWorkerStart + quoted(page) + ",\"version\":\"" + version + "\"};\n" +
-              script,
-          Phase::page);
+// Around the book.
+QColor ground(const WebBook& book) {
+    return colourOf(book, "bgBeginColor", "0xC0C0C0");
 }
 
-QByteArray OfflineFiles::manifest() const {
+QByteArray manifestOf(const WebBook& book) {
     QJsonObject object{
-        {QStringLiteral("name"), title},
-        {QStringLiteral("short_name"), shortened(title)},
-        {QStringLiteral("start_url"), QString::fromLatin1(QUrl::toPercentEncoding(page))},
+        {QStringLiteral("name"), book.metadata.title},
+        {QStringLiteral("short_name"), shortened(book.metadata.title)},
+        {QStringLiteral("start_url"),
+         QString::fromLatin1(QUrl::toPercentEncoding(book.htmlName()))},
         {QStringLiteral("scope"), QStringLiteral("./")},
         {QStringLiteral("display"), QStringLiteral("standalone")},
-        {QStringLiteral("background_color"), ground.name()},
-        {QStringLiteral("theme_color"), bar.name()},
+        {QStringLiteral("background_color"), ground(book).name()},
+        {QStringLiteral("theme_color"), colourOf(book, "mainColor", "0xffffff").name()},
         {QStringLiteral("icons"),
          QJsonArray{QJsonObject{{QStringLiteral("src"), BookLayout::icon},
                                 {QStringLiteral("sizes"), QStringLiteral("any")},
                                 {QStringLiteral("type"), QStringLiteral("image/svg+xml")}}}}};
-    if (!language.isEmpty())
-        object[QStringLiteral("lang")] = language;
+    if (!book.metadata.language.isEmpty())
+        object[QStringLiteral("lang")] = book.metadata.language;
     return QJsonDocument(object).toJson();
 }
 
 // The cover on a square background, as systems expect icons.
-QByteArray OfflineFiles::icon(const PublishTarget& to) const {
+QByteArray iconOf(const PublishTarget& to, const WebBook& book) {
+    const QString& cover = book.metadata.cover;
     QByteArray picture =
         "<path d=\"M256 150c-48-32-96-32-144-16v228c48-16 96-16 144 16 48-32 96-32 "
         "144-16V134c-48-16-96-16-144 16z\" fill=\"#fff\" stroke=\"#2f5d7c\" "
@@ -155,5 +145,39 @@ QByteArray OfflineFiles::icon(const PublishTarget& to) const {
                   bytes.toBase64() + "\"/>";
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 512 512\" width=\"512\" "
            "height=\"512\"><rect width=\"512\" height=\"512\" fill=\"" +
-           ground.name().toLatin1() + "\"/>" + picture + "</svg>\n";
+           ground(book).name().toLatin1() + "\"/>" + picture + "</svg>\n";
+}
+
+} // namespace
+
+bool OfflineFiles::canWriteTo(const BookLayout& book) {
+    if (QFileInfo::exists(book.at(BookLayout::serviceWorker)))
+        return !ExistingBook::pageOfServiceWorker(book.folder()).isNull();
+    return !QFileInfo::exists(book.at(BookLayout::manifest));
+}
+
+void OfflineFiles::write(PublishTarget& to, const WebBook& book) {
+    if (!book.metadata.offline)
+        return;
+    const QString page = book.htmlName();
+    const QByteArray script =
+        Files::contents(WebBookSteps::playerPart(to.layout, BookLayout::serviceWorker));
+    const auto write = [&to](const QString& path, const QByteArray& data,
+                             Phase phase = Phase::contents) {
+        to.transaction.write(to.layout.at(path), data, phase);
+    };
+    write(BookLayout::icon, iconOf(to, book));
+    write(BookLayout::offlineScript,
+          Files::contents(WebBookSteps::playerPart(to.layout, BookLayout::offlineScript)));
+    const List list = listOf(to, page);
+    const QByteArray version = digestOf(list.shell() + list.rest() + script);
+    write(BookLayout::offlineList,
+          "{\"version\":\"" + version + "\",\"bytes\":" + QByteArray::number(list.bytes) +
+              ",\"shell\":{" + list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
+          Phase::configuration);
+    write(BookLayout::manifest, manifestOf(book), Phase::page);
+    write(BookLayout::serviceWorker,
+          ExistingBook::serviceWorkerStart + quoted(page) + ",\"version\":\"" + version + "\"};\n" +
+              script,
+          Phase::page);
 }

@@ -10,8 +10,6 @@
 #include "system/Bundle.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
-#include "util/ColorCategory.h"
-#include "webbook/OfflineFiles.h"
 #include "webbook/PlainTextPage.h"
 #include "webbook/SingleFilePage.h"
 #include "webbook/WebBook.h"
@@ -113,18 +111,8 @@ QByteArray PageWriter::textOf(const WebPage& page, const std::vector<PDFTextLine
     }));
 }
 
-// The installed file of the player that a book has at that path. Fails when it is missing.
-QString playerPart(const BookLayout& layout, const QString& path) {
-    const QString source =
-        Bundle::pathForResource(Files::lastPathComponent(path), {}, QStringLiteral("AppFiles/Web"));
-    if (source.isNull())
-        PublishTransaction::fail(
-            layout.at(path), Message::translate("FolveroOutput", "the player is not installed"));
-    return source;
-}
-
 QString textOfPlayerPart(const BookLayout& layout, const QString& path) {
-    return QString::fromUtf8(Files::contents(playerPart(layout, path)));
+    return QString::fromUtf8(Files::contents(WebBookSteps::playerPart(layout, path)));
 }
 
 // On slow connections, files discovered only after another has arrived cost a round trip each.
@@ -175,6 +163,15 @@ Message tooLarge(qint64 size, qint64 limit) {
 
 } // namespace
 
+QString WebBookSteps::playerPart(const BookLayout& layout, const QString& path) {
+    const QString source =
+        Bundle::pathForResource(Files::lastPathComponent(path), {}, QStringLiteral("AppFiles/Web"));
+    if (source.isNull())
+        PublishTransaction::fail(
+            layout.at(path), Message::translate("FolveroOutput", "the player is not installed"));
+    return source;
+}
+
 void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookReport& report) {
     PlainTextPage plain(book.metadata, book.htmlName());
     QJsonArray search;
@@ -220,27 +217,6 @@ void WebBookSteps::writePage(PublishTarget& to, const WebBook& book) {
 void WebBookSteps::copyPlayer(PublishTarget& to) {
     for (const QString& path : {BookLayout::webScript, BookLayout::webStyle})
         to.transaction.copy(playerPart(to.layout, path), to.layout.at(path), Copy::independent);
-}
-
-void WebBookSteps::writeOfflineFiles(PublishTarget& to, const WebBook& book) {
-    if (!book.metadata.offline)
-        return;
-    const auto colour = [&](const char* key, const char* usual) {
-        const QString name = QString::fromLatin1(key);
-        const QString value = QString::fromLatin1(usual);
-        return MyColorOper::colorFromHexRGB(
-            book.flashTemplate ? book.flashTemplate->propertyValueFor(name, value) : value);
-    };
-    OfflineFiles files;
-    files.page = book.htmlName();
-    files.title = book.metadata.title;
-    files.language = book.metadata.language;
-    files.cover = book.metadata.cover;
-    files.ground = colour("bgBeginColor", "0xC0C0C0");
-    files.bar = colour("mainColor", "0xffffff");
-    files.script = Files::contents(playerPart(to.layout, BookLayout::serviceWorker));
-    files.player = playerPart(to.layout, BookLayout::offlineScript);
-    files.write(to);
 }
 
 void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& parts,

@@ -26,11 +26,10 @@ void writePages(PublishTarget& to, const WebBook& book, WebBookReport& report);
 // The HTML page; after pictures.
 void writePage(PublishTarget& to, const WebBook& book);
 
+// The installed file of the player that a book has at that path. Fails when it is missing.
+QString playerPart(const BookLayout& layout, const QString& path);
 // Scripts and styles that the HTML page loads.
 void copyPlayer(PublishTarget& to);
-
-// What lets readers save the book, unless metadata rules it out; after all other files.
-void writeOfflineFiles(PublishTarget& to, const WebBook& book);
 
 // In place of the HTML page, one that contains all files staged in parts. Fails when it would have
 // more bytes than the limit.

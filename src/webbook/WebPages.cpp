@@ -27,13 +27,15 @@ WebPage pageFrom(const FlashPage& page, const std::optional<WebPageFiles>& files
 
 } // namespace
 
-WebPages::WebPages(const FlashPageSource& source) {
+std::vector<WebPage> webPagesOf(const FlashPageSource& source) {
+    std::vector<WebPage> pages;
     const auto failures = source.degradedPages();
     for (const auto& page : source.normalPages()) {
         if (!page)
             continue;
-        iPages.push_back(pageFrom(*page, source.webFilesOf(page->pageIndex())));
+        pages.push_back(pageFrom(*page, source.webFilesOf(page->pageIndex())));
         if (const auto found = failures.find(page->pageIndex()); found != failures.end())
-            iPages.back().failure = found->second;
+            pages.back().failure = found->second;
     }
+    return pages;
 }

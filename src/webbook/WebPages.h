@@ -16,15 +16,6 @@ struct WebPage {
     Message failure;   // why the page lacks some of these
 };
 
-// The pages of a source for a web book, with the files that were made of them. Pages that are not
-// of a PDF have their page files only.
-class WebPages {
-public:
-    explicit WebPages(const FlashPageSource& source);
-
-    // In book order.
-    const std::vector<WebPage>& pages() const { return iPages; }
-
-private:
-    std::vector<WebPage> iPages;
-};
+// The pages of a source for a web book, in book order, with the files that were made of them. Pages
+// that are not of a PDF have their page files only.
+std::vector<WebPage> webPagesOf(const FlashPageSource& source);
