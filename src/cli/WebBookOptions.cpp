@@ -78,10 +78,10 @@ void WebBookOptions::printLeftoverFiles(const PublishOptions& options,
 }
 
 void WebBookOptions::printEmbedSnippet(const FolveroOutputWeb& output) {
-    const EmbedSnippet snippet(output.title(), output.book().pageSize,
-                               Files::lastPathComponent(output.outputHTMLFileName()));
+    const QString html = EmbedSnippet::html(output.title(), output.book().pageSize,
+                                            Files::lastPathComponent(output.outputHTMLFileName()));
     Terminal::report(QStringLiteral("To show the book inside a page of yours, put this line into "
                                     "that page, with the book's\naddress on the web in place of "
                                     "%1:\n%2")
-                         .arg(EmbedSnippet::placeholder(), snippet.html()));
+                         .arg(EmbedSnippet::placeholder, html));
 }

@@ -4,18 +4,13 @@
 #include <QString>
 
 // The HTML that embeds a published book in another page.
-class EmbedSnippet {
-public:
-    // A plain-text title, the size of one page in any unit, and the file name of the book's page.
-    EmbedSnippet(QString title, QSize pageSize, QString fileName);
+namespace EmbedSnippet {
 
-    // One line. Contains placeholder() in place of the address of the book's folder.
-    QString html() const;
+// Stands in it for the address of the book's folder.
+inline const QString placeholder = QStringLiteral("BOOK-ADDRESS");
 
-    static QString placeholder() { return QStringLiteral("BOOK-ADDRESS"); }
+// One line, from a plain-text title, the size of one page in any unit, and the file name of the
+// book's page.
+QString html(const QString& title, QSize pageSize, const QString& fileName);
 
-private:
-    QString iTitle;
-    QSize iPageSize;
-    QString iFileName;
-};
+} // namespace EmbedSnippet

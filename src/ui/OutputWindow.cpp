@@ -87,7 +87,7 @@ void OutputWindow::makeEmbedField() {
     const QString explanation =
         tr("Shows the book inside another page: put this into that page, with the book's address "
            "on the web in place of %1")
-            .arg(EmbedSnippet::placeholder());
+            .arg(EmbedSnippet::placeholder);
     txtEmbed->setToolTip(explanation);
     txtEmbed->setAccessibleDescription(explanation);
     btnCopyEmbed = new QPushButton(tr("Cop&y"));

@@ -23,7 +23,6 @@
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QStandardPaths>
 #include <utility>
 
@@ -128,9 +127,8 @@ void OutputWindowDelegate::showState() {
     iWindow->btnPublish->setEnabled(!iWindow->txtOutputFolder->text().trimmed().isEmpty() &&
                                     !iWindow->txtOutputName->text().trimmed().isEmpty());
     iWindow->showWebBookParts(iWindow->mOutputType->checkedId() == OutputWindow::webBook);
-    const EmbedSnippet snippet(iWindow->txtTitle->text(), AppSettings::shareInstance().pageSize(),
-                               pageName());
-    iWindow->txtEmbed->setText(snippet.html());
+    iWindow->txtEmbed->setText(EmbedSnippet::html(
+        iWindow->txtTitle->text(), AppSettings::shareInstance().pageSize(), pageName()));
     iWindow->txtEmbed->setCursorPosition(0);
 }
 
