@@ -1,6 +1,5 @@
 #include "output/ImageSize.h"
 
-#include "output/ImageResolution.h"
 #include "support/TemplateLibrary.h"
 
 #include <QBuffer>
