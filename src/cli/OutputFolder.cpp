@@ -11,7 +11,6 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
@@ -66,9 +65,10 @@ void OutputFolder::make(const QString& path) {
 }
 
 void OutputFolder::lock(const QString& path) {
-    iLock = ::open(QFile::encodeName(iPath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    iLock = FileDescriptor(
+        ::open(QFile::encodeName(iPath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     // Some network file systems have no locks; avoiding two runs is then up to the user.
-    if (iLock >= 0 && ::flock(iLock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    if (iLock.isOpen() && ::flock(iLock.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         throw CommandError(
             QStringLiteral("%1: another folvero is making a book in this folder").arg(path),
             ExitCode::tryAgain);
@@ -88,8 +88,8 @@ void OutputFolder::checkPresence() const {
     struct stat there {};
     const bool isThere = ::stat(QFile::encodeName(iPath).constData(), &there) == 0;
     // A folder that is writable but not readable has no descriptor.
-    const bool isSame =
-        ::fstat(iLock, &made) != 0 || (made.st_dev == there.st_dev && made.st_ino == there.st_ino);
+    const bool isSame = ::fstat(iLock.number(), &made) != 0 ||
+                        (made.st_dev == there.st_dev && made.st_ino == there.st_ino);
     if (!isThere || !isSame)
         throw CommandError(
             QStringLiteral(
@@ -101,6 +101,4 @@ void OutputFolder::checkPresence() const {
 void OutputFolder::removeCreated() {
     if (!iKept && !iFirstMade.isNull())
         removeEmptyFolders(iPath, iFirstMade);
-    if (iLock >= 0)
-        ::close(iLock);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "system/FileDescriptor.h"
+
 #include <QString>
 
 // The output folder of a book. It is created at once, so that an unwritable folder is reported
@@ -27,6 +29,6 @@ private:
 
     QString iPath;
     QString iFirstMade; // outermost folder that was created; null when all existed
-    int iLock = -1;
+    FileDescriptor iLock;
     bool iKept = false;
 };

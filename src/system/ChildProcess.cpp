@@ -5,7 +5,6 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/socket.h>
@@ -23,36 +22,20 @@ namespace {
         Message::about(QString::fromLocal8Bit(program.c_str()), Message::ofSystemError(error)));
 }
 
-// Sockets rather than pipes: writing to a socket whose peer is gone can return an error instead of
-// raising SIGPIPE.
-class Channel {
-public:
-    explicit Channel(const std::string& program) {
-        if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, iEnds.data()) != 0)
-            fail(program, errno);
-    }
-    ~Channel() {
-        for (const int end : iEnds) {
-            if (end >= 0)
-                ::close(end);
-        }
-    }
-    Channel(const Channel&) = delete;
-    Channel& operator=(const Channel&) = delete;
-
-    int theirs() const { return iEnds[1]; }
-    // Transfers ownership of the parent's end to the caller.
-    int takeParentEnd() { return std::exchange(iEnds[0], -1); }
-
-private:
-    std::array<int, 2> iEnds{-1, -1};
-};
+// Our end of a channel to a process, and its end. Sockets rather than pipes: writing to a socket
+// whose peer is gone can return an error instead of raising SIGPIPE.
+std::pair<FileDescriptor, FileDescriptor> makeChannel(const std::string& program) {
+    std::array<int, 2> ends{};
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+        fail(program, errno);
+    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+}
 
 } // namespace
 
 ChildProcess::ChildProcess(const std::string& program, const std::vector<std::string>& arguments) {
-    Channel input(program);
-    Channel output(program);
+    auto [toChild, input] = makeChannel(program);
+    auto [fromChild, output] = makeChannel(program);
     std::vector<char*> argv{const_cast<char*>(program.c_str())};
     for (const auto& argument : arguments)
         argv.push_back(const_cast<char*>(argument.c_str()));
@@ -60,8 +43,8 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
 
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, input.theirs(), STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, output.theirs(), STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, input.number(), STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output.number(), STDOUT_FILENO);
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
@@ -72,21 +55,19 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
     posix_spawnattr_destroy(&attributes);
     if (error != 0)
         fail(program, error);
-    iToChild = input.takeParentEnd();
-    iFromChild = output.takeParentEnd();
+    iToChild = std::move(toChild);
+    iFromChild = std::move(fromChild);
 }
 
 ChildProcess::~ChildProcess() {
     kill();
     waitForEnd();
-    ::close(iToChild);
-    ::close(iFromChild);
 }
 
 bool ChildProcess::writeLine(const QByteArray& line) {
     const QByteArray data = line + '\n';
     for (qsizetype done = 0; done < data.size();) {
-        const ssize_t count = ::send(iToChild, data.constData() + done,
+        const ssize_t count = ::send(iToChild.number(), data.constData() + done,
                                      std::size_t(data.size() - done), MSG_NOSIGNAL | MSG_DONTWAIT);
         if (count < 0 && errno != EINTR)
             return false;
@@ -99,7 +80,7 @@ bool ChildProcess::readAvailable(qsizetype maxLine) {
     char buffer[1 << 16];
     ssize_t count = 0;
     do {
-        count = ::read(iFromChild, buffer, sizeof buffer);
+        count = ::read(iFromChild.number(), buffer, sizeof buffer);
     } while (count < 0 && errno == EINTR);
     if (count <= 0)
         return false;

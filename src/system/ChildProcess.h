@@ -1,5 +1,7 @@
 #pragma once
 
+#include "system/FileDescriptor.h"
+
 #include <QByteArray>
 #include <optional>
 #include <string>
@@ -21,7 +23,7 @@ public:
     bool writeLine(const QByteArray& line);
 
     // For poll(): readable, or at end of file, when readAvailable() would not block.
-    int readDescriptor() const { return iFromChild; }
+    int readDescriptor() const { return iFromChild.number(); }
 
     // Reads what has arrived; blocks when nothing has. False at end of file, and when a line
     // exceeds maxLine bytes, which no working helper sends.
@@ -48,8 +50,8 @@ private:
     pid_t iProcess = -1;
     bool iHasEnded = false; // and has been reaped
     int iStatus = 0;        // valid once it has
-    int iToChild = -1;
-    int iFromChild = -1;
+    FileDescriptor iToChild;
+    FileDescriptor iFromChild;
     QByteArray iBuffer;
     qsizetype iSearched = 0; // bytes of iBuffer already searched for a line ending
 };

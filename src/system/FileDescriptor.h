@@ -6,12 +6,16 @@
 // Owns the descriptor of an open file or folder and closes it on destruction.
 class FileDescriptor {
 public:
+    FileDescriptor() = default;
     explicit FileDescriptor(int number) : iNumber(number) {}
     ~FileDescriptor() { close(); }
     FileDescriptor(FileDescriptor&& other) noexcept : iNumber(std::exchange(other.iNumber, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        std::swap(iNumber, other.iNumber);
+        return *this;
+    }
     FileDescriptor(const FileDescriptor&) = delete;
     FileDescriptor& operator=(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(FileDescriptor&&) = delete;
 
     int number() const { return iNumber; }
     bool isOpen() const { return iNumber >= 0; }
@@ -20,5 +24,5 @@ public:
     bool close() { return isOpen() && ::close(std::exchange(iNumber, -1)) == 0; }
 
 private:
-    int iNumber;
+    int iNumber = -1;
 };

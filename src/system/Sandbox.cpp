@@ -1,10 +1,11 @@
 #include "system/Sandbox.h"
 
 #ifdef __linux__
+#include "system/FileDescriptor.h"
+
 #include <QFile>
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdint>
 #include <ctime>
 #include <fcntl.h>
@@ -55,32 +56,24 @@ public:
             attributes.scope = 0b11; // abstract sockets, signals
             size += sizeof attributes.scope;
         }
-        iDescriptor = int(::syscall(SYS_landlock_create_ruleset, &attributes, size, 0));
+        iDescriptor =
+            FileDescriptor(int(::syscall(SYS_landlock_create_ruleset, &attributes, size, 0)));
     }
-    ~Ruleset() {
-        if (iDescriptor >= 0)
-            ::close(iDescriptor);
-    }
-    Ruleset(const Ruleset&) = delete;
-    Ruleset& operator=(const Ruleset&) = delete;
 
     bool allow(const QString& path, std::uint64_t access) const {
         if (iTruncates && (access & LANDLOCK_ACCESS_FS_WRITE_FILE))
             access |= Access::truncate;
-        const int target = ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC);
-        if (target < 0)
-            return false;
-        const landlock_path_beneath_attr rule{access, target};
-        const bool done = ::syscall(SYS_landlock_add_rule, iDescriptor, LANDLOCK_RULE_PATH_BENEATH,
-                                    &rule, 0) == 0;
-        ::close(target);
-        return done;
+        const FileDescriptor target(
+            ::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC));
+        const landlock_path_beneath_attr rule{access, target.number()};
+        return target.isOpen() && ::syscall(SYS_landlock_add_rule, iDescriptor.number(),
+                                            LANDLOCK_RULE_PATH_BENEATH, &rule, 0) == 0;
     }
 
-    void enforce() const { ::syscall(SYS_landlock_restrict_self, iDescriptor, 0); }
+    void enforce() const { ::syscall(SYS_landlock_restrict_self, iDescriptor.number(), 0); }
 
 private:
-    int iDescriptor = -1;
+    FileDescriptor iDescriptor;
     bool iTruncates;
 };
 
@@ -256,11 +249,9 @@ void setLimits(const Sandbox::Policy& policy) {
 // Sanitizers print their findings there.
 void redirectStandardError() {
 #ifndef FOLVERO_SANITIZED
-    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-    if (nowhere >= 0) {
-        ::dup2(nowhere, STDERR_FILENO);
-        ::close(nowhere);
-    }
+    const FileDescriptor nowhere(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    if (nowhere.isOpen())
+        ::dup2(nowhere.number(), STDERR_FILENO);
 #endif
 }
 
