@@ -7,16 +7,7 @@
 DrawTimeout::DrawTimeout(const DrawControl& control)
     : iControl(control),
       iDeadline(std::chrono::steady_clock::now() + control.timeLimit),
-      iThread([this] { watch(); }) {}
-
-DrawTimeout::~DrawTimeout() {
-    {
-        const std::lock_guard lock(iMutex);
-        iDone = true;
-    }
-    iWake.notify_one();
-    iThread.join();
-}
+      iThread([this](const std::stop_token& ended) { watch(ended); }) {}
 
 void DrawTimeout::throwIfEnded() const {
     if (isStopped()) {
@@ -29,9 +20,9 @@ void DrawTimeout::throwIfEnded() const {
     }
 }
 
-void DrawTimeout::watch() {
+void DrawTimeout::watch(const std::stop_token& ended) {
     std::unique_lock lock(iMutex);
-    while (!iDone) {
+    while (!ended.stop_requested()) {
         const auto now = std::chrono::steady_clock::now();
         if (now >= iDeadline || isStopped()) {
             iTimedOut = now >= iDeadline;
@@ -40,6 +31,6 @@ void DrawTimeout::watch() {
         }
         const auto next =
             iControl.stop ? std::min(iDeadline, now + std::chrono::milliseconds(20)) : iDeadline;
-        iWake.wait_until(lock, next);
+        iWake.wait_until(lock, ended, next, [] { return false; });
     }
 }

@@ -7,6 +7,7 @@
 #include <condition_variable>
 #include <mupdf/fitz.h>
 #include <mutex>
+#include <stop_token>
 #include <thread>
 
 // Aborts MuPDF's work on a page, through the abort flag of its cookie, when it times out or is
@@ -14,9 +15,6 @@
 class DrawTimeout {
 public:
     explicit DrawTimeout(const DrawControl& control);
-    ~DrawTimeout();
-    DrawTimeout(const DrawTimeout&) = delete;
-    DrawTimeout& operator=(const DrawTimeout&) = delete;
 
     fz_cookie* cookie() { return &iCookie; }
 
@@ -25,14 +23,13 @@ public:
 
 private:
     bool isStopped() const { return iControl.stop && *iControl.stop; }
-    void watch();
+    void watch(const std::stop_token& ended);
 
     const DrawControl iControl;
     const std::chrono::steady_clock::time_point iDeadline;
     fz_cookie iCookie{};
     std::atomic<bool> iTimedOut{false};
     std::mutex iMutex;
-    std::condition_variable iWake;
-    bool iDone = false;
-    std::thread iThread;
+    std::condition_variable_any iWake;
+    std::jthread iThread; // ends with this object
 };
