@@ -7,11 +7,6 @@ FileState FileState::of(const QString& path) {
     struct stat info {};
     if (::stat(QFile::encodeName(path).constData(), &info) != 0)
         return {};
-    return {true, info.st_dev, info.st_ino, info.st_size, info.st_mtim};
-}
-
-bool FileState::operator==(const FileState& other) const {
-    return isThere == other.isThere && device == other.device && number == other.number &&
-           size == other.size && written.tv_sec == other.written.tv_sec &&
-           written.tv_nsec == other.written.tv_nsec;
+    return {true, info.st_dev, info.st_ino, info.st_size,
+            info.st_mtim.tv_sec * std::int64_t{1'000'000'000} + info.st_mtim.tv_nsec};
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 #include <sys/types.h>
-#include <time.h>
 
 // Identity and modification time of the file at a path. Two states differ when the file was
 // replaced, written or removed in between.
@@ -11,9 +11,9 @@ struct FileState {
     dev_t device = 0;
     ino_t number = 0;
     off_t size = 0;
-    timespec written{};
+    std::int64_t written = 0; // nanoseconds
 
     static FileState of(const QString& path);
 
-    bool operator==(const FileState& other) const;
+    bool operator==(const FileState& other) const = default;
 };

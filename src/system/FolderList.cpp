@@ -9,15 +9,9 @@ QStringList FolderList::foldersBeneath(const QString& folder) {
     constexpr auto foldersOnly =
         QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks;
     QStringList found;
-    QStringList pending{folder};
-    while (!pending.isEmpty()) {
-        const QString current = pending.takeLast();
-        if (current != folder)
-            found << current;
-        // The top of the stack is visited next, so names are pushed in reverse.
-        const QStringList names = QDir(current).entryList(foldersOnly, QDir::Name | QDir::Reversed);
-        for (const QString& name : names)
-            pending << Files::join(current, name);
+    for (const QString& name : QDir(folder).entryList(foldersOnly, QDir::Name)) {
+        const QString path = Files::join(folder, name);
+        found << path << foldersBeneath(path);
     }
     return found;
 }
