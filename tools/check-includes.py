@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks the includes of src/: a folder may include lower folders only, and no files include each other in a circle.
+"""Checks the includes of src/: a folder may include lower folders only, and no modules include each other in a
+circle; a module is a header with its source file.
 
 Prints each include that is not allowed and exits with 1. Usage: check-includes.py [SOURCE_FOLDER]
 """
@@ -35,6 +36,10 @@ def folder_of(name):
     return str(pathlib.PurePath(name).parent)
 
 
+def module_of(name):
+    return name.rpartition(".")[0]
+
+
 def faults(root):
     graph = {}
     for path in sorted([*root.rglob("*.h"), *root.rglob("*.cpp")]):
@@ -43,8 +48,10 @@ def faults(root):
         if folder not in RANK:
             yield f"{name}: the folder has no place in the layers"
             continue
-        graph[name] = included(path)
-        for other in graph[name]:
+        module = graph.setdefault(module_of(name), set())
+        for other in included(path):
+            if module_of(other) != module_of(name):
+                module.add(module_of(other))
             if not (root / other).exists():
                 yield f"{name} includes {other}, which is no path in {root.name}/"
             elif folder_of(other) != folder and RANK.get(folder_of(other), len(LAYERS)) >= RANK[folder]:

@@ -1,11 +1,11 @@
 #include "ui/SelectTemplateModels.h"
 
+#include "system/Files.h"
 #include "ui/PlainText.h"
-#include "ui/SelectTemplateWindowDelegate.h"
 #include "ui/TemplateTexts.h"
 
-TmplListModel::TmplListModel(SelectTemplateWindowDelegate& source, QObject* parent)
-    : QAbstractListModel(parent), iSource(source) {}
+TmplListModel::TmplListModel(const QStringList& paths, Failure failureOf, QObject* parent)
+    : QAbstractListModel(parent), iPaths(paths), iFailureOf(std::move(failureOf)) {}
 
 void TmplListModel::reloadData() {
     beginResetModel();
@@ -13,28 +13,28 @@ void TmplListModel::reloadData() {
 }
 
 int TmplListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : iSource.numberOfRowsInTableView();
+    return parent.isValid() ? 0 : int(iPaths.size());
 }
 
 QVariant TmplListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const QString name = iSource.objectValueForTableColumn(QString(), index.row());
+    const QString name = Files::lastPathComponent(iPaths.at(index.row()));
     switch (role) {
     case Qt::DisplayRole:
         return TemplateTexts::templateName(name);
     case Qt::ToolTipRole:
-        return PlainText::toolTip(iSource.failureOf(name));
+        return PlainText::toolTip(iFailureOf(name));
     case Qt::AccessibleDescriptionRole:
     case failureRole:
-        return iSource.failureOf(name);
+        return iFailureOf(name);
     default:
         return {};
     }
 }
 
-TmplStylesModel::TmplStylesModel(SelectTemplateWindowDelegate& source, QObject* parent)
-    : QAbstractListModel(parent), iSource(source) {}
+TmplStylesModel::TmplStylesModel(const Items& items, QObject* parent)
+    : QAbstractListModel(parent), iItems(items) {}
 
 void TmplStylesModel::reloadData() {
     beginResetModel();
@@ -42,13 +42,13 @@ void TmplStylesModel::reloadData() {
 }
 
 int TmplStylesModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : iSource.numberOfItemsInImageBrowser();
+    return parent.isValid() ? 0 : int(iItems.size());
 }
 
 QVariant TmplStylesModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const IKBTmplStyleItem& item = iSource.itemAtIndex(index.row());
+    const IKBTmplStyleItem& item = *iItems.at(std::size_t(index.row()));
     if (role == Qt::DisplayRole)
         return TemplateTexts::styleName(item.imageTitle());
     return role == Qt::DecorationRole ? QVariant(item.imageRepresentation()) : QVariant();

@@ -1,29 +1,35 @@
 #pragma once
 
+#include "ui/IKBTmplStyleItem.h"
+
 #include <QAbstractListModel>
+#include <QStringList>
+#include <functional>
+#include <memory>
+#include <vector>
 
-class SelectTemplateWindowDelegate;
+// The template chooser's two lists as Qt models over data that must outlive them. Call reloadData()
+// when it has changed.
 
-// The template chooser's two lists as Qt models over the sheet's delegate, which must outlive them.
-
-// One row per template; names are capitalised.
+// One row per template, from the paths of their folders; names are capitalised.
 class TmplListModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    explicit TmplListModel(SelectTemplateWindowDelegate& source, QObject* parent = nullptr);
-
-    // Why a template can't be used; a null text when it can.
+    // Why the template of that name can't be used; a null text when it can.
+    using Failure = std::function<QString(const QString& name)>;
     static constexpr int failureRole = Qt::UserRole;
 
+    TmplListModel(const QStringList& paths, Failure failureOf, QObject* parent);
+
     void reloadData();
-    SelectTemplateWindowDelegate& source() const { return iSource; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    SelectTemplateWindowDelegate& iSource;
+    const QStringList& iPaths;
+    Failure iFailureOf;
 };
 
 // One row per style of the selected template, with its picture as decoration.
@@ -31,7 +37,9 @@ class TmplStylesModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    explicit TmplStylesModel(SelectTemplateWindowDelegate& source, QObject* parent = nullptr);
+    using Items = std::vector<std::unique_ptr<IKBTmplStyleItem>>;
+
+    TmplStylesModel(const Items& items, QObject* parent);
 
     void reloadData();
 
@@ -39,5 +47,5 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    SelectTemplateWindowDelegate& iSource;
+    const Items& iItems;
 };

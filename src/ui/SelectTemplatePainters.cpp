@@ -1,7 +1,6 @@
 #include "ui/SelectTemplatePainters.h"
 
 #include "ui/SelectTemplateModels.h"
-#include "ui/SelectTemplateWindowDelegate.h"
 
 #include <QHelpEvent>
 #include <QListView>
@@ -110,8 +109,7 @@ void drawFrame(QPainter& painter, const QRectF& picture, const QColor& color) {
 SelectTmplItemCell& TmplRowPainter::cellFor(const QModelIndex& index) const {
     auto& cell = iCells[index.row()];
     if (!cell) {
-        const auto* model = static_cast<const TmplListModel*>(index.model());
-        cell = model->source().dataCellForTableColumn(QString(), index.row());
+        cell = iMakeCell(index.row());
         cell->setTitle(index.data().toString());
     }
     return *cell;

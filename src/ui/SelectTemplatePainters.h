@@ -3,6 +3,7 @@
 #include "ui/SelectTmplItemCell.h"
 
 #include <QStyledItemDelegate>
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -11,7 +12,11 @@ class TmplRowPainter : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    // makeCell returns a new cell for a row.
+    using CellMaker = std::function<std::unique_ptr<SelectTmplItemCell>(int row)>;
+
+    TmplRowPainter(CellMaker makeCell, QObject* parent)
+        : QStyledItemDelegate(parent), iMakeCell(std::move(makeCell)) {}
 
     // Cells cache their icons, so they are kept until the list is reloaded.
     void forgetCells() { iCells.clear(); }
@@ -23,6 +28,7 @@ public:
 private:
     SelectTmplItemCell& cellFor(const QModelIndex& index) const;
 
+    CellMaker iMakeCell;
     mutable std::map<int, std::unique_ptr<SelectTmplItemCell>> iCells;
 };
 

@@ -51,9 +51,11 @@ int selectedIn(const QListView& view) {
 
 SelectTemplateWindowDelegate::SelectTemplateWindowDelegate(QWidget* parent)
     : iWindow(new SelectTemplateWindow(parent)),
-      iTmplModel(new TmplListModel(*this, this)),
-      iStylesModel(new TmplStylesModel(*this, this)),
-      iRowPainter(new TmplRowPainter(this)) {
+      iTmplModel(new TmplListModel(
+          iTmplListData, [this](const QString& name) { return failureOf(name); }, this)),
+      iStylesModel(new TmplStylesModel(iTmplStylesData, this)),
+      iRowPainter(new TmplRowPainter(
+          [this](int row) { return dataCellForTableColumn(QString(), row); }, this)) {
     awakeFromNib();
     wire();
 }
