@@ -46,10 +46,6 @@ void OperationQueue::cancelAllOperations() {
         operation->cancel();
 }
 
-void OperationQueue::waitUntilAllOperationsAreFinished() {
-    iPool.waitForDone();
-}
-
 bool OperationQueue::waitFor(int milliseconds) {
     return iPool.waitForDone(milliseconds);
 }

@@ -44,9 +44,7 @@ public:
 
     void addOperation(std::shared_ptr<Operation> operation);
     void cancelAllOperations();
-    void waitUntilAllOperationsAreFinished();
-
-    // Waits at most that long; true when no operation is left.
+    // Waits at most that long, or for ever if it is negative; true when no operation is left.
     bool waitFor(int milliseconds);
 
     // Operations queued or running.

@@ -52,7 +52,6 @@ public:
 
     QString title() const { return iTitle; }
     bool state() const { return iState; }
-    void setState(bool state) { iState = state; }
 
     void showValue(const QString& value) override;
     void paint(QPainter& painter, const QStyleOptionViewItem& row) const override;

@@ -34,9 +34,6 @@ public:
     // Called with the cell when a click is released inside the button.
     const Action& infoButtonAction() const { return iInfoButtonAction; }
     void setInfoButtonAction(Action action) { iInfoButtonAction = std::move(action); }
-    bool isMouseDownInInfoButton() const { return iMouseDownInInfoButton; }
-    bool isMouseHoveredInInfoButton() const { return iMouseHoveredInInfoButton; }
-    void setMouseHoveredInInfoButton(bool hovered) { iMouseHoveredInInfoButton = hovered; }
     // Name of the button's picture for its current state.
     QString infoButtonImage() const;
 

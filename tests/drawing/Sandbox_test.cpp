@@ -161,7 +161,7 @@ TEST_F(KilledWorkers, CostTheirPagesWhichAreListedByNumber) {
         ::kill(workers[random() % workers.size()], SIGKILL);
         ++kills;
     }
-    queue.waitUntilAllOperationsAreFinished();
+    queue.waitFor(-1);
 
     const auto source = std::dynamic_pointer_cast<FlashPageSourcePDF>(operation->flashPageSource());
     ASSERT_TRUE(source);

@@ -74,7 +74,7 @@ TEST_F(ImportPDFOperationTest, ReadsLinksAndBookmarksWhenAskedToAndReportsWhenIt
     operation->setFinishedObserver([&] { wasFinished = operation->isFinished(); });
     OperationQueue queue;
     queue.addOperation(operation);
-    queue.waitUntilAllOperationsAreFinished();
+    queue.waitFor(-1);
     EXPECT_TRUE(wasFinished);
     const auto pages = operation->flashPagesAnnotation()->pagesAnnotationsNode();
     EXPECT_EQ(std::distance(pages.begin(), pages.end()), 2);

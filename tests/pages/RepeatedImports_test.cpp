@@ -14,7 +14,7 @@ void importSample() {
     operation->setImportBookmarks(true);
     OperationQueue queue;
     queue.addOperation(operation);
-    queue.waitUntilAllOperationsAreFinished();
+    queue.waitFor(-1);
     ASSERT_TRUE(operation->failures().isEmpty());
     ASSERT_EQ(operation->flashPageSource()->normalPages().size(), 2U);
 }
