@@ -30,10 +30,7 @@ void notifyWatcher(Log::Level level, const char* logger, const QString& text,
         watcher().function({level, QString::fromLatin1(logger), text, where});
 }
 
-std::atomic<bool>& hasEnded() {
-    static std::atomic<bool> ended{false};
-    return ended;
-}
+std::atomic<bool> hasEnded{false};
 
 bool isWatched() {
     const std::lock_guard lock(watcher().mutex);
@@ -41,17 +38,9 @@ bool isWatched() {
 }
 
 log4cplus::LogLevel libraryLevel(Log::Level level) {
-    switch (level) {
-    case Log::Level::debug:
-        return log4cplus::DEBUG_LOG_LEVEL;
-    case Log::Level::info:
-        return log4cplus::INFO_LOG_LEVEL;
-    case Log::Level::warn:
-        return log4cplus::WARN_LOG_LEVEL;
-    case Log::Level::error:
-        break;
-    }
-    return log4cplus::ERROR_LOG_LEVEL;
+    constexpr log4cplus::LogLevel levels[]{log4cplus::DEBUG_LOG_LEVEL, log4cplus::INFO_LOG_LEVEL,
+                                           log4cplus::WARN_LOG_LEVEL, log4cplus::ERROR_LOG_LEVEL};
+    return levels[std::size_t(level)];
 }
 
 // log4cplus complains on standard error about a root logger without an appender, so it starts with
@@ -75,7 +64,7 @@ log4cplus::Logger libraryLogger(const char* name) {
 
 bool Log::isDebugEnabled() const {
     return isWatched() ||
-           (!hasEnded() && libraryLogger(iName).isEnabledFor(log4cplus::DEBUG_LOG_LEVEL));
+           (!hasEnded && libraryLogger(iName).isEnabledFor(log4cplus::DEBUG_LOG_LEVEL));
 }
 
 void Log::debug(const QString& text, CodeLocation where) const {
@@ -96,7 +85,7 @@ void Log::error(const QString& text, CodeLocation where) const {
 
 void Log::write(Level level, const QString& text, const CodeLocation& where) const {
     notifyWatcher(level, iName, text, where);
-    if (hasEnded())
+    if (hasEnded)
         return;
     auto logger = libraryLogger(iName);
     if (!logger.isEnabledFor(libraryLevel(level)))
@@ -133,7 +122,7 @@ void Log::configureForTerminal(Level lowest) {
 }
 
 void Log::end() {
-    hasEnded() = true;
+    hasEnded = true;
     log4cplus::deinitialize();
 }
 

@@ -8,29 +8,12 @@
 namespace {
 
 bool isTemporaryError(int error) {
-    switch (error) {
-    case ENOSPC:
-    case EDQUOT:
-    case EIO:
-    case ENOENT: // for a folder that existed
-    case ESTALE:
-    case ENODEV:
-    case ENXIO:
-    case ENOTCONN:
-    case EHOSTDOWN:
-    case EHOSTUNREACH:
-    case ENETUNREACH:
-    case ETIMEDOUT:
-    case ECONNRESET:
-    case EAGAIN:
-    case EBUSY:
-    case EMFILE:
-    case ENFILE:
-    case ENOMEM:
-        return true;
-    default:
-        return false;
-    }
+    // ENOENT is for a folder that existed.
+    static constexpr int errors[]{ENOENT,      ENOSPC,    EDQUOT,     EIO,       ENODEV,
+                                  ENXIO,       ESTALE,    ENOTCONN,   EHOSTDOWN, EHOSTUNREACH,
+                                  ENETUNREACH, ETIMEDOUT, ECONNRESET, EAGAIN,    EBUSY,
+                                  EMFILE,      ENFILE,    ENOMEM};
+    return std::find(std::begin(errors), std::end(errors), error) != std::end(errors);
 }
 
 } // namespace
