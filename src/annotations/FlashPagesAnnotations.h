@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
 #include <QStringList>
-#include <memory>
 #include <pugixml.hpp>
 
 // The links of a book's pages, as the XML element "pagesAnnos", and the files that they need.

@@ -6,7 +6,6 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
-#include <vector>
 
 namespace {
 

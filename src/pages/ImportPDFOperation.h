@@ -7,7 +7,6 @@
 #include "pages/FlashPageSourcePDF.h"
 
 #include <QString>
-#include <QStringList>
 #include <atomic>
 #include <memory>
 #include <mutex>

@@ -1,7 +1,6 @@
 #include "pdf/PDFLimits.h"
 #include "pdf/PDFRecording.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {

@@ -1,7 +1,6 @@
 #include "pdf/PDFText.h"
 
 #include <QChar>
-#include <QList>
 #include <algorithm>
 
 namespace {

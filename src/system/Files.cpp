@@ -2,7 +2,6 @@
 
 #include "system/FileDescriptor.h"
 
-#include <QDir>
 #include <QFile>
 #include <QSaveFile>
 #include <algorithm>

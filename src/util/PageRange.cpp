@@ -4,7 +4,6 @@
 #include "base/PlatformException.h"
 #include "util/LenientInteger.h"
 
-#include <QList>
 #include <algorithm>
 #include <cstdint>
 

@@ -19,11 +19,8 @@
 #include "ui/SelectTemplateWindowDelegate.h"
 
 #include <QActionGroup>
-#include <QApplication>
 #include <QItemSelectionModel>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTimer>
 
 namespace {
 
