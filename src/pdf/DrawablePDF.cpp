@@ -92,9 +92,9 @@ std::vector<PDFAnnotation> DrawablePDF::annotations(int index) const {
     std::vector<PDFAnnotation> annotations;
     AnnotationBudget budget;
     for (int i = 0; i < count && !budget.isSpent(); ++i) {
-        pdf_obj* object = iEngine->get([&](fz_context* ctx) { return pdf_array_get(ctx, list, i); },
-                                       static_cast<pdf_obj*>(nullptr));
-        annotations.push_back(annotationFrom(*iEngine, object));
+        annotations.push_back(annotationFrom(*iEngine, iEngine->object([&](fz_context* ctx) {
+            return pdf_array_get(ctx, list, i);
+        })));
         budget.spend(annotations.back());
     }
     return annotations;

@@ -91,10 +91,7 @@ void drawList(fz_context* ctx, fz_display_list* list, bool skipsGroup, const fz_
     fz_pixmap* pixmap = nullptr;
     fz_device* device = nullptr;
     fz_device* skipper = nullptr;
-    fz_var(pixmap);
-    fz_var(device);
-    fz_var(skipper);
-    fz_try(ctx) {
+    const auto draw = [&] {
         pixmap = fz_new_pixmap_with_data(
             ctx, bitmap.components() == 1 ? fz_device_gray(ctx) : fz_device_rgb(ctx),
             bitmap.width(), bitmap.height(), nullptr, 0, bitmap.stride(), bitmap.data());
@@ -107,15 +104,12 @@ void drawList(fz_context* ctx, fz_display_list* list, bool skipsGroup, const fz_
         fz_run_display_list(ctx, list, skipper ? skipper : device, matrix, fz_infinite_rect,
                             cookie);
         fz_close_device(ctx, device);
-    }
-    fz_always(ctx) {
+    };
+    runAndDrop(ctx, draw, [&] {
         fz_drop_device(ctx, skipper);
         fz_drop_device(ctx, device);
         fz_drop_pixmap(ctx, pixmap);
-    }
-    fz_catch(ctx) {
-        fz_rethrow(ctx);
-    }
+    });
 }
 
 } // namespace

@@ -108,15 +108,9 @@ void PDFEngine::openDocument(fz_context* ctx, const char* path) {
     }
     fz_stream* stream =
         fz_open_memory(ctx, static_cast<const unsigned char*>(mapping), mappingSize);
-    fz_try(ctx) {
-        document = pdf_open_document_with_stream(ctx, stream);
-    }
-    fz_always(ctx) {
-        fz_drop_stream(ctx, stream);
-    }
-    fz_catch(ctx) {
-        fz_rethrow(ctx);
-    }
+    runAndDrop(
+        ctx, [&] { document = pdf_open_document_with_stream(ctx, stream); },
+        [&] { fz_drop_stream(ctx, stream); });
 }
 
 pdf_obj* PDFEngine::pageObject(int index) const {
@@ -127,14 +121,11 @@ pdf_obj* PDFEngine::pageObject(int index) const {
 }
 
 pdf_obj* PDFEngine::entry(pdf_obj* dictionary, const char* key) const {
-    return get([&](fz_context* ctx) { return pdf_dict_gets(ctx, dictionary, key); },
-               static_cast<pdf_obj*>(nullptr));
+    return object([&](fz_context* ctx) { return pdf_dict_gets(ctx, dictionary, key); });
 }
 
 pdf_obj* PDFEngine::trailerEntry(const char* key) const {
-    return entry(get([this](fz_context* ctx) { return pdf_trailer(ctx, document); },
-                     static_cast<pdf_obj*>(nullptr)),
-                 key);
+    return entry(object([this](fz_context* ctx) { return pdf_trailer(ctx, document); }), key);
 }
 
 QString PDFEngine::text(pdf_obj* string) const {
@@ -187,21 +178,18 @@ QByteArray PDFEngine::nameOfDestination(pdf_obj* destination) const {
 }
 
 int PDFEngine::lookUpDestination(pdf_obj* destination) const {
-    pdf_obj* first = get(
-        [&](fz_context* ctx) {
-            pdf_obj* target = destination;
-            // MuPDF does not search the name tree of a document that also has the older dictionary
-            // of names.
-            if (pdf_is_string(ctx, destination))
-                target = pdf_lookup_name(ctx, document, PDF_NAME(Dests), destination);
-            if (pdf_is_name(ctx, destination) || !target)
-                target = pdf_lookup_dest(ctx, document, destination);
-            if (pdf_is_dict(ctx, target))
-                target = pdf_dict_get(ctx, target, PDF_NAME(D));
-            return pdf_array_get(ctx, target, 0);
-        },
-        static_cast<pdf_obj*>(nullptr));
-    return pageNumber(first);
+    return pageNumber(object([&](fz_context* ctx) {
+        pdf_obj* target = destination;
+        // MuPDF does not search the name tree of a document that also has the older dictionary of
+        // names.
+        if (pdf_is_string(ctx, destination))
+            target = pdf_lookup_name(ctx, document, PDF_NAME(Dests), destination);
+        if (pdf_is_name(ctx, destination) || !target)
+            target = pdf_lookup_dest(ctx, document, destination);
+        if (pdf_is_dict(ctx, target))
+            target = pdf_dict_get(ctx, target, PDF_NAME(D));
+        return pdf_array_get(ctx, target, 0);
+    }));
 }
 
 int PDFEngine::pageNumber(pdf_obj* page) const {

@@ -10,6 +10,20 @@
 #include <optional>
 #include <unordered_map>
 
+// Runs MuPDF calls, and then, whether or not they raise an error, those that drop what was made.
+template <class Body, class Drop>
+void runAndDrop(fz_context* ctx, Body body, Drop drop) {
+    fz_try(ctx) {
+        body();
+    }
+    fz_always(ctx) {
+        drop();
+    }
+    fz_catch(ctx) {
+        fz_rethrow(ctx);
+    }
+}
+
 // The open file behind a DrawablePDF, shared by the sources of this folder that call MuPDF.
 //
 // MuPDF reports errors with longjmp(), which skips C++ destructors. So its calls are made in small
@@ -47,6 +61,16 @@ public:
             value = fallback;
         }
         return value;
+    }
+
+    // The same for objects; null when it reports an error.
+    template <class Body>
+    pdf_obj* object(Body body) const {
+        return get(body, static_cast<pdf_obj*>(nullptr));
+    }
+    // The object that a reference leads to.
+    pdf_obj* resolved(pdf_obj* reference) const {
+        return object([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, reference); });
     }
 
     // The text of the MuPDF error just caught.

@@ -1,5 +1,6 @@
 #include "pdf/PDFImages.h"
 
+#include "pdf/PDFEngine.h"
 #include "pdf/PDFLimits.h"
 
 #include <atomic>
@@ -193,18 +194,14 @@ void fillImage(fz_context* ctx, fz_device* device, fz_image* image, fz_matrix pl
         return;
     }
     fz_image* scaled = nullptr;
-    fz_var(scaled);
-    fz_try(ctx) {
+    const auto drawScaled = [&] {
         scaled = fz_new_image_from_pixmap(ctx, picture, nullptr);
         draw(ctx, device, scaled, fitted, alpha, params);
-    }
-    fz_always(ctx) {
+    };
+    runAndDrop(ctx, drawScaled, [&] {
         fz_drop_image(ctx, scaled);
         fz_drop_pixmap(ctx, picture);
-    }
-    fz_catch(ctx) {
-        fz_rethrow(ctx);
-    }
+    });
 }
 
 } // namespace

@@ -78,9 +78,7 @@ public:
     explicit LabelTree(const PDFEngine& engine) : iEngine(engine) {}
 
     void read(pdf_obj* node, int depth) {
-        pdf_obj* dictionary =
-            iEngine.get([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, node); },
-                        static_cast<pdf_obj*>(nullptr));
+        pdf_obj* dictionary = iEngine.resolved(node);
         if (!dictionary || depth > maxDepth || !iSeen.insert(dictionary).second)
             return;
         readLeaf(iEngine.entry(dictionary, "Nums"));
@@ -96,8 +94,7 @@ private:
         return iEngine.get([&](fz_context* ctx) { return pdf_array_len(ctx, array); }, 0);
     }
     pdf_obj* at(pdf_obj* array, int index) const {
-        return iEngine.get([&](fz_context* ctx) { return pdf_array_get(ctx, array, index); },
-                           static_cast<pdf_obj*>(nullptr));
+        return iEngine.object([&](fz_context* ctx) { return pdf_array_get(ctx, array, index); });
     }
     int number(pdf_obj* object, int otherwise) const {
         return iEngine.get(

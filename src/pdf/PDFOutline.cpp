@@ -17,9 +17,7 @@ std::vector<PDFOutlineNode> outlineLevel(const PDFEngine& engine, pdf_obj* first
     if (depth > maxOutlineDepth)
         return nodes;
     for (pdf_obj* object = first; object; object = engine.entry(object, "Next")) {
-        pdf_obj* dictionary =
-            engine.get([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, object); },
-                       static_cast<pdf_obj*>(nullptr));
+        pdf_obj* dictionary = engine.resolved(object);
         if (!dictionary || seen.size() >= PDFLimits::maxOutlineEntries ||
             !seen.insert(dictionary).second)
             break;

@@ -64,17 +64,12 @@ bool blends(fz_context* ctx, fz_display_list* list) {
     auto* watch = fz_new_derived_device(ctx, BlendDetector);
     watch->super.begin_group = watchGroup;
     bool result = true;
-    fz_try(ctx) {
+    const auto look = [&] {
         fz_run_display_list(ctx, list, &watch->super, fz_identity, fz_infinite_rect, nullptr);
         fz_close_device(ctx, &watch->super);
         result = watch->blends;
-    }
-    fz_always(ctx) {
-        fz_drop_device(ctx, &watch->super);
-    }
-    fz_catch(ctx) {
-        fz_rethrow(ctx);
-    }
+    };
+    runAndDrop(ctx, look, [&] { fz_drop_device(ctx, &watch->super); });
     return result;
 }
 
@@ -86,20 +81,15 @@ void dropLinks(fz_context* ctx, pdf_obj* page) {
     if (count == 0)
         return;
     pdf_obj* kept = pdf_new_array(ctx, pdf_get_bound_document(ctx, page), count);
-    fz_try(ctx) {
+    const auto keepOthers = [&] {
         for (int i = 0; i < count; ++i) {
             pdf_obj* annotation = pdf_array_get(ctx, annotations, i);
             if (!pdf_name_eq(ctx, pdf_dict_get(ctx, annotation, PDF_NAME(Subtype)), PDF_NAME(Link)))
                 pdf_array_push(ctx, kept, annotation);
         }
         pdf_dict_put(ctx, page, PDF_NAME(Annots), kept);
-    }
-    fz_always(ctx) {
-        pdf_drop_obj(ctx, kept);
-    }
-    fz_catch(ctx) {
-        fz_rethrow(ctx);
-    }
+    };
+    runAndDrop(ctx, keepOthers, [&] { pdf_drop_obj(ctx, kept); });
 }
 
 } // namespace
@@ -127,11 +117,7 @@ void DrawablePage::Recording::record(fz_context* ctx) {
     fz_device* test = nullptr;
     fz_device* texts = nullptr;
     fz_device* tap = nullptr;
-    fz_var(recorder);
-    fz_var(test);
-    fz_var(texts);
-    fz_var(tap);
-    fz_try(ctx) {
+    const auto interpret = [&] {
         recorder = fz_new_list_device(ctx, list);
         test = fz_new_test_device(ctx, &isColour, grayTolerance, 0, recorder);
         if (text) {
@@ -146,16 +132,13 @@ void DrawablePage::Recording::record(fz_context* ctx) {
         fz_run_page_widgets(ctx, page, test, fz_identity, watch.cookie());
         fz_close_device(ctx, test);
         fz_close_device(ctx, recorder);
-    }
-    fz_always(ctx) {
+    };
+    runAndDrop(ctx, interpret, [&] {
         fz_drop_device(ctx, tap);
         fz_drop_device(ctx, texts);
         fz_drop_device(ctx, test);
         fz_drop_device(ctx, recorder);
-    }
-    fz_catch(ctx) {
-        fz_rethrow(ctx);
-    }
+    });
     // A page with a transparency group is drawn into a separate picture first, which is then
     // composited onto white. Many documents declare a group on every page but use blending on a few
     // only. Without blending the page can be drawn directly, faster and with the same result.
