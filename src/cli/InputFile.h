@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawing/OpenedPDF.h"
+#include "drawing/SpareWorkers.h"
 
 #include <QString>
 #include <memory>

@@ -2,6 +2,7 @@
 
 #include "base/Log.h"
 #include "base/PlatformException.h"
+#include "pdf/PDFReader.h"
 #include "system/Bundle.h"
 
 #include <QFile>
@@ -30,4 +31,9 @@ std::unique_ptr<ChildProcess> SpareWorkers::take() {
     auto process = std::move(iProcesses.back());
     iProcesses.pop_back();
     return process;
+}
+
+OpenedPDF OpenedPDF::open(const QString& path, std::function<bool()> stopped) {
+    auto workers = std::make_shared<SpareWorkers>();
+    return {PDFReader::open(path, std::move(stopped)), std::move(workers)};
 }

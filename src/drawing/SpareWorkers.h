@@ -1,7 +1,9 @@
 #pragma once
 
+#include "pdf/PDFDocument.h"
 #include "system/ChildProcess.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -18,4 +20,13 @@ public:
 
 private:
     std::vector<std::unique_ptr<ChildProcess>> iProcesses;
+};
+
+// A document to be drawn, and workers that were started while it was opened.
+struct OpenedPDF {
+    std::shared_ptr<PDFDocument> document;
+    std::shared_ptr<SpareWorkers> workers;
+
+    // See PDFReader::open().
+    static OpenedPDF open(const QString& path, std::function<bool()> stopped = {});
 };

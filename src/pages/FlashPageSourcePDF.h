@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drawing/OpenedPDF.h"
+#include "drawing/SpareWorkers.h"
 #include "pages/FlashPageSource.h"
 #include "pages/PDFToSWFPageConverter.h"
 
