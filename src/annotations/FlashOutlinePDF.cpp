@@ -2,28 +2,33 @@
 
 #include "base/Log.h"
 
+namespace {
+
+std::shared_ptr<FlashOutlineItem> itemFrom(const PDFOutlineNode& node, int level) {
+    auto item = std::make_shared<FlashOutlineItem>();
+    item->setCaption(node.label);
+    item->setPageIndex(node.destinationPage + 1);
+    item->setLevel(level);
+    return item;
+}
+
+} // namespace
+
 void FlashOutlinePDF::loadOutlineFromPDF(const std::shared_ptr<PDFDocument>& document) {
     if (!document)
         return;
     const Log log("FlashOutlinePDF");
     for (const PDFOutlineNode& node : document->outline()) {
-        auto item = std::make_shared<FlashOutlineItem>();
-        item->setCaption(node.label);
         log.debug(node.label);
-        item->setPageIndex(node.destinationPage + 1);
-        item->setLevel(1);
-        iItems.push_back(item);
-        addOutelineToItems(*item, node, 1, *document);
+        iItems.push_back(itemFrom(node, 1));
+        addOutelineToItems(*iItems.back(), node, 1, *document);
     }
 }
 
 void FlashOutlinePDF::addOutelineToItems(FlashOutlineItem& item, const PDFOutlineNode& fromOutline,
                                          int atLevel, const PDFDocument& pdfDoc) {
     for (const PDFOutlineNode& node : fromOutline.children) {
-        auto entry = std::make_shared<FlashOutlineItem>();
-        entry->setCaption(node.label);
-        entry->setPageIndex(node.destinationPage + 1);
-        entry->setLevel(atLevel + 1);
+        const auto entry = itemFrom(node, atLevel + 1);
         entry->setParent(&item);
         item.addChild(entry);
         addOutelineToItems(*entry, node, entry->level(), pdfDoc);

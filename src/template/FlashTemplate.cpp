@@ -38,11 +38,11 @@ QString stylesFolder(const QString& tmplName) {
     return appendPathComponent(styles, tmplName);
 }
 
-template <typename FileValues>
-void collectFileValues(const FlashTemplate::Properties& nodes, FileValues& found) {
+void collectFileValues(const FlashTemplate::Properties& nodes,
+                       std::vector<std::pair<QString, QString>>& found) {
     for (const auto& node : nodes) {
         if (node->propertyType() == pt_file)
-            found.push_back({node->key(), node->value()});
+            found.emplace_back(node->key(), node->value());
         collectFileValues(node->childProperties(), found);
     }
 }
@@ -212,27 +212,27 @@ QString FlashTemplate::valueAsFilePath(const QString& value) const {
     return QStringLiteral("");
 }
 
-std::vector<FlashTemplate::FileValue> FlashTemplate::fileValues() const {
-    std::vector<FileValue> found;
+FlashTemplate::FileValues FlashTemplate::fileValues() const {
+    FileValues found;
     collectFileValues(iProperties, found);
     return found;
 }
 
 // Not an error: a style may be a settings file exported by the user, which may name any file.
-void FlashTemplate::warnAboutOutsideFiles(const QString& source,
-                                          const std::vector<FileValue>& before) const {
+void FlashTemplate::warnAboutOutsideFiles(const QString& source, const FileValues& before) const {
     const QStringList folders{stylePathFor(iTmplName, iStyleName), tmplPathForName(iTmplName),
                               libraryFolder()};
     const auto now = fileValues();
     for (std::size_t i = 0; i < now.size(); ++i) {
         const bool isNew = i >= before.size() || now[i] != before[i];
         const auto holds = [&](const QString& folder) {
-            return Confinement::contains(folder, now[i].value);
+            return Confinement::contains(folder, now[i].second);
         };
-        if (isNew && !now[i].value.isEmpty() && std::none_of(folders.begin(), folders.end(), holds))
+        if (isNew && !now[i].second.isEmpty() &&
+            std::none_of(folders.begin(), folders.end(), holds))
             logger.warn(
                 QStringLiteral("the %1 names a file that lies elsewhere, books will hold it: %2=%3")
-                    .arg(source, now[i].key, now[i].value));
+                    .arg(source, now[i].first, now[i].second));
     }
 }
 

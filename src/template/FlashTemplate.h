@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <memory>
+#include <utility>
 #include <vector>
 
 // A template of the library: its files, its current style, and its tree of properties. Look-ups by
@@ -96,21 +97,17 @@ public:
     void setNeedThumbs(bool needed) { iNeedThumbs = needed; }
 
 private:
-    struct FileValue {
-        QString key;
-        QString value;
-        bool operator==(const FileValue&) const = default;
-    };
+    using FileValues = std::vector<std::pair<QString, QString>>; // values by key
 
     // Does nothing: properties come only from the template file.
     void initTmplProperties() {}
     void loadTemplateFile(const QString& path);
     bool isOfLibrary(const QString& path) const;
     // Values of all properties that name a file, in tree order.
-    std::vector<FileValue> fileValues() const;
+    FileValues fileValues() const;
     // Logs the files that source has set since before was recorded and that are neither with the
     // template or the style nor in the library.
-    void warnAboutOutsideFiles(const QString& source, const std::vector<FileValue>& before) const;
+    void warnAboutOutsideFiles(const QString& source, const FileValues& before) const;
 
     QString iTmplName;
     Properties iProperties;
