@@ -4,8 +4,5 @@
 //
 //     folvero-page-worker read PDF
 //
-// It prints "here" once its sandbox is in force, opens the document and prints "ok" with the number
-// of pages. Then it reads questions, one per line, from standard input: "page N", "annotations N"
-// (zero-based), "outline", "labels", "language", "information KEY". It answers each with one line:
-// "ok PACKED" (PDFSerialization in base64) or "fail NAME REASON". Opening can fail likewise.
+// docs/internals.md has the protocol, "Sandboxed reading and drawing".
 void serveReading(const char* pdf);
