@@ -2,7 +2,6 @@
 
 #include "base/PlatformException.h"
 
-using Error = CommonCryptoErrorDomain::Error;
 using Operation = Cryptor::Operation;
 
 namespace {
@@ -19,56 +18,16 @@ QByteArray run(Operation operation, const QByteArray& data, CCAlgorithm algorith
     return cryptor ? LowLevelCommonCryptor::_runCryptor(data, *cryptor, error) : QByteArray();
 }
 
-QByteArray runPadded(Operation operation, const QByteArray& data, CCAlgorithm algorithm,
-                     const CipherBytes& key, Error* error) {
+} // namespace
+
+QByteArray CommonCryptor::runPadded(Operation operation, const QByteArray& data,
+                                    CCAlgorithm algorithm, const CipherBytes& key, Error* error) {
     int status = CCSuccess;
     const QByteArray result =
         run(operation, data, algorithm, key, nullptr, CCOptionPKCS7Padding, &status);
     if (result.isNull() && error)
         *error = CommonCryptoErrorDomain::errorWithCCCryptorStatus(status);
     return result;
-}
-
-} // namespace
-
-QByteArray CommonCryptor::RC4EncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                                   Error* error) {
-    return runPadded(Operation::encrypt, data, CCAlgorithmRC4, key, error);
-}
-
-QByteArray CommonCryptor::decryptedRC4DataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                                   Error* error) {
-    return runPadded(Operation::decrypt, data, CCAlgorithmRC4, key, error);
-}
-
-QByteArray CommonCryptor::AES256EncryptedDataUsingKey(const QByteArray& data,
-                                                      const CipherBytes& key, Error* error) {
-    return runPadded(Operation::encrypt, data, CCAlgorithmAES, key, error);
-}
-
-QByteArray CommonCryptor::decryptedAES256DataUsingKey(const QByteArray& data,
-                                                      const CipherBytes& key, Error* error) {
-    return runPadded(Operation::decrypt, data, CCAlgorithmAES, key, error);
-}
-
-QByteArray CommonCryptor::DESEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                                   Error* error) {
-    return runPadded(Operation::encrypt, data, CCAlgorithmDES, key, error);
-}
-
-QByteArray CommonCryptor::decryptedDESDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                                   Error* error) {
-    return runPadded(Operation::decrypt, data, CCAlgorithmDES, key, error);
-}
-
-QByteArray CommonCryptor::CASTEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                                    Error* error) {
-    return runPadded(Operation::encrypt, data, CCAlgorithmCAST, key, error);
-}
-
-QByteArray CommonCryptor::decryptedCASTDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                                    Error* error) {
-    return runPadded(Operation::decrypt, data, CCAlgorithmCAST, key, error);
 }
 
 void LowLevelCommonCryptor::FixKeyLengths(CCAlgorithm algorithm, QByteArray& key,

@@ -58,24 +58,45 @@ private:
 namespace CommonCryptor {
 
 using Error = CommonCryptoErrorDomain::Error;
+using Operation = Cryptor::Operation;
 
-QByteArray RC4EncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                    Error* error = nullptr);
-QByteArray decryptedRC4DataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                    Error* error = nullptr);
+// What all of the following do.
+QByteArray runPadded(Operation operation, const QByteArray& data, CCAlgorithm algorithm,
+                     const CipherBytes& key, Error* error);
+
+inline QByteArray RC4EncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                           Error* error = nullptr) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmRC4, key, error);
+}
+inline QByteArray decryptedRC4DataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                           Error* error = nullptr) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmRC4, key, error);
+}
 // The length of the key decides between 128, 192 and 256 bits; see FixKeyLengths().
-QByteArray AES256EncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                       Error* error = nullptr);
-QByteArray decryptedAES256DataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                       Error* error = nullptr);
-QByteArray DESEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                    Error* error = nullptr);
-QByteArray decryptedDESDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                    Error* error = nullptr);
-QByteArray CASTEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                     Error* error = nullptr);
-QByteArray decryptedCASTDataUsingKey(const QByteArray& data, const CipherBytes& key,
-                                     Error* error = nullptr);
+inline QByteArray AES256EncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                              Error* error = nullptr) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmAES, key, error);
+}
+inline QByteArray decryptedAES256DataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                              Error* error = nullptr) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmAES, key, error);
+}
+inline QByteArray DESEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                           Error* error = nullptr) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmDES, key, error);
+}
+inline QByteArray decryptedDESDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                           Error* error = nullptr) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmDES, key, error);
+}
+inline QByteArray CASTEncryptedDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                            Error* error = nullptr) {
+    return runPadded(Operation::encrypt, data, CCAlgorithmCAST, key, error);
+}
+inline QByteArray decryptedCASTDataUsingKey(const QByteArray& data, const CipherBytes& key,
+                                            Error* error = nullptr) {
+    return runPadded(Operation::decrypt, data, CCAlgorithmCAST, key, error);
+}
 
 } // namespace CommonCryptor
 
