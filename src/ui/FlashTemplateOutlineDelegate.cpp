@@ -4,7 +4,6 @@
 #include "base/NotificationCenter.h"
 #include "ui/FlashTmplColorCell.h"
 #include "ui/FlashTmplFileCell.h"
-#include "ui/Panels.h"
 #include "util/ColorCategory.h"
 
 #include <QCoreApplication>

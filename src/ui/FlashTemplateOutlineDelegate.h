@@ -2,13 +2,12 @@
 
 #include "template/FlashTemplate.h"
 #include "ui/Cell.h"
+#include "ui/Panels.h"
 
-#include <QColor>
 #include <QStringList>
 #include <QVariant>
 #include <functional>
 #include <memory>
-#include <optional>
 
 class FlashTmplColorCell;
 class FlashTmplFileCell;
@@ -35,12 +34,9 @@ public:
         iFlashTmpl = std::move(flashTmpl);
     }
 
-    // How the user is asked for files and colours. No file is returned when the panel is cancelled.
-    // types are file name extensions.
-    using FilePanel =
-        std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>;
+    // How the user is asked for files and colours.
     using ColorPanel = std::function<QColor(const QColor& initial)>;
-    void setFilePanel(FilePanel panel) { iFilePanel = std::move(panel); }
+    void setFilePanel(Panels::FilePanel panel) { iFilePanel = std::move(panel); }
     void setColorPanel(ColorPanel panel) { iColorPanel = std::move(panel); }
 
     int numberOfChildrenOfItem(Item item) const;
@@ -75,6 +71,6 @@ private:
     std::unique_ptr<Cell> listCell(const FlashTemplateProperty& property) const;
 
     std::shared_ptr<FlashTemplate> iFlashTmpl;
-    FilePanel iFilePanel;
+    Panels::FilePanel iFilePanel;
     ColorPanel iColorPanel;
 };

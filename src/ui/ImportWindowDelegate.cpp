@@ -5,7 +5,6 @@
 #include "base/PlatformException.h"
 #include "ui/ImportWindow.h"
 #include "ui/OutputWindow.h"
-#include "ui/Panels.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -3,6 +3,7 @@
 #include "base/NotificationCenter.h"
 #include "base/Operation.h"
 #include "pages/ImportPDFOperation.h"
+#include "ui/Panels.h"
 
 #include <QObject>
 #include <functional>
@@ -37,10 +38,8 @@ public:
     void setPageHeight(int height) { iBook.pageSize.setHeight(height); }
     bool isImporting() const { return iIsImporting; }
 
-    // How the user is asked for a file (none when cancelled), and how one is opened.
-    using FilePanel =
-        std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>;
-    void setFilePanel(FilePanel panel) { iFilePanel = std::move(panel); }
+    // How the user is asked for a file, and how one is opened.
+    void setFilePanel(Panels::FilePanel panel) { iFilePanel = std::move(panel); }
     void setFileOpener(std::function<void(const QString&)> opener) {
         iOpenFile = std::move(opener);
     }
@@ -77,7 +76,7 @@ private:
     QStringList iFailures;
     std::shared_ptr<ImportPDFOperation> iImportPDF;
     NotificationCenter::Subscription iProgress;
-    FilePanel iFilePanel;
+    Panels::FilePanel iFilePanel;
     std::function<void(const QString&)> iOpenFile;
     std::function<void(int)> iOnEnd;
     // Last, so that it is destroyed first: its thread must end before anything that it may use.

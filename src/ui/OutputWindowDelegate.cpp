@@ -158,13 +158,8 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
         return std::make_unique<FolveroOutputApp>(iBook.pageSource, iFlashTmpl, folder, name);
     if (!QFileInfo::exists(folder))
         QDir().mkdir(folder);
-    if (AppSettings::shareInstance().outputType() == OutputWindow::webBook)
-        return makeWebOutput(folder, name);
-    return std::make_unique<FolveroOutput>(iBook.pageSource, iFlashTmpl, folder, name);
-}
-
-std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeWebOutput(const QString& folder,
-                                                                   const QString& name) {
+    if (AppSettings::shareInstance().outputType() != OutputWindow::webBook)
+        return std::make_unique<FolveroOutput>(iBook.pageSource, iFlashTmpl, folder, name);
     auto output = std::make_unique<FolveroOutputWeb>(iBook.pageSource, iFlashTmpl, folder, name);
     output->setTitle(AppSettings::shareInstance().lastOutputFileTitle());
     output->setSingleFile(iWindow->chkSingleFile->isChecked());

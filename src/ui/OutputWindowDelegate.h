@@ -59,7 +59,6 @@ private:
     QString pageName() const;
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput();
-    std::unique_ptr<FolveroOutput> makeWebOutput(const QString& folder, const QString& name);
     // A text about files or a book that a publish would replace and somebody may want to keep;
     // empty for none.
     QString overwriteWarning(const FolveroOutput& output) const;

@@ -22,6 +22,13 @@ QString nameFilter(const QStringList& types) {
     return patterns.isEmpty() ? QString() : QStringLiteral("(%1)").arg(patterns.join(u' '));
 }
 
+// Shows both texts literally.
+void run(QMessageBox& alert, const QString& information) {
+    alert.setInformativeText(information);
+    PlainText::show(alert);
+    alert.exec();
+}
+
 } // namespace
 
 std::optional<QString> Panels::chooseFile(const QString& proposed, const QStringList& types) {
@@ -60,34 +67,28 @@ std::optional<QString> Panels::chooseFolder(const QString& prompt) {
 bool Panels::askToOpen(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Information, QApplication::applicationDisplayName(), message,
                       QMessageBox::NoButton, QApplication::activeWindow());
-    alert.setInformativeText(information);
     const QAbstractButton* openIt =
         alert.addButton(QCoreApplication::translate("Panels", "Open it"), QMessageBox::AcceptRole);
     alert.addButton(QCoreApplication::translate("Panels", "No"), QMessageBox::RejectRole);
-    PlainText::show(alert);
-    alert.exec();
+    run(alert, information);
     return alert.clickedButton() == openIt;
 }
 
 bool Panels::askToReplace(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
                       QMessageBox::NoButton, QApplication::activeWindow());
-    alert.setInformativeText(information);
     const QAbstractButton* replace =
         alert.addButton(QCoreApplication::translate("Panels", "Replace"), QMessageBox::AcceptRole);
     alert.setDefaultButton(
         alert.addButton(QCoreApplication::translate("Panels", "Cancel"), QMessageBox::RejectRole));
-    PlainText::show(alert);
-    alert.exec();
+    run(alert, information);
     return alert.clickedButton() == replace;
 }
 
 void Panels::showMessage(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
                       QMessageBox::Ok, QApplication::activeWindow());
-    alert.setInformativeText(information);
-    PlainText::show(alert);
-    alert.exec();
+    run(alert, information);
 }
 
 void Panels::about() {

@@ -3,10 +3,15 @@
 #include <QColor>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 // The system's dialogs, as functions that wait for the user's answer.
 namespace Panels {
+
+// Asks for a file; see chooseFile().
+using FilePanel =
+    std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>;
 
 // None when cancelled. types are file name extensions; empty ones are ignored, and without any
 // every file may be chosen.

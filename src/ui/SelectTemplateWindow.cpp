@@ -19,6 +19,17 @@ constexpr int firstColumns = 3;
 constexpr int firstRows = 2;
 constexpr int noticeIconSide = 20;
 
+QListView* newList(const QString& name, const QString& accessibleName) {
+    auto* list = new QListView;
+    list->setObjectName(name);
+    list->setAccessibleName(accessibleName);
+    list->setMouseTracking(true);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    return list;
+}
+
 // A text in the middle of an empty view.
 QLabel* emptyText(QListView& view, const QString& name, const QString& text) {
     auto* label = new QLabel(text);
@@ -89,31 +100,19 @@ QSize SelectTemplateWindow::firstSize() const {
 }
 
 void SelectTemplateWindow::makeTmplList() {
-    iTableViewTmpls = new QListView;
-    iTableViewTmpls->setObjectName(QStringLiteral("templates"));
-    iTableViewTmpls->setAccessibleName(tr("Templates"));
+    iTableViewTmpls = newList(QStringLiteral("templates"), tr("Templates"));
     iTableViewTmpls->setFixedWidth(listWidth);
     iTableViewTmpls->setSpacing(2);
     iTableViewTmpls->setUniformItemSizes(true);
-    iTableViewTmpls->setMouseTracking(true);
-    iTableViewTmpls->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    iTableViewTmpls->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    iTableViewTmpls->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     lblNoTmpls =
         emptyText(*iTableViewTmpls, QStringLiteral("noTemplates"), tr("There are no templates."));
 }
 
 void SelectTemplateWindow::makeStyleBrowser() {
-    iImgBrowserView = new QListView;
-    iImgBrowserView->setObjectName(QStringLiteral("styles"));
-    iImgBrowserView->setAccessibleName(tr("Styles"));
+    iImgBrowserView = newList(QStringLiteral("styles"), tr("Styles"));
     iImgBrowserView->setViewMode(QListView::IconMode);
     iImgBrowserView->setMovement(QListView::Static);
     iImgBrowserView->setResizeMode(QListView::Adjust);
-    iImgBrowserView->setMouseTracking(true);
-    iImgBrowserView->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    iImgBrowserView->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    iImgBrowserView->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     lblNoStyles =
         emptyText(*iImgBrowserView, QStringLiteral("noStyles"), tr("This template has no styles."));
     const QSize cell = TmplStylePainter::smallestCell(iImgBrowserView->fontMetrics());

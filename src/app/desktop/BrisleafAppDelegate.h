@@ -5,6 +5,7 @@
 #include "base/NotificationCenter.h"
 #include "output/FolveroOutput.h"
 #include "ui/FlashTemplateOutlineDelegate.h"
+#include "ui/Panels.h"
 
 #include <QObject>
 #include <functional>
@@ -41,10 +42,8 @@ public:
     // for colours, and how a file is opened in its default program and the about box shown. Set
     // before the launch.
     struct Questions {
-        std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>
-            fileToOpen;
-        std::function<std::optional<QString>(const QString& proposed, const QStringList& types)>
-            fileToSave;
+        Panels::FilePanel fileToOpen;
+        Panels::FilePanel fileToSave;
         std::function<bool(const QString& message, const QString& information)> replace;
         std::function<QColor(const QColor& initial)> color;
         std::function<void(const QString& path)> open;

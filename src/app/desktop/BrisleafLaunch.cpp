@@ -14,7 +14,6 @@
 #include "ui/FlashTemplateOutline.h"
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindowDelegate.h"
-#include "ui/Panels.h"
 #include "ui/PropertyCellDelegate.h"
 #include "ui/SelectTemplateWindowDelegate.h"
 

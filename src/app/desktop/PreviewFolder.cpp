@@ -4,7 +4,6 @@
 #include "system/Folders.h"
 
 #include <QDir>
-#include <QLockFile>
 #include <cerrno>
 
 namespace {
@@ -15,9 +14,6 @@ constexpr Log logger("BrisleafAppDelegate");
 constexpr int maxFolders = 32;
 
 } // namespace
-
-PreviewFolder::PreviewFolder() = default;
-PreviewFolder::~PreviewFolder() = default;
 
 QString PreviewFolder::claim(const QString& base) {
     const QString home = base + QStringLiteral("/Folvero");

@@ -2,20 +2,14 @@
 
 #include "base/Message.h"
 
+#include <QLockFile>
 #include <QString>
 #include <memory>
-
-class QLockFile;
 
 // The private folder to which the edited book is published. The first running program uses
 // "preview", others "preview-2" and so on, until they end.
 class PreviewFolder {
 public:
-    PreviewFolder();
-    ~PreviewFolder();
-    PreviewFolder(const PreviewFolder&) = delete;
-    PreviewFolder& operator=(const PreviewFolder&) = delete;
-
     // Creates the folder and locks it for this program. The path has no trailing separator. An
     // error is logged; the path is returned all the same.
     QString make();
