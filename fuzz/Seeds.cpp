@@ -2,8 +2,6 @@
 #include "builder/PDFContent.h"
 #include "pdf/PDFSerialization.h"
 #include "support/TemplateLibrary.h"
-#include "util/NSData+CocoaDevUsersAdditions.h"
-#include "util/NSData+CommonCrypto.h"
 
 #include <QDir>
 #include <QHashFunctions>
@@ -53,28 +51,6 @@ Seeds templates() {
         {"encoding=\"utf-8\"", "encoding=\"iso-8859-1\""}};
     for (const auto& [before, after] : changes)
         seeds.push_back(xml.toUtf8().replace(before, after));
-    return seeds;
-}
-
-// The first bytes choose the cipher, its options, the length of the key and whether a vector
-// follows; every codec takes all of it as its data.
-Seeds codecs() {
-    using namespace NSDataExtension;
-    const QByteArray text = "The same words again and again and again. ";
-    Seeds seeds{"",
-                text,
-                "MZXW6YTB",
-                QByteArray(300, 'x'),
-                QByteArray(70, '\0'),
-                zlibDeflate(text.repeated(40)),
-                gzipDeflate(text),
-                zlibDeflate(QByteArray(100'000, '\0')),
-                encodeCOBS(text + QByteArray(3, '\0') + text)};
-    for (char algorithm = CCAlgorithmAES; algorithm <= CCAlgorithmRC4; ++algorithm) {
-        for (char options = 0; options < 4; ++options)
-            seeds.push_back(QByteArray(1, algorithm) + options + "\5abcde\1" + QByteArray(16, 'v') +
-                            text.repeated(2).left(64));
-    }
     return seeds;
 }
 
@@ -143,10 +119,11 @@ Seeds documents() {
 // them.
 int main(int argc, char** argv) {
     QHashSeed::setDeterministicGlobalSeed();
-    const std::pair<const char*, Seeds> sets[] = {
-        {"TextTemplate", textTemplates()}, {"SettingsFile", settings()},
-        {"TemplateXML", templates()},      {"Codecs", codecs()},
-        {"PDFSerialization", facts()},     {"PDFImport", documents()}};
+    const std::pair<const char*, Seeds> sets[] = {{"TextTemplate", textTemplates()},
+                                                  {"SettingsFile", settings()},
+                                                  {"TemplateXML", templates()},
+                                                  {"PDFSerialization", facts()},
+                                                  {"PDFImport", documents()}};
     if (argc != 3)
         return 2;
     const QDir root(QFile::decodeName(argv[1]));
