@@ -127,24 +127,6 @@ TEST_F(WebBookTest, PutsLinksWhereTheirAreasAreDrawn) {
     EXPECT_GE(links, 12);
 }
 
-TEST_F(WebBookTest, MapsPagesToTheirPositionsWhenOthersAreLeftOut) {
-    publishWeb("links.pdf", {"--pages=2-4"});
-    EXPECT_EQ(data("web/book")["numbers"], (QJsonArray{2, 3, 4}));
-    QJsonArray targets;
-    for (const auto& link : page(3)["links"].toArray())
-        targets.append(link[4]);
-    // Page 1 of the document is not in the book.
-    EXPECT_EQ(targets, (QJsonArray{"https://www.example.org/books?page=1&size=2", 0}));
-    EXPECT_FALSE(exists("files/text/1.js"));
-    EXPECT_TRUE(exists("files/large/2.svg"));
-}
-
-TEST_F(WebBookTest, HasNeitherSizeNorPictureOfAnUnreadablePage) {
-    const QByteArray errors = publishWeb("damaged-page.pdf", {}, 3);
-    EXPECT_FALSE(errors.contains("picture only")) << errors.constData();
-    EXPECT_EQ(page(3)["size"].toArray(), (QJsonArray{0, 0}));
-}
-
 TEST_F(WebBookTest, HasTheWordsWhereAnotherProgramFindsThem) {
     publishWeb("sample.pdf");
     std::size_t words = 0;
@@ -164,15 +146,6 @@ TEST_F(WebBookTest, HasTheWordsWhereAnotherProgramFindsThem) {
         words += own.size();
     }
     EXPECT_GT(words, 400U);
-}
-
-TEST_F(WebBookTest, ReadsScriptsOfAllDirections) {
-    publishWeb("cjk-rtl.pdf");
-    const QJsonArray texts = data("search/text").array();
-    const auto lines = [&](int number) { return texts[number - 1].toString().section(u'\n', 1); };
-    EXPECT_EQ(lines(3), "ページをめくる本\n朝の光が川に落ちる\nカタカナとひらがな");
-    EXPECT_EQ(lines(5), "ספר שאפשר לדפדף בו\nאור הבוקר על הנהר\nעמוד 12 מתוך 48\nנייר, דיו ו-PDF");
-    EXPECT_EQ(lines(6), "كتاب تقلب صفحاته\nضوء الصباح على النهر\nالصفحة 12 من 48\nورق وحبر و PDF");
 }
 
 TEST_F(WebBookTest, EscapesTheTextsOfADocumentWhereverTheyStand) {
@@ -325,25 +298,4 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
         }
     }
     EXPECT_GT(looked, 30);
-}
-
-TEST_F(WebBookTest, LeavesOthersFilesAloneAndTakesItsOwnAway) {
-    const QByteArray foreign = "// of the school's site";
-    TestFiles::write(file("sw.js"), foreign);
-    EXPECT_TRUE(publishWeb("text.pdf").contains("sw.js or manifest.webmanifest in"));
-    EXPECT_EQ(TestFiles::read(file("sw.js")), foreign);
-    EXPECT_FALSE(exists("manifest.webmanifest"));
-    EXPECT_FALSE(data("web/book")["offline"].toBool());
-
-    ASSERT_TRUE(QFile::remove(file("sw.js")));
-    publishWeb("text.pdf");
-    const char* const own[] = {
-        "sw.js",     "files/web/offline.js", "manifest.webmanifest", "files/search/text.js",
-        "text.html", "files/text/1.js",      "files/web.js"};
-    for (const char* name : own)
-        EXPECT_TRUE(exists(name)) << name;
-    published("text.pdf", {"--pages=1"});
-    for (const char* name : own)
-        EXPECT_FALSE(exists(name)) << name;
-    EXPECT_TRUE(exists("files/page/1.jpg"));
 }

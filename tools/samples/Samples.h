@@ -20,5 +20,6 @@ std::vector<Sample> imageSamples();
 std::vector<Sample> scriptSamples();
 std::vector<Sample> brokenSamples();
 std::vector<Sample> hostileSamples();
+std::vector<Sample> referenceSamples();
 // Large documents that only the benchmarks read.
 std::vector<Sample> benchmarkSamples();
