@@ -9,7 +9,6 @@
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -32,18 +31,12 @@ bool writeAll(int to, const void* data, std::size_t size) {
 }
 
 bool copyBytes(int from, int to) {
-    struct stat info {};
-    if (::fstat(from, &info) != 0)
-        return false;
     if (::ioctl(to, FICLONE, from) == 0)
         return true;
-    off_t left = info.st_size;
-    while (left > 0) {
-        const ssize_t count = ::copy_file_range(from, nullptr, to, nullptr, left, 0);
-        if (count <= 0)
-            break;
-        left -= count;
+    constexpr std::size_t piece = 1 << 30;
+    while (::copy_file_range(from, nullptr, to, nullptr, piece, 0) > 0) {
     }
+    // What is left, which is all where a file system does not support that.
     char buffer[1 << 16];
     for (;;) {
         const ssize_t count = ::read(from, buffer, sizeof buffer);

@@ -94,26 +94,35 @@ void restrictFiles(const Sandbox::Policy& policy) {
 // others fail with ENOSYS.
 constexpr std::array allowedCalls{
     // Files that are open or may be opened.
-    "close", "fallocate", "fcntl64", "fsync", "ftruncate", "ftruncate64", "_llseek", "lseek",
-    "open", "openat", "pread64", "pwrite64", "read", "readv", "rename", "renameat", "renameat2",
-    "unlink", "unlinkat", "write", "writev",
+    SCMP_SYS(close), SCMP_SYS(fallocate), SCMP_SYS(fcntl64), SCMP_SYS(fsync), SCMP_SYS(ftruncate),
+    SCMP_SYS(ftruncate64), SCMP_SYS(_llseek), SCMP_SYS(lseek), SCMP_SYS(open), SCMP_SYS(openat),
+    SCMP_SYS(pread64), SCMP_SYS(pwrite64), SCMP_SYS(read), SCMP_SYS(readv), SCMP_SYS(rename),
+    SCMP_SYS(renameat), SCMP_SYS(renameat2), SCMP_SYS(unlink), SCMP_SYS(unlinkat), SCMP_SYS(write),
+    SCMP_SYS(writev),
     // What is known of files.
-    "access", "faccessat", "faccessat2", "fstat", "fstat64", "fstatat64", "fstatfs", "fstatfs64",
-    "getcwd", "lstat", "lstat64", "newfstatat", "readlink", "readlinkat", "stat", "stat64", "statx",
+    SCMP_SYS(access), SCMP_SYS(faccessat), SCMP_SYS(faccessat2), SCMP_SYS(fstat), SCMP_SYS(fstat64),
+    SCMP_SYS(fstatat64), SCMP_SYS(fstatfs), SCMP_SYS(fstatfs64), SCMP_SYS(getcwd), SCMP_SYS(lstat),
+    SCMP_SYS(lstat64), SCMP_SYS(newfstatat), SCMP_SYS(readlink), SCMP_SYS(readlinkat),
+    SCMP_SYS(stat), SCMP_SYS(stat64), SCMP_SYS(statx),
     // Memory and threads.
-    "brk", "futex", "futex_time64", "madvise", "membarrier", "mremap", "munmap", "rseq",
-    "sched_getaffinity", "sched_yield", "set_robust_list",
+    SCMP_SYS(brk), SCMP_SYS(futex), SCMP_SYS(futex_time64), SCMP_SYS(madvise), SCMP_SYS(membarrier),
+    SCMP_SYS(mremap), SCMP_SYS(munmap), SCMP_SYS(rseq), SCMP_SYS(sched_getaffinity),
+    SCMP_SYS(sched_yield), SCMP_SYS(set_robust_list),
     // Time, waiting and signals.
-    "alarm", "clock_getres", "clock_getres_time64", "clock_gettime", "clock_gettime64",
-    "clock_nanosleep", "clock_nanosleep_time64", "gettimeofday", "nanosleep", "poll", "ppoll",
-    "ppoll_time64", "restart_syscall", "rt_sigaction", "rt_sigpending", "rt_sigprocmask",
-    "rt_sigreturn", "rt_sigsuspend", "rt_sigtimedwait", "rt_sigtimedwait_time64", "setitimer",
-    "sigaltstack", "sigreturn", "time",
+    SCMP_SYS(alarm), SCMP_SYS(clock_getres), SCMP_SYS(clock_getres_time64), SCMP_SYS(clock_gettime),
+    SCMP_SYS(clock_gettime64), SCMP_SYS(clock_nanosleep), SCMP_SYS(clock_nanosleep_time64),
+    SCMP_SYS(gettimeofday), SCMP_SYS(nanosleep), SCMP_SYS(poll), SCMP_SYS(ppoll),
+    SCMP_SYS(ppoll_time64), SCMP_SYS(restart_syscall), SCMP_SYS(rt_sigaction),
+    SCMP_SYS(rt_sigpending), SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn),
+    SCMP_SYS(rt_sigsuspend), SCMP_SYS(rt_sigtimedwait), SCMP_SYS(rt_sigtimedwait_time64),
+    SCMP_SYS(setitimer), SCMP_SYS(sigaltstack), SCMP_SYS(sigreturn), SCMP_SYS(time),
     // What the process knows of itself and the machine.
-    "getegid", "getegid32", "geteuid", "geteuid32", "getgid", "getgid32", "getpid", "getrandom",
-    "getrusage", "gettid", "getuid", "getuid32", "sysinfo", "ugetrlimit", "uname",
+    SCMP_SYS(getegid), SCMP_SYS(getegid32), SCMP_SYS(geteuid), SCMP_SYS(geteuid32),
+    SCMP_SYS(getgid), SCMP_SYS(getgid32), SCMP_SYS(getpid), SCMP_SYS(getrandom),
+    SCMP_SYS(getrusage), SCMP_SYS(gettid), SCMP_SYS(getuid), SCMP_SYS(getuid32), SCMP_SYS(sysinfo),
+    SCMP_SYS(ugetrlimit), SCMP_SYS(uname),
     // The end.
-    "exit", "exit_group"};
+    SCMP_SYS(exit), SCMP_SYS(exit_group)};
 
 class CallFilter {
 public:
@@ -125,23 +134,25 @@ public:
     void enforce() {
         if (!iFilter || ::seccomp_attr_set(iFilter, SCMP_FLTATR_CTL_TSYNC, 1) != 0)
             return;
-        for (const char* name : allowedCalls)
-            allow(name);
+        for (const int call : allowedCalls)
+            allow(call);
 #ifdef FOLVERO_SANITIZED
         // Sanitizers use them to check whether memory is readable.
-        allow("pipe");
-        allow("pipe2");
+        allow(SCMP_SYS(pipe));
+        allow(SCMP_SYS(pipe2));
 #endif
         // Memory, but not executable.
-        for (const char* name : {"mmap", "mmap2", "mprotect"})
-            allow(name, scmp_arg_cmp{2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0});
+        for (const int call : {SCMP_SYS(mmap), SCMP_SYS(mmap2), SCMP_SYS(mprotect)})
+            allow(call, scmp_arg_cmp{2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0});
         // Threads, not processes. clone3() can't be filtered by flags; the C library falls back to
         // clone().
-        allow("clone", scmp_arg_cmp{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD});
+        allow(SCMP_SYS(clone), scmp_arg_cmp{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD});
         // Reading its own limits, not setting them.
-        allow("prlimit64", scmp_arg_cmp{0, SCMP_CMP_EQ, 0, 0}, scmp_arg_cmp{2, SCMP_CMP_EQ, 0, 0});
+        allow(SCMP_SYS(prlimit64), scmp_arg_cmp{0, SCMP_CMP_EQ, 0, 0},
+              scmp_arg_cmp{2, SCMP_CMP_EQ, 0, 0});
         // For abort().
-        allow("tgkill", scmp_arg_cmp{0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(::getpid()), 0});
+        allow(SCMP_SYS(tgkill),
+              scmp_arg_cmp{0, SCMP_CMP_EQ, static_cast<scmp_datum_t>(::getpid()), 0});
         ::seccomp_load(iFilter);
     }
 
@@ -149,10 +160,8 @@ private:
     // Allows a system call, or its use with these arguments (number, comparison, operands). Calls
     // that this architecture does not have are skipped.
     template <class... Conditions>
-    void allow(const char* name, Conditions... conditions) {
-        const int call = ::seccomp_syscall_resolve_name(name);
-        if (call != __NR_SCMP_ERROR)
-            ::seccomp_rule_add(iFilter, SCMP_ACT_ALLOW, call, sizeof...(conditions), conditions...);
+    void allow(int call, Conditions... conditions) {
+        ::seccomp_rule_add(iFilter, SCMP_ACT_ALLOW, call, sizeof...(conditions), conditions...);
     }
 
     scmp_filter_ctx iFilter;
