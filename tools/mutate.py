@@ -85,7 +85,7 @@ def changed_text(line, code):
 def swapped_arguments(line, code):
     value = r"((?:[\w.]|->|::)+(?:\(\))?)"
     for match in re.finditer(rf"(?<=[(,{{ ]){value}, {value}(?=[,)}}])", code):
-        if match[1] != match[2] and not re.search(r"\b\w*(?:max|min|[sS]wap|hypot)\w*(?:<\w+>)?\($", code[:match.start()]):
+        if match[1] != match[2] and not re.search(r"\b\w*(?:max|min|[sS]wap|hypot)\w*(?:<[\w:]+>)?\($", code[:match.start()]):
             yield *match.span(), f"{line[slice(*match.span(2))]}, {line[slice(*match.span(1))]}"
 
 

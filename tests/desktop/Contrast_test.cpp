@@ -106,12 +106,23 @@ TEST_F(Contrast, ChosenLineOfEveryListCanBeRead) {
     const auto choices = window().menu->appearance->actions();
     for (const auto choice : {Appearance::dark, Appearance::light}) {
         choices.at(choice)->trigger();
-        EXPECT_FALSE(qApp->styleSheet().contains(u'@')); // a colour without a value
         const auto all = highlights();
         for (auto it = all.cbegin(); it != all.cend(); ++it)
             EXPECT_GE(contrast(it.value()), 4.5) << it.key().toStdString() << ", " << choice;
     }
     QApplication::setFont(usual);
+}
+
+TEST(Appearance, HasAColourForEveryRole) {
+    for (const bool isDark : {true, false}) {
+        const QPalette palette = Appearance::palette(isDark);
+        for (const auto group : {QPalette::Active, QPalette::Disabled}) {
+            for (int role = 0; role < QPalette::NoRole; ++role)
+                EXPECT_TRUE(palette.color(group, QPalette::ColorRole(role)).isValid()) << role;
+        }
+        const QString sheet = Appearance::styleSheet(isDark);
+        EXPECT_FALSE(sheet.isEmpty() || sheet.contains(u'@') || sheet.contains("#000000"));
+    }
 }
 
 TEST(BorderedStyle, EmptyControlsCanBeSeenInADarkWindow) {

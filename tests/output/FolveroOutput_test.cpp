@@ -188,6 +188,34 @@ TEST(FolveroOutput, SharesOnlyPageFilesOfItsOwn) {
     EXPECT_EQ(book.read("files/page/1.jpg"), "another");
 }
 
+// Books whose zoomed pages are files of their own.
+class Zoomed : public FolveroOutput {
+public:
+    explicit Zoomed(const PublishedBook& book)
+        : FolveroOutput(book.pageSource, book.flashTemplate, book.folder(), QString()) {
+        iZoomedPageSameAsNormalPage = false;
+    }
+};
+
+TEST(FolveroOutput, AddsZoomedPagesWhereTheirFolderIs) {
+    PublishedBook book;
+    for (const QString number : {"1", "2", "3"})
+        book.addPage(number + ".jpg", number.toInt(), "new");
+    QFile::remove(book.sourcePath("3.jpg"));
+    auto pages = book.pageSource->pages();
+    pages.push_back(nullptr);
+    book.pageSource->setZoomedPages(pages);
+    Zoomed(book).ouputTheBook();
+    EXPECT_FALSE(book.exists("files/large"));
+    book.write("files/large/2.swf", "old");
+    book.write("base/files/large/4.swf", "old");
+    Zoomed(book).ouputTheBook();
+    Zoomed(book).prepaireZoomendPage(book.folder() + "/base");
+    EXPECT_EQ(book.files("files/large"), "1.swf 2.swf");
+    EXPECT_EQ(book.read("files/large/1.swf") + book.read("files/large/2.swf"), "newold");
+    EXPECT_EQ(book.files("base"), "files/large/1.swf files/large/2.swf files/large/4.swf");
+}
+
 TEST(FolveroOutput, ReportsTheTitleOfTheBookThatItWouldReplace) {
     PublishedBook book;
     book.library.addFile("AppFiles/Templates/float/index.html",
