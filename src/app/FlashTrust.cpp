@@ -32,10 +32,8 @@ void writeUTF16(const QString& path, const QString& text) {
 }
 
 void addLine(const QString& path, const QString& line) {
-    if (!QFile::exists(path)) {
+    if (!QFile::exists(path))
         writeUTF16(path, line);
-        return;
-    }
     const std::optional<QString> text = readUTF16(path);
     if (text && !text->split(u'\n').contains(line))
         writeUTF16(path, *text + u'\n' + line);

@@ -123,11 +123,12 @@ TEST(FolveroOutput, LeavesOutAMissingPageAndSaysWhich) {
     book.addPage("1.jpg", 1, "one");
     book.addPage("2.jpg", 2, "two");
     book.publish();
+    book.addPage("3.php", 3, "a name that no file of a book has");
     QFile::remove(book.sourcePath("1.jpg"));
     const auto output = book.publisher();
     output->ouputTheBook();
     EXPECT_TRUE(output->publishErrors().isEmpty());
-    EXPECT_EQ(output->missingPages(), std::vector<int>{1});
+    EXPECT_EQ(output->missingPages(), (std::vector<int>{1, 3}));
     EXPECT_EQ(book.files("files/page"), "2.jpg");
 }
 
