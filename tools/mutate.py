@@ -71,6 +71,8 @@ def removed_statement(_, code):
 
 def changed_constant(_, code):
     for match in re.finditer(r"(?<![\w.'])(\d[\d']*)(\.\d+)?(?=[uUlLfF]*(?![\w.']))", code):
+        if re.search(r"\.adjusted\([^()]*$", code[:match.start()]):
+            continue  # layout in pixels
         value = (float if match[2] else int)(match[0].replace("'", ""))
         # The next number after a large one makes no difference that anyone would see.
         yield *match.span(), str(value * 2 if value >= 10 or match[2] and value else value + 1)

@@ -1,3 +1,4 @@
+#include "support/ExpectedText.h"
 #include "support/Program.h"
 #include "support/TemplateLibrary.h"
 
@@ -6,7 +7,7 @@
 #include <gtest/gtest.h>
 
 // Runs the commands of each transcript in an empty folder, and expects what they print to be what
-// stands below them. FOLVERO_WRITE_TRANSCRIPTS=1 writes what they print into the transcripts.
+// stands below them.
 namespace {
 
 const QDir transcripts(FOLVERO_TRANSCRIPTS_DIR);
@@ -42,10 +43,7 @@ TEST_P(Transcript, IsWhatTheCommandsPrint) {
             found << lines[i];
         found << lines.value(i) << printed(command.join('\n'), folder.path()).split('\n');
     }
-    if (qEnvironmentVariableIsSet("FOLVERO_WRITE_TRANSCRIPTS"))
-        return TestFiles::write(file, found.join('\n'));
-    for (qsizetype i = 0; i < std::max(found.size(), lines.size()); ++i)
-        ASSERT_EQ(found.value(i).toStdString(), lines.value(i).toStdString()) << "line " << i + 1;
+    expectLinesOf(file, found);
 }
 
 const QStringList names = transcripts.entryList({"*.txt"}).replaceInStrings(".txt", "");

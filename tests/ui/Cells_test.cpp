@@ -29,7 +29,7 @@ bool hasInk(const QImage& image, const QRect& rect) {
 void mouse(TextFieldCell& cell, QEvent::Type type, const QPointF& at) {
     QWidget view;
     const QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    cell.trackMouse(event, bounds, view);
+    EXPECT_EQ(cell.trackMouse(event, bounds, view), type == QEvent::MouseButtonRelease);
 }
 
 } // namespace
@@ -98,6 +98,8 @@ TEST(CellButton, HasAPictureForEachState) {
         mouse(cell, QEvent::MouseButtonPress, inButton);
         look(name + "-mouse");
         mouse(cell, QEvent::MouseButtonRelease, outside);
+        mouse(cell, QEvent::MouseButtonPress, inButton);
+        mouse(cell, QEvent::MouseButtonRelease, inButton); // without an action
         cell.mouseExited();
     }
     EXPECT_EQ(looks.size(), 6);

@@ -1,0 +1,71 @@
+#include "desktop/DesktopProgram.h"
+#include "support/ExpectedText.h"
+
+namespace {
+
+// What users see, hear or reach by keys. Sizes and places are left to the styles.
+const QByteArrayList properties =
+    QByteArray("windowTitle text title iconText placeholderText toolTip accessibleName "
+               "accessibleDescription statusTip shortcut menuRole default autoDefault checkable "
+               "checked readOnly wordWrap textFormat alignment textInteractionFlags focusPolicy "
+               "frameShape movable toolButtonStyle contextMenuPolicy orientation textVisible "
+               "childrenCollapsible maximum editTriggers acceptDrops horizontalScrollBarPolicy "
+               "verticalScrollMode uniformItemSizes uniformRowHeights viewMode movement resizeMode "
+               "mouseTracking windowModality tabChangesFocus autoRaise")
+        .split(' ');
+
+// What a field holds is the user's own.
+QString valueOf(const QObject& object, const QByteArray& name) {
+    if (name == "text" && qobject_cast<const QLineEdit*>(&object))
+        return {};
+    const QVariant value = object.property(name);
+    static const QRegularExpression usual("^(false|0|No|Non|Default|AutoText|TextHeur).*");
+    return (value.userType() == QMetaType::QKeySequence ? value.value<QKeySequence>().toString()
+                                                        : value.toString())
+        .simplified()
+        .remove(usual);
+}
+
+QString described(const QObject& object) {
+    QStringList words{object.metaObject()->className(), object.objectName()};
+    for (const QByteArray& name : properties) {
+        if (const QString value = valueOf(object, name); !value.isEmpty())
+            words << name + '=' + value;
+    }
+    if (!object.property("icon").value<QIcon>().isNull())
+        words << "with an icon";
+    const auto* widget = qobject_cast<const QWidget*>(&object);
+    if (widget && widget->isHidden())
+        words << "hidden";
+    if (!object.property("enabled").toBool())
+        words << "disabled";
+    if (const auto* label = qobject_cast<const QLabel*>(&object); label && label->buddy())
+        words << "for a" << described(*label->buddy());
+    for (const QAction* action : widget ? widget->actions() : QList<QAction*>())
+        words << '[' + action->text() + ']';
+    return words.join(' ');
+}
+
+// Of the window and its sheets, without the parts that Qt's own widgets consist of.
+QByteArrayList linesOf(const QWidget& window) {
+    static const QRegularExpression own("^(qt_|QScrollBar|QComboBoxPrivate|QQuickWidget)");
+    QByteArrayList lines;
+    for (const QObject* object : window.findChildren<QObject*>()) {
+        const QString line = described(*object);
+        if ((object->isWidgetType() || qobject_cast<const QAction*>(object)) &&
+            !line.endsWith(' ') && !line.contains(own) && !object->objectName().contains(own) &&
+            !object->parent()->objectName().contains(own))
+            lines << line.toUtf8();
+    }
+    return lines;
+}
+
+using Windows = DesktopProgram;
+
+} // namespace
+
+TEST_F(Windows, AreAsWrittenDown) {
+    launch();
+    program->ouputWindow().window().mOutputType->button(OutputWindow::webBook)->click();
+    expectLinesOf(FOLVERO_WINDOWS_TEXT, linesOf(window()) << "");
+}
