@@ -49,7 +49,7 @@ QString described(const QObject& object) {
 // Of the window and its sheets, without the parts that Qt's own widgets consist of.
 QByteArrayList linesOf(const QWidget& window) {
     static const QRegularExpression own("^(qt_|QScrollBar|QComboBoxPrivate|QQuickWidget)");
-    QByteArrayList lines;
+    QByteArrayList lines{described(window).toUtf8()};
     for (const QObject* object : window.findChildren<QObject*>()) {
         const QString line = described(*object);
         if ((object->isWidgetType() || qobject_cast<const QAction*>(object)) &&

@@ -186,11 +186,18 @@ TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
     press("words", Qt::Key_Space);
     type("by", Qt::Key_Tab);
     EXPECT_EQ(value("words"), "by");
-    type("0,8", Qt::Key_Backtab);
-    EXPECT_EQ(value("count"), "0.8") << "players know no comma";
+    QTest::keyClicks(editors().value(0), "05");
+    QTest::keyClick(editors().value(0), Qt::Key_Left);
+    QTest::keyClicks(editors().value(0), ",8");
+    QTest::keyClick(editors().value(0), Qt::Key_Backtab);
+    EXPECT_EQ(value("count"), "0.85") << "players know no comma";
     type("0,8", Qt::Key_Return);
     EXPECT_TRUE(waitForNoEditor());
     EXPECT_EQ(value("words"), "0,8");
+    press("color", Qt::Key_F2);
+    type("0x112233", Qt::Key_Tab);
+    EXPECT_EQ(view.currentIndex(), index("choice"));
+    EXPECT_TRUE(waitForNoEditor()) << "it has no text to type";
     press("color", Qt::Key_Space);
     EXPECT_EQ(value("color"), "0x010203");
     press("picture", Qt::Key_Space);
@@ -208,6 +215,13 @@ TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
         }
         was = value("choice");
     }
+    const QModelIndex group = model.index(0, FlashTemplateModel::key);
+    for (const bool isOpen : {false, true}) {
+        press("group", Qt::Key_Space);
+        EXPECT_EQ(view.isExpanded(group), isOpen);
+    }
+    QTest::keyClick(&view, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(view.isExpanded(group)) << "a key of the menu";
     for (const auto with : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Space}) {
         const QString before = value("flag");
         press("flag", with);
@@ -273,5 +287,10 @@ TEST_F(EditorView, TheButtonLightsUpUnderThePointer) {
     QTest::mouseMove(view.viewport(), at("picture", -8));
     EXPECT_TRUE(QTest::qWaitFor([&] { return look() != before; }));
     QTest::mouseMove(view.viewport(), at("words", 5));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return look() == before; }));
+    QTest::mouseMove(view.viewport(), at("picture", -8));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return look() != before; }));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(view.viewport(), &leave);
     EXPECT_TRUE(QTest::qWaitFor([&] { return look() == before; }));
 }

@@ -37,6 +37,9 @@ QByteArray reference() {
                          linkAt(370, PDFBuilder::toDestination(pdf.destination(2))),
                          linkAt(340, PDFBuilder::toName("end")),
                          linkAt(310, PDFBuilder::toDestination(pdf.destination(4))),
+                         linkAt(310, PDFBuilder::toDestination("[5 /Fit]")),
+                         linkAt(310, PDFBuilder::toDestination("[6 /Fit]")),
+                         linkAt(310, PDFBuilder::toDestination("[-1 /Fit]")),
                          PDFBuilder::link({-50, 280, 100, 20}, PDFBuilder::toName("end")),
                          PDFBuilder::link({900, 280, 100, 20}, PDFBuilder::toName("end"))};
     pdf.addPage(first);
