@@ -15,10 +15,10 @@ PDFBuilder::Page turned(int rotation, const QRectF& cropBox, double userUnit) {
 // A little of all that a web book takes from a document.
 QByteArray reference() {
     PDFBuilder pdf;
-    pdf.setInfo("Title", QStringLiteral("Über \"alles\" & <mehr>, mit langem Titel"));
-    pdf.setInfo("Author", QStringLiteral("A. Müller & Söhne"));
-    pdf.setInfo("Subject", QStringLiteral("Was \"darin\" steht"));
-    pdf.setInfo("Keywords", QStringLiteral("eins, <zwei>"));
+    pdf.setInfo("Title", QStringLiteral(" Über \"alles\" & <mehr>, mit langem Titel "));
+    pdf.setInfo("Author", QStringLiteral(" A. Müller & Söhne "));
+    pdf.setInfo("Subject", QStringLiteral(" Was \"darin\" steht "));
+    pdf.setInfo("Keywords", QStringLiteral(" eins, <zwei> "));
     pdf.addCatalogEntries("/Lang (de-AT) ");
     pdf.setPageLabels(0, "/S /r /P (x-)");
     pdf.setPageLabels(2, "/S /D /St 9");
@@ -33,15 +33,17 @@ QByteArray reference() {
     const auto linkAt = [](double y, const QByteArray& target) {
         return PDFBuilder::link({60, y, 100, 20}, target);
     };
-    first.annotations = {linkAt(400, PDFBuilder::toURL("https://example.org/?a=1&b=2")),
-                         linkAt(370, PDFBuilder::toDestination(pdf.destination(2))),
-                         linkAt(340, PDFBuilder::toName("end")),
-                         linkAt(310, PDFBuilder::toDestination(pdf.destination(4))),
-                         linkAt(310, PDFBuilder::toDestination("[5 /Fit]")),
-                         linkAt(310, PDFBuilder::toDestination("[6 /Fit]")),
-                         linkAt(310, PDFBuilder::toDestination("[-1 /Fit]")),
-                         PDFBuilder::link({-50, 280, 100, 20}, PDFBuilder::toName("end")),
-                         PDFBuilder::link({900, 280, 100, 20}, PDFBuilder::toName("end"))};
+    first.annotations = {
+        linkAt(400, PDFBuilder::toURL("https://example.org/?a=1&b=2")),
+        linkAt(370, PDFBuilder::toDestination(pdf.destination(2))),
+        linkAt(340, PDFBuilder::toName("end")),
+        linkAt(310, PDFBuilder::toDestination(pdf.destination(4))),
+        linkAt(310, PDFBuilder::toDestination("[5 /Fit]")),
+        linkAt(310, PDFBuilder::toDestination("[6 /Fit]")),
+        linkAt(310, PDFBuilder::toDestination("[-1 /Fit]")),
+        PDFBuilder::annotation("Square", {60, 250, 100, 20}, PDFBuilder::toURL("https://no.link")),
+        PDFBuilder::link({-50, 280, 100, 20}, PDFBuilder::toName("end")),
+        PDFBuilder::link({900, 280, 100, 20}, PDFBuilder::toName("end"))};
     pdf.addPage(first);
     pdf.addPage({});
     for (const auto& [rotation, unit] : {std::pair{90, 1.0}, {180, 2.0}, {270, 1.0}, {0, 0.5}}) {
