@@ -28,7 +28,7 @@ DesktopProgram::DesktopProgram() {
                                return replaces;
                            },
                            [this](const QColor& initial) { return color.value_or(initial); },
-                           [this](const QString& path) { opened << path; }, [] {}});
+                           [this](const QString& path) { opened << path; }, [this] { ++abouts; }});
 }
 
 DesktopProgram::~DesktopProgram() {

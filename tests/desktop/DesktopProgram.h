@@ -65,4 +65,5 @@ protected:
     QStringList losses; // what the user was asked to replace
     std::optional<QColor> color;
     QStringList opened;
+    int abouts = 0; // how often the window about the program was asked for
 };

@@ -67,12 +67,16 @@ TEST_F(Editing, EditsAreUndoneAndMadeAgain) {
     edit("topMargin", "40");
     press("RightToLeft");
     const QString whole = value("RightToLeft");
+    EXPECT_EQ(window().menu->undo->text(), "&Undo “Right to left”");
     window().menu->undo->trigger();
     EXPECT_NE(value("RightToLeft"), whole);
     EXPECT_EQ(value("topMargin"), "40");
     window().menu->undo->trigger();
     EXPECT_EQ(valueOf("topMargin").data().toString(), "12");
     EXPECT_FALSE(window().menu->undo->isEnabled());
+    EXPECT_EQ(window().menu->redo->text(), "&Redo “Top margin”");
+    EXPECT_EQ(window().toolTipBox->title(), "Top margin");
+    EXPECT_TRUE(window().toolTip->toPlainText().contains("pixels")) << "what it does";
     window().menu->redo->trigger();
     EXPECT_EQ(value("topMargin"), "40");
     apply();
@@ -97,6 +101,8 @@ TEST_F(Editing, SettingsGoToAFileAndComeBack) {
     window().menu->undo->trigger();
     EXPECT_EQ(value("topMargin"), "12");
     EXPECT_EQ(load(std::nullopt), "12") << "a cancelled panel refreshes the preview as well";
+    load(path("missing.txt"));
+    EXPECT_TRUE(window().messages->message().contains("missing.txt cannot be read"));
     save("no/such/folder/mine.txt");
     EXPECT_TRUE(window().messages->message().contains("no/such/folder/mine.txt"));
 
@@ -127,4 +133,6 @@ TEST_F(Editing, AnotherStyleKeepsThePageSizeAndClearsTheHistory) {
     EXPECT_FALSE(window().menu->undo->isEnabled());
     EXPECT_FALSE(program->isChangePending());
     EXPECT_TRUE(waitForNewPreview("true"));
+    window().menu->selectTemplate->trigger();
+    EXPECT_TRUE(chooser.selectedStyle().endsWith("/desk/" + style + "/shot.jpg"));
 }

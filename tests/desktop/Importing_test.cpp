@@ -1,4 +1,5 @@
 #include "app/AppSettings.h"
+#include "app/desktop/RecentFiles.h"
 #include "desktop/DesktopProgram.h"
 #include "support/ChildProcesses.h"
 #include "support/Program.h"
@@ -100,6 +101,27 @@ TEST_F(Importing, ProgramThatIsTerminatedDuringAnImportRemovesItsPreview) {
     other.terminate();
     EXPECT_EQ(Program::finish(other).exitCode, 0);
     EXPECT_FALSE(QFileInfo::exists(preview));
+}
+
+TEST_F(Importing, RecentDocumentsAreListedUntilTheyAreCleared) {
+    for (int pages = 1; pages <= 9; ++pages)
+        RecentFiles::add(pdf(pages));
+    RecentFiles::add(pdf(3));
+    ASSERT_TRUE(QFile::remove(path("8 pages.pdf")));
+    import(pdf(2));
+    auto& menu = *window().menu->recentFiles;
+    QStringList names;
+    for (const QAction* action : menu.actions())
+        names << action->text();
+    EXPECT_EQ(names,
+              QStringList({"2 pages.pdf", "3 pages.pdf", "9 pages.pdf", "7 pages.pdf",
+                           "6 pages.pdf", "5 pages.pdf", "4 pages.pdf", "", "&Clear the list"}));
+    menu.actions().at(1)->trigger();
+    ASSERT_TRUE(waitForImport());
+    EXPECT_EQ(publishedPages(), 3u);
+    menu.actions().last()->trigger();
+    EXPECT_FALSE(menu.isEnabled());
+    EXPECT_TRUE(RecentFiles::list().isEmpty());
 }
 
 TEST_F(Importing, BookIsPublishedFromTheSheet) {

@@ -94,6 +94,29 @@ TEST_F(Launch, PreviewFolderIsOfThisProgramAloneAndMadeAgainOnceRemoved) {
     EXPECT_FALSE(window().messages->isVisible());
 }
 
+TEST_F(Launch, CommandsOfTheMenuReachTheWindowWhichKeepsItsSizes) {
+    launch();
+    evaluate("window.isOld = true");
+    window().menu->reloadPreview->trigger();
+    EXPECT_TRUE(waitForPreview("!window.isOld"));
+    window().menu->about->trigger();
+    EXPECT_EQ(abouts, 1);
+    window().outlineView->header()->resizeSection(0, 222);
+    const auto splitters = [this] { return window().findChildren<QSplitter*>(); };
+    QList<QList<int>> sizes;
+    for (QSplitter* splitter : splitters()) {
+        splitter->setSizes({300, 250});
+        sizes << splitter->sizes();
+    }
+    window().menu->quit->trigger();
+    EXPECT_FALSE(window().isVisible());
+    program = std::make_unique<BrisleafAppDelegate>();
+    launch();
+    EXPECT_EQ(window().outlineView->header()->sectionSize(0), 222);
+    for (QSplitter* splitter : splitters())
+        EXPECT_EQ(splitter->sizes(), sizes.takeFirst());
+}
+
 TEST_F(Launch, PreviewComesBackAfterItsEngineDied) {
     launch();
     evaluate("window.isOld = true");
