@@ -20,12 +20,6 @@ QImage drawn(const TextFieldCell& cell, const QSize& size = {100, 40}) {
     return image;
 }
 
-bool hasInk(const QImage& image, const QRect& rect) {
-    QImage blank(rect.size(), image.format());
-    blank.fill(Qt::white);
-    return image.copy(rect) != blank;
-}
-
 void mouse(TextFieldCell& cell, QEvent::Type type, const QPointF& at) {
     QWidget view;
     const QMouseEvent event(type, at, at, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
@@ -70,16 +64,6 @@ TEST(Cells, PlaceTextButtonAndPicture) {
     EXPECT_EQ(image.imageRectForBounds(bounds), QRectF(111, 65, 20, 11));
     EXPECT_EQ(image.titleRectForBounds(QRectF(0, 0, 60, 40)).width(), 2);
     EXPECT_EQ(color.cellSizeForBounds(bounds), QSizeF(font.horizontalAdvance("0xff0000") + 41, 17));
-}
-
-TEST(Cells, DrawTheirParts) {
-    FlashTmplColorCell color;
-    color.setColor(Qt::darkGreen);
-    const QImage swatch = drawn(color);
-    EXPECT_EQ(swatch.pixelColor(12, 8), QColor(Qt::darkGreen));
-    EXPECT_EQ(swatch.pixelColor(5, 8), QColor(Qt::gray));
-    EXPECT_FALSE(hasInk(swatch, QRect(24, 0, 76, 40)));
-    EXPECT_TRUE(hasInk(drawn(FlashTmplFileCell("a.png")), QRect(4, 1, 30, 15)));
 }
 
 TEST(CellButton, HasAPictureForEachState) {

@@ -199,20 +199,3 @@ TEST_F(TemplateChooser, SaysThatATemplateOrTheLibraryIsGone) {
     EXPECT_TRUE(shown(list()).isEmpty());
     EXPECT_TRUE(window().lblNoTmpls->isVisible());
 }
-
-TEST_F(TemplateChooser, PaintsPicturesSelectionAndIcons) {
-    EXPECT_TRUE(picture(Qt::magenta).save(library.templatePath("desk") + "/icon.png"));
-    open("desk", "Night");
-    const QImage pictures = styles().viewport()->grab().toImage();
-    const QPoint night = centre(styles(), "Night");
-    EXPECT_LT(pictures.pixelColor(night).red(), 20);
-    const QColor highlight = styles().palette().color(QPalette::Highlight);
-    int framed = 0;
-    for (int y = 0; y < pictures.height(); ++y)
-        framed += pictures.pixelColor(night.x(), y) == highlight ? 1 : 0;
-    EXPECT_GE(framed, 4);
-    const QImage rows = list().viewport()->grab().toImage();
-    const QRect row = list().visualRect(list().model()->index(0, 0));
-    EXPECT_EQ(rows.pixelColor(row.left() + 20, row.center().y()), QColor(Qt::magenta));
-    EXPECT_EQ(rows.pixelColor(row.right() - 20, row.center().y()), highlight);
-}
