@@ -144,6 +144,8 @@ TEST_F(ServeTest, OpensTheBooksPageAmongOthers) {
     EXPECT_EQ(Served(book()).page, "/zebra.html");
     ASSERT_TRUE(QFile::remove(file("index.html")));
     EXPECT_EQ(Served(book()).page, "/zebra.html"); // and not text.html
+    TestFiles::write(path("others/page.html"), "not of a book");
+    EXPECT_EQ(Served(path("others")).page, "/page.html");
 }
 
 TEST_F(ServeTest, TellsWhatKindOfFileItIs) {

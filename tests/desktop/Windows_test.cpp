@@ -14,9 +14,11 @@ const QByteArrayList properties =
                "mouseTracking windowModality tabChangesFocus autoRaise")
         .split(' ');
 
-// What a field holds is the user's own.
+// What a field holds is the user's own, and the preview has title and icon of its page, once it has
+// come.
 QString valueOf(const QObject& object, const QByteArray& name) {
-    if (name == "text" && qobject_cast<const QLineEdit*>(&object))
+    if ((name == "text" && object.inherits("QLineEdit")) ||
+        (name == "title" && object.inherits("QWebEngineView")))
         return {};
     const QVariant value = object.property(name);
     static const QRegularExpression usual("^(false|0|No|Non|Default|AutoText|TextHeur).*");
@@ -32,11 +34,13 @@ QString described(const QObject& object) {
         if (const QString value = valueOf(object, name); !value.isEmpty())
             words << name + '=' + value;
     }
-    if (!object.property("icon").value<QIcon>().isNull())
+    if (object.property("shortcut").isValid() && !object.property("icon").value<QIcon>().isNull())
         words << "with an icon";
     const auto* widget = qobject_cast<const QWidget*>(&object);
     if (widget && widget->isHidden())
         words << "hidden";
+    if (widget && widget->testAttribute(Qt::WA_TransparentForMouseEvents))
+        words << "lets clicks through";
     if (!object.property("enabled").toBool())
         words << "disabled";
     if (const auto* label = qobject_cast<const QLabel*>(&object); label && label->buddy())
@@ -54,7 +58,7 @@ QByteArrayList linesOf(const QWidget& window) {
         const QString line = described(*object);
         if ((object->isWidgetType() || qobject_cast<const QAction*>(object)) &&
             !line.endsWith(' ') && !line.contains(own) && !object->objectName().contains(own) &&
-            !object->parent()->objectName().contains(own))
+            object->parent()->objectName() != "qt_menubar_ext_button")
             lines << line.toUtf8();
     }
     return lines;

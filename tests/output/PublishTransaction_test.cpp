@@ -112,6 +112,8 @@ TEST_F(Transaction, NamesTheFileAndTheCauseOfAFailure) {
     PublishTransaction run(folder.path());
     run.write(path("file/beneath"), "x");
     EXPECT_EQ(failureOf([&] { run.commit(); }).message.english(), path("file") + ": File exists");
+    EXPECT_EQ(failureOf([&] { PublishTransaction(path("file/a/b")); }).message.english(),
+              path("file") + ": File exists");
 }
 
 // With a link to a file and one to a folder, as somebody may hand it on, and a folder where a file
