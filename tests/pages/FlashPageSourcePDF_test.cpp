@@ -5,6 +5,7 @@
 #include "builder/PDFBuilder.h"
 #include "support/BookReader.h"
 #include "support/PixelCheck.h"
+#include "support/TemplateLibrary.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -149,4 +150,29 @@ TEST_F(FlashPageSourcePDFTest, CompressesStronglyBelowTheBestQuality) {
     };
     EXPECT_LT(size(80) * 2, size(100));
     EXPECT_EQ(size(80), size(25));
+}
+
+// Saturated colours that meet in thin lines look dull with half of their resolution.
+TEST_F(FlashPageSourcePDFTest, KeepsTheResolutionOfColoursWhereItShows) {
+    QByteArray lines = "0 0 1 rg 0 0 100 100 re f 1 0 0 rg ";
+    for (int y = 1; y < 100; y += 2)
+        lines += "0 " + QByteArray::number(y) + " 100 0.5 re f ";
+    for (const QByteArray& content : {QByteArray(), QByteArray("1 0 0 rg 0 0 50 100 re f"), lines})
+        builder.addPage(PDFBuilder::page({100, 100}, content));
+    // First quantizer, number of components, sampling of the first.
+    const auto encoded = [&](int quality) {
+        const auto pages = source("ALL", quality);
+        pages->generatePages();
+        QByteArrayList kinds;
+        for (const auto& page : pages->pages()) {
+            const QByteArray jpeg = TestFiles::read(page->pageFilePath());
+            const qsizetype tables = jpeg.indexOf("\xff\xdb");
+            const qsizetype frame = jpeg.indexOf("\xff\xc0");
+            kinds << (jpeg.mid(tables + 5, 1) + jpeg.mid(frame + 9, 1) + jpeg.mid(frame + 11, 1))
+                         .toHex();
+        }
+        return kinds.join(' ');
+    };
+    EXPECT_EQ(encoded(100), "030111 030322 030311");
+    EXPECT_EQ(encoded(99), "200111 200322 200322");
 }
