@@ -289,8 +289,7 @@ bool PropertyCellDelegate::keyPressed(const QKeyEvent& event) {
     if (!current.isValid() || isOfEditor)
         return false;
     const QModelIndex value = current.siblingAtColumn(FlashTemplateModel::value);
-    if (current != value)
-        iView.selectionModel()->setCurrentIndex(value, QItemSelectionModel::NoUpdate);
+    iView.selectionModel()->setCurrentIndex(value, QItemSelectionModel::NoUpdate);
     if (!isEditKey(event))
         return false;
     edit(value, event.key() == Qt::Key_Space || event.key() == Qt::Key_Select);

@@ -165,6 +165,7 @@ TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
         view.setCurrentIndex(model.index(0, FlashTemplateModel::key));
         while (FlashTemplateModel::item(view.currentIndex())->key() != key)
             QTest::keyClick(&view, Qt::Key_Down);
+        EXPECT_EQ(view.currentIndex().column() == FlashTemplateModel::value, key != "group");
         QTest::keyClick(&view, with);
     };
     const auto type = [&](const QString& typed, Qt::Key end) {
