@@ -28,10 +28,10 @@ QByteArray printed(const QByteArray& command, const QString& folder) {
     return text + (result.exitCode ? "[" + QByteArray::number(result.exitCode) + "]\n" : "");
 }
 
-class Transcript : public testing::TestWithParam<QString> {};
+class Transcript : public testing::TestWithParam<std::string> {};
 
 TEST_P(Transcript, IsWhatTheCommandsPrint) {
-    const QString file = transcripts.filePath(GetParam() + ".txt");
+    const QString file = transcripts.filePath(QString::fromStdString(GetParam() + ".txt"));
     const QTemporaryDir folder;
     QByteArrayList found;
     const QByteArrayList lines = TestFiles::read(file).split('\n');
@@ -46,8 +46,13 @@ TEST_P(Transcript, IsWhatTheCommandsPrint) {
     expectLinesOf(file, found);
 }
 
-const QStringList names = transcripts.entryList({"*.txt"}).replaceInStrings(".txt", "");
-INSTANTIATE_TEST_SUITE_P(Of, Transcript, testing::ValuesIn(names),
-                         [](const auto& name) { return name.param.toStdString(); });
+std::vector<std::string> names() {
+    std::vector<std::string> found;
+    for (const QString& file : transcripts.entryList({"*.txt"}))
+        found.push_back(file.chopped(4).toStdString());
+    return found;
+}
+INSTANTIATE_TEST_SUITE_P(Of, Transcript, testing::ValuesIn(names()),
+                         [](const auto& name) { return name.param; });
 
 } // namespace
