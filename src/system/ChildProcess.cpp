@@ -22,9 +22,14 @@ namespace {
         Message::about(QString::fromLocal8Bit(program.c_str()), Message::ofSystemError(error)));
 }
 
-// Our end of a channel to a process, and its end. Sockets rather than pipes: writing to a socket
-// whose peer is gone can return an error instead of raising SIGPIPE.
-std::pair<FileDescriptor, FileDescriptor> makeChannel(const std::string& program) {
+struct Channel {
+    FileDescriptor ours;
+    FileDescriptor theirs;
+};
+
+// Sockets rather than pipes: writing to a socket whose peer is gone can return an error instead of
+// raising SIGPIPE.
+Channel makeChannel(const std::string& program) {
     std::array<int, 2> ends{};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
         fail(program, errno);
@@ -34,8 +39,8 @@ std::pair<FileDescriptor, FileDescriptor> makeChannel(const std::string& program
 } // namespace
 
 ChildProcess::ChildProcess(const std::string& program, const std::vector<std::string>& arguments) {
-    auto [toChild, input] = makeChannel(program);
-    auto [fromChild, output] = makeChannel(program);
+    Channel input = makeChannel(program);
+    Channel output = makeChannel(program);
     std::vector<char*> argv{const_cast<char*>(program.c_str())};
     for (const auto& argument : arguments)
         argv.push_back(const_cast<char*>(argument.c_str()));
@@ -43,8 +48,8 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
 
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, input.number(), STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&actions, output.number(), STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, input.theirs.number(), STDIN_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, output.theirs.number(), STDOUT_FILENO);
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
@@ -55,8 +60,8 @@ ChildProcess::ChildProcess(const std::string& program, const std::vector<std::st
     posix_spawnattr_destroy(&attributes);
     if (error != 0)
         fail(program, error);
-    iToChild = std::move(toChild);
-    iFromChild = std::move(fromChild);
+    iToChild = std::move(input.ours);
+    iFromChild = std::move(output.ours);
 }
 
 ChildProcess::~ChildProcess() {

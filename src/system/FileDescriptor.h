@@ -6,12 +6,12 @@
 // Owns the descriptor of an open file or folder and closes it on destruction.
 class FileDescriptor {
 public:
-    FileDescriptor() = default;
-    explicit FileDescriptor(int number) : iNumber(number) {}
+    explicit FileDescriptor(int number = -1) : iNumber(number) {}
     ~FileDescriptor() { close(); }
     FileDescriptor(FileDescriptor&& other) noexcept : iNumber(std::exchange(other.iNumber, -1)) {}
     FileDescriptor& operator=(FileDescriptor&& other) noexcept {
-        std::swap(iNumber, other.iNumber);
+        close();
+        iNumber = std::exchange(other.iNumber, -1);
         return *this;
     }
     FileDescriptor(const FileDescriptor&) = delete;
@@ -24,5 +24,5 @@ public:
     bool close() { return isOpen() && ::close(std::exchange(iNumber, -1)) == 0; }
 
 private:
-    int iNumber = -1;
+    int iNumber;
 };
