@@ -1,6 +1,7 @@
 #include "pdf/PDFText.h"
 
 #include <QChar>
+#include <QList>
 #include <algorithm>
 
 namespace {

@@ -20,6 +20,7 @@
 #include <QActionGroup>
 #include <QItemSelectionModel>
 #include <QPushButton>
+#include <QTimer>
 
 namespace {
 
