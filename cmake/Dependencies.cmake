@@ -14,7 +14,7 @@ find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(nettle REQUIRED IMPORTED_TARGET nettle)
 pkg_check_modules(tidy REQUIRED IMPORTED_TARGET tidy)
-pkg_check_modules(webp REQUIRED IMPORTED_TARGET libwebp)
+pkg_check_modules(deflate REQUIRED IMPORTED_TARGET libdeflate)
 pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
 # Its header declares different classes without the definitions that Debian's library was built with.
 pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)

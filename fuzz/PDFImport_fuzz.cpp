@@ -6,6 +6,7 @@
 #include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
 #include "pdf/PDFLimits.h"
+#include "pdf/VectorEncoder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -102,7 +103,7 @@ void drawFirstPage(const QString& path) {
     for (const int side : {bitmap.width(), bitmap.height()})
         Fuzz::require(side > 0 && side <= PDFLimits::maxBitmapSide,
                       "a drawn page has pixels and keeps within the limits");
-    page.vectorPicture();
+    VectorEncoder().encode(page);
     for (const PDFTextLine& line : page.text()) {
         Fuzz::require(isFinite(line.box) && !line.words.empty(), "a line lies somewhere");
         for (const PDFTextWord& word : line.words)

@@ -32,3 +32,10 @@ interface Navigator {
 interface Uint8ArrayConstructor {
   fromBase64?(base64: string): Uint8Array;
 }
+
+/** Missing in the types of the compiler's version. */
+declare class DecompressionStream {
+  constructor(format: 'deflate');
+  readonly readable: ReadableStream<Uint8Array>;
+  readonly writable: WritableStream<Uint8Array>;
+}

@@ -15,6 +15,7 @@ LAYERS = """
 base
 system
 util
+picture
 pdf
 drawing template annotations
 pages

@@ -666,8 +666,8 @@
         <translation>Die Bilder dieser Seiten sind nicht mehr da: %1. Importieren Sie das Dokument noch einmal und veröffentlichen Sie dann neu.</translation>
     </message>
     <message>
-        <source>Making the web book… %1%</source>
-        <translation>Das Webbuch entsteht … %1 %</translation>
+        <source>Making the pages of the book… %1%</source>
+        <translation>Die Seiten des Buchs entstehen … %1 %</translation>
     </message>
     <message>
         <source>Replace what is already there?</source>

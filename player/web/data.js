@@ -53,7 +53,7 @@ export class DataFiles {
   #keepFault(event) {
     // A file that is missing is told to its own element only.
     if (!(event instanceof ErrorEvent)) return;
-    const ofData = /\/files\/(?:web|text|search)\/[^/]*\.js$/.test(event.filename ?? '');
+    const ofData = /\/files\/(?:web|text|search|large)\/[^/]*\.js$/.test(event.filename ?? '');
     if (ofData || (!event.filename && this.waiting.size > 0)) event.stopImmediatePropagation();
   }
 }

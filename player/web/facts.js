@@ -6,7 +6,8 @@
  * @property {Entry[]} children
  */
 
-const LARGE_KINDS = ['svg', 'webp'];
+/** Data that hold an SVG file, and pictures. */
+const LARGE_KINDS = ['js', 'png', 'jpg'];
 
 /** Contents deeper than this are no contents that anyone could read. */
 const DEEPEST = 24;

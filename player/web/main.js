@@ -110,7 +110,7 @@ function addToBook(player, facts) {
   const links = new Links(player, layers);
   const selecting = new Selecting(player, layers);
   gestures.answersTap = (event) => selecting.answers || links.followAt(event);
-  new Sharper(player, layers);
+  new Sharper(player, layers, files);
   const room = new SideRoom(player);
   // Where the bar is narrow, the search is worth more than the page count.
   part(toolbar.bar, '.of').dataset.fold = '7.2';

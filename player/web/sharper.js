@@ -1,5 +1,7 @@
+import { bytesOf } from '../src/book/base64.js';
 import { part } from '../src/book/dom.js';
 import { fileAddress } from '../src/book/values.js';
+import { fieldsOf, textOf } from './facts.js';
 
 /** @typedef {import('./layers.js').Layers} Layers */
 /** @typedef {'left' | 'right'} Side */
@@ -15,8 +17,10 @@ export class Sharper {
   /**
    * @param {import('../src/player.js').Player} player
    * @param {Layers} layers
+   * @param {import('./data.js').DataFiles} files
    */
-  constructor({ book, turner, zoom }, layers) {
+  constructor({ book, turner, zoom }, layers, files) {
+    this.files = files;
     this.book = book;
     this.turner = turner;
     this.zoom = zoom;
@@ -80,9 +84,8 @@ export class Sharper {
     image.alt = '';
     image.className = 'large';
     image.draggable = false;
-    image.src = fileAddress(this.facts.largeFile(position));
     try {
-      await image.decode();
+      await this.#show(image, this.facts.largeFile(position));
     } catch {
       // The usual image stays.
       return;
@@ -95,6 +98,21 @@ export class Sharper {
     usual.after(image);
   }
 
+  /**
+   * Loads an image from a file, or from data that hold it.
+   * @param {HTMLImageElement} image
+   * @param {string} file
+   */
+  async #show(image, file) {
+    const [, data] = /^(.*)\.js$/.exec(file) ?? [];
+    image.src = data ? await vectorsIn(await this.files.load(data)) : fileAddress(file);
+    try {
+      await image.decode();
+    } finally {
+      if (data) URL.revokeObjectURL(image.src);
+    }
+  }
+
   /** @param {Side} side */
   #drop(side) {
     const image = this.kept.get(side)?.image;
@@ -102,4 +120,14 @@ export class Sharper {
     image?.remove();
     if (image && !image.complete) image.removeAttribute('src');
   }
+}
+
+/**
+ * URL of an SVG file.
+ * @param {unknown} data which hold the file as zlib packs it
+ */
+async function vectorsIn(data) {
+  const packed = new Blob([/** @type {BlobPart} */ (bytesOf(textOf(fieldsOf(data).svg)))]);
+  const unpacked = new Response(packed.stream().pipeThrough(new DecompressionStream('deflate')));
+  return URL.createObjectURL(new Blob([await unpacked.blob()], { type: 'image/svg+xml' }));
 }

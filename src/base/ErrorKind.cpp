@@ -21,7 +21,6 @@ constexpr std::array names{
     std::pair{ErrorKind::readerMalformedAnswer, "PDFReaderMalformedAnswer"},
     std::pair{ErrorKind::readStopped, "PDFReadStopped"},
     std::pair{ErrorKind::jpegEncode, "JPEGEncodeFailed"},
-    std::pair{ErrorKind::webpEncode, "WebPEncodeFailed"},
     std::pair{ErrorKind::pageWrite, "PageWriteFailed"},
     std::pair{ErrorKind::workFolder, "WorkFolderFailed"},
     std::pair{ErrorKind::pageListEnded, "PageListEnded"},

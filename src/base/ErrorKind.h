@@ -23,7 +23,6 @@ enum class ErrorKind {
 
     // Page files and what is imported with them.
     jpegEncode,
-    webpEncode,
     pageWrite,
     workFolder,
     pageListEnded,

@@ -172,15 +172,11 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
         Terminal::report(QStringLiteral("folvero: page %1 has its picture only: %2")
                              .arg(page)
                              .arg(reason.english()));
-    if (options.quiet || output.classicPageBytes() == 0)
+    if (options.quiet)
         return;
     constexpr double megabyte = 1'000'000;
-    Terminal::report(
-        QStringLiteral(
-            "Pages: %1 MB with text, thumbnails and larger pictures; %2 of a plain book's")
-            .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1)
-            .arg(QStringLiteral("%1 %").arg(std::lround(100.0 * double(output.pageBytes()) /
-                                                        double(output.classicPageBytes())))));
+    Terminal::report(QStringLiteral("Pages: %1 MB with text, thumbnails and larger pictures")
+                         .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1));
     WebBookOptions::printEmbedSnippet(output);
 }
 

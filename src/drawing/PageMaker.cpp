@@ -2,9 +2,6 @@
 
 #include "base/PlatformException.h"
 #include "base/Stopwatch.h"
-#include "drawing/WebPageMaker.h"
-
-#include <QFileInfo>
 
 namespace {
 
@@ -20,7 +17,10 @@ constexpr double compressionFactor(int quality) {
 } // namespace
 
 PageMaker::PageMaker(const DrawablePDF& document, QString folder, int quality)
-    : iDocument(document), iFolder(std::move(folder)), iFactor(compressionFactor(quality)) {}
+    : iDocument(document),
+      iFolder(std::move(folder)),
+      iFactor(compressionFactor(quality)),
+      iWebPageMaker(iEncoder, iFactor) {}
 
 MadePage PageMaker::make(int page, PageFiles wanted, const DrawControl& control) {
     const bool isForWeb = wanted == PageFiles::web;
@@ -32,12 +32,13 @@ MadePage PageMaker::make(int page, PageFiles wanted, const DrawControl& control)
                                       : DrawablePage::Content::pictures);
     drawn.draw(pixelsPerPoint, iBitmap);
     made.timing.draw = watch.lap();
-    const qint64 earlier = isForWeb ? QFileInfo(files.pageFile).size() : 0;
-    const qint64 size = earlier > 0 ? earlier : makePageFile(files.pageFile, made.timing);
-    if (!isForWeb)
+    if (!isForWeb) {
+        makePageFile(files.pageFile, made.timing);
         return made;
+    }
+    const qint64 size = iWebPageMaker.makePicture(drawn, iBitmap, files, made.timing);
     try {
-        made.timing += WebPageMaker(drawn, iBitmap).make(files, size);
+        iWebPageMaker.makeOthers(drawn, iBitmap, size, files, made.timing);
     } catch (const PlatformException& failure) {
         if (failure.kind() == ErrorKind::pageWrite)
             throw;
@@ -49,12 +50,10 @@ MadePage PageMaker::make(int page, PageFiles wanted, const DrawControl& control)
     return made;
 }
 
-// Returns its size in bytes.
-qint64 PageMaker::makePageFile(const QString& path, PageTiming& timing) {
+void PageMaker::makePageFile(const QString& path, PageTiming& timing) {
     Stopwatch watch;
     const auto jpeg = iEncoder.encode(iBitmap, iFactor);
     timing.encode += watch.lap();
     writePageFile(path, jpeg);
     timing.write += watch.lap();
-    return qint64(jpeg.size());
 }

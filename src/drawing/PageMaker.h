@@ -3,9 +3,10 @@
 #include "base/Message.h"
 #include "drawing/PageTiming.h"
 #include "drawing/WebPageFiles.h"
+#include "drawing/WebPageMaker.h"
 #include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
-#include "pdf/JPEGEncoder.h"
+#include "picture/JPEGEncoder.h"
 
 #include <QString>
 
@@ -23,18 +24,18 @@ public:
     // quality is 0 to 100.
     PageMaker(const DrawablePDF& document, QString folder, int quality);
 
-    // Makes the page file of a one-based page number, at twice its size in points, and what a web
-    // book needs beside it, if wanted; a page file that an earlier import made is kept then. Each
-    // file is written atomically. Throws PlatformException when there is no page file, and
-    // pageWrite when the folder can't be written.
+    // Makes the page file of a one-based page number, at twice its size in points, or what a web
+    // book has of the page. Each file is written atomically. Throws PlatformException when there is
+    // no picture of the page, and pageWrite when the folder can't be written.
     MadePage make(int page, PageFiles wanted, const DrawControl& control = {});
 
 private:
-    qint64 makePageFile(const QString& path, PageTiming& timing);
+    void makePageFile(const QString& path, PageTiming& timing);
 
     const DrawablePDF& iDocument;
     QString iFolder;
     double iFactor; // JPEG compression factor, 0 (smallest) to 1 (best)
     PageBitmap iBitmap;
     JPEGEncoder iEncoder;
+    WebPageMaker iWebPageMaker;
 };

@@ -263,14 +263,14 @@ void PageWorkers::replaceUnstarted(Worker& worker) {
     worker = newWorker(again ? startProcess() : nullptr);
 }
 
-// Leaves no partial files of a failed page. A page file that is there before the others is
-// complete.
+// Leaves no partial files of a failed page. A picture that is there before the others is complete.
 void PageWorkers::removeFilesOf(int page) const {
     const WebPageFiles files(iFolder, page);
     const bool isForWeb = iFilesOf(page) == PageFiles::web;
-    for (const QString& file : isForWeb ? files.all() : QStringList(files.pageFile))
+    for (const QString& file : isForWeb ? files.others() : QStringList(files.pageFile))
         QFile::remove(file);
-    for (const QString& file : files.all() + QStringList(files.pageFile))
+    const QStringList pictures{files.pageFile, files.picture};
+    for (const QString& file : files.others() + pictures)
         QFile::remove(Files::temporaryPath(file));
 }
 

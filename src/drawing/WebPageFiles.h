@@ -16,26 +16,34 @@ inline PageFiles webFiles(int /*page*/) {
     return PageFiles::web;
 }
 
-// The files made of one page for a web book, beside its page file "N.jpg" in the work folder of an
-// import. Each may be missing.
+// The files made of one page for a web book in the work folder of an import. Each may be missing.
+// The page's picture is one of two: a page of few colours has no page file unless it was drawn for
+// another kind of book as well.
 struct WebPageFiles {
     WebPageFiles(const QString& workFolder, int page) {
         const QString start = workFolder + u'/' + QString::number(page);
         pageFile = start + QStringLiteral(".jpg");
-        picture = start + QStringLiteral(".webp");
-        thumbnail = start + QStringLiteral(".thumb.webp");
-        largeVector = start + QStringLiteral(".large.svg");
-        largePicture = start + QStringLiteral(".large.webp");
+        picture = start + QStringLiteral(".png");
+        thumbnail = start + QStringLiteral(".thumb.jpg");
+        largeVector = start + QStringLiteral(".large.svgz");
+        largePicture = start + QStringLiteral(".large.png");
+        largePhotograph = start + QStringLiteral(".large.jpg");
         text = start + QStringLiteral(".text");
     }
 
-    // All files that are made for a web book.
-    QStringList all() const { return {picture, thumbnail, largeVector, largePicture, text}; }
+    // All files but the page's picture.
+    QStringList others() const {
+        return {thumbnail, largeVector, largePicture, largePhotograph, text};
+    }
 
-    QString pageFile;
-    QString picture;   // same size and sharpness in fewer bytes; missing when that does not pay off
-    QString thumbnail; // fits into WebPageMaker's thumbnail box
-    QString largeVector;  // shown when the page is enlarged: at most
-    QString largePicture; // one of the two exists
-    QString text;         // as packed by PDFSerialization; the last one to be written
+    // Whether that file is the page's picture in a book of some kind.
+    bool isPictureOfPage(const QString& path) const { return path == pageFile || path == picture; }
+
+    QString pageFile;        // "N.jpg", the page of every kind of book
+    QString picture;         // of a page of few colours: as sharp, in a third of the bytes
+    QString thumbnail;       // fits into WebPageMaker's thumbnail box
+    QString largeVector;     // an SVG file as zlib packs it. Shown when the page is enlarged:
+    QString largePicture;    // at most
+    QString largePhotograph; // one of the three exists
+    QString text;            // as packed by PDFSerialization; the last one to be written
 };

@@ -3,46 +3,62 @@
 #include "base/PlatformException.h"
 #include "base/Stopwatch.h"
 #include "pdf/PDFSerialization.h"
-#include "pdf/WebPEncoder.h"
 #include "system/Files.h"
 
+#include <QFileInfo>
 #include <algorithm>
+#include <libyuv/scale.h>
+#include <libyuv/scale_rgb.h>
 
 namespace {
-
-constexpr double largeScale = 4.0;  // pixels per point, twice those of the page file
-constexpr double mediumScale = 3.0; // used when the large one has too many bytes
 
 // The thumbnail panel shows them at most half as wide and high, on double-density screens.
 constexpr int thumbnailWidth = 300;
 constexpr int thumbnailHeight = 256;
-constexpr float thumbnailQuality = 70;
+constexpr double thumbnailFactor = 0.7;
 
-// All files of a page, relative to its page file.
-constexpr double maxBytesRatio = 1.5;
+// Pixels per point of enlarged pages, twice those of the page's picture; with photographs, which
+// take more bytes, less.
+constexpr double largeScale = 4.0;
+constexpr double largePhotographScale = 3.0;
+constexpr double largePhotographFactor = 0.4;
 
-// Another format must save a tenth to be worth it.
-constexpr double worthwhile = 0.9;
+// An enlarged picture with hardly more pixels than the page's own is not worth its bytes.
+constexpr double worthwhile = 1.15;
 
-// As sharp as the page file, see bench/sharpness.py.
-constexpr float normalQuality = 86;
-// Pixels of a large picture are shown a quarter of the size, so artefacts show less.
-constexpr float largeQuality = 70;
-constexpr float minQuality = 40;
+// The most bytes of an enlarged picture, times those of the page's other files: they are few for a
+// page of few colours.
+constexpr double maxRatio = 2.0;
+constexpr double maxPhotographRatio = 1.0;
 
-// Text and drawings have runs of equal pixels, photographs don't.
-constexpr double minEvenness = 0.6;
+// Mean of the squared error of a sample that nobody sees along the edges of text and lines. JPEG of
+// the best quality has 2.5 on a page of text.
+constexpr double maxSquaredError = 3.0;
 
-// A larger vector picture would take a browser seconds to draw.
-constexpr qint64 maxVectorBytes = qint64{1} << 20;
-
-bool fitsWebP(const PageBitmap& bitmap) {
-    return std::max(bitmap.width(), bitmap.height()) <= WebPEncoder::maxSide;
+double toleranceFor(const PageDetail& detail) {
+    return detail.hasShades ? 0 : maxSquaredError;
 }
 
-void write(const QString& path, const QByteArray& data) {
-    const auto* bytes = reinterpret_cast<const unsigned char*>(data.constData());
-    writePageFile(path, {bytes, std::size_t(data.size())});
+std::span<const unsigned char> bytesOf(const QByteArray& data) {
+    return {reinterpret_cast<const unsigned char*>(data.constData()), std::size_t(data.size())};
+}
+
+// Writes the file and returns its size.
+qint64 write(const QString& path, std::span<const unsigned char> data, PageTiming& timing) {
+    Stopwatch watch;
+    writePageFile(path, data);
+    timing.write += watch.lap();
+    return qint64(data.size());
+}
+
+void reduce(const PageBitmap& from, PageBitmap& to, int width, int height) {
+    to.resize(width, height, from.components());
+    if (from.components() == 1)
+        libyuv::ScalePlane(from.data(), from.stride(), from.width(), from.height(), to.data(),
+                           to.stride(), width, height, libyuv::kFilterBox);
+    else
+        libyuv::RGBScale(from.data(), from.stride(), from.width(), from.height(), to.data(),
+                         to.stride(), width, height, libyuv::kFilterBox);
 }
 
 } // namespace
@@ -53,88 +69,82 @@ void writePageFile(const QString& path, std::span<const unsigned char> data) {
         throw PlatformException(ErrorKind::pageWrite, Message::about(path, error));
 }
 
-PageTiming WebPageMaker::make(const WebPageFiles& files, qint64 pageFileSize) {
+void WebPageMaker::makeOthers(const DrawablePage& page, PageBitmap& bitmap, qint64 pictureSize,
+                              const WebPageFiles& files, PageTiming& timing) {
+    const qint64 size = pictureSize + makeThumbnail(bitmap, files.thumbnail, timing);
     Stopwatch watch;
-    const QByteArray text = PDFSerialization::pack(iPage.text());
-    iTiming.draw += watch.lap();
-    const QByteArray normal = normalPicture(pageFileSize);
-    const QByteArray small = thumbnail();
-    iTiming.encode += watch.lap();
-    const auto writeAll = [&] {
-        watch.lap();
-        if (!normal.isEmpty())
-            write(files.picture, normal);
-        write(files.thumbnail, small);
-        write(files.text, text);
-        iTiming.write += watch.lap();
-    };
-
-    // The text's size in the book is close to its packed size.
-    const qint64 taken =
-        (normal.isEmpty() ? pageFileSize : normal.size()) + small.size() + text.size();
+    const QByteArray text = PDFSerialization::pack(page.text());
+    timing.draw += watch.lap();
+    const auto writeText = [&] { write(files.text, bytesOf(text), timing); };
     try {
-        makeLarge(files, qint64(maxBytesRatio * double(pageFileSize)) - taken);
+        // The text's size in the book is close to its packed size.
+        makeLarge(page, bitmap, files, size + text.size(), timing);
     } catch (...) {
-        writeAll();
+        writeText();
         throw;
     }
-    writeAll();
-    return iTiming;
+    writeText();
 }
 
-// Empty when the page file is better.
-QByteArray WebPageMaker::normalPicture(qint64 pageFileSize) const {
-    if (!fitsWebP(iBitmap))
-        return {};
-    const auto pays = [&](const QByteArray& data) {
-        return double(data.size()) <= worthwhile * double(pageFileSize);
-    };
-    if (WebPEncoder::evenness(iBitmap) > minEvenness) {
-        if (QByteArray data = WebPEncoder::lossless(iBitmap); pays(data))
-            return data;
-    }
-    QByteArray data = WebPEncoder::lossy(iBitmap, normalQuality);
-    return pays(data) ? data : QByteArray();
-}
-
-QByteArray WebPageMaker::thumbnail() const {
-    const double scale = std::min({1.0, double(thumbnailWidth) / iBitmap.width(),
-                                   double(thumbnailHeight) / iBitmap.height()});
-    const auto side = [&](int length) { return std::max(1, int(length * scale)); };
-    return WebPEncoder::reduced(iBitmap, side(iBitmap.width()), side(iBitmap.height()),
-                                thumbnailQuality);
-}
-
-void WebPageMaker::makeLarge(const WebPageFiles& files, qint64 largest) {
+qint64 WebPageMaker::makePicture(const DrawablePage& page, const PageBitmap& bitmap,
+                                 const WebPageFiles& files, PageTiming& timing) {
     Stopwatch watch;
-    const QByteArray vector = iPage.vectorPicture();
-    iTiming.draw += watch.lap();
-    if (!vector.isEmpty() && vector.size() <= std::min(largest, maxVectorBytes)) {
-        write(files.largeVector, vector);
-    } else {
-        const QByteArray picture = largePicture(largest);
-        if (!picture.isEmpty())
-            write(files.largePicture, picture);
+    iDetail = page.detail();
+    if (const PaletteBitmap* reduced = iReducer.reduce(bitmap, toleranceFor(iDetail))) {
+        const QByteArray png = iPNGEncoder.encode(*reduced);
+        timing.encode += watch.lap();
+        return write(files.picture, bytesOf(png), timing);
     }
-    iTiming.encode += watch.lap();
+    if (const qint64 size = QFileInfo(files.pageFile).size(); size > 0)
+        return size;
+    const auto jpeg = iEncoder.encode(bitmap, iFactor);
+    timing.encode += watch.lap();
+    return write(files.pageFile, jpeg, timing);
 }
 
-// The best picture that fits the limit.
-QByteArray WebPageMaker::largePicture(qint64 largest) {
-    const int normalWidth = iBitmap.width();
-    for (const double scale : {largeScale, mediumScale}) {
-        iPage.draw(scale, iBitmap);
-        // A page near the bitmap limits can't get any larger.
-        if (!fitsWebP(iBitmap) || iBitmap.width() <= normalWidth)
-            continue;
-        if (WebPEncoder::evenness(iBitmap) > minEvenness) {
-            if (QByteArray data = WebPEncoder::lossless(iBitmap); data.size() <= largest)
-                return data;
-        }
-        for (const float quality : {largeQuality, minQuality}) {
-            if (QByteArray data = WebPEncoder::lossy(iBitmap, quality); data.size() <= largest)
-                return data;
-        }
+qint64 WebPageMaker::makeThumbnail(const PageBitmap& bitmap, const QString& path,
+                                   PageTiming& timing) {
+    Stopwatch watch;
+    const double scale = std::min(
+        {1.0, double(thumbnailWidth) / bitmap.width(), double(thumbnailHeight) / bitmap.height()});
+    const auto side = [&](int length) { return std::max(1, int(length * scale)); };
+    reduce(bitmap, iThumbnail, side(bitmap.width()), side(bitmap.height()));
+    const auto jpeg = iEncoder.encode(iThumbnail, thumbnailFactor);
+    timing.encode += watch.lap();
+    return write(path, jpeg, timing);
+}
+
+// Of what shows more than the page's picture.
+void WebPageMaker::makeLarge(const DrawablePage& page, PageBitmap& bitmap,
+                             const WebPageFiles& files, qint64 taken, PageTiming& timing) {
+    Stopwatch watch;
+    const bool isPhotograph = !QFileInfo::exists(files.picture);
+    const auto largest = qint64(double(taken) * (isPhotograph ? maxPhotographRatio : maxRatio));
+    const QByteArray vectors = iVectorEncoder.encode(page);
+    timing.encode += watch.lap();
+    if (!vectors.isEmpty() && vectors.size() <= largest) {
+        write(files.largeVector, bytesOf(vectors), timing);
+        return;
     }
-    return {};
+    const double most = isPhotograph ? largePhotographScale : largeScale;
+    const double scale = iDetail.hasOutlines ? most : std::min(most, iDetail.imageScale);
+    const int width = bitmap.width();
+    if (scale * page.width() < worthwhile * width)
+        return;
+    page.draw(scale, bitmap);
+    timing.draw += watch.lap();
+    if (bitmap.width() < worthwhile * width)
+        return;
+    if (const PaletteBitmap* reduced =
+            isPhotograph ? nullptr : iReducer.reduce(bitmap, toleranceFor(iDetail))) {
+        const QByteArray png = iPNGEncoder.encode(*reduced);
+        timing.encode += watch.lap();
+        if (png.size() <= largest)
+            write(files.largePicture, bytesOf(png), timing);
+        return;
+    }
+    const auto jpeg = iEncoder.encode(bitmap, largePhotographFactor);
+    timing.encode += watch.lap();
+    if (qint64(jpeg.size()) <= largest)
+        write(files.largePhotograph, jpeg, timing);
 }

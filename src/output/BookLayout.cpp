@@ -7,8 +7,7 @@
 namespace {
 
 const QString script = QStringLiteral("js");
-const QString picture = QStringLiteral("webp");
-const QString vectors = QStringLiteral("svg");
+const QString photograph = QStringLiteral("jpg");
 
 QString numbered(const QString& folder, int number, const QString& extension) {
     return BookLayout::in(folder, QString::number(number) + u'.' + extension);
@@ -25,7 +24,7 @@ QString BookLayout::page(int number, const QString& extension) {
 }
 
 QString BookLayout::thumbnail(int number) {
-    return numbered(thumbnails, number, picture);
+    return numbered(thumbnails, number, photograph);
 }
 
 QString BookLayout::largePage(int number, const QString& extension) {
@@ -37,8 +36,13 @@ QString BookLayout::text(int number) {
 }
 
 QStringList BookLayout::webFilesOfPage(int number) {
-    return {thumbnail(number), largePage(number, vectors), largePage(number, picture),
-            text(number)};
+    QStringList names{thumbnail(number), text(number)};
+    for (const char* kind : {"js", "png", "jpg"})
+        names << largePage(number, QString::fromLatin1(kind));
+    // Of books of earlier versions.
+    for (const char* kind : {"svg", "webp"})
+        names << largePage(number, QString::fromLatin1(kind));
+    return names << numbered(thumbnails, number, QStringLiteral("webp"));
 }
 
 QStringList BookLayout::webFiles() {
@@ -52,9 +56,9 @@ QStringList BookLayout::offlineFiles() {
 QString BookLayout::namesIn(const QString& folder) {
     QString extension = QStringLiteral("[A-Za-z0-9]{1,5}");
     if (folder == largePages)
-        extension = QStringLiteral("(%1|%2)").arg(vectors, picture);
+        extension = QStringLiteral("(js|png|jpg)");
     else if (folder == thumbnails)
-        extension = picture;
+        extension = photograph;
     else if (folder == texts)
         extension = script;
     return QStringLiteral("[1-9][0-9]*\\.") + extension;
@@ -71,8 +75,11 @@ bool BookLayout::isIn(const QString& folder, const QString& path) {
 }
 
 bool BookLayout::isData(const QString& path) {
-    return (isIn(texts, path) || isIn(search, path) || isIn(webData, path)) &&
-           Files::pathExtension(path) == script;
+    const auto isInOne = [&](const QStringList& folders) {
+        return std::any_of(folders.begin(), folders.end(),
+                           [&](const QString& folder) { return isIn(folder, path); });
+    };
+    return isInOne({texts, search, webData, largePages}) && Files::pathExtension(path) == script;
 }
 
 QString BookLayout::inFiles(const QString& path) {

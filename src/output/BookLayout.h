@@ -46,6 +46,7 @@ public:
     static QString in(const QString& folder, const QString& name);
     static QString page(int number, const QString& extension);
     static QString thumbnail(int number);
+    // A picture, or "js" for data that hold one.
     static QString largePage(int number, const QString& extension);
     static QString text(int number);
 

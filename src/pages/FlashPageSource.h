@@ -62,12 +62,13 @@ public:
     virtual std::optional<WebPageFiles> webFilesOf(int /*page*/) const { return {}; }
     // Pages whose files could not all be made, by their numbers, and why.
     virtual std::map<int, Message> degradedPages() const { return {}; }
-    // The numbers of the pages whose files for a web book have not been made yet, ascending.
-    virtual std::vector<int> pagesWithoutWebFiles() const { return {}; }
+    // The numbers of the pages whose files for a kind of book have not been made yet, ascending.
+    virtual std::vector<int> pagesWithout(PageFiles /*kind*/) const { return {}; }
     // Makes the files of these pages. Returns early when stop is set. progress gets the number of
     // pages done. Throws PlatformException when the work folder can't be written.
-    virtual void makeWebFiles(const std::vector<int>& /*pages*/, const std::atomic<bool>& /*stop*/,
-                              const std::function<void(int done)>& /*progress*/) {}
+    virtual void makeFiles(PageFiles /*kind*/, const std::vector<int>& /*pages*/,
+                           const std::atomic<bool>& /*stop*/,
+                           const std::function<void(int done)>& /*progress*/) {}
 
     // The one-based page numbers that a text such as "3,1-2" names, sorted and without duplicates;
     // 1 to atTotalPage for "ALL". Numbers beyond the document are kept. Throws PlatformException

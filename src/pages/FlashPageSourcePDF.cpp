@@ -76,21 +76,42 @@ std::shared_ptr<FlashPage> FlashPageSourcePDF::getNormalPageAtIndex(int pageInde
     return nullptr;
 }
 
+WebPageFiles FlashPageSourcePDF::filesOf(int page) const {
+    return {iToPageConverter->converterWorkFolder(), page};
+}
+
 std::optional<WebPageFiles> FlashPageSourcePDF::webFilesOf(int page) const {
-    return WebPageFiles(iToPageConverter->converterWorkFolder(), page);
+    return filesOf(page);
 }
 
 // A page that could not be drawn won't be now, and one that is not a picture of ours has no such
 // files.
-std::vector<int> FlashPageSourcePDF::pagesWithoutWebFiles() const {
+std::vector<int> FlashPageSourcePDF::pagesWithout(PageFiles kind) const {
     std::vector<int> numbers;
     const auto& degraded = iToPageConverter->degradedPages();
     for (const auto& page : normalPages()) {
-        const WebPageFiles files(iToPageConverter->converterWorkFolder(), page->pageIndex());
-        if (page->pageFilePath() == files.pageFile && QFileInfo::exists(files.pageFile) &&
-            !QFileInfo::exists(files.text) && !degraded.contains(page->pageIndex()))
+        const WebPageFiles files = filesOf(page->pageIndex());
+        const QString path = page->pageFilePath();
+        const bool isMissing = kind == PageFiles::web ? files.isPictureOfPage(path) &&
+                                                            !QFileInfo::exists(files.text) &&
+                                                            !degraded.contains(page->pageIndex())
+                                                      : path == files.picture;
+        if (isMissing && QFileInfo::exists(path))
             numbers.push_back(page->pageIndex());
     }
     std::sort(numbers.begin(), numbers.end());
     return numbers;
+}
+
+void FlashPageSourcePDF::makeFiles(PageFiles kind, const std::vector<int>& pages,
+                                   const std::atomic<bool>& stop,
+                                   const std::function<void(int)>& progress) {
+    iToPageConverter->makeFiles(kind, pages, stop, progress);
+    for (const Pages& all : {iPages, iNormalPages}) {
+        for (const auto& page : all) {
+            const WebPageFiles files = filesOf(page->pageIndex());
+            if (page->pageFilePath() == files.picture && QFileInfo::exists(files.pageFile))
+                page->setPageFilePath(files.pageFile);
+        }
+    }
 }

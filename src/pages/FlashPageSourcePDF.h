@@ -47,16 +47,15 @@ public:
     std::map<int, Message> degradedPages() const override {
         return iToPageConverter->degradedPages();
     }
-    std::vector<int> pagesWithoutWebFiles() const override;
-    void makeWebFiles(const std::vector<int>& pages, const std::atomic<bool>& stop,
-                      const std::function<void(int done)>& progress) override {
-        iToPageConverter->makeWebFiles(pages, stop, progress);
-    }
+    std::vector<int> pagesWithout(PageFiles kind) const override;
+    void makeFiles(PageFiles kind, const std::vector<int>& pages, const std::atomic<bool>& stop,
+                   const std::function<void(int done)>& progress) override;
 
     // Why the document could not be opened; null when it was.
     const Message& openError() const { return iOpenError; }
 
 private:
+    WebPageFiles filesOf(int page) const;
     void postProgress(std::size_t step, const char* type) const;
 
     std::shared_ptr<PDFDocument> iPDFDoc;

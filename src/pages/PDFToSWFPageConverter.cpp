@@ -50,9 +50,14 @@ QString PDFToSWFPageConverter::generatePage(int page) {
     const QString swf = workFile(page, "swf");
     if (QFileInfo::exists(swf) || !PDFDoc())
         return swf;
-    const QString jpg = workFile(page, "jpg");
-    pdfPageToImage(page, jpg);
-    return jpg;
+    pdfPageToImage(page, workFile(page, "jpg"));
+    return pictureOf(page);
+}
+
+QString PDFToSWFPageConverter::pictureOf(int page) const {
+    const WebPageFiles files(converterWorkFolder(), page);
+    const bool isPageFile = QFileInfo::exists(files.pageFile) || !QFileInfo::exists(files.picture);
+    return isPageFile ? files.pageFile : files.picture;
 }
 
 void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) {
@@ -62,11 +67,11 @@ void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) 
     makePage(page);
 }
 
-void PDFToSWFPageConverter::makeWebFiles(const std::vector<int>& pages,
-                                         const std::atomic<bool>& stop,
-                                         const std::function<void(int)>& progress) {
+void PDFToSWFPageConverter::makeFiles(PageFiles kind, const std::vector<int>& pages,
+                                      const std::atomic<bool>& stop,
+                                      const std::function<void(int)>& progress) {
     const auto end = qScopeGuard([this] { endDrawingAhead(); });
-    iFilesOf = webFiles;
+    iFilesOf = [kind](int) { return kind; };
     drawAhead(pages, stop);
     for (std::size_t i = 0; i < pages.size() && !stop; ++i) {
         makePage(pages[i]);
@@ -85,9 +90,8 @@ void PDFToSWFPageConverter::makePage(int page) {
     const Message& failure = result.error.isNull() ? result.made.degraded : result.error;
     if (failure.isNull())
         return;
-    const bool hasPageFile =
-        iFilesOf(page) == PageFiles::web && QFileInfo::exists(workFile(page, "jpg"));
-    if (hasPageFile)
+    const bool hasPicture = iFilesOf(page) == PageFiles::web && QFileInfo::exists(pictureOf(page));
+    if (hasPicture)
         iDegradedPages[page] = failure;
     else
         iFailedPages.push_back({page, failure});

@@ -11,7 +11,8 @@
 #include <vector>
 
 // Makes the page files of a PDF in the work folder: "N.jpg" at twice the page's size in points,
-// named by the one-based page number. An existing file "N.swf" in the folder is used instead.
+// named by the one-based page number, or "N.png" for a page of few colours that is for a web book
+// only. An existing file "N.swf" in the folder is used instead.
 class PDFToSWFPageConverter : public PDFToPageConverter {
 public:
     struct FailedPage {
@@ -42,18 +43,18 @@ public:
     // document has no such page.
     QString generatePage(int page) override;
 
-    // Draws a page into the work folder; the path is always "N.jpg" there, toPath is ignored.
+    // Draws a page into the work folder; toPath is ignored.
     void pdfPageToImage(int page, const QString& toPath);
 
     const std::vector<FailedPage>& failedPages() const { return iFailedPages; }
-    // Pages with a page file that lack files of a web book, by their one-based numbers.
+    // Pages with a picture that lack files of a web book, by their one-based numbers.
     const std::map<int, Message>& degradedPages() const { return iDegradedPages; }
 
-    // Makes what a web book needs of these pages and is not there yet; their page files are.
-    // Returns early when stop is set. progress gets the number of pages done. Throws
-    // PlatformException when the work folder can't be written.
-    void makeWebFiles(const std::vector<int>& pages, const std::atomic<bool>& stop,
-                      const std::function<void(int done)>& progress);
+    // Makes what a kind of book needs of these pages, which were made for another kind. Returns
+    // early when stop is set. progress gets the number of pages done. Throws PlatformException when
+    // the work folder can't be written.
+    void makeFiles(PageFiles kind, const std::vector<int>& pages, const std::atomic<bool>& stop,
+                   const std::function<void(int done)>& progress);
 
     // Total seconds for all pages so far.
     const PageTiming& timing() const { return iTiming; }
@@ -61,6 +62,8 @@ public:
 
 private:
     QString workFile(int page, const char* extension) const;
+    // The picture of a page that is there, else the page file.
+    QString pictureOf(int page) const;
     PageResult drawInProcess(int page);
     void makePage(int page);
 

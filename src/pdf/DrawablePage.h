@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pdf/PDFText.h"
-#include "pdf/PageBitmap.h"
+#include "picture/PageBitmap.h"
 
 #include <QByteArray>
 #include <atomic>
@@ -15,6 +15,13 @@ class DrawablePDF;
 struct DrawControl {
     const std::atomic<bool>* stop = nullptr; // cancels as soon as this becomes true
     std::chrono::milliseconds timeLimit{60'000};
+};
+
+// What a page is made of.
+struct PageDetail {
+    bool hasOutlines = false; // text or lines, which are sharp at any scale
+    bool hasShades = false;   // images, gradients or soft masks
+    double imageScale = 0;    // of the finest image, in pixels per point; 0 without images
 };
 
 // A page that was interpreted once, into a display list from which any number of pictures can be
@@ -31,6 +38,9 @@ public:
     DrawablePage(const DrawablePage&) = delete;
     DrawablePage& operator=(const DrawablePage&) = delete;
 
+    // As a viewer shows it, in points.
+    double width() const;
+
     // Draws the page as a viewer shows it, rotated and with its annotations, on white. scale is in
     // pixels per point; a page that exceeds the limits is drawn at a smaller scale. The bitmap has
     // one component when the page is gray.
@@ -40,12 +50,11 @@ public:
     // for a page that was recorded without its text.
     std::vector<PDFTextLine> text() const;
 
-    // The page as an SVG file, in points, or empty for a page with more than text and plain fills,
-    // which only a bitmap shows correctly.
-    QByteArray vectorPicture() const;
+    PageDetail detail() const;
+
+    struct Recording; // for the sources of this folder
+    Recording& recording() const { return *iRecording; }
 
 private:
-    struct Recording;
-
     std::unique_ptr<Recording> iRecording;
 };

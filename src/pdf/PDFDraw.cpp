@@ -129,11 +129,14 @@ DrawablePage::DrawablePage(const DrawablePDF& document, int index, const DrawCon
 
 DrawablePage::~DrawablePage() = default;
 
+double DrawablePage::width() const {
+    return double(iRecording->bounds.x1) - iRecording->bounds.x0;
+}
+
 void DrawablePage::draw(double scale, PageBitmap& bitmap) const {
     Recording& page = *iRecording;
-    const double width = double(page.bounds.x1) - page.bounds.x0;
     const double height = double(page.bounds.y1) - page.bounds.y0;
-    const PixelSize size = pixelSize(width, height, scale);
+    const PixelSize size = pixelSize(width(), height, scale);
     bitmap.resize(size.width, size.height, page.isColour ? 3 : 1);
     const fz_matrix matrix = fz_pre_translate(fz_scale(float(size.scale), float(size.scale)),
                                               -page.bounds.x0, -page.bounds.y0);

@@ -7,7 +7,7 @@
 #include "output/EmbedSnippet.h"
 #include "output/ExistingBook.h"
 #include "output/FolveroOutputApp.h"
-#include "pages/WebFilesOperation.h"
+#include "pages/PageFilesOperation.h"
 #include "system/Files.h"
 #include "ui/OutputWindow.h"
 #include "ui/Panels.h"
@@ -52,7 +52,7 @@ QProgressDialog* progressWindow(QWidget* parent) {
 void showProgress(QProgressDialog* dialog, int done, int total) {
     if (!dialog)
         return;
-    dialog->setLabelText(OutputWindowDelegate::tr("Making the web book… %1%")
+    dialog->setLabelText(OutputWindowDelegate::tr("Making the pages of the book… %1%")
                              .arg(total > 0 ? 100LL * done / total : 0));
     auto* bar = dialog->findChild<QProgressBar*>();
     bar->setMaximum(total);
@@ -173,33 +173,35 @@ void OutputWindowDelegate::onPublish() {
     const QString lost = overwriteWarning(*iOutput);
     if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
         return;
-    const bool isWebBook = AppSettings::shareInstance().outputType() == OutputWindow::webBook;
-    if (isWebBook && iBook.pageSource && !iBook.pageSource->pagesWithoutWebFiles().empty())
-        makeWebFiles();
+    const PageFiles kind = AppSettings::shareInstance().outputType() == OutputWindow::webBook
+                               ? PageFiles::web
+                               : PageFiles::classic;
+    if (iBook.pageSource && !iBook.pageSource->pagesWithout(kind).empty())
+        makePageFiles(kind);
     else
         publishAndEnd();
 }
 
 // Of pages that were imported for another kind of book. Takes as long as an import.
-void OutputWindowDelegate::makeWebFiles() {
+void OutputWindowDelegate::makePageFiles(PageFiles kind) {
     iProgress = progressWindow(iWindow);
     showProgress(iProgress, 0, 1);
     connect(iProgress, &QProgressDialog::canceled, this, [this] { iQueue.cancelAllOperations(); });
-    const auto operation = std::make_shared<WebFilesOperation>(iBook.pageSource);
+    const auto operation = std::make_shared<PageFilesOperation>(iBook.pageSource, kind);
     operation->setProgress([this](int done, int total) {
         QMetaObject::invokeMethod(
             this, [=, this] { showProgress(iProgress, done, total); }, Qt::QueuedConnection);
     });
-    operation->setFinishedObserver([this, weak = std::weak_ptr<WebFilesOperation>(operation)] {
+    operation->setFinishedObserver([this, weak = std::weak_ptr<PageFilesOperation>(operation)] {
         QMetaObject::invokeMethod(
-            this, [this, operation = weak.lock()] { webFilesAreMade(operation); },
+            this, [this, operation = weak.lock()] { pageFilesAreMade(operation); },
             Qt::QueuedConnection);
     });
     iQueue.addOperation(operation);
 }
 
 // The progress window is closed first: it would stay open under the next question.
-void OutputWindowDelegate::webFilesAreMade(const std::shared_ptr<WebFilesOperation>& operation) {
+void OutputWindowDelegate::pageFilesAreMade(const std::shared_ptr<PageFilesOperation>& operation) {
     const bool isCancelled = iProgress && iProgress->wasCanceled();
     delete iProgress;
     if (isCancelled) {

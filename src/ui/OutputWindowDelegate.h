@@ -11,7 +11,7 @@
 
 class OutputWindow;
 class QProgressDialog;
-class WebFilesOperation;
+class PageFilesOperation;
 
 // Controls the publish sheet: reads the user's choices, publishes while the sheet is open, and
 // offers to open the result. Set its book before it is shown; the page size is that of the
@@ -67,8 +67,8 @@ private:
     void rememberBook(const FolveroOutput& output) const;
     void publish(FolveroOutput& output);
     void publishAndEnd();
-    void makeWebFiles();
-    void webFilesAreMade(const std::shared_ptr<WebFilesOperation>& operation);
+    void makePageFiles(PageFiles kind);
+    void pageFilesAreMade(const std::shared_ptr<PageFilesOperation>& operation);
     void endSheet(int returnCode);
 
     OutputWindow* iWindow;

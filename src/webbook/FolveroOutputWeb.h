@@ -40,10 +40,8 @@ public:
     // False when the folder contains another site's service worker or manifest, which is kept:
     // readers can't save the book for offline use then, nor can they with a single-file book.
     bool worksOffline() const { return iWorksOffline; }
-    // Bytes that the last run wrote for pages (pictures, larger ones, thumbnails, text), and those
-    // of the same pages in a classic book.
+    // Bytes that the last run wrote for pages: pictures, larger ones, thumbnails, text.
     qint64 pageBytes() const { return iReport.pageBytes; }
-    qint64 classicPageBytes() const { return iReport.classicPageBytes; }
 
 private:
     WebBook webBook() const;

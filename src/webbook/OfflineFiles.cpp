@@ -141,7 +141,7 @@ QByteArray iconOf(const PublishTarget& to, const WebBook& book) {
                                  : Files::contents(to.transaction.stagedFile(to.layout.at(cover)));
     if (!bytes.isEmpty())
         picture = "<image x=\"40\" y=\"40\" width=\"432\" height=\"432\" "
-                  "href=\"data:image/webp;base64," +
+                  "href=\"data:image/jpeg;base64," +
                   bytes.toBase64() + "\"/>";
     return "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 512 512\" width=\"512\" "
            "height=\"512\"><rect width=\"512\" height=\"512\" fill=\"" +

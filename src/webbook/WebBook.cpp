@@ -65,7 +65,7 @@ void WebBook::readDocument(const std::optional<std::vector<PageRun>>& openPages)
         metadata.open = runsOfPositions(metadata.numbers, *openPages);
     for (const WebPage& page : pages) {
         const bool hasLarge = isOpen(page) && !page.large.isNull();
-        metadata.large << (hasLarge ? QFileInfo(page.large).suffix() : QString());
+        metadata.large << (hasLarge ? largeKind(page) : QString());
     }
     const auto& document = content.document;
     if (!document)
@@ -106,6 +106,11 @@ FlashPageSource::Pages WebBook::pictures() const {
         pictures.push_back(std::move(picture));
     }
     return pictures;
+}
+
+QString WebBook::largeKind(const WebPage& page) {
+    const QString extension = Files::pathExtension(page.large);
+    return extension == u"svgz" ? QStringLiteral("js") : extension;
 }
 
 QString WebBook::picturePath(const WebPage& page) {

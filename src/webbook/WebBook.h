@@ -32,6 +32,9 @@ struct WebBook {
     bool isOpen(const WebPage& page) const;
     // The pictures of the included pages.
     FlashPageSource::Pages pictures() const;
+    // The extension in the book of a page's larger picture, which it has. Browsers show a packed
+    // SVG file from some servers only, and none from disk: it becomes a script.
+    static QString largeKind(const WebPage& page);
     // Path in the book of a page's picture.
     static QString picturePath(const WebPage& page);
     std::unique_ptr<pugi::xml_document> configuration() const;

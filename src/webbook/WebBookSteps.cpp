@@ -61,6 +61,7 @@ public:
 
 private:
     void copy(const QString& source, const QString& path);
+    void copyLarge(const WebPage& page);
     QByteArray textOf(const WebPage& page, const std::vector<PDFTextLine>& lines);
 
     PublishTarget& iTo;
@@ -76,6 +77,17 @@ void PageWriter::copy(const QString& source, const QString& path) {
     iTo.transaction.copy(source, iTo.layout.at(path), iBook.kindOfCopy);
 }
 
+void PageWriter::copyLarge(const WebPage& page) {
+    if (page.large.isNull())
+        return;
+    const QString kind = WebBook::largeKind(page);
+    const QString path = BookLayout::largePage(page.number, kind);
+    if (kind == u"js")
+        writeScript(path, "{\"svg\":\"" + Files::contents(page.large).toBase64() + "\"}");
+    else
+        copy(page.large, path);
+}
+
 void PageWriter::writeScript(const QString& path, const QByteArray& json) {
     const QByteArray script = WebScript::file(path, json);
     iTo.transaction.write(iTo.layout.at(path), script);
@@ -84,9 +96,8 @@ void PageWriter::writeScript(const QString& path, const QByteArray& json) {
 
 QString PageWriter::write(const WebPage& page) {
     iReport.pageBytes += QFileInfo(page.picture).size();
-    iReport.classicPageBytes += QFileInfo(page.pageFile).size();
     copy(page.thumbnail, BookLayout::thumbnail(page.number));
-    copy(page.large, BookLayout::largePage(page.number, QFileInfo(page.large).suffix()));
+    copyLarge(page);
     const auto lines = textFrom(page.text);
     writeScript(BookLayout::text(page.number), textOf(page, lines));
     return WebPageText::plain(lines);

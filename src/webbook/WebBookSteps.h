@@ -11,9 +11,8 @@ struct WebBook;
 struct WebBookReport {
     // Pages that lack some of their files, by number, and why.
     std::vector<std::pair<int, Message>> degradedPages;
-    // Bytes of all files of pages, and of the same pages in a classic book.
+    // Of all files of pages.
     qint64 pageBytes = 0;
-    qint64 classicPageBytes = 0;
 };
 
 // The steps that make a web book, beside those of BookSteps.

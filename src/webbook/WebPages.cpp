@@ -13,14 +13,15 @@ WebPage pageFrom(const FlashPage& page, const std::optional<WebPageFiles>& files
     result.number = page.pageIndex();
     result.pageFile = page.pageFilePath();
     result.picture = result.pageFile;
-    if (!files || result.pageFile != files->pageFile)
+    if (!files || !files->isPictureOfPage(result.pageFile))
         return result; // provided by the user
     if (QFileInfo::exists(files->picture))
         result.picture = files->picture;
     result.thumbnail = existing(files->thumbnail);
-    result.large = existing(files->largeVector);
-    if (result.large.isNull())
-        result.large = existing(files->largePicture);
+    for (const QString& large : {files->largeVector, files->largePicture, files->largePhotograph}) {
+        if (result.large.isNull())
+            result.large = existing(large);
+    }
     result.text = existing(files->text);
     return result;
 }

@@ -106,7 +106,7 @@ test('of a long book what was read is kept, all of it for whom asks, and no read
   await page.waitForFunction(() => location.hash !== '');
   // An answer that is there before it is kept.
   await page.evaluate(async () => {
-    while (!await caches.match('files/page/3.webp')) await new Promise((resolve) => { setTimeout(resolve, 100); });
+    while (!await caches.match('files/page/3.png')) await new Promise((resolve) => { setTimeout(resolve, 100); });
   });
 
   await stopServing();
@@ -129,5 +129,5 @@ test('of a long book what was read is kept, all of it for whom asks, and no read
   await saysKept(page);
   await panel.getByRole('button', { name: 'Remove' }).click();
   await saysKept(page, false);
-  assert.equal(await page.evaluate(() => caches.match('files/page/17.webp')), undefined);
+  assert.equal(await page.evaluate(() => caches.match('files/page/17.png')), undefined);
 });

@@ -47,7 +47,7 @@ TEST_F(PublishTest, ReplacesFilesThatAreNoBooksWithForceOnly) {
         {"files/extfiles/mainbgImgUrl.jpg", {}, true},
         {"files/extfiles/moveSound.mp3", {}, true},
         {"files/web.js", {}, false},
-        {"files/thumb/1.webp", {}, false},
+        {"files/thumb/1.jpg", {}, false},
         {"files/web.js", web, true},
         {"files/text/1.js", web, true},
         {"text.html", {}, false},

@@ -73,7 +73,7 @@ TEST_F(WatchTest, MakesTheBookAgainAndWritesOnlyWhatChanged) {
     ASSERT_TRUE(nextNote().contains("Ctrl-C"));
     std::map<QString, Identity> kept;
     for (const char* name :
-         {"files/page/1.webp", "files/thumb/1.webp", "files/text/1.js", "files/web.js"})
+         {"files/page/1.png", "files/thumb/1.jpg", "files/text/1.js", "files/web.js"})
         kept[name] = identity(name);
     const auto before = contents();
 
@@ -89,14 +89,14 @@ TEST_F(WatchTest, MakesTheBookAgainAndWritesOnlyWhatChanged) {
     for (const auto& [name, earlier] : kept)
         EXPECT_EQ(identity(name), earlier) << name.toStdString();
     auto now = contents();
-    EXPECT_NE(now.at("files/page/2.webp"), before.at("files/page/2.webp"));
+    EXPECT_NE(now.at("files/page/2.png"), before.at("files/page/2.png"));
     for (const auto& [name, content] : now)
         EXPECT_FALSE(name.contains("/3.")) << name.toStdString();
 
     TestFiles::write(iSettings, "TutorialTitle=Second title\n");
     EXPECT_TRUE(nextLine().contains(" unchanged"));
     EXPECT_NE(contents().at("files/UserConfig.bin"), now.at("files/UserConfig.bin"));
-    EXPECT_EQ(identity("files/page/1.webp"), kept["files/page/1.webp"]);
+    EXPECT_EQ(identity("files/page/1.png"), kept["files/page/1.png"]);
     EXPECT_EQ(end(SIGINT), 0);
 }
 

@@ -185,7 +185,7 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
             const QByteArray content = match.captured(3).toUtf8();
             if (!type.isEmpty()) {
                 EXPECT_EQ(QByteArray::fromBase64(content), wanted[name]) << name.toStdString();
-                EXPECT_EQ(type == "image/webp", name.endsWith(".webp"));
+                EXPECT_EQ(type == "image/png", name.endsWith(".png"));
                 wanted.erase(name);
                 continue;
             }
@@ -269,7 +269,7 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
     EXPECT_EQ(facts["open"], (QJsonArray{QJsonArray{2, 3}, QJsonArray{5, 5}}));
     EXPECT_EQ(facts["numbers"].toArray().size(), 6);
     auto files = contents();
-    EXPECT_TRUE(files.at("index.html").contains("content=\"files/thumb/3.webp\""));
+    EXPECT_TRUE(files.at("index.html").contains("content=\"files/thumb/3.jpg\""));
     static const QRegularExpression numbered(R"re(^files/\w+/(\d+)\.)re");
     std::map<int, int> filesOfPage;
     for (const auto& [name, content] : files) {

@@ -91,23 +91,27 @@ TEST_F(FlashPageSourcePDFTest, MakesTheFilesForWebBooksToo) {
     const auto classic = source();
     classic->generatePages();
     classic->generateNormalPages();
-    EXPECT_EQ(classic->pagesWithoutWebFiles(), (std::vector{1, 2, 3}));
+    EXPECT_EQ(classic->pagesWithout(PageFiles::web), (std::vector{1, 2, 3}));
+    EXPECT_TRUE(classic->pagesWithout(PageFiles::classic).empty());
     const auto web = source();
     web->toPageConverter()->setFilesOf(
         [](int page) { return page == 3 ? PageFiles::classic : PageFiles::web; });
     web->generatePages();
     web->generateNormalPages();
-    EXPECT_EQ(web->pagesWithoutWebFiles(), std::vector{3});
+    EXPECT_EQ(web->pagesWithout(PageFiles::web), std::vector{3});
+    EXPECT_EQ(web->pagesWithout(PageFiles::classic), (std::vector{1, 2}));
     QFile::remove(folderOf(*web) + "/2.text");
 
     std::vector<int> progress;
     const std::atomic<bool> stop{false};
     for (const auto& pages : {&classic, &web}) {
-        (*pages)->makeWebFiles((*pages)->pagesWithoutWebFiles(), stop,
-                               [&](int done) { progress.push_back(done); });
-        EXPECT_TRUE((*pages)->pagesWithoutWebFiles().empty());
+        for (const PageFiles kind : {PageFiles::web, PageFiles::classic}) {
+            (*pages)->makeFiles(kind, (*pages)->pagesWithout(kind), stop,
+                                [&](int done) { progress.push_back(done); });
+            EXPECT_TRUE((*pages)->pagesWithout(kind).empty());
+        }
     }
-    EXPECT_EQ(progress, (std::vector{1, 2, 3, 1, 2}));
+    EXPECT_EQ(progress, (std::vector{1, 2, 3, 1, 2, 1, 2}));
     const auto files = BookReader::contentsBeneath(folderOf(*classic));
     EXPECT_EQ(files.size(), 15U);
     EXPECT_EQ(files, BookReader::contentsBeneath(folderOf(*web)));
@@ -119,7 +123,7 @@ TEST_F(FlashPageSourcePDFTest, DrawsInThisProcessWithoutWorkers) {
     converter.setFilesOf(webFiles);
     const QString page = converter.generatePage(2);
     EXPECT_TRUE(QFile::exists(WebPageFiles(converter.converterWorkFolder(), 2).text));
-    EXPECT_EQ(page, converter.converterWorkFolder() + "/2.jpg");
+    EXPECT_EQ(page, converter.converterWorkFolder() + "/2.png");
     EXPECT_EQ(QImage(page).size(), QSize(200, 300));
     QDir(converter.converterWorkFolder()).removeRecursively();
     EXPECT_THROW(converter.generatePage(1), PlatformException);

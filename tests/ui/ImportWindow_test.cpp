@@ -75,7 +75,8 @@ TEST_F(ImportSheet, ImportsAllPagesAndEndsWithOne) {
     EXPECT_FALSE(window().isVisible());
     ASSERT_TRUE(sheet->flashPageSource());
     EXPECT_EQ(sheet->flashPageSource()->pages().size(), 5U);
-    EXPECT_TRUE(sheet->flashPageSource()->pagesWithoutWebFiles().empty()) << "as published last";
+    EXPECT_TRUE(sheet->flashPageSource()->pagesWithout(PageFiles::web).empty())
+        << "as published last";
     AppSettings& settings = AppSettings::shareInstance();
     EXPECT_EQ(QSize(settings.PageWidth(), settings.PageHeight()), QSize(300, 400));
     EXPECT_EQ(sheet->flashPagesAnnotations(), nullptr);

@@ -171,14 +171,14 @@ TEST_F(PublishSheet, PublishesAWebBookWithProgressThatEndsBeforeTheQuestion) {
     publish();
     const auto* progress = window().findChild<QProgressDialog*>();
     ASSERT_TRUE(progress);
-    EXPECT_EQ(progress->labelText(), "Making the web book… 0%");
+    EXPECT_EQ(progress->labelText(), "Making the pages of the book… 0%");
     EXPECT_FALSE(progress->findChild<QProgressBar*>()->isTextVisible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !ended.isEmpty(); }, 20000));
     EXPECT_EQ(questions.size(), 2);
     EXPECT_EQ(progressUnderQuestions, 0);
     EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
     EXPECT_EQ(book.read("files/web.js"), "web.js");
-    EXPECT_TRUE(book.exists("files/thumb/3.webp"));
+    EXPECT_TRUE(book.exists("files/thumb/3.jpg"));
     EXPECT_FALSE(book.exists("book.swf"));
     EXPECT_EQ(AppSettings().outputType(), OutputWindow::webBook);
 
@@ -194,7 +194,7 @@ TEST_F(PublishSheet, CancelsAWebBookWhileItsPagesAreMade) {
     window().findChild<QProgressDialog*>()->findChild<QPushButton*>()->click();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !ended.isEmpty(); }, 20000));
     EXPECT_FALSE(book.exists("mybook.html"));
-    EXPECT_FALSE(book.pageSource->pagesWithoutWebFiles().empty());
+    EXPECT_FALSE(book.pageSource->pagesWithout(PageFiles::web).empty());
     EXPECT_TRUE(questions.isEmpty() && told.isEmpty());
 }
 

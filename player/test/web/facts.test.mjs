@@ -33,12 +33,12 @@ test('labels count where they say more than the number, languages and text pages
 });
 
 test('files of a page have its number, and there are none of pages that are left out', () => {
-  const facts = new Facts({ numbers: [5, 'x', -1, 2.5], large: ['svg', 'webp', 'exe', 'svg', 'svg'],
+  const facts = new Facts({ numbers: [5, 'x', -1, 2.5], large: ['js', 'png', 'exe', 'jpg', 'js'],
     open: [[1, 2], 'x', [4, 4]] }, 5);
   const all = [1, 2, 3, 4, 5];
   assert.deepEqual(all.map((page) => facts.numberOf(page)), [5, 2, 3, 4, 5]);
   assert.deepEqual(all.map((page) => facts.isOpen(page)), [true, true, false, true, false]);
-  assert.deepEqual(all.map((page) => facts.largeFile(page)), ['large/5.svg', 'large/2.webp', '', 'large/4.svg', '']);
+  assert.deepEqual(all.map((page) => facts.largeFile(page)), ['large/5.js', 'large/2.png', '', 'large/4.jpg', '']);
   assert.ok(new Facts({}, 5).isOpen(5));
 });
 

@@ -1,5 +1,6 @@
 import { copyFile, mkdir, readFile, writeFile } from 'node:fs/promises';
 import path from 'node:path';
+import { deflateSync } from 'node:zlib';
 
 /**
  * One line of a page, in tenths of a point. words: [text, start, length] each; turn in degrees.
@@ -46,7 +47,7 @@ function dataOf({ pages, labels = null, outline = [], large = [], open = null, l
 /**
  * Makes a published classic book one of the web kind.
  * description: pages: { size, lines, links } by position; labels, outline, open, language and
- * textPage as in the book's facts; large: { kind, bytes } by position; web: folder with the built web.js and web.css.
+ * textPage as in the book's facts; large: { kind, bytes } by position, or svg for bytes; web: folder with the built web.js and web.css.
  */
 export async function makeWebBook(folder, description) {
   const { web, large = [] } = description;
@@ -54,7 +55,9 @@ export async function makeWebBook(folder, description) {
   await Promise.all(['web', 'text', 'search', 'large']
     .map((name) => mkdir(path.join(files, name), { recursive: true })));
   for (const [index, picture] of large.entries()) {
-    if (picture) await writeFile(path.join(files, 'large', `${index + 1}.${picture.kind}`), picture.bytes);
+    if (!picture) continue;
+    const { kind, svg = '', bytes = `folveroData("large/${index + 1}", {"svg":"${deflateSync(svg).toString('base64')}"});` } = picture;
+    await writeFile(path.join(files, 'large', `${index + 1}.${kind}`), bytes);
   }
   const page = path.join(folder, 'index.html');
   const html = await readFile(page, 'utf8');

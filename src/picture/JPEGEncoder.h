@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pdf/PageBitmap.h"
+#include "picture/PageBitmap.h"
 
 #include <memory>
 #include <span>

@@ -7,11 +7,11 @@
 #include <functional>
 #include <memory>
 
-// Makes in the background what a web book needs of pages that were imported without it.
-class WebFilesOperation : public Operation {
+// Makes in the background what a kind of book needs of pages that were imported for another.
+class PageFilesOperation : public Operation {
 public:
-    explicit WebFilesOperation(std::shared_ptr<FlashPageSource> source)
-        : iSource(std::move(source)) {}
+    PageFilesOperation(std::shared_ptr<FlashPageSource> source, PageFiles kind)
+        : iSource(std::move(source)), iKind(kind) {}
 
     // Called after each page, on the operation's thread. Set it before the operation is queued.
     void setProgress(std::function<void(int done, int total)> progress) {
@@ -27,6 +27,7 @@ public:
 
 private:
     std::shared_ptr<FlashPageSource> iSource;
+    PageFiles iKind;
     std::function<void(int, int)> iProgress = [](int, int) {};
     std::atomic<bool> iStop{false};
     Message iFailure;

@@ -1,4 +1,4 @@
-#include "pdf/JPEGEncoder.h"
+#include "picture/JPEGEncoder.h"
 
 #include "base/PlatformException.h"
 

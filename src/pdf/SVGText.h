@@ -1,0 +1,63 @@
+#pragma once
+
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+// Text of an SVG file under construction. It grows to a limit only, and never throws: it is written
+// from within MuPDF's C functions. Numbers are whole: the file states their unit by a scale.
+class SVGText {
+public:
+    explicit SVGText(std::size_t limit) : iLimit(limit), iBuffer(new char[limit]) {}
+
+    void clear() {
+        iSize = 0;
+        iIsFull = false;
+    }
+    bool isFull() const { return iIsFull; }
+    std::string_view view() const { return {iBuffer.get(), iSize}; }
+
+    SVGText& operator<<(std::string_view text) {
+        if (text.size() > iLimit - iSize) {
+            iIsFull = true;
+            return *this;
+        }
+        std::memcpy(iBuffer.get() + iSize, text.data(), text.size());
+        iSize += text.size();
+        return *this;
+    }
+    SVGText& operator<<(int number) {
+        char text[16];
+        const auto end = std::to_chars(text, text + sizeof(text), number).ptr;
+        return *this << std::string_view(text, std::size_t(end - text));
+    }
+    // Separated from a number before it: a minus sign does that, too.
+    SVGText& next(int number) {
+        if (number >= 0 && iSize > 0 && isDigit(iBuffer[iSize - 1]))
+            *this << " ";
+        return *this << number;
+    }
+    // With at most six digits, without an exponent.
+    SVGText& operator<<(float number) {
+        char text[64];
+        const auto end =
+            std::to_chars(text, text + sizeof(text), number, std::chars_format::fixed, 5).ptr;
+        std::string_view shown(text, std::size_t(end - text));
+        while (shown.ends_with('0'))
+            shown.remove_suffix(1);
+        if (shown.ends_with('.'))
+            shown.remove_suffix(1);
+        return *this << (shown == "-0" ? "0" : shown);
+    }
+
+private:
+    static bool isDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
+    std::size_t iLimit;
+    std::size_t iSize = 0;
+    bool iIsFull = false;
+    std::unique_ptr<char[]> iBuffer;
+};

@@ -1,0 +1,288 @@
+#include "pdf/SVGWriter.h"
+
+#include "pdf/SVGPath.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <iterator>
+
+namespace {
+
+// A larger file would take a browser seconds to draw.
+constexpr std::size_t maxBytes = std::size_t{1} << 20;
+
+// The outlines of a document's glyphs that are kept from page to page.
+constexpr std::size_t maxOutlines = 10'000;
+
+// Units of the file's numbers: of a point, and of an em in the definitions of glyphs.
+constexpr float unitsPerPoint = 100;
+constexpr float unitsPerEm = 1000;
+
+// Thinner lines vanish where a page is small.
+constexpr float thinnestLine = 0.1F * unitsPerPoint;
+
+int rounded(float number) {
+    constexpr float furthest = 1e8F;
+    return int(std::lrintf(std::fmin(std::fmax(number, -furthest), furthest)));
+}
+
+// Whether a circle stays one.
+bool keepsCircles(const fz_matrix& matrix) {
+    const float tolerance = 1e-3F * (std::abs(matrix.a) + std::abs(matrix.b));
+    const bool isTurned =
+        std::abs(matrix.a - matrix.d) <= tolerance && std::abs(matrix.b + matrix.c) <= tolerance;
+    const bool isMirrored =
+        std::abs(matrix.a + matrix.d) <= tolerance && std::abs(matrix.b - matrix.c) <= tolerance;
+    return isTurned || isMirrored;
+}
+
+// Whether the commands of a path draw a rectangle with upright sides.
+bool isBox(std::string_view path) {
+    std::string commands;
+    std::copy_if(path.begin(), path.end(), std::back_inserter(commands),
+                 [](char letter) { return letter >= 'a'; });
+    return commands == "mhvhz" || commands == "mvhvz" || commands == "mhvhvz" ||
+           commands == "mvhvhz";
+}
+
+} // namespace
+
+SVGWriter::SVGWriter(fz_context* ofEngine)
+    : iContext(ofEngine), iBody(maxBytes), iDefinitions(maxBytes), iOutline(maxBytes) {}
+
+void SVGWriter::forgetFonts() {
+    for (const auto& entry : iOutlines)
+        fz_drop_font(iContext, entry.first.first);
+    iOutlines.clear();
+}
+
+void SVGWriter::begin(fz_rect page) {
+    if (iOutlines.size() > maxOutlines)
+        forgetFonts();
+    iNames.clear();
+    iGlyphs = 0;
+    iClips = 0;
+    iHasElement.clear();
+    iPage = page;
+    iToUnits = fz_concat(fz_translate(-page.x0, -page.y0), fz_scale(unitsPerPoint, unitsPerPoint));
+    iIsCorrect = true;
+    iBody.clear();
+    iDefinitions.clear();
+}
+
+bool SVGWriter::isCorrect() const {
+    return iIsCorrect && !iBody.isFull() && !iDefinitions.isFull();
+}
+
+bool SVGWriter::isOutside(fz_rect area) const {
+    return fz_is_empty_rect(fz_intersect_rect(area, iPage)) && !fz_is_empty_rect(area);
+}
+
+// strokeScale is that of a stroke's numbers to those of the element.
+void SVGWriter::writePaint(const SVGPaint& paint, float strokeScale) {
+    const std::string_view name = paint.stroke ? "stroke" : "fill";
+    std::array<float, 3> rgb{};
+    fz_convert_color(iContext, paint.space, paint.colour, fz_device_rgb(iContext), rgb.data(),
+                     nullptr, paint.params);
+    constexpr char digits[] = "0123456789abcdef";
+    std::array<char, 7> hex{'#'};
+    for (std::size_t i = 0; i < rgb.size(); ++i) {
+        const int value = int(std::lrintf(std::fmin(std::fmax(rgb[i], 0.F), 1.F) * 255));
+        hex[2 * i + 1] = digits[value >> 4];
+        hex[2 * i + 2] = digits[value & 15];
+    }
+    iBody << (paint.stroke ? " fill=\"none\" " : " ") << name << "=\""
+          << std::string_view(hex.data(), hex.size()) << "\"";
+    if (paint.alpha < 1)
+        iBody << " " << name << "-opacity=\"" << paint.alpha << "\"";
+    if (paint.stroke)
+        writeStroke(*paint.stroke, strokeScale);
+}
+
+void SVGWriter::writeStroke(const fz_stroke_state& stroke, float scale) {
+    iBody << " stroke-width=\"" << std::fmax(stroke.linewidth * scale, thinnestLine) << "\"";
+    constexpr std::array caps{"", "round", "square", "square"};
+    constexpr std::array joins{"", "round", "bevel", ""};
+    if (stroke.start_cap != FZ_LINECAP_BUTT)
+        iBody << " stroke-linecap=\"" << caps[stroke.start_cap] << "\"";
+    if (const std::string_view join = joins[stroke.linejoin]; !join.empty())
+        iBody << " stroke-linejoin=\"" << join << "\"";
+    else
+        iBody << " stroke-miterlimit=\"" << std::fmax(stroke.miterlimit, 1.F) << "\"";
+    if (stroke.dash_len == 0)
+        return;
+    iBody << " stroke-dasharray=\"";
+    for (int i = 0; i < stroke.dash_len; ++i)
+        iBody << (i > 0 ? " " : "") << stroke.dash_list[i] * scale;
+    iBody << "\" stroke-dashoffset=\"" << stroke.dash_phase * scale << "\"";
+}
+
+void SVGWriter::writeMatrix(const fz_matrix& matrix) {
+    iBody << " transform=\"matrix(" << matrix.a << " " << matrix.b << " " << matrix.c << " "
+          << matrix.d << " " << matrix.e << " " << matrix.f << ")\"";
+}
+
+// The outline of a glyph; null when it can't be written.
+const std::string* SVGWriter::outlineOf(fz_font* font, int glyph) {
+    const GlyphKey key{font, glyph};
+    if (const auto known = iOutlines.find(key); known != iOutlines.end())
+        return &known->second;
+    fz_path* path = nullptr;
+    fz_var(path);
+    fz_try(iContext) {
+        path = fz_outline_glyph(iContext, font, glyph, fz_identity);
+    }
+    fz_catch(iContext) {
+        return nullptr;
+    }
+    iOutline.clear();
+    if (path)
+        writePath(iContext, path, fz_scale(unitsPerEm, unitsPerEm), iOutline);
+    fz_drop_path(iContext, path);
+    if (iOutline.isFull())
+        return nullptr;
+    const auto added = iOutlines.emplace(key, iOutline.view()).first;
+    fz_keep_font(iContext, font);
+    return &added->second;
+}
+
+// The number of a glyph in the file, where it is defined then; 0 for one that draws nothing.
+int SVGWriter::nameOf(fz_font* font, int glyph) {
+    const auto [found, isNew] = iNames.try_emplace({font, glyph}, 0);
+    if (!isNew)
+        return found->second;
+    const std::string* path = outlineOf(font, glyph);
+    if (!path)
+        giveUp();
+    if (!path || path->empty())
+        return 0;
+    found->second = ++iGlyphs;
+    iDefinitions << "<path id=\"g" << iGlyphs << "\" d=\"" << *path << "\"/>\n";
+    return iGlyphs;
+}
+
+void SVGWriter::text(const fz_text& text, const fz_matrix& matrix, const SVGPaint& paint) {
+    for (const fz_text_span* span = text.head; span && isCorrect(); span = span->next) {
+        if (fz_font_t3_procs(iContext, span->font))
+            giveUp(); // each glyph is a drawing
+        else
+            writeSpan(*span, matrix, paint);
+    }
+}
+
+// A group in whose units an em is as large as in the glyphs' definitions.
+void SVGWriter::writeSpan(const fz_text_span& span, const fz_matrix& matrix,
+                          const SVGPaint& paint) {
+    fz_matrix placement = span.trm; // of a glyph
+    placement.e = 0;
+    placement.f = 0;
+    const float em = fz_matrix_expansion(placement);
+    const fz_matrix toPage = fz_concat(matrix, iToUnits);
+    fz_matrix group = fz_pre_scale(fz_concat(placement, toPage), 1 / unitsPerEm, 1 / unitsPerEm);
+    fz_matrix toGroup{};
+    bool hasBegun = false;
+    for (int i = 0; i < span.len; ++i) {
+        const fz_text_item& item = span.items[i];
+        placement.e = item.x;
+        placement.f = item.y;
+        if (item.gid < 0 ||
+            isOutside(fz_bound_glyph(iContext, span.font, item.gid, fz_concat(placement, matrix))))
+            continue;
+        const int name = nameOf(span.font, item.gid);
+        if (name == 0)
+            continue;
+        const fz_point place = fz_transform_point_xy(item.x, item.y, toPage);
+        if (!std::exchange(hasBegun, true)) {
+            group.e = float(rounded(place.x));
+            group.f = float(rounded(place.y));
+            if (fz_try_invert_matrix(&toGroup, group) != 0)
+                return; // too flat to be seen
+            iBody << "<g";
+            writePaint(paint, em > 0 ? unitsPerEm / em : 1);
+            writeMatrix(group);
+            iBody << ">\n";
+        }
+        const fz_point offset = fz_transform_point(place, toGroup);
+        iBody << "<use href=\"#g" << name << "\"";
+        if (const int x = rounded(offset.x); x != 0)
+            iBody << " x=\"" << x << "\"";
+        if (const int y = rounded(offset.y); y != 0)
+            iBody << " y=\"" << y << "\"";
+        iBody << "/>\n";
+    }
+    if (hasBegun)
+        iBody << "</g>\n";
+}
+
+void SVGWriter::path(const fz_path* path, bool isEvenOdd, const fz_matrix& matrix,
+                     const SVGPaint& paint) {
+    if (isOutside(fz_bound_path(iContext, path, paint.stroke, matrix)))
+        return;
+    const fz_matrix toPage = fz_concat(matrix, iToUnits);
+    fz_matrix ofPoints = toPage;
+    iBody << "<path";
+    if (!paint.stroke || keepsCircles(toPage)) {
+        writePaint(paint, fz_matrix_expansion(toPage));
+    } else {
+        // The pen is not round. Units of its own are as fine as those of the page.
+        const float scale = fz_matrix_max_expansion(toPage);
+        writePaint(paint, scale);
+        writeMatrix(fz_pre_scale(toPage, 1 / scale, 1 / scale));
+        ofPoints = fz_scale(scale, scale);
+    }
+    if (isEvenOdd)
+        iBody << " fill-rule=\"evenodd\"";
+    iBody << " d=\"";
+    writePath(iContext, path, ofPoints, iBody);
+    iBody << "\"/>\n";
+}
+
+void SVGWriter::beginClip(const fz_path* path, bool isEvenOdd, const fz_matrix& matrix) {
+    iOutline.clear();
+    writePath(iContext, path, fz_concat(matrix, iToUnits), iOutline);
+    // Most clip to all of the page.
+    const bool isAll =
+        fz_contains_rect(fz_bound_path(iContext, path, nullptr, matrix), iPage) != 0 &&
+        isBox(iOutline.view());
+    iHasElement.push_back(!isAll);
+    if (isAll)
+        return;
+    ++iClips;
+    iBody << "<clipPath id=\"c" << iClips << "\"><path"
+          << (isEvenOdd ? " clip-rule=\"evenodd\"" : "") << " d=\"" << iOutline.view()
+          << "\"/></clipPath><g clip-path=\"url(#c" << iClips << ")\">\n";
+    if (iOutline.isFull())
+        giveUp();
+}
+
+void SVGWriter::beginGroup(float alpha) {
+    iHasElement.push_back(alpha < 1);
+    if (alpha < 1)
+        iBody << "<g opacity=\"" << alpha << "\">\n";
+}
+
+void SVGWriter::end() {
+    if (iHasElement.empty())
+        return;
+    if (iHasElement.back())
+        iBody << "</g>\n";
+    iHasElement.pop_back();
+}
+
+std::string SVGWriter::file() const {
+    const float width = iPage.x1 - iPage.x0;
+    const float height = iPage.y1 - iPage.y0;
+    SVGText head(512);
+    head << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << width << "pt\" height=\""
+         << height << "pt\" viewBox=\"0 0 " << width * unitsPerPoint << " "
+         << height * unitsPerPoint
+         << "\">\n"
+         // On white, like the page's other pictures: it may be shown on top of one of them.
+         << "<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>\n<defs>\n";
+    std::string text(head.view());
+    return text.append(iDefinitions.view())
+        .append("</defs>\n")
+        .append(iBody.view())
+        .append("</svg>\n");
+}

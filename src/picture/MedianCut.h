@@ -1,0 +1,26 @@
+#pragma once
+
+#include "picture/PaletteBitmap.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+// A colour of a picture, and how many pixels have it.
+struct CountedColour {
+    PaletteBitmap::Colour colour{};
+    std::uint32_t count = 0;
+    std::size_t id = 0; // the caller's own
+};
+
+// Similar colours and the one that stands for them.
+struct ColourBox {
+    PaletteBitmap::Colour mean{};
+    std::size_t begin = 0; // indices into the sorted colours
+    std::size_t end = 0;
+    double error = 0; // sum of the squared errors of all pixels and channels
+};
+
+// Sorts the colours into at most so many boxes: the box with the largest error is split in two
+// until there are so many. There must be a colour.
+std::vector<ColourBox> medianCut(std::vector<CountedColour>& colours, std::size_t most);

@@ -1,0 +1,99 @@
+#include "pdf/VectorEncoder.h"
+
+#include "builder/PDFBuilder.h"
+#include "pdf/DrawablePDF.h"
+#include "pdf/DrawablePage.h"
+#include "support/TemplateLibrary.h"
+#include "util/NSData+CocoaDevUsersAdditions.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr QSize size(320, 240);
+
+// Small differences are due to rounding along edges: what counts is what a reader sees from afar.
+QImage fromAfar(const QImage& image) {
+    return image.convertToFormat(QImage::Format_RGB32)
+        .scaled(size / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+// The largest difference of a channel.
+int difference(const QImage& a, const QImage& b) {
+    int largest = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            for (const int shift : {0, 8, 16}) {
+                const auto channel = [&](const QImage& image) {
+                    return int(image.pixel(x, y) >> shift & 0xFF);
+                };
+                largest = std::max(largest, std::abs(channel(a) - channel(b)));
+            }
+        }
+    }
+    return largest;
+}
+
+// What librsvg shows of the vectors of a page, which must have some.
+QImage shown(const QByteArray& svg, const QString& folder) {
+    TestFiles::write(folder + "/page.svg", svg);
+    const QString command = "cd '%1' && rsvg-convert --width=320 --output=page.png page.svg";
+    EXPECT_EQ(std::system(command.arg(folder).toUtf8().constData()), 0);
+    return QImage(folder + "/page.png");
+}
+
+} // namespace
+
+TEST(VectorEncoder, ShowsWhatIsDrawn) {
+    const std::pair<const char*, QByteArray> contents[] = {
+        {"text",
+         "1 0 0 rg BT /F 60 Tf 0.7 0.3 -0.3 0.7 30 20 Tm (Mix) Tj 1.5 0 0 1 20 60 Tm (gap) Tj ET"},
+        {"stroked text", "0 0.5 0 RG 3 w 1 Tr BT /F 70 Tf 10 30 Td (Oh) Tj ET"},
+        {"curves", "0 0 1 rg 10 10 m 150 10 150 110 80 110 c 30 110 10 80 10 10 c f"},
+        {"even-odd", "0.2 g 10 10 120 90 re 40 30 60 50 re f*"},
+        {"nonzero", "0.2 g 10 10 120 90 re 40 30 60 50 re f"},
+        {"lines", "8 w 1 J 1 j 1 0 1 RG 20 20 m 60 100 l 100 20 l S 2 J 2 j 0 J 120 20 m 140 100 l "
+                  "150 20 l S"},
+        {"dashes", "10 w 1 0.5 0 RG [24 12] 6 d 10 60 m 150 60 l S"},
+        {"flat pen", "q 4 0 0 1 0 0 cm 8 w 10 10 m 10 100 l 30 100 l S Q"},
+        {"clip",
+         "q 40 20 m 120 60 l 40 100 l h W n 0 0.6 0.6 rg 0 0 160 120 re f Q 0 0 20 20 re f"},
+        {"even-odd clip", "q 10 10 120 90 re 40 30 60 50 re W* n 0.8 0 0 rg 0 0 160 120 re f Q"},
+        {"alpha", "/A gs 0 0 1 rg 10 10 90 90 re f 1 0 0 rg 60 20 90 90 re f"},
+        {"nested", "q 0.5 0 0 0.5 10 10 cm q 0 0 200 200 re W n 0.9 0.4 0 rg 20 20 300 150 re f Q "
+                   "0 0 1 RG 6 w 20 20 300 150 re S Q"},
+    };
+    PDFBuilder builder;
+    const int state = builder.addObject("<< /ca 0.5 /CA 0.5 >>");
+    for (const auto& [name, content] : contents) {
+        auto page = PDFBuilder::page(QSizeF(size) / 2, content);
+        page.fonts = {{"F", "Helvetica-Bold"}};
+        page.extraEntries =
+            "/Resources << /ExtGState << /A " + PDFBuilder::reference(state) + " >> >>";
+        builder.addPage(page);
+    }
+    const QTemporaryDir folder;
+    TestFiles::write(folder.filePath("test.pdf"), builder.build());
+    const DrawablePDF document(folder.filePath("test.pdf"));
+    VectorEncoder encoder;
+    for (int i = 0; i < document.pageCount(); ++i) {
+        SCOPED_TRACE(contents[i].first);
+        const DrawablePage page(document, i);
+        PageBitmap bitmap;
+        page.draw(2, bitmap);
+        ASSERT_EQ(QSize(bitmap.width(), bitmap.height()), size);
+        const QImage drawn(bitmap.data(), bitmap.width(), bitmap.height(), bitmap.stride(),
+                           bitmap.components() == 1 ? QImage::Format_Grayscale8
+                                                    : QImage::Format_RGB888);
+        const QImage seen =
+            shown(NSDataExtension::zlibInflate(encoder.encode(page)), folder.path());
+        ASSERT_EQ(seen.size(), size);
+        EXPECT_LT(difference(fromAfar(drawn), fromAfar(seen)), 24);
+        QImage blank(size, QImage::Format_RGB32);
+        blank.fill(Qt::white);
+        EXPECT_GT(difference(fromAfar(drawn), fromAfar(blank)), 100);
+    }
+}
