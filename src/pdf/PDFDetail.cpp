@@ -1,7 +1,7 @@
 #include "pdf/PDFRecording.h"
 
+#include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 

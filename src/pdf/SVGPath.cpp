@@ -9,11 +9,6 @@ struct Pen {
     int startX = 0, startY = 0; // of the current subpath
     char command = '\0';        // repeated ones are left out
 
-    // A far point can't be told by a whole number; nothing of it is seen.
-    static int rounded(float number) {
-        constexpr float furthest = 1e8F;
-        return int(std::lrintf(std::fmin(std::fmax(number, -furthest), furthest)));
-    }
     fz_point placed(float atX, float atY) const { return fz_transform_point_xy(atX, atY, matrix); }
     void begin(char next) {
         if (command != next)
@@ -23,12 +18,12 @@ struct Pen {
     }
     void add(float atX, float atY) {
         const fz_point point = placed(atX, atY);
-        to.next(rounded(point.x) - x).next(rounded(point.y) - y);
+        to.next(roundedUnits(point.x) - x).next(roundedUnits(point.y) - y);
     }
     void move(float atX, float atY) {
         const fz_point point = placed(atX, atY);
-        x = rounded(point.x);
-        y = rounded(point.y);
+        x = roundedUnits(point.x);
+        y = roundedUnits(point.y);
     }
 };
 
@@ -49,8 +44,8 @@ void moveTo(fz_context* /*ctx*/, void* arg, float x, float y) {
 void lineTo(fz_context* /*ctx*/, void* arg, float x, float y) {
     Pen& pen = penOf(arg);
     const fz_point point = pen.placed(x, y);
-    const int right = Pen::rounded(point.x) - pen.x;
-    const int down = Pen::rounded(point.y) - pen.y;
+    const int right = roundedUnits(point.x) - pen.x;
+    const int down = roundedUnits(point.y) - pen.y;
     if (down == 0) {
         pen.begin('h');
         pen.to.next(right);

@@ -7,6 +7,12 @@
 #include <memory>
 #include <string_view>
 
+// A number of the file. A far point can't be told by a whole number; nothing of it is seen.
+inline int roundedUnits(float number) {
+    constexpr float furthest = 1e8F;
+    return int(std::lrintf(std::fmin(std::fmax(number, -furthest), furthest)));
+}
+
 // Text of an SVG file under construction. It grows to a limit only, and never throws: it is written
 // from within MuPDF's C functions. Numbers are whole: the file states their unit by a scale.
 class SVGText {

@@ -22,11 +22,6 @@ constexpr float unitsPerEm = 1000;
 // Thinner lines vanish where a page is small.
 constexpr float thinnestLine = 0.1F * unitsPerPoint;
 
-int rounded(float number) {
-    constexpr float furthest = 1e8F;
-    return int(std::lrintf(std::fmin(std::fmax(number, -furthest), furthest)));
-}
-
 // Whether a circle stays one.
 bool keepsCircles(const fz_matrix& matrix) {
     const float tolerance = 1e-3F * (std::abs(matrix.a) + std::abs(matrix.b));
@@ -194,8 +189,8 @@ void SVGWriter::writeSpan(const fz_text_span& span, const fz_matrix& matrix,
             continue;
         const fz_point place = fz_transform_point_xy(item.x, item.y, toPage);
         if (!std::exchange(hasBegun, true)) {
-            group.e = float(rounded(place.x));
-            group.f = float(rounded(place.y));
+            group.e = float(roundedUnits(place.x));
+            group.f = float(roundedUnits(place.y));
             if (fz_try_invert_matrix(&toGroup, group) != 0)
                 return; // too flat to be seen
             iBody << "<g";
@@ -205,9 +200,9 @@ void SVGWriter::writeSpan(const fz_text_span& span, const fz_matrix& matrix,
         }
         const fz_point offset = fz_transform_point(place, toGroup);
         iBody << "<use href=\"#g" << name << "\"";
-        if (const int x = rounded(offset.x); x != 0)
+        if (const int x = roundedUnits(offset.x); x != 0)
             iBody << " x=\"" << x << "\"";
-        if (const int y = rounded(offset.y); y != 0)
+        if (const int y = roundedUnits(offset.y); y != 0)
             iBody << " y=\"" << y << "\"";
         iBody << "/>\n";
     }

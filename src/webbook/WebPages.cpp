@@ -11,9 +11,8 @@ QString existing(const QString& path) {
 WebPage pageFrom(const FlashPage& page, const std::optional<WebPageFiles>& files) {
     WebPage result;
     result.number = page.pageIndex();
-    result.pageFile = page.pageFilePath();
-    result.picture = result.pageFile;
-    if (!files || !files->isPictureOfPage(result.pageFile))
+    result.picture = page.pageFilePath();
+    if (!files || !files->isPictureOfPage(result.picture))
         return result; // provided by the user
     if (QFileInfo::exists(files->picture))
         result.picture = files->picture;

@@ -7,8 +7,7 @@
 
 // The files of one page of a web book, in a work folder; null for those that don't exist.
 struct WebPage {
-    QString pageFile; // that of the source; its name may be that of a picture
-    int number = 0;   // the page's one-based number in the PDF, used in file names
+    int number = 0; // the page's one-based number in the PDF, used in file names
     QString picture;
     QString thumbnail;
     QString large;   // a larger picture, or an SVG file as zlib packs it
