@@ -17,8 +17,13 @@ constexpr std::size_t maxShades = 6000;
 constexpr unsigned slotBits = 14;
 constexpr std::size_t maxColours = 256;
 
-// The most frequent colours are those of fills and texts, which stay as they are.
+// Colours of more pixels than this share, of one in so many, are those of fills and texts, which
+// stay as they are.
 constexpr std::size_t exactColours = 64;
+constexpr double exactShare = 2000;
+
+// The mean squared error of a sample from which on more colours are a waste: gray text has as much.
+constexpr double wantedSquaredError = 1.5;
 
 int bitsFor(std::size_t colours) {
     if (colours <= 2)
@@ -207,7 +212,8 @@ bool ColourReducer::countColours(const PageBitmap& bitmap, std::size_t most) {
         });
 }
 
-ColourReducer::Palette ColourReducer::choosePalette() const {
+ColourReducer::Palette ColourReducer::choosePalette(const PageBitmap& bitmap) const {
+    const double pixels = double(bitmap.width()) * bitmap.height();
     Palette palette;
     palette.indexOf.resize(iColours.size());
     const auto add = [&palette](const CountedColour& colour) {
@@ -219,13 +225,17 @@ ColourReducer::Palette ColourReducer::choosePalette() const {
         return palette;
     }
     std::vector<CountedColour> rest = iColours;
-    const auto exact = rest.begin() + std::ptrdiff_t(exactColours);
+    auto exact = rest.begin() + std::ptrdiff_t(exactColours);
     std::nth_element(
         rest.begin(), exact, rest.end(),
         [](const CountedColour& a, const CountedColour& b) { return a.count > b.count; });
+    exact = std::partition(rest.begin(), exact, [&](const CountedColour& one) {
+        return one.count * exactShare > pixels;
+    });
     std::for_each(rest.begin(), exact, add);
     rest.erase(rest.begin(), exact);
-    for (const ColourBox& box : medianCut(rest, maxColours - exactColours)) {
+    const double wanted = wantedSquaredError * pixels * bitmap.components();
+    for (const ColourBox& box : medianCut(rest, maxColours - palette.colours.size(), wanted)) {
         for (std::size_t i = box.begin; i < box.end; ++i)
             palette.indexOf[rest[i].id] = static_cast<unsigned char>(palette.colours.size());
         palette.colours.push_back(box.mean);
@@ -239,7 +249,8 @@ const PaletteBitmap* ColourReducer::reduce(const PageBitmap& bitmap, double maxS
         return reduceGray(bitmap, maxSquaredError, iReduced) ? &iReduced : nullptr;
     if (!countColours(bitmap, maxSquaredError > 0 ? maxShades : maxColours))
         return nullptr;
-    Palette palette = choosePalette();
+    Palette palette = choosePalette(bitmap);
+
     if (meanOf(palette.error, bitmap) > maxSquaredError)
         return nullptr;
     reset(iReduced, bitmap, std::move(palette.colours));

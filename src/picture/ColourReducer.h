@@ -39,7 +39,7 @@ private:
 
     std::optional<std::uint32_t> idOf(std::uint32_t rgb, std::size_t most);
     bool countColours(const PageBitmap& bitmap, std::size_t most);
-    Palette choosePalette() const;
+    Palette choosePalette(const PageBitmap& bitmap) const;
 
     std::vector<Slot> iSlots;            // hash table
     std::vector<CountedColour> iColours; // the picture's

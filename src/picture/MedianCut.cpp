@@ -7,14 +7,20 @@ namespace {
 
 constexpr std::size_t channels = 3;
 
+// Nobody sees a difference of half of it along an edge. Sixteen levels of gray are as far apart.
+constexpr int maxRange = 32;
+
 struct Box : ColourBox {
     std::size_t widest = 0; // the channel with the largest error
+    int range = 0;          // the largest of a channel
 };
 
 Box measured(const std::vector<CountedColour>& colours, std::size_t begin, std::size_t end) {
     double count = 0;
     std::array<double, channels> sums{};
     std::array<double, channels> squares{};
+    PaletteBitmap::Colour least{255, 255, 255};
+    PaletteBitmap::Colour most{};
     for (std::size_t i = begin; i < end; ++i) {
         const double weight = colours[i].count;
         count += weight;
@@ -22,6 +28,8 @@ Box measured(const std::vector<CountedColour>& colours, std::size_t begin, std::
             const double value = colours[i].colour[channel];
             sums[channel] += weight * value;
             squares[channel] += weight * value * value;
+            least[channel] = std::min(least[channel], colours[i].colour[channel]);
+            most[channel] = std::max(most[channel], colours[i].colour[channel]);
         }
     }
     Box box;
@@ -33,6 +41,7 @@ Box measured(const std::vector<CountedColour>& colours, std::size_t begin, std::
         const double error = std::max(0.0, squares[channel] - sums[channel] * mean);
         box.mean[channel] = static_cast<unsigned char>(std::lround(mean));
         box.error += error;
+        box.range = std::max(box.range, most[channel] - least[channel]);
         if (error > largest) {
             largest = error;
             box.widest = channel;
@@ -58,21 +67,28 @@ std::size_t split(std::vector<CountedColour>& colours, const Box& box) {
     return std::size_t(middle - colours.begin());
 }
 
-bool hasSmallerError(const Box& a, const Box& b) {
-    return a.error < b.error;
+// Boxes that are too wide come first: a few pixels of another colour are seen, too.
+bool isBetter(const Box& a, const Box& b) {
+    const bool isWide = a.range > maxRange;
+    const bool isOtherWide = b.range > maxRange;
+    return isWide != isOtherWide ? isOtherWide : a.error < b.error;
 }
 
 } // namespace
 
-std::vector<ColourBox> medianCut(std::vector<CountedColour>& colours, std::size_t most) {
+std::vector<ColourBox> medianCut(std::vector<CountedColour>& colours, std::size_t most,
+                                 double error) {
     std::vector<Box> boxes{measured(colours, 0, colours.size())};
+    double sum = boxes.front().error;
     while (boxes.size() < most) {
-        Box& worst = *std::max_element(boxes.begin(), boxes.end(), hasSmallerError);
-        if (worst.end - worst.begin < 2)
-            break; // all others are exact, too
+        Box& worst = *std::max_element(boxes.begin(), boxes.end(), isBetter);
+        if (worst.range <= maxRange && sum <= error)
+            break;
         const std::size_t middle = split(colours, worst);
         const Box upper = measured(colours, middle, worst.end);
+        sum -= worst.error;
         worst = measured(colours, worst.begin, middle);
+        sum += worst.error + upper.error;
         boxes.push_back(upper);
     }
     return {boxes.begin(), boxes.end()};

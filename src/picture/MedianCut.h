@@ -21,6 +21,7 @@ struct ColourBox {
     double error = 0; // sum of the squared errors of all pixels and channels
 };
 
-// Sorts the colours into at most so many boxes: the box with the largest error is split in two
-// until there are so many. There must be a colour.
-std::vector<ColourBox> medianCut(std::vector<CountedColour>& colours, std::size_t most);
+// Sorts the colours into boxes: the worst is split in two until the error is no larger than allowed
+// and nobody sees the difference, but into no more boxes than most. There must be a colour.
+std::vector<ColourBox> medianCut(std::vector<CountedColour>& colours, std::size_t most,
+                                 double error);

@@ -74,7 +74,7 @@ TEST(ColourReducer, RoundsColoursWhereNobodySeesIt) {
         {"shadow", 1, darkGray, 24, 4, 1},    {"scan", 1, levelOfGray, 64, 4, notReduced},
         {"pair", 3, farColour, 2, 1, 0},      {"three", 3, farColour, 3, 2, 0},
         {"few", 3, farColour, 16, 4, 0},      {"chart", 3, farColour, 250, 8, 0},
-        {"glyphs", 3, nearColour, 300, 8, 2}, {"photograph", 3, farColour, 900, 8, notReduced}};
+        {"glyphs", 3, nearColour, 300, 8, 8}, {"photograph", 3, farColour, 900, 8, notReduced}};
     ColourReducer reducer;
     PNGEncoder encoder;
     for (const auto& [name, components, colourOf, count, bits, error] : cases) {
