@@ -120,9 +120,10 @@ void WebPageMaker::makeLarge(const DrawablePage& page, PageBitmap& bitmap,
     Stopwatch watch;
     const bool isPhotograph = !QFileInfo::exists(files.picture);
     const auto largest = qint64(double(taken) * (isPhotograph ? maxPhotographRatio : maxRatio));
-    const QByteArray vectors = iVectorEncoder.encode(page);
+    const bool hasVectors = iDetail.hasOutlines || !iDetail.hasShades;
+    const QByteArray vectors = hasVectors ? iVectorEncoder.encode(page, largest) : QByteArray();
     timing.encode += watch.lap();
-    if (!vectors.isEmpty() && vectors.size() <= largest) {
+    if (!vectors.isEmpty()) {
         write(files.largeVector, bytesOf(vectors), timing);
         return;
     }

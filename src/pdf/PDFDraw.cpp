@@ -33,28 +33,6 @@ PixelSize pixelSize(double width, double height, double scale) {
     return {whole(width), whole(height), scale * factor};
 }
 
-// Whether any pixel of a colour picture is not gray.
-bool hasColour(const PageBitmap& bitmap) {
-    const unsigned char* pixel = bitmap.data();
-    for (int y = 0; y < bitmap.height(); ++y) {
-        unsigned difference = 0;
-        for (int x = 0; x < bitmap.width(); ++x, pixel += 3)
-            difference |= unsigned(pixel[0] ^ pixel[1]) | unsigned(pixel[1] ^ pixel[2]);
-        if (difference > 1)
-            return true;
-    }
-    return false;
-}
-
-// Converts to gray in place by keeping the first component of every pixel.
-void dropColour(PageBitmap& bitmap) {
-    const std::size_t count = std::size_t(bitmap.width()) * std::size_t(bitmap.height());
-    unsigned char* samples = bitmap.data();
-    for (std::size_t i = 0; i < count; ++i)
-        samples[i] = samples[3 * i];
-    bitmap.resize(bitmap.width(), bitmap.height(), 1);
-}
-
 // Draws everything but the first group.
 struct GroupSkipper : ForwardingDevice {
     int depth; // of groups, the skipped one included
@@ -145,6 +123,5 @@ void DrawablePage::draw(double scale, PageBitmap& bitmap) const {
     });
     page.watch.throwIfEnded();
     // Using a colour space counts as colour so far; scans are often gray all the same.
-    if (bitmap.components() == 3 && !hasColour(bitmap))
-        dropColour(bitmap);
+    bitmap.dropColourOfGray();
 }

@@ -52,13 +52,16 @@ void SVGWriter::forgetFonts() {
     iOutlines.clear();
 }
 
-void SVGWriter::begin(fz_rect page) {
+void SVGWriter::begin(fz_rect page, std::size_t mostPictureBytes) {
     if (iOutlines.size() > maxOutlines)
         forgetFonts();
     iNames.clear();
     iGlyphs = 0;
     iClips = 0;
-    iHasElement.clear();
+    iLevels.clear();
+    iPictureElements.clear();
+    iPictureCount = 0;
+    iMostPictureBytes = mostPictureBytes;
     iPage = page;
     iToUnits = fz_concat(fz_translate(-page.x0, -page.y0), fz_scale(unitsPerPoint, unitsPerPoint));
     iIsCorrect = true;
@@ -68,6 +71,10 @@ void SVGWriter::begin(fz_rect page) {
 
 bool SVGWriter::isCorrect() const {
     return iIsCorrect && !iBody.isFull() && !iDefinitions.isFull();
+}
+
+fz_rect SVGWriter::visible() const {
+    return iLevels.empty() ? iPage : iLevels.back().visible;
 }
 
 bool SVGWriter::isOutside(fz_rect area) const {
@@ -233,14 +240,34 @@ void SVGWriter::path(const fz_path* path, bool isEvenOdd, const fz_matrix& matri
     iBody << "\"/>\n";
 }
 
+void SVGWriter::picture(SVGDrawing drawing) {
+    drawing.area = fz_intersect_rect(drawing.area, visible());
+    if (fz_is_empty_rect(drawing.area))
+        return;
+    const SVGPictures::Picture picture = iPictures.make(iContext, drawing);
+    if (picture.address.isEmpty() ||
+        iPictureElements.size() + std::size_t(picture.address.size()) > iMostPictureBytes) {
+        giveUp();
+        return;
+    }
+    const fz_rect place = fz_transform_rect(picture.area, iToUnits);
+    SVGText element(256);
+    element << "<image id=\"p" << ++iPictureCount << "\" x=\"" << place.x0 << "\" y=\"" << place.y0
+            << "\" width=\"" << place.x1 - place.x0 << "\" height=\"" << place.y1 - place.y0
+            << "\" preserveAspectRatio=\"none\" href=\"";
+    iPictureElements.append(element.view())
+        .append(picture.address.constData(), std::size_t(picture.address.size()))
+        .append("\"/>\n");
+    iBody << "<use href=\"#p" << iPictureCount << "\"/>\n";
+}
+
 void SVGWriter::beginClip(const fz_path* path, bool isEvenOdd, const fz_matrix& matrix) {
     iOutline.clear();
     writePath(iContext, path, fz_concat(matrix, iToUnits), iOutline);
+    const fz_rect bounds = fz_bound_path(iContext, path, nullptr, matrix);
     // Most clip to all of the page.
-    const bool isAll =
-        fz_contains_rect(fz_bound_path(iContext, path, nullptr, matrix), iPage) != 0 &&
-        isBox(iOutline.view());
-    iHasElement.push_back(!isAll);
+    const bool isAll = fz_contains_rect(bounds, iPage) != 0 && isBox(iOutline.view());
+    iLevels.push_back({fz_intersect_rect(bounds, visible()), !isAll});
     if (isAll)
         return;
     ++iClips;
@@ -252,17 +279,17 @@ void SVGWriter::beginClip(const fz_path* path, bool isEvenOdd, const fz_matrix& 
 }
 
 void SVGWriter::beginGroup(float alpha) {
-    iHasElement.push_back(alpha < 1);
+    iLevels.push_back({visible(), alpha < 1});
     if (alpha < 1)
         iBody << "<g opacity=\"" << alpha << "\">\n";
 }
 
 void SVGWriter::end() {
-    if (iHasElement.empty())
+    if (iLevels.empty())
         return;
-    if (iHasElement.back())
+    if (iLevels.back().hasElement)
         iBody << "</g>\n";
-    iHasElement.pop_back();
+    iLevels.pop_back();
 }
 
 std::string SVGWriter::file() const {
@@ -277,6 +304,7 @@ std::string SVGWriter::file() const {
          << "<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>\n<defs>\n";
     std::string text(head.view());
     return text.append(iDefinitions.view())
+        .append(iPictureElements)
         .append("</defs>\n")
         .append(iBody.view())
         .append("</svg>\n");

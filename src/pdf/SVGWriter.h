@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pdf/SVGPictures.h"
 #include "pdf/SVGText.h"
 
 #include <map>
@@ -27,8 +28,8 @@ public:
     SVGWriter(const SVGWriter&) = delete;
     SVGWriter& operator=(const SVGWriter&) = delete;
 
-    // Begins the file of a page with these bounds.
-    void begin(fz_rect page);
+    // Begins the file of a page with these bounds. Its pictures may take so many bytes.
+    void begin(fz_rect page, std::size_t mostPictureBytes);
     // False for a page that the file would not show correctly, or that a browser would take seconds
     // to draw. What is written after that is ignored.
     bool isCorrect() const;
@@ -37,6 +38,8 @@ public:
     // What lies outside the page is left out: the publisher does not see it.
     void text(const fz_text& text, const fz_matrix& matrix, const SVGPaint& paint);
     void path(const fz_path* path, bool isEvenOdd, const fz_matrix& matrix, const SVGPaint& paint);
+    // Adds a picture of what is drawn by itself. Only what is seen of its area is drawn.
+    void picture(SVGDrawing drawing);
     // Clips and groups end in the order reverse to their beginning.
     void beginClip(const fz_path* path, bool isEvenOdd, const fz_matrix& matrix);
     void beginGroup(float alpha);
@@ -50,6 +53,7 @@ private:
 
     void forgetFonts();
     bool isOutside(fz_rect area) const;
+    fz_rect visible() const;
     void writePaint(const SVGPaint& paint, float strokeScale);
     void writeStroke(const fz_stroke_state& stroke, float scale);
     void writeMatrix(const fz_matrix& matrix);
@@ -62,11 +66,20 @@ private:
     std::map<GlyphKey, int> iNames;            // of the glyphs of this page; 0 for empty ones
     int iGlyphs = 0;
     int iClips = 0;
-    std::vector<bool> iHasElement; // whether each clip and group that has begun is an element
+    // A clip or group that has begun.
+    struct Level {
+        fz_rect visible; // of the page
+        bool hasElement;
+    };
+    std::vector<Level> iLevels;
     fz_rect iPage{};
     fz_matrix iToUnits{};
     bool iIsCorrect = true;
     SVGText iBody;
     SVGText iDefinitions;
     SVGText iOutline;
+    SVGPictures iPictures;
+    std::string iPictureElements; // their definitions
+    std::size_t iMostPictureBytes = 0;
+    int iPictureCount = 0;
 };

@@ -8,8 +8,9 @@
 class DrawablePage;
 class SVGWriter;
 
-// Writes pages of text, lines and fills as SVG files, in which each glyph is defined once. Reuse
-// one object for the pages of a document, which must outlive it: it keeps the glyphs' outlines.
+// Writes pages as SVG files, in which each glyph is defined once; images and gradients are pictures
+// in them. Reuse one object for the pages of a document, which must outlive it: it keeps the
+// glyphs' outlines.
 class VectorEncoder {
 public:
     VectorEncoder();
@@ -17,11 +18,11 @@ public:
     VectorEncoder(const VectorEncoder&) = delete;
     VectorEncoder& operator=(const VectorEncoder&) = delete;
 
-    // The page in points, on white, as zlib packs it. Empty for a page with more than that, which
-    // only a bitmap shows correctly, and for one that a browser would take seconds to draw. What
-    // lies outside the page is left out: the publisher does not see it. Throws PlatformException as
-    // DrawablePage does.
-    QByteArray encode(const DrawablePage& page);
+    // The page in points, on white, as zlib packs it. Empty for a file of more bytes, for a page
+    // with effects that only a bitmap shows correctly, and for one that a browser would take
+    // seconds to draw. What lies outside the page is left out: the publisher does not see it.
+    // Throws PlatformException as DrawablePage does.
+    QByteArray encode(const DrawablePage& page, qint64 mostBytes = qint64{1} << 30);
 
 private:
     std::unique_ptr<SVGWriter> iWriter;

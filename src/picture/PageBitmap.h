@@ -28,7 +28,12 @@ public:
     unsigned char* data() { return iData.get(); }
     const unsigned char* data() const { return iData.get(); }
 
+    // Makes a colour picture in which every pixel is gray one of a single component.
+    void dropColourOfGray();
+
 private:
+    bool hasColour() const;
+
     std::unique_ptr<unsigned char[]> iData;
     std::size_t iCapacity = 0;
     int iWidth = 0;

@@ -65,14 +65,37 @@ TEST(VectorEncoder, ShowsWhatIsDrawn) {
         {"alpha", "/A gs 0 0 1 rg 10 10 90 90 re f 1 0 0 rg 60 20 90 90 re f"},
         {"nested", "q 0.5 0 0 0.5 10 10 cm q 0 0 200 200 re W n 0.9 0.4 0 rg 20 20 300 150 re f Q "
                    "0 0 1 RG 6 w 20 20 300 150 re S Q"},
+        {"gradient", "q 20 10 120 80 re W n /S sh Q 0 0 20 20 re f"},
+        {"image", "q 110 30 -30 70 40 10 cm BI /W 2 /H 2 /BPC 8 /CS /RGB /F /AHx ID "
+                  "FF0000 00FF00 0000FF 000000> EI Q"},
+        {"stencil", "0 0.5 0 rg q 96 0 0 96 20 10 cm BI /W 8 /H 2 /IM true /D [1 0] /F /AHx ID "
+                    "F0CC> EI Q"},
+        {"soft mask", "q /M gs 1 0 0 rg 10 10 140 100 re f Q 0 0 30 30 re f"},
+        {"pattern", "q /Pattern cs /P scn 10 10 130 90 re f Q 0 0 20 20 re f"},
+        {"clip to text", "q BT 7 Tr /F 70 Tf 10 30 Td (Oh) Tj ET 0 0 1 rg 0 0 160 60 re f Q "
+                         "10 100 m 150 100 l S"},
     };
     PDFBuilder builder;
     const int state = builder.addObject("<< /ca 0.5 /CA 0.5 >>");
+    const int shading =
+        builder.addObject("<< /ShadingType 2 /ColorSpace /DeviceRGB /Coords [20 0 140 0] /Function "
+                          "<< /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >>");
+    const int lights = builder.addStream(
+        "/Type /XObject /Subtype /Form /BBox [0 0 160 120] /Group << /S /Transparency /CS "
+        "/DeviceGray >>",
+        "1 g 40 20 80 80 re f");
+    const int tile = builder.addStream(
+        "/PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 20 20] /XStep 20 /YStep 20 "
+        "/Resources << >>",
+        "0 0.6 0 rg 0 0 12 12 re f");
+    const auto reference = PDFBuilder::reference;
     for (const auto& [name, content] : contents) {
         auto page = PDFBuilder::page(QSizeF(size) / 2, content);
         page.fonts = {{"F", "Helvetica-Bold"}};
-        page.extraEntries =
-            "/Resources << /ExtGState << /A " + PDFBuilder::reference(state) + " >> >>";
+        page.extraEntries = "/Resources << /ExtGState << /A " + reference(state) +
+                            " /M << /SMask << /S /Luminosity /G " + reference(lights) +
+                            " >> >> >> /Shading << /S " + reference(shading) +
+                            " >> /Pattern << /P " + reference(tile) + " >> >>";
         builder.addPage(page);
     }
     const QTemporaryDir folder;
@@ -91,7 +114,7 @@ TEST(VectorEncoder, ShowsWhatIsDrawn) {
         const QImage seen =
             shown(NSDataExtension::zlibInflate(encoder.encode(page)), folder.path());
         ASSERT_EQ(seen.size(), size);
-        EXPECT_LT(difference(fromAfar(drawn), fromAfar(seen)), 24);
+        EXPECT_LT(difference(fromAfar(drawn), fromAfar(seen)), 32);
         QImage blank(size, QImage::Format_RGB32);
         blank.fill(Qt::white);
         EXPECT_GT(difference(fromAfar(drawn), fromAfar(blank)), 100);
