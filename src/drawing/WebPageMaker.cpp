@@ -114,6 +114,28 @@ qint64 WebPageMaker::makeThumbnail(const PageBitmap& bitmap, const QString& path
     return write(path, jpeg, timing);
 }
 
+// Of a page that is one scan with more pixels than the page's picture: as the scanner made it.
+bool WebPageMaker::makeScan(const DrawablePage& page, PageBitmap& bitmap, const WebPageFiles& files,
+                            qint64 largest, PageTiming& timing) {
+    if (iDetail.hasOutlines || iDetail.imageScale * page.width() < worthwhile * bitmap.width())
+        return false;
+    Stopwatch watch;
+    const QByteArray jpeg = page.scannedJPEG();
+    if (!jpeg.isEmpty() && jpeg.size() <= largest) {
+        write(files.largePhotograph, bytesOf(jpeg), timing);
+        return true;
+    }
+    if (!page.drawScannedInk(bitmap))
+        return false;
+    timing.draw += watch.lap();
+    const PaletteBitmap* reduced = iReducer.reduce(bitmap, 0);
+    const QByteArray png = reduced ? iPNGEncoder.encode(*reduced) : QByteArray();
+    timing.encode += watch.lap();
+    if (reduced && png.size() <= largest)
+        write(files.largePicture, bytesOf(png), timing);
+    return true;
+}
+
 // Of what shows more than the page's picture.
 void WebPageMaker::makeLarge(const DrawablePage& page, PageBitmap& bitmap,
                              const WebPageFiles& files, qint64 taken, PageTiming& timing) {
@@ -127,6 +149,8 @@ void WebPageMaker::makeLarge(const DrawablePage& page, PageBitmap& bitmap,
         write(files.largeVector, bytesOf(vectors), timing);
         return;
     }
+    if (makeScan(page, bitmap, files, largest, timing))
+        return;
     const double most = isPhotograph ? largePhotographScale : largeScale;
     const double scale = iDetail.hasOutlines ? most : std::min(most, iDetail.imageScale);
     const int width = bitmap.width();

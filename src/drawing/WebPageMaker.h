@@ -34,6 +34,8 @@ public:
 
 private:
     qint64 makeThumbnail(const PageBitmap& bitmap, const QString& path, PageTiming& timing);
+    bool makeScan(const DrawablePage& page, PageBitmap& bitmap, const WebPageFiles& files,
+                  qint64 largest, PageTiming& timing);
     void makeLarge(const DrawablePage& page, PageBitmap& bitmap, const WebPageFiles& files,
                    qint64 taken, PageTiming& timing);
 

@@ -52,9 +52,16 @@ public:
 
     PageDetail detail() const;
 
+    // Of a page that shows a scanned image and nothing else, at the image's own resolution: its
+    // JPEG file as the page shows it, empty for other pages and where that would take decoding.
+    QByteArray scannedJPEG() const;
+    // Draws an image of two colours, up to the limit of a page; returns false for other pages.
+    bool drawScannedInk(PageBitmap& bitmap) const;
+
     struct Recording; // for the sources of this folder
     Recording& recording() const { return *iRecording; }
 
 private:
+    struct Scan;
     std::unique_ptr<Recording> iRecording;
 };

@@ -59,26 +59,15 @@ bool isPlainJPEG(const fz_image* image, const fz_compressed_buffer* buffer) {
 
 // Decodes an image that is a plain JPEG file; empty for others and for damaged ones.
 Samples decodeJPEG(fz_context* ctx, fz_image* image, int wantedWidth, int wantedHeight) {
-    const fz_compressed_buffer* buffer = fz_compressed_image_buffer(ctx, image);
-    if (!isPlainJPEG(image, buffer))
-        return {};
+    const std::span<const unsigned char> file = plainJPEG(ctx, image);
     const std::unique_ptr<void, int (*)(tjhandle)> decoder(tjInitDecompress(), tjDestroy);
-    const auto length = static_cast<unsigned long>(buffer->buffer->len);
-    int width = 0;
-    int height = 0;
-    int sampling = 0;
-    int space = 0;
-    if (!decoder ||
-        tjDecompressHeader3(decoder.get(), buffer->buffer->data, length, &width, &height, &sampling,
-                            &space) != 0 ||
-        width != image->w || height != image->h || (image->n == 1) != (space == TJCS_GRAY) ||
-        space == TJCS_CMYK || space == TJCS_YCCK)
+    if (file.empty() || !decoder)
         return {};
-    const tjscalingfactor factor = decodeScale(width, height, wantedWidth, wantedHeight);
+    const tjscalingfactor factor = decodeScale(image->w, image->h, wantedWidth, wantedHeight);
     Samples samples =
-        makeSamples(TJSCALED(width, factor), TJSCALED(height, factor), image->n == 1 ? 1 : 4);
-    if (tjDecompress2(decoder.get(), buffer->buffer->data, length, samples.data.get(),
-                      samples.width, samples.stride(), samples.height,
+        makeSamples(TJSCALED(image->w, factor), TJSCALED(image->h, factor), image->n == 1 ? 1 : 4);
+    if (tjDecompress2(decoder.get(), file.data(), static_cast<unsigned long>(file.size()),
+                      samples.data.get(), samples.width, samples.stride(), samples.height,
                       image->n == 1 ? TJPF_GRAY : TJPF_RGBX, 0) != 0)
         return {};
     return samples;
@@ -205,6 +194,25 @@ void fillImage(fz_context* ctx, fz_device* device, fz_image* image, fz_matrix pl
 }
 
 } // namespace
+
+std::span<const unsigned char> plainJPEG(fz_context* ctx, fz_image* image) {
+    const fz_compressed_buffer* buffer = fz_compressed_image_buffer(ctx, image);
+    if (!isPlainJPEG(image, buffer))
+        return {};
+    const std::unique_ptr<void, int (*)(tjhandle)> decoder(tjInitDecompress(), tjDestroy);
+    const std::span<const unsigned char> file(buffer->buffer->data, buffer->buffer->len);
+    int width = 0;
+    int height = 0;
+    int sampling = 0;
+    int space = 0;
+    if (!decoder ||
+        tjDecompressHeader3(decoder.get(), file.data(), static_cast<unsigned long>(file.size()),
+                            &width, &height, &sampling, &space) != 0 ||
+        width != image->w || height != image->h || (image->n == 1) != (space == TJCS_GRAY) ||
+        space == TJCS_CMYK || space == TJCS_YCCK)
+        return {};
+    return file;
+}
 
 void scaleImagesFast(fz_device* drawDevice) {
     defaultFillImage = drawDevice->fill_image;

@@ -1,5 +1,9 @@
 #include "pdf/SVGPath.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string>
+
 namespace {
 
 struct Pen {
@@ -85,4 +89,12 @@ constexpr fz_path_walker walker{moveTo,  lineTo,  curveTo, closePath,
 void writePath(fz_context* ctx, const fz_path* path, const fz_matrix& matrix, SVGText& to) {
     Pen pen{matrix, to};
     fz_walk_path(ctx, path, &walker, &pen);
+}
+
+bool isBox(std::string_view path) {
+    std::string commands;
+    std::copy_if(path.begin(), path.end(), std::back_inserter(commands),
+                 [](char letter) { return letter >= 'a'; });
+    return commands == "mhvhz" || commands == "mvhvz" || commands == "mhvhvz" ||
+           commands == "mvhvhz";
 }

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <iterator>
 
 namespace {
 
@@ -30,15 +29,6 @@ bool keepsCircles(const fz_matrix& matrix) {
     const bool isMirrored =
         std::abs(matrix.a + matrix.d) <= tolerance && std::abs(matrix.b - matrix.c) <= tolerance;
     return isTurned || isMirrored;
-}
-
-// Whether the commands of a path draw a rectangle with upright sides.
-bool isBox(std::string_view path) {
-    std::string commands;
-    std::copy_if(path.begin(), path.end(), std::back_inserter(commands),
-                 [](char letter) { return letter >= 'a'; });
-    return commands == "mhvhz" || commands == "mvhvz" || commands == "mhvhvz" ||
-           commands == "mvhvhz";
 }
 
 } // namespace

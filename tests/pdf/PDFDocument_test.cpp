@@ -35,10 +35,7 @@ constexpr char redCorner[] = "1 0 0 rg 0 0 100 50 re f";
 QImage draw(const DrawablePDF& document, int index, double scale = 1) {
     PageBitmap bitmap;
     DrawablePage(document, index).draw(scale, bitmap);
-    const bool gray = bitmap.components() == 1;
-    return QImage(bitmap.data(), bitmap.width(), bitmap.height(), bitmap.stride(),
-                  gray ? QImage::Format_Grayscale8 : QImage::Format_RGB888)
-        .copy();
+    return imageOf(bitmap).copy();
 }
 
 QByteArray vectors(const DrawablePDF& document, int index) {

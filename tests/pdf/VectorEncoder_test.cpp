@@ -3,6 +3,7 @@
 #include "builder/PDFBuilder.h"
 #include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
+#include "support/PixelCheck.h"
 #include "support/TemplateLibrary.h"
 #include "util/NSData+CocoaDevUsersAdditions.h"
 
@@ -14,28 +15,6 @@
 namespace {
 
 constexpr QSize size(320, 240);
-
-// Small differences are due to rounding along edges: what counts is what a reader sees from afar.
-QImage fromAfar(const QImage& image) {
-    return image.convertToFormat(QImage::Format_RGB32)
-        .scaled(size / 4, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-}
-
-// The largest difference of a channel.
-int difference(const QImage& a, const QImage& b) {
-    int largest = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            for (const int shift : {0, 8, 16}) {
-                const auto channel = [&](const QImage& image) {
-                    return int(image.pixel(x, y) >> shift & 0xFF);
-                };
-                largest = std::max(largest, std::abs(channel(a) - channel(b)));
-            }
-        }
-    }
-    return largest;
-}
 
 // What librsvg shows of the vectors of a page, which must have some.
 QImage shown(const QByteArray& svg, const QString& folder) {
@@ -108,15 +87,13 @@ TEST(VectorEncoder, ShowsWhatIsDrawn) {
         PageBitmap bitmap;
         page.draw(2, bitmap);
         ASSERT_EQ(QSize(bitmap.width(), bitmap.height()), size);
-        const QImage drawn(bitmap.data(), bitmap.width(), bitmap.height(), bitmap.stride(),
-                           bitmap.components() == 1 ? QImage::Format_Grayscale8
-                                                    : QImage::Format_RGB888);
+        const QImage drawn = imageOf(bitmap);
         const QImage seen =
             shown(NSDataExtension::zlibInflate(encoder.encode(page)), folder.path());
         ASSERT_EQ(seen.size(), size);
-        EXPECT_LT(difference(fromAfar(drawn), fromAfar(seen)), 32);
+        EXPECT_LT(difference(fromAfar(drawn, size / 4), fromAfar(seen, size / 4)), 32);
         QImage blank(size, QImage::Format_RGB32);
         blank.fill(Qt::white);
-        EXPECT_GT(difference(fromAfar(drawn), fromAfar(blank)), 100);
+        EXPECT_GT(difference(fromAfar(drawn, size / 4), fromAfar(blank, size / 4)), 100);
     }
 }
