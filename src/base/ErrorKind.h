@@ -8,8 +8,10 @@ enum class ErrorKind {
     pageRangeTooLong,
 
     // A PDF and its pages.
-    pdfOpen,
-    pdfChanged, // while it was open
+    pdfFile,     // no file to read: missing, a folder, not readable
+    pdfOpen,     // not a PDF, damaged
+    pdfPassword, // it needs one, or another one
+    pdfChanged,  // while it was open
     pageMissing,
     pageUnreadable,
     pageTimeout,

@@ -4,15 +4,16 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <new>
 
 namespace {
 
 bool isTemporaryError(int error) {
     // ENOENT is for a folder that existed.
-    static constexpr int errors[]{ENOENT,      ENOSPC,    EDQUOT,     EIO,       ENODEV,
-                                  ENXIO,       ESTALE,    ENOTCONN,   EHOSTDOWN, EHOSTUNREACH,
-                                  ENETUNREACH, ETIMEDOUT, ECONNRESET, EAGAIN,    EBUSY,
-                                  EMFILE,      ENFILE,    ENOMEM};
+    static constexpr int errors[]{
+        ENOENT,      ENOSPC,    EDQUOT,     EROFS,    EACCES, EPERM,     EIO,
+        ENODEV,      ENXIO,     ESTALE,     ENOTCONN, EAGAIN, EHOSTDOWN, EHOSTUNREACH,
+        ENETUNREACH, ETIMEDOUT, ECONNRESET, EBUSY,    EMFILE, ENFILE,    ENOMEM};
     return std::find(std::begin(errors), std::end(errors), error) != std::end(errors);
 }
 
@@ -33,6 +34,12 @@ Message Message::ofSystemError(int error) {
 
 Message Message::ofLastSystemError() {
     return ofSystemError(errno);
+}
+
+Message Message::ofException(const std::exception& failure) {
+    return dynamic_cast<const std::bad_alloc*>(&failure)
+               ? ofSystemError(ENOMEM)
+               : Message(QString::fromUtf8(failure.what()));
 }
 
 Message Message::temporary() const {

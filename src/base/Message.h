@@ -3,6 +3,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <exception>
 
 // A text for users in two languages: English, for the log and the terminal, and the language of the
 // window. The two are the same when no translation is installed.
@@ -22,10 +23,12 @@ public:
     // Looks up a translation like QCoreApplication::translate(). Thread-safe.
     static Message translate(const char* context, const char* text);
     // The system's text for an error number, and for this thread's errno. Temporary when the cause
-    // may go away without a change to the files or the command: a full disk, a share that is not
-    // mounted, a folder that was removed.
+    // may go away without a change to the command: a full disk, a share that is not mounted, a
+    // folder that was removed or is locked, no memory.
     static Message ofSystemError(int error);
     static Message ofLastSystemError();
+    // For any other C++ exception than PlatformException.
+    static Message ofException(const std::exception& failure);
 
     const QString& english() const { return iEnglish; }
     const QString& local() const { return iLocal; }

@@ -58,7 +58,8 @@ void runDecode(const QString& book, bool json) {
     pugi::xml_document document;
     if (!document.load_buffer(xml.constData(), std::size_t(xml.size()))) {
         throw CommandError(
-            QStringLiteral("%1: is damaged, or not the configuration of a book").arg(path));
+            QStringLiteral("%1: is damaged, or not the configuration of a book").arg(path),
+            ExitCode::badDocument);
     }
     if (!json) {
         Terminal::print(QString::fromUtf8(xml).trimmed());

@@ -14,7 +14,7 @@ auto opened(const QString& path, Opening opening) {
     try {
         return opening(path);
     } catch (const PlatformException& failure) {
-        throw CommandError(Messages{failure.message()});
+        throw CommandError(failure);
     }
 }
 

@@ -64,7 +64,8 @@ QString bookName(const PublishOptions& options) {
 OpenedPDF openDocument(const QString& path) {
     OpenedPDF opened = InputFile::openForDrawing(path);
     if (opened.document->pageCount() == 0)
-        throw CommandError(QStringLiteral("%1: the document has no pages").arg(path));
+        throw CommandError(QStringLiteral("%1: the document has no pages").arg(path),
+                           ExitCode::badDocument);
     return opened;
 }
 
@@ -98,9 +99,8 @@ const Book& importedBook(const ImportPDFOperation& operation) {
     if (operation.isCancelled())
         throw CommandError(QStringLiteral("cancelled; nothing was made"), ExitCode::cancelled);
     if (!operation.book().hasDrawnPages()) {
-        if (operation.failures().isEmpty())
-            throw CommandError(QStringLiteral("the pages could not be drawn"));
-        throw CommandError(operation.failures());
+        const auto kind = operation.failureKind();
+        throw CommandError(operation.failures(), kind ? exitCodeFor(*kind) : ExitCode::failed);
     }
     for (const Message& failure : operation.failures())
         Terminal::report(QStringLiteral("folvero: %1").arg(failure.english()));
@@ -278,10 +278,8 @@ void republish(PublishOptions options) {
         if (!made.missingPages.isNull())
             Terminal::report(QStringLiteral("folvero: %1").arg(made.missingPages));
         return;
-    } catch (const CommandError& failure) {
-        trouble = failure.message();
     } catch (const std::exception& failure) {
-        trouble = QString::fromUtf8(failure.what());
+        trouble = CommandError::from(failure).message();
     }
     if (!Interrupt::wasRequested())
         Terminal::report(

@@ -208,9 +208,10 @@ int run(int argc, char** argv) {
             Log::configureForTerminal(Log::Level::debug);
         },
         "Log in detail to standard error");
-    app.footer("Exit codes: 0 done, 1 nothing was made, 2 command line not understood, 3 the book "
-               "was made\nbut pages are missing from it, 75 nothing was made but trying again may "
-               "help, 130 cancelled.");
+    app.footer(
+        "Exit codes: 0 done; 3 the book was made, but pages are missing from it; nothing was "
+        "made:\n2 command line not understood, 65 the document is at fault, 77 it needs a "
+        "password,\n75 trying again may help, 130 cancelled, 1 any other error.");
     addPublish(app, line.publish);
     addTemplates(app, line);
     addInfo(app, line);
@@ -220,9 +221,6 @@ int run(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : int(ExitCode::usage);
-    } catch (const CommandError& error) {
-        Terminal::report(QStringLiteral("folvero: %1").arg(error.message()));
-        return int(error.code());
     }
     return int(ExitCode::ok);
 }
@@ -239,7 +237,8 @@ int main(int argc, char** argv) {
     try {
         return run(argc, argv);
     } catch (const std::exception& failure) {
-        Terminal::report(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
-        return int(ExitCode::failed);
+        const auto error = CommandError::from(failure);
+        Terminal::report(QStringLiteral("folvero: %1").arg(error.message()));
+        return int(error.code());
     }
 }

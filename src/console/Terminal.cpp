@@ -34,7 +34,7 @@ void Terminal::print(const QString& line) {
 
 void Terminal::checkOutput() {
     if (std::ferror(stdout))
-        throw CommandError(QStringLiteral("standard output can't be written"));
+        throw CommandError(QStringLiteral("standard output can't be written"), ExitCode::tryAgain);
 }
 
 void Terminal::report(const QString& line) {

@@ -2,7 +2,6 @@
 
 #include "base/Log.h"
 #include "base/NotificationCenter.h"
-#include "base/PlatformException.h"
 
 #include <QFileInfo>
 #include <QScopeGuard>
@@ -18,7 +17,7 @@ FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pa
             opened = OpenedPDF::open(sourceFile(), std::move(stopped));
         iPDFDoc = opened.document;
     } catch (const PlatformException& failure) {
-        iOpenError = failure.message();
+        iOpenError = failure;
         Log("FlashPageSourcePDF").warn(failure.reason());
     }
     iToPageConverter = std::make_shared<PDFToSWFPageConverter>(pdfPath, iPDFDoc, iQuality);

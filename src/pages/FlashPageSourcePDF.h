@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/PlatformException.h"
 #include "drawing/SpareWorkers.h"
 #include "pages/FlashPageSource.h"
 #include "pages/PDFToSWFPageConverter.h"
@@ -7,6 +8,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 // Progress of an import, posted on the import's thread. User information: "pageIndex" (one-based
@@ -51,8 +53,8 @@ public:
     void makeFiles(PageFiles kind, const std::vector<int>& pages, const std::atomic<bool>& stop,
                    const std::function<void(int done)>& progress) override;
 
-    // Why the document could not be opened; null when it was.
-    const Message& openError() const { return iOpenError; }
+    // Why the document could not be opened; none when it was.
+    const std::optional<PlatformException>& openError() const { return iOpenError; }
 
 private:
     WebPageFiles filesOf(int page) const;
@@ -64,6 +66,6 @@ private:
     int iQuality;
     std::shared_ptr<PDFToSWFPageConverter> iToPageConverter;
     std::vector<int> iNeedToImportPages;
-    Message iOpenError;
+    std::optional<PlatformException> iOpenError;
     bool iIsDrawing = false;
 };

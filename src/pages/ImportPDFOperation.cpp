@@ -55,6 +55,11 @@ void ImportPDFOperation::setBook(Book book) {
     // must not wait.
 }
 
+void ImportPDFOperation::fail(ErrorKind kind, const Message& reason) {
+    iFailureKind = kind;
+    iFailures << reason;
+}
+
 void ImportPDFOperation::cancel() {
     // In this order setBook() can't miss a cancel that finds no source.
     Operation::cancel();
@@ -70,7 +75,7 @@ void ImportPDFOperation::main() {
     try {
         importStages();
     } catch (const std::exception& failure) {
-        iFailures << Message::about(iPDFPath, QString::fromUtf8(failure.what()));
+        iFailures << Message::about(iPDFPath, Message::ofException(failure));
         setBook({});
         throw;
     }
@@ -96,7 +101,8 @@ void ImportPDFOperation::checkUnchanged() {
         iBook.document->checkUnchanged();
     } catch (const PlatformException& failure) {
         logger.error(failure.reason());
-        iFailures = {Message::about(iPDFPath, failure.message())};
+        iFailures.clear();
+        fail(failure.kind(), Message::about(iPDFPath, failure.message()));
         setBook({});
     }
 }
@@ -111,8 +117,8 @@ void ImportPDFOperation::importPages() {
         book.converter = source->toPageConverter();
         book.document = book.converter->PDFDoc();
         setBook(std::move(book));
-        if (!source->openError().isNull())
-            iFailures << source->openError();
+        if (const auto& error = source->openError())
+            fail(error->kind(), error->message());
         source->toPageConverter()->setFilesOf(iFilesOf);
         source->startDrawing();
         if (iBook.document)
@@ -128,7 +134,7 @@ void ImportPDFOperation::importPages() {
     } catch (const PlatformException& failure) {
         logger.error(
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
-        iFailures << Message::about(iPDFPath, failure.message());
+        fail(failure.kind(), Message::about(iPDFPath, failure.message()));
         setBook({});
     }
 }
@@ -150,13 +156,13 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
 void ImportPDFOperation::reportNothingDrawn() {
     const auto& failed = iBook.converter->failedPages();
     if (failed.empty())
-        iFailures << Message::translate("ImportPDFOperation",
-                                        "%1: none of the pages asked for is in it")
-                         .arg(iPDFPath);
+        fail(ErrorKind::pageMissing,
+             Message::translate("ImportPDFOperation", "%1: none of the pages asked for is in it")
+                 .arg(iPDFPath));
     else
-        iFailures << Message::translate("ImportPDFOperation",
-                                        "%1: none of the pages could be drawn (%2)")
-                         .arg(iPDFPath, failed.front().reason);
+        fail(ErrorKind::pageUnreadable,
+             Message::translate("ImportPDFOperation", "%1: none of the pages could be drawn (%2)")
+                 .arg(iPDFPath, failed.front().reason));
 }
 
 void ImportPDFOperation::importPageLinks() {

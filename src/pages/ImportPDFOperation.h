@@ -10,6 +10,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 // Imports a PDF in the background: its pages, and its links and outline if requested. Read the
 // results once it is finished.
@@ -44,9 +45,13 @@ public:
     // What went wrong, one text for users per part that failed. There is no page source when the
     // file was changed while it was read or the work folder is full.
     const Messages& failures() const { return iFailures; }
+    // The kind of the failure that left no pages; none for an unexpected exception.
+    std::optional<ErrorKind> failureKind() const { return iFailureKind; }
 
 private:
     void setBook(Book book);
+    // For failures that leave no pages.
+    void fail(ErrorKind kind, const Message& reason);
     void importStages();
     void importPages();
     void readDocumentProperties(const PDFDocument& document);
@@ -68,4 +73,5 @@ private:
     bool iImportBookmarks = false;
     bool iImportLinks = false;
     Messages iFailures;
+    std::optional<ErrorKind> iFailureKind;
 };

@@ -14,8 +14,8 @@ public:
     // is mapped: only for processes that may crash.
     enum class Access { stream, mapped };
 
-    // Throws PlatformException (pdfOpen) whose reason says why the file can't be used: missing,
-    // unreadable, empty, not a PDF, damaged, or password-protected.
+    // Throws PlatformException (pdfFile, pdfOpen, pdfPassword) whose reason says why the file can't
+    // be used.
     explicit DrawablePDF(const QString& path, Access access = Access::stream);
     ~DrawablePDF() override;
 

@@ -88,7 +88,8 @@ void PDFEngine::open(const QString& path, bool mapped) {
                                       .arg(failure.message()));
     }
     if (get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
-        PDFFile::failToOpen(path, Message::translate("PDFDocument", "is protected by a password"));
+        PDFFile::failToOpen(path, Message::translate("PDFDocument", "is protected by a password"),
+                            ErrorKind::pdfPassword);
     pageCount = countPages();
 }
 

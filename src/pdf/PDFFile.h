@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/ErrorKind.h"
 #include "base/Message.h"
 
 #include <QString>
@@ -7,11 +8,12 @@
 // A PDF as a file, before anything reads it.
 namespace PDFFile {
 
-// Throws PlatformException (pdfOpen) when nothing can be read at that path: missing, a folder, a
-// device, unreadable, empty.
+// Throws PlatformException when nothing can be read at that path: pdfFile for one that is missing,
+// a folder, a device or unreadable, pdfOpen for an empty file.
 void check(const QString& path);
 
-// Throws PlatformException (pdfOpen) with the reason "PATH: CAUSE".
-[[noreturn]] void failToOpen(const QString& path, const Message& cause);
+// Throws PlatformException with the reason "PATH: CAUSE".
+[[noreturn]] void failToOpen(const QString& path, const Message& cause,
+                             ErrorKind kind = ErrorKind::pdfOpen);
 
 } // namespace PDFFile

@@ -44,15 +44,21 @@ Message openErrorFrom(const QString& words) {
 // Kinds of errors control our behaviour, so only those that a reader may legitimately report are
 // accepted.
 std::optional<ErrorKind> reportedKind(const QByteArray& name) {
-    for (const ErrorKind kind :
-         {ErrorKind::pdfOpen, ErrorKind::pageMissing, ErrorKind::pageUnreadable}) {
+    for (const ErrorKind kind : {ErrorKind::pdfFile, ErrorKind::pdfOpen, ErrorKind::pdfPassword,
+                                 ErrorKind::pageMissing, ErrorKind::pageUnreadable}) {
         if (name == nameOf(kind))
             return kind;
     }
     return std::nullopt;
 }
 
-// "fail NAME REASON". The reason of an open error already contains the path.
+// Reasons of these contain the path.
+bool isOpenError(ErrorKind kind) {
+    return kind == ErrorKind::pdfFile || kind == ErrorKind::pdfOpen ||
+           kind == ErrorKind::pdfPassword;
+}
+
+// "fail NAME REASON".
 PlatformException failureFrom(const QByteArray& line, const QString& path) {
     const QByteArray begin = "fail ";
     const qsizetype end = line.indexOf(' ', begin.size());
@@ -60,7 +66,7 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
     if (!line.startsWith(begin) || end < 0 || !kind)
         return PDFSerialization::malformedAnswer();
     const QString reason = QString::fromUtf8(line.mid(end + 1, maxReason));
-    if (kind != ErrorKind::pdfOpen)
+    if (!isOpenError(*kind))
         return {*kind, Message::translate("PageFailure", reason.toUtf8().constData())};
     const QString start = path + QStringLiteral(": ");
     const QString cause = reason.startsWith(start) ? reason.mid(start.size()) : reason;
@@ -76,9 +82,9 @@ std::shared_ptr<PDFDocument> PDFReader::open(const QString& path, std::function<
         if (reader->start())
             return reader;
     } catch (const PlatformException& failure) {
-        if (failure.kind() == ErrorKind::pdfOpen)
+        if (isOpenError(failure.kind()))
             throw;
-        PDFFile::failToOpen(path, failure.message());
+        PDFFile::failToOpen(path, failure.message(), failure.kind());
     }
     return std::make_shared<DrawablePDF>(path);
 }

@@ -28,12 +28,10 @@ int main(int argc, char** argv) {
     try {
         serveBook(QFile::decodeName(arguments[1]),
                   port == "usual" ? std::nullopt : std::optional(std::atoi(arguments[2])));
-    } catch (const CommandError& error) {
+    } catch (const std::exception& failure) {
+        const auto error = CommandError::from(failure);
         Terminal::report(QStringLiteral("folvero: %1").arg(error.message()));
         return int(error.code());
-    } catch (const std::exception& failure) {
-        Terminal::report(QStringLiteral("folvero: %1").arg(QString::fromUtf8(failure.what())));
-        return int(ExitCode::failed);
     }
     return int(ExitCode::ok);
 }

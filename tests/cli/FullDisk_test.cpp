@@ -72,7 +72,7 @@ TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheFolderBecomesReadOnlyMeanwh
                   "read progress <&3; kill -STOP $!\n"
                   "mount -o remount,ro \"$book\"; kill -CONT $!\n"
                   "code=0; sed -n '/^folvero: /p' <&3 >&2; wait $! || code=$?; report",
-                  1, iRoot.path().toUtf8(), "Read-only file system");
+                  75, iRoot.path().toUtf8(), "Read-only file system");
 }
 
 using FileSizeLimit = BookTest;
