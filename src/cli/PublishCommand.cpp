@@ -6,6 +6,7 @@
 #include "cli/InputFile.h"
 #include "cli/OutputFolder.h"
 #include "cli/PageSelection.h"
+#include "cli/PublishReport.h"
 #include "cli/PublishTiming.h"
 #include "cli/TemplateOptions.h"
 #include "cli/WebBookOptions.h"
@@ -77,8 +78,15 @@ QString bookTitle(const PublishOptions& options, const Book& imported) {
 }
 
 // Runs the import on its queue and waits for it; Ctrl-C cancels it.
-void importPages(const std::shared_ptr<ImportPDFOperation>& operation, bool quiet) {
-    ProgressDisplay progress(QStringLiteral("Drawing pages"), quiet);
+std::shared_ptr<ImportPDFOperation> importPages(const PublishOptions& options, OpenedPDF document,
+                                                const QString& range, FilesOfPages filesOf) {
+    const auto operation =
+        std::make_shared<ImportPDFOperation>(options.pdf, range, importDPI, options.quality);
+    operation->setDocument(std::move(document));
+    operation->setFilesOf(std::move(filesOf));
+    operation->setImportLinks(options.links);
+    operation->setImportBookmarks(options.bookmarks);
+    ProgressDisplay progress(QStringLiteral("Drawing pages"), options.quiet);
     const auto subscription = NotificationCenter::defaultCenter().addObserver(
         QString::fromUtf16(ImportProgressInfoMSG), nullptr, [&](const Notification& message) {
             if (message.userInfo[QStringLiteral("type")] == QStringLiteral("geneatePage")) {
@@ -92,6 +100,7 @@ void importPages(const std::shared_ptr<ImportPDFOperation>& operation, bool quie
         if (Interrupt::wasRequested())
             operation->cancel();
     }
+    return operation;
 }
 
 // The result of a finished import; throws the reason if there are no pages.
@@ -166,12 +175,14 @@ void writeBook(FolveroOutput& output, const QString& title, const OutputFolder& 
 }
 
 // Prints the summary of a web book.
-void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options) {
+void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options, MadeBook& made) {
     WebBookOptions::printLeftoverFiles(options, output);
-    for (const auto& [page, reason] : output.degradedPages())
+    for (const auto& [page, reason] : output.degradedPages()) {
+        made.degradedPages[page] = reason.english();
         Terminal::report(QStringLiteral("folvero: page %1 has its picture only: %2")
                              .arg(page)
                              .arg(reason.english()));
+    }
     if (options.quiet)
         return;
     constexpr double megabyte = 1'000'000;
@@ -180,22 +191,34 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
     WebBookOptions::printEmbedSnippet(output);
 }
 
-// Pages that could not be drawn or whose file was gone before publishing; null when the book is
-// complete.
-QString missingPages(const PDFToSWFPageConverter& converter, const FolveroOutput& output) {
-    std::map<int, QString> reasons;
+// Pages that could not be drawn or whose file was gone before publishing are missing.
+MadeBook resultOf(const FolveroOutput& output, const Book& book) {
+    MadeBook made;
+    made.file = output.outputFileName();
+    made.counts = output.fileCounts();
+    made.pages = int(book.pageSource->pages().size());
     for (const int page : output.missingPages())
-        reasons[page] = QStringLiteral("its file is missing");
-    for (const auto& page : converter.failedPages())
-        reasons[page.page] = page.reason.english();
-    if (reasons.empty())
-        return {};
+        made.failedPages[page] = QStringLiteral("its file is missing");
+    for (const auto& page : book.converter->failedPages())
+        made.failedPages[page.page] = page.reason.english();
+    return made;
+}
+
+// What is wrong although the book was made; none when nothing is.
+std::optional<CommandError> troubleWith(const MadeBook& made) {
     QStringList lines;
-    for (const auto& [page, reason] : reasons)
+    if (!made.failedPages.empty())
+        lines << QStringLiteral("the book was made, but %1 of its pages could not be drawn:")
+                     .arg(made.failedPages.size());
+    for (const auto& [page, reason] : made.failedPages)
         lines << QStringLiteral("  page %1: %2").arg(page).arg(reason);
-    return QStringLiteral("the book was made, but %1 of its pages could not be drawn:\n")
-               .arg(reasons.size()) +
-           lines.join(u'\n');
+    if (!made.reportError.isNull())
+        lines << QStringLiteral("the book was made, but not its report: %1")
+                     .arg(made.reportError.english());
+    if (lines.isEmpty())
+        return {};
+    return CommandError(lines.join(u'\n'),
+                        made.reportError.isNull() ? made.code() : ExitCode::tryAgain);
 }
 
 // Pages that a preview leaves out need no more than their page file.
@@ -209,14 +232,7 @@ FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& open
     };
 }
 
-struct MadeBook {
-    QString file; // the file to open
-    PublishTransaction::Counts counts;
-    QString missingPages; // null when complete
-};
-
-MadeBook makeBook(const PublishOptions& options) {
-    PublishTiming timing;
+MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     bookName(options); // reports an invalid name before an hour of drawing
     WebBookOptions::check(options);
     const auto tmpl = prepareTemplate(options);
@@ -226,7 +242,8 @@ MadeBook makeBook(const PublishOptions& options) {
     for (const QString& remark : pages.remarks)
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
     const auto openPages = WebBookOptions::openPages(options, pages.range, document->pageCount());
-    // Until here a signal ends the program at once: there is nothing to clean up.
+    // Until here a signal ends the program at once, unless there is a report to write: there is
+    // nothing to clean up.
     Interrupt::watch();
     OutputFolder folder(options.outputFolder);
     const auto [output, web] = makePublisher(options, tmpl, folder.path());
@@ -235,12 +252,7 @@ MadeBook makeBook(const PublishOptions& options) {
     timing.opened();
 
     const auto operation =
-        std::make_shared<ImportPDFOperation>(options.pdf, pages.range, importDPI, options.quality);
-    operation->setDocument(std::move(opened));
-    operation->setFilesOf(filesFor(options.type, openPages));
-    operation->setImportLinks(options.links);
-    operation->setImportBookmarks(options.bookmarks);
-    importPages(operation, options.quiet);
+        importPages(options, std::move(opened), pages.range, filesFor(options.type, openPages));
     const Book& book = importedBook(*operation);
     timing.imported(book);
 
@@ -257,9 +269,33 @@ MadeBook makeBook(const PublishOptions& options) {
     if (!options.timingFile.isEmpty())
         timing.write(options.timingFile);
 
+    MadeBook made = resultOf(*output, book);
     if (web)
-        reportWebBook(*web, options);
-    return {output->outputFileName(), output->fileCounts(), missingPages(*book.converter, *output)};
+        reportWebBook(*web, options, made);
+    return made;
+}
+
+void print(const CommandError& error) {
+    Terminal::report(QStringLiteral("folvero: %1").arg(error.message()));
+}
+
+// Makes the book and writes the report, also of a failure.
+MadeBook makeReported(const PublishOptions& options) {
+    PublishReport report(options);
+    PublishTiming timing;
+    if (!options.reportFile.isNull())
+        Interrupt::watch();
+    try {
+        MadeBook made = makeBook(options, timing);
+        made.reportError = report.writeMade(made, timing);
+        return made;
+    } catch (const std::exception& failure) {
+        const auto error = CommandError::from(failure);
+        const Message trouble = report.writeFailed(error, timing);
+        if (!trouble.isNull())
+            print(CommandError(trouble.english()));
+        throw error;
+    }
 }
 
 // Republishes and prints one summary line; errors are reported, the watch goes on.
@@ -267,16 +303,17 @@ void republish(PublishOptions options) {
     options.quiet = true;
     QString trouble;
     try {
-        const MadeBook made = makeBook(options);
-        const auto& [written, unchanged, removed] = made.counts;
-        QString line = QStringLiteral("%1 %2: %3 files written, %4 unchanged")
-                           .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
-                                made.file, QString::number(written), QString::number(unchanged));
-        if (removed > 0)
-            line += QStringLiteral(", %1 removed").arg(removed);
+        const MadeBook made = makeReported(options);
+        const auto& counts = made.counts;
+        QString line =
+            QStringLiteral("%1 %2: %3 files written, %4 unchanged")
+                .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), made.file,
+                     QString::number(counts.written), QString::number(counts.unchanged));
+        if (counts.removed > 0)
+            line += QStringLiteral(", %1 removed").arg(counts.removed);
         Terminal::print(line);
-        if (!made.missingPages.isNull())
-            Terminal::report(QStringLiteral("folvero: %1").arg(made.missingPages));
+        if (const auto incomplete = troubleWith(made))
+            print(*incomplete);
         return;
     } catch (const std::exception& failure) {
         trouble = CommandError::from(failure).message();
@@ -300,12 +337,13 @@ void watchAndRepublish(const PublishOptions& options, FileWatcher& files) {
 void runPublish(const PublishOptions& options) {
     FileWatcher files({options.pdf, options.settingsFile});
     files.takeSnapshot();
-    const MadeBook made = makeBook(options);
+    const MadeBook made = makeReported(options);
     Terminal::print(made.file);
-    if (!made.missingPages.isNull() && !options.watch)
-        throw CommandError(made.missingPages, ExitCode::incomplete);
-    if (!made.missingPages.isNull())
-        Terminal::report(QStringLiteral("folvero: %1").arg(made.missingPages));
+    const auto trouble = troubleWith(made);
+    if (trouble && !options.watch)
+        throw *trouble;
+    if (trouble)
+        print(*trouble);
     if (options.watch)
         watchAndRepublish(options, files);
 }

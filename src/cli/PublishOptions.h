@@ -22,6 +22,7 @@ struct PublishOptions {
     QString settingsFile;
     QStringList assignments; // "key=value"
     QString timingFile;
+    QString reportFile;
     bool quiet = false;
     bool force = false; // replace files that do not belong to a book
     bool watch = false; // republish whenever the PDF or the settings file changes

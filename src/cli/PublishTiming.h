@@ -14,10 +14,13 @@ public:
     void imported(const Book& book);
     void published();
 
-    // Writes seconds as JSON: "open", "import", "publish" and "total" in wall-clock time; "draw",
-    // "encode" and "write" summed over the "workers" page workers, a web book's files included, and
-    // "idle", their waiting time during the import. A file that can't be written is reported, not
-    // an error: the book was made.
+    // Seconds of the steps so far: "open", "import", "publish" and "total" in wall-clock time;
+    // "draw", "encode" and "write" summed over the "workers" page workers, a web book's files
+    // included, and "idle", their waiting time during the import.
+    const QJsonObject& seconds() const { return iSeconds; }
+
+    // Writes them as JSON. A file that can't be written is reported, not an error: the book was
+    // made.
     void write(const QString& path) const;
 
 private:

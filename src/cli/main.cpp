@@ -117,6 +117,10 @@ void addPublish(CLI::App& app, PublishOptions& options) {
     addText(*command, "--timing", options.timingFile,
             "Write how long the steps took to this file, as JSON")
         ->type_name("FILE");
+    addText(*command, "--report", options.reportFile,
+            "Write what was made, or why not, to this file, as JSON; replaces the\n"
+            "report of an earlier run")
+        ->type_name("FILE");
     command->callback([&options] { runPublish(options); });
 }
 

@@ -253,6 +253,7 @@ bool PublishTransaction::isUpToDate(const Change& change) const {
 
 void PublishTransaction::install(const Change& change) {
     makeFolderNow(parentOf(change.target));
+    iCounts.bytes += QFileInfo(change.staged).size();
     if (isUpToDate(change)) {
         ++iCounts.unchanged;
         return;

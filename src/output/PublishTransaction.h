@@ -32,6 +32,7 @@ public:
         int written = 0;
         int unchanged = 0;
         int removed = 0;
+        qint64 bytes = 0; // of the files that were written or unchanged
     };
 
     // Creates the folder if it is missing. workingFolder, if not null, is changed in its place, to
