@@ -24,7 +24,8 @@ std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
     return opened(path, [](const QString& file) { return PDFReader::open(file); });
 }
 
-OpenedPDF InputFile::openForDrawing(const QString& path) {
-    return opened(
-        path, [](const QString& file) { return OpenedPDF::open(file, Interrupt::wasRequested); });
+OpenedPDF InputFile::openForDrawing(const QString& path, int jobs) {
+    return opened(path, [jobs](const QString& file) {
+        return OpenedPDF::open(file, jobs, Interrupt::wasRequested);
+    });
 }

@@ -10,7 +10,7 @@ namespace InputFile {
 
 std::shared_ptr<PDFDocument> open(const QString& path);
 
-// The same for drawing. Ctrl-C cancels reading, now and later.
-OpenedPDF openForDrawing(const QString& path);
+// The same for drawing with that many page workers. Ctrl-C cancels reading, now and later.
+OpenedPDF openForDrawing(const QString& path, int jobs);
 
 } // namespace InputFile

@@ -62,10 +62,10 @@ QString bookName(const PublishOptions& options) {
     return name + QStringLiteral(".html");
 }
 
-OpenedPDF openDocument(const QString& path) {
-    OpenedPDF opened = InputFile::openForDrawing(path);
+OpenedPDF openDocument(const PublishOptions& options) {
+    OpenedPDF opened = InputFile::openForDrawing(options.pdf, options.jobs);
     if (opened.document->pageCount() == 0)
-        throw CommandError(QStringLiteral("%1: the document has no pages").arg(path),
+        throw CommandError(QStringLiteral("%1: the document has no pages").arg(options.pdf),
                            ExitCode::badDocument);
     return opened;
 }
@@ -236,7 +236,7 @@ MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     bookName(options); // reports an invalid name before an hour of drawing
     WebBookOptions::check(options);
     const auto tmpl = prepareTemplate(options);
-    OpenedPDF opened = openDocument(options.pdf);
+    OpenedPDF opened = openDocument(options);
     const auto document = opened.document;
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)

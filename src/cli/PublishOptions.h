@@ -1,5 +1,7 @@
 #pragma once
 
+#include "drawing/SpareWorkers.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -23,6 +25,7 @@ struct PublishOptions {
     QStringList assignments; // "key=value"
     QString timingFile;
     QString reportFile;
+    int jobs = usualWorkerCount(); // page workers
     bool quiet = false;
     bool force = false; // replace files that do not belong to a book
     bool watch = false; // republish whenever the PDF or the settings file changes

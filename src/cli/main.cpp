@@ -49,6 +49,27 @@ PublishOptions::Type typeNamed(const std::string& name) {
     return name == "app" ? Type::app : name == "web" ? Type::web : Type::html;
 }
 
+// Options that do not change the book.
+void addRunOptions(CLI::App& command, PublishOptions& options) {
+    command.add_flag("--watch", options.watch,
+                     "Run until Ctrl-C, and republish whenever the PDF or the settings file\n"
+                     "changes");
+    command
+        .add_option("--jobs", options.jobs,
+                    "Number of pages to draw at the same time; by default as many as this\n"
+                    "program may use processors, but at most 16")
+        ->check(CLI::Range(1, 256, "1-256"))
+        ->type_name("N");
+    command.add_flag("--quiet", options.quiet, "Show no progress");
+    addText(command, "--timing", options.timingFile,
+            "Write how long the steps took to this file, as JSON")
+        ->type_name("FILE");
+    addText(command, "--report", options.reportFile,
+            "Write what was made, or why not, to this file, as JSON; replaces the\n"
+            "report of an earlier run")
+        ->type_name("FILE");
+}
+
 void addPublish(CLI::App& app, PublishOptions& options) {
     auto* command =
         app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
@@ -110,17 +131,7 @@ void addPublish(CLI::App& app, PublishOptions& options) {
     command->add_flag(
         "--force", options.force,
         "Overwrite a page, an application or other files that don't belong to a book");
-    command->add_flag("--watch", options.watch,
-                      "Run until Ctrl-C, and republish whenever the PDF or the settings file\n"
-                      "changes");
-    command->add_flag("--quiet", options.quiet, "Show no progress");
-    addText(*command, "--timing", options.timingFile,
-            "Write how long the steps took to this file, as JSON")
-        ->type_name("FILE");
-    addText(*command, "--report", options.reportFile,
-            "Write what was made, or why not, to this file, as JSON; replaces the\n"
-            "report of an earlier run")
-        ->type_name("FILE");
+    addRunOptions(*command, options);
     command->callback([&options] { runPublish(options); });
 }
 

@@ -9,7 +9,6 @@
 #include <QFile>
 #include <algorithm>
 #include <poll.h>
-#include <thread>
 #include <utility>
 
 namespace {
@@ -29,8 +28,6 @@ constexpr int maxFailedStarts = 20;
 
 // Answers are short.
 constexpr qsizetype maxLine = qsizetype{1} << 20;
-
-constexpr std::size_t maxWorkers = 16;
 
 Message crashReason() {
     return Message::translate("PageFailure", "the program that draws pages ended at this page");
@@ -91,8 +88,7 @@ std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
 }
 
 bool PageWorkers::start() {
-    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-    const std::size_t count = std::min({cores, maxWorkers, iPageCount});
+    const std::size_t count = std::min(std::size_t(iJobs), iPageCount);
     for (std::size_t i = 0; i < count; ++i) {
         if (auto process = startProcess())
             iWorkers.push_back(newWorker(std::move(process)));

@@ -23,8 +23,8 @@ struct PageResult {
     bool isUnwritten = false; // the work folder can't be written; not the page's fault
 };
 
-// Draws pages of a PDF in worker processes, ahead of the loop that collects them. There is one
-// worker per core, each with its own open file, so that a page that crashes MuPDF costs that page
+// Draws pages of a PDF in worker processes, ahead of the loop that collects them. Each
+// worker has its own open file, so that a page that crashes MuPDF costs that page
 // only. Pages must be collected in ascending order. For one thread.
 class PageWorkers {
 public:
@@ -40,6 +40,9 @@ public:
 
     // Which files a page gets; page files by default.
     void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
+
+    // How many processes draw; usualWorkerCount() by default.
+    void setJobs(int jobs) { iJobs = jobs; }
 
     // Workers that are already running, to be used first; none by default.
     void setSpares(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
@@ -94,6 +97,7 @@ private:
     int iAwaited = 0;         // the page being waited for
     const std::atomic<bool>& iStop;
     std::size_t iPageCount;
+    int iJobs = usualWorkerCount();
     std::chrono::milliseconds iTimeout;
     int iFailedStarts = 0; // consecutive workers that ended before they were ready
     bool iCanRun = true;   // false when workers can't run on this system

@@ -4,19 +4,24 @@
 #include "base/PlatformException.h"
 #include "pdf/PDFReader.h"
 #include "system/Bundle.h"
+#include "system/Processors.h"
 
 #include <QFile>
 #include <algorithm>
-#include <thread>
 
-SpareWorkers::SpareWorkers() {
+int usualWorkerCount() {
+    constexpr int most = 16;
+    static const int count = std::min(Processors::available(), most);
+    return count;
+}
+
+SpareWorkers::SpareWorkers(int count) {
     // A short document needs no more, and for a long one it makes no difference when the others
     // start.
-    constexpr unsigned maxWorkers = 4;
-    const unsigned count = std::clamp(std::thread::hardware_concurrency(), 1U, maxWorkers);
+    constexpr int most = 4;
     const std::string program = QFile::encodeName(Bundle::pageWorkerPath()).toStdString();
     try {
-        while (iProcesses.size() < count) {
+        while (int(iProcesses.size()) < std::min(count, most)) {
             iProcesses.push_back(
                 std::make_unique<ChildProcess>(program, std::vector<std::string>{"draw"}));
         }
@@ -33,7 +38,7 @@ std::unique_ptr<ChildProcess> SpareWorkers::take() {
     return process;
 }
 
-OpenedPDF OpenedPDF::open(const QString& path, std::function<bool()> stopped) {
-    auto workers = std::make_shared<SpareWorkers>();
-    return {PDFReader::open(path, std::move(stopped)), std::move(workers)};
+OpenedPDF OpenedPDF::open(const QString& path, int jobs, std::function<bool()> stopped) {
+    auto workers = std::make_shared<SpareWorkers>(jobs);
+    return {PDFReader::open(path, std::move(stopped)), std::move(workers), jobs};
 }

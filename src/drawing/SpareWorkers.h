@@ -7,13 +7,17 @@
 #include <memory>
 #include <vector>
 
+// How many page workers draw at the same time unless the user says otherwise: one per processor, up
+// to a number.
+int usualWorkerCount();
+
 // Page workers started before it is known what they are to draw: starting the program takes about
 // as long as drawing a page, and can overlap with opening the document. The destructor ends those
 // that were not taken.
 class SpareWorkers {
 public:
-    // Starts one per core, up to a small number; none where they can't be started.
-    SpareWorkers();
+    // Starts that many, but no more than a small number; none where they can't be started.
+    explicit SpareWorkers(int count);
 
     // Takes one of them, or null when none is left. It waits for its first line.
     std::unique_ptr<ChildProcess> take();
@@ -26,7 +30,8 @@ private:
 struct OpenedPDF {
     std::shared_ptr<PDFDocument> document;
     std::shared_ptr<SpareWorkers> workers;
+    int jobs = usualWorkerCount(); // how many workers are to draw
 
     // See PDFReader::open().
-    static OpenedPDF open(const QString& path, std::function<bool()> stopped = {});
+    static OpenedPDF open(const QString& path, int jobs, std::function<bool()> stopped = {});
 };

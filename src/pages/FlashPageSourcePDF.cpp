@@ -14,13 +14,14 @@ FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pa
     setSourceFile(pdfPath);
     try {
         if (!opened.document)
-            opened = OpenedPDF::open(sourceFile(), std::move(stopped));
+            opened = OpenedPDF::open(sourceFile(), opened.jobs, std::move(stopped));
         iPDFDoc = opened.document;
     } catch (const PlatformException& failure) {
         iOpenError = failure;
         Log("FlashPageSourcePDF").warn(failure.reason());
     }
     iToPageConverter = std::make_shared<PDFToSWFPageConverter>(pdfPath, iPDFDoc, iQuality);
+    iToPageConverter->setJobs(opened.jobs);
     iToPageConverter->setSpareWorkers(std::move(opened.workers));
     iNeedToImportPages = parsePageRange(iPageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
 }

@@ -34,6 +34,7 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     }
     iWorkers = std::make_unique<PageWorkers>(PDFPath(), converterWorkFolder(), quality(),
                                              std::move(toDraw), stop);
+    iWorkers->setJobs(iJobs);
     iWorkers->setSpares(std::exchange(iSpares, nullptr));
     iWorkers->setFilesOf(iFilesOf);
     if (!iWorkers->start())

@@ -29,6 +29,9 @@ public:
     // Which files pages get; page files by default.
     void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
 
+    // How many page workers draw; usualWorkerCount() by default.
+    void setJobs(int jobs) { iJobs = jobs; }
+
     // Workers that are already running, for the next drawAhead().
     void setSpareWorkers(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
 
@@ -67,6 +70,7 @@ private:
     PageResult drawInProcess(int page);
     void makePage(int page);
 
+    int iJobs = usualWorkerCount();
     std::shared_ptr<SpareWorkers> iSpares;
     std::unique_ptr<PageWorkers> iWorkers;
     std::unique_ptr<DrawablePDF> iOwnDocument; // opened to draw
