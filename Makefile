@@ -44,7 +44,7 @@ build: packages-test
 	@cmake --build --preset $(PRESET)
 
 book: build-book
-	@$(BUILD)/bin/folvero publish "$(PDF)" "$(OUT)" --links --bookmarks
+	@$(BUILD)/bin/folvero publish "$(PDF)" "$(OUT)"
 	@echo "Open the page above with a double-click, or put the folder on a web server."
 
 # A PDF given as argument is imported at once.

@@ -61,7 +61,7 @@ def contenders(folvero):
     result = {}
     if folvero.exists():
         result["folvero publish"] = lambda document, folder: [folvero, "publish", document,
-                                                              folder / "book"]
+                                                              folder / "book", "--type", "html"]
     result["pdftoppm"] = lambda document, folder: ["pdftoppm", "-jpeg", "-r", "144", document,
                                                    folder / "page"]
     return result

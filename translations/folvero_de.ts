@@ -580,8 +580,8 @@
         <translation>&amp;Titel:</translation>
     </message>
     <message>
-        <source>&amp;Web page in a folder, for every computer and the web</source>
-        <translation>&amp;Webseite in einem Ordner, für jeden Computer und das Web</translation>
+        <source>C&amp;lassic (pictures only)</source>
+        <translation>Kla&amp;ssisch (nur Bilder)</translation>
     </message>
     <message>
         <source>Application for the &amp;Mac</source>

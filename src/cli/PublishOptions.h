@@ -10,7 +10,7 @@ struct PublishOptions {
     QString pdf;
     QString outputFolder;
     enum class Type { html, app, web };
-    Type type = Type::html;
+    Type type = Type::web;
     QString name;  // null: "index" for a page, the PDF's name for an application
     QString title; // null: the document's own title, or else its file name
     QString pages = QStringLiteral("ALL");

@@ -36,7 +36,7 @@ PageSelection selectPreview(const QString& pages, int pageCount) {
 void WebBookOptions::check(const PublishOptions& options) {
     if (options.type == PublishOptions::Type::web)
         return;
-    const QString text = QStringLiteral("%1 is for web books only; add --type web");
+    const QString text = QStringLiteral("%1 is for web books only; leave out --type");
     if (options.singleFile)
         throw CommandError(text.arg(QStringLiteral("--single-file")), ExitCode::usage);
     if (!options.previewPages.isNull())

@@ -46,7 +46,7 @@ CLI::Option* addText(CLI::App& command, const std::string& name, QString& value,
 
 PublishOptions::Type typeNamed(const std::string& name) {
     using Type = PublishOptions::Type;
-    return name == "app" ? Type::app : name == "web" ? Type::web : Type::html;
+    return name == "app" ? Type::app : name == "html" ? Type::html : Type::web;
 }
 
 // Options that do not change the book.
@@ -80,11 +80,12 @@ void addPublish(CLI::App& app, PublishOptions& options) {
     command
         ->add_option_function<std::string>(
             "--type", [&options](const std::string& name) { options.type = typeNamed(name); },
-            "html: a page with its files, for disk and web; web: the same with links,\n"
-            "contents, search and text to select; app: a Mac application")
-        ->check(CLI::IsMember({"html", "web", "app"}))
+            "web: a book with links, contents, search and text to select, for disk and\n"
+            "web; html: a classic book, with pictures of the pages only; app: a Mac\n"
+            "application")
+        ->check(CLI::IsMember({"web", "html", "app"}))
         ->type_name("TYPE")
-        ->default_str("html");
+        ->default_str("web");
     addText(*command, "--name", options.name,
             "Name of the HTML page (by default index) or of the application (by\n"
             "default that of the PDF file), without its extension")

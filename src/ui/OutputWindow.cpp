@@ -52,7 +52,7 @@ QWidget* OutputWindow::typeRow() {
     auto* layout = new QVBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     mOutputType = new QButtonGroup(this);
-    auto* html = new QRadioButton(tr("&Web page in a folder, for every computer and the web"));
+    auto* html = new QRadioButton(tr("C&lassic (pictures only)"));
     auto* app = new QRadioButton(tr("Application for the &Mac"));
     auto* web = new QRadioButton(tr("Web &book: with search, links, contents and text to copy"));
     mOutputType->addButton(html, htmlBook);

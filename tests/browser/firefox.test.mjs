@@ -40,7 +40,7 @@ const overHttp = (address) => address.replace(pathToFileURL(folder).href, server
 test('Firefox shows and turns a book in each template, from disk and over http', ready, async () => {
   const templates = JSON.parse(await folvero('templates', '--json'));
   for (const [index, { name: template }] of templates.entries()) {
-    const address = await publish(template, '--template', template);
+    const address = await publish(template, '--type=html', '--template', template);
     const book = await openBook(browser, index % 2 ? overHttp(address) : address);
     const spread = await book.page.evaluate(() => window.folvero.spread);
     for (const [key, pages] of [['ArrowRight', [2, 3]], ['End', [8]], ['ArrowLeft', spread ? [6, 7] : [7]]]) {
@@ -57,7 +57,7 @@ const kinds = { 'over http': [[], overHttp], 'from disk': [[], (address) => addr
   'as a single file': [['--single-file'], (address) => address] };
 for (const [name, [options, addressOf]] of Object.entries(kinds)) {
   test(`Firefox reads a web book ${name}: drags, panels, links, words and finer pictures`, ready, async () => {
-    const book = await openBook(browser, addressOf(await publish(`web${options}`, '--type', 'web', ...options)));
+    const book = await openBook(browser, addressOf(await publish(`web${options}`, ...options)));
     const { page } = book;
     const press = async (...keys) => { for (const key of keys) await page.keyboard.press(key); };
     const middle = async (selector) => {

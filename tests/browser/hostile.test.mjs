@@ -76,7 +76,7 @@ async function assertHarmless(book, folder) {
 
 async function publish(name, options) {
   const folder = path.join(reader.folder, name);
-  await folvero('publish', '--quiet', '--links', '--bookmarks', ...options, sample('hostile'), folder);
+  await folvero('publish', '--quiet', '--type=html', '--links', '--bookmarks', ...options, sample('hostile'), folder);
   return folder;
 }
 

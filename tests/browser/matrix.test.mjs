@@ -29,7 +29,7 @@ const reader = Reader.forTests();
 async function publish(document, template) {
   const folder = path.join(reader.folder, `${document}-${template}`);
   const pages = document === 'novel' && template !== templates[0] ? ['--pages', '1-12'] : [];
-  await folvero('publish', '--quiet', '--template', template, ...QUICK, ...pages, sample(document), folder);
+  await folvero('publish', '--quiet', '--type=html', '--template', template, ...QUICK, ...pages, sample(document), folder);
   return folder;
 }
 

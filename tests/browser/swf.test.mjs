@@ -137,7 +137,7 @@ test('a damaged configuration is reported', async () => {
 
 test('a published document opens in the movie', ready, async () => {
   const folder = path.join(reader.folder, 'published');
-  await folvero('publish', '--quiet', sample('sample'), folder);
+  await folvero('publish', '--quiet', '--type=html', sample('sample'), folder);
   const book = await emulator.play(folder);
   await book.page.keyboard.press('ArrowRight');
   await book.waitForPages(2, 3);

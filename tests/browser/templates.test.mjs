@@ -84,7 +84,7 @@ test('every property changes the published book', ready, async (t) => {
   t.after(() => rmSync(books, { recursive: true }));
   const published = async (name, options) => {
     const folder = path.join(books, name);
-    await folvero('publish', '--quiet', '--style', 'Blank', ...options, sample('mixed-sizes'), folder);
+    await folvero('publish', '--quiet', '--type=html', '--style', 'Blank', ...options, sample('mixed-sizes'), folder);
     const xml = rc4(readFileSync(path.join(folder, 'files/UserConfig.bin')), CONFIG_KEY).toString('utf8');
     return (element) => new RegExp(`<${element}>([^<]*)</${element}>`).exec(xml)?.[1] ?? '';
   };

@@ -73,7 +73,7 @@ test('pages that a preview leaves out say so, have no text and no picture, and a
 
 test('a published book in one file is read from disk without a network', ready, async () => {
   const folder = path.join(reader.folder, 'single');
-  await folvero('publish', '--quiet', '--type=web', '--single-file', '--pages=1-8', sample('sample'), folder);
+  await folvero('publish', '--quiet', '--single-file', '--pages=1-8', sample('sample'), folder);
   const book = await reader.openFromDisk(folder, { before: (page) => page.context().setOffline(true) });
   await book.page.keyboard.press('ArrowRight');
   await book.waitForPages(2, 3);

@@ -14,7 +14,7 @@ afterEach(() => stopServing());
 
 const bookFolder = () => path.join(reader.folder, 'book');
 const publish = (name, ...options) =>
-  folvero('publish', '--quiet', '--type=web', ...options, sample(name), bookFolder());
+  folvero('publish', '--quiet', ...options, sample(name), bookFolder());
 
 /** Publishes a book that is said to be long: it is not its size that an edition is known by. */
 async function publishLong(name, title) {

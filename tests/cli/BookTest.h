@@ -18,10 +18,12 @@ protected:
     bool exists(const QString& name) const { return QFileInfo::exists(file(name)); }
     std::map<QString, QByteArray> contents() const { return BookReader::contentsBeneath(book()); }
 
-    // Publishes a sample, or the document at an absolute path.
+    // Publishes a sample, or the document at an absolute path; classic unless options name a type.
     Program::Result publish(const QString& document, const QStringList& options = {}) const {
         const QDir samples(Program::sample({}));
-        return Program::run(QStringList{"publish", samples.filePath(document), book()} + options);
+        const QStringList type(options.filter("--type").isEmpty(), "--type=html");
+        return Program::run(QStringList{"publish", samples.filePath(document), book()} + type +
+                            options);
     }
     // The same, which must succeed.
     Program::Result published(const QString& document, const QStringList& options = {}) const {

@@ -43,7 +43,8 @@ protected:
     // changes the book's folder.
     void publishAndKill(const char* name, bool whileWriting) {
         QProcess process;
-        process.start(Program::path(), {"publish", "--title", name, document(name), book()});
+        process.start(Program::path(),
+                      {"publish", "--type=html", "--title", name, document(name), book()});
         ASSERT_TRUE(process.waitForStarted());
         auto delay = whole * std::uniform_real_distribution<>(0, 1.1)(random);
         if (whileWriting) {

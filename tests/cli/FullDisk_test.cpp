@@ -10,8 +10,8 @@ const char steps[] = R"sh(
 set -e
 folvero=$1 book=$2 short=$3 long=$4
 files() { (cd "$book" && find . -type f -exec cksum {} + | sort); }
-first() { "$folvero" publish --quiet "$short" "$book" >/dev/null && before=$(files); }
-second() { code=0; "$folvero" publish --quiet "$@" "$long" "$book" >/dev/null || code=$?; }
+first() { "$folvero" publish --quiet --type html "$short" "$book" >/dev/null && before=$(files); }
+second() { code=0; "$folvero" publish --quiet --type ${1:-html} "$long" "$book" >/dev/null || code=$?; }
 report() {
     echo "code $code"
     [ "$before" = "$(files)" ] && echo whole
@@ -55,7 +55,7 @@ TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheBooksDiskIsFull) {
 
 TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheDiskOfTheWorkFolderIsFull) {
     // For no page, and for some.
-    for (const QByteArray disk : {"40k; second", "1500k; second", "400k; second --type web"})
+    for (const QByteArray disk : {"40k; second", "1500k; second", "400k; second web"})
         expectFailure("first; mkdir -p /tmp/Lumivex\n"
                       "mount -t tmpfs none /tmp/Lumivex -o size=" +
                           disk + "; report\nfind /tmp/Lumivex -name 'temp.*'",
@@ -66,7 +66,8 @@ TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheFolderBecomesReadOnlyMeanwh
     expectFailure("mount -t tmpfs none \"$book\"; first\n"
                   "long=${long%fifty.pdf}thousand.pdf\n"
                   "errors=$(mktemp -u); mkfifo \"$errors\"\n"
-                  "\"$folvero\" publish \"$long\" \"$book\" 2>\"$errors\" >/dev/null &\n"
+                  "\"$folvero\" publish --type html \"$long\" \"$book\" "
+                  ">/dev/null 2>\"$errors\" &\n"
                   "exec 3<\"$errors\"; rm \"$errors\"\n"
                   // By its first line of progress it has tried the folder.
                   "read progress <&3; kill -STOP $!\n"
@@ -81,9 +82,9 @@ using FileSizeLimit = BookTest;
 TEST_F(FileSizeLimit, LeavesTheEarlierBookWhole) {
     published("outline.pdf");
     const auto before = contents();
-    const auto result =
-        Program::runOther("/bin/sh", {"-c", "ulimit -f 200; exec \"$@\"", "sh", Program::path(),
-                                      "publish", "--quiet", Program::sample("links.pdf"), book()});
+    const auto result = Program::runOther(
+        "/bin/sh", {"-c", "ulimit -f 200; exec \"$@\"", "sh", Program::path(), "publish", "--quiet",
+                    "--type=html", Program::sample("links.pdf"), book()});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_TRUE(result.errors.contains("index.html: File too large")) << result.errors.constData();
     EXPECT_EQ(contents(), before);

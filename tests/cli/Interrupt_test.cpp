@@ -11,7 +11,8 @@ protected:
     // Starts to publish a thousand pages and stops the program once some are drawn, until a signal
     // is sent to it.
     void start(QProcess& process) const {
-        process.start(Program::path(), {"publish", Program::sample("thousand.pdf"), book()});
+        process.start(Program::path(),
+                      {"publish", "--type=html", Program::sample("thousand.pdf"), book()});
         ASSERT_TRUE(process.waitForStarted());
         waitUntil([&] { return pagesDrawn(process) >= 60; });
         ::kill(pid_t(process.processId()), SIGSTOP);

@@ -139,6 +139,7 @@ TEST_F(Importing, BookIsPublishedFromTheSheet) {
     QTest::mouseClick(publish.window().btnPublish, Qt::LeftButton);
     EXPECT_EQ(opened, QStringList{path("out/tea.html")});
     EXPECT_EQ(BookReader::configuration(path("out")).at("Ppts").children.size(), 3u);
+    EXPECT_TRUE(QFileInfo::exists(path("out/files/web/book.js"))) << "nobody chose another kind";
     import(pdf(2));
     window().menu->exportFlipBook->trigger();
     EXPECT_EQ(QFileInfo(publish.window().txtOutputFolder->text()).fileName(), "2 pages");

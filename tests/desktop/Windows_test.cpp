@@ -70,6 +70,6 @@ using Windows = DesktopProgram;
 
 TEST_F(Windows, AreAsWrittenDown) {
     launch();
-    program->ouputWindow().window().mOutputType->button(OutputWindow::webBook)->click();
+    program->ouputWindow().window().showWebBookParts(true);
     expectLinesOf(FOLVERO_WINDOWS_TEXT, linesOf(window()) << "");
 }

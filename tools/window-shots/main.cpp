@@ -154,11 +154,11 @@ private:
         sheet.txtOutputName->setText(QStringLiteral("index"));
         sheet.txtTitle->setText(QStringLiteral("The Lantern That Went for a Walk"));
         sheet.btnCancel->setFocus();
-        save(iProgram.pictureOfSheet(), "publish");
-        savePicture("publish-window");
-        sheet.mOutputType->button(OutputWindow::webBook)->click();
-        sheet.btnCancel->setFocus();
         save(iProgram.pictureOfSheet(), "publish-web");
+        savePicture("publish-window");
+        sheet.mOutputType->button(OutputWindow::htmlBook)->click();
+        sheet.btnCancel->setFocus();
+        save(iProgram.pictureOfSheet(), "publish");
         program().ouputWindow().onCancel();
     }
 

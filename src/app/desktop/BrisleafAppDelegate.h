@@ -79,6 +79,7 @@ private:
     enum PreviewedBook { SameBook, OtherBook };
 
     void prepaireTheLog() const;
+    static void chooseFirstKind();
     void makeWindows();
     void loadDemoPages();
     void showEditor();

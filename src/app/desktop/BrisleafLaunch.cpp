@@ -1,5 +1,6 @@
 // Start and end of the desktop program.
 
+#include "app/AppSettings.h"
 #include "app/desktop/Appearance.h"
 #include "app/desktop/BrisleafAppDelegate.h"
 #include "app/desktop/MainMenu.h"
@@ -13,6 +14,7 @@
 #include "ui/FlashTemplateModel.h"
 #include "ui/FlashTemplateOutline.h"
 #include "ui/ImportWindowDelegate.h"
+#include "ui/OutputWindow.h"
 #include "ui/OutputWindowDelegate.h"
 #include "ui/PropertyCellDelegate.h"
 #include "ui/SelectTemplateWindowDelegate.h"
@@ -43,6 +45,7 @@ BrisleafAppDelegate::~BrisleafAppDelegate() {
 void BrisleafAppDelegate::applicationDidFinishLaunching() {
     prepaireTheLog();
     iAppearance = std::make_unique<Appearance>();
+    chooseFirstKind();
     makeWindows();
     logger.info(QStringLiteral("version is:%1").arg(Bundle::version()));
     iWindow->show();
@@ -56,6 +59,14 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     showEditor();
     observeEditor();
     applyChange(OtherBook);
+}
+
+// Until a book has been published its kind is nobody's choice, even where an import has stored it.
+void BrisleafAppDelegate::chooseFirstKind() {
+    auto& settings = AppSettings::shareInstance();
+    if (settings.outputType() == OutputWindow::htmlBook &&
+        settings.lastOutputFileFolder().isEmpty())
+        settings.setOutputType(OutputWindow::webBook);
 }
 
 // The window stays hidden until it is complete.
