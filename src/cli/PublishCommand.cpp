@@ -34,13 +34,15 @@ using Type = PublishOptions::Type;
 constexpr int importDPI = 144;
 constexpr int interruptPollMilliseconds = 25;
 
-std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options) {
-    auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
+// What the document asks for goes before what the user does.
+void setProperties(FlashTemplate& tmpl, const PublishOptions& options,
+                   const PDFDocument& document) {
+    if (document.isRightToLeft())
+        tmpl.setPropertyValue(QStringLiteral("RightToLeft"), QStringLiteral("YES"));
     if (!options.settingsFile.isEmpty())
-        TemplateOptions::applySettingsFile(*tmpl, options.settingsFile);
+        TemplateOptions::applySettingsFile(tmpl, options.settingsFile);
     for (const QString& assignment : options.assignments)
-        TemplateOptions::applyAssignment(*tmpl, assignment);
-    return tmpl;
+        TemplateOptions::applyAssignment(tmpl, assignment);
 }
 
 // The file name of the book's page. Its extension marks where the name ends: an application's name
@@ -235,9 +237,10 @@ FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& open
 MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     bookName(options); // reports an invalid name before an hour of drawing
     WebBookOptions::check(options);
-    const auto tmpl = prepareTemplate(options);
+    const auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
     OpenedPDF opened = openDocument(options);
     const auto document = opened.document;
+    setProperties(*tmpl, options, *document);
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));

@@ -27,6 +27,9 @@ struct Book {
     // The document's own title, or an empty text.
     QString documentTitle = QStringLiteral("");
 
+    // Whether the document asks to be read from right to left.
+    bool rightToLeft = false;
+
     // The size in points of each page in the configuration. That of a document is its first
     // readable page's, or 0 by 0 when it has none.
     static constexpr QSize defaultPageSize{1080, 1440};

@@ -147,6 +147,7 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
         const QRectF box = firstReadableCropBox(document);
         iBook.pageSize = QSize(int(box.width()), int(box.height()));
         iBook.documentTitle = document.information("Title").trimmed();
+        iBook.rightToLeft = document.isRightToLeft();
     } catch (const PlatformException& failure) {
         logger.warn(failure.reason());
     }

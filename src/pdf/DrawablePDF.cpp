@@ -104,6 +104,15 @@ QString DrawablePDF::information(const char* key) const {
     return iEngine->text(iEngine->entry(iEngine->trailerEntry("Info"), key));
 }
 
+PDFViewing DrawablePDF::viewing() const {
+    pdf_obj* root = iEngine->trailerEntry("Root");
+    pdf_obj* preferences = iEngine->entry(root, "ViewerPreferences");
+    PDFViewing viewing;
+    viewing.rightToLeft =
+        iEngine->name(iEngine->entry(preferences, "Direction")) == QStringLiteral("R2L");
+    return viewing;
+}
+
 QString DrawablePDF::language() const {
     return iEngine->text(iEngine->entry(iEngine->trailerEntry("Root"), "Lang"));
 }

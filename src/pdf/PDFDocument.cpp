@@ -9,6 +9,14 @@ void PDFDocument::checkUnchanged() const {
             .temporary());
 }
 
+bool PDFDocument::isRightToLeft() const {
+    try {
+        return viewing().rightToLeft;
+    } catch (const PlatformException&) {
+        return false;
+    }
+}
+
 void PDFDocument::requirePage(int index) const {
     if (index >= 0 && index < pageCount())
         return;

@@ -40,6 +40,10 @@ public:
     // An entry of the information dictionary ("Title", "Author" ...), or a null text.
     virtual QString information(const char* key) const = 0;
 
+    virtual PDFViewing viewing() const = 0;
+    // Whether it asks to be read from right to left; false when that can't be read.
+    bool isRightToLeft() const;
+
     // The document's natural language ("de", "en-GB"), or a null text.
     virtual QString language() const = 0;
 

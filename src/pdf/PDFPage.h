@@ -15,6 +15,11 @@ struct PDFAnnotation {
     std::optional<int> destinationPage; // zero-based; none when it leads to no page
 };
 
+// How a document asks to be shown.
+struct PDFViewing {
+    bool rightToLeft = false;
+};
+
 // How a page lies on its sheet. Boxes are in points, in PDF user space (origin at the lower left,
 // before rotation).
 struct PDFPage {

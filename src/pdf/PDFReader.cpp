@@ -120,6 +120,10 @@ QString PDFReader::information(const char* key) const {
     return PDFSerialization::unpack<QString>(ask(QByteArray("information ") + key));
 }
 
+PDFViewing PDFReader::viewing() const {
+    return PDFSerialization::unpack<PDFViewing>(ask("viewing"));
+}
+
 QString PDFReader::language() const {
     return PDFSerialization::unpack<QString>(ask("language"));
 }

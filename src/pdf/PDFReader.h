@@ -37,6 +37,7 @@ public:
     PDFPage page(int index) const override;
     std::vector<PDFAnnotation> annotations(int index) const override;
     QString information(const char* key) const override;
+    PDFViewing viewing() const override;
     QString language() const override;
     std::vector<QString> pageLabels() const override;
     std::vector<PDFOutlineNode> outline() const override;

@@ -18,6 +18,11 @@ void describe(Archive& archive, PDFPage& page) {
 }
 
 template <class Archive>
+void describe(Archive& archive, PDFViewing& viewing) {
+    archive(viewing.rightToLeft);
+}
+
+template <class Archive>
 void describe(Archive& archive, PDFAnnotation& annotation) {
     archive(annotation.type, annotation.bounds, annotation.url, annotation.destinationPage);
 }
@@ -146,6 +151,7 @@ Value PDFSerialization::unpack(const QByteArray& packed) {
 template QByteArray PDFSerialization::pack(const int&);
 template QByteArray PDFSerialization::pack(const QString&);
 template QByteArray PDFSerialization::pack(const PDFPage&);
+template QByteArray PDFSerialization::pack(const PDFViewing&);
 template QByteArray PDFSerialization::pack(const std::vector<QString>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFOutlineNode>&);
@@ -154,6 +160,7 @@ template QByteArray PDFSerialization::pack(const std::vector<PDFTextLine>&);
 template int PDFSerialization::unpack(const QByteArray&);
 template QString PDFSerialization::unpack(const QByteArray&);
 template PDFPage PDFSerialization::unpack(const QByteArray&);
+template PDFViewing PDFSerialization::unpack(const QByteArray&);
 template std::vector<QString> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFAnnotation> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFOutlineNode> PDFSerialization::unpack(const QByteArray&);

@@ -6,8 +6,8 @@
 
 #include <QByteArray>
 
-// Serialises what one process reports to another about a document: an int, a QString, a PDFPage, or
-// a vector of QString, PDFAnnotation, PDFOutlineNode or PDFTextLine.
+// Serialises what one process reports to another about a document: an int, a QString, a PDFPage,
+// a PDFViewing, or a vector of QString, PDFAnnotation, PDFOutlineNode or PDFTextLine.
 namespace PDFSerialization {
 
 // An exception of the kind readerMalformedAnswer.

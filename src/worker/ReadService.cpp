@@ -29,6 +29,8 @@ QByteArray answer(const PDFDocument& document, const QByteArray& question) {
         return PDFSerialization::pack(document.annotations(of.toInt()));
     if (what == "outline")
         return PDFSerialization::pack(document.outline());
+    if (what == "viewing")
+        return PDFSerialization::pack(document.viewing());
     if (what == "language")
         return PDFSerialization::pack(document.language());
     if (what == "labels")

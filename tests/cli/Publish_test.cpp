@@ -27,6 +27,20 @@ TEST_F(PublishTest, TakesThePageSizeOfTheFirstPageThatCanBeRead) {
     EXPECT_EQ(BookReader::configuration(book()).textAt("Ppts/Ppt/Normal/Width"), "210");
 }
 
+TEST_F(PublishTest, ReadsFromRightToLeftAsTheDocumentAsksUnlessOptionsSayOtherwise) {
+    PDFBuilder pdf;
+    pdf.addPage(PDFBuilder::page({300, 400}));
+    pdf.addCatalogEntries("/ViewerPreferences << /Direction /R2L >>");
+    ASSERT_TRUE(pdf.write(path("hebrew.pdf")));
+    TestFiles::write(path("set.txt"), "RightToLeft=No");
+    const std::pair<QStringList, QString> cases[] = {
+        {{}, "YES"}, {{"--set=RightToLeft=No"}, "NO"}, {{"--settings=" + path("set.txt")}, "No"}};
+    for (const auto& [options, expected] : cases) {
+        published(path("hebrew.pdf"), options);
+        EXPECT_EQ(BookReader::configuration(book()).textAt("Properties/RightToLeft"), expected);
+    }
+}
+
 TEST_F(PublishTest, ReplacesFilesThatAreNoBooksWithForceOnly) {
     const QStringList web{"--type=web"};
     const QStringList single{"--type=web", "--single-file"};

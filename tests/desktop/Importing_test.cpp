@@ -1,5 +1,6 @@
 #include "app/AppSettings.h"
 #include "app/desktop/RecentFiles.h"
+#include "builder/PDFBuilder.h"
 #include "desktop/DesktopProgram.h"
 #include "support/ChildProcesses.h"
 #include "support/Program.h"
@@ -51,6 +52,24 @@ TEST_F(Importing, DocumentBecomesTheBook) {
     AppSettings::shareInstance().setPageWidth(420);
     program->OnApplyChange();
     EXPECT_EQ(configuration().textAt("Ppts/Ppt/Normal/Width"), "420") << "the stored size";
+}
+
+TEST_F(Importing, BookIsReadAsItsDocumentAsksUntilTheUserChooses) {
+    const auto importAnother = [this](bool rightToLeft) {
+        PDFBuilder hebrew;
+        hebrew.addPage(PDFBuilder::page({300, 400}));
+        hebrew.addCatalogEntries(rightToLeft ? "/ViewerPreferences << /Direction /R2L >>" : "");
+        ASSERT_TRUE(hebrew.write(path("hebrew.pdf")));
+        import(path("hebrew.pdf"));
+    };
+    for (const bool rightToLeft : {true, false, true}) {
+        importAnother(rightToLeft);
+        EXPECT_EQ(value("RightToLeft").toUpper(), rightToLeft ? "YES" : "NO");
+    }
+    EXPECT_EQ(configuration().textAt("Properties/RightToLeft"), "YES");
+    press("RightToLeft");
+    importAnother(true);
+    EXPECT_EQ(value("RightToLeft"), "NO");
 }
 
 TEST_F(Importing, DroppedDocumentIsImportedAtOnce) {

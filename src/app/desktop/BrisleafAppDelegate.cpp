@@ -35,6 +35,8 @@ const QString helpFile = QStringLiteral("PDF to Folvero for mac Help/PDF to Folv
 
 constexpr int blinkInterval = 330; // ms
 
+const QString direction = QStringLiteral("RightToLeft");
+
 } // namespace
 
 void BrisleafAppDelegate::prepaireTheLog() const {
@@ -112,6 +114,12 @@ void BrisleafAppDelegate::previewDemo() {
         iWindow->webView->showFile(page, true);
 }
 
+void BrisleafAppDelegate::valueWasEdited(const FlashTemplateProperty& property) {
+    iIsDirectionChosen = iIsDirectionChosen || property.key() == direction;
+    iHistory.recordEdits();
+    tmplPpertyValueChanged();
+}
+
 void BrisleafAppDelegate::tmplPpertyValueChanged() {
     if (iApplyChangeTimer)
         return;
@@ -158,8 +166,9 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
                                  QString::number(iImportWindow->pageWidth()));
     iFlashTmpl->setPropertyValue(QStringLiteral("pageHeight"),
                                  QString::number(iImportWindow->pageHeight()));
-    iHistory.snapshotValues();
     iBook = iImportWindow->book();
+    takeDirectionOfDocument();
+    iHistory.snapshotValues();
     iOutline->reloadValues();
     const QString file = AppSettings::shareInstance().lastImportedFile();
     RecentFiles::add(file);
@@ -219,6 +228,7 @@ void BrisleafAppDelegate::OnImportTmplSettings() {
         iWindow->messages->showError(tr("The settings were not loaded."),
                                      tr("The file %1 cannot be read.").arg(file));
     iFlashTmpl->importPropertiesSettingsFrom(file);
+    iIsDirectionChosen = iIsDirectionChosen || !file.isEmpty();
     //: Stands in "Undo %1".
     iHistory.recordEdits(tr("loading of settings"));
     iOutline->reloadValues();
@@ -257,7 +267,16 @@ void BrisleafAppDelegate::OnOpenHelp() {
         iQuestions.open(file);
 }
 
+void BrisleafAppDelegate::takeDirectionOfDocument() {
+    if (!iIsDirectionChosen)
+        iFlashTmpl->setPropertyValue(direction,
+                                     iBook.rightToLeft ? QStringLiteral("YES") : iOwnDirection);
+}
+
 void BrisleafAppDelegate::showTemplate(const QString& name) {
+    iOwnDirection = iFlashTmpl->propertyValueFor(direction, QStringLiteral("NO"));
+    iIsDirectionChosen = false;
+    takeDirectionOfDocument();
     iHistory.reset(iFlashTmpl);
     iOutline->reloadData();
     iWindow->outlineView->expandAll();

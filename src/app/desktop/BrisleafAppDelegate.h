@@ -84,10 +84,12 @@ private:
     void loadDemoPages();
     void showEditor();
     void showTemplate(const QString& name);
+    void takeDirectionOfDocument();
     void connectCommands();
     void observeEditor();
     std::optional<QString> settingsFileToSave() const;
     void updateTmplPropertyTip();
+    void valueWasEdited(const FlashTemplateProperty& property);
     void tmplPpertyValueChanged();
     void onTimerEvent();
     void valuesWereUndone();
@@ -106,6 +108,8 @@ private:
     std::unique_ptr<OutputWindowDelegate> iOuputWindow;
     std::unique_ptr<SelectTemplateWindowDelegate> iSelecteTmplWindow;
     std::shared_ptr<FlashTemplate> iFlashTmpl;
+    QString iOwnDirection;           // the template's own RightToLeft
+    bool iIsDirectionChosen = false; // by the user
     std::unique_ptr<FlashTemplateOutlineDelegate> tmplDelegate;
     std::unique_ptr<FlashTemplateModel> iOutline;
     // The path of the last import; empty while the demo book is shown.

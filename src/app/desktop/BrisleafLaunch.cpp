@@ -111,11 +111,11 @@ void BrisleafAppDelegate::observeEditor() {
     auto& center = NotificationCenter::defaultCenter();
     iTips = center.addObserver(QString::fromUtf16(UpdateFlashTmplProTipNotification), nullptr,
                                [this](const Notification&) { updateTmplPropertyTip(); });
-    iChanges = center.addObserver(QString::fromUtf16(FlashTmplProValueChangedNotification), nullptr,
-                                  [this](const Notification&) {
-                                      iHistory.recordEdits();
-                                      tmplPpertyValueChanged();
-                                  });
+    iChanges = center.addObserver(
+        QString::fromUtf16(FlashTmplProValueChangedNotification), nullptr,
+        [this](const Notification& change) {
+            valueWasEdited(*static_cast<const FlashTemplateProperty*>(change.object));
+        });
 }
 
 void BrisleafAppDelegate::connectCommands() {
