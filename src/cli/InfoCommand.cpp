@@ -144,8 +144,8 @@ void printOutline(const std::vector<PDFOutlineNode>& nodes, int depth) {
 
 } // namespace
 
-void runInfo(const QString& pdf, bool json) {
-    const auto document = InputFile::open(pdf);
+void runInfo(const QString& pdf, const QByteArray& password, bool json) {
+    const auto document = InputFile::open(pdf, password);
     if (json) {
         printAsJson(*document);
         return;

@@ -20,12 +20,16 @@ auto opened(const QString& path, Opening opening) {
 
 } // namespace
 
-std::shared_ptr<PDFDocument> InputFile::open(const QString& path) {
-    return opened(path, [](const QString& file) { return PDFReader::open(file); });
+std::shared_ptr<PDFDocument> InputFile::open(const QString& path, const QByteArray& password) {
+    return opened(path, [&](const QString& file) { return PDFReader::open(file, {}, password); });
 }
 
-OpenedPDF InputFile::openForDrawing(const QString& path, int jobs) {
-    return opened(path, [jobs](const QString& file) {
-        return OpenedPDF::open(file, jobs, Interrupt::wasRequested);
+OpenedPDF InputFile::openForDrawing(const QString& path, const QByteArray& password, int jobs) {
+    return opened(path, [&](const QString& file) {
+        OpenedPDF pdf;
+        pdf.jobs = jobs;
+        pdf.password = password;
+        pdf.open(file, Interrupt::wasRequested);
+        return pdf;
     });
 }

@@ -65,7 +65,8 @@ QString bookName(const PublishOptions& options) {
 }
 
 OpenedPDF openDocument(const PublishOptions& options) {
-    OpenedPDF opened = InputFile::openForDrawing(options.pdf, options.jobs);
+    OpenedPDF opened =
+        InputFile::openForDrawing(options.pdf, options.password.password(), options.jobs);
     if (opened.document->pageCount() == 0)
         throw CommandError(QStringLiteral("%1: the document has no pages").arg(options.pdf),
                            ExitCode::badDocument);

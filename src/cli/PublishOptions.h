@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/PasswordOptions.h"
 #include "drawing/SpareWorkers.h"
 
 #include <QString>
@@ -8,6 +9,7 @@
 // The options of "folvero publish".
 struct PublishOptions {
     QString pdf;
+    PasswordOptions password;
     QString outputFolder;
     enum class Type { html, app, web };
     Type type = Type::web;

@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "cli/DecodeCommand.h"
 #include "cli/InfoCommand.h"
+#include "cli/PasswordOptions.h"
 #include "cli/PublishCommand.h"
 #include "cli/ServeCommand.h"
 #include "cli/TemplatesCommand.h"
@@ -26,6 +27,7 @@ namespace {
 struct CommandLine {
     PublishOptions publish;
     QString pdf;
+    PasswordOptions password;
     QString book;
     std::optional<int> port;
     bool json = false;
@@ -47,6 +49,17 @@ CLI::Option* addText(CLI::App& command, const std::string& name, QString& value,
 PublishOptions::Type typeNamed(const std::string& name) {
     using Type = PublishOptions::Type;
     return name == "app" ? Type::app : name == "html" ? Type::html : Type::web;
+}
+
+void addPassword(CLI::App& command, PasswordOptions& options) {
+    command
+        .add_flag("--password", options.ask,
+                  "Ask for the password of a protected PDF on the terminal")
+        ->disable_flag_override();
+    addText(command, "--password-file", options.file,
+            "A file with the password in its first line; without either option the\n"
+            "environment variable FOLVERO_PASSWORD may hold it")
+        ->type_name("FILE");
 }
 
 // Options that do not change the book.
@@ -132,6 +145,7 @@ void addPublish(CLI::App& app, PublishOptions& options) {
     command->add_flag(
         "--force", options.force,
         "Overwrite a page, an application or other files that don't belong to a book");
+    addPassword(*command, options.password);
     addRunOptions(*command, options);
     command->callback([&options] { runPublish(options); });
 }
@@ -151,9 +165,10 @@ void addInfo(CLI::App& app, CommandLine& line) {
         app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file")
             ->group("Commands");
     addText(*command, "PDF", line.pdf, "The PDF file")->type_name("")->required();
+    addPassword(*command, line.password);
     command->add_flag("--json", line.json, "Print JSON");
     command->callback([&line] {
-        runInfo(line.pdf, line.json);
+        runInfo(line.pdf, line.password.password(), line.json);
         Terminal::checkOutput();
     });
 }
@@ -211,6 +226,8 @@ void openStandardStreams() {
 int run(int argc, char** argv) {
     CLI::App app("Turns PDF files into page-flip books.", "folvero");
     CommandLine line;
+    line.password.takeEnvironment();
+    line.publish.password = line.password;
     app.failure_message(explain);
     for (const auto& [label, shown] :
          {std::pair{"SUBCOMMAND", "COMMAND"}, {"Positionals", "Arguments"}, {"REQUIRED", ""}})

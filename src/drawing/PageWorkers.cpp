@@ -72,7 +72,7 @@ void PageWorkers::killAll() {
 std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
     const QByteArray order = QFile::encodeName(iPDFPath).toBase64() + ' ' +
                              QFile::encodeName(iFolder).toBase64() + ' ' +
-                             QByteArray::number(iQuality);
+                             QByteArray::number(iQuality) + ' ' + iPassword.toBase64();
     try {
         auto process = iSpares ? iSpares->take() : nullptr;
         if (!process) {

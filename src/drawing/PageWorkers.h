@@ -41,6 +41,9 @@ public:
     // Which files a page gets; page files by default.
     void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
 
+    // Of the PDF, in UTF-8; none by default.
+    void setPassword(const QByteArray& password) { iPassword = password; }
+
     // How many processes draw; usualWorkerCount() by default.
     void setJobs(int jobs) { iJobs = jobs; }
 
@@ -90,6 +93,7 @@ private:
     QString iProgram;
     std::shared_ptr<SpareWorkers> iSpares;
     QString iPDFPath;
+    QByteArray iPassword;
     QString iFolder;
     int iQuality;
     FilesOfPages iFilesOf = classicFiles;

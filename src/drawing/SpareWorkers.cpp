@@ -38,7 +38,9 @@ std::unique_ptr<ChildProcess> SpareWorkers::take() {
     return process;
 }
 
-OpenedPDF OpenedPDF::open(const QString& path, int jobs, std::function<bool()> stopped) {
-    auto workers = std::make_shared<SpareWorkers>(jobs);
-    return {PDFReader::open(path, std::move(stopped)), std::move(workers), jobs};
+void OpenedPDF::open(const QString& path, std::function<bool()> stopped) {
+    if (document)
+        return;
+    workers = std::make_shared<SpareWorkers>(jobs);
+    document = PDFReader::open(path, std::move(stopped), password);
 }

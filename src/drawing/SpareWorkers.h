@@ -28,10 +28,11 @@ private:
 
 // A document to be drawn, and workers that were started while it was opened.
 struct OpenedPDF {
-    std::shared_ptr<PDFDocument> document;
+    std::shared_ptr<PDFDocument> document; // null before open()
     std::shared_ptr<SpareWorkers> workers;
     int jobs = usualWorkerCount(); // how many workers are to draw
+    QByteArray password;           // in UTF-8; empty for none
 
-    // See PDFReader::open().
-    static OpenedPDF open(const QString& path, int jobs, std::function<bool()> stopped = {});
+    // Does nothing when it is open. See PDFReader::open().
+    void open(const QString& path, std::function<bool()> stopped = {});
 };

@@ -13,8 +13,7 @@ FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pa
     : iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
     setSourceFile(pdfPath);
     try {
-        if (!opened.document)
-            opened = OpenedPDF::open(sourceFile(), opened.jobs, std::move(stopped));
+        opened.open(sourceFile(), std::move(stopped));
         iPDFDoc = opened.document;
     } catch (const PlatformException& failure) {
         iOpenError = failure;

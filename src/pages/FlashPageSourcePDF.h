@@ -22,9 +22,9 @@ inline constexpr char16_t ImportPDFDidFinish[] = u"ImportPDFDidFinish";
 class FlashPageSourcePDF : public FlashPageSource {
 public:
     // A file that can't be opened leaves the source without a document; openError() has the cause.
-    // dpi is stored but has no effect. opened may hold the document if it is already open;
-    // otherwise stopped is polled while reading and cancels it. Throws PlatformException for a page
-    // range that is too long.
+    // dpi is stored but has no effect. opened has its password, and may hold the document if it is
+    // already open; otherwise stopped is polled while reading and cancels it. Throws
+    // PlatformException for a page range that is too long.
     FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi, int quality,
                        OpenedPDF opened = {}, std::function<bool()> stopped = {});
 

@@ -27,8 +27,8 @@ public:
     // Which files pages get; page files by default.
     void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
 
-    // The document, if the caller has already opened it and does not use it until the import is
-    // finished. By default the import opens the file.
+    // The document's password, and the document itself, if the caller has already opened it and
+    // does not use it until the import is finished. By default the import opens the file.
     void setDocument(OpenedPDF document) { iDocument = std::move(document); }
 
     void main() override;

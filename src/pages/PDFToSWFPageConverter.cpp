@@ -23,6 +23,10 @@ QString PDFToSWFPageConverter::workFile(int page, const char* extension) const {
                        QStringLiteral("%1.%2").arg(page).arg(QLatin1String(extension)));
 }
 
+QByteArray PDFToSWFPageConverter::password() const {
+    return PDFDoc() ? PDFDoc()->password() : QByteArray();
+}
+
 void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
                                       const std::atomic<bool>& stop) {
     iStop = &stop;
@@ -34,6 +38,7 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     }
     iWorkers = std::make_unique<PageWorkers>(PDFPath(), converterWorkFolder(), quality(),
                                              std::move(toDraw), stop);
+    iWorkers->setPassword(password());
     iWorkers->setJobs(iJobs);
     iWorkers->setSpares(std::exchange(iSpares, nullptr));
     iWorkers->setFilesOf(iFilesOf);
@@ -102,7 +107,9 @@ PageResult PDFToSWFPageConverter::drawInProcess(int page) {
     const PageFiles wanted = iFilesOf(page);
     try {
         if (!iPDFRep) {
-            iOwnDocument = std::make_unique<DrawablePDF>(PDFPath());
+            iOwnDocument =
+                std::make_unique<DrawablePDF>(PDFPath(), DrawablePDF::Access::stream,
+                                              PDFDoc() ? PDFDoc()->password() : QByteArray());
             iPDFRep = std::make_unique<PageMaker>(*iOwnDocument, converterWorkFolder(), quality());
         }
         return {{}, iPDFRep->make(page, wanted, {iStop, PDFLimits::maxPageTime})};

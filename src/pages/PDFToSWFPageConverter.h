@@ -64,6 +64,7 @@ public:
     std::size_t workerCount() const { return iWorkerCount; }
 
 private:
+    QByteArray password() const;
     QString workFile(int page, const char* extension) const;
     // The picture of a page that is there, else the page file.
     QString pictureOf(int page) const;

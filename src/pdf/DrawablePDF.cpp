@@ -57,9 +57,9 @@ PDFAnnotation annotationFrom(const PDFEngine& engine, pdf_obj* object) {
 
 } // namespace
 
-DrawablePDF::DrawablePDF(const QString& path, Access access)
-    : PDFDocument(path), iEngine(std::make_unique<PDFEngine>()) {
-    iEngine->open(path, access == Access::mapped);
+DrawablePDF::DrawablePDF(const QString& path, Access access, const QByteArray& password)
+    : PDFDocument(path, password), iEngine(std::make_unique<PDFEngine>()) {
+    iEngine->open(path, access == Access::mapped, password);
 }
 
 DrawablePDF::~DrawablePDF() = default;

@@ -15,8 +15,9 @@ public:
     enum class Access { stream, mapped };
 
     // Throws PlatformException (pdfFile, pdfOpen, pdfPassword) whose reason says why the file can't
-    // be used.
-    explicit DrawablePDF(const QString& path, Access access = Access::stream);
+    // be used. The password, in UTF-8, may be empty, and is ignored when none is needed.
+    explicit DrawablePDF(const QString& path, Access access = Access::stream,
+                         const QByteArray& password = {});
     ~DrawablePDF() override;
 
     int pageCount() const override;

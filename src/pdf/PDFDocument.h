@@ -3,7 +3,9 @@
 #include "pdf/PDFPage.h"
 #include "system/FileState.h"
 
+#include <QByteArray>
 #include <QString>
+#include <utility>
 #include <vector>
 
 // One entry of a PDF's outline.
@@ -24,6 +26,8 @@ public:
     PDFDocument& operator=(const PDFDocument&) = delete;
 
     const QString& path() const { return iPath; }
+    // What it was opened with, in UTF-8; empty for none.
+    const QByteArray& password() const { return iPassword; }
     // Throws PlatformException (pdfChanged) when the file was replaced or written since it was
     // opened: what was read and drawn may then come from two different documents. The reason is
     // temporary, see Message.
@@ -60,9 +64,11 @@ public:
 
 protected:
     // Does not open the file.
-    explicit PDFDocument(const QString& path) : iPath(path), iState(FileState::of(path)) {}
+    explicit PDFDocument(const QString& path, QByteArray password = {})
+        : iPath(path), iPassword(std::move(password)), iState(FileState::of(path)) {}
 
 private:
     QString iPath;
+    QByteArray iPassword;
     FileState iState; // before it was opened
 };

@@ -74,7 +74,7 @@ PDFEngine::~PDFEngine() {
         ::munmap(mapping, mappingSize);
 }
 
-void PDFEngine::open(const QString& path, bool mapped) {
+void PDFEngine::open(const QString& path, bool mapped, const QByteArray& password) {
     PDFFile::check(path);
     if (mapped)
         map(path);
@@ -87,10 +87,21 @@ void PDFEngine::open(const QString& path, bool mapped) {
         PDFFile::failToOpen(path, Message::translate("PDFDocument", "is damaged beyond repair (%1)")
                                       .arg(failure.message()));
     }
-    if (get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
+    unlock(path, password);
+    pageCount = countPages();
+}
+
+// A document that has only an owner's password opens without one.
+void PDFEngine::unlock(const QString& path, const QByteArray& password) {
+    if (!get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
+        return;
+    if (password.isEmpty())
         PDFFile::failToOpen(path, Message::translate("PDFDocument", "is protected by a password"),
                             ErrorKind::pdfPassword);
-    pageCount = countPages();
+    const char* words = password.constData();
+    if (!get([&](fz_context* ctx) { return pdf_authenticate_password(ctx, document, words); }, 0))
+        PDFFile::failToOpen(path, Message::translate("PDFDocument", "the password is wrong"),
+                            ErrorKind::pdfPassword);
 }
 
 // Leaves it unmapped where that fails.

@@ -36,7 +36,7 @@ public:
     PDFEngine& operator=(const PDFEngine&) = delete;
 
     // For errors see DrawablePDF.
-    void open(const QString& path, bool mapped);
+    void open(const QString& path, bool mapped, const QByteArray& password);
 
     // Runs MuPDF calls; a MuPDF error becomes a PlatformException of that kind.
     template <class Body>
@@ -101,6 +101,7 @@ public:
 private:
     void map(const QString& path);
     void openDocument(fz_context* ctx, const char* path);
+    void unlock(const QString& path, const QByteArray& password);
     // The document's page count, but no more than it has objects.
     int countPages() const;
 

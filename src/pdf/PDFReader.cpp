@@ -75,9 +75,10 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
 
 } // namespace
 
-std::shared_ptr<PDFDocument> PDFReader::open(const QString& path, std::function<bool()> stopped) {
+std::shared_ptr<PDFDocument> PDFReader::open(const QString& path, std::function<bool()> stopped,
+                                             const QByteArray& password) {
     PDFFile::check(path);
-    auto reader = std::make_shared<PDFReader>(path, std::move(stopped));
+    auto reader = std::make_shared<PDFReader>(path, std::move(stopped), password);
     try {
         if (reader->start())
             return reader;
@@ -86,11 +87,13 @@ std::shared_ptr<PDFDocument> PDFReader::open(const QString& path, std::function<
             throw;
         PDFFile::failToOpen(path, failure.message(), failure.kind());
     }
-    return std::make_shared<DrawablePDF>(path);
+    return std::make_shared<DrawablePDF>(path, DrawablePDF::Access::stream, password);
 }
 
-PDFReader::PDFReader(const QString& path, std::function<bool()> stopped)
-    : PDFDocument(path), iProgram(Bundle::pageWorkerPath()), iStopped(std::move(stopped)) {}
+PDFReader::PDFReader(const QString& path, std::function<bool()> stopped, const QByteArray& password)
+    : PDFDocument(path, password),
+      iProgram(Bundle::pageWorkerPath()),
+      iStopped(std::move(stopped)) {}
 
 bool PDFReader::start() {
     try {
@@ -156,6 +159,7 @@ QByteArray PDFReader::askOnce(const QByteArray& question) const {
             QFile::encodeName(iProgram).toStdString(),
             std::vector<std::string>{"read", QFile::encodeName(path()).toStdString()});
         iIsSandboxed = false;
+        iProcess->writeLine(password().toBase64());
         QByteArray count = awaitAnswer();
         if (question.isEmpty())
             return count;

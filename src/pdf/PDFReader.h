@@ -19,11 +19,11 @@ public:
     // Opens a PDF. Where no such process can be started on this system, the file is read in this
     // one. stopped is polled while waiting and cancels a query; it may be empty. Throws as
     // DrawablePDF does.
-    static std::shared_ptr<PDFDocument> open(const QString& path,
-                                             std::function<bool()> stopped = {});
+    static std::shared_ptr<PDFDocument>
+    open(const QString& path, std::function<bool()> stopped = {}, const QByteArray& password = {});
 
     // Does not read yet; start() must come first.
-    PDFReader(const QString& path, std::function<bool()> stopped);
+    PDFReader(const QString& path, std::function<bool()> stopped, const QByteArray& password = {});
 
     // For tests: the program to start instead of the one that is installed beside the running
     // program, and the time limit for an answer.

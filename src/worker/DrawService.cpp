@@ -77,7 +77,8 @@ void serveDrawing() {
     const QString workFolder = QFile::decodeName(QByteArray::fromBase64(order.value(1)));
     enterWorkerSandbox(path, workFolder);
     try {
-        const DrawablePDF document(path, DrawablePDF::Access::mapped);
+        const DrawablePDF document(path, DrawablePDF::Access::mapped,
+                                   QByteArray::fromBase64(order.value(3)));
         PageMaker maker(document, workFolder, order.value(2).toInt());
         std::cout << "ready" << std::endl;
         servePages(maker);

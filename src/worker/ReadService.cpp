@@ -61,13 +61,17 @@ void answerWith(const std::function<QByteArray()>& work) {
 } // namespace
 
 void serveReading(const char* pdf) {
+    std::string line;
+    if (!std::getline(std::cin, line))
+        return;
+    const QByteArray password = QByteArray::fromBase64(QByteArray::fromStdString(line));
     const QString path = QFile::decodeName(pdf);
     enterWorkerSandbox(path, QString());
     std::shared_ptr<PDFDocument> document;
     answerWith([&] {
-        document = std::make_shared<DrawablePDF>(path, DrawablePDF::Access::mapped);
+        document = std::make_shared<DrawablePDF>(path, DrawablePDF::Access::mapped, password);
         return PDFSerialization::pack(document->pageCount());
     });
-    for (std::string line; document && std::getline(std::cin, line);)
+    while (document && std::getline(std::cin, line))
         answerWith([&] { return answer(*document, QByteArray::fromStdString(line)); });
 }

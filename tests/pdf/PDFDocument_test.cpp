@@ -18,11 +18,13 @@ class PDFDocumentTest : public testing::Test {
 protected:
     std::shared_ptr<DrawablePDF> open(const QByteArray& bytes) const {
         TestFiles::write(iFolder.filePath("test.pdf"), bytes);
-        return std::make_shared<DrawablePDF>(iFolder.filePath("test.pdf"));
+        return std::make_shared<DrawablePDF>(iFolder.filePath("test.pdf"),
+                                             DrawablePDF::Access::stream, iPassword);
     }
     std::shared_ptr<DrawablePDF> open() const { return open(builder.build()); }
 
     PDFBuilder builder;
+    QByteArray iPassword;
 
 private:
     QTemporaryDir iFolder;
@@ -44,10 +46,13 @@ QByteArray vectors(const DrawablePDF& document, int index) {
 
 } // namespace
 
-TEST_F(PDFDocumentTest, OpensADocumentLockedWithAnEmptyPassword) {
+TEST_F(PDFDocumentTest, OpensALockedDocumentWithItsPasswordInUTF8) {
     builder.addPage(PDFBuilder::page(pageSize, redCorner));
-    builder.encrypt("", "owner");
-    EXPECT_TRUE(isNear(colourAt(draw(*open(), 0), 0.1, 0.9), Qt::red));
+    for (const auto& [inFile, typed] : {std::pair{"", ""}, {"gr\xFC\xDF\x80", "grüß•"}}) {
+        builder.encrypt(inFile, "owner");
+        iPassword = typed;
+        EXPECT_TRUE(isNear(colourAt(draw(*open(), 0), 0.1, 0.9), Qt::red)) << typed;
+    }
 }
 
 TEST_F(PDFDocumentTest, LabelsItsPages) {

@@ -19,8 +19,8 @@ protected:
     std::unique_ptr<PDFReader> reader(const QByteArray& script,
                                       std::chrono::milliseconds patience = 60s) {
         const QString program = iFolder.filePath("reader");
-        TestFiles::write(program, "#!/bin/sh\ncount=" + PDFSerialization::pack(3).toBase64() +
-                                      "\n" + script);
+        TestFiles::write(program, "#!/bin/sh\nread password\ncount=" +
+                                      PDFSerialization::pack(3).toBase64() + "\n" + script);
         QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         auto made = std::make_unique<PDFReader>("none.pdf", [this] { return iStop; });
         made->setProgram(program);
