@@ -9,6 +9,8 @@
 /** Data that hold an SVG file, and pictures. */
 const LARGE_KINDS = ['js', 'png', 'jpg'];
 
+const PANELS = ['contents', 'thumbs'];
+
 /** Contents deeper than this are no contents that anyone could read. */
 const DEEPEST = 24;
 
@@ -31,6 +33,9 @@ export class Facts {
     this.outline = entriesOf(raw.outline, pageCount, 0);
     this.large = listOf(raw.large).map((kind) => (LARGE_KINDS.includes(kind) ? kind : ''));
     this.hasText = raw.text === true;
+    this.start = positionOf(raw.start, pageCount);
+    /** What is open at first where there is room beside the book. */
+    this.panel = PANELS.find((name) => name === raw.panel) ?? '';
     this.offline = raw.offline === true;
     const ranges = /** @type {[from: number, to: number][]} */ (listOf(raw.open).filter(Array.isArray));
     /** Pages that can be read, none where all can. */
@@ -90,6 +95,16 @@ export function textOf(value) {
 }
 
 /**
+ * @param {unknown} value
+ * @param {number} pageCount
+ * @returns {number} a page's position, 0 for anything else
+ */
+function positionOf(value, pageCount) {
+  const position = Number.isInteger(value) ? Number(value) : 0;
+  return position >= 1 && position <= pageCount ? position : 0;
+}
+
+/**
  * @param {unknown} raw
  * @param {number} pageCount
  * @param {number} depth
@@ -99,7 +114,7 @@ function entriesOf(raw, pageCount, depth) {
   if (depth > DEEPEST) return [];
   return listOf(raw).filter((entry) => Array.isArray(entry)).map(([title, position, children]) => ({
     title: textOf(title).trim() || '\u2026',
-    position: Number.isInteger(position) && position >= 1 && position <= pageCount ? position : 0,
+    position: positionOf(position, pageCount),
     children: entriesOf(children, pageCount, depth + 1),
   }));
 }

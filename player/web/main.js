@@ -135,6 +135,19 @@ function addToBook(player, facts) {
     idle(() => book.views.pagesOf(book.views.clamp(turner.current + 1)).forEach((page) => texts.get(page)));
   });
   layers.update();
+  if (room.isWide) openPanel(facts.panel, commands);
+}
+
+/**
+ * Opens what the document asks for; keys still turn pages.
+ * @param {string} panel
+ * @param {import('../src/controls/toolbar.js').Commands} commands
+ */
+function openPanel(panel, commands) {
+  if (panel === 'contents') commands.contents?.();
+  else if (panel === 'thumbs') commands.thumbs();
+  else return;
+  /** @type {HTMLElement} */ (document.activeElement).blur();
 }
 
 window.folveroFile = (path) => single?.address(path);
@@ -147,6 +160,7 @@ window.folveroExtensions.push(async (beginning) => {
   // Without them the book still works as a classic one.
   if (!facts) return undefined;
   config.labels = facts.labels;
+  config.startPage = facts.start || 1;
   const closed = closePages(config, facts, say('notOpen'));
   window.folveroFile = (path) => closed(path) ?? single?.address(path);
   return (parts) => addToBook({ ...beginning, ...parts }, facts);

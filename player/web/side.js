@@ -37,6 +37,11 @@ export class SideRoom {
     return this.way === 'beside';
   }
 
+  /** Whether a panel would lie beside the book. */
+  get isWide() {
+    return this.#wayNow() === 'beside';
+  }
+
   /** @param {SidePanel} panel */
   take(panel) {
     if (this.open && this.open !== panel) this.open.leave();

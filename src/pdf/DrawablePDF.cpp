@@ -110,6 +110,8 @@ PDFViewing DrawablePDF::viewing() const {
     PDFViewing viewing;
     viewing.rightToLeft =
         iEngine->name(iEngine->entry(preferences, "Direction")) == QStringLiteral("R2L");
+    viewing.pageMode = iEngine->name(iEngine->entry(root, "PageMode"));
+    viewing.openPage = iEngine->openPage();
     return viewing;
 }
 

@@ -222,8 +222,17 @@ int PDFEngine::pageNumber(pdf_obj* page) const {
 std::optional<int> PDFEngine::targetPage(pdf_obj* dictionary) const {
     if (pdf_obj* destination = entry(dictionary, "Dest"))
         return destinationPage(destination);
-    pdf_obj* action = entry(dictionary, "A");
+    return actionPage(entry(dictionary, "A"));
+}
+
+std::optional<int> PDFEngine::actionPage(pdf_obj* action) const {
     if (action && name(entry(action, "S")) == QStringLiteral("GoTo"))
         return destinationPage(entry(action, "D"));
     return std::nullopt;
+}
+
+std::optional<int> PDFEngine::openPage() const {
+    pdf_obj* open = entry(trailerEntry("Root"), "OpenAction");
+    const bool isAction = get([&](fz_context* ctx) { return pdf_is_dict(ctx, open); }, 0) != 0;
+    return isAction || !open ? actionPage(open) : destinationPage(open);
 }

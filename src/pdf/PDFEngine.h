@@ -88,6 +88,8 @@ public:
     // The zero-based target page of an annotation or outline entry: that of its "Dest", or of its
     // go-to action.
     std::optional<int> targetPage(pdf_obj* dictionary) const;
+    // The same of the catalog's "OpenAction", an action or a destination.
+    std::optional<int> openPage() const;
 
     std::size_t allocated = 0; // bytes allocated by MuPDF
     fz_context* context = nullptr;
@@ -105,6 +107,8 @@ private:
     // The document's page count, but no more than it has objects.
     int countPages() const;
 
+    // The target page of a go-to action.
+    std::optional<int> actionPage(pdf_obj* action) const;
     // The page of an explicit or named destination.
     std::optional<int> destinationPage(pdf_obj* destination) const;
     // The name of a destination, with a prefix that distinguishes the two kinds of names; empty for

@@ -18,6 +18,8 @@ struct PDFAnnotation {
 // How a document asks to be shown.
 struct PDFViewing {
     bool rightToLeft = false;
+    QString pageMode;            // what is open beside the page: "UseOutlines", "UseThumbs" ...
+    std::optional<int> openPage; // zero-based; none when it is all the same
 };
 
 // How a page lies on its sheet. Boxes are in points, in PDF user space (origin at the lower left,

@@ -47,6 +47,16 @@ void readInformation(const PDFDocument& document, WebBookMetadata& metadata) {
     metadata.language = languageTag(document.language());
 }
 
+void readViewing(const PDFDocument& document, WebBookMetadata& metadata) {
+    const PDFViewing viewing = document.viewing();
+    if (viewing.pageMode == u"UseOutlines")
+        metadata.panel = QStringLiteral("contents");
+    else if (viewing.pageMode == u"UseThumbs")
+        metadata.panel = QStringLiteral("thumbs");
+    const int start = viewing.openPage ? metadata.positionOf(*viewing.openPage + 1) : 0;
+    metadata.start = metadata.isOpen(start) ? start : 0;
+}
+
 void readLabels(const PDFDocument& document, WebBookMetadata& metadata) {
     const auto labels = document.pageLabels();
     if (labels.empty())
@@ -72,6 +82,7 @@ void WebBook::readDocument(const std::optional<std::vector<PageRun>>& openPages)
         return;
     try {
         readInformation(*document, metadata);
+        readViewing(*document, metadata);
         if (!content.outline) {
             const auto ofDocument = std::make_shared<FlashOutlinePDF>();
             ofDocument->loadOutlineFromPDF(document);

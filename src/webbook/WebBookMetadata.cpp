@@ -85,6 +85,10 @@ QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, bool hasText
             array.append(number);
         object[QStringLiteral("numbers")] = array;
     }
+    if (start > 1)
+        object[QStringLiteral("start")] = start;
+    if (!panel.isEmpty())
+        object[QStringLiteral("panel")] = panel;
     if (!areOnlyPositions(labels))
         object[QStringLiteral("labels")] = QJsonArray::fromStringList(labels);
     return object;

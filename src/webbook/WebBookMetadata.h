@@ -23,6 +23,8 @@ struct WebBookMetadata {
     QStringList large;        // the extension of each page's large picture, empty for none
     QString cover;            // path in the book of a page's thumbnail; empty for none
     QString textPage;         // path in the book of the page of plain text; empty for none
+    int start = 0;            // the position that the book opens at; 0 when the document names none
+    QString panel;            // what is open at first: "contents", "thumbs", or empty
     bool offline = false;     // whether readers can save the book for offline use
     // In a preview, the runs of positions that are included; none when all are.
     std::optional<std::vector<PageRun>> open;

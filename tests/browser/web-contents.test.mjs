@@ -52,6 +52,23 @@ test('the contents lie beside the book, lead to its pages and mark where the rea
   assert.deepEqual(book.errors, []);
 });
 
+test('a book opens where and as its document asks, with its panel at a desk only', async () => {
+  for (const [asked, selector, view, hash, pages] of [
+    ['contents', '.contents-side', undefined, '', [4, 5]], ['thumbs', '.drawer', undefined, '', [4, 5]],
+    ['contents', '.contents-side', PHONE, '', [5]], ['thumbs', '.drawer', PHONE, '#page=7', [7]]]) {
+    const book = await open({ change: { start: 5, panel: asked }, view, hash });
+    assert.deepEqual(await book.pages(), pages);
+    assert.equal(await book.page.locator(selector).isVisible(), !view, asked);
+    await press(book, 'ArrowRight');
+    await book.waitForPages(...pages.map((page) => page + pages.length));
+    await book.page.evaluate(() => window.history.replaceState(null, '', window.location.pathname));
+    await book.page.reload();
+    await book.page.waitForSelector('#folvero[data-state="ready"]');
+    assert.equal(await book.page.evaluate(() => window.folvero.page), pages[0] + pages.length, 'where the reader was');
+    assert.deepEqual(book.errors, []);
+  }
+});
+
 test('long contents are folded but for the reader\'s place and used by key as trees are', async () => {
   const book = await open({ hash: '#page=7', change: { outline: long(60) } });
   await press(book, 'c');

@@ -41,6 +41,31 @@ TEST_F(PublishTest, ReadsFromRightToLeftAsTheDocumentAsksUnlessOptionsSayOtherwi
     }
 }
 
+TEST_F(PublishTest, WebBooksOpenWhereAndAsTheDocumentAsks) {
+    const struct {
+        QByteArray entries, options, expected;
+    } cases[] = {{"/PageMode /UseOutlines /OpenAction [4 0 R /Fit]", "",
+                  "\"panel\":\"contents\",\"start\":2"},
+                 {"/PageMode /UseThumbs /OpenAction << /S /GoTo /D (end) >>", "--pages=2-3",
+                  "\"panel\":\"thumbs\",\"start\":2"},
+                 {"/PageMode /FullScreen /OpenAction /old", "", "\"outline\":[],\"start\":3"},
+                 {"/OpenAction << /S /URI /D [4 0 R /Fit] >>", "", "\"outline\":[],\"text\""},
+                 {"/OpenAction (end)", "--preview-pages=1", "\"outline\":[],\"text\""}};
+    for (const auto& [entries, options, expected] : cases) {
+        PDFBuilder pdf;
+        for (int page = 0; page < 3; ++page)
+            pdf.addPage(PDFBuilder::page({300, 400}));
+        pdf.addNamedDestination("end", pdf.destination(2));
+        pdf.addOldNamedDestination("old", pdf.destination(2));
+        pdf.addCatalogEntries(
+            QByteArray(entries).replace("4 0 R", pdf.reference(pdf.pageObject(1))));
+        ASSERT_TRUE(pdf.write(path("asks.pdf")));
+        published(path("asks.pdf"), {"--type=web", options.isEmpty() ? "--force" : options});
+        const QByteArray data = TestFiles::read(file("files/web/book.js"));
+        EXPECT_TRUE(data.contains(expected)) << data.constData();
+    }
+}
+
 TEST_F(PublishTest, ReplacesFilesThatAreNoBooksWithForceOnly) {
     const QStringList web{"--type=web"};
     const QStringList single{"--type=web", "--single-file"};

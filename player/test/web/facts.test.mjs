@@ -6,9 +6,9 @@ import { shownOf } from '../../web/keeping.js';
 
 test('facts are well formed whatever a file holds', () => {
   const none = { pageCount: 3, numbers: [], labels: null, outline: [], large: [], hasText: false, offline: false,
-    open: null, language: '', textPage: '' };
+    open: null, language: '', textPage: '', start: 0, panel: '' };
   const wrong = { labels: 7, outline: 'x', numbers: {}, open: 'x', large: 3, text: 'yes', offline: 1, language: '<b>',
-    textPage: 'javascript:x.html' };
+    textPage: 'javascript:x.html', start: 4, panel: 'search' };
   for (const data of [undefined, null, 7, 'x', [], wrong]) {
     assert.deepEqual({ ...new Facts(data, 3) }, none);
   }
@@ -28,6 +28,7 @@ test('labels count where they say more than the number, languages and text pages
   assert.deepEqual(facts('language', 'de', 'en-GB', 'zh-Hant-TW', 'x', 'de-', 'de"'),
     ['de', 'en-GB', 'zh-Hant-TW', '', '', '']);
   assert.deepEqual(facts('offline', true, 1), [true, false]);
+  assert.deepEqual([...facts('start', 3, '3', 0), ...facts('panel', 'contents', 'thumbs')], [3, 0, 0, 'contents', 'thumbs']);
   assert.deepEqual(facts('textPage', 'text.html', '../a.html', '/a.html', '.a.html', 'a.svg'),
     ['text.html', '', '', '', '']);
 });

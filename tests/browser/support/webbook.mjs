@@ -30,12 +30,12 @@ function stringOf({ lines = [] } = {}) {
 }
 
 /** The data files of a web book by their names; JSON of each. */
-function dataOf({ pages, labels = null, outline = [], large = [], open = null, language = '', textPage = '' }) {
+function dataOf({ pages, labels = null, outline = [], large = [], open = null, language = '', textPage = '', start, panel }) {
   const isOpen = (position) => !open || open.some(([from, to]) => position >= from && position <= to);
   const shown = pages.map((page, index) => (isOpen(index + 1) ? page : undefined));
   const files = {
     'web/book': {
-      version: 1, numbers: null, labels, outline, open, language, textPage,
+      version: 1, numbers: null, labels, outline, open, language, textPage, start, panel,
       large: pages.map((_, index) => large[index]?.kind ?? ''), text: shown.some((page) => page?.lines?.length > 0),
     },
     'search/text': shown.map(stringOf),
