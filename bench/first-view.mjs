@@ -1,11 +1,12 @@
 #!/usr/bin/env node
-// How soon a reader sees the first page of a book of 1,000 pages over a slow connection.
-// Usage: first-view.mjs [BUILD_DIR] [--rounds 5]
+// How soon a reader sees the first page of a long book over a slow connection.
+// Usage: first-view.mjs [BUILD_DIR]... [--rounds 5] [--pdf FILE]... [--types html,web]
 //
-// Publishes the same document as a classic and as a web book, serves both with `folvero serve`, and opens them alternately
-// in headless Chromium with an empty cache, over what its developer tools call "Fast 3G". Prints medians of the seconds
-// from navigation until the first page is painted and the book can be turned, of the seconds until the next pages are
-// shown after a key press at that moment, and of the bytes loaded until the first page.
+// Publishes documents (thousand.pdf, of 1,000 pages) as classic and as web books with the program of each build, serves
+// them with `folvero serve`, and opens them alternately in headless Chromium with an empty cache, over what its developer
+// tools call "Fast 3G". Prints medians of the seconds from navigation until the first page is painted and the book can be
+// turned, of the seconds until the next pages stand there with their pictures after a key press at that moment, and of the
+// bytes and requests until the first page.
 
 import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';
@@ -13,16 +14,18 @@ import { mkdtemp, rm } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
-import { promisify } from 'node:util';
+import { parseArgs, promisify } from 'node:util';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
 const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
 
-const given = process.argv.slice(2);
-const at = given.indexOf('--rounds');
-const rounds = at < 0 ? 5 : Number(given[at + 1]);
-const build = given[0] && !given[0].startsWith('--') ? given[0] : path.join(here, '../build/release');
-const program = path.join(build, 'bin/folvero');
+const { values: options, positionals: builds } = parseArgs({ allowPositionals: true, options: {
+  rounds: { type: 'string', default: '5' }, pdf: { type: 'string', multiple: true, default: [] },
+  types: { type: 'string', default: 'html,web' },
+} });
+if (builds.length === 0) builds.push(path.join(here, '../build/release'));
+if (options.pdf.length === 0) options.pdf.push(path.join(builds[0], 'samples/thousand.pdf'));
+const rounds = Number(options.rounds);
 const FAST_3G = { offline: false, latency: 562.5, downloadThroughput: (1.6e6 / 8) * 0.9, uploadThroughput: (750e3 / 8) * 0.9 };
 
 /** In the page: records when the first view is painted. */
@@ -49,13 +52,14 @@ async function open(browser, address) {
   await page.waitForFunction(() => window.openedAt);
   const loaded = { bytes, requests };
   await page.keyboard.press('ArrowRight');
-  await page.waitForFunction(() => window.folvero?.page > 1 && !window.folvero.turning);
+  await page.waitForFunction(() => window.folvero?.page > 1 && !window.folvero.turning
+    && document.querySelectorAll('.page:not([hidden])[data-image="ready"]').length === window.folvero.pages.length);
   const [opened, turned] = await page.evaluate(() => [window.openedAt, performance.now()]);
   await context.close();
   return { opened: opened / 1000, turned: turned / 1000, ...loaded };
 }
 
-async function serve(folder) {
+async function serve(program, folder) {
   const server = spawn(program, ['serve', '--port', '0', folder], { stdio: ['ignore', 'pipe', 'ignore'] });
   const [line] = await once(server.stdout, 'data');
   return { address: String(line).trim(), stop: () => server.kill('SIGINT') };
@@ -64,24 +68,29 @@ async function serve(folder) {
 const median = (values) => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
 const folder = await mkdtemp(path.join(tmpdir(), 'folvero-first-view-'));
-const servers = {};
-for (const type of ['html', 'web']) {
-  const book = path.join(folder, type);
-  await promisify(execFile)(program, ['publish', '--quiet', '--type', type, path.join(build, 'samples/thousand.pdf'), book]);
-  servers[type] = await serve(book);
+const books = [];
+for (const pdf of options.pdf) {
+  for (const type of options.types.split(',')) {
+    for (const build of builds) {
+      const program = path.join(build, 'bin/folvero');
+      const book = path.join(folder, String(books.length));
+      await promisify(execFile)(program, ['publish', '--quiet', '--type', type, pdf, book]);
+      const name = [path.basename(pdf), type === 'html' ? 'classic' : type, ...builds.length > 1 ? [build] : []];
+      books.push({ name: name.join(', '), views: [], server: await serve(program, book) });
+    }
+  }
 }
 const browser = await launchChromium();
-const found = { html: [], web: [] };
 console.log(`Load before: ${loadavg()[0].toFixed(1)}; medians of ${rounds}.\n`);
 for (let round = 0; round < rounds; round += 1) {
-  for (const type of Object.keys(found)) found[type].push(await open(browser, servers[type].address));
+  for (const { views, server } of books) views.push(await open(browser, server.address));
 }
 console.log('| book | first page | first turn | loaded by then | requests |');
 console.log('| --- | ---: | ---: | ---: | ---: |');
-for (const [type, views] of Object.entries(found)) {
+for (const { name, views } of books) {
   const middle = (key) => median(views.map((view) => view[key]));
-  console.log(`| ${type === 'html' ? 'classic' : 'web'} | ${middle('opened').toFixed(2)} s | ${middle('turned').toFixed(2)} s | ${Math.round(middle('bytes') / 1000)} kB | ${middle('requests')} |`);
+  console.log(`| ${name} | ${middle('opened').toFixed(2)} s | ${middle('turned').toFixed(2)} s | ${Math.round(middle('bytes') / 1000)} kB | ${middle('requests')} |`);
 }
 await browser.close();
-for (const { stop } of Object.values(servers)) stop();
+for (const { server } of books) server.stop();
 await rm(folder, { recursive: true });

@@ -15,7 +15,7 @@ interface Window {
     /** Whether the page holds the configuration itself. */
     here: boolean;
   };
-  /** Base64 of the enciphered configuration, once its script has run. */
+  /** Base64 of the enciphered configuration, once its script has run; "" keeps early.js from asking for it. */
   FolveroUserConfig?: string;
   /** Other scripts leave here what they add to the book before the player's own runs. */
   folveroExtensions?: import('./src/player.js').Extension[];

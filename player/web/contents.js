@@ -1,6 +1,7 @@
 import { make } from '../src/book/dom.js';
 import { fullLabel, labelOf } from '../src/book/labels.js';
 import { itemOfPage } from './branches.js';
+import { Facts } from './facts.js';
 import { SidePanel } from './side.js';
 import { Tree } from './tree.js';
 
@@ -14,32 +15,71 @@ export class Contents {
   /**
    * @param {import('../src/player.js').Player} player
    * @param {import('./layers.js').Layers} layers
+   * @param {import('./data.js').DataFiles} files
    * @param {import('./side.js').SideRoom} room
    * @param {HTMLElement} button
    */
-  constructor({ config, book, turner, say }, layers, room, button) {
+  constructor(player, layers, files, room, button) {
+    this.player = player;
     this.layers = layers;
+    this.files = files;
+    this.room = room;
     this.panel = new SidePanel(room, 'contents', button);
     /** @type {Item | null} what the reader has chosen, while its page is in view */
     this.chosen = null;
+    /** @type {Tree | null} none until the outline is loaded */
+    this.tree = layers.facts.outline.length > 0 ? this.#makeTree(layers.facts.outline) : null;
+    /** @type {Promise<void> | null} */
+    this.loading = null;
+    this.#addTextPage(layers.facts.textPage, player.say('textPage'));
+    this.panel.onShow = () => this.#show();
+    layers.followers.push(() => this.#follow());
+  }
+
+  /** @param {import('./facts.js').Entry[]} outline */
+  #makeTree(outline) {
+    const { config, book, turner, say } = this.player;
     const list = make('ul', 'tree');
     list.setAttribute('aria-labelledby', 'contents-title');
-    this.tree = new Tree(list, layers.facts.outline, ({ position }) => (position ? labelOf(config, position) : ''),
+    const tree = new Tree(list, outline, ({ position }) => (position ? labelOf(config, position) : ''),
       (position) => say('page', fullLabel(config, position)), (item) => {
         turner.go(book.views.viewOf(item.entry.position));
         this.chosen = item;
-        this.tree.mark(item);
-        if (!room.besideBook) this.panel.hide();
+        tree.mark(item);
+        if (!this.room.besideBook) this.panel.hide();
       });
-    if (this.tree.all.length <= SHORT) this.tree.openAll();
-    this.panel.body.append(list);
-    this.#addTextPage(layers.facts.textPage, say('textPage'));
-    this.panel.onShow = () => {
-      this.#follow();
-      this.tree.reveal(this.tree.current);
-      this.tree.focus();
-    };
-    layers.followers.push(() => this.#follow());
+    if (tree.all.length <= SHORT) tree.openAll();
+    this.panel.body.replaceChildren(list);
+    return tree;
+  }
+
+  #show() {
+    if (!this.tree) {
+      this.loading ??= this.#load();
+      return;
+    }
+    this.#follow();
+    this.tree.reveal(this.tree.current);
+    this.tree.focus();
+  }
+
+  /** Loads the outline: a long book's is too long for the page. */
+  async #load() {
+    const { say, config } = this.player;
+    const again = make('button', 'plain-button', say('tryAgain'));
+    again.setAttribute('type', 'button');
+    again.addEventListener('click', () => this.#show());
+    const status = make('p', 'search-status');
+    status.setAttribute('role', 'status');
+    this.panel.body.replaceChildren(status);
+    try {
+      this.tree = this.#makeTree(new Facts(await this.files.load('web/book'), config.pages.length).outline);
+      if (this.panel.shown) this.#show();
+    } catch {
+      this.loading = null;
+      status.textContent = say('unreachableText');
+      status.after(again);
+    }
   }
 
   /**
@@ -55,6 +95,7 @@ export class Contents {
 
   /** Marks the entry to which the pages in view belong. */
   #follow() {
+    if (!this.tree) return;
     const pages = this.layers.inView;
     if (this.chosen && !pages.includes(this.chosen.entry.position)) this.chosen = null;
     this.tree.mark(this.chosen ?? itemOfPage(this.tree.all, pages[pages.length - 1]));

@@ -31,6 +31,8 @@ export class Facts {
     /** @type {string[] | null} none where all pages are called by their positions */
     this.labels = own ? labels : null;
     this.outline = entriesOf(raw.outline, pageCount, 0);
+    /** Whether there are contents, even if the outline is still to be loaded. */
+    this.hasContents = raw.outline === true || this.outline.length > 0;
     this.large = listOf(raw.large).map((kind) => (LARGE_KINDS.includes(kind) ? kind : ''));
     this.hasText = raw.text === true;
     this.start = positionOf(raw.start, pageCount);

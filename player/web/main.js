@@ -12,11 +12,15 @@ import { Selecting } from './selecting.js';
 import { Sharper } from './sharper.js';
 import { SideRoom } from './side.js';
 import { SingleFile } from './singlefile.js';
+import { StartList } from './startlist.js';
 import { addTextLayer } from './textlayer.js';
 
 const single = SingleFile.here ? new SingleFile() : null;
 const files = new DataFiles(single);
-const asked = files.load('web/book');
+const start = StartList.find();
+start?.announce();
+/** @type {Promise<unknown>} */
+const asked = start ? Promise.resolve(start.facts) : files.load('web/book');
 // The failure is handled where it is awaited; this avoids reporting it as unhandled.
 asked.catch(() => {});
 
@@ -114,9 +118,9 @@ function addToBook(player, facts) {
   const room = new SideRoom(player);
   // Where the bar is narrow, the search is worth more than the page count.
   part(toolbar.bar, '.of').dataset.fold = '7.2';
-  if (facts.outline.length > 0) {
+  if (facts.hasContents) {
     const button = barButton('contents', 'C', '7.4', say);
-    const contents = new Contents(player, layers, room, button);
+    const contents = new Contents(player, layers, files, room, button);
     commands.contents = () => contents.panel.toggle();
     toolbar.add(button, 'thumbs');
   }
@@ -155,6 +159,7 @@ window.folveroExtensions ??= [];
 window.folveroExtensions.push(async (beginning) => {
   const { config, say, learn } = beginning;
   learn(WEB_TEXTS);
+  start?.complete(config);
   await single?.complete;
   const facts = await asked.then((raw) => new Facts(raw, config.pages.length)).catch(() => null);
   // Without them the book still works as a classic one.

@@ -3,15 +3,13 @@
 #include "annotations/FlashPagesAnnotations.h"
 #include "base/Log.h"
 #include "output/BookName.h"
+#include "output/BookXML.h"
 #include "output/ExistingBook.h"
-#include "output/UserConfig.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
-#include "util/NSData+CommonCrypto.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <sstream>
 
 using Copy = PublishTransaction::Copy;
 using Phase = PublishTransaction::Phase;
@@ -190,10 +188,7 @@ PublishStep BookSteps::linkedFiles(const FlashPagesAnnotations* annotations) {
 PublishStep BookSteps::configuration(const QString& path, std::shared_ptr<pugi::xml_document> xml) {
     return {"configuration", [path, xml = std::move(xml)](PublishTarget& to) {
                 to.checkCancelled();
-                std::ostringstream text;
-                xml->save(text, "    ", pugi::format_indent, pugi::encoding_utf8);
-                const QByteArray bytes = CommonCryptor::RC4EncryptedDataUsingKey(
-                    QByteArray::fromStdString(text.str()), userConfigKey);
+                const QByteArray bytes = BookXML::enciphered(*xml, pugi::format_indent);
                 to.transaction.write(path, bytes, Phase::configuration);
                 const QFileInfo info(path);
                 to.transaction.write(

@@ -3,11 +3,14 @@
 #include "output/BookLayout.h"
 #include "output/BookName.h"
 #include "output/ImageSize.h"
+#include "output/UserConfig.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
+#include "util/NSData+CommonCrypto.h"
 #include "util/XMLText.h"
 
 #include <cstdint>
+#include <sstream>
 
 namespace {
 
@@ -164,6 +167,13 @@ std::unique_ptr<pugi::xml_document> BookXML::make(const FlashTemplate* flashTemp
         appendPage(page, "Thumb", thumbnailURL, thumbnail);
     }
     return document;
+}
+
+QByteArray BookXML::enciphered(const pugi::xml_document& configuration, unsigned format) {
+    std::ostringstream text;
+    configuration.save(text, "    ", format, pugi::encoding_utf8);
+    return CommonCryptor::RC4EncryptedDataUsingKey(QByteArray::fromStdString(text.str()),
+                                                   userConfigKey);
 }
 
 void BookXML::appendValue(pugi::xml_node parent, const QString& nodeName,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QSize>
 #include <QString>
 #include <memory>
@@ -21,6 +22,9 @@ struct PageURLs {
 // pageSize is in points.
 std::unique_ptr<pugi::xml_document> make(const FlashTemplate* flashTemplate,
                                          const std::vector<PageURLs>& pages, QSize pageSize);
+
+// As files and pages of a book contain it. format: of pugixml.
+QByteArray enciphered(const pugi::xml_document& configuration, unsigned format);
 
 // Appends an element with the template's value, or the default when it has none.
 void appendValue(pugi::xml_node parent, const QString& nodeName, const FlashTemplate* flashTemplate,

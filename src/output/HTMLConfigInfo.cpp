@@ -19,6 +19,7 @@ TextTemplate HTMLConfigInfo::filled(const QString& pageTemplate, const PagePlace
     page.setItem(PagePlaces::startName, places.start);
     page.setItem(PagePlaces::headName, places.head);
     page.setItem(PagePlaces::movieName, places.movie);
+    page.setItem(PagePlaces::endName, places.end);
     return page;
 }
 

@@ -7,7 +7,7 @@
 
 // What a kind of book puts into the places of its template's page; by default a classic one.
 struct PagePlaces {
-    // Its placeholders. The last is empty: what a book adds there may be too large for memory.
+    // Its placeholders.
     static inline const QString languageName = QStringLiteral("book.language");
     static inline const QString startName = QStringLiteral("book.start");
     static inline const QString headName = QStringLiteral("book.head");
@@ -18,6 +18,9 @@ struct PagePlaces {
     QString start;                // markup before the first script
     QString head;                 // markup at the end of the head
     QString movie = flashMovie(); // the Flash movie, for browsers that run no scripts
+    // Markup at the end of the body; not the files of a book in one page, which may be too large
+    // for memory.
+    QString end;
 
     static QString flashMovie();
 };

@@ -71,8 +71,9 @@ PublishSteps FolveroOutputWeb::configuration(const WebBook& book) const {
 PublishSteps FolveroOutputWeb::folderSteps(const WebBook& book) {
     PublishSteps steps{{"name", [&book](PublishTarget&) { checkName(book); }}};
     steps += contents(book);
-    steps += {BookSteps::clearedSettings(book.flashTemplate.get()),
-              {"page", [&book](PublishTarget& to) { WebBookSteps::writePage(to, book); }}};
+    steps += {
+        BookSteps::clearedSettings(book.flashTemplate.get()),
+        {"page", [this, &book](PublishTarget& to) { WebBookSteps::writePage(to, book, iReport); }}};
     steps += configuration(book);
     steps += {{"player", WebBookSteps::copyPlayer},
               {"offline files", [&book](PublishTarget& to) { OfflineFiles::write(to, book); }},

@@ -38,9 +38,10 @@ QByteArray digestOf(const QByteArray& bytes) {
 enum class Part { shell, picture, text, large, none };
 
 Part partOf(const QString& path, const QString& page) {
-    // Browsers request sounds in ranges, which the service worker does not handle; the script
-    // replaces the configuration from disk only.
-    if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configurationScript)
+    // Browsers request sounds in ranges, which the service worker does not handle; the page has a
+    // start list in place of the configuration.
+    if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configuration ||
+        path == BookLayout::configurationScript)
         return Part::none;
     if (BookLayout::isIn(BookLayout::largePages, path))
         return Part::large;

@@ -128,13 +128,15 @@ QString WebBook::picturePath(const WebPage& page) {
     return BookLayout::page(page.number, Files::pathExtension(page.picture));
 }
 
-std::unique_ptr<pugi::xml_document> WebBook::configuration() const {
+QString WebBook::thumbnailPath(const WebPage& page) {
+    return page.thumbnail.isNull() ? picturePath(page) : BookLayout::thumbnail(page.number);
+}
+
+std::unique_ptr<pugi::xml_document> WebBook::configuration(std::size_t count) const {
     std::vector<BookXML::PageURLs> urls;
-    for (const WebPage& page : pages) {
-        const QString picture = picturePath(page);
-        const QString thumbnail =
-            page.thumbnail.isNull() ? picture : BookLayout::thumbnail(page.number);
-        urls.push_back({BookLayout::inFiles(picture), BookLayout::inFiles(thumbnail)});
+    for (std::size_t i = 0; i < std::min(count, pages.size()); ++i) {
+        urls.push_back({BookLayout::inFiles(picturePath(pages[i])),
+                        BookLayout::inFiles(thumbnailPath(pages[i]))});
     }
     return BookXML::make(flashTemplate.get(), urls, content.pageSize);
 }

@@ -7,6 +7,7 @@
 #include "webbook/WebBookMetadata.h"
 #include "webbook/WebPages.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <pugixml.hpp>
@@ -35,9 +36,11 @@ struct WebBook {
     // The extension in the book of a page's larger picture, which it has. Browsers show a packed
     // SVG file from some servers only, and none from disk: it becomes a script.
     static QString largeKind(const WebPage& page);
-    // Path in the book of a page's picture.
+    // Paths in the book of a page's picture, and of what is shown as its thumbnail.
     static QString picturePath(const WebPage& page);
-    std::unique_ptr<pugi::xml_document> configuration() const;
+    static QString thumbnailPath(const WebPage& page);
+    // Of the first pages, or all.
+    std::unique_ptr<pugi::xml_document> configuration(std::size_t count = SIZE_MAX) const;
     // Path in the book of the picture that stands for it; null for none.
     QString cover() const;
 };

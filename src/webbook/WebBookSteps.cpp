@@ -12,6 +12,7 @@
 #include "template/FlashTemplate.h"
 #include "webbook/PlainTextPage.h"
 #include "webbook/SingleFilePage.h"
+#include "webbook/StartList.h"
 #include "webbook/WebBook.h"
 #include "webbook/WebPageTemplate.h"
 #include "webbook/WebPageText.h"
@@ -19,6 +20,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
+#include <algorithm>
 #include <cmath>
 
 using Copy = PublishTransaction::Copy;
@@ -126,18 +128,30 @@ QString textOfPlayerPart(const BookLayout& layout, const QString& path) {
     return QString::fromUtf8(Files::contents(WebBookSteps::playerPart(layout, path)));
 }
 
-// On slow connections, files discovered only after another has arrived cost a round trip each.
-QString preloads(const PublishTarget& to, const WebBook& book) {
-    QString links = QStringLiteral("<link rel=\"preload\" as=\"script\" href=\"%1\">\n")
-                        .arg(BookLayout::metadata);
-    if (book.pages.empty() || !book.isOpen(book.pages.front()))
-        return links;
-    const QString picture = WebBook::picturePath(book.pages.front());
-    if (to.writes(picture))
-        links += QStringLiteral("<link rel=\"preload\" as=\"image\" href=\"%1\" "
-                                "fetchpriority=\"high\">\n")
-                     .arg(picture);
-    return links;
+QString preload(const QString& picture, const char* priority) {
+    return QStringLiteral("<link rel=\"preload\" as=\"image\" href=\"%1\" fetchpriority=\"%2\">\n")
+        .arg(picture, QLatin1String(priority));
+}
+
+// On slow connections, files discovered only after another has arrived cost a round trip each. The
+// first picture is requested before the player, the next two when all of the page has arrived,
+// unless they are so large that they would delay what the book opens with.
+void addPreloads(PagePlaces& places, const PublishTarget& to, const WebBook& book) {
+    constexpr std::size_t nextPages = 2;
+    constexpr qint64 mostBytes = 100'000;
+    qint64 bytes = 0;
+    for (std::size_t i = 0; i < std::min(book.pages.size(), 1 + nextPages); ++i) {
+        const QString picture = WebBook::picturePath(book.pages[i]);
+        if (!book.isOpen(book.pages[i]) || !to.writes(picture))
+            continue;
+        if (i == 0) {
+            places.head.prepend(preload(picture, "high"));
+            continue;
+        }
+        bytes += QFileInfo(book.pages[i].picture).size();
+        if (bytes <= mostBytes)
+            places.end += preload(picture, "low");
+    }
 }
 
 // What web books of both forms put into the page.
@@ -149,6 +163,20 @@ PagePlaces placesOf(const WebBook& book) {
     places.movie = QString();
     places.head = QString::fromUtf8(book.metadata.headMarkup());
     return places;
+}
+
+// Keeps the page from requesting the configuration, which the start list replaces. Not without the
+// place for the latter.
+void addStartList(PagePlaces& places, const PublishTarget& to, const WebBook& book,
+                  const QString& pageTemplate, bool hasText) {
+    const QByteArray list = StartList::json(book, hasText);
+    if (list.isNull() || !WebPageTemplate::hasHead(pageTemplate))
+        return;
+    places.start = QStringLiteral("<script>window.FolveroUserConfig = \"\";</script>\n");
+    places.head += QStringLiteral("<script type=\"application/json\" data-file=\"web/start\">") +
+                   QString::fromUtf8(list) + QStringLiteral("</script>\n<script>\n") +
+                   textOfPlayerPart(to.layout, QStringLiteral("early.js")) +
+                   QStringLiteral("</script>\n");
 }
 
 QString megabytes(qint64 bytes) {
@@ -186,7 +214,7 @@ QString WebBookSteps::playerPart(const BookLayout& layout, const QString& path) 
 void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookReport& report) {
     PlainTextPage plain(book.metadata, book.htmlName());
     QJsonArray search;
-    bool hasText = false;
+    report.hasText = false;
     PageWriter writer(to, book, report);
     for (const WebPage& page : book.pages) {
         to.checkCancelled();
@@ -196,7 +224,7 @@ void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookRep
             continue;
         }
         const QString text = writer.write(page);
-        hasText = hasText || !text.isEmpty();
+        report.hasText = report.hasText || !text.isEmpty();
         search.append(text);
         plain.addPage(text);
     }
@@ -206,22 +234,23 @@ void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookRep
     }
     writer.writeScript(BookLayout::searchText, WebScript::json(search));
     writer.writeScript(BookLayout::metadata, WebScript::json(book.metadata.forPlayer(
-                                                 book.content.outline.get(), hasText)));
+                                                 book.content.outline.get(), report.hasText)));
     if (!book.metadata.textPage.isEmpty())
         to.transaction.write(to.layout.at(book.metadata.textPage), plain.html(), Phase::page);
 }
 
-void WebBookSteps::writePage(PublishTarget& to, const WebBook& book) {
+void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBookReport& report) {
     to.checkCancelled();
     if (!BookSteps::isInFolder(to.layout, book.htmlFile))
         return;
+    const QString pageTemplate = WebPageTemplate::of(book.flashTemplate.get());
     PagePlaces places = placesOf(book);
-    places.head = preloads(to, book) + places.head +
-                  QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
-                                 "<script src=\"%2\"></script>\n")
-                      .arg(BookLayout::webStyle, BookLayout::webScript);
-    const TextTemplate page =
-        book.texts.filled(WebPageTemplate::of(book.flashTemplate.get()), places);
+    addPreloads(places, to, book);
+    addStartList(places, to, book, pageTemplate, report.hasText);
+    places.head += QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
+                                  "<script src=\"%2\"></script>\n")
+                       .arg(BookLayout::webStyle, BookLayout::webScript);
+    const TextTemplate page = book.texts.filled(pageTemplate, places);
     to.transaction.write(book.htmlFile, page.parse().toUtf8(), Phase::page);
 }
 

@@ -13,6 +13,8 @@ struct WebBookReport {
     std::vector<std::pair<int, Message>> degradedPages;
     // Of all files of pages.
     qint64 pageBytes = 0;
+    // Whether there is any text to search.
+    bool hasText = false;
 };
 
 // The steps that make a web book, beside those of BookSteps.
@@ -22,8 +24,8 @@ namespace WebBookSteps {
 // metadata, and the page of plain text if metadata names one.
 void writePages(PublishTarget& to, const WebBook& book, WebBookReport& report);
 
-// The HTML page; after pictures.
-void writePage(PublishTarget& to, const WebBook& book);
+// The HTML page; after pages and their pictures.
+void writePage(PublishTarget& to, const WebBook& book, const WebBookReport& report);
 
 // The installed file of the player that a book has at that path. Fails when it is missing.
 QString playerPart(const BookLayout& layout, const QString& path);

@@ -41,5 +41,9 @@ QString withPlaces(QString page) {
 QString WebPageTemplate::of(const FlashTemplate* flashTemplate) {
     const QString path = flashTemplate ? flashTemplate->tmplHTMLFilePath() : QString();
     const QString page = QString::fromUtf8(Files::contents(path));
-    return page.contains(placeholder(PagePlaces::headName)) ? page : withPlaces(page);
+    return hasHead(page) ? page : withPlaces(page);
+}
+
+bool WebPageTemplate::hasHead(const QString& page) {
+    return page.contains(placeholder(PagePlaces::headName));
 }

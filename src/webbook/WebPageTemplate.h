@@ -12,4 +12,7 @@ namespace WebPageTemplate {
 // such element or the text is not filled in any more.
 QString of(const FlashTemplate* flashTemplate);
 
+// Whether such a page has the place in its head.
+bool hasHead(const QString& page);
+
 } // namespace WebPageTemplate

@@ -1,5 +1,5 @@
 import assert from 'node:assert/strict';
-import { rm, writeFile } from 'node:fs/promises';
+import { readFile, rm, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { test } from 'node:test';
 import { pathToFileURL } from 'node:url';
@@ -88,6 +88,30 @@ test('a published book in one file is read from disk without a network', ready, 
   await book.page.locator('img.large').first().waitFor();
   const asked = book.requests.filter((address) => !/^(?:blob|data):/.test(address));
   assert.deepEqual([asked, book.errors], [[pathToFileURL(path.join(folder, 'index.html')).href], []]);
+});
+
+test('a published book opens with the list in its page, and with its files where the list is damaged', ready, async () => {
+  const folder = path.join(reader.folder, 'start');
+  await folvero('publish', '--quiet', '--type=web', '--pages=2-9', sample('sample'), folder);
+  const page = path.join(folder, 'index.html');
+  const whole = await readFile(page, 'utf8');
+  const damaged = [whole.replace('"numbers":[', '"numbers":[0.5,'), whole.replace(' data-file="web/start"', ''),
+    whole.replace('src="files/web.js"', '')];
+  for (const [index, html] of [whole, whole, ...damaged, ...damaged].entries()) {
+    await writeFile(page, html);
+    const book = await reader[index % 2 ? 'openFromDisk' : 'openOverHttp'](folder, { hash: '#page=8' });
+    assert.equal(await book.page.evaluate(() => window.folvero.pageCount), 8, book.errors.join());
+    assert.ok((await book.picture('left')).source.endsWith('/page/9.png'));
+    const files = () => book.requests.filter((address) => /UserConfig|web\/book/.test(address)).map((one) => path.basename(one));
+    assert.equal(files().length > 0, html !== whole, 'with its files');
+    if (html !== damaged[2]) {
+      await book.page.keyboard.press('c');
+      await book.page.locator('.tree-row:not([aria-disabled])').first().click();
+      await book.page.waitForFunction(() => window.folvero.page < 8);
+    }
+    if (html === whole) assert.deepEqual(files(), ['book.js']);
+    assert.deepEqual(book.errors, []);
+  }
 });
 
 const DAMAGE = [

@@ -212,8 +212,9 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
 // A template from before pages had places, and one whose placeholders end too early for them.
 TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
     PublishedBook book;
-    for (const char* part : {"web.js", "web.css", "offline.js", "sw.js"})
+    for (const char* part : {"web.js", "web.css", "early.js", "offline.js", "sw.js"})
         book.library.addFile(QString("AppFiles/Web/") + part, part);
+    book.addPage("1.jpg", 1, "picture");
     FolveroOutputWeb output(book.pageSource, book.flashTemplate, book.folder(), QString());
     const auto page = [&](const QByteArray& start, bool isSingleFile) {
         book.library.addFile("AppFiles/Templates/float/index.html",
@@ -223,7 +224,9 @@ TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
         return QString::fromUtf8(book.read("index.html"));
     };
     const QString folder = page("<head>", false);
-    EXPECT_TRUE(folder.startsWith("<head><script>1</script><link rel=\"preload\""))
+    EXPECT_TRUE(folder.startsWith(
+        "<head><script>window.FolveroUserConfig = \"\";</script>\n<script>1</script>"
+        "<link rel=\"preload\""))
         << folder.toStdString();
     EXPECT_TRUE(folder.endsWith("<script src=\"files/web.js\"></script>\n</head><body>3</body>"));
     const QString single = page("<head>", true);

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+
+struct WebBook;
+
+// What a web book opens with: its settings, its metadata without the outline, and all pages, with
+// those alike in one run. A long book's configuration and metadata have hundreds of bytes a page.
+namespace StartList {
+
+// As JSON, safe inside a script element and in a text template; null for a book without pages.
+// hasText: whether there is any to search.
+QByteArray json(const WebBook& book, bool hasText);
+
+} // namespace StartList
