@@ -145,7 +145,7 @@ async function openBook(root) {
   const memory = new Memory(config.pages.length);
   const left = pageInAddress() ? 0 : memory.page;
 
-  const place = new Place(turner, Math.min(config.pages.length, pageInAddress() || left || config.startPage));
+  const place = new Place(turner, Math.min(config.pages.length, Math.max(1, pageInAddress() || left)));
   turner.onTurn = () => sounds.playTurn();
   turner.onLanded = () => {
     const pages = book.views.pagesOf(turner.current);

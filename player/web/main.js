@@ -1,4 +1,6 @@
 import { make, part } from '../src/book/dom.js';
+import { Memory } from '../src/controls/memory.js';
+import { pageInAddress } from '../src/controls/place.js';
 import { closePages } from './closed.js';
 import { Contents } from './contents.js';
 import { DataFiles } from './data.js';
@@ -143,6 +145,20 @@ function addToBook(player, facts) {
 }
 
 /**
+ * Begins at that page where neither the address nor the reader's last visit names one.
+ * @param {number} page 0 for none
+ * @param {number} pageCount
+ */
+function beginAt(page, pageCount) {
+  if (!page || pageInAddress() || new Memory(pageCount).page) return;
+  try {
+    history.replaceState(null, '', '#page=' + page);
+  } catch {
+    // Some viewers of local files forbid it; the book begins at its first page then.
+  }
+}
+
+/**
  * Opens what the document asks for; keys still turn pages.
  * @param {string} panel
  * @param {import('../src/controls/toolbar.js').Commands} commands
@@ -165,7 +181,7 @@ window.folveroExtensions.push(async (beginning) => {
   // Without them the book still works as a classic one.
   if (!facts) return undefined;
   config.labels = facts.labels;
-  config.startPage = facts.start || 1;
+  beginAt(facts.start, config.pages.length);
   const closed = closePages(config, facts, say('notOpen'));
   window.folveroFile = (path) => closed(path) ?? single?.address(path);
   return (parts) => addToBook({ ...beginning, ...parts }, facts);

@@ -46,7 +46,6 @@ export class BookError extends Error {
  * @property {{file: string, loops: number}} sound loops below 0: for ever
  * @property {PageEntry[]} pages
  * @property {PageEntry[]} thumbs as many as pages
- * @property {number} startPage where a reader who has not been here before begins
  * @property {string[] | null} labels what pages are called, empty texts and none: by their numbers
  */
 
@@ -150,7 +149,6 @@ export function readConfiguration(text, entries) {
     },
     pages: entries.map(({ page }) => page),
     thumbs: entries.map(({ thumb }) => thumb),
-    startPage: 1,
     labels: null,
   };
 }
