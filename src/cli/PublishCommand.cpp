@@ -139,6 +139,7 @@ Publisher makePublisher(const PublishOptions& options, const std::shared_ptr<Fla
         return {std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name)};
     auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, name);
     output->setSingleFile(options.singleFile);
+    output->setAddress(WebBookOptions::address(options));
     auto* web = output.get();
     return {std::move(output), web};
 }

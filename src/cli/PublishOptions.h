@@ -18,6 +18,7 @@ struct PublishOptions {
     QString pages = QStringLiteral("ALL");
     bool singleFile = false; // web books only
     QString previewPages;    // web books only; null: all pages are included
+    QString url;             // web books only: where the book will be; null: unknown
     int quality = 100;
     bool links = false;
     bool bookmarks = false;

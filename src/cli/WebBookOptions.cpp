@@ -34,6 +34,13 @@ PageSelection selectPreview(const QString& pages, int pageCount) {
 } // namespace
 
 void WebBookOptions::check(const PublishOptions& options) {
+    if (!options.url.isNull() && !address(options)) {
+        throw CommandError(
+            QStringLiteral("--url: \"%1\" must be the address of a folder or page, as "
+                           "https://example.org/book/, without user, ? and #")
+                .arg(options.url),
+            ExitCode::usage);
+    }
     if (options.type == PublishOptions::Type::web)
         return;
     const QString text = QStringLiteral("%1 is for web books only; leave out --type");
@@ -41,6 +48,12 @@ void WebBookOptions::check(const PublishOptions& options) {
         throw CommandError(text.arg(QStringLiteral("--single-file")), ExitCode::usage);
     if (!options.previewPages.isNull())
         throw CommandError(text.arg(QStringLiteral("--preview-pages")), ExitCode::usage);
+    if (!options.url.isNull())
+        throw CommandError(text.arg(QStringLiteral("--url")), ExitCode::usage);
+}
+
+std::optional<BookAddress> WebBookOptions::address(const PublishOptions& options) {
+    return BookAddress::from(options.url);
 }
 
 std::optional<std::vector<PageRun>> WebBookOptions::openPages(const PublishOptions& options,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "util/PageRange.h"
+#include "webbook/BookAddress.h"
 
 #include <QString>
 #include <optional>
@@ -12,7 +13,7 @@ struct PublishOptions;
 // Options for web books only.
 namespace WebBookOptions {
 
-// Throws CommandError when one is used with another type of book.
+// Throws CommandError when one is used with another type of book, or --url is no address.
 void check(const PublishOptions& options);
 
 // The pages that a preview includes, by their numbers in the document, or none for all. range is
@@ -20,6 +21,9 @@ void check(const PublishOptions& options);
 // CommandError when no page of the book would be included.
 std::optional<std::vector<PageRun>> openPages(const PublishOptions& options, const QString& range,
                                               int pageCount);
+
+// Where the book will be; none without --url.
+std::optional<BookAddress> address(const PublishOptions& options);
 
 // Reports files in the book's folder that do not belong to this book and were left there.
 void printLeftoverFiles(const PublishOptions& options, const FolveroOutputWeb& output);

@@ -115,6 +115,10 @@ void addPublish(CLI::App& app, PublishOptions& options) {
             "Pages that a preview of a web book contains, as in --pages; the others\n"
             "show that they are left out")
         ->type_name("PAGES");
+    addText(*command, "--url", options.url,
+            "Address at which a web book will be: search engines and previews of links\n"
+            "name it, and show the first page")
+        ->type_name("ADDRESS");
     command
         ->add_option("--quality", options.quality,
                      "100 for the sharpest pages, below that for the smallest files")

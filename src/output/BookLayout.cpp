@@ -46,7 +46,7 @@ QStringList BookLayout::webFilesOfPage(int number) {
 }
 
 QStringList BookLayout::webFiles() {
-    return {searchText, webScript, webStyle, metadata};
+    return {searchText, webScript, webStyle, shareImage, metadata};
 }
 
 QStringList BookLayout::offlineFiles() {

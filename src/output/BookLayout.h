@@ -35,6 +35,7 @@ public:
     static inline const QString metadata = QStringLiteral("files/web/book.js");
     static inline const QString searchText = QStringLiteral("files/search/text.js");
     static inline const QString textPage = QStringLiteral("text.html");
+    static inline const QString shareImage = QStringLiteral("files/web/share.jpg");
     // Web books that readers can save.
     static inline const QString offlineScript = QStringLiteral("files/web/offline.js");
     static inline const QString offlineList = QStringLiteral("files/web/offline.json");

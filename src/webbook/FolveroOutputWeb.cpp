@@ -12,6 +12,13 @@
 
 namespace {
 
+PublishStep shareImage(const ShareImage& image) {
+    return {"picture for links", [&image](PublishTarget& to) {
+                if (!image.jpeg.isEmpty())
+                    to.transaction.write(to.layout.at(BookLayout::shareImage), image.jpeg);
+            }};
+}
+
 void checkName(const WebBook& book) {
     if (book.htmlName().compare(book.metadata.textPage, Qt::CaseInsensitive) == 0)
         PublishTransaction::fail(
@@ -49,10 +56,26 @@ WebBook FolveroOutputWeb::webBook() const {
         book.metadata.title = iTitle;
     if (!iIsSingleFile) {
         book.metadata.textPage = BookLayout::textPage;
-        book.metadata.cover = book.cover();
+        if (const WebPage* first = book.firstPage(); first && !first->thumbnail.isNull())
+            book.metadata.cover = BookLayout::thumbnail(first->number);
         book.metadata.offline = OfflineFiles::canWriteTo(layout());
     }
+    if (iAddress)
+        addAddress(book);
     return book;
+}
+
+void FolveroOutputWeb::addAddress(WebBook& book) const {
+    book.metadata.address = iAddress->page(book.htmlName());
+    const WebPage* first = book.firstPage();
+    // A book in one file has no others.
+    if (!first || iIsSingleFile)
+        return;
+    book.shareImage = ShareImage::of(first->picture);
+    if (book.shareImage.jpeg.isEmpty())
+        return;
+    book.metadata.imageAddress = iAddress->file(BookLayout::shareImage);
+    book.metadata.imageSize = book.shareImage.size;
 }
 
 PublishSteps FolveroOutputWeb::contents(const WebBook& book) {
@@ -72,6 +95,7 @@ PublishSteps FolveroOutputWeb::folderSteps(const WebBook& book) {
     PublishSteps steps{{"name", [&book](PublishTarget&) { checkName(book); }}};
     steps += contents(book);
     steps += {
+        shareImage(book.shareImage),
         BookSteps::clearedSettings(book.flashTemplate.get()),
         {"page", [this, &book](PublishTarget& to) { WebBookSteps::writePage(to, book, iReport); }}};
     steps += configuration(book);

@@ -2,6 +2,7 @@
 
 #include "output/FolveroOutput.h"
 #include "util/PageRange.h"
+#include "webbook/BookAddress.h"
 #include "webbook/WebBookSteps.h"
 
 #include <optional>
@@ -18,6 +19,9 @@ public:
     // Plain text, shown wherever the book is named; by default the document's title.
     void setTitle(const QString& title) { iTitle = title; }
     QString title() const { return iTitle; }
+
+    // Where the book will be, for search engines and links to it; none for unknown.
+    void setAddress(const std::optional<BookAddress>& address) { iAddress = address; }
 
     // Puts everything into the HTML page, to be sent by mail or opened from disk. There is no page
     // of plain text then.
@@ -45,6 +49,7 @@ public:
 
 private:
     WebBook webBook() const;
+    void addAddress(WebBook& book) const;
     // The steps of a web book, and of one in a single file; what both contain. The book must live
     // as long as the steps.
     PublishSteps folderSteps(const WebBook& book);
@@ -53,6 +58,7 @@ private:
     PublishSteps configuration(const WebBook& book) const;
 
     QString iTitle;
+    std::optional<BookAddress> iAddress;
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;
     std::optional<std::vector<PageRun>> iOpenPages;

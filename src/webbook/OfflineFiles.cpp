@@ -39,9 +39,9 @@ enum class Part { shell, picture, text, large, none };
 
 Part partOf(const QString& path, const QString& page) {
     // Browsers request sounds in ranges, which the service worker does not handle; the page has a
-    // start list in place of the configuration.
+    // start list in place of the configuration; other sites show the picture for links.
     if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configuration ||
-        path == BookLayout::configurationScript)
+        path == BookLayout::configurationScript || path == BookLayout::shareImage)
         return Part::none;
     if (BookLayout::isIn(BookLayout::largePages, path))
         return Part::large;

@@ -141,9 +141,8 @@ std::unique_ptr<pugi::xml_document> WebBook::configuration(std::size_t count) co
     return BookXML::make(flashTemplate.get(), urls, content.pageSize);
 }
 
-QString WebBook::cover() const {
+const WebPage* WebBook::firstPage() const {
     const auto first = std::find_if(pages.begin(), pages.end(),
                                     [this](const WebPage& page) { return isOpen(page); });
-    return first == pages.end() || first->thumbnail.isNull() ? QString()
-                                                             : BookLayout::thumbnail(first->number);
+    return first == pages.end() ? nullptr : &*first;
 }

@@ -4,6 +4,7 @@
 #include "output/PublishTransaction.h"
 #include "pages/Book.h"
 #include "pages/FlashPageSource.h"
+#include "webbook/ShareImage.h"
 #include "webbook/WebBookMetadata.h"
 #include "webbook/WebPages.h"
 
@@ -23,6 +24,7 @@ struct WebBook {
     WebBookMetadata metadata;
     std::vector<WebPage> pages; // in book order
     Book content;               // as imported
+    ShareImage shareImage;      // empty for none
     PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
 
     // Reads metadata and outline, unless there is one, from the document, and the texts for search
@@ -41,6 +43,6 @@ struct WebBook {
     static QString thumbnailPath(const WebPage& page);
     // Of the first pages, or all.
     std::unique_ptr<pugi::xml_document> configuration(std::size_t count = SIZE_MAX) const;
-    // Path in the book of the picture that stands for it; null for none.
-    QString cover() const;
+    // The first page that is included; null for none.
+    const WebPage* firstPage() const;
 };

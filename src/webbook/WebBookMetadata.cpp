@@ -49,11 +49,10 @@ QByteArray meta(const char* kind, const char* name, const QString& content) {
            content.toHtmlEscaped().toUtf8() + "\">\n";
 }
 
-QByteArray alternate(const QString& page) {
+QByteArray link(const char* kind, const QString& page) {
     if (page.isEmpty())
         return {};
-    return "<link rel=\"alternate\" type=\"text/html\" href=\"" + page.toHtmlEscaped().toUtf8() +
-           "\">\n";
+    return QByteArray("<link ") + kind + " href=\"" + page.toHtmlEscaped().toUtf8() + "\">\n";
 }
 
 } // namespace
@@ -94,6 +93,15 @@ QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, bool hasText
     return object;
 }
 
+QByteArray WebBookMetadata::imageMarkup() const {
+    if (imageAddress.isEmpty())
+        return {};
+    return meta("property", "og:image", imageAddress) +
+           meta("property", "og:image:type", QStringLiteral("image/jpeg")) +
+           meta("property", "og:image:width", QString::number(imageSize.width())) +
+           meta("property", "og:image:height", QString::number(imageSize.height()));
+}
+
 QByteArray WebBookMetadata::headMarkup() const {
     QJsonObject linked{{QStringLiteral("@context"), QStringLiteral("https://schema.org")},
                        {QStringLiteral("@type"), QStringLiteral("Book")},
@@ -111,9 +119,13 @@ QByteArray WebBookMetadata::headMarkup() const {
     add(QStringLiteral("description"), subject);
     add(QStringLiteral("keywords"), keywords);
     add(QStringLiteral("inLanguage"), language);
+    add(QStringLiteral("url"), address);
+    add(QStringLiteral("image"), imageAddress);
     return meta("name", "author", author) + meta("property", "og:type", QStringLiteral("book")) +
            meta("property", "og:title", title) + meta("property", "og:description", subject) +
-           meta("property", "og:image", cover) +
-           meta("name", "twitter:card", QStringLiteral("summary")) + alternate(textPage) +
+           meta("property", "og:url", address) + imageMarkup() +
+           meta("name", "twitter:card", QStringLiteral("summary")) +
+           link("rel=\"canonical\"", address) +
+           link("rel=\"alternate\" type=\"text/html\"", textPage) +
            "<script type=\"application/ld+json\">" + WebScript::json(linked) + "</script>\n";
 }

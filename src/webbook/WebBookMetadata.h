@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -25,6 +26,9 @@ struct WebBookMetadata {
     QString textPage;         // path in the book of the page of plain text; empty for none
     int start = 0;            // the position that the book opens at; 0 when the document names none
     QString panel;            // what is open at first: "contents", "thumbs", or empty
+    QString address;          // absolute, of the book's page; empty for unknown
+    QString imageAddress;     // absolute, of the picture shown with links; empty for none
+    QSize imageSize;          // in pixels
     bool offline = false;     // whether readers can save the book for offline use
     // In a preview, the runs of positions that are included; none when all are.
     std::optional<std::vector<PageRun>> open;
@@ -40,4 +44,7 @@ struct WebBookMetadata {
     QJsonObject forPlayer(const FlashOutline* outline, bool hasText) const;
     // Markup for the HTML page's head beyond title, keywords and description.
     QByteArray headMarkup() const;
+
+private:
+    QByteArray imageMarkup() const;
 };
