@@ -19,10 +19,10 @@ def run(esbuild, options, text=None):
     return result.stdout.strip()
 
 
-def bundled(esbuild, first, texts):
+def bundled(esbuild, first, texts=None):
     """The script that begins in a module, with all that it imports. Strict, as modules are. texts: name and value"""
-    define = f"--define:{texts[0]}={json.dumps(texts[1], ensure_ascii=False)}"
-    return run(esbuild, [str(first), "--bundle", "--format=iife", '--banner:js="use strict";', define, *SCRIPT])
+    define = [f"--define:{texts[0]}={json.dumps(texts[1], ensure_ascii=False)}"] if texts else []
+    return run(esbuild, [str(first), "--bundle", "--format=iife", '--banner:js="use strict";', *define, *SCRIPT])
 
 
 def minified_script(esbuild, path):

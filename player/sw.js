@@ -1,17 +1,11 @@
 // The service worker, which makes a web book available offline: what was read, and the whole book where the reader
 // asked for it or where it is small. The publisher prepends a line that identifies the book:
 // const BOOK = {"page": ..., "version": ...}.
-//
-// Every file is verified by its digest, so that files of different editions never mix in the cache or in a response,
-// whatever the server has by then.
 
-const worker = /** @type {ServiceWorkerGlobalScope} */ (/** @type {unknown} */ (self));
-const SCOPE = worker.registration.scope;
-const LIST = 'files/web/offline.json';
+import { FAMILY, LIST, SCOPE, STORE, addressOf, countRemoval, digestHere, digestIn, fetchInto, kept, listHere,
+  listNeeded, listOf, partHere, partOf, pathOf, verified, worker } from './swfiles.js';
 
-/** Prefix of this book's cache names, whatever its edition; URLs contain no blanks. */
-const FAMILY = 'folvero ' + SCOPE + ' ';
-const STORE = FAMILY + BOOK.version;
+/** @typedef {import('./swfiles.js').List} List */
 
 /** Cache key of what the reader wants saved, 'whole' or 'read'; missing until they choose. */
 const WISH = SCOPE + '?wish';
@@ -32,27 +26,6 @@ const GONE = 'gone';
 const OTHER = 'other';
 const EARLIER = 'earlier';
 
-/** @param {string} path as the list has it */
-function addressOf(path) {
-  return SCOPE + path.split('/').map(encodeURIComponent).join('/');
-}
-
-/**
- * Path of one of the book's files as the list has it, null for what is none.
- * @param {string} address
- */
-function pathOf(address) {
-  try {
-    const { origin, pathname } = new URL(address);
-    const place = origin + pathname;
-    if (!place.startsWith(SCOPE)) return null;
-    const path = decodeURIComponent(place.slice(SCOPE.length));
-    return path === '' ? 'index.html' : path;
-  } catch {
-    return null;
-  }
-}
-
 /**
  * The book's page at a URL. Some servers omit the extension.
  * @param {string} address
@@ -71,93 +44,6 @@ function markOf(client) {
   return SCOPE + '?client=' + client;
 }
 
-/** @param {ArrayBuffer} bytes */
-async function digestOf(bytes) {
-  const digest = await crypto.subtle.digest('SHA-256', bytes);
-  return [...new Uint8Array(digest, 0, 8)].map((byte) => byte.toString(16).padStart(2, '0')).join('');
-}
-
-/**
- * Looks a URL up in a cache. Unlike opening the cache this does not create it.
- * @param {string} address
- * @param {string} cacheName
- */
-const kept = (address, cacheName = STORE) => caches.match(address, { cacheName });
-
-/**
- * @typedef {object} List files of an edition and their digests, by path
- * @property {string} version
- * @property {number} bytes of the whole book
- * @property {Record<string, string>} shell what the book opens with
- * @property {Record<string, string>} rest
- * @property {Record<string, string>} files all of them
- */
-
-/**
- * @param {string} name of a cache
- * @returns {Promise<List | undefined>}
- */
-async function listOf(name) {
-  const list = await (await kept(addressOf(LIST), name))?.json();
-  return list && { ...list, files: { ...list.shell, ...list.rest } };
-}
-
-/** @type {List | undefined} */
-let ownList;
-
-/** Counts removals of the book: what was being fetched meanwhile must not come back. */
-let removals = 0;
-
-/** The list of this edition, undefined before it is there and once it is gone. */
-async function listHere() {
-  if (!await caches.has(STORE)) return undefined;
-  ownList ??= await listOf(STORE);
-  return ownList;
-}
-
-/** The list of this edition; throws where it is missing. */
-async function listNeeded() {
-  const list = await listHere();
-  if (!list) throw new Error('the book is gone');
-  return list;
-}
-
-/**
- * The response with its bytes if its digest matches, else null.
- * @param {Response} answer
- * @param {string} digest
- */
-async function verified(answer, digest) {
-  const bytes = await answer.arrayBuffer();
-  if (!answer.ok || await digestOf(bytes) !== digest) return null;
-  const type = answer.headers.get('Content-Type') ?? 'application/octet-stream';
-  // Recreated, because browsers refuse a redirected response for a navigation.
-  return new Response(bytes, { headers: { 'Content-Type': type } });
-}
-
-/**
- * Fetches a file into the cache unless it is there.
- * @param {Cache} store
- * @param {string} path
- * @param {string} digest
- * @param {'high' | 'low'} priority
- * @returns {Promise<boolean>} whether it is there
- */
-async function fetchInto(store, path, digest, priority) {
-  if (await store.match(addressOf(path))) return true;
-  const before = removals;
-  // The browser's HTTP cache is good enough, whatever its age: the digest decides.
-  for (const cache of ['force-cache', 'no-cache']) {
-    const options = /** @type {RequestInit} */ ({ cache, priority });
-    const answer = await verified(await fetch(addressOf(path), options), digest);
-    if (!answer) continue;
-    if (before !== removals) return false;
-    await store.put(addressOf(path), answer);
-    return true;
-  }
-  return false;
-}
-
 /** @param {Cache} store */
 async function wishIn(store) {
   return (await store.match(WISH))?.text();
@@ -174,9 +60,8 @@ async function readIn(store) {
 /**
  * Copies unchanged files, the reader's choice and the list of read files from the caches of earlier editions.
  * @param {Cache} store
- * @param {Record<string, string>} files
  */
-async function takeOver(store, files) {
+async function takeOver(store) {
   const have = new Set((await store.keys()).map(({ url }) => url));
   const read = new Set(await readIn(store));
   const names = (await caches.keys()).filter((name) => name.startsWith(FAMILY) && name !== STORE);
@@ -189,8 +74,9 @@ async function takeOver(store, files) {
     (await readIn(earlier)).forEach((path) => read.add(path));
     for (const { url } of await earlier.keys()) {
       const path = url.includes('?') ? null : pathOf(url);
-      if (path === null || !files[path] || have.has(url)) continue;
-      const found = list?.files[path] === files[path] && await earlier.match(url);
+      const digest = path === null || have.has(url) ? '' : await digestHere(path);
+      if (path === null || !digest) continue;
+      const found = await digestIn(path, name, list) === digest && await earlier.match(url);
       if (found) await store.put(url, found);
       else read.add(path);
     }
@@ -205,7 +91,7 @@ async function install() {
   if (list.version !== BOOK.version) throw other;
   const store = await caches.open(STORE);
   await store.put(addressOf(LIST), answer);
-  await takeOver(store, { ...list.shell, ...list.rest });
+  await takeOver(store);
   const there = await Promise.all(Object.entries(list.shell).map(([path, digest]) => fetchInto(store, path, digest, 'high')));
   if (there.includes(false)) throw other;
   await worker.skipWaiting();
@@ -232,7 +118,7 @@ async function activate() {
   if (list && earlier.length > 0) {
     const store = await caches.open(STORE);
     // The reader may have read on since this service worker was installed.
-    await takeOver(store, list.files);
+    await takeOver(store);
     for (const id of await pagesOfOtherEditions(BOOK.version)) await store.put(markOf(id), new Response(EARLIER));
   }
   for (const name of earlier) await caches.delete(name);
@@ -303,12 +189,16 @@ async function serve(event, path, client) {
   if (other) return fetch(request);
   const found = await kept(addressOf(path));
   if (found) return found;
-  const digest = (await listHere())?.files[path];
-  if (!digest) return fetch(request);
-  const answer = await fetch(request).catch((error) => {
+  if (!await listHere()) return fetch(request);
+  /** @param {unknown} error */
+  const fail = (error) => {
     tell(client, 'notKept');
     throw error;
-  });
+  };
+  const digest = await digestHere(path).catch(fail);
+  if (digest === null) return refuseOther(client);
+  const answer = await fetch(request).catch(fail);
+  if (!digest) return answer;
   const good = await verified(answer.clone(), digest);
   if (!good) return answerOther(client, path, digest, answer);
   const copy = good.clone();
@@ -331,6 +221,14 @@ async function answerOther(client, path, digest, answer) {
   const altered = !(await store.keys()).some(({ url }) => url.startsWith(pictures));
   // A server that alters every image still has this edition.
   if (altered && await editionOnServer() === BOOK.version) return answer;
+  return refuseOther(client);
+}
+
+/**
+ * Refuses, because the server has another edition, and looks for that.
+ * @param {string} client
+ */
+function refuseOther(client) {
   worker.registration.update().catch(() => {});
   return refuse(client);
 }
@@ -358,27 +256,57 @@ async function tell(client, news) {
  * @param {string[]} addresses
  */
 async function keepSeen(store, addresses) {
-  const files = (await listHere())?.files ?? {};
   for (const path of new Set(addresses.map(pathOf))) {
-    if (path && files[path]) await fetchInto(store, path, files[path], 'low');
+    const digest = path && await digestHere(path);
+    if (digest) await fetchInto(store, path, digest, 'low');
   }
 }
 
 /**
- * Which of the other files are wanted, and how many of them are cached.
+ * Paths of cached files without those of the shell.
+ * @param {Cache} store
+ */
+async function keptRest(store) {
+  const { rest } = await listNeeded();
+  const paths = (await store.keys()).map(({ url }) => (url.includes('?') ? null : pathOf(url)));
+  return new Set(paths.filter((path) => path !== null && (rest[path] || partOf(path) !== LIST)));
+}
+
+/**
+ * How many of the other files are cached, and whether more are wanted.
  * @param {Cache} store
  */
 async function stateOf(store) {
-  const list = await listNeeded();
+  const { bytes, count } = await listNeeded();
   const wish = await wishIn(store);
-  const whole = wish === 'whole' || (wish !== 'read' && list.bytes <= SMALL_BYTES);
-  const have = new Set((await store.keys()).map(({ url }) => url));
-  /** @param {string[]} paths */
-  const missing = (paths) => paths.filter((path) => list.rest[path] && !have.has(addressOf(path)));
-  const all = Object.keys(list.rest);
-  const left = missing(all).length;
-  const wanted = whole ? missing(all) : missing(await readIn(store));
-  return { bytes: list.bytes, asked: wish === 'whole', whole, share: all.length ? 1 - left / all.length : 1, left, wanted };
+  const whole = wish === 'whole' || (wish !== 'read' && bytes <= SMALL_BYTES);
+  const have = await keptRest(store);
+  const left = count - have.size;
+  const more = whole ? left > 0 : (await missingOfRead(store, have)).length > 0;
+  return { bytes, asked: wish === 'whole', whole, share: count ? 1 - left / count : 1, left, more };
+}
+
+/**
+ * Files that were read in an earlier edition, and that are not cached of this one.
+ * @param {Cache} store
+ * @param {Set<string | null>} have
+ */
+async function missingOfRead(store, have) {
+  const { rest, parts } = await listNeeded();
+  return (await readIn(store)).filter((path) => !have.has(path) && (rest[path] || parts?.[partOf(path)]));
+}
+
+/**
+ * The first files of the book that are not cached.
+ * @param {Set<string | null>} have
+ */
+async function missingOfBook(have) {
+  for (const part of [LIST, ...Object.keys((await listNeeded()).parts ?? {})]) {
+    const { shell } = await listNeeded();
+    const missing = Object.keys(await partHere(part) ?? {}).filter((path) => !have.has(path) && !shell[path]);
+    if (missing.length > 0) return missing;
+  }
+  return [];
 }
 
 /**
@@ -387,10 +315,13 @@ async function stateOf(store) {
  * @returns {Promise<boolean>} whether all of them succeeded
  */
 async function fetchAhead(store) {
-  const { rest } = await listNeeded();
-  const { wanted } = await stateOf(store);
-  const there = await Promise.all(wanted.slice(0, BATCH).map((path) => fetchInto(store, path, rest[path], 'low').catch(() => false)));
-  return !there.includes(false);
+  const { whole } = await stateOf(store);
+  const have = await keptRest(store);
+  const wanted = whole ? await missingOfBook(have) : await missingOfRead(store, have);
+  const there = await Promise.all(wanted.slice(0, BATCH).map(async (path) =>
+    fetchInto(store, path, await digestHere(path) ?? '', 'low').catch(() => false)));
+  // There is none where the server has another edition's list.
+  return wanted.length > 0 && !there.includes(false);
 }
 
 /**
@@ -401,9 +332,9 @@ async function fetchAhead(store) {
 async function note(store, wish) {
   await store.put(WISH, new Response(wish));
   if (wish === 'whole') return;
-  removals += 1;
+  countRemoval();
   await store.delete(READ);
-  for (const path of Object.keys((await listNeeded()).rest)) await store.delete(addressOf(path));
+  for (const path of await keptRest(store)) await store.delete(addressOf(path ?? ''));
 }
 
 /**
@@ -417,9 +348,9 @@ async function answerPage({ does, seen = [], wish = 'read' }, client) {
   let failed = false;
   if (does === 'seen') await keepSeen(store, seen);
   if (does === 'wish') await note(store, wish);
-  if (does === 'ahead') failed = !await fetchAhead(store);
-  const { wanted, ...state } = await stateOf(store);
-  return { ...state, more: wanted.length > 0, failed };
+  // Without a connection a part of the list may be missing.
+  if (does === 'ahead') failed = !await fetchAhead(store).catch(() => false);
+  return { ...await stateOf(store), failed };
 }
 
 worker.addEventListener('install', (event) => event.waitUntil(install()));

@@ -34,7 +34,7 @@ def main():
     for name, text in parts.items():
         check(name, text)
         (output / name).write_text(text + "\n", encoding="utf-8")
-    (output / "sw.js").write_text(minified_script(esbuild, player / "sw.js") + "\n", encoding="utf-8")
+    (output / "sw.js").write_text(bundled(esbuild, player / "sw.js") + "\n", encoding="utf-8")
 
 
 main()

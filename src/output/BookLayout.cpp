@@ -35,6 +35,10 @@ QString BookLayout::text(int number) {
     return numbered(texts, number, script);
 }
 
+QString BookLayout::offlinePart(int part) {
+    return in(webData, QStringLiteral("offline-%1.json").arg(part));
+}
+
 QStringList BookLayout::webFilesOfPage(int number) {
     QStringList names{thumbnail(number), text(number)};
     for (const char* kind : {"js", "png", "jpg"})
@@ -54,6 +58,8 @@ QStringList BookLayout::offlineFiles() {
 }
 
 QString BookLayout::namesIn(const QString& folder) {
+    if (folder == webData)
+        return QStringLiteral("offline-[1-9][0-9]*\\.json");
     QString extension = QStringLiteral("[A-Za-z0-9]{1,5}");
     if (folder == largePages)
         extension = QStringLiteral("(js|png|jpg)");

@@ -50,6 +50,8 @@ public:
     // A picture, or "js" for data that hold one.
     static QString largePage(int number, const QString& extension);
     static QString text(int number);
+    // A part of the list of files that readers can save.
+    static QString offlinePart(int part);
 
     // What else a web book may have for a page, beside its picture.
     static QStringList webFilesOfPage(int number);
@@ -58,7 +60,7 @@ public:
     static QStringList webFiles();
     // Those that let readers save it.
     static QStringList offlineFiles();
-    // A regular expression for the names of the pages' files in a folder, whatever their numbers.
+    // A regular expression for the names of numbered files in a folder, whatever their numbers.
     static QString namesIn(const QString& folder);
     // The number of the page whose picture has this path; 0 for other paths.
     static int numberOfPage(const QString& path);

@@ -247,7 +247,9 @@ PublishStep BookSteps::outdatedOfflineFiles() {
                 if (page.isNull() || to.writes(BookLayout::serviceWorker) ||
                     !(to.writes(BookLayout::configuration) || to.writes(page)))
                     return;
-                QStringList outdated = BookLayout::offlineFiles();
+                QStringList outdated =
+                    BookLayout::offlineFiles() +
+                    ExistingBook::numberedFiles(to.layout.folder(), BookLayout::webData);
                 if (ExistingBook::isTextPage(to.layout.at(BookLayout::textPage)))
                     outdated << BookLayout::textPage;
                 for (const QString& path : outdated) {

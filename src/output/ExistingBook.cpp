@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <algorithm>
 #include <pugixml.hpp>
 
@@ -103,6 +104,18 @@ QString ExistingBook::title(const QString& page) {
     return unescaped(QString::fromUtf8(head.mid(text, end - text)));
 }
 
+QStringList ExistingBook::numberedFiles(const QString& folder, const QString& inFiles) {
+    const QRegularExpression name(
+        QRegularExpression::anchoredPattern(BookLayout::namesIn(inFiles)));
+    QStringList paths;
+    for (const QString& entry :
+         QDir(BookLayout(folder).at(inFiles, {})).entryList(QDir::Files, QDir::Name)) {
+        if (name.match(entry).hasMatch())
+            paths << BookLayout::in(inFiles, entry);
+    }
+    return paths;
+}
+
 QStringList ExistingBook::files(const QString& folder) {
     pugi::xml_document document;
     if (!loadConfiguration(folder, document))
@@ -120,6 +133,6 @@ QStringList ExistingBook::files(const QString& folder) {
             names << BookLayout::webFilesOfPage(number);
     }
     if (isWebBook)
-        names << BookLayout::webFiles();
+        names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData);
     return names;
 }

@@ -22,6 +22,10 @@ bool isWebBookIn(const QString& folder);
 // included; empty when that can't be read.
 QStringList files(const QString& folder);
 
+// Paths, relative to the folder, of the files in a folder of BookLayout that have numbers in their
+// names.
+QStringList numberedFiles(const QString& folder, const QString& inFiles);
+
 // Whether a file is the HTML page of a book, including that of a single-file book. The page with
 // the book's text is not.
 bool isPage(const QString& file);

@@ -17,6 +17,7 @@
 #include <QJsonObject>
 #include <QUrl>
 #include <array>
+#include <map>
 
 using Phase = PublishTransaction::Phase;
 
@@ -35,23 +36,32 @@ QByteArray digestOf(const QByteArray& bytes) {
 // The order in which files are fetched when a reader saves the whole book: first what is read
 // first, last what shows only on enlarged pages. The files needed to open the book are cached when
 // the service worker is installed.
-enum class Part { shell, picture, text, large, none };
+enum class Kind { shell, picture, text, large, none };
 
-Part partOf(const QString& path, const QString& page) {
+Kind kindOf(const QString& path, const QString& page) {
     // Browsers request sounds in ranges, which the service worker does not handle; the page has a
     // start list in place of the configuration; other sites show the picture for links.
     if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configuration ||
         path == BookLayout::configurationScript || path == BookLayout::shareImage)
-        return Part::none;
+        return Kind::none;
     if (BookLayout::isIn(BookLayout::largePages, path))
-        return Part::large;
+        return Kind::large;
     if (BookLayout::isIn(BookLayout::pages, path))
-        return Part::picture;
+        return Kind::picture;
     if (BookLayout::isIn(BookLayout::texts, path) ||
         BookLayout::isIn(BookLayout::thumbnails, path) ||
         BookLayout::isIn(BookLayout::search, path) || path == BookLayout::textPage)
-        return Part::text;
-    return path == page || !BookLayout::inFiles(path).isNull() ? Part::shell : Part::none;
+        return Kind::text;
+    return path == page || !BookLayout::inFiles(path).isNull() ? Kind::shell : Kind::none;
+}
+
+// Pages whose files are in one part of the list; sw.js counts the same. The first part is in the
+// list itself, with the files of no page.
+constexpr int pagesOfPart = 100;
+
+int partOf(const QString& path) {
+    const int number = Files::lastPathComponent(path).section(u'.', 0, 0).toInt();
+    return number > 0 ? (number - 1) / pagesOfPart : 0;
 }
 
 QByteArray quoted(const QString& text) {
@@ -63,30 +73,37 @@ QByteArray member(const QString& path, const QByteArray& digest) {
     return quoted(path) + ":\"" + digest + '"';
 }
 
+// JSON objects of files and their digests.
 struct List {
-    std::array<QByteArrayList, 4> parts; // JSON members by part
+    QByteArray shell;
+    std::map<int, QByteArray> parts; // of the rest
     qint64 bytes = 0;
-
-    QByteArray shell() const { return parts[std::size_t(Part::shell)].join(','); }
-    QByteArray rest() const {
-        return (parts[std::size_t(Part::picture)] + parts[std::size_t(Part::text)] +
-                parts[std::size_t(Part::large)])
-            .join(',');
-    }
+    qsizetype count = 0; // of files in the parts
 };
 
 List listOf(const PublishTarget& to, const QString& page) {
     List list;
+    std::map<int, std::array<QByteArrayList, 4>> parts; // members by part and kind
     const QDir root(to.layout.folder());
     for (const auto& [target, staged] : to.transaction.stagedFiles()) {
         const QString path = root.relativeFilePath(target);
-        const Part part = partOf(path, page);
-        if (part == Part::none)
+        const Kind kind = kindOf(path, page);
+        if (kind == Kind::none)
             continue;
         const QByteArray bytes = Files::contents(staged);
-        list.parts[std::size_t(part)] << member(path, digestOf(bytes));
+        parts[kind == Kind::shell ? 0 : partOf(path)][std::size_t(kind)]
+            << member(path, digestOf(bytes));
         list.bytes += bytes.size();
     }
+    list.parts[0] = "{}";
+    for (const auto& [number, kinds] : parts) {
+        const QByteArrayList files = kinds[std::size_t(Kind::picture)] +
+                                     kinds[std::size_t(Kind::text)] +
+                                     kinds[std::size_t(Kind::large)];
+        list.parts[number] = '{' + files.join(',') + '}';
+        list.count += files.size();
+    }
+    list.shell = '{' + parts[0][std::size_t(Kind::shell)].join(',') + '}';
     return list;
 }
 
@@ -171,10 +188,20 @@ void OfflineFiles::write(PublishTarget& to, const WebBook& book) {
     write(BookLayout::offlineScript,
           Files::contents(WebBookSteps::playerPart(to.layout, BookLayout::offlineScript)));
     const List list = listOf(to, page);
-    const QByteArray version = digestOf(list.shell() + list.rest() + script);
+    QByteArrayList parts;
+    for (const auto& [number, files] : list.parts) {
+        if (number == 0)
+            continue;
+        const QString path = BookLayout::offlinePart(number);
+        write(path, files, Phase::configuration);
+        parts << member(path, digestOf(files));
+    }
+    const QByteArray files = "\"shell\":" + list.shell + ",\"rest\":" + list.parts.at(0) +
+                             ",\"parts\":{" + parts.join(',') + '}';
+    const QByteArray version = digestOf(files + script);
     write(BookLayout::offlineList,
           "{\"version\":\"" + version + "\",\"bytes\":" + QByteArray::number(list.bytes) +
-              ",\"shell\":{" + list.shell() + "},\"rest\":{" + list.rest() + "}}\n",
+              ",\"count\":" + QByteArray::number(list.count) + ',' + files + "}\n",
           Phase::configuration);
     write(BookLayout::manifest, manifestOf(book), Phase::page);
     write(BookLayout::serviceWorker,

@@ -18,7 +18,7 @@ export default [
   kind(['**/*.mjs'], 'module', { ...globals.node, ...globals.browser }),
   kind(['player/{src,web}/**/*.js'], 'module', { ...globals.browser, ...TEXTS }),
   kind(['player/early*.js', 'player/swf/*.js'], 'script', globals.browser),
-  kind(['player/sw.js'], 'script', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
+  kind(['player/sw*.js'], 'module', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
   // Its one name is for the pages that take it.
   { files: ['player/swf/*.js'], rules: { 'no-unused-vars': ['error', { vars: 'local' }] } },
 ];

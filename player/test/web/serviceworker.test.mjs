@@ -4,7 +4,8 @@ import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
 import { runInNewContext } from 'node:vm';
 
-const SCRIPT = readFileSync(new URL('../../sw.js', import.meta.url), 'utf8');
+const SCRIPT = ['swfiles', 'sw'].map((name) => readFileSync(new URL(`../../${name}.js`, import.meta.url), 'utf8'))
+  .join('').replace(/^import [^;]*;|^export /gm, '');
 const SCOPE = 'https://example.org/a%20book/';
 const SIX = [1, 2, 3, 4, 5, 6, 7, 8].map((number) => `files/page/${number}.jpg`);
 
@@ -26,9 +27,15 @@ class World {
   publish(version, pages, { bytes = 1e6 } = {}) {
     const digest = (text) => createHash('sha256').update(text).digest('hex').slice(0, 16);
     const digests = (files) => Object.fromEntries(Object.entries(files).map(([path, text]) => [path, digest(text)]));
-    const [shell, rest] = [{ 'index.html': `page of ${version}` }, pages];
-    const list = JSON.stringify({ version, bytes, shell: digests(shell), rest: digests(rest) });
-    this.files = { ...shell, ...rest, 'files/web/offline.json': list,
+    const [shell, rest, lists] = [{ 'index.html': `page of ${version}` }, {}, {}];
+    for (const [path, digest_] of Object.entries(digests(pages))) {
+      const part = Math.floor((/\d+/.exec(path)[0] - 1) / 100);
+      (part ? lists[`files/web/offline-${part}.json`] ??= {} : rest)[path] = digest_;
+    }
+    const parts = Object.fromEntries(Object.entries(lists).map(([path, list]) => [path, JSON.stringify(list)]));
+    const list = JSON.stringify({ version, bytes, shell: digests(shell), rest, parts: digests(parts),
+      count: Object.keys(pages).length });
+    this.files = { ...shell, ...pages, ...parts, 'files/web/offline.json': list,
       'sw.js': `const BOOK={"page":"index.html","version":"${version}"};` };
   }
 
@@ -154,6 +161,28 @@ test('a new edition takes over what is the same, what was wanted, and fetches wh
   await next.ask({ does: 'wish', wish: 'whole' });
   const { asked, left, share } = await (await world.install('cc', pages('bb'), { bytes: 9e6 })).ask({ does: 'state' });
   assert.deepEqual([asked, left, share], [true, 7, 1 / 8]);
+});
+
+test('files of later pages are known by parts of the list, which are fetched when they are needed', async () => {
+  const world = new World();
+  const [LATE, LAST] = ['files/page/101.jpg', 'files/page/250.jpg'];
+  const all = (edition) => pages(edition, [ONE, LATE, LAST]);
+  const parts = () => [...new Set(world.asked)].filter((path) => /offline-/.test(path)).map((path) => path.slice(18, 19));
+  const worker = await world.install('aa', all('aa'), { bytes: 9e6 });
+  assert.deepEqual([parts(), await worker.get(LATE), parts()], [[], `${LATE} of aa`, ['1']]);
+  assert.deepEqual({ ...await worker.ask({ does: 'state' }) },
+    { bytes: 9e6, asked: false, whole: false, share: 1 - 2 / 3, left: 2, more: false, failed: false });
+  world.publish('bb', all('bb'));
+  assert.deepEqual([await worker.get(LAST), world.told], [0, [['reader', 'newEdition']]]);
+  const next = await world.install('bb', { ...all('bb'), [LATE]: `${LATE} of aa` }, { bytes: 9e6 });
+  assert.deepEqual(world.kept('bb'), [LATE]);
+  await next.ask({ does: 'wish', wish: 'whole' });
+  while ((await next.ask({ does: 'ahead' })).more);
+  assert.deepEqual([world.kept('bb').sort(), parts()], [[ONE, LATE, LAST].sort(), ['1', '2']]);
+  world.files = null;
+  assert.equal(await (await world.start('bb')).get(LAST), `${LAST} of bb`);
+  const { left } = await next.ask({ does: 'wish', wish: 'read' });
+  assert.deepEqual([left, world.kept('bb')], [3, []]);
 });
 
 test('a small book is kept as a whole, a long one as it is read or where that is asked for', async () => {
