@@ -35,6 +35,8 @@ export class Facts {
     this.hasContents = raw.outline === true || this.outline.length > 0;
     this.large = listOf(raw.large).map((kind) => (LARGE_KINDS.includes(kind) ? kind : ''));
     this.hasText = raw.text === true;
+    /** Number of files with the text for searching. */
+    this.searchParts = Number.isInteger(raw.searchParts) ? Math.max(1, Number(raw.searchParts)) : 1;
     this.start = positionOf(raw.start, pageCount);
     /** What is open at first where there is room beside the book. */
     this.panel = PANELS.find((name) => name === raw.panel) ?? '';

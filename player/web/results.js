@@ -59,6 +59,12 @@ export class Results {
     requestAnimationFrame(() => this.#fill());
   }
 
+  /** @param {Hit[]} hits those that are listed, and further ones */
+  extend(hits) {
+    this.hits = hits;
+    this.#fill();
+  }
+
   /**
    * Marks the result that is shown in the book; a negative index marks none.
    * @param {number} index

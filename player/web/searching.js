@@ -27,8 +27,9 @@ export class Searching {
     this.files = files;
     this.hits = new Hits(player, layers);
     this.panel = new SidePanel(room, 'search', button);
-    /** @type {SearchText | null} */
-    this.text = null;
+    this.text = new SearchText();
+    /** Parts of the text that are loaded. */
+    this.loaded = 0;
     /** @type {Promise<void> | null} */
     this.loading = null;
     /** @type {Answer | null} */
@@ -123,32 +124,51 @@ export class Searching {
     else this.panel.button.focus({ preventScroll: true });
   }
 
+  /** Whether all of the text is loaded. */
+  get #complete() {
+    return this.loaded >= this.layers.facts.searchParts;
+  }
+
   #load() {
-    if (this.text) return this.loading;
-    this.loading ??= this.files.load('search/text').then((raw) => {
-      this.text = new SearchText(raw);
-      return this.text.ready;
-    }).then(() => this.#find(), () => {
-      this.loading = null;
-      this.text = null;
+    this.loading ??= this.#loadParts().catch(() => {
       this.status.textContent = this.say('searchFailed');
       this.again.hidden = false;
-    });
-    return this.loading;
+    }).finally(() => { this.loading = null; });
+  }
+
+  /** Loads the text, of which a long book has megabytes: until the reader types, only the first part. */
+  async #loadParts() {
+    while (!this.#complete && (this.loaded === 0 || this.box.value.trim())) {
+      await this.text.add(await this.files.load('search/text' + (this.loaded ? '-' + this.loaded : '')));
+      this.loaded += 1;
+      this.#answer(this.answer);
+    }
   }
 
   #find() {
     this.again.hidden = true;
+    if (!this.#complete) this.#load();
+    this.#answer(null);
+  }
+
+  /**
+   * Shows what is found in the loaded parts of the text.
+   * @param {Answer | null} before what is shown of the same search
+   */
+  #answer(before) {
     const typed = this.box.value;
-    this.index = -1;
-    if (!this.text || this.text.folded.length < this.text.texts.length) {
-      this.#load();
+    if (this.loaded === 0) {
       this.status.textContent = typed.trim() ? this.say('searchWait') : '';
       return;
     }
     this.answer = this.text.find(typed);
-    this.results.show(this.text, this.answer.hits);
-    this.hits.show(this.answer.query, null);
+    const { query, hits } = this.answer;
+    if (before && before.hits.length > 0 && String(before.query.parts) === String(query.parts)) this.results.extend(hits);
+    else {
+      this.index = -1;
+      this.results.show(this.text, hits);
+      this.hits.show(query, null);
+    }
     this.#tell();
   }
 
@@ -157,11 +177,11 @@ export class Searching {
     const { hits, more, query } = /** @type {Answer} */ (this.answer);
     /** @param {number} value */
     const written = (value) => value.toLocaleString(document.documentElement.lang);
-    const count = written(hits.length) + (more ? '+' : '');
+    const count = written(hits.length) + (more || !this.#complete ? '+' : '');
     let text = '';
-    if (!query.empty && hits.length === 0) text = this.say('noHits');
+    if (!query.empty && hits.length === 0) text = this.say(this.#complete ? 'noHits' : 'searchWait');
     else if (this.index >= 0) text = this.say('hitOf', written(this.index + 1), count);
-    else if (hits.length > 0) text = hits.length === 1 ? this.say('hit') : this.say('hits', count);
+    else if (hits.length > 0) text = count === '1' ? this.say('hit') : this.say('hits', count);
     this.status.textContent = text;
     this.count.textContent = text;
     for (const step of this.panel.dialog.querySelectorAll('.step-up, .step-down')) {

@@ -17,12 +17,20 @@ const BEHIND = 60;
 
 /** The text of the book, folded for searching in slices while the reader types. */
 export class SearchText {
-  /** @param {unknown} raw texts by position, as the file has them */
-  constructor(raw) {
-    this.texts = listOf(raw).map(textOf);
+  constructor() {
+    /** @type {string[]} by position */
+    this.texts = [];
     /** @type {string[]} */
     this.folded = [];
-    this.ready = this.#foldAll();
+  }
+
+  /**
+   * Adds the texts of the next pages; resolves when they can be searched.
+   * @param {unknown} raw as their file has them
+   */
+  add(raw) {
+    this.texts = this.texts.concat(listOf(raw).map(textOf));
+    return this.#foldAll();
   }
 
   async #foldAll() {

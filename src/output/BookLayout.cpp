@@ -35,6 +35,10 @@ QString BookLayout::text(int number) {
     return numbered(texts, number, script);
 }
 
+QString BookLayout::searchPart(int part) {
+    return part == 0 ? searchText : in(search, QStringLiteral("text-%1.js").arg(part));
+}
+
 QString BookLayout::offlinePart(int part) {
     return in(webData, QStringLiteral("offline-%1.json").arg(part));
 }
@@ -60,6 +64,8 @@ QStringList BookLayout::offlineFiles() {
 QString BookLayout::namesIn(const QString& folder) {
     if (folder == webData)
         return QStringLiteral("offline-[1-9][0-9]*\\.json");
+    if (folder == search)
+        return QStringLiteral("text-[1-9][0-9]*\\.js");
     QString extension = QStringLiteral("[A-Za-z0-9]{1,5}");
     if (folder == largePages)
         extension = QStringLiteral("(js|png|jpg)");

@@ -50,6 +50,8 @@ public:
     // A picture, or "js" for data that hold one.
     static QString largePage(int number, const QString& extension);
     static QString text(int number);
+    // A part of the text for searching, from 0.
+    static QString searchPart(int part);
     // A part of the list of files that readers can save.
     static QString offlinePart(int part);
 

@@ -133,6 +133,7 @@ QStringList ExistingBook::files(const QString& folder) {
             names << BookLayout::webFilesOfPage(number);
     }
     if (isWebBook)
-        names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData);
+        names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData)
+              << numberedFiles(folder, BookLayout::search);
     return names;
 }

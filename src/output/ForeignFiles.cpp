@@ -84,8 +84,8 @@ QStringList ForeignFiles::ofWebBook(const BookLayout& book) {
         inFiles(book, {BookLayout::webStyle, BookLayout::webScript, BookLayout::metadata,
                        BookLayout::icon, BookLayout::offlineScript, BookLayout::offlineList,
                        BookLayout::searchText, BookLayout::shareImage});
-    for (const auto& folder :
-         {BookLayout::thumbnails, BookLayout::largePages, BookLayout::texts, BookLayout::webData})
+    for (const auto& folder : {BookLayout::thumbnails, BookLayout::largePages, BookLayout::texts,
+                               BookLayout::webData, BookLayout::search})
         found += inFiles(book, folder, BookLayout::namesIn(folder));
     return found;
 }

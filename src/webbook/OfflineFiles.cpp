@@ -34,9 +34,9 @@ QByteArray digestOf(const QByteArray& bytes) {
 }
 
 // The order in which files are fetched when a reader saves the whole book: first what is read
-// first, last what shows only on enlarged pages. The files needed to open the book are cached when
-// the service worker is installed.
-enum class Kind { shell, picture, text, large, none };
+// first, last the plain page and what shows only on enlarged pages. The files needed to open the
+// book are cached when the service worker is installed.
+enum class Kind { shell, picture, text, last, none };
 
 Kind kindOf(const QString& path, const QString& page) {
     // Browsers request sounds in ranges, which the service worker does not handle; the page has a
@@ -44,13 +44,13 @@ Kind kindOf(const QString& path, const QString& page) {
     if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configuration ||
         path == BookLayout::configurationScript || path == BookLayout::shareImage)
         return Kind::none;
-    if (BookLayout::isIn(BookLayout::largePages, path))
-        return Kind::large;
+    if (BookLayout::isIn(BookLayout::largePages, path) || path == BookLayout::textPage)
+        return Kind::last;
     if (BookLayout::isIn(BookLayout::pages, path))
         return Kind::picture;
     if (BookLayout::isIn(BookLayout::texts, path) ||
         BookLayout::isIn(BookLayout::thumbnails, path) ||
-        BookLayout::isIn(BookLayout::search, path) || path == BookLayout::textPage)
+        BookLayout::isIn(BookLayout::search, path))
         return Kind::text;
     return path == page || !BookLayout::inFiles(path).isNull() ? Kind::shell : Kind::none;
 }
@@ -99,7 +99,7 @@ List listOf(const PublishTarget& to, const QString& page) {
     for (const auto& [number, kinds] : parts) {
         const QByteArrayList files = kinds[std::size_t(Kind::picture)] +
                                      kinds[std::size_t(Kind::text)] +
-                                     kinds[std::size_t(Kind::large)];
+                                     kinds[std::size_t(Kind::last)];
         list.parts[number] = '{' + files.join(',') + '}';
         list.count += files.size();
     }

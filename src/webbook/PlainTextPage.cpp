@@ -4,6 +4,7 @@
 #include "webbook/WebBookMetadata.h"
 
 #include <QUrl>
+#include <cerrno>
 
 namespace {
 
@@ -22,33 +23,39 @@ QByteArray escaped(const QString& text) {
 
 } // namespace
 
-PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book)
-    : iMetadata(metadata) {
+PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book,
+                             const QString& path)
+    : iMetadata(metadata), iFile(path), iIsWritten(iFile.open(QIODevice::WriteOnly)) {
     const QByteArray address = QUrl::toPercentEncoding(book);
     const QByteArray language =
         escaped(metadata.language.isEmpty() ? QStringLiteral("en") : metadata.language);
-    iHTML = "<!DOCTYPE html>\n<html lang=\"" + language +
-            "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(metadata.title) +
-            "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-            "<link rel=\"canonical\" href=\"" +
-            address + ExistingBook::textPageMark + style +
-            "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + address + "\">" +
-            escaped(metadata.title) + "</a></h1>\n";
+    write("<!DOCTYPE html>\n<html lang=\"" + language +
+          "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(metadata.title) +
+          "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+          "<link rel=\"canonical\" href=\"" +
+          address + ExistingBook::textPageMark + style +
+          "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + address + "\">" +
+          escaped(metadata.title) + "</a></h1>\n");
     if (!metadata.author.isEmpty())
-        iHTML += "<p>" + escaped(metadata.author) + "</p>\n";
+        write("<p>" + escaped(metadata.author) + "</p>\n");
 }
 
 void PlainTextPage::addPage(const QString& text) {
     const QString label = iMetadata.labels.value(iPosition);
     ++iPosition;
     const QString name = label.isEmpty() ? QString::number(iPosition) : label;
-    iHTML += "<section id=\"page-" + QByteArray::number(iPosition) + "\"><h2>" + escaped(name) +
-             "</h2>\n";
+    write("<section id=\"page-" + QByteArray::number(iPosition) + "\"><h2>" + escaped(name) +
+          "</h2>\n");
     if (!text.isEmpty())
-        iHTML += "<p dir=\"auto\">" + escaped(text) + "</p>\n";
-    iHTML += "</section>\n";
+        write("<p dir=\"auto\">" + escaped(text) + "</p>\n");
+    write("</section>\n");
 }
 
-QByteArray PlainTextPage::html() const {
-    return iHTML + "</main>\n</body>\n</html>\n";
+bool PlainTextPage::finish(Message* error) {
+    errno = 0;
+    write("</main>\n</body>\n</html>\n");
+    if (iIsWritten && iFile.flush())
+        return true;
+    *error = errno ? Message::ofLastSystemError() : Message(iFile.errorString());
+    return false;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "base/Message.h"
+
 #include <QByteArray>
+#include <QFile>
 #include <QString>
 
 struct WebBookMetadata;
@@ -9,18 +12,24 @@ struct WebBookMetadata;
 // browsers, and readers who prefer text.
 class PlainTextPage {
 public:
-    // book is the URL of the book's page, relative to this one.
-    PlainTextPage(const WebBookMetadata& metadata, const QString& book);
+    // book is the name of the book's page, beside this one; path is that of the file to write.
+    PlainTextPage(const WebBookMetadata& metadata, const QString& book, const QString& path);
 
     // Adds the next page of the book.
     void addPage(const QString& text);
     // Skips the next page of the book.
     void skipPage() { ++iPosition; }
 
-    QByteArray html() const;
+    // False, with the cause in *error, when the file could not be written.
+    bool finish(Message* error);
 
 private:
+    void write(const QByteArray& html) {
+        iIsWritten = iIsWritten && iFile.write(html) == html.size();
+    }
+
     const WebBookMetadata& iMetadata;
-    QByteArray iHTML;
+    QFile iFile;
+    bool iIsWritten;
     int iPosition = 0;
 };

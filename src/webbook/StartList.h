@@ -9,7 +9,7 @@ struct WebBook;
 namespace StartList {
 
 // As JSON, safe inside a script element and in a text template; null for a book without pages.
-// hasText: whether there is any to search.
-QByteArray json(const WebBook& book, bool hasText);
+// searchParts: the number of files with text to search, 0 for no text.
+QByteArray json(const WebBook& book, int searchParts);
 
 } // namespace StartList

@@ -66,16 +66,18 @@ bool WebBookMetadata::isOpen(int position) const {
     return !open || isWithin(*open, position);
 }
 
-QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, bool hasText) const {
+QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, int searchParts) const {
     QJsonObject object{{QStringLiteral("version"), 1},
                        {QStringLiteral("large"), QJsonArray::fromStringList(large)},
-                       {QStringLiteral("text"), hasText},
+                       {QStringLiteral("text"), searchParts > 0},
                        {QStringLiteral("language"), language},
                        {QStringLiteral("open"), openRuns(*this)},
                        {QStringLiteral("textPage"), textPage},
                        {QStringLiteral("offline"), offline},
                        {QStringLiteral("numbers"), QJsonValue::Null},
                        {QStringLiteral("labels"), QJsonValue::Null}};
+    if (searchParts > 1)
+        object[QStringLiteral("searchParts")] = searchParts;
     object[QStringLiteral("outline")] =
         outline ? outlineOf(outline->items(), *this, 0) : QJsonArray();
     if (!numbers.empty() && numbers.back() != int(numbers.size())) {

@@ -40,8 +40,9 @@ struct WebBookMetadata {
     // Whether the page at a position is included.
     bool isOpen(int position) const;
 
-    // The data for the player; the outline may be null. hasText: whether there is any to search.
-    QJsonObject forPlayer(const FlashOutline* outline, bool hasText) const;
+    // The data for the player; the outline may be null. searchParts: the number of files with text
+    // to search, 0 for no text.
+    QJsonObject forPlayer(const FlashOutline* outline, int searchParts) const;
     // Markup for the HTML page's head beyond title, keywords and description.
     QByteArray headMarkup() const;
 

@@ -22,6 +22,7 @@
 #include <QJsonArray>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 using Copy = PublishTransaction::Copy;
 using Phase = PublishTransaction::Phase;
@@ -124,6 +125,39 @@ QByteArray PageWriter::textOf(const WebPage& page, const std::vector<PDFTextLine
     }));
 }
 
+// Writes the texts for searching, page by page, into files that a reader need not wait for.
+class SearchWriter {
+public:
+    explicit SearchWriter(PageWriter& writer) : iWriter(writer) {}
+
+    void add(const QString& text) {
+        constexpr qsizetype mostLetters = 250'000;
+        if (iLetters > mostLetters)
+            write();
+        iTexts.append(text);
+        iLetters += text.size();
+        iHasText = iHasText || !text.isEmpty();
+    }
+    // Returns the number of files; 0 for a book without text.
+    int finish() {
+        write();
+        return iHasText ? iParts : 0;
+    }
+
+private:
+    void write() {
+        iWriter.writeScript(BookLayout::searchPart(iParts++), WebScript::json(iTexts));
+        iTexts = {};
+        iLetters = 0;
+    }
+
+    PageWriter& iWriter;
+    QJsonArray iTexts;
+    qsizetype iLetters = 0;
+    int iParts = 0;
+    bool iHasText = false;
+};
+
 QString textOfPlayerPart(const BookLayout& layout, const QString& path) {
     return QString::fromUtf8(Files::contents(WebBookSteps::playerPart(layout, path)));
 }
@@ -168,8 +202,8 @@ PagePlaces placesOf(const WebBook& book) {
 // Keeps the page from requesting the configuration, which the start list replaces. Not without the
 // place for the latter.
 void addStartList(PagePlaces& places, const PublishTarget& to, const WebBook& book,
-                  const QString& pageTemplate, bool hasText) {
-    const QByteArray list = StartList::json(book, hasText);
+                  const QString& pageTemplate, int searchParts) {
+    const QByteArray list = StartList::json(book, searchParts);
     if (list.isNull() || !WebPageTemplate::hasHead(pageTemplate))
         return;
     places.start = QStringLiteral("<script>window.FolveroUserConfig = \"\";</script>\n");
@@ -212,31 +246,33 @@ QString WebBookSteps::playerPart(const BookLayout& layout, const QString& path) 
 }
 
 void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookReport& report) {
-    PlainTextPage plain(book.metadata, book.htmlName());
-    QJsonArray search;
-    report.hasText = false;
+    const QString& textPage = book.metadata.textPage;
+    std::optional<PlainTextPage> plain;
+    if (!textPage.isEmpty())
+        plain.emplace(book.metadata, book.htmlName(),
+                      to.transaction.stage(to.layout.at(textPage), Phase::page));
     PageWriter writer(to, book, report);
+    SearchWriter search(writer);
     for (const WebPage& page : book.pages) {
         to.checkCancelled();
-        if (!book.isOpen(page)) {
-            search.append(QString());
-            plain.skipPage();
-            continue;
-        }
-        const QString text = writer.write(page);
-        report.hasText = report.hasText || !text.isEmpty();
-        search.append(text);
-        plain.addPage(text);
+        const bool isOpen = book.isOpen(page);
+        const QString text = isOpen ? writer.write(page) : QString();
+        search.add(text);
+        if (plain && isOpen)
+            plain->addPage(text);
+        else if (plain)
+            plain->skipPage();
     }
     if (book.content.document) {
         book.content.document->stopReader();
         checkUnchanged(*book.content.document);
     }
-    writer.writeScript(BookLayout::searchText, WebScript::json(search));
+    report.searchParts = search.finish();
     writer.writeScript(BookLayout::metadata, WebScript::json(book.metadata.forPlayer(
-                                                 book.content.outline.get(), report.hasText)));
-    if (!book.metadata.textPage.isEmpty())
-        to.transaction.write(to.layout.at(book.metadata.textPage), plain.html(), Phase::page);
+                                                 book.content.outline.get(), report.searchParts)));
+    Message error;
+    if (plain && !plain->finish(&error))
+        PublishTransaction::fail(to.layout.at(textPage), error);
 }
 
 void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBookReport& report) {
@@ -246,7 +282,7 @@ void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBo
     const QString pageTemplate = WebPageTemplate::of(book.flashTemplate.get());
     PagePlaces places = placesOf(book);
     addPreloads(places, to, book);
-    addStartList(places, to, book, pageTemplate, report.hasText);
+    addStartList(places, to, book, pageTemplate, report.searchParts);
     places.head += QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
                                   "<script src=\"%2\"></script>\n")
                        .arg(BookLayout::webStyle, BookLayout::webScript);

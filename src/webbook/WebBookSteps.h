@@ -13,8 +13,8 @@ struct WebBookReport {
     std::vector<std::pair<int, Message>> degradedPages;
     // Of all files of pages.
     qint64 pageBytes = 0;
-    // Whether there is any text to search.
-    bool hasText = false;
+    // Files with text to search, 0 for no text.
+    int searchParts = 0;
 };
 
 // The steps that make a web book, beside those of BookSteps.

@@ -11,8 +11,8 @@ const STORY = [
   ['Nothing'], ['Nothing'], ['harbours'],
 ].map((texts) => typedPage(texts));
 
-async function open(pages = STORY, { disk = false, ...options } = {}) {
-  const folder = await reader.webBook({ pages: plainPages(pages.length), description: { pages } });
+async function open(pages = STORY, { disk = false, inPart, ...options } = {}) {
+  const folder = await reader.webBook({ pages: plainPages(pages.length), description: { pages, inPart } });
   return reader[disk ? 'openFromDisk' : 'openOverHttp'](folder, options);
 }
 
@@ -53,6 +53,26 @@ test('what is searched is found, listed by page with its surroundings and marked
   }
   await press(book, 'Escape');
   assert.equal(await current.count(), 0);
+  assert.deepEqual(book.errors, []);
+});
+
+test('of a long book the text comes in parts, and what is found so far is shown', async () => {
+  const give = [];
+  const parts = [0, 1, 2].map((index) => new Promise((resolve) => { give[index] = resolve; }));
+  const book = await open(STORY,
+    { inPart: 2, before: (page) => page.route('**/search/text-*.js', (route) => give.shift()(route)) });
+  assert.equal(await search(book, 'harbour'), '1+ results');
+  await press(book, 'Enter');
+  assert.equal(await status(book), '1 of 1+');
+  await (await parts[0]).continue();
+  const second = await parts[1];
+  assert.equal(await status(book), '1 of 4+', 'the reader stays with the result');
+  await second.abort();
+  await book.page.getByRole('button', { name: 'Try again' }).click();
+  await (await parts[2]).continue();
+  await book.page.waitForFunction(() => document.querySelector('.search-status').textContent === '5 results');
+  assert.equal(await book.page.locator('.result').count(), 5);
+  assert.equal(await search(book, 'nowhere'), 'Nothing found');
   assert.deepEqual(book.errors, []);
 });
 

@@ -54,8 +54,9 @@ test('a query is looked for as it stands, word by word when widened, and in quot
 });
 
 async function textOf(...texts) {
-  const text = new SearchText(texts);
-  await text.ready;
+  const text = new SearchText();
+  await text.add(texts.slice(0, 2));
+  await text.add(texts.slice(2));
   return text;
 }
 

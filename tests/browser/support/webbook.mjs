@@ -30,16 +30,22 @@ function stringOf({ lines = [] } = {}) {
 }
 
 /** The data files of a web book by their names; JSON of each. */
-function dataOf({ pages, labels = null, outline = [], large = [], open = null, language = '', textPage = '', start, panel }) {
+function dataOf({
+  pages, labels = null, outline = [], large = [], open = null, language = '', textPage = '', start, panel,
+  inPart = pages.length,
+}) {
   const isOpen = (position) => !open || open.some(([from, to]) => position >= from && position <= to);
   const shown = pages.map((page, index) => (isOpen(index + 1) ? page : undefined));
   const files = {
     'web/book': {
       version: 1, numbers: null, labels, outline, open, language, textPage, start, panel,
       large: pages.map((_, index) => large[index]?.kind ?? ''), text: shown.some((page) => page?.lines?.length > 0),
+      searchParts: Math.ceil(pages.length / inPart),
     },
-    'search/text': shown.map(stringOf),
   };
+  for (let part = 0; part * inPart < pages.length; part += 1) {
+    files[`search/text${part ? `-${part}` : ''}`] = shown.slice(part * inPart, (part + 1) * inPart).map(stringOf);
+  }
   shown.forEach((page, index) => { if (page) files[`text/${index + 1}`] = page; });
   return files;
 }
@@ -47,7 +53,8 @@ function dataOf({ pages, labels = null, outline = [], large = [], open = null, l
 /**
  * Makes a published classic book one of the web kind.
  * description: pages: { size, lines, links } by position; labels, outline, open, language and
- * textPage as in the book's facts; large: { kind, bytes } by position, or svg for bytes; web: folder with the built web.js and web.css.
+ * textPage as in the book's facts; inPart: pages whose text is in one file for searching;
+ * large: { kind, bytes } by position, or svg for bytes; web: folder with the built web.js and web.css.
  */
 export async function makeWebBook(folder, description) {
   const { web, large = [] } = description;
