@@ -76,7 +76,7 @@ def arguments(description, pages="101-200", rounds=5, documents="*"):
 
 
 def publish_command(folvero, document, folder, pages, *options):
-    return [folvero, "publish", document, folder, "--type", "html", "--pages", pages, *options]
+    return [folvero, "publish", "--force", document, folder, "--type", "html", "--pages", pages, *options]
 
 
 def page_files(folder):

@@ -7,6 +7,7 @@
 #include "cli/OutputFolder.h"
 #include "cli/PageSelection.h"
 #include "cli/PublishReport.h"
+#include "cli/PublishStamp.h"
 #include "cli/PublishTiming.h"
 #include "cli/TemplateOptions.h"
 #include "cli/WebBookOptions.h"
@@ -20,6 +21,7 @@
 #include "system/Files.h"
 #include "webbook/FolveroOutputWeb.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QTime>
 #include <algorithm>
@@ -35,14 +37,15 @@ constexpr int importDPI = 144;
 constexpr int interruptPollMilliseconds = 25;
 
 // What the document asks for goes before what the user does.
-void setProperties(FlashTemplate& tmpl, const PublishOptions& options,
-                   const PDFDocument& document) {
-    if (document.isRightToLeft())
-        tmpl.setPropertyValue(QStringLiteral("RightToLeft"), QStringLiteral("YES"));
+std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options, bool isRightToLeft) {
+    auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
+    if (isRightToLeft)
+        tmpl->setPropertyValue(QStringLiteral("RightToLeft"), QStringLiteral("YES"));
     if (!options.settingsFile.isEmpty())
-        TemplateOptions::applySettingsFile(tmpl, options.settingsFile);
+        TemplateOptions::applySettingsFile(*tmpl, options.settingsFile);
     for (const QString& assignment : options.assignments)
-        TemplateOptions::applyAssignment(tmpl, assignment);
+        TemplateOptions::applyAssignment(*tmpl, assignment);
+    return tmpl;
 }
 
 // The file name of the book's page. Its extension marks where the name ends: an application's name
@@ -80,16 +83,19 @@ QString bookTitle(const PublishOptions& options, const Book& imported) {
     return own.isEmpty() ? QFileInfo(options.pdf).completeBaseName() : own;
 }
 
-// Runs the import on its queue and waits for it; Ctrl-C cancels it.
-std::shared_ptr<ImportPDFOperation> importPages(const PublishOptions& options, OpenedPDF document,
-                                                const QString& range, FilesOfPages filesOf) {
-    const auto operation =
+std::shared_ptr<ImportPDFOperation> newImport(const PublishOptions& options, OpenedPDF document,
+                                              const QString& range) {
+    auto operation =
         std::make_shared<ImportPDFOperation>(options.pdf, range, importDPI, options.quality);
     operation->setDocument(std::move(document));
-    operation->setFilesOf(std::move(filesOf));
     operation->setImportLinks(options.links);
     operation->setImportBookmarks(options.bookmarks);
-    ProgressDisplay progress(QStringLiteral("Drawing pages"), options.quiet);
+    return operation;
+}
+
+// Runs the import on its queue and waits for it; Ctrl-C cancels it.
+void run(const std::shared_ptr<ImportPDFOperation>& operation, bool isQuiet) {
+    ProgressDisplay progress(QStringLiteral("Drawing pages"), isQuiet);
     const auto subscription = NotificationCenter::defaultCenter().addObserver(
         QString::fromUtf16(ImportProgressInfoMSG), nullptr, [&](const Notification& message) {
             if (message.userInfo[QStringLiteral("type")] == QStringLiteral("geneatePage")) {
@@ -103,7 +109,6 @@ std::shared_ptr<ImportPDFOperation> importPages(const PublishOptions& options, O
         if (Interrupt::wasRequested())
             operation->cancel();
     }
-    return operation;
 }
 
 // The result of a finished import; throws the reason if there are no pages.
@@ -236,13 +241,10 @@ FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& open
     };
 }
 
-MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
-    bookName(options); // reports an invalid name before an hour of drawing
-    WebBookOptions::check(options);
-    const auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
+MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, PublishTiming& timing) {
     OpenedPDF opened = openDocument(options);
     const auto document = opened.document;
-    setProperties(*tmpl, options, *document);
+    const auto tmpl = prepareTemplate(options, document->isRightToLeft());
     const PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
@@ -256,8 +258,11 @@ MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
         failOnForeignFiles(output->foreignFiles());
     timing.opened();
 
-    const auto operation =
-        importPages(options, std::move(opened), pages.range, filesFor(options.type, openPages));
+    const auto operation = newImport(options, std::move(opened), pages.range);
+    operation->setFilesOf(filesFor(options.type, openPages));
+    if (!options.force)
+        operation->setTakeEarlierPage(stamp.takeEarlierPage());
+    run(operation, options.quiet);
     const Book& book = importedBook(*operation);
     timing.imported(book);
 
@@ -268,7 +273,9 @@ MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
         web->setTitle(title);
         web->setOpenPages(openPages);
     }
+    auto earlier = stamp.removed();
     writeBook(*output, title, folder);
+    earlier.keep();
     folder.keep();
     timing.published();
     if (!options.timingFile.isEmpty())
@@ -277,6 +284,24 @@ MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     MadeBook made = resultOf(*output, book);
     if (web)
         reportWebBook(*web, options, made);
+    if (made.failedPages.empty() && made.degradedPages.empty() && operation->failures().isEmpty())
+        stamp.write();
+    return made;
+}
+
+// The book that is made for the options, or has been made already.
+MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
+    WebBookOptions::check(options);
+    // Reports an invalid name or setting before an hour of drawing.
+    const auto asked = prepareTemplate(options, false);
+    const QString folder = QDir::cleanPath(QFileInfo(options.outputFolder).absoluteFilePath());
+    const QString file = makePublisher(options, asked, folder).output->outputFileName();
+    const PublishStamp stamp(options, *asked, file);
+    if (!stamp.isUpToDate() || options.force)
+        return makeAnew(options, stamp, timing);
+    MadeBook made;
+    made.file = file;
+    made.isUpToDate = true;
     return made;
 }
 
@@ -310,10 +335,14 @@ void republish(PublishOptions options) {
     try {
         const MadeBook made = makeReported(options);
         const auto& counts = made.counts;
-        QString line =
-            QStringLiteral("%1 %2: %3 files written, %4 unchanged")
-                .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), made.file,
-                     QString::number(counts.written), QString::number(counts.unchanged));
+        const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
+        if (made.isUpToDate) {
+            Terminal::print(QStringLiteral("%1 %2: up to date").arg(time, made.file));
+            return;
+        }
+        QString line = QStringLiteral("%1 %2: %3 files written, %4 unchanged")
+                           .arg(time, made.file, QString::number(counts.written),
+                                QString::number(counts.unchanged));
         if (counts.removed > 0)
             line += QStringLiteral(", %1 removed").arg(counts.removed);
         Terminal::print(line);
@@ -344,6 +373,8 @@ void runPublish(const PublishOptions& options) {
     files.takeSnapshot();
     const MadeBook made = makeReported(options);
     Terminal::print(made.file);
+    if (made.isUpToDate && !options.quiet)
+        Terminal::report(QStringLiteral("up to date"));
     const auto trouble = troubleWith(made);
     if (trouble && !options.watch)
         throw *trouble;

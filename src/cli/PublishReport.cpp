@@ -91,6 +91,8 @@ PublishReport::PublishReport(const PublishOptions& options) : iPath(options.repo
 
 Message PublishReport::writeMade(const MadeBook& book, const PublishTiming& timing) {
     iContent[QStringLiteral("file")] = book.file;
+    if (book.isUpToDate)
+        return write("upToDate", ExitCode::ok, timing);
     iContent[QStringLiteral("pages")] = book.pages;
     iContent[QStringLiteral("failedPages")] = asJson(book.failedPages);
     iContent[QStringLiteral("degradedPages")] = asJson(book.degradedPages);

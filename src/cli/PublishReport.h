@@ -13,7 +13,8 @@ struct PublishOptions;
 
 // A book that was made.
 struct MadeBook {
-    QString file; // the file to open
+    QString file;            // the file to open
+    bool isUpToDate = false; // nothing was made: the book is there
     PublishTransaction::Counts counts;
     int pages = 0;
     // Reasons by page number: pages that are missing from the book, and those with a picture only.

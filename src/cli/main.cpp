@@ -148,7 +148,8 @@ void addPublish(CLI::App& app, PublishOptions& options) {
         ->allow_extra_args(false);
     command->add_flag(
         "--force", options.force,
-        "Overwrite a page, an application or other files that don't belong to a book");
+        "Make the book even if it is up to date, and overwrite a page, an application\n"
+        "or other files that don't belong to a book");
     addPassword(*command, options.password);
     addRunOptions(*command, options);
     command->callback([&options] { runPublish(options); });

@@ -23,16 +23,19 @@ PageMaker::PageMaker(const DrawablePDF& document, QString folder, int quality)
       iWebPageMaker(iEncoder, iFactor) {}
 
 MadePage PageMaker::make(int page, PageFiles wanted, const DrawControl& control) {
-    const bool isForWeb = wanted == PageFiles::web;
     const WebPageFiles files(iFolder, page);
     MadePage made;
     Stopwatch watch;
     const DrawablePage drawn(iDocument, page - 1, control,
-                             isForWeb ? DrawablePage::Content::picturesAndText
-                                      : DrawablePage::Content::pictures);
+                             wanted == PageFiles::classic ? DrawablePage::Content::pictures
+                                                          : DrawablePage::Content::picturesAndText);
+    if (wanted == PageFiles::text) {
+        iWebPageMaker.makeText(drawn, files, made.timing);
+        return made;
+    }
     drawn.draw(pixelsPerPoint, iBitmap);
     made.timing.draw = watch.lap();
-    if (!isForWeb) {
+    if (wanted == PageFiles::classic) {
         makePageFile(files.pageFile, made.timing);
         return made;
     }

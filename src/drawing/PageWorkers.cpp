@@ -35,6 +35,10 @@ Message crashReason() {
 
 constexpr Log logger("PageWorkers");
 
+const char* wordFor(PageFiles files) {
+    return files == PageFiles::web ? " web" : files == PageFiles::text ? " text" : "";
+}
+
 // Workers report in English: one of our own reasons, or a file's path and the system's error text.
 Message reasonFrom(const QByteArray& words) {
     const qsizetype colon = words.lastIndexOf(": ");
@@ -130,8 +134,7 @@ void PageWorkers::feed(Worker& worker) {
         worker.pages.push_back(iWaiting.front());
         iWaiting.pop_front();
         const int page = worker.pages.back();
-        if (!worker.process->writeLine(QByteArray::number(page) +
-                                       (iFilesOf(page) == PageFiles::web ? " web" : "")))
+        if (!worker.process->writeLine(QByteArray::number(page) + wordFor(iFilesOf(page))))
             return; // a failure shows when reading
     }
 }
@@ -262,8 +265,11 @@ void PageWorkers::replaceUnstarted(Worker& worker) {
 // Leaves no partial files of a failed page. A picture that is there before the others is complete.
 void PageWorkers::removeFilesOf(int page) const {
     const WebPageFiles files(iFolder, page);
-    const bool isForWeb = iFilesOf(page) == PageFiles::web;
-    for (const QString& file : isForWeb ? files.others() : QStringList(files.pageFile))
+    const PageFiles wanted = iFilesOf(page);
+    const QStringList partial = wanted == PageFiles::web    ? files.others()
+                                : wanted == PageFiles::text ? QStringList(files.text)
+                                                            : QStringList(files.pageFile);
+    for (const QString& file : partial)
         QFile::remove(file);
     const QStringList pictures{files.pageFile, files.picture};
     for (const QString& file : files.others() + pictures)

@@ -4,8 +4,9 @@
 #include <QStringList>
 #include <functional>
 
-// Which files are made of a page: its page file, or all that a web book has of it.
-enum class PageFiles { classic, web };
+// Which files are made of a page: its page file, all that a web book has of it, only the text of
+// that, or nothing.
+enum class PageFiles { classic, web, text, none };
 
 // Which files each page gets, by its one-based number.
 using FilesOfPages = std::function<PageFiles(int page)>;
@@ -47,3 +48,8 @@ struct WebPageFiles {
     QString largePhotograph; // one of the three exists
     QString text;            // as packed by PDFSerialization; the last one to be written
 };
+
+// Puts files of a page that were made before to where they are wanted, and returns which ones must
+// still be made.
+using TakeEarlierPage =
+    std::function<PageFiles(int page, PageFiles wanted, const WebPageFiles& files)>;

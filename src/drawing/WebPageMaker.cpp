@@ -86,6 +86,14 @@ void WebPageMaker::makeOthers(const DrawablePage& page, PageBitmap& bitmap, qint
     writeText();
 }
 
+void WebPageMaker::makeText(const DrawablePage& page, const WebPageFiles& files,
+                            PageTiming& timing) {
+    Stopwatch watch;
+    const QByteArray text = PDFSerialization::pack(page.text());
+    timing.draw += watch.lap();
+    write(files.text, bytesOf(text), timing);
+}
+
 qint64 WebPageMaker::makePicture(const DrawablePage& page, const PageBitmap& bitmap,
                                  const WebPageFiles& files, PageTiming& timing) {
     Stopwatch watch;

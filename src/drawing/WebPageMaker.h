@@ -31,6 +31,8 @@ public:
     // empty list. What was made before an error is written all the same.
     void makeOthers(const DrawablePage& page, PageBitmap& bitmap, qint64 pictureSize,
                     const WebPageFiles& files, PageTiming& timing);
+    // Makes the page's text only, for a page whose other files are there.
+    static void makeText(const DrawablePage& page, const WebPageFiles& files, PageTiming& timing);
 
 private:
     qint64 makeThumbnail(const PageBitmap& bitmap, const QString& path, PageTiming& timing);

@@ -120,6 +120,7 @@ void ImportPDFOperation::importPages() {
         if (const auto& error = source->openError())
             fail(error->kind(), error->message());
         source->toPageConverter()->setFilesOf(iFilesOf);
+        source->toPageConverter()->setTakeEarlierPage(iTakeEarlierPage);
         source->startDrawing();
         if (iBook.document)
             readDocumentProperties(*iBook.document);

@@ -36,6 +36,9 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
             !QFileInfo::exists(workFile(page, "swf")))
             toDraw.push_back(page);
     }
+    if (iTakeEarlierPage)
+        takeEarlierPages(toDraw);
+    std::erase_if(toDraw, [this](int page) { return iFilesOf(page) == PageFiles::none; });
     iWorkers = std::make_unique<PageWorkers>(PDFPath(), converterWorkFolder(), quality(),
                                              std::move(toDraw), stop);
     iWorkers->setPassword(password());
@@ -45,6 +48,18 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     if (!iWorkers->start())
         iWorkers.reset();
     iWorkerCount = iWorkers ? iWorkers->workerCount() : 0;
+}
+
+// Once: it puts files into the work folder.
+void PDFToSWFPageConverter::takeEarlierPages(const std::vector<int>& pages) {
+    const auto take = std::exchange(iTakeEarlierPage, nullptr);
+    std::map<int, PageFiles> wanted;
+    for (const int page : pages)
+        wanted[page] = take(page, iFilesOf(page), WebPageFiles(converterWorkFolder(), page));
+    iFilesOf = [of = std::move(wanted)](int page) {
+        const auto found = of.find(page);
+        return found == of.end() ? PageFiles::classic : found->second;
+    };
 }
 
 void PDFToSWFPageConverter::endDrawingAhead() {
@@ -86,6 +101,8 @@ void PDFToSWFPageConverter::makeFiles(PageFiles kind, const std::vector<int>& pa
 }
 
 void PDFToSWFPageConverter::makePage(int page) {
+    if (iFilesOf(page) == PageFiles::none)
+        return; // it is there
     const auto drawn = iWorkers ? iWorkers->waitFor(page) : std::nullopt;
     const PageResult result = drawn ? *drawn : drawInProcess(page);
     iTiming += result.made.timing;
@@ -96,7 +113,8 @@ void PDFToSWFPageConverter::makePage(int page) {
     const Message& failure = result.error.isNull() ? result.made.degraded : result.error;
     if (failure.isNull())
         return;
-    const bool hasPicture = iFilesOf(page) == PageFiles::web && QFileInfo::exists(pictureOf(page));
+    const bool hasPicture =
+        iFilesOf(page) != PageFiles::classic && QFileInfo::exists(pictureOf(page));
     if (hasPicture)
         iDegradedPages[page] = failure;
     else

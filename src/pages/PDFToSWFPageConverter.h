@@ -29,6 +29,9 @@ public:
     // Which files pages get; page files by default.
     void setFilesOf(FilesOfPages filesOf) { iFilesOf = std::move(filesOf); }
 
+    // For pages whose files were made before, for the next drawAhead().
+    void setTakeEarlierPage(TakeEarlierPage take) { iTakeEarlierPage = std::move(take); }
+
     // How many page workers draw; usualWorkerCount() by default.
     void setJobs(int jobs) { iJobs = jobs; }
 
@@ -68,6 +71,7 @@ private:
     QString workFile(int page, const char* extension) const;
     // The picture of a page that is there, else the page file.
     QString pictureOf(int page) const;
+    void takeEarlierPages(const std::vector<int>& pages);
     PageResult drawInProcess(int page);
     void makePage(int page);
 
@@ -77,6 +81,7 @@ private:
     std::unique_ptr<DrawablePDF> iOwnDocument; // opened to draw
     std::unique_ptr<PageMaker> iPDFRep;        // pages in this process
     FilesOfPages iFilesOf = classicFiles;
+    TakeEarlierPage iTakeEarlierPage;
     const std::atomic<bool>* iStop = nullptr;
     std::vector<FailedPage> iFailedPages;
     std::map<int, Message> iDegradedPages;

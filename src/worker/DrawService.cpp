@@ -43,7 +43,9 @@ void servePages(PageMaker& maker) {
     const DrawControl control{nullptr, PDFLimits::maxPageTime};
     for (std::string line; std::getline(std::cin, line);) {
         const int page = std::atoi(line.c_str());
-        const auto wanted = line.ends_with(" web") ? PageFiles::web : PageFiles::classic;
+        const auto wanted = line.ends_with(" web")    ? PageFiles::web
+                            : line.ends_with(" text") ? PageFiles::text
+                                                      : PageFiles::classic;
         try {
             answer(maker.make(page, wanted, control));
         } catch (const PlatformException& failure) {

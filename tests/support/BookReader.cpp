@@ -120,6 +120,8 @@ QStringList BookReader::filesBeneath(const QString& folder) {
 std::map<QString, QByteArray> BookReader::contentsBeneath(const QString& folder) {
     std::map<QString, QByteArray> contents;
     for (const QString& name : filesBeneath(folder)) {
+        if (name.endsWith(QStringLiteral(".stamp")))
+            continue; // the time differs
         QFile file(QDir(folder).filePath(name));
         require(file.open(QIODevice::ReadOnly), "a file can't be read");
         contents[name] = file.readAll();

@@ -1,0 +1,108 @@
+#include "cli/PublishStamp.h"
+
+#include "cli/PublishOptions.h"
+#include "output/EarlierPages.h"
+#include "system/Bundle.h"
+#include "system/Files.h"
+#include "template/FlashTemplate.h"
+
+#include <QCryptographicHash>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <utility>
+
+namespace {
+
+// Null for what is no file: opening a pipe would block.
+QByteArray fileContents(const QString& path) {
+    return QFileInfo(path).isFile() ? Files::contents(path) : QByteArray();
+}
+
+// Puts texts into a digest, each with its end.
+class Digest {
+public:
+    Digest& operator<<(const QByteArray& text) {
+        iHash.addData(QByteArray::number(text.size()) + ' ');
+        iHash.addData(text);
+        return *this;
+    }
+    Digest& operator<<(const QString& text) {
+        return *this << (text.isNull() ? "-" : text.toUtf8());
+    }
+    Digest& operator<<(int number) { return *this << QByteArray::number(number); }
+
+    QByteArray result() const { return iHash.result().toHex(); }
+
+private:
+    QCryptographicHash iHash{QCryptographicHash::Blake2b_256};
+};
+
+// The names and contents of all files below a folder.
+void addFolder(Digest& to, const QString& folder) {
+    QStringList paths;
+    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths << files.next();
+    paths.sort();
+    for (const QString& path : paths)
+        to << path.mid(folder.size()) << Files::contents(path);
+}
+
+void addProperties(Digest& to, const FlashTemplate::Properties& properties,
+                   const FlashTemplate& tmpl) {
+    for (const auto& property : properties) {
+        to << property->key() << property->value();
+        if (property->propertyType() == pt_file)
+            to << fileContents(tmpl.valueAsFilePath(property->value()));
+        addProperties(to, property->childProperties(), tmpl);
+    }
+}
+
+// What the files of the pages depend on.
+QByteArray digestOfPages(const PublishOptions& options, const QByteArray& document) {
+    Digest digest;
+    digest << Bundle::version() << document << int(options.type) << options.quality;
+    return digest.result();
+}
+
+// Whatever changes the book must be here.
+QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl,
+                        const QByteArray& pages) {
+    Digest digest;
+    digest << pages << options.title << QFileInfo(options.pdf).completeBaseName() << options.pages
+           << int(options.singleFile) << options.previewPages << options.url << int(options.links)
+           << int(options.bookmarks) << options.templateName << options.styleName;
+    addProperties(digest, tmpl.properties(), tmpl);
+    addFolder(digest, Files::join(Bundle::resourcePath(), QStringLiteral("AppFiles")));
+    return digest.result();
+}
+
+} // namespace
+
+PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& tmpl, QString page)
+    : iPage(std::move(page)), iEarlier(BookStamp::of(iPage)) {
+    if (options.type != PublishOptions::Type::app && !options.singleFile)
+        iFolder = QFileInfo(iPage).path();
+    iWanted.document = BookStamp::documentAt(options.pdf, iEarlier);
+    if (iWanted.document.digest.isEmpty())
+        return;
+    iWanted.pages = digestOfPages(options, iWanted.document.digest);
+    iWanted.book = digestOfBook(options, tmpl, iWanted.pages);
+}
+
+bool PublishStamp::isUpToDate() const {
+    return !iWanted.book.isEmpty() && iWanted.book == iEarlier.book;
+}
+
+TakeEarlierPage PublishStamp::takeEarlierPage() const {
+    if (iFolder.isNull() || iWanted.pages.isEmpty() || iWanted.pages != iEarlier.pages)
+        return {};
+    return [pages = EarlierPages(iFolder)](int page, PageFiles wanted, const WebPageFiles& files) {
+        return pages.take(page, wanted, files);
+    };
+}
+
+void PublishStamp::write() const {
+    if (!iWanted.book.isEmpty())
+        iWanted.write(iPage);
+}

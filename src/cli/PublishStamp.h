@@ -1,0 +1,30 @@
+#pragma once
+
+#include "drawing/WebPageFiles.h"
+#include "output/BookStamp.h"
+
+#include <QString>
+
+class FlashTemplate;
+struct PublishOptions;
+
+// Tells what of a book has to be made, by what an earlier publish left.
+class PublishStamp {
+public:
+    // The template has what the options set. page is the path of the page or the application.
+    PublishStamp(const PublishOptions& options, const FlashTemplate& tmpl, QString page);
+
+    // The book is there, and was made of the same document with the same options.
+    bool isUpToDate() const;
+    // Null when the pages of the earlier book are not those that would be made.
+    TakeEarlierPage takeEarlierPage() const;
+
+    BookStamp::Removal removed() const { return BookStamp::Removal(iPage); }
+    void write() const;
+
+private:
+    QString iPage;
+    QString iFolder; // null for books whose pages have no files of their own
+    BookStamp iEarlier;
+    BookStamp iWanted; // without digests when the document can't be read
+};

@@ -1,0 +1,94 @@
+#include "cli/BookTest.h"
+
+#include <QJsonDocument>
+#include <QRegularExpression>
+
+namespace {
+
+// How the run of a command ends, by its report.
+class StampTest : public BookTest {
+protected:
+    QString resultOf(const QStringList& options) {
+        published(path("book.pdf"), options + QStringList("--report=" + path("report.json")));
+        const auto document = QJsonDocument::fromJson(TestFiles::read(path("report.json")));
+        iDrawing = document["timing"]["draw"].toDouble();
+        return document["result"].toString();
+    }
+
+    void SetUp() override {
+        TestFiles::write(path("book.pdf"), TestFiles::read(Program::sample("outline.pdf")));
+        TestFiles::write(path("settings.txt"), "AutoPlay=YES");
+        TestFiles::write(path("other.txt"), "AutoPlay=NO");
+    }
+
+    double iDrawing = 0; // seconds
+};
+
+} // namespace
+
+TEST_F(StampTest, EveryOptionThatChangesTheBookMakesItAnew) {
+    const QString settings = "--settings=" + path("settings.txt");
+    QStringList changes{"--type=app",
+                        "--name=other",
+                        "--title=Other",
+                        "--pages=1-2",
+                        "--single-file",
+                        "--preview-pages=1",
+                        "--url=https://example.org/book/",
+                        "--quality=50",
+                        "--links",
+                        "--bookmarks",
+                        "--template=deck",
+                        "--style=Garden",
+                        settings,
+                        "--set=topMargin=7"};
+    const QStringList runOptions{"--watch", "--jobs",     "--quiet",         "--timing", "--report",
+                                 "--force", "--password", "--password-file", "--help"};
+    const QString help = QString::fromUtf8(Program::run({"publish", "--help"}).output);
+    for (const auto& match : QRegularExpression("--[a-z-]+(?=[, ])").globalMatch(help)) {
+        const bool isKnown =
+            runOptions.contains(match.captured()) || !changes.filter(match.captured()).isEmpty();
+        EXPECT_TRUE(isKnown || help.count(match.captured()) == 0) << qPrintable(match.captured());
+    }
+    for (const QString& change : changes) {
+        SCOPED_TRACE(qPrintable(change));
+        QDir(book()).removeRecursively();
+        const QString type = change.contains("=app") ? "--type=html" : "--type=web";
+        EXPECT_EQ(resultOf({type}), "made");
+        EXPECT_EQ(resultOf({type, "--jobs=1"}), "upToDate");
+        const QStringList changed =
+            change.contains("=app") ? QStringList(change) : QStringList{type, change};
+        EXPECT_EQ(resultOf(changed), "made");
+        EXPECT_EQ(resultOf(changed), "upToDate");
+    }
+    TestFiles::write(path("settings.txt"), "AutoPlay=NO");
+    EXPECT_EQ(resultOf({"--type=web", settings}), "made");
+}
+
+TEST_F(StampTest, WhatIsMissingOrChangedIsMadeAnew) {
+    EXPECT_EQ(resultOf({}), "made");
+    EXPECT_EQ(resultOf({"--force"}), "made");
+    EXPECT_GT(iDrawing, 0);
+    QFile::remove(file("files/page/2.jpg"));
+    EXPECT_EQ(resultOf({}), "made");
+    TestFiles::write(file("index.html"), TestFiles::read(file("index.html")) + "<!-- mine -->");
+    EXPECT_EQ(resultOf({}), "made");
+    // Of the same size, and modified just now.
+    const QByteArray pdf = TestFiles::read(path("book.pdf"));
+    TestFiles::write(path("book.pdf"), QByteArray(pdf).replace("%PDF-1.7", "%PDF-1.6"));
+    EXPECT_EQ(resultOf({}), "made");
+    EXPECT_GT(iDrawing, 0);
+    EXPECT_EQ(resultOf({}), "upToDate");
+}
+
+TEST_F(StampTest, PagesAreNotDrawnAgainForAnotherTitle) {
+    for (const char* type : {"--type=html", "--type=web"}) {
+        published(path("book.pdf"), {type, "--title=Old"});
+        EXPECT_EQ(resultOf({type, "--title=New"}), "made");
+        EXPECT_EQ(iDrawing > 0, QByteArray(type) == "--type=web"); // web books need the text
+        const auto kept = contents();
+        QDir(book()).removeRecursively();
+        published(path("book.pdf"), {type, "--title=New"});
+        EXPECT_TRUE(contents() == kept);
+    }
+}
