@@ -725,6 +725,10 @@
         <translation>ist durch ein Passwort geschützt</translation>
     </message>
     <message>
+        <source>the password is wrong</source>
+        <translation>das Passwort ist falsch</translation>
+    </message>
+    <message>
         <source>the file was changed after reading it had begun</source>
         <translation>die Datei wurde seit dem Beginn des Lesens geändert</translation>
     </message>

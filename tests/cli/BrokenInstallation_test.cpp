@@ -38,6 +38,8 @@ child = subprocess.Popen([real] + sys.argv[1:], stdin=subprocess.PIPE, stdout=su
 def passOn():
     sys.stdout.buffer.write(child.stdout.readline())
     sys.stdout.flush()
+child.stdin.write(sys.stdin.buffer.readline())
+child.stdin.flush()
 passOn()
 passOn()
 for question in sys.stdin.buffer:
