@@ -9,7 +9,7 @@ cmake --build "$build" --target folvero-window-shots resources sample-pdfs >/dev
 
 for language in en de; do
     "$build/bin/folvero-window-shots" --jpeg --scale 2 --language $language \
-        --only start,editing,settings,import,import-failed,message,chooser,publish-web \
+        --only start,editing,settings,import,password,message,chooser,publish-web \
         "$build/samples" resources/help/pictures/$language 2>/dev/null
 done
 windows=$(mktemp -d)

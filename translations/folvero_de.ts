@@ -814,6 +814,31 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>PasswordWindow</name>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <extracomment>Opens the document with the password that was typed.</extracomment>
+        <translation>&amp;Öffnen</translation>
+    </message>
+    <message>
+        <source>This password does not open it.</source>
+        <translation>Dieses Passwort öffnet es nicht.</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
+    <message>
+        <source>“%1” is protected by a password.</source>
+        <extracomment>%1 is the name of a PDF.</extracomment>
+        <translation>„%1“ ist durch ein Passwort geschützt.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewView</name>
     <message>
         <source>Preview of the book</source>

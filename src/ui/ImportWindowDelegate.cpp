@@ -5,6 +5,7 @@
 #include "base/PlatformException.h"
 #include "ui/ImportWindow.h"
 #include "ui/OutputWindow.h"
+#include "ui/PasswordWindow.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -26,7 +27,10 @@ constexpr Log logger("ImportWindowDelegate");
 } // namespace
 
 ImportWindowDelegate::ImportWindowDelegate(QWidget* parent)
-    : iWindow(new ImportWindow(parent)), iFilePanel(Panels::chooseFile), iOpenFile(Panels::open) {
+    : iWindow(new ImportWindow(parent)),
+      iPasswordWindow(new PasswordWindow(iWindow)),
+      iFilePanel(Panels::chooseFile),
+      iOpenFile(Panels::open) {
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     awakeFromNib();
@@ -63,6 +67,12 @@ void ImportWindowDelegate::wire() {
             &ImportWindowDelegate::onOpenTheFileAction);
     connect(iWindow->pageRangeType, &QButtonGroup::idClicked, this,
             &ImportWindowDelegate::onPageRangeTypeChangeAction);
+    connect(iPasswordWindow->btnOK, &QPushButton::clicked, this,
+            &ImportWindowDelegate::onPasswordAction);
+    connect(iPasswordWindow->btnCancel, &QPushButton::clicked, this,
+            &ImportWindowDelegate::onNoPasswordAction);
+    connect(iPasswordWindow, &Sheet::closeRequested, this,
+            &ImportWindowDelegate::onNoPasswordAction);
 }
 
 void ImportWindowDelegate::beginSheet(std::function<void(int)> onEnd) {
@@ -103,6 +113,7 @@ void ImportWindowDelegate::onPageRangeTypeChangeAction() {
 
 void ImportWindowDelegate::onImportAction() {
     iIsImporting = true;
+    iWasPasswordTyped = false;
     saveChoices();
     enableButtons(false);
     AppSettings::shareInstance().saveSettings();
@@ -155,6 +166,11 @@ void ImportWindowDelegate::startImport() {
     // Most likely the next book is of the same kind as the last.
     if (settings.outputType() == OutputWindow::webBook)
         iImportPDF->setFilesOf(webFiles);
+    if (iWindow->txtImportFile->text() == iProtectedFile) {
+        OpenedPDF document;
+        document.password = iPassword;
+        iImportPDF->setDocument(std::move(document));
+    }
     iImportPDF->setImportLinks(settings.importLinks() == 1);
     iImportPDF->setImportBookmarks(settings.importBookmark() == 1);
     logger.debug(QStringLiteral("before add operation"));
@@ -193,9 +209,28 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
         endSheet(1);
         return;
     }
+    if (operation->failureKind() == ErrorKind::pdfPassword && !operation->isCancelled()) {
+        iPasswordWindow->ask(iWindow->txtImportFile->text(), iWasPasswordTyped);
+        return; // the import goes on with the answer
+    }
     logger.warn(QStringLiteral("import pdf failed..."));
     if (!operation->isCancelled())
         showFailure(iFailures);
+    iIsImporting = false;
+}
+
+void ImportWindowDelegate::onPasswordAction() {
+    iProtectedFile = iWindow->txtImportFile->text();
+    iPassword = iPasswordWindow->txtPassword->text().toUtf8();
+    iWasPasswordTyped = true;
+    iPasswordWindow->done(1);
+    enableButtons(false);
+    startImport();
+}
+
+void ImportWindowDelegate::onNoPasswordAction() {
+    iPassword.clear();
+    iPasswordWindow->done(0);
     iIsImporting = false;
 }
 

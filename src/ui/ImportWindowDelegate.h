@@ -11,6 +11,7 @@
 #include <optional>
 
 class ImportWindow;
+class PasswordWindow;
 
 // Controls the import sheet: reads the user's choices, imports in the background, shows progress,
 // and keeps the result as its book, without pages before an import and after a failed one. The
@@ -23,6 +24,7 @@ public:
     ~ImportWindowDelegate() override;
 
     ImportWindow& window() const { return *iWindow; }
+    PasswordWindow& passwordWindow() const { return *iPasswordWindow; }
     // Shows the sheet on its parent; onEnd gets the return code.
     void beginSheet(std::function<void(int)> onEnd);
     // Imports all pages of that file as if the user had chosen it in the sheet.
@@ -49,6 +51,9 @@ public:
     void onBrowseFileAction();
     void onOpenTheFileAction();
     void onPageRangeTypeChangeAction();
+    // Imports again with the password that was typed, and gives up.
+    void onPasswordAction();
+    void onNoPasswordAction();
     void openPanelDidEnd(const std::optional<QString>& panelFile);
 
     // Enables the controls for the idle or the busy state.
@@ -72,6 +77,11 @@ private:
     void endSheet(int returnCode);
 
     ImportWindow* iWindow;
+    PasswordWindow* iPasswordWindow;
+    // The last password, in UTF-8, and the file that it is for; kept until the program ends.
+    QString iProtectedFile;
+    QByteArray iPassword;
+    bool iWasPasswordTyped = false; // for the import that runs
     bool iIsImporting = false;
     QStringList iFailures;
     std::shared_ptr<ImportPDFOperation> iImportPDF;

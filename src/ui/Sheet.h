@@ -31,6 +31,8 @@ protected:
     static constexpr QMargins margins{16, 14, 16, 14};
     // Of a sheet whose texts need no more.
     static constexpr int usualWidth = 560;
+    // Of a sheet with a single question.
+    static constexpr int narrowWidth = 400;
     // Widgets side by side; the first one stretches.
     static QWidget* row(const QList<QWidget*>& widgets);
     // The cancel button, and the default button.

@@ -1,6 +1,7 @@
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindow.h"
+#include "ui/PasswordWindow.h"
 
 #include "app/AppSettings.h"
 #include "builder/PDFBuilder.h"
@@ -135,6 +136,41 @@ TEST_F(ImportSheet, AFailureIsShownAndTheSheetStaysForAnotherTry) {
     EXPECT_TRUE(ended.isEmpty());
     ASSERT_TRUE(import(path(2)));
     EXPECT_EQ(ended, QList<int>{1});
+}
+
+TEST_F(ImportSheet, AsksForThePasswordOfAProtectedDocumentUntilItIsRightOrCancelled) {
+    const QString file = path(1);
+    PDFBuilder pdf;
+    pdf.addPage({});
+    pdf.encrypt("gr\xFCn", "owner");
+    ASSERT_TRUE(pdf.write(file));
+    open();
+    PasswordWindow& question = sheet->passwordWindow();
+    const auto answer = [&](const QString& typed) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return question.isVisible(); }, 20000));
+        EXPECT_EQ(question.txtPassword->text(), "");
+        EXPECT_FALSE(question.btnOK->isEnabled());
+        question.txtPassword->setText(typed);
+        click(typed.isNull() ? question.btnCancel : question.btnOK);
+        EXPECT_FALSE(question.isVisible());
+    };
+    startImport(file);
+    answer("green");
+    answer({});
+    EXPECT_FALSE(question.lblFailure->isHidden()) << "the answer was wrong";
+    EXPECT_FALSE(sheet->isImporting());
+    EXPECT_EQ(sheet->flashPageSource(), nullptr);
+    EXPECT_TRUE(ended.isEmpty() && window().lblFailure->isHidden());
+    startImport(file);
+    answer(u"grün"_s);
+    EXPECT_TRUE(question.lblFailure->isHidden());
+    ASSERT_TRUE(waitForIdle());
+    EXPECT_EQ(ended, QList<int>{1});
+    const auto source = sheet->flashPageSource();
+    source->makeFiles(PageFiles::web, {1}, std::atomic<bool>(false), [](int) {});
+    EXPECT_TRUE(source->pagesWithout(PageFiles::web).empty()) << "the pages keep the password";
+    window().open();
+    ASSERT_TRUE(import(file)) << "it is asked for once";
 }
 
 TEST_F(ImportSheet, CancellingAnImportKeepsTheSheetAndCancellingAgainClosesIt) {

@@ -24,11 +24,7 @@ constexpr int longEnough = 30'000; // ms
 constexpr int turnTime = 1'800;    // ms
 
 QWidget* openSheet() {
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (qobject_cast<QDialog*>(widget) && widget->isVisible())
-            return widget;
-    }
-    return nullptr;
+    return qobject_cast<QDialog*>(QApplication::activeModalWidget());
 }
 
 bool isDark(const QWidget& widget) {

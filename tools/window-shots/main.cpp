@@ -12,6 +12,7 @@
 #include "ui/OutputWindow.h"
 #include "ui/OutputWindowDelegate.h"
 #include "ui/Panels.h"
+#include "ui/PasswordWindow.h"
 #include "ui/SelectTemplateWindowDelegate.h"
 #include "window-shots/ShotsProgram.h"
 
@@ -120,6 +121,15 @@ private:
         import.onCancelAction();
         waitUntil([&] { return !import.isImporting(); }, "the cancelled import");
         import.importFile(document("encrypted.pdf", "Report"));
+        PasswordWindow& question = import.passwordWindow();
+        waitUntil([&] { return question.isVisible(); }, "the question for the password");
+        question.txtPassword->setText(QStringLiteral("password"));
+        save(iProgram.pictureOfSheet(), "password");
+        import.onPasswordAction();
+        waitUntil([&] { return question.isVisible(); }, "the next question");
+        save(iProgram.pictureOfSheet(), "password-wrong");
+        import.onNoPasswordAction();
+        import.importFile(document("truncated.pdf", "Report"));
         waitUntil([&] { return !import.isImporting(); }, "the failed import");
         save(iProgram.pictureOfSheet(), "import-failed");
         import.onCancelAction();
