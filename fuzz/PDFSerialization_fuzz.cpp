@@ -26,7 +26,8 @@ constexpr void (*checks[])(const QByteArray&) = {check<int>,
                                                  check<std::vector<PDFOutlineNode>>,
                                                  check<std::vector<QString>>,
                                                  check<std::vector<PDFTextLine>>,
-                                                 check<PDFViewing>};
+                                                 check<PDFViewing>,
+                                                 check<std::vector<QSizeF>>};
 
 } // namespace
 

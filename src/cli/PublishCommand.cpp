@@ -36,6 +36,11 @@ using Type = PublishOptions::Type;
 constexpr int importDPI = 144;
 constexpr int interruptPollMilliseconds = 25;
 
+bool isRightToLeft(const FlashTemplate& tmpl) {
+    return StringUtil::valueAsBool(
+        tmpl.propertyValueFor(QStringLiteral("RightToLeft"), QStringLiteral("NO")));
+}
+
 // What the document asks for goes before what the user does.
 std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options, bool isRightToLeft) {
     auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
@@ -245,10 +250,16 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
     OpenedPDF opened = openDocument(options);
     const auto document = opened.document;
     const auto tmpl = prepareTemplate(options, document->isRightToLeft());
-    const PageSelection pages = selectPages(options.pages, document->pageCount());
+    PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
-    const auto openPages = WebBookOptions::openPages(options, pages.range, document->pageCount());
+    auto openPages = WebBookOptions::openPages(options, pages.range, document->pageCount());
+    if (const auto split = SplitPDF::of(document, options.spreads, isRightToLeft(*tmpl))) {
+        opened.document = split;
+        pages.range = split->range(pages.range);
+        if (openPages)
+            openPages = split->runs(*openPages);
+    }
     // Until here a signal ends the program at once, unless there is a report to write: there is
     // nothing to clean up.
     Interrupt::watch();

@@ -2,6 +2,7 @@
 
 #include "cli/PasswordOptions.h"
 #include "drawing/SpareWorkers.h"
+#include "pdf/SplitPDF.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,6 +17,7 @@ struct PublishOptions {
     QString name;  // null: "index" for a page, the PDF's name for an application
     QString title; // null: the document's own title, or else its file name
     QString pages = QStringLiteral("ALL");
+    Spreads spreads = Spreads::automatic;
     bool singleFile = false; // web books only
     QString previewPages;    // web books only; null: all pages are included
     QString url;             // web books only: where the book will be; null: unknown

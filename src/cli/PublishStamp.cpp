@@ -59,9 +59,12 @@ void addProperties(Digest& to, const FlashTemplate::Properties& properties,
 }
 
 // What the files of the pages depend on.
-QByteArray digestOfPages(const PublishOptions& options, const QByteArray& document) {
+QByteArray digestOfPages(const PublishOptions& options, const FlashTemplate& tmpl,
+                         const QByteArray& document) {
     Digest digest;
-    digest << Bundle::version() << document << int(options.type) << options.quality;
+    digest << Bundle::version() << document << int(options.type) << options.quality
+           << int(options.spreads)
+           << tmpl.propertyValueFor(QStringLiteral("RightToLeft"), QStringLiteral("NO"));
     return digest.result();
 }
 
@@ -86,7 +89,7 @@ PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& t
     iWanted.document = BookStamp::documentAt(options.pdf, iEarlier);
     if (iWanted.document.digest.isEmpty())
         return;
-    iWanted.pages = digestOfPages(options, iWanted.document.digest);
+    iWanted.pages = digestOfPages(options, tmpl, iWanted.document.digest);
     iWanted.book = digestOfBook(options, tmpl, iWanted.pages);
 }
 

@@ -83,6 +83,10 @@ void addRunOptions(CLI::App& command, PublishOptions& options) {
         ->type_name("FILE");
 }
 
+Spreads spreadsNamed(const std::string& name) {
+    return name == "keep" ? Spreads::keep : name == "split" ? Spreads::split : Spreads::automatic;
+}
+
 void addPublish(CLI::App& app, PublishOptions& options) {
     auto* command =
         app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
@@ -109,6 +113,15 @@ void addPublish(CLI::App& app, PublishOptions& options) {
     addText(*command, "--pages", options.pages, "Pages to include, for example 1-3,7 or ALL")
         ->type_name("PAGES")
         ->default_str("ALL");
+    command
+        ->add_option_function<std::string>(
+            "--spreads",
+            [&options](const std::string& name) { options.spreads = spreadsNamed(name); },
+            "Double pages: auto makes two of each page twice as wide as the first one,\n"
+            "split of each landscape page, keep leaves all as they are")
+        ->check(CLI::IsMember({"auto", "split", "keep"}))
+        ->type_name("HOW")
+        ->default_str("auto");
     command->add_flag("--single-file", options.singleFile,
                       "Put all of a web book into its HTML page, for mail and USB sticks");
     addText(*command, "--preview-pages", options.previewPages,

@@ -22,20 +22,21 @@ PageMaker::PageMaker(const DrawablePDF& document, QString folder, int quality)
       iFactor(compressionFactor(quality)),
       iWebPageMaker(iEncoder, iFactor) {}
 
-MadePage PageMaker::make(int page, PageFiles wanted, const DrawControl& control) {
-    const WebPageFiles files(iFolder, page);
+MadePage PageMaker::make(const PageOrder& order, const DrawControl& control) {
+    const WebPageFiles files(iFolder, order.page);
     MadePage made;
     Stopwatch watch;
-    const DrawablePage drawn(iDocument, page - 1, control,
-                             wanted == PageFiles::classic ? DrawablePage::Content::pictures
-                                                          : DrawablePage::Content::picturesAndText);
-    if (wanted == PageFiles::text) {
+    const DrawablePage drawn(iDocument, order.cut, control,
+                             order.wanted == PageFiles::classic
+                                 ? DrawablePage::Content::pictures
+                                 : DrawablePage::Content::picturesAndText);
+    if (order.wanted == PageFiles::text) {
         iWebPageMaker.makeText(drawn, files, made.timing);
         return made;
     }
     drawn.draw(pixelsPerPoint, iBitmap);
     made.timing.draw = watch.lap();
-    if (wanted == PageFiles::classic) {
+    if (order.wanted == PageFiles::classic) {
         makePageFile(files.pageFile, made.timing);
         return made;
     }

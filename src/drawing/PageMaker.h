@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
+#include "drawing/PageOrder.h"
 #include "drawing/PageTiming.h"
 #include "drawing/WebPageFiles.h"
 #include "drawing/WebPageMaker.h"
@@ -24,10 +25,10 @@ public:
     // quality is 0 to 100.
     PageMaker(const DrawablePDF& document, QString folder, int quality);
 
-    // Makes the page file of a one-based page number, at twice its size in points, or what a web
-    // book has of the page. Each file is written atomically. Throws PlatformException when there is
-    // no picture of the page, and pageWrite when the folder can't be written.
-    MadePage make(int page, PageFiles wanted, const DrawControl& control = {});
+    // Makes the page file, at twice the page's size in points, or what a web book has of the page.
+    // Each file is written atomically. Throws PlatformException when there is no picture of the
+    // page, and pageWrite when the folder can't be written.
+    MadePage make(const PageOrder& order, const DrawControl& control = {});
 
 private:
     void makePageFile(const QString& path, PageTiming& timing);

@@ -35,10 +35,6 @@ Message crashReason() {
 
 constexpr Log logger("PageWorkers");
 
-const char* wordFor(PageFiles files) {
-    return files == PageFiles::web ? " web" : files == PageFiles::text ? " text" : "";
-}
-
 // Workers report in English: one of our own reasons, or a file's path and the system's error text.
 Message reasonFrom(const QByteArray& words) {
     const qsizetype colon = words.lastIndexOf(": ");
@@ -134,7 +130,7 @@ void PageWorkers::feed(Worker& worker) {
         worker.pages.push_back(iWaiting.front());
         iWaiting.pop_front();
         const int page = worker.pages.back();
-        if (!worker.process->writeLine(QByteArray::number(page) + wordFor(iFilesOf(page))))
+        if (!worker.process->writeLine(PageOrder{page, iCutOf(page), iFilesOf(page)}.line()))
             return; // a failure shows when reading
     }
 }

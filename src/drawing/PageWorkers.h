@@ -47,6 +47,9 @@ public:
     // How many processes draw; usualWorkerCount() by default.
     void setJobs(int jobs) { iJobs = jobs; }
 
+    // What a page shows of the document; by default all of its page of that number.
+    void setCutOf(std::function<PageCut(int page)> cutOf) { iCutOf = std::move(cutOf); }
+
     // Workers that are already running, to be used first; none by default.
     void setSpares(std::shared_ptr<SpareWorkers> spares) { iSpares = std::move(spares); }
 
@@ -97,6 +100,7 @@ private:
     QString iFolder;
     int iQuality;
     FilesOfPages iFilesOf = classicFiles;
+    std::function<PageCut(int page)> iCutOf = [](int page) { return PageCut(page - 1); };
     std::deque<int> iWaiting; // not yet sent to a worker, ascending
     int iAwaited = 0;         // the page being waited for
     const std::atomic<bool>& iStop;

@@ -9,12 +9,14 @@
 #include <utility>
 
 FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi,
-                                       int quality, OpenedPDF opened, std::function<bool()> stopped)
+                                       int quality, OpenedPDF opened, std::function<bool()> stopped,
+                                       const SpreadChoice& spreads)
     : iPageRange(pageRange), iDPI(dpi), iQuality(quality) {
     setSourceFile(pdfPath);
     try {
         opened.open(sourceFile(), std::move(stopped));
         iPDFDoc = opened.document;
+        splitSpreads(spreads);
     } catch (const PlatformException& failure) {
         iOpenError = failure;
         Log("FlashPageSourcePDF").warn(failure.reason());
@@ -23,6 +25,16 @@ FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pa
     iToPageConverter->setJobs(opened.jobs);
     iToPageConverter->setSpareWorkers(std::move(opened.workers));
     iNeedToImportPages = parsePageRange(iPageRange, iPDFDoc ? iPDFDoc->pageCount() : 0);
+}
+
+void FlashPageSourcePDF::splitSpreads(const SpreadChoice& choice) {
+    if (choice.spreads == Spreads::keep)
+        return;
+    const bool rightToLeft = choice.rightToLeft ? *choice.rightToLeft : iPDFDoc->isRightToLeft();
+    if (const auto split = SplitPDF::of(iPDFDoc, choice.spreads, rightToLeft)) {
+        iPageRange = split->range(iPageRange);
+        iPDFDoc = split;
+    }
 }
 
 void FlashPageSourcePDF::postProgress(std::size_t step, const char* type) const {

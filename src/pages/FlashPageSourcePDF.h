@@ -4,6 +4,7 @@
 #include "drawing/SpareWorkers.h"
 #include "pages/FlashPageSource.h"
 #include "pages/PDFToSWFPageConverter.h"
+#include "pdf/SplitPDF.h"
 
 #include <QString>
 #include <functional>
@@ -18,6 +19,12 @@ inline constexpr char16_t ImportProgressInfoMSG[] = u"ImportProgressInfoMSG";
 // Kept for existing listeners; the end of an import is reported by its operation instead.
 inline constexpr char16_t ImportPDFDidFinish[] = u"ImportPDFDidFinish";
 
+// Which double pages become two, and in which order.
+struct SpreadChoice {
+    Spreads spreads = Spreads::keep;
+    std::optional<bool> rightToLeft = {}; // none: as the document says
+};
+
 // The selected pages of a PDF. Its page files are deleted with it.
 class FlashPageSourcePDF : public FlashPageSource {
 public:
@@ -26,7 +33,11 @@ public:
     // already open; otherwise stopped is polled while reading and cancels it. Throws
     // PlatformException for a page range that is too long.
     FlashPageSourcePDF(const QString& pdfPath, const QString& pageRange, int dpi, int quality,
-                       OpenedPDF opened = {}, std::function<bool()> stopped = {});
+                       OpenedPDF opened = {}, std::function<bool()> stopped = {},
+                       const SpreadChoice& spreads = {});
+
+    // That of the pages, whose numbers are not those of a document with double pages.
+    const QString& pageRange() const { return iPageRange; }
 
     const std::shared_ptr<PDFToSWFPageConverter>& toPageConverter() const {
         return iToPageConverter;
@@ -57,6 +68,7 @@ public:
     const std::optional<PlatformException>& openError() const { return iOpenError; }
 
 private:
+    void splitSpreads(const SpreadChoice& choice);
     WebPageFiles filesOf(int page) const;
     void postProgress(std::size_t step, const char* type) const;
 

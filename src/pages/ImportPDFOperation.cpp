@@ -111,7 +111,8 @@ void ImportPDFOperation::importPages() {
     try {
         const auto source = std::make_shared<FlashPageSourcePDF>(
             iPDFPath, iPageRange, iDPI, iQuality, std::exchange(iDocument, {}),
-            [stopped = iStopReading] { return stopped->load(); });
+            [stopped = iStopReading] { return stopped->load(); }, iSpreads);
+        iPageRange = source->pageRange();
         Book book;
         book.pageSource = source;
         book.converter = source->toPageConverter();

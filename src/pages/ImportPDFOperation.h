@@ -30,6 +30,9 @@ public:
     // For pages whose files were made before; none by default.
     void setTakeEarlierPage(TakeEarlierPage take) { iTakeEarlierPage = std::move(take); }
 
+    // Which double pages become two; by default none.
+    void setSpreads(const SpreadChoice& spreads) { iSpreads = spreads; }
+
     // The document's password, and the document itself, if the caller has already opened it and
     // does not use it until the import is finished. By default the import opens the file.
     void setDocument(OpenedPDF document) { iDocument = std::move(document); }
@@ -66,6 +69,7 @@ private:
     OpenedPDF iDocument;
     FilesOfPages iFilesOf = classicFiles;
     TakeEarlierPage iTakeEarlierPage;
+    SpreadChoice iSpreads;
     // Shared, since the document may outlive the operation.
     std::shared_ptr<std::atomic<bool>> iStopReading = std::make_shared<std::atomic<bool>>(false);
     std::mutex iMutex; // guards the page source, which cancel() reaches from another thread

@@ -45,6 +45,7 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     iWorkers->setJobs(iJobs);
     iWorkers->setSpares(std::exchange(iSpares, nullptr));
     iWorkers->setFilesOf(iFilesOf);
+    iWorkers->setCutOf([document = PDFDoc()](int page) { return document->cut(page - 1); });
     if (!iWorkers->start())
         iWorkers.reset();
     iWorkerCount = iWorkers ? iWorkers->workerCount() : 0;
@@ -122,7 +123,6 @@ void PDFToSWFPageConverter::makePage(int page) {
 }
 
 PageResult PDFToSWFPageConverter::drawInProcess(int page) {
-    const PageFiles wanted = iFilesOf(page);
     try {
         if (!iPDFRep) {
             iOwnDocument =
@@ -130,7 +130,9 @@ PageResult PDFToSWFPageConverter::drawInProcess(int page) {
                                               PDFDoc() ? PDFDoc()->password() : QByteArray());
             iPDFRep = std::make_unique<PageMaker>(*iOwnDocument, converterWorkFolder(), quality());
         }
-        return {{}, iPDFRep->make(page, wanted, {iStop, PDFLimits::maxPageTime})};
+        return {{},
+                iPDFRep->make({page, PDFDoc()->cut(page - 1), iFilesOf(page)},
+                              {iStop, PDFLimits::maxPageTime})};
     } catch (const PlatformException& failure) {
         Log("PDFToSWFPageConverter").warn(failure.reason());
         return {failure.message(), {}, failure.kind() == ErrorKind::pageWrite};

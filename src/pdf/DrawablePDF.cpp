@@ -4,6 +4,8 @@
 #include "pdf/PDFEngine.h"
 #include "pdf/PDFLimits.h"
 
+#include <QScopeGuard>
+
 namespace {
 
 // MuPDF returns an inverted rectangle for a missing one, which becomes all zeros.
@@ -51,7 +53,10 @@ PDFAnnotation annotationFrom(const PDFEngine& engine, pdf_obj* object) {
         annotation.url = engine.text(engine.entry(action, "URI"));
     if (annotation.url.size() == PDFLimits::maxTextLength)
         annotation.url = QString(); // a truncated address would lead somewhere else
-    annotation.destinationPage = engine.targetPage(object);
+    if (const auto target = engine.target(object)) {
+        annotation.destinationPage = target->page;
+        annotation.destinationAcross = target->across;
+    }
     return annotation;
 }
 
@@ -66,6 +71,28 @@ DrawablePDF::~DrawablePDF() = default;
 
 int DrawablePDF::pageCount() const {
     return iEngine->pageCount;
+}
+
+std::vector<QSizeF> DrawablePDF::pageSizes() const {
+    // Otherwise MuPDF searches the tree for each page.
+    const auto loaded = [this](fz_context* ctx) {
+        pdf_load_page_tree(ctx, iEngine->document);
+        return true;
+    };
+    const bool isTreeLoaded = iEngine->get(loaded, false);
+    const auto drop = qScopeGuard([&] {
+        if (isTreeLoaded)
+            pdf_drop_page_tree(iEngine->context, iEngine->document);
+    });
+    std::vector<QSizeF> sizes;
+    for (int index = 0; index < pageCount(); ++index) {
+        try {
+            sizes.push_back(displaySizeOf(*iEngine, iEngine->pageObject(index)));
+        } catch (const PlatformException&) {
+            sizes.emplace_back();
+        }
+    }
+    return sizes;
 }
 
 PDFPage DrawablePDF::page(int index) const {
@@ -111,7 +138,8 @@ PDFViewing DrawablePDF::viewing() const {
     viewing.rightToLeft =
         iEngine->name(iEngine->entry(preferences, "Direction")) == QStringLiteral("R2L");
     viewing.pageMode = iEngine->name(iEngine->entry(root, "PageMode"));
-    viewing.openPage = iEngine->openPage();
+    if (const auto target = iEngine->openTarget())
+        viewing.openPage = target->page;
     return viewing;
 }
 

@@ -21,6 +21,7 @@ public:
     ~DrawablePDF() override;
 
     int pageCount() const override;
+    std::vector<QSizeF> pageSizes() const override;
     PDFPage page(int index) const override;
     std::vector<PDFAnnotation> annotations(int index) const override;
     QString information(const char* key) const override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pdf/PDFText.h"
+#include "pdf/PageCut.h"
 #include "picture/PageBitmap.h"
 
 #include <QByteArray>
@@ -24,15 +25,15 @@ struct PageDetail {
     double imageScale = 0;    // of the finest image, in pixels per point; 0 without images
 };
 
-// A page that was interpreted once, into a display list from which any number of pictures can be
-// made. The time limit is for all of them together. The document must outlive it. Every function
-// throws PlatformException: pageUnreadable, pageTimeout or pageStopped.
+// A page, or a half of one, that was interpreted once, into a display list from which any number of
+// pictures can be made. The time limit is for all of them together. The document must outlive it.
+// Every function throws PlatformException: pageUnreadable, pageTimeout or pageStopped.
 class DrawablePage {
 public:
     enum class Content { pictures, picturesAndText };
 
-    // The page at a zero-based index. Throws also pageMissing.
-    DrawablePage(const DrawablePDF& document, int index, const DrawControl& control = {},
+    // Throws also pageMissing.
+    DrawablePage(const DrawablePDF& document, PageCut cut, const DrawControl& control = {},
                  Content content = Content::pictures);
     ~DrawablePage();
     DrawablePage(const DrawablePage&) = delete;

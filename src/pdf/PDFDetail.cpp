@@ -59,7 +59,8 @@ void findMask(fz_context* /*ctx*/, fz_device* device, fz_rect /*area*/, int /*lu
     detailOf(device).hasShades = true;
 }
 
-PageDetail findDetail(fz_context* ctx, fz_display_list* list, fz_cookie* cookie) {
+PageDetail findDetail(fz_context* ctx, fz_display_list* list, const fz_rect& area,
+                      fz_cookie* cookie) {
     auto* finder = fz_new_derived_device(ctx, DetailFinder);
     finder->super.fill_text = findText;
     finder->super.stroke_path = findStroke;
@@ -70,7 +71,7 @@ PageDetail findDetail(fz_context* ctx, fz_display_list* list, fz_cookie* cookie)
     finder->super.begin_mask = findMask;
     PageDetail found;
     const auto find = [&] {
-        fz_run_display_list(ctx, list, &finder->super, fz_identity, fz_infinite_rect, cookie);
+        fz_run_display_list(ctx, list, &finder->super, fz_identity, area, cookie);
         fz_close_device(ctx, &finder->super);
         found = finder->detail;
     };
@@ -84,7 +85,7 @@ PageDetail DrawablePage::detail() const {
     Recording& page = *iRecording;
     PageDetail found;
     page.engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
-        found = findDetail(ctx, page.list, page.watch.cookie());
+        found = findDetail(ctx, page.list, page.area(), page.watch.cookie());
     });
     page.watch.throwIfEnded();
     return found;

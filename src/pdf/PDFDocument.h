@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pdf/PDFPage.h"
+#include "pdf/PageCut.h"
 #include "system/FileState.h"
 
 #include <QByteArray>
@@ -14,6 +15,8 @@ struct PDFOutlineNode {
     // Zero-based index of the target page, or -1 when the entry leads to no page of this document.
     int destinationPage = -1;
     std::vector<PDFOutlineNode> children;
+    // Where on the target page, see PDFAnnotation.
+    double destinationAcross = -1;
 };
 
 // What can be read from a PDF, in this process (DrawablePDF) or by another one (PDFReader). Queries
@@ -31,11 +34,17 @@ public:
     // Throws PlatformException (pdfChanged) when the file was replaced or written since it was
     // opened: what was read and drawn may then come from two different documents. The reason is
     // temporary, see Message.
-    void checkUnchanged() const;
+    virtual void checkUnchanged() const;
 
     virtual int pageCount() const = 0;
     // Throws PlatformException (pageMissing) unless there is a page at that zero-based index.
     void requirePage(int index) const;
+
+    // What the page at a zero-based index shows of the file.
+    virtual PageCut cut(int index) const { return index; }
+
+    // The sizes of all pages as displayed, in points; empty ones for pages that can't be read.
+    virtual std::vector<QSizeF> pageSizes() const = 0;
 
     // The page at a zero-based index, and its annotations. Throw pageUnreadable, too.
     virtual PDFPage page(int index) const = 0;

@@ -92,14 +92,14 @@ void drawList(fz_context* ctx, fz_display_list* list, bool skipsGroup, const fz_
 
 } // namespace
 
-DrawablePage::DrawablePage(const DrawablePDF& document, int index, const DrawControl& control,
+DrawablePage::DrawablePage(const DrawablePDF& document, PageCut cut, const DrawControl& control,
                            Content content)
     : iRecording(std::make_unique<Recording>(document.engine(), control)) {
     Recording& recording = *iRecording;
-    document.requirePage(index);
-    pdf_obj* object = recording.engine.pageObject(index);
+    document.requirePage(cut.index);
+    pdf_obj* object = recording.engine.pageObject(cut.index);
     recording.engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
-        recording.load(ctx, index, object, content);
+        recording.load(ctx, cut, object, content);
         recording.record(ctx);
     });
     recording.watch.throwIfEnded();

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <fcntl.h>
 #include <malloc.h>
@@ -166,13 +167,14 @@ int PDFEngine::countPages() const {
         0);
 }
 
-std::optional<int> PDFEngine::destinationPage(pdf_obj* destination) const {
+std::optional<PDFTarget> PDFEngine::destinationTarget(pdf_obj* destination) const {
     const QByteArray called = nameOfDestination(destination);
-    const auto known = namedPages.find(called);
-    const int page = known == namedPages.end() ? lookUpDestination(destination) : known->second;
+    const auto known = namedTargets.find(called);
+    const PDFTarget target =
+        known == namedTargets.end() ? lookUpDestination(destination) : known->second;
     if (!called.isEmpty())
-        namedPages.emplace(called, page);
-    return page >= 0 && page < pageCount ? std::optional(page) : std::nullopt;
+        namedTargets.emplace(called, target);
+    return target.page >= 0 && target.page < pageCount ? std::optional(target) : std::nullopt;
 }
 
 QByteArray PDFEngine::nameOfDestination(pdf_obj* destination) const {
@@ -189,8 +191,8 @@ QByteArray PDFEngine::nameOfDestination(pdf_obj* destination) const {
     return *word ? '/' + QByteArray(word) : QByteArray();
 }
 
-int PDFEngine::lookUpDestination(pdf_obj* destination) const {
-    return pageNumber(object([&](fz_context* ctx) {
+PDFTarget PDFEngine::lookUpDestination(pdf_obj* destination) const {
+    pdf_obj* explicitDestination = object([&](fz_context* ctx) {
         pdf_obj* target = destination;
         // MuPDF does not search the name tree of a document that also has the older dictionary of
         // names.
@@ -200,8 +202,33 @@ int PDFEngine::lookUpDestination(pdf_obj* destination) const {
             target = pdf_lookup_dest(ctx, document, destination);
         if (pdf_is_dict(ctx, target))
             target = pdf_dict_get(ctx, target, PDF_NAME(D));
-        return pdf_array_get(ctx, target, 0);
-    }));
+        return target;
+    });
+    pdf_obj* page =
+        object([&](fz_context* ctx) { return pdf_array_get(ctx, explicitDestination, 0); });
+    return {pageNumber(page), placeAcross(explicitDestination)};
+}
+
+double PDFEngine::placeAcross(pdf_obj* explicitDestination) const {
+    const double across = get(
+        [&](fz_context* ctx) {
+            pdf_obj* page = pdf_array_get(ctx, explicitDestination, 0);
+            pdf_obj* left = pdf_array_get(ctx, explicitDestination, 2);
+            pdf_obj* top = pdf_array_get(ctx, explicitDestination, 3);
+            pdf_obj* kind = pdf_array_get(ctx, explicitDestination, 1);
+            if (!pdf_name_eq(ctx, kind, PDF_NAME(XYZ)) || !pdf_is_number(ctx, left) ||
+                !pdf_is_number(ctx, top) || !pdf_is_dict(ctx, page))
+                return -1.0;
+            fz_rect box;
+            fz_matrix matrix;
+            pdf_page_obj_transform(ctx, page, &box, &matrix);
+            const fz_rect shown = fz_transform_rect(box, matrix);
+            const fz_point place =
+                fz_transform_point_xy(pdf_to_real(ctx, left), pdf_to_real(ctx, top), matrix);
+            return (double(place.x) - shown.x0) / (double(shown.x1) - shown.x0);
+        },
+        -1.0);
+    return std::isfinite(across) ? across : -1;
 }
 
 int PDFEngine::pageNumber(pdf_obj* page) const {
@@ -219,20 +246,20 @@ int PDFEngine::pageNumber(pdf_obj* page) const {
     return number;
 }
 
-std::optional<int> PDFEngine::targetPage(pdf_obj* dictionary) const {
+std::optional<PDFTarget> PDFEngine::target(pdf_obj* dictionary) const {
     if (pdf_obj* destination = entry(dictionary, "Dest"))
-        return destinationPage(destination);
-    return actionPage(entry(dictionary, "A"));
+        return destinationTarget(destination);
+    return actionTarget(entry(dictionary, "A"));
 }
 
-std::optional<int> PDFEngine::actionPage(pdf_obj* action) const {
+std::optional<PDFTarget> PDFEngine::actionTarget(pdf_obj* action) const {
     if (action && name(entry(action, "S")) == QStringLiteral("GoTo"))
-        return destinationPage(entry(action, "D"));
+        return destinationTarget(entry(action, "D"));
     return std::nullopt;
 }
 
-std::optional<int> PDFEngine::openPage() const {
+std::optional<PDFTarget> PDFEngine::openTarget() const {
     pdf_obj* open = entry(trailerEntry("Root"), "OpenAction");
     const bool isAction = get([&](fz_context* ctx) { return pdf_is_dict(ctx, open); }, 0) != 0;
-    return isAction || !open ? actionPage(open) : destinationPage(open);
+    return isAction || !open ? actionTarget(open) : destinationTarget(open);
 }

@@ -24,6 +24,12 @@ void runAndDrop(fz_context* ctx, Body body, Drop drop) {
     }
 }
 
+// Where a link or an outline entry leads.
+struct PDFTarget {
+    int page = -1;      // zero-based
+    double across = -1; // see PDFAnnotation::destinationAcross
+};
+
 // The open file behind a DrawablePDF, shared by the sources of this folder that call MuPDF.
 //
 // MuPDF reports errors with longjmp(), which skips C++ destructors. So its calls are made in small
@@ -85,11 +91,11 @@ public:
     QString text(pdf_obj* string) const;
     QString name(pdf_obj* name) const;
 
-    // The zero-based target page of an annotation or outline entry: that of its "Dest", or of its
-    // go-to action.
-    std::optional<int> targetPage(pdf_obj* dictionary) const;
+    // The target of an annotation or outline entry: that of its "Dest", or of its go-to action.
+    // None when that is no page of the document.
+    std::optional<PDFTarget> target(pdf_obj* dictionary) const;
     // The same of the catalog's "OpenAction", an action or a destination.
-    std::optional<int> openPage() const;
+    std::optional<PDFTarget> openTarget() const;
 
     std::size_t allocated = 0; // bytes allocated by MuPDF
     fz_context* context = nullptr;
@@ -107,15 +113,16 @@ private:
     // The document's page count, but no more than it has objects.
     int countPages() const;
 
-    // The target page of a go-to action.
-    std::optional<int> actionPage(pdf_obj* action) const;
-    // The page of an explicit or named destination.
-    std::optional<int> destinationPage(pdf_obj* destination) const;
+    // The target of a go-to action.
+    std::optional<PDFTarget> actionTarget(pdf_obj* action) const;
+    // That of an explicit or named destination.
+    std::optional<PDFTarget> destinationTarget(pdf_obj* destination) const;
     // The name of a destination, with a prefix that distinguishes the two kinds of names; empty for
     // an explicit destination.
     QByteArray nameOfDestination(pdf_obj* destination) const;
-    // Resolves a destination of any kind without the cache of names; -1 when it leads to no page.
-    int lookUpDestination(pdf_obj* destination) const;
+    // Resolves a destination of any kind without the cache of names.
+    PDFTarget lookUpDestination(pdf_obj* destination) const;
+    double placeAcross(pdf_obj* explicitDestination) const;
     // Zero-based number of the page that an array begins with, as a reference or a number; -1
     // otherwise.
     int pageNumber(pdf_obj* page) const;
@@ -123,5 +130,5 @@ private:
     // Caches of page numbers by object number and by name. MuPDF searches all pages for each
     // lookup, and all names for a missing one.
     mutable std::unordered_map<int, int> pageNumbers;
-    mutable std::map<QByteArray, int> namedPages;
+    mutable std::map<QByteArray, PDFTarget> namedTargets;
 };

@@ -23,7 +23,9 @@ std::vector<PDFOutlineNode> outlineLevel(const PDFEngine& engine, pdf_obj* first
             break;
         PDFOutlineNode node;
         node.label = engine.text(engine.entry(dictionary, "Title"));
-        node.destinationPage = engine.targetPage(dictionary).value_or(-1);
+        const PDFTarget target = engine.target(dictionary).value_or(PDFTarget());
+        node.destinationPage = target.page;
+        node.destinationAcross = target.across;
         node.children = outlineLevel(engine, engine.entry(dictionary, "First"), depth + 1, seen);
         nodes.push_back(std::move(node));
     }

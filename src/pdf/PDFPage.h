@@ -13,6 +13,9 @@ struct PDFAnnotation {
     QRectF bounds; // points in page space: x() and y() are the lower left corner
     QString url;   // null when the annotation has no URI action
     std::optional<int> destinationPage; // zero-based; none when it leads to no page
+    // Where on that page, from its left edge (0) to its right one (1) as displayed; -1 when
+    // unknown.
+    double destinationAcross = -1;
 };
 
 // How a document asks to be shown.

@@ -108,6 +108,10 @@ bool PDFReader::start() {
     }
 }
 
+std::vector<QSizeF> PDFReader::pageSizes() const {
+    return PDFSerialization::unpack<std::vector<QSizeF>>(ask("sizes"));
+}
+
 PDFPage PDFReader::page(int index) const {
     requirePage(index);
     return PDFSerialization::unpack<PDFPage>(ask("page " + QByteArray::number(index)));

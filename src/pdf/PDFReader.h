@@ -34,6 +34,7 @@ public:
     bool start();
 
     int pageCount() const override { return iPageCount; }
+    std::vector<QSizeF> pageSizes() const override;
     PDFPage page(int index) const override;
     std::vector<PDFAnnotation> annotations(int index) const override;
     QString information(const char* key) const override;

@@ -100,11 +100,17 @@ DrawablePage::Recording::~Recording() {
     fz_drop_page(engine.context, page);
 }
 
-void DrawablePage::Recording::load(fz_context* ctx, int index, pdf_obj* object, Content content) {
+void DrawablePage::Recording::load(fz_context* ctx, PageCut cut, pdf_obj* object, Content content) {
     if (engine.mapping)
         dropLinks(ctx, object);
-    page = fz_load_page(ctx, &engine.document->super, index);
+    page = fz_load_page(ctx, &engine.document->super, cut.index);
     bounds = fz_bound_page(ctx, page);
+    isHalf = cut.part != PageCut::Part::whole;
+    const float middle = (bounds.x0 + bounds.x1) / 2;
+    if (cut.part == PageCut::Part::left)
+        bounds.x1 = middle;
+    else if (cut.part == PageCut::Part::right)
+        bounds.x0 = middle;
     list = fz_new_display_list(ctx, bounds);
     if (content == Content::picturesAndText)
         text = fz_new_stext_page(ctx, bounds);

@@ -15,14 +15,18 @@ struct DrawablePage::Recording {
     Recording& operator=(const Recording&) = delete;
 
     // Interprets the page, once. Both functions raise MuPDF errors.
-    void load(fz_context* ctx, int index, pdf_obj* object, Content content);
+    void load(fz_context* ctx, PageCut cut, pdf_obj* object, Content content);
     void record(fz_context* ctx);
+
+    // What is looked at: all that a whole page has, even where it lies outside.
+    fz_rect area() const { return isHalf ? bounds : fz_infinite_rect; }
 
     const PDFEngine& engine;
     DrawTimeout watch;
     fz_page* page = nullptr;
     fz_display_list* list = nullptr;
-    fz_rect bounds = fz_empty_rect;
+    fz_rect bounds = fz_empty_rect; // of what is shown
+    bool isHalf = false;
     int isColour = 0;
     // The list begins with a group around the page's content that need not be drawn.
     bool hasPlainGroup = false;

@@ -24,12 +24,15 @@ void describe(Archive& archive, PDFViewing& viewing) {
 
 template <class Archive>
 void describe(Archive& archive, PDFAnnotation& annotation) {
-    archive(annotation.type, annotation.bounds, annotation.url, annotation.destinationPage);
+    archive(annotation.type, annotation.bounds, annotation.url, annotation.destinationPage,
+            annotation.destinationAcross);
+    archive.require(std::isfinite(annotation.destinationAcross));
 }
 
 template <class Archive>
 void describe(Archive& archive, PDFOutlineNode& node) {
-    archive(node.label, node.destinationPage, node.children);
+    archive(node.label, node.destinationPage, node.destinationAcross, node.children);
+    archive.require(std::isfinite(node.destinationAcross));
 }
 
 template <class Archive>
@@ -153,6 +156,7 @@ template QByteArray PDFSerialization::pack(const QString&);
 template QByteArray PDFSerialization::pack(const PDFPage&);
 template QByteArray PDFSerialization::pack(const PDFViewing&);
 template QByteArray PDFSerialization::pack(const std::vector<QString>&);
+template QByteArray PDFSerialization::pack(const std::vector<QSizeF>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFOutlineNode>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFTextLine>&);
@@ -162,6 +166,7 @@ template QString PDFSerialization::unpack(const QByteArray&);
 template PDFPage PDFSerialization::unpack(const QByteArray&);
 template PDFViewing PDFSerialization::unpack(const QByteArray&);
 template std::vector<QString> PDFSerialization::unpack(const QByteArray&);
+template std::vector<QSizeF> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFAnnotation> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFOutlineNode> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFTextLine> PDFSerialization::unpack(const QByteArray&);

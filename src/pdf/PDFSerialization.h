@@ -7,7 +7,7 @@
 #include <QByteArray>
 
 // Serialises what one process reports to another about a document: an int, a QString, a PDFPage,
-// a PDFViewing, or a vector of QString, PDFAnnotation, PDFOutlineNode or PDFTextLine.
+// a PDFViewing, or a vector of QString, QSizeF, PDFAnnotation, PDFOutlineNode or PDFTextLine.
 namespace PDFSerialization {
 
 // An exception of the kind readerMalformedAnswer.

@@ -9,7 +9,6 @@
 #include <QByteArrayList>
 #include <QFile>
 #include <csignal>
-#include <cstdlib>
 #include <iostream>
 #include <malloc.h>
 #include <string>
@@ -42,12 +41,8 @@ void answer(const MadePage& made) {
 void servePages(PageMaker& maker) {
     const DrawControl control{nullptr, PDFLimits::maxPageTime};
     for (std::string line; std::getline(std::cin, line);) {
-        const int page = std::atoi(line.c_str());
-        const auto wanted = line.ends_with(" web")    ? PageFiles::web
-                            : line.ends_with(" text") ? PageFiles::text
-                                                      : PageFiles::classic;
         try {
-            answer(maker.make(page, wanted, control));
+            answer(maker.make(PageOrder::fromLine(QByteArray::fromStdString(line)), control));
         } catch (const PlatformException& failure) {
             answerFailure(failure.reason(), kindOf(failure));
         } catch (const std::bad_alloc&) {

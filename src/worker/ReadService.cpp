@@ -25,6 +25,8 @@ QByteArray answer(const PDFDocument& document, const QByteArray& question) {
     const QByteArray of = blank < 0 ? QByteArray() : question.mid(blank + 1);
     if (what == "page")
         return PDFSerialization::pack(document.page(of.toInt()));
+    if (what == "sizes")
+        return PDFSerialization::pack(document.pageSizes());
     if (what == "annotations")
         return PDFSerialization::pack(document.annotations(of.toInt()));
     if (what == "outline")

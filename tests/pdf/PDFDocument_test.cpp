@@ -34,14 +34,14 @@ private:
 const QSizeF pageSize(200, 100);
 constexpr char redCorner[] = "1 0 0 rg 0 0 100 50 re f";
 
-QImage draw(const DrawablePDF& document, int index, double scale = 1) {
+QImage draw(const DrawablePDF& document, PageCut cut, double scale = 1) {
     PageBitmap bitmap;
-    DrawablePage(document, index).draw(scale, bitmap);
+    DrawablePage(document, cut).draw(scale, bitmap);
     return imageOf(bitmap).copy();
 }
 
-QByteArray vectors(const DrawablePDF& document, int index) {
-    return NSDataExtension::zlibInflate(VectorEncoder().encode(DrawablePage(document, index)));
+QByteArray vectors(const DrawablePDF& document, PageCut cut) {
+    return NSDataExtension::zlibInflate(VectorEncoder().encode(DrawablePage(document, cut)));
 }
 
 } // namespace
@@ -112,6 +112,21 @@ TEST_F(PDFDocumentTest, DrawsPagesTheWayTheyAreTurned) {
         EXPECT_EQ(image.size(), size.toSize()) << rotate;
         EXPECT_TRUE(isNear(colourAt(image, red.x(), red.y()), Qt::red)) << rotate;
         EXPECT_TRUE(isNear(colourAt(image, 1 - red.x(), red.y()), Qt::white)) << rotate;
+    }
+}
+
+TEST_F(PDFDocumentTest, DrawsHalvesOfPagesAsTheyAreDisplayed) {
+    auto page = PDFBuilder::page({100, 200}, redCorner);
+    page.rotate = 90;
+    page.cropBox = QRectF(0, 0, 100, 180);
+    builder.addPage(page);
+    const auto document = open();
+    using Part = PageCut::Part;
+    for (const auto& [part, colour] : {std::pair{Part::left, Qt::red}, {Part::right, Qt::white}}) {
+        const QImage image = draw(*document, {0, part});
+        EXPECT_EQ(image.size(), QSize(90, 100));
+        EXPECT_TRUE(isNear(colourAt(image, 0.5, 0.5), colour));
+        EXPECT_EQ(vectors(*document, {0, part}).contains("<path"), part == Part::left);
     }
 }
 

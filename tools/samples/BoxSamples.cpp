@@ -127,11 +127,47 @@ QByteArray huge() {
     return pdf.build();
 }
 
+// A cover, two double pages, one of them turned, and a last page.
+QByteArray spreads() {
+    PDFBuilder pdf;
+    const auto half = [](double x, const QColor& color, const QByteArray& words) {
+        return PDFContent::fillColor(color) + PDFContent::fillRect({x, 0, 300, 400}) +
+               PDFContent::fillColor(Qt::black) + PDFContent::text("R", 24, {x + 40, 320}, words);
+    };
+    const auto add = [&pdf](const QSizeF& size, int rotation, const QByteArray& content,
+                            std::vector<QByteArray> annotations = {}) {
+        PDFBuilder::Page page = PDFBuilder::page(size, content, std::move(annotations));
+        page.rotate = rotation;
+        page.fonts = kFonts;
+        pdf.addPage(page);
+    };
+    const auto to = [&pdf](int page, double left, double top) {
+        return PDFBuilder::toDestination(pdf.destination(page, left, top));
+    };
+    const QColor red(255, 230, 225);
+    const QColor blue(225, 235, 255);
+    add({300, 400}, 0, half(0, Qt::white, "Cover"),
+        {PDFBuilder::link({40, 310, 80, 30}, to(1, 340, 344))});
+    add({600, 400}, 0, half(0, red, "Two") + half(300, blue, "Three"),
+        {PDFBuilder::link({340, 310, 80, 30}, to(3, 0, 400)),
+         PDFBuilder::link({200, 20, 200, 30}, PDFBuilder::toURL("https://www.example.org/"))});
+    add({400, 600}, 90, "0 1 -1 0 400 0 cm\n" + half(0, red, "Four") + half(300, blue, "Five"),
+        {PDFBuilder::link({60, 40, 30, 80}, to(2, 56, 340))});
+    add({300, 400}, 0, half(0, Qt::white, "Six"));
+    int first = 0;
+    for (const char* label : {"Cover", "2-3", "4-5", "6"})
+        pdf.setPageLabels(first++, QByteArray("/P (") + label + ")");
+    pdf.setOutline({{QStringLiteral("Two and three"), to(1, 0, 400), {}},
+                    {QStringLiteral("Five"), to(2, 56, 340), {}}});
+    return pdf.build();
+}
+
 } // namespace
 
 std::vector<Sample> boxSamples() {
     return {{"rotated.pdf", rotated},
             {"cropped.pdf", cropped},
             {"mixed-sizes.pdf", mixedSizes},
-            {"huge.pdf", huge}};
+            {"huge.pdf", huge},
+            {"spreads.pdf", spreads}};
 }
