@@ -308,6 +308,23 @@
         <source>Pages to import</source>
         <translation>Zu importierende Seiten</translation>
     </message>
+    <message>
+        <source>Split where found</source>
+        <extracomment>What becomes of pages that show two pages of a printed book side by side.</extracomment>
+        <translation>Teilen, wo gefunden</translation>
+    </message>
+    <message>
+        <source>Split all landscape pages</source>
+        <translation>Alle Querformate teilen</translation>
+    </message>
+    <message>
+        <source>Keep whole</source>
+        <translation>Ganz lassen</translation>
+    </message>
+    <message>
+        <source>&amp;Double pages:</source>
+        <translation>D&amp;oppelseiten:</translation>
+    </message>
 </context>
 <context>
     <name>ImportWindowDelegate</name>

@@ -16,11 +16,10 @@
 ImportWindow::ImportWindow(QWidget* parent)
     : Sheet(tr("Import a PDF"), parent), btnOK(new QPushButton(tr("&Import"))) {
     makeFileField();
-    importQuality = new QComboBox;
-    // The default delegate ignores style sheets.
-    importQuality->setItemDelegate(new QStyledItemDelegate(importQuality));
+    //: What becomes of pages that show two pages of a printed book side by side.
+    spreads = choice({tr("Split where found"), tr("Split all landscape pages"), tr("Keep whole")});
     //: The quality of the pictures of the pages, from the best to the worst.
-    importQuality->addItems(
+    importQuality = choice(
         {tr("Best, for zooming in"), tr("High"), tr("Medium"), tr("Low"), tr("Smallest files")});
     btnImportLinks = new QCheckBox(tr("Import &links"));
     btnImportBookMark = new QCheckBox(tr("Import &bookmarks as contents"));
@@ -35,6 +34,7 @@ ImportWindow::ImportWindow(QWidget* parent)
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(tr("&PDF file:"), row({txtImportFile, btnBrowseFile, btnOpenFile}));
     form->addRow(tr("Pages:"), pagesRow());
+    form->addRow(tr("&Double pages:"), spreads);
     form->addRow(tr("&Quality:"), importQuality);
     form->addRow(QString(), btnImportLinks);
     form->addRow(QString(), btnImportBookMark);
@@ -50,6 +50,14 @@ ImportWindow::ImportWindow(QWidget* parent)
     all->addWidget(progressRow());
     all->addWidget(buttonRow(btnOK));
     resize(sizeHint().expandedTo({usualWidth, 0}));
+}
+
+QComboBox* ImportWindow::choice(const QStringList& items) {
+    auto* box = new QComboBox;
+    // The default delegate ignores style sheets.
+    box->setItemDelegate(new QStyledItemDelegate(box));
+    box->addItems(items);
+    return box;
 }
 
 void ImportWindow::makeFileField() {

@@ -26,6 +26,7 @@ public:
     QPushButton* btnOpenFile;
     QButtonGroup* pageRangeType;
     QLineEdit* txtPageRange;
+    QComboBox* spreads; // items in the order of Spreads
     QComboBox* importQuality;
     QCheckBox* btnImportBookMark;
     QCheckBox* btnImportLinks;
@@ -36,6 +37,7 @@ public:
     QPushButton* btnOK;
 
 private:
+    static QComboBox* choice(const QStringList& items);
     void makeFileField();
     QWidget* pagesRow();
     QWidget* progressRow();

@@ -100,6 +100,7 @@ void ImportWindowDelegate::enableButtons(bool idle) {
     iWindow->txtImportFile->setEnabled(idle);
     const bool typed = iWindow->pageRangeType->checkedId() == ImportWindow::typedPages;
     iWindow->txtPageRange->setEnabled(idle && typed);
+    iWindow->spreads->setEnabled(idle);
     iWindow->importQuality->setEnabled(idle);
     iWindow->lblInfo->setVisible(!idle);
     iWindow->prgBar->setVisible(!idle);
@@ -171,6 +172,7 @@ void ImportWindowDelegate::startImport() {
         document.password = iPassword;
         iImportPDF->setDocument(std::move(document));
     }
+    iImportPDF->setSpreads({Spreads(iWindow->spreads->currentIndex()), iIsRightToLeft});
     iImportPDF->setImportLinks(settings.importLinks() == 1);
     iImportPDF->setImportBookmarks(settings.importBookmark() == 1);
     logger.debug(QStringLiteral("before add operation"));

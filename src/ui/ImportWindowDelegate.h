@@ -30,6 +30,9 @@ public:
     // Imports all pages of that file as if the user had chosen it in the sheet.
     void importFile(const QString& path);
 
+    // The reading direction that the user has chosen for the book; none for the document's.
+    void setRightToLeft(std::optional<bool> value) { iIsRightToLeft = value; }
+
     // What the last import left out and why: one text per failed part or page; many failed pages
     // share one.
     const QStringList& failures() const { return iFailures; }
@@ -83,6 +86,7 @@ private:
     QByteArray iPassword;
     bool iWasPasswordTyped = false; // for the import that runs
     bool iIsImporting = false;
+    std::optional<bool> iIsRightToLeft;
     QStringList iFailures;
     std::shared_ptr<ImportPDFOperation> iImportPDF;
     NotificationCenter::Subscription iProgress;

@@ -105,6 +105,23 @@ TEST_F(ImportSheet, TakesTypedPagesLinksAndBookmarksAndShowsThemNextTime) {
     EXPECT_TRUE(window().btnImportLinks->isChecked() && window().btnImportBookMark->isChecked());
 }
 
+TEST_F(ImportSheet, SplitsDoublePagesUnlessAskedNotTo) {
+    const QString file = path(2);
+    PDFBuilder pdf;
+    pdf.addPage(PDFBuilder::page({300, 400}));
+    pdf.addPage(PDFBuilder::page({600, 400}));
+    ASSERT_TRUE(pdf.write(file));
+    open();
+    ASSERT_TRUE(import(file));
+    EXPECT_TRUE(sheet->book().document->cut(1).part == PageCut::Part::left);
+    sheet->setRightToLeft(true);
+    ASSERT_TRUE(import(file));
+    EXPECT_TRUE(sheet->book().document->cut(1).part == PageCut::Part::right);
+    window().spreads->setCurrentIndex(int(Spreads::keep));
+    ASSERT_TRUE(import(file));
+    EXPECT_EQ(sheet->book().document->pageCount(), 2);
+}
+
 TEST_F(ImportSheet, HasAQualityForEachChoice) {
     QList<int> qualities;
     for (int level = -1; level < 6; ++level)

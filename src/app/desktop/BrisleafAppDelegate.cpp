@@ -151,6 +151,10 @@ void BrisleafAppDelegate::valuesWereUndone() {
 }
 
 void BrisleafAppDelegate::OnImportPDF() {
+    iImportWindow->setRightToLeft(iIsDirectionChosen
+                                      ? std::optional(StringUtil::valueAsBool(
+                                            iFlashTmpl->propertyValueFor(direction, QString())))
+                                      : std::nullopt);
     iImportWindow->beginSheet([this](int returnCode) { importWindowDidEnd(returnCode); });
 }
 
