@@ -15,7 +15,8 @@ PageFiles EarlierPages::take(int page, PageFiles wanted, const WebPageFiles& fil
     if (wanted == PageFiles::web) {
         if (takeWebPage(page, files))
             return PageFiles::text;
-        for (const QString& file : files.others() << files.picture << files.pageFile)
+        const QStringList all = files.others() + QStringList{files.picture, files.pageFile};
+        for (const QString& file : all)
             QFile::remove(file);
     }
     return wanted;
