@@ -191,6 +191,7 @@ std::vector<PDFAnnotation> SplitPDF::annotations(int index) const {
 
 std::vector<QSizeF> SplitPDF::pageSizes() const {
     auto ofDocument = iDocument->pageSizes();
+    ofDocument.resize(iFirst.size()); // a reader may answer anything
     std::vector<QSizeF> sizes;
     for (const PageCut& here : iCuts) {
         const QSizeF& whole = ofDocument[std::size_t(here.index)];
@@ -215,9 +216,10 @@ PDFViewing SplitPDF::viewing() const {
 }
 
 std::vector<QString> SplitPDF::pageLabels() const {
-    const auto ofDocument = iDocument->pageLabels();
+    auto ofDocument = iDocument->pageLabels();
     if (onlyCount(ofDocument))
         return {};
+    ofDocument.resize(iFirst.size() - 1);
     std::vector<QString> labels;
     for (std::size_t i = 0; i < ofDocument.size(); ++i) {
         if (!isSplit(int(i))) {
