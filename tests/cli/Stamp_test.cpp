@@ -59,6 +59,16 @@ TEST_F(StampTest, EveryOptionThatChangesTheBookMakesItAnew) {
     EXPECT_EQ(resultOf({"--type=web", settings}), "made");
 }
 
+TEST_F(StampTest, HalvesOfPagesAreDrawnAgainForAnotherDirection) {
+    const QStringList rightToLeft("--set=RightToLeft=Yes");
+    published("spreads.pdf");
+    published("spreads.pdf", rightToLeft);
+    const auto made = contents();
+    QDir(book()).removeRecursively();
+    published("spreads.pdf", rightToLeft);
+    EXPECT_TRUE(contents() == made);
+}
+
 TEST_F(StampTest, WhatIsMissingOrChangedIsMadeAnew) {
     EXPECT_EQ(resultOf({}), "made");
     EXPECT_EQ(resultOf({"--force"}), "made");
