@@ -791,6 +791,10 @@
         <source>it takes more memory than a page may have</source>
         <translation>sie braucht mehr Speicher, als eine Seite haben darf</translation>
     </message>
+    <message>
+        <source>the program that draws pages can&apos;t be started</source>
+        <translation>das Programm, das die Seiten zeichnet, lässt sich nicht starten</translation>
+    </message>
 </context>
 <context>
     <name>PageRange</name>

@@ -27,6 +27,8 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 namespace {
@@ -98,6 +100,16 @@ std::shared_ptr<ImportPDFOperation> newImport(const PublishOptions& options, Ope
     return operation;
 }
 
+// Where no thread can be started, Qt would wait for it for ever.
+void checkThreads() {
+    try {
+        std::thread([] {}).join();
+    } catch (const std::system_error& failure) {
+        throw CommandError(Messages{Message(QStringLiteral("no further thread can be started (%1)"))
+                                        .arg(Message::ofSystemError(failure.code().value()))});
+    }
+}
+
 // Runs the import on its queue and waits for it; Ctrl-C cancels it.
 void run(const std::shared_ptr<ImportPDFOperation>& operation, bool isQuiet) {
     ProgressDisplay progress(QStringLiteral("Drawing pages"), isQuiet);
@@ -108,6 +120,7 @@ void run(const std::shared_ptr<ImportPDFOperation>& operation, bool isQuiet) {
                               message.userInfo[QStringLiteral("totalPage")].toInt());
             }
         });
+    checkThreads();
     OperationQueue queue;
     queue.addOperation(operation);
     while (!queue.waitFor(interruptPollMilliseconds)) {

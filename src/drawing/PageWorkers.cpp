@@ -33,6 +33,11 @@ Message crashReason() {
     return Message::translate("PageFailure", "the program that draws pages ended at this page");
 }
 
+// Such as when there are no more processes or memory.
+Message notStarted() {
+    return Message::translate("PageFailure", "the program that draws pages can't be started");
+}
+
 constexpr Log logger("PageWorkers");
 
 // Workers report in English: one of our own reasons, or a file's path and the system's error text.
@@ -113,6 +118,8 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
         if (iWorkers.empty()) {
             if (!iCanRun)
                 return std::nullopt;
+            if (!iHasSandboxed)
+                return PageResult{notStarted().temporary(), {}, true};
             return PageResult{iOpenError.isNull() ? crashReason() : iOpenError, {}};
         }
         collect();
@@ -172,6 +179,7 @@ void PageWorkers::readAnswers(Worker& worker) {
 
 // "here" (in its sandbox), then "ready", or "fail REASON" when the document can't be opened.
 void PageWorkers::readStartupLine(Worker& worker, const QByteArray& line) {
+    iHasSandboxed = true;
     if (!std::exchange(worker.sandboxed, true) && line == "here")
         return;
     if (line != "ready") {
@@ -202,7 +210,7 @@ void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     } else if (fields[0] == "full" || fields[0] == "unwritable") {
         const Message reason = reasonFrom(line.mid(fields[0].size() + 1));
         result.error = fields[0] == "full" ? reason.temporary() : reason;
-        result.isUnwritten = true;
+        result.endsImport = true;
     } else {
         result.error = reasonFrom(line.mid(fields[0].size() + 1));
     }

@@ -20,7 +20,8 @@
 struct PageResult {
     Message error; // why it could not be made; null when it was. There may be a page file even so
     MadePage made;
-    bool isUnwritten = false; // the work folder can't be written; not the page's fault
+    // Not the page's fault: the work folder can't be written, or no worker gets ready.
+    bool endsImport = false;
 };
 
 // Draws pages of a PDF in worker processes, ahead of the loop that collects them. Each
@@ -107,9 +108,10 @@ private:
     std::size_t iPageCount;
     int iJobs = usualWorkerCount();
     std::chrono::milliseconds iTimeout;
-    int iFailedStarts = 0; // consecutive workers that ended before they were ready
-    bool iCanRun = true;   // false when workers can't run on this system
-    Message iOpenError;    // why a worker could not open the document
+    int iFailedStarts = 0;      // consecutive workers that ended before they were ready
+    bool iCanRun = true;        // false when workers can't run on this system
+    bool iHasSandboxed = false; // a worker has entered its sandbox
+    Message iOpenError;         // why a worker could not open the document
     std::vector<Worker> iWorkers;
     std::map<int, PageResult> iResults; // done, not yet collected
     std::set<int> iRetriedPages;        // pages whose worker was killed once

@@ -107,7 +107,7 @@ void PDFToSWFPageConverter::makePage(int page) {
     const auto drawn = iWorkers ? iWorkers->waitFor(page) : std::nullopt;
     const PageResult result = drawn ? *drawn : drawInProcess(page);
     iTiming += result.made.timing;
-    if (result.isUnwritten)
+    if (result.endsImport)
         throw PlatformException(ErrorKind::workFolder, result.error);
     if (iStop && *iStop)
         return; // no page's fault

@@ -202,15 +202,18 @@ QByteArray PDFReader::awaitAnswer() const {
     }
 }
 
-// A program that could not be run says nothing about the file. Once its sandbox is in force it may
-// have opened the file, and the file may control what it reports.
+// A program that could not be run says nothing about the file, and neither does one that ends
+// before it opens the file, as when there are no more processes or memory. Once its sandbox is in
+// force it may have opened the file, and the file may control what it reports.
 void PDFReader::reportEnd() const {
-    const bool couldRun = iIsSandboxed || !iProcess->couldNotRun();
+    const bool isNoFaultOfFile = !iIsSandboxed;
+    const bool couldNotRun = isNoFaultOfFile && iProcess->couldNotRun();
+    const auto notStarted =
+        Message::translate("PDFReader", "the program that reads PDF files can't be started");
     stopReader();
-    if (!couldRun)
-        throw PlatformException(
-            ErrorKind::processStart,
-            Message::translate("PDFReader", "the program that reads PDF files can't be started"));
+    if (couldNotRun)
+        throw PlatformException(ErrorKind::processStart, notStarted);
     ++iEnded;
-    throw PlatformException(ErrorKind::readerEnded, crashMessage());
+    throw PlatformException(ErrorKind::readerEnded,
+                            isNoFaultOfFile ? notStarted.temporary() : crashMessage());
 }

@@ -89,3 +89,20 @@ TEST_F(FileSizeLimit, LeavesTheEarlierBookWhole) {
     EXPECT_TRUE(result.errors.contains("index.html: File too large")) << result.errors.constData();
     EXPECT_EQ(contents(), before);
 }
+
+// Root may start any number of processes.
+TEST(ProcessLimit, IsAReasonToTryAgain) {
+    const QString user = ::geteuid() == 0 ? "setpriv --reuid=65534 --clear-groups" : "";
+    const auto run = [&](const QString& limit, const QString& arguments) {
+        return Program::runOther("/bin/sh",
+                                 {"-c", user + " prlimit " + limit + " \"$0\" " + arguments,
+                                  Program::path(), Program::sample("outline.pdf")});
+    };
+    if (run("--nproc", "--version").exitCode != 0)
+        GTEST_SKIP() << "an ordinary user can't run the program from here";
+    for (const char* limit : {"--nproc=1", "--nproc=6", "--nproc=10"}) {
+        const auto result = run(limit, "publish \"$1\" /tmp/not-made --quiet");
+        EXPECT_EQ(result.exitCode, 75) << limit << result.errors.constData();
+    }
+    EXPECT_FALSE(QFileInfo::exists("/tmp/not-made"));
+}

@@ -41,6 +41,12 @@ TEST_F(PageWorkersTest, LeavesThePagesToTheCallerWhenNoWorkerGetsReady) {
     EXPECT_EQ(workers->waitFor(2), std::nullopt);
 }
 
+TEST_F(PageWorkersTest, BlamesNoPageWhenEachWorkerEndsBeforeItOpensTheDocument) {
+    const auto result = start(5, "kill -ABRT $$\n")->waitFor(1);
+    ASSERT_TRUE(result);
+    EXPECT_TRUE(result->endsImport && result->error.isTemporary());
+}
+
 // Page 30 is there when it is drawn again after its worker was killed, page 31 kills each worker.
 TEST_F(PageWorkersTest, LosesOnlyThePageThatEndsAWorker) {
     const std::set lost{7, 8, 20, 31};

@@ -55,6 +55,8 @@ TEST_F(PDFReaderTest, LeavesTheFileToItsOwnerWhenThereIsNoProgramToReadIt) {
 TEST_F(PDFReaderTest, ReportsWhatEndsTheProgramAndStopsTrying) {
     EXPECT_EQ(failureOfOpening("echo here\nkill -SEGV $$\n"), "PDFReaderEnded");
     EXPECT_EQ(failureOfOpening("exec sleep 100\n", 100ms), "PDFReaderTimeout");
+    const auto unopened = failureOf([&] { reader("kill -ABRT $$\n")->start(); });
+    EXPECT_TRUE(unopened.name == "PDFReaderEnded" && unopened.message.isTemporary());
 
     const auto ends = reader("echo here\necho \"ok $count\"\nread question\necho x >>" +
                              QFile::encodeName(iFolder.filePath("tries")) + "\nkill -SEGV $$\n");
