@@ -58,9 +58,13 @@ export class Contents {
       this.loading ??= this.#load();
       return;
     }
+    this.#reveal();
+    this.tree?.focus();
+  }
+
+  #reveal() {
     this.#follow();
-    this.tree.reveal(this.tree.current);
-    this.tree.focus();
+    this.tree?.reveal(this.tree.current);
   }
 
   /** Loads the outline: a long book's is too long for the page. */
@@ -74,7 +78,9 @@ export class Contents {
     this.panel.body.replaceChildren(status);
     try {
       this.tree = this.#makeTree(new Facts(await this.files.load('web/book'), config.pages.length).outline);
-      if (this.panel.shown) this.#show();
+      this.#reveal();
+      // A panel that opened by itself leaves the keys to the book.
+      if (this.panel.dialog.contains(document.activeElement)) this.tree.focus();
     } catch {
       this.loading = null;
       status.textContent = say('unreachableText');

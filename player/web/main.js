@@ -99,7 +99,7 @@ function addKeeping(player, layers) {
   if (window.parent !== window) return;
   commands.keep = () => load().then((keeping) => {
     // On a slow connection the reader may have opened another dialog meanwhile.
-    if (!root.querySelector('dialog[open]')) keeping.open();
+    if (!root.querySelector('dialog.panel[open]')) keeping.open();
   }, () => toast.show(say('unreachableText'), say('tryAgain'), () => commands.keep?.()));
   toolbar.add(button, 'print');
 }

@@ -103,11 +103,14 @@ test('a published book opens with the list in its page, and with its files where
     assert.equal(await book.page.evaluate(() => window.folvero.pageCount), 8, book.errors.join());
     assert.ok((await book.picture('left')).source.endsWith('/page/9.png'));
     const files = () => book.requests.filter((address) => /UserConfig|web\/book/.test(address)).map((one) => path.basename(one));
-    assert.equal(files().length > 0, html !== whole, 'with its files');
+    assert.equal(files().some((name) => name !== 'book.js'), html !== whole, 'with its files');
     if (html !== damaged[2]) {
-      await book.page.keyboard.press('c');
-      await book.page.locator('.tree-row:not([aria-disabled])').first().click();
-      await book.page.waitForFunction(() => window.folvero.page < 8);
+      const first = book.page.locator('.tree-row:not([aria-disabled])').first();
+      await first.waitFor();
+      await book.page.keyboard.press('ArrowLeft');
+      await book.waitForPages(6, 7);
+      await first.click();
+      await book.page.waitForFunction(() => window.folvero.page < 6);
     }
     if (html === whole) assert.deepEqual(files(), ['book.js']);
     assert.deepEqual(book.errors, []);
