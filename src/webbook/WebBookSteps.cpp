@@ -168,13 +168,15 @@ QString preload(const QString& picture, const char* priority) {
 }
 
 // On slow connections, files discovered only after another has arrived cost a round trip each. The
-// first picture is requested before the player, the next two when all of the page has arrived,
-// unless they are so large that they would delay what the book opens with.
+// first picture is requested before the player, the next two, or those at which the book opens,
+// when all of the page has arrived, unless they are so large that they would delay that.
 void addPreloads(PagePlaces& places, const PublishTarget& to, const WebBook& book) {
-    constexpr std::size_t nextPages = 2;
     constexpr qint64 mostBytes = 100'000;
     qint64 bytes = 0;
-    for (std::size_t i = 0; i < std::min(book.pages.size(), 1 + nextPages); ++i) {
+    const auto next = std::size_t(std::max(2, book.metadata.start / 2 * 2));
+    for (const std::size_t i : {std::size_t(0), next - 1, next}) {
+        if (i >= book.pages.size())
+            break;
         const QString picture = WebBook::picturePath(book.pages[i]);
         if (!book.isOpen(book.pages[i]) || !to.writes(picture))
             continue;
