@@ -141,7 +141,8 @@ function addToBook(player, facts) {
     idle(() => book.views.pagesOf(book.views.clamp(turner.current + 1)).forEach((page) => texts.get(page)));
   });
   layers.update();
-  if (room.isWide) openPanel(facts.panel, commands);
+  // An open panel would stop a book that plays by itself.
+  if (room.isWide && !player.config.autoPlay) openPanel(facts.panel, commands);
 }
 
 /**

@@ -67,6 +67,8 @@ test('a book opens where and as its document asks, with its panel at a desk only
     assert.equal(await book.page.evaluate(() => window.folvero.page), pages[0] + pages.length, 'where the reader was');
     assert.deepEqual(book.errors, []);
   }
+  const playing = await open({ change: { panel: 'contents' }, values: { AutoPlay: 'Yes' } });
+  assert.equal(await panel(playing).isVisible(), false, 'a book that plays by itself');
 });
 
 test('long contents are folded but for the reader\'s place and used by key as trees are', async () => {
