@@ -15,6 +15,7 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(nettle REQUIRED IMPORTED_TARGET nettle)
 pkg_check_modules(tidy REQUIRED IMPORTED_TARGET tidy)
 pkg_check_modules(deflate REQUIRED IMPORTED_TARGET libdeflate)
+pkg_check_modules(isal REQUIRED IMPORTED_TARGET libisal)
 pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
 # Its header declares different classes without the definitions that Debian's library was built with.
 pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)

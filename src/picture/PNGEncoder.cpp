@@ -29,13 +29,15 @@ QByteArray headerOf(const PaletteBitmap& bitmap) {
 } // namespace
 
 QByteArray PNGEncoder::encode(const PaletteBitmap& bitmap) {
-    const auto* rows = reinterpret_cast<const char*>(bitmap.rows.data());
+    const std::string_view rows(reinterpret_cast<const char*>(bitmap.rows.data()),
+                                bitmap.rows.size());
     const auto* colours = reinterpret_cast<const char*>(bitmap.palette.data());
     QByteArray file("\x89PNG\r\n\x1A\n");
     appendChunk(file, "IHDR", headerOf(bitmap));
     appendChunk(file, "PLTE",
                 {colours, qsizetype(sizeof(PaletteBitmap::Colour) * bitmap.palette.size())});
-    appendChunk(file, "IDAT", iDeflater.zlib({rows, bitmap.rows.size()}));
+    const bool isLarge = bitmap.bitsPerPixel == 8;
+    appendChunk(file, "IDAT", isLarge ? iFastDeflater.zlib(rows) : iDeflater.zlib(rows));
     appendChunk(file, "IEND", {});
     return file;
 }

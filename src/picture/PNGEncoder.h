@@ -1,6 +1,7 @@
 #pragma once
 
 #include "picture/Deflater.h"
+#include "picture/FastDeflater.h"
 #include "picture/PaletteBitmap.h"
 
 #include <QByteArray>
@@ -14,4 +15,6 @@ public:
 private:
     // Higher levels take up to twice the time for a fiftieth of the bytes.
     Deflater iDeflater{1};
+    // A picture with a byte a pixel has several times the bytes, and less to gain.
+    FastDeflater iFastDeflater;
 };
