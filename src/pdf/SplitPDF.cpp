@@ -33,9 +33,9 @@ bool isTwoOf(const QSizeF& size, const QSizeF& single) {
 }
 
 std::vector<bool> likelyDoublePages(const std::vector<QSizeF>& sizes) {
-    std::vector<bool> isDouble;
-    for (const QSizeF& size : sizes)
-        isDouble.push_back(isTwoOf(size, sizes.front()));
+    std::vector<bool> isDouble(sizes.size());
+    std::transform(sizes.begin(), sizes.end(), isDouble.begin(),
+                   [&](const QSizeF& size) { return isTwoOf(size, sizes.front()); });
     return isDouble;
 }
 
@@ -49,9 +49,10 @@ std::vector<bool> landscapePages(const std::vector<QSizeF>& sizes) {
         single = *portrait;
     else if (sizes.size() > 1 && isWideAs(sizes[1], sizes[0]))
         single = sizes[0];
-    std::vector<bool> isDouble;
-    for (const QSizeF& size : sizes)
-        isDouble.push_back(isLandscape(size) && (single.isEmpty() || isWideAs(size, single)));
+    std::vector<bool> isDouble(sizes.size());
+    std::transform(sizes.begin(), sizes.end(), isDouble.begin(), [&](const QSizeF& size) {
+        return isLandscape(size) && (single.isEmpty() || isWideAs(size, single));
+    });
     return isDouble;
 }
 
