@@ -18,6 +18,8 @@ QByteArray printed(const QByteArray& command, const QString& folder) {
     const QString samples = QDir::cleanPath(Program::sample({}));
     environment.insert("SAMPLES", samples);
     environment.insert("LC_ALL", "C.UTF-8");
+    // Overwrites freed memory, so that whoever still uses it fails each time.
+    environment.insert("GLIBC_TUNABLES", "glibc.malloc.tcache_count=0:glibc.malloc.perturb=85");
     environment.insert("PATH", Program::path({}) + ':' + environment.value("PATH"));
     const auto result = Program::runOther(
         "/bin/sh", {"-c", "cd \"$0\"; exec 2>&1; " + command, folder}, environment);
