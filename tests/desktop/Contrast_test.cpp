@@ -125,6 +125,22 @@ TEST(Appearance, HasAColourForEveryRole) {
     }
 }
 
+// As the session bus calls it.
+TEST(Appearance, FollowsTheSystem) {
+    Appearance appearance;
+    appearance.setChoice(Appearance::system);
+    const std::tuple<const char*, const char*, uint, bool> changes[] = {
+        {"org.freedesktop.appearance", "color-scheme", 1, true},
+        {"org.freedesktop.appearance", "contrast", 0, true},
+        {"org.gnome.desktop.interface", "color-scheme", 0, true},
+        {"org.freedesktop.appearance", "color-scheme", 2, false}};
+    for (const auto& [group, key, value, isDark] : changes) {
+        QMetaObject::invokeMethod(&appearance, "systemSettingChanged", Q_ARG(QString, group),
+                                  Q_ARG(QString, key), Q_ARG(QDBusVariant, QDBusVariant(value)));
+        EXPECT_EQ(QApplication::palette().window().color().lightness() < 128, isDark) << key;
+    }
+}
+
 TEST(BorderedStyle, EmptyControlsCanBeSeenInADarkWindow) {
     QCheckBox box;
     QRadioButton radio;
