@@ -89,11 +89,11 @@ TEST_F(MisbehavingWorkers, AreBelievedNothingOnceTheDocumentIsOpened) {
         EXPECT_EQ(failed(2, "opening " + deed + "\n"), (std::set{1, 2})) << deed.constData();
 }
 
-TEST_F(MisbehavingWorkers, CannotTakeAllMemory) {
+TEST_F(MisbehavingWorkers, CannotTakeAllMemoryNorFillTheDisk) {
 #ifdef FOLVERO_SANITIZED
     GTEST_SKIP() << "sanitizers need memory without a limit";
 #endif
-    EXPECT_EQ(failed(2, "1 allocate\n"), std::set{1});
+    EXPECT_EQ(failed(3, "1 allocate\n2 grow\n"), (std::set{1, 2}));
 }
 
 TEST_F(MisbehavingWorkers, ReachNoOtherProcessAndNoNetwork) {
@@ -105,7 +105,8 @@ TEST_F(MisbehavingWorkers, ReachNoOtherProcessAndNoNetwork) {
 TEST_F(MisbehavingWorkers, ReachNoFileOutsideTheWorkFolder) {
     if (::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) < 1)
         GTEST_SKIP() << "this system has no Landlock";
-    EXPECT_EQ(failed(4, "1 read-outside\n2 write-outside\n3 link-outside\n"), (std::set{1, 2, 3}));
+    EXPECT_EQ(failed(4, "1 read-outside\n2 write-outside\n3 link-outside\n4 overwrite\n"),
+              (std::set{1, 2, 3}));
     EXPECT_FALSE(QFile::exists(iFolder.filePath("outside")));
 }
 

@@ -51,6 +51,10 @@ bool opens(const std::string& path, int flags) {
     return ::open(path.c_str(), flags, 0600) >= 0;
 }
 
+bool grows(const std::string& path, off_t size) {
+    return ::ftruncate(::open(path.c_str(), O_WRONLY | O_CREAT, 0600), size) == 0;
+}
+
 bool startProcess() {
     const pid_t child = ::fork();
     if (child == 0)
@@ -73,6 +77,7 @@ const std::map<std::string, std::function<bool(const std::string&)>> known = {
              asm volatile("");
      }},
     {"allocate", [](auto&) { return maps(std::size_t{6} << 30); }},
+    {"grow", [](auto& folder) { return grows(folder + "/large.jpg", off_t{1} << 30); }},
     {"recurse", [](auto&) { return recurseWithoutEnd(0) != 0; }},
     {"exit", [](auto&) -> bool { std::_Exit(127); }}, // as if it could not be run
     {"trickle", [](auto&) { return writeWithoutEnd("x", 5000); }},
@@ -81,6 +86,10 @@ const std::map<std::string, std::function<bool(const std::string&)>> known = {
     {"read-outside", [](auto&) { return opens("/etc/passwd", O_RDONLY); }},
     {"write-outside",
      [](auto& folder) { return opens(folder + "/../outside", O_WRONLY | O_CREAT); }},
+    {"overwrite",
+     [](auto& folder) {
+         return grows(folder + "/draft", 1) && opens(folder + "/draft", O_WRONLY | O_TRUNC);
+     }},
     {"link-outside",
      [](auto& folder) { return ::symlink("/etc/passwd", (folder + "/1.jpg").c_str()) == 0; }},
     {"fork", [](auto&) { return startProcess(); }},
