@@ -63,7 +63,7 @@ TEST_F(BrokenInstallation, NamesWhatIsWrongWithItsTemplates) {
         EXPECT_TRUE(result.errors.contains(cause)) << result.errors.constData();
         EXPECT_FALSE(exists({}));
     };
-    expectFailure("holds no templates");
+    expectFailure(": holds no templates; the program is not installed completely\n");
     for (const QByteArray& xml : {QByteArray("<template></template>"), QByteArray("\0\1\2", 3),
                                   QByteArray("no markup"), QByteArray()}) {
         library.addTemplateFile("float", xml);
@@ -88,7 +88,7 @@ TEST_F(BrokenInstallation, DrawsEachPageOnceAndNamesThoseThatAWebBookHasAPicture
                   "tee -a \"$0.asked\" | \"$0-real\" draw | sed -u 's/^ok .*/& too large/'\n");
     const auto result = publish("links.pdf", Program::path("../share"), "web");
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_TRUE(result.errors.contains("page 6 has its picture only: too large"));
+    EXPECT_TRUE(result.errors.contains("folvero: page 6 has its picture only: too large"));
     const QByteArray asked = TestFiles::read(path(worker + ".asked"));
     for (int page = 1; page <= 6; ++page)
         EXPECT_EQ(asked.count('\n' + QByteArray::number(page) + " web\n"), 1) << asked.constData();

@@ -179,6 +179,7 @@ TEST_F(ServeTest, AnswersForPartsOfAFile) {
         const char* contentRange;
     } cases[] = {
         {"bytes=2-4", 206, "234", "bytes 2-4/10"},
+        {"bytes=0-0", 206, "0", "bytes 0-0/10"},
         {"bytes=7-", 206, "789", "bytes 7-9/10"},
         {"bytes=-3", 206, "789", "bytes 7-9/10"},
         {"bytes=8-4000000000", 206, "89", "bytes 8-9/10"},

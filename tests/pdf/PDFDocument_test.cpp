@@ -226,8 +226,20 @@ TEST_F(PDFDocumentTest, BlendsWithinThePageNotWithThePaper) {
     blended.extraEntries = "/Resources << /ExtGState << /D " + PDFBuilder::reference(state) +
                            " >> >> /Group << /S /Transparency /I true /CS /DeviceRGB >>";
     builder.addPage(blended);
+    const int form =
+        builder.addStream("/Subtype /Form /BBox [0 0 100 100] /Group << /S /Transparency >>",
+                          "1 0 0 rg 0 0 100 100 re f");
+    const int half = builder.addObject("<< /ca 0.5 >>");
+    plain.content = "q /H gs /X Do Q 0 0 1 rg 100 0 100 100 re f";
+    plain.extraEntries += "/Resources << /ExtGState << /H " + PDFBuilder::reference(half) +
+                          " >> /XObject << /X " + PDFBuilder::reference(form) + " >> >>";
+    builder.addPage(plain);
     const auto document = open();
     EXPECT_TRUE(isNear(colourAt(draw(*document, 0), 0.5, 0.5), Qt::blue));
+    const QImage nested = draw(*document, 2);
+    EXPECT_TRUE(isNear(colourAt(nested, 0.2, 0.5), QColor(255, 128, 128)));
+    EXPECT_TRUE(isNear(colourAt(nested, 0.8, 0.5), Qt::blue))
+        << "the group in the page's has ended";
     EXPECT_TRUE(isNear(colourAt(draw(*document, 1), 0.5, 0.5), Qt::yellow));
     // A group that changes nothing keeps no page from being vectors; blending does.
     EXPECT_TRUE(vectors(*document, 0).contains("fill=\"#0000ff\""));

@@ -1,6 +1,6 @@
 #include "pages/FlashPageSource.h"
 
-#include "base/PlatformException.h"
+#include "support/FailureOf.h"
 #include "util/LenientInteger.h"
 
 #include <climits>
@@ -44,5 +44,7 @@ TEST(PageRange, StaysWithin32BitsAndWithinReason) {
     EXPECT_EQ(lenientInteger(u"99999999999999999999"), INT_MAX);
     EXPECT_EQ(lenientInteger(u"-99999999999999999999"), INT_MIN);
     EXPECT_EQ(numbersIn("2147483646-2147483647"), "2147483646 2147483647");
-    EXPECT_THROW(FlashPageSource::parsePageRange("1-2147483647", 5), PlatformException);
+    const auto tooLong = failureOf([] { FlashPageSource::parsePageRange("1-1000000,7", 5); });
+    EXPECT_EQ(tooLong.message.english(), "the page range \"1-1000000,7\" names 1000001 pages");
+    EXPECT_EQ(FlashPageSource::parsePageRange("1-1000000", 5).size(), 1'000'000U);
 }
