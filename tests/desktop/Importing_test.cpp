@@ -88,6 +88,17 @@ TEST_F(Importing, PageThatCouldNotBeDrawnIsNamedAboveTheBook) {
         window().messages->message().endsWith("\nPage 3 could not be drawn: malformed page tree"));
     import(pdf(2));
     EXPECT_FALSE(window().messages->isVisible());
+    PDFBuilder torn;
+    for (int page = 0; page < 7; ++page) {
+        const int missing = torn.addMissingPage();
+        torn.setObject(torn.pageObject(missing), "<< /Type /Pages /Count 1 /Kids [] >>");
+    }
+    torn.addPage(PDFBuilder::page({300, 400}));
+    ASSERT_TRUE(torn.write(path("torn.pdf")));
+    import(path("torn.pdf"));
+    const QString message = window().messages->message();
+    EXPECT_TRUE(message.contains("\nPage 5 could") && message.contains("\n2 more page"))
+        << message.toStdString();
 }
 
 TEST_F(Importing, IsCancelledOrEndsWithTheProgramWhileThePreviewLives) {
@@ -120,6 +131,7 @@ TEST_F(Importing, ProgramThatIsTerminatedDuringAnImportRemovesItsPreview) {
     other.terminate();
     EXPECT_EQ(Program::finish(other).exitCode, 0);
     EXPECT_FALSE(QFileInfo::exists(preview));
+    EXPECT_TRUE(TestFiles::read(path("data/Tessamar/Folvero/Folvero.log")).contains("version is:"));
 }
 
 TEST_F(Importing, RecentDocumentsAreListedUntilTheyAreCleared) {

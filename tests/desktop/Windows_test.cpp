@@ -45,6 +45,9 @@ QString described(const QObject& object) {
         words << "lets clicks through";
     if (object.property("enabled") == false)
         words << "disabled";
+    const auto* list = qobject_cast<const QComboBox*>(&object);
+    for (int i = 0; list && i < list->count(); ++i)
+        words << '|' + list->itemText(i);
     const auto* layout = qobject_cast<const QBoxLayout*>(&object);
     for (int i = 0; layout && i < layout->count(); ++i) {
         if (const int stretch = layout->stretch(i))

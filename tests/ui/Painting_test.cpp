@@ -80,7 +80,14 @@ TEST(Painting, IsAsWrittenDown) {
     chooser.prepairToTmpl("desk", {});
     Drawing drawing;
     addRows(*chooser.window().iTableViewTmpls, "template ", drawing);
-    addRows(*chooser.window().iImgBrowserView, "style ", drawing);
+    QListView& styles = *chooser.window().iImgBrowserView;
+    addRows(styles, "style ", drawing);
+    for (const int i : {1, 0}) {
+        QHelpEvent help(QEvent::ToolTip, {}, {});
+        const QModelIndex index = styles.model()->index(i, 0);
+        styles.itemDelegate()->helpEvent(&help, &styles, row(styles, {}), index);
+        drawing.add("tool tip: " + QToolTip::text().toUtf8(), [](QPainter&) {});
+    }
 
     const QWidget view;
     FlashTmplColorCell color;

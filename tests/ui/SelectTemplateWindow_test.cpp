@@ -179,6 +179,11 @@ TEST_F(TemplateChooser, NamesBrokenTemplatesAndDoesNotTakeThem) {
     QTest::keyClick(&styles(), Qt::Key_F5);
     EXPECT_FALSE(hasNotice());
     EXPECT_TRUE(window().btnOK->isEnabled());
+    for (const char* name : {"b1", "b2", "b3", "b4", "b5"})
+        library.addTemplateFile(name, "<template>");
+    QTest::keyClick(&styles(), Qt::Key_F5);
+    EXPECT_TRUE(notice().contains("“B3”") && !notice().contains("“B4”"));
+    EXPECT_TRUE(notice().endsWith("\n2 more cannot be used."));
 }
 
 TEST_F(TemplateChooser, HidesTheFoldersThatTemplatesAndStylesAreMadeOf) {
