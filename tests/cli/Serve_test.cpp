@@ -1,6 +1,7 @@
 #include "cli/BookTest.h"
 #include "system/FileDescriptor.h"
 
+#include <QRegularExpression>
 #include <QUrl>
 #include <arpa/inet.h>
 #include <array>
@@ -207,6 +208,9 @@ TEST_F(ServeTest, SendsAFileAgainOnlyAfterItChanged) {
     const QByteArray tag = first.header("etag");
     const QByteArray since = "If-Modified-Since: " + first.header("last-modified") + "\r\n";
     ASSERT_FALSE(tag.isEmpty());
+    EXPECT_TRUE(QRegularExpression("^\\w{3}, \\d\\d \\w{3} \\d{4} [\\d:]{8} GMT$")
+                    .match(first.header("last-modified"))
+                    .hasMatch());
     for (const QByteArray& condition :
          {"If-None-Match: " + tag + "\r\n", "If-None-Match: \"other\", W/" + tag + "\r\n", since}) {
         SCOPED_TRACE(condition.constData());

@@ -12,6 +12,7 @@ protected:
         published(path("book.pdf"), options + QStringList("--report=" + path("report.json")));
         const auto document = QJsonDocument::fromJson(TestFiles::read(path("report.json")));
         iDrawing = document["timing"]["draw"].toDouble();
+        iWritten = document["files"]["written"].toInt();
         return document["result"].toString();
     }
 
@@ -22,6 +23,7 @@ protected:
     }
 
     double iDrawing = 0; // seconds
+    int iWritten = 0;    // files
 };
 
 } // namespace
@@ -90,6 +92,7 @@ TEST_F(StampTest, PagesAreNotDrawnAgainForAnotherTitle) {
         published(path("book.pdf"), {type, "--title=Old"});
         EXPECT_EQ(resultOf({type, "--title=New"}), "made");
         EXPECT_EQ(iDrawing > 0, QByteArray(type) == "--type=web"); // web books need the text
+        EXPECT_EQ(iWritten > 1, QByteArray(type) == "--type=web");
         const auto kept = contents();
         QDir(book()).removeRecursively();
         published(path("book.pdf"), {type, "--title=New"});
