@@ -171,7 +171,7 @@ QString preload(const QString& picture, const char* priority) {
 // first picture is requested before the player, the next two, or those at which the book opens,
 // when all of the page has arrived, unless they are so large that they would delay that.
 void addPreloads(PagePlaces& places, const PublishTarget& to, const WebBook& book) {
-    constexpr qint64 mostBytes = 100'000;
+    constexpr qint64 mostBytes = 250'000;
     qint64 bytes = 0;
     const auto next = std::size_t(std::max(2, book.metadata.start / 2 * 2));
     for (const std::size_t i : {std::size_t(0), next - 1, next}) {
