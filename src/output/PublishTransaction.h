@@ -94,6 +94,8 @@ private:
     bool isBeneath(const QString& path) const;
     bool isBehindLink(const QString& path) const;
     QString newName();
+    // Writes what is staged to disk.
+    void flush() const;
     Change& changeOf(const QString& target);
     bool isUpToDate(const Change& change) const;
     void install(const Change& change);
