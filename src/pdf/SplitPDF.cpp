@@ -56,8 +56,23 @@ std::vector<bool> landscapePages(const std::vector<QSizeF>& sizes) {
     return isDouble;
 }
 
+// Whether at least half of the inner pages are double ones, by a few of them: reading all pages of
+// a long document takes as long as drawing many, and a folded sheet among others is no spread.
+bool hasDoublePages(const PDFDocument& document) {
+    constexpr int most = 8;
+    const int inner = std::max(1, document.pageCount() - 2);
+    const int count = std::min(most, inner);
+    const QSizeF single = document.page(0).displaySize();
+    int doubles = 0;
+    for (int i = 0; i < count && 1 + i * inner / count < document.pageCount(); ++i)
+        doubles += isTwoOf(document.page(1 + i * inner / count).display, single) ? 1 : 0;
+    return 2 * doubles >= count;
+}
+
 std::vector<bool> doublePages(const PDFDocument& document, Spreads spreads) {
     try {
+        if (spreads == Spreads::automatic && !hasDoublePages(document))
+            return {};
         const auto sizes = document.pageSizes();
         return spreads == Spreads::split ? landscapePages(sizes) : likelyDoublePages(sizes);
     } catch (const PlatformException& failure) {

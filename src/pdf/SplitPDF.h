@@ -8,7 +8,7 @@
 
 // What becomes of pages that show two pages of a book side by side.
 enum class Spreads {
-    automatic, // those twice as wide as the first page and as high become two
+    automatic, // those twice as wide as the first page and as high become two, if most are so
     split,     // landscape pages become two
     keep,
 };
