@@ -4,8 +4,6 @@
 #include "pdf/PDFEngine.h"
 #include "pdf/PDFLimits.h"
 
-#include <QScopeGuard>
-
 namespace {
 
 // MuPDF returns an inverted rectangle for a missing one, which becomes all zeros.
@@ -74,16 +72,6 @@ int DrawablePDF::pageCount() const {
 }
 
 std::vector<QSizeF> DrawablePDF::pageSizes() const {
-    // Otherwise MuPDF searches the tree for each page.
-    const auto loaded = [this](fz_context* ctx) {
-        pdf_load_page_tree(ctx, iEngine->document);
-        return true;
-    };
-    const bool isTreeLoaded = iEngine->get(loaded, false);
-    const auto drop = qScopeGuard([&] {
-        if (isTreeLoaded)
-            pdf_drop_page_tree(iEngine->context, iEngine->document);
-    });
     std::vector<QSizeF> sizes;
     for (int index = 0; index < pageCount(); ++index) {
         try {
