@@ -14,7 +14,7 @@ public:
     void imported(const Book& book);
     void published();
 
-    // Seconds of the steps so far: "open", "import", "publish" and "total" in wall-clock time;
+    // Seconds of the steps so far: "open", "import", "publish" and "total" in elapsed time;
     // "draw", "encode" and "write" summed over the "workers" page workers, a web book's files
     // included, and "idle", their waiting time during the import.
     const QJsonObject& seconds() const { return iSeconds; }

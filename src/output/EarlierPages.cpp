@@ -42,8 +42,9 @@ bool EarlierPages::takeWebPage(int page, const WebPageFiles& files) const {
         return false;
     if (QFileInfo(iLayout.at(large("js"))).isFile())
         return takeVectors(page, files.largeVector);
-    return take(large("png"), files.largePicture) || take(large("jpg"), files.largePhotograph) ||
-           true;
+    if (!take(large("png"), files.largePicture))
+        take(large("jpg"), files.largePhotograph);
+    return true;
 }
 
 bool EarlierPages::takeVectors(int page, const QString& to) const {

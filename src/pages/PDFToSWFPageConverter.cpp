@@ -126,8 +126,7 @@ PageResult PDFToSWFPageConverter::drawInProcess(int page) {
     try {
         if (!iPDFRep) {
             iOwnDocument =
-                std::make_unique<DrawablePDF>(PDFPath(), DrawablePDF::Access::stream,
-                                              PDFDoc() ? PDFDoc()->password() : QByteArray());
+                std::make_unique<DrawablePDF>(PDFPath(), DrawablePDF::Access::stream, password());
             iPDFRep = std::make_unique<PageMaker>(*iOwnDocument, converterWorkFolder(), quality());
         }
         return {{},

@@ -1,6 +1,7 @@
 #include "pdf/SplitPDF.h"
 
 #include "base/Log.h"
+
 #include <QRegularExpression>
 #include <algorithm>
 #include <climits>

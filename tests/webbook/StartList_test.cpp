@@ -11,8 +11,8 @@ TEST(StartList, HasPagesAndLabelsInRuns) {
         WebPage page;
         page.number = number;
         page.picture = QStringLiteral("/work/%1.%2").arg(number).arg(number == 5 ? "jpg" : "png");
-        page.thumbnail = number == 9 ? QString() : QStringLiteral("/work/t.jpg");
-        page.large = number < 8 ? QStringLiteral("/work/l.svgz") : QString();
+        page.thumbnail = number == 9 ? QString() : QStringLiteral("t.jpg");
+        page.large = number < 8 ? QStringLiteral("l.svgz") : QString();
         book.pages.push_back(page);
     }
     book.metadata.labels = QStringList{"A-9", "A-10", "007", "${x}<", "9999999999"};
