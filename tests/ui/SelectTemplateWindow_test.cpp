@@ -195,6 +195,22 @@ TEST_F(TemplateChooser, HidesTheFoldersThatTemplatesAndStylesAreMadeOf) {
     EXPECT_FALSE(hasNotice());
 }
 
+TEST_F(TemplateChooser, FillsTheWidthThatTheScrollBarLeaves) {
+    for (int i = 0; i < 40; ++i)
+        library.addStyle("desk", "Style " + QString::number(i), "");
+    open("desk", "Night");
+    const auto y = [this](int i) { return styles().visualRect(styles().model()->index(i, 0)).y(); };
+    for (const int width : {700, 777, 860}) {
+        window().resize(width, 500);
+        QTest::qWait(0);
+        int columns = 1;
+        while (y(columns) == y(0))
+            ++columns;
+        const int left = styles().viewport()->width() - columns * styles().gridSize().width();
+        EXPECT_TRUE(left > 0 && left <= columns) << width << ' ' << columns << ' ' << left;
+    }
+}
+
 TEST_F(TemplateChooser, SaysThatATemplateOrTheLibraryIsGone) {
     open("gone");
     EXPECT_TRUE(selected(list()).isNull());
