@@ -1,6 +1,7 @@
 #include "output/HTMLConfigInfo.h"
 
 #include "output/BookLayout.h"
+#include "output/PageScripts.h"
 #include "system/Files.h"
 
 QString PagePlaces::flashMovie() {
@@ -10,12 +11,20 @@ QString PagePlaces::flashMovie() {
         .arg(BookLayout::movie);
 }
 
+QString PagePlaces::allowedScript(const QString& text) {
+    iAllowedSources << PageScripts::source(text);
+    return QStringLiteral("<script>%1</script>\n").arg(text);
+}
+
 TextTemplate HTMLConfigInfo::filled(const QString& pageTemplate, const PagePlaces& places) const {
     TextTemplate page(pageTemplate);
     page.setItem(QStringLiteral("index.title"), iHTMLTitle);
     page.setItem(QStringLiteral("meta.keywords"), iHTMLKeywords);
     page.setItem(QStringLiteral("meta.description"), iHTMLDescription);
     page.setItem(PagePlaces::languageName, places.language);
+    const QString allowed =
+        PageScripts::sources(pageTemplate) + u' ' + places.allowedSources().join(u' ');
+    page.setItem(PagePlaces::scriptsName, allowed.trimmed());
     page.setItem(PagePlaces::startName, places.start);
     page.setItem(PagePlaces::headName, places.head);
     page.setItem(PagePlaces::movieName, places.movie);

@@ -4,11 +4,13 @@
 #include "output/TextTemplate.h"
 
 #include <QString>
+#include <QStringList>
 
 // What a kind of book puts into the places of its template's page; by default a classic one.
 struct PagePlaces {
     // Its placeholders.
     static inline const QString languageName = QStringLiteral("book.language");
+    static inline const QString scriptsName = QStringLiteral("book.scripts");
     static inline const QString startName = QStringLiteral("book.start");
     static inline const QString headName = QStringLiteral("book.head");
     static inline const QString movieName = QStringLiteral("book.movie");
@@ -23,6 +25,15 @@ struct PagePlaces {
     QString end;
 
     static QString flashMovie();
+    // The element of a script that becomes part of a place. The page's content security policy
+    // allows it, so it must contain no text that is not ours, except as JSON.
+    QString allowedScript(const QString& text);
+    // Allows scripts that the page's own ones make: those of a book in one file have no addresses.
+    void allowMadeScripts() { iAllowedSources << QStringLiteral("blob:"); }
+    const QStringList& allowedSources() const { return iAllowedSources; }
+
+private:
+    QStringList iAllowedSources;
 };
 
 // Texts for the HTML page of a book.

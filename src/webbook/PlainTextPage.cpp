@@ -30,7 +30,10 @@ PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& boo
     const QByteArray language =
         escaped(metadata.language.isEmpty() ? QStringLiteral("en") : metadata.language);
     write("<!DOCTYPE html>\n<html lang=\"" + language +
-          "\">\n<head>\n<meta charset=\"utf-8\">\n<title>" + escaped(metadata.title) +
+          "\">\n<head>\n<meta charset=\"utf-8\">\n"
+          "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
+          "'unsafe-inline'; base-uri 'none'; form-action 'none'\">\n<title>" +
+          escaped(metadata.title) +
           "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
           "<link rel=\"canonical\" href=\"" +
           address + ExistingBook::textPageMark + style +

@@ -208,11 +208,11 @@ void addStartList(PagePlaces& places, const PublishTarget& to, const WebBook& bo
     const QByteArray list = StartList::json(book, searchParts);
     if (list.isNull() || !WebPageTemplate::hasHead(pageTemplate))
         return;
-    places.start = QStringLiteral("<script>window.FolveroUserConfig = \"\";</script>\n");
-    places.head += QStringLiteral("<script type=\"application/json\" data-file=\"web/start\">") +
-                   QString::fromUtf8(list) + QStringLiteral("</script>\n<script>\n") +
-                   textOfPlayerPart(to.layout, QStringLiteral("early.js")) +
-                   QStringLiteral("</script>\n");
+    places.start = places.allowedScript(QStringLiteral("window.FolveroUserConfig = \"\";"));
+    places.head +=
+        QStringLiteral("<script type=\"application/json\" data-file=\"web/start\">") +
+        QString::fromUtf8(list) + QStringLiteral("</script>\n") +
+        places.allowedScript(u'\n' + textOfPlayerPart(to.layout, QStringLiteral("early.js")));
 }
 
 QString megabytes(qint64 bytes) {
@@ -305,12 +305,12 @@ void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& 
     PagePlaces places = placesOf(book);
     const QByteArray configuration =
         Files::contents(parts.stagedFile(to.layout.at(BookLayout::configuration)));
-    places.start = QStringLiteral("<script>window.FolveroUserConfig = \"%1\";</script>\n")
-                       .arg(QString::fromLatin1(configuration.toBase64()));
+    places.start = places.allowedScript(QStringLiteral("window.FolveroUserConfig = \"%1\";")
+                                            .arg(QString::fromLatin1(configuration.toBase64())));
     places.head += QStringLiteral("<style>\n") + textOfPlayerPart(to.layout, BookLayout::webStyle) +
-                   QStringLiteral("</style>\n<script>\n") +
-                   textOfPlayerPart(to.layout, BookLayout::webScript) +
-                   QStringLiteral("</script>\n");
+                   QStringLiteral("</style>\n") +
+                   places.allowedScript(u'\n' + textOfPlayerPart(to.layout, BookLayout::webScript));
+    places.allowMadeScripts();
     qsizetype end = 0;
     const QString page = book.texts.filled(WebPageTemplate::of(book.flashTemplate.get()), places)
                              .parse(PagePlaces::endName, end);

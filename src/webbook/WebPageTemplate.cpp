@@ -1,6 +1,7 @@
 #include "webbook/WebPageTemplate.h"
 
 #include "output/HTMLConfigInfo.h"
+#include "output/PageScripts.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
 
@@ -17,6 +18,11 @@ QString placeholder(const QString& name) {
     return QStringLiteral("${%1}").arg(name);
 }
 
+// Whether the place is not in the rest that is copied as it is.
+bool isFilled(const QString& page, const QString& name) {
+    return !TextTemplate(page).parse().contains(placeholder(name));
+}
+
 QString withPlaces(QString page) {
     for (const auto& [name, where] :
          {Place{PagePlaces::languageName, "(?<=<html lang=\")en(?=\">)"},
@@ -30,10 +36,38 @@ QString withPlaces(QString page) {
             continue;
         QString changed = page;
         changed.replace(match.capturedStart(), match.capturedLength(), placeholder(name));
-        if (!TextTemplate(changed).parse().contains(placeholder(name)))
+        if (isFilled(changed, name))
             page = changed;
     }
     return page;
+}
+
+// Restricts scripts only: the page of a template may load pictures and frames from anywhere.
+QString policyFor(const QString& page) {
+    QString policy =
+        QStringLiteral("script-src 'self' file: ") + placeholder(PagePlaces::scriptsName);
+    if (!page.contains(u"<object", Qt::CaseInsensitive) &&
+        !page.contains(u"<embed", Qt::CaseInsensitive))
+        policy += QStringLiteral("; object-src 'none'");
+    if (!page.contains(u"<base", Qt::CaseInsensitive))
+        policy += QStringLiteral("; base-uri 'none'");
+    return QStringLiteral("<meta http-equiv=\"Content-Security-Policy\" content=\"%1\">")
+        .arg(policy);
+}
+
+// Not where the page has a policy, or where this one would keep the page's own scripts from
+// running.
+QString withPolicy(const QString& page) {
+    static const QRegularExpression start(
+        QStringLiteral(R"re(<head(?:\s[^>]*)?>(?:\s*<meta charset=[^>]*>)?)re"),
+        QRegularExpression::CaseInsensitiveOption);
+    const auto place = start.match(page);
+    if (!place.hasMatch() || page.contains(u"Content-Security-Policy", Qt::CaseInsensitive) ||
+        !PageScripts::allowAll(page))
+        return page;
+    QString changed = page;
+    changed.insert(place.capturedEnd(), policyFor(page));
+    return isFilled(changed, PagePlaces::scriptsName) ? changed : page;
 }
 
 } // namespace
@@ -41,7 +75,7 @@ QString withPlaces(QString page) {
 QString WebPageTemplate::of(const FlashTemplate* flashTemplate) {
     const QString path = flashTemplate ? flashTemplate->tmplHTMLFilePath() : QString();
     const QString page = QString::fromUtf8(Files::contents(path));
-    return hasHead(page) ? page : withPlaces(page);
+    return withPolicy(hasHead(page) ? page : withPlaces(page));
 }
 
 bool WebPageTemplate::hasHead(const QString& page) {

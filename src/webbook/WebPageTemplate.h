@@ -9,7 +9,8 @@ namespace WebPageTemplate {
 
 // The page's text with the places for what a web book adds; see PagePlaces. Pages of templates from
 // before there were places get them at the elements where they belong, but none where there is no
-// such element or the text is not filled in any more.
+// such element or the text is not filled in any more. Pages without a content security policy get
+// one that allows the template's own scripts.
 QString of(const FlashTemplate* flashTemplate);
 
 // Whether such a page has the place in its head.

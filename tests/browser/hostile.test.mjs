@@ -1,5 +1,5 @@
 import assert from 'node:assert/strict';
-import { copyFile, writeFile } from 'node:fs/promises';
+import { copyFile, readFile, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
@@ -74,9 +74,9 @@ async function assertHarmless(book, folder) {
   assert.deepEqual(foreign, [], 'requests beyond the book');
 }
 
-async function publish(name, options) {
+async function publish(name, options, type = '--type=html') {
   const folder = path.join(reader.folder, name);
-  await folvero('publish', '--quiet', '--type=html', '--links', '--bookmarks', ...options, sample('hostile'), folder);
+  await folvero('publish', '--quiet', type, '--links', '--bookmarks', ...options, sample('hostile'), folder);
   return folder;
 }
 
@@ -103,6 +103,30 @@ test('the texts of a hostile document and of hostile settings stay texts', ready
     assert.ok(index % 2 ? title === text : title.startsWith('</title><script>window.broken=1</script>'), title);
     assert.deepEqual(await structureOf(book), expected, text);
     await assertHarmless(book, folder);
+    await reader.closeBooks();
+  }
+});
+
+/** What runs in a page without a content security policy. */
+const RAW = '<script>window.broken=1</script><script src="data:text/javascript,window.broken=1"></script>'
+  + '<iframe srcdoc="<script>parent.broken=1</script>"></iframe><img src=x onerror="window.broken=1">'
+  + '<a id="bad" href="javascript:window.broken=1">x</a>';
+
+test('scripts that get into a page unescaped do not run', ready, async () => {
+  for (const type of ['--type=html', '--type=web', '--single-file']) {
+    const folder = await publish(`raw${type}`, [], type);
+    for (const name of type === '--type=web' ? ['text.html', 'index.html'] : ['index.html']) {
+      const html = await readFile(path.join(folder, name), 'utf8');
+      await writeFile(path.join(folder, name), html.replaceAll(/(?=<title>|<\/head>|<main|<\/body>)/g, () => RAW));
+    }
+    for (const book of [await reader.openFromDisk(folder), await reader.openOverHttp(folder)]) {
+      assert.equal(await book.page.locator('#folvero').getAttribute('data-state'), 'ready', type);
+      for (const name of type === '--type=web' ? ['', 'text.html'] : ['']) {
+        if (name) await book.page.goto(new URL(name, book.page.url()).href);
+        await book.page.evaluate(() => document.querySelector('#bad').click());
+        assert.equal(await book.page.evaluate(() => window.broken), undefined, `${type} ${name}`);
+      }
+    }
     await reader.closeBooks();
   }
 });

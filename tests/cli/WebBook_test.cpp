@@ -253,19 +253,37 @@ TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
         output.ouputTheBook();
         return QString::fromUtf8(book.read("index.html"));
     };
+    const auto policy = [](const QString& sources) {
+        return "<meta http-equiv=\"Content-Security-Policy\" content=\"script-src 'self' file: " +
+               sources +
+               " 'sha256-2ePyko4LBt88b6FufPu0S/ScnDBfjy1UKxY5kk9GnLI=' "
+               "'sha256-ujkTWAYknwV7QQywdg8h6Am0/KP/MvojjgUc1P83fLs='; object-src 'none'; base-uri "
+               "'none'\">";
+    };
+    const QString one = "'sha256-a4ayc/80/OGda4BO/1o/V0etpOqiLx1JwB5S3beHW0s='";
     const QString folder = page("<head>", false);
-    EXPECT_TRUE(folder.startsWith(
-        "<head><script>window.FolveroUserConfig = \"\";</script>\n<script>1</script>"
-        "<link rel=\"preload\""))
+    EXPECT_TRUE(
+        folder.startsWith("<head>" + policy(one) +
+                          "<script>window.FolveroUserConfig = \"\";</script>\n<script>1</script>"
+                          "<link rel=\"preload\""))
         << folder.toStdString();
     EXPECT_TRUE(folder.endsWith("<script src=\"files/web.js\"></script>\n</head><body>3</body>"));
     const QString single = page("<head>", true);
-    EXPECT_TRUE(single.startsWith("<head><script>window.FolveroUserConfig = \""));
+    EXPECT_TRUE(single.contains("><script>window.FolveroUserConfig = \""));
     EXPECT_TRUE(
         single.contains("<script>\nweb.js</script>\n</head><body>3<script type=\"text/plain\""));
     EXPECT_TRUE(single.endsWith("</script>\n</body>"));
-    EXPECT_EQ(page("<head>a${x}${y}", false),
-              "<head>a${y}<script>1</script></head><body><object x>2</object>3</body>");
+    const QByteArray start = "<Head>\n<meta charset='utf-8'>";
+    EXPECT_TRUE(
+        page(start +
+                 "<img onload = \"a(&quot;b&quot;)\"><script async src='//b.example/x'></script>",
+             false)
+            .startsWith(start + policy("b.example " + one +
+                                       " 'unsafe-hashes' 'sha256-zF6vm1In/h+PvgDmJ16jlpnzzHU7"
+                                       "YQzvZRzlN+64ZL8='")));
+    EXPECT_FALSE(page("<head><script>a${x}</script>", false).contains("Content-Security-Policy"));
+    EXPECT_EQ(page("a${x}${y}<head>", false),
+              "a${y}<head><script>1</script></head><body><object x>2</object>3</body>");
 }
 
 TEST_F(WebBookTest, OneFileBeyondTheLimitLeavesTheEarlierOne) {

@@ -1,3 +1,4 @@
+import { createHash } from 'node:crypto';
 import { mkdir, readFile, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { png } from './png.mjs';
@@ -72,9 +73,12 @@ export async function writeBook(folder, options) {
   await mkdir(path.join(folder, 'files/page'), { recursive: true });
   await mkdir(path.join(folder, 'files/extfiles'), { recursive: true });
   const shell = await readFile(path.join(template, 'index.html'), 'utf8');
+  const scripts = [...shell.matchAll(/<script>([^]*?)<\/script>/g)]
+    .map(([, text]) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`).join(' ');
+  const texts = { 'index.title': title, 'book.language': 'en', 'book.scripts': scripts };
   const html = Object.entries(look).reduce((page, [name, value]) => page.replace(
     new RegExp(`(<main id="folvero"[^>]* data-${name}=")[^"]*`), (_, before) => before + value),
-  shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => ({ 'index.title': title, 'book.language': 'en' }[name] ?? '')));
+  shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => texts[name] ?? ''));
   await writeFile(path.join(folder, 'index.html'), html);
   for (const [index, page] of pages.entries()) {
     await writeFile(path.join(folder, 'files/page', `${index + 1}.jpg`), page.bytes);
