@@ -83,7 +83,9 @@ QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl
 } // namespace
 
 PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& tmpl, QString page)
-    : iPage(std::move(page)), iEarlier(BookStamp::of(iPage)) {
+    : iPage(std::move(page)),
+      iDocumentState(FileState::of(options.pdf)),
+      iEarlier(BookStamp::of(iPage)) {
     if (options.type != PublishOptions::Type::app && !options.singleFile)
         iFolder = QFileInfo(iPage).path();
     iWanted.document = BookStamp::documentAt(options.pdf, iEarlier);

@@ -2,6 +2,7 @@
 
 #include "drawing/WebPageFiles.h"
 #include "output/BookStamp.h"
+#include "system/FileState.h"
 
 #include <QString>
 
@@ -14,6 +15,9 @@ public:
     // The template has what the options set. page is the path of the page or the application.
     PublishStamp(const PublishOptions& options, const FlashTemplate& tmpl, QString page);
 
+    // The document when it was read for this.
+    const FileState& documentState() const { return iDocumentState; }
+
     // The book is there, and was made of the same document with the same options.
     bool isUpToDate() const;
     // Null when the pages of the earlier book are not those that would be made.
@@ -24,6 +28,7 @@ public:
 
 private:
     QString iPage;
+    FileState iDocumentState;
     QString iFolder; // null for books whose pages have no files of their own
     BookStamp iEarlier;
     BookStamp iWanted; // without digests when the document can't be read

@@ -92,7 +92,11 @@ BookStamp::Document BookStamp::documentAt(const QString& path, const BookStamp& 
         return {};
     Document found;
     found.size = info.st_size;
-    found.modified = qint64{info.st_mtim.tv_sec} * 1'000'000'000 + info.st_mtim.tv_nsec;
+    const auto nanoseconds = [](const timespec& time) {
+        return qint64{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+    };
+    // Programs can set the first when they write, but not the other.
+    found.modified = std::max(nanoseconds(info.st_mtim), nanoseconds(info.st_ctim));
     found.read = nanosecondsNow();
     const Document& known = earlier.document;
     const bool isKnown = known.size == found.size && known.modified == found.modified &&

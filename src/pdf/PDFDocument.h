@@ -35,6 +35,8 @@ public:
     // opened: what was read and drawn may then come from two different documents. The reason is
     // temporary, see Message.
     virtual void checkUnchanged() const;
+    // The state that counts as opened, for callers that read the file before.
+    void setOpenedState(const FileState& state) { iState = state; }
 
     virtual int pageCount() const = 0;
     // Throws PlatformException (pageMissing) unless there is a page at that zero-based index.

@@ -12,6 +12,9 @@ struct FileState {
     ino_t number = 0;
     off_t size = 0;
     std::int64_t written = 0; // nanoseconds
+    // Of the last change to the file or to what is known of it, which no program can set: others
+    // keep the time of modification when they write.
+    std::int64_t changed = 0;
 
     static FileState of(const QString& path);
 

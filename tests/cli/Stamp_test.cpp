@@ -99,3 +99,13 @@ TEST_F(StampTest, PagesAreNotDrawnAgainForAnotherTitle) {
         EXPECT_TRUE(contents() == kept);
     }
 }
+
+// The password is read between the two.
+TEST_F(StampTest, ADocumentThatChangesBetweenTheStampAndTheImportIsAnError) {
+    const auto result = Program::runOther(
+        "/bin/sh", {"-c",
+                    "cd \"$2\"; mkfifo word; { echo >>book.pdf; echo word; } >word &\n"
+                    "exec \"$1\" publish --quiet --password-file=\"$2/word\" \"$2/book.pdf\" book",
+                    "sh", Program::path(), iRoot.path()});
+    EXPECT_EQ(result.exitCode, 75) << result.errors.constData();
+}

@@ -5,10 +5,13 @@
 #include "support/RecordedLog.h"
 #include "webbook/FolveroOutputWeb.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <sys/stat.h>
 
 namespace {
 
@@ -39,11 +42,16 @@ protected:
             [action, step = 0](const Notification&) mutable { action(++step); });
     }
 
-    // Writes into the file, as a copy over it does.
+    // Writes into the file, as a copy over it does that keeps the time.
     void changeDocument() const {
         QFile file(iPath);
-        ASSERT_TRUE(file.open(QIODevice::Append));
-        file.write("% changed\n");
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        struct stat info {};
+        ::fstat(file.handle(), &info);
+        file.write("%");
+        file.close();
+        const timespec times[]{info.st_atim, info.st_mtim};
+        ::utimensat(AT_FDCWD, iPath.toUtf8().constData(), times, 0);
     }
 
     QTemporaryDir iFolder;
