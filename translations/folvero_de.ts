@@ -795,6 +795,10 @@
         <source>the program that draws pages can&apos;t be started</source>
         <translation>das Programm, das die Seiten zeichnet, lässt sich nicht starten</translation>
     </message>
+    <message>
+        <source>it was not drawn</source>
+        <translation>sie wurde nicht gezeichnet</translation>
+    </message>
 </context>
 <context>
     <name>PageRange</name>

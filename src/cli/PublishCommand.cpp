@@ -220,14 +220,11 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
     WebBookOptions::printEmbedSnippet(output);
 }
 
-// Pages that could not be drawn or whose file was gone before publishing are missing.
 MadeBook resultOf(const FolveroOutput& output, const Book& book) {
     MadeBook made;
     made.file = output.outputFileName();
     made.counts = output.fileCounts();
     made.pages = int(book.pageSource->pages().size());
-    for (const int page : output.missingPages())
-        made.failedPages[page] = QStringLiteral("its file is missing");
     for (const auto& page : book.converter->failedPages())
         made.failedPages[page.page] = page.reason.english();
     return made;

@@ -9,7 +9,10 @@
 #include "template/FlashTemplate.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <cerrno>
+#include <unistd.h>
 
 using Copy = PublishTransaction::Copy;
 using Phase = PublishTransaction::Phase;
@@ -39,6 +42,13 @@ bool replaceWithCopy(PublishTarget& to, const QString& source, const QString& fo
     }
     to.transaction.copy(source, target, kind);
     return true;
+}
+
+// A book without that page must not replace a good one.
+[[noreturn]] void failOfLost(const QString& path) {
+    errno = EIO; // unless the cause is still there
+    ::access(QFile::encodeName(path).constData(), R_OK);
+    PublishTransaction::fail(path, Message::ofLastSystemError());
 }
 
 void copySettingsFile(PublishTarget& to, const FlashTemplateProperty& property) {
@@ -85,8 +95,9 @@ void copyTemplateFile(PublishTarget& to, const FlashTemplate* flashTemplate, con
 
 } // namespace
 
-PublishStep BookSteps::pages(FlashPageSource::Pages pages, Copy kind, std::vector<int>& missing) {
-    return {"pages", [pages = std::move(pages), kind, &missing](PublishTarget& to) {
+PublishStep BookSteps::pages(FlashPageSource::Pages pages, const FlashPageSource* source, Copy kind,
+                             std::vector<int>& missing) {
+    return {"pages", [pages = std::move(pages), source, kind, &missing](PublishTarget& to) {
                 to.transaction.makeFolder(to.layout.at(BookLayout::pages, {}));
                 for (const auto& page : pages) {
                     if (!page)
@@ -95,6 +106,8 @@ PublishStep BookSteps::pages(FlashPageSource::Pages pages, Copy kind, std::vecto
                         QString::number(page->pageIndex()), page->pageFilePath());
                     if (replaceWithCopy(to, page->pageFilePath(), BookLayout::pages, name, kind))
                         continue;
+                    if (source && source->wasMade(page->pageIndex()))
+                        failOfLost(page->pageFilePath());
                     missing.push_back(page->pageIndex());
                     logger.warn(QStringLiteral("page %1 was left out, no file %2")
                                     .arg(page->pageIndex())

@@ -17,9 +17,10 @@ class FlashTemplateProperty;
 // step. A null template has no files.
 namespace BookSteps {
 
-// The page files, under their numbers. Adds the numbers of pages whose file is missing.
-PublishStep pages(FlashPageSource::Pages pages, PublishTransaction::Copy kind,
-                  std::vector<int>& missing);
+// The page files of a source, under their numbers. Adds the numbers of pages that have none; fails
+// when one that was made is lost.
+PublishStep pages(FlashPageSource::Pages pages, const FlashPageSource* source,
+                  PublishTransaction::Copy kind, std::vector<int>& missing);
 // Larger page files, into a folder that exists already.
 PublishStep zoomedPages(FlashPageSource::Pages pages);
 

@@ -94,7 +94,7 @@ PublishSteps FolveroOutput::steps() {
 PublishStep FolveroOutput::pages() {
     return BookSteps::pages(iBook.pageSource ? iBook.pageSource->normalPages()
                                              : FlashPageSource::Pages(),
-                            kindOfCopy(), iMissingPages);
+                            iBook.pageSource.get(), kindOfCopy(), iMissingPages);
 }
 
 PublishStep FolveroOutput::zoomedPages() const {

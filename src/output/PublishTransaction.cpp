@@ -62,6 +62,14 @@ void PublishTransaction::fail(const QString& path, const Message& cause) {
     throw PlatformException(ErrorKind::publishing, Message::about(path, cause));
 }
 
+QByteArray PublishTransaction::contents(const QString& path) {
+    Message error;
+    QByteArray bytes = Files::contents(path, &error);
+    if (!error.isNull())
+        fail(path, error);
+    return bytes;
+}
+
 PublishTransaction::PublishTransaction(const QString& folder, const QString& workingFolder)
     : iNamedFolder(folder.isEmpty() ? QStringLiteral(".") : QDir::cleanPath(folder)),
       iFolder(workingFolder.isNull() ? iNamedFolder : QDir::cleanPath(workingFolder)) {

@@ -66,6 +66,8 @@ public:
     const Counts& counts() const { return iCounts; }
 
     [[noreturn]] static void fail(const QString& path, const Message& cause);
+    // A file that was made for the book.
+    static QByteArray contents(const QString& path);
 
 private:
     struct Change {

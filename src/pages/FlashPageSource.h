@@ -53,6 +53,10 @@ public:
     virtual std::shared_ptr<FlashPage> getZoomedPageAtIndex(int pageIndex) const;
     virtual std::shared_ptr<FlashPage> getThumbPageAtIndex(int pageIndex) const;
 
+    // Whether the file of that page was made. One that can't be found any more was lost with its
+    // disk, or removed.
+    virtual bool wasMade(int /*page*/) const { return false; }
+
     // True when the page files are our own working files, which are never modified once written, so
     // that a publisher may hard-link them instead of copying.
     virtual bool ownsPageFiles() const { return false; }

@@ -95,6 +95,12 @@ std::optional<WebPageFiles> FlashPageSourcePDF::webFilesOf(int page) const {
     return filesOf(page);
 }
 
+bool FlashPageSourcePDF::wasMade(int page) const {
+    const auto& failed = iToPageConverter->failedPages();
+    return iPDFDoc && std::none_of(failed.begin(), failed.end(),
+                                   [page](const auto& one) { return one.page == page; });
+}
+
 // A page that could not be drawn won't be now, and one that is not a picture of ours has no such
 // files.
 std::vector<int> FlashPageSourcePDF::pagesWithout(PageFiles kind) const {

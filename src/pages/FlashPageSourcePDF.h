@@ -55,6 +55,7 @@ public:
     // Returns null once stop() is set.
     std::shared_ptr<FlashPage> getNormalPageAtIndex(int pageIndex) const override;
 
+    bool wasMade(int page) const override;
     bool ownsPageFiles() const override { return true; }
     std::optional<WebPageFiles> webFilesOf(int page) const override;
     std::map<int, Message> degradedPages() const override {

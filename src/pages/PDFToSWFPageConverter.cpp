@@ -111,12 +111,14 @@ void PDFToSWFPageConverter::makePage(int page) {
         throw PlatformException(ErrorKind::workFolder, result.error);
     if (iStop && *iStop)
         return; // no page's fault
-    const Message& failure = result.error.isNull() ? result.made.degraded : result.error;
+    const bool hasPicture = QFileInfo::exists(pictureOf(page));
+    Message failure = result.error.isNull() ? result.made.degraded : result.error;
+    // A worker that a document controls may answer anything.
+    if (failure.isNull() && !hasPicture)
+        failure = Message::translate("PageFailure", "it was not drawn");
     if (failure.isNull())
         return;
-    const bool hasPicture =
-        iFilesOf(page) != PageFiles::classic && QFileInfo::exists(pictureOf(page));
-    if (hasPicture)
+    if (hasPicture && iFilesOf(page) != PageFiles::classic)
         iDegradedPages[page] = failure;
     else
         iFailedPages.push_back({page, failure});

@@ -49,9 +49,16 @@ bool copyBytes(int from, int to) {
 
 } // namespace
 
-QByteArray Files::contents(const QString& path) {
+QByteArray Files::contents(const QString& path, Message* error) {
+    errno = 0;
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    const QByteArray bytes = isOpen ? file.readAll() : QByteArray();
+    if (isOpen && file.error() == QFile::NoError)
+        return bytes;
+    if (error)
+        *error = errno ? Message::ofLastSystemError() : Message(file.errorString());
+    return {};
 }
 
 bool Files::writeAtomically(const QString& path, const QByteArray& data, Message* error) {

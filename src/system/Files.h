@@ -9,8 +9,8 @@
 // Operations on whole files that never leave a half-written file behind.
 namespace Files {
 
-// The whole file; null when it can't be read.
-QByteArray contents(const QString& path);
+// The whole file; null when it can't be read, with the cause in *error (when given).
+QByteArray contents(const QString& path, Message* error = nullptr);
 
 // Writes a temporary file beside the target and renames it over the target. On failure the old file
 // is kept, the function returns false and sets *error (when given) to the cause.

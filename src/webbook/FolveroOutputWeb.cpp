@@ -81,7 +81,8 @@ void FolveroOutputWeb::addAddress(WebBook& book) const {
 PublishSteps FolveroOutputWeb::contents(const WebBook& book) {
     return {{"data of pages",
              [this, &book](PublishTarget& to) { WebBookSteps::writePages(to, book, iReport); }},
-            BookSteps::pages(book.pictures(), book.kindOfCopy, iMissingPages),
+            BookSteps::pages(book.pictures(), book.content.pageSource.get(), book.kindOfCopy,
+                             iMissingPages),
             BookSteps::settingsFiles(book.flashTemplate.get()),
             BookSteps::linkedFiles(book.content.annotations.get())};
 }

@@ -90,7 +90,7 @@ List listOf(const PublishTarget& to, const QString& page) {
         const Kind kind = kindOf(path, page);
         if (kind == Kind::none)
             continue;
-        const QByteArray bytes = Files::contents(staged);
+        const QByteArray bytes = PublishTransaction::contents(staged);
         parts[kind == Kind::shell ? 0 : partOf(path)][std::size_t(kind)]
             << member(path, digestOf(bytes));
         list.bytes += bytes.size();
@@ -154,9 +154,10 @@ QByteArray iconOf(const PublishTarget& to, const WebBook& book) {
         "<path d=\"M256 150c-48-32-96-32-144-16v228c48-16 96-16 144 16 48-32 96-32 "
         "144-16V134c-48-16-96-16-144 16z\" fill=\"#fff\" stroke=\"#2f5d7c\" "
         "stroke-width=\"12\"/>";
-    const QByteArray bytes = cover.isEmpty()
-                                 ? QByteArray()
-                                 : Files::contents(to.transaction.stagedFile(to.layout.at(cover)));
+    const QByteArray bytes =
+        cover.isEmpty()
+            ? QByteArray()
+            : PublishTransaction::contents(to.transaction.stagedFile(to.layout.at(cover)));
     if (!bytes.isEmpty())
         picture = "<image x=\"40\" y=\"40\" width=\"432\" height=\"432\" "
                   "href=\"data:image/jpeg;base64," +
@@ -178,15 +179,15 @@ void OfflineFiles::write(PublishTarget& to, const WebBook& book) {
     if (!book.metadata.offline)
         return;
     const QString page = book.htmlName();
-    const QByteArray script =
-        Files::contents(WebBookSteps::playerPart(to.layout, BookLayout::serviceWorker));
+    const QByteArray script = PublishTransaction::contents(
+        WebBookSteps::playerPart(to.layout, BookLayout::serviceWorker));
     const auto write = [&to](const QString& path, const QByteArray& data,
                              Phase phase = Phase::contents) {
         to.transaction.write(to.layout.at(path), data, phase);
     };
     write(BookLayout::icon, iconOf(to, book));
-    write(BookLayout::offlineScript,
-          Files::contents(WebBookSteps::playerPart(to.layout, BookLayout::offlineScript)));
+    write(BookLayout::offlineScript, PublishTransaction::contents(WebBookSteps::playerPart(
+                                         to.layout, BookLayout::offlineScript)));
     const List list = listOf(to, page);
     QByteArrayList parts;
     for (const auto& [number, files] : list.parts) {

@@ -1,6 +1,7 @@
 #include "webbook/SingleFilePage.h"
 
 #include "output/BookLayout.h"
+#include "output/PublishTransaction.h"
 #include "output/WebScript.h"
 #include "system/Files.h"
 #include "system/MediaType.h"
@@ -50,7 +51,7 @@ void SingleFilePage::addFile(const QString& path, const QString& source) {
     };
     if (BookLayout::isData(path)) {
         addText("<script type=\"application/json\"" + named(BookLayout::dataName(path)) + '>' +
-                WebScript::jsonIn(path, Files::contents(source)) + "</script>\n");
+                WebScript::jsonIn(path, PublishTransaction::contents(source)) + "</script>\n");
         return;
     }
     iParts.push_back({"<script type=\"text/plain\"" + named(BookLayout::inFiles(path)) +

@@ -35,8 +35,9 @@ constexpr Log logger("FolveroOutputWeb");
 std::vector<PDFTextLine> textFrom(const QString& path) {
     if (path.isNull())
         return {};
+    const QByteArray packed = PublishTransaction::contents(path);
     try {
-        return PDFSerialization::unpack<std::vector<PDFTextLine>>(Files::contents(path));
+        return PDFSerialization::unpack<std::vector<PDFTextLine>>(packed);
     } catch (const PlatformException& failure) {
         logger.warn(QStringLiteral("%1: %2").arg(path, failure.reason()));
         return {};
@@ -86,7 +87,8 @@ void PageWriter::copyLarge(const WebPage& page) {
     const QString kind = WebBook::largeKind(page);
     const QString path = BookLayout::largePage(page.number, kind);
     if (kind == u"js")
-        writeScript(path, "{\"svg\":\"" + Files::contents(page.large).toBase64() + "\"}");
+        writeScript(path,
+                    "{\"svg\":\"" + PublishTransaction::contents(page.large).toBase64() + "\"}");
     else
         copy(page.large, path);
 }
@@ -159,7 +161,7 @@ private:
 };
 
 QString textOfPlayerPart(const BookLayout& layout, const QString& path) {
-    return QString::fromUtf8(Files::contents(WebBookSteps::playerPart(layout, path)));
+    return QString::fromUtf8(PublishTransaction::contents(WebBookSteps::playerPart(layout, path)));
 }
 
 QString preload(const QString& picture, const char* priority) {
@@ -304,7 +306,7 @@ void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& 
         return;
     PagePlaces places = placesOf(book);
     const QByteArray configuration =
-        Files::contents(parts.stagedFile(to.layout.at(BookLayout::configuration)));
+        PublishTransaction::contents(parts.stagedFile(to.layout.at(BookLayout::configuration)));
     places.start = places.allowedScript(QStringLiteral("window.FolveroUserConfig = \"%1\";")
                                             .arg(QString::fromLatin1(configuration.toBase64())));
     places.head += QStringLiteral("<style>\n") + textOfPlayerPart(to.layout, BookLayout::webStyle) +

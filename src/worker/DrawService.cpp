@@ -40,7 +40,8 @@ void answer(const MadePage& made) {
 
 void servePages(PageMaker& maker) {
     const DrawControl control{nullptr, PDFLimits::maxPageTime};
-    for (std::string line; std::getline(std::cin, line);) {
+    // Without a way to answer it is of no use.
+    for (std::string line; std::cout && std::getline(std::cin, line);) {
         try {
             answer(maker.make(PageOrder::fromLine(QByteArray::fromStdString(line)), control));
         } catch (const PlatformException& failure) {

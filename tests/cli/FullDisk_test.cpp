@@ -8,6 +8,7 @@ namespace {
 // are the program, the folder of the book, a short document and a long one.
 const char steps[] = R"sh(
 set -e
+unset TMPDIR
 folvero=$1 book=$2 short=$3 long=$4
 files() { (cd "$book" && find . -type f -exec cksum {} + | sort); }
 first() { "$folvero" publish --quiet --type html "$short" "$book" >/dev/null && before=$(files); }
@@ -60,6 +61,11 @@ TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheDiskOfTheWorkFolderIsFull) 
                       "mount -t tmpfs none /tmp/Lumivex -o size=" +
                           disk + "; report\nfind /tmp/Lumivex -name 'temp.*'",
                       75, "/tmp/Lumivex/temp.", "No space left on device");
+    const auto elsewhere = run("mount -t tmpfs none \"$book\"; mkdir -p /tmp/Lumivex\n"
+                               "mount -t tmpfs none /tmp/Lumivex -o size=40k\n"
+                               "export TMPDIR=$book; second; echo $code; ls -A /tmp/Lumivex $book");
+    EXPECT_TRUE(elsewhere.output.startsWith("0\n") && !elsewhere.output.contains("temp."))
+        << elsewhere.output.constData() << elsewhere.errors.constData();
 }
 
 TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheFolderBecomesReadOnlyMeanwhile) {

@@ -176,6 +176,25 @@ TEST_F(ImportPDFOperationTest, GivesNoPagesOfADocumentThatIsChangedMeanwhile) {
     EXPECT_TRUE(operation->failures()[0].isTemporary());
 }
 
+TEST_F(ImportPDFOperationTest, GivesNoBookWithoutPagesThatWereLost) {
+    const auto operation = import();
+    operation->setFilesOf(webFiles);
+    operation->main();
+    const WebPageFiles files = *operation->flashPageSource()->webFilesOf(2);
+    for (const QString& lost : {files.picture, files.text}) {
+        QFile::rename(lost, lost + ".lost");
+        if (lost == files.text)
+            QDir().mkdir(lost); // can't be read
+        FolveroOutputWeb output(nullptr, nullptr, iFolder.path(), QString());
+        output.setBook(operation->book());
+        output.ouputTheBook();
+        ASSERT_EQ(output.publishErrors().size(), 1);
+        EXPECT_TRUE(output.publishErrors()[0].startsWith(lost + ": "))
+            << output.publishErrors()[0].toStdString();
+        QFile::rename(lost + ".lost", lost);
+    }
+}
+
 TEST_F(ImportPDFOperationTest, GivesNoWebBookOfADocumentThatIsChangedAfterwards) {
     const auto operation = import();
     operation->main();
