@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Builds the parts of the player that web books have beside the page's own: web.js and web.css, early.js for the
-head of their page, and what books that readers can keep have beside these: offline.js and the service worker, sw.js.
+"""Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
+pages, early.js for the head of their page, and what books that readers can keep have beside these: offline.js and the
+service worker, sw.js.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
-The first three may be put into a page, which passes through a text template: they hold neither its
+The first four may be put into a page, which passes through a text template: they hold neither its
 placeholders nor anything that ends the element around them.
 """
 
@@ -28,6 +29,7 @@ def main():
     scripts = {"web.js": ("main.js", "WEB_TEXTS", "web"), "offline.js": ("offlinepart.js", "OFFLINE_TEXTS", "offline")}
     parts = {name: bundled(esbuild, player / "web" / first, (define, texts.table(player, section)))
              for name, (first, define, section) in scripts.items()}
+    parts["vectors.js"] = bundled(esbuild, player / "web/vectorspart.js")
     parts["early.js"] = minified_script(esbuild, player / "earlyweb.js")
     parts["web.css"] = joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])
     output.mkdir(parents=True, exist_ok=True)

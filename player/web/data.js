@@ -1,3 +1,5 @@
+import { fileAddress } from '../src/book/values.js';
+
 /** @typedef {import('./singlefile.js').SingleFile} SingleFile */
 
 /**
@@ -20,9 +22,26 @@ export class DataFiles {
    * @returns {Promise<unknown>}
    */
   load(name) {
+    return this.#once(name, () => (this.single ? this.single.data(name) : this.#run(name)));
+  }
+
+  /**
+   * What a script of the player hands over.
+   * @param {string} name
+   * @returns {Promise<unknown>}
+   */
+  run(name) {
+    return this.#once(name, () => this.#run(name));
+  }
+
+  /**
+   * @param {string} name
+   * @param {() => Promise<unknown>} start
+   */
+  #once(name, start) {
     const waiting = this.waiting.get(name);
     if (waiting) return waiting.promise;
-    const promise = (this.single ? this.single.data(name) : this.#run(name))
+    const promise = start()
       .finally(() => this.waiting.delete(name));
     const entry = this.waiting.get(name);
     if (entry) entry.promise = promise;
@@ -40,7 +59,7 @@ export class DataFiles {
       script.onload = () => reject(new Error(name + ' is broken'));
       script.onerror = () => reject(new Error(name + ' is missing'));
     });
-    script.src = 'files/' + name + '.js';
+    script.src = fileAddress(name + '.js');
     document.head.append(script);
     return promise.finally(() => script.remove());
   }

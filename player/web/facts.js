@@ -6,7 +6,7 @@
  * @property {Entry[]} children
  */
 
-/** Data that hold an SVG file, and pictures. */
+/** Data that hold vectors, and pictures. */
 const LARGE_KINDS = ['js', 'png', 'jpg'];
 
 const PANELS = ['contents', 'thumbs'];

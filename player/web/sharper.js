@@ -1,7 +1,5 @@
-import { bytesOf } from '../src/book/base64.js';
 import { part } from '../src/book/dom.js';
 import { fileAddress } from '../src/book/values.js';
-import { fieldsOf, textOf } from './facts.js';
 
 /** @typedef {import('./layers.js').Layers} Layers */
 /** @typedef {'left' | 'right'} Side */
@@ -105,12 +103,22 @@ export class Sharper {
    */
   async #show(image, file) {
     const [, data] = /^(.*)\.js$/.exec(file) ?? [];
-    image.src = data ? await vectorsIn(await this.files.load(data)) : fileAddress(file);
+    image.src = data ? await this.#vectors(data) : fileAddress(file);
     try {
       await image.decode();
     } finally {
       if (data) URL.revokeObjectURL(image.src);
     }
+  }
+
+  /**
+   * URL of an SVG file.
+   * @param {string} name of the data from which it is made
+   */
+  async #vectors(name) {
+    const [svgOf, data] = await Promise.all([this.files.run('vectors'), this.files.load(name)]);
+    const svg = await /** @type {typeof import('./vectors.js').svgOf} */ (svgOf)(data);
+    return URL.createObjectURL(new Blob([svg], { type: 'image/svg+xml' }));
   }
 
   /** @param {Side} side */
@@ -120,14 +128,4 @@ export class Sharper {
     image?.remove();
     if (image && !image.complete) image.removeAttribute('src');
   }
-}
-
-/**
- * URL of an SVG file.
- * @param {unknown} data which hold the file as zlib packs it
- */
-async function vectorsIn(data) {
-  const packed = new Blob([/** @type {BlobPart} */ (bytesOf(textOf(fieldsOf(data).svg)))]);
-  const unpacked = new Response(packed.stream().pipeThrough(new DecompressionStream('deflate')));
-  return URL.createObjectURL(new Blob([await unpacked.blob()], { type: 'image/svg+xml' }));
 }

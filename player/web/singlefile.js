@@ -1,4 +1,4 @@
-import { bytesOf } from '../src/book/base64.js';
+import { bytesOf } from './base91.js';
 
 /** Object URLs kept at a time; loaded images no longer need theirs. */
 const MOST_ADDRESSES = 40;
@@ -51,7 +51,7 @@ export class SingleFile {
     if (!address) {
       const element = this.#element(path);
       if (!element) return undefined;
-      const bytes = bytesOf((element.textContent ?? '').trim());
+      const bytes = bytesOf(element.textContent ?? '');
       const type = element.dataset.type ?? '';
       address = URL.createObjectURL(new Blob([/** @type {BlobPart} */ (bytes)], { type }));
     }

@@ -26,7 +26,7 @@ struct WebPageFiles {
         pageFile = start + QStringLiteral(".jpg");
         picture = start + QStringLiteral(".png");
         thumbnail = start + QStringLiteral(".thumb.jpg");
-        largeVector = start + QStringLiteral(".large.svgz");
+        largeVector = start + QStringLiteral(".large.vectors");
         largePicture = start + QStringLiteral(".large.png");
         largePhotograph = start + QStringLiteral(".large.jpg");
         text = start + QStringLiteral(".text");
@@ -43,7 +43,7 @@ struct WebPageFiles {
     QString pageFile;        // "N.jpg", the page of every kind of book
     QString picture;         // of a page of few colours: as sharp, in a third of the bytes
     QString thumbnail;       // fits into WebPageMaker's thumbnail box
-    QString largeVector;     // an SVG file as zlib packs it. Shown when the page is enlarged:
+    QString largeVector;     // as VectorEncoder packs them. Shown when the page is enlarged:
     QString largePicture;    // at most
     QString largePhotograph; // one of the three exists
     QString text;            // as packed by PDFSerialization; the last one to be written

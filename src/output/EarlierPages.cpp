@@ -2,6 +2,7 @@
 
 #include "output/WebScript.h"
 #include "system/Files.h"
+#include "util/Base91.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -50,8 +51,9 @@ bool EarlierPages::takeWebPage(int page, const WebPageFiles& files) const {
 bool EarlierPages::takeVectors(int page, const QString& to) const {
     const QString path = BookLayout::largePage(page, QStringLiteral("js"));
     const QByteArray json = WebScript::jsonIn(path, Files::contents(iLayout.at(path)));
-    const QJsonValue packed = QJsonDocument::fromJson(json).object().value(QStringLiteral("svg"));
-    const QByteArray vectors = QByteArray::fromBase64(packed.toString().toLatin1());
+    const QJsonObject data = QJsonDocument::fromJson(json).object();
+    const QString packed = data.value(QStringLiteral("vectors")).toString();
+    const QByteArray vectors = Base91::decode(packed.toLatin1());
     return !vectors.isEmpty() &&
            Files::writeWorkingFile(to, {reinterpret_cast<const unsigned char*>(vectors.data()),
                                         std::size_t(vectors.size())});

@@ -81,9 +81,9 @@ QStringList ForeignFiles::ofBook(const BookLayout& book, const FlashTemplate* fl
 
 QStringList ForeignFiles::ofWebBook(const BookLayout& book) {
     QStringList found =
-        inFiles(book, {BookLayout::webStyle, BookLayout::webScript, BookLayout::metadata,
-                       BookLayout::icon, BookLayout::offlineScript, BookLayout::offlineList,
-                       BookLayout::searchText, BookLayout::shareImage});
+        inFiles(book, {BookLayout::webStyle, BookLayout::webScript, BookLayout::vectorScript,
+                       BookLayout::metadata, BookLayout::icon, BookLayout::offlineScript,
+                       BookLayout::offlineList, BookLayout::searchText, BookLayout::shareImage});
     for (const auto& folder : {BookLayout::thumbnails, BookLayout::largePages, BookLayout::texts,
                                BookLayout::webData, BookLayout::search})
         found += inFiles(book, folder, BookLayout::namesIn(folder));

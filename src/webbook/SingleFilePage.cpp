@@ -5,6 +5,7 @@
 #include "output/WebScript.h"
 #include "system/Files.h"
 #include "system/MediaType.h"
+#include "util/Base91.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,8 +13,8 @@
 
 namespace {
 
-// Bytes converted to base64 at a time: a multiple of three.
-constexpr qint64 pieceBytes = 3 << 16;
+// Bytes encoded at a time.
+constexpr qint64 pieceBytes = Base91::pieceBytes << 14;
 
 // These are inlined differently, or left out.
 bool isOfPage(const QString& path) {
@@ -21,12 +22,12 @@ bool isOfPage(const QString& path) {
            path == BookLayout::webScript || path == BookLayout::webStyle;
 }
 
-bool writeInBase64(const QString& source, QFile& to) {
+bool writeEncoded(const QString& source, QFile& to) {
     QFile from(source);
     if (!from.open(QIODevice::ReadOnly))
         return false;
     while (!from.atEnd()) {
-        const QByteArray piece = from.read(pieceBytes).toBase64();
+        const QByteArray piece = Base91::encode(from.read(pieceBytes));
         if (piece.isEmpty() || to.write(piece) != piece.size())
             return false;
     }
@@ -64,7 +65,7 @@ qint64 SingleFilePage::size() const {
     qint64 size = 0;
     for (const Part& part : iParts) {
         const qint64 bytes = part.source.isNull() ? 0 : QFileInfo(part.source).size();
-        size += part.text.size() + (bytes + 2) / 3 * 4;
+        size += part.text.size() + Base91::encodedSize(bytes);
     }
     return size;
 }
@@ -75,7 +76,7 @@ bool SingleFilePage::write(const QString& path, Message* error) const {
     bool written = file.open(QIODevice::WriteOnly);
     for (const Part& part : iParts) {
         written = written && file.write(part.text) == part.text.size() &&
-                  (part.source.isNull() || writeInBase64(part.source, file));
+                  (part.source.isNull() || writeEncoded(part.source, file));
     }
     written = written && file.flush();
     if (!written)

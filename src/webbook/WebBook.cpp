@@ -121,7 +121,7 @@ FlashPageSource::Pages WebBook::pictures() const {
 
 QString WebBook::largeKind(const WebPage& page) {
     const QString extension = Files::pathExtension(page.large);
-    return extension == u"svgz" ? QStringLiteral("js") : extension;
+    return extension == u"vectors" ? QStringLiteral("js") : extension;
 }
 
 QString WebBook::picturePath(const WebPage& page) {

@@ -35,8 +35,8 @@ struct WebBook {
     bool isOpen(const WebPage& page) const;
     // The pictures of the included pages.
     FlashPageSource::Pages pictures() const;
-    // The extension in the book of a page's larger picture, which it has. Browsers show a packed
-    // SVG file from some servers only, and none from disk: it becomes a script.
+    // The extension in the book of a page's larger picture, which it has. Vectors become a
+    // script, since browsers load no other data from disk.
     static QString largeKind(const WebPage& page);
     // Paths in the book of a page's picture, and of what is shown as its thumbnail.
     static QString picturePath(const WebPage& page);

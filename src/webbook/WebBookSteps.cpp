@@ -10,6 +10,7 @@
 #include "system/Bundle.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
+#include "util/Base91.h"
 #include "webbook/PlainTextPage.h"
 #include "webbook/SingleFilePage.h"
 #include "webbook/StartList.h"
@@ -87,8 +88,8 @@ void PageWriter::copyLarge(const WebPage& page) {
     const QString kind = WebBook::largeKind(page);
     const QString path = BookLayout::largePage(page.number, kind);
     if (kind == u"js")
-        writeScript(path,
-                    "{\"svg\":\"" + PublishTransaction::contents(page.large).toBase64() + "\"}");
+        writeScript(path, "{\"vectors\":\"" +
+                              Base91::encode(PublishTransaction::contents(page.large)) + "\"}");
     else
         copy(page.large, path);
 }
@@ -295,7 +296,8 @@ void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBo
 }
 
 void WebBookSteps::copyPlayer(PublishTarget& to) {
-    for (const QString& path : {BookLayout::webScript, BookLayout::webStyle})
+    for (const QString& path :
+         {BookLayout::webScript, BookLayout::vectorScript, BookLayout::webStyle})
         to.transaction.copy(playerPart(to.layout, path), to.layout.at(path), Copy::independent);
 }
 
@@ -319,6 +321,7 @@ void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& 
     std::map<QString, QString> files;
     for (const auto& [target, staged] : parts.stagedFiles())
         files.emplace(QDir(to.layout.folder()).relativeFilePath(target), staged);
+    files.emplace(BookLayout::vectorScript, playerPart(to.layout, BookLayout::vectorScript));
     const SingleFilePage single(page.left(end).toUtf8(), files, page.mid(end).toUtf8());
     if (single.size() > limit)
         PublishTransaction::fail(book.htmlFile, tooLarge(single.size(), limit));

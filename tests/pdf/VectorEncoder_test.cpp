@@ -5,7 +5,7 @@
 #include "pdf/DrawablePage.h"
 #include "support/PixelCheck.h"
 #include "support/TemplateLibrary.h"
-#include "util/NSData+CocoaDevUsersAdditions.h"
+#include "util/Base91.h"
 
 #include <QImage>
 #include <QTemporaryDir>
@@ -16,11 +16,15 @@ namespace {
 
 constexpr QSize size(320, 240);
 
-// What librsvg shows of the vectors of a page, which must have some.
-QImage shown(const QByteArray& svg, const QString& folder) {
-    TestFiles::write(folder + "/page.svg", svg);
-    const QString command = "cd '%1' && rsvg-convert --width=320 --output=page.png page.svg";
-    EXPECT_EQ(std::system(command.arg(folder).toUtf8().constData()), 0);
+// What librsvg shows of the file that the player makes of vectors.
+QImage shown(const QByteArray& vectors, const QString& folder) {
+    TestFiles::write(folder + "/page.json", R"({"vectors":")" + Base91::encode(vectors) + "\"}");
+    const QString command =
+        "cd '%1' && node --input-type=module --eval \"import { svgOf } from '%2/web/vectors.js'; "
+        "import { readFileSync as read, writeFileSync as write } from 'fs'; "
+        "write('page.svg', await svgOf(JSON.parse(read('page.json'))))\" && "
+        "rsvg-convert --width=320 --output=page.png page.svg";
+    EXPECT_EQ(std::system(command.arg(folder, FOLVERO_PLAYER_DIR).toUtf8().constData()), 0);
     return QImage(folder + "/page.png");
 }
 
@@ -30,6 +34,7 @@ TEST(VectorEncoder, ShowsWhatIsDrawn) {
     const std::pair<const char*, QByteArray> contents[] = {
         {"text",
          "1 0 0 rg BT /F 60 Tf 0.7 0.3 -0.3 0.7 30 20 Tm (Mix) Tj 1.5 0 0 1 20 60 Tm (gap) Tj ET"},
+        {"moved glyphs", "BT /F 50 Tf 55 TL 5 75 Td [(L) -900 (LI)] TJ (HLI) ' ET"},
         {"stroked text", "0 0.5 0 RG 3 w 1 Tr BT /F 70 Tf 10 30 Td (Oh) Tj ET"},
         {"curves", "0 0 1 rg 10 10 m 150 10 150 110 80 110 c 30 110 10 80 10 10 c f"},
         {"even-odd", "0.2 g 10 10 120 90 re 40 30 60 50 re f*"},
@@ -88,8 +93,7 @@ TEST(VectorEncoder, ShowsWhatIsDrawn) {
         page.draw(2, bitmap);
         ASSERT_EQ(QSize(bitmap.width(), bitmap.height()), size);
         const QImage drawn = imageOf(bitmap);
-        const QImage seen =
-            shown(NSDataExtension::zlibInflate(encoder.encode(page)), folder.path());
+        const QImage seen = shown(encoder.encode(page), folder.path());
         ASSERT_EQ(seen.size(), size);
         EXPECT_LT(difference(fromAfar(drawn, size / 4), fromAfar(seen, size / 4)), 32);
         QImage blank(size, QImage::Format_RGB32);

@@ -6,6 +6,7 @@
 #include "pages/FlashPageSourcePDF.h"
 #include "support/BookReader.h"
 #include "support/PublishedBook.h"
+#include "util/Base91.h"
 
 #include <QTest>
 #include <QtWidgets>
@@ -50,7 +51,7 @@ protected:
     }
     OutputWindow& window() { return sheet->window(); }
     void openForWebBook() {
-        for (const char* part : {"web.js", "web.css", "offline.js", "sw.js"})
+        for (const char* part : {"web.js", "web.css", "vectors.js", "offline.js", "sw.js"})
             book.library.addFile(QString("AppFiles/Web/") + part, part);
         open();
         window().mOutputType->button(OutputWindow::webBook)->click();
@@ -240,7 +241,7 @@ TEST_F(PublishSheet, OffersAWebBookInOneFileAndTheTextToEmbedIt) {
     EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
     EXPECT_EQ(QDir(book.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{"mybook.html"});
-    EXPECT_TRUE(book.read("mybook.html").contains(QByteArray("first").toBase64()));
+    EXPECT_TRUE(book.read("mybook.html").contains(Base91::encode("first")));
 }
 
 TEST_F(PublishSheet, RemembersTheChoicesAlsoWhenPublishingFails) {

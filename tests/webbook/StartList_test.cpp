@@ -12,7 +12,7 @@ TEST(StartList, HasPagesAndLabelsInRuns) {
         page.number = number;
         page.picture = QStringLiteral("/work/%1.%2").arg(number).arg(number == 5 ? "jpg" : "png");
         page.thumbnail = number == 9 ? QString() : QStringLiteral("t.jpg");
-        page.large = number < 8 ? QStringLiteral("l.svgz") : QString();
+        page.large = number < 8 ? QStringLiteral("l.vectors") : QString();
         book.pages.push_back(page);
     }
     book.metadata.labels = QStringList{"A-9", "A-10", "007", "${x}<", "9999999999"};

@@ -6,7 +6,7 @@ test('files of a book in one file have addresses as long as they are near', asyn
   const file = (name, textContent, type) => ({ dataset: { file: name, type }, textContent });
   const names = ['extfiles/wall.png', ...Array.from({ length: 60 }, (_, index) => `page/${index}.jpg`)];
   globalThis.document = { readyState: 'complete',
-    querySelectorAll: () => [...names.map((name) => file(name, ' AQID\n', 'image/png')), file('web/book', '{"a":1}')] };
+    querySelectorAll: () => [...names.map((name) => file(name, '#C9^', 'image/png')), file('web/book', '{"a":1}')] };
   const gone = [];
   URL.revokeObjectURL = (address) => gone.push(address);
   const single = new SingleFile();

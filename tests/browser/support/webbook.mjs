@@ -24,6 +24,15 @@ export function typedPage(texts, { size = [6000, 8000], links = [], left = 600, 
   return { size, lines, links: areas };
 }
 
+/** Bytes as a web book has them in texts: 13 bits in two letters, and a letter more if that is a byte too many. */
+export function asciiOf(bytes) {
+  const letters = Array.from({ length: 92 }, (_, at) => String.fromCharCode(35 + at)).join('').replace('\\', '').replace('<', '!');
+  const bits = [...bytes].map((byte) => byte.toString(2).padStart(8, '0')).join('');
+  const text = (bits.match(/.{1,13}/g) ?? []).map((pair) => parseInt(pair.padEnd(13, '0'), 2))
+    .map((pair) => letters[Math.floor(pair / 91)] + letters[pair % 91]).join('');
+  return text + (Math.floor(text.length * 13 / 16) > bytes.length ? '#' : '');
+}
+
 /** Text of a page as the text for searching has it. */
 function stringOf({ lines = [] } = {}) {
   return lines.map(({ 6: words }) => words.filter((_, index) => index % 3 === 0).join('')).join('\n');
@@ -54,7 +63,7 @@ function dataOf({
  * Makes a published classic book one of the web kind.
  * description: pages: { size, lines, links } by position; labels, outline, open, language and
  * textPage as in the book's facts; inPart: pages whose text is in one file for searching;
- * large: { kind, bytes } by position, or svg for bytes; web: folder with the built web.js and web.css.
+ * large: { kind, bytes } by position, or svg for bytes; web: folder with the built parts of the player.
  */
 export async function makeWebBook(folder, description) {
   const { web, large = [] } = description;
@@ -63,7 +72,7 @@ export async function makeWebBook(folder, description) {
     .map((name) => mkdir(path.join(files, name), { recursive: true })));
   for (const [index, picture] of large.entries()) {
     if (!picture) continue;
-    const { kind, svg = '', bytes = `folveroData("large/${index + 1}", {"svg":"${deflateSync(svg).toString('base64')}"});` } = picture;
+    const { kind, svg = '', bytes = `folveroData("large/${index + 1}", {"vectors":"${asciiOf(deflateSync(svg))}"});` } = picture;
     await writeFile(path.join(files, 'large', `${index + 1}.${kind}`), bytes);
   }
   const page = path.join(folder, 'index.html');
@@ -71,7 +80,7 @@ export async function makeWebBook(folder, description) {
   for (const [name, value] of Object.entries(dataOf(description))) {
     await writeFile(path.join(files, `${name}.js`), `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});`);
   }
-  for (const name of ['web.js', 'web.css']) await copyFile(path.join(web, name), path.join(files, name));
+  for (const name of ['web.js', 'web.css', 'vectors.js']) await copyFile(path.join(web, name), path.join(files, name));
   const tags = '<link rel="stylesheet" href="files/web.css">\n<script src="files/web.js"></script>\n';
   await writeFile(page, html.replace('</head>', () => `${tags}</head>`));
   return folder;
