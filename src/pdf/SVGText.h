@@ -46,6 +46,21 @@ public:
             *this << " ";
         return *this << number;
     }
+    // Of the Basic Multilingual Plane, in UTF-8.
+    SVGText& letter(unsigned code) {
+        constexpr unsigned mark = 0x80; // of a byte that is not the first one
+        const auto rest = [code](int shift) {
+            return char(mark | (code >> shift & (mark / 2 - 1)));
+        };
+        const char one[]{char(code)};
+        const char two[]{char(0xC0 | code >> 6), rest(0)};
+        const char three[]{char(0xE0 | code >> 12), rest(6), rest(0)};
+        if (code < 0x80)
+            return *this << std::string_view(one, sizeof(one));
+        if (code < 0x800)
+            return *this << std::string_view(two, sizeof(two));
+        return *this << std::string_view(three, sizeof(three));
+    }
     // With at most six digits, without an exponent.
     SVGText& operator<<(float number) {
         char text[64];

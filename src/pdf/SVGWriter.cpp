@@ -5,18 +5,15 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace {
 
 // A larger file would take a browser seconds to draw.
 constexpr std::size_t maxBytes = std::size_t{1} << 20;
 
-// The outlines of a document's glyphs that are kept from page to page.
-constexpr std::size_t maxOutlines = 10'000;
-
-// Units of the file's numbers: of a point, and of an em in the definitions of glyphs.
+// Units of the file's numbers.
 constexpr float unitsPerPoint = 100;
-constexpr float unitsPerEm = 1000;
 
 // Thinner lines vanish where a page is small.
 constexpr float thinnestLine = 0.1F * unitsPerPoint;
@@ -34,19 +31,10 @@ bool keepsCircles(const fz_matrix& matrix) {
 } // namespace
 
 SVGWriter::SVGWriter(fz_context* ofEngine)
-    : iContext(ofEngine), iBody(maxBytes), iDefinitions(maxBytes), iOutline(maxBytes) {}
-
-void SVGWriter::forgetFonts() {
-    for (const auto& entry : iOutlines)
-        fz_drop_font(iContext, entry.first.first);
-    iOutlines.clear();
-}
+    : iContext(ofEngine), iGlyphs(ofEngine), iBody(maxBytes), iClip(maxBytes) {}
 
 void SVGWriter::begin(fz_rect page, std::size_t mostPictureBytes) {
-    if (iOutlines.size() > maxOutlines)
-        forgetFonts();
-    iNames.clear();
-    iGlyphs = 0;
+    iGlyphs.begin();
     iClips = 0;
     iLevels.clear();
     iPictureElements.clear();
@@ -56,11 +44,10 @@ void SVGWriter::begin(fz_rect page, std::size_t mostPictureBytes) {
     iToUnits = fz_concat(fz_translate(-page.x0, -page.y0), fz_scale(unitsPerPoint, unitsPerPoint));
     iIsCorrect = true;
     iBody.clear();
-    iDefinitions.clear();
 }
 
 bool SVGWriter::isCorrect() const {
-    return iIsCorrect && !iBody.isFull() && !iDefinitions.isFull();
+    return iIsCorrect && !iBody.isFull() && !iGlyphs.isFull();
 }
 
 fz_rect SVGWriter::visible() const {
@@ -115,43 +102,19 @@ void SVGWriter::writeMatrix(const fz_matrix& matrix) {
           << matrix.d << " " << matrix.e << " " << matrix.f << ")\"";
 }
 
-// The outline of a glyph; null when it can't be written.
-const std::string* SVGWriter::outlineOf(fz_font* font, int glyph) {
-    const GlyphKey key{font, glyph};
-    if (const auto known = iOutlines.find(key); known != iOutlines.end())
-        return &known->second;
-    fz_path* path = nullptr;
-    fz_var(path);
-    fz_try(iContext) {
-        path = fz_outline_glyph(iContext, font, glyph, fz_identity);
+// Moves the pen to where the glyph is, unless nobody sees the difference, and beyond it.
+void SVGWriter::writeGlyph(const PageGlyphs::Glyph& glyph, fz_point place, Pen& pen) {
+    constexpr int smallest = 2; // step that is seen
+    const int right = roundedUnits(place.x) - pen.x;
+    const int down = roundedUnits(place.y) - pen.y;
+    if (std::abs(right) >= smallest || std::abs(down) >= smallest) {
+        iBody << right;
+        if (down != 0)
+            iBody << "," << down;
+        pen = {pen.x + right, pen.y + down};
     }
-    fz_catch(iContext) {
-        return nullptr;
-    }
-    iOutline.clear();
-    if (path)
-        writePath(iContext, path, fz_scale(unitsPerEm, unitsPerEm), iOutline);
-    fz_drop_path(iContext, path);
-    if (iOutline.isFull())
-        return nullptr;
-    const auto added = iOutlines.emplace(key, iOutline.view()).first;
-    fz_keep_font(iContext, font);
-    return &added->second;
-}
-
-// The number of a glyph in the file, where it is defined then; 0 for one that draws nothing.
-int SVGWriter::nameOf(fz_font* font, int glyph) {
-    const auto [found, isNew] = iNames.try_emplace({font, glyph}, 0);
-    if (!isNew)
-        return found->second;
-    const std::string* path = outlineOf(font, glyph);
-    if (!path)
-        giveUp();
-    if (!path || path->empty())
-        return 0;
-    found->second = ++iGlyphs;
-    iDefinitions << "<path id=\"g" << iGlyphs << "\" d=\"" << *path << "\"/>\n";
-    return iGlyphs;
+    iBody.letter(PageGlyphs::letterOf(glyph));
+    pen.x += glyph.advance;
 }
 
 void SVGWriter::text(const fz_text& text, const fz_matrix& matrix, const SVGPaint& paint) {
@@ -163,9 +126,9 @@ void SVGWriter::text(const fz_text& text, const fz_matrix& matrix, const SVGPain
     }
 }
 
-// A group in whose units an em is as large as in the glyphs' definitions.
 void SVGWriter::writeSpan(const fz_text_span& span, const fz_matrix& matrix,
                           const SVGPaint& paint) {
+    constexpr float unitsPerEm = PageGlyphs::unitsPerEm;
     fz_matrix placement = span.trm; // of a glyph
     placement.e = 0;
     placement.f = 0;
@@ -173,6 +136,7 @@ void SVGWriter::writeSpan(const fz_text_span& span, const fz_matrix& matrix,
     const fz_matrix toPage = fz_concat(matrix, iToUnits);
     fz_matrix group = fz_pre_scale(fz_concat(placement, toPage), 1 / unitsPerEm, 1 / unitsPerEm);
     fz_matrix toGroup{};
+    Pen pen;
     bool hasBegun = false;
     for (int i = 0; i < span.len; ++i) {
         const fz_text_item& item = span.items[i];
@@ -181,8 +145,10 @@ void SVGWriter::writeSpan(const fz_text_span& span, const fz_matrix& matrix,
         if (item.gid < 0 ||
             isOutside(fz_bound_glyph(iContext, span.font, item.gid, fz_concat(placement, matrix))))
             continue;
-        const int name = nameOf(span.font, item.gid);
-        if (name == 0)
+        const PageGlyphs::Glyph* glyph = iGlyphs.find(span.font, item.gid);
+        if (!glyph)
+            return giveUp();
+        if (glyph->index < 0)
             continue;
         const fz_point place = fz_transform_point_xy(item.x, item.y, toPage);
         if (!std::exchange(hasBegun, true)) {
@@ -193,15 +159,9 @@ void SVGWriter::writeSpan(const fz_text_span& span, const fz_matrix& matrix,
             iBody << "<g";
             writePaint(paint, em > 0 ? unitsPerEm / em : 1);
             writeMatrix(group);
-            iBody << ">\n";
+            iBody << ">";
         }
-        const fz_point offset = fz_transform_point(place, toGroup);
-        iBody << "<use href=\"#g" << name << "\"";
-        if (const int x = roundedUnits(offset.x); x != 0)
-            iBody << " x=\"" << x << "\"";
-        if (const int y = roundedUnits(offset.y); y != 0)
-            iBody << " y=\"" << y << "\"";
-        iBody << "/>\n";
+        writeGlyph(*glyph, fz_transform_point(place, toGroup), pen);
     }
     if (hasBegun)
         iBody << "</g>\n";
@@ -252,19 +212,19 @@ void SVGWriter::picture(SVGDrawing drawing) {
 }
 
 void SVGWriter::beginClip(const fz_path* path, bool isEvenOdd, const fz_matrix& matrix) {
-    iOutline.clear();
-    writePath(iContext, path, fz_concat(matrix, iToUnits), iOutline);
+    iClip.clear();
+    writePath(iContext, path, fz_concat(matrix, iToUnits), iClip);
     const fz_rect bounds = fz_bound_path(iContext, path, nullptr, matrix);
     // Most clip to all of the page.
-    const bool isAll = fz_contains_rect(bounds, iPage) != 0 && isBox(iOutline.view());
+    const bool isAll = fz_contains_rect(bounds, iPage) != 0 && isBox(iClip.view());
     iLevels.push_back({fz_intersect_rect(bounds, visible()), !isAll});
     if (isAll)
         return;
     ++iClips;
     iBody << "<clipPath id=\"c" << iClips << "\"><path"
-          << (isEvenOdd ? " clip-rule=\"evenodd\"" : "") << " d=\"" << iOutline.view()
+          << (isEvenOdd ? " clip-rule=\"evenodd\"" : "") << " d=\"" << iClip.view()
           << "\"/></clipPath><g clip-path=\"url(#c" << iClips << ")\">\n";
-    if (iOutline.isFull())
+    if (iClip.isFull())
         giveUp();
 }
 
@@ -293,7 +253,7 @@ std::string SVGWriter::file() const {
          // On white, like the page's other pictures: it may be shown on top of one of them.
          << "<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>\n<defs>\n";
     std::string text(head.view());
-    return text.append(iDefinitions.view())
+    return text.append(iGlyphs.lines())
         .append(iPictureElements)
         .append("</defs>\n")
         .append(iBody.view())

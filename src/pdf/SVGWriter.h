@@ -1,12 +1,11 @@
 #pragma once
 
+#include "pdf/PageGlyphs.h"
 #include "pdf/SVGPictures.h"
 #include "pdf/SVGText.h"
 
-#include <map>
 #include <mupdf/fitz.h>
 #include <string>
-#include <utility>
 #include <vector>
 
 // How a text or a path is painted.
@@ -18,15 +17,17 @@ struct SVGPaint {
     const fz_stroke_state* stroke; // null to fill
 };
 
-// Writes SVG files, one page after the other, in which each glyph is defined once. It is called
-// from MuPDF's C functions: exceptions must not pass through these. Errors of MuPDF do pass through
-// its functions, which own nothing then.
+// Writes the vectors of pages, one after the other: SVG files, but for their glyphs, which are
+// defined in lines of their own (see PageGlyphs), and the texts, which are runs of these. A run is
+// the text of a "g" element in whose units an em is as large as in the advances of glyphs. It has
+// the glyphs' letters. Where the pen has to be moved, which each glyph does by its advance, the
+// distance stands before the letter: "x" or "x,y".
+//
+// It is called from MuPDF's C functions: exceptions must not pass through these. Errors of MuPDF do
+// pass through its functions, which own nothing then.
 class SVGWriter {
 public:
     explicit SVGWriter(fz_context* ofEngine);
-    ~SVGWriter() { forgetFonts(); }
-    SVGWriter(const SVGWriter&) = delete;
-    SVGWriter& operator=(const SVGWriter&) = delete;
 
     // Begins the file of a page with these bounds. Its pictures may take so many bytes.
     void begin(fz_rect page, std::size_t mostPictureBytes);
@@ -49,22 +50,22 @@ public:
     std::string file() const;
 
 private:
-    using GlyphKey = std::pair<fz_font*, int>;
+    // Of a run, in its units.
+    struct Pen {
+        int x = 0;
+        int y = 0;
+    };
 
-    void forgetFonts();
     bool isOutside(fz_rect area) const;
     fz_rect visible() const;
     void writePaint(const SVGPaint& paint, float strokeScale);
     void writeStroke(const fz_stroke_state& stroke, float scale);
     void writeMatrix(const fz_matrix& matrix);
     void writeSpan(const fz_text_span& span, const fz_matrix& matrix, const SVGPaint& paint);
-    const std::string* outlineOf(fz_font* font, int glyph);
-    int nameOf(fz_font* font, int glyph);
+    void writeGlyph(const PageGlyphs::Glyph& glyph, fz_point place, Pen& pen);
 
     fz_context* iContext;
-    std::map<GlyphKey, std::string> iOutlines; // of all pages
-    std::map<GlyphKey, int> iNames;            // of the glyphs of this page; 0 for empty ones
-    int iGlyphs = 0;
+    PageGlyphs iGlyphs;
     int iClips = 0;
     // A clip or group that has begun.
     struct Level {
@@ -76,8 +77,7 @@ private:
     fz_matrix iToUnits{};
     bool iIsCorrect = true;
     SVGText iBody;
-    SVGText iDefinitions;
-    SVGText iOutline;
+    SVGText iClip;
     SVGPictures iPictures;
     std::string iPictureElements; // their definitions
     std::size_t iMostPictureBytes = 0;

@@ -8,9 +8,9 @@
 class DrawablePage;
 class SVGWriter;
 
-// Writes pages as SVG files, in which each glyph is defined once; images and gradients are pictures
-// in them. Reuse one object for the pages of a document, which must outlive it: it keeps the
-// glyphs' outlines.
+// Writes pages as vectors, from which the player makes SVG files: see SVGWriter. Images and
+// gradients are pictures in them. Reuse one object for the pages of a document, which must outlive
+// it: it keeps the glyphs' outlines.
 class VectorEncoder {
 public:
     VectorEncoder();
