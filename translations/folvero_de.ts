@@ -344,6 +344,17 @@
             <numerusform>%n weitere Seiten konnten nicht gezeichnet werden.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Page %1 could not be drawn completely: %2</source>
+        <translation>Seite %1 ließ sich nicht vollständig zeichnen: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more page(s) could not be drawn completely.</source>
+        <translation>
+            <numerusform>%n weitere Seite ließ sich nicht vollständig zeichnen.</numerusform>
+            <numerusform>%n weitere Seiten ließen sich nicht vollständig zeichnen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -798,6 +809,18 @@
     <message>
         <source>it was not drawn</source>
         <translation>sie wurde nicht gezeichnet</translation>
+    </message>
+    <message>
+        <source>an image can&apos;t be read completely</source>
+        <translation>ein Bild lässt sich nicht vollständig lesen</translation>
+    </message>
+    <message>
+        <source>a font can&apos;t be read</source>
+        <translation>eine Schrift lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>some of its data is damaged</source>
+        <translation>ein Teil ihrer Daten ist beschädigt</translation>
     </message>
 </context>
 <context>

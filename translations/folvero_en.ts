@@ -10,6 +10,13 @@
             <numerusform>%n more pages could not be drawn.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n more page(s) could not be drawn completely.</source>
+        <translation>
+            <numerusform>%n more page could not be drawn completely.</numerusform>
+            <numerusform>%n more pages could not be drawn completely.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SelectTemplateWindowDelegate</name>

@@ -227,17 +227,23 @@ MadeBook resultOf(const FolveroOutput& output, const Book& book) {
     made.pages = int(book.pageSource->pages().size());
     for (const auto& page : book.converter->failedPages())
         made.failedPages[page.page] = page.reason.english();
+    for (const auto& [page, reason] : book.converter->damagedPages())
+        made.damagedPages[page] = reason.english();
     return made;
 }
 
 // What is wrong although the book was made; none when nothing is.
 std::optional<CommandError> troubleWith(const MadeBook& made) {
     QStringList lines;
-    if (!made.failedPages.empty())
-        lines << QStringLiteral("the book was made, but %1 of its pages could not be drawn:")
-                     .arg(made.failedPages.size());
-    for (const auto& [page, reason] : made.failedPages)
-        lines << QStringLiteral("  page %1: %2").arg(page).arg(reason);
+    const auto list = [&lines](const std::map<int, QString>& pages, const QString& what) {
+        if (!pages.empty())
+            lines << QStringLiteral("the book was made, but %1 of its pages %2:")
+                         .arg(QString::number(pages.size()), what);
+        for (const auto& [page, reason] : pages)
+            lines << QStringLiteral("  page %1: %2").arg(page).arg(reason);
+    };
+    list(made.failedPages, QStringLiteral("could not be drawn"));
+    list(made.damagedPages, QStringLiteral("could not be drawn completely"));
     if (!made.reportError.isNull())
         lines << QStringLiteral("the book was made, but not its report: %1")
                      .arg(made.reportError.english());
@@ -307,7 +313,8 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
     MadeBook made = resultOf(*output, book);
     if (web)
         reportWebBook(*web, options, made);
-    if (made.failedPages.empty() && made.degradedPages.empty() && operation->failures().isEmpty())
+    if (made.code() == ExitCode::ok && made.degradedPages.empty() &&
+        operation->failures().isEmpty())
         stamp.write();
     return made;
 }

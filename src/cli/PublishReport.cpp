@@ -95,6 +95,7 @@ Message PublishReport::writeMade(const MadeBook& book, const PublishTiming& timi
         return write("upToDate", ExitCode::ok, timing);
     iContent[QStringLiteral("pages")] = book.pages;
     iContent[QStringLiteral("failedPages")] = asJson(book.failedPages);
+    iContent[QStringLiteral("damagedPages")] = asJson(book.damagedPages);
     iContent[QStringLiteral("degradedPages")] = asJson(book.degradedPages);
     iContent[QStringLiteral("files")] = asJson(countsOf(book));
     return write("made", book.code(), timing);

@@ -20,10 +20,13 @@ struct MadeBook {
     // Reasons by page number: pages that are missing from the book, and those with a picture only.
     std::map<int, QString> failedPages;
     std::map<int, QString> degradedPages;
+    std::map<int, QString> damagedPages; // that lack what is damaged in the document
     Message reportError; // why there is no report; null when there is one, or none is wanted
 
     // Of the pages, whatever came of the report.
-    ExitCode code() const { return failedPages.empty() ? ExitCode::ok : ExitCode::incomplete; }
+    ExitCode code() const {
+        return failedPages.empty() && damagedPages.empty() ? ExitCode::ok : ExitCode::incomplete;
+    }
 };
 
 // The file of --report: what came of a run, as JSON for programs. Without that option nothing is

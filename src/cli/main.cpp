@@ -260,7 +260,7 @@ int run(int argc, char** argv) {
         },
         "Log in detail to standard error");
     app.footer(
-        "Exit codes: 0 done; 3 the book was made, but pages are missing from it; nothing was "
+        "Exit codes: 0 done; 3 the book was made, but pages are missing or incomplete; nothing was "
         "made:\n2 command line not understood, 65 the document is at fault, 77 it needs a "
         "password,\n75 trying again may help, 130 cancelled, 1 any other error.");
     addPublish(app, line.publish);

@@ -1,7 +1,6 @@
 #include "drawing/PageMaker.h"
 
 #include "base/PlatformException.h"
-#include "base/Stopwatch.h"
 
 namespace {
 
@@ -23,22 +22,29 @@ PageMaker::PageMaker(const DrawablePDF& document, QString folder, int quality)
       iWebPageMaker(iEncoder, iFactor) {}
 
 MadePage PageMaker::make(const PageOrder& order, const DrawControl& control) {
-    const WebPageFiles files(iFolder, order.page);
     MadePage made;
     Stopwatch watch;
     const DrawablePage drawn(iDocument, order.cut, control,
                              order.wanted == PageFiles::classic
                                  ? DrawablePage::Content::pictures
                                  : DrawablePage::Content::picturesAndText);
+    makeFiles(drawn, order, watch, made);
+    made.damage = drawn.damage();
+    return made;
+}
+
+void PageMaker::makeFiles(const DrawablePage& drawn, const PageOrder& order, Stopwatch& watch,
+                          MadePage& made) {
+    const WebPageFiles files(iFolder, order.page);
     if (order.wanted == PageFiles::text) {
         iWebPageMaker.makeText(drawn, files, made.timing);
-        return made;
+        return;
     }
     drawn.draw(pixelsPerPoint, iBitmap);
     made.timing.draw = watch.lap();
     if (order.wanted == PageFiles::classic) {
         makePageFile(files.pageFile, made.timing);
-        return made;
+        return;
     }
     const qint64 size = iWebPageMaker.makePicture(drawn, iBitmap, files, made.timing);
     try {
@@ -51,7 +57,6 @@ MadePage PageMaker::make(const PageOrder& order, const DrawControl& control) {
         made.degraded =
             Message::translate("PageFailure", "it takes more memory than a page may have");
     }
-    return made;
 }
 
 void PageMaker::makePageFile(const QString& path, PageTiming& timing) {

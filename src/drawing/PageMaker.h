@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
+#include "base/Stopwatch.h"
 #include "drawing/PageOrder.h"
 #include "drawing/PageTiming.h"
 #include "drawing/WebPageFiles.h"
@@ -15,6 +16,7 @@
 struct MadePage {
     PageTiming timing;
     Message degraded; // why not all of the web book's files were made; null when they were
+    PageDamage damage;
 };
 
 // Makes the files of pages: interprets a page once, draws and encodes it, and writes the files.
@@ -31,6 +33,8 @@ public:
     MadePage make(const PageOrder& order, const DrawControl& control = {});
 
 private:
+    void makeFiles(const DrawablePage& drawn, const PageOrder& order, Stopwatch& watch,
+                   MadePage& made);
     void makePageFile(const QString& path, PageTiming& timing);
 
     const DrawablePDF& iDocument;

@@ -191,9 +191,9 @@ void PageWorkers::readStartupLine(Worker& worker, const QByteArray& line) {
     iFailedStarts = 0;
 }
 
-// An answer is "ok DRAW ENCODE WRITE" in seconds, with a reason if files for a web book are
-// missing, "fail REASON", or, when the files can't be written, "full REASON" (may succeed later) or
-// "unwritable REASON". It refers to the first requested page.
+// "damaged WORDS" may come before an answer. An answer is "ok DRAW ENCODE WRITE" in seconds, with a
+// reason if files for a web book are missing, "fail REASON", or, when the files can't be written,
+// "full REASON" (may succeed later) or "unwritable REASON". It refers to the first requested page.
 void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     if (!worker.ready) {
         readStartupLine(worker, line);
@@ -201,8 +201,13 @@ void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
     }
     if (worker.pages.empty())
         return;
-    PageResult& result = iResults[worker.pages.front()];
     const auto fields = line.split(' ');
+    if (fields[0] == "damaged") {
+        worker.damage = PageDamage::fromWords(line);
+        return;
+    }
+    PageResult& result = iResults[worker.pages.front()];
+    result.made.damage = std::exchange(worker.damage, {});
     if (fields[0] == "ok" && fields.size() >= 4) {
         result.made.timing = {fields[1].toDouble(), fields[2].toDouble(), fields[3].toDouble()};
         if (fields.size() > 4)

@@ -73,10 +73,11 @@ private:
         bool ready = false;     // the document is open
         std::deque<int> pages;  // requested; the first one is being drawn
         std::chrono::steady_clock::time_point since;
+        PageDamage damage; // of the first page
     };
 
     static Worker newWorker(std::unique_ptr<ChildProcess> process) {
-        return {std::move(process), false, false, {}, {}};
+        return {std::move(process), false, false, {}, {}, {}};
     }
     std::unique_ptr<ChildProcess> startProcess() const;
     void feed(Worker& worker);

@@ -116,6 +116,8 @@ void PDFToSWFPageConverter::makePage(int page) {
     // A worker that a document controls may answer anything.
     if (failure.isNull() && !hasPicture)
         failure = Message::translate("PageFailure", "it was not drawn");
+    if (hasPicture && !result.made.damage.isNone())
+        iDamagedPages[page] = result.made.damage.message();
     if (failure.isNull())
         return;
     if (hasPicture && iFilesOf(page) != PageFiles::classic)

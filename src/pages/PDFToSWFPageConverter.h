@@ -56,6 +56,9 @@ public:
     // Pages with a picture that lack files of a web book, by their one-based numbers.
     const std::map<int, Message>& degradedPages() const { return iDegradedPages; }
 
+    // What the document lacks of pages that were drawn, by their one-based numbers.
+    const std::map<int, Message>& damagedPages() const { return iDamagedPages; }
+
     // Makes what a kind of book needs of these pages, which were made for another kind. Returns
     // early when stop is set. progress gets the number of pages done. Throws PlatformException when
     // the work folder can't be written.
@@ -85,6 +88,7 @@ private:
     const std::atomic<bool>* iStop = nullptr;
     std::vector<FailedPage> iFailedPages;
     std::map<int, Message> iDegradedPages;
+    std::map<int, Message> iDamagedPages;
     PageTiming iTiming;
     std::size_t iWorkerCount = 0;
 };

@@ -2,6 +2,7 @@
 
 #include "pdf/PDFText.h"
 #include "pdf/PageCut.h"
+#include "pdf/PageDamage.h"
 #include "picture/PageBitmap.h"
 
 #include <QByteArray>
@@ -52,6 +53,10 @@ public:
     std::vector<PDFTextLine> text() const;
 
     PageDetail detail() const;
+
+    // What was not drawn so far because the document is damaged. For the last page that was made of
+    // a document.
+    PageDamage damage() const;
 
     // Of a page that shows a scanned image and nothing else, at the image's own resolution: its
     // JPEG file as the page shows it, empty for other pages and where that would take decoding.

@@ -97,15 +97,20 @@ DrawablePage::DrawablePage(const DrawablePDF& document, PageCut cut, const DrawC
     : iRecording(std::make_unique<Recording>(document.engine(), control)) {
     Recording& recording = *iRecording;
     document.requirePage(cut.index);
+    recording.engine.beginPage();
     pdf_obj* object = recording.engine.pageObject(cut.index);
     recording.engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         recording.load(ctx, cut, object, content);
-        recording.record(ctx);
+        recording.record(ctx, object);
     });
     recording.watch.throwIfEnded();
 }
 
 DrawablePage::~DrawablePage() = default;
+
+PageDamage DrawablePage::damage() const {
+    return iRecording->engine.damage();
+}
 
 double DrawablePage::width() const {
     return double(iRecording->bounds.x1) - iRecording->bounds.x0;

@@ -42,16 +42,6 @@ void countedFree(void* user, void* memory) {
     std::free(memory);
 }
 
-// Called from MuPDF's C code, so no exception may escape.
-void logMuPDFMessage(void* /*user*/, const char* message) noexcept {
-    try {
-        if (logger.isDebugEnabled())
-            logger.debug(QString::fromUtf8(message));
-    } catch (const std::exception&) {
-        return; // losing a warning is harmless
-    }
-}
-
 bool hasPDFHeader(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) && file.read(1024).contains("%PDF-");
@@ -64,8 +54,8 @@ PDFEngine::PDFEngine() {
     context = fz_new_context(&allocator, nullptr, PDFLimits::maxStoreSize);
     if (!context)
         throw std::bad_alloc();
-    fz_set_warning_callback(context, logMuPDFMessage, nullptr);
-    fz_set_error_callback(context, logMuPDFMessage, nullptr);
+    fz_set_warning_callback(context, readMessage, this);
+    fz_set_error_callback(context, readMessage, this);
 }
 
 PDFEngine::~PDFEngine() {
@@ -73,6 +63,26 @@ PDFEngine::~PDFEngine() {
     fz_drop_context(context);
     if (mapping)
         ::munmap(mapping, mappingSize);
+}
+
+// Called from MuPDF's C code, so no exception may escape.
+void PDFEngine::readMessage(void* engine, const char* message) noexcept {
+    static_cast<PDFEngine*>(engine)->iDamage.add(message);
+    try {
+        if (logger.isDebugEnabled())
+            logger.debug(QString::fromUtf8(message));
+    } catch (const std::exception&) {
+        return; // losing a warning is harmless
+    }
+}
+
+// MuPDF is silent about a message that it has just given, and about what it has kept of damaged
+// images and fonts. Each page that shows them is to be reported.
+void PDFEngine::beginPage() const {
+    if (!iDamage.isNone())
+        fz_empty_store(context);
+    fz_flush_warnings(context);
+    iDamage = {};
 }
 
 void PDFEngine::open(const QString& path, bool mapped, const QByteArray& password) {

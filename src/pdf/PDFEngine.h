@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/PlatformException.h"
+#include "pdf/PageDamage.h"
 
 #include <QByteArray>
 #include <QString>
@@ -79,6 +80,10 @@ public:
         return object([&](fz_context* ctx) { return pdf_resolve_indirect(ctx, reference); });
     }
 
+    // Begins to collect in damage() what is wrong with a page.
+    void beginPage() const;
+    const PageDamage& damage() const { return iDamage; }
+
     // The text of the MuPDF error just caught.
     Message caughtReason() const;
 
@@ -107,6 +112,8 @@ public:
     std::size_t mappingSize = 0;
 
 private:
+    // Called by MuPDF.
+    static void readMessage(void* engine, const char* message) noexcept;
     void map(const QString& path);
     void openDocument(fz_context* ctx, const char* path);
     void unlock(const QString& path, const QByteArray& password);
@@ -131,4 +138,5 @@ private:
     // lookup, and all names for a missing one.
     mutable std::unordered_map<int, int> pageNumbers;
     mutable std::map<QByteArray, PDFTarget> namedTargets;
+    mutable PageDamage iDamage;
 };

@@ -2,11 +2,16 @@
 
 #include "pdf/ForwardingDevice.h"
 
+#include <utility>
+
 namespace {
 
 // Colour values closer together than this count as gray: one step of an 8-bit channel, which is
 // invisible.
 constexpr float grayTolerance = 1.0F / 256;
+
+// Of forms in forms. Each may be in many others.
+constexpr int maxResourceDepth = 3;
 
 using ErrorText = std::array<char, 256>;
 
@@ -92,6 +97,35 @@ void dropLinks(fz_context* ctx, pdf_obj* page) {
     runAndDrop(ctx, keepOthers, [&] { pdf_drop_obj(ctx, kept); });
 }
 
+bool isUnreadableImage(fz_context* ctx, pdf_obj* object) {
+    bool isUnreadable = false;
+    fz_var(isUnreadable);
+    fz_try(ctx) {
+        fz_drop_image(ctx, pdf_load_image(ctx, pdf_get_bound_document(ctx, object), object));
+    }
+    fz_catch(ctx) {
+        isUnreadable = fz_caught(ctx) == FZ_ERROR_GENERIC;
+    }
+    return isUnreadable;
+}
+
+// Removes them from the resources of a page and of the forms in it. Whether there were any.
+bool dropUnreadableImages(fz_context* ctx, pdf_obj* resources, int depth) {
+    pdf_obj* objects = pdf_dict_get(ctx, resources, PDF_NAME(XObject));
+    bool hasDropped = false;
+    for (int i = pdf_dict_len(ctx, objects) - 1; i >= 0 && depth > 0; --i) {
+        pdf_obj* object = pdf_dict_get_val(ctx, objects, i);
+        if (!pdf_name_eq(ctx, pdf_dict_get(ctx, object, PDF_NAME(Subtype)), PDF_NAME(Image))) {
+            pdf_obj* inner = pdf_dict_get(ctx, object, PDF_NAME(Resources));
+            hasDropped = dropUnreadableImages(ctx, inner, depth - 1) || hasDropped;
+        } else if (isUnreadableImage(ctx, object)) {
+            pdf_dict_del(ctx, objects, pdf_dict_get_key(ctx, objects, i));
+            hasDropped = true;
+        }
+    }
+    return hasDropped;
+}
+
 } // namespace
 
 DrawablePage::Recording::~Recording() {
@@ -111,14 +145,44 @@ void DrawablePage::Recording::load(fz_context* ctx, PageCut cut, pdf_obj* object
         bounds.x1 = middle;
     else if (cut.part == PageCut::Part::right)
         bounds.x0 = middle;
+    makeLists(ctx, content);
+}
+
+// Empty ones, in place of those that there are.
+void DrawablePage::Recording::makeLists(fz_context* ctx, Content content) {
+    fz_drop_display_list(ctx, std::exchange(list, nullptr));
+    fz_drop_stext_page(ctx, std::exchange(text, nullptr));
     list = fz_new_display_list(ctx, bounds);
     if (content == Content::picturesAndText)
         text = fz_new_stext_page(ctx, bounds);
+    isColour = 0;
+    textError = {};
+}
+
+// MuPDF gives up a page at an image whose dictionary or header makes no sense.
+void DrawablePage::Recording::record(fz_context* ctx, pdf_obj* object) {
+    ErrorText error{};
+    int kind = FZ_ERROR_NONE;
+    fz_var(kind);
+    fz_try(ctx) {
+        interpret(ctx);
+    }
+    fz_catch(ctx) {
+        kind = fz_caught(ctx);
+        fz_strlcpy(error.data(), fz_caught_message(ctx), error.size());
+    }
+    if (kind == FZ_ERROR_NONE)
+        return;
+    pdf_obj* resources = pdf_dict_get_inheritable(ctx, object, PDF_NAME(Resources));
+    if (kind != FZ_ERROR_GENERIC || !dropUnreadableImages(ctx, resources, maxResourceDepth))
+        fz_throw(ctx, kind, "%s", error.data());
+    makeLists(ctx, text ? Content::picturesAndText : Content::pictures);
+    interpret(ctx);
 }
 
 // The texts do not come from the list: it leaves out those in empty clips and invisible ones of
 // fonts without outlines, which scanned pages have.
-void DrawablePage::Recording::record(fz_context* ctx) {
+void DrawablePage::Recording::interpret(fz_context* ctx) {
     fz_device* recorder = nullptr;
     fz_device* test = nullptr;
     fz_device* texts = nullptr;

@@ -16,7 +16,7 @@ struct DrawablePage::Recording {
 
     // Interprets the page, once. Both functions raise MuPDF errors.
     void load(fz_context* ctx, PageCut cut, pdf_obj* object, Content content);
-    void record(fz_context* ctx);
+    void record(fz_context* ctx, pdf_obj* object);
 
     // What is looked at: all that a whole page has, even where it lies outside.
     fz_rect area() const { return isHalf ? bounds : fz_infinite_rect; }
@@ -32,4 +32,8 @@ struct DrawablePage::Recording {
     bool hasPlainGroup = false;
     fz_stext_page* text = nullptr;     // null when not asked for
     std::array<char, 256> textError{}; // why it is not complete; empty when it is
+
+private:
+    void makeLists(fz_context* ctx, Content content);
+    void interpret(fz_context* ctx);
 };

@@ -15,6 +15,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <algorithm>
+#include <ranges>
 #include <span>
 
 namespace {
@@ -245,6 +246,14 @@ void ImportWindowDelegate::reportFailedPages() {
                          .arg(QString::number(page.page), page.reason.local());
     if (failed.size() > told)
         iFailures << tr("%n more page(s) could not be drawn.", nullptr, int(failed.size() - told));
+    const auto& damaged = iBook.converter->damagedPages();
+    const auto shown = std::min(damaged.size(), maxPagesShown);
+    for (const auto& [page, reason] : std::views::take(damaged, shown))
+        iFailures << tr("Page %1 could not be drawn completely: %2")
+                         .arg(QString::number(page), reason.local());
+    if (damaged.size() > shown)
+        iFailures << tr("%n more page(s) could not be drawn completely.", nullptr,
+                        int(damaged.size() - shown));
 }
 
 void ImportWindowDelegate::storePageSize() const {

@@ -32,6 +32,8 @@ const char* kindOf(const PlatformException& failure) {
 }
 
 void answer(const MadePage& made) {
+    if (!made.damage.isNone())
+        std::cout << "damaged " << made.damage.words().constData() << '\n';
     std::cout << "ok " << made.timing.draw << ' ' << made.timing.encode << ' ' << made.timing.write;
     if (!made.degraded.isNull())
         std::cout << ' ' << onOneLine(made.degraded.english());

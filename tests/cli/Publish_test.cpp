@@ -1,6 +1,8 @@
 #include "builder/PDFBuilder.h"
 #include "cli/BookTest.h"
 
+#include <QJsonDocument>
+
 namespace {
 
 class PublishTest : public BookTest {
@@ -25,6 +27,20 @@ TEST_F(PublishTest, TakesThePageSizeOfTheFirstPageThatCanBeRead) {
     EXPECT_TRUE(result.errors.contains("page 1: malformed page tree")) << result.errors.constData();
     EXPECT_EQ(pages(), "2.jpg");
     EXPECT_EQ(BookReader::configuration(book()).textAt("Ppts/Ppt/Normal/Width"), "210");
+}
+
+TEST_F(PublishTest, NamesPagesThatAreDamaged) {
+    PDFBuilder pdf;
+    pdf.addPage(PDFBuilder::page({300, 400}, "/Gone Do"));
+    ASSERT_TRUE(pdf.write(path("torn.pdf")));
+    for (int run = 0; run < 2; ++run) { // the second makes it anew
+        const auto result = publish(path("torn.pdf"), {"--report=" + path("report.json")});
+        EXPECT_EQ(result.exitCode, 3);
+        EXPECT_TRUE(result.errors.contains("\n  page 1: an image can't be read completely\n"))
+            << result.errors.constData();
+        const auto report = QJsonDocument::fromJson(TestFiles::read(path("report.json")));
+        EXPECT_EQ(report["damagedPages"][0]["page"].toInt(), 1);
+    }
 }
 
 TEST_F(PublishTest, ReadsFromRightToLeftAsTheDocumentAsksUnlessOptionsSayOtherwise) {

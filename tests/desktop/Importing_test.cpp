@@ -93,11 +93,12 @@ TEST_F(Importing, PageThatCouldNotBeDrawnIsNamedAboveTheBook) {
         const int missing = torn.addMissingPage();
         torn.setObject(torn.pageObject(missing), "<< /Type /Pages /Count 1 /Kids [] >>");
     }
-    torn.addPage(PDFBuilder::page({300, 400}));
+    torn.addPage(PDFBuilder::page({300, 400}, "/Gone Do"));
     ASSERT_TRUE(torn.write(path("torn.pdf")));
     import(path("torn.pdf"));
     const QString message = window().messages->message();
-    EXPECT_TRUE(message.contains("\nPage 5 could") && message.contains("\n2 more page"))
+    EXPECT_TRUE(message.contains("\nPage 5 could") && message.contains("\n2 more page") &&
+                message.contains("\nPage 8 could not be drawn completely: an image"))
         << message.toStdString();
 }
 

@@ -67,12 +67,14 @@ TEST_F(PageWorkersTest, KeepsThePageFileOfAPageThatEndsAWorkerLater) {
     const auto workers = start(3, "cd \"${0%/*}\"\necho ready\nwhile read page kind; do\n"
                                   "[ $kind = web ] && :>$page.text\n"
                                   "case $page in 1) :>1.jpg; exit 1;; 2) exit 1;; esac\n"
+                                  "echo damaged images unknown\n"
                                   "echo ok 0 0 0 too large\ndone\n");
     for (int page = 1; page <= 3; ++page) {
         const auto result = workers->waitFor(page);
         ASSERT_TRUE(result);
         EXPECT_EQ(result->error.isNull(), page == 3) << page;
         EXPECT_EQ(result->made.degraded.english(), page == 3 ? "too large" : QString()) << page;
+        EXPECT_EQ(result->made.damage.words(), page == 3 ? "images" : "") << page;
         EXPECT_EQ(QFile::exists(iFolder.filePath(QString("%1.text").arg(page))), page == 3) << page;
     }
     EXPECT_TRUE(QFile::exists(iFolder.filePath("1.jpg")));

@@ -277,6 +277,49 @@ TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
     EXPECT_EQ(bitmap.width(), PDFLimits::maxBitmapSide);
 }
 
+TEST_F(PDFDocumentTest, SaysWhatOfAPageIsDamagedAndDrawsTheRest) {
+    const QByteArray pixels(100, 'x');
+    const QByteArray packed = qCompress(pixels, 0).mid(4); // as they are
+    const struct {
+        QByteArray entries, data, damage;
+    } cases[] = {{"/Width 10", pixels, ""},
+                 {"/Width 10 /Filter /FlateDecode", packed.chopped(4) + "sums", ""},
+                 {"/Width 10 /Filter /FlateDecode", packed.left(50), "images data"},
+                 {"/Width 10", pixels.left(50), "images"},
+                 {"/Width 0", pixels, "images"},
+                 {"/Width 10 /Filter /JPXDecode", pixels, "images"},
+                 {"/Width 10 /Filter /JBIG2Decode", pixels, "images"},
+                 {"/Width 10 /Filter /Unknown", pixels, "data"}};
+    // Odd, but nothing is missing.
+    const QByteArray content = "/No gs 5 5 l S ] BT /No 9 Tf (a) Tj ET what /I Do ";
+    PDFBuilder::Page page = PDFBuilder::page(pageSize, content + redCorner);
+    for (const auto& [entries, data, damage] : cases) {
+        page.xObjects["I"] = builder.addStream("/Subtype /Image /Height 10 /BitsPerComponent 8 "
+                                               "/ColorSpace /DeviceGray " +
+                                                   entries,
+                                               data);
+        builder.addPage(page);
+        builder.addPage(page);
+    }
+    const int file = builder.addStream("", "no font");
+    page = PDFBuilder::page(pageSize, redCorner + QByteArray(" BT /F 9 Tf (a) Tj ET"));
+    page.fontObjects["F"] =
+        builder.addObject("<< /Type /Font /Subtype /TrueType /BaseFont /A /FontDescriptor "
+                          "<< /FontName /A /FontFile2 " +
+                          PDFBuilder::reference(file) + " >> >>");
+    builder.addPage(page);
+    const auto document = open();
+    for (int i = 0; i < document->pageCount(); ++i) {
+        PageBitmap bitmap;
+        const DrawablePage drawn(*document, i);
+        drawn.draw(1, bitmap);
+        EXPECT_TRUE(isNear(colourAt(imageOf(bitmap), 0.1, 0.9), Qt::red)) << i;
+        EXPECT_EQ(drawn.damage().words(),
+                  std::size_t(i / 2) < std::size(cases) ? cases[i / 2].damage : "fonts")
+            << i;
+    }
+}
+
 TEST_F(PDFDocumentTest, EndsADrawingThatTakesTooLongOrIsStopped) {
     builder.addPage(
         PDFBuilder::page(pageSize, QByteArray("0 0 200 100 re f ").repeated(3'000'000)));
