@@ -822,6 +822,14 @@
         <source>some of its data is damaged</source>
         <translation>ein Teil ihrer Daten ist beschädigt</translation>
     </message>
+    <message>
+        <source>the program that draws pages wrote more than pages need</source>
+        <translation>das Programm, das Seiten zeichnet, hat mehr geschrieben, als Seiten brauchen</translation>
+    </message>
+    <message>
+        <source>the program that draws pages wrote a file that is none of a page</source>
+        <translation>das Programm, das Seiten zeichnet, hat eine Datei geschrieben, die keine einer Seite ist</translation>
+    </message>
 </context>
 <context>
     <name>PageRange</name>

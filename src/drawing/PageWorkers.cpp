@@ -60,7 +60,8 @@ PageWorkers::PageWorkers(QString pdfPath, QString folder, int quality, std::vect
       iWaiting(pages.begin(), pages.end()),
       iStop(stop),
       iPageCount(pages.size()),
-      iTimeout(defaultTimeout) {}
+      iTimeout(defaultTimeout),
+      iFolderLimit(iFolder, iPageCount) {}
 
 PageWorkers::~PageWorkers() {
     killAll();
@@ -121,6 +122,14 @@ std::optional<PageResult> PageWorkers::waitFor(int page) {
             if (!iHasSandboxed)
                 return PageResult{notStarted().temporary(), {}, true};
             return PageResult{iOpenError.isNull() ? crashReason() : iOpenError, {}};
+        }
+        if (iFolderLimit.isExceeded()) {
+            killAll();
+            return PageResult{
+                Message::translate("PageFailure",
+                                   "the program that draws pages wrote more than pages need"),
+                {},
+                true};
         }
         collect();
     }

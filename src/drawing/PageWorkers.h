@@ -3,6 +3,7 @@
 #include "base/Message.h"
 #include "drawing/PageMaker.h"
 #include "drawing/SpareWorkers.h"
+#include "drawing/WorkFolderLimit.h"
 #include "system/ChildProcess.h"
 
 #include <QString>
@@ -109,7 +110,8 @@ private:
     std::size_t iPageCount;
     int iJobs = usualWorkerCount();
     std::chrono::milliseconds iTimeout;
-    int iFailedStarts = 0;      // consecutive workers that ended before they were ready
+    int iFailedStarts = 0; // consecutive workers that ended before they were ready
+    WorkFolderLimit iFolderLimit;
     bool iCanRun = true;        // false when workers can't run on this system
     bool iHasSandboxed = false; // a worker has entered its sandbox
     Message iOpenError;         // why a worker could not open the document

@@ -2,12 +2,16 @@
 
 #include "base/Log.h"
 #include "base/PlatformException.h"
+#include "drawing/PageFileCheck.h"
 #include "pdf/PDFLimits.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 PDFToSWFPageConverter::~PDFToSWFPageConverter() {
@@ -31,11 +35,16 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
                                       const std::atomic<bool>& stop) {
     iStop = &stop;
     std::vector<int> toDraw;
+    std::set<int> movies;
     for (const int page : pages) {
-        if (PDFDoc() && page >= 1 && page <= PDFDoc()->pageCount() &&
-            !QFileInfo::exists(workFile(page, "swf")))
+        if (hasMovie(page))
+            movies.insert(page);
+        else if (PDFDoc() && page >= 1 && page <= PDFDoc()->pageCount())
             toDraw.push_back(page);
     }
+    if (!iMovies)
+        iMovies = std::move(movies);
+    iUnchecked = toDraw;
     if (iTakeEarlierPage)
         takeEarlierPages(toDraw);
     std::erase_if(toDraw, [this](int page) { return iFilesOf(page) == PageFiles::none; });
@@ -66,11 +75,49 @@ void PDFToSWFPageConverter::takeEarlierPages(const std::vector<int>& pages) {
 void PDFToSWFPageConverter::endDrawingAhead() {
     iWorkers.reset();
     iStop = nullptr;
+    for (const int page : std::exchange(iUnchecked, {}))
+        checkFilesOf(page);
+}
+
+// A worker that was taken over may write such a file, which runs in the reader's Flash Player.
+bool PDFToSWFPageConverter::hasMovie(int page) const {
+    return iMovies ? iMovies->contains(page) : QFileInfo::exists(workFile(page, "swf"));
+}
+
+// Not before all workers have ended: each can write the files of every page.
+void PDFToSWFPageConverter::checkFilesOf(int page) {
+    const WebPageFiles files(converterWorkFolder(), page);
+    const auto isForeign = [&](const QString& path) {
+        return !PageFileCheck::isGenuine(files, path);
+    };
+    const QStringList pictures{files.pageFile, files.picture};
+    const QStringList others = files.others();
+    const bool hasForeignPicture = std::any_of(pictures.begin(), pictures.end(), isForeign);
+    QStringList foreign = hasForeignPicture ? pictures + others : QStringList();
+    if (!hasForeignPicture)
+        std::copy_if(others.begin(), others.end(), std::back_inserter(foreign), isForeign);
+    if (foreign.isEmpty())
+        return;
+    for (const QString& file : foreign)
+        QFile::remove(file);
+    const Message reason = Message::translate(
+        "PageFailure", "the program that draws pages wrote a file that is none of a page");
+    Log("PDFToSWFPageConverter")
+        .warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
+    if (!hasForeignPicture) {
+        iDegradedPages.try_emplace(page, reason);
+        return;
+    }
+    const auto place =
+        std::lower_bound(iFailedPages.begin(), iFailedPages.end(), page,
+                         [](const FailedPage& failed, int number) { return failed.page < number; });
+    if (place == iFailedPages.end() || place->page != page)
+        iFailedPages.insert(place, {page, reason});
 }
 
 QString PDFToSWFPageConverter::generatePage(int page) {
     const QString swf = workFile(page, "swf");
-    if (QFileInfo::exists(swf) || !PDFDoc())
+    if (hasMovie(page) || !PDFDoc())
         return swf;
     pdfPageToImage(page, workFile(page, "jpg"));
     return pictureOf(page);

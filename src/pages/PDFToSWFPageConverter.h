@@ -8,11 +8,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
+#include <set>
 #include <vector>
 
 // Makes the page files of a PDF in the work folder: "N.jpg" at twice the page's size in points,
 // named by the one-based page number, or "N.png" for a page of few colours that is for a web book
-// only. An existing file "N.swf" in the folder is used instead.
+// only. A file "N.swf" that is in the folder before anything is drawn is used instead.
 class PDFToSWFPageConverter : public PDFToPageConverter {
 public:
     struct FailedPage {
@@ -42,7 +44,7 @@ public:
     // come in the same order. Setting stop also stops the page that is being drawn.
     void drawAhead(const std::vector<int>& pages, const std::atomic<bool>& stop);
 
-    // Stops the page workers.
+    // Stops the page workers, and removes files that they wrote which are not what they should be.
     void endDrawingAhead();
 
     // Returns the path whether or not the page could be drawn. Throws PlatformException when the
@@ -77,6 +79,8 @@ private:
     void takeEarlierPages(const std::vector<int>& pages);
     PageResult drawInProcess(int page);
     void makePage(int page);
+    bool hasMovie(int page) const;
+    void checkFilesOf(int page);
 
     int iJobs = usualWorkerCount();
     std::shared_ptr<SpareWorkers> iSpares;
@@ -86,6 +90,8 @@ private:
     FilesOfPages iFilesOf = classicFiles;
     TakeEarlierPage iTakeEarlierPage;
     const std::atomic<bool>* iStop = nullptr;
+    std::optional<std::set<int>> iMovies; // pages with a file "N.swf" when drawing began
+    std::vector<int> iUnchecked;          // pages that the workers may have written
     std::vector<FailedPage> iFailedPages;
     std::map<int, Message> iDegradedPages;
     std::map<int, Message> iDamagedPages;

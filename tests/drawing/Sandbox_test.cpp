@@ -94,6 +94,8 @@ TEST_F(MisbehavingWorkers, CannotTakeAllMemoryNorFillTheDisk) {
     GTEST_SKIP() << "sanitizers need memory without a limit";
 #endif
     EXPECT_EQ(failed(3, "1 allocate\n2 grow\n"), (std::set{1, 2}));
+    EXPECT_EQ(failures(1, "1 litter\n").at(1),
+              "the program that draws pages wrote more than pages need");
 }
 
 TEST_F(MisbehavingWorkers, ReachNoOtherProcessAndNoNetwork) {

@@ -78,6 +78,12 @@ const std::map<std::string, std::function<bool(const std::string&)>> known = {
      }},
     {"allocate", [](auto&) { return maps(std::size_t{6} << 30); }},
     {"grow", [](auto& folder) { return grows(folder + "/large.jpg", off_t{1} << 30); }},
+    {"litter",
+     [](auto& folder) {
+         for (int i = 0;; ++i)
+             ::close(::open((folder + '/' + std::to_string(i)).c_str(), O_WRONLY | O_CREAT, 0600));
+         return true;
+     }},
     {"recurse", [](auto&) { return recurseWithoutEnd(0) != 0; }},
     {"exit", [](auto&) -> bool { std::_Exit(127); }}, // as if it could not be run
     {"trickle", [](auto&) { return writeWithoutEnd("x", 5000); }},

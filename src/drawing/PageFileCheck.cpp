@@ -1,0 +1,183 @@
+#include "drawing/PageFileCheck.h"
+
+#include "pdf/PDFLimits.h"
+#include "picture/Inflater.h"
+#include "picture/PictureHeader.h"
+#include "system/FileDescriptor.h"
+#include "system/Files.h"
+
+#include <QFile>
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/stat.h>
+#include <utility>
+
+namespace {
+
+// Our pictures have no metadata: their headers are a few hundred bytes.
+constexpr qsizetype headBytes = 1 << 16;
+
+// Ten times the largest that we write, with pictures in it.
+constexpr std::size_t maxVectorBytes = std::size_t{32} << 20;
+
+using Text = std::string_view;
+
+constexpr std::array elements{Text("use"),  Text("path"),  Text("g"),    Text("clipPath"),
+                              Text("rect"), Text("image"), Text("defs"), Text("svg")};
+
+constexpr std::array attributes{Text("x"),
+                                Text("y"),
+                                Text("d"),
+                                Text("id"),
+                                Text("fill"),
+                                Text("transform"),
+                                Text("stroke"),
+                                Text("stroke-width"),
+                                Text("stroke-linecap"),
+                                Text("stroke-linejoin"),
+                                Text("stroke-miterlimit"),
+                                Text("stroke-dasharray"),
+                                Text("stroke-dashoffset"),
+                                Text("stroke-opacity"),
+                                Text("fill-opacity"),
+                                Text("fill-rule"),
+                                Text("clip-rule"),
+                                Text("clip-path"),
+                                Text("opacity"),
+                                Text("width"),
+                                Text("height"),
+                                Text("viewBox"),
+                                Text("preserveAspectRatio")};
+
+// Characters of numbers, names and lists of them. Without a colon, a slash or a backslash they make
+// no address.
+constexpr std::array<bool, 256> plainCharacters = [] {
+    std::array<bool, 256> plain{};
+    for (const char c :
+         Text("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789 #%()+,-."))
+        plain[static_cast<unsigned char>(c)] = true;
+    return plain;
+}();
+
+std::size_t plainLength(Text text) {
+    const auto* end = std::find_if_not(text.begin(), text.end(), [](char c) {
+        return plainCharacters[static_cast<unsigned char>(c)];
+    });
+    return std::size_t(end - text.begin());
+}
+
+// The only attributes with characters that are not plain.
+bool isAddress(Text element, Text name) {
+    return name == "xmlns" || (name == "href" && element == "image");
+}
+
+bool isAllowedAddress(Text value) {
+    return value == "http://www.w3.org/2000/svg" ||
+           ((value.starts_with("data:image/png;base64,") ||
+             value.starts_with("data:image/jpeg;base64,")) &&
+            value.find('\n') == Text::npos);
+}
+
+// Whether an attribute of plain characters contains no address.
+bool isAllowed(Text element, Text name, Text value) {
+    if (name == "href")
+        return element == "use" && value.starts_with('#');
+    if (name == "clip-path")
+        return value.starts_with("url(#");
+    return std::find(attributes.begin(), attributes.end(), name) != attributes.end() &&
+           (name == "d" || value.find("url") == Text::npos);
+}
+
+// Reads the SVG of what VectorEncoder writes, tag by tag.
+class Tags {
+public:
+    explicit Tags(Text text) : iLeft(text) {}
+
+    bool areHarmless() {
+        for (auto next = iLeft.find('<'); next != Text::npos; next = iLeft.find('<')) {
+            iLeft.remove_prefix(next + 1);
+            const bool isEnd = iLeft.starts_with('/');
+            iLeft.remove_prefix(isEnd ? 1 : 0);
+            const Text element = take(iLeft.find_first_of(" />"));
+            if (std::find(elements.begin(), elements.end(), element) == elements.end() ||
+                !(isEnd ? iLeft.starts_with('>') : areAttributesHarmless(element)))
+                return false;
+        }
+        return true;
+    }
+
+private:
+    Text take(std::size_t length) {
+        const Text taken = iLeft.substr(0, length);
+        iLeft.remove_prefix(taken.size());
+        return taken;
+    }
+
+    bool areAttributesHarmless(Text element) {
+        while (iLeft.starts_with(' ')) {
+            iLeft.remove_prefix(1);
+            const Text name = take(iLeft.find('='));
+            if (!iLeft.starts_with("=\""))
+                return false;
+            iLeft.remove_prefix(2);
+            const bool isURL = isAddress(element, name);
+            const Text value = take(isURL ? iLeft.find('"') : plainLength(iLeft));
+            if (!iLeft.starts_with('"') ||
+                !(isURL ? isAllowedAddress(value) : isAllowed(element, name, value)))
+                return false;
+            iLeft.remove_prefix(1);
+        }
+        return iLeft.starts_with('>') || iLeft.starts_with("/>");
+    }
+
+    Text iLeft;
+};
+
+QByteArray contentsOf(const FileDescriptor& file, qsizetype size) {
+    QByteArray bytes(size, Qt::Uninitialized);
+    const auto got = ::pread(file.number(), bytes.data(), std::size_t(size), 0);
+    return bytes.left(std::max<qsizetype>(0, qsizetype(got)));
+}
+
+// Without the lines of glyphs, which may have any character: the player makes numbers of them.
+std::string withoutGlyphs(Text vectors) {
+    std::string rest;
+    while (!vectors.empty()) {
+        const auto end = std::min(vectors.find('\n'), vectors.size() - 1);
+        if (rest.empty() || !vectors.starts_with('!'))
+            rest += vectors.substr(0, end + 1);
+        vectors.remove_prefix(end + 1);
+    }
+    return rest;
+}
+
+} // namespace
+
+bool PageFileCheck::areHarmless(QByteArrayView packedVectors) {
+    const std::string svg = withoutGlyphs(Inflater().zlib(packedVectors, maxVectorBytes));
+    const Text text = svg;
+    return text.starts_with("<svg ") && text.find('&') == Text::npos && Tags(text).areHarmless();
+}
+
+bool PageFileCheck::isGenuine(const WebPageFiles& files, const QString& path) {
+    const FileDescriptor file(::open(QFile::encodeName(path).constData(),
+                                     O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
+    struct stat facts {};
+    if (!file.isOpen())
+        return errno == ENOENT;
+    if (::fstat(file.number(), &facts) != 0 || !S_ISREG(facts.st_mode) ||
+        std::cmp_greater(facts.st_size, PDFLimits::maxPageFileSize))
+        return false;
+    if (path == files.text)
+        return true; // checked by PDFSerialization
+    if (path == files.largeVector)
+        return areHarmless(contentsOf(file, qsizetype(facts.st_size)));
+    const QByteArray head =
+        contentsOf(file, std::min<qsizetype>(headBytes, qsizetype(facts.st_size)));
+    return !(path.endsWith(u".png") ? PictureHeader::sizeOfPNG(head)
+                                    : PictureHeader::sizeOfJPEG(head))
+                .isEmpty();
+}
