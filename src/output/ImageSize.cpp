@@ -1,5 +1,7 @@
 #include "output/ImageSize.h"
 
+#include "pages/Book.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
@@ -136,7 +138,7 @@ std::optional<ImageResolution> ofJPEG(const Bytes& file) {
 }
 
 int inPoints(int pixels, double dotsPerInch) {
-    return static_cast<int>(pixels * 72.0 / dotsPerInch);
+    return Book::wholePoints(pixels * 72.0 / dotsPerInch);
 }
 
 } // namespace

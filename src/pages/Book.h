@@ -35,6 +35,10 @@ struct Book {
     static constexpr QSize defaultPageSize{1080, 1440};
     QSize pageSize = defaultPageSize;
 
+    // A length in points as configurations have it: whole, and within what players can compute
+    // with.
+    static int wholePoints(double length);
+
     // Whether at least one page of the document was drawn.
     bool hasDrawnPages() const;
 };

@@ -147,7 +147,7 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
     iBook.pageSize = QSize(0, 0);
     try {
         const QRectF box = firstReadableCropBox(document);
-        iBook.pageSize = QSize(int(box.width()), int(box.height()));
+        iBook.pageSize = QSize(Book::wholePoints(box.width()), Book::wholePoints(box.height()));
         iBook.documentTitle = document.information("Title").trimmed();
         iBook.rightToLeft = document.isRightToLeft();
     } catch (const PlatformException& failure) {

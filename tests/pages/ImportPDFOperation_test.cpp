@@ -126,6 +126,15 @@ TEST_F(ImportPDFOperationTest, ReportsPagesThatCannotBeReadAndUsesTheOthers) {
     }
 }
 
+TEST_F(ImportPDFOperationTest, GivesPagesOfAnySizeOneThatPlayersCanComputeWith) {
+    PDFBuilder builder;
+    builder.addPage(PDFBuilder::page({0.4, 2'147'483'647}));
+    ASSERT_TRUE(builder.write(iPath));
+    const auto operation = import("ALL", false);
+    operation->main();
+    EXPECT_EQ(operation->book().pageSize, QSize(1, 25'000'000));
+}
+
 TEST_F(ImportPDFOperationTest, EmptiesItsResultsWhenCancelled) {
     const auto beforehand = import();
     beforehand->cancel();
