@@ -249,14 +249,23 @@ void PageWorkers::replace(Worker& worker, const Message& reason) {
     }
     if (!reason.isNull())
         failPage(worker, reason);
+    // Killed twice at a page: there may be no memory for so many workers.
+    const bool isOneTooMany =
+        reason.isNull() && iKills[worker.pages.front()] > 1 && runningCount() > 1;
     requeuePages(worker);
-    worker = newWorker(startProcess());
+    worker = newWorker(isOneTooMany ? nullptr : startProcess());
 }
 
-// A worker killed from outside is not its page's fault; if it happens again it may be.
+std::ptrdiff_t PageWorkers::runningCount() const {
+    return std::count_if(iWorkers.begin(), iWorkers.end(),
+                         [](const Worker& worker) { return worker.process != nullptr; });
+}
+
+// A worker killed from outside is not its page's fault, unless it happens again and again.
 bool PageWorkers::shouldRetry(Worker& worker) {
+    constexpr int maxKills = 3;
     return worker.ready && !worker.pages.empty() && worker.process->wasKilled() &&
-           iRetriedPages.insert(worker.pages.front()).second;
+           ++iKills[worker.pages.front()] < maxKills;
 }
 
 // The page that the worker was drawing counts as the cause.

@@ -14,7 +14,6 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <vector>
 
 // The result of one page.
@@ -92,6 +91,7 @@ private:
     bool shouldRetry(Worker& worker);
     void failPage(Worker& worker, const Message& reason);
     void replaceUnstarted(Worker& worker);
+    std::ptrdiff_t runningCount() const;
     void requeuePages(Worker& worker);
     void removeFilesOf(int page) const;
     void killAll();
@@ -117,5 +117,5 @@ private:
     Message iOpenError;         // why a worker could not open the document
     std::vector<Worker> iWorkers;
     std::map<int, PageResult> iResults; // done, not yet collected
-    std::set<int> iRetriedPages;        // pages whose worker was killed once
+    std::map<int, int> iKills;          // of workers, by the page that they were drawing
 };
