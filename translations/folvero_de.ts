@@ -760,6 +760,14 @@
         <source>the file was changed after reading it had begun</source>
         <translation>die Datei wurde seit dem Beginn des Lesens geändert</translation>
     </message>
+    <message>
+        <source>is encrypted in an unknown way (%1)</source>
+        <translation>ist auf unbekannte Weise verschlüsselt (%1)</translation>
+    </message>
+    <message>
+        <source>its pages can&apos;t be found (%1)</source>
+        <translation>die Seiten sind nicht auffindbar (%1)</translation>
+    </message>
 </context>
 <context>
     <name>PDFReader</name>

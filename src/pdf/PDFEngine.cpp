@@ -95,11 +95,36 @@ void PDFEngine::open(const QString& path, bool mapped, const QByteArray& passwor
     } catch (const PlatformException& failure) {
         if (!hasPDFHeader(path))
             PDFFile::failToOpen(path, Message::translate("PDFDocument", "is not a PDF document"));
-        PDFFile::failToOpen(path, Message::translate("PDFDocument", "is damaged beyond repair (%1)")
-                                      .arg(failure.message()));
+        const bool isUnknownCipher =
+            failure.reason().startsWith(u"unknown ") && failure.reason().contains(u"crypt");
+        PDFFile::failToOpen(
+            path, (isUnknownCipher
+                       ? Message::translate("PDFDocument", "is encrypted in an unknown way (%1)")
+                       : Message::translate("PDFDocument", "is damaged beyond repair (%1)"))
+                      .arg(failure.message()));
     }
     unlock(path, password);
     pageCount = countPages();
+    if (pageCount == 0)
+        checkPageTree(path);
+}
+
+// MuPDF counts no pages in a tree that it can't read. The error is that of reading its root.
+void PDFEngine::checkPageTree(const QString& path) const {
+    try {
+        run(ErrorKind::pdfOpen, [this](fz_context* ctx) {
+            pdf_obj* root = pdf_dict_get(ctx, pdf_trailer(ctx, document), PDF_NAME(Root));
+            const int number = pdf_to_num(ctx, pdf_dict_get(ctx, root, PDF_NAME(Pages)));
+            if (number > 0)
+                pdf_drop_obj(ctx, pdf_load_object(ctx, document, number));
+            pdf_obj* kids = pdf_dict_getp(ctx, root, "Pages/Kids");
+            if (!pdf_is_array(ctx, kids) || pdf_array_len(ctx, kids) > 0)
+                fz_throw(ctx, FZ_ERROR_GENERIC, "malformed page tree");
+        });
+    } catch (const PlatformException& failure) {
+        PDFFile::failToOpen(path, Message::translate("PDFDocument", "its pages can't be found (%1)")
+                                      .arg(failure.message()));
+    }
 }
 
 // A document that has only an owner's password opens without one.

@@ -117,6 +117,8 @@ private:
     void map(const QString& path);
     void openDocument(fz_context* ctx, const char* path);
     void unlock(const QString& path, const QByteArray& password);
+    // Throws when the document has no pages because its page tree can't be read.
+    void checkPageTree(const QString& path) const;
     // The document's page count, but no more than it has objects.
     int countPages() const;
 

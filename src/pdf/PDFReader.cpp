@@ -33,10 +33,11 @@ Message crashMessage() {
 
 // The process reports in English.
 Message openErrorFrom(const QString& words) {
-    const QString damaged = QStringLiteral("is damaged beyond repair (");
-    if (words.startsWith(damaged) && words.endsWith(u')')) {
-        return Message::translate("PDFDocument", "is damaged beyond repair (%1)")
-            .arg(words.mid(damaged.size()).chopped(1));
+    for (const char* text : {"is damaged beyond repair (%1)", "is encrypted in an unknown way (%1)",
+                             "its pages can't be found (%1)"}) {
+        const QString start = QString::fromUtf8(text).section(u'%', 0, 0);
+        if (words.startsWith(start) && words.endsWith(u')'))
+            return Message::translate("PDFDocument", text).arg(words.mid(start.size()).chopped(1));
     }
     return Message::translate("PDFDocument", words.toUtf8().constData());
 }

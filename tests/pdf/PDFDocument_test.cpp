@@ -55,6 +55,19 @@ TEST_F(PDFDocumentTest, OpensALockedDocumentWithItsPasswordInUTF8) {
     }
 }
 
+TEST_F(PDFDocumentTest, SaysWhyPagesCanNotBeFound) {
+    builder.addPage(PDFBuilder::page(pageSize, redCorner));
+    builder.encrypt("", "owner");
+    for (const auto& [sound, damaged, cause] :
+         {std::tuple{"/Count 1", "/Count 0", "its pages can't be found (malformed page tree)"},
+          {"/Pages 2 ", "/Pages 9 ", "its pages can't be found (object out of range"},
+          {"/Standard", "/Unheard!", "is encrypted in an unknown way (unknown encryption"}}) {
+        const QByteArray bytes = builder.build().replace(sound, damaged);
+        const QString reason = failureOf([&] { open(bytes); }).message.english();
+        EXPECT_TRUE(reason.contains(cause)) << reason.toStdString();
+    }
+}
+
 TEST_F(PDFDocumentTest, LabelsItsPages) {
     const std::pair<QByteArray, QStringList> ranges[] = {
         {"/S /r /St 8", {"viii", "ix", "x"}}, {"/S /R /St 1994", {"MCMXCIV"}},
