@@ -1,6 +1,7 @@
 #include "pdf/PDFRecording.h"
 
 #include "pdf/ForwardingDevice.h"
+#include "pdf/LinkFrames.h"
 
 #include <utility>
 
@@ -131,10 +132,12 @@ bool dropUnreadableImages(fz_context* ctx, pdf_obj* resources, int depth) {
 DrawablePage::Recording::~Recording() {
     fz_drop_stext_page(engine.context, text);
     fz_drop_display_list(engine.context, list);
+    fz_drop_display_list(engine.context, frames);
     fz_drop_page(engine.context, page);
 }
 
 void DrawablePage::Recording::load(fz_context* ctx, PageCut cut, pdf_obj* object, Content content) {
+    frames = LinkFrames::record(ctx, object);
     if (engine.mapping)
         dropLinks(ctx, object);
     page = fz_load_page(ctx, &engine.document->super, cut.index);
@@ -198,6 +201,8 @@ void DrawablePage::Recording::interpret(fz_context* ctx) {
         fz_run_page_contents(ctx, page, tap ? tap : test, fz_identity, watch.cookie());
         if (texts)
             runText(ctx, textError, [&] { fz_close_device(ctx, texts); });
+        if (frames)
+            fz_run_display_list(ctx, frames, test, fz_identity, fz_infinite_rect, watch.cookie());
         fz_run_page_annots(ctx, page, test, fz_identity, watch.cookie());
         fz_run_page_widgets(ctx, page, test, fz_identity, watch.cookie());
         fz_close_device(ctx, test);

@@ -25,7 +25,8 @@ struct DrawablePage::Recording {
     DrawTimeout watch;
     fz_page* page = nullptr;
     fz_display_list* list = nullptr;
-    fz_rect bounds = fz_empty_rect; // of what is shown
+    fz_display_list* frames = nullptr; // of links; null when none has one
+    fz_rect bounds = fz_empty_rect;    // of what is shown
     bool isHalf = false;
     int isColour = 0;
     // The list begins with a group around the page's content that need not be drawn.

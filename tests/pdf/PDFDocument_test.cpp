@@ -333,6 +333,25 @@ TEST_F(PDFDocumentTest, SaysWhatOfAPageIsDamagedAndDrawsTheRest) {
     }
 }
 
+TEST_F(PDFDocumentTest, DrawsTheFramesThatLinksAskFor) {
+    builder.addPage(
+        PDFBuilder::page(pageSize, "",
+                         {PDFBuilder::link({0, 50, 100, 50}, "/Border [0 0 6 [80 1]] /C [1 0 0]"),
+                          PDFBuilder::link({100, 50, 100, 50}, "/Border [0 0 0] /C [1 0 0]"),
+                          PDFBuilder::link({100, 0, 100, 50}, "/C [1 0 0]"),
+                          PDFBuilder::link({0, 0, 100, 50}, "/BS << /W 6 /S /U >> /C [0 0 1]")}));
+    const auto document = open();
+    const QImage image = draw(*document, 0);
+    for (const auto& [x, y, colour] : {std::tuple{0.01, 0.25, Qt::red},
+                                       {0.25, 0.25, Qt::white},
+                                       {0.99, 0.25, Qt::white},
+                                       {0.99, 0.75, Qt::white},
+                                       {0.25, 0.99, Qt::blue},
+                                       {0.01, 0.75, Qt::white}})
+        EXPECT_TRUE(isNear(colourAt(image, x, y), colour)) << x << ' ' << y;
+    EXPECT_TRUE(vectors(*document, 0).contains("stroke-dasharray=\"8000 100\""));
+}
+
 TEST_F(PDFDocumentTest, EndsADrawingThatTakesTooLongOrIsStopped) {
     builder.addPage(
         PDFBuilder::page(pageSize, QByteArray("0 0 200 100 re f ").repeated(3'000'000)));
