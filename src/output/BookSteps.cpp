@@ -46,9 +46,8 @@ bool replaceWithCopy(PublishTarget& to, const QString& source, const QString& fo
 
 // A book without that page must not replace a good one.
 [[noreturn]] void failOfLost(const QString& path) {
-    errno = EIO; // unless the cause is still there
-    ::access(QFile::encodeName(path).constData(), R_OK);
-    PublishTransaction::fail(path, Message::ofLastSystemError());
+    const bool isBack = ::access(QFile::encodeName(path).constData(), R_OK) == 0;
+    PublishTransaction::fail(path, Message::ofSystemError(isBack ? EIO : errno));
 }
 
 void copySettingsFile(PublishTarget& to, const FlashTemplateProperty& property) {
