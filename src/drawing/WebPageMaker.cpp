@@ -15,7 +15,7 @@ namespace {
 // The thumbnail panel shows them at most half as wide and high, on double-density screens.
 constexpr int thumbnailWidth = 300;
 constexpr int thumbnailHeight = 256;
-constexpr double thumbnailFactor = 0.7;
+constexpr double thumbnailFactor = 0.5;
 
 // Pixels per point of enlarged pages, twice those of the page's picture; with photographs, which
 // take more bytes, less.
@@ -35,8 +35,11 @@ constexpr double maxPhotographRatio = 1.0;
 // the best quality has 2.5 on a page of text.
 constexpr double maxSquaredError = 3.0;
 
-double toleranceFor(const PageDetail& detail) {
-    return detail.hasShades ? 0 : maxSquaredError;
+// An image may have shades that are no gradient, and yet none to spare.
+ColourReducer::Tolerance toleranceFor(const PageDetail& detail) {
+    if (detail.imageScale > 0)
+        return {};
+    return {maxSquaredError, detail.hasShades};
 }
 
 std::span<const unsigned char> bytesOf(const QByteArray& data) {
@@ -136,7 +139,7 @@ bool WebPageMaker::makeScan(const DrawablePage& page, PageBitmap& bitmap, const 
     if (!page.drawScannedInk(bitmap))
         return false;
     timing.draw += watch.lap();
-    const PaletteBitmap* reduced = iReducer.reduce(bitmap, 0);
+    const PaletteBitmap* reduced = iReducer.reduce(bitmap, {});
     const QByteArray png = reduced ? iPNGEncoder.encode(*reduced) : QByteArray();
     timing.encode += watch.lap();
     if (reduced && png.size() <= largest)

@@ -103,7 +103,7 @@ QByteArray SVGPictures::encodeOpaque(const fz_pixmap& pixmap) {
             std::copy_n(from, 3, to);
     }
     iBitmap.dropColourOfGray();
-    if (const PaletteBitmap* reduced = iReducer.reduce(iBitmap, 0)) {
+    if (const PaletteBitmap* reduced = iReducer.reduce(iBitmap, {})) {
         const QByteArray png = iPNGEncoder.encode(*reduced);
         return addressOf("png", {reinterpret_cast<const unsigned char*>(png.constData()),
                                  std::size_t(png.size())});

@@ -26,5 +26,5 @@ public:
 
 private:
     std::unique_ptr<SVGWriter> iWriter;
-    Deflater iDeflater{6};
+    Deflater iDeflater{9};
 };

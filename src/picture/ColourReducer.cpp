@@ -6,7 +6,9 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <cstring>
+#include <limits>
 
 namespace {
 
@@ -17,13 +19,23 @@ constexpr std::size_t maxShades = 6000;
 constexpr unsigned slotBits = 14;
 constexpr std::size_t maxColours = 256;
 
+// More take a byte a pixel.
+constexpr std::size_t fewColours = 16;
+
 // Colours of more pixels than this share, of one in so many, are those of fills and texts, which
 // stay as they are.
-constexpr std::size_t exactColours = 64;
-constexpr double exactShare = 2000;
+constexpr std::size_t exactColours = 32;
+constexpr double exactShare = 500;
 
-// The mean squared error of a sample from which on more colours are a waste: gray text has as much.
-constexpr double wantedSquaredError = 1.5;
+// The mean squared error of a sample from which on more colours are a waste. JPEG of good quality
+// has 2.4 on a page of text.
+constexpr double wantedSquaredError = 2.2;
+
+// Of the colours that one stands for, in a channel: nobody sees a difference of half of the first
+// along an edge (twelve levels of gray are half as far apart), or of half of the second in a
+// gradient.
+constexpr int edgeRange = 48;
+constexpr int gradientRange = 3;
 
 int bitsFor(std::size_t colours) {
     if (colours <= 2)
@@ -43,9 +55,13 @@ void reset(PaletteBitmap& to, const PageBitmap& from, std::vector<Colour> palett
         to.rows[y * to.stride()] = 0;
 }
 
-// The mean of a sum over all pixels and channels.
-double meanOf(double sum, const PageBitmap& bitmap) {
-    return sum / bitmap.components() / bitmap.width() / bitmap.height();
+double samplesOf(const PageBitmap& bitmap) {
+    return double(bitmap.width()) * bitmap.height() * bitmap.components();
+}
+
+// Of all samples of a picture, where any may differ.
+double wantedErrorOf(const PageBitmap& bitmap, const ColourReducer::Tolerance& tolerance) {
+    return tolerance.squaredError > 0 ? wantedSquaredError * samplesOf(bitmap) : 0;
 }
 
 // Fills the rows of a picture run by run.
@@ -157,9 +173,10 @@ void packGray(const PageBitmap& bitmap, const GrayLevels& levels, PaletteBitmap&
         packGray<4>(bitmap, levels, to);
 }
 
-bool reduceGray(const PageBitmap& bitmap, double maxSquaredError, PaletteBitmap& to) {
-    const GrayLevels levels = GrayLevels::of(countLevels(bitmap));
-    if (meanOf(levels.error, bitmap) > maxSquaredError)
+bool reduceGray(const PageBitmap& bitmap, const ColourReducer::Tolerance& tolerance,
+                PaletteBitmap& to) {
+    const GrayLevels levels = GrayLevels::of(countLevels(bitmap), wantedErrorOf(bitmap, tolerance));
+    if (levels.error > tolerance.squaredError * samplesOf(bitmap))
         return false;
     std::vector<Colour> palette;
     for (const unsigned char level : levels.chosen)
@@ -191,7 +208,8 @@ std::optional<std::uint32_t> ColourReducer::idOf(std::uint32_t rgb, std::size_t 
 }
 
 // False when there are too many.
-bool ColourReducer::countColours(const PageBitmap& bitmap, std::size_t most) {
+bool ColourReducer::countColours(const PageBitmap& bitmap, const Tolerance& tolerance) {
+    const std::size_t most = tolerance.squaredError > 0 ? maxShades : maxColours;
     std::fill(iSlots.begin(), iSlots.end(), Slot{});
     iColours.clear();
     iRuns.clear();
@@ -204,6 +222,8 @@ bool ColourReducer::countColours(const PageBitmap& bitmap, std::size_t most) {
             if (!id)
                 return false;
             iColours[*id].count += std::uint32_t(count);
+            if (tolerance.hasGradients)
+                noteSmoothness({*id, count});
             iRuns.push_back({*id, count});
             return true;
         },
@@ -212,54 +232,106 @@ bool ColourReducer::countColours(const PageBitmap& bitmap, std::size_t most) {
         });
 }
 
-ColourReducer::Palette ColourReducer::choosePalette(const PageBitmap& bitmap) const {
+// Counts a run as smooth where steps would be seen: in an area of one colour, and with the run
+// before it, if that is similar.
+void ColourReducer::noteSmoothness(const Run& run) {
+    constexpr int longRun = 8;
+    constexpr int smallStep = 8;
+    CountedColour& colour = iColours[run.id];
+    if (run.count >= longRun)
+        colour.smooth += std::uint32_t(run.count);
+    if (iRuns.empty() || iRuns.back().count == 0)
+        return;
+    CountedColour& before = iColours[iRuns.back().id];
+    for (std::size_t i = 0; i < colour.colour.size(); ++i) {
+        if (std::abs(colour.colour[i] - before.colour[i]) > smallStep)
+            return;
+    }
+    colour.smooth += std::uint32_t(run.count);
+    before.smooth += std::uint32_t(iRuns.back().count);
+}
+
+void ColourReducer::Palette::add(const CountedColour& colour) {
+    indexOf[colour.id] = static_cast<unsigned char>(colours.size());
+    colours.push_back(colour.colour);
+}
+
+void ColourReducer::Palette::add(const std::vector<ColourBox>& boxes,
+                                 const std::vector<CountedColour>& of) {
+    for (const ColourBox& box : boxes) {
+        for (std::size_t i = box.begin; i < box.end; ++i)
+            indexOf[of[i].id] = static_cast<unsigned char>(colours.size());
+        colours.push_back(box.mean);
+        error += box.error;
+    }
+}
+
+// Moves the colours of gradients to the palette. False when there is no room for those and others.
+bool ColourReducer::takeGradients(std::vector<CountedColour>& colours, Palette& palette) const {
+    const auto smooth =
+        std::partition(colours.begin(), colours.end(),
+                       [](const CountedColour& one) { return 2 * one.smooth < one.count; });
+    std::vector<CountedColour> taken(smooth, colours.end());
+    colours.erase(smooth, colours.end());
+    if (taken.empty())
+        return true;
+    const auto boxes = medianCut(taken, maxColours - palette.colours.size() - 1,
+                                 std::numeric_limits<double>::max(), gradientRange);
+    palette.add(boxes, taken);
+    return std::all_of(boxes.begin(), boxes.end(),
+                       [](const ColourBox& box) { return box.range <= gradientRange; });
+}
+
+// Few colours, or those of a picture that has to keep them, stay as they are. None when gradients
+// take too many.
+std::optional<ColourReducer::Palette>
+ColourReducer::choosePalette(const PageBitmap& bitmap, const Tolerance& tolerance) const {
     const double pixels = double(bitmap.width()) * bitmap.height();
     Palette palette;
     palette.indexOf.resize(iColours.size());
-    const auto add = [&palette](const CountedColour& colour) {
-        palette.indexOf[colour.id] = static_cast<unsigned char>(palette.colours.size());
-        palette.colours.push_back(colour.colour);
-    };
-    if (iColours.size() <= maxColours) {
-        std::for_each(iColours.begin(), iColours.end(), add);
+    if (iColours.size() <= (tolerance.squaredError > 0 ? fewColours : maxColours)) {
+        for (const CountedColour& colour : iColours)
+            palette.add(colour);
         return palette;
     }
     std::vector<CountedColour> rest = iColours;
-    auto exact = rest.begin() + std::ptrdiff_t(exactColours);
+    auto exact = rest.begin() + std::ptrdiff_t(std::min(exactColours, rest.size()));
     std::nth_element(
         rest.begin(), exact, rest.end(),
         [](const CountedColour& a, const CountedColour& b) { return a.count > b.count; });
     exact = std::partition(rest.begin(), exact, [&](const CountedColour& one) {
         return one.count * exactShare > pixels;
     });
-    std::for_each(rest.begin(), exact, add);
+    for (auto one = rest.begin(); one != exact; ++one)
+        palette.add(*one);
     rest.erase(rest.begin(), exact);
-    const double wanted = wantedSquaredError * pixels * bitmap.components();
-    for (const ColourBox& box : medianCut(rest, maxColours - palette.colours.size(), wanted)) {
-        for (std::size_t i = box.begin; i < box.end; ++i)
-            palette.indexOf[rest[i].id] = static_cast<unsigned char>(palette.colours.size());
-        palette.colours.push_back(box.mean);
-        palette.error += box.error;
-    }
+    if (tolerance.hasGradients && !takeGradients(rest, palette))
+        return std::nullopt;
+    if (!rest.empty())
+        palette.add(medianCut(rest, maxColours - palette.colours.size(),
+                              wantedErrorOf(bitmap, tolerance), edgeRange),
+                    rest);
     return palette;
 }
 
-const PaletteBitmap* ColourReducer::reduce(const PageBitmap& bitmap, double maxSquaredError) {
-    if (bitmap.components() == 1)
-        return reduceGray(bitmap, maxSquaredError, iReduced) ? &iReduced : nullptr;
-    if (!countColours(bitmap, maxSquaredError > 0 ? maxShades : maxColours))
+const PaletteBitmap* ColourReducer::reduce(const PageBitmap& bitmap, Tolerance tolerance) {
+    if (bitmap.components() == 1) {
+        if (tolerance.hasGradients)
+            tolerance.squaredError = 0;
+        return reduceGray(bitmap, tolerance, iReduced) ? &iReduced : nullptr;
+    }
+    if (!countColours(bitmap, tolerance))
         return nullptr;
-    Palette palette = choosePalette(bitmap);
-
-    if (meanOf(palette.error, bitmap) > maxSquaredError)
+    std::optional<Palette> palette = choosePalette(bitmap, tolerance);
+    if (!palette || palette->error > tolerance.squaredError * samplesOf(bitmap))
         return nullptr;
-    reset(iReduced, bitmap, std::move(palette.colours));
+    reset(iReduced, bitmap, std::move(palette->colours));
     RowPacker packer(iReduced);
     for (const Run& run : iRuns) {
         if (run.count == 0)
             packer.endRow();
         else
-            packer.add(palette.indexOf[run.id], run.count);
+            packer.add(palette->indexOf[run.id], run.count);
     }
     return &iReduced;
 }

@@ -15,10 +15,15 @@ class ColourReducer {
 public:
     ColourReducer();
 
-    // A gray picture gets at most 16 levels, one in colour 256 colours. Null when the mean squared
-    // error of a sample is larger: 0 keeps every colour. A small error goes unseen along edges, but
-    // not in a gradient. The result is valid until the next call.
-    const PaletteBitmap* reduce(const PageBitmap& bitmap, double maxSquaredError);
+    // A small error goes unseen along edges, but not in a gradient.
+    struct Tolerance {
+        double squaredError = 0; // the mean of a sample; 0 keeps every colour
+        bool hasGradients = false;
+    };
+
+    // A gray picture gets at most 16 levels, one in colour 256 colours. Null when the error would
+    // be larger. The result is valid until the next call.
+    const PaletteBitmap* reduce(const PageBitmap& bitmap, Tolerance tolerance);
 
 private:
     struct Slot {
@@ -35,11 +40,17 @@ private:
         std::vector<PaletteBitmap::Colour> colours;
         std::vector<unsigned char> indexOf; // into colours, by the index into iColours
         double error = 0;                   // sum of squares over all pixels and channels
+
+        void add(const CountedColour& colour);
+        void add(const std::vector<ColourBox>& boxes, const std::vector<CountedColour>& of);
     };
 
     std::optional<std::uint32_t> idOf(std::uint32_t rgb, std::size_t most);
-    bool countColours(const PageBitmap& bitmap, std::size_t most);
-    Palette choosePalette(const PageBitmap& bitmap) const;
+    bool countColours(const PageBitmap& bitmap, const Tolerance& tolerance);
+    void noteSmoothness(const Run& run);
+    bool takeGradients(std::vector<CountedColour>& colours, Palette& palette) const;
+    std::optional<Palette> choosePalette(const PageBitmap& bitmap,
+                                         const Tolerance& tolerance) const;
 
     std::vector<Slot> iSlots;            // hash table
     std::vector<CountedColour> iColours; // the picture's

@@ -7,6 +7,8 @@
 
 namespace {
 
+// With fewer levels a page of little text, whose error is small, would show it.
+constexpr std::size_t minGroups = 12;
 constexpr std::size_t maxGroups = 16;
 constexpr std::size_t levels = 256;
 
@@ -57,14 +59,16 @@ private:
 } // namespace
 
 // By dynamic programming: the best grouping of the levels up to one, for each number of groups.
-GrayLevels GrayLevels::of(const Counts& counts) {
+GrayLevels GrayLevels::of(const Counts& counts, double wantedError) {
     const Groups groups(counts);
-    const std::size_t most = std::min(groups.count(), maxGroups);
+    std::size_t most = std::min(groups.count(), maxGroups);
     std::array<std::array<double, levels>, maxGroups> best{};
     std::array<std::array<std::size_t, levels>, maxGroups> start{}; // of the last group
     for (std::size_t last = 0; last < groups.count(); ++last)
         best[0][last] = groups.error(0, last);
     for (std::size_t group = 1; group < most; ++group) {
+        if (group >= minGroups && best[group - 1][groups.count() - 1] <= wantedError)
+            most = group;
         for (std::size_t last = group; last < groups.count(); ++last) {
             double& least = best[group][last];
             least = std::numeric_limits<double>::max();

@@ -7,12 +7,8 @@ namespace {
 
 constexpr std::size_t channels = 3;
 
-// Nobody sees a difference of half of it along an edge. Sixteen levels of gray are as far apart.
-constexpr int maxRange = 32;
-
 struct Box : ColourBox {
     std::size_t widest = 0; // the channel with the largest error
-    int range = 0;          // the largest of a channel
 };
 
 Box measured(const std::vector<CountedColour>& colours, std::size_t begin, std::size_t end) {
@@ -67,22 +63,21 @@ std::size_t split(std::vector<CountedColour>& colours, const Box& box) {
     return std::size_t(middle - colours.begin());
 }
 
-// Boxes that are too wide come first: a few pixels of another colour are seen, too.
-bool isBetter(const Box& a, const Box& b) {
-    const bool isWide = a.range > maxRange;
-    const bool isOtherWide = b.range > maxRange;
-    return isWide != isOtherWide ? isOtherWide : a.error < b.error;
-}
-
 } // namespace
 
 std::vector<ColourBox> medianCut(std::vector<CountedColour>& colours, std::size_t most,
-                                 double error) {
+                                 double wantedError, int wantedRange) {
+    // Boxes that are too wide come first: a few pixels of another colour are seen, too.
+    const auto isBetter = [wantedRange](const Box& a, const Box& b) {
+        const bool isWide = a.range > wantedRange;
+        const bool isOtherWide = b.range > wantedRange;
+        return isWide != isOtherWide ? isOtherWide : a.error < b.error;
+    };
     std::vector<Box> boxes{measured(colours, 0, colours.size())};
     double sum = boxes.front().error;
     while (boxes.size() < most) {
         Box& worst = *std::max_element(boxes.begin(), boxes.end(), isBetter);
-        if (worst.range <= maxRange && sum <= error)
+        if (worst.range <= wantedRange && sum <= wantedError)
             break;
         const std::size_t middle = split(colours, worst);
         const Box upper = measured(colours, middle, worst.end);

@@ -33,6 +33,11 @@ Colour nearColour(int index, int /*count*/) {
             static_cast<unsigned char>(index % 10 / 2)};
 }
 
+Colour shade(int index, int count) {
+    return {static_cast<unsigned char>(index * 255 / count), 99,
+            static_cast<unsigned char>(255 - index * 200 / count)};
+}
+
 // A picture in which the colours take turns, in runs of three pixels.
 PageBitmap picture(int width, int components, ColourOf colourOf, int count) {
     PageBitmap bitmap;
@@ -68,21 +73,23 @@ TEST(ColourReducer, RoundsColoursWhereNobodySeesIt) {
         int count;
         int bits;
         int error;
+        bool hasGradients = false;
     } cases[] = {
-        {"paper", 1, levelOfGray, 1, 1, 0},   {"ink", 1, levelOfGray, 2, 1, 0},
-        {"levels", 1, levelOfGray, 4, 2, 0},  {"text", 1, levelOfGray, 16, 4, 0},
-        {"shadow", 1, darkGray, 24, 4, 1},    {"scan", 1, levelOfGray, 64, 4, notReduced},
-        {"pair", 3, farColour, 2, 1, 0},      {"three", 3, farColour, 3, 2, 0},
-        {"few", 3, farColour, 16, 4, 0},      {"chart", 3, farColour, 250, 8, 0},
-        {"glyphs", 3, nearColour, 300, 8, 8}, {"photograph", 3, farColour, 900, 8, notReduced}};
+        {"paper", 1, levelOfGray, 1, 1, 0},     {"ink", 1, levelOfGray, 2, 1, 0},
+        {"levels", 1, levelOfGray, 4, 2, 0},    {"text", 1, levelOfGray, 16, 4, 0},
+        {"shadow", 1, darkGray, 24, 4, 1},      {"scan", 1, levelOfGray, 64, 4, notReduced},
+        {"pair", 3, farColour, 2, 1, 0},        {"three", 3, farColour, 3, 2, 0},
+        {"few", 3, farColour, 16, 4, 0},        {"chart", 3, farColour, 250, 8, 8},
+        {"glyphs", 3, nearColour, 300, 8, 8},   {"photograph", 3, farColour, 900, 8, notReduced},
+        {"gradient", 3, shade, 400, 8, 2, true}};
     ColourReducer reducer;
     PNGEncoder encoder;
-    for (const auto& [name, components, colourOf, count, bits, error] : cases) {
+    for (const auto& [name, components, colourOf, count, bits, error, hasGradients] : cases) {
         for (const int width : {111, 112, 117}) {
             SCOPED_TRACE(testing::Message() << name << ' ' << width);
             const PageBitmap bitmap = picture(width, components, colourOf, count);
-            EXPECT_EQ(reducer.reduce(bitmap, 0) != nullptr, error == 0);
-            const PaletteBitmap* reduced = reducer.reduce(bitmap, 3);
+            EXPECT_EQ(reducer.reduce(bitmap, {}) != nullptr, count <= (components == 1 ? 16 : 256));
+            const PaletteBitmap* reduced = reducer.reduce(bitmap, {3, hasGradients});
             ASSERT_EQ(reduced != nullptr, error != notReduced);
             if (!reduced)
                 continue;
