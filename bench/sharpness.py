@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Compares the sharpness of JPEG pages: structural similarity (SSIM) to uncompressed output.
+"""Compares the sharpness of pages: structural similarity (SSIM) and PSNR to uncompressed output.
 
 Each program's pages are compared with the drawing of its own engine, so that only what encoding
 and scaling take away counts, not how two engines place their edges. 1 means no difference.
@@ -11,7 +11,7 @@ import pathlib
 import numpy
 from PIL import Image
 
-from support import (ScratchFolder, arguments, clamped_range, default_documents, fail, page_files,
+from support import (ScratchFolder, arguments, clamped_range, default_documents, fail,
                      print_table, publish_command, require, run)
 
 RADIUS = 5
@@ -46,14 +46,21 @@ def ssim(first, second):
     return float(scores.mean())
 
 
+def psnr(first, second):
+    error = ((first - second) ** 2).mean()
+    return float(10 * numpy.log10(255 ** 2 / error)) if error > 0 else 99.0
+
+
 def similarity(page, reference):
+    """SSIM and PSNR."""
     first, second = luma(page), luma(reference)
     # Renderers round a page's size up or down; more than a pixel is an error.
     if any(abs(a - b) > 1 for a, b in zip(first.shape, second.shape)):
         fail(f"{page}: {first.shape} pixels against {second.shape}")
     height = min(first.shape[0], second.shape[0])
     width = min(first.shape[1], second.shape[1])
-    return ssim(first[:height, :width], second[:height, :width])
+    first, second = first[:height, :width], second[:height, :width]
+    return ssim(first, second), psnr(first, second)
 
 
 def sampled(first, last, count):
@@ -76,8 +83,12 @@ def poppler_pair(document, page, folder):
 
 
 def our_pages(program, document, pages, folder):
-    run(publish_command(program, document, folder, ",".join(map(str, pages))))
-    return page_files(folder)
+    """Pictures of a classic and of a web book, by page number."""
+    found = []
+    for kind in ("html", "web"):
+        run(publish_command(program, document, folder / kind, ",".join(map(str, pages)), kind=kind))
+        found.append({int(file.stem): file for file in (folder / kind / "files/page").iterdir()})
+    return found
 
 
 def drawing_of_our_engine(document, page, folder):
@@ -88,17 +99,17 @@ def drawing_of_our_engine(document, page, folder):
 def report(program, document, pages):
     rows = []
     with ScratchFolder() as book:
-        ours = our_pages(program, document, pages, book / "book") if program.exists() else {}
+        ours = our_pages(program, document, pages, book) if program.exists() else []
         for page in pages:
             with ScratchFolder() as folder:
                 theirs = similarity(*poppler_pair(document, page, folder))
                 reference = drawing_of_our_engine(document, page, folder)
-                own = similarity(ours[page], reference) if program.exists() else None
-            rows.append((page, theirs, own))
+                own = [value for kind in ours for value in similarity(kind[page], reference)]
+            rows.append((page, *theirs, *(own or [None] * 4)))
     print(f"## {document.name}\n")
     means = ["mean"] + [sum(values) / len(values) if None not in values else None
                         for values in list(zip(*rows))[1:]]
-    print_table(("page", "pdftoppm", "folvero"),
+    print_table(("page", "pdftoppm", "PSNR", "classic", "PSNR", "web", "PSNR"),
                 [[row[0]] + ["-" if value is None else f"{value:.4f}" for value in row[1:]]
                  for row in [*rows, means]])
 

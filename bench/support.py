@@ -75,8 +75,8 @@ def arguments(description, pages="101-200", rounds=5, documents="*"):
     return parser
 
 
-def publish_command(folvero, document, folder, pages, *options):
-    return [folvero, "publish", "--force", document, folder, "--type", "html", "--pages", pages, *options]
+def publish_command(folvero, document, folder, pages, *options, kind="html"):
+    return [folvero, "publish", "--force", document, folder, "--type", kind, "--pages", pages, *options]
 
 
 def page_files(folder):
