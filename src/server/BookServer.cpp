@@ -2,12 +2,15 @@
 
 #include "base/Log.h"
 #include "server/BookFile.h"
+#include "server/ClientStream.h"
 
 #include <QRegularExpression>
 #include <array>
 #include <cerrno>
 #include <future>
 #include <httplib.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 namespace {
 
@@ -16,8 +19,8 @@ using httplib::Response;
 
 constexpr auto loopback = "127.0.0.1";
 
-// A browser opens half a dozen connections at once, some of them speculatively.
-constexpr std::size_t threads = 16;
+// A browser opens half a dozen connections at once, some of them speculatively. Most threads wait.
+constexpr std::size_t threads = 64;
 
 constexpr Log logger("BookServer");
 
@@ -132,6 +135,12 @@ void answerWithFile(const Request& request, Response& response, BookFile&& opene
                                                  std::to_string(extent.begin + extent.length - 1) +
                                                  '/' + size);
     }
+    // Nothing in a drawing runs when it is opened by its own address. Pages have a policy of their
+    // own.
+    if (file->contentType.startsWith("image/svg"))
+        response.set_header(
+            "Content-Security-Policy",
+            "default-src 'none'; img-src data:; style-src 'unsafe-inline'; sandbox");
     setContent(response, file->contentType, extent.length, FileReader(file, extent));
 }
 
@@ -141,6 +150,7 @@ void answerRequest(const QString& folder, const Request& request, Response& resp
     response.set_header("X-Content-Type-Options", "nosniff");
     // Other sites must not embed the book's pictures and scripts.
     response.set_header("Cross-Origin-Resource-Policy", "same-origin");
+    response.set_header("Referrer-Policy", "no-referrer");
     if (!hasLocalHost(request))
         return answer(response, 403, "Forbidden: open the book by its address 127.0.0.1\n");
     if (request.method != "GET" && request.method != "HEAD") {
@@ -160,15 +170,27 @@ void logAnswer(const Request& request, const Response& response) {
                  QStringLiteral(": ") + QString::number(response.status));
 }
 
+// Serves each connection through a ClientStream.
+class Server : public httplib::Server {
+    bool process_and_close_socket(socket_t socket) override {
+        ClientStream stream(socket);
+        bool isClosed = false;
+        // One request per connection: an idle one would hold a thread, and bytes after the headers
+        // of a refused request must not be read as another request.
+        const bool isDone =
+            stream.is_readable() && process_request(stream, true, isClosed, nullptr);
+        ::shutdown(socket, SHUT_RDWR);
+        ::close(socket);
+        return isDone;
+    }
+};
+
 } // namespace
 
 class BookServer::Implementation {
 public:
     explicit Implementation(const QString& folder) {
         iServer.new_task_queue = [] { return new httplib::ThreadPool(threads); };
-        // One request per connection: an idle one would hold a thread, and bytes after the headers
-        // of a refused request must not be read as another request.
-        iServer.set_keep_alive_max_count(1);
         iServer.set_tcp_nodelay(true);
         // Unlike cpp-httplib's default, does not share the port with another server.
         iServer.set_socket_options([this](socket_t socket) {
@@ -180,11 +202,22 @@ public:
             answerRequest(folder, request, response);
             return httplib::Server::HandlerResponse::Handled;
         });
+        // cpp-httplib refuses ranges that it does not understand, which are to be ignored.
+        const httplib::Server::HandlerWithResponse withoutRange = [folder](const Request& request,
+                                                                           Response& response) {
+            if (response.status != 416 || response.has_header("Content-Range"))
+                return httplib::Server::HandlerResponse::Unhandled;
+            Request whole = request;
+            whole.ranges.clear();
+            answerRequest(folder, whole, response);
+            return httplib::Server::HandlerResponse::Handled;
+        };
+        iServer.set_error_handler(withoutRange);
         if (logger.isDebugEnabled())
             iServer.set_logger(logAnswer);
     }
 
-    httplib::Server iServer;
+    Server iServer;
     socket_t iSocket = INVALID_SOCKET;
     int iPort = 0;
     std::future<bool> iListening; // its destructor waits for the server's threads

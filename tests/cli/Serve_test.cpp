@@ -136,6 +136,7 @@ TEST_F(ServeTest, HandsOutAPublishedBookByteForByteAndManyFilesAtOnce) {
         EXPECT_EQ(answer.header("x-content-type-options"), "nosniff");
         EXPECT_EQ(answer.header("cache-control"), "no-cache");
         EXPECT_EQ(answer.header("cross-origin-resource-policy"), "same-origin");
+        EXPECT_EQ(answer.header("content-security-policy").isEmpty(), !name.endsWith(".svg"));
     }
     EXPECT_TRUE(served.get(served.page + "?reader=1").body.contains("<title>"));
 }
@@ -187,6 +188,7 @@ TEST_F(ServeTest, AnswersForPartsOfAFile) {
         {"bytes=10-", 416, "Range not satisfiable\n", "bytes */10"},
         {"bytes=-0", 416, "Range not satisfiable\n", "bytes */10"},
         {"bytes=0-1\r\nIf-Range: \"another\"", 200, "0123456789", ""},
+        {"bytes=abc", 200, "0123456789", ""},
     };
     for (const auto& item : cases) {
         SCOPED_TRACE(item.range.constData());
@@ -299,6 +301,25 @@ TEST_F(ServeTest, LetsAllConnectionsOfABrowserWait) {
         waiting.push_back(served.connect());
         ASSERT_TRUE(waiting.back().isOpen()) << i;
     }
+}
+
+// Connections without a request hold no other up, and end, however slowly they go on.
+TEST_F(ServeTest, KeepsSlowConnectionsApart) {
+    const Served served(book());
+    std::vector<FileDescriptor> slow;
+    for (int i = 0; i < 40; ++i)
+        slow.push_back(served.connect());
+    const FileDescriptor trickling = served.connect();
+    const timeval pause{0, 300'000};
+    ::setsockopt(trickling.number(), SOL_SOCKET, SO_RCVTIMEO, &pause, sizeof(pause));
+    EXPECT_EQ(served.get("/files/page/1.jpg").status, 200);
+    char byte = 0;
+    bool isOpen = true;
+    for (int i = 0; i < 100 && isOpen; ++i) {
+        ::send(trickling.number(), "G", 1, MSG_NOSIGNAL);
+        isOpen = ::recv(trickling.number(), &byte, 1, 0) < 0 && errno == EAGAIN;
+    }
+    EXPECT_FALSE(isOpen);
 }
 
 TEST_F(ServeTest, EndsWhateverBrowsersHoldOpen) {
