@@ -20,7 +20,11 @@ QByteArray decipheredConfiguration(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw CommandError(QStringLiteral("%1: %2").arg(path, file.errorString()));
-    return CommonCryptor::decryptedRC4DataUsingKey(file.readAll(), userConfigKey);
+    constexpr qint64 mostBytes = 64 << 20; // far beyond any book
+    const QByteArray bytes = file.read(mostBytes + 1);
+    if (bytes.size() > mostBytes)
+        throw CommandError(QStringLiteral("%1: is larger than any configuration").arg(path));
+    return CommonCryptor::decryptedRC4DataUsingKey(bytes, userConfigKey);
 }
 
 // An element's text, or an object of its children; children with the same name become an array.

@@ -14,6 +14,7 @@
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
 #include "console/Terminal.h"
+#include "output/BookName.h"
 #include "output/FolveroOutput.h"
 #include "output/FolveroOutputApp.h"
 #include "output/HTMLConfigInfo.h"
@@ -66,9 +67,14 @@ QString bookName(const PublishOptions& options) {
         if (name.endsWith(ending))
             name.chop(ending.size());
     }
-    if (name.isEmpty() || name.contains(u'/') || name.startsWith(u'.')) {
+    while (options.name.isNull() && name.startsWith(u'.'))
+        name.remove(0, 1);
+    if (options.name.isNull() && !BookName::isSafe(name))
+        name = QStringLiteral("book"); // the name of a PDF can be one that is of no use elsewhere
+    if (!BookName::isSafe(name)) {
         throw CommandError(
-            QStringLiteral("--name: \"%1\" can't be the name of a file").arg(options.name),
+            QStringLiteral("--name: \"%1\" can't be the name of a file on every system")
+                .arg(options.name),
             ExitCode::usage);
     }
     return name + QStringLiteral(".html");
@@ -403,6 +409,7 @@ void runPublish(const PublishOptions& options) {
     files.takeSnapshot();
     const MadeBook made = makeReported(options);
     Terminal::print(made.file);
+    Terminal::checkOutput();
     if (made.isUpToDate && !options.quiet)
         Terminal::report(QStringLiteral("up to date"));
     const auto trouble = troubleWith(made);

@@ -118,11 +118,18 @@ std::shared_ptr<FlashTemplate> TemplateOptions::load(const QString& templateName
 }
 
 void TemplateOptions::applySettingsFile(FlashTemplate& tmpl, const QString& path) {
+    // Far beyond any: whatever it is, it has no settings.
+    constexpr qint64 mostBytes = 16 << 20;
     QFile file(path);
-    if (QFileInfo(path).isDir() || !file.open(QIODevice::ReadOnly)) {
-        throw CommandError(QStringLiteral("%1: the settings file can't be read (%2)")
-                               .arg(path, QFileInfo(path).isDir() ? QStringLiteral("is a folder")
-                                                                  : file.errorString()));
+    const QFileInfo info(path);
+    const QString obstacle = info.isDir()                      ? QStringLiteral("is a folder")
+                             : info.exists() && !info.isFile() ? QStringLiteral("is no file")
+                             : info.size() > mostBytes ? QStringLiteral("is larger than 16 MB")
+                             : file.open(QIODevice::ReadOnly) ? QString()
+                                                              : file.errorString();
+    if (!obstacle.isEmpty()) {
+        throw CommandError(
+            QStringLiteral("%1: the settings file can't be read (%2)").arg(path, obstacle));
     }
     file.close();
     tmpl.importPropertiesSettingsFrom(path);

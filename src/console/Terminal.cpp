@@ -2,6 +2,7 @@
 
 #include "console/CommandError.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -10,13 +11,17 @@ namespace {
 constexpr int barWidth = 30;
 constexpr std::chrono::milliseconds redrawInterval{50};
 
-// Texts from documents and file names must not contain terminal escape sequences when shown on a
-// terminal; pipes get them unchanged.
+// Whether it starts an escape sequence or changes the direction of the letters after it.
+bool isControl(QChar letter) {
+    return (letter.category() == QChar::Other_Control && letter != u'\n' && letter != u'\t') ||
+           (letter >= QChar(0x202A) && letter <= QChar(0x202E)) ||
+           (letter >= QChar(0x2066) && letter <= QChar(0x2069));
+}
+
+// Texts from documents and file names must not pretend to be others on a terminal; pipes get them
+// unchanged.
 QString withoutControls(QString text) {
-    for (QChar& letter : text) {
-        if (letter.category() == QChar::Other_Control && letter != u'\n' && letter != u'\t')
-            letter = QChar::ReplacementCharacter;
-    }
+    std::replace_if(text.begin(), text.end(), isControl, QChar(QChar::ReplacementCharacter));
     return text;
 }
 

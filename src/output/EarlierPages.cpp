@@ -9,6 +9,13 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+namespace {
+
+// Far beyond any of ours.
+constexpr qint64 maxVectorBytes = 32 << 20;
+
+} // namespace
+
 PageFiles EarlierPages::take(int page, PageFiles wanted, const WebPageFiles& files) const {
     if (wanted == PageFiles::classic)
         return take(BookLayout::page(page, QStringLiteral("jpg")), files.pageFile) ? PageFiles::none
@@ -50,7 +57,8 @@ bool EarlierPages::takeWebPage(int page, const WebPageFiles& files) const {
 
 bool EarlierPages::takeVectors(int page, const QString& to) const {
     const QString path = BookLayout::largePage(page, QStringLiteral("js"));
-    const QByteArray json = WebScript::jsonIn(path, Files::contents(iLayout.at(path)));
+    const QByteArray json =
+        WebScript::jsonIn(path, Files::beginning(iLayout.at(path), maxVectorBytes));
     const QJsonObject data = QJsonDocument::fromJson(json).object();
     const QString packed = data.value(QStringLiteral("vectors")).toString();
     const QByteArray vectors = Base91::decode(packed.toLatin1());

@@ -20,8 +20,8 @@ namespace {
 // Far beyond any book: the file may be anything.
 constexpr qint64 maxConfigurationBytes = 64 << 20;
 
-// How much of a page is read: the title and the marker are far before this, the pictures of a
-// single-file book after it.
+// How much of a page or a script is read: the title and the marker are far before this, the
+// pictures of a single-file book after it.
 constexpr qint64 headBytes = 1 << 20;
 
 constexpr char marker[] = "<meta name=\"generator\" content=\"Folvero\">";
@@ -64,7 +64,7 @@ bool ExistingBook::isIn(const QString& folder) {
 bool ExistingBook::isWebBookIn(const QString& folder) {
     const QString metadata = Files::join(folder, BookLayout::metadata);
     return isIn(folder) && QFileInfo(metadata).isFile() &&
-           Files::contents(metadata).startsWith(WebScript::start(BookLayout::metadata));
+           Files::beginning(metadata, headBytes).startsWith(WebScript::start(BookLayout::metadata));
 }
 
 bool ExistingBook::isPage(const QString& file) {
@@ -72,12 +72,13 @@ bool ExistingBook::isPage(const QString& file) {
 }
 
 bool ExistingBook::isTextPage(const QString& file) {
-    return QFileInfo(file).isFile() && Files::contents(file).contains(textPageMark);
+    return QFileInfo(file).isFile() && Files::beginning(file, headBytes).contains(textPageMark);
 }
 
 QString ExistingBook::pageOfServiceWorker(const QString& folder) {
     const QString worker = Files::join(folder, BookLayout::serviceWorker);
-    const QByteArray script = QFileInfo(worker).isFile() ? Files::contents(worker) : QByteArray();
+    const QByteArray script =
+        QFileInfo(worker).isFile() ? Files::beginning(worker, headBytes) : QByteArray();
     if (!script.startsWith(serviceWorkerStart))
         return {};
     const QByteArray line = script.left(script.indexOf('\n'));

@@ -61,6 +61,11 @@ QByteArray Files::contents(const QString& path, Message* error) {
     return {};
 }
 
+QByteArray Files::beginning(const QString& path, qint64 mostBytes) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(mostBytes) : QByteArray();
+}
+
 bool Files::writeAtomically(const QString& path, const QByteArray& data, Message* error) {
     errno = 0;
     QSaveFile file(path);

@@ -12,6 +12,9 @@ namespace Files {
 // The whole file; null when it can't be read, with the cause in *error (when given).
 QByteArray contents(const QString& path, Message* error = nullptr);
 
+// The first bytes of a file, or all; null when it can't be read.
+QByteArray beginning(const QString& path, qint64 mostBytes);
+
 // Writes a temporary file beside the target and renames it over the target. On failure the old file
 // is kept, the function returns false and sets *error (when given) to the cause.
 bool writeAtomically(const QString& path, const QByteArray& data, Message* error = nullptr);
