@@ -713,6 +713,14 @@
         <source>The book “%1” in %2 would be lost.</source>
         <translation>Das Buch „%1“ in %2 ginge verloren.</translation>
     </message>
+    <message>
+        <source>Include the document&apos;s text?</source>
+        <translation>Soll das Buch den Text des Dokuments enthalten?</translation>
+    </message>
+    <message>
+        <source>The document forbids to copy its text. Without text the book can&apos;t be searched, and its words can&apos;t be selected or read aloud.</source>
+        <translation>Das Dokument verbietet, seinen Text zu kopieren. Ohne Text lässt sich das Buch nicht durchsuchen, und seine Wörter lassen sich nicht markieren oder vorlesen.</translation>
+    </message>
 </context>
 <context>
     <name>PDFDocument</name>
@@ -875,6 +883,14 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>With text</source>
+        <translation>Mit Text</translation>
+    </message>
+    <message>
+        <source>Without text</source>
+        <translation>Ohne Text</translation>
     </message>
 </context>
 <context>

@@ -218,6 +218,11 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
                              .arg(page)
                              .arg(reason.english()));
     }
+    if (output.lacksText())
+        Terminal::report(QStringLiteral("folvero: %1: the document forbids to copy its text, so "
+                                        "the book has no text to search "
+                                        "and to select; --allow-text includes it")
+                             .arg(options.pdf));
     if (options.quiet)
         return;
     constexpr double megabyte = 1'000'000;
@@ -307,6 +312,7 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
     if (web) {
         web->setTitle(title);
         web->setOpenPages(openPages);
+        web->setIncludesForbiddenText(options.allowText);
     }
     auto earlier = stamp.removed();
     writeBook(*output, title, folder);

@@ -19,6 +19,7 @@ struct PublishOptions {
     QString pages = QStringLiteral("ALL");
     Spreads spreads = Spreads::automatic;
     bool singleFile = false; // web books only
+    bool allowText = false;  // web books only
     QString previewPages;    // web books only; null: all pages are included
     QString url;             // web books only: where the book will be; null: unknown
     int quality = 100;

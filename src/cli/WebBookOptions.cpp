@@ -46,6 +46,8 @@ void WebBookOptions::check(const PublishOptions& options) {
     const QString text = QStringLiteral("%1 is for web books only; leave out --type");
     if (options.singleFile)
         throw CommandError(text.arg(QStringLiteral("--single-file")), ExitCode::usage);
+    if (options.allowText)
+        throw CommandError(text.arg(QStringLiteral("--allow-text")), ExitCode::usage);
     if (!options.previewPages.isNull())
         throw CommandError(text.arg(QStringLiteral("--preview-pages")), ExitCode::usage);
     if (!options.url.isNull())

@@ -125,6 +125,12 @@ PDFViewing DrawablePDF::viewing() const {
     PDFViewing viewing;
     viewing.rightToLeft =
         iEngine->name(iEngine->entry(preferences, "Direction")) == QStringLiteral("R2L");
+    viewing.allowsText =
+        iEngine->get(
+            [&](fz_context* ctx) {
+                return pdf_has_permission(ctx, iEngine->document, FZ_PERMISSION_COPY);
+            },
+            1) != 0;
     viewing.pageMode = iEngine->name(iEngine->entry(root, "PageMode"));
     if (const auto target = iEngine->openTarget())
         viewing.openPage = target->page;

@@ -21,6 +21,7 @@ struct PDFAnnotation {
 // How a document asks to be shown.
 struct PDFViewing {
     bool rightToLeft = false;
+    bool allowsText = true;      // whether its permissions allow to take text out of it
     QString pageMode;            // what is open beside the page: "UseOutlines", "UseThumbs" ...
     std::optional<int> openPage; // zero-based; none when it is all the same
 };

@@ -19,7 +19,7 @@ void describe(Archive& archive, PDFPage& page) {
 
 template <class Archive>
 void describe(Archive& archive, PDFViewing& viewing) {
-    archive(viewing.rightToLeft, viewing.pageMode, viewing.openPage);
+    archive(viewing.rightToLeft, viewing.allowsText, viewing.pageMode, viewing.openPage);
 }
 
 template <class Archive>

@@ -8,6 +8,7 @@
 #include "output/ExistingBook.h"
 #include "output/FolveroOutputApp.h"
 #include "pages/PageFilesOperation.h"
+#include "pdf/PDFDocument.h"
 #include "system/Files.h"
 #include "ui/OutputWindow.h"
 #include "ui/Panels.h"
@@ -62,9 +63,9 @@ void showProgress(QProgressDialog* dialog, int done, int total) {
 } // namespace
 
 OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
-    : iWindow(new OutputWindow(parent)),
-      iQuestions{Panels::chooseFolder, Panels::askToReplace, Panels::askToOpen, Panels::open,
-                 Panels::showMessage} {
+    : iWindow(new OutputWindow(parent)), iQuestions{Panels::chooseFolder, Panels::askToReplace,
+                                                    Panels::askToOpen,    Panels::open,
+                                                    Panels::showMessage,  Panels::askForText} {
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     awakeFromNib();
@@ -173,6 +174,7 @@ void OutputWindowDelegate::onPublish() {
     const QString lost = overwriteWarning(*iOutput);
     if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
         return;
+    askForText(*iOutput);
     const PageFiles kind = AppSettings::shareInstance().outputType() == OutputWindow::webBook
                                ? PageFiles::web
                                : PageFiles::classic;
@@ -180,6 +182,22 @@ void OutputWindowDelegate::onPublish() {
         makePageFiles(kind);
     else
         publishAndEnd();
+}
+
+// A web book contains the document's text unless the document forbids to copy it.
+void OutputWindowDelegate::askForText(FolveroOutput& output) const {
+    auto* const web = dynamic_cast<FolveroOutputWeb*>(&output);
+    try {
+        if (!web || !iBook.document || iBook.document->viewing().allowsText)
+            return;
+    } catch (const PlatformException& failure) {
+        logger.warn(failure.reason());
+        return;
+    }
+    web->setIncludesForbiddenText(iQuestions.includeText(
+        tr("Include the document's text?"), tr("The document forbids to copy its text. Without "
+                                               "text the book can't be searched, and its "
+                                               "words can't be selected or read aloud.")));
 }
 
 // Of pages that were imported for another kind of book. Takes as long as an import.

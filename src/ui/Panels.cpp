@@ -85,6 +85,17 @@ bool Panels::askToReplace(const QString& message, const QString& information) {
     return alert.clickedButton() == replace;
 }
 
+bool Panels::askForText(const QString& message, const QString& information) {
+    QMessageBox alert(QMessageBox::Question, QApplication::applicationDisplayName(), message,
+                      QMessageBox::NoButton, QApplication::activeWindow());
+    const QAbstractButton* with = alert.addButton(
+        QCoreApplication::translate("Panels", "With text"), QMessageBox::AcceptRole);
+    alert.setDefaultButton(alert.addButton(QCoreApplication::translate("Panels", "Without text"),
+                                           QMessageBox::RejectRole));
+    run(alert, information);
+    return alert.clickedButton() == with;
+}
+
 void Panels::showMessage(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
                       QMessageBox::Ok, QApplication::activeWindow());

@@ -33,6 +33,9 @@ bool askToOpen(const QString& message, const QString& information);
 // True when the user wants to replace what would be lost; "no" is the default.
 bool askToReplace(const QString& message, const QString& information);
 
+// True for "With text"; "Without text" is the default.
+bool askForText(const QString& message, const QString& information);
+
 void showMessage(const QString& message, const QString& information);
 
 // Shows the about box: the program, its version and its licence.

@@ -19,6 +19,13 @@ PublishStep shareImage(const ShareImage& image) {
             }};
 }
 
+// Of an earlier run, when this one leaves out the text.
+void removeTextPage(PublishTarget& to) {
+    const QString path = to.layout.at(BookLayout::textPage);
+    if (!to.writes(BookLayout::textPage) && ExistingBook::isTextPage(path))
+        to.transaction.remove(path);
+}
+
 void checkName(const WebBook& book) {
     if (book.htmlName().compare(book.metadata.textPage, Qt::CaseInsensitive) == 0)
         PublishTransaction::fail(
@@ -39,6 +46,7 @@ void FolveroOutputWeb::ouputTheBook() {
             iReport.degradedPages.emplace_back(page.number, page.failure);
     }
     iWorksOffline = book.metadata.offline;
+    iLacksText = !book.hasText;
     run(layout(), iIsSingleFile ? singleFileSteps(book) : folderSteps(book));
 }
 
@@ -54,8 +62,10 @@ WebBook FolveroOutputWeb::webBook() const {
     book.readDocument(iOpenPages);
     if (!iTitle.isEmpty())
         book.metadata.title = iTitle;
+    book.hasText = iIncludesForbiddenText || book.metadata.allowsText;
     if (!iIsSingleFile) {
-        book.metadata.textPage = BookLayout::textPage;
+        if (book.hasText)
+            book.metadata.textPage = BookLayout::textPage;
         if (const WebPage* first = book.firstPage(); first && !first->thumbnail.isNull())
             book.metadata.cover = BookLayout::thumbnail(first->number);
         book.metadata.offline = OfflineFiles::canWriteTo(layout());
@@ -101,6 +111,7 @@ PublishSteps FolveroOutputWeb::folderSteps(const WebBook& book) {
         {"page", [this, &book](PublishTarget& to) { WebBookSteps::writePage(to, book, iReport); }}};
     steps += configuration(book);
     steps += {{"player", WebBookSteps::copyPlayer},
+              {"text of the existing book", removeTextPage},
               {"offline files", [&book](PublishTarget& to) { OfflineFiles::write(to, book); }},
               {"movie of a classic book",
                [](PublishTarget& to) { to.transaction.remove(to.layout.at(BookLayout::movie)); }},

@@ -33,6 +33,9 @@ public:
     // neither pictures nor text. None includes all.
     void setOpenPages(std::optional<std::vector<PageRun>> pages) { iOpenPages = std::move(pages); }
 
+    // Includes text also if the document's permissions forbid to take it out; not by default.
+    void setIncludesForbiddenText(bool includes) { iIncludesForbiddenText = includes; }
+
     // Does nothing without pages.
     void ouputTheBook() override;
     QStringList foreignFiles() const override;
@@ -44,6 +47,8 @@ public:
     // False when the folder contains another site's service worker or manifest, which is kept:
     // readers can't save the book for offline use then, nor can they with a single-file book.
     bool worksOffline() const { return iWorksOffline; }
+    // Whether the last run left out the text, which the document forbids to take out of it.
+    bool lacksText() const { return iLacksText; }
     // Bytes that the last run wrote for pages: pictures, larger ones, thumbnails, text.
     qint64 pageBytes() const { return iReport.pageBytes; }
 
@@ -64,4 +69,6 @@ private:
     std::optional<std::vector<PageRun>> iOpenPages;
     WebBookReport iReport;
     bool iWorksOffline = false;
+    bool iIncludesForbiddenText = false;
+    bool iLacksText = false;
 };

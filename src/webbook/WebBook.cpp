@@ -49,6 +49,7 @@ void readInformation(const PDFDocument& document, WebBookMetadata& metadata) {
 
 void readViewing(const PDFDocument& document, WebBookMetadata& metadata) {
     const PDFViewing viewing = document.viewing();
+    metadata.allowsText = viewing.allowsText;
     if (viewing.pageMode == u"UseOutlines")
         metadata.panel = QStringLiteral("contents");
     else if (viewing.pageMode == u"UseThumbs")

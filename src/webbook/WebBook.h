@@ -25,6 +25,7 @@ struct WebBook {
     std::vector<WebPage> pages; // in book order
     Book content;               // as imported
     ShareImage shareImage;      // empty for none
+    bool hasText = true;        // otherwise without words to select, search and the page of text
     PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
 
     // Reads metadata and outline, unless there is one, from the document, and the texts for search

@@ -29,6 +29,7 @@ struct WebBookMetadata {
     QString address;          // absolute, of the book's page; empty for unknown
     QString imageAddress;     // absolute, of the picture shown with links; empty for none
     QSize imageSize;          // in pixels
+    bool allowsText = true;   // whether the document allows to take text out of it
     bool offline = false;     // whether readers can save the book for offline use
     // In a preview, the runs of positions that are included; none when all are.
     std::optional<std::vector<PageRun>> open;

@@ -104,7 +104,7 @@ QString PageWriter::write(const WebPage& page) {
     iReport.pageBytes += QFileInfo(page.picture).size();
     copy(page.thumbnail, BookLayout::thumbnail(page.number));
     copyLarge(page);
-    const auto lines = textFrom(page.text);
+    const auto lines = iBook.hasText ? textFrom(page.text) : std::vector<PDFTextLine>();
     writeScript(BookLayout::text(page.number), textOf(page, lines));
     return WebPageText::plain(lines);
 }

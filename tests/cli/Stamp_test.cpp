@@ -30,14 +30,14 @@ protected:
 
 TEST_F(StampTest, EveryOptionThatChangesTheBookMakesItAnew) {
     const QString settings = "--settings=" + path("settings.txt");
-    QStringList changes{"--type=app",       "--name=other",
-                        "--title=Other",    "--pages=1-2",
-                        "--single-file",    "--preview-pages=1",
-                        "--spreads=split",  "--url=https://example.org/book/",
-                        "--quality=50",     "--links",
-                        "--bookmarks",      "--template=deck",
-                        "--style=Garden",   settings,
-                        "--set=topMargin=7"};
+    QStringList changes{"--type=app",        "--name=other",
+                        "--title=Other",     "--pages=1-2",
+                        "--single-file",     "--preview-pages=1",
+                        "--spreads=split",   "--url=https://example.org/book/",
+                        "--quality=50",      "--links",
+                        "--bookmarks",       "--template=deck",
+                        "--style=Garden",    settings,
+                        "--set=topMargin=7", "--allow-text"};
     const QStringList runOptions{"--watch", "--jobs",     "--quiet",         "--timing", "--report",
                                  "--force", "--password", "--password-file", "--help"};
     const QString help = QString::fromUtf8(Program::run({"publish", "--help"}).output);

@@ -1,3 +1,5 @@
+#include "builder/PDFBuilder.h"
+#include "builder/PDFContent.h"
 #include "cli/BookTest.h"
 #include "support/PublishedBook.h"
 #include "system/Bundle.h"
@@ -162,6 +164,26 @@ TEST_F(WebBookTest, EscapesTheTextsOfADocumentWhereverTheyStand) {
     const qsizetype from = page.indexOf(start) + start.size();
     const QByteArray json = page.mid(from, page.indexOf("</script>", from) - from);
     EXPECT_EQ(QJsonDocument::fromJson(json)["@type"], "Book");
+}
+
+TEST_F(WebBookTest, HasTextThatTheDocumentForbidsToCopyOnlyIfAsked) {
+    auto sheet = PDFBuilder::page({300, 400});
+    sheet.fonts = {{"F", "Helvetica"}};
+    sheet.content = PDFContent::text("F", 24, {50, 200}, "Classified");
+    PDFBuilder builder;
+    builder.addPage(sheet);
+    builder.encrypt({}, "owner", -4 & ~16);
+    ASSERT_TRUE(builder.write(path("secret.pdf")));
+    for (const char* option : {"--allow-text", "--force"}) {
+        const auto result =
+            Program::run({"publish", path("secret.pdf"), book(), "--quiet", option});
+        ASSERT_EQ(result.exitCode, 0) << result.errors.constData();
+        const bool isAllowed = QByteArray(option) == "--allow-text";
+        EXPECT_EQ(result.errors.contains("forbids to copy its text"), !isAllowed);
+        EXPECT_EQ(TestFiles::read(file("files/text/1.js")).contains("Classified"), isAllowed);
+        EXPECT_EQ(TestFiles::read(file("files/search/text.js")).contains("Classified"), isAllowed);
+        EXPECT_EQ(QFile::exists(file("text.html")), isAllowed);
+    }
 }
 
 TEST_F(WebBookTest, AnAddressStandsInThePageWithAPictureForLinks) {

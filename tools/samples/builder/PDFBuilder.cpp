@@ -296,8 +296,9 @@ void PDFBuilder::addCatalogEntries(const QByteArray& entries) {
     iCatalogEntries += " " + entries;
 }
 
-void PDFBuilder::encrypt(const QByteArray& userPassword, const QByteArray& ownerPassword) {
-    iPasswords = Passwords{userPassword, ownerPassword};
+void PDFBuilder::encrypt(const QByteArray& userPassword, const QByteArray& ownerPassword,
+                         qint32 permissions) {
+    iPasswords = Passwords{userPassword, ownerPassword, permissions};
 }
 
 QByteArray PDFBuilder::pagesDictionary() const {
@@ -352,7 +353,8 @@ QByteArray PDFBuilder::build() const {
         trailer += " /Info " + reference(last);
     }
     if (iPasswords) {
-        const PDFEncryption encryption(iPasswords->user, iPasswords->owner);
+        const PDFEncryption encryption(iPasswords->user, iPasswords->owner,
+                                       iPasswords->permissions);
         for (auto& [object, content] : objects) {
             content.body = encryption.withStringsEncrypted(object, content.body);
             if (content.stream)

@@ -105,8 +105,10 @@ public:
     void setInfo(const QByteArray& key, const QString& value);
     void setOutline(std::vector<OutlineEntry> entries);
     void addCatalogEntries(const QByteArray& entries);
-    // Standard security handler, 40-bit RC4. An empty user password opens without asking.
-    void encrypt(const QByteArray& userPassword, const QByteArray& ownerPassword);
+    // Standard security handler, 40-bit RC4. An empty user password opens without asking, and then
+    // with these permissions, all by default.
+    void encrypt(const QByteArray& userPassword, const QByteArray& ownerPassword,
+                 qint32 permissions = -4);
 
     QByteArray build() const;
     bool write(const QString& path) const;
@@ -119,6 +121,7 @@ private:
     struct Passwords {
         QByteArray user;
         QByteArray owner;
+        qint32 permissions;
     };
 
     int addImage(QSize size, int components, const QByteArray& entries, const QByteArray& data,

@@ -8,7 +8,6 @@ namespace {
 
 constexpr int kKeyLength = 5;
 constexpr int kPasswordLength = 32;
-constexpr qint32 kPermissions = -4; // everything allowed
 const QByteArray kIdentifier = QByteArrayLiteral("folvero sample 1");
 
 QByteArray md5(const QByteArray& data) {
@@ -52,17 +51,19 @@ QByteArray littleEndian(quint32 value, int bytes) {
 
 } // namespace
 
-PDFEncryption::PDFEncryption(const QByteArray& userPassword, const QByteArray& ownerPassword)
-    : iOwnerEntry(rc4(md5(padded(ownerPassword)).left(kKeyLength), padded(userPassword))) {
+PDFEncryption::PDFEncryption(const QByteArray& userPassword, const QByteArray& ownerPassword,
+                             qint32 permissions)
+    : iPermissions(permissions),
+      iOwnerEntry(rc4(md5(padded(ownerPassword)).left(kKeyLength), padded(userPassword))) {
     iKey = md5(padded(userPassword) + iOwnerEntry +
-               littleEndian(static_cast<quint32>(kPermissions), 4) + kIdentifier)
+               littleEndian(static_cast<quint32>(iPermissions), 4) + kIdentifier)
                .left(kKeyLength);
     iUserEntry = rc4(iKey, padding());
 }
 
 QByteArray PDFEncryption::dictionary() const {
     return "<< /Filter /Standard /V 1 /R 2 /O <" + iOwnerEntry.toHex() + "> /U <" +
-           iUserEntry.toHex() + "> /P " + QByteArray::number(kPermissions) + " >>";
+           iUserEntry.toHex() + "> /P " + QByteArray::number(iPermissions) + " >>";
 }
 
 QByteArray PDFEncryption::fileIdentifier() const {

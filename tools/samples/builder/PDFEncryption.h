@@ -6,7 +6,8 @@
 // encrypted files. Independent of the program's ciphers, so that a bug in them can't hide.
 class PDFEncryption {
 public:
-    PDFEncryption(const QByteArray& userPassword, const QByteArray& ownerPassword);
+    PDFEncryption(const QByteArray& userPassword, const QByteArray& ownerPassword,
+                  qint32 permissions);
 
     // The Encrypt dictionary; it stays unencrypted itself.
     QByteArray dictionary() const;
@@ -19,6 +20,7 @@ public:
     QByteArray withStringsEncrypted(int objectNumber, const QByteArray& body) const;
 
 private:
+    qint32 iPermissions;
     QByteArray iOwnerEntry;
     QByteArray iUserEntry;
     QByteArray iKey;
