@@ -7,7 +7,7 @@ PDF ?= $(BUILD)/samples/sample.pdf
 
 configure = { mkdir -p build && cmake --preset $(PRESET) $(1) >$(BUILD).log 2>&1 || { cat $(BUILD).log; exit 1; }; }
 
-.PHONY: book app package test sanitizers bench packages packages-desktop packages-test build-book build-desktop build build-tidy \
+.PHONY: book app package test faults sanitizers bench packages packages-desktop packages-test build-book build-desktop build build-tidy \
 	format format-check tidy tidy-change help
 
 help:
@@ -15,6 +15,7 @@ help:
 	@echo "make app [PDF=file.pdf]                 start the program with its window"
 	@echo "make package                            make Debian packages to install it with"
 	@echo "make test                               build and run every test"
+	@echo "make faults                             kill the program wherever it changes a book's folder"
 	@echo "make sanitizers                         the core's tests under sanitizers, a moment of fuzzing"
 	@echo "make bench                              measure, see docs/performance.md"
 	@echo "make format-check                       check the format of the C++ code"
@@ -58,6 +59,9 @@ package: build-desktop
 
 test: build format-check
 	@ctest --preset $(PRESET) -j 2
+
+faults: build
+	@tools/faults.py
 
 # Two more builds of the core alone, which use the generated files of the first one.
 sanitizers: build

@@ -196,6 +196,10 @@
         <source>The page with the book&apos;s text has that name</source>
         <translation>So heißt schon die Seite mit dem Text des Buchs</translation>
     </message>
+    <message>
+        <source>Earlier files of the book are in it and can&apos;t be put back</source>
+        <translation>Er enthält frühere Dateien des Buchs, die nicht zurückgelegt werden können</translation>
+    </message>
 </context>
 <context>
     <name>ImportPDFOperation</name>

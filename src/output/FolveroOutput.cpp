@@ -43,13 +43,13 @@ QString FolveroOutput::outputSWFName() const {
 
 // A first publish that was killed leaves files without a configuration.
 bool FolveroOutput::hasExistingBook() const {
-    return ExistingBook::isIn(iSaveToFolder) || StagingFolder::hasStale(iSaveToFolder);
+    return ExistingBook::isIn(iSaveToFolder) || StagingFolder::hasUnfinished(iSaveToFolder);
 }
 
 QStringList FolveroOutput::foreignFiles() const {
     QStringList found = ForeignFiles::page(outputHTMLFileName());
     const bool hasBook = hasExistingBook();
-    const bool hasMovie = hasBook && (StagingFolder::hasStale(iSaveToFolder) ||
+    const bool hasMovie = hasBook && (StagingFolder::hasUnfinished(iSaveToFolder) ||
                                       !ExistingBook::isWebBookIn(iSaveToFolder));
     if (!hasMovie && ForeignFiles::isThere(outputSWFName()))
         found << outputSWFName();

@@ -1,19 +1,16 @@
 #include "output/FolveroOutputApp.h"
 
 #include "base/Log.h"
+#include "base/PlatformException.h"
+#include "output/FolderCommit.h"
 #include "output/ForeignFiles.h"
-#include "output/StagingFolder.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
-#include <cerrno>
-#include <fcntl.h>
 #include <filesystem>
-#include <unistd.h>
 
 namespace {
 
@@ -44,24 +41,6 @@ void copyShell(const QString& contents) {
     }
 }
 
-// Exchanges the two names atomically where the file system supports it, so that either the old
-// bundle or the new one is always there. The old one ends up under the working path.
-bool exchange(const QString& working, const QString& final) {
-    const QByteArray from = QFile::encodeName(working);
-    const QByteArray to = QFile::encodeName(final);
-    if (::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_EXCHANGE) == 0)
-        return true;
-    const QByteArray old = from + ".old";
-    const bool hadOld = std::rename(to.constData(), old.constData()) == 0;
-    if (std::rename(from.constData(), to.constData()) == 0)
-        return true;
-    const int cause = errno;
-    if (hadOld)
-        std::rename(old.constData(), to.constData());
-    errno = cause;
-    return false;
-}
-
 } // namespace
 
 FolveroOutputApp::FolveroOutputApp(std::shared_ptr<FlashPageSource> pageSource,
@@ -87,16 +66,18 @@ void FolveroOutputApp::ouputTheBook() {
         reportFailure(lastErrorAt(folder));
         return;
     }
-    StagingFolder::removeStale(folder);
-    const QString staging = StagingFolder::make(folder);
-    if (staging.isNull()) {
-        reportFailure(lastErrorAt(folder));
-        return;
+    try {
+        FolderCommit commit(folder, folder);
+        const QString name = QFileInfo(bundle).fileName();
+        CommitSwitch& steps = commit.steps();
+        if (!publishInto(Files::join(commit.staging(), CommitSwitch::swapName + u'/' + name)))
+            return;
+        if (!steps.addReplacement(QFile::encodeName(name)))
+            throw PlatformException(ErrorKind::publishing, lastErrorAt(bundle));
+        commit.commit();
+    } catch (const PlatformException& failure) {
+        reportFailure(failure.message());
     }
-    const auto end = qScopeGuard([&] { StagingFolder::remove(staging); });
-    const QString working = Files::join(staging, QFileInfo(bundle).fileName());
-    if (publishInto(working) && !exchange(working, bundle))
-        reportFailure(lastErrorAt(bundle));
 }
 
 QStringList FolveroOutputApp::foreignFiles() const {

@@ -1,18 +1,20 @@
 #pragma once
 
 #include "base/Message.h"
+#include "output/FolderCommit.h"
+#include "output/NextEdition.h"
 
 #include <QByteArray>
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <utility>
 #include <vector>
 
-// Applies the changes of one publish to a folder, all at its end or none. New content is staged in
-// a hidden folder inside it; if this process dies, a later transaction removes that. Every function
-// but the destructor throws PlatformException with the file and the cause as its reason; the folder
-// is unchanged then.
+// Applies the changes of one publish to a folder, all at its end or none, by a FolderCommit. Every
+// function but the destructor throws PlatformException with the file and the cause as its reason;
+// the folder is unchanged then.
 //
 // The folder itself may be reached through symbolic links. Links below it are never followed: one
 // in place of a file or folder is replaced.
@@ -26,14 +28,7 @@ public:
     // independent file.
     enum class Copy { independent, mayHardLink };
 
-    // What a commit did. An existing file with the same content is left alone, so that it keeps its
-    // modification time and syncing the book elsewhere copies less.
-    struct Counts {
-        int written = 0;
-        int unchanged = 0;
-        int removed = 0;
-        qint64 bytes = 0; // of the files that were written or unchanged
-    };
+    using Counts = FileCounts;
 
     // Creates the folder if it is missing. workingFolder, if not null, is changed in its place, to
     // be moved there afterwards: paths, those in errors included, are still below the folder.
@@ -70,51 +65,25 @@ public:
     static QByteArray contents(const QString& path);
 
 private:
-    struct Change {
-        QString target;
-        QString staged; // null for a removal
-        Phase phase = Phase::contents;
-    };
-    struct Undo {
-        QString target;
-        QString backup; // null when the file did not exist
-        bool isFolder = false;
-    };
-
-    // Translates between the folder and the working folder; returns a clean path.
-    QString onDisk(const QString& path) const;
-    [[noreturn]] void failAt(const QString& pathOnDisk, const Message& cause) const;
-    [[noreturn]] void failWithErrno(const QString& pathOnDisk) const;
-    void preserveBackups() const;
+    // The path relative to the folder; throws for one that is not below it.
+    QString relative(const QString& path) const;
+    QString named(const QString& relativePath) const;
+    QString stagedPath(int name) const;
     void makeRoot(const QString& path);
-    void makeFolderNow(const QString& path);
-    // Moves an existing entry into the staging folder.
-    void moveToStaging(const QString& path);
-    // Keeps a hard link or copy of a file that is about to be replaced, so that it never goes
-    // missing and can be restored. Null where other kinds of entries can't have one.
-    QString makeBackup(const QString& path);
-    bool isBeneath(const QString& path) const;
-    bool isBehindLink(const QString& path) const;
-    QString newName();
-    // Writes what is staged to disk.
-    void flush() const;
-    Change& changeOf(const QString& target);
-    bool isUpToDate(const Change& change) const;
-    void install(const Change& change);
-    void removeTarget(const Change& change);
-    // False when an existing file could not be restored.
-    bool rollBack();
+    bool isBehindLink(const QString& relativePath) const;
+    std::size_t indexOf(const QString& relativePath);
+    void sortByPhase();
     void removeCreatedRoots();
 
     QString iNamedFolder;
-    QString iFolder; // the one that is changed; all other members are about it
-    QString iStaging;
+    QString iFolder; // the one that is changed
+    std::optional<FolderCommit> iCommit;
     int iNameCount = 0;
-    std::vector<Change> iChanges;
-    QHash<QString, std::size_t> iIndexOfTarget;
+    std::vector<NextEdition::Change> iChanges;
+    std::vector<Phase> iPhases; // of the changes
+    QHash<QString, std::size_t> iIndexOfPath;
     QStringList iFoldersToMake;
     QStringList iCreatedRoots;
-    std::vector<Undo> iDone;
     Counts iCounts;
     bool iCommitted = false;
 };

@@ -30,23 +30,6 @@ bool writeAll(int to, const void* data, std::size_t size) {
     return true;
 }
 
-bool copyBytes(int from, int to) {
-    if (::ioctl(to, FICLONE, from) == 0)
-        return true;
-    constexpr std::size_t piece = 1 << 30;
-    while (::copy_file_range(from, nullptr, to, nullptr, piece, 0) > 0) {
-    }
-    // What is left, which is all where a file system does not support that.
-    char buffer[1 << 16];
-    for (;;) {
-        const ssize_t count = ::read(from, buffer, sizeof buffer);
-        if (count <= 0)
-            return count == 0;
-        if (!writeAll(to, buffer, std::size_t(count)))
-            return false;
-    }
-}
-
 } // namespace
 
 QByteArray Files::contents(const QString& path, Message* error) {
@@ -106,11 +89,28 @@ bool Files::copy(const QString& source, const QString& target, Message* error) {
     FileDescriptor to(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (!to.isOpen())
         return fail(error);
-    if (copyBytes(from.number(), to.number()) && to.close())
+    if (copyContents(from.number(), to.number()) && to.close())
         return true;
     const bool result = fail(error);
     ::unlink(name.constData());
     return result;
+}
+
+bool Files::copyContents(int from, int to) {
+    if (::ioctl(to, FICLONE, from) == 0)
+        return true;
+    constexpr std::size_t piece = 1 << 30;
+    while (::copy_file_range(from, nullptr, to, nullptr, piece, 0) > 0) {
+    }
+    // What is left, which is all where a file system does not support that.
+    char buffer[1 << 16];
+    for (;;) {
+        const ssize_t count = ::read(from, buffer, sizeof buffer);
+        if (count <= 0)
+            return count == 0;
+        if (!writeAll(to, buffer, std::size_t(count)))
+            return false;
+    }
 }
 
 bool Files::linkOrCopy(const QString& source, const QString& target, Message* error) {

@@ -30,6 +30,9 @@ QString temporaryPath(const QString& path);
 // where the file system supports it, a full copy otherwise. Fails when the target exists.
 bool copy(const QString& source, const QString& target, Message* error = nullptr);
 
+// The same from one open file into another. False with the cause in errno.
+bool copyContents(int from, int to);
+
 // As copy(), but may create a hard link. Only for sources that are never modified in place
 // afterwards.
 bool linkOrCopy(const QString& source, const QString& target, Message* error = nullptr);

@@ -4,31 +4,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
 #include <sys/stat.h>
-#include <vector>
 
 namespace {
 
 constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-
-// Reads all names before removing any: what readdir() returns when entries are removed meanwhile
-// depends on the file system.
-std::vector<QByteArray> namesIn(int folder) {
-    std::vector<QByteArray> names;
-    const std::unique_ptr<DIR, int (*)(DIR*)> list(
-        ::fdopendir(::openat(folder, ".", openFolderItself)), ::closedir);
-    if (!list)
-        return names;
-    while (const dirent* entry = ::readdir(list.get())) {
-        const QByteArray name(entry->d_name);
-        if (name != "." && name != "..")
-            names.push_back(name);
-    }
-    return names;
-}
 
 bool isOnDevice(int folder, dev_t device) {
     struct stat info {};
@@ -47,8 +31,9 @@ bool removeOnDevice(int folder, const QByteArray& name, dev_t device) {
 }
 
 bool emptyOnDevice(int folder, dev_t device) {
-    bool isEmpty = true;
-    for (const QByteArray& name : namesIn(folder))
+    const auto names = FolderRemoval::namesIn(folder);
+    bool isEmpty = names.has_value();
+    for (const QByteArray& name : names.value_or(std::vector<QByteArray>()))
         isEmpty = removeOnDevice(folder, name, device) && isEmpty;
     return isEmpty;
 }
@@ -73,4 +58,25 @@ bool FolderRemoval::removeEntry(int folder, const QByteArray& name) {
 bool FolderRemoval::empty(int folder) {
     struct stat info {};
     return ::fstat(folder, &info) == 0 && emptyOnDevice(folder, info.st_dev);
+}
+
+// Reads all names before removing any: what readdir() returns when entries are removed meanwhile
+// depends on the file system.
+std::optional<std::vector<QByteArray>> FolderRemoval::namesIn(int folder) {
+    std::vector<QByteArray> names;
+    const std::unique_ptr<DIR, int (*)(DIR*)> list(
+        ::fdopendir(::openat(folder, ".", openFolderItself)), ::closedir);
+    if (!list)
+        return {};
+    for (;;) {
+        errno = 0;
+        const dirent* entry = ::readdir(list.get());
+        if (!entry && errno != 0)
+            return {};
+        if (!entry)
+            return names;
+        const QByteArray name(entry->d_name);
+        if (name != "." && name != "..")
+            names.push_back(name);
+    }
 }

@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
+#include <vector>
 
 // Removes folders recursively where other users may have write access: symbolic links are removed,
 // never followed, and mounted file systems are left alone.
@@ -16,5 +18,9 @@ bool removeEntry(int folder, const QByteArray& name);
 
 // Removes the contents of an open folder. True when it is empty afterwards.
 bool empty(int folder);
+
+// The names of the entries of an open folder, in no particular order; null, with the cause in
+// errno, when not all could be read.
+std::optional<std::vector<QByteArray>> namesIn(int folder);
 
 } // namespace FolderRemoval

@@ -31,6 +31,12 @@ public:
         iFolders.erase(path);
     }
 
+    int find(const QByteArray& path) {
+        const std::lock_guard lock(iMutex);
+        const auto found = iFolders.find(path);
+        return found != iFolders.end() ? found->second.number() : -1;
+    }
+
 private:
     std::mutex iMutex;
     std::map<QByteArray, FileDescriptor> iFolders;
@@ -84,6 +90,14 @@ bool LockedFolder::remove(const QString& path) {
     const bool isGone = FolderRemoval::remove(path);
     heldLocks().drop(QFile::encodeName(path));
     return isGone;
+}
+
+void LockedFolder::release(const QString& path) {
+    heldLocks().drop(QFile::encodeName(path));
+}
+
+int LockedFolder::descriptor(const QString& path) {
+    return heldLocks().find(QFile::encodeName(path));
 }
 
 bool LockedFolder::isLocked(int parent, const QByteArray& name) {

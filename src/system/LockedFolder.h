@@ -19,6 +19,12 @@ QString make(const QString& path);
 // Removes a folder with its contents, and releases the lock.
 bool remove(const QString& path);
 
+// Releases the lock of a folder that is left for a later run.
+void release(const QString& path);
+
+// The folder's descriptor, which holds the lock; -1 when this process has not locked it.
+int descriptor(const QString& path);
+
 // Whether any process, including this one, has locked an entry of an open folder.
 bool isLocked(int parent, const QByteArray& name);
 

@@ -139,7 +139,7 @@ QStringList FolveroOutputWeb::foreignFiles() const {
     const QString text = layout().at(BookLayout::textPage);
     if (ForeignFiles::isThere(text) && !ExistingBook::isTextPage(text))
         found << text;
-    if (!ExistingBook::isWebBookIn(iSaveToFolder) && !StagingFolder::hasStale(iSaveToFolder))
+    if (!ExistingBook::isWebBookIn(iSaveToFolder) && !StagingFolder::hasUnfinished(iSaveToFolder))
         found << ForeignFiles::ofWebBook(layout());
     return found;
 }

@@ -1,8 +1,11 @@
 #include "builder/PDFBuilder.h"
 #include "builder/PDFContent.h"
 #include "cli/BookTest.h"
+#include "system/FileDescriptor.h"
+#include "system/LockedFolder.h"
 
 #include <QElapsedTimer>
+#include <fcntl.h>
 #include <random>
 #include <thread>
 
@@ -11,13 +14,13 @@ namespace {
 using namespace std::chrono_literals;
 using Contents = std::map<QString, QByteArray>;
 
-// Two documents of the same number of pages, whose books have no file in common but the player.
+// Two documents whose books have no file in common but the player.
 class CrashTest : public BookTest {
 protected:
     CrashTest() {
         for (const char* name : {"old", "new"}) {
             PDFBuilder pdf;
-            for (int page = 1; page <= 12; ++page) {
+            for (int page = 1; page <= (name[0] == 'n' ? 9 : 12); ++page) {
                 PDFBuilder::Page sheet;
                 sheet.mediaBox = QRectF(0, 0, 600 + (name[0] == 'n'), 800);
                 sheet.fonts = {{"F", "Helvetica"}};
@@ -36,7 +39,7 @@ protected:
     }
 
     bool isWriting() const {
-        return !QDir(book()).entryList({".folvero-publish-*"}, QDir::Dirs | QDir::Hidden).isEmpty();
+        return !QDir(book()).entryList({staging}, QDir::Dirs | QDir::Hidden).isEmpty();
     }
 
     // Publishes and kills the program: somewhere on its way, or in the short time in which it
@@ -57,19 +60,19 @@ protected:
         process.waitForFinished();
     }
 
-    void expectWholeFiles(const Contents& before, const Contents& after) const {
-        const Contents now = contents();
-        for (const auto& [name, content] : before) {
-            const auto found = now.find(name);
-            ASSERT_TRUE(found != now.end()) << name.toStdString() << " is missing";
-            EXPECT_TRUE(found->second == content || found->second == after.at(name))
-                << name.toStdString() << " is neither the old nor the new one";
+    // Without staging folders, once the guard of a killed program is done.
+    Contents edition() const {
+        const FileDescriptor folder(::open(QFile::encodeName(book()).constData(), O_RDONLY));
+        for (const QString& name : QDir(book()).entryList({staging}, QDir::Dirs | QDir::Hidden)) {
+            while (LockedFolder::isLocked(folder.number(), QFile::encodeName(name)))
+                std::this_thread::yield();
         }
-        for (const auto& [name, content] : now)
-            EXPECT_TRUE(name.startsWith(".folvero-publish-") || before.count(name) > 0)
-                << name.toStdString();
+        Contents found = contents();
+        std::erase_if(found, [](const auto& each) { return each.first.startsWith(".folvero-"); });
+        return found;
     }
 
+    const QString staging = ".folvero-publish-*";
     std::chrono::duration<double> whole; // that publishing takes
     const unsigned seed = std::random_device()();
     std::mt19937 random{seed};
@@ -77,7 +80,7 @@ protected:
 
 } // namespace
 
-TEST_F(CrashTest, LeavesEveryFileWholeWhereverPublishingIsKilled) {
+TEST_F(CrashTest, LeavesOneOfTheEditionsWhereverPublishingIsKilled) {
     SCOPED_TRACE(seed);
     const char* names[] = {"new", "old"};
     Contents after = bookOf("new");
@@ -85,13 +88,13 @@ TEST_F(CrashTest, LeavesEveryFileWholeWhereverPublishingIsKilled) {
     const auto start = std::chrono::steady_clock::now();
     Contents before = bookOf("old");
     whole = std::chrono::steady_clock::now() - start;
-    ASSERT_EQ(before.size(), after.size());
     int killedWhileWriting = 0;
     for (int kill = 1; (kill < 50 || killedWhileWriting < 10) && !HasFailure(); ++kill) {
         publishAndKill(names[0], kill % 2 == 0);
         killedWhileWriting += isWriting() ? 1 : 0;
         SCOPED_TRACE(kill);
-        expectWholeFiles(before, after);
+        const Contents now = edition();
+        EXPECT_TRUE(now == before || now == after) << "a mixture";
         if (kill % 5 == 0) {
             EXPECT_TRUE(bookOf(names[0]) == after) << "the next publish differs";
             std::swap(before, after);

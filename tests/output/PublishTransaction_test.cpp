@@ -1,12 +1,15 @@
+#include "output/CommitSwitch.h"
 #include "output/PublishTransaction.h"
 
 #include "support/FailureOf.h"
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
+#include "system/FileDescriptor.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -107,6 +110,37 @@ TEST_F(Transaction, LeavesFilesAloneThatAreAsTheyShouldBe) {
     EXPECT_EQ(run.counts().removed, 1);
 }
 
+TEST_F(Transaction, KeepsWhatElseIsInAFolderThatItChanges) {
+    for (const char* name : {"files/page/1", "files/page/2", "files/own/.hidden"})
+        write(name);
+    ASSERT_TRUE(QFile::link(path("outside"), path("files/own/link")));
+    ASSERT_EQ(::chmod(QFile::encodeName(path("files/own")).constData(), 02750), 0);
+    const auto before = inode("files/page/2");
+    {
+        PublishTransaction run(folder.path());
+        run.write(path("files/page/1"), "new");
+        run.commit();
+    }
+    EXPECT_EQ(state(path("files")),
+              "own/ own/.hidden=old own/link->outside page/ page/1=new page/2=old");
+    EXPECT_EQ(inode("files/page/2"), before);
+    struct stat own {};
+    ASSERT_EQ(::stat(QFile::encodeName(path("files/own")).constData(), &own), 0);
+    EXPECT_EQ(own.st_mode, mode_t(S_IFDIR | 02750));
+}
+
+TEST_F(Transaction, FailsWhenItsFolderIsMovedAwayAndChangesNothingThere) {
+    write("book/a");
+    {
+        PublishTransaction run(path("book"));
+        run.write(path("book/a"), "new");
+        ASSERT_TRUE(QDir().rename(path("book"), path("elsewhere")));
+        EXPECT_THROW(run.commit(), PlatformException);
+    }
+    EXPECT_FALSE(exists("book"));
+    EXPECT_EQ(read("elsewhere/a"), "old");
+}
+
 TEST_F(Transaction, NamesTheFileAndTheCauseOfAFailure) {
     write("file");
     PublishTransaction run(folder.path());
@@ -148,25 +182,8 @@ TEST_F(BlockedTransaction, IsRolledBack) {
         run.remove(path("blocked/inside"));
         run.write(path("blocked"), "new");
         EXPECT_THROW(run.commit(), PlatformException);
-        EXPECT_EQ(read("file") + read("link"), "newnew");
     }
     EXPECT_EQ(state(folder.path()), before);
-}
-
-TEST_F(BlockedTransaction, KeepsTheEarlierFilesThatItCannotPutBack) {
-    const RecordedLog log(Log::Level::error);
-    {
-        PublishTransaction run(folder.path());
-        run.write(path("file"), "new");
-        run.write(path("blocked"), "new");
-        EXPECT_THROW(run.commit(), PlatformException);
-        QFile::remove(path("file"));
-        write("file/somebody's");
-    }
-    const QString rescued = QString("folvero-rescued-%1").arg(::getpid());
-    EXPECT_TRUE(state(path(rescued)).contains("=old")) << state(path(rescued)).toStdString();
-    EXPECT_EQ(log.texts(),
-              QStringList{"earlier files could not be put back; they are in " + path(rescued)});
 }
 
 TEST_F(BlockedTransaction, ReplacesALinkNotWhatItPointsTo) {
@@ -252,6 +269,48 @@ TEST_F(Transaction, SurvivesTheDeathOfTheProcess) {
     EXPECT_TRUE(state(folder.path()).contains("=new"));
     { const PublishTransaction run(folder.path()); }
     EXPECT_EQ(state(folder.path()), "a=old");
+}
+
+// What is left when a program and its guard are killed once all is exchanged.
+class InterruptedSwitch : public Transaction {
+protected:
+    InterruptedSwitch() {
+        for (const char* name : {"a", "c", "swap/a", "swap/b"})
+            write(name[1] ? staging + name : name, name[1] ? "new" : "old");
+        for (const QString& each : {folder.path(), path(staging)})
+            opened.emplace_back(::open(QFile::encodeName(each).constData(), O_RDONLY));
+        CommitSwitch steps(opened[0].number(), opened[1].number());
+        EXPECT_TRUE(steps.addReplacement("a") && steps.addReplacement("b"));
+        steps.addRemoval("c");
+        EXPECT_TRUE(steps.writeJournal(path(staging), nullptr) && !steps.apply());
+    }
+    QString settled() const {
+        PublishTransaction(folder.path());
+        return state(folder.path());
+    }
+
+    const QString staging = ".folvero-publish-999999999-abcdef/";
+    std::vector<FileDescriptor> opened;
+};
+
+TEST_F(InterruptedSwitch, StaysAsItIsWhenItWasComplete) {
+    EXPECT_EQ(settled(), "a=new b=new");
+}
+
+TEST_F(InterruptedSwitch, IsUndoneByTheNextTransaction) {
+    ASSERT_TRUE(QFile::rename(path(staging + "away/c"), path("c")));
+    EXPECT_EQ(settled(), "a=old c=old");
+}
+
+TEST_F(InterruptedSwitch, KeepsTheEarlierFilesThatItCannotPutBack) {
+    const RecordedLog log(Log::Level::error);
+    ASSERT_TRUE(QFile::rename(path(staging + "away/c"), path("c")) && QFile::remove(path("a")));
+    write("a", "somebody's");
+    write("folvero-rescued-999999999/file", "of an earlier time");
+    EXPECT_TRUE(settled().startsWith("a=somebody's c=old folvero-rescued-999999999-2/ "));
+    EXPECT_EQ(read("folvero-rescued-999999999-2/swap/a"), "old");
+    EXPECT_EQ(log.texts(), QStringList{"earlier files could not be put back; they are in " +
+                                       path("folvero-rescued-999999999-2")});
 }
 
 } // namespace

@@ -1,0 +1,109 @@
+#include "output/FolderCommit.h"
+
+#include "base/PlatformException.h"
+#include "output/StagingFolder.h"
+#include "system/Files.h"
+#include "system/LockedFolder.h"
+
+#include <QFile>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+FileDescriptor opened(const QString& folder, int mode) {
+    return FileDescriptor(
+        ::open(QFile::encodeName(folder).constData(), mode | O_DIRECTORY | O_CLOEXEC));
+}
+
+// Some file systems can't, and a folder that may only be written can't be opened for it.
+bool sync(int folder) {
+    return ::fsync(folder) == 0 || errno == EINVAL || errno == EBADF || errno == ENOTSUP;
+}
+
+} // namespace
+
+FolderCommit::FolderCommit(const QString& folder, const QString& namedFolder)
+    : iFolder(folder), iNamedFolder(namedFolder) {
+    StagingFolder::removeStale(iFolder);
+    iStaging = StagingFolder::make(iFolder);
+    if (iStaging.isNull())
+        failWithErrno();
+    try {
+        open();
+    } catch (...) {
+        StagingFolder::remove(iStaging);
+        throw;
+    }
+}
+
+FolderCommit::~FolderCommit() {
+    const bool isSettled = iCommitted || !iSwitch || iSwitch->undo();
+    const bool isForgotten = isSettled && (!iSwitch || iSwitch->removeJournal());
+    iGuard.reset();
+    if (isForgotten)
+        StagingFolder::remove(iStaging);
+    else if (!isSettled)
+        StagingFolder::rescue(iStaging);
+    else
+        LockedFolder::release(iStaging); // a later run removes both
+}
+
+void FolderCommit::fail(const QString& name, const Message& cause) const {
+    const QString path =
+        iNamedFolder == u"." && !name.isEmpty() ? name : Files::join(iNamedFolder, name);
+    throw PlatformException(ErrorKind::publishing, Message::about(path, cause));
+}
+
+void FolderCommit::failWithErrno(const QString& name) const {
+    fail(name, Message::ofLastSystemError());
+}
+
+void FolderCommit::open() {
+    iFolderNumber = opened(iFolder, O_RDONLY);
+    if (!iFolderNumber.isOpen() && errno == EACCES)
+        iFolderNumber = opened(iFolder, O_PATH);
+    if (!iFolderNumber.isOpen())
+        failWithErrno();
+    if (LockedFolder::descriptor(iStaging) < 0)
+        iStagingNumber = opened(iStaging, O_RDONLY);
+}
+
+int FolderCommit::stagingNumber() const {
+    return iStagingNumber.isOpen() ? iStagingNumber.number() : LockedFolder::descriptor(iStaging);
+}
+
+CommitSwitch& FolderCommit::steps() {
+    return iSwitch ? *iSwitch : iSwitch.emplace(folderNumber(), stagingNumber());
+}
+
+void FolderCommit::commit() {
+    if (!steps().steps().empty()) {
+        Message error;
+        if (!iSwitch->writeJournal(iStaging, &error))
+            fail({}, error);
+        // All files at once: a flush for each of thousands takes longer than to make them.
+        if (::syncfs(iSwitch->swapFolder()) != 0)
+            failWithErrno();
+        iGuard.emplace(*iSwitch);
+        if (const auto* failed = iSwitch->apply())
+            failWithErrno(QFile::decodeName(failed->name));
+    }
+    checkPresence();
+    if (!sync(folderNumber()))
+        failWithErrno();
+    iCommitted = true;
+}
+
+// A folder that is moved away or deleted can still be written through its descriptor.
+void FolderCommit::checkPresence() const {
+    struct stat there {};
+    struct stat changed {};
+    if (::stat(QFile::encodeName(iFolder).constData(), &there) != 0 ||
+        ::fstat(folderNumber(), &changed) != 0)
+        failWithErrno();
+    if (there.st_dev != changed.st_dev || there.st_ino != changed.st_ino)
+        fail({}, Message::ofSystemError(ENOENT));
+}

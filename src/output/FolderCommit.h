@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/Message.h"
+#include "output/CommitGuard.h"
+#include "output/CommitSwitch.h"
+#include "system/FileDescriptor.h"
+
+#include <QString>
+#include <optional>
+
+// Changes entries of a folder all at once or not at all, whenever this process may be killed: see
+// CommitSwitch. New content is prepared in a hidden staging folder inside it; if this process dies,
+// the next commit in that folder removes that. Every function but the destructor throws
+// PlatformException with the file and the cause; the folder is unchanged then.
+class FolderCommit {
+public:
+    // Ends what killed processes left in the folder. Errors name namedFolder in its place.
+    FolderCommit(const QString& folder, const QString& namedFolder);
+    // Rolls back unless commit() succeeded.
+    ~FolderCommit();
+    FolderCommit(const FolderCommit&) = delete;
+    FolderCommit& operator=(const FolderCommit&) = delete;
+
+    QString staging() const { return iStaging; }
+    // Descriptors of both folders.
+    int folderNumber() const { return iFolderNumber.number(); }
+    int stagingNumber() const;
+    // What is to be exchanged.
+    CommitSwitch& steps();
+
+    // Writes what was prepared to disk, takes all steps, and writes them to disk.
+    void commit();
+
+private:
+    void open();
+    void checkPresence() const;
+    [[noreturn]] void fail(const QString& name, const Message& cause) const;
+    [[noreturn]] void failWithErrno(const QString& name = {}) const;
+
+    QString iFolder;
+    QString iNamedFolder;
+    QString iStaging;
+    FileDescriptor iFolderNumber;
+    FileDescriptor iStagingNumber; // when it is not locked
+    std::optional<CommitSwitch> iSwitch;
+    std::optional<CommitGuard> iGuard;
+    bool iCommitted = false;
+};

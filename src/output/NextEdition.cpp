@@ -1,0 +1,195 @@
+#include "output/NextEdition.h"
+
+#include "base/PlatformException.h"
+#include "output/CommitSwitch.h"
+#include "system/FileDescriptor.h"
+#include "system/Files.h"
+#include "system/FolderCopy.h"
+
+#include <QFile>
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+QString parentOf(const QString& path) {
+    return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 0));
+}
+
+QString topOf(const QString& path) {
+    return path.section(u'/', 0, 0);
+}
+
+bool isIn(const QString& top, const QString& path) {
+    return path.size() > top.size() && path.startsWith(top) && path[top.size()] == u'/';
+}
+
+} // namespace
+
+NextEdition::NextEdition(Places places, std::vector<Change>& changes, const QStringList& folders)
+    : iPlaces(std::move(places)), iChanges(changes) {
+    for (const QString& path : folders) {
+        requireFolder(path);
+        if (typeOfFolder(path) != S_IFDIR)
+            addTop(path);
+    }
+    for (std::size_t i = 0; i < iChanges.size(); ++i) {
+        compare(iChanges[i]);
+        if (!iChanges[i].isNeeded)
+            continue;
+        iIndexOfPath.insert(iChanges[i].path, i);
+        if (iChanges[i].path.contains(u'/'))
+            addTop(iChanges[i].path);
+    }
+}
+
+void NextEdition::fail(const QString& path, const Message& cause) const {
+    throw PlatformException(ErrorKind::publishing,
+                            Message::about(Files::join(iPlaces.namedFolder, path), cause));
+}
+
+// Symbolic links are not followed at the end of a path.
+mode_t NextEdition::typeOf(const QString& path) const {
+    struct stat info {};
+    const QByteArray name = QFile::encodeName(path);
+    return ::fstatat(iPlaces.folderNumber, name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0
+               ? info.st_mode & S_IFMT
+               : 0;
+}
+
+mode_t NextEdition::typeOfFolder(const QString& path) {
+    if (path.isEmpty())
+        return S_IFDIR;
+    const auto known = iTypes.constFind(path);
+    if (known != iTypes.cend())
+        return *known;
+    const mode_t type = typeOfFolder(parentOf(path)) == S_IFDIR ? typeOf(path) : 0;
+    iTypes.insert(path, type);
+    return type;
+}
+
+// A link gives way to a folder, other files do not.
+void NextEdition::requireFolder(const QString& path) {
+    if (path.isEmpty() || iFolders.contains(path))
+        return;
+    requireFolder(parentOf(path));
+    const mode_t type = typeOfFolder(path);
+    if (type != 0 && type != S_IFDIR && type != S_IFLNK)
+        fail(path, Message::ofSystemError(EEXIST));
+    iFolders.insert(path);
+}
+
+void NextEdition::addTop(const QString& path) {
+    const QString top = topOf(path);
+    if (!iTops.contains(top))
+        iTops << top;
+}
+
+// Finds out whether there is something to do.
+void NextEdition::compare(Change& change) {
+    struct stat there {};
+    const bool isReachable = typeOfFolder(parentOf(change.path)) == S_IFDIR;
+    const QByteArray name = QFile::encodeName(change.path);
+    const bool exists = isReachable && ::fstatat(iPlaces.folderNumber, name.constData(), &there,
+                                                 AT_SYMLINK_NOFOLLOW) == 0;
+    const bool isFolder = exists && S_ISDIR(there.st_mode);
+    if (change.staged == 0) {
+        change.isNeeded = exists && !isFolder;
+        iCounts.removed += change.isNeeded ? 1 : 0;
+        return;
+    }
+    requireFolder(parentOf(change.path));
+    struct stat staged {};
+    if (::fstatat(iPlaces.stagingNumber, QByteArray::number(change.staged).constData(), &staged,
+                  AT_SYMLINK_NOFOLLOW) != 0)
+        fail(change.path, Message::ofLastSystemError());
+    iCounts.bytes += staged.st_size;
+    change.isNeeded = !exists || !isUpToDate(change, there, staged);
+    if (change.isNeeded && isFolder)
+        fail(change.path, Message::translate("FolveroOutput", "There is a folder of that name"));
+    ++(change.isNeeded ? iCounts.written : iCounts.unchanged);
+}
+
+// A file with other hard links is replaced even by the same content: it is not the book's alone.
+bool NextEdition::isUpToDate(const Change& change, const struct stat& there,
+                             const struct stat& staged) const {
+    if (!S_ISREG(there.st_mode) || there.st_mode != staged.st_mode)
+        return false;
+    if (there.st_dev == staged.st_dev && there.st_ino == staged.st_ino)
+        return true;
+    return there.st_nlink == 1 && there.st_size == staged.st_size &&
+           Files::haveSameContent(Files::join(iPlaces.folder, change.path),
+                                  Files::join(iPlaces.staging, QString::number(change.staged)));
+}
+
+void NextEdition::prepare(CommitSwitch& to) {
+    for (const QString& top : std::as_const(iTops))
+        makeFolder(top, to);
+    for (const Change& change : iChanges) {
+        if (!change.isNeeded || change.staged == 0 || change.path.contains(u'/'))
+            continue;
+        moveStaged(change, to.swapFolder());
+        if (!to.addReplacement(QFile::encodeName(change.path)))
+            fail(change.path, Message::ofLastSystemError());
+    }
+    // Last, since the existing book may still refer to these files.
+    for (const Change& change : iChanges) {
+        if (change.isNeeded && change.staged == 0 && !change.path.contains(u'/'))
+            to.addRemoval(QFile::encodeName(change.path));
+    }
+}
+
+void NextEdition::makeFolder(const QString& top, CommitSwitch& to) const {
+    const QByteArray name = QFile::encodeName(top);
+    if (::mkdirat(to.swapFolder(), name.constData(), 0777) != 0)
+        fail(top, Message::ofLastSystemError());
+    if (iTypes.value(top) == S_IFDIR)
+        copyFolder(top, to.swapFolder());
+    moveFiles(top, to.swapFolder());
+    if (!to.addReplacement(name))
+        fail(top, Message::ofLastSystemError());
+}
+
+// All but what is written or removed, or in the way of a folder.
+void NextEdition::copyFolder(const QString& top, int to) const {
+    const QByteArray name = QFile::encodeName(top);
+    const FileDescriptor source(::openat(iPlaces.folderNumber, name.constData(), openFolderItself));
+    const FileDescriptor target(::openat(to, name.constData(), openFolderItself));
+    if (!source.isOpen() || !target.isOpen())
+        fail(top, Message::ofLastSystemError());
+    const auto isLeftOut = [&](const QByteArray& path, mode_t type) {
+        const QString whole = top + u'/' + QFile::decodeName(path);
+        return type != S_IFDIR && (iIndexOfPath.contains(whole) || iFolders.contains(whole));
+    };
+    if (const auto failure = FolderCopy::link(source.number(), target.number(), isLeftOut))
+        fail(Files::join(top, QFile::decodeName(failure->path)), failure->cause);
+    if (!FolderCopy::copyAttributes(source.number(), target.number()))
+        fail(top, Message::ofLastSystemError());
+}
+
+void NextEdition::moveFiles(const QString& top, int to) const {
+    QStringList folders;
+    for (const QString& folder : iFolders) {
+        if (isIn(top, folder))
+            folders << folder;
+    }
+    folders.sort(); // parents first
+    for (const QString& folder : std::as_const(folders)) {
+        if (::mkdirat(to, QFile::encodeName(folder).constData(), 0777) != 0 && errno != EEXIST)
+            fail(folder, Message::ofLastSystemError());
+    }
+    for (const Change& change : iChanges) {
+        if (change.isNeeded && change.staged != 0 && isIn(top, change.path))
+            moveStaged(change, to);
+    }
+}
+
+void NextEdition::moveStaged(const Change& change, int to) const {
+    if (::renameat(iPlaces.stagingNumber, QByteArray::number(change.staged).constData(), to,
+                   QFile::encodeName(change.path).constData()) != 0)
+        fail(change.path, Message::ofLastSystemError());
+}
