@@ -155,6 +155,14 @@ void setPageSize(QSize size, FlashTemplate& tmpl) {
     tmpl.setPropertyValue(QStringLiteral("pageHeight"), QString::number(size.height()));
 }
 
+// Without its program an application can't be opened.
+void checkShell() {
+    const QString shell = FolveroOutputApp::shellFolder();
+    if (!QFileInfo(shell).isDir())
+        throw CommandError(
+            QStringLiteral("%1: is missing; the program is not installed completely").arg(shell));
+}
+
 struct Publisher {
     std::unique_ptr<FolveroOutput> output;
     FolveroOutputWeb* web = nullptr; // the output, if it makes a web book
@@ -328,6 +336,7 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
     if (made.code() == ExitCode::ok && made.degradedPages.empty() &&
         operation->failures().isEmpty())
         stamp.write();
+    folder.checkPresence();
     return made;
 }
 
@@ -336,6 +345,9 @@ MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     WebBookOptions::check(options);
     // Reports an invalid name or setting before an hour of drawing.
     const auto asked = prepareTemplate(options, false);
+    TemplateOptions::checkPage(*asked);
+    if (options.type == Type::app)
+        checkShell();
     const QString folder = QDir::cleanPath(QFileInfo(options.outputFolder).absoluteFilePath());
     const QString file = makePublisher(options, asked, folder).output->outputFileName();
     const PublishStamp stamp(options, *asked, file);

@@ -27,9 +27,8 @@ Message lastErrorAt(const QString& path) {
 }
 
 // The shell's files keep their permissions: one of them has to be executable.
-void copyShell(const QString& contents) {
-    const QString shell =
-        Files::join(Bundle::resourcePath(), QStringLiteral("AppFiles/TmplData/mac.app/Contents/"));
+std::error_code copyShell(const QString& contents) {
+    const QString shell = FolveroOutputApp::shellFolder();
     std::error_code error;
     std::filesystem::copy(QFile::encodeName(shell).toStdString(),
                           QFile::encodeName(contents).toStdString(),
@@ -39,6 +38,7 @@ void copyShell(const QString& contents) {
             .error(QStringLiteral("ouput the book,copy failed:%1")
                        .arg(Message::ofSystemError(error.value()).english()));
     }
+    return error;
 }
 
 } // namespace
@@ -80,6 +80,11 @@ void FolveroOutputApp::ouputTheBook() {
     }
 }
 
+QString FolveroOutputApp::shellFolder() {
+    return Files::join(Bundle::resourcePath(),
+                       QStringLiteral("AppFiles/TmplData/mac.app/Contents/"));
+}
+
 QStringList FolveroOutputApp::foreignFiles() const {
     const QString bundle = outputFileName();
     if (!ForeignFiles::isThere(bundle) || hasExistingBook())
@@ -93,7 +98,11 @@ bool FolveroOutputApp::publishInto(const QString& working) {
         reportFailure(lastErrorAt(outputFileName()));
         return false;
     }
-    copyShell(Files::join(working, QStringLiteral("Contents")));
+    const std::error_code shellError = copyShell(Files::join(working, QStringLiteral("Contents")));
+    if (shellError && QFileInfo(shellFolder()).isDir()) {
+        reportFailure(Message::about(outputFileName(), Message::ofSystemError(shellError.value())));
+        return false;
+    }
     const QString resources = Files::join(working, resourcesInBundle);
     if (!QDir().mkpath(resources)) {
         reportFailure(lastErrorAt(iSaveToFolder));

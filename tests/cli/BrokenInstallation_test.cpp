@@ -57,8 +57,8 @@ TEST_F(BrokenInstallation, NamesWhatIsWrongWithItsTemplates) {
     TemplateLibrary library;
     QDir().mkpath(path("resources"));
     QFile::link(library.path(), path("resources/folvero"));
-    const auto expectFailure = [this](const char* cause) {
-        const auto result = publish("outline.pdf", path("resources"));
+    const auto expectFailure = [this](const char* cause, const char* type = "html") {
+        const auto result = publish("outline.pdf", path("resources"), type);
         EXPECT_EQ(result.exitCode, 1);
         EXPECT_TRUE(result.errors.contains(cause)) << result.errors.constData();
         EXPECT_FALSE(exists({}));
@@ -69,6 +69,12 @@ TEST_F(BrokenInstallation, NamesWhatIsWrongWithItsTemplates) {
         library.addTemplateFile("float", xml);
         expectFailure("float/flashTemplate.xml");
     }
+    library.addTemplate("float");
+    expectFailure("mac.app/Contents/: is missing; the program is not installed", "app");
+    const QString page = library.templatePath("float") + "/index.html";
+    ASSERT_TRUE(QFile::rename(page, path("page.html")) && QFile::link(path("page.html"), page));
+    for (const char* type : {"html", "web"})
+        expectFailure("the template \"float\": its page index.html is missing", type);
 }
 
 TEST_F(BrokenInstallation, CostsTheLinksAndTheBookmarksAndNotTheBook) {

@@ -99,4 +99,11 @@ TEST_F(AppTest, AnEarlierBundleSurvivesARunThatFailsOrIsCancelled) {
     cancelled->ouputTheBook();
     EXPECT_TRUE(cancelled->wasCancelled());
     EXPECT_EQ(BookReader::contentsBeneath(book.folder()), before);
+
+    const QByteArray pipe = QFile::encodeName(book.library.path() + '/' + shell + "pipe");
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0); // which can't be copied
+    failing->ouputTheBook();
+    ASSERT_EQ(failing->publishErrors().size(), 1);
+    EXPECT_TRUE(failing->publishErrors()[0].startsWith(book.folder() + "/Book.app: "));
+    EXPECT_EQ(BookReader::contentsBeneath(book.folder()), before);
 }
