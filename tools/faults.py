@@ -14,6 +14,7 @@ often the result was wrong, in one row for each experiment:
     power       the program and its guard are killed, as when the power fails. The next publish must find its way.
     exchange    as kill, on a file system that can't exchange two names
     links       as kill, on a file system without hard links
+    flush       no fault: what is exchanged must be on the disk before, and the exchange before the run ends
     vanish      the output folder is renamed before the call: an error (exit code 75), and no path printed
 
 The exit code is 1 when any result was wrong. Needs strace, and the samples of a build.
@@ -218,6 +219,22 @@ def vanish_at(bench, point):
     return wrong
 
 
+def check_flush_at(bench, point):
+    calls = (bench.work / "calls").read_text(errors="replace").splitlines()
+    at = calls.index(point.line)
+    end = next((i for i in range(at, len(calls)) if '"journal"' in calls[i]), len(calls))
+    wrong = set()
+    if not any(line.startswith("syncfs") for line in calls[:at]):
+        wrong.add("not flushed before")
+    if not any(re.match("fsync|syncfs", line) for line in calls[at:end]):
+        wrong.add("not flushed after")
+    return wrong
+
+
+def is_exchange(point):
+    return point.call in ("rename", "renameat2") and not re.search(r'\.stamp|\.part"', point.line)
+
+
 def is_of_commit(point):
     """Whether the folder may still change: the stamp and the removal of the staging folder come later."""
     return point.call not in ("unlink", "unlinkat", "rmdir") and ".stamp" not in point.line
@@ -229,6 +246,7 @@ EXPERIMENTS = {
     "power": ([], is_of_commit, cut_power_at),
     "exchange": (["-e", "inject=renameat2:error=EINVAL"], lambda point: point.call != "renameat2", kill_at),
     "links": (["-e", "inject=linkat:error=EPERM"], lambda point: point.call != "linkat", kill_at),
+    "flush": ([], is_exchange, check_flush_at),
     "vanish": ([], is_of_commit, vanish_at),
 }
 
