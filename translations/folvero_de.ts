@@ -197,6 +197,10 @@
         <translation>So heißt schon die Seite mit dem Text des Buchs</translation>
     </message>
     <message>
+        <source>%1; earlier files are in %2, and the next publish tries to put them back</source>
+        <translation>%1; frühere Dateien sind in %2, und das nächste Veröffentlichen versucht, sie zurückzulegen</translation>
+    </message>
+    <message>
         <source>Earlier files of the book are in it and can&apos;t be put back</source>
         <translation>Er enthält frühere Dateien des Buchs, die nicht zurückgelegt werden können</translation>
     </message>

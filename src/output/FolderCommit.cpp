@@ -45,10 +45,8 @@ FolderCommit::~FolderCommit() {
     iGuard.reset();
     if (isForgotten)
         StagingFolder::remove(iStaging);
-    else if (!isSettled)
-        StagingFolder::rescue(iStaging);
     else
-        LockedFolder::release(iStaging); // a later run removes both
+        LockedFolder::release(iStaging); // a later run settles it by the journal
 }
 
 void FolderCommit::fail(const QString& name, const Message& cause) const {
@@ -88,13 +86,27 @@ void FolderCommit::commit() {
         if (::syncfs(iSwitch->swapFolder()) != 0)
             failWithErrno();
         iGuard.emplace(*iSwitch);
-        if (const auto* failed = iSwitch->apply())
-            failWithErrno(QFile::decodeName(failed->name));
+        try {
+            if (const auto* failed = iSwitch->apply())
+                failWithErrno(QFile::decodeName(failed->name));
+            checkPresence();
+            if (!sync(folderNumber()))
+                failWithErrno();
+        } catch (const PlatformException& failure) {
+            rollBack(failure);
+        }
     }
-    checkPresence();
-    if (!sync(folderNumber()))
-        failWithErrno();
     iCommitted = true;
+}
+
+void FolderCommit::rollBack(const PlatformException& failure) const {
+    if (iSwitch->undo())
+        throw failure;
+    throw PlatformException(failure.kind(),
+                            Message::translate("FolveroOutput",
+                                               "%1; earlier files are in %2, and the next publish "
+                                               "tries to put them back")
+                                .arg(failure.message(), iStaging));
 }
 
 // A folder that is moved away or deleted can still be written through its descriptor.

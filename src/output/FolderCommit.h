@@ -8,6 +8,8 @@
 #include <QString>
 #include <optional>
 
+class PlatformException;
+
 // Changes entries of a folder all at once or not at all, whenever this process may be killed: see
 // CommitSwitch. New content is prepared in a hidden staging folder inside it; if this process dies,
 // the next commit in that folder removes that. Every function but the destructor throws
@@ -34,6 +36,7 @@ public:
 private:
     void open();
     void checkPresence() const;
+    [[noreturn]] void rollBack(const PlatformException& failure) const;
     [[noreturn]] void fail(const QString& name, const Message& cause) const;
     [[noreturn]] void failWithErrno(const QString& name = {}) const;
 

@@ -76,6 +76,22 @@ void waitForSwitch(const FileDescriptor& folder, const QString& inFolder, const 
     }
 }
 
+// Renames a staging folder, so that no later run removes the earlier files in it.
+bool rescue(const QString& path) {
+    const QFileInfo info(path);
+    const QString first =
+        Files::join(info.path(), QStringLiteral("folvero-rescued-") + processIn(info.fileName()));
+    QString rescued = first;
+    for (int number = 2; QFileInfo::exists(rescued); ++number)
+        rescued = first + u'-' + QString::number(number);
+    const bool isMoved = std::rename(QFile::encodeName(path).constData(),
+                                     QFile::encodeName(rescued).constData()) == 0;
+    Log("PublishTransaction")
+        .error(QStringLiteral("earlier files could not be put back; they are in %1")
+                   .arg(isMoved ? rescued : path));
+    return isMoved;
+}
+
 // Undoes a switch that was never finished, unless all of it was done.
 void settle(const FileDescriptor& folder, const QString& staging) {
     const FileDescriptor inside = opened(staging);
@@ -86,7 +102,7 @@ void settle(const FileDescriptor& folder, const QString& staging) {
     CommitSwitch unfinished(folder.number(), inside.number());
     const bool isSettled =
         unfinished.readJournal(staging) && (unfinished.isDone() || unfinished.undo());
-    if ((isSettled && unfinished.removeJournal()) || StagingFolder::rescue(staging))
+    if ((isSettled && unfinished.removeJournal()) || rescue(staging))
         return;
     fail(staging, Message::translate("FolveroOutput",
                                      "Earlier files of the book are in it and can't be put back"));
@@ -101,22 +117,6 @@ QString StagingFolder::make(const QString& inFolder) {
 
 void StagingFolder::remove(const QString& path) {
     LockedFolder::remove(path);
-}
-
-bool StagingFolder::rescue(const QString& path) {
-    const QFileInfo info(path);
-    const QString first =
-        Files::join(info.path(), QStringLiteral("folvero-rescued-") + processIn(info.fileName()));
-    QString rescued = first;
-    for (int number = 2; QFileInfo::exists(rescued); ++number)
-        rescued = first + u'-' + QString::number(number);
-    const bool isMoved = std::rename(QFile::encodeName(path).constData(),
-                                     QFile::encodeName(rescued).constData()) == 0;
-    LockedFolder::release(path);
-    Log("PublishTransaction")
-        .error(QStringLiteral("earlier files could not be put back; they are in %1")
-                   .arg(isMoved ? rescued : path));
-    return isMoved;
 }
 
 bool StagingFolder::hasUnfinished(const QString& inFolder) {
