@@ -15,7 +15,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <algorithm>
-#include <ranges>
 #include <span>
 
 namespace {
@@ -247,10 +246,10 @@ void ImportWindowDelegate::reportFailedPages() {
     if (failed.size() > told)
         iFailures << tr("%n more page(s) could not be drawn.", nullptr, int(failed.size() - told));
     const auto& damaged = iBook.converter->damagedPages();
-    const auto shown = std::min(damaged.size(), maxPagesShown);
-    for (const auto& [page, reason] : std::views::take(damaged, shown))
+    std::size_t shown = 0;
+    for (auto at = damaged.begin(); at != damaged.end() && shown < maxPagesShown; ++at, ++shown)
         iFailures << tr("Page %1 could not be drawn completely: %2")
-                         .arg(QString::number(page), reason.local());
+                         .arg(QString::number(at->first), at->second.local());
     if (damaged.size() > shown)
         iFailures << tr("%n more page(s) could not be drawn completely.", nullptr,
                         int(damaged.size() - shown));
