@@ -45,7 +45,8 @@ protected:
                                  return openAnswer;
                              },
                              [this](const QString& path) { opened << path; },
-                             [this](const QString&, const QString& cause) { told << cause; }});
+                             [this](const QString&, const QString& cause) { told << cause; },
+                             [this](const QString&, const QString&) { return includesText; }});
         sheet->beginSheet();
         QObject::connect(&window(), &QDialog::finished, [this](int code) { ended << code; });
     }
@@ -77,7 +78,7 @@ protected:
     PublishedBook book;
     std::unique_ptr<OutputWindowDelegate> sheet;
     std::optional<QString> folderAnswer;
-    bool replaceAnswer = false, openAnswer = false;
+    bool replaceAnswer = false, openAnswer = false, includesText = false;
     QStringList losses, questions, opened, told;
     QList<int> ended;
     qsizetype progressUnderQuestions = 0;
@@ -186,6 +187,29 @@ TEST_F(PublishSheet, PublishesAWebBookWithProgressThatEndsBeforeTheQuestion) {
     window().txtTitle->setText("Another");
     publish();
     EXPECT_EQ(ended, QList<int>({1, 1})) << "at once";
+}
+
+TEST_F(PublishSheet, AsksForTextThatTheDocumentForbidsToCopy) {
+    PDFBuilder builder;
+    builder.addPage(PDFBuilder::page({300, 400}));
+    builder.encrypt({}, "owner", -4 & ~16);
+    const QString file = book.addSource("book.pdf", builder.build());
+    const auto source = std::make_shared<FlashPageSourcePDF>(file, "ALL", 144, 100);
+    source->generatePages();
+    source->generateNormalPages();
+    book.pageSource = source;
+    openForWebBook();
+    Book imported;
+    imported.pageSource = source;
+    imported.document = source->toPageConverter()->PDFDoc();
+    sheet->setBook(imported);
+    for (const bool answer : {true, false}) {
+        includesText = answer;
+        ended.clear();
+        publish();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !ended.isEmpty(); }, 20000));
+        EXPECT_EQ(book.exists("text.html"), answer);
+    }
 }
 
 TEST_F(PublishSheet, CancelsAWebBookWhileItsPagesAreMade) {
