@@ -14,6 +14,7 @@
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
+#include <QStringDecoder>
 #include <csignal>
 #include <fcntl.h>
 #include <optional>
@@ -34,9 +35,17 @@ struct CommandLine {
     bool verbose = false;
 };
 
-// Arguments and file names have the same encoding.
+// Arguments and file names have the same encoding. Other bytes would name another file.
 QString decoded(const std::string& typed) {
-    return QStringLiteral("") + QString::fromLocal8Bit(typed.data(), qsizetype(typed.size()));
+    QStringDecoder decoder(QStringDecoder::System);
+    const QString text =
+        QStringLiteral("") + decoder.decode(QByteArrayView(typed.data(), qsizetype(typed.size())));
+    if (decoder.hasError())
+        throw CommandError(QStringLiteral("%1: is not valid UTF-8; rename the file, or make a link "
+                                          "to it that has another name")
+                               .arg(text),
+                           ExitCode::usage);
+    return text;
 }
 
 // An option whose value is a text; the text is not null when the option was given.
