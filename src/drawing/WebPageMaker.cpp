@@ -15,7 +15,7 @@ namespace {
 // The thumbnail panel shows them at most half as wide and high, on double-density screens.
 constexpr int thumbnailWidth = 300;
 constexpr int thumbnailHeight = 256;
-constexpr double thumbnailFactor = 0.5;
+constexpr double thumbnailFactor = 0.45;
 
 // Pixels per point of enlarged pages, twice those of the page's picture; with photographs, which
 // take more bytes, less.
