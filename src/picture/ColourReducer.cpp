@@ -37,6 +37,9 @@ constexpr double wantedSquaredError = 2.2;
 constexpr int edgeRange = 48;
 constexpr int gradientRange = 3;
 
+// What fills without gradients may take of the palette: edges need the rest.
+constexpr std::size_t maxFills = 160;
+
 int bitsFor(std::size_t colours) {
     if (colours <= 2)
         return 1;
@@ -222,8 +225,7 @@ bool ColourReducer::countColours(const PageBitmap& bitmap, const Tolerance& tole
             if (!id)
                 return false;
             iColours[*id].count += std::uint32_t(count);
-            if (tolerance.hasGradients)
-                noteSmoothness({*id, count});
+            noteSmoothness({*id, count}, tolerance.hasGradients);
             iRuns.push_back({*id, count});
             return true;
         },
@@ -232,15 +234,15 @@ bool ColourReducer::countColours(const PageBitmap& bitmap, const Tolerance& tole
         });
 }
 
-// Counts a run as smooth where steps would be seen: in an area of one colour, and with the run
-// before it, if that is similar.
-void ColourReducer::noteSmoothness(const Run& run) {
+// Counts a run as smooth where another colour would be seen: in an area of one colour, and in a
+// gradient with the run before it, if that is similar.
+void ColourReducer::noteSmoothness(const Run& run, bool mayBeGradient) {
     constexpr int longRun = 8;
     constexpr int smallStep = 8;
     CountedColour& colour = iColours[run.id];
     if (run.count >= longRun)
         colour.smooth += std::uint32_t(run.count);
-    if (iRuns.empty() || iRuns.back().count == 0)
+    if (!mayBeGradient || iRuns.empty() || iRuns.back().count == 0)
         return;
     CountedColour& before = iColours[iRuns.back().id];
     for (std::size_t i = 0; i < colour.colour.size(); ++i) {
@@ -266,8 +268,10 @@ void ColourReducer::Palette::add(const std::vector<ColourBox>& boxes,
     }
 }
 
-// Moves the colours of gradients to the palette. False when there is no room for those and others.
-bool ColourReducer::takeGradients(std::vector<CountedColour>& colours, Palette& palette) const {
+// Moves the colours of fills and gradients to the palette, to at most so many. False when they take
+// more.
+bool ColourReducer::takeSmooth(std::vector<CountedColour>& colours, std::size_t most,
+                               Palette& palette) {
     const auto smooth =
         std::partition(colours.begin(), colours.end(),
                        [](const CountedColour& one) { return 2 * one.smooth < one.count; });
@@ -275,8 +279,7 @@ bool ColourReducer::takeGradients(std::vector<CountedColour>& colours, Palette& 
     colours.erase(smooth, colours.end());
     if (taken.empty())
         return true;
-    const auto boxes = medianCut(taken, maxColours - palette.colours.size() - 1,
-                                 std::numeric_limits<double>::max(), gradientRange);
+    const auto boxes = medianCut(taken, most, std::numeric_limits<double>::max(), gradientRange);
     palette.add(boxes, taken);
     return std::all_of(boxes.begin(), boxes.end(),
                        [](const ColourBox& box) { return box.range <= gradientRange; });
@@ -305,7 +308,9 @@ ColourReducer::choosePalette(const PageBitmap& bitmap, const Tolerance& toleranc
     for (auto one = rest.begin(); one != exact; ++one)
         palette.add(*one);
     rest.erase(rest.begin(), exact);
-    if (tolerance.hasGradients && !takeGradients(rest, palette))
+    const std::size_t room = maxColours - palette.colours.size() - 1;
+    if (!takeSmooth(rest, tolerance.hasGradients ? room : maxFills, palette) &&
+        tolerance.hasGradients)
         return std::nullopt;
     if (!rest.empty())
         palette.add(medianCut(rest, maxColours - palette.colours.size(),

@@ -47,8 +47,8 @@ private:
 
     std::optional<std::uint32_t> idOf(std::uint32_t rgb, std::size_t most);
     bool countColours(const PageBitmap& bitmap, const Tolerance& tolerance);
-    void noteSmoothness(const Run& run);
-    bool takeGradients(std::vector<CountedColour>& colours, Palette& palette) const;
+    void noteSmoothness(const Run& run, bool mayBeGradient);
+    static bool takeSmooth(std::vector<CountedColour>& colours, std::size_t most, Palette& palette);
     std::optional<Palette> choosePalette(const PageBitmap& bitmap,
                                          const Tolerance& tolerance) const;
 

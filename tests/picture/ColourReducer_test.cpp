@@ -38,12 +38,12 @@ Colour shade(int index, int count) {
             static_cast<unsigned char>(255 - index * 200 / count)};
 }
 
-// A picture in which the colours take turns, in runs of three pixels.
-PageBitmap picture(int width, int components, ColourOf colourOf, int count) {
+// A picture in which the colours take turns.
+PageBitmap picture(int width, int components, ColourOf colourOf, int count, int run) {
     PageBitmap bitmap;
     bitmap.resize(width, 27, components);
     for (int i = 0; i < width * bitmap.height(); ++i) {
-        const Colour colour = colourOf(i / 3 % count, count);
+        const Colour colour = colourOf(i / run % count, count);
         std::copy_n(colour.begin(), components, bitmap.data() + std::ptrdiff_t(i) * components);
     }
     return bitmap;
@@ -74,20 +74,21 @@ TEST(ColourReducer, RoundsColoursWhereNobodySeesIt) {
         int bits;
         int error;
         bool hasGradients = false;
+        int run = 3; // pixels
     } cases[] = {
-        {"paper", 1, levelOfGray, 1, 1, 0},     {"ink", 1, levelOfGray, 2, 1, 0},
-        {"levels", 1, levelOfGray, 4, 2, 0},    {"text", 1, levelOfGray, 16, 4, 0},
-        {"shadow", 1, darkGray, 24, 4, 1},      {"scan", 1, levelOfGray, 64, 4, notReduced},
-        {"pair", 3, farColour, 2, 1, 0},        {"three", 3, farColour, 3, 2, 0},
-        {"few", 3, farColour, 16, 4, 0},        {"chart", 3, farColour, 250, 8, 8},
-        {"glyphs", 3, nearColour, 300, 8, 8},   {"photograph", 3, farColour, 900, 8, notReduced},
-        {"gradient", 3, shade, 400, 8, 2, true}};
+        {"paper", 1, levelOfGray, 1, 1, 0},      {"ink", 1, levelOfGray, 2, 1, 0},
+        {"levels", 1, levelOfGray, 4, 2, 0},     {"text", 1, levelOfGray, 16, 4, 0},
+        {"shadow", 1, darkGray, 24, 4, 1},       {"scan", 1, levelOfGray, 64, 4, notReduced},
+        {"pair", 3, farColour, 2, 1, 0},         {"three", 3, farColour, 3, 2, 0},
+        {"few", 3, farColour, 16, 4, 0},         {"chart", 3, farColour, 250, 8, 8},
+        {"glyphs", 3, nearColour, 300, 8, 8},    {"photograph", 3, farColour, 900, 8, notReduced},
+        {"gradient", 3, shade, 400, 8, 2, true}, {"fills", 3, nearColour, 100, 8, 2, false, 24}};
     ColourReducer reducer;
     PNGEncoder encoder;
-    for (const auto& [name, components, colourOf, count, bits, error, hasGradients] : cases) {
+    for (const auto& [name, components, colourOf, count, bits, error, hasGradients, run] : cases) {
         for (const int width : {111, 112, 117}) {
             SCOPED_TRACE(testing::Message() << name << ' ' << width);
-            const PageBitmap bitmap = picture(width, components, colourOf, count);
+            const PageBitmap bitmap = picture(width, components, colourOf, count, run);
             EXPECT_EQ(reducer.reduce(bitmap, {}) != nullptr, count <= (components == 1 ? 16 : 256));
             const PaletteBitmap* reduced = reducer.reduce(bitmap, {3, hasGradients});
             ASSERT_EQ(reduced != nullptr, error != notReduced);
