@@ -39,6 +39,7 @@ void SVGWriter::begin(fz_rect page, std::size_t mostPictureBytes) {
     iLevels.clear();
     iPictureElements.clear();
     iPictureCount = 0;
+    iGlyphCount = 0;
     iMostPictureBytes = mostPictureBytes;
     iPage = page;
     iToUnits = fz_concat(fz_translate(-page.x0, -page.y0), fz_scale(unitsPerPoint, unitsPerPoint));
@@ -104,7 +105,10 @@ void SVGWriter::writeMatrix(const fz_matrix& matrix) {
 
 // Moves the pen to where the glyph is, unless nobody sees the difference, and beyond it.
 void SVGWriter::writeGlyph(const PageGlyphs::Glyph& glyph, fz_point place, Pen& pen) {
-    constexpr int smallest = 2; // step that is seen
+    constexpr int smallest = 2;       // step that is seen
+    constexpr int maxGlyphs = 40'000; // browsers take seconds for more
+    if (++iGlyphCount > maxGlyphs)
+        return giveUp();
     const int right = roundedUnits(place.x) - pen.x;
     const int down = roundedUnits(place.y) - pen.y;
     if (std::abs(right) >= smallest || std::abs(down) >= smallest) {

@@ -82,4 +82,5 @@ private:
     std::string iPictureElements; // their definitions
     std::size_t iMostPictureBytes = 0;
     int iPictureCount = 0;
+    int iGlyphCount = 0;
 };
