@@ -13,6 +13,7 @@ struct PasswordOptions {
     // Removes the variable, which the processes that this one starts would inherit.
     void takeEnvironment();
 
+    bool isGiven() const { return ask || !file.isNull() || !environment.isEmpty(); }
     // In UTF-8; empty for none. Asks or reads once and keeps it. Throws CommandError.
     QByteArray password() const;
 

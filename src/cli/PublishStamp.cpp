@@ -73,9 +73,10 @@ QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl
                         const QByteArray& pages) {
     Digest digest;
     digest << pages << options.title << QFileInfo(options.pdf).completeBaseName() << options.pages
-           << int(options.singleFile) << int(options.allowText) << options.previewPages
-           << options.url << int(options.links) << int(options.bookmarks) << options.templateName
-           << options.styleName;
+           << int(options.singleFile) << int(options.allowText)
+           << int(options.password.isGiven()) // an owner may have the text
+           << options.previewPages << options.url << int(options.links) << int(options.bookmarks)
+           << options.templateName << options.styleName;
     addProperties(digest, tmpl.properties(), tmpl);
     addFolder(digest, Files::join(Bundle::resourcePath(), QStringLiteral("AppFiles")));
     return digest.result();

@@ -126,6 +126,7 @@ PDFViewing DrawablePDF::viewing() const {
     viewing.rightToLeft =
         iEngine->name(iEngine->entry(preferences, "Direction")) == QStringLiteral("R2L");
     viewing.allowsText =
+        iEngine->isOwner ||
         iEngine->get(
             [&](fz_context* ctx) {
                 return pdf_has_permission(ctx, iEngine->document, FZ_PERMISSION_COPY);

@@ -129,13 +129,25 @@ void PDFEngine::checkPageTree(const QString& path) const {
 
 // A document that has only an owner's password opens without one.
 void PDFEngine::unlock(const QString& path, const QByteArray& password) {
-    if (!get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0))
+    constexpr int ownerBit = 4;
+    const auto authenticate = [this](const char* words) {
+        return get([&](fz_context* ctx) { return pdf_authenticate_password(ctx, document, words); },
+                   0);
+    };
+    const char* words = password.constData();
+    if (!get([this](fz_context* ctx) { return pdf_needs_password(ctx, document); }, 0)) {
+        const int found = password.isEmpty() ? 0 : authenticate(words);
+        isOwner = (found & ownerBit) != 0;
+        if (found == 0 && !password.isEmpty())
+            authenticate(""); // a wrong password takes away the keys
         return;
+    }
     if (password.isEmpty())
         PDFFile::failToOpen(path, Message::translate("PDFDocument", "is protected by a password"),
                             ErrorKind::pdfPassword);
-    const char* words = password.constData();
-    if (!get([&](fz_context* ctx) { return pdf_authenticate_password(ctx, document, words); }, 0))
+    const int found = authenticate(words);
+    isOwner = (found & ownerBit) != 0;
+    if (found == 0)
         PDFFile::failToOpen(path, Message::translate("PDFDocument", "the password is wrong"),
                             ErrorKind::pdfPassword);
 }

@@ -108,6 +108,7 @@ public:
     // Counted when the file was opened. MuPDF may find damage later, repair the file and count
     // again; what was read before would then disagree with what is read after.
     int pageCount = 0;
+    bool isOwner = false;    // it was opened with the owner's password, which allows everything
     void* mapping = nullptr; // null when the file is not mapped
     std::size_t mappingSize = 0;
 
