@@ -123,7 +123,13 @@ std::vector<int> FlashPageSourcePDF::pagesWithout(PageFiles kind) const {
 void FlashPageSourcePDF::makeFiles(PageFiles kind, const std::vector<int>& pages,
                                    const std::atomic<bool>& stop,
                                    const std::function<void(int)>& progress) {
+    const auto checkUnchanged = [this] {
+        if (iPDFDoc)
+            iPDFDoc->checkUnchanged();
+    };
+    checkUnchanged(); // before files of another document replace those that are there
     iToPageConverter->makeFiles(kind, pages, stop, progress);
+    checkUnchanged();
     for (const Pages& all : {iPages, iNormalPages}) {
         for (const auto& page : all) {
             const WebPageFiles files = filesOf(page->pageIndex());
