@@ -20,7 +20,8 @@ QString journalOf(const QString& staging) {
 }
 
 FileDescriptor subfolder(int parent, const char* name) {
-    ::mkdirat(parent, name, 0700);
+    if (::mkdirat(parent, name, 0700) != 0 && errno != EEXIST)
+        return FileDescriptor();
     return FileDescriptor(::openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
@@ -47,7 +48,7 @@ bool move(int from, int to, const char* name) {
 bool moveIn(int from, int to, const char* name) {
     if (::renameat2(from, name, to, name, RENAME_NOREPLACE) == 0)
         return true;
-    return (errno == EINVAL || errno == ENOSYS) && move(from, to, name);
+    return errno != EEXIST && move(from, to, name);
 }
 
 // A journal may come with a folder of somebody else's.
@@ -95,9 +96,8 @@ bool CommitSwitch::apply(const Step& step) const {
 bool CommitSwitch::exchange(const char* name) const {
     if (::renameat2(iSwap.number(), name, iFolder, name, RENAME_EXCHANGE) == 0)
         return true;
-    if (errno != EINVAL && errno != ENOSYS)
-        return false;
-    // A hard link keeps an earlier file from going missing even for a moment. Folders have none.
+    // The file system can't, or the renames below fail, too. A hard link keeps an earlier file from
+    // going missing even for a moment. Folders have none.
     const bool mayStay = !isFolder(iSwap.number(), name);
     const bool isKept = mayStay && ::linkat(iFolder, name, iAway.number(), name, 0) == 0;
     return (isKept || move(iFolder, iAway.number(), name)) && move(iSwap.number(), iFolder, name);

@@ -29,9 +29,10 @@ public:
         Identity replaced; // none when there is none
     };
 
-    // Of open folders, which must stay open. Creates the subfolders if they are missing; without
-    // them every function fails.
+    // Of open folders, which must stay open. Creates the subfolders if they are missing. Where it
+    // can't, isOpen() is false with the cause in errno, and every other function fails.
     CommitSwitch(int folder, int staging);
+    bool isOpen() const { return iSwap.isOpen() && iAway.isOpen(); }
 
     // Where new entries are prepared.
     static inline const QString swapName = QStringLiteral("swap");

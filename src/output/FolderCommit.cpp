@@ -74,7 +74,9 @@ int FolderCommit::stagingNumber() const {
 }
 
 CommitSwitch& FolderCommit::steps() {
-    return iSwitch ? *iSwitch : iSwitch.emplace(folderNumber(), stagingNumber());
+    if (!iSwitch && !iSwitch.emplace(folderNumber(), stagingNumber()).isOpen())
+        failWithErrno();
+    return *iSwitch;
 }
 
 void FolderCommit::commit() {

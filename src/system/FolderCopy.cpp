@@ -15,15 +15,24 @@ namespace {
 
 constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
+// Some file systems give all files one mode, and refuse to set it.
+bool setMode(int file, mode_t mode) {
+    struct stat made {};
+    return ::fstat(file, &made) == 0 &&
+           ((made.st_mode & 07777) == mode || ::fchmod(file, mode) == 0);
+}
+
 bool copyRegular(int from, int to, const char* name, const struct stat& info) {
     const FileDescriptor source(::openat(from, name, O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
     FileDescriptor target(
         ::openat(to, name, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, info.st_mode & 0777));
     const std::array<timespec, 2> times{info.st_atim, info.st_mtim};
-    return source.isOpen() && target.isOpen() &&
-           Files::copyContents(source.number(), target.number()) &&
-           ::fchmod(target.number(), info.st_mode & 0777) == 0 &&
-           ::futimens(target.number(), times.data()) == 0 && target.close();
+    const bool isDone = source.isOpen() && target.isOpen() &&
+                        Files::copyContents(source.number(), target.number()) &&
+                        setMode(target.number(), info.st_mode & 0777);
+    if (isDone)
+        (void)::futimens(target.number(), times.data()); // some file systems refuse it
+    return isDone && target.close();
 }
 
 bool copySymlink(int from, int to, const char* name) {
@@ -111,7 +120,7 @@ bool FolderCopy::copyAttributes(int from, int to) {
     if ((info.st_uid != made.st_uid || info.st_gid != made.st_gid) &&
         ::fchown(to, info.st_uid, info.st_gid) != 0)
         (void)(::fchown(to, uid_t(-1), info.st_gid) == 0);
-    return ::fchmod(to, info.st_mode & 07777) == 0;
+    return setMode(to, info.st_mode & 07777);
 }
 
 std::optional<FolderCopy::Failure> FolderCopy::link(int from, int to, const IsLeftOut& isLeftOut) {

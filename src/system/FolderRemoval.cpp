@@ -14,6 +14,13 @@ namespace {
 
 constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
+// Folders that were made read-only can't be emptied.
+void allowChanges(int folder) {
+    struct stat info {};
+    if (::fstat(folder, &info) == 0 && (info.st_mode & S_IRWXU) != S_IRWXU)
+        (void)(::fchmod(folder, (info.st_mode & 07777) | S_IRWXU) == 0);
+}
+
 bool isOnDevice(int folder, dev_t device) {
     struct stat info {};
     return ::fstat(folder, &info) == 0 && info.st_dev == device;
@@ -25,8 +32,10 @@ bool removeOnDevice(int folder, const QByteArray& name, dev_t device) {
     if (::unlinkat(folder, name.constData(), 0) == 0)
         return true;
     const FileDescriptor inner(::openat(folder, name.constData(), openFolderItself));
-    return inner.isOpen() && isOnDevice(inner.number(), device) &&
-           emptyOnDevice(inner.number(), device) &&
+    if (!inner.isOpen() || !isOnDevice(inner.number(), device))
+        return false;
+    allowChanges(inner.number());
+    return emptyOnDevice(inner.number(), device) &&
            ::unlinkat(folder, name.constData(), AT_REMOVEDIR) == 0;
 }
 
