@@ -13,7 +13,7 @@
 // renames, so that another process can undo those that were done.
 //
 // Entries are recognised by inode and time of birth, so undoing never touches what somebody else
-// has put in place of one. The const functions allocate no memory and take no lock: the guard calls
+// has written there since. The const functions allocate no memory and take no lock: the guard calls
 // them after fork().
 class CommitSwitch {
 public:
