@@ -37,6 +37,16 @@ for (const [key, name] of [['l', 'share'], ['p', 'print'], ['?', 'help']]) {
   });
 }
 
+test('a key pressed as soon as a panel has closed reaches the book', async () => {
+  const book = await open();
+  await book.page.keyboard.press('?');
+  await book.page.locator('.help-panel').evaluate((panel) => {
+    panel.close();
+    document.activeElement.dispatchEvent(new KeyboardEvent('keydown', { key: 'ArrowRight', bubbles: true }));
+  });
+  await book.page.waitForFunction(() => window.folvero.page === 2);
+});
+
 test('a panel closes with its button and with a click beside it', async () => {
   const book = await open();
   for (const close of [() => book.page.locator('.help-panel .close').click(), () => book.page.mouse.click(20, 20)]) {

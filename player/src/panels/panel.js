@@ -29,10 +29,12 @@ export class Panel {
   }
 
   /**
-   * Keys typed here do not turn pages, and Tab stays within the panel.
+   * Keys typed here do not turn pages, and Tab stays within the panel. Until the next frame a closed panel still has
+   * the focus if it came from nowhere.
    * @param {KeyboardEvent} event
    */
   #key(event) {
+    if (!this.dialog.open) return;
     event.stopPropagation();
     if (event.key !== 'Tab') return;
     const controls = [...this.dialog.querySelectorAll('button, input')]
