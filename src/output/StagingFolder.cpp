@@ -17,10 +17,10 @@
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -48,64 +48,50 @@ bool isOfDeadProcess(const QString& name) {
     return process > 0 && ::kill(process, 0) != 0 && errno == ESRCH;
 }
 
-// A folder that was locked once carries the sticky bit.
-bool isAbandoned(const FileDescriptor& folder, const QString& name) {
+// Unless it is locked. A folder that was locked once carries the sticky bit.
+bool isOfEndedProcess(const FileDescriptor& folder, const QString& name) {
     struct stat info {};
     const QByteArray entry = QFile::encodeName(name);
     const bool wasLocked =
         ::fstatat(folder.number(), entry.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0 &&
         (info.st_mode & S_ISVTX) != 0;
-    return (wasLocked || isOfDeadProcess(name)) && !LockedFolder::isLocked(folder.number(), entry);
+    return wasLocked || isOfDeadProcess(name);
 }
 
 [[noreturn]] void fail(const QString& path, const Message& cause) {
     throw PlatformException(ErrorKind::publishing, Message::about(path, cause));
 }
 
-// While a process, or its guard, makes the exchange or undoes it.
-void waitForSwitch(const FileDescriptor& folder, const QString& inFolder, const QString& name) {
-    const auto isSwitching = [&] {
-        return CommitSwitch::hasJournal(Files::join(inFolder, name)) &&
-               LockedFolder::isLocked(folder.number(), QFile::encodeName(name));
-    };
+// Locks a staging folder whose process is gone, so that no two processes end it. Waits while a
+// process, its guard or another one that ends it is changing the folder. Not open when there is
+// nothing to do.
+FileDescriptor takeOver(const FileDescriptor& folder, const QString& inFolder,
+                        const QString& name) {
     const auto end = std::chrono::steady_clock::now() + longestSwitch;
-    while (isSwitching()) {
+    for (;;) {
+        FileDescriptor held = LockedFolder::take(folder.number(), QFile::encodeName(name));
+        if (held.isOpen() || !CommitSwitch::hasJournal(Files::join(inFolder, name)))
+            return isOfEndedProcess(folder, name) ? std::move(held) : FileDescriptor();
         if (std::chrono::steady_clock::now() > end)
             fail(inFolder, Message::ofSystemError(EBUSY).temporary());
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
 }
 
-// Renames a staging folder, so that no later run removes the earlier files in it.
-bool rescue(const QString& path) {
-    const QFileInfo info(path);
-    const QString first =
-        Files::join(info.path(), QStringLiteral("folvero-rescued-") + processIn(info.fileName()));
-    QString rescued = first;
-    for (int number = 2; QFileInfo::exists(rescued); ++number)
-        rescued = first + u'-' + QString::number(number);
-    const bool isMoved = std::rename(QFile::encodeName(path).constData(),
-                                     QFile::encodeName(rescued).constData()) == 0;
-    Log("PublishTransaction")
-        .error(QStringLiteral("earlier files could not be put back; they are in %1")
-                   .arg(isMoved ? rescued : path));
-    return isMoved;
+// Undoes a switch that was never finished, unless all of it was done.
+bool settle(const FileDescriptor& folder, const FileDescriptor& inside, const QString& staging) {
+    CommitSwitch unfinished(folder.number(), inside.number());
+    if (!unfinished.readJournal(staging))
+        return !CommitSwitch::hasJournal(staging); // without locks, somebody else may be faster
+    return (unfinished.isDone() || unfinished.undo()) && unfinished.removeJournal();
 }
 
-// Undoes a switch that was never finished, unless all of it was done.
-void settle(const FileDescriptor& folder, const QString& staging) {
-    const FileDescriptor inside = opened(staging);
-    // Some network file systems have no locks; another process may be at it at the same time.
-    if (!inside.isOpen() ||
-        (::flock(inside.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK))
-        return;
-    CommitSwitch unfinished(folder.number(), inside.number());
-    const bool isSettled =
-        unfinished.readJournal(staging) && (unfinished.isDone() || unfinished.undo());
-    if ((isSettled && unfinished.removeJournal()) || rescue(staging))
-        return;
-    fail(staging, Message::translate("FolveroOutput",
-                                     "Earlier files of the book are in it and can't be put back"));
+// A folder of a process with the number of one that lives again is removed only if it is this
+// user's own.
+bool mayRemove(const FileDescriptor& inside, const QString& name) {
+    struct stat info {};
+    return isOfDeadProcess(name) || (::fstat(inside.number(), &info) == 0 &&
+                                     info.st_uid == ::geteuid() && (info.st_mode & 0777) == 0700);
 }
 
 } // namespace
@@ -123,7 +109,9 @@ bool StagingFolder::hasUnfinished(const QString& inFolder) {
     const FileDescriptor folder = opened(inFolder);
     const QStringList names = folder.isOpen() ? namesIn(inFolder) : QStringList();
     return std::any_of(names.begin(), names.end(), [&](const QString& name) {
-        return CommitSwitch::hasJournal(Files::join(inFolder, name)) && isAbandoned(folder, name);
+        return CommitSwitch::hasJournal(Files::join(inFolder, name)) &&
+               isOfEndedProcess(folder, name) &&
+               !LockedFolder::isLocked(folder.number(), QFile::encodeName(name));
     });
 }
 
@@ -132,13 +120,33 @@ void StagingFolder::removeStale(const QString& inFolder) {
     if (!folder.isOpen())
         return;
     for (const QString& name : namesIn(inFolder)) {
-        const QByteArray entry = QFile::encodeName(name);
-        waitForSwitch(folder, inFolder, name);
-        if (CommitSwitch::hasJournal(Files::join(inFolder, name)) && isAbandoned(folder, name))
-            settle(folder, Files::join(inFolder, name));
-        if (!isOfDeadProcess(name))
-            LockedFolder::removeIfAbandoned(folder.number(), entry, std::nullopt);
-        else if (!LockedFolder::isLocked(folder.number(), entry))
-            FolderRemoval::removeEntry(folder.number(), entry);
+        const FileDescriptor inside = takeOver(folder, inFolder, name);
+        if (!inside.isOpen())
+            continue;
+        const QString staging = Files::join(inFolder, name);
+        const bool isSettled =
+            !CommitSwitch::hasJournal(staging) || settle(folder, inside, staging);
+        if (!isSettled && !rescue(staging))
+            fail(staging,
+                 Message::translate("FolveroOutput",
+                                    "Earlier files of the book are in it and can't be put back"));
+        if (isSettled && mayRemove(inside, name))
+            FolderRemoval::removeEntry(folder.number(), QFile::encodeName(name));
     }
+}
+
+// No later run removes the files in it.
+bool StagingFolder::rescue(const QString& path) {
+    const QFileInfo info(path);
+    const QString first =
+        Files::join(info.path(), QStringLiteral("folvero-rescued-") + processIn(info.fileName()));
+    QString rescued = first;
+    for (int number = 2; QFileInfo::exists(rescued); ++number)
+        rescued = first + u'-' + QString::number(number);
+    const bool isMoved = std::rename(QFile::encodeName(path).constData(),
+                                     QFile::encodeName(rescued).constData()) == 0;
+    Log("PublishTransaction")
+        .error(QStringLiteral("files could not be put back; they are in %1")
+                   .arg(isMoved ? rescued : path));
+    return isMoved;
 }

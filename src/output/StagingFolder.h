@@ -17,8 +17,11 @@ bool hasUnfinished(const QString& inFolder);
 
 // Undoes what processes that were killed had begun to change, then removes their staging folders.
 // Waits for one that is changing the folder at this moment. Earlier files that can't be put back
-// are kept in a folder "folvero-rescued-PID", which is logged. Throws PlatformException when they
-// can't be kept there either.
+// are rescued. Throws PlatformException when they can't.
 void removeStale(const QString& inFolder);
+
+// Keeps a staging folder for the user, as "folvero-rescued-PID" beside it, which is logged. False
+// when it has to keep its name.
+bool rescue(const QString& path);
 
 } // namespace StagingFolder

@@ -1,6 +1,5 @@
 #include "system/LockedFolder.h"
 
-#include "system/FileDescriptor.h"
 #include "system/FolderRemoval.h"
 
 #include <QFile>
@@ -12,6 +11,8 @@
 #include <mutex>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -51,15 +52,6 @@ bool lock(const FileDescriptor& folder) {
     return folder.isOpen() && ::flock(folder.number(), LOCK_EX | LOCK_NB) == 0;
 }
 
-// The sticky bit is set after the lock is held: a folder that has the bit but no lock is abandoned.
-void lockAndMark(const QByteArray& path) {
-    FileDescriptor folder(::open(path.constData(), openFolderItself));
-    struct stat info {};
-    if (lock(folder) && ::fstat(folder.number(), &info) == 0 &&
-        ::fchmod(folder.number(), (info.st_mode & 07777) | S_ISVTX) == 0)
-        heldLocks().add(path, std::move(folder));
-}
-
 bool isPrivateFolderOfUser(const struct stat& info) {
     return S_ISDIR(info.st_mode) && info.st_uid == ::geteuid() &&
            (info.st_mode & permissions) == ownersOnly;
@@ -72,6 +64,20 @@ bool isEntry(int parent, const QByteArray& name, const struct stat& folder) {
            info.st_dev == folder.st_dev && info.st_ino == folder.st_ino;
 }
 
+// The sticky bit is set after the lock is held: a folder that has the bit but no lock is abandoned.
+// False when another process that cleans up has it.
+bool lockAndMark(const QByteArray& path) {
+    FileDescriptor folder(::open(path.constData(), openFolderItself));
+    struct stat info {};
+    if (!lock(folder))
+        return errno != EWOULDBLOCK && errno != ENOENT;
+    if (::fstat(folder.number(), &info) == 0 && !isEntry(AT_FDCWD, path, info))
+        return false;
+    if (::fchmod(folder.number(), (info.st_mode & 07777) | S_ISVTX) == 0)
+        heldLocks().add(path, std::move(folder));
+    return true;
+}
+
 bool isOld(const struct stat& info, std::optional<std::chrono::seconds> unlockedFor) {
     return unlockedFor && std::time(nullptr) - info.st_mtime >= unlockedFor->count();
 }
@@ -79,11 +85,14 @@ bool isOld(const struct stat& info, std::optional<std::chrono::seconds> unlocked
 } // namespace
 
 QString LockedFolder::make(const QString& path) {
-    QByteArray name = QFile::encodeName(path);
-    if (!::mkdtemp(name.data()))
-        return {};
-    lockAndMark(name);
-    return QFile::decodeName(name);
+    for (;;) {
+        QByteArray name = QFile::encodeName(path);
+        if (!::mkdtemp(name.data()))
+            return {};
+        if (lockAndMark(name))
+            return QFile::decodeName(name);
+        ::rmdir(name.constData());
+    }
 }
 
 bool LockedFolder::remove(const QString& path) {
@@ -98,6 +107,14 @@ void LockedFolder::release(const QString& path) {
 
 int LockedFolder::descriptor(const QString& path) {
     return heldLocks().find(QFile::encodeName(path));
+}
+
+FileDescriptor LockedFolder::take(int parent, const QByteArray& name) {
+    FileDescriptor folder(::openat(parent, name.constData(), openFolderItself));
+    struct stat info {};
+    const bool isTaken = folder.isOpen() && (lock(folder) || errno != EWOULDBLOCK) &&
+                         ::fstat(folder.number(), &info) == 0 && isEntry(parent, name, info);
+    return isTaken ? std::move(folder) : FileDescriptor();
 }
 
 bool LockedFolder::isLocked(int parent, const QByteArray& name) {

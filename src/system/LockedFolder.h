@@ -1,5 +1,7 @@
 #pragma once
 
+#include "system/FileDescriptor.h"
+
 #include <QByteArray>
 #include <QString>
 #include <chrono>
@@ -24,6 +26,11 @@ void release(const QString& path);
 
 // The folder's descriptor, which holds the lock; -1 when this process has not locked it.
 int descriptor(const QString& path);
+
+// Opens and locks an entry of an open folder if it is a folder and no process, including this one,
+// has locked it. Not open otherwise, nor when it is gone once it is locked. Where the file system
+// has no locks it is only opened.
+FileDescriptor take(int parent, const QByteArray& name);
 
 // Whether any process, including this one, has locked an entry of an open folder.
 bool isLocked(int parent, const QByteArray& name);

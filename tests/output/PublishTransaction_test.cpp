@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -274,7 +275,9 @@ TEST_F(Transaction, SurvivesTheDeathOfTheProcess) {
 // What is left when a program and its guard are killed once all is exchanged.
 class InterruptedSwitch : public Transaction {
 protected:
-    InterruptedSwitch() {
+    InterruptedSwitch() { interrupt(); }
+    void interrupt() {
+        opened.clear();
         for (const char* name : {"a", "c", "swap/a", "swap/b"})
             write(name[1] ? staging + name : name, name[1] ? "new" : "old");
         for (const QString& each : {folder.path(), path(staging)})
@@ -302,6 +305,18 @@ TEST_F(InterruptedSwitch, IsUndoneByTheNextTransaction) {
     EXPECT_EQ(settled(), "a=old c=old");
 }
 
+TEST_F(InterruptedSwitch, IsEndedByOneOfManyTransactions) {
+    for (int round = 0; round < 50 && !HasFailure(); ++round) {
+        QFile::remove(path("b"));
+        interrupt();
+        ASSERT_TRUE(QFile::rename(path(staging + "away/c"), path("c")));
+        std::thread other([this] { EXPECT_NO_THROW(PublishTransaction{folder.path()}); });
+        EXPECT_NO_THROW(PublishTransaction{folder.path()});
+        other.join();
+        EXPECT_EQ(state(folder.path()), "a=old c=old");
+    }
+}
+
 TEST_F(InterruptedSwitch, KeepsTheEarlierFilesThatItCannotPutBack) {
     const RecordedLog log(Log::Level::error);
     ASSERT_TRUE(QFile::rename(path(staging + "away/c"), path("c")) && QFile::remove(path("a")));
@@ -309,7 +324,7 @@ TEST_F(InterruptedSwitch, KeepsTheEarlierFilesThatItCannotPutBack) {
     write("folvero-rescued-999999999/file", "of an earlier time");
     EXPECT_TRUE(settled().startsWith("a=somebody's c=old folvero-rescued-999999999-2/ "));
     EXPECT_EQ(read("folvero-rescued-999999999-2/swap/a"), "old");
-    EXPECT_EQ(log.texts(), QStringList{"earlier files could not be put back; they are in " +
+    EXPECT_EQ(log.texts(), QStringList{"files could not be put back; they are in " +
                                        path("folvero-rescued-999999999-2")});
 }
 

@@ -2,18 +2,21 @@
 
 #include "app/MirelUtility.h"
 #include "support/TemplateLibrary.h"
+#include "system/LockedFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <atomic>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -172,6 +175,30 @@ TEST_F(TemporaryFoldersTest, AreOutOfReachOfTheUserWhoMadeTheFolderAroundThem) {
     // Root takes the folder over, for everybody from then on.
     EXPECT_TRUE(leftByAKilledRun(0).startsWith(parent() + "/temp."));
     EXPECT_TRUE(leftByAKilledRun(12345).startsWith(parent() + "/temp."));
+}
+
+// A process of another container seems to be dead.
+TEST(LockedFolder, IsNotRemovedByWhoClearsAwayBeforeItIsLocked) {
+    const QTemporaryDir parent;
+    const FileDescriptor open(::open(parent.path().toUtf8().constData(), O_RDONLY));
+    std::atomic<bool> isDone = false;
+    std::thread cleaner([&] {
+        while (!isDone) {
+            for (const QString& name : QDir(parent.path()).entryList(QDir::AllDirs)) {
+                const auto held = LockedFolder::take(open.number(), name.toUtf8());
+                if (held.isOpen() && name.size() == 6)
+                    ::unlinkat(open.number(), name.toUtf8().constData(), AT_REMOVEDIR);
+            }
+        }
+    });
+    for (int i = 0; i < 300; ++i) {
+        const QString path = LockedFolder::make(parent.filePath("XXXXXX"));
+        EXPECT_FALSE(LockedFolder::take(open.number(), path.right(6).toUtf8()).isOpen());
+        EXPECT_TRUE(QFileInfo::exists(path));
+        LockedFolder::remove(path);
+    }
+    isDone = true;
+    cleaner.join();
 }
 
 } // namespace
