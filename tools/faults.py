@@ -16,6 +16,8 @@ often the result was wrong, in one row for each experiment:
     links       as kill, on a file system without hard links
     flush       no fault: what is exchanged must be on the disk before, and the exchange before the run ends
     vanish      the output folder is renamed before the call: an error (exit code 75), and no path printed
+    intrude     somebody puts a file into the folder "files" before the call: it must stay, also when the program and
+                its guard are killed there
 
 The exit code is 1 when any result was wrong. Needs strace, and the samples of a build.
 """
@@ -219,6 +221,28 @@ def vanish_at(bench, point):
     return wrong
 
 
+def intrude_at(bench, point):
+    wrong = set()
+    # An application is replaced with all that is in it.
+    for is_killed in (False, True) if bench.new != "app" else ():
+        def intrude(process):
+            folder = next((path for path in bench.book.rglob("files") if ".folvero" not in str(path)), bench.book)
+            (folder / "theirs").write_text("theirs")
+            for victim in [*children_of(process), process] if is_killed else []:
+                os.kill(victim, signal.SIGKILL)
+        code, _, errors = stop_at(bench, point, intrude)
+        if not is_killed and code not in (0, 75):
+            wrong.add(f"exit code {code}")
+        if bench.publish("new", bench.new).returncode != 0:
+            wrong.add("next run failed")
+        found = files_of(bench.book)
+        if not any(name.endswith("theirs") for name in found):
+            wrong.add("file lost")
+        if {name for name in found if not name.endswith("theirs")} != set(bench.new_files) or leftovers_in(bench.book):
+            wrong.add("left behind")
+    return wrong
+
+
 def check_flush_at(bench, point):
     calls = (bench.work / "calls").read_text(errors="replace").splitlines()
     at = calls.index(point.line)
@@ -248,6 +272,7 @@ EXPERIMENTS = {
     "links": (["-e", "inject=linkat:error=EPERM"], lambda point: point.call != "linkat", kill_at),
     "flush": ([], is_exchange, check_flush_at),
     "vanish": ([], is_of_commit, vanish_at),
+    "intrude": ([], lambda point: ".stamp" not in point.line, intrude_at),
 }
 
 

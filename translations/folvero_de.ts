@@ -197,6 +197,10 @@
         <translation>So heißt schon die Seite mit dem Text des Buchs</translation>
     </message>
     <message>
+        <source>it was changed while the book was published</source>
+        <translation>es wurde geändert, während das Buch veröffentlicht wurde</translation>
+    </message>
+    <message>
         <source>%1; earlier files are in %2, and the next publish tries to put them back</source>
         <translation>%1; frühere Dateien sind in %2, und das nächste Veröffentlichen versucht, sie zurückzulegen</translation>
     </message>

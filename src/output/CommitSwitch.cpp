@@ -44,13 +44,6 @@ bool move(int from, int to, const char* name) {
     return ::renameat(from, name, to, name) == 0;
 }
 
-// Fails where the name is taken, if the file system can do that.
-bool moveIn(int from, int to, const char* name) {
-    if (::renameat2(from, name, to, name, RENAME_NOREPLACE) == 0)
-        return true;
-    return errno != EEXIST && move(from, to, name);
-}
-
 // A journal may come with a folder of somebody else's.
 bool isEntryName(const QByteArray& name) {
     return !name.isEmpty() && name != "." && name != ".." && !name.contains('/') &&
@@ -62,8 +55,14 @@ bool isEntryName(const QByteArray& name) {
 CommitSwitch::CommitSwitch(int folder, int staging)
     : iFolder(folder),
       iStaging(staging),
-      iSwap(subfolder(staging, swapName.toLatin1().constData())),
-      iAway(subfolder(staging, "away")) {}
+      iSwap(subfolder(staging, places[0])),
+      iAway(subfolder(staging, places[1])) {}
+
+bool CommitSwitch::moveIn(int from, int to, const char* name) {
+    if (::renameat2(from, name, to, name, RENAME_NOREPLACE) == 0)
+        return true;
+    return errno != EEXIST && move(from, to, name);
+}
 
 std::vector<int> CommitSwitch::descriptors() const {
     return {iFolder, iStaging, iSwap.number(), iAway.number()};
@@ -126,8 +125,10 @@ bool CommitSwitch::undo(const Step& step) const {
         return !isOurs || move(iFolder, iSwap.number(), name);
     if (now && !isOurs)
         return false;
+    // What was exchanged is not what was to be replaced where somebody else was faster.
     for (const int place : {iSwap.number(), iAway.number()}) {
-        if (identityOf(place, name) == step.replaced)
+        const Identity earlier = identityOf(place, name);
+        if (earlier && earlier != step.added)
             return putBack(place, name, isOurs);
     }
     return false;

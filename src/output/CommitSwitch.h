@@ -36,6 +36,8 @@ public:
 
     // Where new entries are prepared.
     static inline const QString swapName = QStringLiteral("swap");
+    // The subfolders of the staging folder.
+    static constexpr const char* places[]{"swap", "away"};
     int swapFolder() const { return iSwap.number(); }
     // All descriptors that the const functions use.
     std::vector<int> descriptors() const;
@@ -60,6 +62,10 @@ public:
     bool writeJournal(const QString& staging, Message* error) const;
     bool readJournal(const QString& staging);
     bool removeJournal() const;
+
+    // Moves an entry to another folder. Fails where the name is taken, if the file system can do
+    // that.
+    static bool moveIn(int from, int to, const char* name);
 
 private:
     bool apply(const Step& step) const;

@@ -43,7 +43,9 @@ FolderCommit::~FolderCommit() {
     const bool isSettled = iCommitted || !iSwitch || iSwitch->undo();
     const bool isForgotten = isSettled && (!iSwitch || iSwitch->removeJournal());
     iGuard.reset();
-    if (isForgotten)
+    if (isForgotten && iPlanned && !iRetired->remove().isEmpty())
+        StagingFolder::rescue(iStaging);
+    else if (isForgotten)
         StagingFolder::remove(iStaging);
     else
         LockedFolder::release(iStaging); // a later run settles it by the journal
@@ -67,6 +69,7 @@ void FolderCommit::open() {
         failWithErrno();
     if (LockedFolder::descriptor(iStaging) < 0)
         iStagingNumber = opened(iStaging, O_RDONLY);
+    iRetired.emplace(folderNumber(), stagingNumber());
 }
 
 int FolderCommit::stagingNumber() const {
@@ -79,19 +82,19 @@ CommitSwitch& FolderCommit::steps() {
     return *iSwitch;
 }
 
+void FolderCommit::mayDelete(const QString& name) {
+    iRetired->list(folderNumber(), QFile::encodeName(name));
+}
+
 void FolderCommit::commit() {
     if (!steps().steps().empty()) {
-        Message error;
-        if (!iSwitch->writeJournal(iStaging, &error))
-            fail({}, error);
-        // All files at once: a flush for each of thousands takes longer than to make them.
-        if (::syncfs(iSwitch->swapFolder()) != 0)
-            failWithErrno();
+        writePlan();
         iGuard.emplace(*iSwitch);
         try {
             if (const auto* failed = iSwitch->apply())
                 failWithErrno(QFile::decodeName(failed->name));
             checkPresence();
+            giveBack();
             if (!sync(folderNumber()))
                 failWithErrno();
         } catch (const PlatformException& failure) {
@@ -99,6 +102,27 @@ void FolderCommit::commit() {
         }
     }
     iCommitted = true;
+}
+
+// For the guard and later runs, which go by this if the program dies.
+void FolderCommit::writePlan() {
+    for (const CommitSwitch::Step& step : iSwitch->steps())
+        iRetired->list(iSwitch->swapFolder(), step.name);
+    Message error;
+    if (!iRetired->write(iStaging, &error) || !iSwitch->writeJournal(iStaging, &error))
+        fail({}, error);
+    iPlanned = true;
+    // All files at once: a flush for each of thousands takes longer than to make them.
+    if (::syncfs(iSwitch->swapFolder()) != 0)
+        failWithErrno();
+}
+
+void FolderCommit::giveBack() {
+    const QByteArrayList left = iRetired->giveBack();
+    if (!left.isEmpty())
+        fail(QFile::decodeName(left.front()),
+             Message::translate("FolveroOutput", "it was changed while the book was published")
+                 .temporary());
 }
 
 void FolderCommit::rollBack(const PlatformException& failure) const {

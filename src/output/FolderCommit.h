@@ -3,6 +3,7 @@
 #include "base/Message.h"
 #include "output/CommitGuard.h"
 #include "output/CommitSwitch.h"
+#include "output/RetiredEdition.h"
 #include "system/FileDescriptor.h"
 
 #include <QString>
@@ -30,12 +31,19 @@ public:
     // What is to be exchanged.
     CommitSwitch& steps();
 
-    // Writes what was prepared to disk, takes all steps, and writes them to disk.
+    // To be called for each entry that is to be replaced or removed, before it is compared or
+    // copied: what it is or contains now may be deleted by commit().
+    void mayDelete(const QString& name);
+
+    // Writes what was prepared to disk, takes all steps, and writes them to disk. What others have
+    // put or changed in the entries since mayDelete() stays; where it can't, the commit fails.
     void commit();
 
 private:
     void open();
+    void writePlan();
     void checkPresence() const;
+    void giveBack();
     [[noreturn]] void rollBack(const PlatformException& failure) const;
     [[noreturn]] void fail(const QString& name, const Message& cause) const;
     [[noreturn]] void failWithErrno(const QString& name = {}) const;
@@ -46,6 +54,8 @@ private:
     FileDescriptor iFolderNumber;
     FileDescriptor iStagingNumber; // when it is not locked
     std::optional<CommitSwitch> iSwitch;
+    std::optional<RetiredEdition> iRetired;
     std::optional<CommitGuard> iGuard;
+    bool iPlanned = false;
     bool iCommitted = false;
 };

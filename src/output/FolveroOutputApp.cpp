@@ -69,6 +69,7 @@ void FolveroOutputApp::ouputTheBook() {
     try {
         FolderCommit commit(folder, folder);
         const QString name = QFileInfo(bundle).fileName();
+        commit.mayDelete(name);
         CommitSwitch& steps = commit.steps();
         if (!publishInto(Files::join(commit.staging(), CommitSwitch::swapName + u'/' + name)))
             return;

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -186,6 +187,7 @@ void PublishTransaction::sortByPhase() {
 
 void PublishTransaction::commit() {
     sortByPhase();
+    listEntries();
     NextEdition next({iFolder, iNamedFolder == u"." ? QString() : iNamedFolder, iCommit->staging(),
                       iCommit->folderNumber(), iCommit->stagingNumber()},
                      iChanges, iFoldersToMake);
@@ -193,6 +195,17 @@ void PublishTransaction::commit() {
     iCommit->commit();
     iCounts = next.counts();
     iCommitted = true;
+}
+
+void PublishTransaction::listEntries() {
+    QSet<QString> entries;
+    for (const QString& folder : std::as_const(iFoldersToMake))
+        entries << folder.section(u'/', 0, 0);
+    for (const NextEdition::Change& change : iChanges)
+        entries << change.path.section(u'/', 0, 0);
+    entries.remove(QString()); // the folder itself
+    for (const QString& entry : std::as_const(entries))
+        iCommit->mayDelete(entry);
 }
 
 void PublishTransaction::removeCreatedRoots() {

@@ -73,6 +73,7 @@ private:
     bool isBehindLink(const QString& relativePath) const;
     std::size_t indexOf(const QString& relativePath);
     void sortByPhase();
+    void listEntries();
     void removeCreatedRoots();
 
     QString iNamedFolder;

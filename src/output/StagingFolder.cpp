@@ -3,6 +3,7 @@
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "output/CommitSwitch.h"
+#include "output/RetiredEdition.h"
 #include "system/FileDescriptor.h"
 #include "system/Files.h"
 #include "system/FolderRemoval.h"
@@ -86,6 +87,12 @@ bool settle(const FileDescriptor& folder, const FileDescriptor& inside, const QS
     return (unfinished.isDone() || unfinished.undo()) && unfinished.removeJournal();
 }
 
+// Deletes the edition out of use. False when there are files of others that have no other place.
+bool retire(const FileDescriptor& folder, const FileDescriptor& inside, const QString& staging) {
+    RetiredEdition retired(folder.number(), inside.number());
+    return !retired.read(staging) || retired.remove().isEmpty();
+}
+
 // A folder of a process with the number of one that lives again is removed only if it is this
 // user's own.
 bool mayRemove(const FileDescriptor& inside, const QString& name) {
@@ -130,8 +137,12 @@ void StagingFolder::removeStale(const QString& inFolder) {
             fail(staging,
                  Message::translate("FolveroOutput",
                                     "Earlier files of the book are in it and can't be put back"));
-        if (isSettled && mayRemove(inside, name))
+        if (!isSettled || !mayRemove(inside, name))
+            continue;
+        if (retire(folder, inside, staging))
             FolderRemoval::removeEntry(folder.number(), QFile::encodeName(name));
+        else
+            rescue(staging);
     }
 }
 

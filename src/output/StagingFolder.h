@@ -16,8 +16,8 @@ void remove(const QString& path);
 bool hasUnfinished(const QString& inFolder);
 
 // Undoes what processes that were killed had begun to change, then removes their staging folders.
-// Waits for one that is changing the folder at this moment. Earlier files that can't be put back
-// are rescued. Throws PlatformException when they can't.
+// Waits for one that is changing the folder at this moment. Earlier files that can't be put back,
+// and files of others that can't, are rescued. Throws PlatformException when they can't.
 void removeStale(const QString& inFolder);
 
 // Keeps a staging folder for the user, as "folvero-rescued-PID" beside it, which is logged. False

@@ -14,13 +14,6 @@ namespace {
 
 constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
-// Folders that were made read-only can't be emptied.
-void allowChanges(int folder) {
-    struct stat info {};
-    if (::fstat(folder, &info) == 0 && (info.st_mode & S_IRWXU) != S_IRWXU)
-        (void)(::fchmod(folder, (info.st_mode & 07777) | S_IRWXU) == 0);
-}
-
 bool isOnDevice(int folder, dev_t device) {
     struct stat info {};
     return ::fstat(folder, &info) == 0 && info.st_dev == device;
@@ -34,7 +27,7 @@ bool removeOnDevice(int folder, const QByteArray& name, dev_t device) {
     const FileDescriptor inner(::openat(folder, name.constData(), openFolderItself));
     if (!inner.isOpen() || !isOnDevice(inner.number(), device))
         return false;
-    allowChanges(inner.number());
+    FolderRemoval::allowChanges(inner.number());
     return emptyOnDevice(inner.number(), device) &&
            ::unlinkat(folder, name.constData(), AT_REMOVEDIR) == 0;
 }
@@ -67,6 +60,12 @@ bool FolderRemoval::removeEntry(int folder, const QByteArray& name) {
 bool FolderRemoval::empty(int folder) {
     struct stat info {};
     return ::fstat(folder, &info) == 0 && emptyOnDevice(folder, info.st_dev);
+}
+
+void FolderRemoval::allowChanges(int folder) {
+    struct stat info {};
+    if (::fstat(folder, &info) == 0 && (info.st_mode & S_IRWXU) != S_IRWXU)
+        (void)(::fchmod(folder, (info.st_mode & 07777) | S_IRWXU) == 0);
 }
 
 // Reads all names before removing any: what readdir() returns when entries are removed meanwhile

@@ -19,6 +19,9 @@ bool removeEntry(int folder, const QByteArray& name);
 // Removes the contents of an open folder. True when it is empty afterwards.
 bool empty(int folder);
 
+// Lets its owner empty an open folder that was made read-only.
+void allowChanges(int folder);
+
 // The names of the entries of an open folder, in no particular order; null, with the cause in
 // errno, when not all could be read.
 std::optional<std::vector<QByteArray>> namesIn(int folder);

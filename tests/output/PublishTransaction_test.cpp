@@ -1,4 +1,5 @@
 #include "output/CommitSwitch.h"
+#include "output/FolderCommit.h"
 #include "output/PublishTransaction.h"
 
 #include "support/FailureOf.h"
@@ -272,6 +273,31 @@ TEST_F(Transaction, SurvivesTheDeathOfTheProcess) {
     EXPECT_EQ(state(folder.path()), "a=old");
 }
 
+TEST_F(Transaction, KeepsWhatOthersPutIntoAFolderAfterItWasCopied) {
+    for (const QString base : {"added", "edited"}) {
+        write(base + "/files/1");
+        {
+            FolderCommit commit(path(base), path(base));
+            commit.mayDelete("files");
+            CommitSwitch& steps = commit.steps();
+            TestFiles::write(commit.staging() + "/swap/files/1", "new");
+            ASSERT_TRUE(steps.addReplacement("files"));
+            for (const char* name : {"/files/late", "/files/sub/late", "/files/1"}) {
+                if (base == "edited" || name[7] != '1')
+                    write(base + name, "theirs");
+            }
+            const Message error = failureOf([&] { commit.commit(); }).message;
+            const QString cause = ": it was changed while the book was published";
+            EXPECT_EQ(error.english(),
+                      base == "edited" ? path("edited/files/1") + cause : QString());
+            EXPECT_EQ(error.isTemporary(), base == "edited");
+        }
+        EXPECT_EQ(state(path(base)),
+                  "files/ files/1=" + QString(base == "added" ? "new" : "theirs") +
+                      " files/late=theirs files/sub/ files/sub/late=theirs");
+    }
+}
+
 // What is left when a program and its guard are killed once all is exchanged.
 class InterruptedSwitch : public Transaction {
 protected:
@@ -285,6 +311,12 @@ protected:
         CommitSwitch steps(opened[0].number(), opened[1].number());
         EXPECT_TRUE(steps.addReplacement("a") && steps.addReplacement("b"));
         steps.addRemoval("c");
+        RetiredEdition retired(opened[0].number(), opened[1].number());
+        for (const char* name : {"a", "b", "c"}) {
+            retired.list(opened[0].number(), name);
+            retired.list(steps.swapFolder(), name);
+        }
+        EXPECT_TRUE(retired.write(path(staging), nullptr));
         EXPECT_TRUE(steps.writeJournal(path(staging), nullptr) && !steps.apply());
     }
     QString settled() const {
@@ -298,6 +330,12 @@ protected:
 
 TEST_F(InterruptedSwitch, StaysAsItIsWhenItWasComplete) {
     EXPECT_EQ(settled(), "a=new b=new");
+}
+
+TEST_F(InterruptedSwitch, GivesBackWhatIsNotOfTheEarlierEdition) {
+    write(staging + "swap/late", "theirs");
+    write(staging + "away/c", "edited");
+    EXPECT_EQ(settled(), "a=new b=new c=edited late=theirs");
 }
 
 TEST_F(InterruptedSwitch, IsUndoneByTheNextTransaction) {
