@@ -14,6 +14,7 @@ often the result was wrong, in one row for each experiment:
     power       the program and its guard are killed, as when the power fails. The next publish must find its way.
     exchange    as kill, on a file system that can't exchange two names
     links       as kill, on a file system without hard links
+    inplace     as kill, with a file in "files" that can be neither linked nor copied
     flush       no fault: what is exchanged must be on the disk before, and the exchange before the run ends
     vanish      the output folder is renamed before the call: an error (exit code 75), and no path printed
     intrude     somebody puts a file into the folder "files" before the call: it must stay, also when the program and
@@ -66,6 +67,7 @@ class Bench:
 
     def __init__(self, program, samples, work, pair):
         self.program, self.work = program, work
+        self.has_pipe = False
         self.old, self.new = pair.split(":")
         self.documents = {"old": samples / "links.pdf", "new": samples / "outline.pdf"}
         self.book = work / "book"
@@ -82,6 +84,8 @@ class Bench:
         shutil.rmtree(self.book, ignore_errors=True)
         if edition:
             shutil.copytree(edition, self.book, symlinks=True)
+        if edition and self.has_pipe:
+            os.mkfifo(next(self.book.rglob("files")) / "pipe")
 
     def command(self, edition, kind):
         pages = "1-2" if edition == "new" else "1-3"
@@ -270,6 +274,7 @@ EXPERIMENTS = {
     "power": ([], is_of_commit, cut_power_at),
     "exchange": (["-e", "inject=renameat2:error=EINVAL"], lambda point: point.call != "renameat2", kill_at),
     "links": (["-e", "inject=linkat:error=EPERM"], lambda point: point.call != "linkat", kill_at),
+    "inplace": (["-e", "inject=linkat:error=EPERM"], lambda point: point.call != "linkat", kill_at),
     "flush": ([], is_exchange, check_flush_at),
     "vanish": ([], is_of_commit, vanish_at),
     "intrude": ([], lambda point: ".stamp" not in point.line, intrude_at),
@@ -280,6 +285,7 @@ def run_experiment(name, benches, is_long, is_verbose):
     options, is_taken, inject = EXPERIMENTS[name]
     total, wrong = 0, {}
     for bench in benches:
+        bench.has_pipe = name == "inplace"
         points = [point for point in bench.points(options, is_long) if is_taken(point)]
         for point in points:
             faults = inject(bench, point, options) if options else inject(bench, point)

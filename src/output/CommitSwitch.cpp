@@ -5,15 +5,18 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 
 namespace {
 
 constexpr char journalName[] = "journal";
-constexpr qint64 maxJournalBytes = 1 << 20;
+constexpr qint64 maxJournalBytes = 64 << 20; // a line for each file of a large book
 
 QString journalOf(const QString& staging) {
     return Files::join(staging, QString::fromLatin1(journalName));
@@ -25,29 +28,70 @@ FileDescriptor subfolder(int parent, const char* name) {
     return FileDescriptor(::openat(parent, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
 }
 
+// An entry by its path in an open folder. Somebody else may have put links on the way.
+class Entry {
+public:
+    Entry(int root, const char* path) : iFolder(root), iName(path) {
+        while (const char* end = std::strchr(iName, '/')) {
+            std::array<char, NAME_MAX + 1> part{};
+            const auto length = std::min(std::size_t(end - iName), part.size() - 1);
+            std::memcpy(part.data(), iName, length);
+            iOpen = FileDescriptor(::openat(iFolder, part.data(), openParent));
+            iFolder = iOpen.number();
+            iName = end + 1;
+        }
+    }
+    int folder() const { return iFolder; }
+    const char* name() const { return iName; }
+
+private:
+    static constexpr int openParent = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+    FileDescriptor iOpen;
+    int iFolder; // -1 where there is none
+    const char* iName;
+};
+
 // Null also for an entry that can't be looked at.
-CommitSwitch::Identity identityOf(int folder, const char* name) {
+CommitSwitch::Identity identityOf(int root, const char* path) {
+    const Entry entry(root, path);
     struct statx info {};
-    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW, STATX_INO | STATX_BTIME, &info) != 0)
+    if (::statx(entry.folder(), entry.name(), AT_SYMLINK_NOFOLLOW, STATX_INO | STATX_BTIME,
+                &info) != 0)
         return {};
     const bool isRecorded = (info.stx_mask & STATX_BTIME) != 0;
     return {info.stx_ino,
             isRecorded ? info.stx_btime.tv_sec * 1'000'000'000 + info.stx_btime.tv_nsec : 0};
 }
 
-bool isFolder(int parent, const char* name) {
+bool isFolder(int root, const char* path) {
+    const Entry entry(root, path);
     struct stat info {};
-    return ::fstatat(parent, name, &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(info.st_mode);
+    return ::fstatat(entry.folder(), entry.name(), &info, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISDIR(info.st_mode);
 }
 
-bool move(int from, int to, const char* name) {
-    return ::renameat(from, name, to, name) == 0;
+bool move(int fromRoot, int toRoot, const char* path, unsigned flags = 0) {
+    const Entry from(fromRoot, path);
+    const Entry to(toRoot, path);
+    return (flags == 0
+                ? ::renameat(from.folder(), from.name(), to.folder(), to.name())
+                : ::renameat2(from.folder(), from.name(), to.folder(), to.name(), flags)) == 0;
+}
+
+bool link(int fromRoot, int toRoot, const char* path) {
+    const Entry from(fromRoot, path);
+    const Entry to(toRoot, path);
+    return ::linkat(from.folder(), from.name(), to.folder(), to.name(), 0) == 0;
 }
 
 // A journal may come with a folder of somebody else's.
-bool isEntryName(const QByteArray& name) {
-    return !name.isEmpty() && name != "." && name != ".." && !name.contains('/') &&
-           !name.contains('\0');
+bool isEntryPath(const QByteArray& path) {
+    const QByteArrayList parts = path.split('/');
+    return !path.contains('\0') &&
+           std::none_of(parts.begin(), parts.end(), [](const QByteArray& part) {
+               return part.isEmpty() || part == "." || part == "..";
+           });
 }
 
 } // namespace
@@ -59,9 +103,7 @@ CommitSwitch::CommitSwitch(int folder, int staging)
       iAway(subfolder(staging, places[1])) {}
 
 bool CommitSwitch::moveIn(int from, int to, const char* name) {
-    if (::renameat2(from, name, to, name, RENAME_NOREPLACE) == 0)
-        return true;
-    return errno != EEXIST && move(from, to, name);
+    return move(from, to, name, RENAME_NOREPLACE) || (errno != EEXIST && move(from, to, name));
 }
 
 std::vector<int> CommitSwitch::descriptors() const {
@@ -70,13 +112,20 @@ std::vector<int> CommitSwitch::descriptors() const {
 
 bool CommitSwitch::addReplacement(const QByteArray& name) {
     const Identity added = identityOf(iSwap.number(), name.constData());
+    makeParentsInAway(name);
     if (added)
         iSteps.push_back({name, added, identityOf(iFolder, name.constData())});
     return bool(added);
 }
 
 void CommitSwitch::addRemoval(const QByteArray& name) {
+    makeParentsInAway(name);
     iSteps.push_back({name, {}, identityOf(iFolder, name.constData())});
+}
+
+void CommitSwitch::makeParentsInAway(const QByteArray& name) const {
+    for (auto end = name.indexOf('/'); end >= 0; end = name.indexOf('/', end + 1))
+        (void)::mkdirat(iAway.number(), name.left(end).constData(), 0700);
 }
 
 const CommitSwitch::Step* CommitSwitch::apply() const {
@@ -93,12 +142,12 @@ bool CommitSwitch::apply(const Step& step) const {
 }
 
 bool CommitSwitch::exchange(const char* name) const {
-    if (::renameat2(iSwap.number(), name, iFolder, name, RENAME_EXCHANGE) == 0)
+    if (move(iSwap.number(), iFolder, name, RENAME_EXCHANGE))
         return true;
     // The file system can't, or the renames below fail, too. A hard link keeps an earlier file from
     // going missing even for a moment. Folders have none.
     const bool mayStay = !isFolder(iSwap.number(), name);
-    const bool isKept = mayStay && ::linkat(iFolder, name, iAway.number(), name, 0) == 0;
+    const bool isKept = mayStay && link(iFolder, iAway.number(), name);
     return (isKept || move(iFolder, iAway.number(), name)) && move(iSwap.number(), iFolder, name);
 }
 
@@ -136,7 +185,7 @@ bool CommitSwitch::undo(const Step& step) const {
 
 bool CommitSwitch::putBack(int from, const char* name, bool isInTheWay) const {
     if (isInTheWay && from == iSwap.number())
-        return ::renameat2(from, name, iFolder, name, RENAME_EXCHANGE) == 0;
+        return move(from, iFolder, name, RENAME_EXCHANGE);
     // A file over a file.
     if (move(from, iFolder, name))
         return true;
@@ -171,7 +220,7 @@ bool CommitSwitch::readJournal(const QString& staging) {
     for (const QByteArray& line : lines) {
         const QByteArrayList parts = line.split(' ');
         const QByteArray name = QByteArray::fromPercentEncoding(parts.value(4));
-        if (parts.size() != 5 || !isEntryName(name))
+        if (parts.size() != 5 || !isEntryPath(name))
             return false;
         iSteps.push_back({name,
                           {parts[0].toULongLong(), parts[1].toLongLong()},

@@ -24,7 +24,7 @@ public:
         explicit operator bool() const { return inode != 0; }
     };
     struct Step {
-        QByteArray name;   // in the folder, and in "swap" or "away"
+        QByteArray name;   // or path, in the folder, and in "swap" or "away"
         Identity added;    // none when an entry is removed
         Identity replaced; // none when there is none
     };
@@ -42,9 +42,11 @@ public:
     // All descriptors that the const functions use.
     std::vector<int> descriptors() const;
 
-    // Adds a step for an entry of "swap", or for the removal of one.
+    // Adds a step for an entry of "swap", or for the removal of one. The entry may be in a
+    // subfolder that both the folder and "swap" have. Links on the way are not followed.
     bool addReplacement(const QByteArray& name);
     void addRemoval(const QByteArray& name);
+    void clear() { iSteps.clear(); }
     const std::vector<Step>& steps() const { return iSteps; }
 
     // Takes all steps in order. Returns the one that failed, with the cause in errno, or null.
@@ -68,6 +70,7 @@ public:
     static bool moveIn(int from, int to, const char* name);
 
 private:
+    void makeParentsInAway(const QByteArray& name) const;
     bool apply(const Step& step) const;
     bool exchange(const char* name) const;
     bool undo(const Step& step) const;

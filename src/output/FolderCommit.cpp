@@ -86,22 +86,33 @@ void FolderCommit::mayDelete(const QString& name) {
     iRetired->list(folderNumber(), QFile::encodeName(name));
 }
 
-void FolderCommit::commit() {
-    if (!steps().steps().empty()) {
-        writePlan();
-        iGuard.emplace(*iSwitch);
-        try {
-            if (const auto* failed = iSwitch->apply())
-                failWithErrno(QFile::decodeName(failed->name));
-            checkPresence();
-            giveBack();
-            if (!sync(folderNumber()))
-                failWithErrno();
-        } catch (const PlatformException& failure) {
-            rollBack(failure);
-        }
+void FolderCommit::commit(const std::function<void()>& otherSteps) {
+    if (!steps().steps().empty() && !exchange(bool(otherSteps))) {
+        iGuard.reset();
+        otherSteps();
+        exchange(false);
     }
     iCommitted = true;
+}
+
+// False when the file system can't, if it may.
+bool FolderCommit::exchange(bool mayRefuse) {
+    writePlan();
+    iGuard.emplace(*iSwitch);
+    try {
+        if (const auto* failed = iSwitch->apply()) {
+            if (mayRefuse && errno == EXDEV && iSwitch->undo())
+                return false;
+            failWithErrno(QFile::decodeName(failed->name));
+        }
+        checkPresence();
+        giveBack();
+        if (!sync(folderNumber()))
+            failWithErrno();
+    } catch (const PlatformException& failure) {
+        rollBack(failure);
+    }
+    return true;
 }
 
 // For the guard and later runs, which go by this if the program dies.

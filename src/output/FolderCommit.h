@@ -7,6 +7,7 @@
 #include "system/FileDescriptor.h"
 
 #include <QString>
+#include <functional>
 #include <optional>
 
 class PlatformException;
@@ -37,11 +38,14 @@ public:
 
     // Writes what was prepared to disk, takes all steps, and writes them to disk. What others have
     // put or changed in the entries since mayDelete() stays; where it can't, the commit fails.
-    void commit();
+    // Where the file system can't move a folder, as overlayfs, all is undone, and otherSteps (if
+    // not null) has to replace the steps.
+    void commit(const std::function<void()>& otherSteps = {});
 
 private:
     void open();
     void writePlan();
+    bool exchange(bool mayRefuse);
     void checkPresence() const;
     void giveBack();
     [[noreturn]] void rollBack(const PlatformException& failure) const;

@@ -1,10 +1,12 @@
 #include "output/NextEdition.h"
 
+#include "base/Log.h"
 #include "base/PlatformException.h"
 #include "output/CommitSwitch.h"
 #include "system/FileDescriptor.h"
 #include "system/Files.h"
 #include "system/FolderCopy.h"
+#include "system/FolderRemoval.h"
 
 #include <QFile>
 #include <algorithm>
@@ -13,6 +15,8 @@
 #include <sys/stat.h>
 
 namespace {
+
+constexpr Log logger("NextEdition");
 
 constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
@@ -127,58 +131,74 @@ bool NextEdition::isUpToDate(const Change& change, const struct stat& there,
 }
 
 void NextEdition::prepare(CommitSwitch& to) {
-    for (const QString& top : std::as_const(iTops))
-        makeFolder(top, to);
-    for (const Change& change : iChanges) {
-        if (!change.isNeeded || change.staged == 0 || change.path.contains(u'/'))
-            continue;
-        moveStaged(change, to.swapFolder());
-        if (!to.addReplacement(QFile::encodeName(change.path)))
-            fail(change.path, Message::ofLastSystemError());
+    for (const QString& top : std::as_const(iTops)) {
+        if (!makeFolder(top, to.swapFolder()))
+            iInPlace << top;
     }
-    // Last, since the existing book may still refer to these files.
     for (const Change& change : iChanges) {
-        if (change.isNeeded && change.staged == 0 && !change.path.contains(u'/'))
-            to.addRemoval(QFile::encodeName(change.path));
+        if (change.isNeeded && change.staged != 0 && !change.path.contains(u'/'))
+            moveStaged(change, to.swapFolder());
     }
+    addSteps(to);
 }
 
-void NextEdition::makeFolder(const QString& top, CommitSwitch& to) const {
+void NextEdition::changeInPlace(CommitSwitch& to) {
+    for (const QString& top : std::as_const(iTops)) {
+        if (typeOfFolder(top) == S_IFDIR)
+            iInPlace << top;
+    }
+    to.clear();
+    addSteps(to);
+}
+
+// What is there already, and false when the folder has to be changed in place.
+bool NextEdition::makeFolder(const QString& top, int to) const {
     const QByteArray name = QFile::encodeName(top);
-    if (::mkdirat(to.swapFolder(), name.constData(), 0777) != 0)
+    if (::mkdirat(to, name.constData(), 0777) != 0)
         fail(top, Message::ofLastSystemError());
+    std::optional<Message> obstacle;
     if (iTypes.value(top) == S_IFDIR)
-        copyFolder(top, to.swapFolder());
-    moveFiles(top, to.swapFolder());
-    if (!to.addReplacement(name))
-        fail(top, Message::ofLastSystemError());
+        obstacle = copyFolder(top, to);
+    if (obstacle) {
+        logger.info(QStringLiteral("the files in %1 are exchanged one by one: %2")
+                        .arg(top, obstacle->english()));
+        FolderRemoval::removeEntry(to, name);
+        if (::mkdirat(to, name.constData(), 0777) != 0 && errno != EEXIST)
+            fail(top, Message::ofLastSystemError());
+    }
+    moveFiles(top, to);
+    return !obstacle;
 }
 
-// All but what is written or removed, or in the way of a folder.
-void NextEdition::copyFolder(const QString& top, int to) const {
+// All but what is written or removed, or in the way of a folder. Returns what can't be copied.
+std::optional<Message> NextEdition::copyFolder(const QString& top, int to) const {
     const QByteArray name = QFile::encodeName(top);
     const FileDescriptor source(::openat(iPlaces.folderNumber, name.constData(), openFolderItself));
     const FileDescriptor target(::openat(to, name.constData(), openFolderItself));
     if (!source.isOpen() || !target.isOpen())
-        fail(top, Message::ofLastSystemError());
+        return Message::ofLastSystemError();
     const auto isLeftOut = [&](const QByteArray& path, mode_t type) {
         const QString whole = top + u'/' + QFile::decodeName(path);
         return type != S_IFDIR && (iIndexOfPath.contains(whole) || iFolders.contains(whole));
     };
-    if (const auto failure = FolderCopy::link(source.number(), target.number(), isLeftOut))
-        fail(Files::join(top, QFile::decodeName(failure->path)), failure->cause);
-    if (!FolderCopy::copyAttributes(source.number(), target.number()))
-        fail(top, Message::ofLastSystemError());
+    const auto failure = FolderCopy::link(source.number(), target.number(), isLeftOut);
+    return failure ? Message::about(QFile::decodeName(failure->path), failure->cause)
+                   : std::optional<Message>();
 }
 
-void NextEdition::moveFiles(const QString& top, int to) const {
+// Parents first.
+QStringList NextEdition::foldersIn(const QString& top) const {
     QStringList folders;
     for (const QString& folder : iFolders) {
         if (isIn(top, folder))
             folders << folder;
     }
-    folders.sort(); // parents first
-    for (const QString& folder : std::as_const(folders)) {
+    folders.sort();
+    return folders;
+}
+
+void NextEdition::moveFiles(const QString& top, int to) const {
+    for (const QString& folder : foldersIn(top)) {
         if (::mkdirat(to, QFile::encodeName(folder).constData(), 0777) != 0 && errno != EEXIST)
             fail(folder, Message::ofLastSystemError());
     }
@@ -186,6 +206,44 @@ void NextEdition::moveFiles(const QString& top, int to) const {
         if (change.isNeeded && change.staged != 0 && isIn(top, change.path))
             moveStaged(change, to);
     }
+}
+
+void NextEdition::addSteps(CommitSwitch& to) {
+    for (const QString& top : std::as_const(iTops)) {
+        if (iInPlace.contains(top))
+            addNewFolders(top, to);
+        else
+            addReplacement(top, to);
+    }
+    for (const Change& change : iChanges) {
+        if (change.staged != 0 && isStep(change))
+            addReplacement(change.path, to);
+    }
+    // Last, since the existing book may still refer to these files.
+    for (const Change& change : iChanges) {
+        if (change.staged == 0 && isStep(change))
+            to.addRemoval(QFile::encodeName(change.path));
+    }
+}
+
+// With all that is to be in them.
+void NextEdition::addNewFolders(const QString& top, CommitSwitch& to) {
+    for (const QString& folder : foldersIn(top)) {
+        if (typeOfFolder(folder) != S_IFDIR && typeOfFolder(parentOf(folder)) == S_IFDIR)
+            addReplacement(folder, to);
+    }
+}
+
+void NextEdition::addReplacement(const QString& path, CommitSwitch& to) const {
+    if (!to.addReplacement(QFile::encodeName(path)))
+        fail(path, Message::ofLastSystemError());
+}
+
+// Whether a file is exchanged by itself.
+bool NextEdition::isStep(const Change& change) {
+    return change.isNeeded &&
+           (!change.path.contains(u'/') || (iInPlace.contains(topOf(change.path)) &&
+                                            typeOfFolder(parentOf(change.path)) == S_IFDIR));
 }
 
 void NextEdition::moveStaged(const Change& change, int to) const {

@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <sys/types.h>
 #include <vector>
 
@@ -22,8 +23,9 @@ struct FileCounts {
 
 // Prepares what a commit changes in a folder, out of its readers' sight: each entry of the folder
 // that changes is made anew in the staging folder. An entry that is a folder then has hard links to
-// all of the earlier one that stays, files of others included. Everything throws PlatformException
-// with the file and the cause.
+// all of the earlier one that stays, files of others included. Where it has anything that can't be
+// had twice, such as a folder of another user, its changed files are exchanged one by one instead.
+// Everything throws PlatformException with the file and the cause.
 class NextEdition {
 public:
     // A file that is written or removed. Paths are relative to the folder.
@@ -45,6 +47,8 @@ public:
 
     // Adds the steps of the commit. Moves staged files.
     void prepare(CommitSwitch& to);
+    // Replaces the steps by others that exchange no folder.
+    void changeInPlace(CommitSwitch& to);
     const FileCounts& counts() const { return iCounts; }
 
 private:
@@ -55,9 +59,14 @@ private:
     bool isUpToDate(const Change& change, const struct stat& there,
                     const struct stat& staged) const;
     void addTop(const QString& path);
-    void makeFolder(const QString& top, CommitSwitch& to) const;
-    void copyFolder(const QString& top, int to) const;
+    bool makeFolder(const QString& top, int to) const;
+    std::optional<Message> copyFolder(const QString& top, int to) const;
+    QStringList foldersIn(const QString& top) const;
     void moveFiles(const QString& top, int to) const;
+    void addSteps(CommitSwitch& to);
+    void addNewFolders(const QString& top, CommitSwitch& to);
+    void addReplacement(const QString& path, CommitSwitch& to) const;
+    bool isStep(const Change& change);
     void moveStaged(const Change& change, int to) const;
     [[noreturn]] void fail(const QString& path, const Message& cause) const;
 
@@ -67,5 +76,6 @@ private:
     QHash<QString, mode_t> iTypes; // of folders; 0 for those that are missing or behind a link
     QSet<QString> iFolders;        // that are to exist
     QStringList iTops;             // folders in the folder that change
+    QSet<QString> iInPlace;        // those that are not exchanged
     FileCounts iCounts;
 };

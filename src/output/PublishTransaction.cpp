@@ -192,7 +192,7 @@ void PublishTransaction::commit() {
                       iCommit->folderNumber(), iCommit->stagingNumber()},
                      iChanges, iFoldersToMake);
     next.prepare(iCommit->steps());
-    iCommit->commit();
+    iCommit->commit([&] { next.changeInPlace(iCommit->steps()); });
     iCounts = next.counts();
     iCommitted = true;
 }

@@ -18,13 +18,11 @@ struct Failure {
 // Whether an entry, by its relative path and the type bits of its mode, is left out.
 using IsLeftOut = std::function<bool(const QByteArray& path, mode_t type)>;
 
-// Fills an empty folder with what another one contains; both are open. Subfolders are created
-// with the same permissions and, if allowed, the same owner. Files, symbolic links and special
-// files become hard links; those that the system refuses to link are copied. Symbolic links are not
-// followed. Fails at a mount point. Stops at the first failure and returns it.
+// Makes an empty folder, open like the other one, what that is: subfolders, permissions, owners,
+// extended attributes and times are copied; files, symbolic links and special files become hard
+// links, or are copied where the system refuses to link them. Symbolic links are not followed.
+// Stops at the first entry that can't be had twice, which may be a mount point or something of
+// another user, and returns it.
 std::optional<Failure> link(int from, int to, const IsLeftOut& isLeftOut);
-
-// Gives an open folder the permissions of another one and, if allowed, its owner.
-bool copyAttributes(int from, int to);
 
 } // namespace FolderCopy

@@ -68,6 +68,17 @@ TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheDiskOfTheWorkFolderIsFull) 
         << elsewhere.output.constData() << elsewhere.errors.constData();
 }
 
+TEST_F(FullDiskTest, PublishesWhereFoldersCannotBeMoved) {
+    const auto result = run("mount -t tmpfs none \"$book\"; cd \"$book\"; mkdir lower u w overlay\n"
+                            "book=$PWD/lower; first; book=$PWD/overlay\n"
+                            "mount -t overlay none -o lowerdir=lower,upperdir=u,workdir=w overlay"
+                            " || { echo none; exit; }\n"
+                            "second; report; book=$PWD/fresh; second; diff -rx '.*' overlay fresh");
+    if (result.output == "none\n")
+        GTEST_SKIP() << "no overlay can be mounted here";
+    EXPECT_EQ(result.output, "code 0\n") << result.errors.constData();
+}
+
 TEST_F(FullDiskTest, LeavesTheEarlierBookWholeWhenTheFolderBecomesReadOnlyMeanwhile) {
     expectFailure("mount -t tmpfs none \"$book\"; first\n"
                   "long=${long%fifty.pdf}thousand.pdf\n"

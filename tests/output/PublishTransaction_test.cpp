@@ -13,8 +13,10 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/fsuid.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <thread>
 #include <unistd.h>
 
@@ -116,7 +118,11 @@ TEST_F(Transaction, KeepsWhatElseIsInAFolderThatItChanges) {
     for (const char* name : {"files/page/1", "files/page/2", "files/own/.hidden"})
         write(name);
     ASSERT_TRUE(QFile::link(path("outside"), path("files/own/link")));
-    ASSERT_EQ(::chmod(QFile::encodeName(path("files/own")).constData(), 02750), 0);
+    const QByteArray own = QFile::encodeName(path("files/own"));
+    const timespec times[]{{1, 0}, {1, 0}};
+    ASSERT_EQ(::chmod(own.constData(), 02750), 0);
+    const bool hasAttributes = ::setxattr(own.constData(), "user.note", "x", 1, 0) == 0;
+    ASSERT_EQ(::utimensat(AT_FDCWD, own.constData(), times, 0), 0);
     const auto before = inode("files/page/2");
     {
         PublishTransaction run(folder.path());
@@ -126,9 +132,35 @@ TEST_F(Transaction, KeepsWhatElseIsInAFolderThatItChanges) {
     EXPECT_EQ(state(path("files")),
               "own/ own/.hidden=old own/link->outside page/ page/1=new page/2=old");
     EXPECT_EQ(inode("files/page/2"), before);
-    struct stat own {};
-    ASSERT_EQ(::stat(QFile::encodeName(path("files/own")).constData(), &own), 0);
-    EXPECT_EQ(own.st_mode, mode_t(S_IFDIR | 02750));
+    struct stat info {};
+    ASSERT_EQ(::stat(own.constData(), &info), 0);
+    EXPECT_EQ(info.st_mode, mode_t(S_IFDIR | 02750));
+    EXPECT_EQ(info.st_mtim.tv_sec, 1);
+    EXPECT_EQ(::getxattr(own.constData(), "user.note", nullptr, 0), hasAttributes ? 1 : -1);
+}
+
+TEST_F(Transaction, ChangesFilesOneByOneWhereAFolderOfAnotherUserIsBesideThem) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs root to be two users";
+    for (const char* name : {"files/page/1", "files/page/gone", "files/theirs/a"})
+        write(name);
+    for (const char* name : {"", "files", "files/page", "files/page/1", "files/page/gone"})
+        ASSERT_EQ(::chown(QFile::encodeName(path(name)).constData(), 65534, 65534), 0);
+    const auto before = inode("files/theirs");
+    ::setfsgid(65534);
+    ::setfsuid(65534);
+    {
+        PublishTransaction run(folder.path());
+        run.write(path("files/page/1"), "new");
+        run.write(path("files/new/2"), "new");
+        run.remove(path("files/page/gone"));
+        EXPECT_TRUE(failureOf([&] { run.commit(); }).message.isNull());
+    }
+    ::setfsuid(0);
+    ::setfsgid(0);
+    EXPECT_EQ(state(folder.path()), "files/ files/new/ files/new/2=new files/page/ "
+                                    "files/page/1=new files/theirs/ files/theirs/a=old");
+    EXPECT_EQ(inode("files/theirs"), before);
 }
 
 TEST_F(Transaction, FailsWhenItsFolderIsMovedAwayAndChangesNothingThere) {
