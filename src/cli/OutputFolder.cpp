@@ -2,6 +2,7 @@
 
 #include "base/Message.h"
 #include "console/CommandError.h"
+#include "system/NameAliases.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,16 +12,13 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
-// Removes the folder and its parents, up to the outermost created one, as long as they are empty.
-void removeEmptyFolders(const QString& path, const QString& outermost) {
-    for (QString folder = path; folder.size() >= outermost.size();
-         folder = QFileInfo(folder).path()) {
-        if (!QDir().rmdir(folder))
-            return;
-    }
+bool isThere(const QByteArray& path) {
+    struct stat info {};
+    return ::stat(path.constData(), &info) == 0;
 }
 
 // ENOENT here is a wrong path, so trying again does not help.
@@ -56,10 +54,16 @@ OutputFolder::~OutputFolder() {
 }
 
 void OutputFolder::make(const QString& path) {
-    for (QString folder = iPath; !QFileInfo::exists(folder); folder = QFileInfo(folder).path())
-        iFirstMade = folder;
-    if (!iFirstMade.isNull() && !QDir().mkpath(iPath))
-        fail(QStringLiteral("%1: the output folder can't be made (%2)"), path, lastError());
+    QByteArrayList missing;
+    for (QByteArray folder = NameAliases::encoded(iPath); !folder.isEmpty() && !isThere(folder);
+         folder.truncate(folder.lastIndexOf('/')))
+        missing.prepend(folder);
+    for (const QByteArray& folder : missing) {
+        if (::mkdir(folder.constData(), 0777) == 0)
+            iMade.prepend(folder);
+        else if (errno != EEXIST || !isThere(folder)) // another run may have made it
+            fail(QStringLiteral("%1: the output folder can't be made (%2)"), path, lastError());
+    }
     if (!QFileInfo(iPath).isDir())
         throw CommandError(QStringLiteral("%1: is a file, not a folder").arg(path));
 }
@@ -99,6 +103,10 @@ void OutputFolder::checkPresence() const {
 }
 
 void OutputFolder::removeCreated() {
-    if (!iKept && !iFirstMade.isNull())
-        removeEmptyFolders(iPath, iFirstMade);
+    if (iKept)
+        return;
+    for (const QByteArray& folder : iMade) {
+        if (::rmdir(folder.constData()) != 0)
+            return;
+    }
 }

@@ -2,6 +2,7 @@
 
 #include "system/FileDescriptor.h"
 
+#include <QByteArrayList>
 #include <QString>
 
 // The output folder of a book. It is created at once, so that an unwritable folder is reported
@@ -28,7 +29,7 @@ private:
     void removeCreated();
 
     QString iPath;
-    QString iFirstMade; // outermost folder that was created; null when all existed
+    QByteArrayList iMade; // folders that were created, innermost first
     FileDescriptor iLock;
     bool iKept = false;
 };

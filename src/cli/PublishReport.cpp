@@ -4,6 +4,7 @@
 #include "cli/PublishTiming.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
+#include "system/NameAliases.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -33,7 +34,8 @@ QString notFree(const QString& path) {
 }
 
 QString absolute(const QString& path) {
-    return path.isEmpty() ? path : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    return NameAliases::shown(path.isEmpty() ? path
+                                             : QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
 }
 
 QString nameOf(PublishOptions::Type type) {
@@ -90,7 +92,7 @@ PublishReport::PublishReport(const PublishOptions& options) : iPath(options.repo
 }
 
 Message PublishReport::writeMade(const MadeBook& book, const PublishTiming& timing) {
-    iContent[QStringLiteral("file")] = book.file;
+    iContent[QStringLiteral("file")] = NameAliases::shown(book.file);
     if (book.isUpToDate)
         return write("upToDate", ExitCode::ok, timing);
     iContent[QStringLiteral("pages")] = book.pages;
@@ -102,7 +104,7 @@ Message PublishReport::writeMade(const MadeBook& book, const PublishTiming& timi
 }
 
 Message PublishReport::writeFailed(const CommandError& error, const PublishTiming& timing) {
-    iContent[QStringLiteral("reason")] = error.message();
+    iContent[QStringLiteral("reason")] = NameAliases::shown(error.message());
     return write("failed", error.code(), timing);
 }
 
@@ -116,7 +118,7 @@ Message PublishReport::write(const char* result, ExitCode code, const PublishTim
     if (!isFree(iPath))
         return notFree(iPath);
     Message cause;
-    return Files::writeAtomically(iPath, QJsonDocument(iContent).toJson(), &cause)
+    return NameAliases::write(iPath, QJsonDocument(iContent).toJson(), &cause)
                ? Message()
                : Message::about(iPath, cause);
 }

@@ -4,6 +4,7 @@
 #include "output/EarlierPages.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
+#include "system/NameAliases.h"
 #include "template/FlashTemplate.h"
 
 #include <QCryptographicHash>
@@ -51,7 +52,7 @@ void addFolder(Digest& to, const QString& folder) {
 void addProperties(Digest& to, const FlashTemplate::Properties& properties,
                    const FlashTemplate& tmpl) {
     for (const auto& property : properties) {
-        to << property->key() << property->value();
+        to << property->key() << NameAliases::shown(property->value());
         if (property->propertyType() == pt_file)
             to << fileContents(tmpl.valueAsFilePath(property->value()));
         addProperties(to, property->childProperties(), tmpl);

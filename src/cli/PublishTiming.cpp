@@ -4,7 +4,7 @@
 #include "pages/Book.h"
 #include "pages/FlashPageSource.h"
 #include "pages/PDFToSWFPageConverter.h"
-#include "system/Files.h"
+#include "system/NameAliases.h"
 
 #include <QJsonDocument>
 #include <algorithm>
@@ -39,6 +39,6 @@ void PublishTiming::published() {
 
 void PublishTiming::write(const QString& path) const {
     Message error;
-    if (!Files::writeAtomically(path, QJsonDocument(iSeconds).toJson(), &error))
+    if (!NameAliases::write(path, QJsonDocument(iSeconds).toJson(), &error))
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(path, error.english()));
 }

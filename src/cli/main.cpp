@@ -11,10 +11,11 @@
 #include "console/Terminal.h"
 #include "output/BookLayout.h"
 #include "system/Bundle.h"
+#include "system/NameAliases.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
-#include <QStringDecoder>
+#include <QFileInfo>
 #include <csignal>
 #include <fcntl.h>
 #include <optional>
@@ -30,29 +31,35 @@ struct CommandLine {
     QString pdf;
     PasswordOptions password;
     QString book;
+    std::string served; // undecoded: the server's process does that
     std::optional<int> port;
     bool json = false;
     bool verbose = false;
 };
 
-// Arguments and file names have the same encoding. Other bytes would name another file.
-QString decoded(const std::string& typed) {
-    QStringDecoder decoder(QStringDecoder::System);
-    const QString text =
-        QStringLiteral("") + decoder.decode(QByteArrayView(typed.data(), qsizetype(typed.size())));
-    if (decoder.hasError())
-        throw CommandError(QStringLiteral("%1: is not valid UTF-8; rename the file, or make a link "
-                                          "to it that has another name")
-                               .arg(text),
-                           ExitCode::usage);
-    return text;
+// KEY=VALUE, where the value may be the path of a file.
+QString decodedAssignment(const QByteArray& typed) {
+    const qsizetype key = typed.indexOf('=') + 1;
+    const QString value = typed.isValidUtf8() ? QString() : NameAliases::decoded(typed.sliced(key));
+    return QFileInfo::exists(value) ? NameAliases::text(typed.first(key)) + value
+                                    : NameAliases::text(typed);
 }
 
 // An option whose value is a text; the text is not null when the option was given.
 CLI::Option* addText(CLI::App& command, const std::string& name, QString& value,
-                     const std::string& help) {
+                     const std::string& help,
+                     QString (*decode)(const QByteArray&) = NameAliases::text) {
     return command.add_option_function<std::string>(
-        name, [&value](const std::string& typed) { value = decoded(typed); }, help);
+        name,
+        [&value, decode](const std::string& typed) {
+            value = decode(QByteArray::fromStdString(typed));
+        },
+        help);
+}
+
+CLI::Option* addPath(CLI::App& command, const std::string& name, QString& path,
+                     const std::string& help) {
+    return addText(command, name, path, help, NameAliases::decoded);
 }
 
 PublishOptions::Type typeNamed(const std::string& name) {
@@ -65,7 +72,7 @@ void addPassword(CLI::App& command, PasswordOptions& options) {
         .add_flag("--password", options.ask,
                   "Ask for the password of a protected PDF on the terminal")
         ->disable_flag_override();
-    addText(command, "--password-file", options.file,
+    addPath(command, "--password-file", options.file,
             "A file with the password in its first line; without either option the\n"
             "environment variable FOLVERO_PASSWORD may hold it")
         ->type_name("FILE");
@@ -83,10 +90,10 @@ void addRunOptions(CLI::App& command, PublishOptions& options) {
         ->check(CLI::Range(1, 256, "1-256"))
         ->type_name("N");
     command.add_flag("--quiet", options.quiet, "Show no progress");
-    addText(command, "--timing", options.timingFile,
+    addPath(command, "--timing", options.timingFile,
             "Write how long the steps took to this file, as JSON")
         ->type_name("FILE");
-    addText(command, "--report", options.reportFile,
+    addPath(command, "--report", options.reportFile,
             "Write what was made, or why not, to this file, as JSON; replaces the\n"
             "report of an earlier run")
         ->type_name("FILE");
@@ -99,8 +106,8 @@ Spreads spreadsNamed(const std::string& name) {
 void addPublish(CLI::App& app, PublishOptions& options) {
     auto* command =
         app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
-    addText(*command, "PDF", options.pdf, "The PDF file")->type_name("")->required();
-    addText(*command, "FOLDER", options.outputFolder, "The folder for the book; created if missing")
+    addPath(*command, "PDF", options.pdf, "The PDF file")->type_name("")->required();
+    addPath(*command, "FOLDER", options.outputFolder, "The folder for the book; created if missing")
         ->type_name("")
         ->required();
     command
@@ -157,14 +164,14 @@ void addPublish(CLI::App& app, PublishOptions& options) {
         ->type_name("NAME")
         ->default_str("float");
     addText(*command, "--style", options.styleName, "Style of the template")->type_name("NAME");
-    addText(*command, "--settings", options.settingsFile, "A settings file to apply")
+    addPath(*command, "--settings", options.settingsFile, "A settings file to apply")
         ->type_name("FILE");
     command
         ->add_option_function<std::vector<std::string>>(
             "--set",
             [&options](const std::vector<std::string>& typed) {
                 for (const std::string& assignment : typed)
-                    options.assignments << decoded(assignment);
+                    options.assignments << decodedAssignment(QByteArray::fromStdString(assignment));
             },
             "Set one property of the template, see folvero templates; may be given\n"
             "many times")
@@ -193,7 +200,7 @@ void addInfo(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file")
             ->group("Commands");
-    addText(*command, "PDF", line.pdf, "The PDF file")->type_name("")->required();
+    addPath(*command, "PDF", line.pdf, "The PDF file")->type_name("")->required();
     addPassword(*command, line.password);
     command->add_flag("--json", line.json, "Print JSON");
     command->callback([&line] {
@@ -206,7 +213,7 @@ void addDecode(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("decode", "Print the deciphered configuration of a published book")
             ->group("Commands");
-    addText(*command, "BOOK", line.book,
+    addPath(*command, "BOOK", line.book,
             "The book's folder, or its " + BookLayout::configuration.toStdString())
         ->type_name("")
         ->required();
@@ -221,14 +228,14 @@ void addServe(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("serve", "Show a published book in the browser, as on a web server")
             ->group("Commands");
-    addText(*command, "BOOKDIR", line.book, "The book's folder")->type_name("")->required();
+    command->add_option("BOOKDIR", line.served, "The book's folder")->type_name("")->required();
     command
         ->add_option("--port", line.port,
                      "Port of the address; by default 8000 or the next free one, 0 for any\n"
                      "free one")
         ->check(CLI::Range(0, 65535, "0-65535"))
         ->type_name("N");
-    command->callback([&line] { runServe(line.book, line.port, line.verbose); });
+    command->callback([&line] { runServe(line.served, line.port, line.verbose); });
 }
 
 // The error of the command line, with a pointer to the help.

@@ -1,6 +1,7 @@
 #include "console/Terminal.h"
 
 #include "console/CommandError.h"
+#include "system/NameAliases.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -25,8 +26,7 @@ QString withoutControls(QString text) {
     return text;
 }
 
-void write(std::FILE* file, const QString& text) {
-    const QByteArray bytes = text.toLocal8Bit();
+void write(std::FILE* file, const QByteArray& bytes) {
     std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), file);
     std::fflush(file);
 }
@@ -34,7 +34,10 @@ void write(std::FILE* file, const QString& text) {
 } // namespace
 
 void Terminal::print(const QString& line) {
-    write(stdout, (::isatty(STDOUT_FILENO) != 0 ? withoutControls(line) : line) + u'\n');
+    // What reads from a pipe opens files by the names that it gets.
+    write(stdout, (::isatty(STDOUT_FILENO) != 0 ? withoutControls(NameAliases::shown(line)).toUtf8()
+                                                : NameAliases::unchanged(line)) +
+                      '\n');
 }
 
 void Terminal::checkOutput() {
@@ -43,7 +46,8 @@ void Terminal::checkOutput() {
 }
 
 void Terminal::report(const QString& line) {
-    write(stderr, (::isatty(STDERR_FILENO) != 0 ? withoutControls(line) : line) + u'\n');
+    const QString shown = NameAliases::shown(line);
+    write(stderr, (::isatty(STDERR_FILENO) != 0 ? withoutControls(shown) : shown).toUtf8() + '\n');
 }
 
 ProgressDisplay::ProgressDisplay(QString title, bool quiet)
@@ -51,7 +55,7 @@ ProgressDisplay::ProgressDisplay(QString title, bool quiet)
 
 ProgressDisplay::~ProgressDisplay() {
     if (iBarShown)
-        write(stderr, QStringLiteral("\r\033[K"));
+        write(stderr, "\r\033[K");
 }
 
 void ProgressDisplay::show(int done, int total) {
@@ -75,6 +79,8 @@ void ProgressDisplay::drawBar(int done, int total) {
     iNextDraw = now + redrawInterval;
     const int filled = int(qint64(barWidth) * done / total);
     const QString bar = QString(filled, u'#') + QString(barWidth - filled, u'.');
-    write(stderr, QStringLiteral("\r%1 [%2] %3/%4\033[K").arg(iTitle, bar).arg(done).arg(total));
+    const QString line =
+        QStringLiteral("\r%1 [%2] %3/%4\033[K").arg(iTitle, bar).arg(done).arg(total);
+    write(stderr, line.toUtf8());
     iBarShown = true;
 }

@@ -7,9 +7,9 @@
 #include "console/CommandError.h"
 #include "console/Terminal.h"
 #include "server/Serving.h"
+#include "system/NameAliases.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <cstdlib>
 #include <iostream>
 #include <span>
@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
         Log::configureForTerminal(Log::Level::debug);
     const std::string_view port = arguments[2];
     try {
-        serveBook(QFile::decodeName(arguments[1]),
+        serveBook(NameAliases::decoded(arguments[1]),
                   port == "usual" ? std::nullopt : std::optional(std::atoi(arguments[2])));
     } catch (const std::exception& failure) {
         const auto error = CommandError::from(failure);

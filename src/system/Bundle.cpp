@@ -1,8 +1,11 @@
 #include "system/Bundle.h"
 
+#include "system/NameAliases.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <filesystem>
 
 namespace {
 
@@ -11,8 +14,19 @@ QString& resourceOverride() {
     return path;
 }
 
+// The folder with "bin" and all else.
+QString installation() {
+    const QString programs = QCoreApplication::applicationDirPath();
+    if (!programs.isEmpty())
+        return QDir::cleanPath(programs + QStringLiteral("/.."));
+    // Qt does not find a program below a name that is not UTF-8.
+    static const QString folder = NameAliases::decoded(QByteArray::fromStdString(
+        std::filesystem::read_symlink("/proc/self/exe").parent_path().parent_path().string()));
+    return folder;
+}
+
 QString besideProgramFolder(const QString& path) {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../") + path);
+    return installation() + u'/' + path;
 }
 
 } // namespace

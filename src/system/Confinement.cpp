@@ -8,15 +8,16 @@
 
 namespace {
 
-bool isIn(const QString& folder, const QString& path) {
-    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+template <class Text>
+bool isIn(const Text& folder, const Text& path) {
+    return path == folder || path.startsWith(folder.endsWith('/') ? folder : folder + '/');
 }
 
 // Null for a path that does not exist, dangling and circular links included.
-QString realPath(const QString& path) {
+QByteArray realPath(const QString& path) {
     const std::unique_ptr<char, void (*)(void*)> real(
         ::realpath(QFile::encodeName(path).constData(), nullptr), std::free);
-    return real ? QFile::decodeName(real.get()) : QString();
+    return real.get();
 }
 
 bool isThere(const QString& path) {
@@ -33,8 +34,8 @@ bool Confinement::contains(const QString& folder, const QString& path) {
     const QString clean = QDir::cleanPath(path);
     if (!isIn(root, clean))
         return false;
-    const QString realRoot = realPath(root);
-    const QString real = realPath(path);
+    const QByteArray realRoot = realPath(root);
+    const QByteArray real = realPath(path);
     if (!real.isEmpty())
         return !realRoot.isEmpty() && isIn(realRoot, real);
     // The file does not exist: no component may lead elsewhere once it does. With ".." behind a
@@ -44,6 +45,6 @@ bool Confinement::contains(const QString& folder, const QString& path) {
     QString part = clean;
     while (part != root && !isThere(part))
         part = part.section(u'/', 0, -2);
-    const QString realPart = realPath(part);
+    const QByteArray realPart = realPath(part);
     return part == root || (!realPart.isEmpty() && isIn(realRoot, realPart));
 }

@@ -64,8 +64,11 @@ bool Files::writeAtomically(const QString& path, const QByteArray& data, Message
 
 bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char> data,
                              Message* error) {
-    const QByteArray name = QFile::encodeName(path);
-    const QByteArray part = QFile::encodeName(temporaryPath(path));
+    return replace(QFile::encodeName(path), QFile::encodeName(temporaryPath(path)), data, error);
+}
+
+bool Files::replace(const QByteArray& name, const QByteArray& part,
+                    std::span<const unsigned char> data, Message* error) {
     FileDescriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
     if (!file.isOpen())
         return fail(error);

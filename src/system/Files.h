@@ -23,6 +23,10 @@ bool writeAtomically(const QString& path, const QByteArray& data, Message* error
 bool writeWorkingFile(const QString& path, std::span<const unsigned char> data,
                       Message* error = nullptr);
 
+// The same with encoded names: of the file, and of the temporary one in the same folder.
+bool replace(const QByteArray& name, const QByteArray& part, std::span<const unsigned char> data,
+             Message* error = nullptr);
+
 // The temporary path that writeWorkingFile() uses. A killed process leaves the file behind.
 QString temporaryPath(const QString& path);
 
