@@ -2,6 +2,7 @@
 
 #include "base/Log.h"
 #include "server/BookFile.h"
+#include "server/ClientQueues.h"
 #include "server/ClientStream.h"
 
 #include <QRegularExpression>
@@ -9,6 +10,9 @@
 #include <cerrno>
 #include <future>
 #include <httplib.h>
+#include <netinet/in.h>
+#include <string_view>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -21,6 +25,9 @@ constexpr auto loopback = "127.0.0.1";
 
 // A browser opens half a dozen connections at once, some of them speculatively. Most threads wait.
 constexpr std::size_t threads = 64;
+
+// Of one address: far more than a browser opens, and some threads are left for others.
+constexpr std::size_t threadsOfClient = 48;
 
 constexpr Log logger("BookServer");
 
@@ -170,19 +177,65 @@ void logAnswer(const Request& request, const Response& response) {
                  QStringLiteral(": ") + QString::number(response.status));
 }
 
+ClientQueues::Address addressOf(socket_t socket) {
+    sockaddr_in client{};
+    socklen_t size = sizeof(client);
+    ::getpeername(socket, reinterpret_cast<sockaddr*>(&client), &size);
+    return client.sin_addr.s_addr;
+}
+
+// How many connections of a client may wait: half of the files that this process may open beside
+// those that its threads are at.
+std::size_t mostWaiting() {
+    constexpr rlim_t many = 8192;
+    constexpr rlim_t busy = 2 * threads;
+    rlimit limit{};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    limit.rlim_cur = std::max(limit.rlim_cur, std::min(limit.rlim_max, many));
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    return std::size_t((std::max(limit.rlim_cur, busy) - busy) / 2);
+}
+
+void end(socket_t socket) {
+    ::shutdown(socket, SHUT_RDWR);
+    ::close(socket);
+}
+
+void refuse(socket_t socket) {
+    constexpr std::string_view answer = "HTTP/1.1 503 Service Unavailable\r\nRetry-After: 5\r\n"
+                                        "Content-Length: 0\r\nConnection: close\r\n\r\n";
+    // With a request unread, closing would be a reset, which can outrun the answer.
+    std::array<char, 4096> request;
+    ::recv(socket, request.data(), request.size(), MSG_DONTWAIT);
+    ::send(socket, answer.data(), answer.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+    end(socket);
+}
+
 // Serves each connection through a ClientStream.
 class Server : public httplib::Server {
     bool process_and_close_socket(socket_t socket) override {
+        const auto client = addressOf(socket);
+        const auto place = iClients.enter(client, socket);
+        if (place == ClientQueues::Place::refused)
+            refuse(socket);
+        if (place != ClientQueues::Place::served)
+            return true;
+        for (auto next = std::optional(socket); next; next = iClients.next(client))
+            serve(*next);
+        return true;
+    }
+
+    void serve(socket_t socket) {
         ClientStream stream(socket);
         bool isClosed = false;
         // One request per connection: an idle one would hold a thread, and bytes after the headers
         // of a refused request must not be read as another request.
-        const bool isDone =
-            stream.is_readable() && process_request(stream, true, isClosed, nullptr);
-        ::shutdown(socket, SHUT_RDWR);
-        ::close(socket);
-        return isDone;
+        if (stream.is_readable())
+            process_request(stream, true, isClosed, nullptr);
+        end(socket);
     }
+
+    ClientQueues iClients{threadsOfClient, mostWaiting()};
 };
 
 } // namespace

@@ -6,8 +6,10 @@
 #include <arpa/inet.h>
 #include <array>
 #include <csignal>
+#include <functional>
 #include <future>
 #include <netinet/in.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/time.h>
@@ -37,7 +39,9 @@ Answer parsed(const QByteArray& bytes) {
 // "folvero serve" over a folder, until this goes.
 class Served {
 public:
-    explicit Served(const QString& folder, const QStringList& options = {"--port=0"}) {
+    explicit Served(const QString& folder, const QStringList& options = {"--port=0"},
+                    const std::function<void()>& beforeStart = {}) {
+        process.setChildProcessModifier(beforeStart);
         process.start(Program::path(), QStringList{"serve", folder} + options);
         while (!process.canReadLine() && process.waitForReadyRead(60'000)) {
         }
@@ -54,10 +58,16 @@ public:
     Served& operator=(const Served&) = delete;
 
     // Not open when nobody answers there.
-    FileDescriptor connect(const char* address = "127.0.0.1") const {
+    FileDescriptor connect(const char* address = "127.0.0.1",
+                           const char* from = "127.0.0.1") const {
         FileDescriptor socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0));
         const timeval patience{20, 0};
         ::setsockopt(socket.number(), SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof(patience));
+        ::setsockopt(socket.number(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
+        sockaddr_in own{};
+        own.sin_family = AF_INET;
+        ::inet_pton(AF_INET, from, &own.sin_addr);
+        ::bind(socket.number(), reinterpret_cast<sockaddr*>(&own), sizeof(own));
         sockaddr_in place{};
         place.sin_family = AF_INET;
         place.sin_port = htons(std::uint16_t(port));
@@ -68,8 +78,8 @@ public:
     }
 
     // Sends the bytes as they are and reads until the server closes the connection.
-    Answer send(const QByteArray& request) const {
-        const FileDescriptor socket = connect();
+    Answer send(const QByteArray& request, const char* from = "127.0.0.1") const {
+        const FileDescriptor socket = connect("127.0.0.1", from);
         ::send(socket.number(), request.constData(), std::size_t(request.size()), MSG_NOSIGNAL);
         QByteArray bytes;
         std::array<char, 65536> buffer;
@@ -320,6 +330,24 @@ TEST_F(ServeTest, KeepsSlowConnectionsApart) {
         isOpen = ::recv(trickling.number(), &byte, 1, 0) < 0 && errno == EAGAIN;
     }
     EXPECT_FALSE(isOpen);
+}
+
+// More connections than there are threads, and then more than may wait.
+TEST_F(ServeTest, LetsNoClientKeepOthersOut) {
+    QFile large(file("large.bin"));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(qint64(4) << 30));
+    const Served served(book(), {"--port=0"}, [] {
+        const rlimit few{256, 256};
+        ::setrlimit(RLIMIT_NOFILE, &few);
+    });
+    const QByteArray request = served.request("GET", "/large.bin");
+    std::vector<FileDescriptor> unread;
+    for (int i = 0; i < 48 + 64 + 16; ++i) {
+        unread.push_back(served.connect());
+        ::send(unread.back().number(), request.constData(), std::size_t(request.size()), 0);
+    }
+    EXPECT_EQ(served.send(request).status, 503);
+    EXPECT_EQ(served.send(served.request("GET", "/"), "127.0.0.2").status, 200);
 }
 
 TEST_F(ServeTest, EndsWhateverBrowsersHoldOpen) {
