@@ -1,6 +1,7 @@
 #include "pdf/PDFRecording.h"
 
 #include "pdf/ForwardingDevice.h"
+#include "pdf/InlineImages.h"
 #include "pdf/LinkFrames.h"
 
 #include <utility>
@@ -110,6 +111,56 @@ bool isUnreadableImage(fz_context* ctx, pdf_obj* object) {
     return isUnreadable;
 }
 
+// What is left of a content stream; null when nothing has to go. Owned by the caller.
+fz_buffer* withoutEmptyImages(fz_context* ctx, fz_buffer* content) {
+    unsigned char* data = nullptr;
+    const std::size_t size = fz_buffer_storage(ctx, content, &data);
+    const QByteArray kept = InlineImages::withoutEmpty(
+        QByteArray::fromRawData(reinterpret_cast<const char*>(data), qsizetype(size)));
+    fz_buffer* made = nullptr;
+    fz_var(made);
+    fz_try(ctx) {
+        if (!kept.isNull())
+            made = fz_new_buffer_from_copied_data(
+                ctx, reinterpret_cast<const unsigned char*>(kept.constData()),
+                std::size_t(kept.size()));
+    }
+    fz_catch(ctx) {
+        return nullptr;
+    }
+    return made;
+}
+
+// Removes images without width or height from the content of a page, whose streams become one, or
+// of a form. Whether there were any.
+bool dropEmptyImages(fz_context* ctx, pdf_obj* object, bool isForm) {
+    pdf_document* document = pdf_get_bound_document(ctx, object);
+    fz_stream* stream = nullptr;
+    fz_buffer* content = nullptr;
+    fz_buffer* kept = nullptr;
+    pdf_obj* made = nullptr;
+    const auto replace = [&] {
+        constexpr std::size_t initialSize = 1 << 16;
+        stream = isForm ? pdf_open_stream(ctx, object)
+                        : pdf_open_contents_stream(ctx, document,
+                                                   pdf_dict_get(ctx, object, PDF_NAME(Contents)));
+        content = fz_read_all(ctx, stream, initialSize);
+        kept = withoutEmptyImages(ctx, content);
+        if (kept && isForm)
+            pdf_update_stream(ctx, document, object, kept, 0);
+        else if (kept)
+            pdf_dict_put(ctx, object, PDF_NAME(Contents),
+                         made = pdf_add_stream(ctx, document, kept, nullptr, 0));
+    };
+    runAndDrop(ctx, replace, [&] {
+        pdf_drop_obj(ctx, made);
+        fz_drop_buffer(ctx, kept);
+        fz_drop_buffer(ctx, content);
+        fz_drop_stream(ctx, stream);
+    });
+    return kept != nullptr;
+}
+
 // Removes them from the resources of a page and of the forms in it. Whether there were any.
 bool dropUnreadableImages(fz_context* ctx, pdf_obj* resources, int depth) {
     pdf_obj* objects = pdf_dict_get(ctx, resources, PDF_NAME(XObject));
@@ -119,6 +170,7 @@ bool dropUnreadableImages(fz_context* ctx, pdf_obj* resources, int depth) {
         if (!pdf_name_eq(ctx, pdf_dict_get(ctx, object, PDF_NAME(Subtype)), PDF_NAME(Image))) {
             pdf_obj* inner = pdf_dict_get(ctx, object, PDF_NAME(Resources));
             hasDropped = dropUnreadableImages(ctx, inner, depth - 1) || hasDropped;
+            hasDropped = dropEmptyImages(ctx, object, true) || hasDropped;
         } else if (isUnreadableImage(ctx, object)) {
             pdf_dict_del(ctx, objects, pdf_dict_get_key(ctx, objects, i));
             hasDropped = true;
@@ -177,7 +229,10 @@ void DrawablePage::Recording::record(fz_context* ctx, pdf_obj* object) {
     if (kind == FZ_ERROR_NONE)
         return;
     pdf_obj* resources = pdf_dict_get_inheritable(ctx, object, PDF_NAME(Resources));
-    if (kind != FZ_ERROR_GENERIC || !dropUnreadableImages(ctx, resources, maxResourceDepth))
+    const bool mayBeImage = kind == FZ_ERROR_GENERIC;
+    const bool hasUnreadable = mayBeImage && dropUnreadableImages(ctx, resources, maxResourceDepth);
+    const bool hasEmpty = mayBeImage && dropEmptyImages(ctx, object, false);
+    if (!hasUnreadable && !hasEmpty)
         fz_throw(ctx, kind, "%s", error.data());
     makeLists(ctx, text ? Content::picturesAndText : Content::pictures);
     interpret(ctx);
