@@ -2,6 +2,7 @@
 
 #include "pdf/PDFEngine.h"
 #include "pdf/PDFLimits.h"
+#include "picture/JPEGDamage.h"
 
 #include <atomic>
 #include <cmath>
@@ -73,6 +74,14 @@ Samples decodeJPEG(fz_context* ctx, fz_image* image, int wantedWidth, int wanted
     return samples;
 }
 
+// MuPDF drops libjpeg's warnings of data that end early or make no sense.
+void warnOfDamage(fz_context* ctx, fz_image* image) {
+    const fz_compressed_buffer* buffer = image ? fz_compressed_image_buffer(ctx, image) : nullptr;
+    if (buffer && buffer->params.type == FZ_IMAGE_JPEG &&
+        JPEGDamage::isIn({buffer->buffer->data, buffer->buffer->len}))
+        fz_warn(ctx, "jpeg error: damaged data");
+}
+
 // MuPDF's own decoding, or nullptr on an error: MuPDF hits the same error when it draws the image,
 // and reports it then.
 fz_pixmap* muPDFPixmap(fz_context* ctx, fz_image* image, fz_matrix placement) {
@@ -127,8 +136,10 @@ Samples decodeWithMuPDF(fz_context* ctx, fz_image* image, fz_matrix placement) {
 fz_pixmap* scaledPicture(fz_context* ctx, fz_image* image, fz_matrix placement, int width,
                          int height) {
     Samples from = decodeJPEG(ctx, image, width, height);
-    if (!from.data)
+    if (!from.data) {
+        warnOfDamage(ctx, image);
         from = decodeWithMuPDF(ctx, image, placement);
+    }
     if (!from.data)
         return nullptr;
     Samples to = makeSamples(width, height, from.bytesPerPixel);
@@ -178,7 +189,9 @@ void fillImage(fz_context* ctx, fz_device* device, fz_image* image, fz_matrix pl
         picture =
             scaledPicture(ctx, image, fitted, int(std::lround(width)), int(std::lround(height)));
     }
+    warnOfDamage(ctx, image->mask);
     if (!picture) {
+        warnOfDamage(ctx, image);
         draw(ctx, device, image, placement, alpha, params);
         return;
     }

@@ -293,6 +293,12 @@ TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
 TEST_F(PDFDocumentTest, SaysWhatOfAPageIsDamagedAndDrawsTheRest) {
     const QByteArray pixels(100, 'x');
     const QByteArray packed = qCompress(pixels, 0).mid(4); // as they are
+    QByteArray noise(10'000, 'x');
+    for (int i = 0; i < noise.size(); ++i)
+        noise[i] = char(i * i % 251);
+    const QByteArray jpeg = PDFBuilder::encodeJPEG({1000, 10}, 1, noise, 90);
+    const qsizetype middle = jpeg.size() / 2;
+    const QByteArray dct = "/Width 1000 /Filter /DCTDecode";
     const struct {
         QByteArray entries, data, damage;
     } cases[] = {{"/Width 10", pixels, ""},
@@ -301,6 +307,10 @@ TEST_F(PDFDocumentTest, SaysWhatOfAPageIsDamagedAndDrawsTheRest) {
                  {"/Width 10", pixels.left(50), "images"},
                  {"/Width 0", pixels, "images"},
                  {"/Width 10 /Filter /JPXDecode", pixels, "images"},
+                 {dct, jpeg, ""},
+                 {dct, jpeg.chopped(2) + "of a camera\xFF\xD9", ""},
+                 {dct, jpeg.left(middle) + "\xFF\xD9", "images"},
+                 {dct + " /Decode [1 0]", jpeg.left(middle) + "\xFF\xD9", "images"},
                  {"/Width 10 /Filter /JBIG2Decode", pixels, "images"},
                  {"/Width 10 /Filter /Unknown", pixels, "data"}};
     // Odd, but nothing is missing.
