@@ -52,19 +52,27 @@ constexpr std::array attributes{Text("x"),
                                 Text("viewBox"),
                                 Text("preserveAspectRatio")};
 
-// Characters of numbers, names and lists of them. Without a colon, a slash or a backslash they make
-// no address.
-constexpr std::array<bool, 256> plainCharacters = [] {
-    std::array<bool, 256> plain{};
-    for (const char c :
-         Text("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789 #%()+,-."))
-        plain[static_cast<unsigned char>(c)] = true;
-    return plain;
-}();
+// Whether a text may have a character.
+using Alphabet = std::array<bool, 256>;
 
-std::size_t plainLength(Text text) {
-    const auto* end = std::find_if_not(text.begin(), text.end(), [](char c) {
-        return plainCharacters[static_cast<unsigned char>(c)];
+constexpr Alphabet lettersAnd(Text others) {
+    Alphabet alphabet{};
+    for (const Text characters :
+         {Text("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"), others}) {
+        for (const char c : characters)
+            alphabet[static_cast<unsigned char>(c)] = true;
+    }
+    return alphabet;
+}
+
+// Numbers, names and lists of them. Without a colon, a slash or a backslash they make no address.
+constexpr Alphabet plainCharacters = lettersAnd(" #%()+,-.");
+constexpr Alphabet base64 = lettersAnd("+/=");
+
+// Of the characters at the start of a text that are in the alphabet.
+std::size_t lengthIn(const Alphabet& alphabet, Text text) {
+    const auto* end = std::find_if_not(text.begin(), text.end(), [&alphabet](char c) {
+        return alphabet[static_cast<unsigned char>(c)];
     });
     return std::size_t(end - text.begin());
 }
@@ -74,11 +82,15 @@ bool isAddress(Text element, Text name) {
     return name == "xmlns" || (name == "href" && element == "image");
 }
 
+// What the player would take for a glyph or a run of them is no base64.
 bool isAllowedAddress(Text value) {
-    return value == "http://www.w3.org/2000/svg" ||
-           ((value.starts_with("data:image/png;base64,") ||
-             value.starts_with("data:image/jpeg;base64,")) &&
-            value.find('\n') == Text::npos);
+    for (const Text start : {Text("data:image/png;base64,"), Text("data:image/jpeg;base64,")}) {
+        if (value.starts_with(start)) {
+            const Text data = value.substr(start.size());
+            return lengthIn(base64, data) == data.size();
+        }
+    }
+    return value == "http://www.w3.org/2000/svg";
 }
 
 // Whether an attribute of plain characters contains no address.
@@ -124,7 +136,7 @@ private:
                 return false;
             iLeft.remove_prefix(2);
             const bool isURL = isAddress(element, name);
-            const Text value = take(isURL ? iLeft.find('"') : plainLength(iLeft));
+            const Text value = take(isURL ? iLeft.find('"') : lengthIn(plainCharacters, iLeft));
             if (!iLeft.starts_with('"') ||
                 !(isURL ? isAllowedAddress(value) : isAllowed(element, name, value)))
                 return false;

@@ -43,7 +43,7 @@ TEST(PageFileCheck, AllowsOnlyDrawingsInVectors) {
                              "<g id=\"a\"onload=\"1\"/>",
                              "</script>",
                              "<foreignObject/>",
-                             "<image href=\"data:image/png;base64,\n!A\n\"/>",
+                             "<image href=\"data:image/png;base64,>@</g>\"/>",
                              "<path d=\"a:b\"/>"})
         EXPECT_FALSE(PageFileCheck::areHarmless(packed(body))) << body;
     EXPECT_FALSE(PageFileCheck::areHarmless(Deflater(1).zlib("<html><svg></svg></html>")));
