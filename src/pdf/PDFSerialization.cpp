@@ -2,6 +2,7 @@
 
 #include <QDataStream>
 #include <QIODevice>
+#include <climits>
 #include <cmath>
 
 namespace {
@@ -10,29 +11,46 @@ namespace {
 constexpr int maxDepth = 100;
 constexpr int maxItems = 1'000'000;
 
+bool isFinite(const QSizeF& size) {
+    return std::isfinite(size.width()) && std::isfinite(size.height());
+}
+
+bool isFinite(const QRectF& box) {
+    return std::isfinite(box.x()) && std::isfinite(box.y()) && isFinite(box.size());
+}
+
+// Whether a zero-based index, -1 for none, has a one-based number.
+bool isPageIndex(int index) {
+    return index >= -1 && index < INT_MAX;
+}
+
 // The members of a struct in the order in which they are written and read, and what must be true of
 // them.
 template <class Archive>
 void describe(Archive& archive, PDFPage& page) {
     archive(page.mediaBox, page.cropBox, page.rotation, page.display, page.displayError);
+    archive.require(isFinite(page.mediaBox) && isFinite(page.cropBox) && isFinite(page.display));
+    archive.require(page.rotation >= 0 && page.rotation < 360);
 }
 
 template <class Archive>
 void describe(Archive& archive, PDFViewing& viewing) {
     archive(viewing.rightToLeft, viewing.allowsText, viewing.pageMode, viewing.openPage);
+    archive.require(isPageIndex(viewing.openPage.value_or(-1)));
 }
 
 template <class Archive>
 void describe(Archive& archive, PDFAnnotation& annotation) {
     archive(annotation.type, annotation.bounds, annotation.url, annotation.destinationPage,
             annotation.destinationAcross);
-    archive.require(std::isfinite(annotation.destinationAcross));
+    archive.require(isFinite(annotation.bounds) && std::isfinite(annotation.destinationAcross));
+    archive.require(isPageIndex(annotation.destinationPage.value_or(-1)));
 }
 
 template <class Archive>
 void describe(Archive& archive, PDFOutlineNode& node) {
     archive(node.label, node.destinationPage, node.destinationAcross, node.children);
-    archive.require(std::isfinite(node.destinationAcross));
+    archive.require(isPageIndex(node.destinationPage) && std::isfinite(node.destinationAcross));
 }
 
 template <class Archive>
@@ -45,8 +63,7 @@ template <class Archive>
 void describe(Archive& archive, PDFTextLine& line) {
     archive(line.box, line.turn, line.rightToLeft, line.words);
     archive.require(line.turn == 0 || line.turn == 90 || line.turn == 180 || line.turn == 270);
-    archive.require(std::isfinite(line.box.x()) && std::isfinite(line.box.y()) &&
-                    std::isfinite(line.box.width()) && std::isfinite(line.box.height()));
+    archive.require(isFinite(line.box));
 }
 
 class Writer {

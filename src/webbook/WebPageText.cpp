@@ -47,9 +47,14 @@ QTransform toSeen(const PDFPage& page) {
     return transform * QTransform::fromScale(unit, unit);
 }
 
+// Empty for a page that has none.
+QSizeF sizeOf(const PDFPage& page) {
+    return page.display.isValid() ? page.display : QSizeF(0, 0);
+}
+
 QJsonArray linksOf(const PDFPage& page, const std::vector<PDFAnnotation>& annotations,
                    const WebPageText::Position& position) {
-    const QRectF whole({0, 0}, page.display);
+    const QRectF whole({0, 0}, sizeOf(page));
     QJsonArray links;
     for (const PDFAnnotation& annotation : annotations) {
         if (annotation.type != QStringLiteral("Link"))
@@ -97,7 +102,7 @@ QRectF WebPageText::placeOnPage(const QRectF& bounds, const PDFPage& page) {
 QJsonObject WebPageText::asJson(const PDFPage& page, const std::vector<PDFTextLine>& lines,
                                 const std::vector<PDFAnnotation>& annotations,
                                 const Position& position) {
-    const QSizeF size = page.display.isValid() ? page.display : QSizeF(0, 0);
+    const QSizeF size = sizeOf(page);
     return {{QStringLiteral("size"), QJsonArray{tenths(size.width()), tenths(size.height())}},
             {QStringLiteral("lines"), linesOf(lines)},
             {QStringLiteral("links"), linksOf(page, annotations, position)}};

@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <climits>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -104,22 +105,32 @@ TEST_F(PDFReaderTest, IsNotHeldUpByAProgramThatReadsNoQuestions) {
     EXPECT_EQ(failureOf([&] { deaf->information(key.constData()); }).name, "PDFReaderTimeout");
 }
 
-TEST(PDFSerialization, RefusesTextLinesThatMakeNoSense) {
-    const auto failureWith = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
-        const std::vector lines{PDFTextLine{box, turn, false, {word}}};
-        return failureOf([&] {
-                   PDFSerialization::unpack<std::vector<PDFTextLine>>(
-                       PDFSerialization::pack(lines));
-               })
+TEST(PDFSerialization, RefusesNumbersThatMakeNoSense) {
+    const auto failureWith = []<class Value>(const Value& value) {
+        return failureOf([&] { PDFSerialization::unpack<Value>(PDFSerialization::pack(value)); })
             .name;
     };
+    const auto lines = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
+        return std::vector{PDFTextLine{box, turn, false, {word}}};
+    };
+    const QString garbled = "PDFReaderMalformedAnswer";
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     for (const int turn : {0, 90, 180, 270})
-        EXPECT_EQ(failureWith({}, turn), QString());
-    EXPECT_EQ(failureWith({}, 45), "PDFReaderMalformedAnswer");
+        EXPECT_EQ(failureWith(lines({}, turn)), QString());
+    EXPECT_EQ(failureWith(lines({}, 45)), garbled);
     for (const QRectF& box : {QRectF(none, 0, 0, 0), QRectF(0, none, 0, 0), QRectF(0, 0, none, 0),
-                              QRectF(0, 0, 0, none)})
-        EXPECT_EQ(failureWith(box, 0), "PDFReaderMalformedAnswer");
+                              QRectF(0, 0, 0, none)}) {
+        EXPECT_EQ(failureWith(lines(box, 0)), garbled);
+        EXPECT_EQ(failureWith(PDFPage{{}, box, 0, {}, {}}), garbled);
+        EXPECT_EQ(failureWith(std::vector{PDFAnnotation{"Link", box, {}, 1}}), garbled);
+    }
     for (const PDFTextWord& word : {PDFTextWord{"x", none, 0}, PDFTextWord{"x", 0, none}})
-        EXPECT_EQ(failureWith({}, 0, word), "PDFReaderMalformedAnswer");
+        EXPECT_EQ(failureWith(lines({}, 0, word)), garbled);
+    for (const int rotation : {-1, 360})
+        EXPECT_EQ(failureWith(PDFPage{{}, {}, rotation, {}, {}}), garbled);
+    EXPECT_EQ(failureWith(PDFPage{{}, {}, 0, {1, none}, {}}), garbled);
+    EXPECT_EQ(failureWith(std::vector{PDFAnnotation{"Link", {}, {}, INT_MAX}}), garbled);
+    EXPECT_EQ(failureWith(PDFViewing{false, true, {}, INT_MAX}), garbled);
+    for (const int page : {-2, INT_MAX})
+        EXPECT_EQ(failureWith(std::vector{PDFOutlineNode{"x", page, {}}}), garbled);
 }
