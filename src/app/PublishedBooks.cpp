@@ -1,6 +1,7 @@
 #include "app/PublishedBooks.h"
 
 #include <QSettings>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -12,14 +13,16 @@ constexpr char folderKey[] = "folder";
 constexpr char nameKey[] = "name";
 constexpr char titleKey[] = "title";
 constexpr char placeKey[] = "place";
-constexpr std::size_t maxBooks = 200;
+constexpr int maxBooks = 200;
 
 using Entry = std::pair<QString, PublishedBooks::Book>;
 
 // Most recent first.
 std::vector<Entry> stored() {
     QSettings settings;
-    std::vector<Entry> entries(std::size_t(settings.beginReadArray(QLatin1String(listKey))));
+    // The file may have any number.
+    std::vector<Entry> entries(
+        std::size_t(std::clamp(settings.beginReadArray(QLatin1String(listKey)), 0, maxBooks)));
     const auto text = [&settings](const char* key) {
         return settings.value(QLatin1String(key)).toString();
     };
@@ -64,7 +67,6 @@ void PublishedBooks::add(const QString& document, const Book& book) {
         return entry.first == document || entry.second.place == book.place;
     });
     entries.emplace(entries.begin(), document, book);
-    if (entries.size() > maxBooks)
-        entries.resize(maxBooks);
+    entries.resize(std::min(entries.size(), std::size_t{maxBooks}));
     store(entries);
 }

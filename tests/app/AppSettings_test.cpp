@@ -1,9 +1,11 @@
 #include "app/AppSettings.h"
+#include "app/PublishedBooks.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSettings>
+#include <climits>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -70,4 +72,12 @@ TEST_F(AppSettingsTest, ResetsOnlyTheSettingWhoseEntryIsGone) {
     EXPECT_FALSE(restarted.lastOutputFileName().isNull());
     EXPECT_EQ(restarted.outputType(), 0);
     EXPECT_EQ(restarted.importBookmark(), 1);
+}
+
+TEST_F(AppSettingsTest, FindsPublishedBooksWhateverTheirNumberIsSaidToBe) {
+    PublishedBooks::add("/a.pdf", {"/books", "a", "A", "/books/a"});
+    for (const int size : {INT_MAX, -1}) {
+        QSettings().setValue("publishedBooks/size", size);
+        EXPECT_EQ(PublishedBooks::of("/a.pdf").has_value(), size > 0);
+    }
 }
