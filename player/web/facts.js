@@ -23,9 +23,8 @@ export class Facts {
   constructor(data, pageCount) {
     const raw = fieldsOf(data);
     this.pageCount = pageCount;
-    const numbers = listOf(raw.numbers);
     /** @type {number[]} picture numbers by position, empty where both are the same */
-    this.numbers = numbers.map(Number);
+    this.numbers = listOf(raw.numbers).map(numberOf);
     const labels = listOf(raw.labels).map(textOf).slice(0, pageCount);
     const own = labels.some((label, index) => label && label !== String(index + 1));
     /** @type {string[] | null} none where all pages are called by their positions */
@@ -41,7 +40,7 @@ export class Facts {
     /** What is open at first where there is room beside the book. */
     this.panel = PANELS.find((name) => name === raw.panel) ?? '';
     this.offline = raw.offline === true;
-    const ranges = /** @type {[from: number, to: number][]} */ (listOf(raw.open).filter(Array.isArray));
+    const ranges = listOf(raw.open).filter(Array.isArray).map((range) => range.map(numberOf));
     /** Pages that can be read, none where all can. */
     this.open = Array.isArray(raw.open) ? ranges : null;
     const [language, textPage] = [raw.language, raw.textPage].map(textOf);
@@ -96,6 +95,14 @@ export function listOf(value) {
 /** @param {unknown} value */
 export function textOf(value) {
   return typeof value === 'string' ? value : '';
+}
+
+/**
+ * @param {unknown} value
+ * @returns {number} NaN for what is no finite number
+ */
+export function numberOf(value) {
+  return Number.isFinite(value) ? Number(value) : NaN;
 }
 
 /**

@@ -1,4 +1,4 @@
-import { fieldsOf, listOf, textOf } from './facts.js';
+import { fieldsOf, listOf, numberOf, textOf } from './facts.js';
 
 /**
  * @typedef {{x: number, y: number, width: number, height: number}} Box
@@ -20,7 +20,7 @@ export class PageText {
   /** @param {unknown} data of the page's file */
   constructor(data) {
     const raw = fieldsOf(data);
-    const [width, height] = listOf(raw.size).map(Number);
+    const [width, height] = listOf(raw.size).map(numberOf);
     this.width = width > 0 && Number.isFinite(width) ? width : 6000;
     this.height = height > 0 && Number.isFinite(height) ? height : 8000;
     this.lines = listOf(raw.lines).filter((line) => Array.isArray(line)).map(lineOf)
@@ -96,7 +96,7 @@ function lineOf(raw) {
   const words = [];
   const list = listOf(raw[6]);
   for (let at = 0; at + 2 < list.length; at += 3) {
-    const [start, length] = [Number(list[at + 1]) || 0, Number(list[at + 2]) || 0];
+    const [start, length] = [numberOf(list[at + 1]) || 0, numberOf(list[at + 2]) || 0];
     if (textOf(list[at])) words.push({ text: list[at], start, length: Math.max(1, length) });
   }
   const turn = /** @type {0 | 90 | 180 | 270} */ ([90, 180, 270].find((one) => one === raw[4]) ?? 0);

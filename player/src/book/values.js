@@ -41,13 +41,14 @@ export function luminance(colour) {
 }
 
 /**
- * A path of the configuration, or an empty text when it leads out of the book's files folder.
+ * A path of the configuration, or an empty text when it leads out of the book's files folder or has halves of letters,
+ * of which no address can be made.
  * @param {string} text
  */
 export function ownFile(text) {
   const path = text.trim();
   const leadsOut = /^[a-z][a-z0-9+.-]*:|^\/|\\|(?:^|\/)\.\.?(?:\/|$)/i.test(path);
-  return leadsOut ? '' : path;
+  return leadsOut || /[\ud800-\udfff]/u.test(path) ? '' : path;
 }
 
 /**

@@ -3,6 +3,7 @@ import { createHash, webcrypto } from 'node:crypto';
 import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
 import { runInNewContext } from 'node:vm';
+import { Chance } from '../support/chance.mjs';
 
 const SCRIPT = ['swfiles', 'sw'].map((name) => readFileSync(new URL(`../../${name}.js`, import.meta.url), 'utf8'))
   .join('').replace(/^import [^;]*;|^export /gm, '');
@@ -219,4 +220,20 @@ test('a book that went away is forgotten, once nobody reads it; one whose server
   world.fetch = async () => new Response('<title>Another page</title>');
   assert.match(await (await world.start('aa')).get('', 'reader', page), /Another page/);
   assert.ok(kept && world.stores.size === 1);
+});
+
+test('whatever a list of files holds, readers get no other file than theirs', async () => {
+  const chance = new Chance(3);
+  for (let round = 0; round < 200; round++) {
+    const world = new World();
+    world.publish('aa', pages('aa'));
+    const list = 'files/web/offline.json';
+    const { version, shell, ...others } = JSON.parse(world.files[list]);
+    world.files[list] = JSON.stringify({ version, shell, ...chance.changed(others) });
+    const worker = await world.start('aa');
+    await worker.install();
+    assert.ok([`${ONE} of aa`, undefined, 0].includes(await worker.get(ONE)), world.files[list]);
+    await worker.ask({ does: 'wish', wish: 'whole' });
+    await worker.ask({ does: 'ahead' });
+  }
 });
