@@ -1,7 +1,4 @@
 #include "Fuzz.h"
-#include "annotations/FlashOutlinePDF.h"
-#include "annotations/FlashPagesAnnotationsPDF.h"
-#include "base/Log.h"
 #include "base/PlatformException.h"
 #include "pdf/DrawablePDF.h"
 #include "pdf/DrawablePage.h"
@@ -15,29 +12,14 @@ namespace {
 
 constexpr int pagesLookedAt = 4;
 
-// The engine is built without the instruments that tell the fuzzer which code an input reached.
-// What it complains about tells something of that, so each kind of complaint counts as a place.
-constexpr std::size_t complaintKinds = 4096;
-__attribute__((section("__libfuzzer_extra_counters"))) std::uint8_t complaints[complaintKinds];
-
-void countComplaint(const Log::Record& record) {
-    if (record.logger != "PDFEngine")
-        return;
-    std::uint32_t kind = 2166136261U;
-    for (const QChar letter : record.text.left(40)) {
-        if (!letter.isLetter() && letter != u' ')
-            break;
-        kind = (kind ^ letter.unicode()) * 16777619U;
-    }
-    complaints[kind % complaintKinds] = 1;
-}
-
 bool isFinite(const QRectF& rect) {
     return std::isfinite(rect.x()) && std::isfinite(rect.y()) && std::isfinite(rect.width()) &&
            std::isfinite(rect.height());
 }
 
 void checkPage(const PDFPage& page, const std::vector<PDFAnnotation>& annotations, int pages) {
+    Fuzz::requireSound(page);
+    Fuzz::requireSound(annotations);
     const QRectF& media = page.mediaBox;
     const QRectF& crop = page.cropBox;
     Fuzz::require(isFinite(media) && !media.isEmpty(), "a page has a size");
@@ -48,11 +30,6 @@ void checkPage(const PDFPage& page, const std::vector<PDFAnnotation>& annotation
         Fuzz::require(annotation.destinationPage.value_or(0) >= 0 &&
                           annotation.destinationPage.value_or(0) < pages,
                       "links lead to pages of the document");
-}
-
-void checkLocations(const pugi::xml_node& pagesAnnos) {
-    for (const auto& fraction : pagesAnnos.select_nodes("pageAnnos/anno/location/@*"))
-        Fuzz::require(std::isfinite(fraction.attribute().as_double(NAN)), "a link lies somewhere");
 }
 
 void checkOutline(const std::vector<PDFOutlineNode>& nodes, int pages, int depth) {
@@ -80,15 +57,12 @@ void readStructure(const QString& path) {
         }
     }
     checkOutline(document->outline(), pages, 1);
+    Fuzz::requireSound(document->outline());
+    Fuzz::requireSound(document->viewing());
     document->language();
     const auto labels = document->pageLabels().size();
     Fuzz::require(labels == 0 || labels == std::size_t(pages), "all pages have labels, or none");
-    FlashOutlinePDF outline;
-    outline.loadOutlineFromPDF(document);
-    outline.outlineAsXMLNode();
-    FlashPagesAnnotationsPDF links;
-    links.loadLinksFromPDF(document, QString("1-%1").arg(std::min(pages, pagesLookedAt)));
-    checkLocations(links.pagesAnnotationsNode());
+    Fuzz::importLinks(document, std::min(pages, pagesLookedAt));
 }
 
 // What a page worker does, at a size that takes little time.
@@ -115,12 +89,12 @@ void drawFirstPage(const QString& path) {
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/) {
-    Log::setWatcher(countComplaint);
+    Fuzz::countComplaints();
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const QString file = Fuzz::fileWith(data, size);
+    const QString file = Fuzz::fileWith(Fuzz::Input(data, size).rest());
     for (const auto& read : {readStructure, drawFirstPage}) {
         try {
             read(file);

@@ -1,10 +1,11 @@
-#include "builder/PDFBuilder.h"
-#include "builder/PDFContent.h"
+#include "Fuzz.h"
 #include "pdf/PDFSerialization.h"
 #include "support/TemplateLibrary.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QHashFunctions>
+#include <QImage>
 #include <QStringEncoder>
 
 namespace {
@@ -54,63 +55,126 @@ Seeds templates() {
     return seeds;
 }
 
-// The first byte says what the rest is.
-Seeds facts() {
+// What the process that reads a document answers, in the order of PDFSerialization's harness.
+Seeds answers() {
     using PDFSerialization::pack;
     PDFPage page;
     page.mediaBox = page.cropBox = QRectF(0, 0, 612, 792);
     page.display = QSizeF(612, 792);
     const PDFAnnotation web{"Link", QRectF(1, 2, 3, 4), "http://a/", {}};
-    const PDFAnnotation within{"Link", QRectF(1, 2, 3, 4), {}, 5};
+    const PDFAnnotation within{"Link", QRectF(1, 2, 3, 4), {}, 2};
     const PDFOutlineNode leaf{"Leaf", 2, {}};
     const PDFOutlineNode branch{"Branch", -1, {leaf, leaf}};
     const PDFTextLine line{{10, 20, 90, 12}, 90, true, {{"two ", 0, 30}, {"words", 35, 55}}};
-    return {'\0' + pack(7),
-            '\1' + pack(QString("A title")),
-            '\1' + pack(QString()),
-            '\2' + pack(page),
-            '\3' + pack(std::vector{web, within}),
-            '\4' + pack(std::vector{branch, leaf}),
-            '\5' + pack(std::vector{QString("iv"), QString("A-3")}),
-            '\6' + pack(std::vector{line})};
+    return {pack(7),
+            pack(QString("A title")),
+            pack(page),
+            pack(std::vector{web, within}),
+            pack(std::vector{branch, leaf}),
+            pack(std::vector{QString("A-9"), QString("A-10"), QString("iv")}),
+            pack(std::vector{line}),
+            pack(PDFViewing{true, true, "UseThumbs", 1}),
+            pack(std::vector{page.display})};
 }
 
-// Images of every kind and a form that blends, without compression: the small samples have none.
+// The first byte says what the rest is.
+Seeds facts() {
+    Seeds seeds{'\1' + PDFSerialization::pack(QString())};
+    for (char question = 0; const QByteArray& answer : answers())
+        seeds.push_back(question++ + answer);
+    return seeds;
+}
+
+// All answers, each after its length.
+Seeds pageFacts() {
+    QByteArray all;
+    for (const QByteArray& answer : answers())
+        all += char(answer.size()) + answer;
+    QByteArray split = all;
+    const QByteArray wide = PDFSerialization::pack(std::vector(3, QSizeF(200, 100)));
+    split.replace(all.lastIndexOf(char(answers().back().size())), all.size(),
+                  char(wide.size()) + wide);
+    return {all, split};
+}
+
+// Without compression: the small samples have no pictures and labels.
 Seeds documents() {
-    PDFBuilder pdf;
-    const QByteArray colours = QByteArray("\xff\x80\x00", 3).repeated(64);
-    const QByteArray jpeg = PDFBuilder::encodeJPEG({8, 8}, 3, colours, 50);
-    const QByteArray image = "/Type /XObject /Subtype /Image /Width 8 /Height 8 ";
-    const int mask = pdf.addStream(image + "/BitsPerComponent 1 /ImageMask true",
-                                   QByteArray("\xa0\x50").repeated(4));
-    const int indexed = pdf.addStream(image +
-                                          "/BitsPerComponent 8 /ColorSpace [/Indexed /DeviceRGB 1 "
-                                          "<ff000000ff00>] /Mask " +
-                                          PDFBuilder::reference(mask),
-                                      QByteArray(64, '\1'));
-    const int form = pdf.addStream("/Type /XObject /Subtype /Form /BBox [0 0 80 80] "
-                                   "/Group << /S /Transparency /I true /K true >>",
-                                   PDFContent::fillRect({10, 10, 60, 60}));
-    const int drawn[] = {pdf.addGrayImage({8, 8}, QByteArray(64, '\x55')),
-                         pdf.addRGBImage({8, 8}, colours), pdf.addJPEGImage({8, 8}, 3, jpeg),
-                         indexed, mask};
-    PDFBuilder::Page page;
-    page.mediaBox = QRectF(0, 0, 100, 100);
-    QByteArray objects = "/X " + PDFBuilder::reference(form);
-    page.content = "/S sh q /E gs 1 0 0 rg /X Do Q ";
-    for (const int object : drawn) {
-        const QByteArray name = 'I' + QByteArray::number(object);
-        objects += " /" + name + ' ' + PDFBuilder::reference(object);
-        page.content += PDFContent::image(name, {object * 2.0, object * 3.0, 9, 30});
+    return {
+        Fuzz::documentWith("/S sh q /E gs 1 0 0 rg /X Do Q q 9 0 0 30 8 12 cm /I Do /J Do /M Do "
+                           "/N Do /R Do Q",
+                           "/PageLabels << /Nums [0 << /S /r >> 1 << /S /D /P (A-) >>] >>"),
+        "%PDF-1.4\n"};
+}
+
+// Labels, then the content of a page.
+Seeds contents() {
+    Seeds seeds;
+    for (const char* labels :
+         {"<< /Nums [0 << /S /R /P (A-) /St 7 >> 1 << /S /a >> 2 << /P (x) >>] >>",
+          "<< /Kids [<< /Nums [0 << /S /D /St 2147483647 >>] >> << /Kids [null] >>] >>"})
+        for (const char* content :
+             {"BT /F 12 Tf 1 0 0 1 9 50 Tm (Two words) Tj 0 -14 TD [(a) -300 (b)] TJ ET",
+              "q 0.5 g 10 10 m 50 90 l 90 10 60 60 20 20 c h W n 0 0 100 100 re f* Q 2 w [3 1] 0 d "
+              "1 j 5 5 m 95 95 l S",
+              "q /E gs /X Do Q /A gs q 9 0 0 30 8 12 cm /I Do /J Do /M Do /N Do Q /S sh",
+              "BT 2 Tr /G 20 Tf 0 1 -1 0 50 50 Tm (abc) ' ET 1e9 0 0 1e-9 0 0 cm 0 0 1 1 re B"})
+            seeds.push_back(QByteArray(labels) + '\0' + content);
+    return seeds;
+}
+
+Seeds vectors() {
+    Seeds seeds;
+    for (const char* body :
+         {"<defs>\n!'(*\n!%+\n<path id=\"g0\" d=\"M1-2h3\"/></defs><g fill=\"#123456\">@9,-3A</g>",
+          "<clipPath id=\"c1\"><path d=\"m0 0\" clip-rule=\"evenodd\"/></clipPath><g "
+          "clip-path=\"url(#c1)\" transform=\"matrix(.1 0 0 .1 0 0)\"><use href=\"#g0\"/></g>",
+          "<image href=\"data:image/png;base64,/+A=\" width=\"9\" preserveAspectRatio=\"none\"/>",
+          "<g onload=\"x\"/><script>a</script><a href=\"x\"/><!--a--><?a b?>&#60;<![CDATA[a]]>"})
+        seeds.push_back(QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1pt\">\n") +
+                        body + "\n</svg>\n");
+    return seeds;
+}
+
+// Of the same pixels, with a resolution in each way in which files state it.
+Seeds pictures() {
+    QImage image(24, 16, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.setDotsPerMeterX(11811);
+    image.setDotsPerMeterY(11811);
+    Seeds seeds;
+    for (const char* format : {"png", "jpg", "bmp", "gif", "webp", "tiff", "ppm", "ico", "xbm"}) {
+        QBuffer buffer;
+        if (image.save(&buffer, format))
+            seeds.push_back(buffer.data());
     }
-    page.extraEntries = "/Group << /S /Transparency /CS /DeviceRGB >> /Resources << "
-                        "/ExtGState << /E << /BM /Multiply /ca 0.5 >> >> /Shading << /S << "
-                        "/ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 100 0] /Function << "
-                        "/FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> >> >> "
-                        "/XObject << " +
-                        objects + " >> >>";
-    pdf.addPage(page);
-    return {pdf.build(), "%PDF-1.4\n"};
+    const QByteArray tiff("MM\0\x2a\0\0\0\x08\0\2\x01\x1a\0\5\0\0\0\1\0\0\0\x26\x01\x28\0\3"
+                          "\0\0\0\1\0\2\0\0\0\0\0\0\0\0\x01\x2c\0\0\0\1",
+                          46);
+    const QByteArray exif = "Exif" + QByteArray(2, '\0') + tiff;
+    seeds.push_back(tiff);
+    seeds.push_back(QByteArray("\xff\xd8\xff\xe1\0", 5) + char(exif.size() + 2) + exif +
+                    seeds[1].mid(2));
+    return seeds;
+}
+
+Seeds userSettings() {
+    const QByteArray plain = "[General]\nlastImportedFile=/a/b, c.pdf\nimportQualityLevel=2\n"
+                             "outputType=@Invalid()\nPageWidth=-5\nimportPageRange=\"1-3,5\"\n\n";
+    const QByteArray book =
+        "1\\document=/a.pdf\n1\\folder=/b\n1\\name=c\n1\\title=d\n1\\place=/b\n";
+    return {plain, plain + "[publishedBooks]\nsize=1\n" + book,
+            "[publishedBooks]\n" + book + "size=99\n99\\document=@ByteArray(a\\x1)\n"};
+}
+
+// The first byte says which file of a book it is.
+Seeds files() {
+    return {
+        "0{\"book\":\"ab\",\"document\":\"cd\",\"documentModified\":\"1\",\"documentSize\":\"2\","
+        "\"files\":\"#\",\"pages\":\"ef\"}",
+        "1<UserConfig><Ppts><Ppt><Normal><ImgPath>page/1.jpg</ImgPath></Normal></Ppt><Ppt><Normal>"
+        "<ImgPath>page/12.png</ImgPath></Normal></Ppt></Ppts></UserConfig>",
+        "2<title>A &amp; B &lt;</title>", "3\"a.html\",\"version\":\"12\"};\nconst X = 1;",
+        "45 6 0 0 a\n0 0 7 8 b%20c\n"};
 }
 
 } // namespace
@@ -123,7 +187,13 @@ int main(int argc, char** argv) {
                                                   {"SettingsFile", settings()},
                                                   {"TemplateXML", templates()},
                                                   {"PDFSerialization", facts()},
-                                                  {"PDFImport", documents()}};
+                                                  {"PDFImport", documents()},
+                                                  {"PDFContent", contents()},
+                                                  {"PageFacts", pageFacts()},
+                                                  {"Vectors", vectors()},
+                                                  {"Pictures", pictures()},
+                                                  {"UserSettings", userSettings()},
+                                                  {"BookFiles", files()}};
     if (argc != 3)
         return 2;
     const QDir root(QFile::decodeName(argv[1]));

@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FlashTemplate tmpl;
     Fuzz::require(tmpl.loadError().isNull(), "the template loads");
     tmpl.setPropertyValue("pageWidth", "123");
-    tmpl.importPropertiesSettingsFrom(Fuzz::fileWith(data, size));
+    tmpl.importPropertiesSettingsFrom(Fuzz::fileWith(Fuzz::Input(data, size).rest()));
     Fuzz::require(tmpl.propertyValueFor("pageWidth", {}) == "123",
                   "settings leave the size of the page alone");
     Fuzz::require(tmpl.exportPropertiesSettingsTo(library.exportPath()), "settings are written");

@@ -1,16 +1,20 @@
 #!/usr/bin/env bash
-# Runs the fuzz harnesses for some minutes each and prints their figures as a table:
+# Builds the fuzz harnesses, runs all or some of them for some minutes each, and prints their figures as a table:
 #
 #   tools/fuzz.sh [MINUTES [NAME ...]]
 #
-# It continues from the corpora of earlier runs. A harness that ends with a finding is restarted until
+# The preset "release" must have been built. It continues from the corpora of earlier runs. A harness that ends with a finding is restarted until
 # its time is up; the inputs that caused it are kept in findings/.
-#   FUZZ_BUILD   the build folder, build/fuzz by default
+#   FUZZ_BUILD   a build folder to use as it is; by default build/fuzz is built
 #   FUZZ_FOLDER  where corpora, findings and logs are kept, fuzz/runs in the build folder by default
 #   FUZZ_JOBS    how many harnesses run at a time, 1 by default
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
+if [ -z "${FUZZ_BUILD:-}" ]; then
+    cmake --preset fuzz >/dev/null
+    nice -n 19 cmake --build --preset fuzz -j "${FUZZ_JOBS:-1}" --target fuzz
+fi
 build=$(realpath "${FUZZ_BUILD:-build/fuzz}")
 folder=${FUZZ_FOLDER:-$build/fuzz/runs}
 minutes=${1:-20}
@@ -21,6 +25,9 @@ if ((${#names[@]} == 0)); then
         names+=("$(basename "$file" .options)")
     done
 fi
+for name in "${names[@]}"; do
+    [ -e "$build/fuzz/bin/$name.options" ] || { echo "tools/fuzz.sh: there is no harness $name" >&2; exit 2; }
+done
 mkdir -p "$folder/findings" "$folder/logs"
 # Files written by a harness stay in memory where there is a tmpfs.
 [ -w /dev/shm ] && export TMPDIR=/dev/shm

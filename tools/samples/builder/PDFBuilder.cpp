@@ -151,8 +151,9 @@ QByteArray PDFBuilder::attributeEntries(const PageAttributes& attributes) {
     std::map<QByteArray, int> fonts = attributes.fontObjects;
     for (const auto& [name, standard] : attributes.fonts)
         fonts[name] = standardFont(standard);
-    const QByteArray resources =
-        resourceGroup("Font", fonts) + resourceGroup("XObject", attributes.xObjects);
+    const QByteArray resources = resourceGroup("Font", fonts) +
+                                 resourceGroup("XObject", attributes.xObjects) +
+                                 attributes.resources;
     if (!resources.isEmpty())
         entries += " /Resources << " + resources + ">>";
     return entries;

@@ -26,6 +26,7 @@ public:
         std::map<QByteArray, QByteArray> fonts = {}; // resource name -> standard font
         std::map<QByteArray, int> fontObjects = {};  // resource name -> object number
         std::map<QByteArray, int> xObjects = {};     // resource name -> object number
+        QByteArray resources = {};                   // further entries of the resource dictionary
     };
 
     struct Page : PageAttributes {
