@@ -50,11 +50,15 @@ Scripts scriptsOf(const QString& page) {
             continue;
         const auto from = server.match(match.captured(2));
         if (from.hasMatch())
-            scripts.servers << from.captured(1).remove(QRegularExpression(QStringLiteral("^//")));
+            scripts.servers << from.captured(1);
         else if (!match.captured(2).contains(hasAddress))
             scripts.inlined << match.captured(3);
     }
     return scripts;
+}
+
+QString withoutSlashes(const QString& server) {
+    return server.startsWith(u"//") ? server.mid(2) : server;
 }
 
 } // namespace
@@ -68,8 +72,17 @@ QString PageScripts::source(const QString& script) {
 }
 
 QString PageScripts::sources(const QString& pageTemplate) {
+    static const QRegularExpression address(
+        QStringLiteral(R"re(["'`]((?:https?:)?//(?:[\w-]+\.)+[\w-]+(?::\d+)?))re"), options);
     const Scripts scripts = scriptsOf(TextTemplate(pageTemplate).parse());
-    QStringList sources = scripts.servers;
+    QStringList sources;
+    for (const QString& server : scripts.servers)
+        sources << withoutSlashes(server);
+    // Nobody can tell from the page what these scripts load in turn.
+    if (!sources.isEmpty())
+        sources << QStringLiteral("https:");
+    for (const auto& match : address.globalMatch((scripts.inlined + scripts.handlers).join(u' ')))
+        sources << withoutSlashes(match.captured(1));
     for (const QString& script : scripts.inlined)
         sources << source(script);
     if (!scripts.handlers.isEmpty())
@@ -81,6 +94,10 @@ QString PageScripts::sources(const QString& pageTemplate) {
 }
 
 bool PageScripts::allowAll(const QString& pageTemplate) {
+    static const QRegularExpression beyond(
+        QStringLiteral(R"re(\$\{|\beval\s*\(|\bFunction\s*\(|\bdocument\s*\.\s*write)re"));
+    static const QRegularExpression link(QStringLiteral(R"re(=\s*["']?\s*javascript:)re"), options);
     const Scripts scripts = scriptsOf(pageTemplate);
-    return !(scripts.inlined + scripts.handlers).join(u' ').contains(QStringLiteral("${"));
+    return !(scripts.inlined + scripts.handlers).join(u' ').contains(beyond) &&
+           !pageTemplate.contains(link);
 }

@@ -303,10 +303,14 @@ TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
         page(start +
                  "<img onload = \"a(&quot;b&quot;)\"><script async src='//b.example/x'></script>",
              false)
-            .startsWith(start + policy("b.example " + one +
+            .startsWith(start + policy("b.example https: " + one +
                                        " 'unsafe-hashes' 'sha256-zF6vm1In/h+PvgDmJ16jlpnzzHU7"
                                        "YQzvZRzlN+64ZL8='")));
-    EXPECT_FALSE(page("<head><script>a${x}</script>", false).contains("Content-Security-Policy"));
+    EXPECT_TRUE(page("<head><script>load('//c.example:8/x', \"https://d.example\")</script>", false)
+                    .contains(" file: c.example:8 https://d.example 'sha256-"));
+    for (const char* beyond : {"<script>a${x}</script>", "<script>window.eval(1)</script>",
+                               "<b onclick='document.write(1)'>", "<a href='javascript:b()'>"})
+        EXPECT_FALSE(page(QByteArray("<head>") + beyond, false).contains("script-src")) << beyond;
     EXPECT_EQ(page("a${x}${y}<head>", false),
               "a${y}<head><script>1</script></head><body><object x>2</object>3</body>");
 }
