@@ -20,9 +20,6 @@ namespace {
 // Our pictures have no metadata: their headers are a few hundred bytes.
 constexpr qsizetype headBytes = 1 << 16;
 
-// Ten times the largest that we write, with pictures in it.
-constexpr std::size_t maxVectorBytes = std::size_t{32} << 20;
-
 using Text = std::string_view;
 
 constexpr std::array elements{Text("use"),  Text("path"),  Text("g"),    Text("clipPath"),
@@ -83,14 +80,16 @@ bool isAddress(Text element, Text name) {
 }
 
 // What the player would take for a glyph or a run of them is no base64.
-bool isAllowedAddress(Text value) {
+bool isAllowedAddress(Text name, Text value) {
+    if (name == "xmlns")
+        return value == "http://www.w3.org/2000/svg";
     for (const Text start : {Text("data:image/png;base64,"), Text("data:image/jpeg;base64,")}) {
         if (value.starts_with(start)) {
             const Text data = value.substr(start.size());
             return lengthIn(base64, data) == data.size();
         }
     }
-    return value == "http://www.w3.org/2000/svg";
+    return false;
 }
 
 // Whether an attribute of plain characters contains no address.
@@ -138,7 +137,7 @@ private:
             const bool isURL = isAddress(element, name);
             const Text value = take(isURL ? iLeft.find('"') : lengthIn(plainCharacters, iLeft));
             if (!iLeft.starts_with('"') ||
-                !(isURL ? isAllowedAddress(value) : isAllowed(element, name, value)))
+                !(isURL ? isAllowedAddress(name, value) : isAllowed(element, name, value)))
                 return false;
             iLeft.remove_prefix(1);
         }
@@ -169,7 +168,8 @@ std::string withoutGlyphs(Text vectors) {
 } // namespace
 
 bool PageFileCheck::areHarmless(QByteArrayView packedVectors) {
-    const std::string svg = withoutGlyphs(Inflater().zlib(packedVectors, maxVectorBytes));
+    const std::string svg =
+        withoutGlyphs(Inflater().zlib(packedVectors, PDFLimits::maxVectorBytes));
     const Text text = svg;
     return text.starts_with("<svg ") && text.find('&') == Text::npos && Tags(text).areHarmless();
 }

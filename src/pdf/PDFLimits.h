@@ -27,6 +27,9 @@ inline constexpr std::size_t maxProcessMemory = std::size_t{2} << 30;
 // Size of one page file. A JPEG file is smaller than its bitmap unless something went wrong.
 inline constexpr std::size_t maxPageFileSize = std::size_t{256} << 20;
 
+// Size of a page's vectors, unpacked: pictures in them, and some megabytes of drawings and glyphs.
+inline constexpr std::size_t maxVectorBytes = std::size_t{32} << 20;
+
 // Characters of an address or an outline entry. Longer entries are cut, longer addresses dropped:
 // browsers do not accept even a tenth of that.
 inline constexpr int maxTextLength = 65'536;

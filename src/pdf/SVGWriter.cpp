@@ -1,5 +1,6 @@
 #include "pdf/SVGWriter.h"
 
+#include "pdf/PDFLimits.h"
 #include "pdf/SVGPath.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ void SVGWriter::begin(fz_rect page, std::size_t mostPictureBytes) {
     iPictureElements.clear();
     iPictureCount = 0;
     iGlyphCount = 0;
-    iMostPictureBytes = mostPictureBytes;
+    iMostPictureBytes = std::min(mostPictureBytes, PDFLimits::maxVectorBytes - 3 * maxBytes);
     iPage = page;
     iToUnits = fz_concat(fz_translate(-page.x0, -page.y0), fz_scale(unitsPerPoint, unitsPerPoint));
     iIsCorrect = true;

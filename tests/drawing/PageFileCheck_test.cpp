@@ -30,6 +30,8 @@ TEST(PageFileCheck, AllowsOnlyDrawingsInVectors) {
                              "<use href=\"x.svg#a\"/>",
                              "<image href=\"data:image/svg+xml;base64,A\"/>",
                              "<image href=\"//example.invalid/x\"/>",
+                             "<image href=\"http://www.w3.org/2000/svg\"/>",
+                             "<g xmlns=\"data:image/png;base64,A\"/>",
                              "<g clip-path=\"url(x#a)\"/>",
                              "<a/>",
                              "&#60;",

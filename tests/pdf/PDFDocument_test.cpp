@@ -277,6 +277,20 @@ TEST_F(PDFDocumentTest, GivesNoVectorsOfWhatLiesOutsideThePage) {
     EXPECT_EQ(vectors(*document, 2).count("\n!"), 2) << "outlines of glyphs";
 }
 
+// What the publisher would refuse.
+TEST_F(PDFDocumentTest, GivesNoVectorsOfTooManyPictures) {
+    constexpr int side = 1500;
+    QByteArray noise(side * side, 'x');
+    for (unsigned i = 0, state = 1; i < side * side; ++i, state = state * 1664525 + 1013904223)
+        noise[i] = char(state >> 24);
+    auto page = PDFBuilder::page({500, 500}, QByteArray("500 0 0 500 0 0 cm") +
+                                                 QByteArray(" /I Do").repeated(30));
+    page.xObjects["I"] = builder.addGrayImage({side, side}, noise);
+    builder.addPage(page);
+    const auto vectors = VectorEncoder().encode(DrawablePage(*open(), 0));
+    EXPECT_TRUE(vectors.isEmpty()) << vectors.size();
+}
+
 TEST_F(PDFDocumentTest, DrawsAHugePageSmaller) {
     builder.addPage(PDFBuilder::page({14400, 14400}, redCorner));
     builder.addPage(PDFBuilder::page({30000, 10}, ""));
