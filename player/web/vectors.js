@@ -11,15 +11,16 @@ export async function svgOf(data) {
 }
 
 /**
- * Vectors are an SVG file with a line for each glyph, outline and advance, and with runs of glyphs for text.
+ * Vectors are an SVG file with a line for each glyph, outline and advance, and with runs of glyphs for text. Takes time
+ * in proportion to the length, whatever the text is.
  * @param {string} vectors
  */
-function expanded(vectors) {
+export function expanded(vectors) {
   /** @type {number[]} */
   const advances = [];
   return vectors.replace(/\n(![^\n]*)([^\n])/g, (_, outline, advance) => '<path id="g'
     + (advances.push(codeOf(advance)) - 1) + '" d="' + pathOf(outline) + '"/>')
-    .replace(/>([^<\n]+)<\/g>/g, (_, run) => '>' + glyphsOf(run, advances) + '</g>');
+    .replace(/>([^<>\n]+)<\/g>/g, (_, run) => '>' + glyphsOf(run, advances) + '</g>');
 }
 
 /** @param {string} outline commands and numbers, in which each point of a curve is relative to the one before it, too */
@@ -43,7 +44,7 @@ function pathOf(outline) {
 function glyphsOf(run, advances) {
   let x = 0;
   let y = 0;
-  return run.replace(/(-?\d*),?(-?\d*)([^-,\d])/g, (_, /** @type {string} */ right, down, glyph) => {
+  return run.replace(/(-?\d{0,9})(?:,(-?\d{1,9}))?([^-,\d])/g, (_, /** @type {string} */ right, down = '', glyph) => {
     const index = codeOf(glyph) - 25;
     x += Number(right);
     y += Number(down);
