@@ -14,6 +14,8 @@ interface Window {
     runScript: () => Promise<Event>;
     /** Whether the page holds the configuration itself. */
     here: boolean;
+    /** Of a start list: the request for all of the configuration, made once it is awaited. */
+    whole?: Promise<Response | Event | void>;
   };
   /** Base64 of the enciphered configuration, once its script has run; "" keeps early.js from asking for it. */
   FolveroUserConfig?: string;

@@ -46,7 +46,8 @@ export class StartList {
   /** Keeps the player from asking for the configuration. */
   announce() {
     window.FolveroUserConfig = this.settings;
-    Object.assign(window.folveroConfiguration, { asked: Promise.resolve(), here: true });
+    const request = window.folveroConfiguration;
+    window.folveroConfiguration = { ...request, asked: Promise.resolve(), here: true, whole: request.asked };
   }
 
   /** @param {BookConfig} config of the first page */

@@ -96,8 +96,8 @@ test('a published book opens with the list in its page, and with its files where
   const page = path.join(folder, 'index.html');
   const whole = await readFile(page, 'utf8');
   const damaged = [whole.replace('"numbers":[', '"numbers":[0.5,'), whole.replace(' data-file="web/start"', ''),
-    whole.replace('src="files/web.js"', '')];
-  for (const [index, html] of [whole, whole, ...damaged, ...damaged].entries()) {
+    whole.replace('src="files/web.js"', ''), whole.replace('"settings":"', '"settings":"AAAA')];
+  for (const [index, html] of [whole, whole, ...damaged, whole, ...damaged].entries()) {
     await writeFile(page, html);
     const book = await reader[index % 2 ? 'openFromDisk' : 'openOverHttp'](folder, { hash: '#page=8' });
     assert.equal(await book.page.evaluate(() => window.folvero.pageCount), 8, book.errors.join());

@@ -50,11 +50,14 @@ export class BookError extends Error {
  */
 
 /** What early.js has requested already. */
-const { asked, runScript, here } = window.folveroConfiguration;
+const { asked, runScript, here, whole } = window.folveroConfiguration;
 
-/** @returns {Promise<Uint8Array>} the enciphered configuration */
-async function fetchBinary() {
-  const response = /** @type {Response} */ (await asked);
+/**
+ * @param {Promise<unknown>} request
+ * @returns {Promise<Uint8Array>} the enciphered configuration
+ */
+async function fetchBinary(request) {
+  const response = /** @type {Response} */ (await request);
   if (!response.ok) throw new Error('status ' + response.status);
   return new Uint8Array(await response.arrayBuffer());
 }
@@ -76,13 +79,16 @@ async function readScriptCopy(run) {
 export async function loadConfiguration() {
   const fromDisk = location.protocol === 'file:';
   let answered = true;
-  const sources = fromDisk || here ? [() => readScriptCopy(asked)]
-    : [fetchBinary, () => readScriptCopy(runScript())];
+  /** @param {Promise<unknown>} request */
+  const ofFile = (request) => (fromDisk ? [() => readScriptCopy(request)]
+    : [() => fetchBinary(request), () => readScriptCopy(runScript())]);
+  const inPage = () => readScriptCopy(asked);
+  const sources = !here ? ofFile(asked) : whole ? [inPage, ...ofFile(whole)] : [inPage];
   for (const source of sources) {
     try {
       return parseConfiguration(decipher(await source()));
     } catch (error) {
-      if (error instanceof BookError) throw error;
+      if (error instanceof BookError && !(whole && source === inPage)) throw error;
       // fetch() rejects with a TypeError only when no server answers.
       if (error instanceof TypeError) answered = false;
     }
