@@ -91,13 +91,17 @@ QStringList TemplateOptions::choices(const FlashTemplateProperty& property) {
     return property.propertyType() == pt_list ? property.valueSource().split(u',') : QStringList();
 }
 
-std::shared_ptr<FlashTemplate> TemplateOptions::load(const QString& templateName,
-                                                     const QString& styleName) {
+void TemplateOptions::checkLibrary() {
     if (templateNames().isEmpty()) {
         throw CommandError(QStringLiteral("%1: holds no templates; the program is not installed "
                                           "completely")
                                .arg(Bundle::resourcePath()));
     }
+}
+
+std::shared_ptr<FlashTemplate> TemplateOptions::load(const QString& templateName,
+                                                     const QString& styleName) {
+    checkLibrary();
     if (!templateNames().contains(templateName)) {
         throw CommandError(QStringLiteral("there is no template \"%1\"; there are: %2")
                                .arg(templateName, templateNames().join(QStringLiteral(", "))));

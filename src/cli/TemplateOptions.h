@@ -12,6 +12,9 @@ namespace TemplateOptions {
 // Names of the templates in the library (folders with a template file), sorted.
 QStringList templateNames();
 
+// Throws CommandError when there are no templates.
+void checkLibrary();
+
 // Names of a template's styles, sorted.
 QStringList styleNames(const QString& templateName);
 

@@ -77,6 +77,7 @@ void printProperty(const FlashTemplateProperty& property, int depth) {
 } // namespace
 
 void runTemplates(bool json) {
+    TemplateOptions::checkLibrary();
     if (json) {
         printAsJson();
         return;

@@ -16,9 +16,11 @@
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <algorithm>
 #include <csignal>
 #include <fcntl.h>
 #include <optional>
+#include <span>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -47,19 +49,27 @@ QString decodedAssignment(const QByteArray& typed) {
 
 // An option whose value is a text; the text is not null when the option was given.
 CLI::Option* addText(CLI::App& command, const std::string& name, QString& value,
-                     const std::string& help,
-                     QString (*decode)(const QByteArray&) = NameAliases::text) {
+                     const std::string& help) {
     return command.add_option_function<std::string>(
         name,
-        [&value, decode](const std::string& typed) {
-            value = decode(QByteArray::fromStdString(typed));
+        [&value](const std::string& typed) {
+            value = NameAliases::text(QByteArray::fromStdString(typed));
         },
         help);
 }
 
+// The same for the path of a file or folder; an option's must not be empty.
 CLI::Option* addPath(CLI::App& command, const std::string& name, QString& path,
                      const std::string& help) {
-    return addText(command, name, path, help, NameAliases::decoded);
+    return command.add_option_function<std::string>(
+        name,
+        [name, &path](const std::string& typed) {
+            if (typed.empty() && name.starts_with('-'))
+                throw CommandError(QString::fromStdString(name + ": the name of the file is empty"),
+                                   ExitCode::usage);
+            path = NameAliases::decoded(QByteArray::fromStdString(typed));
+        },
+        help);
 }
 
 PublishOptions::Type typeNamed(const std::string& name) {
@@ -259,6 +269,28 @@ void openStandardStreams() {
     }
 }
 
+// The words of the command line in the order in which CLI11 takes them. It takes the word after
+// "--title=" for the value, but not after "--title" and an empty word.
+std::vector<std::string> wordsOf(int argc, char** argv, const CLI::App& app) {
+    const auto hasValue = [&app](const std::string& option) {
+        const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
+        return std::any_of(commands.begin(), commands.end(), [&](const CLI::App* command) {
+            const auto* known = command->get_option_no_throw(option);
+            return known && known->get_items_expected_min() > 0;
+        });
+    };
+    std::vector<std::string> words;
+    for (const std::string word : std::span(argv, std::size_t(argc)).subspan(1)) {
+        const std::string option = word.substr(0, word.size() - 1);
+        const bool isEmpty = word.starts_with("--") && word.ends_with('=') && hasValue(option);
+        words.push_back(isEmpty ? option : word);
+        if (isEmpty)
+            words.emplace_back();
+    }
+    std::reverse(words.begin(), words.end());
+    return words;
+}
+
 int run(int argc, char** argv) {
     CLI::App app("Turns PDF files into page-flip books.", "folvero");
     CommandLine line;
@@ -287,7 +319,7 @@ int run(int argc, char** argv) {
     addDecode(app, line);
     addServe(app, line);
     try {
-        app.parse(argc, argv);
+        app.parse(wordsOf(argc, argv, app));
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : int(ExitCode::usage);
     }

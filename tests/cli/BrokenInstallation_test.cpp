@@ -64,6 +64,9 @@ TEST_F(BrokenInstallation, NamesWhatIsWrongWithItsTemplates) {
         EXPECT_FALSE(exists({}));
     };
     expectFailure(": holds no templates; the program is not installed completely\n");
+    const auto listed = Program::runOther(path("bin/folvero"), {"templates", "--json"});
+    EXPECT_EQ(listed.exitCode, 1);
+    EXPECT_TRUE(listed.errors.contains("share/folvero: holds no templates"));
     for (const QByteArray& xml : {QByteArray("<template></template>"), QByteArray("\0\1\2", 3),
                                   QByteArray("no markup"), QByteArray()}) {
         library.addTemplateFile("float", xml);
