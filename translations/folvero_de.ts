@@ -730,7 +730,7 @@
         <translation>Soll das Buch den Text des Dokuments enthalten?</translation>
     </message>
     <message>
-        <source>The document forbids to copy its text. Without text the book can&apos;t be searched, and its words can&apos;t be selected or read aloud.</source>
+        <source>The document forbids copying its text. Without text the book can&apos;t be searched, and its words can&apos;t be selected or read aloud.</source>
         <translation>Das Dokument verbietet, seinen Text zu kopieren. Ohne Text lässt sich das Buch nicht durchsuchen, und seine Wörter lassen sich nicht markieren oder vorlesen.</translation>
     </message>
 </context>

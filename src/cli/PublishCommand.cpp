@@ -227,7 +227,7 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
                              .arg(reason.english()));
     }
     if (output.lacksText())
-        Terminal::report(QStringLiteral("folvero: %1: the document forbids to copy its text, so "
+        Terminal::report(QStringLiteral("folvero: %1: the document forbids copying its text, so "
                                         "the book has no text to search "
                                         "and to select; --allow-text includes it")
                              .arg(options.pdf));

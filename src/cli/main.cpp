@@ -151,7 +151,7 @@ void addPublish(CLI::App& app, PublishOptions& options) {
     command->add_flag("--single-file", options.singleFile,
                       "Put all of a web book into its HTML page, for mail and USB sticks");
     command->add_flag("--allow-text", options.allowText,
-                      "Include text in a web book also if the document forbids to copy it");
+                      "Include text in a web book also if the document forbids copying it");
     addText(*command, "--preview-pages", options.previewPages,
             "Pages that a preview of a web book contains, as in --pages; the others\n"
             "show that they are left out")

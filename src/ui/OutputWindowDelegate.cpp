@@ -167,14 +167,15 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     return output;
 }
 
-// If the user declines, the sheet stays open to choose another folder.
+// If the user declines or cancels, the sheet stays open for other choices.
 void OutputWindowDelegate::onPublish() {
     saveChoices();
     iOutput = makeOutput();
     const QString lost = overwriteWarning(*iOutput);
     if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
         return;
-    askForText(*iOutput);
+    if (!askForText(*iOutput))
+        return;
     const PageFiles kind = AppSettings::shareInstance().outputType() == OutputWindow::webBook
                                ? PageFiles::web
                                : PageFiles::classic;
@@ -184,20 +185,23 @@ void OutputWindowDelegate::onPublish() {
         publishAndEnd();
 }
 
-// A web book contains the document's text unless the document forbids to copy it.
-void OutputWindowDelegate::askForText(FolveroOutput& output) const {
+// A web book contains the document's text unless the document forbids copying it. False when the
+// user cancels.
+bool OutputWindowDelegate::askForText(FolveroOutput& output) const {
     auto* const web = dynamic_cast<FolveroOutputWeb*>(&output);
     try {
         if (!web || !iBook.document || iBook.document->viewing().allowsText)
-            return;
+            return true;
     } catch (const PlatformException& failure) {
         logger.warn(failure.reason());
-        return;
+        return true;
     }
-    web->setIncludesForbiddenText(iQuestions.includeText(
-        tr("Include the document's text?"), tr("The document forbids to copy its text. Without "
-                                               "text the book can't be searched, and its "
-                                               "words can't be selected or read aloud.")));
+    const auto answer = iQuestions.includeText(tr("Include the document's text?"),
+                                               tr("The document forbids copying its text. Without "
+                                                  "text the book can't be searched, and its "
+                                                  "words can't be selected or read aloud."));
+    web->setIncludesForbiddenText(answer.value_or(false));
+    return answer.has_value();
 }
 
 // Of pages that were imported for another kind of book. Takes as long as an import.

@@ -35,15 +35,17 @@ public:
 
     // How the user is asked for a folder (none when cancelled), whether to replace what would be
     // lost and whether to open the result (true for yes); how a file or folder is opened; how an
-    // error is shown; and whether to include text that the document forbids to copy.
+    // error is shown; and whether to include text that the document forbids copying (none when
+    // cancelled).
     struct Questions {
         std::function<std::optional<QString>(const QString& prompt)> folder;
         std::function<bool(const QString& message, const QString& information)> replace;
         std::function<bool(const QString& message, const QString& information)> openResult;
         std::function<void(const QString& path)> open;
         std::function<void(const QString& message, const QString& information)> showMessage;
-        std::function<bool(const QString& message, const QString& information)> includeText =
-            [](const QString& /*message*/, const QString& /*information*/) { return false; };
+        std::function<std::optional<bool>(const QString& message, const QString& information)>
+            includeText =
+                [](const QString& /*message*/, const QString& /*information*/) { return false; };
     };
     void setQuestions(Questions questions) { iQuestions = std::move(questions); }
 
@@ -67,7 +69,7 @@ private:
     // What a publish replaces as a whole.
     static QString place(const FolveroOutput& output);
     void rememberBook(const FolveroOutput& output) const;
-    void askForText(FolveroOutput& output) const;
+    bool askForText(FolveroOutput& output) const;
     void publish(FolveroOutput& output);
     void publishAndEnd();
     void makePageFiles(PageFiles kind);

@@ -26,6 +26,11 @@ QString nameFilter(const QStringList& types) {
 void run(QMessageBox& alert, const QString& information) {
     alert.setInformativeText(information);
     PlainText::show(alert);
+    // A style sheet's least width replaces that of the text: the box would cut long ones off.
+    for (QAbstractButton* button : alert.buttons()) {
+        button->ensurePolished();
+        button->setMinimumWidth(button->sizeHint().width());
+    }
     alert.exec();
 }
 
@@ -85,15 +90,19 @@ bool Panels::askToReplace(const QString& message, const QString& information) {
     return alert.clickedButton() == replace;
 }
 
-bool Panels::askForText(const QString& message, const QString& information) {
+std::optional<bool> Panels::askForText(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Question, QApplication::applicationDisplayName(), message,
                       QMessageBox::NoButton, QApplication::activeWindow());
-    const QAbstractButton* with = alert.addButton(
-        QCoreApplication::translate("Panels", "With text"), QMessageBox::AcceptRole);
-    alert.setDefaultButton(alert.addButton(QCoreApplication::translate("Panels", "Without text"),
-                                           QMessageBox::RejectRole));
+    const QAbstractButton* with =
+        alert.addButton(QCoreApplication::translate("Panels", "With text"), QMessageBox::YesRole);
+    QPushButton* without =
+        alert.addButton(QCoreApplication::translate("Panels", "Without text"), QMessageBox::NoRole);
+    alert.addButton(QCoreApplication::translate("Panels", "Cancel"), QMessageBox::RejectRole);
+    alert.setDefaultButton(without);
     run(alert, information);
-    return alert.clickedButton() == with;
+    if (alert.clickedButton() == with)
+        return true;
+    return alert.clickedButton() == without ? std::optional(false) : std::nullopt;
 }
 
 void Panels::showMessage(const QString& message, const QString& information) {

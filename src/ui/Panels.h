@@ -33,8 +33,8 @@ bool askToOpen(const QString& message, const QString& information);
 // True when the user wants to replace what would be lost; "no" is the default.
 bool askToReplace(const QString& message, const QString& information);
 
-// True for "With text"; "Without text" is the default.
-bool askForText(const QString& message, const QString& information);
+// True for "With text", none when cancelled; "Without text" is the default.
+std::optional<bool> askForText(const QString& message, const QString& information);
 
 void showMessage(const QString& message, const QString& information);
 

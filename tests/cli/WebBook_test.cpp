@@ -181,7 +181,7 @@ TEST_F(WebBookTest, HasTextThatTheDocumentForbidsToCopyOnlyIfAsked) {
             Program::run({"publish", path("secret.pdf"), book(), "--quiet", option});
         ASSERT_EQ(result.exitCode, 0) << result.errors.constData();
         const bool isAllowed = option != u"--force";
-        EXPECT_EQ(result.errors.contains("forbids to copy its text"), !isAllowed);
+        EXPECT_EQ(result.errors.contains("forbids copying its text"), !isAllowed);
         EXPECT_EQ(TestFiles::read(file("files/text/1.js")).contains("Classified"), isAllowed);
         EXPECT_EQ(TestFiles::read(file("files/search/text.js")).contains("Classified"), isAllowed);
         EXPECT_EQ(QFile::exists(file("text.html")), isAllowed);

@@ -1,5 +1,6 @@
 #include "app/desktop/Translations.h"
 #include "desktop/DesktopProgram.h"
+#include "ui/Panels.h"
 
 #include <QWebEngineView>
 
@@ -218,6 +219,12 @@ TEST_F(German, NothingIsCutOffAndLettersAreUnique) {
             << lines(cutOff(*sheet));
         sheet->hide();
     }
+    QTimer::singleShot(0, [] {
+        auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        EXPECT_EQ(lines(cutOff(*box)), "");
+        box->reject();
+    });
+    Panels::askForText("?", "?");
     const QTreeView& settings = *window().outlineView;
     for (const int column : {0, 1})
         EXPECT_LE(static_cast<const QAbstractItemView&>(settings).sizeHintForColumn(column),

@@ -111,6 +111,11 @@ TEST_F(Windows, AreAsWrittenDown) {
         ask(button, [&] { return yesOrNo(Panels::askToReplace("<b>?", "<i>")); });
     for (const char* button : {"Open it", "No"})
         ask(button, [&] { return yesOrNo(Panels::askToOpen("<b>?", "<i>")); });
+    for (const char* button : {"With text", "Without text", "Cancel"})
+        ask(button, [&] {
+            const auto answer = Panels::askForText("<b>?", "<i>");
+            return answer ? yesOrNo(*answer) : "none";
+        });
     ask("OK", [] { return Panels::showMessage("<b>", "<i>"), ""; });
     ask("OK", [] { return Panels::about(), ""; });
     for (const char* button : {"OK", "Cancel"})

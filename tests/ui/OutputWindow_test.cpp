@@ -78,7 +78,8 @@ protected:
     PublishedBook book;
     std::unique_ptr<OutputWindowDelegate> sheet;
     std::optional<QString> folderAnswer;
-    bool replaceAnswer = false, openAnswer = false, includesText = false;
+    bool replaceAnswer = false, openAnswer = false;
+    std::optional<bool> includesText;
     QStringList losses, questions, opened, told;
     QList<int> ended;
     qsizetype progressUnderQuestions = 0;
@@ -203,6 +204,8 @@ TEST_F(PublishSheet, AsksForTextThatTheDocumentForbidsToCopy) {
     imported.pageSource = source;
     imported.document = source->toPageConverter()->PDFDoc();
     sheet->setBook(imported);
+    publish(); // and cancel
+    EXPECT_TRUE(window().isVisible() && !book.exists("mybook.html"));
     for (const bool answer : {true, false}) {
         includesText = answer;
         ended.clear();

@@ -184,6 +184,13 @@ private:
     void takeBoxes() {
         takeWhile("about", [] { Panels::about(); });
         takeWhile("colour", [] { Panels::chooseColor(QColor("#2f74c0")); });
+        takeWhile("text", [] {
+            Panels::askForText(OutputWindowDelegate::tr("Include the document's text?"),
+                               OutputWindowDelegate::tr(
+                                   "The document forbids copying its text. Without text the book "
+                                   "can't be searched, and its words can't be selected or read "
+                                   "aloud."));
+        });
         takeWhile("published", [] {
             Panels::askToOpen(OutputWindowDelegate::tr("Open the result files?"),
                               OutputWindowDelegate::tr("Publish finished! Open the it?"));
