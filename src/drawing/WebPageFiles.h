@@ -50,6 +50,6 @@ struct WebPageFiles {
 };
 
 // Puts files of a page that were made before to where they are wanted, and returns which ones must
-// still be made.
+// still be made. Hard links are fine: no worker writes there.
 using TakeEarlierPage =
     std::function<PageFiles(int page, PageFiles wanted, const WebPageFiles& files)>;

@@ -6,12 +6,16 @@ PDFToPageConverter::PDFToPageConverter(const QString& pdfPath, std::shared_ptr<P
                                        int quality)
     : iQuality(quality),
       iPDFPath(pdfPath),
-      iConverterWorkFolder(TemporaryFolders::make(QStringLiteral("Lumivex"))),
+      iConverterWorkFolder(newWorkFolder()),
       iPDFDoc(std::move(pdfDoc)) {}
 
 PDFToPageConverter::~PDFToPageConverter() {
     if (!iConverterWorkFolder.isEmpty())
         TemporaryFolders::remove(iConverterWorkFolder);
+}
+
+QString PDFToPageConverter::newWorkFolder() {
+    return TemporaryFolders::make(QStringLiteral("Lumivex"));
 }
 
 QString PDFToPageConverter::generatePage(int /*page*/) {

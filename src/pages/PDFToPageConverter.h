@@ -34,6 +34,10 @@ public:
     const std::shared_ptr<PDFDocument>& PDFDoc() const { return iPDFDoc; }
     void setPDFDoc(std::shared_ptr<PDFDocument> document) { iPDFDoc = std::move(document); }
 
+protected:
+    // A temporary folder, which the caller removes.
+    static QString newWorkFolder();
+
 private:
     int iQuality;
     QString iPDFPath;

@@ -6,12 +6,17 @@
 #include "pdf/PDFLimits.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
+#include "system/FolderRemoval.h"
+#include "system/TemporaryFolders.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
+#include <sys/stat.h>
 #include <utility>
 
 PDFToSWFPageConverter::~PDFToSWFPageConverter() {
@@ -44,10 +49,13 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     }
     if (!iMovies)
         iMovies = std::move(movies);
-    iUnchecked = toDraw;
+    iDrawn.insert(toDraw.begin(), toDraw.end());
+    iIsUnchecked = true;
     if (iTakeEarlierPage)
         takeEarlierPages(toDraw);
     std::erase_if(toDraw, [this](int page) { return iFilesOf(page) == PageFiles::none; });
+    if (!toDraw.empty())
+        detachFiles();
     iWorkers = std::make_unique<PageWorkers>(PDFPath(), converterWorkFolder(), quality(),
                                              std::move(toDraw), stop);
     iWorkers->setPassword(password());
@@ -60,23 +68,57 @@ void PDFToSWFPageConverter::drawAhead(const std::vector<int>& pages,
     iWorkerCount = iWorkers ? iWorkers->workerCount() : 0;
 }
 
-// Once: it puts files into the work folder.
+// Once, to a folder of their own: they are hard links to files of a published book, and a worker
+// that was taken over may write whatever is in the work folder.
 void PDFToSWFPageConverter::takeEarlierPages(const std::vector<int>& pages) {
     const auto take = std::exchange(iTakeEarlierPage, nullptr);
+    iEarlierFolder = newWorkFolder();
     std::map<int, PageFiles> wanted;
     for (const int page : pages)
-        wanted[page] = take(page, iFilesOf(page), WebPageFiles(converterWorkFolder(), page));
+        wanted[page] = take(page, iFilesOf(page), WebPageFiles(iEarlierFolder, page));
     iFilesOf = [of = std::move(wanted)](int page) {
         const auto found = of.find(page);
         return found == of.end() ? PageFiles::classic : found->second;
     };
 }
 
+void PDFToSWFPageConverter::moveEarlierFiles() {
+    for (const QString& name : QDir(iEarlierFolder).entryList(QDir::Files)) {
+        const QByteArray from = QFile::encodeName(Files::join(iEarlierFolder, name));
+        const QString to = Files::join(converterWorkFolder(), name);
+        if (std::rename(from.constData(), QFile::encodeName(to).constData()) != 0 &&
+            FolderRemoval::remove(to)) // a folder that a worker made
+            (void)std::rename(from.constData(), QFile::encodeName(to).constData());
+    }
+    TemporaryFolders::remove(std::exchange(iEarlierFolder, {}));
+}
+
+// Books that were published have hard links to the files that were drawn for them.
+void PDFToSWFPageConverter::detachFiles() const {
+    for (const QString& name : QDir(converterWorkFolder()).entryList(QDir::Files)) {
+        const QString path = Files::join(converterWorkFolder(), name);
+        const QString own = Files::temporaryPath(path);
+        struct stat info {};
+        if (::lstat(QFile::encodeName(path).constData(), &info) != 0 || info.st_nlink < 2)
+            continue;
+        Message error;
+        if (!Files::copy(path, own, &error))
+            throw PlatformException(ErrorKind::workFolder, Message::about(path, error));
+        if (std::rename(QFile::encodeName(own).constData(), QFile::encodeName(path).constData()) !=
+            0)
+            throw PlatformException(ErrorKind::workFolder,
+                                    Message::about(path, Message::ofLastSystemError()));
+    }
+}
+
+// Each worker can write the files of every page, those of earlier drawings included.
 void PDFToSWFPageConverter::endDrawingAhead() {
     iWorkers.reset();
     iStop = nullptr;
-    for (const int page : std::exchange(iUnchecked, {}))
-        checkFilesOf(page);
+    if (!iEarlierFolder.isNull())
+        moveEarlierFiles();
+    if (std::exchange(iIsUnchecked, false))
+        std::for_each(iDrawn.begin(), iDrawn.end(), [this](int page) { checkFilesOf(page); });
 }
 
 // A worker that was taken over may write such a file, which runs in the reader's Flash Player.
@@ -84,7 +126,7 @@ bool PDFToSWFPageConverter::hasMovie(int page) const {
     return iMovies ? iMovies->contains(page) : QFileInfo::exists(workFile(page, "swf"));
 }
 
-// Not before all workers have ended: each can write the files of every page.
+// Not before all workers have ended.
 void PDFToSWFPageConverter::checkFilesOf(int page) {
     const WebPageFiles files(converterWorkFolder(), page);
     const auto isForeign = [&](const QString& path) {
@@ -125,8 +167,13 @@ QString PDFToSWFPageConverter::generatePage(int page) {
 
 QString PDFToSWFPageConverter::pictureOf(int page) const {
     const WebPageFiles files(converterWorkFolder(), page);
-    const bool isPageFile = QFileInfo::exists(files.pageFile) || !QFileInfo::exists(files.picture);
-    return isPageFile ? files.pageFile : files.picture;
+    return isThere(files.pageFile) || !isThere(files.picture) ? files.pageFile : files.picture;
+}
+
+bool PDFToSWFPageConverter::isThere(const QString& file) const {
+    return QFileInfo::exists(file) ||
+           (!iEarlierFolder.isNull() &&
+            QFileInfo::exists(Files::join(iEarlierFolder, Files::lastPathComponent(file))));
 }
 
 void PDFToSWFPageConverter::pdfPageToImage(int page, const QString& /*toPath*/) {
@@ -158,7 +205,7 @@ void PDFToSWFPageConverter::makePage(int page) {
         throw PlatformException(ErrorKind::workFolder, result.error);
     if (iStop && *iStop)
         return; // no page's fault
-    const bool hasPicture = QFileInfo::exists(pictureOf(page));
+    const bool hasPicture = isThere(pictureOf(page));
     Message failure = result.error.isNull() ? result.made.degraded : result.error;
     // A worker that a document controls may answer anything.
     if (failure.isNull() && !hasPicture)

@@ -45,6 +45,7 @@ public:
     void drawAhead(const std::vector<int>& pages, const std::atomic<bool>& stop);
 
     // Stops the page workers, and removes files that they wrote which are not what they should be.
+    // Files of earlier pages are in the work folder only then.
     void endDrawingAhead();
 
     // Returns the path whether or not the page could be drawn. Throws PlatformException when the
@@ -77,6 +78,9 @@ private:
     // The picture of a page that is there, else the page file.
     QString pictureOf(int page) const;
     void takeEarlierPages(const std::vector<int>& pages);
+    void moveEarlierFiles();
+    void detachFiles() const;
+    bool isThere(const QString& file) const;
     PageResult drawInProcess(int page);
     void makePage(int page);
     bool hasMovie(int page) const;
@@ -91,7 +95,9 @@ private:
     TakeEarlierPage iTakeEarlierPage;
     const std::atomic<bool>* iStop = nullptr;
     std::optional<std::set<int>> iMovies; // pages with a file "N.swf" when drawing began
-    std::vector<int> iUnchecked;          // pages that the workers may have written
+    QString iEarlierFolder;               // for files that workers must not write
+    std::set<int> iDrawn;                 // pages whose files workers may have written
+    bool iIsUnchecked = false;            // workers may have written some since
     std::vector<FailedPage> iFailedPages;
     std::map<int, Message> iDegradedPages;
     std::map<int, Message> iDamagedPages;

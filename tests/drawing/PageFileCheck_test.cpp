@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QTemporaryDir>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -79,6 +81,39 @@ TEST(PageFileCheck, KeepsForeignFilesOutOfBooks) {
     EXPECT_EQ(folder.entryList({"1.*", "4.*"}, QDir::Files | QDir::System), QStringList());
     EXPECT_FALSE(folder.exists("2.thumb.jpg") || folder.exists("3.large.vectors"));
     EXPECT_TRUE(folder.exists("5.large.vectors") && folder.exists("5.thumb.jpg"));
+
+    pages.drawAhead({2}, stop);
+    TestFiles::write(folder.filePath("5.thumb.jpg"), "<html><script>1</script>");
+    pages.endDrawingAhead();
+    EXPECT_FALSE(folder.exists("5.thumb.jpg"));
+}
+
+TEST(PageFileCheck, KeepsPublishedFilesOutOfReachOfTheWorkers) {
+    const QTemporaryDir book;
+    const std::string published = book.filePath("1.jpg").toStdString();
+    ASSERT_TRUE(QImage(9, 9, QImage::Format_RGB32).save(book.filePath("1.jpg")));
+    PDFToSWFPageConverter pages(Program::sample("sample.pdf"),
+                                PDFReader::open(Program::sample("sample.pdf")), 100);
+    const QDir folder(pages.converterWorkFolder());
+    pages.setFilesOf(webFiles);
+    pages.setTakeEarlierPage([&](int, PageFiles, const WebPageFiles& files) {
+        std::filesystem::create_hard_link(published, files.pageFile.toStdString());
+        return PageFiles::text;
+    });
+    const std::atomic<bool> stop{false};
+    pages.drawAhead({1}, stop);
+    EXPECT_FALSE(folder.exists("1.jpg"));
+    EXPECT_EQ(pages.generatePage(1), folder.filePath("1.jpg"));
+    pages.endDrawingAhead();
+    EXPECT_TRUE(folder.exists("1.jpg"));
+    EXPECT_EQ(std::filesystem::hard_link_count(published), 2U);
+    EXPECT_TRUE(pages.failedPages().empty() && pages.degradedPages().empty());
+
+    pages.setFilesOf(webFiles);
+    pages.drawAhead({2}, stop);
+    EXPECT_EQ(std::filesystem::hard_link_count(published), 1U) << "the book's own";
+    pages.endDrawingAhead();
+    EXPECT_TRUE(folder.exists("1.jpg"));
 }
 
 } // namespace
