@@ -80,11 +80,11 @@ QString bookName(const PublishOptions& options) {
     return name + QStringLiteral(".html");
 }
 
-// The state is that of the file when the stamp was compared with it.
-OpenedPDF openDocument(const PublishOptions& options, const FileState& state) {
+// What counts is the file as it was when the stamp was compared with it.
+OpenedPDF openDocument(const PublishOptions& options, const PublishStamp& stamp) {
     OpenedPDF opened =
         InputFile::openForDrawing(options.pdf, options.password.password(), options.jobs);
-    opened.document->setOpenedState(state);
+    opened.document->setOpenedState(stamp.documentState(), stamp.documentDigest());
     if (opened.document->pageCount() == 0)
         throw CommandError(QStringLiteral("%1: the document has no pages").arg(options.pdf),
                            ExitCode::badDocument);
@@ -284,7 +284,7 @@ FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& open
 }
 
 MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, PublishTiming& timing) {
-    OpenedPDF opened = openDocument(options, stamp.documentState());
+    OpenedPDF opened = openDocument(options, stamp);
     const auto document = opened.document;
     const auto tmpl = prepareTemplate(options, document->isRightToLeft());
     PageSelection pages = selectPages(options.pages, document->pageCount());

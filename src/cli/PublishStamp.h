@@ -17,6 +17,7 @@ public:
 
     // The document when it was read for this.
     const FileState& documentState() const { return iDocumentState; }
+    const QByteArray& documentDigest() const { return iWanted.document.digest; }
 
     // The book is there, and was made of the same document with the same options.
     bool isUpToDate() const;

@@ -42,11 +42,6 @@ qint64 nanosecondsNow() {
     return duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
 }
 
-QByteArray digestOf(QFile& file) {
-    QCryptographicHash hash(digestMethod);
-    return hash.addData(&file) ? hash.result().toHex() : QByteArray();
-}
-
 QStringList filesBelow(const QString& path) {
     if (!QFileInfo(path).isDir())
         return {path};
@@ -103,7 +98,7 @@ BookStamp::Document BookStamp::documentAt(const QString& path, const BookStamp& 
                          known.modified + timeTolerance < known.read;
     if (isKnown)
         return known;
-    found.digest = digestOf(file);
+    found.digest = Files::digest(path);
     return found;
 }
 

@@ -16,6 +16,7 @@ FlashPageSourcePDF::FlashPageSourcePDF(const QString& pdfPath, const QString& pa
     try {
         opened.open(sourceFile(), std::move(stopped));
         iPDFDoc = opened.document;
+        iPDFDoc->rememberContent();
         splitSpreads(spreads);
     } catch (const PlatformException& failure) {
         iOpenError = failure;

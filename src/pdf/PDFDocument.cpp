@@ -1,8 +1,28 @@
 #include "pdf/PDFDocument.h"
 
-void PDFDocument::checkUnchanged() const {
-    if (FileState::of(iPath) == iState)
+#include "system/Files.h"
+
+void PDFDocument::setOpenedState(const FileState& state, const QByteArray& digest) {
+    iState = state;
+    iDigest = digest;
+}
+
+void PDFDocument::rememberContent() {
+    if (!iDigest.isEmpty())
         return;
+    const QByteArray digest = Files::digest(iPath);
+    if (FileState::of(iPath) == iState)
+        iDigest = digest;
+}
+
+void PDFDocument::checkUnchanged() const {
+    const FileState now = FileState::of(iPath);
+    if (now == iState)
+        return;
+    if (now.isAsWritten(iState) && !iDigest.isEmpty() && Files::digest(iPath) == iDigest) {
+        iState = now;
+        return;
+    }
     throw PlatformException(
         ErrorKind::pdfChanged,
         Message::translate("PDFDocument", "the file was changed after reading it had begun")

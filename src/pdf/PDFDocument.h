@@ -33,10 +33,13 @@ public:
     const QByteArray& password() const { return iPassword; }
     // Throws PlatformException (pdfChanged) when the file was replaced or written since it was
     // opened: what was read and drawn may then come from two different documents. The reason is
-    // temporary, see Message.
+    // temporary, see Message. A new mode or hard link is no change where the content is known.
     virtual void checkUnchanged() const;
-    // The state that counts as opened, for callers that read the file before.
-    void setOpenedState(const FileState& state) { iState = state; }
+    // The state that counts as opened, for callers that read the file before, and Files::digest()
+    // of what they read.
+    void setOpenedState(const FileState& state, const QByteArray& digest);
+    // Reads the whole file for checkUnchanged(), unless the digest was given.
+    void rememberContent();
 
     virtual int pageCount() const = 0;
     // Throws PlatformException (pageMissing) unless there is a page at that zero-based index.
@@ -81,5 +84,6 @@ protected:
 private:
     QString iPath;
     QByteArray iPassword;
-    FileState iState; // before it was opened
+    mutable FileState iState; // before it was opened, or since, with the same content
+    QByteArray iDigest;       // empty when it isn't known
 };

@@ -22,3 +22,9 @@ FileState FileState::of(const QString& path) {
             nanoseconds(info.st_mtim),
             nanoseconds(info.st_ctim)};
 }
+
+bool FileState::isAsWritten(const FileState& other) const {
+    FileState same = other;
+    same.changed = changed;
+    return *this == same;
+}

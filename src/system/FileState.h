@@ -18,5 +18,9 @@ struct FileState {
 
     static FileState of(const QString& path);
 
+    // The same but for the time "changed", as after a new mode, owner or hard link; or after
+    // writing and setting "written" back.
+    bool isAsWritten(const FileState& other) const;
+
     bool operator==(const FileState& other) const = default;
 };

@@ -2,7 +2,9 @@
 
 #include "system/FileDescriptor.h"
 
+#include <QCryptographicHash>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <algorithm>
 #include <cerrno>
@@ -136,6 +138,14 @@ bool Files::haveSameContent(const QString& one, const QString& other) {
         left -= bytes.size();
     }
     return true;
+}
+
+QByteArray Files::digest(const QString& path) {
+    QFile file(path);
+    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    const bool isRead = QFileInfo(path).isFile() && // opening a pipe would block
+                        file.open(QIODevice::ReadOnly) && hash.addData(&file);
+    return isRead ? hash.result().toHex() : QByteArray();
 }
 
 QString Files::join(const QString& folder, const QString& name) {

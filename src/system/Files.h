@@ -44,6 +44,9 @@ bool linkOrCopy(const QString& source, const QString& target, Message* error = n
 // Whether two files have the same content; false when either can't be read.
 bool haveSameContent(const QString& one, const QString& other);
 
+// A digest of the content of a file, as text; empty when it can't be read or is no regular file.
+QByteArray digest(const QString& path);
+
 // "FOLDER/NAME", whether or not the folder ends in a separator; FOLDER when the name is empty.
 QString join(const QString& folder, const QString& name);
 

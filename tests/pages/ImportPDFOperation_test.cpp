@@ -48,7 +48,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
         struct stat info {};
         ::fstat(file.handle(), &info);
-        file.write("%");
+        file.write("#");
         file.close();
         const timespec times[]{info.st_atim, info.st_mtim};
         ::utimensat(AT_FDCWD, iPath.toUtf8().constData(), times, 0);
@@ -183,6 +183,16 @@ TEST_F(ImportPDFOperationTest, GivesNoPagesOfADocumentThatIsChangedMeanwhile) {
     EXPECT_EQ(englishTexts(operation->failures()),
               QStringList{iPath + ": the file was changed after reading it had begun"});
     EXPECT_TRUE(operation->failures()[0].isTemporary());
+}
+
+// By a program for backups, for example.
+TEST_F(ImportPDFOperationTest, TakesADocumentOfAnotherModeForTheSame) {
+    const auto operation = import();
+    const auto observer =
+        atEachStep([this](int step) { ::chmod(iPath.toUtf8().constData(), 0600U + mode_t(step)); });
+    operation->main();
+    EXPECT_EQ(englishTexts(operation->failures()), QStringList());
+    EXPECT_TRUE(operation->flashPageSource());
 }
 
 TEST_F(ImportPDFOperationTest, GivesNoBookWithoutPagesThatWereLost) {
