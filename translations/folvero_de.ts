@@ -197,6 +197,15 @@
         <translation>So heißt schon die Seite mit dem Text des Buchs</translation>
     </message>
     <message>
+        <source>%1: the page of the template &quot;%2&quot; is missing, empty, not readable, or outside of the templates&apos; folder</source>
+        <extracomment>%1 is a file, %2 the template&apos;s name</extracomment>
+        <translation>%1: die Seite der Vorlage „%2“ fehlt, ist leer, nicht lesbar oder nicht im Ordner der Vorlagen</translation>
+    </message>
+    <message>
+        <source>%1: is missing; the program is not installed completely</source>
+        <translation>%1: fehlt; das Programm ist nicht vollständig installiert</translation>
+    </message>
+    <message>
         <source>it was changed while the book was published</source>
         <translation>es wurde geändert, während das Buch veröffentlicht wurde</translation>
     </message>

@@ -155,14 +155,6 @@ void setPageSize(QSize size, FlashTemplate& tmpl) {
     tmpl.setPropertyValue(QStringLiteral("pageHeight"), QString::number(size.height()));
 }
 
-// Without its program an application can't be opened.
-void checkShell() {
-    const QString shell = FolveroOutputApp::shellFolder();
-    if (!QFileInfo(shell).isDir())
-        throw CommandError(
-            QStringLiteral("%1: is missing; the program is not installed completely").arg(shell));
-}
-
 struct Publisher {
     std::unique_ptr<FolveroOutput> output;
     FolveroOutputWeb* web = nullptr; // the output, if it makes a web book
@@ -345,11 +337,11 @@ MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     WebBookOptions::check(options);
     // Reports an invalid name or setting before an hour of drawing.
     const auto asked = prepareTemplate(options, false);
-    TemplateOptions::checkPage(*asked);
-    if (options.type == Type::app)
-        checkShell();
     const QString folder = QDir::cleanPath(QFileInfo(options.outputFolder).absoluteFilePath());
-    const QString file = makePublisher(options, asked, folder).output->outputFileName();
+    const auto output = makePublisher(options, asked, folder).output;
+    if (const Message missing = output->missingPart(); !missing.isNull())
+        throw CommandError(Messages{missing});
+    const QString file = output->outputFileName();
     const PublishStamp stamp(options, *asked, file);
     if (!stamp.isUpToDate() || options.force)
         return makeAnew(options, stamp, timing);

@@ -121,14 +121,6 @@ std::shared_ptr<FlashTemplate> TemplateOptions::load(const QString& templateName
     return tmpl;
 }
 
-void TemplateOptions::checkPage(const FlashTemplate& tmpl) {
-    if (Files::contents(tmpl.tmplHTMLFilePath()).trimmed().isEmpty()) {
-        throw CommandError(QStringLiteral("the template \"%1\": its page %2 is missing, empty, not "
-                                          "readable, or outside of the templates' folder")
-                               .arg(tmpl.tmplName(), tmpl.HTMLFilePath()));
-    }
-}
-
 void TemplateOptions::applySettingsFile(FlashTemplate& tmpl, const QString& path) {
     // Far beyond any: whatever it is, it has no settings.
     constexpr qint64 mostBytes = 16 << 20;

@@ -25,9 +25,6 @@ QStringList choices(const FlashTemplateProperty& property);
 // not exist or the template is damaged.
 std::shared_ptr<FlashTemplate> load(const QString& templateName, const QString& styleName);
 
-// Throws CommandError when the template's page can't be used: a book would have an empty one.
-void checkPage(const FlashTemplate& tmpl);
-
 // Applies a settings file. Throws CommandError when it can't be read.
 void applySettingsFile(FlashTemplate& tmpl, const QString& path);
 

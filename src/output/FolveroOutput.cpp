@@ -69,6 +69,16 @@ QString FolveroOutput::titleOfExistingBook() const {
                            : ExistingBook::title(Files::join(iSaveToFolder, pages.front()));
 }
 
+Message FolveroOutput::missingPart() const {
+    if (!iFlashTemplate || !Files::contents(iFlashTemplate->tmplHTMLFilePath()).trimmed().isEmpty())
+        return {};
+    //: %1 is a file, %2 the template's name
+    return Message::translate("FolveroOutput",
+                              "%1: the page of the template \"%2\" is missing, empty, not "
+                              "readable, or outside of the templates' folder")
+        .arg(iFlashTemplate->HTMLFilePath(), iFlashTemplate->tmplName());
+}
+
 void FolveroOutput::ouputTheBook() {
     resetResults();
     if (!QFileInfo(iSaveToFolder).isDir())

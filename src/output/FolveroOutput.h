@@ -46,6 +46,9 @@ public:
     // asking, so callers must ask first. Works before pages and title are set, so it can be called
     // before drawing.
     virtual QStringList foreignFiles() const;
+    // What lacks in the template or the installation, so that nobody could open the book; null for
+    // nothing. A run makes it all the same, so callers must ask first.
+    virtual Message missingPart() const;
     // The title, as plain text, of the book that a run would replace. Null when there is none, or
     // its page has no title.
     QString titleOfExistingBook() const;

@@ -26,9 +26,15 @@ Message lastErrorAt(const QString& path) {
     return Message::about(path, Message::ofLastSystemError());
 }
 
+// Where the application's program and its other files are installed.
+QString shellFolder() {
+    return Files::join(Bundle::resourcePath(),
+                       QStringLiteral("AppFiles/TmplData/mac.app/Contents/"));
+}
+
 // The shell's files keep their permissions: one of them has to be executable.
 std::error_code copyShell(const QString& contents) {
-    const QString shell = FolveroOutputApp::shellFolder();
+    const QString shell = shellFolder();
     std::error_code error;
     std::filesystem::copy(QFile::encodeName(shell).toStdString(),
                           QFile::encodeName(contents).toStdString(),
@@ -81,16 +87,19 @@ void FolveroOutputApp::ouputTheBook() {
     }
 }
 
-QString FolveroOutputApp::shellFolder() {
-    return Files::join(Bundle::resourcePath(),
-                       QStringLiteral("AppFiles/TmplData/mac.app/Contents/"));
-}
-
 QStringList FolveroOutputApp::foreignFiles() const {
     const QString bundle = outputFileName();
     if (!ForeignFiles::isThere(bundle) || hasExistingBook())
         return {};
     return {bundle};
+}
+
+Message FolveroOutputApp::missingPart() const {
+    if (QFileInfo(shellFolder()).isDir())
+        return FolveroOutput::missingPart();
+    return Message::translate("FolveroOutput",
+                              "%1: is missing; the program is not installed completely")
+        .arg(shellFolder());
 }
 
 bool FolveroOutputApp::publishInto(const QString& working) {

@@ -17,12 +17,10 @@ public:
     // Creates the folder when it is missing.
     void ouputTheBook() override;
 
-    // Where the application's program and its other files are installed. A book is made without
-    // them, too; that is logged.
-    static QString shellFolder();
-
     // The bundle, unless it contains a book.
     QStringList foreignFiles() const override;
+    // Without its program an application can't be opened.
+    Message missingPart() const override;
 
     QString outputHTMLFileName() const override;
     // Path of the bundle.

@@ -60,6 +60,16 @@ void showProgress(QProgressDialog* dialog, int done, int total) {
     bar->setValue(done);
 }
 
+// A permission that can't be read is not given.
+bool allowsText(const PDFDocument& document) {
+    try {
+        return document.viewing().allowsText;
+    } catch (const PlatformException& failure) {
+        logger.warn(failure.reason());
+        return false;
+    }
+}
+
 } // namespace
 
 OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
@@ -171,6 +181,11 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
 void OutputWindowDelegate::onPublish() {
     saveChoices();
     iOutput = makeOutput();
+    if (const Message missing = iOutput->missingPart(); !missing.isNull()) {
+        iQuestions.showMessage(tr("The book was not published"), missing.local());
+        endSheet(1);
+        return;
+    }
     const QString lost = overwriteWarning(*iOutput);
     if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
         return;
@@ -189,13 +204,8 @@ void OutputWindowDelegate::onPublish() {
 // user cancels.
 bool OutputWindowDelegate::askForText(FolveroOutput& output) const {
     auto* const web = dynamic_cast<FolveroOutputWeb*>(&output);
-    try {
-        if (!web || !iBook.document || iBook.document->viewing().allowsText)
-            return true;
-    } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+    if (!web || !iBook.document || allowsText(*iBook.document))
         return true;
-    }
     const auto answer = iQuestions.includeText(tr("Include the document's text?"),
                                                tr("The document forbids copying its text. Without "
                                                   "text the book can't be searched, and its "

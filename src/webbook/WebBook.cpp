@@ -81,6 +81,7 @@ void WebBook::readDocument(const std::optional<std::vector<PageRun>>& openPages)
     const auto& document = content.document;
     if (!document)
         return;
+    metadata.allowsText = false; // unless that can be read
     try {
         readInformation(*document, metadata);
         readViewing(*document, metadata);

@@ -77,7 +77,7 @@ TEST_F(BrokenInstallation, NamesWhatIsWrongWithItsTemplates) {
     const QString page = library.templatePath("float") + "/index.html";
     ASSERT_TRUE(QFile::rename(page, path("page.html")) && QFile::link(path("page.html"), page));
     for (const char* type : {"html", "web"})
-        expectFailure("the template \"float\": its page index.html is missing", type);
+        expectFailure("index.html: the page of the template \"float\" is missing", type);
 }
 
 TEST_F(BrokenInstallation, CostsTheLinksAndTheBookmarksAndNotTheBook) {
@@ -89,6 +89,13 @@ TEST_F(BrokenInstallation, CostsTheLinksAndTheBookmarksAndNotTheBook) {
         EXPECT_TRUE(result.errors.contains(cause)) << result.errors.constData();
     EXPECT_TRUE(exists("files/page/1.jpg"));
     EXPECT_TRUE(TestFiles::read(file("index.html")).contains("<title>Links"));
+}
+
+TEST_F(BrokenInstallation, CostsTheTextOfADocumentWhosePermissionsCannotBeRead) {
+    replaceWorker(QByteArray(breakingReader).replace("annotations", "viewing"));
+    EXPECT_EQ(publish("text.pdf", Program::path("../share"), "web").exitCode, 0);
+    EXPECT_TRUE(exists("files/page/1.png"));
+    EXPECT_FALSE(exists("text.html"));
 }
 
 // Keeps what the drawing workers are asked for.

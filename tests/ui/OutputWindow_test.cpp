@@ -46,7 +46,10 @@ protected:
                              },
                              [this](const QString& path) { opened << path; },
                              [this](const QString&, const QString& cause) { told << cause; },
-                             [this](const QString&, const QString&) { return includesText; }});
+                             [this](const QString&, const QString&) {
+                                 ++textQuestions;
+                                 return includesText;
+                             }});
         sheet->beginSheet();
         QObject::connect(&window(), &QDialog::finished, [this](int code) { ended << code; });
     }
@@ -83,6 +86,7 @@ protected:
     QStringList losses, questions, opened, told;
     QList<int> ended;
     qsizetype progressUnderQuestions = 0;
+    int textQuestions = 0;
 };
 
 } // namespace
@@ -213,6 +217,10 @@ TEST_F(PublishSheet, AsksForTextThatTheDocumentForbidsToCopy) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !ended.isEmpty(); }, 20000));
         EXPECT_EQ(book.exists("text.html"), answer);
     }
+    EXPECT_TRUE(QFile::remove(file));
+    imported.document->stopReader();
+    publish();
+    EXPECT_EQ(textQuestions, 4) << "whose permissions can't be read";
 }
 
 TEST_F(PublishSheet, CancelsAWebBookWhileItsPagesAreMade) {
@@ -236,6 +244,7 @@ TEST_F(PublishSheet, NamesThePageWhosePictureHasGone) {
 }
 
 TEST_F(PublishSheet, PublishesAnApplication) {
+    book.library.addFile("AppFiles/TmplData/mac.app/Contents/Info.plist", "");
     AppSettings::shareInstance().setOutputType(OutputWindow::application);
     AppSettings::shareInstance().setPageSize({300, 400});
     open();
@@ -269,6 +278,20 @@ TEST_F(PublishSheet, OffersAWebBookInOneFileAndTheTextToEmbedIt) {
     EXPECT_EQ(QDir(book.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{"mybook.html"});
     EXPECT_TRUE(book.read("mybook.html").contains(Base91::encode("first")));
+}
+
+TEST_F(PublishSheet, NamesWhatAnApplicationOrATemplateLacks) {
+    AppSettings::shareInstance().setOutputType(OutputWindow::application);
+    open();
+    publish();
+    EXPECT_EQ(told.filter("is missing; the program is not installed completely").size(), 1);
+    AppSettings::shareInstance().setOutputType(OutputWindow::htmlBook);
+    book.library.addFile("AppFiles/Templates/float/index.html", "\n");
+    open();
+    publish();
+    EXPECT_EQ(told.filter("index.html: the page of the template \"float\" is missing").size(), 1);
+    EXPECT_FALSE(book.exists("mybook.app") || book.exists("mybook.html"));
+    EXPECT_EQ(ended, QList<int>({1, 1}));
 }
 
 TEST_F(PublishSheet, RemembersTheChoicesAlsoWhenPublishingFails) {
