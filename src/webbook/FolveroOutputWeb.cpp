@@ -1,5 +1,6 @@
 #include "webbook/FolveroOutputWeb.h"
 
+#include "base/PlatformException.h"
 #include "output/BookSteps.h"
 #include "output/ExistingBook.h"
 #include "output/ForeignFiles.h"
@@ -40,6 +41,13 @@ void FolveroOutputWeb::ouputTheBook() {
     iReport = {};
     if (!iBook.pageSource || !QFileInfo(iSaveToFolder).isDir())
         return;
+    try {
+        // The service worker of a run that was killed would be taken for somebody else's.
+        StagingFolder::removeStale(iSaveToFolder);
+    } catch (const PlatformException& failure) {
+        reportFailure(failure.message());
+        return;
+    }
     const WebBook book = webBook();
     for (const WebPage& page : book.pages) {
         if (!page.failure.isNull())
