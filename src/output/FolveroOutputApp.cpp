@@ -11,8 +11,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <filesystem>
+#include <system_error>
 
 namespace {
+
+namespace fs = std::filesystem;
 
 const QString resourcesInBundle = QStringLiteral("Contents/Resources/");
 
@@ -33,18 +36,35 @@ QString shellFolder() {
 }
 
 // The shell's files keep their permissions: one of them has to be executable.
-std::error_code copyShell(const QString& contents) {
-    const QString shell = shellFolder();
+Message copyEntry(const fs::directory_entry& entry, const fs::path& target) {
     std::error_code error;
-    std::filesystem::copy(QFile::encodeName(shell).toStdString(),
-                          QFile::encodeName(contents).toStdString(),
-                          std::filesystem::copy_options::recursive, error);
-    if (error) {
+    Message failure;
+    if (entry.is_directory(error))
+        fs::create_directory(target, entry.path(), error);
+    else if (!entry.is_regular_file(error))
+        error = std::make_error_code(std::errc::not_supported);
+    // fs::copy_file() reports any failure to write as an error of the device.
+    else if (Files::copy(QFile::decodeName(entry.path().c_str()), QFile::decodeName(target.c_str()),
+                         &failure))
+        fs::permissions(target, entry.status().permissions(), error);
+    return error ? Message::ofSystemError(error.value()) : failure;
+}
+
+// Null when all is copied.
+Message copyShell(const QString& contents) {
+    const fs::path shell(QFile::encodeName(shellFolder()).toStdString());
+    const fs::path target(QFile::encodeName(contents).toStdString());
+    std::error_code error;
+    Message failure = copyEntry(fs::directory_entry(shell, error), target);
+    for (fs::recursive_directory_iterator entry(shell, error), end;
+         !error && failure.isNull() && entry != end; entry.increment(error))
+        failure = copyEntry(*entry, target / entry->path().lexically_relative(shell));
+    if (error)
+        failure = Message::ofSystemError(error.value());
+    if (!failure.isNull())
         Log("FolveroOutputApp")
-            .error(QStringLiteral("ouput the book,copy failed:%1")
-                       .arg(Message::ofSystemError(error.value()).english()));
-    }
-    return error;
+            .error(QStringLiteral("ouput the book,copy failed:%1").arg(failure.english()));
+    return failure;
 }
 
 } // namespace
@@ -108,9 +128,9 @@ bool FolveroOutputApp::publishInto(const QString& working) {
         reportFailure(lastErrorAt(outputFileName()));
         return false;
     }
-    const std::error_code shellError = copyShell(Files::join(working, QStringLiteral("Contents")));
-    if (shellError && QFileInfo(shellFolder()).isDir()) {
-        reportFailure(Message::about(outputFileName(), Message::ofSystemError(shellError.value())));
+    const Message shellError = copyShell(Files::join(working, QStringLiteral("Contents")));
+    if (!shellError.isNull() && QFileInfo(shellFolder()).isDir()) {
+        reportFailure(Message::about(outputFileName(), shellError));
         return false;
     }
     const QString resources = Files::join(working, resourcesInBundle);
