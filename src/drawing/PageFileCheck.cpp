@@ -17,9 +17,6 @@
 
 namespace {
 
-// Our pictures have no metadata: their headers are a few hundred bytes.
-constexpr qsizetype headBytes = 1 << 16;
-
 using Text = std::string_view;
 
 constexpr std::array elements{Text("use"),  Text("path"),  Text("g"),    Text("clipPath"),
@@ -153,6 +150,12 @@ QByteArray contentsOf(const FileDescriptor& file, qsizetype size) {
     return bytes.left(std::max<qsizetype>(0, qsizetype(got)));
 }
 
+// A size beyond ours would take the memory of all who open the book.
+bool isOfPage(QSize size) {
+    return std::max(size.width(), size.height()) <= PDFLimits::maxBitmapSide &&
+           std::size_t(size.width()) * std::size_t(size.height()) <= PDFLimits::maxBitmapPixels;
+}
+
 // Without the lines of glyphs, which may have any character: the player makes numbers of them.
 std::string withoutGlyphs(Text vectors) {
     std::string rest;
@@ -185,11 +188,14 @@ bool PageFileCheck::isGenuine(const WebPageFiles& files, const QString& path) {
         return false;
     if (path == files.text)
         return true; // checked by PDFSerialization
+    const QByteArray bytes = contentsOf(file, qsizetype(facts.st_size));
     if (path == files.largeVector)
-        return areHarmless(contentsOf(file, qsizetype(facts.st_size)));
-    const QByteArray head =
-        contentsOf(file, std::min<qsizetype>(headBytes, qsizetype(facts.st_size)));
-    return !(path.endsWith(u".png") ? PictureHeader::sizeOfPNG(head)
-                                    : PictureHeader::sizeOfJPEG(head))
-                .isEmpty();
+        return areHarmless(bytes);
+    // Of a scan in the document, and as large as it is there.
+    if (path == files.largePhotograph)
+        return !PictureHeader::sizeOfJPEG(bytes).isEmpty();
+    const bool isPNG = path.endsWith(u".png");
+    const QSize size = isPNG ? PictureHeader::sizeOfPNG(bytes) : PictureHeader::sizeOfJPEG(bytes);
+    return !size.isEmpty() && (path == files.largePicture || isOfPage(size)) &&
+           (isPNG ? PictureHeader::isWholePNG(bytes) : PictureHeader::isWholeJPEG(bytes));
 }

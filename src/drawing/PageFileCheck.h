@@ -8,8 +8,8 @@
 // read an untrusted document, which may have taken them over.
 namespace PageFileCheck {
 
-// Whether a file is what its name says, by its first bytes, with a size in pixels; vectors by all
-// of their content. A file that does not exist is; a link is not.
+// Whether a file is what its name says: a picture by its parts and its size in pixels, vectors by
+// all of their content. A file that does not exist is; a link is not.
 bool isGenuine(const WebPageFiles& files, const QString& path);
 
 // Whether packed vectors contain drawings only: no scripts, event handlers or addresses outside of

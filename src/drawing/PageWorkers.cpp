@@ -226,7 +226,8 @@ void PageWorkers::readAnswer(Worker& worker, const QByteArray& line) {
         result.error = fields[0] == "full" ? reason.temporary() : reason;
         result.endsImport = true;
     } else {
-        result.error = reasonFrom(line.mid(fields[0].size() + 1));
+        result.error = fields[0] == "fail" ? reasonFrom(line.mid(5))
+                                           : Message::translate("PageFailure", "it was not drawn");
     }
     worker.pages.pop_front();
     worker.since = std::chrono::steady_clock::now();

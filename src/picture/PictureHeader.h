@@ -9,4 +9,9 @@ namespace PictureHeader {
 QSize sizeOfJPEG(QByteArrayView head);
 QSize sizeOfPNG(QByteArrayView head);
 
+// Whether a file of that kind is a picture from the first to the last byte: nothing is hidden
+// between or behind its parts. Their contents are not decoded.
+bool isWholeJPEG(QByteArrayView file);
+bool isWholePNG(QByteArrayView file);
+
 } // namespace PictureHeader

@@ -32,19 +32,6 @@ namespace {
 
 constexpr Log logger("FolveroOutputWeb");
 
-// The file was written by a process that has read an untrusted document.
-std::vector<PDFTextLine> textFrom(const QString& path) {
-    if (path.isNull())
-        return {};
-    const QByteArray packed = PublishTransaction::contents(path);
-    try {
-        return PDFSerialization::unpack<std::vector<PDFTextLine>>(packed);
-    } catch (const PlatformException& failure) {
-        logger.warn(QStringLiteral("%1: %2").arg(path, failure.reason()));
-        return {};
-    }
-}
-
 // The pages may have been drawn long before their texts and links are read.
 void checkUnchanged(const PDFDocument& document) {
     try {
@@ -67,6 +54,7 @@ public:
 private:
     void copy(const QString& source, const QString& path);
     void copyLarge(const WebPage& page);
+    std::vector<PDFTextLine> linesOf(const WebPage& page);
     QByteArray textOf(const WebPage& page, const std::vector<PDFTextLine>& lines);
 
     PublishTarget& iTo;
@@ -104,9 +92,26 @@ QString PageWriter::write(const WebPage& page) {
     iReport.pageBytes += QFileInfo(page.picture).size();
     copy(page.thumbnail, BookLayout::thumbnail(page.number));
     copyLarge(page);
-    const auto lines = iBook.hasText ? textFrom(page.text) : std::vector<PDFTextLine>();
+    const auto lines = iBook.hasText ? linesOf(page) : std::vector<PDFTextLine>();
     writeScript(BookLayout::text(page.number), textOf(page, lines));
     return WebPageText::plain(lines);
+}
+
+// The file was written by a process that has read an untrusted document.
+std::vector<PDFTextLine> PageWriter::linesOf(const WebPage& page) {
+    if (page.text.isNull())
+        return {};
+    const QByteArray packed = PublishTransaction::contents(page.text);
+    try {
+        return PDFSerialization::unpack<std::vector<PDFTextLine>>(packed);
+    } catch (const PlatformException& failure) {
+        logger.warn(QStringLiteral("%1: %2").arg(page.text, failure.reason()));
+        iReport.degradedPages.emplace_back(
+            page.number,
+            Message::translate("PageFailure",
+                               "the program that draws pages wrote a file that is none of a page"));
+        return {};
+    }
 }
 
 QByteArray PageWriter::textOf(const WebPage& page, const std::vector<PDFTextLine>& lines) {

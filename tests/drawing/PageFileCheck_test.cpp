@@ -60,7 +60,7 @@ TEST(PageFileCheck, KeepsForeignFilesOutOfBooks) {
                                 PDFReader::open(Program::sample("sample.pdf")), 100);
     pages.setFilesOf(webFiles);
     const std::atomic<bool> stop{false};
-    const std::vector numbers{1, 2, 3, 4, 5};
+    const std::vector numbers{1, 2, 3, 4, 5, 6, 7, 8};
     pages.drawAhead(numbers, stop);
     const QDir folder(pages.converterWorkFolder());
     TestFiles::write(folder.filePath("5.swf"), "FWS");
@@ -71,13 +71,22 @@ TEST(PageFileCheck, KeepsForeignFilesOutOfBooks) {
     TestFiles::write(folder.filePath("3.large.vectors"), packed("<script>1</script>"));
     QFile::remove(folder.filePath("4.png"));
     QFile::link("/etc/hostname", folder.filePath("4.png"));
+    const QImage small(8, 8, QImage::Format_RGB32);
+    small.save(folder.filePath("6.jpg"));
+    small.save(folder.filePath("7.png"));
+    for (const char* picture : {"6.jpg", "7.png"})
+        TestFiles::write(folder.filePath(picture),
+                         TestFiles::read(folder.filePath(picture)) + "<script>");
+    QByteArray huge = TestFiles::read(folder.filePath("8.thumb.jpg"));
+    huge.replace(huge.indexOf("\xff\xc0") + 5, 4, "\x7f\xff\x7f\xff");
+    TestFiles::write(folder.filePath("8.thumb.jpg"), huge);
     pages.endDrawingAhead();
 
     std::vector<int> failed;
     for (const auto& page : pages.failedPages())
         failed.push_back(page.page);
-    EXPECT_EQ(failed, (std::vector{1, 4}));
-    EXPECT_EQ(pages.degradedPages().size(), 2U);
+    EXPECT_EQ(failed, (std::vector{1, 4, 6, 7}));
+    EXPECT_EQ(pages.degradedPages().size(), 3U);
     EXPECT_EQ(folder.entryList({"1.*", "4.*"}, QDir::Files | QDir::System), QStringList());
     EXPECT_FALSE(folder.exists("2.thumb.jpg") || folder.exists("3.large.vectors"));
     EXPECT_TRUE(folder.exists("5.large.vectors") && folder.exists("5.thumb.jpg"));
