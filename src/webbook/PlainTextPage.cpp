@@ -23,9 +23,17 @@ QByteArray escaped(const QString& text) {
 
 } // namespace
 
+template <typename Action>
+void PlainTextPage::attempt(Action action) {
+    errno = 0;
+    if (iError.isNull() && !action())
+        iError = errno ? Message::ofLastSystemError() : Message(iFile.errorString());
+}
+
 PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book,
                              const QString& path)
-    : iMetadata(metadata), iFile(path), iIsWritten(iFile.open(QIODevice::WriteOnly)) {
+    : iMetadata(metadata), iFile(path) {
+    attempt([this] { return iFile.open(QIODevice::WriteOnly); });
     const QByteArray address = QUrl::toPercentEncoding(book);
     const QByteArray language =
         escaped(metadata.language.isEmpty() ? QStringLiteral("en") : metadata.language);
@@ -54,11 +62,12 @@ void PlainTextPage::addPage(const QString& text) {
     write("</section>\n");
 }
 
-bool PlainTextPage::finish(Message* error) {
-    errno = 0;
+Message PlainTextPage::finish() {
     write("</main>\n</body>\n</html>\n");
-    if (iIsWritten && iFile.flush())
-        return true;
-    *error = errno ? Message::ofLastSystemError() : Message(iFile.errorString());
-    return false;
+    attempt([this] { return iFile.flush(); });
+    return iError;
+}
+
+void PlainTextPage::write(const QByteArray& html) {
+    attempt([&] { return iFile.write(html) == html.size(); });
 }

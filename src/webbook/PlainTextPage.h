@@ -20,16 +20,17 @@ public:
     // Skips the next page of the book.
     void skipPage() { ++iPosition; }
 
-    // False, with the cause in *error, when the file could not be written.
-    bool finish(Message* error);
+    // Null, or why the file could not be written.
+    Message finish();
 
 private:
-    void write(const QByteArray& html) {
-        iIsWritten = iIsWritten && iFile.write(html) == html.size();
-    }
+    // Does something with the file, unless that failed before.
+    template <typename Action>
+    void attempt(Action action);
+    void write(const QByteArray& html);
 
     const WebBookMetadata& iMetadata;
     QFile iFile;
-    bool iIsWritten;
+    Message iError;
     int iPosition = 0;
 };

@@ -280,8 +280,8 @@ void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookRep
     report.searchParts = search.finish();
     writer.writeScript(BookLayout::metadata, WebScript::json(book.metadata.forPlayer(
                                                  book.content.outline.get(), report.searchParts)));
-    Message error;
-    if (plain && !plain->finish(&error))
+    const Message error = plain ? plain->finish() : Message();
+    if (!error.isNull())
         PublishTransaction::fail(to.layout.at(textPage), error);
 }
 
