@@ -7,6 +7,8 @@ target_compile_options(folvero-settings INTERFACE
 target_compile_options(folvero-settings INTERFACE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 target_compile_definitions(folvero-settings INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS)
+# An index beyond the end of a container ends the program before it reads or writes there.
+target_compile_definitions(folvero-settings INTERFACE _GLIBCXX_ASSERTIONS)
 # Resolves function addresses at start and makes their table read-only (full RELRO).
 target_link_options(folvero-settings INTERFACE -Wl,-z,now)
 
