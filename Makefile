@@ -15,7 +15,7 @@ help:
 	@echo "make app [PDF=file.pdf]                 start the program with its window"
 	@echo "make package                            make Debian packages to install it with"
 	@echo "make test                               build and run every test"
-	@echo "make faults                             kill the program wherever it changes a book's folder"
+	@echo "make faults                             inject faults into publishing and check what becomes of the book"
 	@echo "make sanitizers                         the core's tests under sanitizers, a moment of fuzzing"
 	@echo "make bench                              measure, see docs/performance.md"
 	@echo "make format-check                       check the format of the C++ code"
