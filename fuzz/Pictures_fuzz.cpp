@@ -1,5 +1,6 @@
 #include "Fuzz.h"
 #include "output/ImageSize.h"
+#include "picture/JPEGDamage.h"
 #include "picture/JPEGFile.h"
 #include "picture/PictureHeader.h"
 
@@ -27,12 +28,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     QByteArray file = Fuzz::Input(data, size).rest();
     const QSize jpeg = PictureHeader::sizeOfJPEG(file);
     Fuzz::require(jpeg.isEmpty() || PictureHeader::sizeOfPNG(file).isEmpty(), "one kind only");
+    for (const auto isWhole : {PictureHeader::isWholePNG, PictureHeader::isWholeJPEG})
+        Fuzz::require(!isWhole(file) || (!isWhole(file + 'x') && !isWhole(file.chopped(1))),
+                      "a whole picture ends with its file");
     const QByteArray plain = JPEGFile::withoutMetadata({data, size});
     if (!plain.isEmpty()) {
-        const auto* bytes = reinterpret_cast<const unsigned char*>(plain.constData());
+        const JPEGFile::Bytes rest(reinterpret_cast<const unsigned char*>(plain.constData()),
+                                   std::size_t(plain.size()));
         Fuzz::require(plain.size() <= file.size(), "metadata are left out, nothing is added");
-        Fuzz::require(JPEGFile::withoutMetadata({bytes, std::size_t(plain.size())}) == plain,
-                      "all metadata are left out");
+        Fuzz::require(JPEGFile::withoutMetadata(rest) == plain, "all metadata are left out");
+        Fuzz::require(JPEGDamage::isIn(rest) == JPEGDamage::isIn({data, size}),
+                      "no damage is done");
         Fuzz::require(PictureHeader::sizeOfJPEG(plain) == jpeg, "the picture stays");
     }
     if (!jpeg.isEmpty() && jpeg.width() <= mostPixels / jpeg.height())
