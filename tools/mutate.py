@@ -38,7 +38,7 @@ NEAR = {"server": "cli", "console": "cli", "webbook": "cli", "worker": "drawing"
 SLOW_SHARE = 0.02
 # Files of tests/browser for the folders of the player.
 BROWSER = {"book": "opening|layout|settings|backgrounds|hostile", "turning": "turning|zoom", "web": "web-.*",
-           "controls": "controls|zoom|turning", "panels": "panels|thumbnails|printing|controls"}
+           "controls": "controls|zoom|turning|backgrounds", "panels": "panels|thumbnails|printing|controls"}
 
 # Log texts, assertions, layout in pixels, and what makes things faster only.
 LEFT_OUT = re.compile(

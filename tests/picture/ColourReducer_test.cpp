@@ -1,5 +1,6 @@
 #include "picture/ColourReducer.h"
 
+#include "picture/MedianCut.h"
 #include "picture/PNGEncoder.h"
 
 #include <QImage>
@@ -100,4 +101,14 @@ TEST(ColourReducer, RoundsColoursWhereNobodySeesIt) {
             EXPECT_LE(difference(bitmap, image), error);
         }
     }
+}
+
+TEST(MedianCut, SeparatesAColourFromManyThatAreFarFromIt) {
+    std::vector<CountedColour> colours;
+    for (const unsigned char level :
+         std::initializer_list<unsigned char>{0, 1, 2, 3, 200, 4, 5, 6, 7, 8})
+        colours.push_back({{level, level, level}, 1});
+    const auto boxes = medianCut(colours, 2, 0, 0);
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(std::min(boxes[0].range, boxes[1].range), 0);
 }

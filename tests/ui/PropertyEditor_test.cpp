@@ -7,6 +7,7 @@
 #include "base/NotificationCenter.h"
 #include "support/TemplateLibrary.h"
 
+#include <QAbstractItemModelTester>
 #include <QTest>
 #include <QtWidgets>
 #include <gtest/gtest.h>
@@ -101,6 +102,8 @@ protected:
 
     FlashTemplateOutline view;
     FlashTemplateModel model;
+    QAbstractItemModelTester contract{&model,
+                                      QAbstractItemModelTester::FailureReportingMode::Fatal};
     PropertyCellDelegate* cells;
 };
 

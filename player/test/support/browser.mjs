@@ -44,6 +44,7 @@ export class Thing extends EventTarget {
   setAttribute = (name, value) => { this[name] = value; };
   removeAttribute = (name) => { delete this[name]; };
   replaceChildren = () => {};
+  append = () => {};
   setPointerCapture = () => {};
   remove = () => {};
 }
