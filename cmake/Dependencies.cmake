@@ -20,6 +20,7 @@ pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
 # Its header declares different classes without the definitions that Debian's library was built with.
 pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)
 pkg_check_modules(turbojpeg REQUIRED IMPORTED_TARGET libturbojpeg)
+pkg_check_modules(sqlite REQUIRED IMPORTED_TARGET sqlite3)
 
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     pkg_check_modules(seccomp REQUIRED IMPORTED_TARGET libseccomp)
@@ -40,3 +41,10 @@ find_library(YUV_LIBRARY yuv REQUIRED)
 add_library(yuv INTERFACE)
 target_include_directories(yuv SYSTEM INTERFACE ${YUV_INCLUDE_DIR})
 target_link_libraries(yuv INTERFACE ${YUV_LIBRARY})
+
+# Nor has libcsv.
+find_path(CSV_INCLUDE_DIR csv.h REQUIRED)
+find_library(CSV_LIBRARY csv REQUIRED)
+add_library(libcsv INTERFACE)
+target_include_directories(libcsv SYSTEM INTERFACE ${CSV_INCLUDE_DIR})
+target_link_libraries(libcsv INTERFACE ${CSV_LIBRARY})

@@ -21,6 +21,7 @@ drawing template annotations
 pages
 output
 webbook
+library
 app console
 ui cli server worker
 app/desktop

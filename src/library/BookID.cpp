@@ -1,0 +1,62 @@
+#include "library/BookID.h"
+
+#include "output/BookName.h"
+
+#include <QCryptographicHash>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QtEndian>
+
+namespace {
+
+constexpr qsizetype longestID = 100;
+constexpr qsizetype longestWords = 60;
+constexpr qsizetype digestBytes = 16;
+constexpr qsizetype digitsOfPath = 10;
+
+// Lower-case words of ASCII joined by hyphens; empty for a name without any.
+QString asWords(const QString& name) {
+    QString words;
+    for (const QChar letter : name.normalized(QString::NormalizationForm_KD).toLower()) {
+        const bool isPlain = letter.unicode() < 0x80 && letter.isLetterOrNumber();
+        if (isPlain)
+            words += letter;
+        else if (!letter.isMark() && !words.isEmpty() && !words.endsWith(u'-'))
+            words += u'-';
+    }
+    words.truncate(longestWords);
+    while (words.endsWith(u'-'))
+        words.chop(1);
+    return words;
+}
+
+} // namespace
+
+QString BookID::problemWith(const QString& id) {
+    static const QRegularExpression allowed(QStringLiteral("^[A-Za-z0-9][A-Za-z0-9._-]*$"));
+    if (id.size() > longestID)
+        return QStringLiteral("the ID has more than %1 characters").arg(longestID);
+    if (!allowed.match(id).hasMatch() || id.endsWith(u'.') || id.endsWith(u'\n') ||
+        !BookName::isSafe(id))
+        return QStringLiteral("\"%1\" can't be an ID: use letters from a to z, digits, dots, "
+                              "hyphens and underscores, the first a letter or digit")
+            .arg(id);
+    return {};
+}
+
+QString BookID::forPath(const QString& path) {
+    const QByteArray hash =
+        QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Blake2b_160).toHex();
+    const QString end = QString::fromLatin1(hash.left(digitsOfPath));
+    const QString words = asWords(QFileInfo(path).completeBaseName());
+    return words.isEmpty() ? end : words + u'-' + end;
+}
+
+QByteArray BookID::digest(const QString& id) {
+    return QCryptographicHash::hash(id.toLower().toLatin1(), QCryptographicHash::Blake2b_160)
+        .left(digestBytes);
+}
+
+int BookID::shard(const QString& id, int count) {
+    return int(qFromBigEndian<quint32>(digest(id).constData()) % quint32(count));
+}
