@@ -1,21 +1,22 @@
 // folvero: makes page-flip books from PDF files without a window.
 
 #include "base/Log.h"
+#include "cli/CommandArguments.h"
 #include "cli/DecodeCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/PasswordOptions.h"
+#include "cli/PublishArguments.h"
 #include "cli/PublishCommand.h"
+#include "cli/PublishOptions.h"
 #include "cli/ServeCommand.h"
 #include "cli/TemplatesCommand.h"
 #include "console/CommandError.h"
 #include "console/Terminal.h"
 #include "output/BookLayout.h"
 #include "system/Bundle.h"
-#include "system/NameAliases.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <algorithm>
 #include <csignal>
 #include <fcntl.h>
@@ -24,6 +25,8 @@
 #include <string>
 #include <unistd.h>
 #include <vector>
+
+using CommandArguments::addPath;
 
 namespace {
 
@@ -39,160 +42,10 @@ struct CommandLine {
     bool verbose = false;
 };
 
-// KEY=VALUE, where the value may be the path of a file.
-QString decodedAssignment(const QByteArray& typed) {
-    const qsizetype key = typed.indexOf('=') + 1;
-    const QString value = typed.isValidUtf8() ? QString() : NameAliases::decoded(typed.sliced(key));
-    return QFileInfo::exists(value) ? NameAliases::text(typed.first(key)) + value
-                                    : NameAliases::text(typed);
-}
-
-// An option whose value is a text; the text is not null when the option was given.
-CLI::Option* addText(CLI::App& command, const std::string& name, QString& value,
-                     const std::string& help) {
-    return command.add_option_function<std::string>(
-        name,
-        [&value](const std::string& typed) {
-            value = NameAliases::text(QByteArray::fromStdString(typed));
-        },
-        help);
-}
-
-// The same for the path of a file or folder; an option's must not be empty.
-CLI::Option* addPath(CLI::App& command, const std::string& name, QString& path,
-                     const std::string& help) {
-    return command.add_option_function<std::string>(
-        name,
-        [name, &path](const std::string& typed) {
-            if (typed.empty() && name.starts_with('-'))
-                throw CommandError(QString::fromStdString(name + ": the name of the file is empty"),
-                                   ExitCode::usage);
-            path = NameAliases::decoded(QByteArray::fromStdString(typed));
-        },
-        help);
-}
-
-PublishOptions::Type typeNamed(const std::string& name) {
-    using Type = PublishOptions::Type;
-    return name == "app" ? Type::app : name == "html" ? Type::html : Type::web;
-}
-
-void addPassword(CLI::App& command, PasswordOptions& options) {
-    command
-        .add_flag("--password", options.ask,
-                  "Ask for the password of a protected PDF on the terminal")
-        ->disable_flag_override();
-    addPath(command, "--password-file", options.file,
-            "A file with the password in its first line; without either option the\n"
-            "environment variable FOLVERO_PASSWORD may hold it")
-        ->type_name("FILE");
-}
-
-// Options that do not change the book.
-void addRunOptions(CLI::App& command, PublishOptions& options) {
-    command.add_flag("--watch", options.watch,
-                     "Run until Ctrl-C, and republish whenever the PDF or the settings file\n"
-                     "changes");
-    command
-        .add_option("--jobs", options.jobs,
-                    "Number of pages to draw at the same time; by default as many as this\n"
-                    "program may use processors, but at most 16")
-        ->check(CLI::Range(1, 256, "1-256"))
-        ->type_name("N");
-    command.add_flag("--quiet", options.quiet, "Show no progress");
-    addPath(command, "--timing", options.timingFile,
-            "Write how long the steps took to this file, as JSON")
-        ->type_name("FILE");
-    addPath(command, "--report", options.reportFile,
-            "Write what was made, or why not, to this file, as JSON; replaces the\n"
-            "report of an earlier run")
-        ->type_name("FILE");
-}
-
-Spreads spreadsNamed(const std::string& name) {
-    return name == "keep" ? Spreads::keep : name == "split" ? Spreads::split : Spreads::automatic;
-}
-
 void addPublish(CLI::App& app, PublishOptions& options) {
     auto* command =
         app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
-    addPath(*command, "PDF", options.pdf, "The PDF file")->type_name("")->required();
-    addPath(*command, "FOLDER", options.outputFolder, "The folder for the book; created if missing")
-        ->type_name("")
-        ->required();
-    command
-        ->add_option_function<std::string>(
-            "--type", [&options](const std::string& name) { options.type = typeNamed(name); },
-            "web: a book with links, contents, search and text to select, for disk and\n"
-            "web; html: a classic book, with pictures of the pages only; app: a Mac\n"
-            "application")
-        ->check(CLI::IsMember({"web", "html", "app"}))
-        ->type_name("TYPE")
-        ->default_str("web");
-    addText(*command, "--name", options.name,
-            "Name of the HTML page (by default index) or of the application (by\n"
-            "default that of the PDF file), without its extension")
-        ->type_name("NAME");
-    addText(*command, "--title", options.title,
-            "Title of the book; by default the title of the document")
-        ->type_name("TEXT");
-    addText(*command, "--pages", options.pages, "Pages to include, for example 1-3,7 or ALL")
-        ->type_name("PAGES")
-        ->default_str("ALL");
-    command
-        ->add_option_function<std::string>(
-            "--spreads",
-            [&options](const std::string& name) { options.spreads = spreadsNamed(name); },
-            "Double pages: auto makes two of each page twice as wide as the first one,\n"
-            "split of each landscape page, keep leaves all as they are")
-        ->check(CLI::IsMember({"auto", "split", "keep"}))
-        ->type_name("HOW")
-        ->default_str("auto");
-    command->add_flag("--single-file", options.singleFile,
-                      "Put all of a web book into its HTML page, for mail and USB sticks");
-    command->add_flag("--allow-text", options.allowText,
-                      "Include text in a web book also if the document forbids copying it");
-    addText(*command, "--preview-pages", options.previewPages,
-            "Pages that a preview of a web book contains, as in --pages; the others\n"
-            "show that they are left out")
-        ->type_name("PAGES");
-    addText(*command, "--url", options.url,
-            "Address at which a web book will be: search engines and previews of links\n"
-            "name it, and show the first page")
-        ->type_name("ADDRESS");
-    command
-        ->add_option("--quality", options.quality,
-                     "100 for the sharpest pages, below that for the smallest files")
-        ->check(CLI::Range(0, 100, "0-100"))
-        ->type_name("N")
-        ->capture_default_str();
-    command->add_flag("--links", options.links,
-                      "Read the links of the pages; web books always have them");
-    command->add_flag("--bookmarks", options.bookmarks,
-                      "Read the bookmarks of the document; web books always have them");
-    addText(*command, "--template", options.templateName, "Template of the book")
-        ->type_name("NAME")
-        ->default_str("float");
-    addText(*command, "--style", options.styleName, "Style of the template")->type_name("NAME");
-    addPath(*command, "--settings", options.settingsFile, "A settings file to apply")
-        ->type_name("FILE");
-    command
-        ->add_option_function<std::vector<std::string>>(
-            "--set",
-            [&options](const std::vector<std::string>& typed) {
-                for (const std::string& assignment : typed)
-                    options.assignments << decodedAssignment(QByteArray::fromStdString(assignment));
-            },
-            "Set one property of the template, see folvero templates; may be given\n"
-            "many times")
-        ->type_name("KEY=VALUE")
-        ->allow_extra_args(false);
-    command->add_flag(
-        "--force", options.force,
-        "Make the book even if it is up to date, and overwrite a page, an application\n"
-        "or other files that don't belong to a book");
-    addPassword(*command, options.password);
-    addRunOptions(*command, options);
+    PublishArguments::addTo(*command, options);
     command->callback([&options] { runPublish(options); });
 }
 
@@ -211,7 +64,7 @@ void addInfo(CLI::App& app, CommandLine& line) {
         app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file")
             ->group("Commands");
     addPath(*command, "PDF", line.pdf, "The PDF file")->type_name("")->required();
-    addPassword(*command, line.password);
+    PublishArguments::addPassword(*command, line.password);
     command->add_flag("--json", line.json, "Print JSON");
     command->callback([&line] {
         runInfo(line.pdf, line.password.password(), line.json);
