@@ -33,6 +33,7 @@ constexpr std::array names{
     std::pair{ErrorKind::publishing, "PublishError"},
     std::pair{ErrorKind::preview, "Publish"},
     std::pair{ErrorKind::previewFolder, "PreviewFolder"},
+    std::pair{ErrorKind::list, "ListFailed"},
 };
 
 constexpr bool listsEachKindInOrder() {
@@ -40,7 +41,7 @@ constexpr bool listsEachKindInOrder() {
         if (std::size_t(names[i].first) != i)
             return false;
     }
-    return names.back().first == ErrorKind::previewFolder;
+    return names.back().first == ErrorKind::list;
 }
 static_assert(listsEachKindInOrder());
 

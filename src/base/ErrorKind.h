@@ -37,6 +37,8 @@ enum class ErrorKind {
     publishing,
     preview,
     previewFolder,
+
+    list, // of a library's books
 };
 
 // The name of a kind in the log and in the answers of page workers.

@@ -44,18 +44,6 @@ bool isRightToLeft(const FlashTemplate& tmpl) {
         tmpl.propertyValueFor(QStringLiteral("RightToLeft"), QStringLiteral("NO")));
 }
 
-// What the document asks for goes before what the user does.
-std::shared_ptr<FlashTemplate> prepareTemplate(const PublishOptions& options, bool isRightToLeft) {
-    auto tmpl = TemplateOptions::load(options.templateName, options.styleName);
-    if (isRightToLeft)
-        tmpl->setPropertyValue(QStringLiteral("RightToLeft"), QStringLiteral("YES"));
-    if (!options.settingsFile.isEmpty())
-        TemplateOptions::applySettingsFile(*tmpl, options.settingsFile);
-    for (const QString& assignment : options.assignments)
-        TemplateOptions::applyAssignment(*tmpl, assignment);
-    return tmpl;
-}
-
 // The file name of the book's page. Its extension marks where the name ends: an application's name
 // may contain dots.
 QString bookName(const PublishOptions& options) {
@@ -278,7 +266,7 @@ FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& open
 MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, PublishTiming& timing) {
     OpenedPDF opened = openDocument(options, stamp);
     const auto document = opened.document;
-    const auto tmpl = prepareTemplate(options, document->isRightToLeft());
+    const auto tmpl = TemplateOptions::prepared(options, document->isRightToLeft());
     PageSelection pages = selectPages(options.pages, document->pageCount());
     for (const QString& remark : pages.remarks)
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
@@ -336,7 +324,7 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
 MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     WebBookOptions::check(options);
     // Reports an invalid name or setting before an hour of drawing.
-    const auto asked = prepareTemplate(options, false);
+    const auto asked = TemplateOptions::prepared(options, false);
     const QString folder = QDir::cleanPath(QFileInfo(options.outputFolder).absoluteFilePath());
     const auto output = makePublisher(options, asked, folder).output;
     if (const Message missing = output->missingPart(); !missing.isNull())

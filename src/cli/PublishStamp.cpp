@@ -71,21 +71,21 @@ QByteArray digestOfPages(const PublishOptions& options, const FlashTemplate& tmp
 
 // Whatever changes the book must be here.
 QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl,
-                        const QByteArray& pages) {
+                        const QByteArray& pages, const QByteArray& resources) {
     Digest digest;
-    digest << pages << options.title << QFileInfo(options.pdf).completeBaseName() << options.pages
-           << int(options.singleFile) << int(options.allowText)
+    digest << pages << resources << options.title << QFileInfo(options.pdf).completeBaseName()
+           << options.pages << int(options.singleFile) << int(options.allowText)
            << int(options.password.isGiven()) // an owner may have the text
            << options.previewPages << options.url << int(options.links) << int(options.bookmarks)
            << options.templateName << options.styleName;
     addProperties(digest, tmpl.properties(), tmpl);
-    addFolder(digest, Files::join(Bundle::resourcePath(), QStringLiteral("AppFiles")));
     return digest.result();
 }
 
 } // namespace
 
-PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& tmpl, QString page)
+PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& tmpl, QString page,
+                           const QByteArray& resources)
     : iPage(std::move(page)),
       iDocumentState(FileState::of(options.pdf)),
       iEarlier(BookStamp::of(iPage)) {
@@ -95,7 +95,13 @@ PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& t
     if (iWanted.document.digest.isEmpty())
         return;
     iWanted.pages = digestOfPages(options, tmpl, iWanted.document.digest);
-    iWanted.book = digestOfBook(options, tmpl, iWanted.pages);
+    iWanted.book = digestOfBook(options, tmpl, iWanted.pages, resources);
+}
+
+QByteArray PublishStamp::digestOfResources() {
+    Digest digest;
+    addFolder(digest, Files::join(Bundle::resourcePath(), QStringLiteral("AppFiles")));
+    return digest.result();
 }
 
 bool PublishStamp::isUpToDate() const {

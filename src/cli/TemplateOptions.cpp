@@ -1,5 +1,6 @@
 #include "cli/TemplateOptions.h"
 
+#include "cli/PublishOptions.h"
 #include "console/CommandError.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
@@ -158,4 +159,16 @@ void TemplateOptions::applyAssignment(FlashTemplate& tmpl, const QString& assign
         tmpl.valueAsFilePath(value).isEmpty())
         refuse(key, value, QStringLiteral("a file of the style"));
     tmpl.setPropertyValue(key, value);
+}
+
+std::shared_ptr<FlashTemplate> TemplateOptions::prepared(const PublishOptions& options,
+                                                         bool isRightToLeft) {
+    auto tmpl = load(options.templateName, options.styleName);
+    if (isRightToLeft)
+        tmpl->setPropertyValue(QStringLiteral("RightToLeft"), QStringLiteral("YES"));
+    if (!options.settingsFile.isEmpty())
+        applySettingsFile(*tmpl, options.settingsFile);
+    for (const QString& assignment : options.assignments)
+        applyAssignment(*tmpl, assignment);
+    return tmpl;
 }

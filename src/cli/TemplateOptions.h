@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <memory>
 
+struct PublishOptions;
+
 // Handles the options that name templates, styles and properties.
 namespace TemplateOptions {
 
@@ -31,5 +33,9 @@ void applySettingsFile(FlashTemplate& tmpl, const QString& path);
 // Applies one "key=value". Throws CommandError for an unknown key, a value that the property can't
 // take, or a file that does not exist.
 void applyAssignment(FlashTemplate& tmpl, const QString& assignment);
+
+// The template of a book with all that is set: first what the document asks for, then what the user
+// does.
+std::shared_ptr<FlashTemplate> prepared(const PublishOptions& options, bool isRightToLeft);
 
 } // namespace TemplateOptions

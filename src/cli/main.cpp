@@ -4,6 +4,7 @@
 #include "cli/CommandArguments.h"
 #include "cli/DecodeCommand.h"
 #include "cli/InfoCommand.h"
+#include "cli/LibraryCommand.h"
 #include "cli/PasswordOptions.h"
 #include "cli/PublishArguments.h"
 #include "cli/PublishCommand.h"
@@ -171,6 +172,7 @@ int run(int argc, char** argv) {
     addInfo(app, line);
     addDecode(app, line);
     addServe(app, line);
+    addLibraryCommands(app, line.password);
     try {
         app.parse(wordsOf(argc, argv, app));
     } catch (const CLI::ParseError& error) {

@@ -39,6 +39,7 @@ ExitCode exitCodeFor(ErrorKind kind) {
     case ErrorKind::publishing:
     case ErrorKind::preview:
     case ErrorKind::previewFolder:
+    case ErrorKind::list:
         return ExitCode::failed;
     }
     return ExitCode::failed;

@@ -57,6 +57,6 @@ QByteArray BookID::digest(const QString& id) {
         .left(digestBytes);
 }
 
-int BookID::shard(const QString& id, int count) {
-    return int(qFromBigEndian<quint32>(digest(id).constData()) % quint32(count));
+int BookID::shardOf(const QByteArray& digest, int count) {
+    return int(qFromBigEndian<quint32>(digest.constData()) % quint32(count));
 }

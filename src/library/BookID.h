@@ -18,7 +18,7 @@ QString forPath(const QString& path);
 // 16 bytes, always the same for the same ID in any letter case.
 QByteArray digest(const QString& id);
 
-// The shard, from 0, that makes the book, of this many.
-int shard(const QString& id, int count);
+// The shard, from 0, that makes a book with an ID of this digest, of this many.
+int shardOf(const QByteArray& digest, int count);
 
 } // namespace BookID

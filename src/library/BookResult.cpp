@@ -8,10 +8,8 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <algorithm>
 #include <array>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -118,18 +116,21 @@ Message BookResult::write(const LibraryLayout& to) const {
                : Message::about(file, cause);
 }
 
+QStringList BookResult::ids(const LibraryLayout& library) {
+    QStringList ids;
+    QDirIterator files(library.results(), {QStringLiteral("*.json")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        ids << QFileInfo(files.next()).completeBaseName();
+    }
+    ids.sort();
+    return ids;
+}
+
 void BookResult::forEach(const LibraryLayout& library,
                          const std::function<void(const BookResult&)>& visit) {
-    std::vector<std::pair<QString, QString>> files; // by ID
-    QDirIterator all(library.results(), {QStringLiteral("*.json")}, QDir::Files,
-                     QDirIterator::Subdirectories);
-    while (all.hasNext()) {
-        const QString path = all.next();
-        files.emplace_back(all.fileInfo().completeBaseName(), path);
-    }
-    std::sort(files.begin(), files.end());
-    for (const auto& [id, file] : files) {
-        const auto result = read(file);
+    for (const QString& id : ids(library)) {
+        const auto result = read(library.result(id));
         if (result && result->id == id)
             visit(*result);
     }

@@ -54,6 +54,8 @@ struct BookResult {
     // Why that failed, or a null message.
     Message write(const LibraryLayout& to) const;
 
+    // The IDs of all results, sorted.
+    static QStringList ids(const LibraryLayout& library);
     // Calls visit with all results, in order of the IDs.
     static void forEach(const LibraryLayout& library,
                         const std::function<void(const BookResult&)>& visit);

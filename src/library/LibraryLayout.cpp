@@ -45,7 +45,7 @@ QString LibraryLayout::lease(const QString& id) const {
 }
 
 QString LibraryLayout::list() const {
-    return stateAt(QStringLiteral("list.jsonl"));
+    return stateAt(QStringLiteral("list.txt"));
 }
 
 QString LibraryLayout::runs() const {

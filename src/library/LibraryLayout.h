@@ -31,7 +31,7 @@ public:
     QString result(const QString& id) const;
     // Held by the run that makes the book.
     QString lease(const QString& id) const;
-    // The list as it was read last.
+    // The IDs of the list as it was read last.
     QString list() const;
     // What each shard did last.
     QString runs() const;

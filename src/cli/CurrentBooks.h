@@ -1,0 +1,31 @@
+#pragma once
+
+#include "cli/PublishOptions.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <map>
+#include <memory>
+
+class FlashTemplate;
+
+// Finds out whether books are as "folvero publish" would make them. What many books share is read
+// once.
+class CurrentBooks {
+public:
+    CurrentBooks();
+
+    struct State {
+        QByteArray inputs;       // digest of what the book depends on; empty without a document
+        bool isUpToDate = false; // the book is there, complete, and made of the same
+    };
+    // For arguments of "folvero publish". Throws CommandError for those that it would refuse.
+    State of(const QStringList& arguments);
+
+private:
+    std::shared_ptr<FlashTemplate> templateFor(const PublishOptions& options);
+
+    QByteArray iResources;
+    std::map<QString, std::shared_ptr<FlashTemplate>> iTemplates; // by the options that make it
+};
