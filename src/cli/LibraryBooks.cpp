@@ -158,6 +158,8 @@ QStringList LibraryBooks::argumentsFor(const ListedBook& book) const {
         arguments << NameAliases::decoded(option);
     if (!book.facts.title.isEmpty())
         arguments << QStringLiteral("--title=") + book.facts.title;
+    if (iOptions.force)
+        arguments << QStringLiteral("--force");
     return arguments << QStringLiteral("--") << NameAliases::decoded(book.path)
                      << iLibrary.book(book.id);
 }

@@ -4,8 +4,8 @@
 
 #include <QCryptographicHash>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QtEndian>
+#include <algorithm>
 
 namespace {
 
@@ -14,12 +14,16 @@ constexpr qsizetype longestWords = 60;
 constexpr qsizetype digestBytes = 16;
 constexpr qsizetype digitsOfPath = 10;
 
+// A letter or digit of ASCII.
+bool isPlain(QChar letter) {
+    return letter.unicode() < 0x80 && letter.isLetterOrNumber();
+}
+
 // Lower-case words of ASCII joined by hyphens; empty for a name without any.
 QString asWords(const QString& name) {
     QString words;
     for (const QChar letter : name.normalized(QString::NormalizationForm_KD).toLower()) {
-        const bool isPlain = letter.unicode() < 0x80 && letter.isLetterOrNumber();
-        if (isPlain)
+        if (isPlain(letter))
             words += letter;
         else if (!letter.isMark() && !words.isEmpty() && !words.endsWith(u'-'))
             words += u'-';
@@ -33,11 +37,13 @@ QString asWords(const QString& name) {
 } // namespace
 
 QString BookID::problemWith(const QString& id) {
-    static const QRegularExpression allowed(QStringLiteral("^[A-Za-z0-9][A-Za-z0-9._-]*$"));
+    const auto isAllowed = [](QChar letter) {
+        return isPlain(letter) || letter == u'.' || letter == u'-' || letter == u'_';
+    };
     if (id.size() > longestID)
         return QStringLiteral("the ID has more than %1 characters").arg(longestID);
-    if (!allowed.match(id).hasMatch() || id.endsWith(u'.') || id.endsWith(u'\n') ||
-        !BookName::isSafe(id))
+    if (id.isEmpty() || !isPlain(id.front()) || id.endsWith(u'.') ||
+        !std::all_of(id.begin(), id.end(), isAllowed) || !BookName::isSafe(id))
         return QStringLiteral("\"%1\" can't be an ID: use letters from a to z, digits, dots, "
                               "hyphens and underscores, the first a letter or digit")
             .arg(id);

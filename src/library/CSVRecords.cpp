@@ -10,6 +10,11 @@ namespace {
 // More than the facts of any book take.
 constexpr qint64 longestRecord = 1'000'000;
 
+// LF, CR LF, or CR alone.
+qint64 lineEndsIn(const QByteArray& text) {
+    return text.count('\r') + (text.endsWith('\n') && !text.endsWith("\r\n") ? 1 : 0);
+}
+
 } // namespace
 
 CSVRecords::CSVRecords(QIODevice& file, char separator, qint64 firstLine)
@@ -44,7 +49,7 @@ bool CSVRecords::next(Record& record) {
         parseLine(line);
         if (iBegun.line == iLine)
             iSecondLine = start + line.size();
-        iLine += line.endsWith('\n') ? 1 : 0;
+        iLine += lineEndsIn(line);
         if (isBegun() && (line.isEmpty() || iFile.pos() - iSecondLine > longestRecord))
             skipUnclosed();
     }
@@ -61,8 +66,9 @@ void CSVRecords::parseLine(const QByteArray& line) {
     };
     const auto onRecord = [](int, void* self) {
         auto* records = static_cast<CSVRecords*>(self);
-        const qint64 begun = records->iBegun.line;
-        records->iComplete.push_back(std::exchange(records->iBegun, {begun, {}, {}}));
+        // Behind a CR alone another one follows.
+        const qint64 next = records->iBegun.line + 1;
+        records->iComplete.push_back(std::exchange(records->iBegun, {next, {}, {}}));
     };
     if (!line.isEmpty())
         csv_parse(iParser.get(), line.constData(), std::size_t(line.size()), onField, onRecord,

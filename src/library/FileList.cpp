@@ -43,7 +43,7 @@ FileList::FileList(const QString& path)
     : iPath(path),
       iFile(path),
       iOpened(FileState::of(path)),
-      iFolder(QFileInfo(path).absolutePath()) {
+      iFolder(NameAliases::encoded(QFileInfo(path).absolutePath())) {
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
         fail(Message(QStringLiteral("is no file and no folder")));
     if (!iFile.open(QIODevice::ReadOnly))
@@ -148,8 +148,8 @@ bool FileList::nextOfJSON(ListedBook& book) {
             text = iFile.readLine(longestLine);
         if (!isTooLong && text.trimmed().isEmpty())
             continue;
-        book =
-            isTooLong ? withProblem(iLine, QStringLiteral("it is too long")) : fromJSON(iLine, text);
+        book = isTooLong ? withProblem(iLine, QStringLiteral("it is too long"))
+                         : fromJSON(iLine, text);
         return true;
     }
 }

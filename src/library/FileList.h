@@ -5,7 +5,6 @@
 #include "library/CSVRecords.h"
 #include "system/FileState.h"
 
-#include <QDir>
 #include <QFile>
 #include <optional>
 
@@ -31,7 +30,7 @@ private:
     QString iPath;
     QFile iFile;
     FileState iOpened;
-    QDir iFolder;
+    QByteArray iFolder;
     qint64 iStart = 0; // of the first book
     bool iIsJSON = false;
     char iSeparator = ',';

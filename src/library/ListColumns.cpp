@@ -31,18 +31,19 @@ bool isNo(const QString& value) {
 }
 
 // Programs that write lists may not have the letters of a name as the disk has them.
-QByteArray pathIn(const QDir& folder, const QByteArray& listed) {
-    const QByteArray base = NameAliases::encoded(folder.absolutePath()) + '/';
-    const auto whole = [&base](const QByteArray& path) {
-        return path.startsWith('/') ? path : base + path;
+QByteArray pathIn(const QByteArray& folder, const QByteArray& listed) {
+    const auto whole = [&folder](const QByteArray& path) {
+        return path.startsWith('/') ? path : folder + '/' + path;
     };
+    if (listed.isValidUtf8())
+        return whole(listed);
     const QByteArray inUTF8 = whole(NameAliases::text(listed).toUtf8());
-    const bool isOtherwise = !listed.isValidUtf8() && QFileInfo::exists(QString::fromUtf8(inUTF8));
-    return isOtherwise ? inUTF8 : whole(listed);
+    return QFileInfo::exists(QString::fromUtf8(inUTF8)) ? inUTF8 : whole(listed);
 }
 
 // Adds what a column says.
-void take(ListedBook& book, const QString& column, const QByteArray& value, const QDir& folder) {
+void take(ListedBook& book, const QString& column, const QByteArray& value,
+          const QByteArray& folder) {
     const QString text = NameAliases::text(value);
     const QByteArray option = "--" + column.toLatin1();
     if (QString* fact = book.facts.named(column))
@@ -71,7 +72,7 @@ bool ListColumns::isKnown(const QString& name) {
 }
 
 ListedBook ListColumns::book(qint64 line, const std::vector<std::pair<QString, QByteArray>>& values,
-                             const QDir& folder) {
+                             const QByteArray& folder) {
     ListedBook book;
     book.line = line;
     for (const auto& [column, value] : values) {

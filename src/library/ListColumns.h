@@ -2,7 +2,7 @@
 
 #include "library/BookList.h"
 
-#include <QDir>
+#include <QByteArray>
 #include <QString>
 #include <utility>
 #include <vector>
@@ -14,8 +14,9 @@ namespace ListColumns {
 // Whether a column of that name is understood. Names are in lower case.
 bool isKnown(const QString& name);
 
-// A line with its values by columns; relative paths are relative to the folder.
+// A line with its values by columns; relative paths are relative to the folder,
+// an absolute path.
 ListedBook book(qint64 line, const std::vector<std::pair<QString, QByteArray>>& values,
-                const QDir& folder);
+                const QByteArray& folder);
 
 } // namespace ListColumns

@@ -128,6 +128,8 @@ QString NameAliases::decoded(const QByteArray& path) {
 }
 
 QString NameAliases::text(const QByteArray& bytes) {
+    if (!bytes.isEmpty() && bytes.isValidUtf8())
+        return QString::fromUtf8(bytes);
     bool areLetters = true;
     const QString letters = textOf(bytes, [&](uchar byte) {
         areLetters = areLetters && !windows1252(byte).isNull();

@@ -12,17 +12,25 @@ QByteArray contents(const QString& path) {
 
 } // namespace
 
-std::vector<pid_t> ChildProcesses::running(const QByteArray& service, qint64 program) {
+std::vector<pid_t> ChildProcesses::of(qint64 program) {
     std::vector<pid_t> found;
     const QDir tasks(QStringLiteral("/proc/%1/task").arg(program));
     for (const QString& task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         for (const QByteArray& child :
              contents(tasks.filePath(task + QStringLiteral("/children"))).split(' ')) {
-            const auto words = command(child.toInt());
-            if (words.value(0).endsWith("folvero-page-worker") && words.value(1) == service)
+            if (child.toInt() > 0)
                 found.push_back(child.toInt());
         }
     }
+    return found;
+}
+
+std::vector<pid_t> ChildProcesses::running(const QByteArray& service, qint64 program) {
+    std::vector<pid_t> found = of(program);
+    std::erase_if(found, [&service](pid_t child) {
+        const auto words = command(child);
+        return !words.value(0).endsWith("folvero-page-worker") || words.value(1) != service;
+    });
     return found;
 }
 

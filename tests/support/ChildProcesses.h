@@ -7,6 +7,9 @@
 // What a program has started.
 namespace ChildProcesses {
 
+// All that run now.
+std::vector<pid_t> of(qint64 program);
+
 // Its page workers that do that service now ("draw" or "read").
 std::vector<pid_t> running(const QByteArray& service, qint64 program);
 

@@ -1,0 +1,202 @@
+#include "cli/BookTest.h"
+#include "support/ChildProcesses.h"
+
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <csignal>
+#include <functional>
+#include <thread>
+
+namespace {
+
+class LibraryTest : public BookTest {
+protected:
+    QString out() const { return path("out"); }
+
+    void list(const QByteArray& lines) const {
+        QFile file(path("list.csv"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("pdf,id,title,pages\n" + lines);
+    }
+    // A line of the list for one of the samples.
+    static QByteArray line(const QString& sample, const QByteArray& rest) {
+        return Program::sample(sample).toUtf8() + ',' + rest + '\n';
+    }
+
+    Program::Result make(const QStringList& options = {}) const {
+        return Program::run(QStringList{"library", "make", "--quiet", path("list.csv"), out()} +
+                            options);
+    }
+    // What a run prints after the name of the folder.
+    std::string made() const { return make().output.mid(out().size() + 2).toStdString(); }
+    Program::Result status() const { return Program::run({"library", "status", out()}); }
+
+    QJsonObject result(const QString& id) const {
+        QDirIterator files(out() + "/.folvero-library/results", {id + ".json"}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        if (!files.hasNext())
+            return {};
+        QFile file(files.next());
+        return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object()
+                                              : QJsonObject();
+    }
+    QString runOf(const QString& id) const { return result(id)["run"].toString(); }
+    bool hasBook(const QString& id) const {
+        return QFileInfo::exists(out() + "/books/" + id + "/files/UserConfig.bin");
+    }
+
+    static void waitUntil(const std::function<bool()>& condition) {
+        for (int i = 0; i < 6000 && !condition(); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        EXPECT_TRUE(condition());
+    }
+};
+
+} // namespace
+
+TEST_F(LibraryTest, MakesWhatItCanAndSaysWhatItCannot) {
+    list(line("outline.pdf", "good,<b>Good</b>,1-2") + line("damaged-page.pdf", "hole,,") +
+         line("not-a-pdf.pdf", "none,,") + line("missing.pdf", "gone,,") +
+         line("outline.pdf", "twice,,") + line("links.pdf", "Twice,,") +
+         line("outline.pdf", "badpages,,7-x") + line("outline.pdf", "../up,,"));
+    const auto first = make();
+    EXPECT_EQ(first.exitCode, 1);
+    EXPECT_TRUE(first.output.endsWith(": 6 books: 1 made, 1 incomplete, 4 failed\n"))
+        << first.output.data();
+    EXPECT_TRUE(hasBook("good"));
+    EXPECT_TRUE(hasBook("hole"));
+    EXPECT_FALSE(hasBook("twice"));
+    const auto shown = status();
+    EXPECT_EQ(shown.exitCode, 1);
+    const QString text = QString::fromUtf8(shown.output).replace(Program::sample({}), "S/");
+    EXPECT_EQ(
+        text.section("\n", 0, 5).toStdString(),
+        "incomplete: hole (S/damaged-page.pdf): page 3 could not be drawn (malformed page "
+        "tree)\n"
+        "failed: none (S/not-a-pdf.pdf): S/not-a-pdf.pdf: is not a PDF document\n"
+        "failed: gone (S/missing.pdf): S/missing.pdf: no such file\n"
+        "failed: twice (S/outline.pdf): the ID stands on more than one line of the list\n"
+        "failed: badpages (S/outline.pdf): the page range \"7-x\" names no page of the document, "
+        "which has pages 1 to 9\n"
+        "bad line: line 9: \"../up\" can't be an ID: use letters from a to z, digits, dots, "
+        "hyphens and underscores, the first a letter or digit");
+
+    // Nothing has changed, so nothing is tried.
+    const QStringList before{runOf("good"), runOf("hole"), runOf("none")};
+    EXPECT_EQ(make().output,
+              out().toUtf8() + ": 6 books: 0 made, 1 up to date, 1 incomplete, 4 failed\n");
+    EXPECT_EQ((QStringList{runOf("good"), runOf("hole"), runOf("none")}), before);
+    EXPECT_EQ(make({"--only-failed"}).exitCode, 1);
+    EXPECT_EQ(runOf("good"), before[0]);
+    EXPECT_NE(runOf("hole"), before[1]);
+    EXPECT_NE(runOf("none"), before[2]);
+}
+
+TEST_F(LibraryTest, MakesAgainWhatHasChanged) {
+    list(line("outline.pdf", "one,,1") + line("links.pdf", "two,,") + line("text.pdf", "three,,1"));
+    EXPECT_EQ(make().exitCode, 0);
+    EXPECT_EQ(status().exitCode, 0);
+    const QString one = runOf("one");
+    const QString two = runOf("two");
+    list(line("outline.pdf", "one,New,1") + line("links.pdf", "two,,"));
+    const auto again = make();
+    EXPECT_EQ(again.exitCode, 0);
+    EXPECT_TRUE(again.output.endsWith(": 2 books: 1 made, 1 up to date\n")) << again.output.data();
+    EXPECT_NE(runOf("one"), one);
+    EXPECT_EQ(runOf("two"), two);
+    // The book that is not in the list any more.
+    EXPECT_TRUE(again.errors.startsWith("three: is not in the list any more"))
+        << again.errors.data();
+    EXPECT_TRUE(hasBook("three"));
+    EXPECT_EQ(make({"--prune"}).exitCode, 0);
+    EXPECT_FALSE(QFileInfo::exists(out() + "/books/three"));
+    EXPECT_TRUE(result("three").isEmpty());
+    // A book whose files are gone is made, and one whose result is.
+    QFile::remove(out() + "/books/one/files/web.js");
+    QDir(out() + "/.folvero-library/results").removeRecursively();
+    EXPECT_EQ(made(), "2 books: 2 made\n");
+    EXPECT_GT(result("two")["made"].toObject()["pages"].toInt(), 0);
+    EXPECT_TRUE(QFileInfo::exists(out() + "/books/one/files/web.js"));
+}
+
+// A line that can't be read may be that of the book.
+TEST_F(LibraryTest, DoesNotPruneByAListThatItCannotRead) {
+    list(line("outline.pdf", "one,,1") + line("links.pdf", "two,,"));
+    EXPECT_EQ(make().exitCode, 0);
+    list(line("outline.pdf", "one,,1") + line("links.pdf", "t/wo,,"));
+    EXPECT_EQ(make({"--prune"}).exitCode, 1);
+    EXPECT_TRUE(hasBook("two"));
+}
+
+TEST_F(LibraryTest, ShardsMakeTheWholeTogether) {
+    QByteArray lines;
+    for (char letter = 'a'; letter < 'i'; ++letter)
+        lines += line("outline.pdf", QByteArray(qsizetype{1}, letter) + ",,1");
+    list(lines + line("outline.pdf", "/,,"));
+    EXPECT_EQ(make({"--shard", "1/3"}).exitCode, 1); // the line without an ID
+    EXPECT_EQ(make({"--shard", "3/3"}).exitCode, 0);
+    const auto unfinished = status();
+    EXPECT_EQ(unfinished.exitCode, 75);
+    EXPECT_TRUE(unfinished.output.contains("shard 2 of 3 has not begun"))
+        << unfinished.output.data();
+    EXPECT_TRUE(unfinished.output.contains("not made yet: "));
+    EXPECT_EQ(make({"--shard", "2/3"}).exitCode, 0);
+    const auto whole = status();
+    EXPECT_EQ(whole.exitCode, 1);
+    EXPECT_TRUE(whole.output.endsWith("8 books: 8 made, 0 up to date, 1 bad lines\n"))
+        << whole.output.data();
+    // Shards that had different lists.
+    list(lines);
+    EXPECT_EQ(make({"--shard", "1/3"}).exitCode, 0);
+    EXPECT_EQ(status().exitCode, 75);
+    for (const char* option : {"0/3", "4/3", "1", "a/b"})
+        EXPECT_EQ(make({"--shard", option}).exitCode, 2) << option;
+}
+
+TEST_F(LibraryTest, LosesNothingWhenItIsStopped) {
+    list(line("outline.pdf", "first,,1") + line("thousand.pdf", "long,,"));
+    for (const int signal : {SIGINT, SIGKILL}) {
+        SCOPED_TRACE(signal);
+        QProcess process;
+        process.start(Program::path(), {"library", "make", "--jobs=1", path("list.csv"), out()});
+        ASSERT_TRUE(process.waitForStarted());
+        // Below it is the publish, and below that its worker.
+        std::vector<pid_t> started;
+        waitUntil([&] {
+            started = ChildProcesses::of(process.processId());
+            return hasBook("first") && !started.empty() &&
+                   !ChildProcesses::running("draw", started.front()).empty();
+        });
+        const pid_t worker = ChildProcesses::running("draw", started.front()).front();
+        ::kill(pid_t(process.processId()), signal);
+        EXPECT_EQ(Program::finish(process).exitCode, signal == SIGINT ? 130 : -1);
+        waitUntil([&] {
+            return ChildProcesses::command(started.front()).value(0).isEmpty() &&
+                   ChildProcesses::command(worker).value(0).isEmpty();
+        });
+        EXPECT_FALSE(hasBook("long"));
+        EXPECT_EQ(status().exitCode, 75);
+    }
+    list(line("outline.pdf", "first,,1") + line("thousand.pdf", "long,,1-3"));
+    EXPECT_EQ(made(), "2 books: 1 made, 1 up to date\n");
+    EXPECT_EQ(status().exitCode, 0);
+    EXPECT_TRUE(QDir(out() + "/.folvero-library/leases").isEmpty());
+    EXPECT_TRUE(QDir(out() + "/books/long")
+                    .entryList({".folvero-*"}, QDir::AllEntries | QDir::Hidden)
+                    .isEmpty());
+}
+
+// As a share that is gone leaves its empty mount point behind.
+TEST_F(LibraryTest, EndsWhenItsFolderIsGone) {
+    list(line("thousand.pdf", "long,,1-60") + line("outline.pdf", "next,,1"));
+    QProcess process;
+    process.start(Program::path(), {"library", "make", "--jobs=1", path("list.csv"), out()});
+    ASSERT_TRUE(process.waitForStarted());
+    waitUntil([&] { return !ChildProcesses::of(process.processId()).empty(); });
+    ASSERT_TRUE(QDir().rename(out(), path("elsewhere")));
+    ASSERT_TRUE(QDir().mkdir(out()));
+    EXPECT_EQ(Program::finish(process).exitCode, 75);
+    EXPECT_FALSE(hasBook("next"));
+}
