@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <memory>
 #include <string>
+#include <vector>
 
 using CommandArguments::addPath;
 
@@ -27,30 +28,25 @@ void addListAndFolder(CLI::App& command, QString& list, QString& folder) {
 
 // Options of publish that are passed on as they are typed.
 void addBookOptions(CLI::App& command, QStringList& options) {
+    const auto passOn = [&options](const std::string& name, const std::string& value) {
+        options << NameAliases::text(QByteArray::fromStdString(name + '=' + value));
+    };
     struct Option {
         std::string name;
         std::string type;
         std::string help;
     };
-    const auto passOn = [&command, &options](const Option& option) {
-        command
-            .add_option_function<std::vector<std::string>>(
-                option.name,
-                [&options, name = option.name](const std::vector<std::string>& values) {
-                    for (const std::string& value : values)
-                        options << NameAliases::text(QByteArray::fromStdString(name + '=' + value));
-                },
-                option.help)
-            ->type_name(option.type)
-            ->allow_extra_args(false);
-    };
-    for (const Option& option :
+    for (const auto& [name, type, help] :
          {Option{"--template", "NAME", "Template of all books that the list names none for"},
           Option{"--style", "NAME", "Style of the template"},
-          Option{"--set", "KEY=VALUE", "Set one property of the template; may be given many times"},
           Option{"--quality", "N", "As in folvero publish"},
-          Option{"--spreads", "HOW", "As in folvero publish"}})
-        passOn(option);
+          Option{"--spreads", "HOW", "As in folvero publish"}}) {
+        command
+            .add_option_function<std::string>(
+                name, [passOn, option = name](const std::string& value) { passOn(option, value); },
+                help)
+            ->type_name(type);
+    }
     // The books may be made in another folder.
     command
         .add_option_function<std::string>(
@@ -61,6 +57,16 @@ void addBookOptions(CLI::App& command, QStringList& options) {
             },
             "A settings file to apply")
         ->type_name("FILE");
+    command
+        .add_option_function<std::vector<std::string>>(
+            "--set",
+            [passOn](const std::vector<std::string>& values) {
+                for (const std::string& value : values)
+                    passOn("--set", value);
+            },
+            "Set one property of the template; may be given many times")
+        ->type_name("KEY=VALUE")
+        ->allow_extra_args(false);
     command.add_flag_callback(
         "--allow-text", [&options] { options << QStringLiteral("--allow-text"); },
         "Include text also if a document forbids copying it");

@@ -105,14 +105,18 @@ void addServe(CLI::App& app, CommandLine& line) {
 // The error of the command line, with a pointer to the help.
 std::string explain(const CLI::App* app, const CLI::Error& error) {
     std::string cause = error.what();
-    std::string help = "folvero --help";
-    if (const auto commands = app->get_subcommands(); !commands.empty()) {
-        help = "folvero " + commands.front()->get_name() + " --help";
-    } else {
-        const auto words = app->remaining();
+    std::string command = "folvero";
+    const CLI::App* last = app;
+    for (auto next = app->get_subcommands(); !next.empty(); next = last->get_subcommands()) {
+        last = next.front();
+        command += ' ' + last->get_name();
+    }
+    // Of those that have commands.
+    if (last->get_require_subcommand_min() > 0) {
+        const auto words = last->remaining();
         cause = words.empty() ? "a command is needed" : "there is no command " + words.front();
     }
-    return "folvero: " + cause + "; see " + help + "\n";
+    return "folvero: " + cause + "; see " + command + " --help\n";
 }
 
 // A file opened later must not get the descriptor of a standard stream that the caller closed.

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <cerrno>
 #include <utility>
 #include <vector>
 
@@ -30,6 +31,13 @@ QByteArray textOf(const QJsonValue& value) {
     return parts.join("; ");
 }
 
+// Why the list can't be opened. Where its folder is gone as well, a share may be missing.
+Message causeOf(int error, const QString& path) {
+    if (error == ENOENT && QFileInfo::exists(QFileInfo(path).absolutePath()))
+        return Message(QStringLiteral("no such file"));
+    return Message::ofSystemError(error);
+}
+
 ListedBook withProblem(qint64 line, const QString& problem) {
     ListedBook book;
     book.line = line;
@@ -47,7 +55,7 @@ FileList::FileList(const QString& path)
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
         fail(Message(QStringLiteral("is no file and no folder")));
     if (!iFile.open(QIODevice::ReadOnly))
-        fail(Message::ofLastSystemError());
+        fail(causeOf(errno, path));
     const QByteArray start = iFile.peek(longestLine);
     checkText(start);
     iStart = start.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
