@@ -1,7 +1,6 @@
 #include "DrawnPages.h"
 #include "Samples.h"
 
-#include <QFontDatabase>
 
 namespace {
 
@@ -114,13 +113,6 @@ QByteArray eastAsianAndRightToLeft() {
     drawLines(pages.painter(), dejaVu, QStringLiteral("Arabic, font embedded"),
               {QStringLiteral("كتاب تقلب صفحاته"), QStringLiteral("ضوء الصباح على النهر"),
                QStringLiteral("الصفحة 12 من 48"), QStringLiteral("ورق وحبر و PDF")});
-    // Only where the machine has a font for it.
-    const QStringList japanese = QFontDatabase::families(QFontDatabase::Japanese);
-    if (!japanese.isEmpty()) {
-        pages.nextPage();
-        drawLines(pages.painter(), japanese.first(), QStringLiteral("Japanese, font embedded"),
-                  kCollections[2].lines);
-    }
     pages.finish();
     return pdf.build();
 }
