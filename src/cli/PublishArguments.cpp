@@ -32,6 +32,24 @@ Spreads spreadsNamed(const std::string& name) {
     return name == "keep" ? Spreads::keep : name == "split" ? Spreads::split : Spreads::automatic;
 }
 
+// Those that lists of books know better than the documents.
+void addFacts(CLI::App& command, BookFacts& facts) {
+    addText(command, "--author", facts.author,
+            "Author of a web book; by default the document's. Several are separated by\n"
+            "semicolons")
+        ->type_name("TEXT");
+    addText(command, "--subject", facts.subject,
+            "What a web book is about; by default as the document says")
+        ->type_name("TEXT");
+    addText(command, "--language", facts.language,
+            "Language of a web book, such as de or pt-BR; by default the document's")
+        ->type_name("CODE");
+    addText(command, "--date", facts.date, "When a web book was published")->type_name("TEXT");
+    addText(command, "--rights", facts.rights,
+            "Rights of a web book, a text or the address of a licence")
+        ->type_name("TEXT");
+}
+
 // Options that change the book.
 void addBookOptions(CLI::App& command, PublishOptions& options) {
     command
@@ -74,6 +92,7 @@ void addBookOptions(CLI::App& command, PublishOptions& options) {
             "Address at which a web book will be: search engines and previews of links\n"
             "name it, and show the first page")
         ->type_name("ADDRESS");
+    addFacts(command, options.facts);
     command
         .add_option("--quality", options.quality,
                     "100 for the sharpest pages, below that for the smallest files")

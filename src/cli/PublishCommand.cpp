@@ -231,6 +231,13 @@ MadeBook resultOf(const FolveroOutput& output, const Book& book) {
     return made;
 }
 
+QJsonObject metadataOf(const FolveroOutputWeb& output) {
+    QJsonObject object = output.metadata().facts.asJson();
+    if (const QString& keywords = output.metadata().keywords; !keywords.isEmpty())
+        object[QStringLiteral("keywords")] = keywords;
+    return object;
+}
+
 // What is wrong although the book was made; none when nothing is.
 std::optional<CommandError> troubleWith(const MadeBook& made) {
     QStringList lines;
@@ -298,7 +305,9 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
     const QString title = bookTitle(options, book);
     output->setBook(book);
     if (web) {
-        web->setTitle(title);
+        BookFacts facts = options.facts;
+        facts.title = title;
+        web->setFacts(facts);
         web->setOpenPages(openPages);
         web->setIncludesForbiddenText(options.allowText);
     }
@@ -311,8 +320,11 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
         timing.write(options.timingFile);
 
     MadeBook made = resultOf(*output, book);
-    if (web)
+    if (web) {
         reportWebBook(*web, options, made);
+        made.metadata = metadataOf(*web);
+        made.cover = web->metadata().cover;
+    }
     if (made.code() == ExitCode::ok && made.degradedPages.empty() &&
         operation->failures().isEmpty())
         stamp.write();

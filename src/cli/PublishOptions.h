@@ -3,6 +3,7 @@
 #include "cli/PasswordOptions.h"
 #include "drawing/SpareWorkers.h"
 #include "pdf/SplitPDF.h"
+#include "webbook/BookFacts.h"
 
 #include <QString>
 #include <QStringList>
@@ -22,6 +23,7 @@ struct PublishOptions {
     bool allowText = false;  // web books only
     QString previewPages;    // web books only; null: all pages are included
     QString url;             // web books only: where the book will be; null: unknown
+    BookFacts facts;         // web books only: known better than the document does; no title
     int quality = 100;
     bool links = false;
     bool bookmarks = false;

@@ -100,6 +100,10 @@ Message PublishReport::writeMade(const MadeBook& book, const PublishTiming& timi
     iContent[QStringLiteral("damagedPages")] = asJson(book.damagedPages);
     iContent[QStringLiteral("degradedPages")] = asJson(book.degradedPages);
     iContent[QStringLiteral("files")] = asJson(countsOf(book));
+    if (!book.metadata.isEmpty())
+        iContent[QStringLiteral("metadata")] = book.metadata;
+    if (!book.cover.isEmpty())
+        iContent[QStringLiteral("cover")] = book.cover;
     return write("made", book.code(), timing);
 }
 

@@ -20,6 +20,8 @@ struct MadeBook {
     // Reasons by page number: pages that are missing from the book, and those with a picture only.
     std::map<int, QString> failedPages;
     std::map<int, QString> degradedPages;
+    QJsonObject metadata; // web books only: what is known, by name
+    QString cover;        // path in the book of the first page's thumbnail; empty for none
     std::map<int, QString> damagedPages; // that lack what is damaged in the document
     Message reportError; // why there is no report; null when there is one, or none is wanted
 

@@ -10,6 +10,7 @@
 #include <QCryptographicHash>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <utility>
 
 namespace {
@@ -76,8 +77,9 @@ QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl
     digest << pages << resources << options.title << QFileInfo(options.pdf).completeBaseName()
            << options.pages << int(options.singleFile) << int(options.allowText)
            << int(options.password.isGiven()) // an owner may have the text
-           << options.previewPages << options.url << int(options.links) << int(options.bookmarks)
-           << options.templateName << options.styleName;
+           << options.previewPages << options.url << QJsonDocument(options.facts.asJson()).toJson()
+           << int(options.links) << int(options.bookmarks) << options.templateName
+           << options.styleName;
     addProperties(digest, tmpl.properties(), tmpl);
     return digest.result();
 }

@@ -11,6 +11,7 @@
 
 #include <QFileInfo>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -41,17 +42,29 @@ void WebBookOptions::check(const PublishOptions& options) {
                 .arg(options.url),
             ExitCode::usage);
     }
-    if (options.type == PublishOptions::Type::web)
-        return;
-    const QString text = QStringLiteral("%1 is for web books only; leave out --type");
-    if (options.singleFile)
-        throw CommandError(text.arg(QStringLiteral("--single-file")), ExitCode::usage);
-    if (options.allowText)
-        throw CommandError(text.arg(QStringLiteral("--allow-text")), ExitCode::usage);
-    if (!options.previewPages.isNull())
-        throw CommandError(text.arg(QStringLiteral("--preview-pages")), ExitCode::usage);
-    if (!options.url.isNull())
-        throw CommandError(text.arg(QStringLiteral("--url")), ExitCode::usage);
+    const QString& language = options.facts.language;
+    if (!language.isEmpty() && !BookFacts::isLanguage(language)) {
+        throw CommandError(
+            QStringLiteral("--language: \"%1\" must be a code such as de or pt-BR").arg(language),
+            ExitCode::usage);
+    }
+    const BookFacts& facts = options.facts;
+    const std::pair<const char*, bool> ofWebBooks[] = {
+        {"--single-file", options.singleFile},
+        {"--allow-text", options.allowText},
+        {"--preview-pages", !options.previewPages.isNull()},
+        {"--url", !options.url.isNull()},
+        {"--author", !facts.author.isNull()},
+        {"--subject", !facts.subject.isNull()},
+        {"--language", !facts.language.isNull()},
+        {"--date", !facts.date.isNull()},
+        {"--rights", !facts.rights.isNull()}};
+    for (const auto& [option, isUsed] : ofWebBooks) {
+        if (isUsed && options.type != PublishOptions::Type::web)
+            throw CommandError(QStringLiteral("%1 is for web books only; leave out --type")
+                                   .arg(QLatin1String(option)),
+                               ExitCode::usage);
+    }
 }
 
 std::optional<BookAddress> WebBookOptions::address(const PublishOptions& options) {

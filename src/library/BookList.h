@@ -1,6 +1,6 @@
 #pragma once
 
-#include "library/BookFacts.h"
+#include "webbook/BookFacts.h"
 
 #include <QByteArray>
 #include <QByteArrayList>

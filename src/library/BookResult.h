@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Message.h"
-#include "library/BookFacts.h"
+#include "webbook/BookFacts.h"
 
 #include <QByteArray>
 #include <QDateTime>

@@ -55,6 +55,7 @@ void FolveroOutputWeb::ouputTheBook() {
     }
     iWorksOffline = book.metadata.offline;
     iLacksText = !book.hasText;
+    iMetadata = book.metadata;
     run(layout(), iIsSingleFile ? singleFileSteps(book) : folderSteps(book));
 }
 
@@ -67,9 +68,8 @@ WebBook FolveroOutputWeb::webBook() const {
     book.pages = webPagesOf(*iBook.pageSource);
     book.content = iBook;
     book.kindOfCopy = kindOfCopy();
-    book.readDocument(iOpenPages);
-    if (!iTitle.isEmpty())
-        book.metadata.title = iTitle;
+    book.metadata.facts = iFacts;
+    book.complete(iOpenPages);
     book.hasText = iIncludesForbiddenText || book.metadata.allowsText;
     if (!iIsSingleFile) {
         if (book.hasText)

@@ -3,6 +3,7 @@
 #include "output/FolveroOutput.h"
 #include "util/PageRange.h"
 #include "webbook/BookAddress.h"
+#include "webbook/WebBookMetadata.h"
 #include "webbook/WebBookSteps.h"
 
 #include <optional>
@@ -17,8 +18,11 @@ public:
     using FolveroOutput::FolveroOutput;
 
     // Plain text, shown wherever the book is named; by default the document's title.
-    void setTitle(const QString& title) { iTitle = title; }
-    QString title() const { return iTitle; }
+    void setTitle(const QString& title) { iFacts.title = title; }
+    QString title() const { return iFacts.title; }
+
+    // What is known of the book, the title included; the rest is the document's.
+    void setFacts(const BookFacts& facts) { iFacts = facts; }
 
     // Where the book will be, for search engines and links to it; none for unknown.
     void setAddress(const std::optional<BookAddress>& address) { iAddress = address; }
@@ -49,6 +53,8 @@ public:
     bool worksOffline() const { return iWorksOffline; }
     // Whether the last run left out the text, which the document forbids to take out of it.
     bool lacksText() const { return iLacksText; }
+    // That of the last run.
+    const WebBookMetadata& metadata() const { return iMetadata; }
     // Bytes that the last run wrote for pages: pictures, larger ones, thumbnails, text.
     qint64 pageBytes() const { return iReport.pageBytes; }
 
@@ -62,12 +68,13 @@ private:
     PublishSteps contents(const WebBook& book);
     PublishSteps configuration(const WebBook& book) const;
 
-    QString iTitle;
+    BookFacts iFacts;
     std::optional<BookAddress> iAddress;
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;
     std::optional<std::vector<PageRun>> iOpenPages;
     WebBookReport iReport;
+    WebBookMetadata iMetadata;
     bool iWorksOffline = false;
     bool iIncludesForbiddenText = false;
     bool iLacksText = false;

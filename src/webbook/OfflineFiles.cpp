@@ -131,8 +131,8 @@ QColor ground(const WebBook& book) {
 
 QByteArray manifestOf(const WebBook& book) {
     QJsonObject object{
-        {QStringLiteral("name"), book.metadata.title},
-        {QStringLiteral("short_name"), shortened(book.metadata.title)},
+        {QStringLiteral("name"), book.metadata.facts.title},
+        {QStringLiteral("short_name"), shortened(book.metadata.facts.title)},
         {QStringLiteral("start_url"),
          QString::fromLatin1(QUrl::toPercentEncoding(book.htmlName()))},
         {QStringLiteral("scope"), QStringLiteral("./")},
@@ -143,8 +143,8 @@ QByteArray manifestOf(const WebBook& book) {
          QJsonArray{QJsonObject{{QStringLiteral("src"), BookLayout::icon},
                                 {QStringLiteral("sizes"), QStringLiteral("any")},
                                 {QStringLiteral("type"), QStringLiteral("image/svg+xml")}}}}};
-    if (!book.metadata.language.isEmpty())
-        object[QStringLiteral("lang")] = book.metadata.language;
+    if (!book.metadata.facts.language.isEmpty())
+        object[QStringLiteral("lang")] = book.metadata.facts.language;
     return QJsonDocument(object).toJson();
 }
 

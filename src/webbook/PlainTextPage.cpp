@@ -35,20 +35,21 @@ PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& boo
     : iMetadata(metadata), iFile(path) {
     attempt([this] { return iFile.open(QIODevice::WriteOnly); });
     const QByteArray address = QUrl::toPercentEncoding(book);
+    const BookFacts& facts = metadata.facts;
     const QByteArray language =
-        escaped(metadata.language.isEmpty() ? QStringLiteral("en") : metadata.language);
+        escaped(facts.language.isEmpty() ? QStringLiteral("en") : facts.language);
     write("<!DOCTYPE html>\n<html lang=\"" + language +
           "\">\n<head>\n<meta charset=\"utf-8\">\n"
           "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
           "'unsafe-inline'; base-uri 'none'; form-action 'none'\">\n<title>" +
-          escaped(metadata.title) +
+          escaped(facts.title) +
           "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
           "<link rel=\"canonical\" href=\"" +
           address + ExistingBook::textPageMark + style +
           "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + address + "\">" +
-          escaped(metadata.title) + "</a></h1>\n");
-    if (!metadata.author.isEmpty())
-        write("<p>" + escaped(metadata.author) + "</p>\n");
+          escaped(facts.title) + "</a></h1>\n");
+    if (!facts.author.isEmpty())
+        write("<p>" + escaped(facts.author) + "</p>\n");
 }
 
 void PlainTextPage::addPage(const QString& text) {

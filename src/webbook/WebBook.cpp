@@ -15,15 +15,6 @@ namespace {
 
 constexpr Log logger("FolveroOutputWeb");
 
-// Only a valid language tag may get into the page.
-QString languageTag(const QString& text) {
-    const QString tag = text.trimmed().left(35);
-    const bool isTag = std::all_of(tag.begin(), tag.end(), [](QChar letter) {
-        return letter.unicode() < 0x80 && (letter.isLetterOrNumber() || letter == u'-');
-    });
-    return isTag ? tag : QString();
-}
-
 std::vector<PageRun> runsOfPositions(const std::vector<int>& numbers,
                                      const std::vector<PageRun>& openPages) {
     std::vector<PageRun> runs;
@@ -40,11 +31,15 @@ std::vector<PageRun> runsOfPositions(const std::vector<int>& numbers,
 }
 
 void readInformation(const PDFDocument& document, WebBookMetadata& metadata) {
-    metadata.title = document.information("Title").trimmed();
-    metadata.author = document.information("Author").trimmed();
-    metadata.subject = document.information("Subject").trimmed();
+    BookFacts facts;
+    facts.title = document.information("Title").trimmed();
+    facts.author = document.information("Author").trimmed();
+    facts.subject = document.information("Subject").trimmed();
+    // Anything else must not get into the page.
+    if (const QString tag = document.language().trimmed(); BookFacts::isLanguage(tag))
+        facts.language = tag;
+    metadata.facts = metadata.facts.completedBy(facts);
     metadata.keywords = document.information("Keywords").trimmed();
-    metadata.language = languageTag(document.language());
 }
 
 void readViewing(const PDFDocument& document, WebBookMetadata& metadata) {
@@ -69,7 +64,7 @@ void readLabels(const PDFDocument& document, WebBookMetadata& metadata) {
 
 } // namespace
 
-void WebBook::readDocument(const std::optional<std::vector<PageRun>>& openPages) {
+void WebBook::complete(const std::optional<std::vector<PageRun>>& openPages) {
     for (const WebPage& page : pages)
         metadata.numbers.push_back(page.number);
     if (openPages)
@@ -78,9 +73,15 @@ void WebBook::readDocument(const std::optional<std::vector<PageRun>>& openPages)
         const bool hasLarge = isOpen(page) && !page.large.isNull();
         metadata.large << (hasLarge ? largeKind(page) : QString());
     }
-    const auto& document = content.document;
-    if (!document)
-        return;
+    if (content.document)
+        readDocument(content.document);
+    if (!metadata.facts.subject.isEmpty())
+        texts.setHTMLDescription(metadata.facts.subject.toHtmlEscaped());
+    if (!metadata.keywords.isEmpty())
+        texts.setHTMLKeywords(metadata.keywords.toHtmlEscaped());
+}
+
+void WebBook::readDocument(const std::shared_ptr<PDFDocument>& document) {
     metadata.allowsText = false; // unless that can be read
     try {
         readInformation(*document, metadata);
@@ -94,10 +95,6 @@ void WebBook::readDocument(const std::optional<std::vector<PageRun>>& openPages)
     } catch (const PlatformException& failure) {
         logger.warn(failure.reason());
     }
-    if (!metadata.subject.isEmpty())
-        texts.setHTMLDescription(metadata.subject.toHtmlEscaped());
-    if (!metadata.keywords.isEmpty())
-        texts.setHTMLKeywords(metadata.keywords.toHtmlEscaped());
 }
 
 QString WebBook::htmlName() const {

@@ -28,9 +28,10 @@ struct WebBook {
     bool hasText = true;        // otherwise without words to select, search and the page of text
     PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
 
-    // Reads metadata and outline, unless there is one, from the document, and the texts for search
-    // engines. The pages included are those in these runs of PDF page numbers; none includes all.
-    void readDocument(const std::optional<std::vector<PageRun>>& openPages);
+    // Completes the metadata, whose facts go before those of the document, the outline, unless
+    // there is one, and the texts for search engines. The pages included are those in these runs of
+    // PDF page numbers; none includes all.
+    void complete(const std::optional<std::vector<PageRun>>& openPages);
 
     QString htmlName() const;
     bool isOpen(const WebPage& page) const;
@@ -46,4 +47,7 @@ struct WebBook {
     std::unique_ptr<pugi::xml_document> configuration(std::size_t count = SIZE_MAX) const;
     // The first page that is included; null for none.
     const WebPage* firstPage() const;
+
+private:
+    void readDocument(const std::shared_ptr<PDFDocument>& document);
 };

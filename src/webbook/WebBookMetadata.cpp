@@ -4,6 +4,7 @@
 #include "output/WebScript.h"
 
 #include <QJsonArray>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace {
@@ -42,6 +43,25 @@ bool areOnlyPositions(const QStringList& labels) {
     return true;
 }
 
+QJsonValue persons(const QStringList& names) {
+    QJsonArray array;
+    for (const QString& name : names) {
+        array.append(QJsonObject{{QStringLiteral("@type"), QStringLiteral("Person")},
+                                 {QStringLiteral("name"), name}});
+    }
+    return array.size() == 1 ? array[0] : QJsonValue(array);
+}
+
+// A year, month or day as in ISO 8601: search engines understand no others.
+bool isDate(const QString& text) {
+    static const QRegularExpression date(QStringLiteral("^\\d{4}(-\\d\\d){0,2}$"));
+    return date.match(text).hasMatch();
+}
+
+bool isWebAddress(const QString& text) {
+    return text.startsWith(u"https://") || text.startsWith(u"http://");
+}
+
 QByteArray meta(const char* kind, const char* name, const QString& content) {
     if (content.isEmpty())
         return {};
@@ -70,7 +90,7 @@ QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, int searchPa
     QJsonObject object{{QStringLiteral("version"), 1},
                        {QStringLiteral("large"), QJsonArray::fromStringList(large)},
                        {QStringLiteral("text"), searchParts > 0},
-                       {QStringLiteral("language"), language},
+                       {QStringLiteral("language"), facts.language},
                        {QStringLiteral("open"), openRuns(*this)},
                        {QStringLiteral("textPage"), textPage},
                        {QStringLiteral("offline"), offline},
@@ -107,26 +127,30 @@ QByteArray WebBookMetadata::imageMarkup() const {
 QByteArray WebBookMetadata::headMarkup() const {
     QJsonObject linked{{QStringLiteral("@context"), QStringLiteral("https://schema.org")},
                        {QStringLiteral("@type"), QStringLiteral("Book")},
-                       {QStringLiteral("name"), title},
+                       {QStringLiteral("name"), facts.title},
                        {QStringLiteral("bookFormat"), QStringLiteral("https://schema.org/EBook")},
                        {QStringLiteral("numberOfPages"), int(numbers.size())}};
     const auto add = [&](const QString& key, const QString& value) {
         if (!value.isEmpty())
             linked[key] = value;
     };
-    if (!author.isEmpty()) {
-        linked[QStringLiteral("author")] = QJsonObject{
-            {QStringLiteral("@type"), QStringLiteral("Person")}, {QStringLiteral("name"), author}};
-    }
-    add(QStringLiteral("description"), subject);
+    if (!facts.author.isEmpty())
+        linked[QStringLiteral("author")] = persons(facts.authors());
+    add(QStringLiteral("description"), facts.subject);
     add(QStringLiteral("keywords"), keywords);
-    add(QStringLiteral("inLanguage"), language);
+    add(QStringLiteral("inLanguage"), facts.language);
+    if (isDate(facts.date))
+        add(QStringLiteral("datePublished"), facts.date);
+    add(isWebAddress(facts.rights) ? QStringLiteral("license") : QStringLiteral("copyrightNotice"),
+        facts.rights);
     add(QStringLiteral("url"), address);
     add(QStringLiteral("image"), imageAddress);
-    return meta("name", "author", author) + meta("property", "og:type", QStringLiteral("book")) +
-           meta("property", "og:title", title) + meta("property", "og:description", subject) +
-           meta("property", "og:url", address) + imageMarkup() +
-           meta("name", "twitter:card", QStringLiteral("summary")) +
+    return meta("name", "author", facts.author) + meta("name", "dcterms.date", facts.date) +
+           meta("name", "dcterms.rights", facts.rights) +
+           meta("property", "og:type", QStringLiteral("book")) +
+           meta("property", "og:title", facts.title) +
+           meta("property", "og:description", facts.subject) + meta("property", "og:url", address) +
+           imageMarkup() + meta("name", "twitter:card", QStringLiteral("summary")) +
            link("rel=\"canonical\"", address) +
            link("rel=\"alternate\" type=\"text/html\"", textPage) +
            "<script type=\"application/ld+json\">" + WebScript::json(linked) + "</script>\n";

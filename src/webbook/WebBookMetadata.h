@@ -1,6 +1,7 @@
 #pragma once
 
 #include "util/PageRange.h"
+#include "webbook/BookFacts.h"
 
 #include <QByteArray>
 #include <QJsonObject>
@@ -14,11 +15,8 @@ class FlashOutline;
 
 // Metadata of a web book, for its player, search engines and link previews.
 struct WebBookMetadata {
-    QString title;
-    QString author;
-    QString subject;
+    BookFacts facts;
     QString keywords;
-    QString language;         // "de", or empty
     std::vector<int> numbers; // page numbers in the PDF, in book order
     QStringList labels;       // page labels, or empty
     QStringList large;        // the extension of each page's large picture, empty for none

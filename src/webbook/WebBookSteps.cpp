@@ -201,8 +201,8 @@ void addPreloads(PagePlaces& places, const PublishTarget& to, const WebBook& boo
 // What web books of both forms put into the page.
 PagePlaces placesOf(const WebBook& book) {
     PagePlaces places;
-    if (!book.metadata.language.isEmpty())
-        places.language = book.metadata.language;
+    if (!book.metadata.facts.language.isEmpty())
+        places.language = book.metadata.facts.language;
     // The Flash player can't show a web book's pictures.
     places.movie = QString();
     places.head = QString::fromUtf8(book.metadata.headMarkup());

@@ -16,7 +16,7 @@ TEST(StartList, HasPagesAndLabelsInRuns) {
         book.pages.push_back(page);
     }
     book.metadata.labels = QStringList{"A-9", "A-10", "007", "${x}<", "9999999999"};
-    book.readDocument({});
+    book.complete({});
     const QByteArray json = StartList::json(book, 1);
     EXPECT_FALSE(json.contains('$') || json.contains('<')) << json.constData();
     const QJsonDocument list = QJsonDocument::fromJson(json);

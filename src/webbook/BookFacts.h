@@ -4,11 +4,11 @@
 #include <QString>
 #include <QStringList>
 
-// What a catalogue says of a book. Empty texts are unknown.
+// What a catalogue says of a book, and the book of itself. Empty texts are unknown.
 struct BookFacts {
     QString title;
     QString author;   // several are separated by semicolons
-    QString date;     // as in the list: a year, an ISO 8601 date, or any text
+    QString date;     // as given: a year, an ISO 8601 date, or any text
     QString language; // a BCP 47 tag, such as "de"
     QString rights;   // a text or an address
     QString subject;  // several are separated by semicolons
@@ -29,4 +29,7 @@ struct BookFacts {
 
     // The fact of that name, such as "author"; null for none.
     QString* named(const QString& name);
+
+    // Whether a text may be a language: letters, digits and hyphens only.
+    static bool isLanguage(const QString& text);
 };

@@ -1,6 +1,7 @@
-#include "library/BookFacts.h"
+#include "webbook/BookFacts.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -75,4 +76,12 @@ QString* BookFacts::named(const QString& name) {
             return &(this->*member);
     }
     return nullptr;
+}
+
+bool BookFacts::isLanguage(const QString& text) {
+    constexpr qsizetype maxLength = 35;
+    return !text.isEmpty() && text.size() <= maxLength &&
+           std::all_of(text.begin(), text.end(), [](QChar letter) {
+               return letter.unicode() < 0x80 && (letter.isLetterOrNumber() || letter == u'-');
+           });
 }
