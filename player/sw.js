@@ -2,7 +2,7 @@
 // asked for it or where it is small. The publisher prepends a line that identifies the book:
 // const BOOK = {"page": ..., "version": ...}.
 
-import { FAMILY, LIST, SCOPE, STORE, addressOf, countRemoval, digestHere, digestIn, fetchInto, kept, listHere,
+import { FAMILY, LIST, SCOPE, STORE, addressOf, countRemoval, digestHere, digestIn, fetchInto, isServed, kept, listHere,
   listNeeded, listOf, partHere, partOf, pathOf, verified, worker } from './swfiles.js';
 
 /** @typedef {import('./swfiles.js').List} List */
@@ -362,7 +362,7 @@ worker.addEventListener('fetch', (event) => {
   if (path === null) return;
   const page = request.mode === 'navigate' ? pageAt(request.url) : undefined;
   if (page) event.respondWith(open(event, page));
-  else if (path.startsWith('files/')) event.respondWith(serve(event, path, event.clientId));
+  else if (isServed(path)) event.respondWith(serve(event, path, event.clientId));
 });
 worker.addEventListener('message', (event) => {
   const { data, source, ports: [port] } = event;

@@ -11,22 +11,33 @@ export const LIST = 'files/web/offline.json';
 export const FAMILY = 'folvero ' + SCOPE + ' ';
 export const STORE = FAMILY + BOOK.version;
 
+/** Address of the folder of the shared player, relative to the book, and the same as browsers have it. */
+const PLAYER = BOOK.player ?? '';
+const PLAYER_ADDRESS = PLAYER && new URL(PLAYER, SCOPE).href;
+
 /** Pages whose files have their digests in one part of the list; those of the first part are in the list itself. */
 const PART_PAGES = 100;
 
 /** @param {string} path as the list has it */
 export function addressOf(path) {
-  return SCOPE + path.split('/').map(encodeURIComponent).join('/');
+  return new URL(path.split('/').map(encodeURIComponent).join('/'), SCOPE).href;
 }
 
 /**
- * Path of one of the book's files as the list has it, null for what is none.
+ * Whether the service worker answers for a file.
+ * @param {string} path
+ */
+export const isServed = (path) => path.startsWith('files/') || (PLAYER !== '' && path.startsWith(decodeURIComponent(PLAYER)));
+
+/**
+ * Path of one of the book's files, or of its shared player, as the list has it, null for what is none.
  * @param {string} address
  */
 export function pathOf(address) {
   try {
     const { origin, pathname } = new URL(address);
     const place = origin + pathname;
+    if (PLAYER && place.startsWith(PLAYER_ADDRESS)) return decodeURIComponent(PLAYER + place.slice(PLAYER_ADDRESS.length));
     if (!place.startsWith(SCOPE)) return null;
     const path = decodeURIComponent(place.slice(SCOPE.length));
     return path === '' ? 'index.html' : path;

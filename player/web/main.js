@@ -11,6 +11,7 @@ import { Links } from './links.js';
 import { PageTexts } from './pagetexts.js';
 import { Searching } from './searching.js';
 import { Selecting } from './selecting.js';
+import { sharedFiles } from './sharedfiles.js';
 import { Sharper } from './sharper.js';
 import { SideRoom } from './side.js';
 import { SingleFile } from './singlefile.js';
@@ -18,6 +19,9 @@ import { StartList } from './startlist.js';
 import { addTextLayer } from './textlayer.js';
 
 const single = SingleFile.here ? new SingleFile() : null;
+const shared = sharedFiles(/** @type {HTMLElement | null} */ (document.currentScript));
+/** @param {string} path */
+const address = (path) => single?.address(path) ?? shared(path);
 const files = new DataFiles(single);
 const start = StartList.find();
 start?.announce();
@@ -171,7 +175,7 @@ function openPanel(panel, commands) {
   /** @type {HTMLElement} */ (document.activeElement).blur();
 }
 
-window.folveroFile = (path) => single?.address(path);
+window.folveroFile = address;
 window.folveroExtensions ??= [];
 window.folveroExtensions.push(async (beginning) => {
   const { config, say, learn } = beginning;
@@ -184,6 +188,6 @@ window.folveroExtensions.push(async (beginning) => {
   config.labels = facts.labels;
   beginAt(facts.start, config.pages.length);
   const closed = closePages(config, facts, say('notOpen'));
-  window.folveroFile = (path) => closed(path) ?? single?.address(path);
+  window.folveroFile = (path) => closed(path) ?? address(path);
   return (parts) => addToBook({ ...beginning, ...parts }, facts);
 });

@@ -92,6 +92,10 @@ void addBookOptions(CLI::App& command, PublishOptions& options) {
             "Address at which a web book will be: search engines and previews of links\n"
             "name it, and show the first page")
         ->type_name("ADDRESS");
+    addPath(command, "--shared-player", options.sharedPlayer,
+            "Folder for the files of the player that are the same in every web book,\n"
+            "instead of a copy in each")
+        ->type_name("FOLDER");
     addFacts(command, options.facts);
     command
         .add_option("--quality", options.quality,

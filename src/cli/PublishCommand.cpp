@@ -21,6 +21,7 @@
 #include "pages/ImportPDFOperation.h"
 #include "system/Files.h"
 #include "webbook/FolveroOutputWeb.h"
+#include "webbook/SharedPlayer.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -159,6 +160,9 @@ Publisher makePublisher(const PublishOptions& options, const std::shared_ptr<Fla
     auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, name);
     output->setSingleFile(options.singleFile);
     output->setAddress(WebBookOptions::address(options));
+    if (!options.sharedPlayer.isNull())
+        output->setSharedPlayer(
+            std::make_shared<SharedPlayer>(options.sharedPlayer, folder, *tmpl));
     auto* web = output.get();
     return {std::move(output), web};
 }
@@ -338,12 +342,13 @@ MadeBook makeBook(const PublishOptions& options, PublishTiming& timing) {
     // Reports an invalid name or setting before an hour of drawing.
     const auto asked = TemplateOptions::prepared(options, false);
     const QString folder = QDir::cleanPath(QFileInfo(options.outputFolder).absoluteFilePath());
-    const auto output = makePublisher(options, asked, folder).output;
+    const auto [output, web] = makePublisher(options, asked, folder);
     if (const Message missing = output->missingPart(); !missing.isNull())
         throw CommandError(Messages{missing});
     const QString file = output->outputFileName();
     const PublishStamp stamp(options, *asked, file);
-    if (!stamp.isUpToDate() || options.force)
+    const SharedPlayer* player = web ? web->sharedPlayer() : nullptr;
+    if (!stamp.isUpToDate() || options.force || (player && !player->isThere()))
         return makeAnew(options, stamp, timing);
     MadeBook made;
     made.file = file;

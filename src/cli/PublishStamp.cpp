@@ -8,6 +8,7 @@
 #include "template/FlashTemplate.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -70,6 +71,14 @@ QByteArray digestOfPages(const PublishOptions& options, const FlashTemplate& tmp
     return digest.result();
 }
 
+// The files themselves are part of the digest, wherever they are.
+QString pathOfPlayer(const PublishOptions& options) {
+    return options.sharedPlayer.isNull()
+               ? QString()
+               : QDir(QFileInfo(options.outputFolder).absoluteFilePath())
+                     .relativeFilePath(QFileInfo(options.sharedPlayer).absoluteFilePath());
+}
+
 // Whatever changes the book must be here.
 QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl,
                         const QByteArray& pages, const QByteArray& resources) {
@@ -77,9 +86,9 @@ QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl
     digest << pages << resources << options.title << QFileInfo(options.pdf).completeBaseName()
            << options.pages << int(options.singleFile) << int(options.allowText)
            << int(options.password.isGiven()) // an owner may have the text
-           << options.previewPages << options.url << QJsonDocument(options.facts.asJson()).toJson()
-           << int(options.links) << int(options.bookmarks) << options.templateName
-           << options.styleName;
+           << options.previewPages << options.url << pathOfPlayer(options)
+           << QJsonDocument(options.facts.asJson()).toJson() << int(options.links)
+           << int(options.bookmarks) << options.templateName << options.styleName;
     addProperties(digest, tmpl.properties(), tmpl);
     return digest.result();
 }

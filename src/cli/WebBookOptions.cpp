@@ -54,6 +54,7 @@ void WebBookOptions::check(const PublishOptions& options) {
         {"--allow-text", options.allowText},
         {"--preview-pages", !options.previewPages.isNull()},
         {"--url", !options.url.isNull()},
+        {"--shared-player", !options.sharedPlayer.isNull()},
         {"--author", !facts.author.isNull()},
         {"--subject", !facts.subject.isNull()},
         {"--language", !facts.language.isNull()},
@@ -65,6 +66,10 @@ void WebBookOptions::check(const PublishOptions& options) {
                                    .arg(QLatin1String(option)),
                                ExitCode::usage);
     }
+    if (options.singleFile && !options.sharedPlayer.isNull())
+        throw CommandError(
+            QStringLiteral("--shared-player: a book in a single file has its player in it"),
+            ExitCode::usage);
 }
 
 std::optional<BookAddress> WebBookOptions::address(const PublishOptions& options) {

@@ -54,7 +54,7 @@ QStringList BookLayout::webFilesOfPage(int number) {
 }
 
 QStringList BookLayout::webFiles() {
-    return {searchText, webScript, vectorScript, webStyle, shareImage, metadata};
+    return {searchText, webScript, vectorScript, webStyle, offlineScript, shareImage, metadata};
 }
 
 QStringList BookLayout::offlineFiles() {

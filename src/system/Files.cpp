@@ -6,11 +6,14 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QUuid>
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -30,6 +33,13 @@ bool writeAll(int to, const void* data, std::size_t size) {
         done += std::size_t(std::max<ssize_t>(written, 0));
     }
     return true;
+}
+
+// The old name may remain. Hard links work on network file systems, the other way also on those
+// without links.
+bool moveToFreeName(const char* from, const char* to) {
+    return ::link(from, to) == 0 ||
+           (errno != EEXIST && ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0);
 }
 
 } // namespace
@@ -62,6 +72,27 @@ bool Files::writeAtomically(const QString& path, const QByteArray& data, Message
     if (error)
         *error = errno ? Message::ofLastSystemError() : Message(file.errorString());
     return false;
+}
+
+bool Files::writeNew(const QString& path, const QByteArray& data, Message* error) {
+    struct stat there {};
+    const QByteArray name = QFile::encodeName(path);
+    if (::lstat(name.constData(), &there) == 0) {
+        errno = EEXIST;
+        return fail(error);
+    }
+    const qsizetype start = name.lastIndexOf('/') + 1;
+    const QByteArray part = name.left(start) + '.' + name.mid(start) + '.' +
+                            QUuid::createUuid().toByteArray(QUuid::Id128);
+    FileDescriptor file(::open(part.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!file.isOpen())
+        return fail(error);
+    const bool isDone = writeAll(file.number(), data.constData(), std::size_t(data.size())) &&
+                        ::fsync(file.number()) == 0 && file.close() &&
+                        moveToFreeName(part.constData(), name.constData());
+    const bool result = isDone || fail(error);
+    ::unlink(part.constData());
+    return result;
 }
 
 bool Files::writeWorkingFile(const QString& path, std::span<const unsigned char> data,

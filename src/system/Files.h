@@ -19,7 +19,12 @@ QByteArray beginning(const QString& path, qint64 mostBytes);
 // is kept, the function returns false and sets *error (when given) to the cause.
 bool writeAtomically(const QString& path, const QByteArray& data, Message* error = nullptr);
 
-// The same without fsync, for a working file that need not survive a power failure.
+// The same for a file that must not be there yet: whatever has that name is kept, and the function
+// returns false, also when that appears meanwhile. No reader ever sees a part of the file.
+bool writeNew(const QString& path, const QByteArray& data, Message* error = nullptr);
+
+// As writeAtomically(), but without fsync, for a working file that need not survive a power
+// failure.
 bool writeWorkingFile(const QString& path, std::span<const unsigned char> data,
                       Message* error = nullptr);
 

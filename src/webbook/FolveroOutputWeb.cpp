@@ -7,6 +7,7 @@
 #include "output/StagingFolder.h"
 #include "system/Files.h"
 #include "webbook/OfflineFiles.h"
+#include "webbook/SharedPlayer.h"
 #include "webbook/WebBook.h"
 
 #include <QFileInfo>
@@ -72,6 +73,7 @@ WebBook FolveroOutputWeb::webBook() const {
     book.complete(iOpenPages);
     book.hasText = iIncludesForbiddenText || book.metadata.allowsText;
     if (!iIsSingleFile) {
+        book.player = iSharedPlayer;
         if (book.hasText)
             book.metadata.textPage = BookLayout::textPage;
         if (const WebPage* first = book.firstPage(); first && !first->thumbnail.isNull())
@@ -112,13 +114,15 @@ PublishSteps FolveroOutputWeb::configuration(const WebBook& book) const {
 
 PublishSteps FolveroOutputWeb::folderSteps(const WebBook& book) {
     PublishSteps steps{{"name", [&book](PublishTarget&) { checkName(book); }}};
+    if (book.player)
+        steps << PublishStep{"shared player", [&book](PublishTarget&) { book.player->put(); }};
     steps += contents(book);
     steps += {
         shareImage(book.shareImage),
         BookSteps::clearedSettings(book.flashTemplate.get()),
         {"page", [this, &book](PublishTarget& to) { WebBookSteps::writePage(to, book, iReport); }}};
     steps += configuration(book);
-    steps += {{"player", WebBookSteps::copyPlayer},
+    steps += {{"player", [&book](PublishTarget& to) { WebBookSteps::copyPlayer(to, book); }},
               {"text of the existing book", removeTextPage},
               {"offline files", [&book](PublishTarget& to) { OfflineFiles::write(to, book); }},
               {"movie of a classic book",

@@ -6,8 +6,10 @@
 #include "webbook/WebBookMetadata.h"
 #include "webbook/WebBookSteps.h"
 
+#include <memory>
 #include <optional>
 
+class SharedPlayer;
 struct WebBook;
 
 // Writes a web book: a book folder whose pages take fewer bytes, with clickable links, contents,
@@ -32,6 +34,12 @@ public:
     void setSingleFile(bool isSingleFile) { iIsSingleFile = isSingleFile; }
     // The maximum size of a single-file book in bytes; mail and browsers do not accept more.
     void setSingleFileLimit(qint64 bytes) { iSingleFileLimit = bytes; }
+
+    // Shares the player with other books; null for a book with its own. Not for a single file.
+    void setSharedPlayer(std::shared_ptr<const SharedPlayer> player) {
+        iSharedPlayer = std::move(player);
+    }
+    const SharedPlayer* sharedPlayer() const { return iSharedPlayer.get(); }
 
     // Includes only these pages, by their numbers in the PDF; of the others the book contains
     // neither pictures nor text. None includes all.
@@ -70,6 +78,7 @@ private:
 
     BookFacts iFacts;
     std::optional<BookAddress> iAddress;
+    std::shared_ptr<const SharedPlayer> iSharedPlayer;
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;
     std::optional<std::vector<PageRun>> iOpenPages;

@@ -7,8 +7,9 @@
 #include "template/FlashTemplate.h"
 #include "util/ColorCategory.h"
 #include "util/NSData+CommonCrypto.h"
+#include "webbook/PlayerFile.h"
+#include "webbook/SharedPlayer.h"
 #include "webbook/WebBook.h"
-#include "webbook/WebBookSteps.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -82,19 +83,38 @@ struct List {
     qsizetype count = 0; // of files in the parts
 };
 
-List listOf(const PublishTarget& to, const QString& page) {
+// A file of the shared player as the service worker knows it: relative to the book, decoded.
+QString addressFor(const SharedPlayer& player, const QString& name) {
+    return QString::fromUtf8(QByteArray::fromPercentEncoding(player.address(name)));
+}
+
+// What a service worker with a shared player ends with, after its version.
+QByteArray ending(const SharedPlayer& player) {
+    return "\",\"player\":\"" + player.address() + "\"};\nimportScripts(\"" +
+           player.address(BookLayout::serviceWorker) + "\");\n";
+}
+
+List listOf(const PublishTarget& to, const WebBook& book) {
     List list;
     std::map<int, std::array<QByteArrayList, 4>> parts; // members by part and kind
+    const auto add = [&](int part, Kind kind, const QString& path, const QByteArray& bytes) {
+        parts[part][std::size_t(kind)] << member(path, digestOf(bytes));
+        list.bytes += bytes.size();
+    };
     const QDir root(to.layout.folder());
     for (const auto& [target, staged] : to.transaction.stagedFiles()) {
         const QString path = root.relativeFilePath(target);
-        const Kind kind = kindOf(path, page);
-        if (kind == Kind::none)
-            continue;
-        const QByteArray bytes = PublishTransaction::contents(staged);
-        parts[kind == Kind::shell ? 0 : partOf(path)][std::size_t(kind)]
-            << member(path, digestOf(bytes));
-        list.bytes += bytes.size();
+        const Kind kind = kindOf(path, book.htmlName());
+        if (kind != Kind::none)
+            add(kind == Kind::shell ? 0 : partOf(path), kind, path,
+                PublishTransaction::contents(staged));
+    }
+    if (book.player) {
+        for (const SharedPlayer::File& file : book.player->files()) {
+            const Kind kind = file.inBook.isNull() ? Kind::shell : kindOf(file.inBook, {});
+            if (kind != Kind::none && file.name != BookLayout::serviceWorker)
+                add(0, kind, addressFor(*book.player, file.name), file.bytes);
+        }
     }
     list.parts[0] = "{}";
     for (const auto& [number, kinds] : parts) {
@@ -179,17 +199,17 @@ bool OfflineFiles::canWriteTo(const BookLayout& book) {
 void OfflineFiles::write(PublishTarget& to, const WebBook& book) {
     if (!book.metadata.offline)
         return;
-    const QString page = book.htmlName();
-    const QByteArray script = PublishTransaction::contents(
-        WebBookSteps::playerPart(to.layout, BookLayout::serviceWorker));
+    const QByteArray script =
+        PublishTransaction::contents(PlayerFile::installed(to.layout, BookLayout::serviceWorker));
     const auto write = [&to](const QString& path, const QByteArray& data,
                              Phase phase = Phase::contents) {
         to.transaction.write(to.layout.at(path), data, phase);
     };
     write(BookLayout::icon, iconOf(to, book));
-    write(BookLayout::offlineScript, PublishTransaction::contents(WebBookSteps::playerPart(
-                                         to.layout, BookLayout::offlineScript)));
-    const List list = listOf(to, page);
+    if (!book.player)
+        write(BookLayout::offlineScript, PublishTransaction::contents(PlayerFile::installed(
+                                             to.layout, BookLayout::offlineScript)));
+    const List list = listOf(to, book);
     QByteArrayList parts;
     for (const auto& [number, files] : list.parts) {
         if (number == 0)
@@ -207,7 +227,7 @@ void OfflineFiles::write(PublishTarget& to, const WebBook& book) {
           Phase::configuration);
     write(BookLayout::manifest, manifestOf(book), Phase::page);
     write(BookLayout::serviceWorker,
-          ExistingBook::serviceWorkerStart + quoted(page) + ",\"version\":\"" + version + "\"};\n" +
-              script,
+          ExistingBook::serviceWorkerStart + quoted(book.htmlName()) + ",\"version\":\"" + version +
+              (book.player ? ending(*book.player) : "\"};\n" + script),
           Phase::page);
 }

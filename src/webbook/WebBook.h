@@ -15,6 +15,7 @@
 #include <vector>
 
 class FlashTemplate;
+class SharedPlayer;
 
 // What the steps that make a web book read.
 struct WebBook {
@@ -22,10 +23,11 @@ struct WebBook {
     std::shared_ptr<FlashTemplate> flashTemplate; // null for none
     HTMLConfigInfo texts;
     WebBookMetadata metadata;
-    std::vector<WebPage> pages; // in book order
-    Book content;               // as imported
-    ShareImage shareImage;      // empty for none
-    bool hasText = true;        // otherwise without words to select, search and the page of text
+    std::vector<WebPage> pages;                 // in book order
+    Book content;                               // as imported
+    ShareImage shareImage;                      // empty for none
+    std::shared_ptr<const SharedPlayer> player; // null: the book has its own
+    bool hasText = true; // otherwise without words to select, search and the page of text
     PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
 
     // Completes the metadata, whose facts go before those of the document, the outline, unless

@@ -7,11 +7,12 @@
 #include "pdf/AnnotationBudget.h"
 #include "pdf/PDFDocument.h"
 #include "pdf/PDFSerialization.h"
-#include "system/Bundle.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
 #include "util/Base91.h"
 #include "webbook/PlainTextPage.h"
+#include "webbook/PlayerFile.h"
+#include "webbook/SharedPlayer.h"
 #include "webbook/SingleFilePage.h"
 #include "webbook/StartList.h"
 #include "webbook/WebBook.h"
@@ -167,7 +168,7 @@ private:
 };
 
 QString textOfPlayerPart(const BookLayout& layout, const QString& path) {
-    return QString::fromUtf8(PublishTransaction::contents(WebBookSteps::playerPart(layout, path)));
+    return QString::fromUtf8(PublishTransaction::contents(PlayerFile::installed(layout, path)));
 }
 
 QString preload(const QString& picture, const char* priority) {
@@ -223,6 +224,18 @@ void addStartList(PagePlaces& places, const PublishTarget& to, const WebBook& bo
         places.allowedScript(u'\n' + textOfPlayerPart(to.layout, QStringLiteral("early.js")));
 }
 
+QString playerMarkup(const WebBook& book) {
+    const QString markup = QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
+                                          "<script src=\"%2\"%3></script>\n");
+    if (!book.player)
+        return markup.arg(BookLayout::webStyle, BookLayout::webScript, QString());
+    const auto address = [&book](const QString& path) {
+        return QString::fromLatin1(book.player->address(BookLayout::inFiles(path)));
+    };
+    return markup.arg(address(BookLayout::webStyle), address(BookLayout::webScript),
+                      QStringLiteral(" data-files=\"%1\"").arg(book.player->namesForPage()));
+}
+
 QString megabytes(qint64 bytes) {
     constexpr double megabyte = 1'000'000;
     // Rounded up: a file just over a limit must not appear to be within it.
@@ -245,15 +258,6 @@ Message tooLarge(qint64 size, qint64 limit) {
 }
 
 } // namespace
-
-QString WebBookSteps::playerPart(const BookLayout& layout, const QString& path) {
-    const QString source =
-        Bundle::pathForResource(Files::lastPathComponent(path), {}, QStringLiteral("AppFiles/Web"));
-    if (source.isNull())
-        PublishTransaction::fail(
-            layout.at(path), Message::translate("FolveroOutput", "the player is not installed"));
-    return source;
-}
 
 void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookReport& report) {
     const QString& textPage = book.metadata.textPage;
@@ -289,21 +293,28 @@ void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBo
     to.checkCancelled();
     if (!BookSteps::isInFolder(to.layout, book.htmlFile))
         return;
-    const QString pageTemplate = WebPageTemplate::of(book.flashTemplate.get());
+    const QString pageTemplate =
+        book.player ? book.player->page() : WebPageTemplate::of(book.flashTemplate.get());
     PagePlaces places = placesOf(book);
     addPreloads(places, to, book);
     addStartList(places, to, book, pageTemplate, report.searchParts);
-    places.head += QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
-                                  "<script src=\"%2\"></script>\n")
-                       .arg(BookLayout::webStyle, BookLayout::webScript);
+    places.head += playerMarkup(book);
     const TextTemplate page = book.texts.filled(pageTemplate, places);
     to.transaction.write(book.htmlFile, page.parse().toUtf8(), Phase::page);
 }
 
-void WebBookSteps::copyPlayer(PublishTarget& to) {
+void WebBookSteps::copyPlayer(PublishTarget& to, const WebBook& book) {
+    if (book.player) {
+        for (const SharedPlayer::File& file : book.player->files()) {
+            if (!file.inBook.isNull())
+                to.transaction.remove(to.layout.at(file.inBook));
+        }
+        return;
+    }
     for (const QString& path :
          {BookLayout::webScript, BookLayout::vectorScript, BookLayout::webStyle})
-        to.transaction.copy(playerPart(to.layout, path), to.layout.at(path), Copy::independent);
+        to.transaction.copy(PlayerFile::installed(to.layout, path), to.layout.at(path),
+                            Copy::independent);
 }
 
 void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& parts,
@@ -326,7 +337,8 @@ void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& 
     std::map<QString, QString> files;
     for (const auto& [target, staged] : parts.stagedFiles())
         files.emplace(QDir(to.layout.folder()).relativeFilePath(target), staged);
-    files.emplace(BookLayout::vectorScript, playerPart(to.layout, BookLayout::vectorScript));
+    files.emplace(BookLayout::vectorScript,
+                  PlayerFile::installed(to.layout, BookLayout::vectorScript));
     const SingleFilePage single(page.left(end).toUtf8(), files, page.mid(end).toUtf8());
     if (single.size() > limit)
         PublishTransaction::fail(book.htmlFile, tooLarge(single.size(), limit));

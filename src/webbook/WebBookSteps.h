@@ -27,10 +27,8 @@ void writePages(PublishTarget& to, const WebBook& book, WebBookReport& report);
 // The HTML page; after pages and their pictures.
 void writePage(PublishTarget& to, const WebBook& book, const WebBookReport& report);
 
-// The installed file of the player that a book has at that path. Fails when it is missing.
-QString playerPart(const BookLayout& layout, const QString& path);
-// Scripts and styles that the HTML page loads.
-void copyPlayer(PublishTarget& to);
+// Scripts and styles that the HTML page loads; a book with a shared player loses its own.
+void copyPlayer(PublishTarget& to, const WebBook& book);
 
 // In place of the HTML page, one that contains all files staged in parts. Fails when it would have
 // more bytes than the limit.

@@ -70,6 +70,13 @@ QString withPolicy(const QString& page) {
     return isFilled(changed, PagePlaces::scriptsName) ? changed : page;
 }
 
+const QRegularExpression& sharedPart() {
+    static const QRegularExpression part(
+        QStringLiteral(R"re(<(style|script) data-shared="([a-z.]+)">(.*?)</\1>)re"),
+        QRegularExpression::DotMatchesEverythingOption);
+    return part;
+}
+
 } // namespace
 
 QString WebPageTemplate::of(const FlashTemplate* flashTemplate) {
@@ -80,4 +87,25 @@ QString WebPageTemplate::of(const FlashTemplate* flashTemplate) {
 
 bool WebPageTemplate::hasHead(const QString& page) {
     return page.contains(placeholder(PagePlaces::headName));
+}
+
+std::map<QString, QString> WebPageTemplate::parts(const QString& page) {
+    std::map<QString, QString> parts;
+    for (const auto& match : sharedPart().globalMatch(page))
+        parts[match.captured(2)] = match.captured(3).trimmed() + u'\n';
+    return parts;
+}
+
+QString WebPageTemplate::withReferences(const QString& page, const QString& address) {
+    QString changed;
+    qsizetype end = 0;
+    for (const auto& match : sharedPart().globalMatch(page)) {
+        const QString file = address + match.captured(2);
+        changed += page.mid(end, match.capturedStart() - end) +
+                   (match.captured(1) == u"style"
+                        ? QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">").arg(file)
+                        : QStringLiteral("<script src=\"%1\"></script>").arg(file));
+        end = match.capturedEnd();
+    }
+    return changed + page.mid(end);
 }

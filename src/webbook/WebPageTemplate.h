@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <map>
 
 class FlashTemplate;
 
@@ -12,6 +13,12 @@ namespace WebPageTemplate {
 // such element or the text is not filled in any more. Pages without a content security policy get
 // one that allows the template's own scripts.
 QString of(const FlashTemplate* flashTemplate);
+
+// The parts of such a page that are the same in every book of the template, by names of files;
+// pages of templates from before there were such have none. And the page with references to these
+// files, at an address that ends in "/", in their places.
+std::map<QString, QString> parts(const QString& page);
+QString withReferences(const QString& page, const QString& address);
 
 // Whether such a page has the place in its head.
 bool hasHead(const QString& page);

@@ -40,7 +40,7 @@ TEST_F(StampTest, EveryOptionThatChangesTheBookMakesItAnew) {
                         "--set=topMargin=7", "--allow-text",
                         "--author=A",        "--subject=B",
                         "--language=de",     "--date=1911",
-                        "--rights=mine"};
+                        "--rights=mine",     "--shared-player=" + path("player")};
     const QStringList runOptions{"--watch", "--jobs",     "--quiet",         "--timing", "--report",
                                  "--force", "--password", "--password-file", "--help"};
     const QString help = QString::fromUtf8(Program::run({"publish", "--help"}).output);
@@ -88,6 +88,11 @@ TEST_F(StampTest, WhatIsMissingOrChangedIsMadeAnew) {
     EXPECT_EQ(resultOf({}), "made");
     EXPECT_GT(iDrawing, 0);
     EXPECT_EQ(resultOf({}), "upToDate");
+    const QStringList shared{"--type=web", "--shared-player=" + path("player")};
+    EXPECT_EQ(resultOf(shared), "made");
+    QDir(path("player")).removeRecursively();
+    EXPECT_EQ(resultOf(shared), "made");
+    EXPECT_EQ(resultOf(shared), "upToDate");
 }
 
 TEST_F(StampTest, PagesAreNotDrawnAgainForAnotherTitle) {

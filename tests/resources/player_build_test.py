@@ -48,9 +48,9 @@ class Texts(unittest.TestCase):
 class Sizes(unittest.TestCase):
     def test_scripts_stay_within_their_budgets(self):
         page = (BUILT / "Templates/float/index.html").read_text(encoding="utf-8")
-        scripts = {"page script": max(re.findall("<script>(.*?)</script>", page, re.DOTALL), key=len),
+        scripts = {"page script": max(re.findall("<script[^>]*>(.*?)</script>", page, re.DOTALL), key=len),
                    "web.js": (BUILT / "Web/web.js").read_text(encoding="utf-8")}
-        for name, most in [("page script", 30_000), ("web.js", 18_500)]:
+        for name, most in [("page script", 30_000), ("web.js", 18_600)]:
             size = len(gzip.compress(scripts[name].strip().encode(), 9))
             self.assertLessEqual(size, most, f"{name}, bytes of gzip -9")
 

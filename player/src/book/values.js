@@ -56,7 +56,7 @@ export function ownFile(text) {
  * @param {string} path relative to the book's files folder; an empty one has no address
  */
 export function fileAddress(path) {
-  // A single-file book has its images and sounds in its page.
+  // A single-file book has its images and sounds in its page, others share some files.
   return path && (window.folveroFile?.(path)
     ?? 'files/' + path.split('/').map(encodeURIComponent).join('/'));
 }

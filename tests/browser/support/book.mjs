@@ -73,7 +73,7 @@ export async function writeBook(folder, options) {
   await mkdir(path.join(folder, 'files/page'), { recursive: true });
   await mkdir(path.join(folder, 'files/extfiles'), { recursive: true });
   const shell = await readFile(path.join(template, 'index.html'), 'utf8');
-  const scripts = [...shell.matchAll(/<script>([^]*?)<\/script>/g)]
+  const scripts = [...shell.matchAll(/<script(?: data-shared="[^"]*")?>([^]*?)<\/script>/g)]
     .map(([, text]) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`).join(' ');
   const texts = { 'index.title': title, 'book.language': 'en', 'book.scripts': scripts };
   const html = Object.entries(look).reduce((page, [name, value]) => page.replace(
