@@ -47,7 +47,7 @@ void checkStartList(const std::shared_ptr<PDFDocument>& document) {
     book.content.document = document;
     for (int number = 1; number <= document->pageCount(); ++number)
         book.pages.push_back({number, "1.png", {}, {}, {}, {}});
-    book.readDocument({});
+    book.complete({});
     const int start = book.metadata.start;
     Fuzz::require(start >= 0 && start <= document->pageCount(), "it opens at one of its pages");
     const QByteArray json = StartList::json(book, 1);

@@ -96,6 +96,8 @@ void addBookOptions(CLI::App& command, PublishOptions& options) {
             "Folder for the files of the player that are the same in every web book,\n"
             "instead of a copy in each")
         ->type_name("FOLDER");
+    command.add_flag("--iiif", options.iiif,
+                     "Describe a web book for other viewers, in an IIIF manifest; needs --url");
     addFacts(command, options.facts);
     command
         .add_option("--quality", options.quality,

@@ -40,11 +40,6 @@ using Type = PublishOptions::Type;
 constexpr int importDPI = 144;
 constexpr int interruptPollMilliseconds = 25;
 
-bool isRightToLeft(const FlashTemplate& tmpl) {
-    return StringUtil::valueAsBool(
-        tmpl.propertyValueFor(QStringLiteral("RightToLeft"), QStringLiteral("NO")));
-}
-
 // The file name of the book's page. Its extension marks where the name ends: an application's name
 // may contain dots.
 QString bookName(const PublishOptions& options) {
@@ -160,6 +155,7 @@ Publisher makePublisher(const PublishOptions& options, const std::shared_ptr<Fla
     auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, name);
     output->setSingleFile(options.singleFile);
     output->setAddress(WebBookOptions::address(options));
+    output->setWritesIIIF(options.iiif);
     if (!options.sharedPlayer.isNull())
         output->setSharedPlayer(
             std::make_shared<SharedPlayer>(options.sharedPlayer, folder, *tmpl));
@@ -282,7 +278,7 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
     for (const QString& remark : pages.remarks)
         Terminal::report(QStringLiteral("folvero: %1: %2").arg(options.pdf, remark));
     auto openPages = WebBookOptions::openPages(options, pages.range, document->pageCount());
-    if (const auto split = SplitPDF::of(document, options.spreads, isRightToLeft(*tmpl))) {
+    if (const auto split = SplitPDF::of(document, options.spreads, tmpl->isRightToLeft())) {
         opened.document = split;
         pages.range = split->range(pages.range);
         if (openPages)

@@ -23,6 +23,7 @@ struct PublishOptions {
     bool allowText = false;  // web books only
     QString previewPages;    // web books only; null: all pages are included
     QString url;             // web books only: where the book will be; null: unknown
+    bool iiif = false;       // web books in folders only, with url
     QString sharedPlayer;    // web books in folders only: where players lie; null: in the book
     BookFacts facts;         // web books only: known better than the document does; no title
     int quality = 100;

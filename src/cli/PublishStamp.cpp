@@ -86,7 +86,7 @@ QByteArray digestOfBook(const PublishOptions& options, const FlashTemplate& tmpl
     digest << pages << resources << options.title << QFileInfo(options.pdf).completeBaseName()
            << options.pages << int(options.singleFile) << int(options.allowText)
            << int(options.password.isGiven()) // an owner may have the text
-           << options.previewPages << options.url << pathOfPlayer(options)
+           << options.previewPages << options.url << int(options.iiif) << pathOfPlayer(options)
            << QJsonDocument(options.facts.asJson()).toJson() << int(options.links)
            << int(options.bookmarks) << options.templateName << options.styleName;
     addProperties(digest, tmpl.properties(), tmpl);

@@ -54,6 +54,7 @@ void WebBookOptions::check(const PublishOptions& options) {
         {"--allow-text", options.allowText},
         {"--preview-pages", !options.previewPages.isNull()},
         {"--url", !options.url.isNull()},
+        {"--iiif", options.iiif},
         {"--shared-player", !options.sharedPlayer.isNull()},
         {"--author", !facts.author.isNull()},
         {"--subject", !facts.subject.isNull()},
@@ -69,6 +70,10 @@ void WebBookOptions::check(const PublishOptions& options) {
     if (options.singleFile && !options.sharedPlayer.isNull())
         throw CommandError(
             QStringLiteral("--shared-player: a book in a single file has its player in it"),
+            ExitCode::usage);
+    if (options.iiif && (options.url.isNull() || options.singleFile))
+        throw CommandError(
+            QStringLiteral("--iiif needs --url, and a book that is a folder with pictures"),
             ExitCode::usage);
 }
 

@@ -75,6 +75,20 @@ bool ExistingBook::isTextPage(const QString& file) {
     return QFileInfo(file).isFile() && Files::beginning(file, headBytes).contains(textPageMark);
 }
 
+bool ExistingBook::isIIIFManifest(const QString& file) {
+    const QFileInfo info(file);
+    if (!info.isFile() || info.size() > maxConfigurationBytes)
+        return false;
+    const auto manifest = QJsonDocument::fromJson(Files::contents(file));
+    const auto canvas = manifest["items"][0];
+    const QString id = manifest["id"].toString();
+    const QString book = id.chopped(std::min(id.size(), BookLayout::iiifManifest.size()));
+    return manifest["type"] == QStringLiteral("Manifest") && !book.isEmpty() &&
+           canvas["id"].toString().startsWith(book + QStringLiteral("canvas/")) &&
+           canvas["items"][0]["items"][0]["body"]["id"].toString().startsWith(
+               book + BookLayout::files + u'/');
+}
+
 QString ExistingBook::pageOfServiceWorker(const QString& folder) {
     const QString worker = Files::join(folder, BookLayout::serviceWorker);
     const QByteArray script =
@@ -136,5 +150,7 @@ QStringList ExistingBook::files(const QString& folder) {
     if (isWebBook)
         names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData)
               << numberedFiles(folder, BookLayout::search);
+    if (isIIIFManifest(Files::join(folder, BookLayout::iiifManifest)))
+        names << BookLayout::iiifManifest;
     return names;
 }

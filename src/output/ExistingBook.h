@@ -33,6 +33,9 @@ bool isPage(const QString& file);
 // Whether a file is the page of plain text of a web book.
 bool isTextPage(const QString& file);
 
+// Whether a file is the IIIF manifest of a web book: its pictures lie where those of a book do.
+bool isIIIFManifest(const QString& file);
+
 // The name of the HTML page of the web book whose service worker is in a folder; null when there is
 // none, or another site's.
 QString pageOfServiceWorker(const QString& folder);

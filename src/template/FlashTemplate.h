@@ -40,6 +40,8 @@ public:
 
     // The value of the first property with that key, or the default.
     QString propertyValueFor(const QString& key, const QString& defaultValue) const;
+    // Whether the book is read from right to left.
+    bool isRightToLeft() const;
     // The value of the first descendant with that key, or a null text.
     QString propertyValueFor(const FlashTemplateProperty& node, const QString& byKey) const;
     void setPropertyValue(const QString& key, const QString& value);

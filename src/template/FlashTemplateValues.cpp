@@ -23,6 +23,11 @@ QString FlashTemplate::propertyValueFor(const QString& key, const QString& defau
     return defaultValue;
 }
 
+bool FlashTemplate::isRightToLeft() const {
+    return StringUtil::valueAsBool(
+        propertyValueFor(QStringLiteral("RightToLeft"), QStringLiteral("NO")));
+}
+
 QString FlashTemplate::propertyValueFor(const FlashTemplateProperty& node,
                                         const QString& byKey) const {
     for (const auto& child : node.childProperties()) {

@@ -6,6 +6,7 @@
 #include "output/ForeignFiles.h"
 #include "output/StagingFolder.h"
 #include "system/Files.h"
+#include "webbook/IIIFManifest.h"
 #include "webbook/OfflineFiles.h"
 #include "webbook/SharedPlayer.h"
 #include "webbook/WebBook.h"
@@ -18,6 +19,14 @@ PublishStep shareImage(const ShareImage& image) {
     return {"picture for links", [&image](PublishTarget& to) {
                 if (!image.jpeg.isEmpty())
                     to.transaction.write(to.layout.at(BookLayout::shareImage), image.jpeg);
+            }};
+}
+
+PublishStep iiifManifest(const WebBook& book, const BookAddress& address) {
+    return {"IIIF manifest", [&book, &address](PublishTarget& to) {
+                to.transaction.write(to.layout.at(BookLayout::iiifManifest),
+                                     IIIFManifest::json(book, address),
+                                     PublishTransaction::Phase::page);
             }};
 }
 
@@ -122,6 +131,8 @@ PublishSteps FolveroOutputWeb::folderSteps(const WebBook& book) {
         BookSteps::clearedSettings(book.flashTemplate.get()),
         {"page", [this, &book](PublishTarget& to) { WebBookSteps::writePage(to, book, iReport); }}};
     steps += configuration(book);
+    if (iWritesIIIF && iAddress)
+        steps << iiifManifest(book, *iAddress);
     steps += {{"player", [&book](PublishTarget& to) { WebBookSteps::copyPlayer(to, book); }},
               {"text of the existing book", removeTextPage},
               {"offline files", [&book](PublishTarget& to) { OfflineFiles::write(to, book); }},
@@ -151,6 +162,9 @@ QStringList FolveroOutputWeb::foreignFiles() const {
     const QString text = layout().at(BookLayout::textPage);
     if (ForeignFiles::isThere(text) && !ExistingBook::isTextPage(text))
         found << text;
+    const QString manifest = layout().at(BookLayout::iiifManifest);
+    if (iWritesIIIF && ForeignFiles::isThere(manifest) && !ExistingBook::isIIIFManifest(manifest))
+        found << manifest;
     if (!ExistingBook::isWebBookIn(iSaveToFolder) && !StagingFolder::hasUnfinished(iSaveToFolder))
         found << ForeignFiles::ofWebBook(layout());
     return found;

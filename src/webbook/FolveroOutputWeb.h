@@ -29,6 +29,10 @@ public:
     // Where the book will be, for search engines and links to it; none for unknown.
     void setAddress(const std::optional<BookAddress>& address) { iAddress = address; }
 
+    // Describes the book for other viewers, in manifest.json. Only with an address, and not for a
+    // single file.
+    void setWritesIIIF(bool writes) { iWritesIIIF = writes; }
+
     // Puts everything into the HTML page, to be sent by mail or opened from disk. There is no page
     // of plain text then.
     void setSingleFile(bool isSingleFile) { iIsSingleFile = isSingleFile; }
@@ -79,6 +83,7 @@ private:
     BookFacts iFacts;
     std::optional<BookAddress> iAddress;
     std::shared_ptr<const SharedPlayer> iSharedPlayer;
+    bool iWritesIIIF = false;
     bool iIsSingleFile = false;
     qint64 iSingleFileLimit = 100'000'000;
     std::optional<std::vector<PageRun>> iOpenPages;

@@ -30,17 +30,29 @@ protected:
 
 TEST_F(StampTest, EveryOptionThatChangesTheBookMakesItAnew) {
     const QString settings = "--settings=" + path("settings.txt");
-    QStringList changes{"--type=app",        "--name=other",
-                        "--title=Other",     "--pages=1-2",
-                        "--single-file",     "--preview-pages=1",
-                        "--spreads=split",   "--url=https://example.org/book/",
-                        "--quality=50",      "--links",
-                        "--bookmarks",       "--template=deck",
-                        "--style=Garden",    settings,
-                        "--set=topMargin=7", "--allow-text",
-                        "--author=A",        "--subject=B",
-                        "--language=de",     "--date=1911",
-                        "--rights=mine",     "--shared-player=" + path("player")};
+    QStringList changes{"--type=app",
+                        "--name=other",
+                        "--title=Other",
+                        "--pages=1-2",
+                        "--single-file",
+                        "--preview-pages=1",
+                        "--spreads=split",
+                        "--url=https://example.org/book/",
+                        "--quality=50",
+                        "--links",
+                        "--bookmarks",
+                        "--template=deck",
+                        "--style=Garden",
+                        settings,
+                        "--set=topMargin=7",
+                        "--allow-text",
+                        "--author=A",
+                        "--subject=B",
+                        "--language=de",
+                        "--date=1911",
+                        "--rights=mine",
+                        "--iiif",
+                        "--shared-player=" + path("player")};
     const QStringList runOptions{"--watch", "--jobs",     "--quiet",         "--timing", "--report",
                                  "--force", "--password", "--password-file", "--help"};
     const QString help = QString::fromUtf8(Program::run({"publish", "--help"}).output);
@@ -52,7 +64,9 @@ TEST_F(StampTest, EveryOptionThatChangesTheBookMakesItAnew) {
     for (const QString& change : changes) {
         SCOPED_TRACE(qPrintable(change));
         QDir(book()).removeRecursively();
-        const QStringList usual(change.contains("=app") ? "--type=html" : "--type=web");
+        QStringList usual(change.contains("=app") ? "--type=html" : "--type=web");
+        if (change == "--iiif")
+            usual << "--url=https://example.org/";
         EXPECT_EQ(resultOf(usual), "made");
         EXPECT_EQ(resultOf(usual + QStringList("--jobs=1")), "upToDate");
         const QStringList changed =
