@@ -156,8 +156,17 @@ QStringList LibraryBooks::argumentsFor(const ListedBook& book) const {
     QStringList arguments = iOptions.bookOptions;
     for (const QByteArray& option : book.options)
         arguments << NameAliases::decoded(option);
-    if (!book.facts.title.isEmpty())
-        arguments << QStringLiteral("--title=") + book.facts.title;
+    const QJsonObject facts = book.facts.asJson();
+    for (auto fact = facts.begin(); fact != facts.end(); ++fact) {
+        // Lists have "German" as well; catalogues show it.
+        if (fact.key() != QStringLiteral("language") || BookFacts::isLanguage(book.facts.language))
+            arguments << QStringLiteral("--%1=%2").arg(fact.key(), fact->toString());
+    }
+    arguments << QStringLiteral("--shared-player=") + iLibrary.at(LibraryLayout::players);
+    if (!iOptions.url.isEmpty())
+        arguments
+            << QStringLiteral("--iiif")
+            << QStringLiteral("--url=%1%2/").arg(iOptions.url, LibraryLayout::bookPath(book.id));
     if (iOptions.force)
         arguments << QStringLiteral("--force");
     return arguments << QStringLiteral("--") << NameAliases::decoded(book.path)

@@ -7,6 +7,7 @@
 #include "cli/LibraryStatusCommand.h"
 #include "cli/PublishArguments.h"
 #include "system/NameAliases.h"
+#include "webbook/BookAddress.h"
 
 #include <QByteArray>
 #include <QFileInfo>
@@ -101,6 +102,18 @@ void addMake(CLI::App& library, const PasswordOptions& environment) {
             "--shard", [options](const std::string& typed) { takeShard(typed, *options); },
             "Make only part I of N parts of the list")
         ->type_name("I/N");
+    command
+        ->add_option_function<std::string>(
+            "--url",
+            [options](const std::string& typed) {
+                const auto address = BookAddress::from(QString::fromStdString(typed));
+                if (!address)
+                    throw CLI::ValidationError("--url", typed + " is no address of a folder");
+                options->url = address->file({});
+            },
+            "Address at which the library will be: its books name it to search engines,\n"
+            "and get IIIF manifests")
+        ->type_name("ADDRESS");
     command->add_flag("--only-failed", options->onlyFailed,
                       "Make only the books that failed or are incomplete");
     command->add_flag("--prune", options->prune, "Remove books that are not in the list any more");

@@ -11,6 +11,7 @@ struct LibraryMakeOptions {
     QString list;
     QString folder;
     QStringList bookOptions; // of "folvero publish", for all books
+    QString url;             // where the library will be, with a slash at its end; empty: unknown
     PasswordOptions password;
     int jobs = usualWorkerCount(); // page workers of all books together
     int shard = 1;
