@@ -22,6 +22,7 @@ pages
 output
 webbook
 library
+library/search
 app console
 ui cli server worker
 app/desktop

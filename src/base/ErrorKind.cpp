@@ -31,6 +31,7 @@ constexpr std::array names{
     std::pair{ErrorKind::templateFile, "ERROR_TEMPLATE_FILE"},
     std::pair{ErrorKind::templateProperty, "ERROR_TEMPLATE_PROPERTY"},
     std::pair{ErrorKind::publishing, "PublishError"},
+    std::pair{ErrorKind::searchIndex, "SearchIndexFailed"},
     std::pair{ErrorKind::preview, "Publish"},
     std::pair{ErrorKind::previewFolder, "PreviewFolder"},
     std::pair{ErrorKind::list, "ListFailed"},

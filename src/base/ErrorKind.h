@@ -35,6 +35,7 @@ enum class ErrorKind {
     templateProperty,
 
     publishing,
+    searchIndex,
     preview,
     previewFolder,
 

@@ -4,6 +4,7 @@
 #include "cli/LibraryBatch.h"
 #include "cli/LibraryMake.h"
 #include "cli/LibraryOptions.h"
+#include "cli/LibrarySearchCommands.h"
 #include "cli/LibraryStatusCommand.h"
 #include "cli/PublishArguments.h"
 #include "system/NameAliases.h"
@@ -150,11 +151,13 @@ void addBatch(CLI::App& library) {
 
 } // namespace
 
-void addLibraryCommands(CLI::App& app, const PasswordOptions& environment) {
-    auto* library = app.add_subcommand("library", "Make and show a library of many books")
+CLI::App& addLibraryCommands(CLI::App& app, const PasswordOptions& environment) {
+    auto* library = app.add_subcommand("library", "Make, search and show a library of many books")
                         ->group("Commands")
                         ->require_subcommand(1);
     addMake(*library, environment);
     addStatus(*library);
     addBatch(*library);
+    addLibraryIndex(*library);
+    return *library;
 }

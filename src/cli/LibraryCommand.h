@@ -4,5 +4,5 @@
 
 struct PasswordOptions;
 
-// Adds "folvero library" with its commands.
-void addLibraryCommands(CLI::App& app, const PasswordOptions& environment);
+// Adds "folvero library" with its commands but "serve", and returns it.
+CLI::App& addLibraryCommands(CLI::App& app, const PasswordOptions& environment);

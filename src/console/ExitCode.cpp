@@ -37,6 +37,7 @@ ExitCode exitCodeFor(ErrorKind kind) {
     case ErrorKind::templateFile:
     case ErrorKind::templateProperty:
     case ErrorKind::publishing:
+    case ErrorKind::searchIndex:
     case ErrorKind::preview:
     case ErrorKind::previewFolder:
     case ErrorKind::list:

@@ -8,8 +8,10 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -62,6 +64,18 @@ BookResult::Made madeFrom(const QJsonObject& object) {
             timeIn(object[QStringLiteral("added")]),
             timeIn(object[QStringLiteral("changed")]),
             BookFacts::fromJson(object[QStringLiteral("documentFacts")].toObject())};
+}
+
+// The result files in a folder and below it by their IDs, sorted.
+std::vector<std::pair<QString, QString>> filesIn(const QString& folder) {
+    std::vector<std::pair<QString, QString>> files;
+    QDirIterator all(folder, {QStringLiteral("*.json")}, QDir::Files, QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+        const QString path = all.next();
+        files.emplace_back(QFileInfo(path).completeBaseName(), path);
+    }
+    std::sort(files.begin(), files.end());
+    return files;
 }
 
 } // namespace
@@ -118,19 +132,20 @@ Message BookResult::write(const LibraryLayout& to) const {
 
 QStringList BookResult::ids(const LibraryLayout& library) {
     QStringList ids;
-    QDirIterator files(library.results(), {QStringLiteral("*.json")}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        ids << QFileInfo(files.next()).completeBaseName();
-    }
-    ids.sort();
+    for (const auto& [id, file] : filesIn(library.results()))
+        ids << id;
     return ids;
 }
 
 void BookResult::forEach(const LibraryLayout& library,
                          const std::function<void(const BookResult&)>& visit) {
-    for (const QString& id : ids(library)) {
-        const auto result = read(library.result(id));
+    forEachIn(library.results(), visit);
+}
+
+void BookResult::forEachIn(const QString& folder,
+                           const std::function<void(const BookResult&)>& visit) {
+    for (const auto& [id, file] : filesIn(folder)) {
+        const auto result = read(file);
         if (result && result->id == id)
             visit(*result);
     }

@@ -59,4 +59,7 @@ struct BookResult {
     // Calls visit with all results, in order of the IDs.
     static void forEach(const LibraryLayout& library,
                         const std::function<void(const BookResult&)>& visit);
+    // The same with those in one folder: of a group, see LibraryLayout.
+    static void forEachIn(const QString& folder,
+                          const std::function<void(const BookResult&)>& visit);
 };

@@ -36,8 +36,15 @@ QString LibraryLayout::results() const {
 }
 
 QString LibraryLayout::result(const QString& id) const {
-    const QString group = QString::fromLatin1(BookID::digest(id).left(1).toHex());
-    return Files::join(Files::join(results(), group), id + jsonExtension);
+    return Files::join(resultGroup(resultGroupOf(id)), id + jsonExtension);
+}
+
+QString LibraryLayout::resultGroup(int group) const {
+    return Files::join(results(), QString::fromLatin1(QByteArray(1, char(group)).toHex()));
+}
+
+int LibraryLayout::resultGroupOf(const QString& id) {
+    return uchar(BookID::digest(id).front());
 }
 
 QString LibraryLayout::lease(const QString& id) const {
@@ -50,4 +57,8 @@ QString LibraryLayout::list() const {
 
 QString LibraryLayout::runs() const {
     return stateAt(QStringLiteral("runs"));
+}
+
+QString LibraryLayout::searchIndex() const {
+    return stateAt(QStringLiteral("search"));
 }

@@ -28,6 +28,10 @@ public:
     // What the last runs say of a book; in 256 folders, since file systems get slow with many files
     // in one.
     QString results() const;
+    static constexpr int resultGroups = 256;
+    // The folder with the results of a group, from 0, and the group of a book.
+    QString resultGroup(int group) const;
+    static int resultGroupOf(const QString& id);
     QString result(const QString& id) const;
     // Held by the run that makes the book.
     QString lease(const QString& id) const;
@@ -35,6 +39,8 @@ public:
     QString list() const;
     // What each shard did last.
     QString runs() const;
+    // The folder of the full text index.
+    QString searchIndex() const;
 
 private:
     QString iFolder;

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+// The commands of "folvero library" that are about the texts of all books.
+
+void addLibraryIndex(CLI::App& library);
