@@ -2,8 +2,12 @@
 
 #include <QString>
 #include <optional>
+#include <string>
 
-// Serves a published book to browsers on this machine until Ctrl-C: on the given port (0 means any
-// free one), or on the first free one of a few. Replaces this process with the book server and does
-// not return. Throws CommandError.
-void runServe(const std::string& folder, std::optional<int> port, bool verbose);
+enum class Served { book, library };
+
+// Serves a published book or a library to browsers on this machine until Ctrl-C: on the given port
+// (0 means any free one), or on the first free one of a few. Replaces this process with the book
+// server and does not return. Throws CommandError.
+[[noreturn]] void runServe(Served what, const std::string& folder, std::optional<int> port,
+                           bool verbose);

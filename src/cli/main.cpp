@@ -88,18 +88,30 @@ void addDecode(CLI::App& app, CommandLine& line) {
     });
 }
 
+void addPort(CLI::App& command, std::optional<int>& port) {
+    command
+        .add_option("--port", port,
+                    "Port of the address; by default 8000 or the next free one, 0 for any\n"
+                    "free one")
+        ->check(CLI::Range(0, 65535, "0-65535"))
+        ->type_name("N");
+}
+
 void addServe(CLI::App& app, CommandLine& line) {
     auto* command =
         app.add_subcommand("serve", "Show a published book in the browser, as on a web server")
             ->group("Commands");
     command->add_option("BOOKDIR", line.served, "The book's folder")->type_name("")->required();
-    command
-        ->add_option("--port", line.port,
-                     "Port of the address; by default 8000 or the next free one, 0 for any\n"
-                     "free one")
-        ->check(CLI::Range(0, 65535, "0-65535"))
-        ->type_name("N");
-    command->callback([&line] { runServe(line.served, line.port, line.verbose); });
+    addPort(*command, line.port);
+    command->callback([&line] { runServe(Served::book, line.served, line.port, line.verbose); });
+}
+
+void addLibraryServe(CLI::App& library, CommandLine& line) {
+    auto* command = library.add_subcommand(
+        "serve", "Show a library in the browser, with a search of all its texts");
+    command->add_option("OUT", line.served, "The library's folder")->type_name("")->required();
+    addPort(*command, line.port);
+    command->callback([&line] { runServe(Served::library, line.served, line.port, line.verbose); });
 }
 
 // The error of the command line, with a pointer to the help.
@@ -176,7 +188,7 @@ int run(int argc, char** argv) {
     addInfo(app, line);
     addDecode(app, line);
     addServe(app, line);
-    addLibraryCommands(app, line.password);
+    addLibraryServe(addLibraryCommands(app, line.password), line);
     try {
         app.parse(wordsOf(argc, argv, app));
     } catch (const CLI::ParseError& error) {

@@ -45,14 +45,17 @@ void setContent(Response& response, const QByteArray& type, qint64 length,
     response.set_content_provider(type.toStdString(), std::move(provider));
 }
 
-void answer(Response& response, int status, const QByteArray& words) {
+void answer(Response& response, int status, const QByteArray& type, const QByteArray& content) {
     response.status = status;
-    setContent(response, "text/plain; charset=utf-8", words.size(),
-               [words](std::size_t, httplib::DataSink& sink) {
-                   sink.write(words.constData(), std::size_t(words.size()));
-                   sink.done();
-                   return true;
-               });
+    setContent(response, type, content.size(), [content](std::size_t, httplib::DataSink& sink) {
+        sink.write(content.constData(), std::size_t(content.size()));
+        sink.done();
+        return true;
+    });
+}
+
+void answer(Response& response, int status, const QByteArray& words) {
+    answer(response, status, "text/plain; charset=utf-8", words);
 }
 
 // Host names that no DNS server can point at this machine: otherwise a page elsewhere could read
@@ -151,7 +154,23 @@ void answerWithFile(const Request& request, Response& response, BookFile&& opene
     setContent(response, file->contentType, extent.length, FileReader(file, extent));
 }
 
-void answerRequest(const QString& folder, const Request& request, Response& response) {
+ServerRequest asServerRequest(const Request& request) {
+    const auto header = [&request](const char* name) {
+        return QByteArray::fromStdString(request.get_header_value(name));
+    };
+    ServerRequest wanted{QByteArray::fromStdString(request.path),
+                         QByteArray::fromStdString(request.target), header("Host"),
+                         header("Accept")};
+    for (const auto& [name, value] : request.params) {
+        const auto key = QByteArray::fromStdString(name);
+        if (!wanted.parameters.contains(key))
+            wanted.parameters[key] = QByteArray::fromStdString(value);
+    }
+    return wanted;
+}
+
+void answerRequest(const QString& folder, const AnswerRequest& answers, const Request& request,
+                   Response& response) {
     // A republished book shows at once.
     response.set_header("Cache-Control", "no-cache");
     response.set_header("X-Content-Type-Options", "nosniff");
@@ -163,6 +182,11 @@ void answerRequest(const QString& folder, const Request& request, Response& resp
     if (request.method != "GET" && request.method != "HEAD") {
         response.set_header("Allow", "GET, HEAD");
         return answer(response, 405, "Method not allowed\n");
+    }
+    if (const auto other = answers ? answers(asServerRequest(request)) : std::nullopt) {
+        if (!other->contentPolicy.isEmpty())
+            response.set_header("Content-Security-Policy", other->contentPolicy.toStdString());
+        return answer(response, other->status, other->contentType, other->content);
     }
     if (auto file = BookFile::open(folder, QByteArray::fromStdString(request.target)))
         return answerWithFile(request, response, std::move(*file));
@@ -242,7 +266,7 @@ class Server : public httplib::Server {
 
 class BookServer::Implementation {
 public:
-    explicit Implementation(const QString& folder) {
+    Implementation(const QString& folder, const AnswerRequest& answers) {
         iServer.new_task_queue = [] { return new httplib::ThreadPool(threads); };
         iServer.set_tcp_nodelay(true);
         // Unlike cpp-httplib's default, does not share the port with another server.
@@ -251,18 +275,18 @@ public:
             ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof(yes));
             iSocket = socket;
         });
-        iServer.set_pre_routing_handler([folder](const Request& request, Response& response) {
-            answerRequest(folder, request, response);
+        iServer.set_pre_routing_handler([=](const Request& request, Response& response) {
+            answerRequest(folder, answers, request, response);
             return httplib::Server::HandlerResponse::Handled;
         });
         // cpp-httplib refuses ranges that it does not understand, which are to be ignored.
-        const httplib::Server::HandlerWithResponse withoutRange = [folder](const Request& request,
-                                                                           Response& response) {
+        const httplib::Server::HandlerWithResponse withoutRange = [=](const Request& request,
+                                                                      Response& response) {
             if (response.status != 416 || response.has_header("Content-Range"))
                 return httplib::Server::HandlerResponse::Unhandled;
             Request whole = request;
             whole.ranges.clear();
-            answerRequest(folder, whole, response);
+            answerRequest(folder, answers, whole, response);
             return httplib::Server::HandlerResponse::Handled;
         };
         iServer.set_error_handler(withoutRange);
@@ -276,8 +300,8 @@ public:
     std::future<bool> iListening; // its destructor waits for the server's threads
 };
 
-BookServer::BookServer(const QString& folder)
-    : iImplementation(std::make_unique<Implementation>(folder)) {}
+BookServer::BookServer(const QString& folder, const AnswerRequest& answers)
+    : iImplementation(std::make_unique<Implementation>(folder, answers)) {}
 
 BookServer::~BookServer() {
     stop();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "server/ServerAnswer.h"
+
 #include <QString>
 #include <chrono>
 #include <memory>
@@ -8,7 +10,8 @@
 // address only and never writes.
 class BookServer {
 public:
-    explicit BookServer(const QString& folder);
+    // What answers has none for is looked for in the folder.
+    explicit BookServer(const QString& folder, const AnswerRequest& answers = {});
     // Waits for running responses.
     ~BookServer();
     BookServer(const BookServer&) = delete;

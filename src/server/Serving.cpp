@@ -4,9 +4,11 @@
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
 #include "console/Terminal.h"
+#include "library/LibraryLayout.h"
 #include "output/BookLayout.h"
 #include "output/ExistingBook.h"
 #include "server/BookServer.h"
+#include "server/SearchService.h"
 #include "system/Files.h"
 
 #include <QDir>
@@ -33,11 +35,9 @@ QString anyPageOf(const QString& folder) {
     return pages.contains(BookLayout::defaultPage) ? BookLayout::defaultPage : pages.value(0);
 }
 
-// The file name in the book's address: empty for "index.html".
-QString pageOf(const QString& folder) {
+void checkFolder(const QString& folder) {
     if (folder.isEmpty())
-        throw CommandError(QStringLiteral("the name of the book's folder is empty"),
-                           ExitCode::usage);
+        throw CommandError(QStringLiteral("the name of the folder is empty"), ExitCode::usage);
     if (!QFileInfo::exists(folder))
         throw CommandError(QStringLiteral("%1: no such folder").arg(folder));
     if (!QFileInfo(folder).isDir())
@@ -46,6 +46,11 @@ QString pageOf(const QString& folder) {
         throw CommandError(QStringLiteral("%1: the folder can't be read (%2)")
                                .arg(folder, Message::ofLastSystemError().english()));
     }
+}
+
+// The file name in the book's address: empty for "index.html".
+QString pageOf(const QString& folder) {
+    checkFolder(folder);
     const QStringList books = ExistingBook::pages(folder);
     const QString page = books.isEmpty() ? anyPageOf(folder) : books.front();
     if (page.isNull())
@@ -67,12 +72,8 @@ void bindPort(BookServer& server, std::optional<int> wanted) {
         QStringLiteral("%1: %2").arg(ports, Message::ofSystemError(error).english()));
 }
 
-} // namespace
-
-void serveBook(const QString& folder, std::optional<int> port) {
-    const QString page = pageOf(folder);
+void serve(BookServer& server, std::optional<int> port, const QString& page) {
     Interrupt::watch();
-    BookServer server(QFileInfo(folder).absoluteFilePath());
     bindPort(server, port);
     server.start();
     Terminal::print(QStringLiteral("http://127.0.0.1:%1/%2").arg(server.port()).arg(page));
@@ -87,4 +88,26 @@ void serveBook(const QString& folder, std::optional<int> port) {
     // so nothing is left half done.
     if (!server.waitForEnd(300ms))
         std::_Exit(int(ExitCode::ok));
+}
+
+} // namespace
+
+void serveBook(const QString& folder, std::optional<int> port) {
+    const QString page = pageOf(folder);
+    BookServer server(QFileInfo(folder).absoluteFilePath());
+    serve(server, port, page);
+}
+
+void serveLibrary(const QString& folder, std::optional<int> port) {
+    checkFolder(folder);
+    const LibraryLayout library(folder);
+    if (!QFileInfo(library.at(LibraryLayout::state)).isDir())
+        throw CommandError(QStringLiteral("%1: no library in it (there is no %2)")
+                               .arg(folder, LibraryLayout::state));
+    SearchService search(library);
+    BookServer server(library.folder(),
+                      [&search](const ServerRequest& request) { return search.answer(request); });
+    // Without a catalogue, the books are found by their texts only.
+    const bool hasCatalogue = QFileInfo::exists(library.at(BookLayout::defaultPage));
+    serve(server, port, hasCatalogue ? QString() : SearchService::page);
 }

@@ -23,6 +23,8 @@ namespace {
 namespace Access {
 constexpr std::uint64_t readFile = LANDLOCK_ACCESS_FS_READ_FILE;
 constexpr std::uint64_t ofFirstVersion = (std::uint64_t{1} << 13) - 1;
+constexpr std::uint64_t reading =
+    LANDLOCK_ACCESS_FS_EXECUTE | LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
 constexpr std::uint64_t refer = std::uint64_t{1} << 13;
 constexpr std::uint64_t truncate = std::uint64_t{1} << 14;
 constexpr std::uint64_t control = std::uint64_t{1} << 15;
@@ -39,13 +41,19 @@ struct RulesetAttributes {
 
 class Ruleset {
 public:
-    explicit Ruleset(int version) : iTruncates(version >= 3) {
+    enum class Forbids { everything, writing };
+
+    Ruleset(int version, Forbids forbids) : iTruncates(version >= 3) {
         RulesetAttributes attributes{Access::ofFirstVersion, 0, 0};
         std::size_t size = sizeof attributes.files;
         if (version >= 2)
             attributes.files |= Access::refer;
         if (version >= 3)
             attributes.files |= Access::truncate;
+        if (forbids == Forbids::writing) {
+            attributes.files &= ~Access::reading;
+            version = 3;
+        }
         if (version >= 4) {
             attributes.network = 0b11; // TCP bind and connect
             size += sizeof attributes.network;
@@ -77,12 +85,16 @@ private:
     bool iTruncates;
 };
 
+// Below 1 where the kernel has no Landlock.
+int landlockVersion() {
+    return int(::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION));
+}
+
 void restrictFiles(const Sandbox::Policy& policy) {
-    const long version =
-        ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
+    const int version = landlockVersion();
     if (version < 1)
         return;
-    const Ruleset rules(static_cast<int>(version));
+    const Ruleset rules(version, Ruleset::Forbids::everything);
     // A file that can't be opened now can't be opened later either, and that is reported then.
     rules.allow(policy.file, Access::readFile);
     if (!policy.workFolder.isNull())
@@ -206,8 +218,15 @@ void Sandbox::enter(const Policy& policy) {
     CallFilter().enforce();
 }
 
+void Sandbox::forbidWriting() {
+    const int version = landlockVersion();
+    if (version >= 1 && ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0)
+        Ruleset(version, Ruleset::Forbids::writing).enforce();
+}
+
 #else
 
 void Sandbox::enter(const Policy& /*policy*/) {}
+void Sandbox::forbidWriting() {}
 
 #endif

@@ -21,4 +21,9 @@ struct Policy {
 // not restricted.
 void enter(const Policy& policy);
 
+// Keeps the process from changing any file or folder from now on; it can read as before, and write
+// to files that are open. Where the kernel can't do that it does nothing. Call it while the process
+// has one thread.
+void forbidWriting();
+
 } // namespace Sandbox

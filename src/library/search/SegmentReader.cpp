@@ -138,7 +138,7 @@ SegmentReader::Found SegmentReader::find(const QByteArray& expression, const QSt
     const Rows rows = rowsOf(book);
     if (rows.last < rows.first)
         return found;
-    iOpen->database.setDeadline(deadline);
+    const SqliteDeadline limit(iOpen->database, deadline);
     iOpen->ranking.left = limits.mostRanked;
     SqliteStatement& match = *iOpen->match;
     match.bind(0, expression);

@@ -60,12 +60,16 @@ void Sqlite::fail(int code) const {
     throw PlatformException(ErrorKind::searchIndex, isTemporary(code) ? about.temporary() : about);
 }
 
-void Sqlite::setDeadline(std::chrono::steady_clock::time_point deadline) {
-    iDeadline = std::make_unique<Deadline>(deadline);
+SqliteDeadline::SqliteDeadline(const Sqlite& database, Time time)
+    : iDatabase(database), iTime(time) {
     const auto isOver = [](void* known) {
-        return int(std::chrono::steady_clock::now() > *static_cast<const Deadline*>(known));
+        return int(std::chrono::steady_clock::now() > *static_cast<const Time*>(known));
     };
-    ::sqlite3_progress_handler(iHandle.get(), stepsBetweenLooks, isOver, iDeadline.get());
+    ::sqlite3_progress_handler(database.handle(), stepsBetweenLooks, isOver, &iTime);
+}
+
+SqliteDeadline::~SqliteDeadline() {
+    ::sqlite3_progress_handler(iDatabase.handle(), 0, nullptr, nullptr);
 }
 
 SqliteStatement::SqliteStatement(const Sqlite& database, const char* sql) : iDatabase(database) {
@@ -105,9 +109,9 @@ bool SqliteStatement::step(bool* isInterrupted) {
         return true;
     const int failure = code == SQLITE_DONE ? SQLITE_OK : code;
     *isInterrupted = (failure & 0xff) == SQLITE_INTERRUPT;
+    reset();
     if (failure != SQLITE_OK && !*isInterrupted)
         iDatabase.fail(failure);
-    reset();
     return false;
 }
 

@@ -25,19 +25,29 @@ public:
     sqlite3* handle() const { return iHandle.get(); }
     // Throws for the result code.
     [[noreturn]] void fail(int code) const;
-    // From then on statements end as interrupted.
-    void setDeadline(std::chrono::steady_clock::time_point deadline);
 
 private:
     struct Close {
         void operator()(sqlite3* handle) const { ::sqlite3_close_v2(handle); }
     };
 
-    using Deadline = std::chrono::steady_clock::time_point;
-
     QString iFile;
-    std::unique_ptr<Deadline> iDeadline; // where SQLite finds it
     std::unique_ptr<sqlite3, Close> iHandle;
+};
+
+// As long as it exists, statements of the database end as interrupted from the deadline on.
+class SqliteDeadline {
+public:
+    using Time = std::chrono::steady_clock::time_point;
+
+    SqliteDeadline(const Sqlite& database, Time time);
+    ~SqliteDeadline();
+    SqliteDeadline(const SqliteDeadline&) = delete;
+    SqliteDeadline& operator=(const SqliteDeadline&) = delete;
+
+private:
+    const Sqlite& iDatabase;
+    Time iTime;
 };
 
 // A statement of a database, which must outlive it. Parameters and columns count from 0.

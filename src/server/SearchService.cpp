@@ -1,0 +1,112 @@
+#include "server/SearchService.h"
+
+#include "base/Log.h"
+#include "base/PlatformException.h"
+#include "library/BookID.h"
+#include "output/BookLayout.h"
+#include "server/ContentSearch.h"
+#include "server/SearchResults.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <algorithm>
+
+namespace {
+
+constexpr Log logger("SearchService");
+
+// Nobody reads further; each further page costs more than the one before.
+constexpr int mostPages = 50;
+constexpr int hitsOfPage = 20;
+
+const QByteArray searchPath = "/search";
+
+QString parameter(const ServerRequest& request, const char* name) {
+    return QString::fromUtf8(request.parameters.value(name));
+}
+
+ServerAnswer problem(int status, const QByteArray& words) {
+    const QJsonObject object{{QStringLiteral("error"), QString::fromUtf8(words)}};
+    return {status, "application/json; charset=utf-8", QJsonDocument(object).toJson(), {}};
+}
+
+ServerAnswer missingIndex() {
+    return problem(404, "the library has no index yet: folvero library index makes it");
+}
+
+// A browser that follows a link; scripts ask for anything or for JSON.
+bool wantsPage(const ServerRequest& request) {
+    return request.accept.contains("text/html") && !request.accept.contains("application/json");
+}
+
+} // namespace
+
+std::optional<ServerAnswer> SearchService::answer(const ServerRequest& request) {
+    try {
+        const bool isPage = request.path == '/' + page.toLatin1();
+        if (isPage || request.path == searchPath)
+            return answerWithHits(request, isPage || wantsPage(request));
+        if (request.path.endsWith(searchPath))
+            return answerForBook(request);
+    } catch (const PlatformException& failure) {
+        logger.warn(failure.reason());
+        return problem(500, "the index can't be read");
+    }
+    return {};
+}
+
+ServerAnswer SearchService::answerWithHits(const ServerRequest& request, bool asPage) {
+    SearchResults results;
+    results.typed = parameter(request, "q");
+    results.isTooLong = results.typed.size() > SearchQuery::longest;
+    results.page = std::clamp(parameter(request, "page").toInt(), 1, mostPages);
+    results.pageSize = hitsOfPage;
+    results.lastPage = mostPages;
+    const QString book = parameter(request, "book");
+    const SearchQuery query(results.typed);
+    LibrarySearch::Options options;
+    options.book = book.isEmpty() ? QString() : book;
+    options.most = hitsOfPage;
+    options.first = std::size_t(results.page - 1) * hitsOfPage;
+    const auto found = iPool.find(query, options);
+    results.hasIndex = found.has_value();
+    if (found) {
+        results.total = found->count;
+        results.isMore = found->isMore;
+        for (const auto& hit : found->hits) {
+            if (auto shown = PageHit::make(iLibrary, query, hit))
+                results.hits.push_back(std::move(*shown));
+        }
+    }
+    results.book = book;
+    results.hasCatalogue = QFileInfo::exists(iLibrary.at(BookLayout::defaultPage));
+    if (asPage)
+        return {200, "text/html; charset=utf-8", results.asPage(), SearchResults::contentPolicy};
+    if (!found)
+        return missingIndex();
+    if (results.isTooLong)
+        return problem(400, "the query is too long");
+    return {200,
+            "application/json; charset=utf-8",
+            QJsonDocument(results.asJson()).toJson(QJsonDocument::Compact),
+            {}};
+}
+
+std::optional<ServerAnswer> SearchService::answerForBook(const ServerRequest& request) {
+    const QByteArray start = '/' + LibraryLayout::books.toLatin1() + '/';
+    if (!request.path.startsWith(start))
+        return {};
+    const QByteArray name = request.path.mid(start.size()).chopped(searchPath.size());
+    const QString id = QString::fromUtf8(name);
+    if (!BookID::problemWith(id).isNull())
+        return {};
+    const SearchQuery query(parameter(request, "q"));
+    ContentSearch search(iLibrary, id, request);
+    const auto found = iPool.find(query, search.options());
+    if (!found)
+        return missingIndex();
+    return ServerAnswer{200,
+                        "application/ld+json; charset=utf-8",
+                        QJsonDocument(search.page(query, *found)).toJson(QJsonDocument::Compact),
+                        {}};
+}
