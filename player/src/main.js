@@ -9,7 +9,7 @@ import { Turner } from './turning/turner.js';
 import { Gestures } from './controls/gestures.js';
 import { wireKeys } from './controls/keys.js';
 import { Memory } from './controls/memory.js';
-import { Place, pageInAddress } from './controls/place.js';
+import { Place, pageInAddress, searchInAddress } from './controls/place.js';
 import { Slideshow } from './controls/slideshow.js';
 import { Sounds } from './controls/sound.js';
 import { Toolbar } from './controls/toolbar.js';
@@ -126,10 +126,11 @@ function addControls(root, turner, sounds) {
 /** @param {HTMLElement} root */
 async function openBook(root) {
   const config = await loadConfiguration();
+  const asked = { page: pageInAddress(), search: searchInAddress() };
   // An extension of another version, from the browser's cache, may fail; the book works without it.
   const additions = await Promise.all(extensions.map(async (extend) => {
     try {
-      return await extend({ root, config, say, learn });
+      return await extend({ root, config, asked, say, learn });
     } catch (error) {
       console.error(error);
       return undefined;

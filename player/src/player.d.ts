@@ -21,6 +21,8 @@ export interface Beginning {
   root: HTMLElement;
   /** May be changed until the book is laid out. */
   config: BookConfig;
+  /** What the address names: a page, 0 for none, and words to mark, null or empty for none. */
+  asked: { page: number; search: string | null };
   say(word: AnyWord, ...values: (string | number)[]): string;
   learn: typeof learn;
 }

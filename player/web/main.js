@@ -1,6 +1,5 @@
 import { make, part } from '../src/book/dom.js';
 import { Memory } from '../src/controls/memory.js';
-import { pageInAddress } from '../src/controls/place.js';
 import { closePages } from './closed.js';
 import { Contents } from './contents.js';
 import { DataFiles } from './data.js';
@@ -135,6 +134,7 @@ function addToBook(player, facts) {
     const searching = new Searching(player, layers, files, room, button);
     commands.search = () => searching.panel.toggle();
     toolbar.add(button, 'thumbs');
+    if (player.asked.search) searching.mark(player.asked.search);
   }
   if (facts.offline && !single && mayKeep()) addKeeping(player, layers);
   if (facts.textPage) addTextLink(root, facts.textPage, say('textPage'));
@@ -150,12 +150,12 @@ function addToBook(player, facts) {
 }
 
 /**
- * Begins at that page where neither the address nor the reader's last visit names one.
+ * Begins at that page where the reader's last visit names none.
  * @param {number} page 0 for none
  * @param {number} pageCount
  */
 function beginAt(page, pageCount) {
-  if (!page || pageInAddress() || new Memory(pageCount).page) return;
+  if (!page || new Memory(pageCount).page) return;
   try {
     history.replaceState(null, '', '#page=' + page);
   } catch {
@@ -186,7 +186,7 @@ window.folveroExtensions.push(async (beginning) => {
   // Without them the book still works as a classic one.
   if (!facts) return undefined;
   config.labels = facts.labels;
-  beginAt(facts.start, config.pages.length);
+  if (!beginning.asked.page) beginAt(facts.start, config.pages.length);
   const closed = closePages(config, facts, say('notOpen'));
   window.folveroFile = (path) => closed(path) ?? address(path);
   return (parts) => addToBook({ ...beginning, ...parts }, facts);

@@ -124,6 +124,21 @@ export class Searching {
     else this.panel.button.focus({ preventScroll: true });
   }
 
+  /**
+   * Marks the words that an address names, without the panel.
+   * @param {string} typed
+   */
+  async mark(typed) {
+    this.text.apart = this.box.value = typed;
+    this.#find();
+    await this.loading;
+    const { inView } = this.layers;
+    // The address also names a page, on which the reader stays.
+    if (!this.answer?.hits.some(({ position }) => inView.includes(position))) return;
+    this.step(1);
+    this.strip.hidden = this.panel.shown;
+  }
+
   /** Whether all of the text is loaded. */
   get #complete() {
     return this.loaded >= this.layers.facts.searchParts;

@@ -22,6 +22,8 @@ export class SearchText {
     this.texts = [];
     /** @type {string[]} */
     this.folded = [];
+    /** Words that need not be a phrase, even where they are one. */
+    this.apart = '';
   }
 
   /**
@@ -50,12 +52,10 @@ export class SearchText {
    */
   find(typed) {
     const query = new Query(typed);
-    let answer = this.#collect(query);
-    if (answer.hits.length === 0 && query.words.length > 0) {
-      query.widen();
-      answer = this.#collect(query);
-    }
-    return answer;
+    const answer = this.#collect(query);
+    if (query.words.length === 0 || (answer.hits.length > 0 && typed !== this.apart)) return answer;
+    query.widen();
+    return this.#collect(query);
   }
 
   /**

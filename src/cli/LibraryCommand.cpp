@@ -159,5 +159,6 @@ CLI::App& addLibraryCommands(CLI::App& app, const PasswordOptions& environment) 
     addStatus(*library);
     addBatch(*library);
     addLibraryIndex(*library);
+    addLibraryExport(*library);
     return *library;
 }

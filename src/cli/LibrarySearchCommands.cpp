@@ -5,10 +5,14 @@
 #include "console/Interrupt.h"
 #include "console/Terminal.h"
 #include "library/LibraryLayout.h"
+#include "library/search/LibraryExport.h"
 #include "library/search/LibraryIndexer.h"
 
 #include <QDir>
 #include <QRegularExpression>
+#include <QSaveFile>
+#include <cerrno>
+#include <cstdio>
 #include <memory>
 
 namespace {
@@ -30,6 +34,14 @@ bool readShard(const std::string& typed, LibraryIndexer::Options& options) {
     return match.hasMatch() && options.shard >= 0 && options.shard < options.shards;
 }
 
+void checkAllWereRead(const LibraryLayout& library, const QStringList& unreadable) {
+    QStringList lines;
+    for (const QString& id : unreadable)
+        lines << QStringLiteral("%1: its text can't be read").arg(library.book(id));
+    if (!lines.isEmpty())
+        throw CommandError(lines.join(u'\n'), ExitCode::incomplete);
+}
+
 void runIndex(const QString& folder, LibraryIndexer::Options options, bool isQuiet) {
     const LibraryLayout library = existingLibrary(folder);
     Interrupt::watch();
@@ -43,12 +55,54 @@ void runIndex(const QString& folder, LibraryIndexer::Options options, bool isQui
                         .arg(report.added)
                         .arg(report.removed));
     Terminal::checkOutput();
-    if (report.unreadable.isEmpty())
+    checkAllWereRead(library, report.unreadable);
+}
+
+// Runs with a function that writes a line to the file, which is there as a whole or not at all; to
+// standard output when the name is null.
+template <class Action>
+void writeLines(const QString& name, Action action) {
+    if (name.isNull()) {
+        action([](const QByteArray& line) {
+            const QByteArray whole = line + '\n';
+            return std::fwrite(whole.constData(), std::size_t(whole.size()), 1, stdout) == 1 &&
+                   !Interrupt::wasRequested();
+        });
+        std::fflush(stdout);
+        Terminal::checkOutput();
         return;
-    QStringList lines;
-    for (const QString& id : report.unreadable)
-        lines << QStringLiteral("%1: its text can't be read").arg(library.book(id));
-    throw CommandError(lines.join(u'\n'), ExitCode::incomplete);
+    }
+    errno = 0;
+    QSaveFile file(name);
+    bool isWritten = file.open(QIODevice::WriteOnly);
+    if (isWritten) {
+        action([&](const QByteArray& line) {
+            isWritten = isWritten && file.write(line + '\n') == line.size() + 1;
+            return isWritten && !Interrupt::wasRequested();
+        });
+    }
+    if (Interrupt::wasRequested())
+        return;
+    if (!isWritten || !file.flush() || !file.commit()) {
+        const Message cause = errno ? Message::ofLastSystemError() : Message(file.errorString());
+        throw CommandError(Messages{Message::about(name, cause)});
+    }
+}
+
+void runExport(const QString& folder, const QString& output, LibraryExport::Options options) {
+    const LibraryLayout library = existingLibrary(folder);
+    if (!options.books && !options.pages)
+        options.books = options.pages = true;
+    if (!options.address.isNull() && !options.address.endsWith(u'/'))
+        options.address += u'/';
+    Interrupt::watch();
+    QStringList unreadable;
+    writeLines(output, [&](const auto& writeLine) {
+        unreadable = LibraryExport::write(library, options, writeLine);
+    });
+    if (Interrupt::wasRequested())
+        throw CommandError(QStringLiteral("cancelled"), ExitCode::cancelled);
+    checkAllWereRead(library, unreadable);
 }
 
 } // namespace
@@ -75,4 +129,27 @@ void addLibraryIndex(CLI::App& library) {
         ->type_name("I/N");
     command->add_flag("--quiet", line->isQuiet, "Show no progress");
     command->callback([line] { runIndex(line->folder, line->options, line->isQuiet); });
+}
+
+void addLibraryExport(CLI::App& library) {
+    struct Line {
+        QString folder;
+        QString output;
+        LibraryExport::Options options{false, false, {}};
+    };
+    const auto line = std::make_shared<Line>();
+    auto* command = library.add_subcommand(
+        "export", "Print all books and the texts of their pages, a line of JSON each");
+    CommandArguments::addPath(*command, "OUT", line->folder, "The library's folder")
+        ->type_name("")
+        ->required();
+    command->add_flag("--books", line->options.books, "Only the books");
+    command->add_flag("--pages", line->options.pages, "Only the pages");
+    CommandArguments::addText(*command, "--url", line->options.address,
+                              "Address of the library, for addresses that are not relative to it")
+        ->type_name("ADDRESS");
+    CommandArguments::addPath(*command, "--output", line->output,
+                              "Write to this file; replaces it at the end")
+        ->type_name("FILE");
+    command->callback([line] { runExport(line->folder, line->output, line->options); });
 }

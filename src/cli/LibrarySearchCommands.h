@@ -5,3 +5,4 @@
 // The commands of "folvero library" that are about the texts of all books.
 
 void addLibraryIndex(CLI::App& library);
+void addLibraryExport(CLI::App& library);

@@ -56,6 +56,18 @@ test('what is searched is found, listed by page with its surroundings and marked
   assert.deepEqual(book.errors, []);
 });
 
+test('an address may name words to mark on its page, each by itself', async () => {
+  const book = await open(STORY, { hash: '#page=3&search=harbour%20master' });
+  await book.page.locator('.search-strip').waitFor();
+  await book.waitForPages(2, 3);
+  assert.equal(await book.page.locator('.over.right .hit').count(), 5, 'thrice a harbour, once in two lines, and a master');
+  assert.equal(await box(book).isVisible(), false);
+  await press(book, '/');
+  assert.equal(await search(book, 'harbour master'), '4 results', 'of this page, with all words');
+  assert.equal(await search(book, 'harbour town'), '1 result', 'a phrase first, as ever');
+  assert.deepEqual(book.errors, []);
+});
+
 test('of a long book the text comes in parts, and what is found so far is shown', async () => {
   const give = [];
   const parts = [0, 1, 2].map((index) => new Promise((resolve) => { give[index] = resolve; }));

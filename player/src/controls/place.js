@@ -6,6 +6,11 @@ export function pageInAddress() {
   return match ? Number(match[1]) : 0;
 }
 
+/** What the URL's fragment asks to be marked, null or empty for nothing. */
+export function searchInAddress() {
+  return new URLSearchParams(location.hash.slice(1)).get('search');
+}
+
 /** Keeps the current page in the URL's fragment and in the browser's history. */
 export class Place {
   /**

@@ -54,6 +54,7 @@ void SearchQuery::add(const QString& typed, bool isQuoted) {
     term.isPrefix = !isQuoted && typed.endsWith(u'*') && last.size() >= shortestPrefix &&
                     !SearchWords::isLetterOfMany(last);
     term.typed = typed.mid(words.front().from, words.back().to - words.front().from).simplified();
+    term.isQuoted = isQuoted;
     if (!isQuoted && words.size() > 1 && term.typed.contains(u'-'))
         term.joined = SearchWords::joined(words).remove(u' ');
     iTerms.push_back(std::move(term));
@@ -75,8 +76,9 @@ QString SearchQuery::forPlayer() const {
     QStringList texts;
     for (const Term& term : iTerms)
         texts << term.typed;
-    // The player takes words without quotation marks for a phrase first.
-    return texts.join(u' ');
+    // The player knows one phrase, or words.
+    const bool isPhrase = iTerms.size() == 1 && iTerms.front().isQuoted;
+    return isPhrase ? u'"' + texts.front() + u'"' : texts.join(u' ');
 }
 
 std::vector<SearchQuery::Hit> SearchQuery::hitsIn(const QString& text) const {

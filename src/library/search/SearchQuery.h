@@ -19,7 +19,7 @@ public:
     bool isEmpty() const { return iTerms.empty(); }
     // For the index, in the language of FTS5.
     QByteArray expression() const;
-    // What the player finds the same words by.
+    // What marks the same words in a book, as the fragment "search" of its address.
     QString forPlayer() const;
 
     // A part of a text, from the first character to that behind the last.
@@ -34,6 +34,7 @@ private:
     struct Term {
         QString typed;
         std::vector<QString> words;
+        bool isQuoted = false;
         QString joined; // as one word, where the reader typed a hyphen; otherwise null
         bool isPrefix = false;
     };
