@@ -114,11 +114,11 @@ TEST_F(LibraryTest, MakesAgainWhatHasChanged) {
     EXPECT_FALSE(QFileInfo::exists(out() + "/books/three"));
     EXPECT_TRUE(result("three").isEmpty());
     // A book whose files are gone is made, and one whose result is.
-    QFile::remove(out() + "/books/one/files/web.js");
+    QFile::remove(out() + "/books/one/files/thumb/1.jpg");
     QDir(out() + "/.folvero-library/results").removeRecursively();
     EXPECT_EQ(made(), "2 books: 2 made\n");
     EXPECT_GT(result("two")["made"].toObject()["pages"].toInt(), 0);
-    EXPECT_TRUE(QFileInfo::exists(out() + "/books/one/files/web.js"));
+    EXPECT_TRUE(QFileInfo::exists(out() + "/books/one/files/thumb/1.jpg"));
 }
 
 // A line that can't be read may be that of the book.

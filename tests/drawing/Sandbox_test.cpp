@@ -7,6 +7,7 @@
 #include "pdf/PDFReader.h"
 #include "support/ChildProcesses.h"
 #include "support/TemplateLibrary.h"
+#include "system/Sandbox.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,6 +15,7 @@
 #include <QTemporaryDir>
 #include <chrono>
 #include <csignal>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/landlock.h>
 #include <numeric>
@@ -110,6 +112,24 @@ TEST_F(MisbehavingWorkers, ReachNoFileOutsideTheWorkFolder) {
     EXPECT_EQ(failed(4, "1 read-outside\n2 write-outside\n3 link-outside\n4 overwrite\n"),
               (std::set{1, 2, 3}));
     EXPECT_FALSE(QFile::exists(iFolder.filePath("outside")));
+}
+
+TEST(Sandbox, ForbidsWritingButNotReading) {
+    if (::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) < 1)
+        GTEST_SKIP() << "this system has no Landlock";
+    const QTemporaryDir folder;
+    const QByteArray file = QFile::encodeName(folder.filePath("file"));
+    TestFiles::write(folder.filePath("file"), "text");
+    const auto attempt = [&file] {
+        Sandbox::forbidWriting();
+        const bool reads = ::open(file.constData(), O_RDONLY) >= 0;
+        const bool writes = ::open(file.constData(), O_WRONLY) >= 0 ||
+                            ::open((file + "2").constData(), O_WRONLY | O_CREAT, 0600) >= 0 ||
+                            ::rename(file.constData(), (file + "3").constData()) == 0 ||
+                            ::unlink(file.constData()) == 0;
+        ::_exit(reads && !writes ? 0 : 1);
+    };
+    EXPECT_EXIT(attempt(), testing::ExitedWithCode(0), "");
 }
 
 namespace {

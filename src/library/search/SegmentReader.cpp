@@ -23,8 +23,8 @@ constexpr double usualWords = 400;
 // would read every match of each word beforehand; and a page has all of the words anyway.
 void score(const Fts5ExtensionApi* api, Fts5Context* page, sqlite3_context* result,
            int /*arguments*/, sqlite3_value** /*values*/) {
-    constexpr double often = 1.2; // from how many times on more of them say little
-    constexpr double lengthCounts = 0.75;
+    constexpr double often = 1.2;        // from how many times on more of them say little
+    constexpr double lengthCounts = 0.5; // more would put nearly empty pages first
     constexpr int mostCounted = 20;
     auto& ranking = *static_cast<Ranking*>(api->xUserData(page));
     if (ranking.left <= 0)
