@@ -4,6 +4,7 @@
 #include "system/FileDescriptor.h"
 #include "system/Files.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,7 +17,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using std::chrono::steady_clock;
+
 namespace {
+
+// Of claims on claims: each needs a process that was killed within the milliseconds of one.
+constexpr int mostClaims = 3;
 
 QByteArray newContent() {
     QJsonObject content = ProcessIdentity::own().asJson();
@@ -25,84 +31,113 @@ QByteArray newContent() {
     return QJsonDocument(content).toJson(QJsonDocument::Compact);
 }
 
-// False with the cause in errno, such as EEXIST. Who reads the file before it is written, or after
-// a crash between, waits for the end of the term.
+FileDescriptor opened(const QString& file, int flags) {
+    constexpr mode_t permissions = 0666;
+    return FileDescriptor(
+        ::open(QFile::encodeName(file).constData(), flags | O_CLOEXEC, permissions));
+}
+
+// Also sets the time to that of the file server. False with the cause in errno, such as EEXIST. Who
+// reads the file before it is written, or after a crash between, waits for the end of the term.
 bool create(const QString& file, const QByteArray& content) {
-    const FileDescriptor created(
-        ::open(QFile::encodeName(file).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-    return created.isOpen() && ::write(created.number(), content.constData(),
-                                       std::size_t(content.size())) == content.size();
+    FileDescriptor created = opened(file, O_WRONLY | O_CREAT | O_EXCL);
+    if (!created.isOpen())
+        return false;
+    const bool isWritten = ::write(created.number(), content.constData(),
+                                   std::size_t(content.size())) == content.size() &&
+                           ::futimens(created.number(), nullptr) == 0 && created.close();
+    if (!isWritten) {
+        const int cause = errno;
+        QFile::remove(file);
+        errno = cause;
+    }
+    return isWritten;
 }
 
-// Sets the time to that of the file server.
-bool touch(const QString& file) {
-    return ::utimensat(AT_FDCWD, QFile::encodeName(file).constData(), nullptr, 0) == 0;
-}
-
-std::optional<std::chrono::seconds> timeOf(const QString& file) {
+// Of an open file: on a network share, the attributes of others may be a minute old.
+std::optional<std::chrono::seconds> timeOf(const FileDescriptor& file) {
     struct stat info {};
-    if (::stat(QFile::encodeName(file).constData(), &info) != 0)
+    if (!file.isOpen() || ::fstat(file.number(), &info) != 0)
         return {};
     return std::chrono::seconds(info.st_mtim.tv_sec);
 }
 
 // The time of the file server; none when it can't be found out.
 std::optional<std::chrono::seconds> serverTime(const QString& beside) {
-    const QString probe = beside + u'.' + QUuid::createUuid().toString(QUuid::Id128);
-    const bool isThere = create(probe, {}) && touch(probe);
-    const auto now = isThere ? timeOf(probe) : std::nullopt;
-    QFile::remove(probe);
-    return now;
+    const QString clock = Files::join(QFileInfo(beside).path(), BookLease::clockFile);
+    FileDescriptor file = opened(clock, O_WRONLY | O_CREAT);
+    if (!file.isOpen() && QFile::remove(clock)) // of another user
+        file = opened(clock, O_WRONLY | O_CREAT);
+    return file.isOpen() && ::futimens(file.number(), nullptr) == 0 ? timeOf(file) : std::nullopt;
 }
 
 bool isAbandoned(const QString& file, const QByteArray& content) {
     const QJsonObject holder = QJsonDocument::fromJson(content).object();
     if (!holder.isEmpty() && ProcessIdentity::fromJson(holder).hasEnded())
         return true;
-    const auto renewed = timeOf(file);
+    const auto renewed = timeOf(opened(file, O_RDONLY));
     const auto now = serverTime(file);
     return renewed && now && *now - *renewed > BookLease::term;
 }
 
-// Removes it, but not one that another process has taken in its place meanwhile.
-void removeAbandoned(const QString& file, const QByteArray& content) {
-    const QString aside = file + u'.' + QUuid::createUuid().toString(QUuid::Id128);
-    const QByteArray from = QFile::encodeName(file);
-    const QByteArray to = QFile::encodeName(aside);
-    if (std::rename(from.constData(), to.constData()) != 0)
-        return;
-    if (Files::contents(aside) != content)
-        ::link(to.constData(), from.constData());
-    QFile::remove(aside);
+// The file by which processes agree who takes over a lease with this content.
+QString claimOn(const QString& file, const QByteArray& content) {
+    constexpr qsizetype digits = 16;
+    const QByteArray digest =
+        QCryptographicHash::hash(content, QCryptographicHash::Blake2b_160).toHex();
+    return file + u'.' + QString::fromLatin1(digest.left(digits));
+}
+
+// Creates the file, or replaces that of an abandoned lease. No rename is conditional, but creating
+// a file is: of all who find the same lease abandoned, one creates the claim on it, and renames
+// that over the lease. A claim that was left behind is itself taken over in the same way.
+bool acquire(const QString& file, const QByteArray& content, int claims = 0) {
+    if (create(file, content))
+        return true;
+    if (errno != EEXIST)
+        return false;
+    const QByteArray held = Files::contents(file);
+    if (claims == mostClaims || !isAbandoned(file, held)) {
+        errno = EEXIST;
+        return false;
+    }
+    const QString claim = claimOn(file, held);
+    if (!acquire(claim, content, claims + 1))
+        return false;
+    // A faster one may have had the same claim, taken over, and even given back since. A share may
+    // report an error of a rename that it did.
+    const bool isTaken = Files::contents(file) == held && isAbandoned(file, held) &&
+                         (std::rename(QFile::encodeName(claim).constData(),
+                                      QFile::encodeName(file).constData()) == 0 ||
+                          Files::contents(file) == content);
+    if (!isTaken) {
+        QFile::remove(claim);
+        errno = EEXIST;
+    }
+    return isTaken;
 }
 
 } // namespace
 
-BookLease::BookLease(QString file, QByteArray content)
-    : iFile(std::move(file)), iContent(std::move(content)) {}
+BookLease::BookLease(QString file, QByteArray content, steady_clock::time_point taken)
+    : iFile(std::move(file)), iContent(std::move(content)), iRenewed(taken) {}
 
 std::unique_ptr<BookLease> BookLease::take(const QString& file, Message* error) {
     *error = {};
+    const auto now = steady_clock::now();
     const QByteArray content = newContent();
-    QDir().mkpath(QFileInfo(file).path());
-    // The second time after an abandoned one is gone.
-    for (int attempt = 0; attempt < 2; ++attempt) {
-        if (create(file, content))
-            return std::unique_ptr<BookLease>(new BookLease(file, content));
-        if (errno != EEXIST) {
-            *error = Message::about(file, Message::ofLastSystemError());
-            return nullptr;
-        }
-        const QByteArray held = Files::contents(file);
-        if (!isAbandoned(file, held))
-            return nullptr;
-        removeAbandoned(file, held);
-    }
+    if (!QFileInfo::exists(QFileInfo(file).path()))
+        QDir().mkpath(QFileInfo(file).path());
+    if (acquire(file, content))
+        return std::unique_ptr<BookLease>(new BookLease(file, content, now));
+    if (errno != EEXIST)
+        *error = Message::about(file, Message::ofLastSystemError());
     return nullptr;
 }
 
+// Not after the term: another one could take it over between the look and the removal.
 BookLease::~BookLease() {
-    if (isOurs())
+    if (steady_clock::now() - iRenewed < term - renewal && isOurs())
         QFile::remove(iFile);
 }
 
@@ -111,5 +146,9 @@ bool BookLease::isOurs() const {
 }
 
 bool BookLease::renew() {
-    return isOurs() && touch(iFile);
+    const auto now = steady_clock::now();
+    if (!isOurs() || ::utimensat(AT_FDCWD, QFile::encodeName(iFile).constData(), nullptr, 0) != 0)
+        return false;
+    iRenewed = now;
+    return true;
 }

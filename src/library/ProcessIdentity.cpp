@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <QSysInfo>
+#include <cerrno>
+#include <csignal>
 #include <unistd.h>
 
 namespace {
@@ -40,7 +42,11 @@ ProcessIdentity ProcessIdentity::own() {
 }
 
 bool ProcessIdentity::hasEnded() const {
-    return host == QSysInfo::machineHostName() && boot == bootID() && startOf(process) != started;
+    if (host != QSysInfo::machineHostName() || boot != bootID())
+        return false;
+    const QString start = startOf(process);
+    // The system may hide processes of other users.
+    return start.isEmpty() ? ::kill(process, 0) != 0 && errno == ESRCH : start != started;
 }
 
 QJsonObject ProcessIdentity::asJson() const {
