@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Makes many PDFs of 1 to 40 pages of text, and a list of them, to measure libraries with.
+"""Makes many PDFs of 1 to 40 (or PAGES) pages of text, and a list of them, to measure libraries with.
 
-    library-pdfs.py COUNT FOLDER
+    library-pdfs.py COUNT FOLDER [PAGES]
 
 The same COUNT gives the same files, and the first of them are those of a lower one.
 """
@@ -36,9 +36,9 @@ def page_content(source, number):
             f"BT /F1 10 Tf 50 770 Td 16 TL\n{text}\n0 -20 Td ({number}) Tj ET").encode("ascii")
 
 
-def pdf(number):
+def pdf(number, most_pages):
     source = random.Random(number)
-    pages = source.randint(1, 40)
+    pages = source.randint(1, most_pages)
     title = " ".join(words(source, 4)).capitalize()
     author = " ".join(word.capitalize() for word in words(source, 2))
     objects = [b"<< /Type /Catalog /Pages 2 0 R >>",
@@ -64,12 +64,13 @@ def pdf(number):
 
 def main():
     count, folder = int(sys.argv[1]), pathlib.Path(sys.argv[2])
+    most_pages = int(sys.argv[3]) if len(sys.argv) > 3 else 40
     folder.mkdir(parents=True, exist_ok=True)
     with open(folder / "list.csv", "w", encoding="utf-8", newline="") as list_file:
         rows = csv.writer(list_file)
         rows.writerow(["pdf", "id", "title", "author", "date", "language", "subject"])
         for number in range(1, count + 1):
-            content, title, author, source = pdf(number)
+            content, title, author, source = pdf(number, most_pages)
             name = f"{number:07}.pdf"
             path = folder / name
             if not path.exists() or path.read_bytes() != content:

@@ -17,7 +17,15 @@ QString quoted(QString text) {
     return u'\'' + text.replace(u'\'', QStringLiteral("'\\''")) + u'\'';
 }
 
-// %1: shards, %2: log folder, %3: program, %4: command after "library make".
+// Of a path between quotation marks. Slurm replaces %a and others in it.
+QString asArgumentOfSbatch(QString path) {
+    return path.replace(u'\\', QStringLiteral("\\\\"))
+        .replace(u'"', QStringLiteral("\\\""))
+        .replace(u'%', QStringLiteral("%%"));
+}
+
+// %1: shards, %2: log folder as an argument of sbatch, %3: program, %4: list, %5: library, %6:
+// options of "library make", each of the last four quoted for the shell.
 const QString script = QStringLiteral(R"(#!/bin/bash
 #SBATCH --job-name=folvero-library
 #SBATCH --array=1-%1
@@ -25,40 +33,48 @@ const QString script = QStringLiteral(R"(#!/bin/bash
 #SBATCH --cpus-per-task=1
 #SBATCH --requeue
 #SBATCH --open-mode=append
-#SBATCH --signal=B:TERM@60
-#SBATCH --output=%2/%a.txt
+#SBATCH --signal=B:USR1@60
+#SBATCH --output="%2/%a.txt"
 # Makes a library of books with a job array of Slurm, a shard of the list in each task. A task whose
 # node fails is queued again, and goes on with the books that are not there yet. When all tasks have
 # ended:
-#   folvero library status OUT && folvero library catalogue OUT
+#   folvero library status OUT
 folvero=${FOLVERO:-%3}
-mostRestarts=5
+list=%4
+library=%5
+options=(%6)
+most_restarts=5
 
-# A /tmp of its own where the node allows it: what a killed task leaves there is gone with it.
-makeShard() {
-    if unshare --user --map-root-user --mount mount -t tmpfs none /tmp 2>/dev/null; then
-        exec unshare --user --map-root-user --mount sh -c \
-            'mount --bind "$1" /tmp && shift && exec "$@"' sh "$work" "$@"
-    fi
-    exec "$@"
+# Where the site sets TMPDIR to a disk of the job's own, that becomes the task's /tmp, in which books
+# are drawn. Not where the task needs files below /tmp.
+with_own_tmp() {
+    local path
+    case $(readlink -f -- "${TMPDIR:-/tmp}")/ in /tmp/*) exec "$@" ;; esac
+    for path in "$folvero" "$list" "$library" "${options[@]#*=}"; do
+        case $(readlink -f -- "$path") in /tmp/*) exec "$@" ;; esac
+    done
+    unshare --user --map-root-user --mount mount --bind "$TMPDIR" /tmp 2>/dev/null || exec "$@"
+    exec unshare --user --map-root-user --mount \
+        sh -c 'mount --bind "$TMPDIR" /tmp && exec "$@"' sh "$@"
 }
 
-work=$(mktemp -d) || exit 75
-makeShard "$folvero" library make %4 --shard "$SLURM_ARRAY_TASK_ID/%1" --jobs 1 --no-catalogue &
+with_own_tmp "$folvero" library make "$list" "$library" "${options[@]}" --jobs 1 \
+    --shard "$SLURM_ARRAY_TASK_ID/%1" &
 task=$!
-# Before its time is up, a task ends the book that it makes.
-trap 'kill -TERM "$task"' TERM
-wait "$task"
-code=$?
-while kill -0 "$task" 2>/dev/null; do
+# Slurm sends USR1 before the time is up, and TERM when the job is cancelled.
+trap 'is_caught=1 is_time_up=1; kill -TERM "$task"' USR1
+trap 'is_caught=1 is_cancelled=1; kill -TERM "$task"' TERM
+while :; do
+    is_caught=
     wait "$task"
     code=$?
+    [ "$is_caught" ] || break
 done
-rm -rf "$work"
 # 75: a full disk, a share that was gone. 130: ended before all was done.
-if [ "$code" -eq 75 ] || [ "$code" -eq 130 ]; then
-    [ "${SLURM_RESTART_COUNT:-0}" -lt "$mostRestarts" ] &&
-        scontrol requeue "${SLURM_ARRAY_JOB_ID}_${SLURM_ARRAY_TASK_ID}"
+if [ "$code" -eq 75 ] || { [ "$code" -eq 130 ] && [ "$is_time_up" ]; }; then
+    if [ -z "$is_cancelled" ] && [ "${SLURM_RESTART_COUNT:-0}" -lt "$most_restarts" ]; then
+        scontrol requeue "${SLURM_ARRAY_JOB_ID}_$SLURM_ARRAY_TASK_ID"
+    fi
 fi
 exit "$code")");
 
@@ -77,13 +93,12 @@ void runLibraryBatch(const LibraryBatchOptions& options) {
         Terminal::report(QStringLiteral("folvero: Slurm takes %1 tasks only where MaxArraySize is "
                                         "higher")
                              .arg(options.shards));
-    QStringList words{quoted(QDir::cleanPath(list.absoluteFilePath())), quoted(library.folder())};
+    QStringList makeOptions;
     for (const QString& option : options.makeOptions)
-        words << quoted(option);
-    // Slurm replaces %a and others in the path, which has no quotation marks.
-    QString logPath = logs;
-    logPath.replace(u'%', QStringLiteral("%%"));
-    Terminal::print(script.arg(QString::number(options.shards), logPath,
-                               quoted(QCoreApplication::applicationFilePath()), words.join(u' ')));
+        makeOptions << quoted(option);
+    Terminal::print(script.arg(QString::number(options.shards), asArgumentOfSbatch(logs),
+                               quoted(QCoreApplication::applicationFilePath()),
+                               quoted(QDir::cleanPath(list.absoluteFilePath())),
+                               quoted(library.folder()), makeOptions.join(u' ')));
     Terminal::checkOutput();
 }
