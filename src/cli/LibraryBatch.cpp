@@ -86,6 +86,9 @@ void runLibraryBatch(const LibraryBatchOptions& options) {
         throw CommandError(QStringLiteral("%1: is not there").arg(options.list));
     const LibraryLayout library(options.folder);
     const QString logs = library.stateAt(QStringLiteral("log"));
+    if (logs.contains(u'\n'))
+        throw CommandError(
+            QStringLiteral("%1: a line of a batch script can't contain it").arg(library.folder()));
     // Slurm does not start a task whose log it can't write.
     if (!QDir().mkpath(logs))
         throw CommandError(Messages{Message::about(logs, Message::ofLastSystemError())});

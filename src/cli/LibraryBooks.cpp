@@ -304,6 +304,9 @@ void LibraryBooks::conclude(const Making& making, const BookOutcome& outcome) {
 
 // False when nobody will know of the result: the next run has to try again.
 bool LibraryBooks::write(const BookResult& result) {
+    checkFolder();
+    if (!iBroken.isNull())
+        return false;
     const Message error = result.write(iLibrary);
     if (!error.isNull())
         iProgress.report(QStringLiteral("folvero: %1").arg(error.english()));
