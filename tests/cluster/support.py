@@ -25,7 +25,7 @@ PATH = os.environ["PATH"] + ":/usr/sbin:/sbin"
 
 CONFIGURATION = """\
 ClusterName=books
-SlurmctldHost={host}(127.0.0.1)
+SlurmctldHost={host}({address})
 SlurmUser={user}
 SlurmdUser={user}
 AuthType=auth/munge
@@ -109,6 +109,8 @@ class Kept:
 class Cluster:
     """Munge, the controller of Slurm, and nodes with a processor each, as whoever calls it."""
 
+    address = "127.0.0.1"  # of the controller
+
     def __init__(self, nodes):
         switch_loopback_on()
         # A socket's path must be short.
@@ -132,10 +134,10 @@ class Cluster:
         controller_port, *ports = free_ports(1 + len(nodes))
         host = socket.gethostname().partition(".")[0]
         user = output("id", "--user", "--name").strip()
-        lines = CONFIGURATION.format(base=self.base, host=host, user=user, port=controller_port)
+        lines = CONFIGURATION.format(base=self.base, host=host, address=self.address, user=user,
+                                     port=controller_port)
         for name, port in zip(nodes, ports):
-            lines += (f"NodeName={name} NodeHostname={host} NodeAddr=127.0.0.1 Port={port} CPUs=1 "
-                      "RealMemory=100\n")
+            lines += f"NodeName={name} Port={port} CPUs=1 RealMemory=100 {self.place_of(name, host)}\n"
         lines += f"PartitionName=books Nodes={','.join(nodes)} Default=YES MaxTime=60 State=UP\n"
         (self.base / "slurm.conf").write_text(lines)
         (self.base / "cgroup.conf").write_text("CgroupPlugin=cgroup/v1\n")
@@ -146,6 +148,9 @@ class Cluster:
         self.run("controller", "slurmctld", "-D", "-c")
         for name in nodes:
             self.start_node(name)
+
+    def place_of(self, _node, host):
+        return f"NodeHostname={host} NodeAddr=127.0.0.1"
 
     def run(self, name, *command):
         with open(self.base / f"log/{name}.out", "ab") as log:
