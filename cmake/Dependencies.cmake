@@ -20,6 +20,8 @@ pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
 # Its header declares different classes without the definitions that Debian's library was built with.
 pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)
 pkg_check_modules(turbojpeg REQUIRED IMPORTED_TARGET libturbojpeg)
+# Names of languages.
+pkg_check_modules(icu REQUIRED IMPORTED_TARGET icu-uc)
 pkg_check_modules(sqlite REQUIRED IMPORTED_TARGET sqlite3)
 
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")

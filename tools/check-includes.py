@@ -22,7 +22,7 @@ pages
 output
 webbook
 library
-library/search
+library/search library/catalogue
 app console
 ui cli server worker
 app/desktop

@@ -4,6 +4,7 @@
 #include "cli/CommandArguments.h"
 #include "cli/DecodeCommand.h"
 #include "cli/InfoCommand.h"
+#include "cli/LibraryCatalogue.h"
 #include "cli/LibraryCommand.h"
 #include "cli/PasswordOptions.h"
 #include "cli/PublishArguments.h"
@@ -28,6 +29,7 @@
 #include <vector>
 
 using CommandArguments::addPath;
+using CommandArguments::addText;
 
 namespace {
 
@@ -39,6 +41,7 @@ struct CommandLine {
     QString book;
     std::string served; // undecoded: the server's process does that
     std::optional<int> port;
+    LibraryCatalogueOptions catalogue;
     bool json = false;
     bool verbose = false;
 };
@@ -114,6 +117,34 @@ void addLibraryServe(CLI::App& library, CommandLine& line) {
     command->callback([&line] { runServe(Served::library, line.served, line.port, line.verbose); });
 }
 
+void addLibraryCatalogue(CLI::App& library, LibraryCatalogueOptions& options) {
+    auto* command = library.add_subcommand(
+        "catalogue", "Make pages, a search and feeds over the books of a library");
+    addPath(*command, "LIBRARY", options.folder, "The library's folder")->type_name("")->required();
+    addText(*command, "--title", options.title,
+            "Name of the library; by default that of its folder")
+        ->type_name("TEXT");
+    addText(*command, "--language", options.language, "Language of the pages: en or de")
+        ->type_name("CODE")
+        ->default_str("en");
+    addText(*command, "--url", options.address,
+            "Address at which the library will be: feeds, sitemap, OPDS, IIIF\n"
+            "collection and OAI-PMH file name it, and are left out without it")
+        ->type_name("ADDRESS");
+    addText(*command, "--contact", options.contact,
+            "Mail address in the OAI-PMH file, which is left out without it")
+        ->type_name("MAIL");
+    addText(*command, "--oai-gateway", options.gateway,
+            "Address of the gateway through which the OAI-PMH file will be read")
+        ->type_name("ADDRESS");
+    command->add_flag("--force", options.force,
+                      "Overwrite files that are not of a catalogue, such as an index.html");
+    command->add_flag("--quiet", options.quiet, "Show no progress");
+    command->footer("The last run's title, language and addresses are used again unless others "
+                    "are given; an empty\ntext takes one back.");
+    command->callback([&options] { runLibraryCatalogue(options); });
+}
+
 // The error of the command line, with a pointer to the help.
 std::string explain(const CLI::App* app, const CLI::Error& error) {
     std::string cause = error.what();
@@ -139,20 +170,22 @@ void openStandardStreams() {
     }
 }
 
+// Whether the option of a command, or of one within it, has a value.
+bool hasValue(const CLI::App& app, const std::string& option) {
+    const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
+    return std::any_of(commands.begin(), commands.end(), [&](const CLI::App* command) {
+        const auto* known = command->get_option_no_throw(option);
+        return (known && known->get_items_expected_min() > 0) || hasValue(*command, option);
+    });
+}
+
 // The words of the command line in the order in which CLI11 takes them. It takes the word after
 // "--title=" for the value, but not after "--title" and an empty word.
 std::vector<std::string> wordsOf(int argc, char** argv, const CLI::App& app) {
-    const auto hasValue = [&app](const std::string& option) {
-        const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
-        return std::any_of(commands.begin(), commands.end(), [&](const CLI::App* command) {
-            const auto* known = command->get_option_no_throw(option);
-            return known && known->get_items_expected_min() > 0;
-        });
-    };
     std::vector<std::string> words;
     for (const std::string word : std::span(argv, std::size_t(argc)).subspan(1)) {
         const std::string option = word.substr(0, word.size() - 1);
-        const bool isEmpty = word.starts_with("--") && word.ends_with('=') && hasValue(option);
+        const bool isEmpty = word.starts_with("--") && word.ends_with('=') && hasValue(app, option);
         words.push_back(isEmpty ? option : word);
         if (isEmpty)
             words.emplace_back();
@@ -188,7 +221,9 @@ int run(int argc, char** argv) {
     addInfo(app, line);
     addDecode(app, line);
     addServe(app, line);
-    addLibraryServe(addLibraryCommands(app, line.password), line);
+    auto& library = addLibraryCommands(app, line.password);
+    addLibraryCatalogue(library, line.catalogue);
+    addLibraryServe(library, line);
     try {
         app.parse(wordsOf(argc, argv, app));
     } catch (const CLI::ParseError& error) {

@@ -19,21 +19,6 @@ bool isPlain(QChar letter) {
     return letter.unicode() < 0x80 && letter.isLetterOrNumber();
 }
 
-// Lower-case words of ASCII joined by hyphens; empty for a name without any.
-QString asWords(const QString& name) {
-    QString words;
-    for (const QChar letter : name.normalized(QString::NormalizationForm_KD).toLower()) {
-        if (isPlain(letter))
-            words += letter;
-        else if (!letter.isMark() && !words.isEmpty() && !words.endsWith(u'-'))
-            words += u'-';
-    }
-    words.truncate(longestWords);
-    while (words.endsWith(u'-'))
-        words.chop(1);
-    return words;
-}
-
 } // namespace
 
 QString BookID::problemWith(const QString& id) {
@@ -50,11 +35,25 @@ QString BookID::problemWith(const QString& id) {
     return {};
 }
 
+QString BookID::asWords(const QString& name, qsizetype longest) {
+    QString words;
+    for (const QChar letter : name.normalized(QString::NormalizationForm_KD).toLower()) {
+        if (isPlain(letter))
+            words += letter;
+        else if (!letter.isMark() && !words.isEmpty() && !words.endsWith(u'-'))
+            words += u'-';
+    }
+    words.truncate(longest);
+    while (words.endsWith(u'-'))
+        words.chop(1);
+    return words;
+}
+
 QString BookID::forPath(const QString& path) {
     const QByteArray hash =
         QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Blake2b_160).toHex();
     const QString end = QString::fromLatin1(hash.left(digitsOfPath));
-    const QString words = asWords(QFileInfo(path).completeBaseName());
+    const QString words = asWords(QFileInfo(path).completeBaseName(), longestWords);
     return words.isEmpty() ? end : words + u'-' + end;
 }
 

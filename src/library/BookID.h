@@ -15,6 +15,10 @@ QString problemWith(const QString& id);
 // different paths. The path is that in the list, or below the folder that is the list.
 QString forPath(const QString& path);
 
+// Lower-case words of ASCII joined by hyphens, cut to that many characters; empty for a name
+// without any.
+QString asWords(const QString& name, qsizetype longest);
+
 // 16 bytes, always the same for the same ID in any letter case.
 QByteArray digest(const QString& id);
 

@@ -45,6 +45,11 @@ int BookFacts::year() const {
     return digits.match(date).captured().toInt();
 }
 
+QString BookFacts::isoDate() const {
+    static const QRegularExpression form(QStringLiteral("^\\d{4}(-\\d\\d(-\\d\\d)?)?\\z"));
+    return form.match(date).hasMatch() ? date : QString();
+}
+
 BookFacts BookFacts::completedBy(const BookFacts& others) const {
     BookFacts all = *this;
     for (const auto& [name, member] : members()) {

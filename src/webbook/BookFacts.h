@@ -19,6 +19,8 @@ struct BookFacts {
     QStringList subjects() const;
     // The first number of four digits in the date; 0 for none.
     int year() const;
+    // The date when it is one of ISO 8601, from a year to a day; else null.
+    QString isoDate() const;
 
     // These facts, and where they are unknown those of the others.
     BookFacts completedBy(const BookFacts& others) const;

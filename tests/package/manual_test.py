@@ -29,10 +29,12 @@ class Manual(unittest.TestCase):
 
     def test_folvero(self):
         commands = re.findall(r"^  ([a-z]+)  ", self.assert_names_options("folvero"), re.M)
-        self.assertEqual(set(commands), {"publish", "info", "templates", "decode", "serve"})
+        self.assertEqual(set(commands), {"publish", "info", "templates", "decode", "serve", "library"})
         for command in commands:
             self.assertIn(f".TP\n.B {command}\n", self.page("folvero"))
-            self.assert_names_options("folvero", command)
+            if command != "library":
+                self.assert_names_options("folvero", command)
+        self.assert_names_options("folvero", "library", "catalogue")
 
     def test_folvero_desktop(self):
         self.assertIn("--version", self.assert_names_options("folvero-desktop"))
