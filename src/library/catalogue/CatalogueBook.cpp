@@ -99,14 +99,14 @@ CatalogueBook bookOf(const BookResult& result, const LibraryLayout& library) {
     book.added = result.made->added;
     book.changed = std::max(result.made->changed, book.added);
     book.cover = pathInBook(result.made->cover);
-    // The books may be on another machine.
-    if (QFileInfo::exists(layout.folder())) {
-        if (!has(book.cover))
-            book.cover.clear();
-        book.picture = pictureOf(layout, book.cover);
-        book.hasTextPage = has(BookLayout::textPage);
-        book.hasManifest = has(CatalogueBook::manifest);
-    }
+    // The books may all be on another machine.
+    if (!QFileInfo::exists(library.at(LibraryLayout::books)))
+        return book;
+    if (!has(book.cover))
+        book.cover.clear();
+    book.picture = pictureOf(layout, book.cover);
+    book.hasTextPage = has(BookLayout::textPage);
+    book.hasManifest = has(CatalogueBook::manifest);
     return book;
 }
 
