@@ -65,6 +65,18 @@ def results(out):
     return [json.loads(file.read_text()) for file in out.glob(".folvero-library/results/*/*.json")]
 
 
+def has_ended(cluster, job):
+    """A task that comes back to the node that still remembers it is held, and the node drained, until an operator frees
+    both."""
+    reasons = cluster.command("squeue", "--noheader", "--array", f"--jobs={job}", "--format=%F_%K %r").splitlines()
+    for task, reason in (line.split(maxsplit=1) for line in reasons):
+        if reason == "launch failed requeued held":
+            print(f"released: task {task}", flush=True)
+            cluster.command("scontrol", "update", "NodeName=n1", "State=RESUME")
+            cluster.command("scontrol", "release", task)
+    return not reasons
+
+
 def run(cluster, folder, books, shards):
     out = folder / "site"
     make_pdfs(books, folder / "scans", 40)
@@ -83,7 +95,7 @@ def run(cluster, folder, books, shards):
     time.sleep(max(0.0, CUT - 10))
     ip("link", "set", "fol-n1", "up")
     report("n1 is connected again")
-    eventually(lambda: not cluster.tasks(job), "the job has ended")
+    eventually(lambda: has_ended(cluster, job), "the job has ended")
     report(f"the job has ended: {Counter(cluster.ended(job))}")
     print("made by", dict(Counter(result["host"] for result in results(out))))
     print(output(FOLVERO, "library", "status", out))
