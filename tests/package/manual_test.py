@@ -34,7 +34,8 @@ class Manual(unittest.TestCase):
             self.assertIn(f".TP\n.B {command}\n", self.page("folvero"))
             if command != "library":
                 self.assert_names_options("folvero", command)
-        self.assert_names_options("folvero", "library", "catalogue")
+        for command in ("catalogue", "index", "serve", "export"):
+            self.assert_names_options("folvero", "library", command)
 
     def test_folvero_desktop(self):
         self.assertIn("--version", self.assert_names_options("folvero-desktop"))
