@@ -34,7 +34,7 @@ class Manual(unittest.TestCase):
             self.assertIn(f".TP\n.B {command}\n", self.page("folvero"))
             if command != "library":
                 self.assert_names_options("folvero", command)
-        for command in ("catalogue", "index", "serve", "export"):
+        for command in ("make", "status", "sbatch", "catalogue", "index", "serve", "export"):
             self.assert_names_options("folvero", "library", command)
 
     def test_folvero_desktop(self):
