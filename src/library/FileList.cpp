@@ -26,7 +26,7 @@ QByteArray textOf(const QJsonValue& value) {
     if (!value.isArray())
         return value.toVariant().toString().toUtf8();
     QByteArrayList parts;
-    for (const QJsonValue& part : value.toArray())
+    for (const auto& part : value.toArray())
         parts << textOf(part);
     return parts.join("; ");
 }
@@ -62,7 +62,7 @@ FileList::FileList(const QString& path)
     iIsJSON = start.mid(iStart).trimmed().startsWith('{');
     if (!iIsJSON)
         readHeader();
-    rewind();
+    FileList::rewind();
 }
 
 void FileList::fail(const Message& cause) const {
@@ -178,7 +178,7 @@ ListedBook FileList::fromJSON(qint64 line, const QByteArray& text) {
         noteUnknown(column);
         // The option may be given many times.
         if (column == QStringLiteral("set") && field->isArray()) {
-            for (const QJsonValue& one : field->toArray())
+            for (const auto& one : field->toArray())
                 values.emplace_back(column, textOf(one));
         } else if (!field->isNull())
             values.emplace_back(column, textOf(*field));

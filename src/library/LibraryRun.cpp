@@ -40,7 +40,7 @@ std::optional<LibraryRun> read(const QString& file) {
     run.list = object[listKey].toString().toLatin1();
     run.books = object[booksKey].toInteger();
     run.badLineCount = object[badLineCountKey].toInteger();
-    for (const QJsonValue& line : object[badLinesKey].toArray())
+    for (const auto& line : object[badLinesKey].toArray())
         run.badLines << line.toString();
     if (run.id.isEmpty() || run.shard < 1 || run.shard > run.shards)
         return {};

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 #include <array>
+#include <tuple>
 #include <vector>
 
 // The IDs of a list, in 24 bytes each: which there are, and which stand on two lines.
@@ -31,7 +32,9 @@ private:
     struct Entry {
         std::array<char, 16> id; // digest
         qint64 line;
-        auto operator<=>(const Entry&) const = default;
+        bool operator<(const Entry& other) const {
+            return std::tie(id, line) < std::tie(other.id, other.line);
+        }
     };
 
     std::vector<Entry> iEntries; // sorted, each ID once

@@ -22,7 +22,7 @@ QByteArray bits(std::span<const std::uint32_t> numbers) {
     for (const std::uint32_t number : numbers)
         values[number / 6] = char(values[number / 6] | 1 << number % 6);
     for (char& value : values)
-        value = digits[int(value)];
+        value = digits[uchar(value)];
     return '!' + values;
 }
 
