@@ -39,7 +39,7 @@ PageWords::PageWords(const QJsonObject& data) {
     const QJsonArray size = data[QStringLiteral("size")].toArray();
     iSize = QSizeF(numberIn(size, 0), numberIn(size, 1)) / tenthsOfPoint;
     std::size_t lineNumber = 0;
-    for (const QJsonValue& value : data[QStringLiteral("lines")].toArray()) {
+    for (const auto& value : data[QStringLiteral("lines")].toArray()) {
         const QJsonArray line = value.toArray();
         const QRectF box(numberIn(line, 0), numberIn(line, 1), numberIn(line, 2),
                          numberIn(line, 3));
@@ -100,7 +100,7 @@ bool BookTexts::forEachPage(int pages,
         const auto texts = QJsonDocument::fromJson(json(BookLayout::searchPart(part)));
         if (!texts.isArray() || texts.array().isEmpty())
             return false;
-        for (const QJsonValue& text : texts.array()) {
+        for (const auto& text : texts.array()) {
             if (++position <= pages && !text.toString().isEmpty())
                 visit(position, text.toString());
         }
