@@ -1,7 +1,6 @@
 #include "DrawnPages.h"
 #include "Samples.h"
 
-
 namespace {
 
 constexpr QSizeF kPageSize(420, 595);
