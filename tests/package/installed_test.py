@@ -6,12 +6,16 @@ import shutil
 import signal
 import socket
 import subprocess
+import sys
 import time
 import unittest
 import urllib.request
 from pathlib import Path
 
 from support import NAMES, SAMPLES, Installation, as_user, contents, package
+
+sys.path.append(str(Path(__file__).parent.parent / "support"))
+from processes import descendants
 
 PATIENCE = 60  # seconds
 
@@ -22,21 +26,6 @@ def eventually(condition):
     while not (answer := condition()) and time.monotonic() < end:
         time.sleep(0.1)
     return answer
-
-
-def descendants(pid):
-    """Process numbers of a process's children and theirs."""
-    parents = {}
-    for status in Path("/proc").glob("[0-9]*/stat"):
-        try:
-            parents[int(status.parent.name)] = int(status.read_text().rpartition(")")[2].split()[1])
-        except OSError:
-            pass  # has ended
-    found, new = set(), {pid}
-    while new:
-        new = {child for child, parent in parents.items() if parent in new} - found
-        found |= new
-    return found
 
 
 def is_sandboxed(pid):
