@@ -7,7 +7,6 @@
 
 namespace {
 
-// What compatibility forms and lower case leave different but readers take for the same.
 const QHash<char32_t, QString>& same() {
     static const QHash<char32_t, QString> all = [] {
         QHash<char32_t, QString> pieces{
@@ -126,12 +125,16 @@ TextFolder::Character TextFolder::foldedCharacter(char32_t code) {
          codePointsOf(source.normalized(QString::NormalizationForm_KD).toLower())) {
         const bool isDropped =
             QChar::isMark(one) || QChar::category(one) == QChar::Other_Format || isSpace(one);
-        if (const auto found = same().find(one); found != same().end())
-            piece += *found;
+        if (const QString same = sameAs(one); !same.isNull())
+            piece += same;
         else if (!isDropped)
             append(piece, one);
     }
     return {piece, kindOf(code, piece)};
+}
+
+QString TextFolder::sameAs(char32_t code) {
+    return same().value(code);
 }
 
 TextFolder::Kind TextFolder::kindOf(char32_t code, const QString& piece) {

@@ -19,6 +19,10 @@ public:
 
     static constexpr qsizetype longestWord = 32;
 
+    // What compatibility forms and lower case leave different but readers take for the same: "ss"
+    // for ß. Null for all other characters.
+    static QString sameAs(char32_t code);
+
 private:
     enum class Kind { none, space, lineEnd, hyphen, softHyphen, letter, cjkLetter, other };
     struct Character {

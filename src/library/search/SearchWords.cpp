@@ -1,10 +1,9 @@
 #include "library/search/SearchWords.h"
 
+#include "util/FoldedText.h"
+
 #include <QChar>
-#include <QList>
-#include <array>
 #include <optional>
-#include <unordered_map>
 
 namespace {
 
@@ -30,18 +29,6 @@ struct Folded {
     QString text; // null when not known yet
     Kind kind = Kind::other;
 };
-
-// What compatibility forms and lower case leave different but readers take for the same.
-QString sameAs(char32_t letter) {
-    static const std::unordered_map<char32_t, QString> same{
-        {U'ß', QStringLiteral("ss")}, {U'ø', QStringLiteral("o")}, {U'æ', QStringLiteral("ae")},
-        {U'œ', QStringLiteral("oe")}, {U'ł', QStringLiteral("l")}, {U'đ', QStringLiteral("d")},
-        {U'ı', QStringLiteral("i")},  {U'ς', QStringLiteral("σ")}, {U'ٱ', QStringLiteral("ا")},
-        {U'ى', QStringLiteral("ي")},  {U'ی', QStringLiteral("ي")}, {U'ک', QStringLiteral("ك")},
-        {U'ة', QStringLiteral("ه")},  {U'ـ', QStringLiteral("")}};
-    const auto found = same.find(letter);
-    return found == same.end() ? QString::fromUcs4(&letter, 1) : found->second;
-}
 
 bool isOfUnseparatedScript(char32_t code) {
     switch (QChar::script(code)) {
@@ -85,8 +72,10 @@ Folded fold(char32_t code) {
         QString::fromUcs4(&code, 1).normalized(QString::NormalizationForm_KD).toLower();
     QString text = QStringLiteral("");
     for (const char32_t letter : plain.toUcs4()) {
-        if (QChar::isLetterOrNumber(letter))
-            text += sameAs(letter);
+        if (!QChar::isLetterOrNumber(letter))
+            continue;
+        const QString same = TextFolder::sameAs(letter);
+        text += same.isNull() ? QString::fromUcs4(&letter, 1) : same;
     }
     return {text, kindOf(code, text)};
 }
