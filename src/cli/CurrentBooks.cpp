@@ -10,13 +10,15 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
-PublishOptions parsed(const QStringList& arguments) {
+PublishOptions parsed(const QStringList& arguments, const PasswordOptions& password) {
     CLI::App command;
     PublishOptions options;
+    options.password = password;
     PublishArguments::addTo(command, options);
     std::vector<std::string> words;
     for (const QString& argument : arguments)
@@ -32,7 +34,8 @@ PublishOptions parsed(const QStringList& arguments) {
 
 } // namespace
 
-CurrentBooks::CurrentBooks() : iResources(PublishStamp::digestOfResources()) {}
+CurrentBooks::CurrentBooks(PasswordOptions password)
+    : iPassword(std::move(password)), iResources(PublishStamp::digestOfResources()) {}
 
 std::shared_ptr<FlashTemplate> CurrentBooks::templateFor(const PublishOptions& options) {
     const QStringList key =
@@ -45,7 +48,7 @@ std::shared_ptr<FlashTemplate> CurrentBooks::templateFor(const PublishOptions& o
 }
 
 CurrentBooks::State CurrentBooks::of(const QStringList& arguments) {
-    const PublishOptions options = parsed(arguments);
+    const PublishOptions options = parsed(arguments, iPassword);
     WebBookOptions::check(options);
     const QString page = Files::join(options.outputFolder, BookLayout::defaultPage);
     const PublishStamp stamp(options, *templateFor(options), page, iResources);

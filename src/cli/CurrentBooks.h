@@ -14,7 +14,8 @@ class FlashTemplate;
 // once.
 class CurrentBooks {
 public:
-    CurrentBooks();
+    // The password is that of all documents that have none of their own.
+    explicit CurrentBooks(PasswordOptions password);
 
     struct State {
         QByteArray inputs;       // digest of what the book depends on; empty without a document
@@ -26,6 +27,7 @@ public:
 private:
     std::shared_ptr<FlashTemplate> templateFor(const PublishOptions& options);
 
+    PasswordOptions iPassword;
     QByteArray iResources;
     std::map<QString, std::shared_ptr<FlashTemplate>> iTemplates; // by the options that make it
 };

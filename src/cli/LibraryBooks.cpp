@@ -15,7 +15,6 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QSysInfo>
 #include <algorithm>
 #include <utility>
 
@@ -59,6 +58,41 @@ QString whatIsMissing(const QJsonObject& report) {
     return parts.join(QStringLiteral("; "));
 }
 
+// "--set" of "--set=x=1".
+QString nameOf(const QString& option) {
+    return option.section(u'=', 0, 0);
+}
+
+// The options of a line, whose files may have names of any bytes.
+QStringList decoded(const QByteArrayList& options) {
+    QStringList all;
+    for (const QByteArray& option : options) {
+        const qsizetype value = option.indexOf('=') + 1;
+        const bool isPath = option.mid(value).startsWith('/');
+        all << NameAliases::text(option.first(value)) +
+                   (isPath ? NameAliases::decoded(option.mid(value))
+                           : NameAliases::text(option.mid(value)));
+    }
+    return all;
+}
+
+// Those of all books but for what the line says otherwise: publish takes most of them once. A style
+// is one of its template.
+QStringList leftOf(const QStringList& ofAll, const QStringList& ofLine) {
+    const QString set = QStringLiteral("--set");
+    QStringList named;
+    for (const QString& option : ofLine)
+        named << nameOf(option);
+    if (named.contains(QStringLiteral("--template")))
+        named << QStringLiteral("--style");
+    QStringList left;
+    for (const QString& option : ofAll) {
+        if (nameOf(option) == set || !named.contains(nameOf(option)))
+            left << option;
+    }
+    return left;
+}
+
 BookResult::Made madeOf(const QJsonObject& report, const std::optional<BookResult>& earlier) {
     BookResult::Made made;
     made.pages = report[QStringLiteral("pages")].toInt();
@@ -83,6 +117,7 @@ LibraryBooks::LibraryBooks(const LibraryMakeOptions& options, const LibraryLayou
       iIndex(index),
       iRun(run),
       iProgress(progress),
+      iCurrent(options.password),
       iFolder(FileState::of(library.folder())) {}
 
 LibraryBooks::~LibraryBooks() = default;
@@ -153,9 +188,8 @@ QString LibraryBooks::pageOf(const ListedBook& book) const {
 }
 
 QStringList LibraryBooks::argumentsFor(const ListedBook& book) const {
-    QStringList arguments = iOptions.bookOptions;
-    for (const QByteArray& option : book.options)
-        arguments << NameAliases::decoded(option);
+    const QStringList ofLine = decoded(book.options);
+    QStringList arguments = leftOf(iOptions.bookOptions, ofLine) + ofLine;
     const QJsonObject facts = book.facts.asJson();
     for (auto fact = facts.begin(); fact != facts.end(); ++fact) {
         // Lists have "German" as well; catalogues show it.
@@ -188,7 +222,7 @@ std::optional<BookJob> LibraryBooks::jobFor(const ListedBook& book) {
         return {};
     }
     const auto earlier = BookResult::read(iLibrary.result(book.id));
-    if (iOptions.onlyFailed && (!earlier || earlier->isDone())) {
+    if (iOptions.onlyFailed && earlier && earlier->isDone()) {
         ++iCounts.upToDate;
         return {};
     }

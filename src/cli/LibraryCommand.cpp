@@ -116,7 +116,7 @@ void addMake(CLI::App& library, const PasswordOptions& environment) {
             "and get IIIF manifests")
         ->type_name("ADDRESS");
     command->add_flag("--only-failed", options->onlyFailed,
-                      "Make only the books that failed or are incomplete");
+                      "Make only the books that are not done: failed, incomplete or never made");
     command->add_flag("--prune", options->prune, "Remove books that are not in the list any more");
     command->add_flag("--force", options->force, "Make books even if they are up to date");
     command->add_flag("--quiet", options->quiet, "Show no progress");

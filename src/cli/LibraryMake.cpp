@@ -77,6 +77,7 @@ void runLibraryMake(const LibraryMakeOptions& options) {
     LibraryProgress progress(run.books, options.quiet);
     list->rewind();
     LibraryBooks books(options, library, *list, index, run, progress);
+    options.password.giveEnvironment(); // each publish takes it from there
     // A book is made by few workers when there are many books, and by many when it is the last.
     BookPool(int(std::min<qint64>(options.jobs, std::max<qint64>(run.books, 1))), books).run();
     if (Interrupt::wasRequested())

@@ -34,6 +34,11 @@ void PasswordOptions::takeEnvironment() {
     qunsetenv(variable);
 }
 
+void PasswordOptions::giveEnvironment() const {
+    if (!environment.isEmpty())
+        ::qputenv(variable, environment);
+}
+
 QByteArray PasswordOptions::password() const {
     if (ask && !file.isNull())
         throw CommandError(QStringLiteral("--password and --password-file exclude each other"),

@@ -12,6 +12,8 @@ struct PasswordOptions {
 
     // Removes the variable, which the processes that this one starts would inherit.
     void takeEnvironment();
+    // Sets it again, for programs that are to have the password.
+    void giveEnvironment() const;
 
     bool isGiven() const { return ask || !file.isNull() || !environment.isEmpty(); }
     // In UTF-8; empty for none. Asks or reads once and keeps it. Throws CommandError.

@@ -35,7 +35,7 @@ struct LibraryStatus {
 
     qint64 badLineCount() const;
     bool isDone() const;
-    // In the reading order of the texts above.
+    // One for each thing that is not done, in English.
     QStringList lines() const;
     QString summary() const;
     QJsonObject asJson() const;

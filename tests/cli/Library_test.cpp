@@ -121,6 +121,28 @@ TEST_F(LibraryTest, MakesAgainWhatHasChanged) {
     EXPECT_TRUE(QFileInfo::exists(out() + "/books/one/files/thumb/1.jpg"));
 }
 
+// Publish takes most options once, and a style is one of its template.
+TEST_F(LibraryTest, LinesGoBeforeOptionsOfAllBooks) {
+    QFile file(path("list.csv"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("pdf,id,template,set\n" + line("outline.pdf", "own,desk,AutoPlay=Yes") +
+               line("encrypted.pdf", "usual,,"));
+    file.close();
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("FOLVERO_PASSWORD", "secret");
+    const QStringList command{"library", "make",    path("list.csv"), out(),   "--template",
+                              "deck",    "--style", "Boardroom",      "--set", "RightToLeft=Yes"};
+    for (const char* result : {"2 made", "0 made, 2 up to date"}) {
+        const auto made = Program::runOther(Program::path(), command, environment);
+        EXPECT_EQ(made.exitCode, 0) << made.errors.data();
+        EXPECT_TRUE(made.output.contains(result)) << made.output.data();
+    }
+    const QByteArray properties =
+        Program::run({"decode", out() + "/books/own/files/UserConfig.bin"}).output;
+    EXPECT_TRUE(properties.contains("<AutoPlay>YES<")) << properties.data();
+    EXPECT_TRUE(properties.contains("<RightToLeft>YES<"));
+}
+
 // A line that can't be read may be that of the book.
 TEST_F(LibraryTest, DoesNotPruneByAListThatItCannotRead) {
     list(line("outline.pdf", "one,,1") + line("links.pdf", "two,,"));
