@@ -41,11 +41,12 @@ protected:
         result.pdf = id + ".pdf";
         result.facts = facts;
         result.state = BookResult::State::made;
-        result.made.emplace();
-        result.made->pages = 12;
-        result.made->cover = "files/thumb/1.jpg";
-        result.made->added = QDateTime::fromSecsSinceEpoch(1'700'000'000 + number, Qt::UTC);
-        result.made->changed = result.made->added;
+        BookResult::Made made;
+        made.pages = 12;
+        made.cover = "files/thumb/1.jpg";
+        made.added = QDateTime::fromSecsSinceEpoch(1'700'000'000 + number, Qt::UTC);
+        made.changed = made.added;
+        result.made = made;
         write(result);
     }
     void write(const BookResult& result) const {
