@@ -13,6 +13,7 @@ import os
 import pathlib
 import subprocess
 import sys
+import tempfile
 import time
 
 from support import BUILD, REPOSITORY, ScratchFolder, fail, print_table
@@ -36,17 +37,19 @@ def run(folvero, *commands):
     """Runs commands with "folvero library" at the same time, each with the processors in front of it; the seconds they
     take, and the most memory of one parent process."""
     start = time.perf_counter()
-    running = [subprocess.Popen([folvero, "library", *map(str, words)], stdout=subprocess.DEVNULL,
-                                stderr=subprocess.PIPE,
+    peak = 0
+    # A pipe that nobody reads yet would block programs that report much.
+    errors = tempfile.TemporaryFile("w+")
+    running = [subprocess.Popen([folvero, "library", *map(str, words)], stdout=subprocess.DEVNULL, stderr=errors,
                                 preexec_fn=lambda processors=processors: os.sched_setaffinity(0, processors))
                for processors, words in commands]
-    peak = 0
     while any(process.poll() is None for process in running):
         peak = max([peak, *(peak_mib(process.pid) for process in running)])
         time.sleep(POLL_SECONDS)
     for process in running:
         if process.returncode != 0:
-            fail(f"{process.args}: exit code {process.returncode}\n{process.stderr.read().decode()[-2000:]}")
+            errors.seek(0)
+            fail(f"{process.args}: exit code {process.returncode}\n{errors.read()[-2000:]}")
     return time.perf_counter() - start, peak
 
 
