@@ -47,6 +47,11 @@ std::shared_ptr<FlashTemplate> CurrentBooks::templateFor(const PublishOptions& o
     return tmpl;
 }
 
+void CurrentBooks::check(const QStringList& options) {
+    const QString any = QStringLiteral("-");
+    templateFor(parsed(QStringList(options) << QStringLiteral("--") << any << any, iPassword));
+}
+
 CurrentBooks::State CurrentBooks::of(const QStringList& arguments) {
     const PublishOptions options = parsed(arguments, iPassword);
     WebBookOptions::check(options);

@@ -17,6 +17,9 @@ public:
     // The password is that of all documents that have none of their own.
     explicit CurrentBooks(PasswordOptions password);
 
+    // Throws CommandError for options of "folvero publish" that it would refuse for any document.
+    void check(const QStringList& options);
+
     struct State {
         QByteArray inputs;       // digest of what the book depends on; empty without a document
         bool isUpToDate = false; // the book is there, complete, and made of the same

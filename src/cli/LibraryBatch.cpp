@@ -1,5 +1,8 @@
 #include "cli/LibraryBatch.h"
 
+#include "cli/CurrentBooks.h"
+#include "cli/LibraryCatalogue.h"
+#include "cli/LibraryOptions.h"
 #include "console/CommandError.h"
 #include "console/Terminal.h"
 #include "library/LibraryLayout.h"
@@ -39,6 +42,7 @@ const QString script = QStringLiteral(R"(#!/bin/bash
 # node fails is queued again, and goes on with the books that are not there yet. When all tasks have
 # ended:
 #   folvero library status OUT
+#   folvero library catalogue OUT
 folvero=${FOLVERO:-%3}
 list=%4
 library=%5
@@ -84,7 +88,11 @@ void runLibraryBatch(const LibraryBatchOptions& options) {
     const QFileInfo list(options.list);
     if (!list.exists())
         throw CommandError(QStringLiteral("%1: is not there").arg(options.list));
+    CurrentBooks({}).check(options.makeOptions);
     const LibraryLayout library(options.folder);
+    LibraryCatalogueOptions catalogue;
+    catalogue.address = options.address;
+    LibraryCatalogue::settings(catalogue, library); // throws for a bad address
     const QString logs = library.stateAt(QStringLiteral("log"));
     if (logs.contains(u'\n'))
         throw CommandError(
@@ -99,6 +107,8 @@ void runLibraryBatch(const LibraryBatchOptions& options) {
     QStringList makeOptions;
     for (const QString& option : options.makeOptions)
         makeOptions << quoted(option);
+    if (!options.address.isNull())
+        makeOptions << quoted(QStringLiteral("--url=") + options.address);
     Terminal::print(script.arg(QString::number(options.shards), asArgumentOfSbatch(logs),
                                quoted(QCoreApplication::applicationFilePath()),
                                quoted(QDir::cleanPath(list.absoluteFilePath())),

@@ -197,10 +197,9 @@ QStringList LibraryBooks::argumentsFor(const ListedBook& book) const {
             arguments << QStringLiteral("--%1=%2").arg(fact.key(), fact->toString());
     }
     arguments << QStringLiteral("--shared-player=") + iLibrary.at(LibraryLayout::players);
-    if (!iOptions.url.isEmpty())
-        arguments
-            << QStringLiteral("--iiif")
-            << QStringLiteral("--url=%1%2/").arg(iOptions.url, LibraryLayout::bookPath(book.id));
+    if (const QString& library = iOptions.catalogue.address; !library.isEmpty())
+        arguments << QStringLiteral("--iiif")
+                  << QStringLiteral("--url=%1%2/").arg(library, LibraryLayout::bookPath(book.id));
     if (iOptions.force)
         arguments << QStringLiteral("--force");
     return arguments << QStringLiteral("--") << NameAliases::decoded(book.path)

@@ -1,10 +1,12 @@
 #include "cli/LibraryCatalogue.h"
 
+#include "cli/LibraryOptions.h"
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
 #include "console/Terminal.h"
 #include "library/LibraryLayout.h"
 #include "library/catalogue/Catalogue.h"
+#include "library/catalogue/CatalogueLayout.h"
 #include "library/catalogue/CatalogueTexts.h"
 #include "webbook/BookAddress.h"
 
@@ -34,57 +36,66 @@ void checkLanguage(const QString& language) {
                            ExitCode::usage);
 }
 
-CatalogueSettings settingsFrom(const LibraryCatalogueOptions& options,
-                               const LibraryLayout& library) {
+QString counted(int count, const QString& one, const QString& many) {
+    return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? one : many);
+}
+
+void print(const Catalogue::Outcome& outcome, const LibraryLayout& library) {
+    Terminal::print(
+        QStringLiteral("%1: %2, %3 (%4 written, %5 removed)")
+            .arg(library.at(QString::fromUtf8(CatalogueLayout::home)),
+                 counted(outcome.books, QStringLiteral("book"), QStringLiteral("books")),
+                 counted(outcome.files, QStringLiteral("file"), QStringLiteral("files")))
+            .arg(outcome.written)
+            .arg(outcome.removed));
+    Terminal::checkOutput();
+}
+
+void reportWhatIsLeftOut(const CatalogueSettings& settings) {
+    if (settings.address.isEmpty())
+        Terminal::report(QStringLiteral("folvero: without --url there are no feeds, sitemap, OPDS, "
+                                        "IIIF collection and OAI-PMH file"));
+    else if (settings.contact.isEmpty())
+        Terminal::report(QStringLiteral("folvero: without --contact there is no OAI-PMH file"));
+}
+
+} // namespace
+
+CatalogueSettings LibraryCatalogue::settings(const LibraryCatalogueOptions& options,
+                                             const LibraryLayout& library) {
     const CatalogueSettings given{options.title, options.language, addressFrom(options.address),
                                   options.contact, options.gateway};
     checkLanguage(options.language);
     return CatalogueSettings::completed(given, library);
 }
 
-QString counted(int count, const QString& one, const QString& many) {
-    return QStringLiteral("%1 %2").arg(count).arg(count == 1 ? one : many);
-}
-
-void report(const Catalogue::Outcome& outcome, const QString& folder) {
-    Terminal::print(
-        QStringLiteral("%1: %2, %3 (%4 written, %5 removed)")
-            .arg(folder, counted(outcome.books, QStringLiteral("book"), QStringLiteral("books")),
-                 counted(outcome.files, QStringLiteral("file"), QStringLiteral("files")))
-            .arg(outcome.written)
-            .arg(outcome.removed));
-    if (!outcome.hasFeeds)
-        Terminal::report(QStringLiteral("folvero: without --url there are no feeds, sitemap, OPDS, "
-                                        "IIIF collection and OAI-PMH file"));
-    else if (!outcome.hasRepository)
-        Terminal::report(QStringLiteral("folvero: without --contact there is no OAI-PMH file"));
-}
-
-} // namespace
-
-void runLibraryCatalogue(const LibraryCatalogueOptions& options) {
-    const LibraryLayout library(options.folder);
-    if (!QFileInfo(library.stateAt({})).isDir())
-        throw CommandError(QStringLiteral("%1: is no library, since it has no folder %2")
-                               .arg(options.folder, LibraryLayout::state));
-    const CatalogueSettings settings = settingsFrom(options, library);
-    Interrupt::watch();
-    ProgressDisplay display(QStringLiteral("Making the catalogue"), options.quiet);
+void LibraryCatalogue::make(const LibraryLayout& library, const CatalogueSettings& settings,
+                            const How& how) {
+    ProgressDisplay display(QStringLiteral("Making the catalogue"), how.quiet);
+    const auto throwIfInterrupted = [] {
+        if (Interrupt::wasRequested())
+            throw CommandError(QStringLiteral("cancelled; the next run completes the catalogue"),
+                               ExitCode::cancelled);
+    };
+    const auto showProgress = [&](int done, int total) { display.show(done, total); };
     const auto outcome = [&] {
         try {
-            return Catalogue::make(
-                library, settings, options.force,
-                {[&](int done, int total) { display.show(done, total); },
-                 [] {
-                     if (Interrupt::wasRequested())
-                         throw CommandError(QStringLiteral("cancelled; the next run completes the "
-                                                           "catalogue"),
-                                            ExitCode::cancelled);
-                 }});
+            return Catalogue::make(library, settings, {how.force, how.patience},
+                                   {showProgress, throwIfInterrupted});
         } catch (const PlatformException& failure) {
             throw CommandError(failure);
         }
     }();
-    report(outcome, options.folder);
-    Terminal::checkOutput();
+    print(outcome, library);
+}
+
+void LibraryCatalogue::run(const LibraryCatalogueOptions& options) {
+    const LibraryLayout library(options.folder);
+    if (!QFileInfo(library.stateAt({})).isDir())
+        throw CommandError(QStringLiteral("%1: is no library, since it has no folder %2")
+                               .arg(options.folder, LibraryLayout::state));
+    const CatalogueSettings complete = settings(options, library);
+    Interrupt::watch();
+    make(library, complete, {.force = options.force, .quiet = options.quiet});
+    reportWhatIsLeftOut(complete);
 }

@@ -2,13 +2,13 @@
 
 #include "cli/CommandArguments.h"
 #include "cli/LibraryBatch.h"
+#include "cli/LibraryCatalogue.h"
 #include "cli/LibraryMake.h"
 #include "cli/LibraryOptions.h"
 #include "cli/LibrarySearchCommands.h"
 #include "cli/LibraryStatusCommand.h"
 #include "cli/PublishArguments.h"
 #include "system/NameAliases.h"
-#include "webbook/BookAddress.h"
 
 #include <QByteArray>
 #include <QFileInfo>
@@ -17,6 +17,7 @@
 #include <vector>
 
 using CommandArguments::addPath;
+using CommandArguments::addText;
 
 namespace {
 
@@ -86,6 +87,21 @@ void takeShard(const std::string& typed, LibraryMakeOptions& options) {
         throw CLI::ValidationError("--shard", typed + " is not like 3/8");
 }
 
+// What a catalogue is made with besides the address.
+void addCatalogueTexts(CLI::App& command, LibraryCatalogueOptions& options) {
+    addText(command, "--title", options.title, "Name of the library; by default that of its folder")
+        ->type_name("TEXT");
+    addText(command, "--language", options.language, "Language of the catalogue's pages: en or de")
+        ->type_name("CODE")
+        ->default_str("en");
+    addText(command, "--contact", options.contact,
+            "Mail address in the OAI-PMH file, which is left out without it")
+        ->type_name("MAIL");
+    addText(command, "--oai-gateway", options.gateway,
+            "Address of the gateway through which the OAI-PMH file will be read")
+        ->type_name("ADDRESS");
+}
+
 void addMake(CLI::App& library, const PasswordOptions& environment) {
     auto* command = library.add_subcommand("make", "Make the books of a list");
     const auto options = std::make_shared<LibraryMakeOptions>();
@@ -103,24 +119,38 @@ void addMake(CLI::App& library, const PasswordOptions& environment) {
             "--shard", [options](const std::string& typed) { takeShard(typed, *options); },
             "Make only part I of N parts of the list")
         ->type_name("I/N");
-    command
-        ->add_option_function<std::string>(
-            "--url",
-            [options](const std::string& typed) {
-                const auto address = BookAddress::from(QString::fromStdString(typed));
-                if (!address)
-                    throw CLI::ValidationError("--url", typed + " is no address of a folder");
-                options->url = address->file({});
-            },
+    addText(*command, "--url", options->catalogue.address,
             "Address at which the library will be: its books name it to search engines,\n"
-            "and get IIIF manifests")
+            "and get IIIF manifests, and its catalogue has feeds")
         ->type_name("ADDRESS");
+    addCatalogueTexts(*command, options->catalogue);
+    command->add_flag_callback(
+        "--no-catalogue", [options] { options->makesCatalogue = false; },
+        "Make only the books, not the catalogue, which with --shard is not made anyway");
     command->add_flag("--only-failed", options->onlyFailed,
                       "Make only the books that are not done: failed, incomplete or never made");
     command->add_flag("--prune", options->prune, "Remove books that are not in the list any more");
     command->add_flag("--force", options->force, "Make books even if they are up to date");
     command->add_flag("--quiet", options->quiet, "Show no progress");
     command->callback([options] { runLibraryMake(*options); });
+}
+
+void addCatalogue(CLI::App& library) {
+    auto* command = library.add_subcommand(
+        "catalogue", "Make pages, a search and feeds over the books of a library");
+    const auto options = std::make_shared<LibraryCatalogueOptions>();
+    addPath(*command, "OUT", options->folder, folderHelp)->type_name("")->required();
+    addText(*command, "--url", options->address,
+            "Address at which the library will be: feeds, sitemap, OPDS, IIIF\n"
+            "collection and OAI-PMH file name it, and are left out without it")
+        ->type_name("ADDRESS");
+    addCatalogueTexts(*command, *options);
+    command->add_flag("--force", options->force,
+                      "Overwrite files that are not of a catalogue, such as an index.html");
+    command->add_flag("--quiet", options->quiet, "Show no progress");
+    command->footer("The last run's title, language and addresses are used again unless others "
+                    "are given; an empty\ntext takes one back.");
+    command->callback([options] { LibraryCatalogue::run(*options); });
 }
 
 void addStatus(CLI::App& library) {
@@ -146,6 +176,8 @@ void addBatch(CLI::App& library) {
         ->check(CLI::Range(1, 100'000, "1-100000"))
         ->type_name("N");
     addBookOptions(*command, options->makeOptions);
+    addText(*command, "--url", options->address, "Address at which the library will be")
+        ->type_name("ADDRESS");
     command->callback([options] { runLibraryBatch(*options); });
 }
 
@@ -156,6 +188,7 @@ CLI::App& addLibraryCommands(CLI::App& app, const PasswordOptions& environment) 
                         ->group("Commands")
                         ->require_subcommand(1);
     addMake(*library, environment);
+    addCatalogue(*library);
     addStatus(*library);
     addBatch(*library);
     addLibraryIndex(*library);

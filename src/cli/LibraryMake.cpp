@@ -1,7 +1,9 @@
 #include "cli/LibraryMake.h"
 
 #include "cli/BookPool.h"
+#include "cli/CurrentBooks.h"
 #include "cli/LibraryBooks.h"
+#include "cli/LibraryCatalogue.h"
 #include "cli/LibraryProgress.h"
 #include "cli/LibraryPrune.h"
 #include "console/CommandError.h"
@@ -16,6 +18,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
+#include <chrono>
 
 namespace {
 
@@ -38,6 +41,18 @@ void reportUnknown(const QString& list, const QStringList& columns) {
             QStringLiteral("folvero: %1: the column \"%2\" is not known").arg(list, column));
 }
 
+// The record of this run, which is in the library from now on.
+LibraryRun started(const LibraryMakeOptions& options, const LibraryLayout& library, BookList& list,
+                   const ListIndex& index) {
+    makeFolder(library);
+    LibraryRun run = LibraryRun::begin(options.shard, options.shards);
+    run.list = index.digest();
+    run.books = qint64(index.sizeOfShard(options.shard - 1, options.shards));
+    failOn(ListedIDs::write(library, list, index.digest()));
+    failOn(run.write(library));
+    return run;
+}
+
 // The exit code of the whole run, and what to do about it.
 void failIfIncomplete(const LibraryCounts& counts, const LibraryRun& run) {
     if (counts.tryAgain > 0)
@@ -56,10 +71,34 @@ void failIfIncomplete(const LibraryCounts& counts, const LibraryRun& run) {
                            ExitCode::incomplete);
 }
 
+void print(const LibraryCounts& counts, const LibraryLayout& library) {
+    Terminal::print(QStringLiteral("%1: %2 books: %3")
+                        .arg(library.folder(), QString::number(counts.books()), counts.text()));
+    Terminal::checkOutput();
+}
+
+// The exit code of a catalogue that could not be made, after its reason was reported.
+ExitCode makeCatalogue(const LibraryLayout& library, const CatalogueSettings& settings,
+                       bool isQuiet) {
+    // Another run that shares the books may be making it.
+    constexpr std::chrono::minutes patience{10};
+    try {
+        LibraryCatalogue::make(library, settings, {.quiet = isQuiet, .patience = patience});
+    } catch (const CommandError& failure) {
+        Terminal::report(QStringLiteral("folvero: %1").arg(failure.message()));
+        return failure.code();
+    }
+    return ExitCode::ok;
+}
+
 } // namespace
 
-void runLibraryMake(const LibraryMakeOptions& options) {
+void runLibraryMake(const LibraryMakeOptions& given) {
+    LibraryMakeOptions options = given;
     const LibraryLayout library(options.folder);
+    const CatalogueSettings catalogue = LibraryCatalogue::settings(options.catalogue, library);
+    options.catalogue.address = catalogue.address;
+    CurrentBooks(options.password).check(options.bookOptions);
     const auto list = openList(options.list, library.folder());
     const ListIndex index(*list);
     if (options.shard == 1)
@@ -67,12 +106,8 @@ void runLibraryMake(const LibraryMakeOptions& options) {
     if (index.size() == 0 && !index.hasUnknownIDs())
         throw CommandError(QStringLiteral("%1: there is no PDF in it").arg(options.list));
     Interrupt::watch();
-    makeFolder(library);
-    LibraryRun run = LibraryRun::begin(options.shard, options.shards);
-    run.list = index.digest();
-    run.books = qint64(index.sizeOfShard(options.shard - 1, options.shards));
-    failOn(ListedIDs::write(library, *list, index.digest()));
-    failOn(run.write(library));
+    LibraryRun run = started(options, library, *list, index);
+    failOn(catalogue.remember(library));
 
     LibraryProgress progress(run.books, options.quiet);
     list->rewind();
@@ -88,9 +123,13 @@ void runLibraryMake(const LibraryMakeOptions& options) {
     run.ended = QDateTime::currentDateTimeUtc();
     failOn(run.write(library));
     progress.clear();
-    Terminal::print(
-        QStringLiteral("%1: %2 books: %3")
-            .arg(library.folder(), QString::number(books.counts().books()), books.counts().text()));
-    Terminal::checkOutput();
+    print(books.counts(), library);
+    const bool makesCatalogue = options.makesCatalogue && options.shards == 1;
+    const ExitCode ofCatalogue =
+        makesCatalogue ? makeCatalogue(library, catalogue, options.quiet) : ExitCode::ok;
     failIfIncomplete(books.counts(), run);
+    if (ofCatalogue != ExitCode::ok)
+        throw CommandError(QStringLiteral("the books are made, but the catalogue is not; see "
+                                          "folvero library catalogue"),
+                           ofCatalogue);
 }

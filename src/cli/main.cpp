@@ -4,7 +4,6 @@
 #include "cli/CommandArguments.h"
 #include "cli/DecodeCommand.h"
 #include "cli/InfoCommand.h"
-#include "cli/LibraryCatalogue.h"
 #include "cli/LibraryCommand.h"
 #include "cli/PasswordOptions.h"
 #include "cli/PublishArguments.h"
@@ -41,7 +40,6 @@ struct CommandLine {
     QString book;
     std::string served; // undecoded: the server's process does that
     std::optional<int> port;
-    LibraryCatalogueOptions catalogue;
     bool json = false;
     bool verbose = false;
 };
@@ -115,34 +113,6 @@ void addLibraryServe(CLI::App& library, CommandLine& line) {
     command->add_option("OUT", line.served, "The library's folder")->type_name("")->required();
     addPort(*command, line.port);
     command->callback([&line] { runServe(Served::library, line.served, line.port, line.verbose); });
-}
-
-void addLibraryCatalogue(CLI::App& library, LibraryCatalogueOptions& options) {
-    auto* command = library.add_subcommand(
-        "catalogue", "Make pages, a search and feeds over the books of a library");
-    addPath(*command, "LIBRARY", options.folder, "The library's folder")->type_name("")->required();
-    addText(*command, "--title", options.title,
-            "Name of the library; by default that of its folder")
-        ->type_name("TEXT");
-    addText(*command, "--language", options.language, "Language of the pages: en or de")
-        ->type_name("CODE")
-        ->default_str("en");
-    addText(*command, "--url", options.address,
-            "Address at which the library will be: feeds, sitemap, OPDS, IIIF\n"
-            "collection and OAI-PMH file name it, and are left out without it")
-        ->type_name("ADDRESS");
-    addText(*command, "--contact", options.contact,
-            "Mail address in the OAI-PMH file, which is left out without it")
-        ->type_name("MAIL");
-    addText(*command, "--oai-gateway", options.gateway,
-            "Address of the gateway through which the OAI-PMH file will be read")
-        ->type_name("ADDRESS");
-    command->add_flag("--force", options.force,
-                      "Overwrite files that are not of a catalogue, such as an index.html");
-    command->add_flag("--quiet", options.quiet, "Show no progress");
-    command->footer("The last run's title, language and addresses are used again unless others "
-                    "are given; an empty\ntext takes one back.");
-    command->callback([&options] { runLibraryCatalogue(options); });
 }
 
 // The error of the command line, with a pointer to the help.
@@ -222,7 +192,6 @@ int run(int argc, char** argv) {
     addDecode(app, line);
     addServe(app, line);
     auto& library = addLibraryCommands(app, line.password);
-    addLibraryCatalogue(library, line.catalogue);
     addLibraryServe(library, line);
     try {
         app.parse(wordsOf(argc, argv, app));

@@ -29,8 +29,10 @@ protected:
         return Program::run(QStringList{"library", "make", "--quiet", path("list.csv"), out()} +
                             options);
     }
-    // What a run prints after the name of the folder.
-    std::string made() const { return make().output.mid(out().size() + 2).toStdString(); }
+    // What a run prints of its books, after the name of the folder.
+    static std::string books(const Program::Result& run) {
+        return QString::fromUtf8(run.output).section("\n", 0, 0).section(": ", 1).toStdString();
+    }
     Program::Result status() const { return Program::run({"library", "status", out()}); }
 
     QJsonObject result(const QString& id) const {
@@ -63,8 +65,7 @@ TEST_F(LibraryTest, MakesWhatItCanAndSaysWhatItCannot) {
          line("outline.pdf", "badpages,,7-x") + line("outline.pdf", "../up,,"));
     const auto first = make();
     EXPECT_EQ(first.exitCode, 1);
-    EXPECT_TRUE(first.output.endsWith(": 6 books: 1 made, 1 incomplete, 4 failed\n"))
-        << first.output.data();
+    EXPECT_EQ(books(first), "6 books: 1 made, 1 incomplete, 4 failed");
     EXPECT_TRUE(hasBook("good"));
     EXPECT_TRUE(hasBook("hole"));
     EXPECT_FALSE(hasBook("twice"));
@@ -85,8 +86,7 @@ TEST_F(LibraryTest, MakesWhatItCanAndSaysWhatItCannot) {
 
     // Nothing has changed, so nothing is tried.
     const QStringList before{runOf("good"), runOf("hole"), runOf("none")};
-    EXPECT_EQ(make().output,
-              out().toUtf8() + ": 6 books: 0 made, 1 up to date, 1 incomplete, 4 failed\n");
+    EXPECT_EQ(books(make()), "6 books: 0 made, 1 up to date, 1 incomplete, 4 failed");
     EXPECT_EQ((QStringList{runOf("good"), runOf("hole"), runOf("none")}), before);
     EXPECT_EQ(make({"--only-failed"}).exitCode, 1);
     EXPECT_EQ(runOf("good"), before[0]);
@@ -103,7 +103,7 @@ TEST_F(LibraryTest, MakesAgainWhatHasChanged) {
     list(line("outline.pdf", "one,New,1") + line("links.pdf", "two,,"));
     const auto again = make();
     EXPECT_EQ(again.exitCode, 0);
-    EXPECT_TRUE(again.output.endsWith(": 2 books: 1 made, 1 up to date\n")) << again.output.data();
+    EXPECT_EQ(books(again), "2 books: 1 made, 1 up to date");
     EXPECT_NE(runOf("one"), one);
     EXPECT_EQ(runOf("two"), two);
     // The book that is not in the list any more.
@@ -116,7 +116,7 @@ TEST_F(LibraryTest, MakesAgainWhatHasChanged) {
     // A book whose files are gone is made, and one whose result is.
     QFile::remove(out() + "/books/one/files/thumb/1.jpg");
     QDir(out() + "/.folvero-library/results").removeRecursively();
-    EXPECT_EQ(made(), "2 books: 2 made\n");
+    EXPECT_EQ(books(make()), "2 books: 2 made");
     EXPECT_GT(result("two")["made"].toObject()["pages"].toInt(), 0);
     EXPECT_TRUE(QFileInfo::exists(out() + "/books/one/files/thumb/1.jpg"));
 }
@@ -141,6 +141,36 @@ TEST_F(LibraryTest, LinesGoBeforeOptionsOfAllBooks) {
         Program::run({"decode", out() + "/books/own/files/UserConfig.bin"}).output;
     EXPECT_TRUE(properties.contains("<AutoPlay>YES<")) << properties.data();
     EXPECT_TRUE(properties.contains("<RightToLeft>YES<"));
+}
+
+TEST_F(LibraryTest, EndsWithTheCatalogue) {
+    list(line("outline.pdf", "one,,1"));
+    // Nothing is begun with an option that no book could be made with.
+    EXPECT_EQ(make({"--set", "NoSuch=1"}).exitCode, 2);
+    EXPECT_FALSE(QFileInfo::exists(out()));
+
+    const QString page = out() + "/index.html";
+    QDir().mkpath(out());
+    TestFiles::write(page, "mine");
+    const auto refused = make({"--url", "https://a.example/l", "--title", "Archive"});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_TRUE(refused.errors.startsWith("folvero: " + page.toUtf8() + ": is there already"))
+        << refused.errors.data();
+    EXPECT_TRUE(hasBook("one"));
+    EXPECT_EQ(TestFiles::read(page), "mine");
+    // A shard has a part of the books only.
+    QFile::remove(page);
+    EXPECT_EQ(make({"--shard", "1/1", "--no-catalogue"}).exitCode, 0);
+    EXPECT_EQ(make({"--shard", "1/2"}).exitCode, 0);
+    EXPECT_FALSE(QFileInfo::exists(page));
+
+    // The address of the first run still holds, for books as well.
+    EXPECT_EQ(books(make()), "1 books: 0 made, 1 up to date");
+    EXPECT_TRUE(TestFiles::read(page).contains("<title>Archive</title>"));
+    EXPECT_TRUE(TestFiles::read(out() + "/books/one/manifest.json")
+                    .contains("https://a.example/l/books/one/manifest.json"));
+    EXPECT_TRUE(TestFiles::read(out() + "/catalogue/iiif/collection.json")
+                    .contains("https://a.example/l/books/one/manifest.json"));
 }
 
 // A line that can't be read may be that of the book.
@@ -202,7 +232,7 @@ TEST_F(LibraryTest, LosesNothingWhenItIsStopped) {
         EXPECT_EQ(status().exitCode, 75);
     }
     list(line("outline.pdf", "first,,1") + line("thousand.pdf", "long,,1-3"));
-    EXPECT_EQ(made(), "2 books: 1 made, 1 up to date\n");
+    EXPECT_EQ(books(make()), "2 books: 1 made, 1 up to date");
     EXPECT_EQ(status().exitCode, 0);
     EXPECT_TRUE(QDir(out() + "/.folvero-library/leases").isEmpty());
     EXPECT_TRUE(QDir(out() + "/books/long")

@@ -51,11 +51,11 @@ void claimAll(const SiteFiles& files, const LibraryLayout& library, bool isKnown
 } // namespace
 
 Catalogue::Outcome Catalogue::make(const LibraryLayout& library, const CatalogueSettings& settings,
-                                   bool force, const Callbacks& callbacks) {
+                                   const Options& options, const Callbacks& callbacks) {
     const bool hasFeeds = !settings.address.isEmpty();
     const bool hasRepository = hasFeeds && !settings.contact.isEmpty();
     const CatalogueTexts texts(settings.language);
-    SiteFiles files(library, force, callbacks.beforeFile);
+    SiteFiles files(library, options.force, options.patience, callbacks.beforeFile);
     claimAll(files, library, files.hasEarlier(), hasFeeds);
     if (const Message failure = settings.remember(library); !failure.isNull())
         throw PlatformException(ErrorKind::publishing, failure);
@@ -100,6 +100,5 @@ Catalogue::Outcome Catalogue::make(const LibraryLayout& library, const Catalogue
     }
     files.finish();
     callbacks.progress(int(parts.size()), int(parts.size()));
-    return {books.count(), files.count(), files.written(), files.removed(),
-            files.bytes(), hasFeeds,      hasRepository};
+    return {books.count(), files.count(), files.written(), files.removed(), files.bytes()};
 }

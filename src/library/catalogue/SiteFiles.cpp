@@ -6,6 +6,7 @@
 #include "system/Files.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -51,17 +52,12 @@ QByteArray folderOf(const QByteArray& path) {
 } // namespace
 
 SiteFiles::SiteFiles(const LibraryLayout& library, bool overwritesForeign,
-                     std::function<void()> beforeFile)
+                     std::chrono::seconds patience, std::function<void()> beforeFile)
     : iLibrary(library),
       iOverwritesForeign(overwritesForeign),
       iBeforeFile(std::move(beforeFile)),
       iLock(std::make_unique<QLockFile>(library.stateAt(QStringLiteral("catalogue.lock")))) {
-    iLock->setStaleLockTime(0);
-    if (!iLock->tryLock())
-        fail(library.folder(),
-             Message(QStringLiteral("another catalogue is being made here; if not, remove %1")
-                         .arg(iLock->fileName()))
-                 .temporary());
+    lock(patience);
     readList();
     readJournal();
     iJournal.setFileName(journal());
@@ -70,6 +66,19 @@ SiteFiles::SiteFiles(const LibraryLayout& library, bool overwritesForeign,
 }
 
 SiteFiles::~SiteFiles() = default;
+
+void SiteFiles::lock(std::chrono::seconds patience) const {
+    constexpr std::chrono::milliseconds interval{100};
+    iLock->setStaleLockTime(0);
+    for (const QDeadlineTimer end(patience); !iLock->tryLock(interval);) {
+        if (end.hasExpired() || iLock->error() != QLockFile::LockFailedError)
+            fail(iLibrary.folder(),
+                 Message(QStringLiteral("another catalogue is being made here; if not, remove %1")
+                             .arg(iLock->fileName()))
+                     .temporary());
+        iBeforeFile();
+    }
+}
 
 QString SiteFiles::at(const QByteArray& path) const {
     return iLibrary.at(QString::fromUtf8(path));

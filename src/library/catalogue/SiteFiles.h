@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QHash>
 #include <QSet>
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -18,9 +19,9 @@ class QLockFile;
 // Functions throw PlatformException for errors of the disk.
 class SiteFiles {
 public:
-    // Reads the list; one catalogue at a time is made in a library.
-    // beforeFile is called before each file that is put; it may throw.
-    SiteFiles(const LibraryLayout& library, bool overwritesForeign,
+    // Reads the list. One catalogue at a time is made in a library: waits so long for another one.
+    // beforeFile is called before each file that is put, and while waiting; it may throw.
+    SiteFiles(const LibraryLayout& library, bool overwritesForeign, std::chrono::seconds patience,
               std::function<void()> beforeFile);
     ~SiteFiles();
     SiteFiles(const SiteFiles&) = delete;
@@ -55,6 +56,7 @@ private:
         bool isCurrent = false;
     };
 
+    void lock(std::chrono::seconds patience) const;
     void readList();
     void readJournal();
     void note(const QByteArray& path);
