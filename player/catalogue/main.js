@@ -1,28 +1,32 @@
 import { make, part } from '../src/book/dom.js';
-import { Finding } from './finding.js';
+import { BooksFound } from './booksfound.js';
 import { Index } from './index.js';
-
-/** Books shown at a time. */
-const AT_A_TIME = 24;
+import { TextHits } from './texthits.js';
+import { TextsFound } from './textsfound.js';
 
 /** @type {import('./texts/en.json')['search']} */
 const TEXTS = JSON.parse(part(document, '#texts').textContent ?? '');
 
 const NAMES = /** @type {const} */ (['q', 'author', 'subject', 'language', 'from', 'to']);
 
-/** The page of the search: finds books while the reader types. */
+/** The page of the search: finds books while the reader types, and the pages of their texts where a server can. */
 class SearchPage {
   constructor() {
     this.index = new Index();
+    this.hits = new TextHits();
     this.search = /** @type {HTMLFormElement} */ (part(document, 'form.search'));
     this.filters = /** @type {HTMLFormElement} */ (part(document, 'form.filters'));
     this.details = /** @type {HTMLDetailsElement} */ (part(this.filters, 'details'));
     this.status = part(document, '.status');
-    this.list = part(document, '.found .books');
     this.more = part(document, '.next');
+    this.views = part(document, '.views');
+    this.books = new BooksFound(this.index, part(document, '.found .books'), TEXTS);
+    this.texts = new TextsFound(this.hits, part(document, '.found .hits'), TEXTS);
     this.numbers = new Intl.NumberFormat(document.documentElement.lang);
-    /** @type {Finding | null} the search that the reader waits for or sees */
-    this.finding = null;
+    /** @type {BooksFound | TextsFound} what is shown */
+    this.shown = this.books;
+    /** Whether the reader chose what is shown. */
+    this.chosen = false;
   }
 
   async start() {
@@ -39,7 +43,7 @@ class SearchPage {
       const field = this.#field(name);
       if (field && asked.has(name)) field.value = asked.get(name) ?? '';
     }
-    this.filters.hidden = false;
+    this.filters.hidden = !this.#hasFilters;
     this.details.open = matchMedia('(min-width: 60rem)').matches;
     for (const form of [this.search, this.filters]) {
       form.addEventListener('input', () => this.#find());
@@ -47,7 +51,29 @@ class SearchPage {
     }
     this.filters.addEventListener('reset', () => setTimeout(() => this.#find()));
     this.more.addEventListener('click', () => this.#showMore());
+    this.#offerTexts(asked.get('in') === 'texts');
     await this.#find();
+  }
+
+  /** @param {boolean} first whether they are shown at first */
+  async #offerTexts(first) {
+    if (!await this.hits.open()) return;
+    for (const button of this.views.querySelectorAll('button')) {
+      button.addEventListener('click', () => {
+        this.chosen = true;
+        this.#show(button.value === 'texts' ? this.texts : this.books);
+        this.#remember();
+      });
+    }
+    this.views.hidden = false;
+    this.chosen = first;
+    if (first) this.#show(this.texts);
+    await this.#findTexts();
+  }
+
+  /** Whether the books have facts to choose by. */
+  get #hasFilters() {
+    return this.filters.querySelector('input, select') !== null;
   }
 
   /**
@@ -73,97 +99,71 @@ class SearchPage {
 
   async #find() {
     const [q, author, subject, language, from, to] = NAMES.map((name) => this.#field(name)?.value ?? '');
-    const finding = new Finding(this.index, { q, author, subject, language, from, to });
-    this.finding = finding;
     this.#remember();
+    await Promise.all([this.#findTexts(), this.#run(this.books, () => this.books.find({ q, author, subject, language, from, to }))]);
+  }
+
+  async #findTexts() {
+    if (!this.views.hidden) await this.#run(this.texts, () => this.texts.find(this.#field('q')?.value ?? ''));
+  }
+
+  /**
+   * Finds something, and shows what has come of it unless the reader has typed on.
+   * @param {BooksFound | TextsFound} found
+   * @param {() => Promise<boolean>} find
+   */
+  async #run(found, find) {
     try {
-      if (!finding.empty) await finding.run();
-      const found = await finding.next(AT_A_TIME);
-      // The reader has typed on.
-      if (this.finding !== finding) return;
-      this.list.replaceChildren(...found.map(card));
-      this.#tell();
+      if (!await find()) return;
+      // The words that nobody wrote on a cover.
+      if (!this.chosen && !this.views.hidden) this.#show(!this.books.count && this.texts.count ? this.texts : this.books);
+      else this.#tell();
     } catch {
-      if (this.finding === finding) this.status.textContent = TEXTS.failed;
+      if (this.shown === found) this.status.textContent = TEXTS.failed;
     }
+  }
+
+  /** @param {BooksFound | TextsFound} found */
+  #show(found) {
+    this.shown = found;
+    const isText = found === this.texts;
+    for (const button of this.views.querySelectorAll('button')) button.ariaPressed = String((button.value === 'texts') === isText);
+    this.books.list.hidden = isText;
+    this.texts.list.hidden = !isText;
+    this.filters.hidden = isText || !this.#hasFilters;
+    this.#tell();
   }
 
   /** Puts the search into the address, so that it can be sent and found again. From disk some browsers refuse that. */
   #remember() {
     const typed = NAMES.map((name) => [name, this.#field(name)?.value.trim() ?? '']).filter(([, value]) => value);
+    const filters = typed.filter(([name]) => name !== 'q').length;
+    if (this.chosen && this.shown === this.texts) typed.push(['in', 'texts']);
     const query = new URLSearchParams(typed).toString();
     try {
       history.replaceState(null, '', query ? '?' + query : location.pathname);
     } catch {
       // The address stays as it is.
     }
-    const filters = typed.filter(([name]) => name !== 'q').length;
     part(this.filters, '.used').textContent = filters ? ` (${filters})` : '';
   }
 
   async #showMore() {
-    const { finding } = this;
-    if (!finding || this.more.ariaBusy === 'true') return;
+    if (this.more.ariaBusy === 'true') return;
     this.more.ariaBusy = 'true';
-    const found = await finding.next(AT_A_TIME).catch(() => null);
+    const { shown } = this;
+    await this.#run(shown, () => shown.more());
     this.more.ariaBusy = 'false';
-    if (this.finding !== finding) return;
-    if (!found) this.status.textContent = TEXTS.failed;
-    else {
-      const cards = found.map(card);
-      this.list.append(...cards);
-      this.#tell();
-      cards[0]?.querySelector('a')?.focus();
-    }
   }
 
   #tell() {
-    const finding = /** @type {Finding} */ (this.finding);
-    const { count, done, dropped, empty, short } = finding;
-    this.more.hidden = done;
-    const text = empty ? TEXTS.start : count === 0 ? (short ? TEXTS.short : TEXTS.none) : count === 1 ? TEXTS.one
-      : dropped > 0 && !done ? TEXTS.about : TEXTS.many;
-    this.status.textContent = text.replace('{0}', this.numbers.format(count));
+    this.more.hidden = this.shown.done;
+    this.status.textContent = this.shown.status.replace('{0}', this.numbers.format(this.shown.count));
+    for (const button of this.views.querySelectorAll('button')) {
+      const found = button.value === 'texts' ? this.texts : this.books;
+      part(button, '.count').textContent = this.#field('q')?.value.trim() ? this.numbers.format(found.count) : '';
+    }
   }
-}
-
-/** Kinds of drawn covers in the style sheet. */
-const DRAWN_COVERS = 6;
-
-/**
- * A book as an item of the list, as the program writes it (src/library/catalogue/SitePage.cpp).
- * @param {import('./record.js').Record} record
- */
-function card(record) {
-  const name = make('span', 'name', record.title);
-  name.dir = 'auto';
-  if (/^[a-z]{2,3}(?:-[a-z0-9]{1,8})*$/i.test(record.language)) name.lang = record.language;
-  const link = make('a', '', coverOf(record), name);
-  link.setAttribute('href', `books/${record.key}.html`);
-  const item = make('li', '', link);
-  if (record.authors) {
-    const by = make('span', 'by', record.authors.split('; ').join(', '));
-    by.dir = 'auto';
-    item.append(by);
-  }
-  if (record.year) item.append(make('span', 'year', String(record.year)));
-  return item;
-}
-
-/** @param {import('./record.js').Record} record */
-function coverOf({ id, title, cover }) {
-  if (cover) {
-    const picture = document.createElement('img');
-    Object.assign(picture, { alt: '', loading: 'lazy',
-      src: `../books/${id}/` + cover.split('/').map(encodeURIComponent).join('/') });
-    return make('span', 'cover', picture);
-  }
-  const text = make('span', '', title);
-  text.dir = 'auto';
-  const kind = [...id].reduce((sum, letter) => (Math.imul(sum, 31) + letter.charCodeAt(0)) >>> 0, 0) % DRAWN_COVERS;
-  const drawn = make('span', `drawn drawn-${kind}`, text);
-  drawn.setAttribute('aria-hidden', 'true');
-  return make('span', 'cover', drawn);
 }
 
 new SearchPage().start();

@@ -169,8 +169,14 @@ ServerRequest asServerRequest(const Request& request) {
     return wanted;
 }
 
-void answerRequest(const QString& folder, const AnswerRequest& answers, const Request& request,
-                   Response& response) {
+// What a server serves; see the constructor of BookServer.
+struct Served {
+    QString folder;
+    AnswerRequest answers;
+    QByteArray search;
+};
+
+void answerRequest(const Served& served, const Request& request, Response& response) {
     // A republished book shows at once.
     response.set_header("Cache-Control", "no-cache");
     response.set_header("X-Content-Type-Options", "nosniff");
@@ -183,13 +189,17 @@ void answerRequest(const QString& folder, const AnswerRequest& answers, const Re
         response.set_header("Allow", "GET, HEAD");
         return answer(response, 405, "Method not allowed\n");
     }
-    if (const auto other = answers ? answers(asServerRequest(request)) : std::nullopt) {
+    if (const auto other =
+            served.answers ? served.answers(asServerRequest(request)) : std::nullopt) {
         if (!other->contentPolicy.isEmpty())
             response.set_header("Content-Security-Policy", other->contentPolicy.toStdString());
         return answer(response, other->status, other->contentType, other->content);
     }
-    if (auto file = BookFile::open(folder, QByteArray::fromStdString(request.target)))
+    if (auto file = BookFile::open(served.folder, QByteArray::fromStdString(request.target))) {
+        if (!served.search.isEmpty())
+            response.set_header("Link", '<' + served.search.toStdString() + ">; rel=\"search\"");
         return answerWithFile(request, response, std::move(*file));
+    }
     answer(response, 404, "Not found\n");
 }
 
@@ -266,7 +276,7 @@ class Server : public httplib::Server {
 
 class BookServer::Implementation {
 public:
-    Implementation(const QString& folder, const AnswerRequest& answers) {
+    explicit Implementation(const Served& served) {
         iServer.new_task_queue = [] { return new httplib::ThreadPool(threads); };
         iServer.set_tcp_nodelay(true);
         // Unlike cpp-httplib's default, does not share the port with another server.
@@ -276,7 +286,7 @@ public:
             iSocket = socket;
         });
         iServer.set_pre_routing_handler([=](const Request& request, Response& response) {
-            answerRequest(folder, answers, request, response);
+            answerRequest(served, request, response);
             return httplib::Server::HandlerResponse::Handled;
         });
         // cpp-httplib refuses ranges that it does not understand, which are to be ignored.
@@ -286,7 +296,7 @@ public:
                 return httplib::Server::HandlerResponse::Unhandled;
             Request whole = request;
             whole.ranges.clear();
-            answerRequest(folder, answers, whole, response);
+            answerRequest(served, whole, response);
             return httplib::Server::HandlerResponse::Handled;
         };
         iServer.set_error_handler(withoutRange);
@@ -300,8 +310,9 @@ public:
     std::future<bool> iListening; // its destructor waits for the server's threads
 };
 
-BookServer::BookServer(const QString& folder, const AnswerRequest& answers)
-    : iImplementation(std::make_unique<Implementation>(folder, answers)) {}
+BookServer::BookServer(const QString& folder, const AnswerRequest& answers,
+                       const QByteArray& search)
+    : iImplementation(std::make_unique<Implementation>(Served{folder, answers, search})) {}
 
 BookServer::~BookServer() {
     stop();

@@ -10,8 +10,10 @@
 // address only and never writes.
 class BookServer {
 public:
-    // What answers has none for is looked for in the folder.
-    explicit BookServer(const QString& folder, const AnswerRequest& answers = {});
+    // What answers has none for is looked for in the folder. Files name the address of a search, if
+    // there is one, in a header for their scripts.
+    explicit BookServer(const QString& folder, const AnswerRequest& answers = {},
+                        const QByteArray& search = {});
     // Waits for running responses.
     ~BookServer();
     BookServer(const BookServer&) = delete;

@@ -1,5 +1,6 @@
 #include "server/ContentSearch.h"
 
+#include "output/BookLayout.h"
 #include "system/Files.h"
 
 #include <QFileInfo>
@@ -15,12 +16,17 @@ constexpr int mostAnswers = 1000;
 constexpr qsizetype contextLetters = 40;
 constexpr qint64 largestManifest = qint64(64) << 20;
 
-QJsonArray canvasesOf(const QString& bookFolder) {
-    const QString file = Files::join(bookFolder, QStringLiteral("manifest.json"));
+QJsonObject manifestIn(const QString& bookFolder) {
+    const QString file = Files::join(bookFolder, BookLayout::iiifManifest);
     const QFileInfo info(file);
     if (!info.isFile() || info.size() > largestManifest)
         return {};
-    return QJsonDocument::fromJson(Files::contents(file))[QStringLiteral("items")].toArray();
+    return QJsonDocument::fromJson(Files::contents(file)).object();
+}
+
+QString addressOf(const QString& book, const ServerRequest& request) {
+    return QStringLiteral("http://%1/%2")
+        .arg(QString::fromLatin1(request.host), LibraryLayout::bookPath(book));
 }
 
 QJsonObject annotation(const QString& id, const char* motivation, const QJsonValue& target) {
@@ -50,15 +56,30 @@ ContentSearch::ContentSearch(const LibraryLayout& library, const QString& book,
                              const ServerRequest& request)
     : iBook(book),
       iTexts(library.book(book)),
-      iCanvases(canvasesOf(library.book(book))),
-      iAddress(QStringLiteral("http://%1/%2")
-                   .arg(QString::fromLatin1(request.host), LibraryLayout::bookPath(book))),
+      iCanvases(manifestIn(library.book(book))[QStringLiteral("items")].toArray()),
+      iAddress(addressOf(book, request)),
       iTyped(QString::fromUtf8(request.parameters.value("q"))),
       iPage(std::clamp(request.parameters.value("page").toInt(), 1, mostAnswers)) {
     for (const char* other : {"motivation", "date", "user"}) {
         if (request.parameters.contains(other))
             iIgnored.append(QLatin1String(other));
     }
+}
+
+// Not in the file: on another server there is no search.
+std::optional<QJsonObject> ContentSearch::manifest(const LibraryLayout& library,
+                                                   const QString& book,
+                                                   const ServerRequest& request) {
+    QJsonObject manifest = manifestIn(library.book(book));
+    if (manifest.isEmpty())
+        return {};
+    const QString service = QStringLiteral("service");
+    QJsonArray services = manifest[service].toArray();
+    services.append(
+        QJsonObject{{QStringLiteral("id"), addressOf(book, request) + QStringLiteral("/search")},
+                    {QStringLiteral("type"), QStringLiteral("SearchService2")}});
+    manifest[service] = services;
+    return manifest;
 }
 
 LibrarySearch::Options ContentSearch::options() const {

@@ -6,12 +6,17 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <optional>
 
 // Answers for one book of a library in the form of IIIF Content Search 2: a page of annotations
 // with the places of what was found on the book's canvases.
 class ContentSearch {
 public:
     ContentSearch(const LibraryLayout& library, const QString& book, const ServerRequest& request);
+
+    // The book's manifest with this search announced in it; none when the book has no manifest.
+    static std::optional<QJsonObject> manifest(const LibraryLayout& library, const QString& book,
+                                               const ServerRequest& request);
 
     // What to search for it.
     LibrarySearch::Options options() const;

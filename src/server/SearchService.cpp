@@ -19,7 +19,7 @@ constexpr Log logger("SearchService");
 constexpr int mostPages = 50;
 constexpr int hitsOfPage = 20;
 
-const QByteArray searchPath = "/search";
+const QByteArray manifestPath = "/" + BookLayout::iiifManifest.toUtf8();
 
 QString parameter(const ServerRequest& request, const char* name) {
     return QString::fromUtf8(request.parameters.value(name));
@@ -34,6 +34,23 @@ ServerAnswer missingIndex() {
     return problem(404, "the library has no index yet: folvero library index makes it");
 }
 
+ServerAnswer linkedData(const QJsonObject& object) {
+    return {200,
+            "application/ld+json; charset=utf-8",
+            QJsonDocument(object).toJson(QJsonDocument::Compact),
+            {}};
+}
+
+// The ID in "/books/ID/NAME", null in other paths.
+QString bookAt(const QByteArray& path, const QByteArray& name) {
+    const QByteArray start = '/' + LibraryLayout::books.toLatin1() + '/';
+    if (!path.startsWith(start) || !path.endsWith(name) ||
+        path.size() <= start.size() + name.size())
+        return {};
+    const QString id = QString::fromUtf8(path.mid(start.size()).chopped(name.size()));
+    return BookID::problemWith(id).isNull() ? id : QString();
+}
+
 // A browser that follows a link; scripts ask for anything or for JSON.
 bool wantsPage(const ServerRequest& request) {
     return request.accept.contains("text/html") && !request.accept.contains("application/json");
@@ -44,10 +61,12 @@ bool wantsPage(const ServerRequest& request) {
 std::optional<ServerAnswer> SearchService::answer(const ServerRequest& request) {
     try {
         const bool isPage = request.path == '/' + page.toLatin1();
-        if (isPage || request.path == searchPath)
+        if (isPage || request.path == path)
             return answerWithHits(request, isPage || wantsPage(request));
-        if (request.path.endsWith(searchPath))
-            return answerForBook(request);
+        if (const QString book = bookAt(request.path, path); !book.isNull())
+            return answerForBook(book, request);
+        if (const QString book = bookAt(request.path, manifestPath); !book.isNull())
+            return answerWithManifest(book, request);
     } catch (const PlatformException& failure) {
         logger.warn(failure.reason());
         return problem(500, "the index can't be read");
@@ -92,21 +111,21 @@ ServerAnswer SearchService::answerWithHits(const ServerRequest& request, bool as
             {}};
 }
 
-std::optional<ServerAnswer> SearchService::answerForBook(const ServerRequest& request) {
-    const QByteArray start = '/' + LibraryLayout::books.toLatin1() + '/';
-    if (!request.path.startsWith(start))
-        return {};
-    const QByteArray name = request.path.mid(start.size()).chopped(searchPath.size());
-    const QString id = QString::fromUtf8(name);
-    if (!BookID::problemWith(id).isNull())
-        return {};
+std::optional<ServerAnswer> SearchService::answerForBook(const QString& id,
+                                                         const ServerRequest& request) {
     const SearchQuery query(parameter(request, "q"));
     ContentSearch search(iLibrary, id, request);
     const auto found = iPool.find(query, search.options());
     if (!found)
         return missingIndex();
-    return ServerAnswer{200,
-                        "application/ld+json; charset=utf-8",
-                        QJsonDocument(search.page(query, *found)).toJson(QJsonDocument::Compact),
-                        {}};
+    return linkedData(search.page(query, *found));
+}
+
+std::optional<ServerAnswer> SearchService::answerWithManifest(const QString& id,
+                                                              const ServerRequest& request) {
+    if (!iPool.hasIndex())
+        return {};
+    if (const auto manifest = ContentSearch::manifest(iLibrary, id, request))
+        return linkedData(*manifest);
+    return {};
 }

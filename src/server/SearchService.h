@@ -10,8 +10,9 @@
 // as IIIF Content Search. docs/search.md describes them.
 class SearchService {
 public:
-    // The path of the page.
+    // The paths of the page, and of what it shows as JSON.
     static inline const QString page = QStringLiteral("search.html");
+    static inline const QByteArray path = "/search";
 
     explicit SearchService(const LibraryLayout& library) : iLibrary(library), iPool(library) {}
 
@@ -20,7 +21,8 @@ public:
 
 private:
     ServerAnswer answerWithHits(const ServerRequest& request, bool asPage);
-    std::optional<ServerAnswer> answerForBook(const ServerRequest& request);
+    std::optional<ServerAnswer> answerForBook(const QString& id, const ServerRequest& request);
+    std::optional<ServerAnswer> answerWithManifest(const QString& id, const ServerRequest& request);
 
     LibraryLayout iLibrary;
     SearchPool iPool;

@@ -105,8 +105,8 @@ void serveLibrary(const QString& folder, std::optional<int> port) {
         throw CommandError(QStringLiteral("%1: no library in it (there is no %2)")
                                .arg(folder, LibraryLayout::state));
     SearchService search(library);
-    BookServer server(library.folder(),
-                      [&search](const ServerRequest& request) { return search.answer(request); });
+    const auto answers = [&search](const ServerRequest& request) { return search.answer(request); };
+    BookServer server(library.folder(), answers, SearchService::path);
     // Without a catalogue, the books are found by their texts only.
     const bool hasCatalogue = QFileInfo::exists(library.at(BookLayout::defaultPage));
     serve(server, port, hasCatalogue ? QString() : SearchService::page);

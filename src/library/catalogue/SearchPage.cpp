@@ -35,6 +35,16 @@ QByteArray filters(const CatalogueSite& site) {
            "</button>\n</details>\n</form>\n";
 }
 
+// Hidden until a server is known to search the texts of the books.
+QByteArray views(const CatalogueSite& site) {
+    const auto button = [&](const QByteArray& value, const char* text, const QByteArray& pressed) {
+        return "<button type=\"button\" value=\"" + value + "\" aria-pressed=\"" + pressed + "\">" +
+               site.texts.html(text) + " <span class=\"count\"></span></button>\n";
+    };
+    return "<div class=\"views\" role=\"group\" hidden>\n" + button("books", "inBooks", "true") +
+           button("texts", "inTexts", "false") + "</div>\n";
+}
+
 } // namespace
 
 void SearchPage::write(const CatalogueSite& site) {
@@ -47,9 +57,10 @@ void SearchPage::write(const CatalogueSite& site) {
     page.main = "<div class=\"heading\"><h1>" + page.title + "</h1></div>\n" +
                 page.searchForm("large") + "<noscript><p class=\"note\">" +
                 site.texts.html("noScript") + "</p></noscript>\n<div class=\"finding\">\n" +
-                filters(site) +
-                "<div class=\"found\">\n<p class=\"status\" role=\"status\"></p>\n"
-                "<ul class=\"books\"></ul>\n<button type=\"button\" class=\"next\" hidden>" +
+                filters(site) + "<div class=\"found\">\n" + views(site) +
+                "<p class=\"status\" role=\"status\"></p>\n"
+                "<ul class=\"books\"></ul>\n<ol class=\"hits\" hidden></ol>\n<button "
+                "type=\"button\" class=\"next\" hidden>" +
                 site.texts.html("showMore") + "</button>\n</div>\n</div>\n";
     page.write();
 }

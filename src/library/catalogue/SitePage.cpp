@@ -13,7 +13,8 @@ namespace {
 
 constexpr char policy[] =
     "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src 'self' "
-    "file: data:; style-src 'self' file:; script-src 'self' file:; form-action 'self' file:; "
+    "file: data:; style-src 'self' file:; script-src 'self' file:; connect-src 'self'; form-action "
+    "'self' file:; "
     "base-uri 'none'\">\n";
 
 constexpr int drawnCovers = 6; // kinds, in the style sheet
