@@ -42,6 +42,12 @@ private:
     std::array<QByteArray, 9> iAnswers;
 };
 
+// Qt's JSON does not keep what is no character, such as U+FFFE.
+QStringList asInJson(const QStringList& texts) {
+    const QByteArray json = QJsonDocument(QJsonArray::fromStringList(texts)).toJson();
+    return QVariant(QJsonDocument::fromJson(json).array().toVariantList()).toStringList();
+}
+
 void checkStartList(const std::shared_ptr<PDFDocument>& document) {
     WebBook book;
     book.content.document = document;
@@ -59,7 +65,8 @@ void checkStartList(const std::shared_ptr<PDFDocument>& document) {
         if (run.isString())
             labels << run.toString();
     }
-    Fuzz::require(labels == book.metadata.labels, "runs of labels are those of the pages");
+    Fuzz::require(labels == asInJson(book.metadata.labels),
+                  "runs of labels are those of the pages");
 }
 
 void checkText(const PDFDocument& document, const std::vector<PDFTextLine>& lines) {

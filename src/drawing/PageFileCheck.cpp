@@ -24,7 +24,6 @@ constexpr std::array elements{Text("use"),  Text("path"),  Text("g"),    Text("c
 
 constexpr std::array attributes{Text("x"),
                                 Text("y"),
-                                Text("d"),
                                 Text("id"),
                                 Text("fill"),
                                 Text("transform"),
@@ -49,19 +48,20 @@ constexpr std::array attributes{Text("x"),
 // Whether a text may have a character.
 using Alphabet = std::array<bool, 256>;
 
-constexpr Alphabet lettersAnd(Text others) {
-    Alphabet alphabet{};
-    for (const Text characters :
-         {Text("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"), others}) {
-        for (const char c : characters)
-            alphabet[static_cast<unsigned char>(c)] = true;
-    }
+constexpr Alphabet only(Text characters, Alphabet alphabet = {}) {
+    for (const char c : characters)
+        alphabet[static_cast<unsigned char>(c)] = true;
     return alphabet;
+}
+
+constexpr Alphabet lettersAnd(Text others) {
+    return only(others, only("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"));
 }
 
 // Numbers, names and lists of them. Without a colon, a slash or a backslash they make no address.
 constexpr Alphabet plainCharacters = lettersAnd(" #%()+,-.");
 constexpr Alphabet base64 = lettersAnd("+/=");
+constexpr Alphabet pathData = only("MmLlHhVvCcSsQqTtAaZz0123456789.,-+eE ");
 
 // Of the characters at the start of a text that are in the alphabet.
 std::size_t lengthIn(const Alphabet& alphabet, Text text) {
@@ -95,8 +95,10 @@ bool isAllowed(Text element, Text name, Text value) {
         return element == "use" && value.starts_with('#');
     if (name == "clip-path")
         return value.starts_with("url(#");
+    if (name == "d")
+        return lengthIn(pathData, value) == value.size();
     return std::find(attributes.begin(), attributes.end(), name) != attributes.end() &&
-           (name == "d" || value.find("url") == Text::npos);
+           value.find("url") == Text::npos;
 }
 
 // Reads the SVG of what VectorEncoder writes, tag by tag.

@@ -34,6 +34,7 @@ TEST(PageFileCheck, AllowsOnlyDrawingsInVectors) {
                              "<image href=\"//example.invalid/x\"/>",
                              "<image href=\"http://www.w3.org/2000/svg\"/>",
                              "<g xmlns=\"data:image/png;base64,A\"/>",
+                             "<path d=\"M1 2url(3\"/>",
                              "<g clip-path=\"url(x#a)\"/>",
                              "<a/>",
                              "&#60;",
