@@ -25,3 +25,4 @@ cmake --build "$build" --target folvero-bench-text >/dev/null
 "$build/bin/folvero-bench-text" "$build/samples/thousand.pdf" "$build/samples/novel.pdf"
 bench/search.mjs "$templates/Templates/float"
 bench/first-view.mjs "$build"
+bench/catalogue.py
