@@ -28,7 +28,6 @@
 #include <vector>
 
 using CommandArguments::addPath;
-using CommandArguments::addText;
 
 namespace {
 
