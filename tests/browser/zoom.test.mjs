@@ -65,6 +65,22 @@ test('two fingers enlarge about the place between them, and let go without turni
   assert.deepEqual(book.errors, []);
 });
 
+test('pinches at the pace of hands enlarge at every density, by fingers and on a trackpad', async () => {
+  for (const deviceScaleFactor of [1, 2, 3]) {
+    const book = await open({ view: { ...PHONE, deviceScaleFactor }, hash: '#page=2' });
+    const session = await book.page.context().newCDPSession(book.page);
+    for (const gestureSourceType of ['touch', 'mouse', 'touch']) {
+      // Steps of 1 to 2%. Chromium divides those of a trackpad by the density.
+      await session.send('Input.synthesizePinchGesture', {
+        x: 195, y: 400, scaleFactor: 1.3, relativeSpeed: 200, gestureSourceType });
+      const { width } = await atRest(book);
+      assert.ok(width > book.whole.width * 1.05, `${gestureSourceType} at ${deviceScaleFactor}: ${width}`);
+      await book.page.keyboard.press('0');
+      assert.deepEqual(await atRest(book), book.whole);
+    }
+  }
+});
+
 test('an enlarged page shows all detail of its picture, when the window has changed too', async () => {
   const bytes = png(1200, 1600, (x) => (x % 2 ? [0, 0, 0] : [255, 255, 255]));
   const view = { viewport: { width: 500, height: 700 }, deviceScaleFactor: 2 };
