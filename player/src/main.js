@@ -10,6 +10,7 @@ import { Gestures } from './controls/gestures.js';
 import { wireKeys } from './controls/keys.js';
 import { Memory } from './controls/memory.js';
 import { Place, pageInAddress, searchInAddress } from './controls/place.js';
+import { Reading } from './controls/reading.js';
 import { Slideshow } from './controls/slideshow.js';
 import { Sounds } from './controls/sound.js';
 import { Toolbar } from './controls/toolbar.js';
@@ -89,7 +90,7 @@ function addControls(root, turner, sounds) {
   /** @type {import('./controls/toolbar.js').Commands} */
   const commands = {
     thumbs: () => drawer.toggle(),
-    zoomIn: () => zoom.in(),
+    zoomIn: () => reading.enlarge(),
     zoomOut: () => zoom.out(),
     play: () => slideshow.run(!slideshow.running),
     sound: () => {
@@ -111,16 +112,17 @@ function addControls(root, turner, sounds) {
   wireKeys(root, commands);
   const stage = part(root, '.stage');
   const zoom = new Zoom(book, turner);
-  const gestures = new Gestures(book, turner, stage, zoom, () => {
+  const reading = new Reading(zoom, stage);
+  const gestures = new Gestures(book, turner, stage, reading, () => {
     if (drawer.open) drawer.hide();
     else toolbar.toggle();
   });
-  new ZoomGestures(zoom, stage, () => gestures.drop());
+  new ZoomGestures(reading, stage, () => gestures.drop());
   zoom.onChange = () => toolbar.enable('zoomOut', zoom.active);
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
-  return { toolbar, commands, slideshow, drawer, sheets, zoom, gestures, toast };
+  return { toolbar, commands, slideshow, drawer, sheets, zoom, reading, gestures, toast };
 }
 
 /** @param {HTMLElement} root */

@@ -6,6 +6,7 @@ import type { BookConfig } from './book/config.js';
 import type { learn, Word } from './book/words.js';
 import type { Turner } from './turning/turner.js';
 import type { Gestures } from './controls/gestures.js';
+import type { Reading } from './controls/reading.js';
 import type { Slideshow } from './controls/slideshow.js';
 import type { Commands, Toolbar } from './controls/toolbar.js';
 import type { Zoom } from './controls/zoom.js';
@@ -35,6 +36,7 @@ export interface Controls {
   drawer: Drawer;
   sheets: Sheets;
   zoom: Zoom;
+  reading: Reading;
   gestures: Gestures;
   toast: Toast;
 }

@@ -11,7 +11,6 @@ import { PageTexts } from './pagetexts.js';
 import { Searching } from './searching.js';
 import { Selecting } from './selecting.js';
 import { sharedFiles } from './sharedfiles.js';
-import { Sharper } from './sharper.js';
 import { SideRoom } from './side.js';
 import { SingleFile } from './singlefile.js';
 import { StartList } from './startlist.js';
@@ -119,7 +118,7 @@ function addToBook(player, facts) {
   const links = new Links(player, layers);
   const selecting = new Selecting(player, layers);
   gestures.answersTap = (event) => selecting.answers || links.followAt(event);
-  new Sharper(player, layers, files);
+  addEnlarging(player, layers);
   const room = new SideRoom(player);
   // Where the bar is narrow, the search is worth more than the page count.
   part(toolbar.bar, '.of').dataset.fold = '7.2';
@@ -147,6 +146,25 @@ function addToBook(player, facts) {
   layers.update();
   // An open panel would stop a book that plays by itself.
   if (room.isWide && !player.config.autoPlay) openPanel(facts.panel, commands);
+}
+
+/**
+ * Loads what only enlarged pages need, a script of its own, when the reader first enlarges them.
+ * @param {import('../src/player.js').Player} player
+ * @param {Layers} layers
+ */
+function addEnlarging(player, layers) {
+  const { zoom } = player;
+  const { onChange } = zoom;
+  /** @type {Promise<void> | null} */
+  let asked = null;
+  zoom.onChange = () => {
+    onChange();
+    if (!zoom.active) return;
+    asked ??= files.run('vectors').then((begin) => {
+      /** @type {typeof import('./vectorspart.js').beginEnlarged} */ (begin)(player, layers, files);
+    }).catch(() => { asked = null; });
+  };
 }
 
 /**

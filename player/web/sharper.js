@@ -1,5 +1,6 @@
 import { part } from '../src/book/dom.js';
 import { fileAddress } from '../src/book/values.js';
+import { svgOf } from './vectors.js';
 
 /** @typedef {import('./layers.js').Layers} Layers */
 /** @typedef {'left' | 'right'} Side */
@@ -37,6 +38,7 @@ export class Sharper {
       if (this.zoom.active) this.#soon();
     };
     layers.followers.push(() => this.#soon());
+    this.#soon();
   }
 
   #soon() {
@@ -116,8 +118,7 @@ export class Sharper {
    * @param {string} name of the data from which it is made
    */
   async #vectors(name) {
-    const [svgOf, data] = await Promise.all([this.files.run('vectors'), this.files.load(name)]);
-    const svg = await /** @type {typeof import('./vectors.js').svgOf} */ (svgOf)(data);
+    const svg = await svgOf(await this.files.load(name));
     return URL.createObjectURL(new Blob([svg], { type: 'image/svg+xml' }));
   }
 

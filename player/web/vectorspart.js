@@ -1,5 +1,31 @@
 // Entry point of files/vectors.js, which only readers who enlarge pages need.
 
-import { svgOf } from './vectors.js';
+import { columnsOf } from './columns.js';
+import { Sharper } from './sharper.js';
 
-window.folveroData?.('vectors', svgOf);
+/**
+ * Called when pages are first enlarged.
+ * @param {import('../src/player.js').Player} player
+ * @param {import('./layers.js').Layers} layers
+ * @param {import('./data.js').DataFiles} files
+ */
+export function beginEnlarged(player, layers, files) {
+  const { reading, zoom, turner } = player;
+  new Sharper(player, layers, files);
+  reading.columnsOf = (page) => columnsOf(layers.faces.find(({ position }) => position === page));
+  // Pages begin before their text is there: at the top of the page, not of its first column.
+  const { onJumped } = turner;
+  /** @type {{ goal: unknown, way: number }} */
+  let begun = { goal: null, way: 1 };
+  turner.onJumped = () => {
+    onJumped();
+    begun = { goal: zoom.goal, way: reading.way };
+  };
+  layers.fillers.push(() => {
+    if (begun.goal !== zoom.goal) return;
+    reading.begin(begun.way);
+    begun.goal = zoom.goal;
+  });
+}
+
+window.folveroData?.('vectors', beginEnlarged);

@@ -3,6 +3,7 @@ import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { png } from './support/png.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
+import { line } from './support/webbook.mjs';
 
 const reader = Reader.forTests();
 
@@ -79,6 +80,36 @@ test('pinches at the pace of hands enlarge at every density, by fingers and on a
       assert.deepEqual(await atRest(book), book.whole);
     }
   }
+});
+
+test('Space and the wheel lead through the columns of an enlarged page', async () => {
+  const rows = Array.from({ length: 30 }, (_, row) => [600, 3200].map((x) => line([x, 800 + row * 200, 2200, 140], [['word', 0, 2200]])));
+  const text = { size: [6000, 8000], lines: rows.flat(), links: [] };
+  const folder = await reader.webBook({ pages: plainPages(2, 600, 800), description: { pages: [text, text] } });
+  const book = await reader.openFromDisk(folder, { view: { viewport: { width: 420, height: 500 } } });
+  const { keyboard, mouse } = book.page;
+  for (let press = 0; press < 3; press += 1) {
+    await keyboard.press('+');
+    await atRest(book);
+  }
+  // Each column as far as it lies in the window, where a bar over the page counts as nothing.
+  const seen = async () => {
+    await atRest(book);
+    return book.page.evaluate(() => [0, 1].map((column) => [...document.querySelectorAll('.line')]
+      .filter((_, index) => index % 2 === column).map((one) => one.firstChild.getBoundingClientRect())
+      .map(({ left, right, top, bottom }) => left >= 0 && right <= innerWidth && top >= 0 && bottom <= innerHeight)));
+  };
+  const read = [[], []];
+  for (let step = 0; step < 20 && (await book.pages())[0] === 1; step += 1) {
+    (await seen()).forEach((lines, column) => lines.forEach((isSeen, row) => { if (isSeen) read[column][row] = true; }));
+    if (step % 2) await keyboard.press('Space');
+    else {
+      await mouse.move(200, 200);
+      await mouse.wheel(0, 300);
+    }
+    await book.page.waitForTimeout(400);
+  }
+  assert.deepEqual([read.map((lines) => lines.filter(Boolean).length), await book.pages()], [[30, 30], [2]]);
 });
 
 test('an enlarged page shows all detail of its picture, when the window has changed too', async () => {

@@ -1,6 +1,6 @@
 /** @typedef {import('../turning/turner.js').Turner} Turner */
 /** @typedef {import('../book/book.js').Book} Book */
-/** @typedef {import('./zoom.js').Zoom} Zoom */
+/** @typedef {import('./reading.js').Reading} Reading */
 
 const DRAG_START = 7;
 const FLICK_SPEED = 0.35;
@@ -29,14 +29,15 @@ export class Gestures {
    * @param {Book} book
    * @param {Turner} turner
    * @param {HTMLElement} stage
-   * @param {Zoom} zoom
+   * @param {Reading} reading
    * @param {() => void} onTapMiddle
    */
-  constructor(book, turner, stage, zoom, onTapMiddle) {
+  constructor(book, turner, stage, reading, onTapMiddle) {
     this.book = book;
     this.turner = turner;
     this.stage = stage;
-    this.zoom = zoom;
+    this.reading = reading;
+    this.zoom = reading.zoom;
     this.onTapMiddle = onTapMiddle;
     this.lastWheel = -Infinity;
     /** @type {Press | null} */
@@ -322,9 +323,9 @@ export class Gestures {
     const actions = {
       ArrowRight: () => this.turner.step(onward),
       ArrowLeft: () => this.turner.step(-onward),
-      PageDown: () => this.turner.step(1),
-      PageUp: () => this.turner.step(-1),
-      ' ': () => this.turner.step(event.shiftKey ? -1 : 1),
+      PageDown: () => this.reading.step(1),
+      PageUp: () => this.reading.step(-1),
+      ' ': () => this.reading.step(event.shiftKey ? -1 : 1),
       Home: () => this.turner.go(0),
       End: () => this.turner.go(this.book.views.count - 1),
     };

@@ -5,7 +5,7 @@
 
 const MOST_ZOOM = 5;
 const TAP_ZOOM = 2.5;
-const ZOOM_STEP = 1.5;
+export const ZOOM_STEP = 1.5;
 const ZOOM_MS = 240;
 
 /** Lower levels exist only during a gesture: they would change how the book behaves but hardly how it looks. */
@@ -21,7 +21,10 @@ const REST_MS = 200;
 const GLIDE_MS = 300;
 
 /** Margin between the edges of a zoomed page and the window, in CSS pixels. */
-const ZOOM_AIR = 14;
+export const ZOOM_AIR = 14;
+
+/** Readers do not notice if pages move less, in CSS pixels. */
+const LEAST_WAY = 2;
 
 /** Zooms and pans the pages in view. While zoomed in, views change without animation. */
 export class Zoom {
@@ -46,7 +49,6 @@ export class Zoom {
     this.frame = 0;
     turner.atOnce = () => this.active;
     turner.onStood = () => this.#refit();
-    turner.onJumped = () => this.#toReadingStart();
   }
 
   /** 1 while not zoomed in. */
@@ -56,6 +58,32 @@ export class Zoom {
 
   get active() {
     return this.held || this.goal.level > 1;
+  }
+
+  /** Part of the window with whole pages that is seen once the pages have come to rest, in CSS pixels. */
+  get seen() {
+    const { level, x, y } = this.goal;
+    const { root: { clientWidth, clientHeight }, beside } = this.book;
+    return {
+      left: (beside - x) / level, right: (clientWidth - x) / level, top: -y / level, bottom: (clientHeight - y) / level,
+    };
+  }
+
+  /**
+   * Shows a place of the window with whole pages: in the middle across, and at the top, as far as the limits let it.
+   * @param {number} x
+   * @param {number} y
+   * @param {number} [wanted] level
+   * @param {boolean} [atOnce]
+   * @returns {boolean} whether anything moves
+   */
+  lookAt(x, y, wanted = this.level, atOnce = false) {
+    const level = Math.min(MOST_ZOOM, wanted);
+    const { goal } = this;
+    const to = this.#limited({ level, x: this.#windowMiddle().x - level * x, y: -level * y });
+    if (level === goal.level && Math.hypot(to.x - goal.x, to.y - goal.y) < LEAST_WAY) return false;
+    this.#glideTo(to, atOnce);
+    return true;
   }
 
   in() {
@@ -223,12 +251,15 @@ export class Zoom {
     this.#restSoon();
   }
 
-  /** @param {ZoomState} goal */
-  #glideTo(goal) {
+  /**
+   * @param {ZoomState} goal
+   * @param {boolean} [atOnce]
+   */
+  #glideTo(goal, atOnce) {
     this.#stop();
     const from = this.now;
     this.#aim(goal);
-    if (this.turner.calm.matches) {
+    if (atOnce || this.turner.calm.matches) {
       this.#apply(goal);
       return;
     }
@@ -273,14 +304,6 @@ export class Zoom {
       level, x: middle.x - level * (left + this.middle.x * (right - left)),
       y: middle.y - level * (top + this.middle.y * (bottom - top)),
     }));
-    this.goal = this.now;
-  }
-
-  /** Shows the top of a new page, at the side where reading begins. */
-  #toReadingStart() {
-    this.#stop();
-    const far = this.book.config.rightToLeft ? -1e6 : 1e6;
-    this.#apply(this.#limited({ level: this.goal.level, x: far, y: 1e6 }));
     this.goal = this.now;
   }
 

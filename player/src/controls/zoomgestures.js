@@ -1,4 +1,4 @@
-/** @typedef {import('./zoom.js').Zoom} Zoom */
+/** @typedef {import('./reading.js').Reading} Reading */
 /** @typedef {import('../turning/fold.js').Point} Point */
 
 /** Pixels by which an arrow key pans. */
@@ -10,12 +10,13 @@ const LEAST_THROW = 0.08;
 /** Zooms and pans by fingers, wheel and keys. */
 export class ZoomGestures {
   /**
-   * @param {Zoom} zoom
+   * @param {Reading} reading
    * @param {HTMLElement} stage
    * @param {() => void} onPinch called when a second finger comes down
    */
-  constructor(zoom, stage, onPinch) {
-    this.zoom = zoom;
+  constructor(reading, stage, onPinch) {
+    this.reading = reading;
+    this.zoom = reading.zoom;
     this.stage = stage;
     this.onPinch = onPinch;
     /** @type {Map<number, Point>} */
@@ -106,17 +107,19 @@ export class ZoomGestures {
       this.zoom.scaleAt({ x: event.clientX, y: event.clientY }, Math.exp(-way / 100));
     } else if (this.zoom.active) {
       event.preventDefault();
-      this.zoom.panBy(-event.deltaX * unit, -event.deltaY * unit);
+      this.reading.wheel(event.deltaX * unit, event.deltaY * unit, event.timeStamp);
     }
   }
 
   /** @param {KeyboardEvent} event */
   #key(event) {
-    const { zoom } = this;
+    const { zoom, reading } = this;
     if (event.defaultPrevented || event.ctrlKey || event.altKey || event.metaKey) return;
     if (event.target instanceof HTMLInputElement) return;
     /** @type {Record<string, () => void>} */
-    const actions = { '+': () => zoom.in(), '=': () => zoom.in(), '-': () => zoom.out(), '0': () => zoom.reset() };
+    const actions = {
+      '+': () => reading.enlarge(), '=': () => reading.enlarge(), '-': () => zoom.out(), '0': () => zoom.reset(),
+    };
     if (zoom.active) {
       actions.Escape = () => zoom.reset();
       actions.ArrowUp = () => zoom.panBy(0, KEY_PAN);

@@ -3,6 +3,7 @@ import { Happening, Thing, clock, newWindow } from './browser.mjs';
 const { Book } = await import('../../src/book/book.js');
 const { Turner } = await import('../../src/turning/turner.js');
 const { Gestures } = await import('../../src/controls/gestures.js');
+const { Reading } = await import('../../src/controls/reading.js');
 const { Zoom } = await import('../../src/controls/zoom.js');
 const { ZoomGestures } = await import('../../src/controls/zoomgestures.js');
 
@@ -25,8 +26,9 @@ export class Table {
     this.stage = new Thing();
     this.zoom = new Zoom(this.book, this.turner);
     this.middleTaps = 0;
-    this.gestures = new Gestures(this.book, this.turner, this.stage, this.zoom, () => { this.middleTaps += 1; });
-    new ZoomGestures(this.zoom, this.stage, () => this.gestures.drop());
+    this.reading = new Reading(this.zoom, this.stage);
+    this.gestures = new Gestures(this.book, this.turner, this.stage, this.reading, () => { this.middleTaps += 1; });
+    new ZoomGestures(this.reading, this.stage, () => this.gestures.drop());
   }
 
   get pagesNow() {

@@ -1,0 +1,122 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { clock } from '../support/browser.mjs';
+import { PHONE, Table } from '../support/table.mjs';
+
+const HALVES = [0, 0.5].map((left) => ({ left, top: 0, right: left + 0.5, bottom: 1 }));
+
+/** Enlarges by +, with the mouse at a place where one is given. */
+function enlarged({ at, presses = 1, columns, ...settings } = {}) {
+  const table = new Table({ count: 8, ...settings });
+  if (columns) table.reading.columnsOf = () => columns;
+  if (at) table.pointer('move', ...at);
+  for (let press = 0; press < presses; press += 1) {
+    table.key('+');
+    clock.run(1000);
+  }
+  return table;
+}
+
+/** Areas of the pages in view that were seen, step by step, until others came into view or 30 steps were too few. */
+function readThrough(table, step) {
+  const pages = String(table.pagesNow);
+  const areas = [];
+  for (let count = 0; count < 30 && String(table.pagesNow) === pages; count += 1) {
+    areas.push(table.zoom.seen);
+    step();
+    clock.run(1000);
+  }
+  return areas;
+}
+
+/** Asserts that everything between the edges was seen, in order: each line of a column before the next column. */
+function allSeen(table, columns, areas, what) {
+  let from = 0;
+  for (const { left, right, top, bottom } of columns) {
+    for (let share = 0.01; share < 1; share += 0.02) {
+      const y = top + share * (bottom - top);
+      const at = areas.findIndex((area, index) => index >= from && area.top <= y && area.bottom >= y
+        && area.left <= left + 1 && area.right >= right - 1);
+      assert.ok(at >= 0, `${what}: ${left} to ${right} at ${Math.round(y)}`);
+      from = at;
+    }
+  }
+}
+
+/** What is seen, and whether it is read by columns of half a page. */
+const ways = [[{}], [{ presses: 2, columns: HALVES }, true], [{ rightToLeft: true }], [PHONE, false],
+  [{ ...PHONE, presses: 2, columns: HALVES }, true]];
+test('enlarged pages are read on and back to their ends, column by column, before others come', () => {
+  for (const [settings, byColumns] of ways) {
+    const table = enlarged(settings);
+    const { left, right, top, bottom } = table.book.boxOf(table.turner.current);
+    const width = table.book.layout.pageWidth / (byColumns ? 2 : 1);
+    const seenWidth = table.zoom.seen.right - table.zoom.seen.left;
+    const columns = [];
+    for (let at = left; at < right - 1; at += width) {
+      columns.push({ left: at, right: at + Math.min(width, seenWidth - 30), top, bottom });
+    }
+    if (settings.rightToLeft) columns.reverse();
+    const what = JSON.stringify(settings);
+    const { pagesNow: before } = table;
+    allSeen(table, columns, readThrough(table, () => table.key(' ')), what);
+    assert.equal(table.pagesNow[0], before.at(-1) + 1, what);
+    assert.ok(table.zoom.seen.top <= top + 1, `${what}: at the top`);
+    table.key('PageUp');
+    clock.run(1000);
+    assert.deepEqual(table.pagesNow, before, what);
+    const areas = readThrough(table, () => table.key(' ', { shiftKey: true }));
+    allSeen(table, columns, areas.reverse(), `${what}, back`);
+  }
+});
+
+test('what is enlarged is the page under the mouse, or else the first, and never the gutter', () => {
+  for (const [at, page, y] of [[[900, 300], 'right', 300], [[300, 500], 'left', 500], [[5, 5], 'left'], [null, 'left']]) {
+    const table = enlarged({ at });
+    const { left, right, top } = table.book.boxOf(table.turner.current);
+    const middle = (left + right) / 2;
+    const [from, to] = page === 'left' ? [left, middle] : [middle, right];
+    assert.ok(table.seen(from, 0)[0] >= 0 && table.seen(to, 0)[0] <= 1280, `${at}`);
+    assert.ok(Math.abs(table.seen(0, y ?? top)[1] - (y ?? 14)) < 30, `${at}: ${table.seen(0, y ?? top)[1]}`);
+  }
+  const table = new Table();
+  table.pointer('move', 900, 300);
+  clock.run(500);
+  table.pointer('move', 905, 300);
+  table.pointer('leave', 640, 780);
+  table.reading.enlarge();
+  clock.run(1000);
+  assert.ok(table.seen(table.book.boxOf(table.turner.current).right, 0)[0] < 1280, 'where the mouse rested before it went to the bar');
+});
+
+/** Whether the edge of the pages is in view. */
+function ends(table, way) {
+  const { top, bottom } = table.book.boxOf(table.turner.current);
+  return way > 0 ? table.zoom.seen.bottom >= bottom : table.zoom.seen.top <= top;
+}
+
+test('the wheel stops at the end of a page, goes on after a pause, and once a push', () => {
+  const table = enlarged();
+  const push = (deltaY, times = 12, pause = 500) => {
+    clock.run(pause);
+    for (let time = 0; time < times; time += 1) {
+      table.wheel({ deltaY });
+      clock.run(20);
+    }
+    clock.run(1000);
+  };
+  const { left, top } = table.book.boxOf(table.turner.current);
+  const firstSeen = () => table.seen(left, top);
+  push(100);
+  assert.ok(ends(table, 1) && firstSeen()[0] > 0, 'at the end of the first page');
+  push(3, 2);
+  assert.ok(ends(table, 1), 'hardly touched');
+  push(60);
+  assert.ok(firstSeen()[0] < 0 && firstSeen()[1] >= 0, 'at the top of the second');
+  push(100);
+  push(100, 12, 0);
+  assert.deepEqual(table.pagesNow, [6, 7]);
+  assert.ok(ends(table, -1), 'the rest of the push moves nothing');
+  push(-100);
+  assert.deepEqual([...table.pagesNow, ends(table, 1)], [4, 5, true], 'back to their end');
+});
