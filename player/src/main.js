@@ -16,6 +16,7 @@ import { Sounds } from './controls/sound.js';
 import { Toolbar } from './controls/toolbar.js';
 import { Zoom } from './controls/zoom.js';
 import { ZoomGestures } from './controls/zoomgestures.js';
+import { closeByBack } from './panels/covers.js';
 import { Drawer } from './panels/drawer.js';
 import { Helping } from './panels/helping.js';
 import { Menu } from './panels/menu.js';
@@ -149,6 +150,9 @@ async function openBook(root) {
   const left = pageInAddress() ? 0 : memory.page;
 
   const place = new Place(turner, Math.min(config.pages.length, Math.max(1, pageInAddress() || left)));
+  closeByBack(root, place, drawer);
+  const back = part(root, '.back');
+  back.addEventListener('click', () => place.back());
   turner.onTurn = () => sounds.playTurn();
   turner.onLanded = () => {
     const pages = book.views.pagesOf(turner.current);
@@ -156,6 +160,8 @@ async function openBook(root) {
       memory.page = place.page;
       part(root, '.live').textContent = announcement(pages, config);
     }
+    back.hidden = !place.left;
+    part(back, 'span').textContent = say('backTo', labelOf(config, place.left));
     toolbar.update();
     drawer.mark(pages);
     slideshow.wait();

@@ -1,6 +1,6 @@
 /** @typedef {import('./pagetext.js').PageText} PageText */
 /** @typedef {import('./layers.js').Face} Face */
-/** @typedef {import('../src/controls/reading.js').Area} Area */
+/** @typedef {import('../src/controls/reading.js').Column} Column */
 
 /** Into how many strips a page is cut from top to bottom to find the gaps between its columns. */
 const STRIPS = 100;
@@ -21,29 +21,30 @@ const MOST = 0.7;
 const MARGIN = 0.012;
 
 /**
- * Columns of a page in reading order, as shares of its size.
+ * Columns of a page in reading order.
  * @param {Pick<Face, 'text' | 'box' | 'over'> | undefined} face
- * @returns {Area[] | null} null where no text is known
+ * @param {Column} whole the page
  */
-export function columnsOf(face) {
-  if (!face?.text) return null;
-  const { box: { offsetLeft, offsetTop, offsetWidth, offsetHeight }, over } = face;
+export function columnsOf(face, whole) {
+  const found = face?.text ? columnsIn(face.text) : [];
+  if (!face || found.length === 0) return [whole];
+  const { box, over } = face;
+  const [width, height] = [whole.right - whole.left, whole.bottom - whole.top];
   /** @param {number} share */
-  const across = (share) => (offsetLeft + share * offsetWidth) / over.offsetWidth;
+  const across = (share) => whole.left + (width * (box.offsetLeft + share * box.offsetWidth)) / over.offsetWidth;
   /** @param {number} share */
-  const down = (share) => (offsetTop + share * offsetHeight) / over.offsetHeight;
-  return columnsIn(face.text)?.map(({ left, top, right, bottom }) =>
-    ({ left: across(left), top: down(top), right: across(right), bottom: down(bottom) })) ?? null;
+  const down = (share) => whole.top + (height * (box.offsetTop + share * box.offsetHeight)) / over.offsetHeight;
+  return found.map(({ left, top, right, bottom }) =>
+    ({ page: whole.page, left: across(left), top: down(top), right: across(right), bottom: down(bottom) }));
 }
 
 /**
  * Columns of a page's text in reading order, as shares of the picture: one where the text is not set in columns.
  * @param {PageText} text
- * @returns {Area[] | null} null without text
  */
 export function columnsIn({ lines, width, height }) {
   const level = lines.filter(({ turn }) => turn === 0).map(({ box }) => box);
-  if (level.length === 0) return null;
+  if (level.length === 0) return [];
   const from = Math.min(...level.map(({ x }) => x));
   const to = Math.max(...level.map((box) => box.x + box.width));
   const narrow = level.filter((box) => box.width < WIDE * (to - from));

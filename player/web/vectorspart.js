@@ -12,7 +12,7 @@ import { Sharper } from './sharper.js';
 export function beginEnlarged(player, layers, files) {
   const { reading, zoom, turner } = player;
   new Sharper(player, layers, files);
-  reading.columnsOf = (page) => columnsOf(layers.faces.find(({ position }) => position === page));
+  reading.columnsOf = (page, whole) => columnsOf(layers.faces.find(({ position }) => position === page), whole);
   // Pages begin before their text is there: at the top of the page, not of its first column.
   const { onJumped } = turner;
   /** @type {{ goal: unknown, way: number }} */

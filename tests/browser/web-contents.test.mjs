@@ -185,6 +185,35 @@ test('Back leads to where readers jumped from, and turns make no entries', async
   assert.deepEqual(book.errors, []);
 });
 
+test('on a phone Back closes what lies over the book, and a chip leads back after a jump', async () => {
+  const book = await open({ change: { labels: LABELS }, view: PHONE, hash: '#page=2', before: (page) => page.goto('data:text/html,before') });
+  const { page } = book;
+  const back = page.locator('.back');
+  const closed = () => page.waitForFunction(() => !document.querySelector('dialog[open], .drawer:not([hidden])'));
+  const over = [['contents'], ['thumbs'], ['more'], ['more', '.entry:has-text("Help")']];
+  for (const [name, entryIn] of over) {
+    await book.use(name, 'tap');
+    if (entryIn) await page.locator(entryIn).tap();
+    await page.waitForFunction(() => window.history.state);
+    await page.goBack();
+    await closed();
+  }
+  await book.use('contents', 'tap');
+  await page.locator('.contents-side .side-close').tap();
+  await page.waitForFunction(() => !window.history.state);
+  await book.use('contents', 'tap');
+  await entry(book, 'River').tap();
+  await book.waitForPages(4);
+  await closed();
+  assert.equal(await back.innerText(), 'Back to ii');
+  await back.tap();
+  await book.waitForPages(2);
+  assert.equal(await back.isVisible(), false);
+  await page.goBack();
+  assert.equal(page.url(), 'data:text/html,before', 'no panel has left an entry');
+  assert.deepEqual(book.errors, []);
+});
+
 test('Back in the middle of a jump turns back, and a book in a frame leaves the page around it alone', async () => {
   const book = await open({ values: { PageMoveTime: '1' }, hash: '#page=4' });
   await press(book, 'End');

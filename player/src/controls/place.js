@@ -11,6 +11,9 @@ export function searchInAddress() {
   return new URLSearchParams(location.hash.slice(1)).get('search');
 }
 
+/** Turns after a jump until the way back is offered no more. */
+const TURNS_AFTER = 3;
+
 /** Keeps the current page in the URL's fragment and in the browser's history. */
 export class Place {
   /**
@@ -20,6 +23,9 @@ export class Place {
   constructor(turner, page) {
     this.turner = turner;
     this.page = page;
+    /** The page where the last jump began, 0 once the reader has come back to it or turned on. */
+    this.left = 0;
+    this.turns = 0;
     turner.onJump = (view) => this.#jump(view);
     window.addEventListener('hashchange', () => {
       const asked = pageInAddress();
@@ -32,8 +38,25 @@ export class Place {
    * @param {number} view
    */
   #jump(view) {
+    this.left = this.page;
+    this.turns = 0;
     if (!pageInAddress()) write('replaceState', this.page);
-    write('pushState', this.turner.book.views.pagesOf(view)[0]);
+    // From a panel over the book, the way back leads to where that was opened.
+    this.mayGoBack = write(history.state ? 'replaceState' : 'pushState', this.turner.book.views.pagesOf(view)[0]);
+  }
+
+  /**
+   * Pushes an entry for what covers the book.
+   * @returns {boolean} whether there is one now
+   */
+  cover() {
+    return write('replaceState', this.page) && write('pushState', this.page, 'cover');
+  }
+
+  /** Goes back to where the last jump began. */
+  back() {
+    if (this.mayGoBack) history.back();
+    else this.turner.turnTo(this.turner.book.views.viewOf(this.left));
   }
 
   /**
@@ -48,6 +71,7 @@ export class Place {
     const asked = pageInAddress();
     this.page = [asked, page].find((one) => pages.includes(one)) ?? pages[0];
     if (this.page !== (asked || page)) write('replaceState', this.page);
+    if (pages.includes(this.left) || (this.page !== page && this.turns++ >= TURNS_AFTER)) this.left = 0;
     return this.page !== page;
   }
 }
@@ -55,11 +79,14 @@ export class Place {
 /**
  * @param {'replaceState' | 'pushState'} how
  * @param {number} page
+ * @param {string | null} state
  */
-function write(how, page) {
+function write(how, page, state = null) {
   try {
-    history[how](null, '', '#page=' + page);
+    history[how](state, '', '#page=' + page);
+    return true;
   } catch {
     // Some viewers of local files forbid it; the book works without.
+    return false;
   }
 }

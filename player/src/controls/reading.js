@@ -1,7 +1,10 @@
 import { ZOOM_AIR, ZOOM_STEP } from './zoom.js';
 
 /** @typedef {import('./zoom.js').Zoom} Zoom */
-/** @typedef {{left: number, top: number, right: number, bottom: number}} Area */
+/**
+ * Part of a page in the window with whole pages, and the left edge of the page.
+ * @typedef {{left: number, top: number, right: number, bottom: number, page: number}} Column
+ */
 
 /** Share of the window by which a step goes on: some lines stay in view, and the bar may cover some. */
 const STEP = 0.8;
@@ -27,10 +30,10 @@ export class Reading {
     this.book = zoom.book;
     this.turner = zoom.turner;
     /**
-     * Columns of a page in reading order, as shares of its size; null where they are not known.
-     * @type {(page: number) => Area[] | null}
+     * Columns of a page in reading order. The page is one where no others are known.
+     * @type {(page: number, whole: Column) => Column[]}
      */
-    this.columnsOf = () => null;
+    this.columnsOf = (_, whole) => [whole];
     /** The last column to which the reader was led, of the view in which that was. */
     this.led = { view: -1, column: 0 };
     /** Which way the turn in progress leads. */
@@ -50,7 +53,6 @@ export class Reading {
 
   /**
    * @typedef {{x: number, y: number, time: number, view: number}} Pointed
-   * @typedef {Area & {page: number}} Column in the window with whole pages, like the left edge of its page
    */
 
   /** @param {PointerEvent} event */
@@ -69,8 +71,7 @@ export class Reading {
     const level = zoom.level * ZOOM_STEP;
     const at = this.point ?? this.rested;
     const pointed = at && !active && at.view === turner.current
-      ? columns.find(({ left, top, right, bottom }) => at.x >= left && at.x <= right && at.y >= top && at.y <= bottom)
-      : undefined;
+      ? columns.find(({ left, right }) => at.x >= left && at.x <= right) : undefined;
     const column = pointed ?? columns[this.#current(columns)];
     if (active && seen.top > column.top) zoom.in();
     else {
@@ -195,14 +196,11 @@ export class Reading {
   /** @returns {Column[]} of the pages in view, in reading order */
   #columns() {
     const { book, turner: { current } } = this;
-    const { left, right, top } = book.boxOf(current);
-    const { pageWidth, pageHeight } = book.layout;
+    const { left, right, top, bottom } = book.boxOf(current);
+    const { pageWidth } = book.layout;
     return book.views.pagesOf(current).flatMap((number) => {
       const page = number === book.views.at(current).left ? left : right - pageWidth;
-      return (this.columnsOf(number) ?? [{ left: 0, top: 0, right: 1, bottom: 1 }]).map((share) => ({
-        page, left: page + share.left * pageWidth, right: page + share.right * pageWidth,
-        top: top + share.top * pageHeight, bottom: top + share.bottom * pageHeight,
-      }));
+      return this.columnsOf(number, { page, left: page, right: page + pageWidth, top, bottom });
     });
   }
 }

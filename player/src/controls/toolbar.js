@@ -99,7 +99,7 @@ export class Toolbar {
 
   #hide() {
     const used = this.bar.matches(':hover') || this.bar.querySelector(':focus-visible')
-      || this.root.querySelector('dialog[open], .drawer:not([hidden])');
+      || this.root.querySelector('dialog[open], .drawer:not([hidden]), .back:focus-visible');
     if (used) {
       this.show();
       return;

@@ -31,6 +31,20 @@ test('the address follows the reader, Back undoes a jump, and of two pages one m
   assert.equal(after(() => table.key('ArrowRight'))[0], 6);
 });
 
+test('the way back is offered until the reader is there or has turned three times', () => {
+  const table = new Table({ count: 20, page: 4 });
+  globalThis.history = { replaceState() {}, pushState() {} };
+  const place = new Place(table.turner, 4);
+  table.turner.onLanded = () => place.land();
+  const keys = [['End', 4], ['ArrowLeft', 4], ['ArrowLeft', 4], ['ArrowLeft', 0], ['Home', 14], ['End', 1], ['Home', 20], ['x', 20]];
+  for (const [key, wanted] of keys) {
+    table.key(key);
+    assert.deepEqual([key, table.pages && place.left], [key, wanted]);
+  }
+  table.turner.turnTo(10);
+  assert.deepEqual([table.pages, place.left], [[20], 0], 'back again');
+});
+
 test('the page left is remembered where the browser lets it, of this edition of the book', () => {
   const kept = {};
   globalThis.localStorage = { getItem: (key) => kept[key] ?? null, setItem: (key, text) => { kept[key] = text; } };

@@ -3,12 +3,16 @@ import { test } from 'node:test';
 import { clock } from '../support/browser.mjs';
 import { PHONE, Table } from '../support/table.mjs';
 
-const HALVES = [0, 0.5].map((left) => ({ left, top: 0, right: left + 0.5, bottom: 1 }));
+/** Two columns of a page. */
+const halves = (_, whole) => [0, 0.5].map((share) => {
+  const left = whole.left + share * (whole.right - whole.left);
+  return { ...whole, left, right: left + (whole.right - whole.left) / 2 };
+});
 
 /** Enlarges by +, with the mouse at a place where one is given. */
 function enlarged({ at, presses = 1, columns, ...settings } = {}) {
   const table = new Table({ count: 8, ...settings });
-  if (columns) table.reading.columnsOf = () => columns;
+  if (columns) table.reading.columnsOf = columns;
   if (at) table.pointer('move', ...at);
   for (let press = 0; press < presses; press += 1) {
     table.key('+');
@@ -44,8 +48,8 @@ function allSeen(table, columns, areas, what) {
 }
 
 /** What is seen, and whether it is read by columns of half a page. */
-const ways = [[{}], [{ presses: 2, columns: HALVES }, true], [{ rightToLeft: true }], [PHONE, false],
-  [{ ...PHONE, presses: 2, columns: HALVES }, true]];
+const ways = [[{}], [{ presses: 2, columns: halves }, true], [{ rightToLeft: true }], [PHONE, false],
+  [{ ...PHONE, presses: 2, columns: halves }, true]];
 test('enlarged pages are read on and back to their ends, column by column, before others come', () => {
   for (const [settings, byColumns] of ways) {
     const table = enlarged(settings);

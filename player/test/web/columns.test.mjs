@@ -32,5 +32,5 @@ test('columns are told from titles, tables and what stands at the margin', () =>
     });
     assert.deepEqual([columns[0].top, columns.at(-1).bottom], [0, 1], what);
   }
-  assert.equal(columnsIn(new PageText({})), null);
+  assert.deepEqual(columnsIn(new PageText({})), []);
 });
