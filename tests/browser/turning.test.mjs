@@ -1,4 +1,5 @@
 import assert from 'node:assert/strict';
+import { readFile } from 'node:fs/promises';
 import { test } from 'node:test';
 import { colourOf, plainPages } from './support/book.mjs';
 import { PHONE, Reader } from './support/reader.mjs';
@@ -68,6 +69,23 @@ test('on a phone swipes and taps turn, or show and hide the bar', async () => {
   const first = await idle();
   await book.page.touchscreen.tap(195, 400);
   assert.notEqual(await idle(), first);
+});
+
+test('nothing of a larger shadow is left beside the next one', async () => {
+  const { page } = await open(1);
+  const shade = await readFile(new URL('../../player/src/turning/shade.js', import.meta.url), 'utf8');
+  // Largest opacity in the outermost pixels of a shadow that is drawn after one of that size.
+  const edge = (size) => page.evaluate(`(() => { ${shade.replaceAll('export ', '')}
+    const context = document.createElement('canvas').getContext('2d');
+    context.canvas.width = context.canvas.height = 500;
+    const shadow = (from, to) => drawShade(context, [from, from, to, to].map((x, index) => ({ x, y: index % 3 ? to : from })),
+      { opacity: 1, blur: 20, down: 0 });
+    shadow(100, ${size});
+    context.clearRect(0, 0, 500, 500);
+    shadow(100, 200);
+    return Math.max(...context.getImageData(100, 230, 100, 12).data);
+  })()`);
+  assert.equal(await edge(450), await edge(200));
 });
 
 test('readers who want little motion see pages change without a leaf', async () => {

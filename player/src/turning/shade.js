@@ -63,6 +63,7 @@ export function clearedCanvas(context, width, height) {
     canvas.height = Math.max(canvas.height, height);
   } else {
     context.setTransform(1, 0, 0, 1, 0, 0);
-    context.clearRect(0, 0, width, height);
+    // Scaled drawing takes a pixel beside the part that is drawn, too: what is left there would be seen as a line.
+    context.clearRect(0, 0, width + 2, height + 2);
   }
 }
