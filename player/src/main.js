@@ -84,7 +84,7 @@ function addControls(root, turner, sounds) {
   const drawer = new Drawer(root, book, (page) => turner.go(book.views.viewOf(page)));
   const sharing = new Sharing(root, () => pagesInView()[0], (page) => labelOf(config, page));
   const sheets = new Sheets(config.pages, pagesInView);
-  const printing = new Printing(root, sheets, config.pages.length, pagesInView);
+  const printing = new Printing(root, sheets, config, pagesInView);
   const helping = new Helping(root);
   const menu = new Menu(root, () => toolbar.folding.folded);
   const toast = new Toast(root);
@@ -152,7 +152,7 @@ async function openBook(root) {
   const place = new Place(turner, Math.min(config.pages.length, Math.max(1, pageInAddress() || left)));
   closeByBack(root, place, drawer);
   const back = part(root, '.back');
-  back.addEventListener('click', () => place.back());
+  back.addEventListener('click', () => history.back());
   turner.onTurn = () => sounds.playTurn();
   turner.onLanded = () => {
     const pages = book.views.pagesOf(turner.current);

@@ -121,3 +121,9 @@ test('the book speaks the language that its reader prefers, and announces its pa
     assert.equal(await book.page.locator('.live').textContent(), announced);
   }
 });
+
+test('a book of one page has nothing to turn with', async () => {
+  const book = await reader.openFromDisk(await reader.book({ pages: plainPages(1) }));
+  assert.equal(await book.page.locator('.bar').isVisible(), true);
+  assert.equal(await book.page.locator('[data-turn="left"]:visible, [data-turn="right"]:visible').count(), 0);
+});

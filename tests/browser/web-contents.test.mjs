@@ -152,7 +152,15 @@ test('pages are called by their labels in the page box, the panels and what is a
   await book.page.getByLabel('Page A-3 (3)').getByText('A-3').waitFor();
   await press(book, 'Escape', 'c');
   assert.equal(await entry(book, 'River').locator('.tree-page').innerText(), '1');
-  await press(book, 'Escape', 'g', ...'8', 'Enter');
+  await press(book, 'Escape', 'p');
+  const printing = book.page.locator('.print-panel');
+  assert.equal(await printing.locator('.these-count').innerText(), 'ii \u2013 A-3');
+  await printing.locator('.to').fill('1');
+  await book.page.evaluate(() => { window.print = () => {}; });
+  await printing.locator('.main-button').click();
+  await book.page.waitForSelector('.sheet img', { state: 'attached' });
+  assert.equal(await book.page.locator('.sheet img').count(), 3, 'ii, A-3 and 1');
+  await press(book, 'g', ...'8', 'Enter');
   await book.waitForPages(10, 11);
   const name = await box.inputValue();
   await press(book, 'g', ...'abc', 'Enter');

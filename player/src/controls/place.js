@@ -23,7 +23,7 @@ export class Place {
   constructor(turner, page) {
     this.turner = turner;
     this.page = page;
-    /** The page where the last jump began, 0 once the reader has come back to it or turned on. */
+    /** The page to which Back leads from the last jump, 0 once the reader has come back to it or turned on. */
     this.left = 0;
     this.turns = 0;
     turner.onJump = (view) => this.#jump(view);
@@ -38,11 +38,11 @@ export class Place {
    * @param {number} view
    */
   #jump(view) {
-    this.left = this.page;
     this.turns = 0;
     if (!pageInAddress()) write('replaceState', this.page);
     // From a panel over the book, the way back leads to where that was opened.
-    this.mayGoBack = write(history.state ? 'replaceState' : 'pushState', this.turner.book.views.pagesOf(view)[0]);
+    const [page] = this.turner.book.views.pagesOf(view);
+    this.left = write(history.state ? 'replaceState' : 'pushState', page) ? this.page : 0;
   }
 
   /**
@@ -53,11 +53,6 @@ export class Place {
     return write('replaceState', this.page) && write('pushState', this.page, 'cover');
   }
 
-  /** Goes back to where the last jump began. */
-  back() {
-    if (this.mayGoBack) history.back();
-    else this.turner.turnTo(this.turner.book.views.viewOf(this.left));
-  }
 
   /**
    * Updates the fragment after a turn.

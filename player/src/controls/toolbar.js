@@ -60,6 +60,7 @@ export class Toolbar {
       ['right', config.rightToLeft ? atStart : atEnd]]) {
       for (const button of this.root.querySelectorAll('button[data-turn="' + side + '"]')) {
         /** @type {HTMLButtonElement} */ (button).disabled = Boolean(end);
+        /** @type {HTMLElement} */ (button).hidden = views.count === 1;
       }
     }
     const share = views.count > 1 ? current / (views.count - 1) : 1;

@@ -1,4 +1,5 @@
 import { part } from '../book/dom.js';
+import { labelOf, pageNamed } from '../book/labels.js';
 import { Panel } from './panel.js';
 import { say } from '../book/words.js';
 
@@ -9,13 +10,13 @@ export class Printing {
   /**
    * @param {HTMLElement} root
    * @param {Sheets} sheets
-   * @param {number} pageCount
+   * @param {import('../book/config.js').BookConfig} config
    * @param {() => number[]} pagesInView
    */
-  constructor(root, sheets, pageCount, pagesInView) {
+  constructor(root, sheets, config, pagesInView) {
     this.panel = new Panel(part(root, '.print-panel'));
     this.sheets = sheets;
-    this.pageCount = pageCount;
+    this.config = config;
     this.pagesInView = pagesInView;
     this.form = /** @type {HTMLFormElement} */ (part(this.panel.dialog, 'form'));
     this.from = this.#input('.from');
@@ -24,6 +25,7 @@ export class Printing {
     this.start = /** @type {HTMLButtonElement} */ (part(this.form, '.main-button'));
     for (const box of [this.from, this.to]) {
       box.addEventListener('focus', () => { this.#input('[value="some"]').checked = true; });
+      if (config.labels) box.inputMode = 'text';
     }
     this.form.addEventListener('submit', (event) => {
       event.preventDefault();
@@ -35,30 +37,31 @@ export class Printing {
   open() {
     const pages = this.pagesInView();
     part(this.form, '.these').textContent = say(pages.length > 1 ? 'printThese' : 'printThis');
-    part(this.form, '.these-count').textContent = pages.join(' \u2013 ');
-    part(this.form, '.all-count').textContent = String(this.pageCount);
+    const labels = pages.map((page) => labelOf(this.config, page));
+    part(this.form, '.these-count').textContent = labels.join(' \u2013 ');
+    part(this.form, '.all-count').textContent = String(this.config.pages.length);
     this.#input('[value="these"]').checked = true;
-    this.from.value = String(pages[0]);
-    this.to.value = String(pages.at(-1));
+    this.from.value = labels[0];
+    this.to.value = labels[pages.length - 1];
     this.#tell('');
     this.panel.open();
   }
 
-  /** @returns {number[] | null} null when the page numbers entered are invalid */
+  /** @returns {number[] | null} null when there are no such pages */
   #chosen() {
+    const { config } = this;
     const choice = new FormData(this.form).get('what');
     if (choice === 'these') return this.pagesInView();
-    const [from, to] = choice === 'all' ? [1, this.pageCount]
-      : [Number(this.from.value), Number(this.to.value)];
-    if (!Number.isInteger(from) || !Number.isInteger(to)) return null;
-    if (from < 1 || to > this.pageCount || from > to) return null;
+    const [from, to] = choice === 'all' ? [1, config.pages.length]
+      : [pageNamed(config, this.from.value), pageNamed(config, this.to.value)];
+    if (!from || from > to) return null;
     return Array.from({ length: to - from + 1 }, (_, index) => from + index);
   }
 
   async #print() {
     const pages = this.#chosen();
     if (!pages) {
-      this.#tell(say('printWrong', this.pageCount));
+      this.#tell(say('printWrong', labelOf(this.config, 1), labelOf(this.config, this.config.pages.length)));
       this.from.focus();
       return;
     }
