@@ -5,8 +5,8 @@ import { Layers } from './layers.js';
 /** @typedef {import('./layers.js').Face} Face */
 /** @typedef {import('./searchtext.js').Hit} Hit */
 
-/** Height at the window's lower edge that the bar may cover, in CSS pixels. */
-const BAR_COVERS = 72;
+/** Height at the window's edges that the strip above and the bar below may cover, in CSS pixels. */
+const COVERED = 72;
 
 /** Marks what was found on the pages in view. */
 export class Hits {
@@ -68,7 +68,7 @@ export class Hits {
     const { left, right, top, bottom } = mark.getBoundingClientRect();
     const { clientWidth, clientHeight } = this.root;
     const { beside } = this.book;
-    const seen = left >= beside && right <= clientWidth && top >= 0 && bottom <= clientHeight - BAR_COVERS;
+    const seen = left >= beside && right <= clientWidth && top >= COVERED && bottom <= clientHeight - COVERED;
     if (seen) return;
     this.zoom.panBy((beside + clientWidth) / 2 - (left + right) / 2, clientHeight / 2 - (top + bottom) / 2);
   }

@@ -45,7 +45,7 @@ export class Searching {
     this.strip = make('div', 'search-strip');
     this.#build(root);
     this.results = new Results(make('div', 'results'), (position) => say('page', fullLabel(config, position)),
-      layers.facts.language, (index) => this.#choose(index));
+      layers.facts.language, (index) => this.#show(index));
     this.results.element.setAttribute('aria-labelledby', 'search-title');
     this.panel.body.append(this.results.element);
     this.results.show(null, []);
@@ -220,7 +220,10 @@ export class Searching {
     this.#show((index + hits.length) % hits.length);
   }
 
-  /** @param {number} index */
+  /**
+   * Shows a hit; a panel that covers the book closes.
+   * @param {number} index
+   */
   #show(index) {
     const { hits, query } = /** @type {Answer} */ (this.answer);
     this.index = index;
@@ -228,17 +231,11 @@ export class Searching {
     this.hits.show(query, hits[index]);
     this.results.mark(index);
     this.#tell();
-  }
-
-  /**
-   * Shows a hit that the reader chose; a panel that covers the book closes.
-   * @param {number} index
-   */
-  #choose(index) {
-    this.#show(index);
-    if (this.room.besideBook) return;
+    if (this.room.besideBook || !this.panel.shown) return;
+    // The strip leads to the other hits.
     this.stays = true;
     this.panel.hide();
+    part(this.strip, '.step-down').focus({ preventScroll: true });
   }
 
   /** @param {KeyboardEvent} event */

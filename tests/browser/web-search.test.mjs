@@ -132,6 +132,11 @@ test('on a phone a result makes room for the book, and the strip that stays lead
   await strip.locator('.step-close').tap();
   assert.equal(await strip.isVisible(), false);
   assert.equal(await book.page.locator('.hit').count(), 0);
+  await book.use('search', 'tap');
+  for (const wanted of ['1 of 5', '2 of 5']) {
+    await press(book, 'Enter');
+    assert.deepEqual([await count.innerText(), await box(book).isVisible()], [wanted, false], 'the hit is seen');
+  }
 });
 
 test('an enlarged page is moved to the hit', async () => {
