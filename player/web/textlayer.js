@@ -52,18 +52,27 @@ function lineElement(line) {
   element.dir = line.rtl ? 'rtl' : 'ltr';
   element.style.cssText = 'width:' + long + 'px;height:' + thick + 'px;font-size:' + size + 'px;line-height:'
     + thick + 'px;transform:translate(' + origin[0] + 'px,' + origin[1] + 'px) rotate(' + line.turn + 'deg)';
-  // Where the line has come to, from the edge at which its reading begins.
-  let reached = 0;
-  for (const { text, start, length } of line.words) {
+  // Distances from the edge at which the line's reading begins.
+  const starts = line.words.map(({ start, length }) => {
     const fromLeft = line.turn >= 180 ? long - start - length : start;
-    const wanted = line.rtl ? long - fromLeft - length : fromLeft;
-    const own = Math.max(1, (widthOf(text.trimEnd()) * size) / MEASURED);
+    return line.rtl ? long - fromLeft - length : fromLeft;
+  });
+  let reached = 0;
+  line.words.forEach(({ text, length }, index) => {
+    const letters = text.trimEnd();
+    const own = Math.max(1, (widthOf(letters) * size) / MEASURED);
+    const scale = length / own;
+    // A blank after the word reaches to the next one, so that selected text has no gaps. In lines of both directions the
+    // next one may be elsewhere.
+    const way = starts[index + 1] - starts[index] - length;
+    const gap = letters !== text && way > 0 && way < thick ? way / scale : 0;
+    const blank = ((widthOf(text) - widthOf(letters)) * size) / MEASURED;
     const word = make('span', 'word', text);
-    word.style.cssText = 'width:' + own.toFixed(1) + 'px;margin-inline-start:' + (wanted - reached).toFixed(1)
-      + 'px;transform:scaleX(' + (length / own).toFixed(4) + ')';
-    reached = wanted + own;
+    word.style.cssText = 'width:' + (own + gap).toFixed(1) + 'px;margin-inline-start:' + (starts[index] - reached).toFixed(1)
+      + 'px;word-spacing:' + (gap && gap - blank).toFixed(1) + 'px;transform:scaleX(' + scale.toFixed(4) + ')';
+    reached = starts[index] + own + gap;
     element.append(word);
-  }
+  });
   element.append(make('br', ''));
   return element;
 }
