@@ -44,6 +44,21 @@ test('a book with a shared player is read from disk, over http, and without a co
   assert.deepEqual(await read(online, address), []);
   assert.ok(shared(await online.evaluate(() => document.querySelector('script[src$="page.js"]').src)));
 
+  const strict = await reader.browser.newPage();
+  const again = await serve(reader.folder);
+  await strict.route('**/index.html', async (route) => {
+    const response = await route.fetch();
+    await route.fulfill({ response, headers: { ...response.headers(), 'Content-Security-Policy': "default-src 'self'" } });
+  });
+  await strict.goto(`${again.address}books/one/index.html`);
+  await strict.keyboard.press('ArrowRight');
+  await strict.waitForFunction(() => window.folvero?.page === 2 && document.querySelector('.over.left .word'));
+  await strict.keyboard.press('p');
+  await strict.evaluate(() => { window.print = () => {}; });
+  await strict.locator('.print-panel .main-button').click();
+  await strict.waitForSelector('.sheet', { state: 'attached' });
+  await again.close();
+
   await rm(path.join(reader.folder, 'a player', version, 'page.js'));
   await page.reload();
   await page.getByText('a part of it is missing').waitFor();

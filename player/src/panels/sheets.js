@@ -60,10 +60,9 @@ export class Sheets {
   /** @param {HTMLElement[]} sheets */
   #lay(sheets) {
     const first = sheets[0].querySelector('img');
-    const wide = first && first.naturalWidth > first.naturalHeight;
-    const paper = make('style', '',
-      '@page { margin: 0; size: ' + (wide ? 'landscape' : 'portrait') + ' }');
-    this.element.replaceChildren(paper, ...sheets);
+    const isWide = first && first.naturalWidth > first.naturalHeight;
+    this.element.className = isWide ? 'sheets wide' : 'sheets';
+    this.element.replaceChildren(...sheets);
   }
 
   /** @param {number} page */
