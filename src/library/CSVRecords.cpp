@@ -10,9 +10,15 @@ namespace {
 // More than the facts of any book take.
 constexpr qint64 longestRecord = 1'000'000;
 
-// LF, CR LF, or CR alone.
-qint64 lineEndsIn(const QByteArray& text) {
-    return text.count('\r') + (text.endsWith('\n') && !text.endsWith("\r\n") ? 1 : 0);
+constexpr qint64 blockSize = 65536;
+
+// Behind the first line ending: LF, CR LF or CR. -1 where there is none, or may be only half of it.
+qsizetype endOfLine(QByteArrayView text, bool isWhole) {
+    const qsizetype feed = text.indexOf('\n');
+    const qsizetype carriage = text.first(feed < 0 ? text.size() : feed).indexOf('\r');
+    if (carriage < 0 || carriage + 1 == feed)
+        return feed < 0 ? -1 : feed + 1;
+    return carriage + 1 < text.size() || isWhole ? carriage + 1 : -1;
 }
 
 } // namespace
@@ -40,22 +46,38 @@ void CSVRecords::reset() {
 bool CSVRecords::next(Record& record) {
     const auto isBegun = [this] { return iParser->pstate != 0; };
     while (iComplete.empty()) {
-        const qint64 start = iFile.pos();
-        const QByteArray line = iFile.readLine(longestRecord);
+        const QByteArray line = readLine();
         if (line.isEmpty() && !isBegun())
             return false;
         if (!isBegun())
             iBegun = {iLine, {}, {}};
         parseLine(line);
         if (iBegun.line == iLine)
-            iSecondLine = start + line.size();
-        iLine += lineEndsIn(line);
-        if (isBegun() && (line.isEmpty() || iFile.pos() - iSecondLine > longestRecord))
+            iSecondLine = position();
+        iLine += line.endsWith('\n') || line.endsWith('\r') ? 1 : 0;
+        if (isBegun() && (line.isEmpty() || position() - iSecondLine > longestRecord))
             skipUnclosed();
     }
     record = std::move(iComplete.front());
     iComplete.pop_front();
     return true;
+}
+
+QByteArray CSVRecords::readLine() {
+    for (bool isWhole = false;;) {
+        const QByteArrayView left = QByteArrayView(iBuffer).sliced(iBufferRead);
+        qsizetype end = endOfLine(left, isWhole);
+        if (end < 0 && (isWhole || left.size() >= longestRecord))
+            end = left.size();
+        if (end >= 0) {
+            iBufferRead += end;
+            return left.first(end).toByteArray();
+        }
+        const QByteArray block = iFile.read(blockSize);
+        isWhole = block.isEmpty();
+        iBuffer = left.toByteArray() + block;
+        iBufferRead = 0;
+    }
 }
 
 // An empty line is the end of the file.
@@ -66,9 +88,7 @@ void CSVRecords::parseLine(const QByteArray& line) {
     };
     const auto onRecord = [](int, void* self) {
         auto* records = static_cast<CSVRecords*>(self);
-        // Behind a CR alone another one follows.
-        const qint64 next = records->iBegun.line + 1;
-        records->iComplete.push_back(std::exchange(records->iBegun, {next, {}, {}}));
+        records->iComplete.push_back(std::exchange(records->iBegun, {}));
     };
     if (!line.isEmpty())
         csv_parse(iParser.get(), line.constData(), std::size_t(line.size()), onField, onRecord,
@@ -81,6 +101,8 @@ void CSVRecords::skipUnclosed() {
     iComplete.push_back(
         {iBegun.line, {}, QStringLiteral("a quotation mark in it is never closed")});
     iFile.seek(iSecondLine);
+    iBuffer.clear();
+    iBufferRead = 0;
     iLine = iBegun.line + 1;
     reset();
 }

@@ -33,11 +33,16 @@ public:
     static char separatorOf(const QByteArray& header);
 
 private:
+    // With its ending; empty at the end of the file. Very long ones come in parts.
+    QByteArray readLine();
+    qint64 position() const { return iFile.pos() - (iBuffer.size() - iBufferRead); }
     void parseLine(const QByteArray& line);
     void skipUnclosed();
     void reset();
 
     QIODevice& iFile;
+    QByteArray iBuffer;        // of the file
+    qsizetype iBufferRead = 0; // of these, those before the next line
     char iSeparator;
     qint64 iLine; // of the next line
     std::unique_ptr<csv_parser> iParser;

@@ -64,6 +64,9 @@ TEST_F(BookListTest, ReadsWhatPeopleWrite) {
          {"2 a|One\n\"1\"||", "4 b|<b>5\" &amp;||", "5 c|caf\u00E9||"}},
         {"pdf,id\na.pdf,\"a\nb.pdf,b\nc.pdf,c\n",
          {"2 a quotation mark in it is never closed", "3 b|||", "4 c|||"}},
+        // Line ends of several kinds, after one of which it is open.
+        {"pdf,id\na.pdf,a\rb.pdf,\"b\rc.pdf,c\r\nd.pdf,d\n",
+         {"2 a|||", "3 a quotation mark in it is never closed", "4 c|||", "5 d|||"}},
         {"pdf,id\na.pdf,a,1\n,b\nc.pdf\nd.pdf,d\n",
          {"2 it has 3 columns; the first line names 2", "3 it names no PDF",
           "4 " + BookID::forPath("c.pdf") + "|||", "5 d|||"}},
