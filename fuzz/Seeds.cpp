@@ -177,6 +177,22 @@ Seeds files() {
         "45 6 0 0 a\n0 0 7 8 b%20c\n"};
 }
 
+Seeds lists() {
+    return {
+        "pdf,id,title,set,set,pages\na.pdf,a,\"A, \"\"b\"\"\",X=1,Y=2,1-3\nb.pdf,B,,,,\n",
+        "\xef\xbb\xbfPDF;Author;Language;colour\r\n\"c\r\nd.pdf\";M\xfcller; de;x\r\n;;;\r\n",
+        "pdf\tdate\na.pdf\t1904\nA.pdf\t\n/b.pdf",
+        "{\"pdf\": \"a.pdf\", \"id\": \"a\", \"author\": [\"A\", \"B\"], \"allow-text\": "
+        "true}\n\n{\"pdf\": 1}\n[]\n{\"pdf\": \"b.pdf\", \"id\": \"../a\", \"set\": [\"x=1\"]}"};
+}
+
+Seeds queries() {
+    return {"well-known har* \"in the order\"\nA well-known Harbour in the order",
+            "\xe6\x9d\xb1\xe4\xba\xac AND (a OR b) NEAR/3 -c:d ^e\n\xe6\x9d\xb1\xe4\xba\xac",
+            "\"\"\" * ** \"a\"* stra\xc3\x9f"
+            "e\nSTRASSE"};
+}
+
 } // namespace
 
 // fuzz-seeds FOLDER SAMPLES: writes a folder of seeds for each harness, the small samples among
@@ -193,7 +209,9 @@ int main(int argc, char** argv) {
                                                   {"Vectors", vectors()},
                                                   {"Pictures", pictures()},
                                                   {"UserSettings", userSettings()},
-                                                  {"BookFiles", files()}};
+                                                  {"BookFiles", files()},
+                                                  {"LibraryList", lists()},
+                                                  {"SearchQuery", queries()}};
     if (argc != 3)
         return 2;
     const QDir root(QFile::decodeName(argv[1]));
