@@ -65,7 +65,7 @@ Seeds answers() {
     const PDFAnnotation within{"Link", QRectF(1, 2, 3, 4), {}, 2};
     const PDFOutlineNode leaf{"Leaf", 2, {}};
     const PDFOutlineNode branch{"Branch", -1, {leaf, leaf}};
-    const PDFTextLine line{{10, 20, 90, 12}, 90, true, {{"two ", 0, 30}, {"words", 35, 55}}};
+    const PDFTextLine line{{10, 20, 90, 12}, 90, true, {{"two ", 0, 30}, {"words", 35, 55}}, 20};
     return {pack(7),
             pack(QString("A title")),
             pack(page),

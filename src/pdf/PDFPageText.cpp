@@ -1,6 +1,7 @@
 #include "pdf/PDFLimits.h"
 #include "pdf/PDFRecording.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -17,15 +18,42 @@ bool isUsable(const fz_stext_char& character) {
     constexpr int unknown = 0xFFFD;
     const fz_rect box = fz_rect_from_quad(character.quad);
     return character.c >= firstPrintable && character.c != unknown && std::isfinite(box.x0) &&
-           std::isfinite(box.y0) && std::isfinite(box.x1) && std::isfinite(box.y1);
+           std::isfinite(box.y0) && std::isfinite(box.x1) && std::isfinite(box.y1) &&
+           std::isfinite(character.origin.x) && std::isfinite(character.origin.y);
 }
 
-PDFTextLine lineFrom(const fz_stext_line& source, std::size_t& characters) {
+// Many documents leave it to the font's name.
+bool isMonospaced(fz_context* ctx, fz_font* font) {
+    if (fz_font_is_monospaced(ctx, font))
+        return true;
+    const auto name = QLatin1String(fz_font_name(ctx, font));
+    for (const char* part :
+         {"Courier", "Mono", "NimbusMon", "Typewriter", "Consola", "Menlo", "cmtt", "sftt"}) {
+        if (name.contains(QLatin1String(part), Qt::CaseInsensitive))
+            return true;
+    }
+    return false;
+}
+
+int styleOf(fz_context* ctx, fz_font* font) {
+    return (fz_font_is_bold(ctx, font) ? boldText : plainText) |
+           (fz_font_is_italic(ctx, font) ? italicText : plainText) |
+           (isMonospaced(ctx, font) ? monospacedText : plainText);
+}
+
+double sizeOf(const fz_stext_char& character) {
+    return std::isfinite(character.size) ? std::max(0.0, double(character.size)) : 0;
+}
+
+PDFTextLine lineFrom(fz_context* ctx, const fz_stext_line& source, std::size_t& characters) {
     PDFTextLine line;
     line.turn = turnOf(source.dir);
     const bool upright = line.turn % 180 == 0;
     QRectF box;
+    double largest = -1; // raised and lowered letters are smaller; a blank may follow one of them
     std::vector<PDFTextCharacter> found;
+    const fz_font* font = nullptr; // of the style
+    int style = plainText;
     for (const fz_stext_char* character = source.first_char;
          character && characters < PDFLimits::maxPageCharacters; character = character->next) {
         if (!isUsable(*character))
@@ -33,8 +61,17 @@ PDFTextLine lineFrom(const fz_stext_line& source, std::size_t& characters) {
         ++characters;
         const fz_rect place = fz_rect_from_quad(character->quad);
         box |= QRectF(place.x0, place.y0, double(place.x1) - place.x0, double(place.y1) - place.y0);
-        found.push_back(
-            {char32_t(character->c), upright ? place.x0 : place.y0, upright ? place.x1 : place.y1});
+        const double size = sizeOf(*character);
+        if (size > largest && !QChar::isSpace(char32_t(character->c))) {
+            largest = size;
+            line.baseline = upright ? character->origin.y : character->origin.x;
+        }
+        if (character->font != font) {
+            font = character->font;
+            style = styleOf(ctx, character->font);
+        }
+        found.push_back({char32_t(character->c), upright ? place.x0 : place.y0,
+                         upright ? place.x1 : place.y1, size, style});
     }
     if (found.empty())
         return line;
@@ -58,8 +95,9 @@ std::vector<PDFTextLine> DrawablePage::text() const {
         if (block->type != FZ_STEXT_BLOCK_TEXT)
             continue;
         for (const fz_stext_line* line = block->u.t.first_line; line; line = line->next) {
-            PDFTextLine found = lineFrom(*line, characters);
+            PDFTextLine found = lineFrom(page.engine.context, *line, characters);
             found.box.translate(-page.bounds.x0, -page.bounds.y0);
+            found.baseline -= found.turn % 180 == 0 ? page.bounds.y0 : page.bounds.x0;
             if (!found.words.empty())
                 lines.push_back(std::move(found));
         }

@@ -55,15 +55,17 @@ void describe(Archive& archive, PDFOutlineNode& node) {
 
 template <class Archive>
 void describe(Archive& archive, PDFTextWord& word) {
-    archive(word.text, word.start, word.length);
+    archive(word.text, word.start, word.length, word.size, word.style);
     archive.require(std::isfinite(word.start) && std::isfinite(word.length));
+    archive.require(std::isfinite(word.size) && word.size >= 0);
+    archive.require(word.style >= 0 && word.style <= (boldText | italicText | monospacedText));
 }
 
 template <class Archive>
 void describe(Archive& archive, PDFTextLine& line) {
-    archive(line.box, line.turn, line.rightToLeft, line.words);
+    archive(line.box, line.turn, line.rightToLeft, line.words, line.baseline);
     archive.require(line.turn == 0 || line.turn == 90 || line.turn == 180 || line.turn == 270);
-    archive.require(isFinite(line.box));
+    archive.require(isFinite(line.box) && std::isfinite(line.baseline));
 }
 
 class Writer {

@@ -14,6 +14,8 @@ struct Cluster {
     double from;
     double to;
     Direction direction;
+    double size;
+    int style;
 };
 
 Direction directionOf(char32_t code) {
@@ -66,7 +68,7 @@ std::vector<Cluster> clustersOf(const std::vector<PDFTextCharacter>& characters)
             clusters.back().text += textOf(character.code);
         else
             clusters.push_back({textOf(character.code), character.from, character.to,
-                                directionOf(character.code)});
+                                directionOf(character.code), character.size, character.style});
     }
     return clusters;
 }
@@ -128,7 +130,8 @@ void PDFText::makeWords(const std::vector<PDFTextCharacter>& characters, double 
         }
         const bool alone = isOfUnspacedScript(cluster.text);
         if (begins || alone)
-            line.words.push_back({QString(), cluster.from - lineStart, 0});
+            line.words.push_back(
+                {QString(), cluster.from - lineStart, 0, cluster.size, cluster.style});
         PDFTextWord& word = line.words.back();
         const double from = std::min(word.start, cluster.from - lineStart);
         const double to = std::max(word.start + word.length, cluster.to - lineStart);

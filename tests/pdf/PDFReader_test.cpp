@@ -124,7 +124,9 @@ TEST(PDFSerialization, RefusesNumbersThatMakeNoSense) {
         EXPECT_EQ(failureWith(PDFPage{{}, box, 0, {}, {}}), garbled);
         EXPECT_EQ(failureWith(std::vector{PDFAnnotation{"Link", box, {}, 1}}), garbled);
     }
-    for (const PDFTextWord& word : {PDFTextWord{"x", none, 0}, PDFTextWord{"x", 0, none}})
+    for (const PDFTextWord& word :
+         {PDFTextWord{"x", none, 0}, PDFTextWord{"x", 0, none}, PDFTextWord{"x", 0, 0, none},
+          PDFTextWord{"x", 0, 0, -1}, PDFTextWord{"x", 0, 0, 9, -1}, PDFTextWord{"x", 0, 0, 9, 8}})
         EXPECT_EQ(failureWith(lines({}, 0, word)), garbled);
     for (const int rotation : {-1, 360})
         EXPECT_EQ(failureWith(PDFPage{{}, {}, rotation, {}, {}}), garbled);
