@@ -20,6 +20,7 @@ pdf
 drawing template annotations
 pages
 output
+webbook/reading
 webbook
 library
 library/search library/catalogue

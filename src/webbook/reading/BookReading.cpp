@@ -1,0 +1,207 @@
+#include "webbook/reading/BookReading.h"
+
+#include "webbook/reading/RunningHeads.h"
+
+#include <cmath>
+#include <utility>
+
+namespace {
+
+using Kind = ReadingBlock::Kind;
+using List = std::vector<ReadingParagraph>;
+
+bool endsSentence(const QString& text) {
+    static const QString ends = QStringLiteral(".!?:。！？؟۔…");
+    static const QString quotes = QStringLiteral("\"'”’»)]」』）");
+    for (auto letter = text.crbegin(); letter != text.crend(); ++letter) {
+        if (!quotes.contains(*letter) && !letter->isSpace())
+            return ends.contains(*letter);
+    }
+    return true;
+}
+
+bool startsLower(const QString& text) {
+    for (const QChar letter : text) {
+        if (letter.isLetterOrNumber())
+            return letter.isLower();
+    }
+    return false;
+}
+
+// Chinese and Japanese have no small letters.
+bool startsWithin(const ReadingParagraph& paragraph) {
+    const QString& text = paragraph.lines.front().text;
+    return startsLower(text) || (!paragraph.isIndented && isUnspaced(text.front()));
+}
+
+bool haveSameLook(const ReadingLine& a, const ReadingLine& b) {
+    return std::abs(a.size - b.size) <= 0.04 * std::max(a.size, b.size) &&
+           a.isBold() == b.isBold() && a.rightToLeft == b.rightToLeft;
+}
+
+// Whether a paragraph goes on in the first one of the next column or page.
+// Of the last line on a page, for the width of the next column: a caption is shorter.
+constexpr double leastLength = 0.6;
+
+// Where paragraphs begin with an indent, one without goes on even after the end of a sentence.
+bool goesOn(const ReadingParagraph& a, const ReadingParagraph& b, bool areIndented) {
+    const ReadingLine& last = a.lines.back();
+    const ReadingLine& next = b.lines.front();
+    if (!haveSameLook(last, next) || Paragraphs::wouldFit(last, a.right, next) ||
+        last.right - last.left < leastLength * (b.right - next.left))
+        return false;
+    if (!endsSentence(last.text))
+        return startsWithin(b) || (!b.isIndented && next.text.front().isLetter());
+    return areIndented && !b.isIndented;
+}
+
+bool isText(const ReadingParagraph& paragraph) {
+    return paragraph.kind == Kind::paragraph || paragraph.kind == Kind::listItem;
+}
+
+// The paragraph in which the last one of the list goes on: the first text of the next column, or
+// behind what stands above it there.
+std::size_t continuationOf(const ReadingParagraph& open, const List& next, bool areIndented) {
+    constexpr std::size_t furthest = 24;
+    for (std::size_t i = 0; i < std::min(furthest, next.size()); ++i) {
+        const ReadingParagraph& candidate = next[i];
+        if (candidate.kind != Kind::paragraph || !goesOn(open, candidate, areIndented))
+            continue;
+        const bool isCertain = !endsSentence(open.lines.back().text) && startsWithin(candidate);
+        if (i == 0 ? isCertain || candidate.lines.size() > 1 : isCertain)
+            return i;
+    }
+    return next.size();
+}
+
+void append(ReadingParagraph& to, ReadingParagraph&& from) {
+    to.right = from.right;
+    to.endsRegion = from.endsRegion;
+    for (ReadingLine& line : from.lines)
+        to.lines.push_back(std::move(line));
+}
+
+// Collects a book's paragraphs, region by region, and joins those that go on.
+class Flow {
+public:
+    explicit Flow(const TextMeasure& measure) : iMeasure(measure) {}
+
+    void add(ReadingPage&& page);
+    List take() { return std::move(iAll); }
+
+private:
+    void add(List region);
+    bool areIndented() const { return iIndented >= 4 && iIndented > 0.3 * iLong; }
+
+    const TextMeasure& iMeasure;
+    List iAll;
+    List iNotes;               // of the page
+    int iLong = 0;             // paragraphs of several lines so far
+    int iIndented = 0;         // those whose first line is indented
+    std::ptrdiff_t iOpen = -1; // the last paragraph of text, which may go on
+};
+
+void Flow::add(List region) {
+    List rest;
+    for (ReadingParagraph& paragraph : region)
+        (paragraph.kind == Kind::footnote ? iNotes : rest).push_back(std::move(paragraph));
+    if (rest.empty())
+        return;
+    rest.back().endsRegion = true;
+    if (iOpen >= 0 && !iMeasure.isLarge(iAll[std::size_t(iOpen)].lines.front().size)) {
+        ReadingParagraph& open = iAll[std::size_t(iOpen)];
+        if (const std::size_t i = continuationOf(open, rest, areIndented()); i < rest.size()) {
+            append(open, std::move(rest[i]));
+            rest.erase(rest.begin() + std::ptrdiff_t(i));
+        }
+    }
+    for (ReadingParagraph& paragraph : rest) {
+        if (paragraph.kind == Kind::paragraph && paragraph.lines.size() > 1) {
+            ++iLong;
+            iIndented += paragraph.isIndented ? 1 : 0;
+        }
+        // A page of figures does not end a paragraph.
+        const bool mayBeLabel = iOpen >= 0 && paragraph.lines.size() < 2;
+        if (isText(paragraph) && !mayBeLabel)
+            iOpen = paragraph.endsRegion ? std::ssize(iAll) : -1;
+        iAll.push_back(std::move(paragraph));
+    }
+}
+
+void Flow::add(ReadingPage&& page) {
+    for (ReadingRegion& region : page.regions)
+        add(Paragraphs::of(std::move(region), iMeasure));
+    for (ReadingParagraph& note : std::exchange(iNotes, {}))
+        iAll.push_back(std::move(note));
+}
+
+// Blanks before a line of code.
+QString indentOf(const ReadingLine& line, double left) {
+    const double letter =
+        (line.right - line.left) / double(std::max<qsizetype>(1, line.text.size()));
+    constexpr double most = 80;
+    const double blanks = letter > 0 ? (line.left - left) / letter : 0;
+    return QString(int(std::lround(std::clamp(blanks, 0.0, most))), u' ');
+}
+
+void indentCode(ReadingParagraph& paragraph) {
+    double left = paragraph.lines.front().left;
+    for (const ReadingLine& line : paragraph.lines)
+        left = std::min(left, line.left);
+    for (ReadingLine& line : paragraph.lines)
+        line.runs.front().text.prepend(indentOf(line, left));
+}
+
+void replaceTabs(ReadingLine& line) {
+    for (ReadingRun& run : line.runs)
+        run.text.replace(u'\t', u' ');
+    line.text.replace(u'\t', u' ');
+}
+
+ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
+    ReadingBlock block;
+    block.kind = paragraph.kind;
+    block.level = paragraph.level;
+    block.rightToLeft = paragraph.lines.front().rightToLeft;
+    if (block.kind == Kind::code)
+        indentCode(paragraph);
+    for (ReadingLine& line : paragraph.lines) {
+        if (block.kind != Kind::tableRow)
+            replaceTabs(line);
+        if (line.position() == paragraph.lines.front().position())
+            block.box |= line.box;
+        if (block.runs.empty())
+            block.runs = line.runs;
+        else
+            join.append(block, line);
+    }
+    return block;
+}
+
+} // namespace
+
+void BookReading::addPage(int position, const std::vector<PDFTextLine>& lines,
+                          const std::vector<PageLayout::Link>& links) {
+    iPages.push_back(PageLayout::of(position, lines, links));
+}
+
+std::vector<ReadingBlock> BookReading::finish(const std::vector<Headings::Entry>& outline) {
+    std::vector<ReadingPage> pages = std::exchange(iPages, {});
+    RunningHeads::remove(pages);
+    const TextMeasure measure = TextMeasure::of(pages);
+    LineJoin join;
+    Flow flow(measure);
+    for (ReadingPage& page : pages) {
+        for (const ReadingRegion& region : page.regions) {
+            for (const ReadingLine& line : region.lines)
+                join.learn(line);
+        }
+        flow.add(std::move(page));
+    }
+    List paragraphs = flow.take();
+    Headings::mark(paragraphs, measure, outline);
+    std::vector<ReadingBlock> blocks;
+    for (ReadingParagraph& paragraph : paragraphs)
+        blocks.push_back(blockFrom(std::move(paragraph), join));
+    return blocks;
+}

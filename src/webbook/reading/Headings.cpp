@@ -1,0 +1,148 @@
+#include "webbook/reading/Headings.h"
+
+#include "webbook/reading/ListMarker.h"
+
+#include <QHash>
+#include <QRegularExpression>
+#include <cmath>
+#include <map>
+
+namespace Headings {
+namespace {
+
+using Kind = ReadingBlock::Kind;
+
+constexpr std::size_t mostLines = 4;
+constexpr qsizetype mostLetters = 220;
+constexpr int deepest = 6;
+
+// Larger ones first.
+struct Look {
+    int size; // in half points, negative
+    bool isPlain;
+
+    auto operator<=>(const Look&) const = default;
+};
+
+Look lookOf(const ReadingParagraph& paragraph) {
+    const ReadingLine& line = paragraph.lines.front();
+    return {-int(std::lround(2 * line.size)), !line.isBold()};
+}
+
+QString textOf(const ReadingParagraph& paragraph) {
+    QString text;
+    for (const ReadingLine& line : paragraph.lines)
+        text += line.text;
+    return text;
+}
+
+// The depth of a number such as 2.1; 0 for none.
+int depthOf(const QString& text) {
+    static const QRegularExpression number(
+        QStringLiteral("^\\d{1,2}((?:\\.\\d{1,2})*)\\.?\\s+\\S"));
+    const auto match = number.match(text);
+    return match.hasMatch() ? int(match.captured(1).count(u'.')) + 1 : 0;
+}
+
+// Letters and digits only, as outlines and pages differ in numbering and blanks.
+QString folded(const QString& title) {
+    static const QRegularExpression number(QStringLiteral("^[\\s\\d.]+(?=\\S)"));
+    QString kept;
+    for (const QChar letter : title.normalized(QString::NormalizationForm_KC).toLower()) {
+        if (letter.isLetterOrNumber())
+            kept += letter;
+    }
+    const QString plain = QString(title).remove(number);
+    if (plain.size() == title.size())
+        return kept;
+    qsizetype digits = 0;
+    while (digits < kept.size() && kept[digits].isDigit())
+        ++digits;
+    return digits < kept.size() ? kept.mid(digits) : kept;
+}
+
+bool hasShape(const ReadingParagraph& paragraph) {
+    const QString text = textOf(paragraph);
+    return (paragraph.kind == Kind::paragraph || paragraph.kind == Kind::listItem) &&
+           paragraph.lines.size() <= mostLines && text.size() <= mostLetters;
+}
+
+bool hasLetter(const QString& text) {
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+}
+
+// Whether a paragraph looks like a heading to readers. A bold one is followed by other text.
+bool looksLikeHeading(const ReadingParagraph& paragraph, const ReadingParagraph* next,
+                      const TextMeasure& measure) {
+    const ReadingLine& line = paragraph.lines.front();
+    const QString text = textOf(paragraph);
+    if (!hasShape(paragraph) || !hasLetter(text))
+        return false;
+    const ListMarker marker = listMarkerOf(text);
+    if (marker == ListMarker::bullet || marker == ListMarker::dash)
+        return false;
+    if (measure.isLarge(line.size))
+        return paragraph.kind == Kind::paragraph || line.isBold() || !next ||
+               !measure.isLarge(next->lines.front().size);
+    const bool isBold = std::all_of(paragraph.lines.begin(), paragraph.lines.end(),
+                                    [](const ReadingLine& each) { return each.isBold(); });
+    const bool isSentence = text.endsWith(u'.') || text.endsWith(u',') || text.endsWith(u';');
+    return isBold && !isSentence && !measure.isSmall(line.size) && paragraph.lines.size() <= 2 &&
+           next && next->kind != Kind::tableRow && !measure.isCode(line);
+}
+
+// The levels of looks: as in the outline, and between those by size.
+std::map<Look, int> levelsOf(const std::map<Look, std::map<int, int>>& looks) {
+    std::map<Look, int> levels;
+    int level = 0;
+    for (const auto& [look, counts] : looks) {
+        const auto usual =
+            std::max_element(counts.begin(), counts.end(),
+                             [](const auto& a, const auto& b) { return a.second < b.second; });
+        // 0 stands for headings that are not in the outline.
+        if (usual->first > 0)
+            level = std::max(level, usual->first);
+        else
+            ++level;
+        levels[look] = std::min(level, deepest);
+    }
+    return levels;
+}
+
+} // namespace
+
+void mark(std::vector<ReadingParagraph>& paragraphs, const TextMeasure& measure,
+          const std::vector<Entry>& outline) {
+    QHash<QString, std::vector<const Entry*>> byTitle;
+    for (const Entry& entry : outline)
+        byTitle[folded(entry.title)].push_back(&entry);
+    const auto levelInOutline = [&](const ReadingParagraph& paragraph) {
+        const auto found = byTitle.constFind(folded(textOf(paragraph)));
+        if (found == byTitle.constEnd() || !hasShape(paragraph))
+            return 0;
+        for (const Entry* entry : *found) {
+            if (std::abs(entry->position - paragraph.lines.front().position()) <= 1)
+                return std::min(entry->level, deepest);
+        }
+        return 0;
+    };
+    std::map<Look, std::map<int, int>> looks;
+    for (std::size_t i = 0; i < paragraphs.size(); ++i) {
+        ReadingParagraph& paragraph = paragraphs[i];
+        const ReadingParagraph* next = i + 1 < paragraphs.size() ? &paragraphs[i + 1] : nullptr;
+        paragraph.level = outline.empty() ? 0 : levelInOutline(paragraph);
+        if (paragraph.level == 0 && !looksLikeHeading(paragraph, next, measure))
+            continue;
+        paragraph.kind = Kind::heading;
+        if (outline.empty())
+            paragraph.level = std::min(depthOf(textOf(paragraph)), deepest);
+        ++looks[lookOf(paragraph)][paragraph.level];
+    }
+    const auto levels = levelsOf(looks);
+    for (ReadingParagraph& paragraph : paragraphs) {
+        if (paragraph.kind == Kind::heading && paragraph.level == 0)
+            paragraph.level = levels.at(lookOf(paragraph));
+    }
+}
+
+} // namespace Headings

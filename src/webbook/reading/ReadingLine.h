@@ -1,0 +1,54 @@
+#pragma once
+
+#include "webbook/reading/ReadingBlock.h"
+
+#include <algorithm>
+#include <vector>
+
+// One line of text as it is read: whatever its direction on the page, it runs along from smaller to
+// larger numbers, and the next line has a larger baseline. In points.
+struct ReadingLine {
+    double left = 0;
+    double right = 0;
+    double baseline = 0;
+    double size = 0; // of most of its letters
+    int style = 0;   // what is true of all of its letters
+    // Of the first and the last word.
+    int firstStyle = 0;
+    int lastStyle = 0;
+    double firstLength = 0;
+    // Where its second word starts; right for a single word.
+    double second = 0;
+    bool startsRaised = false; // the first letters are smaller, as a footnote's number is
+    bool rightToLeft = false;
+    int cells = 1; // parts with wide gaps between them, which are tabs in the text
+    QRectF box;    // as displayed
+    QString text;
+    std::vector<ReadingRun> runs; // its text in parts
+
+    bool isBold() const { return (style & boldText) != 0; }
+    bool isMonospaced() const { return (style & monospacedText) != 0; }
+    int position() const { return runs.empty() ? 0 : runs.front().position; }
+};
+
+// Lines below each other, such as those of a column, from top to bottom.
+struct ReadingRegion {
+    std::vector<ReadingLine> lines;
+
+    double left() const {
+        return std::min_element(lines.begin(), lines.end(),
+                                [](const auto& a, const auto& b) { return a.left < b.left; })
+            ->left;
+    }
+    double right() const {
+        return std::max_element(lines.begin(), lines.end(),
+                                [](const auto& a, const auto& b) { return a.right < b.right; })
+            ->right;
+    }
+};
+
+// The lines of a page. No region is empty.
+struct ReadingPage {
+    int position = 0; // in the book, one-based
+    std::vector<ReadingRegion> regions;
+};
