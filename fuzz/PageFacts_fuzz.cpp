@@ -3,6 +3,7 @@
 #include "webbook/StartList.h"
 #include "webbook/WebBook.h"
 #include "webbook/WebPageText.h"
+#include "webbook/reading/BookReading.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -56,7 +57,7 @@ void checkStartList(const std::shared_ptr<PDFDocument>& document) {
     book.complete({});
     const int start = book.metadata.start;
     Fuzz::require(start >= 0 && start <= document->pageCount(), "it opens at one of its pages");
-    const QByteArray json = StartList::json(book, 1);
+    const QByteArray json = StartList::json(book, {1, {}});
     Fuzz::require(!json.contains('<') && !json.contains('$'), "a list is safe in its page");
     QStringList labels;
     for (const QJsonValue& run : QJsonDocument::fromJson(json)["facts"]["labels"].toArray()) {
@@ -69,9 +70,22 @@ void checkStartList(const std::shared_ptr<PDFDocument>& document) {
                   "runs of labels are those of the pages");
 }
 
+// However words lie on their page.
+void checkReading(const std::vector<PDFTextLine>& lines,
+                  const std::vector<PageLayout::Link>& links) {
+    BookReading reading;
+    reading.addPage(1, lines, links);
+    for (const ReadingBlock& block : reading.finish({})) {
+        Fuzz::require(block.position() == 1 && !block.text().isEmpty(), "a block has text");
+        Fuzz::require(block.level >= 0 && block.level <= 6, "a heading has a level");
+    }
+}
+
 void checkText(const PDFDocument& document, const std::vector<PDFTextLine>& lines) {
-    const QJsonObject text = WebPageText::asJson(document.page(0), lines, document.annotations(0),
-                                                 [](int) { return 0; });
+    const auto links =
+        WebPageText::linksOf(document.page(0), document.annotations(0), [](int) { return 0; });
+    const QJsonObject text = WebPageText::asJson(document.page(0), lines, links);
+    checkReading(lines, links);
     constexpr int furthest = 1'000'000'000; // in tenths of a point
     const QJsonArray size = text["size"].toArray();
     for (const QJsonValue& link : text["links"].toArray()) {

@@ -39,6 +39,10 @@ QString BookLayout::searchPart(int part) {
     return part == 0 ? searchText : in(search, QStringLiteral("text-%1.js").arg(part));
 }
 
+QString BookLayout::readingPart(int part) {
+    return in(reading, QStringLiteral("text-%1.js").arg(part));
+}
+
 QString BookLayout::offlinePart(int part) {
     return in(webData, QStringLiteral("offline-%1.json").arg(part));
 }
@@ -64,7 +68,7 @@ QStringList BookLayout::offlineFiles() {
 QString BookLayout::namesIn(const QString& folder) {
     if (folder == webData)
         return QStringLiteral("offline-[1-9][0-9]*\\.json");
-    if (folder == search)
+    if (folder == search || folder == reading)
         return QStringLiteral("text-[1-9][0-9]*\\.js");
     QString extension = QStringLiteral("[A-Za-z0-9]{1,5}");
     if (folder == largePages)
@@ -91,7 +95,8 @@ bool BookLayout::isData(const QString& path) {
         return std::any_of(folders.begin(), folders.end(),
                            [&](const QString& folder) { return isIn(folder, path); });
     };
-    return isInOne({texts, search, webData, largePages}) && Files::pathExtension(path) == script;
+    return isInOne({texts, search, reading, webData, largePages}) &&
+           Files::pathExtension(path) == script;
 }
 
 QString BookLayout::inFiles(const QString& path) {

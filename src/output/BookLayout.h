@@ -19,6 +19,7 @@ public:
     static inline const QString thumbnails = QStringLiteral("thumb");
     static inline const QString texts = QStringLiteral("text");
     static inline const QString search = QStringLiteral("search");
+    static inline const QString reading = QStringLiteral("reading");
     static inline const QString webData = QStringLiteral("web");
     static inline const QString settingsFiles = QStringLiteral("extfiles");
     static inline const QString linkedFiles = QStringLiteral("pageConfig");
@@ -54,6 +55,8 @@ public:
     static QString text(int number);
     // A part of the text for searching, from 0.
     static QString searchPart(int part);
+    // A part of the text's structure, from 1.
+    static QString readingPart(int part);
     // A part of the list of files that readers can save.
     static QString offlinePart(int part);
 

@@ -149,7 +149,8 @@ QStringList ExistingBook::files(const QString& folder) {
     }
     if (isWebBook)
         names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData)
-              << numberedFiles(folder, BookLayout::search);
+              << numberedFiles(folder, BookLayout::search)
+              << numberedFiles(folder, BookLayout::reading);
     if (isIIIFManifest(Files::join(folder, BookLayout::iiifManifest)))
         names << BookLayout::iiifManifest;
     return names;

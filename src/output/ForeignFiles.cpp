@@ -85,7 +85,7 @@ QStringList ForeignFiles::ofWebBook(const BookLayout& book) {
                        BookLayout::metadata, BookLayout::icon, BookLayout::offlineScript,
                        BookLayout::offlineList, BookLayout::searchText, BookLayout::shareImage});
     for (const auto& folder : {BookLayout::thumbnails, BookLayout::largePages, BookLayout::texts,
-                               BookLayout::webData, BookLayout::search})
+                               BookLayout::webData, BookLayout::search, BookLayout::reading})
         found += inFiles(book, folder, BookLayout::namesIn(folder));
     return found;
 }

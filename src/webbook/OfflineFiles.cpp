@@ -45,7 +45,8 @@ Kind kindOf(const QString& path, const QString& page) {
     if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configuration ||
         path == BookLayout::configurationScript || path == BookLayout::shareImage)
         return Kind::none;
-    if (BookLayout::isIn(BookLayout::largePages, path) || path == BookLayout::textPage ||
+    if (BookLayout::isIn(BookLayout::largePages, path) ||
+        BookLayout::isIn(BookLayout::reading, path) || path == BookLayout::textPage ||
         path == BookLayout::vectorScript)
         return Kind::last;
     if (BookLayout::isIn(BookLayout::pages, path))

@@ -4,18 +4,30 @@
 #include "webbook/WebBookMetadata.h"
 
 #include <QUrl>
+#include <algorithm>
 #include <cerrno>
 
 namespace {
 
 constexpr char style[] =
     "font:17px/1.6 "
-    "Georgia,serif;color:#222;background:#fff}h1{font-size:1.7em;line-height:1.25}h2{font:600 "
-    ".85em/1 system-ui,sans-serif;"
-    "color:#666;margin:2.5em 0 1em;border-top:1px solid #ddd;padding-top:1em}"
-    "p{white-space:pre-line}a{color:#1d5a86}"
+    "Georgia,serif;color:#222;background:#fff}h1{font-size:1.7em}h1,h2,h3,h4,h5,h6{line-height:1."
+    "25}"
+    "ul{list-style:none;padding:0 0 0 1em}pre{overflow-x:auto;font-size:.85em}"
+    "td{padding:0 1em 0 0;vertical-align:top}.note{font-size:.85em}"
+    ".page{font:600 .7em system-ui,sans-serif;color:#666;text-decoration:none;border:1px solid "
+    "#ccc;"
+    "border-radius:.3em;padding:0 .4em;margin-inline-end:.4em}a{color:#1d5a86}"
     "@media(prefers-color-scheme:dark){body{background:#16181b;color:#ddd}a{color:#8cc2ea}"
-    "h2{color:#aaa;border-color:#333}}";
+    ".page{color:#aaa;border-color:#444}}";
+
+// As the player: a document's other addresses lead nowhere.
+bool mayFollow(const QString& url) {
+    static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
+                                     QStringLiteral("mailto"), QStringLiteral("tel")};
+    const QUrl address(url, QUrl::StrictMode);
+    return address.isValid() && schemes.contains(address.scheme());
+}
 
 QByteArray escaped(const QString& text) {
     return text.toHtmlEscaped().toUtf8();
@@ -32,9 +44,8 @@ void PlainTextPage::attempt(Action action) {
 
 PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book,
                              const QString& path)
-    : iMetadata(metadata), iFile(path) {
+    : iMetadata(metadata), iAddress(QUrl::toPercentEncoding(book)), iFile(path) {
     attempt([this] { return iFile.open(QIODevice::WriteOnly); });
-    const QByteArray address = QUrl::toPercentEncoding(book);
     const BookFacts& facts = metadata.facts;
     const QByteArray language =
         escaped(facts.language.isEmpty() ? QStringLiteral("en") : facts.language);
@@ -45,25 +56,92 @@ PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& boo
           escaped(facts.title) +
           "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
           "<link rel=\"canonical\" href=\"" +
-          address + ExistingBook::textPageMark + style +
-          "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + address + "\">" +
+          iAddress + ExistingBook::textPageMark + style +
+          "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + iAddress + "\">" +
           escaped(facts.title) + "</a></h1>\n");
     if (!facts.author.isEmpty())
         write("<p>" + escaped(facts.author) + "</p>\n");
 }
 
-void PlainTextPage::addPage(const QString& text) {
-    const QString label = iMetadata.labels.value(iPosition);
-    ++iPosition;
-    const QString name = label.isEmpty() ? QString::number(iPosition) : label;
-    write("<section id=\"page-" + QByteArray::number(iPosition) + "\"><h2>" + escaped(name) +
-          "</h2>\n");
-    if (!text.isEmpty())
-        write("<p dir=\"auto\">" + escaped(text) + "</p>\n");
-    write("</section>\n");
+// The link at the beginning of a page.
+QByteArray PlainTextPage::mark(int position) const {
+    const QString label = iMetadata.labels.value(position - 1);
+    const QByteArray number = QByteArray::number(position);
+    return "<a class=\"page\" id=\"page-" + number + "\" href=\"" + iAddress + "#page=" + number +
+           "\">" + (label.isEmpty() ? number : escaped(label)) + "</a>";
+}
+
+// Of the pages after the last one that was begun; those that are not included have none.
+QByteArray PlainTextPage::marksUpTo(int position) {
+    QByteArray marks;
+    while (iPosition < position) {
+        if (iMetadata.isOpen(++iPosition))
+            marks += mark(iPosition);
+    }
+    return marks;
+}
+
+void PlainTextPage::enter(Group group) {
+    if (group == iGroup)
+        return;
+    if (iGroup != Group::none)
+        write(iGroup == Group::list ? "</ul>\n" : "</table>\n");
+    if (group != Group::none)
+        write(group == Group::list ? "<ul>\n" : "<table>\n");
+    iGroup = group;
+}
+
+QByteArray PlainTextPage::html(const ReadingRun& run, bool isPlain) const {
+    QByteArray html = escaped(run.text).replace("\t", "</td><td>");
+    if (!isPlain && (run.style & italicText))
+        html = "<i>" + html + "</i>";
+    if (!isPlain && (run.style & boldText))
+        html = "<b>" + html + "</b>";
+    if (run.target > 0)
+        return "<a href=\"#page-" + QByteArray::number(run.target) + "\">" + html + "</a>";
+    if (!run.url.isEmpty() && mayFollow(run.url))
+        return "<a href=\"" + escaped(run.url) + "\">" + html + "</a>";
+    return html;
+}
+
+QByteArray PlainTextPage::html(const ReadingBlock& block) {
+    // Cells end within what they contain.
+    const bool isPlain = block.kind == ReadingBlock::Kind::heading ||
+                         block.kind == ReadingBlock::Kind::code ||
+                         block.kind == ReadingBlock::Kind::tableRow;
+    QByteArray text;
+    for (const ReadingRun& run : block.runs)
+        text += marksUpTo(run.position) + html(run, isPlain);
+    return text;
+}
+
+void PlainTextPage::add(const ReadingBlock& block) {
+    using Kind = ReadingBlock::Kind;
+    const QByteArray side = block.rightToLeft ? " dir=\"rtl\">" : ">";
+    if (block.kind == Kind::listItem) {
+        enter(Group::list);
+        write("<li" + side + html(block) + "</li>\n");
+    } else if (block.kind == Kind::tableRow) {
+        enter(Group::table);
+        write("<tr" + side + "<td>" + html(block) + "</td></tr>\n");
+    } else {
+        enter(Group::none);
+        // The page's title is its only heading of the first level.
+        constexpr int deepest = 6;
+        QByteArray name = "p";
+        if (block.kind == Kind::heading)
+            name = "h" + QByteArray::number(std::min(block.level + 1, deepest));
+        else if (block.kind == Kind::code)
+            name = "pre";
+        write("<" + name + (block.kind == Kind::footnote ? " class=\"note\"" : "") + side +
+              html(block) + "</" + name + ">\n");
+    }
 }
 
 Message PlainTextPage::finish() {
+    enter(Group::none);
+    if (const QByteArray marks = marksUpTo(int(iMetadata.numbers.size())); !marks.isEmpty())
+        write("<p>" + marks + "</p>\n");
     write("</main>\n</body>\n</html>\n");
     attempt([this] { return iFile.flush(); });
     return iError;

@@ -106,9 +106,9 @@ QJsonArray runsOf(const QStringList& labels) {
     return array;
 }
 
-QJsonObject factsOf(const WebBook& book, int searchParts) {
+QJsonObject factsOf(const WebBook& book, const TextParts& parts) {
     const FlashOutline* outline = book.content.outline.get();
-    QJsonObject facts = book.metadata.forPlayer(nullptr, searchParts);
+    QJsonObject facts = book.metadata.forPlayer(nullptr, parts);
     // The list of pages has these.
     facts.remove(QStringLiteral("large"));
     facts.remove(QStringLiteral("numbers"));
@@ -119,7 +119,7 @@ QJsonObject factsOf(const WebBook& book, int searchParts) {
 
 } // namespace
 
-QByteArray StartList::json(const WebBook& book, int searchParts) {
+QByteArray StartList::json(const WebBook& book, const TextParts& parts) {
     if (book.pages.empty())
         return {};
     const auto first = book.configuration(1);
@@ -127,7 +127,7 @@ QByteArray StartList::json(const WebBook& book, int searchParts) {
         {QStringLiteral("settings"),
          QString::fromLatin1(BookXML::enciphered(*first, pugi::format_raw).toBase64())},
         {QStringLiteral("sizes"), sizesIn(*first)},
-        {QStringLiteral("facts"), factsOf(book, searchParts)}};
+        {QStringLiteral("facts"), factsOf(book, parts)}};
     addPages(list, book);
     // The page passes through a text template, whose placeholders begin with it.
     return WebScript::json(list).replace('$', "\\u0024");

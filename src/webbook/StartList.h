@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 
+struct TextParts;
 struct WebBook;
 
 // What a web book opens with: its settings, its metadata without the outline, and all pages, with
@@ -9,7 +10,6 @@ struct WebBook;
 namespace StartList {
 
 // As JSON, safe inside a script element and in a text template; null for a book without pages.
-// searchParts: the number of files with text to search, 0 for no text.
-QByteArray json(const WebBook& book, int searchParts);
+QByteArray json(const WebBook& book, const TextParts& parts);
 
 } // namespace StartList

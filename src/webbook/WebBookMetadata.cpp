@@ -69,6 +69,13 @@ QByteArray meta(const char* kind, const char* name, const QString& content) {
            content.toHtmlEscaped().toUtf8() + "\">\n";
 }
 
+QJsonArray arrayOf(const std::vector<int>& numbers) {
+    QJsonArray array;
+    for (const int number : numbers)
+        array.append(number);
+    return array;
+}
+
 QByteArray link(const char* kind, const QString& page) {
     if (page.isEmpty())
         return {};
@@ -86,26 +93,24 @@ bool WebBookMetadata::isOpen(int position) const {
     return !open || isWithin(*open, position);
 }
 
-QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, int searchParts) const {
+QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, const TextParts& parts) const {
     QJsonObject object{{QStringLiteral("version"), 1},
                        {QStringLiteral("large"), QJsonArray::fromStringList(large)},
-                       {QStringLiteral("text"), searchParts > 0},
+                       {QStringLiteral("text"), parts.search > 0},
                        {QStringLiteral("language"), facts.language},
                        {QStringLiteral("open"), openRuns(*this)},
                        {QStringLiteral("textPage"), textPage},
                        {QStringLiteral("offline"), offline},
                        {QStringLiteral("numbers"), QJsonValue::Null},
                        {QStringLiteral("labels"), QJsonValue::Null}};
-    if (searchParts > 1)
-        object[QStringLiteral("searchParts")] = searchParts;
+    if (parts.search > 1)
+        object[QStringLiteral("searchParts")] = parts.search;
+    if (!parts.reading.empty())
+        object[QStringLiteral("reading")] = arrayOf(parts.reading);
     object[QStringLiteral("outline")] =
         outline ? outlineOf(outline->items(), *this, 0) : QJsonArray();
-    if (!numbers.empty() && numbers.back() != int(numbers.size())) {
-        QJsonArray array;
-        for (const int number : numbers)
-            array.append(number);
-        object[QStringLiteral("numbers")] = array;
-    }
+    if (!numbers.empty() && numbers.back() != int(numbers.size()))
+        object[QStringLiteral("numbers")] = arrayOf(numbers);
     if (start > 1)
         object[QStringLiteral("start")] = start;
     if (!panel.isEmpty())

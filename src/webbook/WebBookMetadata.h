@@ -13,6 +13,12 @@
 
 class FlashOutline;
 
+// The files with a book's text.
+struct TextParts {
+    int search = 0;           // how many are for searching; 0 for no text
+    std::vector<int> reading; // the positions of pages at which those with its structure begin
+};
+
 // Metadata of a web book, for its player, search engines and link previews.
 struct WebBookMetadata {
     BookFacts facts;
@@ -39,9 +45,8 @@ struct WebBookMetadata {
     // Whether the page at a position is included.
     bool isOpen(int position) const;
 
-    // The data for the player; the outline may be null. searchParts: the number of files with text
-    // to search, 0 for no text.
-    QJsonObject forPlayer(const FlashOutline* outline, int searchParts) const;
+    // The data for the player; the outline may be null.
+    QJsonObject forPlayer(const FlashOutline* outline, const TextParts& parts) const;
     // Markup for the HTML page's head beyond title, keywords and description.
     QByteArray headMarkup() const;
 

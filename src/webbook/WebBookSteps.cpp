@@ -1,5 +1,6 @@
 #include "webbook/WebBookSteps.h"
 
+#include "annotations/FlashOutline.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "output/BookSteps.h"
@@ -12,12 +13,14 @@
 #include "util/Base91.h"
 #include "webbook/PlainTextPage.h"
 #include "webbook/PlayerFile.h"
+#include "webbook/ReadingFiles.h"
 #include "webbook/SharedPlayer.h"
 #include "webbook/SingleFilePage.h"
 #include "webbook/StartList.h"
 #include "webbook/WebBook.h"
 #include "webbook/WebPageTemplate.h"
 #include "webbook/WebPageText.h"
+#include "webbook/reading/BookReading.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -50,19 +53,32 @@ public:
 
     // Returns the page's text.
     QString write(const WebPage& page);
+    // What the texts consist of.
+    std::vector<ReadingBlock> reading();
     void writeScript(const QString& path, const QByteArray& json);
 
 private:
     void copy(const QString& source, const QString& path);
     void copyLarge(const WebPage& page);
     std::vector<PDFTextLine> linesOf(const WebPage& page);
-    QByteArray textOf(const WebPage& page, const std::vector<PDFTextLine>& lines);
+    // Returns the lines in reading order.
+    std::vector<PDFTextLine> writeText(const WebPage& page, const std::vector<PDFTextLine>& lines);
 
     PublishTarget& iTo;
     const WebBook& iBook;
     WebBookReport& iReport;
     AnnotationBudget iBudget;
+    BookReading iReading;
 };
+
+void addEntries(const FlashOutline::Items& items, int level, const WebBookMetadata& metadata,
+                std::vector<Headings::Entry>& entries) {
+    for (const auto& item : items) {
+        if (const int position = metadata.positionOf(item->pageIndex()); position > 0)
+            entries.push_back({item->caption(), position, level});
+        addEntries(item->childItems(), level + 1, metadata, entries);
+    }
+}
 
 void PageWriter::copy(const QString& source, const QString& path) {
     if (source.isNull())
@@ -94,8 +110,14 @@ QString PageWriter::write(const WebPage& page) {
     copy(page.thumbnail, BookLayout::thumbnail(page.number));
     copyLarge(page);
     const auto lines = iBook.hasText ? linesOf(page) : std::vector<PDFTextLine>();
-    writeScript(BookLayout::text(page.number), textOf(page, lines));
-    return WebPageText::plain(lines);
+    return WebPageText::plain(writeText(page, lines));
+}
+
+std::vector<ReadingBlock> PageWriter::reading() {
+    std::vector<Headings::Entry> entries;
+    if (iBook.content.outline)
+        addEntries(iBook.content.outline->items(), 1, iBook.metadata, entries);
+    return iReading.finish(entries);
 }
 
 // The file was written by a process that has read an untrusted document.
@@ -115,7 +137,8 @@ std::vector<PDFTextLine> PageWriter::linesOf(const WebPage& page) {
     }
 }
 
-QByteArray PageWriter::textOf(const WebPage& page, const std::vector<PDFTextLine>& lines) {
+std::vector<PDFTextLine> PageWriter::writeText(const WebPage& page,
+                                               const std::vector<PDFTextLine>& lines) {
     PDFPage source;
     std::vector<PDFAnnotation> annotations;
     if (iBook.content.document && page.number <= iBook.content.document->pageCount()) {
@@ -129,9 +152,13 @@ QByteArray PageWriter::textOf(const WebPage& page, const std::vector<PDFTextLine
                 iReport.degradedPages.emplace_back(page.number, failure.message());
         }
     }
-    return WebScript::json(WebPageText::asJson(source, lines, annotations, [this](int index) {
-        return iBook.metadata.positionOf(index + 1);
-    }));
+    const WebBookMetadata& metadata = iBook.metadata;
+    const auto links = WebPageText::linksOf(
+        source, annotations, [&](int index) { return metadata.positionOf(index + 1); });
+    auto ordered = iReading.addPage(metadata.positionOf(page.number), lines, links);
+    writeScript(BookLayout::text(page.number),
+                WebScript::json(WebPageText::asJson(source, ordered, links)));
+    return ordered;
 }
 
 // Writes the texts for searching, page by page, into files that a reader need not wait for.
@@ -213,8 +240,8 @@ PagePlaces placesOf(const WebBook& book) {
 // Keeps the page from requesting the configuration, which the start list replaces. Not without the
 // place for the latter.
 void addStartList(PagePlaces& places, const PublishTarget& to, const WebBook& book,
-                  const QString& pageTemplate, int searchParts) {
-    const QByteArray list = StartList::json(book, searchParts);
+                  const QString& pageTemplate, const TextParts& parts) {
+    const QByteArray list = StartList::json(book, parts);
     if (list.isNull() || !WebPageTemplate::hasHead(pageTemplate))
         return;
     places.start = places.allowedScript(QStringLiteral("window.FolveroUserConfig = \"\";"));
@@ -257,14 +284,21 @@ Message tooLarge(qint64 size, qint64 limit) {
     return {forTerminal, forWindow.local()};
 }
 
+void writeTextPage(PublishTarget& to, const WebBook& book,
+                   const std::vector<ReadingBlock>& blocks) {
+    if (book.metadata.textPage.isEmpty())
+        return;
+    const QString path = to.layout.at(book.metadata.textPage);
+    PlainTextPage page(book.metadata, book.htmlName(), to.transaction.stage(path, Phase::page));
+    for (const ReadingBlock& block : blocks)
+        page.add(block);
+    if (const Message error = page.finish(); !error.isNull())
+        PublishTransaction::fail(path, error);
+}
+
 } // namespace
 
 void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookReport& report) {
-    const QString& textPage = book.metadata.textPage;
-    std::optional<PlainTextPage> plain;
-    if (!textPage.isEmpty())
-        plain.emplace(book.metadata, book.htmlName(),
-                      to.transaction.stage(to.layout.at(textPage), Phase::page));
     PageWriter writer(to, book, report);
     SearchWriter search(writer);
     for (const WebPage& page : book.pages) {
@@ -272,21 +306,19 @@ void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookRep
         const bool isOpen = book.isOpen(page);
         const QString text = isOpen ? writer.write(page) : QString();
         search.add(text);
-        if (plain && isOpen)
-            plain->addPage(text);
-        else if (plain)
-            plain->skipPage();
     }
     if (book.content.document) {
         book.content.document->stopReader();
         checkUnchanged(*book.content.document);
     }
-    report.searchParts = search.finish();
+    report.text.search = search.finish();
+    const auto blocks = writer.reading();
+    report.text.reading = ReadingFiles::write(blocks, [&](int part, const QByteArray& json) {
+        writer.writeScript(BookLayout::readingPart(part), json);
+    });
     writer.writeScript(BookLayout::metadata, WebScript::json(book.metadata.forPlayer(
-                                                 book.content.outline.get(), report.searchParts)));
-    const Message error = plain ? plain->finish() : Message();
-    if (!error.isNull())
-        PublishTransaction::fail(to.layout.at(textPage), error);
+                                                 book.content.outline.get(), report.text)));
+    writeTextPage(to, book, blocks);
 }
 
 void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBookReport& report) {
@@ -297,7 +329,7 @@ void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBo
         book.player ? book.player->page() : WebPageTemplate::of(book.flashTemplate.get());
     PagePlaces places = placesOf(book);
     addPreloads(places, to, book);
-    addStartList(places, to, book, pageTemplate, report.searchParts);
+    addStartList(places, to, book, pageTemplate, report.text);
     places.head += playerMarkup(book);
     const TextTemplate page = book.texts.filled(pageTemplate, places);
     to.transaction.write(book.htmlFile, page.parse().toUtf8(), Phase::page);

@@ -2,6 +2,7 @@
 
 #include "base/Message.h"
 #include "output/PublishRun.h"
+#include "webbook/WebBookMetadata.h"
 
 #include <vector>
 
@@ -13,15 +14,14 @@ struct WebBookReport {
     std::vector<std::pair<int, Message>> degradedPages;
     // Of all files of pages.
     qint64 pageBytes = 0;
-    // Files with text to search, 0 for no text.
-    int searchParts = 0;
+    TextParts text;
 };
 
 // The steps that make a web book, beside those of BookSteps.
 namespace WebBookSteps {
 
 // Text with links, thumbnail and larger picture of each page, then the data for all pages: search,
-// metadata, and the page of plain text if metadata names one.
+// the text's structure, metadata, and the page of plain text if metadata names one.
 void writePages(PublishTarget& to, const WebBook& book, WebBookReport& report);
 
 // The HTML page; after pages and their pictures.

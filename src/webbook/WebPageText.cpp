@@ -52,26 +52,15 @@ QSizeF sizeOf(const PDFPage& page) {
     return page.display.isValid() ? page.display : QSizeF(0, 0);
 }
 
-QJsonArray linksOf(const PDFPage& page, const std::vector<PDFAnnotation>& annotations,
-                   const WebPageText::Position& position) {
-    const QRectF whole({0, 0}, sizeOf(page));
-    QJsonArray links;
-    for (const PDFAnnotation& annotation : annotations) {
-        if (annotation.type != QStringLiteral("Link"))
-            continue;
-        const bool toAddress = !annotation.url.isNull();
-        if (!toAddress && !annotation.destinationPage)
-            continue;
-        const QRectF place = WebPageText::placeOnPage(annotation.bounds, page).intersected(whole);
-        if (place.isEmpty())
-            continue;
-        QJsonArray link;
-        append(link, place);
-        link.append(toAddress ? QJsonValue(annotation.url)
-                              : QJsonValue(position(*annotation.destinationPage)));
-        links.append(link);
+QJsonArray arrayOf(const std::vector<PageLayout::Link>& links) {
+    QJsonArray array;
+    for (const PageLayout::Link& link : links) {
+        QJsonArray entry;
+        append(entry, link.box);
+        entry.append(link.url.isNull() ? QJsonValue(link.target) : QJsonValue(link.url));
+        array.append(entry);
     }
-    return links;
+    return array;
 }
 
 QJsonArray linesOf(const std::vector<PDFTextLine>& lines) {
@@ -99,13 +88,37 @@ QRectF WebPageText::placeOnPage(const QRectF& bounds, const PDFPage& page) {
     return toSeen(page).mapRect(bounds).normalized();
 }
 
+std::vector<PageLayout::Link> WebPageText::linksOf(const PDFPage& page,
+                                                   const std::vector<PDFAnnotation>& annotations,
+                                                   const Position& position) {
+    const QRectF whole({0, 0}, sizeOf(page));
+    std::vector<PageLayout::Link> links;
+    for (const PDFAnnotation& annotation : annotations) {
+        if (annotation.type != QStringLiteral("Link"))
+            continue;
+        const bool toAddress = !annotation.url.isNull();
+        if (!toAddress && !annotation.destinationPage)
+            continue;
+        const QRectF place = placeOnPage(annotation.bounds, page).intersected(whole);
+        if (!place.isEmpty())
+            links.push_back(
+                {place, annotation.url, toAddress ? 0 : position(*annotation.destinationPage)});
+    }
+    return links;
+}
+
+QJsonArray WebPageText::tenths(const QRectF& box) {
+    QJsonArray array;
+    append(array, box);
+    return array;
+}
+
 QJsonObject WebPageText::asJson(const PDFPage& page, const std::vector<PDFTextLine>& lines,
-                                const std::vector<PDFAnnotation>& annotations,
-                                const Position& position) {
+                                const std::vector<PageLayout::Link>& links) {
     const QSizeF size = sizeOf(page);
-    return {{QStringLiteral("size"), QJsonArray{tenths(size.width()), tenths(size.height())}},
+    return {{QStringLiteral("size"), QJsonArray{::tenths(size.width()), ::tenths(size.height())}},
             {QStringLiteral("lines"), linesOf(lines)},
-            {QStringLiteral("links"), linksOf(page, annotations, position)}};
+            {QStringLiteral("links"), arrayOf(links)}};
 }
 
 QString WebPageText::plain(const std::vector<PDFTextLine>& lines) {

@@ -2,7 +2,9 @@
 
 #include "pdf/PDFPage.h"
 #include "pdf/PDFText.h"
+#include "webbook/reading/PageLayout.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <functional>
 #include <vector>
@@ -17,10 +19,19 @@ using Position = std::function<int(int pageIndex)>;
 // An annotation's rectangle on the page as displayed: in points from its top left corner.
 QRectF placeOnPage(const QRectF& bounds, const PDFPage& page);
 
+// The links of a page, as displayed, that lead somewhere: a target is 0 for a page that is not in
+// the book.
+std::vector<PageLayout::Link> linksOf(const PDFPage& page,
+                                      const std::vector<PDFAnnotation>& annotations,
+                                      const Position& position);
+
+// Left, top, width and height in tenths of a point.
+QJsonArray tenths(const QRectF& box);
+
 // Numbers are integers in tenths of a point. URLs are copied from the document: the player decides
 // which ones to follow.
 QJsonObject asJson(const PDFPage& page, const std::vector<PDFTextLine>& lines,
-                   const std::vector<PDFAnnotation>& annotations, const Position& position);
+                   const std::vector<PageLayout::Link>& links);
 
 // The text alone: lines in reading order, separated by line breaks.
 QString plain(const std::vector<PDFTextLine>& lines);

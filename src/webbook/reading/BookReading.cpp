@@ -180,9 +180,24 @@ ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
 
 } // namespace
 
-void BookReading::addPage(int position, const std::vector<PDFTextLine>& lines,
-                          const std::vector<PageLayout::Link>& links) {
+std::vector<PDFTextLine> BookReading::addPage(int position, const std::vector<PDFTextLine>& lines,
+                                              const std::vector<PageLayout::Link>& links) {
     iPages.push_back(PageLayout::of(position, lines, links));
+    std::vector<PDFTextLine> ordered;
+    std::vector<bool> isTaken(lines.size());
+    for (const ReadingRegion& region : iPages.back().regions) {
+        for (const ReadingLine& line : region.lines) {
+            for (const std::size_t source : line.sources) {
+                ordered.push_back(lines[source]);
+                isTaken[source] = true;
+            }
+        }
+    }
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!isTaken[i])
+            ordered.push_back(lines[i]);
+    }
+    return ordered;
 }
 
 std::vector<ReadingBlock> BookReading::finish(const std::vector<Headings::Entry>& outline) {

@@ -9,9 +9,10 @@
 // lines, some hundred bytes each, since heads, hyphens and sizes are known only in the end.
 class BookReading {
 public:
-    // Adds the next page of the book, which is at a one-based position.
-    void addPage(int position, const std::vector<PDFTextLine>& lines,
-                 const std::vector<PageLayout::Link>& links);
+    // Adds the next page of the book, which is at a one-based position. Returns its lines in
+    // reading order, those that lie nowhere last.
+    std::vector<PDFTextLine> addPage(int position, const std::vector<PDFTextLine>& lines,
+                                     const std::vector<PageLayout::Link>& links);
 
     // The text without running heads and page numbers. Once only.
     std::vector<ReadingBlock> finish(const std::vector<Headings::Entry>& outline);

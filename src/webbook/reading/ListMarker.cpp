@@ -29,9 +29,9 @@ ListMarker listMarkerOf(const QString& text) {
     if (blank == text.size() || !text[blank].isSpace() ||
         !(ends.contains(text[blank - 1]) || text[blank - 1].isDigit()))
         return ListMarker::none;
-    static const QRegularExpression number(
-        QStringLiteral("^(?:\\(?(?:\\d{1,3}|[a-zA-Z]|[ivx]{1,5})[.)]|\\[\\d{1,3}\\]|\\d{1,2}(?:\\."
-                       "\\d{1,2})+\\.?)\\s"));
+    static const QRegularExpression number(QStringLiteral(
+        "^(?:\\(?(?:\\d{1,3}|[a-z]|[ivx]{1,5})[.)]|[A-Z]\\)|\\[\\d{1,3}\\]|\\d{1,2}(?:\\."
+        "\\d{1,2})+\\.?)\\s"));
     return number.match(text).hasMatch() ? ListMarker::number : ListMarker::none;
 }
 

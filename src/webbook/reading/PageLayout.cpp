@@ -48,6 +48,7 @@ struct Piece {
     QRectF box;
     bool rightToLeft = false;
     std::vector<Word> words;
+    std::vector<std::size_t> sources;
 
     std::size_t letters() const {
         qsizetype count = 0;
@@ -117,13 +118,19 @@ bool areOfOneRow(const ColumnCut::Piece& a, const ColumnCut::Piece& b) {
     return shared > 0.5 * std::min(a.bottom() - a.top(), b.bottom() - b.top());
 }
 
+void chopBlanks(QString& text) {
+    while (text.endsWith(u' '))
+        text.chop(1);
+}
+
 // Cells are divided by tabs, other words by blanks.
 void append(ReadingLine& line, const Word& word, double gap) {
-    QString text = word.run.text;
+    const QString& text = word.run.text;
     if (!line.runs.empty()) {
         QString& before = line.runs.back().text;
         if (gap > cellGap * line.size && !line.isMonospaced()) {
-            before = before.trimmed() + u'\t';
+            chopBlanks(before);
+            before += u'\t';
             ++line.cells;
         } else if (gap > blankGap * line.size && !before.endsWith(u' ')) {
             before += u' ';
@@ -131,10 +138,18 @@ void append(ReadingLine& line, const Word& word, double gap) {
     }
     ReadingRun* last = line.runs.empty() ? nullptr : &line.runs.back();
     if (last && last->style == word.run.style && last->url == word.run.url &&
-        last->target == word.run.target)
+        last->target == word.run.target) {
         last->text += text;
-    else
-        line.runs.push_back(word.run);
+        return;
+    }
+    ReadingRun next = word.run;
+    const bool isPlain = next.style == plainText && next.url.isNull() && next.target == 0;
+    // Blanks are no part of links and of words that are set off.
+    if (last && isPlain && last->text.endsWith(u' ')) {
+        last->text.chop(1);
+        next.text.prepend(u' ');
+    }
+    line.runs.push_back(std::move(next));
 }
 
 // In code, blanks are as wide as letters.
@@ -143,7 +158,8 @@ void appendCode(ReadingLine& line, const Word& word, double gap) {
         (word.right - word.left) / double(std::max<qsizetype>(1, word.run.text.trimmed().size()));
     if (!line.runs.empty() && letter > 0 && gap > 1.5 * letter) {
         const int blanks = std::min(80, int(std::lround(gap / letter)));
-        line.runs.back().text = line.runs.back().text.trimmed() + QString(blanks, u' ');
+        chopBlanks(line.runs.back().text);
+        line.runs.back().text += QString(blanks, u' ');
     }
     append(line, word, gap);
 }
@@ -178,8 +194,10 @@ ReadingLine lineFrom(std::vector<const Piece*> pieces) {
     line.size = main.place.size;
     line.rightToLeft = main.rightToLeft;
     line.style = styleOf(pieces);
-    for (const Piece* piece : pieces)
+    for (const Piece* piece : pieces) {
         line.box |= piece->box;
+        line.sources.insert(line.sources.end(), piece->sources.begin(), piece->sources.end());
+    }
     const Word& first = pieces.front()->words.front();
     line.firstStyle = first.run.style;
     line.firstLength = first.right - first.left;
@@ -256,22 +274,27 @@ bool standsBelow(const PDFTextLine& sign, const PDFTextLine& above) {
            gap > 0.3 * size && gap < 1.6 * size;
 }
 
+// A line, made of so many lines of the page from that one on.
+struct Source {
+    PDFTextLine line;
+    std::size_t first = 0;
+    std::size_t count = 0;
+};
+
 // Programs without fonts for vertical text set each Chinese or Japanese sign by itself.
-std::vector<PDFTextLine> withVerticalLines(const std::vector<PDFTextLine>& lines) {
-    std::vector<PDFTextLine> joined;
+std::vector<Source> withVerticalLines(const std::vector<PDFTextLine>& lines) {
+    std::vector<Source> joined;
     const PDFTextLine* last = nullptr; // the sign at the end of the last line, if it is vertical
-    for (const PDFTextLine& line : lines) {
-        if (!isSingleSign(line)) {
-            joined.push_back(line);
-            last = nullptr;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const PDFTextLine& line = lines[i];
+        const bool isSign = isSingleSign(line);
+        if (!isSign || !last || !standsBelow(line, *last)) {
+            joined.push_back({line, i, 1});
+            last = isSign ? &line : nullptr;
             continue;
         }
-        if (!last || !standsBelow(line, *last)) {
-            joined.push_back(line);
-            last = &line;
-            continue;
-        }
-        PDFTextLine& whole = joined.back();
+        ++joined.back().count;
+        PDFTextLine& whole = joined.back().line;
         if (whole.turn == 0) {
             whole.turn = 90;
             whole.baseline = whole.box.center().x();
@@ -295,6 +318,18 @@ std::size_t lettersOf(const PDFTextLine& line) {
     return count;
 }
 
+// Lines come from untrusted documents.
+bool liesOnPage(const PDFTextLine& line) {
+    constexpr double furthest = 1e6;
+    const auto isNear = [](double number) { return std::abs(number) <= furthest; };
+    const auto isWordNear = [&](const PDFTextWord& word) {
+        return isNear(word.start) && isNear(word.length) && isNear(word.size);
+    };
+    return lettersOf(line) > 0 && isNear(line.baseline) && isNear(line.box.left()) &&
+           isNear(line.box.right()) && isNear(line.box.top()) && isNear(line.box.bottom()) &&
+           std::all_of(line.words.begin(), line.words.end(), isWordNear);
+}
+
 } // namespace
 
 ReadingPage of(int position, const std::vector<PDFTextLine>& found,
@@ -302,25 +337,28 @@ ReadingPage of(int position, const std::vector<PDFTextLine>& found,
     ReadingPage page{position, {}};
     if (found.empty())
         return page;
-    const std::vector<PDFTextLine> lines = withVerticalLines(found);
-    const int most = mostCommon(
-        lines, [](const PDFTextLine& line) { return std::pair(line.turn, lettersOf(line)); });
+    const std::vector<Source> lines = withVerticalLines(found);
+    const int most = mostCommon(lines, [](const Source& source) {
+        return std::pair(source.line.turn, lettersOf(source.line));
+    });
     for (const int turn : {most, 0, 90, 180, 270}) {
         if (turn == most && !page.regions.empty())
             continue;
         Frame frame{turn, false};
         std::ptrdiff_t fromRight = 0;
-        for (const PDFTextLine& line : lines) {
+        for (const auto& [line, first, count] : lines) {
             if (line.turn == turn)
                 fromRight += std::ptrdiff_t(lettersOf(line)) * (line.rightToLeft ? 1 : -1);
         }
         frame.mirrored = fromRight > 0;
         std::vector<Piece> pieces;
         std::vector<ColumnCut::Piece> places;
-        for (const PDFTextLine& line : lines) {
-            if (line.turn != turn || line.words.empty())
+        for (const auto& [line, first, count] : lines) {
+            if (line.turn != turn || !liesOnPage(line))
                 continue;
             pieces.push_back(pieceFrom(line, frame, position, links));
+            for (std::size_t i = 0; i < count; ++i)
+                pieces.back().sources.push_back(first + i);
             places.push_back(pieces.back().place);
         }
         for (const auto& group : ColumnCut::groups(places))

@@ -25,6 +25,8 @@ struct ReadingLine {
     QRectF box;    // as displayed
     QString text;
     std::vector<ReadingRun> runs; // its text in parts
+    // The lines of the page that it was made of, as they are numbered there.
+    std::vector<std::size_t> sources;
 
     bool isBold() const { return (style & boldText) != 0; }
     bool isMonospaced() const { return (style & monospacedText) != 0; }

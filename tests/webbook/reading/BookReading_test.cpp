@@ -196,3 +196,13 @@ TEST(BookReading, ReadsColumnsFromRightToLeftWhereTheTextDoes) {
     const QStringList found = read({column(200, "ב") + column(400, "א")});
     EXPECT_EQ(found.join(' ').front(), u'א');
 }
+
+TEST(BookReading, GivesWordsTheLinksAroundThem) {
+    const Lines page = lines(50, 100, {"See example.org for more."});
+    BookReading reading;
+    reading.addPage(1, page, {{QRectF(68, 90, 60, 15), "https://example.org/", 0}});
+    const auto blocks = reading.finish({});
+    ASSERT_EQ(blocks.front().runs.size(), 3U);
+    EXPECT_EQ(blocks.front().runs[1].text, "example.org");
+    EXPECT_EQ(blocks.front().runs[1].url, "https://example.org/");
+}

@@ -1,0 +1,77 @@
+#include "webbook/ReadingFiles.h"
+
+#include "output/WebScript.h"
+#include "webbook/WebPageText.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace {
+
+QString nameOf(const ReadingBlock& block) {
+    switch (block.kind) {
+    case ReadingBlock::Kind::heading:
+        return u'h' + QString::number(block.level);
+    case ReadingBlock::Kind::listItem:
+        return QStringLiteral("item");
+    case ReadingBlock::Kind::footnote:
+        return QStringLiteral("note");
+    case ReadingBlock::Kind::code:
+        return QStringLiteral("code");
+    case ReadingBlock::Kind::tableRow:
+        return QStringLiteral("row");
+    case ReadingBlock::Kind::paragraph:
+        break;
+    }
+    return QStringLiteral("p");
+}
+
+// Texts, with the positions of pages that begin between them.
+QJsonArray textOf(const ReadingBlock& block) {
+    QJsonArray array;
+    int position = block.position();
+    for (const ReadingRun& run : block.runs) {
+        if (run.position != position)
+            array.append(position = run.position);
+        if (run.target > 0)
+            array.append(QJsonArray{run.text, run.style, run.target});
+        else if (!run.url.isEmpty())
+            array.append(QJsonArray{run.text, run.style, run.url});
+        else if (run.style != plainText)
+            array.append(QJsonArray{run.text, run.style});
+        else
+            array.append(run.text);
+    }
+    return array;
+}
+
+QJsonObject jsonOf(const ReadingBlock& block) {
+    QJsonObject object{{QStringLiteral("kind"), nameOf(block)},
+                       {QStringLiteral("page"), block.position()},
+                       {QStringLiteral("box"), WebPageText::tenths(block.box)},
+                       {QStringLiteral("text"), textOf(block)}};
+    if (block.rightToLeft)
+        object[QStringLiteral("rtl")] = 1;
+    return object;
+}
+
+} // namespace
+
+std::vector<int> ReadingFiles::write(const std::vector<ReadingBlock>& blocks, const Write& write) {
+    constexpr qsizetype mostLetters = 250'000;
+    std::vector<int> starts;
+    QJsonArray part;
+    qsizetype letters = 0;
+    for (const ReadingBlock& block : blocks) {
+        if (part.isEmpty())
+            starts.push_back(block.position());
+        part.append(jsonOf(block));
+        letters += block.text().size();
+        if (letters <= mostLetters && &block != &blocks.back())
+            continue;
+        write(int(starts.size()), WebScript::json(part));
+        part = {};
+        letters = 0;
+    }
+    return starts;
+}
