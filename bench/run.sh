@@ -23,6 +23,7 @@ bench/opening.mjs "$templates/Templates/float"
 
 cmake --build "$build" --target folvero-bench-text >/dev/null
 "$build/bin/folvero-bench-text" "$build/samples/thousand.pdf" "$build/samples/novel.pdf"
+bench/reading.py
 bench/search.mjs "$templates/Templates/float"
 bench/first-view.mjs "$build"
 bench/catalogue.py
