@@ -95,7 +95,7 @@ TEST_F(PageWorkersTest, GoesOnWithAPageHandedBackLongAfterTheOthersRanAhead) {
 }
 
 TEST_F(PageWorkersTest, EndsAPageUnderWayWhenStopped) {
-    const auto workers = start(3, "echo ready\nread page\nsleep 100\n");
+    const auto workers = start(3, "echo ready\nread page\nexec sleep 100\n");
     iStop = true;
     EXPECT_TRUE(workers->waitFor(1)->error.english().contains("stopped"));
 }
