@@ -82,14 +82,13 @@ Message LibraryRun::write(const LibraryLayout& to) const {
 std::vector<LibraryRun> LibraryRun::allOf(const LibraryLayout& library) {
     std::vector<LibraryRun> runs;
     const QDir folder(library.runs());
-    for (const QString& name : folder.entryList({QStringLiteral("*-of-*.json")}, QDir::Files)) {
+    // The latest first, by the times of the disk or file server: clocks of machines may differ.
+    for (const QString& name :
+         folder.entryList({QStringLiteral("*-of-*.json")}, QDir::Files, QDir::Time)) {
         if (const auto run = read(folder.filePath(name)))
             runs.push_back(*run);
     }
-    const auto last = std::max_element(runs.begin(), runs.end(), [](const auto& a, const auto& b) {
-        return a.started < b.started;
-    });
-    const int shards = last == runs.end() ? 0 : last->shards;
+    const int shards = runs.empty() ? 0 : runs.front().shards;
     std::erase_if(runs, [shards](const LibraryRun& run) { return run.shards != shards; });
     std::sort(runs.begin(), runs.end(),
               [](const auto& a, const auto& b) { return a.shard < b.shard; });

@@ -33,6 +33,6 @@ struct LibraryRun {
     // Replaces what the same shard did before. Why that failed, or a null message.
     Message write(const LibraryLayout& to) const;
 
-    // The last ones of all shards, by their numbers, of the run that began last.
+    // The last ones of all shards, by their numbers, of the run that wrote last.
     static std::vector<LibraryRun> allOf(const LibraryLayout& library);
 };

@@ -188,6 +188,9 @@ TEST_F(LibraryTest, ShardsMakeTheWholeTogether) {
         lines += line("outline.pdf", QByteArray(qsizetype{1}, letter) + ",,1");
     list(lines + line("outline.pdf", "/,,"));
     EXPECT_EQ(make({"--shard", "1/3"}).exitCode, 1); // the line without an ID
+    // Of a run before, on a machine whose clock is ahead.
+    TestFiles::write(out() + "/.folvero-library/runs/1-of-1.json",
+                     R"({"id": "x", "shard": 1, "shards": 1, "started": "2099-01-01T00:00:00Z"})");
     EXPECT_EQ(make({"--shard", "3/3"}).exitCode, 0);
     const auto unfinished = status();
     EXPECT_EQ(unfinished.exitCode, 75);
