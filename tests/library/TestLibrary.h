@@ -21,7 +21,9 @@ public:
             texts.append(text);
             const QJsonArray line{
                 0, 0, 100 * text.size(), 120, 0, 0, QJsonArray{text, 0, 100 * text.size()}};
-            const QJsonObject data{{"size", QJsonArray{6000, 8000}}, {"lines", QJsonArray{line}}};
+            QJsonArray lines; // clang takes an array in braces for a copy of it
+            lines.append(line);
+            const QJsonObject data{{"size", QJsonArray{6000, 8000}}, {"lines", lines}};
             write(id, BookLayout::text(int(texts.size())), WebScript::json(data));
         }
         write(id, BookLayout::searchText, WebScript::json(texts));
