@@ -73,7 +73,8 @@ def check_hostile(context, tally):
 
 def files_of_normal(bench):
     """All names that either edition has, and the pictures that a page may have in place of others."""
-    names = [*bench.old_files, *bench.new_files]
+    # The structure of the text bears the position of the first page with text, which changes when pages are lost.
+    names = [*bench.old_files, *bench.new_files, "files/reading/text-1.js"]
     return names + [name.replace(".png", ".jpg") for name in names] + [name.replace(".jpg", ".png") for name in names]
 
 
