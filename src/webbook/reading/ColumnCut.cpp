@@ -160,7 +160,7 @@ std::optional<Gutter> Cutter::bestGutter(std::span<const std::size_t> group) con
     const double width = gutterSize * size;
     const std::vector<bool> areHeadlines = headlines(group, size);
     const auto tryRun = [&](double across, std::size_t first, std::size_t last) {
-        if (last - first < std::size_t(2 * fewestRows))
+        if (last - first < 2 * std::size_t(fewestRows))
             return;
         const double found = score(group.subspan(first, last - first), across);
         if (found > 0 && (!best || found > best->score))

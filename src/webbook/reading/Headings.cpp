@@ -6,6 +6,7 @@
 #include <QRegularExpression>
 #include <cmath>
 #include <map>
+#include <tuple>
 
 namespace Headings {
 namespace {
@@ -21,7 +22,9 @@ struct Look {
     int size; // in half points, negative
     bool isPlain;
 
-    auto operator<=>(const Look&) const = default;
+    bool operator<(const Look& other) const {
+        return std::tie(size, isPlain) < std::tie(other.size, other.isPlain);
+    }
 };
 
 Look lookOf(const ReadingParagraph& paragraph) {

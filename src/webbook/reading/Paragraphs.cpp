@@ -338,7 +338,8 @@ double TextMeasure::pitchOf(double lettersSize) const {
     return found == pitches.end() ? usualPitch * lettersSize : std::min(found->second, most);
 }
 
-std::vector<ReadingParagraph> Paragraphs::of(ReadingRegion region, const TextMeasure& measure) {
+std::vector<ReadingParagraph> Paragraphs::of(const ReadingRegion& region,
+                                             const TextMeasure& measure) {
     return Divider(region, measure).divide();
 }
 

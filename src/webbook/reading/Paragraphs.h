@@ -33,7 +33,7 @@ struct ReadingParagraph {
 namespace Paragraphs {
 
 // Divides a region's lines into paragraphs.
-std::vector<ReadingParagraph> of(ReadingRegion region, const TextMeasure& measure);
+std::vector<ReadingParagraph> of(const ReadingRegion& region, const TextMeasure& measure);
 
 // Whether the first word of the line would still have fitted into the one before, which so is the
 // last of its paragraph.
