@@ -8,7 +8,6 @@
 #include "console/Terminal.h"
 #include "server/Serving.h"
 #include "system/NameAliases.h"
-#include "system/Sandbox.h"
 
 #include <QCoreApplication>
 #include <cstdlib>
@@ -24,9 +23,6 @@ int main(int argc, char** argv) {
         std::cerr << "usage: folvero-book-server FOLDER PORT|usual book|library [verbose]\n";
         return int(ExitCode::usage);
     }
-#ifndef FOLVERO_SANITIZED     // the leak check could not stop threads that libraries have started
-    Sandbox::forbidWriting(); // before there are threads of ours
-#endif
     if (argc == 5)
         Log::configureForTerminal(Log::Level::debug);
     const QString folder = NameAliases::decoded(arguments[1]);

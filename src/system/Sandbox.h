@@ -22,8 +22,8 @@ struct Policy {
 void enter(const Policy& policy);
 
 // Keeps the process from changing any file or folder from now on; it can read as before, and write
-// to files that are open. Where the kernel can't do that it does nothing. Call it while the process
-// has one thread.
+// to files that are open. Where the kernel can't do that it does nothing. It binds this thread,
+// those that it starts, and all of a program that it executes.
 void forbidWriting();
 
 } // namespace Sandbox
