@@ -1,6 +1,7 @@
 #include "webbook/PlainTextPage.h"
 
 #include "output/ExistingBook.h"
+#include "util/LinkScheme.h"
 #include "webbook/WebBookMetadata.h"
 
 #include <QUrl>
@@ -23,10 +24,8 @@ constexpr char style[] =
 
 // As the player: a document's other addresses lead nowhere.
 bool mayFollow(const QString& url) {
-    static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
-                                     QStringLiteral("mailto"), QStringLiteral("tel")};
     const QUrl address(url, QUrl::StrictMode);
-    return address.isValid() && schemes.contains(address.scheme());
+    return address.isValid() && LinkScheme::isFollowed(address);
 }
 
 QByteArray escaped(const QString& text) {

@@ -1,6 +1,7 @@
 #include "app/desktop/PreviewView.h"
 
 #include "base/Log.h"
+#include "util/LinkScheme.h"
 
 #include <QContextMenuEvent>
 #include <QDateTime>
@@ -60,11 +61,8 @@ public:
 
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
-        static const QStringList followed{QStringLiteral("http"), QStringLiteral("https"),
-                                          QStringLiteral("mailto"), QStringLiteral("tel")};
-        if (followed.contains(url.scheme()) && isMainFrame)
+        if (LinkScheme::isFollowed(url) && isMainFrame)
             opener(url);
-        // Any other scheme would start whatever program is registered for it.
         return staysInPreview(url) &&
                QWebEnginePage::acceptNavigationRequest(url, type, isMainFrame);
     }
