@@ -39,11 +39,11 @@ bool haveSameLook(const ReadingLine& a, const ReadingLine& b) {
            a.isBold() == b.isBold() && a.rightToLeft == b.rightToLeft;
 }
 
-// Whether a paragraph goes on in the first one of the next column or page.
 // Of the last line on a page, for the width of the next column: a caption is shorter.
 constexpr double leastLength = 0.6;
 
-// Where paragraphs begin with an indent, one without goes on even after the end of a sentence.
+// Whether a paragraph goes on in the first one of the next column or page. Where paragraphs begin
+// with an indent, one without goes on even after the end of a sentence.
 bool goesOn(const ReadingParagraph& a, const ReadingParagraph& b, bool areIndented) {
     const ReadingLine& last = a.lines.back();
     const ReadingLine& next = b.lines.front();
@@ -86,7 +86,7 @@ class Flow {
 public:
     explicit Flow(const TextMeasure& measure) : iMeasure(measure) {}
 
-    void add(ReadingPage&& page);
+    void add(const ReadingPage& page);
     List take() { return std::move(iAll); }
 
 private:
@@ -128,9 +128,9 @@ void Flow::add(List region) {
     }
 }
 
-void Flow::add(ReadingPage&& page) {
-    for (ReadingRegion& region : page.regions)
-        add(Paragraphs::of(std::move(region), iMeasure));
+void Flow::add(const ReadingPage& page) {
+    for (const ReadingRegion& region : page.regions)
+        add(Paragraphs::of(region, iMeasure));
     for (ReadingParagraph& note : std::exchange(iNotes, {}))
         iAll.push_back(std::move(note));
 }
@@ -211,7 +211,7 @@ std::vector<ReadingBlock> BookReading::finish(const std::vector<Headings::Entry>
             for (const ReadingLine& line : region.lines)
                 join.learn(line);
         }
-        flow.add(std::move(page));
+        flow.add(std::exchange(page, {})); // which frees it
     }
     List paragraphs = flow.take();
     Headings::mark(paragraphs, measure, outline);
