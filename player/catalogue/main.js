@@ -67,7 +67,10 @@ class SearchPage {
     }
     this.views.hidden = false;
     this.chosen = first;
-    if (first) this.#show(this.texts);
+    if (first) {
+      this.#show(this.texts);
+      this.#remember();
+    }
     await this.#findTexts();
   }
 
