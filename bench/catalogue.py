@@ -15,25 +15,16 @@ import random
 import subprocess
 import time
 
+from made_words import few_are_common, vocabulary
 from support import BUILD, ScratchFolder, fail, print_table
 
-SYLLABLES = "an be ca do el fi go ha in jo ka li mo na or pe qui ro sa te un ve wa xi yo za".split()
 LANGUAGES = ["en", "de", "fr", "es", "it", "la", "nl", "ru", "ja", "zh"]
 JAPANESE = "東京大学図書館文書歴史地理記録書物新聞"
 FIRST_DAY = 1_700_000_000
 
 
-def vocabulary(count, seed):
-    source = random.Random(seed)
-    return ["".join(source.choices(SYLLABLES, k=source.randint(2, 4))) for _ in range(count)]
-
-
-WORDS = vocabulary(30_000, 1)
-NAMES = [name.capitalize() for name in vocabulary(20_000, 2)]
-
-
-def few_are_common(source, values):
-    return values[int(len(values) ** source.random()) - 1]
+WORDS = vocabulary(30_000, 1, 2)
+NAMES = [name.capitalize() for name in vocabulary(20_000, 2, 2)]
 
 
 def facts(source):

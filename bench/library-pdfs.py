@@ -11,22 +11,15 @@ import pathlib
 import random
 import sys
 
-SYLLABLES = "an be ca do el fi go ha in jo ka li mo na or pe qui ro sa te un ve wa xi yo za".split()
+from made_words import few_are_common, vocabulary
+
 LINES_OF_PAGE = 44
 WORDS_OF_LINE = 11
-
-
-def vocabulary():
-    source = random.Random(1)
-    return ["".join(source.choices(SYLLABLES, k=source.randint(1, 4))) for _ in range(30_000)]
-
-
-WORDS = vocabulary()
+WORDS = vocabulary(30_000, 1, 1)
 
 
 def words(source, count):
-    """As in texts, few words are common and most are rare."""
-    return [WORDS[int(len(WORDS) ** source.random()) - 1] for _ in range(count)]
+    return [few_are_common(source, WORDS) for _ in range(count)]
 
 
 def page_content(source, number):
