@@ -21,10 +21,12 @@ void runServe(Served what, const std::string& folder, std::optional<int> port, b
                                    words[3].data(),
                                    verbose ? words[4].data() : nullptr,
                                    nullptr};
-    // Here and not in the server: what binds this thread binds all threads of the program that it
-    // executes, those that libraries start before main among them.
-    Sandbox::forbidWriting();
-    ::execv(arguments[0], arguments.data());
+    if (::access(arguments[0], X_OK) == 0) {
+        // Here and not in the server: what binds this thread binds all threads of the program that
+        // it executes, those that libraries start before main among them.
+        Sandbox::forbidWriting();
+        ::execv(arguments[0], arguments.data());
+    }
     throw CommandError(QStringLiteral("%1: can't be started (%2)")
                            .arg(server, Message::ofLastSystemError().english()));
 }
