@@ -1,6 +1,7 @@
 import { mayFollow } from '../src/book/addresses.js';
 import { make } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
+import { tell } from './events.js';
 import { Layers } from './layers.js';
 import { distance } from './pagetext.js';
 
@@ -73,6 +74,7 @@ export class Links {
       element.dataset.tip = page;
       element.addEventListener('click', (event) => {
         event.preventDefault();
+        tell('link', { target });
         this.turner.go(this.book.views.viewOf(target));
       });
       return element;
@@ -81,6 +83,7 @@ export class Links {
       element.href = target;
       element.target = '_blank';
       element.rel = 'noopener noreferrer';
+      element.addEventListener('click', () => tell('link', { target }));
       element.setAttribute('aria-label', words || target);
       element.dataset.tip = shortened(target.replace(/^https?:\/\/|^(?:mailto|tel):/i, ''));
       return element;

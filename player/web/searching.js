@@ -1,5 +1,6 @@
 import { make, part } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
+import { tell } from './events.js';
 import { Hits } from './hits.js';
 import { icon } from './icons.js';
 import { Results } from './results.js';
@@ -7,6 +8,9 @@ import { SearchText } from './searchtext.js';
 import { SidePanel } from './side.js';
 
 /** @typedef {import('./searchtext.js').Answer} Answer */
+
+/** Rest after which what was typed counts as searched, in milliseconds. */
+const TYPED_MS = 1000;
 
 /** The search panel, and the strip that replaces it where it would cover the book. */
 export class Searching {
@@ -36,6 +40,8 @@ export class Searching {
     this.answer = null;
     /** Index of the current hit, -1 for none. */
     this.index = -1;
+    /** @type {ReturnType<typeof setTimeout> | undefined} */
+    this.typing = undefined;
     /** Whether the strip is shown when the panel closes. */
     this.stays = false;
     this.box = /** @type {HTMLInputElement} */ (make('input', 'search-box'));
@@ -71,7 +77,11 @@ export class Searching {
       this.#find();
     });
     this.panel.head.after(make('div', 'search-head', field, row, this.again));
-    this.box.addEventListener('input', () => this.#find());
+    this.box.addEventListener('input', () => {
+      this.#find();
+      clearTimeout(this.typing);
+      this.typing = setTimeout(() => this.#tellSearch(), TYPED_MS);
+    });
     this.box.addEventListener('keydown', (event) => this.#boxKey(event));
     this.count.setAttribute('type', 'button');
     this.count.addEventListener('click', () => this.panel.show());
@@ -185,6 +195,14 @@ export class Searching {
       this.hits.show(query, null);
     }
     this.#tell();
+  }
+
+  /** Tells what was searched, once all of the text is. */
+  async #tellSearch() {
+    const typed = this.box.value;
+    await this.loading;
+    const { query, hits } = this.answer ?? {};
+    if (query && !query.empty && this.#complete && typed === this.box.value) tell('search', { text: typed, hits: hits?.length });
   }
 
   /** Shows the number of hits and which one is current. */
