@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
-pages, early.js for the head of their page, and what books that readers can keep have beside these: offline.js and the
+pages, early.js for the head of their page, course.js for courses, and what books that readers can keep have beside these: offline.js and the
 service worker, sw.js.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
@@ -29,6 +29,7 @@ def main():
     scripts = {"web.js": ("main.js", "WEB_TEXTS", "web"), "offline.js": ("offlinepart.js", "OFFLINE_TEXTS", "offline")}
     parts = {name: bundled(esbuild, player / "web" / first, (define, texts.table(player, section)))
              for name, (first, define, section) in scripts.items()}
+    parts["course.js"] = bundled(esbuild, player / "web/coursepart.js")
     parts["vectors.js"] = bundled(esbuild, player / "web/vectorspart.js")
     parts["early.js"] = minified_script(esbuild, player / "earlyweb.js")
     parts["web.css"] = joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])

@@ -25,7 +25,10 @@ QString decodedAssignment(const QByteArray& typed) {
 
 PublishOptions::Type typeNamed(const std::string& name) {
     using Type = PublishOptions::Type;
-    return name == "app" ? Type::app : name == "html" ? Type::html : Type::web;
+    return name == "app"     ? Type::app
+           : name == "html"  ? Type::html
+           : name == "scorm" ? Type::scorm
+                             : Type::web;
 }
 
 Spreads spreadsNamed(const std::string& name) {
@@ -56,14 +59,15 @@ void addBookOptions(CLI::App& command, PublishOptions& options) {
         .add_option_function<std::string>(
             "--type", [&options](const std::string& name) { options.type = typeNamed(name); },
             "web: a book with links, contents, search and text to select, for disk and\n"
-            "web; html: a classic book, with pictures of the pages only; app: a Mac\n"
+            "web; html: a classic book, with pictures of the pages only; scorm: a web book\n"
+            "as a course for learning platforms (SCORM 1.2), one ZIP file; app: a Mac\n"
             "application")
-        ->check(CLI::IsMember({"web", "html", "app"}))
+        ->check(CLI::IsMember({"web", "html", "scorm", "app"}))
         ->type_name("TYPE")
         ->default_str("web");
     addText(command, "--name", options.name,
-            "Name of the HTML page (by default index) or of the application (by\n"
-            "default that of the PDF file), without its extension")
+            "Name of the HTML page (by default index), or of the application or course\n"
+            "(by default that of the PDF file), without its extension")
         ->type_name("NAME");
     addText(command, "--title", options.title,
             "Title of the book; by default the title of the document")

@@ -20,6 +20,7 @@
 #include "output/HTMLConfigInfo.h"
 #include "pages/ImportPDFOperation.h"
 #include "system/Files.h"
+#include "webbook/FolveroOutputSCORM.h"
 #include "webbook/FolveroOutputWeb.h"
 #include "webbook/SharedPlayer.h"
 
@@ -45,9 +46,11 @@ constexpr int interruptPollMilliseconds = 25;
 QString bookName(const PublishOptions& options) {
     QString name = options.name;
     if (name.isNull())
-        name = options.type == Type::app ? QFileInfo(options.pdf).completeBaseName()
-                                         : QStringLiteral("index");
-    for (const QString& ending : {QStringLiteral(".html"), QStringLiteral(".app")}) {
+        name = options.type == Type::app || options.type == Type::scorm
+                   ? QFileInfo(options.pdf).completeBaseName()
+                   : QStringLiteral("index");
+    for (const QString& ending :
+         {QStringLiteral(".html"), QStringLiteral(".app"), QStringLiteral(".zip")}) {
         if (name.endsWith(ending))
             name.chop(ending.size());
     }
@@ -141,7 +144,7 @@ void setPageSize(QSize size, FlashTemplate& tmpl) {
 
 struct Publisher {
     std::unique_ptr<FolveroOutput> output;
-    FolveroOutputWeb* web = nullptr; // the output, if it makes a web book
+    FolveroOutputWeb* web = nullptr; // the output, if it makes a web book or a course
 };
 
 // Without pages, which are set later.
@@ -152,6 +155,11 @@ Publisher makePublisher(const PublishOptions& options, const std::shared_ptr<Fla
         return {std::make_unique<FolveroOutputApp>(nullptr, tmpl, folder, name)};
     if (options.type == Type::html)
         return {std::make_unique<FolveroOutput>(nullptr, tmpl, folder, name)};
+    if (options.type == Type::scorm) {
+        auto course = std::make_unique<FolveroOutputSCORM>(nullptr, tmpl, folder, name);
+        auto* web = course.get();
+        return {std::move(course), web};
+    }
     auto output = std::make_unique<FolveroOutputWeb>(nullptr, tmpl, folder, name);
     output->setSingleFile(options.singleFile);
     output->setAddress(WebBookOptions::address(options));
@@ -199,7 +207,9 @@ void writeBook(FolveroOutput& output, const QString& title, const OutputFolder& 
 
 // Prints the summary of a web book.
 void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options, MadeBook& made) {
-    WebBookOptions::printLeftoverFiles(options, output);
+    const bool isCourse = options.type == Type::scorm;
+    if (!isCourse)
+        WebBookOptions::printLeftoverFiles(options, output);
     for (const auto& [page, reason] : output.degradedPages()) {
         made.degradedPages[page] = reason.english();
         Terminal::report(QStringLiteral("folvero: page %1 has its picture only: %2")
@@ -216,7 +226,8 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
     constexpr double megabyte = 1'000'000;
     Terminal::report(QStringLiteral("Pages: %1 MB with text, thumbnails and larger pictures")
                          .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1));
-    WebBookOptions::printEmbedSnippet(output);
+    if (!isCourse)
+        WebBookOptions::printEmbedSnippet(output);
 }
 
 MadeBook resultOf(const FolveroOutput& output, const Book& book) {
@@ -261,7 +272,7 @@ std::optional<CommandError> troubleWith(const MadeBook& made) {
 
 // Pages that a preview leaves out need no more than their page file.
 FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& openPages) {
-    if (type != Type::web)
+    if (type != Type::web && type != Type::scorm)
         return classicFiles;
     if (!openPages)
         return webFiles;

@@ -13,7 +13,7 @@ struct PublishOptions {
     QString pdf;
     PasswordOptions password;
     QString outputFolder;
-    enum class Type { html, app, web };
+    enum class Type { html, app, web, scorm };
     Type type = Type::web;
     QString name;  // null: "index" for a page, the PDF's name for an application
     QString title; // null: the document's own title, or else its file name

@@ -40,9 +40,10 @@ QString absolute(const QString& path) {
 
 QString nameOf(PublishOptions::Type type) {
     using Type = PublishOptions::Type;
-    return type == Type::app   ? QStringLiteral("app")
-           : type == Type::web ? QStringLiteral("web")
-                               : QStringLiteral("html");
+    return type == Type::app     ? QStringLiteral("app")
+           : type == Type::scorm ? QStringLiteral("scorm")
+           : type == Type::web   ? QStringLiteral("web")
+                                 : QStringLiteral("html");
 }
 
 QJsonArray asJson(const std::map<int, QString>& pages) {

@@ -100,7 +100,8 @@ PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& t
     : iPage(std::move(page)),
       iDocumentState(FileState::of(options.pdf)),
       iEarlier(BookStamp::of(iPage)) {
-    if (options.type != PublishOptions::Type::app && !options.singleFile)
+    using Type = PublishOptions::Type;
+    if (options.type != Type::app && options.type != Type::scorm && !options.singleFile)
         iFolder = QFileInfo(iPage).path();
     iWanted.document = BookStamp::documentAt(options.pdf, iEarlier);
     if (iWanted.document.digest.isEmpty())

@@ -49,24 +49,32 @@ void WebBookOptions::check(const PublishOptions& options) {
             ExitCode::usage);
     }
     const BookFacts& facts = options.facts;
-    const std::pair<const char*, bool> ofWebBooks[] = {
+    const std::pair<const char*, bool> ofFolders[] = {
         {"--single-file", options.singleFile},
-        {"--allow-text", options.allowText},
-        {"--preview-pages", !options.previewPages.isNull()},
         {"--url", !options.url.isNull()},
         {"--iiif", options.iiif},
-        {"--shared-player", !options.sharedPlayer.isNull()},
+        {"--shared-player", !options.sharedPlayer.isNull()}};
+    const std::pair<const char*, bool> ofCoursesToo[] = {
+        {"--allow-text", options.allowText},
+        {"--preview-pages", !options.previewPages.isNull()},
         {"--author", !facts.author.isNull()},
         {"--subject", !facts.subject.isNull()},
         {"--language", !facts.language.isNull()},
         {"--date", !facts.date.isNull()},
         {"--rights", !facts.rights.isNull()}};
-    for (const auto& [option, isUsed] : ofWebBooks) {
-        if (isUsed && options.type != PublishOptions::Type::web)
-            throw CommandError(QStringLiteral("%1 is for web books only; leave out --type")
-                                   .arg(QLatin1String(option)),
-                               ExitCode::usage);
-    }
+    const auto forbid = [](const auto& used) {
+        for (const auto& [option, isUsed] : used) {
+            if (isUsed)
+                throw CommandError(QStringLiteral("%1 is for web books only; leave out --type")
+                                       .arg(QLatin1String(option)),
+                                   ExitCode::usage);
+        }
+    };
+    using Type = PublishOptions::Type;
+    if (options.type != Type::web)
+        forbid(ofFolders);
+    if (options.type != Type::web && options.type != Type::scorm)
+        forbid(ofCoursesToo);
     if (options.singleFile && !options.sharedPlayer.isNull())
         throw CommandError(
             QStringLiteral("--shared-player: a book in a single file has its player in it"),

@@ -39,6 +39,8 @@ public:
     static inline const QString textPage = QStringLiteral("text.html");
     static inline const QString shareImage = QStringLiteral("files/web/share.jpg");
     static inline const QString iiifManifest = QStringLiteral("manifest.json");
+    // Web books that are courses.
+    static inline const QString courseScript = QStringLiteral("files/web/course.js");
     // Web books that readers can save.
     static inline const QString offlineScript = QStringLiteral("files/web/offline.js");
     static inline const QString offlineList = QStringLiteral("files/web/offline.json");

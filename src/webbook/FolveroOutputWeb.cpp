@@ -66,7 +66,11 @@ void FolveroOutputWeb::ouputTheBook() {
     iWorksOffline = book.metadata.offline;
     iLacksText = !book.hasText;
     iMetadata = book.metadata;
-    run(layout(), iIsSingleFile ? singleFileSteps(book) : folderSteps(book));
+    run(layout(), stepsFor(book));
+}
+
+PublishSteps FolveroOutputWeb::stepsFor(const WebBook& book) {
+    return iIsSingleFile ? singleFileSteps(book) : folderSteps(book);
 }
 
 WebBook FolveroOutputWeb::webBook() const {

@@ -70,8 +70,12 @@ public:
     // Bytes that the last run wrote for pages: pictures, larger ones, thumbnails, text.
     qint64 pageBytes() const { return iReport.pageBytes; }
 
+protected:
+    virtual WebBook webBook() const;
+    // Make the book. The book must live as long as the steps.
+    virtual PublishSteps stepsFor(const WebBook& book);
+
 private:
-    WebBook webBook() const;
     void addAddress(WebBook& book) const;
     // The steps of a web book, and of one in a single file; what both contain. The book must live
     // as long as the steps.

@@ -27,7 +27,8 @@ struct WebBook {
     Book content;                               // as imported
     ShareImage shareImage;                      // empty for none
     std::shared_ptr<const SharedPlayer> player; // null: the book has its own
-    bool hasText = true; // otherwise without words to select, search and the page of text
+    bool hasText = true;   // otherwise without words to select, search and the page of text
+    bool isCourse = false; // it tells a learning platform about its reader
     PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
 
     // Completes the metadata, whose facts go before those of the document, the outline, unless

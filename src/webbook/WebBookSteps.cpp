@@ -252,7 +252,10 @@ void addStartList(PagePlaces& places, const PublishTarget& to, const WebBook& bo
 }
 
 QString playerMarkup(const WebBook& book) {
-    const QString markup = QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
+    const QString course =
+        QStringLiteral("<script src=\"%1\"></script>\n").arg(BookLayout::courseScript);
+    const QString markup = (book.isCourse ? course : QString()) +
+                           QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
                                           "<script src=\"%2\"%3></script>\n");
     if (!book.player)
         return markup.arg(BookLayout::webStyle, BookLayout::webScript, QString());
@@ -343,8 +346,10 @@ void WebBookSteps::copyPlayer(PublishTarget& to, const WebBook& book) {
         }
         return;
     }
-    for (const QString& path :
-         {BookLayout::webScript, BookLayout::vectorScript, BookLayout::webStyle})
+    QStringList paths{BookLayout::webScript, BookLayout::vectorScript, BookLayout::webStyle};
+    if (book.isCourse)
+        paths << BookLayout::courseScript;
+    for (const QString& path : paths)
         to.transaction.copy(PlayerFile::installed(to.layout, path), to.layout.at(path),
                             Copy::independent);
 }

@@ -21,6 +21,7 @@ KINDS = {
     "web": ["--type", "web"],
     "single": ["--type", "web", "--single-file"],
     "app": ["--type", "app", "--name", "Book"],
+    "course": ["--type", "scorm", "--name", "Book"],
     "sample": ["--type", "web", "--preview-pages", "1"],
 }
 DONE, INCOMPLETE, DOCUMENT, TEMPORARY, PASSWORD = 0, 3, 65, 75, 77
