@@ -17,7 +17,7 @@ import re
 import sys
 
 import texts
-from bundle import bundled, joined_style, minified_script
+from bundle import bundled, joined_style
 
 PLACEHOLDERS = ["book.language", "book.scripts", "index.title", "meta.keywords", "meta.description", "book.start",
                 "book.head", "book.movie", "book.end"]
@@ -49,7 +49,7 @@ def main():
     style = joined_style(esbuild, sheets)
     script = bundled(esbuild, player / "src/main.js", ("PAGE_TEXTS", texts.table(player, "page")))
     page = (player / "shell.html").read_text(encoding="utf-8")
-    early = minified_script(esbuild, player / "early.js")
+    early = bundled(esbuild, player / "early.js")
     page = page.replace("/*early*/", early).replace("/*style*/", style).replace("/*script*/", script)
     page = page.replace('data-template=""', attributes(template, name))
     check(page, early + script)

@@ -25,10 +25,5 @@ def bundled(esbuild, first, texts=None):
     return run(esbuild, [str(first), "--bundle", "--format=iife", '--banner:js="use strict";', *define, *SCRIPT])
 
 
-def minified_script(esbuild, path):
-    """A script that imports nothing; its names at the top level stay."""
-    return run(esbuild, SCRIPT, path.read_text(encoding="utf-8"))
-
-
 def joined_style(esbuild, sheets):
     return run(esbuild, STYLE, "\n".join(sheet.read_text(encoding="utf-8") for sheet in sheets))

@@ -6,18 +6,16 @@ declare const WEB_TEXTS: string;
 declare const OFFLINE_TEXTS: string;
 
 interface Window {
-  /** early.js has asked for the configuration. */
-  folveroConfiguration: {
-    /** A response over http, an event from disk, nothing where the configuration is in the page. */
-    asked: Promise<Response | Event | void>;
-    /** Runs the script copy of the configuration, which sets FolveroUserConfig. */
-    runScript: () => Promise<Event>;
+  /** What the page has of the configuration; nothing where the player is to request it. */
+  folveroConfiguration?: {
+    /** What early.js has requested: a response over http, an event from disk. */
+    asked?: Promise<Response | Event | void>;
     /** Whether the page holds the configuration itself. */
     here: boolean;
-    /** Of a start list: the request for all of the configuration, made once it is awaited. */
-    whole?: Promise<Response | Event | void>;
+    /** Whether that is a start list's, and the book has the whole configuration in files. */
+    whole?: boolean;
   };
-  /** Base64 of the enciphered configuration, once its script has run; "" keeps early.js from asking for it. */
+  /** Base64 of the enciphered configuration, once its script has run. */
   FolveroUserConfig?: string;
   /** Other scripts leave here what they add to the book before the player's own runs. */
   folveroExtensions?: import('./src/player.js').Extension[];

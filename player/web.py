@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
-pages, early.js for the head of their page, course.js for courses, and what books that readers can keep have beside these: offline.js and the
-service worker, sw.js.
+pages, course.js for courses, and what books that readers can keep have beside these: offline.js and the service
+worker, sw.js.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
-The first four may be put into a page, which passes through a text template: they hold neither its
+The first three may be put into a page, which passes through a text template: they hold neither its
 placeholders nor anything that ends the element around them.
 """
 
@@ -13,7 +13,7 @@ import pathlib
 import sys
 
 import texts
-from bundle import bundled, joined_style, minified_script
+from bundle import bundled, joined_style
 
 STYLES = ["layers.css", "side.css", "contents.css", "search.css", "keeping.css", "looks.css"]
 
@@ -31,7 +31,6 @@ def main():
              for name, (first, define, section) in scripts.items()}
     parts["course.js"] = bundled(esbuild, player / "web/coursepart.js")
     parts["vectors.js"] = bundled(esbuild, player / "web/vectorspart.js")
-    parts["early.js"] = minified_script(esbuild, player / "earlyweb.js")
     parts["web.css"] = joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])
     output.mkdir(parents=True, exist_ok=True)
     for name, text in parts.items():

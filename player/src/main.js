@@ -207,4 +207,5 @@ const root = /** @type {HTMLElement} */ (document.getElementById('folvero'));
 learn(PAGE_TEXTS);
 setTexts(root);
 part(root, '.book-title').textContent = document.title;
+root.dataset.begun = 'yes';
 openBook(root).catch((error) => showFailure(root, error));

@@ -13,7 +13,6 @@ export class DataFiles {
     /** @type {Map<string, {promise: Promise<unknown>, arrived: (data: unknown) => void}>} */
     this.waiting = new Map();
     window.folveroData = (name, data) => this.waiting.get(name)?.arrived(data);
-    window.addEventListener('error', (event) => this.#keepFault(event), { capture: true });
   }
 
   /**
@@ -62,17 +61,5 @@ export class DataFiles {
     script.src = fileAddress(name + '.js');
     document.head.append(script);
     return promise.finally(() => script.remove());
-  }
-
-  /**
-   * A data file with a fault is a matter of its own and no failure of the player, for which the page
-   * would take it. From disk browsers do not tell which script it was.
-   * @param {Event} event
-   */
-  #keepFault(event) {
-    // A file that is missing is told to its own element only.
-    if (!(event instanceof ErrorEvent)) return;
-    const ofData = /\/files\/(?:web|text|search|large)\/[^/]*\.js$/.test(event.filename ?? '');
-    if (ofData || (!event.filename && this.waiting.size > 0)) event.stopImmediatePropagation();
   }
 }

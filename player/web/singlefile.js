@@ -10,7 +10,7 @@ const PASSING = /^(?:page|thumb|large)\//;
 export class SingleFile {
   /** Whether this is such a book: its page contains the configuration. */
   static get here() {
-    return window.folveroConfiguration.here;
+    return window.folveroConfiguration?.here === true;
   }
 
   constructor() {

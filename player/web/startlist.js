@@ -46,8 +46,7 @@ export class StartList {
   /** Keeps the player from asking for the configuration. */
   announce() {
     window.FolveroUserConfig = this.settings;
-    const request = window.folveroConfiguration;
-    window.folveroConfiguration = { ...request, asked: Promise.resolve(), here: true, whole: request.asked };
+    window.folveroConfiguration = { ...window.folveroConfiguration, here: true, whole: true };
   }
 
   /** @param {BookConfig} config of the first page */

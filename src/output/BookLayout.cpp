@@ -58,7 +58,12 @@ QStringList BookLayout::webFilesOfPage(int number) {
 }
 
 QStringList BookLayout::webFiles() {
-    return {searchText, webScript, vectorScript, webStyle, offlineScript, shareImage, metadata};
+    return filesOfHTMLPage() +
+           QStringList{searchText, vectorScript, offlineScript, shareImage, metadata};
+}
+
+QStringList BookLayout::filesOfHTMLPage() {
+    return {pageScript, pageStyle, webScript, webStyle};
 }
 
 QStringList BookLayout::offlineFiles() {

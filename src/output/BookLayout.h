@@ -30,7 +30,9 @@ public:
     static inline const QString sound = QStringLiteral("files/extfiles/moveSound.mp3");
     // Books for the Flash player.
     static inline const QString movie = QStringLiteral("book.swf");
-    // Web books.
+    // Web books. Script and style of the template's page, and what these have beside them.
+    static inline const QString pageScript = QStringLiteral("files/page.js");
+    static inline const QString pageStyle = QStringLiteral("files/page.css");
     static inline const QString webScript = QStringLiteral("files/web.js");
     static inline const QString vectorScript = QStringLiteral("files/vectors.js");
     static inline const QString webStyle = QStringLiteral("files/web.css");
@@ -67,6 +69,8 @@ public:
     // The files of a web book that belong to no page; the last is the one by which it is
     // recognised.
     static QStringList webFiles();
+    // Scripts and styles that the HTML page of a web book loads.
+    static QStringList filesOfHTMLPage();
     // Those that let readers save it.
     static QStringList offlineFiles();
     // A regular expression for the names of numbered files in a folder, whatever their numbers.

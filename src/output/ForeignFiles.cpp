@@ -80,10 +80,8 @@ QStringList ForeignFiles::ofBook(const BookLayout& book, const FlashTemplate* fl
 }
 
 QStringList ForeignFiles::ofWebBook(const BookLayout& book) {
-    QStringList found =
-        inFiles(book, {BookLayout::webStyle, BookLayout::webScript, BookLayout::vectorScript,
-                       BookLayout::metadata, BookLayout::icon, BookLayout::offlineScript,
-                       BookLayout::offlineList, BookLayout::searchText, BookLayout::shareImage});
+    QStringList found = inFiles(book, BookLayout::webFiles() +
+                                          QStringList{BookLayout::icon, BookLayout::offlineList});
     for (const auto& folder : {BookLayout::thumbnails, BookLayout::largePages, BookLayout::texts,
                                BookLayout::webData, BookLayout::search, BookLayout::reading})
         found += inFiles(book, folder, BookLayout::namesIn(folder));

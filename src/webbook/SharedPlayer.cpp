@@ -97,8 +97,6 @@ SharedPlayer::SharedPlayer(const QString& folder, const QString& bookFolder,
     const QString version = Bundle::version() + u'-' + QString::fromLatin1(digestOf(iFiles));
     iFolder = Files::join(absolute(folder), version);
     iAddress = address + encoded(version.toUtf8()) + '/';
-    iPage = WebPageTemplate::withReferences(WebPageTemplate::of(&flashTemplate),
-                                            QString::fromLatin1(iAddress));
 }
 
 void SharedPlayer::addFiles(const QString& bookFolder, const FlashTemplate& flashTemplate) {
@@ -110,8 +108,8 @@ void SharedPlayer::addFiles(const QString& bookFolder, const FlashTemplate& flas
     iFiles.push_back(
         {BookLayout::serviceWorker, QString(),
          PublishTransaction::contents(PlayerFile::installed(book, BookLayout::serviceWorker))});
-    for (const auto& [name, text] : WebPageTemplate::parts(WebPageTemplate::of(&flashTemplate)))
-        iFiles.push_back({name, QString(), text.toUtf8()});
+    for (const auto& [path, text] : WebPageTemplate::parts(WebPageTemplate::of(&flashTemplate)))
+        iFiles.push_back({BookLayout::inFiles(path), path, text.toUtf8()});
     const QString sound = flashTemplate.playerFile(Files::lastPathComponent(BookLayout::sound));
     if (!sound.isNull())
         iFiles.push_back({BookLayout::inFiles(BookLayout::sound), BookLayout::sound,
@@ -132,8 +130,7 @@ QByteArray SharedPlayer::address(const QString& name) const {
 QString SharedPlayer::namesForPage() const {
     QStringList names;
     for (const File& file : iFiles) {
-        if (!file.inBook.isNull() && file.inBook != BookLayout::webScript &&
-            file.inBook != BookLayout::webStyle)
+        if (!file.inBook.isNull() && !BookLayout::filesOfHTMLPage().contains(file.inBook))
             names << file.name;
     }
     return names.join(u' ');

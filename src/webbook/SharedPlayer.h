@@ -20,7 +20,7 @@ public:
 
     struct File {
         QString name;   // path below the player's folder
-        QString inBook; // path in a book that does not share; null for a part of its page
+        QString inBook; // path in a book that does not share; null for a part of a file there
         QByteArray bytes;
     };
     const std::vector<File>& files() const { return iFiles; }
@@ -29,9 +29,6 @@ public:
     // end; and the same for a file by its name.
     const QByteArray& address() const { return iAddress; }
     QByteArray address(const QString& name) const;
-
-    // The template's page, which refers to its script and its style.
-    const QString& page() const { return iPage; }
 
     // What the page's script finds here that other books have below "files", separated by spaces.
     QString namesForPage() const;
@@ -49,5 +46,4 @@ private:
     std::vector<File> iFiles; // sorted by name
     QString iFolder;          // of this version
     QByteArray iAddress;
-    QString iPage;
 };

@@ -237,33 +237,32 @@ PagePlaces placesOf(const WebBook& book) {
     return places;
 }
 
-// Keeps the page from requesting the configuration, which the start list replaces. Not without the
-// place for the latter.
-void addStartList(PagePlaces& places, const PublishTarget& to, const WebBook& book,
-                  const QString& pageTemplate, const TextParts& parts) {
+// What the player opens the book with, so that it need not request the configuration.
+void addStartList(PagePlaces& places, const WebBook& book, const TextParts& parts) {
     const QByteArray list = StartList::json(book, parts);
-    if (list.isNull() || !WebPageTemplate::hasHead(pageTemplate))
+    if (list.isNull())
         return;
-    places.start = places.allowedScript(QStringLiteral("window.FolveroUserConfig = \"\";"));
-    places.head +=
-        QStringLiteral("<script type=\"application/json\" data-file=\"web/start\">") +
-        QString::fromUtf8(list) + QStringLiteral("</script>\n") +
-        places.allowedScript(u'\n' + textOfPlayerPart(to.layout, QStringLiteral("early.js")));
+    places.head += QStringLiteral("<script type=\"application/json\" data-file=\"web/start\">") +
+                   QString::fromUtf8(list) + QStringLiteral("</script>\n");
+}
+
+// Where the page loads the player from.
+QString playerAddress(const WebBook& book) {
+    return book.player ? QString::fromLatin1(book.player->address()) : BookLayout::files + u'/';
 }
 
 QString playerMarkup(const WebBook& book) {
     const QString course =
-        QStringLiteral("<script src=\"%1\"></script>\n").arg(BookLayout::courseScript);
-    const QString markup = (book.isCourse ? course : QString()) +
-                           QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">\n"
-                                          "<script src=\"%2\"%3></script>\n");
-    if (!book.player)
-        return markup.arg(BookLayout::webStyle, BookLayout::webScript, QString());
-    const auto address = [&book](const QString& path) {
-        return QString::fromLatin1(book.player->address(BookLayout::inFiles(path)));
-    };
-    return markup.arg(address(BookLayout::webStyle), address(BookLayout::webScript),
-                      QStringLiteral(" data-files=\"%1\"").arg(book.player->namesForPage()));
+        book.isCourse
+            ? QStringLiteral("<script src=\"%1\"></script>\n").arg(BookLayout::courseScript)
+            : QString();
+    const QString names =
+        book.player ? QStringLiteral(" data-files=\"%1\"").arg(book.player->namesForPage())
+                    : QString();
+    return course + QStringLiteral("<link rel=\"stylesheet\" href=\"%1%2\">\n"
+                                   "<script src=\"%1%3\"%4></script>\n")
+                        .arg(playerAddress(book), BookLayout::inFiles(BookLayout::webStyle),
+                             BookLayout::inFiles(BookLayout::webScript), names);
 }
 
 QString megabytes(qint64 bytes) {
@@ -328,11 +327,11 @@ void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBo
     to.checkCancelled();
     if (!BookSteps::isInFolder(to.layout, book.htmlFile))
         return;
-    const QString pageTemplate =
-        book.player ? book.player->page() : WebPageTemplate::of(book.flashTemplate.get());
+    const QString pageTemplate = WebPageTemplate::withReferences(
+        WebPageTemplate::of(book.flashTemplate.get()), playerAddress(book));
     PagePlaces places = placesOf(book);
     addPreloads(places, to, book);
-    addStartList(places, to, book, pageTemplate, report.text);
+    addStartList(places, book, report.text);
     places.head += playerMarkup(book);
     const TextTemplate page = book.texts.filled(pageTemplate, places);
     to.transaction.write(book.htmlFile, page.parse().toUtf8(), Phase::page);
@@ -352,6 +351,9 @@ void WebBookSteps::copyPlayer(PublishTarget& to, const WebBook& book) {
     for (const QString& path : paths)
         to.transaction.copy(PlayerFile::installed(to.layout, path), to.layout.at(path),
                             Copy::independent);
+    for (const auto& [path, text] :
+         WebPageTemplate::parts(WebPageTemplate::of(book.flashTemplate.get())))
+        to.transaction.write(to.layout.at(path), text.toUtf8());
 }
 
 void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& parts,

@@ -1,5 +1,6 @@
 #include "webbook/WebPageTemplate.h"
 
+#include "output/BookLayout.h"
 #include "output/HTMLConfigInfo.h"
 #include "output/PageScripts.h"
 #include "system/Files.h"
@@ -72,9 +73,24 @@ QString withPolicy(const QString& page) {
 
 const QRegularExpression& sharedPart() {
     static const QRegularExpression part(
-        QStringLiteral(R"re(<(style|script) data-shared="([a-z.]+)">(.*?)</\1>)re"),
+        QStringLiteral(
+            R"re(<(style|script) data-shared="(page\.css|page\.js|early\.js)">(.*?)</\1>\n?)re"),
         QRegularExpression::DotMatchesEverythingOption);
     return part;
+}
+
+// Browsers look for the body's scripts only when those of the head have run, so the head names the
+// page's script, too.
+QString reference(const QString& name) {
+    if (name.endsWith(u".js"))
+        return QStringLiteral("<script src=\"%1") + name + QStringLiteral("\"></script>\n");
+    return QStringLiteral("<link rel=\"preload\" as=\"script\" href=\"%1page.js\">\n"
+                          "<link rel=\"stylesheet\" href=\"%1") +
+           name + QStringLiteral("\">\n");
+}
+
+bool isForClassicBooks(const QString& name) {
+    return name == u"early.js";
 }
 
 } // namespace
@@ -82,17 +98,16 @@ const QRegularExpression& sharedPart() {
 QString WebPageTemplate::of(const FlashTemplate* flashTemplate) {
     const QString path = flashTemplate ? flashTemplate->tmplHTMLFilePath() : QString();
     const QString page = QString::fromUtf8(Files::contents(path));
-    return withPolicy(hasHead(page) ? page : withPlaces(page));
-}
-
-bool WebPageTemplate::hasHead(const QString& page) {
-    return page.contains(placeholder(PagePlaces::headName));
+    return withPolicy(page.contains(placeholder(PagePlaces::headName)) ? page : withPlaces(page));
 }
 
 std::map<QString, QString> WebPageTemplate::parts(const QString& page) {
     std::map<QString, QString> parts;
-    for (const auto& match : sharedPart().globalMatch(page))
-        parts[match.captured(2)] = match.captured(3).trimmed() + u'\n';
+    for (const auto& match : sharedPart().globalMatch(page)) {
+        const QString name = match.captured(2);
+        if (!isForClassicBooks(name))
+            parts[BookLayout::in(QString(), name)] = match.captured(3).trimmed() + u'\n';
+    }
     return parts;
 }
 
@@ -100,11 +115,9 @@ QString WebPageTemplate::withReferences(const QString& page, const QString& addr
     QString changed;
     qsizetype end = 0;
     for (const auto& match : sharedPart().globalMatch(page)) {
-        const QString file = address + match.captured(2);
-        changed += page.mid(end, match.capturedStart() - end) +
-                   (match.captured(1) == u"style"
-                        ? QStringLiteral("<link rel=\"stylesheet\" href=\"%1\">").arg(file)
-                        : QStringLiteral("<script src=\"%1\"></script>").arg(file));
+        changed += page.mid(end, match.capturedStart() - end);
+        if (const QString name = match.captured(2); !isForClassicBooks(name))
+            changed += reference(name).arg(address);
         end = match.capturedEnd();
     }
     return changed + page.mid(end);

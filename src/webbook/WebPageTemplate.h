@@ -14,13 +14,11 @@ namespace WebPageTemplate {
 // one that allows the template's own scripts.
 QString of(const FlashTemplate* flashTemplate);
 
-// The parts of such a page that are the same in every book of the template, by names of files;
+// The parts of such a page that are the same in every book of the template, by paths in a book;
 // pages of templates from before there were such have none. And the page with references to these
-// files, at an address that ends in "/", in their places.
+// files in their places, all of them at one address that ends in "/". It lacks the script that
+// requests the configuration early, which a start list replaces.
 std::map<QString, QString> parts(const QString& page);
 QString withReferences(const QString& page, const QString& address);
-
-// Whether such a page has the place in its head.
-bool hasHead(const QString& page);
 
 } // namespace WebPageTemplate

@@ -16,8 +16,8 @@ const TEXTS = { PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false };
 export default [
   js.configs.recommended,
   kind(['**/*.mjs'], 'module', { ...globals.node, ...globals.browser }),
-  kind(['player/{src,web,catalogue}/**/*.js'], 'module', { ...globals.browser, ...TEXTS }),
-  kind(['player/early*.js', 'player/swf/*.js'], 'script', globals.browser),
+  kind(['player/early.js', 'player/{src,web,catalogue}/**/*.js'], 'module', { ...globals.browser, ...TEXTS }),
+  kind(['player/swf/*.js'], 'script', globals.browser),
   kind(['player/sw*.js'], 'module', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
   // Its one name is for the pages that take it.
   { files: ['player/swf/*.js'], rules: { 'no-unused-vars': ['error', { vars: 'local' }] } },

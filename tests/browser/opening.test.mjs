@@ -93,7 +93,7 @@ test('a browser without script says what is missing', async () => {
 test('a browser that does not understand the script says so', async () => {
   const file = path.join(await bookWithout(), 'index.html');
   const html = (await readFile(file, 'utf8')).replace(/<meta http-equiv="Content-Security-Policy"[^>]*>/, '');
-  await writeFile(file, html.replace('"use strict";', 'a script of tomorrow;'));
+  await writeFile(file, html.replaceAll('"use strict";', 'a script of tomorrow;'));
   const page = await reader.browser.newPage();
   await page.goto(`file://${file}`);
   assert.match(await page.locator('body').innerText(), /needs a newer browser/);

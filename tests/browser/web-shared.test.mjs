@@ -44,22 +44,35 @@ test('a book with a shared player is read from disk, over http, and without a co
   assert.deepEqual(await read(online, address), []);
   assert.ok(shared(await online.evaluate(() => document.querySelector('script[src$="page.js"]').src)));
 
-  const strict = await reader.browser.newPage();
-  const again = await serve(reader.folder);
-  await strict.route('**/index.html', async (route) => {
-    const response = await route.fetch();
-    await route.fulfill({ response, headers: { ...response.headers(), 'Content-Security-Policy': "default-src 'self'" } });
-  });
-  await strict.goto(`${again.address}books/one/index.html`);
-  await strict.keyboard.press('ArrowRight');
-  await strict.waitForFunction(() => window.folvero?.page === 2 && document.querySelector('.over.left .word'));
-  await strict.keyboard.press('p');
-  await strict.evaluate(() => { window.print = () => {}; });
-  await strict.locator('.print-panel .main-button').click();
-  await strict.waitForSelector('.sheet', { state: 'attached' });
-  await again.close();
-
   await rm(path.join(reader.folder, 'a player', version, 'page.js'));
   await page.reload();
   await page.getByText('a part of it is missing').waitFor();
+  assert.equal(await page.locator('#folvero').isVisible(), false);
+});
+
+test('a server may forbid all scripts and styles but files of its own', ready, async () => {
+  const publish = (...options) => folvero('publish', '--quiet', '--pages', '1-3', ...options);
+  await publish('--shared-player', path.join(reader.folder, 'player'), sample('text'), path.join(reader.folder, 'shared'));
+  await publish('--style', 'Garden', sample('text'), path.join(reader.folder, 'own'));
+  const server = await serve(reader.folder);
+  for (const folder of ['shared', 'own']) {
+    const page = await reader.browser.newPage();
+    const refused = [];
+    await page.exposeFunction('refuse', (directive, what) => { if (directive !== 'img-src') refused.push([directive, what]); });
+    await page.addInitScript(() => document.addEventListener('securitypolicyviolation',
+      ({ effectiveDirective, blockedURI }) => window.refuse(effectiveDirective, blockedURI)));
+    await page.route('**/index.html', async (route) => {
+      const response = await route.fetch();
+      await route.fulfill({ response, headers: { ...response.headers(), 'Content-Security-Policy': "default-src 'self'" } });
+    });
+    await page.goto(`${server.address}${folder}/index.html`);
+    await page.keyboard.press('ArrowRight');
+    await page.waitForFunction(() => window.folvero?.page === 2 && document.querySelector('.over.left .word'));
+    await page.keyboard.press('p');
+    await page.evaluate(() => { window.print = () => {}; });
+    await page.locator('.print-panel .main-button').click();
+    await page.waitForSelector('.sheet', { state: 'attached' });
+    assert.deepEqual(refused, [], folder);
+  }
+  await server.close();
 });

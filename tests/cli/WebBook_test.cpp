@@ -255,9 +255,9 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
             wanted.erase(name + ".js");
         }
         EXPECT_TRUE(html.contains("FolveroUserConfig = \"" + wanted["UserConfig.bin"].toBase64()));
-        for (const char* player : {"web.js", "web.css"})
+        for (const char* player : {"page.js", "page.css", "web.js", "web.css"})
             EXPECT_TRUE(html.contains(QString::fromUtf8(wanted[player]))) << player;
-        EXPECT_EQ(wanted.size(), 7U) << "the other five are of no use in a page";
+        EXPECT_EQ(wanted.size(), 9U) << "the other five are of no use in a page";
         static const QRegularExpression outside(R"re(\s(?:src|href|data)="(?!data:))re");
         EXPECT_FALSE(html.contains(outside)) << outside.match(html).captured().toStdString();
         EXPECT_EQ(html.count("<script"), html.count("</script>"));
@@ -267,7 +267,7 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
 // A template from before pages had places, and one whose placeholders end too early for them.
 TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
     PublishedBook book;
-    for (const char* part : {"web.js", "web.css", "vectors.js", "early.js", "offline.js", "sw.js"})
+    for (const char* part : {"web.js", "web.css", "vectors.js", "offline.js", "sw.js"})
         book.library.addFile(QString("AppFiles/Web/") + part, part);
     book.addPage("1.jpg", 1, "picture");
     FolveroOutputWeb output(book.pageSource, book.flashTemplate, book.folder(), QString());
@@ -280,17 +280,12 @@ TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
     };
     const auto policy = [](const QString& sources) {
         return "<meta http-equiv=\"Content-Security-Policy\" content=\"script-src 'self' file: " +
-               sources +
-               " 'sha256-2ePyko4LBt88b6FufPu0S/ScnDBfjy1UKxY5kk9GnLI=' "
-               "'sha256-ujkTWAYknwV7QQywdg8h6Am0/KP/MvojjgUc1P83fLs='; object-src 'none'; base-uri "
-               "'none'\">";
+               sources + "; object-src 'none'; base-uri 'none'\">";
     };
     const QString one = "'sha256-a4ayc/80/OGda4BO/1o/V0etpOqiLx1JwB5S3beHW0s='";
     const QString folder = page("<head>", false);
     EXPECT_TRUE(
-        folder.startsWith("<head>" + policy(one) +
-                          "<script>window.FolveroUserConfig = \"\";</script>\n<script>1</script>"
-                          "<link rel=\"preload\""))
+        folder.startsWith("<head>" + policy(one) + "<script>1</script><link rel=\"preload\""))
         << folder.toStdString();
     EXPECT_TRUE(folder.endsWith("<script src=\"files/web.js\"></script>\n</head><body>3</body>"));
     const QString single = page("<head>", true);
@@ -360,8 +355,9 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
     // What is open, contents included, may say the same.
     const QString open = textByPoppler(3) + textByPoppler(4) + textByPoppler(6) +
                          QString::fromUtf8(files.at("files/web/book.js"));
-    for (const char* player : {"index.html", "files/web.js", "files/web.css", "files/vectors.js",
-                               "files/web/offline.js", "sw.js", "manifest.webmanifest"})
+    for (const char* player :
+         {"index.html", "files/page.js", "files/page.css", "files/web.js", "files/web.css",
+          "files/vectors.js", "files/web/offline.js", "sw.js", "manifest.webmanifest"})
         files.erase(player);
     QByteArray& plain = files["text.html"];
     plain.remove(0, plain.indexOf("<main>"));

@@ -1,3 +1,4 @@
+import { ask, runScript } from './asking.js';
 import { bytesOf } from './base64.js';
 import { rc4 } from './rc4.js';
 import { cssColour, isYes, numberIn, ownFile } from './values.js';
@@ -49,9 +50,6 @@ export class BookError extends Error {
  * @property {string[] | null} labels what pages are called, empty texts and none: by their numbers
  */
 
-/** What early.js has requested already. */
-const { asked, runScript, here, whole } = window.folveroConfiguration;
-
 /**
  * @param {Promise<unknown>} request
  * @returns {Promise<Uint8Array>} the enciphered configuration
@@ -63,7 +61,7 @@ async function fetchBinary(request) {
 }
 
 /**
- * @param {Promise<unknown>} run of the script that holds a copy
+ * @param {Promise<unknown>} [run] of the script that holds a copy
  * @returns {Promise<Uint8Array>}
  */
 async function readScriptCopy(run) {
@@ -77,13 +75,14 @@ async function readScriptCopy(run) {
 
 /** @returns {Promise<BookConfig>} */
 export async function loadConfiguration() {
+  const { asked, here, whole } = window.folveroConfiguration ?? {};
   const fromDisk = location.protocol === 'file:';
   let answered = true;
-  /** @param {Promise<unknown>} request */
-  const ofFile = (request) => (fromDisk ? [() => readScriptCopy(request)]
-    : [() => fetchBinary(request), () => readScriptCopy(runScript())]);
-  const inPage = () => readScriptCopy(asked);
-  const sources = !here ? ofFile(asked) : whole ? [inPage, ...ofFile(whole)] : [inPage];
+  const request = () => asked ?? ask();
+  const ofFiles = fromDisk ? [() => readScriptCopy(request())]
+    : [() => fetchBinary(request()), () => readScriptCopy(runScript())];
+  const inPage = () => readScriptCopy();
+  const sources = [...(here ? [inPage] : []), ...(here && !whole ? [] : ofFiles)];
   for (const source of sources) {
     try {
       return parseConfiguration(decipher(await source()));

@@ -1,0 +1,14 @@
+/**
+ * Browsers refuse to read sibling files of a page opened from disk, but run sibling scripts.
+ * @returns {Promise<Event>}
+ */
+export const runScript = () => new Promise((resolve, reject) => {
+  const script = document.createElement('script');
+  script.src = 'files/UserConfig.js';
+  script.onload = resolve;
+  script.onerror = () => reject(new Error('not found'));
+  document.head.append(script);
+});
+
+/** Requests the configuration. */
+export const ask = () => (location.protocol === 'file:' ? runScript() : fetch('files/UserConfig.bin'));
