@@ -36,6 +36,8 @@ export class Facts {
     this.hasText = raw.text === true;
     /** Number of files with the text for searching. */
     this.searchParts = Number.isInteger(raw.searchParts) ? Math.max(1, Number(raw.searchParts)) : 1;
+    /** Positions of pages of contents and indexes. */
+    this.listings = listOf(raw.listings).map(numberOf);
     this.start = positionOf(raw.start, pageCount);
     /** What is open at first where there is room beside the book. */
     this.panel = PANELS.find((name) => name === raw.panel) ?? '';

@@ -31,7 +31,7 @@ export class Searching {
     this.files = files;
     this.hits = new Hits(player, layers);
     this.panel = new SidePanel(room, 'search', button);
-    this.text = new SearchText();
+    this.text = new SearchText(layers.facts.listings);
     /** Parts of the text that are loaded. */
     this.loaded = 0;
     /** @type {Promise<void> | null} */
@@ -166,6 +166,7 @@ export class Searching {
     while (!this.#complete && (this.loaded === 0 || this.box.value.trim())) {
       await this.text.add(await this.files.load('search/text' + (this.loaded ? '-' + this.loaded : '')));
       this.loaded += 1;
+      this.text.complete = this.#complete;
       this.#answer(this.answer);
     }
   }

@@ -11,17 +11,25 @@ const MOST_HITS = 5000;
 /** Time slice for folding texts, in milliseconds. */
 const SLICE_MS = 8;
 
-/** Characters of context before and after a hit. */
+/** Characters of context before and after a hit, and of the text that they are taken from: dots of contents are not shown. */
 const BEFORE = 30;
 const BEHIND = 60;
+const REACH = 400;
+
+/** Stands at both ends of a hit while its context is made readable. */
+const EDGE = '\uffff';
 
 /** The text of the book, folded for searching in slices while the reader types. */
 export class SearchText {
-  constructor() {
+  /** @param {number[]} listings positions of pages of contents and indexes */
+  constructor(listings) {
+    this.listings = new Set(listings);
     /** @type {string[]} by position */
     this.texts = [];
     /** @type {string[]} */
     this.folded = [];
+    /** Whether these are all texts of the book: hits on listings come last, so only then. */
+    this.complete = false;
     /** Words that need not be a phrase, even where they are one. */
     this.apart = '';
   }
@@ -65,14 +73,19 @@ export class SearchText {
   #collect(query) {
     /** @type {Hit[]} */
     const hits = [];
+    /** @type {Hit[]} */
+    const last = [];
+    /** @param {boolean} more */
+    const answer = (more) => ({ query, hits: this.complete ? hits.concat(last) : hits, more });
     for (let index = 0; index < this.folded.length && !query.empty; index++) {
       const found = query.hitsIn(this.folded[index]);
       for (let ordinal = 0; ordinal < found.length; ordinal++) {
-        if (hits.length === MOST_HITS) return { query, hits, more: true };
-        hits.push({ position: index + 1, ordinal, at: found[ordinal].at, length: found[ordinal].length });
+        if (hits.length + last.length === MOST_HITS) return answer(true);
+        (this.listings.has(index + 1) ? last : hits)
+          .push({ position: index + 1, ordinal, at: found[ordinal].at, length: found[ordinal].length });
       }
     }
-    return { query, hits, more: false };
+    return answer(false);
   }
 
   /**
@@ -83,12 +96,14 @@ export class SearchText {
   excerpt({ position, at, length }) {
     const source = this.texts[position - 1];
     const [from, to] = sourceOf(source, fold(source, true, at + length), at, length);
-    const start = wordStart(source, from - BEFORE, from);
-    const end = wordEnd(source, to + BEHIND, to);
-    const before = (start > 0 ? '\u2026' : '') + plain(source.slice(start, from));
-    const behind = plain(source.slice(to, end));
-    return [before, plain(source.slice(from, to)),
-      end < source.length ? behind.replace(/[.,;:\u2013\u2014-]+$/, '') + '\u2026' : behind];
+    const first = Math.max(0, from - REACH);
+    const text = plain(source.slice(first, from) + EDGE + source.slice(from, to) + EDGE + source.slice(to, to + REACH));
+    const [head, hit, tail] = text.split(EDGE);
+    const start = wordStart(head, head.length - BEFORE, head.length);
+    const end = wordEnd(tail, BEHIND, 0);
+    const behind = tail.slice(0, end);
+    return [(start > 0 || first > 0 ? '\u2026' : '') + head.slice(start).replace(/^\u2026 /, ''), hit,
+      end < tail.length || to + REACH < source.length ? behind.replace(/[.,;:\u2013\u2014-]+$/, '') + '\u2026' : behind];
   }
 }
 
@@ -131,9 +146,14 @@ function unsplit(source, at) {
   return /[\udc00-\udfff]/.test(source[at]) ? at + 1 : at;
 }
 
-const RUNS_ON = /([\u3001-\u30ff\u3400-\u9fff\uac00-\ud7a3\uf900-\ufaff])\n(?=[\u3001-\u30ff\u3400-\u9fff\uac00-\ud7a3\uf900-\ufaff])/g;
+const RUNS_ON = /([\u3001-\u30ff\u3400-\u9fff\uac00-\ud7a3\uf900-\ufaff]\uffff?)\n(?=\uffff?[\u3001-\u30ff\u3400-\u9fff\uac00-\ud7a3\uf900-\ufaff])/g;
+const SPLIT_WORD = /(\p{L}\uffff?)[-\u00ad\u2010](\uffff?)\n(?=\uffff?\p{Ll})/gu;
+const DOTS = /\s*(?:[.\u00b7\u2024-\u2026_]\s*){4,}/g;
 
-/** @param {string} text with line ends */
+/**
+ * A text as it is read: without line ends and the hyphens there, and without the dots of contents.
+ * @param {string} text
+ */
 function plain(text) {
-  return text.replace(RUNS_ON, '$1').replace(/\s+/g, ' ');
+  return text.replace(SPLIT_WORD, '$1$2').replace(RUNS_ON, '$1').replace(DOTS, ' \u2026 ').replace(/\s+/g, ' ');
 }

@@ -107,6 +107,8 @@ QJsonObject WebBookMetadata::forPlayer(const FlashOutline* outline, const TextPa
         object[QStringLiteral("searchParts")] = parts.search;
     if (!parts.reading.empty())
         object[QStringLiteral("reading")] = arrayOf(parts.reading);
+    if (!parts.listings.empty())
+        object[QStringLiteral("listings")] = arrayOf(parts.listings);
     object[QStringLiteral("outline")] =
         outline ? outlineOf(outline->items(), *this, 0) : QJsonArray();
     if (!numbers.empty() && numbers.back() != int(numbers.size()))

@@ -15,8 +15,9 @@ class FlashOutline;
 
 // The files with a book's text.
 struct TextParts {
-    int search = 0;           // how many are for searching; 0 for no text
-    std::vector<int> reading; // the positions of pages at which those with its structure begin
+    int search = 0;            // how many are for searching; 0 for no text
+    std::vector<int> reading;  // the positions of pages at which those with its structure begin
+    std::vector<int> listings; // the positions of pages of contents and indexes
 };
 
 // Metadata of a web book, for its player, search engines and link previews.

@@ -307,6 +307,8 @@ void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookRep
         to.checkCancelled();
         const bool isOpen = book.isOpen(page);
         const QString text = isOpen ? writer.write(page) : QString();
+        if (WebPageText::isListing(text))
+            report.text.listings.push_back(book.metadata.positionOf(page.number));
         search.add(text);
     }
     if (book.content.document) {

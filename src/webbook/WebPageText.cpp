@@ -1,6 +1,7 @@
 #include "webbook/WebPageText.h"
 
 #include <QJsonArray>
+#include <QRegularExpression>
 #include <QTransform>
 #include <algorithm>
 #include <cmath>
@@ -130,4 +131,38 @@ QString WebPageText::plain(const std::vector<PDFTextLine>& lines) {
             text += word.text;
     }
     return text;
+}
+
+bool WebPageText::isListing(const QString& text) {
+    constexpr int fewestEntries = 5;
+    constexpr qsizetype lettersOfEnd = 100;
+    static const QRegularExpression marked(QStringLiteral(
+        R"re((?:(?:[.\x{b7}\x{2024}-\x{2026}_]\s*){3,}|,\s*)(?:(\d{1,4})|[ivxlc]+)(?:\s?[-\x{2013}]\s?\d+)?[,;]?\s*$)re"));
+    static const QRegularExpression unmarked(QStringLiteral(R"re(\s(\d{1,4})\s*$)re"));
+    int lines = 0;
+    int entries = 0;
+    int markedEntries = 0;
+    int falls = 0;
+    int last = 0;
+    for (const QStringView line : QStringView(text).split(u'\n')) {
+        if (std::none_of(line.begin(), line.end(), [](QChar letter) { return letter.isLetter(); }))
+            continue;
+        ++lines;
+        const QString end = line.right(std::min(line.size(), lettersOfEnd)).toString();
+        auto entry = marked.match(end);
+        if (entry.hasMatch())
+            ++markedEntries;
+        else
+            entry = unmarked.match(end);
+        if (!entry.hasMatch())
+            continue;
+        ++entries;
+        const int number = entry.captured(1).toInt(); // 0 for one in Roman figures
+        if (number > 0 && number < last)
+            ++falls;
+        if (number > 0)
+            last = number;
+    }
+    return entries >= fewestEntries && 2 * entries >= lines &&
+           (2 * markedEntries >= entries || 10 * falls <= entries);
 }

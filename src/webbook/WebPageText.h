@@ -36,4 +36,9 @@ QJsonObject asJson(const PDFPage& page, const std::vector<PDFTextLine>& lines,
 // The text alone: lines in reading order, separated by line breaks.
 QString plain(const std::vector<PDFTextLine>& lines);
 
+// Whether a page with this text lists where to find what, as contents and indexes do: at least half
+// of its lines end in page numbers, and these follow dots or commas or hardly one is less than the
+// one before, which tells contents from tables.
+bool isListing(const QString& text);
+
 } // namespace WebPageText

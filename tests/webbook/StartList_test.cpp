@@ -17,7 +17,7 @@ TEST(StartList, HasPagesAndLabelsInRuns) {
     }
     book.metadata.labels = QStringList{"A-9", "A-10", "007", "${x}<", "9999999999"};
     book.complete({});
-    const QByteArray json = StartList::json(book, {1, {}});
+    const QByteArray json = StartList::json(book, {1, {}, {}});
     EXPECT_FALSE(json.contains('$') || json.contains('<')) << json.constData();
     const QJsonDocument list = QJsonDocument::fromJson(json);
     const auto compact = [&list](const char* key) {
@@ -31,5 +31,5 @@ TEST(StartList, HasPagesAndLabelsInRuns) {
     EXPECT_EQ(compact("runs"), "[0,2,1,1,2,1,3,1]");
     EXPECT_EQ(QJsonDocument(list["facts"]["labels"].toArray()).toJson(QJsonDocument::Compact),
               R"([["A-",9,2],"007","${x}<","9999999999"])");
-    EXPECT_EQ(StartList::json(WebBook(), {1, {}}), QByteArray());
+    EXPECT_EQ(StartList::json(WebBook(), {1, {}, {}}), QByteArray());
 }

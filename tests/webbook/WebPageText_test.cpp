@@ -11,3 +11,19 @@ TEST(WebPageText, HasOnlyLinksThatLieOnThePage) {
         EXPECT_EQ(WebPageText::linksOf(page, {link, above}, {}).size(), links);
     }
 }
+
+TEST(WebPageText, TellsContentsAndIndexesFromTextAndTables) {
+    const std::pair<const char*, bool> cases[] = {
+        {"Contents\n1\nBeginning . . . . 1\n1.1 More ..... iv\nThen . . . 9\nA ... 12\nB ... 20",
+         true},
+        {"Contents\nBeginning 3\nMore 5\nThen 5\nA house 12\nIts door 100", true},
+        {"Index\napple, 4, 12\nbanana, 7\u201399,\ncherry, xi\ndate, 2\nelder, 1, 3", true},
+        {"Year Cost\nLamps 90\nChairs 12\nTables 40\nBeds 7\nBoxes 33", false},
+        {"He came in 1842\nand saw it. There was nothing\nto see but five doors, 7\nwindows",
+         false},
+        {"A ... 1\nB ... 2\nC ... 3\nD ... 4", false},
+        {"1\n2\n3\n4\n5\n6", false},
+        {"", false}};
+    for (const auto& [text, isListing] : cases)
+        EXPECT_EQ(WebPageText::isListing(QString::fromUtf8(text)), isListing) << text;
+}

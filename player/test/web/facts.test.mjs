@@ -5,7 +5,8 @@ import { Facts } from '../../web/facts.js';
 import { shownOf } from '../../web/keeping.js';
 
 test('facts are well formed whatever a file holds', () => {
-  const none = { pageCount: 3, numbers: [], labels: null, outline: [], hasContents: false, large: [], hasText: false,
+  const none = { pageCount: 3, numbers: [], labels: null, outline: [], hasContents: false, large: [], listings: [],
+    hasText: false,
     searchParts: 1, offline: false, open: null, language: '', textPage: '', start: 0, panel: '' };
   const wrong = { labels: 7, outline: 'x', numbers: {}, open: 'x', large: 3, text: 'yes', offline: 1, language: '<b>',
     textPage: 'javascript:x.html', searchParts: '2', start: 4, panel: 'search' };

@@ -46,9 +46,10 @@ test('a query is looked for as it stands, word by word when widened, and in quot
 });
 
 async function textOf(...texts) {
-  const text = new SearchText();
+  const text = new SearchText([2]);
   await text.add(texts.slice(0, 2));
   await text.add(texts.slice(2));
+  text.complete = true;
   return text;
 }
 
@@ -63,11 +64,21 @@ test('hits are found on all pages, up to a number that nobody reads', async () =
   assert.deepEqual([many.hits.length, many.more], [5000, true]);
 });
 
+test('hits in contents come after those in the text, once all of that is there', async () => {
+  const text = await textOf('x', 'Harbours . . . 3', 'the harbour', 'harbours');
+  const pages = () => text.find('harbour').hits.map(({ position }) => position);
+  assert.deepEqual(pages(), [3, 4, 2]);
+  text.complete = false;
+  assert.deepEqual(pages(), [3, 4]);
+});
+
 test('a hit is shown with whole words around it', async () => {
   const excerpts = [
     ['one needle', ['one ', 'needle', '']], ['needle.', ['', 'needle', '.']],
     [`a ${'word '.repeat(9)}needle ${'after, '.repeat(9)}`,
     [`\u2026${'word '.repeat(5)}`, 'needle', ` ${'after, '.repeat(8).trim().slice(0, -1)}\u2026`]],
+    ['hay-\nstack of well-\nKnown nee-\ndles, hay-\nstack', ['haystack of well- Known ', 'needle', 's, haystack']],
+    [`1 Hay ${'. '.repeat(40)}3\nNeedle${'.'.repeat(90)}5\nEnd ... 9`, ['1 Hay … 3 ', 'Needle', ' … 5 End ... 9']],
     ['前\n後needle\nx', ['前後', 'needle', ' x']],
     [`x${'\u{1f600}'.repeat(40)}yneedle`, [`\u2026${'\u{1f600}'.repeat(14)}y`, 'needle', '']],
   ];

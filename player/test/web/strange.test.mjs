@@ -34,7 +34,7 @@ test('the player reads whatever a book of strangers holds', async () => {
     }
     const page = new PageText(chance.changed(TEXT));
     for (const { box } of page.boxesOf(0, page.string.length)) assert.ok(Object.values(box).every(Number.isFinite));
-    const search = new SearchText();
+    const search = new SearchText([]);
     await search.add([chance.text(), chance.value(), page.string]);
     for (const hit of search.find(chance.text()).hits) search.excerpt(hit);
     globalThis.location = { hash: '#' + chance.one(['page=', 'a&page=']) + chance.one(['9'.repeat(400), chance.text()]) };
