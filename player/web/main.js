@@ -63,6 +63,21 @@ function mayKeep() {
 }
 
 /**
+ * What does something at its first call, and again at the next one when that failed.
+ * @template T
+ * @param {() => Promise<T>} act
+ */
+function once(act) {
+  /** @type {Promise<T> | null} */
+  let made = null;
+  return () => {
+    made ??= act();
+    made.catch(() => { made = null; });
+    return made;
+  };
+}
+
+/**
  * Adds reading offline, by a script of its own that is loaded after the first pages.
  * @param {import('../src/player.js').Player} player
  * @param {Layers} layers
@@ -83,14 +98,7 @@ function addKeeping(player, layers) {
     early.forEach(hear);
     return keeping;
   };
-  /** @type {ReturnType<typeof begin> | null} */
-  let made = null;
-  const load = () => {
-    made ??= begin();
-    // The next call tries again.
-    made.catch(() => { made = null; });
-    return made;
-  };
+  const load = once(begin);
   // None of this may delay the first pages.
   const observer = new MutationObserver(() => {
     if (root.dataset.state !== 'ready') return;
@@ -119,7 +127,7 @@ function addToBook(player, facts) {
   const links = new Links(player, layers);
   const selecting = new Selecting(player, layers);
   gestures.answersTap = (event) => selecting.answers || links.followAt(event);
-  addEnlarging(player, layers);
+  addLargePages(player, layers);
   const room = new SideRoom(player);
   // Where the bar is narrow, the search is worth more than the page count.
   part(toolbar.bar, '.of').dataset.fold = '7.2';
@@ -151,22 +159,21 @@ function addToBook(player, facts) {
 }
 
 /**
- * Loads what only enlarged pages need, a script of its own, when the reader first enlarges them.
+ * Loads what only enlarged and printed pages need, a script of its own, when it is first needed.
  * @param {import('../src/player.js').Player} player
  * @param {Layers} layers
  */
-function addEnlarging(player, layers) {
-  const { zoom } = player;
+function addLargePages(player, layers) {
+  const { zoom, sheets } = player;
   const { onChange } = zoom;
-  /** @type {Promise<void> | null} */
-  let asked = null;
+  const { load } = sheets;
+  const needed = once(() => /** @type {Promise<typeof import('./vectorspart.js')>} */ (files.run('vectors')));
+  const begin = once(() => needed().then(({ beginEnlarged }) => beginEnlarged(player, layers, files)));
   zoom.onChange = () => {
     onChange();
-    if (!zoom.active) return;
-    asked ??= files.run('vectors').then((begin) => {
-      /** @type {typeof import('./vectorspart.js').beginEnlarged} */ (begin)(player, layers, files);
-    }).catch(() => { asked = null; });
+    if (zoom.active) begin();
   };
+  sheets.load = (page) => needed().then(({ largePage }) => largePage(page, player, layers, files)).catch(() => load(page));
 }
 
 /**

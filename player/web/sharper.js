@@ -1,6 +1,5 @@
 import { part } from '../src/book/dom.js';
-import { fileAddress } from '../src/book/values.js';
-import { svgOf } from './vectors.js';
+import { loadLarge } from './largepicture.js';
 
 /** @typedef {import('./layers.js').Layers} Layers */
 /** @typedef {'left' | 'right'} Side */
@@ -85,7 +84,7 @@ export class Sharper {
     image.className = 'large';
     image.draggable = false;
     try {
-      await this.#show(image, this.facts.largeFile(position));
+      await loadLarge(image, this.facts.largeFile(position), this.files);
     } catch {
       // The usual image stays.
       return;
@@ -96,30 +95,6 @@ export class Sharper {
     image.decoding = 'sync';
     image.style.cssText = usual.style.cssText;
     usual.after(image);
-  }
-
-  /**
-   * Loads an image from a file, or from data that hold it.
-   * @param {HTMLImageElement} image
-   * @param {string} file
-   */
-  async #show(image, file) {
-    const [, data] = /^(.*)\.js$/.exec(file) ?? [];
-    image.src = data ? await this.#vectors(data) : fileAddress(file);
-    try {
-      await image.decode();
-    } finally {
-      if (data) URL.revokeObjectURL(image.src);
-    }
-  }
-
-  /**
-   * URL of an SVG file.
-   * @param {string} name of the data from which it is made
-   */
-  async #vectors(name) {
-    const svg = await svgOf(await this.files.load(name));
-    return URL.createObjectURL(new Blob([svg], { type: 'image/svg+xml' }));
   }
 
   /** @param {Side} side */

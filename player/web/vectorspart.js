@@ -1,6 +1,7 @@
-// Entry point of files/vectors.js, which only readers who enlarge pages need.
+// Entry point of files/vectors.js, which only readers who enlarge or print pages need.
 
 import { columnsOf } from './columns.js';
+import { loadLarge } from './largepicture.js';
 import { Sharper } from './sharper.js';
 
 /**
@@ -28,4 +29,18 @@ export function beginEnlarged(player, layers, files) {
   });
 }
 
-window.folveroData?.('vectors', beginEnlarged);
+/**
+ * The larger picture of a page, for the printer. Rejects where there is none.
+ * @param {number} page
+ * @param {import('../src/player.js').Player} player
+ * @param {import('./layers.js').Layers} layers
+ * @param {import('./data.js').DataFiles} files
+ */
+export async function largePage(page, { say }, { facts }, files) {
+  const image = new Image();
+  image.alt = say('page', page);
+  await loadLarge(image, facts.largeFile(page), files);
+  return image;
+}
+
+window.folveroData?.('vectors', { beginEnlarged, largePage });

@@ -19,10 +19,12 @@ const printed = (book) => book.page.waitForFunction(() => window.prints === 1);
 const sheets = (book) => book.page.locator('.sheet img').evaluateAll((all) =>
   all.map((one) => Number(/(\d+)\.jpg$/.exec(one.src)[1])));
 
-/** Sheets of a print as the browser makes it: for each its width and height in points. */
+/** A print as the browser makes it. */
+const fileOf = async (book) => (await book.page.pdf({ preferCSSPageSize: true, printBackground: true })).toString('latin1');
+
+/** Its sheets: for each its width and height in points. */
 async function onPaper(book) {
-  const file = (await book.page.pdf({ preferCSSPageSize: true, printBackground: true })).toString('latin1');
-  return [...file.matchAll(/\/Type \/Page\b[^]*?\/MediaBox \[0 0 ([\d.]+) ([\d.]+)\]/g)]
+  return [...(await fileOf(book)).matchAll(/\/Type \/Page\b[^]*?\/MediaBox \[0 0 ([\d.]+) ([\d.]+)\]/g)]
     .map(([, width, height]) => [Number(width), Number(height)]);
 }
 
@@ -82,4 +84,19 @@ test('page numbers that name no pages are explained', async () => {
 test("the browser's own command prints the pages in view", async () => {
   const book = await open(await reader.book({ pages: plainPages(6) }), { hash: '#page=4' });
   assert.equal((await onPaper(book)).length, 2);
+});
+
+test('a web book prints vectors, or the larger picture of a page, and what is usual where one is damaged', async () => {
+  const svg = '<svg xmlns="http://www.w3.org/2000/svg" width="120" height="160"><path d="M9 9h99v99z"/></svg>';
+  const large = [{ kind: 'js', svg }, { kind: 'js', bytes: 'damaged' }, { kind: 'png', bytes: plainPages(1, 480, 640)[0].bytes }];
+  const folder = await reader.webBook({ pages: plainPages(4), description: { pages: [{}, {}, {}, {}], large } });
+  const book = await open(folder);
+  await book.page.keyboard.press('p');
+  await book.page.locator('.print-panel [value="all"]').check();
+  await book.page.locator('.print-panel .main-button').click();
+  await printed(book);
+  const widths = await book.page.locator('.sheet img').evaluateAll((all) => all.map((one) => one.naturalWidth));
+  const usual = widths[3];
+  assert.deepEqual(widths, [120, usual, 480, usual]);
+  assert.equal([...(await fileOf(book)).matchAll(/\/Subtype \/Image/g)].length, 3);
 });

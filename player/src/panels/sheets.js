@@ -14,8 +14,13 @@ export class Sheets {
     this.pages = pages;
     this.element = part(document, '.sheets');
     this.run = 0;
+    /**
+     * The picture of a page once it has loaded; web books may have another one for the printer.
+     * @type {(page: number) => Promise<HTMLImageElement>}
+     */
+    this.load = (page) => loaded(this.#picture(page));
     window.addEventListener('beforeprint', () => {
-      if (this.element.childElementCount === 0) this.#lay(pagesInView().map((n) => this.#sheet(n)));
+      if (this.element.childElementCount === 0) this.#lay(pagesInView().map((page) => sheet(this.#picture(page))));
     });
     window.addEventListener('afterprint', () => this.clear());
   }
@@ -36,10 +41,9 @@ export class Sheets {
     const sheets = [];
     for (const page of pages) {
       progress(sheets.length + 1);
-      const sheet = this.#sheet(page);
-      await arrived(sheet, say('pageMissing', page));
+      const content = await this.load(page).catch(() => say('pageMissing', page));
       if (run !== this.run) return false;
-      sheets.push(sheet);
+      sheets.push(sheet(content));
     }
     this.#lay(sheets);
     window.print();
@@ -66,27 +70,24 @@ export class Sheets {
   }
 
   /** @param {number} page */
-  #sheet(page) {
+  #picture(page) {
     const image = new Image();
     image.alt = say('page', page);
     image.src = fileAddress(this.pages[page - 1].path);
-    return make('div', 'sheet', image);
+    return image;
   }
 }
 
+/** @param {Node | string} content */
+const sheet = (content) => make('div', 'sheet', content);
+
 /**
- * Waits for a sheet's image; one that fails to load is replaced by a note.
- * @param {HTMLElement} sheet
- * @param {string} note
- * @returns {Promise<unknown>}
+ * @param {HTMLImageElement} image
+ * @returns {Promise<HTMLImageElement>}
  */
-function arrived(sheet, note) {
-  const image = /** @type {HTMLImageElement} */ (sheet.querySelector('img'));
-  return new Promise((resolve) => {
-    image.addEventListener('load', resolve);
-    image.addEventListener('error', () => {
-      sheet.replaceChildren(note);
-      resolve(note);
-    });
+function loaded(image) {
+  return new Promise((resolve, reject) => {
+    image.addEventListener('load', () => resolve(image));
+    image.addEventListener('error', reject);
   });
 }
