@@ -134,8 +134,8 @@ test('a finger that rests on a word marks it and goes on marking, one that swipe
   assert.equal(await copied(book.page), 'river runs below the old');
   await book.page.touchscreen.tap(370, 500);
   assert.deepEqual(await book.pages(), [2]);
-  await book.swipe([from.x + from.width / 2 + 60, from.y + 4], [from.x - 100, from.y]);
-  await book.waitForPages(3);
+  await book.swipe([from.x + from.width / 2, from.y + 4], [340, from.y]);
+  await book.waitForPages(1);
 });
 
 test('words of lines that run from right to left or are turned lie over their pictures', async () => {

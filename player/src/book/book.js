@@ -56,12 +56,12 @@ export class Book {
   resize() {
     const width = this.root.clientWidth;
     const height = this.root.clientHeight;
-    const { rightToLeft, hideBar, pages } = this.config;
+    const { rightToLeft, pages } = this.config;
     const margins = fittingMargins(this.config.margins, width, height);
     const free = { ...margins, left: Math.max(margins.left, this.beside) };
     this.layout = layOut({
       width, height, margins: free, aspect: this.aspect, pageCount: pages.length, rightToLeft,
-      hasBar: !hideBar, maySpread: this.root.dataset.pages !== 'single',
+      maySpread: this.root.dataset.pages !== 'single',
     });
     this.views = new Views(pages.length, this.layout.spread, rightToLeft);
     this.drawn.clear();

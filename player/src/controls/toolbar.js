@@ -99,8 +99,8 @@ export class Toolbar {
   }
 
   #hide() {
-    const used = this.bar.matches(':hover') || this.bar.querySelector(':focus-visible')
-      || this.root.querySelector('dialog[open], .drawer:not([hidden]), .back:focus-visible');
+    const used = this.bar.matches(':hover') || this.root.querySelector(
+      'dialog[open], .drawer:not([hidden]), :is(.bar *, .arrow, .back, .caption *):focus-visible');
     if (used) {
       this.show();
       return;
@@ -150,7 +150,7 @@ export class Toolbar {
       this.show();
     }, { capture: true });
     window.addEventListener('keydown', () => this.show(), { capture: true });
-    this.bar.addEventListener('focusin', () => this.show());
+    this.root.addEventListener('focusin', () => this.show());
   }
 
   #wirePageBox() {

@@ -104,7 +104,7 @@ test('where readers want little motion a swipe turns at its end', () => {
 });
 
 /** Settings, a place of the mouse, and the page whose corner it lifts. */
-const corners = [[{}, 1140, 60, 6], [{}, 1140, 715, 6], [{}, 140, 60, 2], [{}, 1140, 300, 0], [{}, 1170, 60, 0],
+const corners = [[{}, 1140, 60, 6], [{}, 1140, 715, 6], [{}, 140, 60, 2], [{}, 1140, 300, 0], [{}, 1230, 60, 0],
   [{ width: 500, height: 900 }, 450, 170, 5], [{ width: 500, height: 900 }, 40, 170, 0]];
 test('a corner under the mouse lifts, falls when the mouse leaves it, and does not hinder a turn the other way', () => {
   for (const [settings, x, y, page] of corners) {
