@@ -25,6 +25,7 @@ import { Printing } from './panels/printing.js';
 import { Sharing } from './panels/sharing.js';
 import { Sheets } from './panels/sheets.js';
 import { Toast } from './panels/toast.js';
+import { Viewing } from './panels/viewing.js';
 
 /**
  * Extensions by other scripts. Each is called with the configuration before any page image is requested, and may return
@@ -54,7 +55,7 @@ function followWindow(root, turner, drawer, page) {
   const { book } = turner;
   let size = '';
   const fit = () => {
-    const now = [root.clientWidth, root.clientHeight, book.beside].join(' ');
+    const now = [root.clientWidth, root.clientHeight, book.beside, book.choice, book.firstAlone].join();
     // Observers fire once without a change, which must not cancel a turn in progress.
     if (now === size) return;
     size = now;
@@ -85,6 +86,7 @@ function addControls(root, turner, sounds) {
   const sharing = new Sharing(root, () => pagesInView()[0], (page) => labelOf(config, page));
   const sheets = new Sheets(config.pages, pagesInView);
   const printing = new Printing(root, sheets, config, pagesInView);
+  const viewing = new Viewing(root, book);
   const helping = new Helping(root);
   const menu = new Menu(root, () => toolbar.folding.folded);
   const toast = new Toast(root);
@@ -93,6 +95,10 @@ function addControls(root, turner, sounds) {
     thumbs: () => drawer.toggle(),
     zoomIn: () => reading.enlarge(),
     zoomOut: () => zoom.out(),
+    view: () => viewing.open(),
+    viewOne: () => viewing.toggle('one'),
+    viewTwo: () => viewing.toggle('two'),
+    viewWidth: () => viewing.toggle('width'),
     play: () => slideshow.run(!slideshow.running),
     sound: () => {
       sounds.switchTo(!sounds.on);
@@ -123,7 +129,7 @@ function addControls(root, turner, sounds) {
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
-  return { toolbar, commands, slideshow, drawer, sheets, zoom, reading, gestures, toast };
+  return { toolbar, commands, slideshow, drawer, sheets, viewing, zoom, reading, gestures, toast };
 }
 
 /** @param {HTMLElement} root */
@@ -145,7 +151,7 @@ async function openBook(root) {
   const turner = new Turner(book, /** @type {HTMLCanvasElement} */ (part(root, '.leaf')));
   const sounds = new Sounds(config.sound);
   const controls = addControls(root, turner, sounds);
-  const { toolbar, slideshow, drawer, toast } = controls;
+  const { toolbar, slideshow, drawer, viewing, toast } = controls;
   const memory = new Memory(config.pages.length);
   const left = pageInAddress() ? 0 : memory.page;
 
@@ -167,6 +173,7 @@ async function openBook(root) {
     slideshow.wait();
   };
   const relayout = followWindow(root, turner, drawer, () => place.page);
+  viewing.onChange = relayout;
   for (const add of additions) add?.({ book, turner, relayout, ...controls });
   const inView = book.views.pagesOf(turner.current);
   await Promise.all(inView.map((shown) => book.images.get(shown).settled));

@@ -13,6 +13,7 @@ import type { Zoom } from './controls/zoom.js';
 import type { Drawer } from './panels/drawer.js';
 import type { Sheets } from './panels/sheets.js';
 import type { Toast } from './panels/toast.js';
+import type { Viewing } from './panels/viewing.js';
 
 /** Names of all texts, those of web books included. */
 export type AnyWord = Word | keyof typeof english.web | keyof typeof english.offline;
@@ -35,6 +36,7 @@ export interface Controls {
   slideshow: Slideshow;
   drawer: Drawer;
   sheets: Sheets;
+  viewing: Viewing;
   zoom: Zoom;
   reading: Reading;
   gestures: Gestures;

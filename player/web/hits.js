@@ -60,11 +60,11 @@ export class Hits {
   }
 
   /**
-   * Moves enlarged pages so that the hit can be seen.
+   * Moves pages that go beyond the window so that the hit can be seen.
    * @param {Element | null} mark
    */
   #bringIntoView(mark) {
-    if (!mark || !this.zoom.active) return;
+    if (!mark || !this.zoom.pans) return;
     const { left, right, top, bottom } = mark.getBoundingClientRect();
     const { clientWidth, clientHeight } = this.root;
     const { beside } = this.book;

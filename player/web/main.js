@@ -169,10 +169,12 @@ function addLargePages(player, layers) {
   const { load } = sheets;
   const needed = once(() => /** @type {Promise<typeof import('./vectorspart.js')>} */ (files.run('vectors')));
   const begin = once(() => needed().then(({ beginEnlarged }) => beginEnlarged(player, layers, files)));
+  const look = () => { if (zoom.pans) begin(); };
   zoom.onChange = () => {
     onChange();
-    if (zoom.active) begin();
+    look();
   };
+  layers.followers.push(look);
   sheets.load = (page) => needed().then(({ largePage }) => largePage(page, player, layers, files)).catch(() => load(page));
 }
 

@@ -34,7 +34,7 @@ export class Sharper {
     const { onImage } = book;
     book.onImage = (page) => {
       onImage(page);
-      if (this.zoom.active) this.#soon();
+      if (this.zoom.pans) this.#soon();
     };
     layers.followers.push(() => this.#soon());
     this.#soon();
@@ -46,7 +46,7 @@ export class Sharper {
     for (const side of this.kept.keys()) {
       if (this.#wanted(side) !== this.kept.get(side)?.position) this.#drop(side);
     }
-    if (this.zoom.active) this.timer = window.setTimeout(() => this.#fetch(), REST_MS);
+    if (this.zoom.pans) this.timer = window.setTimeout(() => this.#fetch(), REST_MS);
   }
 
   #fetch() {
@@ -63,7 +63,7 @@ export class Sharper {
    */
   #wanted(side) {
     const position = this.book.views.at(this.turner.current)[side];
-    if (!position || !this.zoom.active || !this.facts.largeFile(position)) return 0;
+    if (!position || !this.zoom.pans || !this.facts.largeFile(position)) return 0;
     const { image, state } = this.book.images.get(position);
     if (state !== 'ready') return 0;
     const { width } = this.book.placeOf(image.naturalWidth, image.naturalHeight);

@@ -31,7 +31,7 @@ test('the bar goes while the reader is idle, comes with pointer, finger and key,
 test('every control is reached with the tab key, in the order in which it stands', async () => {
   const book = await open(6, { hash: '#page=2', values: { TutorialTitle: 'https://example.org/' } });
   const names = [];
-  for (let step = 0; step < 14; step += 1) {
+  for (let step = 0; step < 15; step += 1) {
     await book.page.keyboard.press('Tab');
     names.push(await book.page.evaluate(() => {
       const { activeElement: at } = document;
@@ -40,7 +40,7 @@ test('every control is reached with the tab key, in the order in which it stands
     }));
   }
   assert.deepEqual(names, ['Previous page', 'Next page', 'example.org', 'Previous page', 'Page number', 'Next page',
-    'Thumbnails', 'Zoom in', 'Turn pages by itself', 'Sound', 'Share', 'Print', 'Full screen', 'Help']);
+    'Thumbnails', 'Zoom in', 'View', 'Turn pages by itself', 'Sound', 'Share', 'Print', 'Full screen', 'Help']);
 });
 
 test('zoom, sound, playing and full screen are switched and show it', async () => {
@@ -96,7 +96,7 @@ for (const [name, view, size] of windows) {
       .filter((one) => one.getClientRects().length > 0).map((one) => one.dataset.does));
     if (inBar.includes('more')) await book.use('more');
     const inMenu = await book.page.locator('.entry:visible').count();
-    assert.equal(inBar.filter((one) => one !== 'more').length + inMenu, 9, inBar.join());
+    assert.equal(inBar.filter((one) => one !== 'more').length + inMenu, 10, inBar.join());
     if (name !== 'phone') return;
     for (const one of ['thumbs', 'more']) assert.ok(inBar.includes(one), `${one} stays in the bar`);
     assert.match(await book.page.locator('.menu-panel').innerText(), /A caption/);
@@ -108,6 +108,30 @@ for (const [name, view, size] of windows) {
     assert.equal(await book.page.locator('.menu-panel').isVisible(), false);
   });
 }
+
+test('the reader chooses how the pages lie, by key and in the panel, and finds it so again', async () => {
+  const folder = await reader.book({ pages: plainPages(9) });
+  const book = await reader.openFromDisk(folder, { hash: '#page=4' });
+  await book.waitForPages(4, 5);
+  await book.page.keyboard.press('1');
+  await book.waitForPages(4);
+  await book.page.keyboard.press('1');
+  await book.waitForPages(4, 5);
+  await book.use('view');
+  assert.deepEqual(await book.page.evaluate(() => [document.activeElement.value, document.activeElement.checked]), ['auto', true]);
+  await book.page.locator('.view-panel .first-alone').uncheck();
+  await book.waitForPages(3, 4);
+  await book.page.getByRole('radio', { name: 'Whole width' }).check();
+  await book.page.waitForFunction(() => document.querySelector('.page.left').getBoundingClientRect().height > innerHeight);
+  await book.page.keyboard.press('Escape');
+  await book.page.keyboard.press('End');
+  await book.waitForPages(9);
+  await book.page.reload();
+  await book.page.waitForSelector('#folvero[data-state="ready"]');
+  await book.waitForPages(9);
+  const { height } = await book.box('left');
+  assert.ok(height > 800, 'still all of the width, and the first page not alone');
+});
 
 const words = [[['de-AT', 'en'], 'de', 'Drucken', 'Seiten 2 und 3 von 6'],
   [['xx', 'FR-ca'], 'fr', 'Imprimer', 'Pages 2 et 3 sur 6'], [['ja'], 'en', 'Print', 'Pages 2 and 3 of 6']];

@@ -12,13 +12,16 @@ test('the book lies within the window, whatever its size, and stays at its page'
   const book = await reader.openFromDisk(await reader.book({ pages: plainPages(9) }), { hash: '#page=5' });
   for (const [width, height] of [[1280, 800], [390, 844], [844, 390], [320, 300]]) {
     await book.page.setViewportSize({ width, height });
-    await book.waitForPages(...width >= 844 ? [4, 5] : [5]);
+    await book.waitForPages(...width > 844 ? [4, 5] : [5]);
     // Until the window's frame has been drawn, the pages are where they were before.
     await book.page.waitForFunction(() => [...document.querySelectorAll('.page:not([hidden])')].every((page) => {
       const { left, top, right, bottom } = page.getBoundingClientRect();
-      return left >= 0 && top >= 0 && right <= innerWidth && bottom <= innerHeight && bottom - top > innerHeight * 0.3;
+      // In windows as low as those of phones on their side a page has all of the width.
+      const isWhole = bottom <= innerHeight && bottom - top > innerHeight * 0.3;
+      return left >= 0 && top >= 0 && right <= innerWidth && (isWhole || right - left === innerWidth);
     }));
-    assert.deepEqual(await book.colourOf('right'), colourOf(5));
+    const { x, y, width: across } = await book.box('right');
+    assert.deepEqual(await book.colourAt(x + across / 2, y + 100), colourOf(5));
   }
 });
 

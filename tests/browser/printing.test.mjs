@@ -55,6 +55,8 @@ test('a page fills its sheet, or leaves a note on it, and nothing else of the pl
   const folder = await reader.book({ pages: plainPages(3, 160, 120) });
   await rm(path.join(folder, 'files/page/3.jpg'));
   const book = await open(folder, { hash: '#page=2' });
+  await book.page.keyboard.press('2');
+  await book.waitForPages(2, 3);
   await book.page.keyboard.press('p');
   await book.page.locator('.print-panel .main-button').click();
   await printed(book);

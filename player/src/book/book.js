@@ -32,8 +32,11 @@ export class Book {
     this.images = new PageImages(config.pages, (page) => this.#imageChanged(page));
     this.aspect = config.pages[0].width / config.pages[0].height;
     this.views = new Views(config.pages.length, false, config.rightToLeft);
+    /** @type {import('./layout.js').Choice} the reader's, as is the next */
+    this.choice = 'auto';
+    this.firstAlone = true;
     /** @type {Layout} */
-    this.layout = { spread: false, pageWidth: 1, pageHeight: 1, bookLeft: 0, bookTop: 0, spineX: 0 };
+    this.layout = { spread: false, scrolls: false, pageWidth: 1, pageHeight: 1, bookLeft: 0, bookTop: 0, spineX: 0 };
     this.shown = { left: 0, right: 0 };
     this.drawn = new FaceCache();
     this.shift = 0;
@@ -61,9 +64,9 @@ export class Book {
     const free = { ...margins, left: Math.max(margins.left, this.beside) };
     this.layout = layOut({
       width, height, margins: free, aspect: this.aspect, pageCount: pages.length, rightToLeft,
-      maySpread: this.root.dataset.pages !== 'single',
+      maySpread: this.root.dataset.pages !== 'single', choice: this.choice,
     });
-    this.views = new Views(pages.length, this.layout.spread, rightToLeft);
+    this.views = new Views(pages.length, this.layout.spread, rightToLeft, this.firstAlone);
     this.drawn.clear();
     const style = this.root.style;
     for (const [side, margin] of Object.entries(margins)) {
@@ -78,6 +81,11 @@ export class Book {
     this.root.dataset.side = !this.layout.spread && rightToLeft ? 'left' : 'right';
   }
 
+  /** Where the upper edge of pages that are not enlarged lies in the window now. */
+  get top() {
+    return this.layout.bookTop + this.zoom.y;
+  }
+
   /**
    * How far the book is shifted to centre a single page.
    * @param {number} view
@@ -90,7 +98,7 @@ export class Book {
   }
 
   /**
-   * Bounds of a view's pages in the window at zoom level 1.
+   * Bounds of a view's pages in the window at zoom level 1, before they are scrolled.
    * @param {number} view
    */
   boxOf(view) {

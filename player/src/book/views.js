@@ -1,5 +1,5 @@
 /**
- * Maps pages (numbered from 1) to views (numbered from 0). In spread mode the first page is alone, on the side where
+ * Maps pages (numbered from 1) to views (numbered from 0). In spread mode the first page may be alone, on the side where
  * a book begins; in single mode every page is a view.
  */
 export class Views {
@@ -7,15 +7,18 @@ export class Views {
    * @param {number} pageCount
    * @param {boolean} spread
    * @param {boolean} rightToLeft
+   * @param {boolean} [firstAlone] in spread mode
    */
-  constructor(pageCount, spread, rightToLeft) {
+  constructor(pageCount, spread, rightToLeft, firstAlone = true) {
     this.pageCount = pageCount;
     this.spread = spread;
     this.rightToLeft = rightToLeft;
+    /** Free places before the first page. */
+    this.lead = spread && firstAlone ? 1 : 0;
   }
 
   get count() {
-    return this.spread ? Math.floor(this.pageCount / 2) + 1 : this.pageCount;
+    return this.spread ? Math.ceil((this.pageCount + this.lead) / 2) : this.pageCount;
   }
 
   /**
@@ -25,8 +28,9 @@ export class Views {
   at(view) {
     /** @param {number} page */
     const existing = (page) => (page >= 1 && page <= this.pageCount ? page : 0);
-    const first = this.spread ? existing(2 * view) : 0;
-    const second = this.spread ? existing(2 * view + 1) : existing(view + 1);
+    const begin = 2 * view + 1 - this.lead;
+    const first = this.spread ? existing(begin) : 0;
+    const second = existing(this.spread ? begin + 1 : view + 1);
     return this.rightToLeft ? { left: second, right: first } : { left: first, right: second };
   }
 
@@ -42,7 +46,7 @@ export class Views {
   /** @param {number} page */
   viewOf(page) {
     const within = Math.min(this.pageCount, Math.max(1, page));
-    return this.spread ? Math.floor(within / 2) : within - 1;
+    return this.spread ? Math.floor((within - 1 + this.lead) / 2) : within - 1;
   }
 
   /** @param {number} view */

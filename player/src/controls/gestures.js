@@ -85,6 +85,7 @@ export class Gestures {
    * @property {number} time
    * @property {{x: number, time: number}[]} trail
    * @property {Grip | null} grip
+   * @property {boolean} scrolls whether it moves pages that are higher than the window
    * @property {Tap | null} first tap that this is the second of
    *
    * @typedef {object} Tap
@@ -113,7 +114,7 @@ export class Gestures {
     const first = lastTap && time - lastTap.time < DOUBLE_TAP_MS
       && Math.hypot(x - lastTap.x, y - lastTap.y) < DOUBLE_TAP_REACH ? lastTap : null;
     if (first) this.#forgetTurn();
-    this.press = { id, x, y, time, trail: [], grip: null, first };
+    this.press = { id, x, y, time, trail: [], grip: null, scrolls: false, first };
     this.stage.setPointerCapture(event.pointerId);
   }
 
@@ -127,7 +128,8 @@ export class Gestures {
     if (press.id !== event.pointerId) return;
     const moved = event.clientX - press.x;
     if (!press.grip) {
-      if (Math.abs(moved) < DRAG_START) return;
+      press.scrolls ||= this.zoom.scrolls && Math.abs(event.clientY - press.y) > Math.max(DRAG_START, Math.abs(moved));
+      if (press.scrolls || Math.abs(moved) < DRAG_START) return;
       this.#forgetTurn();
       press.grip = this.#grip(press, moved);
       if (!press.grip) return;
@@ -147,7 +149,7 @@ export class Gestures {
     const { turner } = this;
     const leftward = moved < 0;
     const steps = leftward !== config.rightToLeft ? 1 : -1;
-    const edgeShare = snapped((press.y - layout.bookTop) / layout.pageHeight);
+    const edgeShare = snapped((press.y - this.book.top) / layout.pageHeight);
     if (!turner.grab(turner.current + steps, edgeShare)) return null;
     const leaf = /** @type {import('../turning/leaf.js').Leaf} */ (turner.leaf);
     const sign = leaf.mirrored ? -1 : 1;
@@ -178,6 +180,7 @@ export class Gestures {
     const { press } = this;
     if (!press || press.id !== event.pointerId) return;
     this.press = null;
+    if (press.scrolls) return;
     const moved = event.clientX - press.x;
     if (press.grip) this.turner.release(this.#goesOver(press, event));
     else if (Math.abs(moved) > SWIPE_WAY && this.turner.calm.matches && !this.zoom.active) {
@@ -293,7 +296,7 @@ export class Gestures {
     const shift = this.book.shiftFor(turner.current);
     const half = layout.pageWidth;
     const x = (event.clientX - layout.spineX - shift) / half;
-    const y = (event.clientY - layout.bookTop) / layout.pageHeight;
+    const y = (event.clientY - this.book.top) / layout.pageHeight;
     const nearCorner = y > -0.02 && y < 1.02 && (y < 0.16 || y > 0.84);
     const reach = Math.abs(x) > 1 - EDGE && Math.abs(x) < 1.02;
     const side = x > 0 ? 'right' : 'left';
@@ -305,8 +308,9 @@ export class Gestures {
 
   /** @param {WheelEvent} event */
   #wheel(event) {
-    const way = Math.abs(event.deltaY) > Math.abs(event.deltaX) ? event.deltaY : event.deltaX;
-    if (event.ctrlKey || this.zoom.active || Math.abs(way) < 8) return;
+    const down = Math.abs(event.deltaY) > Math.abs(event.deltaX);
+    const way = down ? event.deltaY : event.deltaX;
+    if (event.ctrlKey || this.zoom.active || (down && this.zoom.scrolls) || Math.abs(way) < 8) return;
     const pause = event.timeStamp - this.lastWheel;
     this.lastWheel = event.timeStamp;
     if (pause >= WHEEL_PAUSE_MS) this.turner.step(way > 0 ? 1 : -1);

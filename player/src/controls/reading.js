@@ -73,9 +73,9 @@ export class Reading {
     const pointed = at && !active && at.view === turner.current
       ? columns.find(({ left, right }) => at.x >= left && at.x <= right) : undefined;
     const column = pointed ?? columns[this.#current(columns)];
-    if (active && seen.top > column.top) zoom.in();
+    if (seen.top > column.top && !pointed) zoom.in();
     else {
-      const top = at && pointed ? at.y - at.y / level : column.top - ZOOM_AIR / level;
+      const top = at && pointed ? at.y - zoom.now.y - at.y / level : column.top - ZOOM_AIR / level;
       zoom.lookAt(this.#middleOf(column, level), top, level);
     }
   }
@@ -85,10 +85,13 @@ export class Reading {
    * @param {1 | -1} way
    */
   step(way) {
-    if (this.zoom.active && this.#goOn(way)) return;
-    this.way = way;
-    this.turner.step(way);
+    const { zoom, turner } = this;
+    if (zoom.pans && this.#goOn(way)) return;
+    const { destination } = turner;
+    this.way = zoom.way = way;
+    turner.step(way);
     this.way = 1;
+    if (turner.destination === destination) zoom.way = 1;
   }
 
   /**

@@ -45,7 +45,8 @@ export class Toolbar {
 
   /** Shows or hides the bar, for a tap on the middle of the book. */
   toggle() {
-    if (!this.cameNow) this.#hide();
+    if (this.root.dataset.idle === 'yes') this.show();
+    else if (!this.cameNow) this.#hide();
   }
 
   /** Updates everything that depends on the current page. */
@@ -139,7 +140,7 @@ export class Toolbar {
     this.folding.fit();
   }
 
-  /** Shows the bar on any pointer or key event. */
+  /** Shows the bar on pointer and key events; a finger that swipes or scrolls must not cover what it moves. */
   #wireComing() {
     this.root.addEventListener('pointermove', (event) => {
       if (event.pointerType === 'mouse') this.show();
@@ -147,7 +148,8 @@ export class Toolbar {
     this.root.addEventListener('pointerdown', (event) => {
       this.idleTime = event.pointerType === 'mouse' ? IDLE_MS : IDLE_TOUCH_MS;
       this.cameNow = this.root.dataset.idle === 'yes';
-      this.show();
+      const onPages = /** @type {Element} */ (event.target).closest('.stage');
+      if (event.pointerType === 'mouse' || !onPages) this.show();
     }, { capture: true });
     window.addEventListener('keydown', () => this.show(), { capture: true });
     this.root.addEventListener('focusin', () => this.show());

@@ -47,8 +47,15 @@ export class Zoom {
     /** Point of the pages in the middle of the window, as shares of their size. */
     this.middle = { x: 0.5, y: 0.5 };
     this.frame = 0;
+    /** The view of which that is. */
+    this.view = -1;
+    /** Which way the reader goes on: pages higher than the window begin at their end for those who go back. */
+    this.way = 1;
+    /** @type {{leaf: unknown, from: number}} leaf with which such pages move, and where they were when it was lifted */
+    this.ride = { leaf: null, from: 0 };
     turner.atOnce = () => this.active;
     turner.onStood = () => this.#refit();
+    turner.onMoved = () => this.#moveWithLeaf();
   }
 
   /** 1 while not zoomed in. */
@@ -58,6 +65,16 @@ export class Zoom {
 
   get active() {
     return this.held || this.goal.level > 1;
+  }
+
+  /** Whether whole pages are higher than the window. */
+  get scrolls() {
+    return this.book.layout.scrolls && !this.active;
+  }
+
+  /** Whether pages can be moved in the window. */
+  get pans() {
+    return this.active || (this.scrolls && !this.turner.turning);
   }
 
   /** Part of the window with whole pages that is seen once the pages have come to rest, in CSS pixels. */
@@ -95,7 +112,7 @@ export class Zoom {
   }
 
   reset() {
-    if (this.active) this.#glideTo({ level: 1, x: 0, y: 0 });
+    if (this.active) this.#glideTo(this.#about(this.#windowMiddle(), 1));
   }
 
   /**
@@ -145,7 +162,7 @@ export class Zoom {
    */
   release(speed) {
     if (this.held && this.#settle()) return;
-    if (this.active && speed) this.#glide(speed);
+    if (this.pans && speed) this.#glide(speed);
   }
 
   /**
@@ -234,7 +251,7 @@ export class Zoom {
    * @returns {ZoomState}
    */
   #limited({ level, x, y }) {
-    if (level <= 1) return { level, x: 0, y: 0 };
+    if (level < 1 || (level === 1 && !this.book.layout.scrolls)) return { level, x: 0, y: 0 };
     const { left, top, right, bottom } = this.book.boxOf(this.turner.current);
     const { root: { clientWidth, clientHeight }, beside } = this.book;
     return {
@@ -245,6 +262,8 @@ export class Zoom {
 
   /** @param {ZoomState} state */
   #set(state) {
+    // A corner that is lifted as a hint.
+    if (this.scrolls && this.turner.leaf) this.turner.settle();
     this.#stop();
     this.#aim(state);
     this.#apply(state);
@@ -267,7 +286,7 @@ export class Zoom {
     this.#animate((time) => {
       start = start || time;
       const passed = Math.min(1, (time - start) / ZOOM_MS);
-      this.#apply(between(from, goal, 1 - (1 - passed) ** 3));
+      this.#apply(passed < 1 ? between(from, goal, 1 - (1 - passed) ** 3) : goal);
       return passed < 1;
     });
   }
@@ -290,15 +309,42 @@ export class Zoom {
       x: ((middle.x - state.x) / state.level - left) / (right - left),
       y: ((middle.y - state.y) / state.level - top) / (bottom - top),
     };
+    this.view = this.turner.current;
     this.book.zoomTo(state);
+  }
+
+  /**
+   * Where another view comes to lie: its beginning, or its end for readers who go back.
+   * @returns {ZoomState}
+   */
+  #arrival() {
+    return this.#limited({ level: 1, x: 0, y: this.way < 0 ? -this.book.layout.pageHeight : 0 });
+  }
+
+  /** Moves pages higher than the window from where they are to where the next ones are seen, as they turn. */
+  #moveWithLeaf() {
+    const { leaf } = this.turner;
+    if (!leaf || !this.scrolls) return;
+    this.#stop();
+    if (this.ride.leaf !== leaf) this.ride = { leaf, from: this.now.y };
+    const { from } = this.ride;
+    this.#apply({ level: 1, x: 0, y: from + (this.#arrival().y - from) * leaf.slide });
+    this.goal = this.now;
   }
 
   /** Keeps the same part of the pages in view after the window was resized. */
   #refit() {
-    if (!this.active) return;
+    const { view, turner, goal } = this;
+    if (!this.active && !this.book.layout.scrolls && !goal.y) return;
     this.#stop();
-    const { left, top, right, bottom } = this.book.boxOf(this.turner.current);
-    const { level } = this.goal;
+    if (!this.active && view !== turner.current) {
+      this.#apply(this.#arrival());
+      this.goal = this.now;
+      this.way = 1;
+      return;
+    }
+    const { left, top, right, bottom } = this.book.boxOf(turner.current);
+    const { level } = goal;
     const middle = this.#windowMiddle();
     this.#apply(this.#limited({
       level, x: middle.x - level * (left + this.middle.x * (right - left)),
@@ -366,7 +412,7 @@ function stretched(level, factor) {
 function heldInside(offset, level, from, to, end, start = 0) {
   const size = level * (to - from);
   // Whole pages may be nearer to the edge than the margin; hardly zoomed ones must not jump away from there.
-  const [least, most] = [Math.min(from, start + ZOOM_AIR), Math.max(to, end - ZOOM_AIR)];
+  const [least, most] = [Math.min(from, start + ZOOM_AIR), to > end ? end - ZOOM_AIR : Math.max(to, end - ZOOM_AIR)];
   if (size > most - least) {
     return Math.min(least, Math.max(most - size, offset + level * from)) - level * from;
   }

@@ -39,7 +39,7 @@ export class ZoomGestures {
     if (event.button !== 0 || this.pointers.size === 2) return;
     this.pointers.set(event.pointerId, { x: event.clientX, y: event.clientY });
     this.trail = [];
-    if (this.zoom.active) this.zoom.panBy(0, 0);
+    if (this.zoom.pans) this.zoom.panBy(0, 0);
     if (this.pointers.size === 2) {
       this.stage.setPointerCapture(event.pointerId);
       this.onPinch();
@@ -55,7 +55,7 @@ export class ZoomGestures {
     const other = [...this.pointers].find(([id]) => id !== event.pointerId)?.[1];
     this.pointers.set(event.pointerId, here);
     if (other) this.#pinch(before, here, other);
-    else if (this.zoom.active) {
+    else if (this.zoom.pans) {
       this.zoom.panBy(here.x - before.x, here.y - before.y);
       this.trail.push({ ...here, time: event.timeStamp });
       if (this.trail.length > 8) this.trail.shift();
@@ -105,7 +105,7 @@ export class ZoomGestures {
       event.preventDefault();
       const way = Math.min(50, Math.max(-50, event.deltaY * unit));
       this.zoom.scaleAt({ x: event.clientX, y: event.clientY }, Math.exp(-way / 100));
-    } else if (this.zoom.active) {
+    } else if (this.zoom.active || (this.zoom.scrolls && Math.abs(event.deltaY) > Math.abs(event.deltaX))) {
       event.preventDefault();
       this.reading.wheel(event.deltaX * unit, event.deltaY * unit, event.timeStamp);
     }
@@ -120,8 +120,8 @@ export class ZoomGestures {
     const actions = {
       '+': () => reading.enlarge(), '=': () => reading.enlarge(), '-': () => zoom.out(), '0': () => zoom.reset(),
     };
-    if (zoom.active) {
-      actions.Escape = () => zoom.reset();
+    if (zoom.active) actions.Escape = () => zoom.reset();
+    if (zoom.pans) {
       actions.ArrowUp = () => zoom.panBy(0, KEY_PAN);
       actions.ArrowDown = () => zoom.panBy(0, -KEY_PAN);
     }

@@ -148,8 +148,10 @@ export class Drawer {
    */
   #placeOf(page) {
     const { width } = this.size;
-    if (!this.book.layout.spread) return (page - 1) * (width + GAP);
-    return Math.floor(page / 2) * (2 * width + GAP) + (page % 2) * width - width;
+    const { spread, lead } = this.book.views;
+    if (!spread) return (page - 1) * (width + GAP);
+    const place = page - 1 + lead;
+    return Math.floor(place / 2) * (2 * width + GAP) + (place % 2 - lead) * width;
   }
 
   /** @param {number} distance from where the book begins */

@@ -13,6 +13,9 @@ const FADE_MS = 260;
 const LATE_MS = 30;
 const MOST_LATE = 12;
 
+/** Device pixels of a page on a leaf; larger ones are drawn coarser while they turn. */
+const MOST_PIXELS = 9e6;
+
 /** Turns leaves: animated, dragged, or as a cross-fade for readers who prefer reduced motion. */
 export class Turner {
   /**
@@ -44,6 +47,8 @@ export class Turner {
     /** Whether views change without animation, as they do while zoomed in. */
     this.atOnce = () => false;
     this.onStood = () => {};
+    /** Called before a leaf in the air is drawn. */
+    this.onMoved = () => {};
     this.onJumped = () => {};
     /**
      * Called before a jump begins.
@@ -78,7 +83,6 @@ export class Turner {
     this.current = this.book.views.clamp(view);
     this.book.keep([this.current]);
     this.#showStanding();
-    this.onStood();
     this.onLanded();
   }
 
@@ -208,7 +212,8 @@ export class Turner {
 
   /** Resizes the canvas with the window. */
   resized() {
-    this.density = Math.min(this.most, window.devicePixelRatio || 1);
+    const { pageWidth, pageHeight } = this.book.layout;
+    this.density = Math.min(this.most, window.devicePixelRatio || 1, Math.sqrt(MOST_PIXELS / (pageWidth * pageHeight)));
     this.canvas.width = Math.round(this.canvas.clientWidth * this.density);
     this.canvas.height = Math.round(this.canvas.clientHeight * this.density);
   }
@@ -217,6 +222,7 @@ export class Turner {
     const { views } = this.book;
     this.book.show(views.at(this.current), this.current / Math.max(1, views.count - 1));
     this.book.moveTo(this.book.shiftFor(this.current));
+    this.onStood();
     this.onAir(false);
     this.#prepareSoon();
   }
@@ -226,7 +232,9 @@ export class Turner {
    * @param {number} time
    */
   #turnOver(view, time) {
-    if (!this.leaf) this.#lift(view, 1);
+    const { book } = this;
+    // The lowest corner that is seen.
+    if (!this.leaf) this.#lift(view, Math.min(1, (book.root.clientHeight - book.top) / book.layout.pageHeight));
     this.#finish('over', time);
   }
 
@@ -379,11 +387,12 @@ export class Turner {
     const leaf = this.leaf;
     if (!leaf) return;
     const { book, context, density } = this;
-    const { spineX, bookTop } = book.layout;
+    const { spineX } = book.layout;
     const { shift } = leaf;
+    this.onMoved();
     this.#clear();
     context.setTransform(density, 0, 0, density,
-      Math.round((spineX + shift) * density), Math.round(bookTop * density));
+      Math.round((spineX + shift) * density), Math.round(book.top * density));
     this.painter.draw(context, leaf, density);
     book.moveTo(shift);
   }
@@ -401,10 +410,10 @@ export class Turner {
   #fadeTo(view) {
     if (this.fading) this.fading.finish();
     const { book, context, density } = this;
-    const { spineX, bookTop, pageWidth, pageHeight } = book.layout;
+    const { spineX, pageWidth, pageHeight } = book.layout;
     const pages = book.views.at(this.current);
     const originX = (spineX + book.shiftFor(this.current)) * density;
-    context.setTransform(density, 0, 0, density, originX, bookTop * density);
+    context.setTransform(density, 0, 0, density, originX, book.top * density);
     context.drawImage(book.viewFace(pages, density), pages.left ? -pageWidth : 0, 0,
       (pages.left && pages.right ? 2 : 1) * pageWidth, pageHeight);
     this.fading = this.canvas.animate({ opacity: [1, 0] }, FADE_MS);

@@ -124,3 +124,71 @@ test('the wheel stops at the end of a page, goes on after a pause, and once a pu
   push(-100);
   assert.deepEqual([...table.pagesNow, ends(table, 1)], [4, 5, true], 'back to their end');
 });
+
+/** A page as wide as a phone on its side, which scrolls. */
+const SIDEWAYS = { width: 844, height: 390, page: 2, count: 8 };
+const FINGER = { pointerType: 'touch' };
+
+test('pages higher than the window are read on, by key and wheel, and back from their ends', () => {
+  for (const settings of [SIDEWAYS, { ...SIDEWAYS, rightToLeft: true }]) {
+    const table = new Table(settings);
+    const whole = [{ ...table.book.boxOf(1), left: 10, right: 800 }];
+    for (const [back, step] of [[false, () => table.key(' ')], [true, () => table.key('PageUp')]]) {
+      const areas = readThrough(table, step);
+      allSeen(table, whole, back ? areas.reverse() : areas, `back: ${back}`);
+      assert.deepEqual([table.pagesNow[0], table.level], [back ? 1 : 3, 1]);
+      if (!back) {
+        assert.ok(table.zoom.seen.top <= 0, 'at the top');
+        table.key('PageUp');
+        assert.deepEqual(table.pages, [2]);
+        assert.ok(table.zoom.seen.bottom >= whole[0].bottom, 'at the end');
+      }
+    }
+  }
+  const table = new Table(SIDEWAYS);
+  const { bottom } = table.book.boxOf(1);
+  for (let push = 0; push < 60 && table.pages[0] === 2; push += 1) {
+    if (push > 20) clock.run(400);
+    assert.equal(table.wheel({ deltaY: 40 }), true);
+  }
+  assert.ok(table.pagesNow[0] === 3 && bottom > 1000);
+});
+
+test('a finger scrolls such pages down and turns them across, and what comes begins at the top', () => {
+  const table = new Table(SIDEWAYS);
+  table.drag([[400, 300], [402, 200], [404, 100]], FINGER);
+  assert.deepEqual(table.pages, [2]);
+  const { top } = table.zoom.seen;
+  assert.ok(top >= 190, `scrolled by ${top}`);
+  table.drag([[700, 200], [698, 196]], { ...FINGER, pause: 20 });
+  table.drag([[600, 200], [400, 210], [100, 215]], FINGER);
+  assert.deepEqual(table.pages, [3]);
+  assert.equal(table.zoom.seen.top + 0, 0);
+  table.drag([[100, 100], [101, 300], [102, 330]], FINGER);
+  assert.deepEqual([table.pages[0], table.zoom.seen.top + 0], [3, 0]);
+  table.zoom.toggleAt(400, 200);
+  assert.equal(table.level, 2.5);
+  table.drag([[400, 300], [400, 100]], { ...FINGER, rest: 500 });
+  const seen = table.zoom.seen;
+  table.key('0');
+  assert.equal(table.level, 1);
+  const middle = (area) => (area.top + area.bottom) / 2;
+  assert.ok(Math.abs(middle(table.zoom.seen) - middle(seen)) < 40, 'where the reader was');
+});
+
+test('another view begins at the top, and the same one stays where it was when the window changes', () => {
+  const table = new Table(SIDEWAYS);
+  table.key(' ');
+  clock.run(1000);
+  const { top } = table.zoom.seen;
+  table.book.root.clientWidth = 800;
+  table.book.resize();
+  table.turner.stand(table.turner.current);
+  assert.ok(top > 100 && Math.abs(table.zoom.seen.top - top) < 60, 'the same place');
+  table.turner.stand(4);
+  assert.equal(table.zoom.seen.top + 0, 0);
+  table.book.choice = 'one';
+  table.book.resize();
+  table.turner.stand(4);
+  assert.deepEqual([table.zoom.now.y + 0, table.book.layout.scrolls], [0, false]);
+});
