@@ -11,6 +11,7 @@ import { wireKeys } from './controls/keys.js';
 import { Memory } from './controls/memory.js';
 import { Place, pageInAddress, searchInAddress } from './controls/place.js';
 import { Reading } from './controls/reading.js';
+import { Seeking } from './controls/seeking.js';
 import { Slideshow } from './controls/slideshow.js';
 import { Sounds } from './controls/sound.js';
 import { Toolbar } from './controls/toolbar.js';
@@ -83,6 +84,7 @@ function addControls(root, turner, sounds) {
   const pagesInView = () => book.views.pagesOf(turner.current);
   const slideshow = new Slideshow(turner, config.slideInterval, config.loopPlay);
   const drawer = new Drawer(root, book, (page) => turner.go(book.views.viewOf(page)));
+  const seeking = new Seeking(root, turner, (page, put) => drawer.give(page, put));
   const sharing = new Sharing(root, () => pagesInView()[0], (page) => labelOf(config, page));
   const sheets = new Sheets(config.pages, pagesInView);
   const printing = new Printing(root, sheets, config, pagesInView);
@@ -129,7 +131,7 @@ function addControls(root, turner, sounds) {
   slideshow.onChange = () => toolbar.press('play', slideshow.running);
   slideshow.isHeld = () => root.querySelector('dialog[open]') !== null;
   drawer.onToggle = () => toolbar.press('thumbs', drawer.open);
-  return { toolbar, commands, slideshow, drawer, sheets, viewing, zoom, reading, gestures, toast };
+  return { toolbar, commands, slideshow, drawer, sheets, viewing, seeking, zoom, reading, gestures, toast };
 }
 
 /** @param {HTMLElement} root */
@@ -151,7 +153,7 @@ async function openBook(root) {
   const turner = new Turner(book, /** @type {HTMLCanvasElement} */ (part(root, '.leaf')));
   const sounds = new Sounds(config.sound);
   const controls = addControls(root, turner, sounds);
-  const { toolbar, slideshow, drawer, viewing, toast } = controls;
+  const { toolbar, slideshow, drawer, viewing, seeking, toast } = controls;
   const memory = new Memory(config.pages.length);
   const left = pageInAddress() ? 0 : memory.page;
 
@@ -169,6 +171,7 @@ async function openBook(root) {
     back.hidden = !place.left;
     part(back, 'span').textContent = say('backTo', labelOf(config, place.left));
     toolbar.update();
+    seeking.update();
     drawer.mark(pages);
     slideshow.wait();
   };

@@ -7,6 +7,7 @@ import type { learn, Word } from './book/words.js';
 import type { Turner } from './turning/turner.js';
 import type { Gestures } from './controls/gestures.js';
 import type { Reading } from './controls/reading.js';
+import type { Seeking } from './controls/seeking.js';
 import type { Slideshow } from './controls/slideshow.js';
 import type { Commands, Toolbar } from './controls/toolbar.js';
 import type { Zoom } from './controls/zoom.js';
@@ -37,6 +38,7 @@ export interface Controls {
   drawer: Drawer;
   sheets: Sheets;
   viewing: Viewing;
+  seeking: Seeking;
   zoom: Zoom;
   reading: Reading;
   gestures: Gestures;

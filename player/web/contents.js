@@ -34,6 +34,9 @@ export class Contents {
     this.#addTextPage(layers.facts.textPage, player.say('textPage'));
     this.panel.onShow = () => this.#show();
     layers.followers.push(() => this.#follow());
+    player.seeking.onUse = () => {
+      if (!this.tree) this.#show();
+    };
   }
 
   /** @param {import('./facts.js').Entry[]} outline */
@@ -41,6 +44,7 @@ export class Contents {
     const { config, book, turner, say } = this.player;
     const list = make('ul', 'tree');
     list.setAttribute('aria-labelledby', 'contents-title');
+    this.player.seeking.setChapters(outline);
     const tree = new Tree(list, outline, ({ position }) => (position ? labelOf(config, position) : ''),
       (position) => say('page', fullLabel(config, position)), (item) => {
         turner.go(book.views.viewOf(item.entry.position));

@@ -129,7 +129,7 @@ function addToBook(player, facts) {
   gestures.answersTap = (event) => selecting.answers || links.followAt(event);
   addLargePages(player, layers);
   const room = new SideRoom(player);
-  // Where the bar is narrow, the search is worth more than the page count.
+  // Where the bar is narrow, the search is worth more than the page count, which the slider has too.
   part(toolbar.bar, '.of').dataset.fold = '7.2';
   if (facts.hasContents) {
     const button = barButton('contents', 'C', '7.4', say);

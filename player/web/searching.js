@@ -30,6 +30,7 @@ export class Searching {
     this.layers = layers;
     this.files = files;
     this.hits = new Hits(player, layers);
+    this.seeking = player.seeking;
     this.panel = new SidePanel(room, 'search', button);
     this.text = new SearchText(layers.facts.listings);
     /** Parts of the text that are loaded. */
@@ -58,6 +59,16 @@ export class Searching {
     this.panel.onShow = () => this.#shown();
     this.panel.onHide = () => this.#hidden();
     window.addEventListener('keydown', (event) => this.#key(event), { capture: true });
+  }
+
+  /**
+   * Marks what was found on the pages and on the slider.
+   * @param {import('./query.js').Query | null} query
+   * @param {import('./searchtext.js').Hit | null} current
+   */
+  #mark(query, current) {
+    this.hits.show(query, current);
+    this.seeking.setHits(query && this.answer ? this.answer.hits.map(({ position }) => position) : []);
   }
 
   /** @param {HTMLElement} root */
@@ -123,13 +134,13 @@ export class Searching {
 
   #hidden() {
     if (this.stays) this.strip.hidden = false;
-    else this.hits.show(null, null);
+    else this.#mark(null, null);
   }
 
   /** Removes the marks and the strip. */
   end() {
     this.strip.hidden = true;
-    this.hits.show(null, null);
+    this.#mark(null, null);
     if (this.panel.shown) this.panel.hide();
     else this.panel.button.focus({ preventScroll: true });
   }
@@ -193,7 +204,7 @@ export class Searching {
     else {
       this.index = -1;
       this.results.show(this.text, hits);
-      this.hits.show(query, null);
+      this.#mark(query, null);
     }
     this.#tell();
   }
@@ -247,7 +258,7 @@ export class Searching {
     const { hits, query } = /** @type {Answer} */ (this.answer);
     this.index = index;
     this.turner.go(this.book.views.viewOf(hits[index].position));
-    this.hits.show(query, hits[index]);
+    this.#mark(query, hits[index]);
     this.results.mark(index);
     this.#tell();
     if (this.room.besideBook || !this.panel.shown) return;

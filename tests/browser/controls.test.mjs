@@ -1,6 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { plainPages } from './support/book.mjs';
+import { colourOf, plainPages } from './support/book.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 
 const reader = Reader.forTests();
@@ -31,15 +31,15 @@ test('the bar goes while the reader is idle, comes with pointer, finger and key,
 test('every control is reached with the tab key, in the order in which it stands', async () => {
   const book = await open(6, { hash: '#page=2', values: { TutorialTitle: 'https://example.org/' } });
   const names = [];
-  for (let step = 0; step < 15; step += 1) {
+  for (let step = 0; step < 16; step += 1) {
     await book.page.keyboard.press('Tab');
     names.push(await book.page.evaluate(() => {
       const { activeElement: at } = document;
-      const seen = getComputedStyle(at).outlineStyle !== 'none' || at.matches('input');
+      const seen = getComputedStyle(at).outlineStyle !== 'none' || at.matches('.page-box');
       return seen ? at.getAttribute('aria-label') ?? at.textContent : `unseen ${at.tagName}`;
     }));
   }
-  assert.deepEqual(names, ['Previous page', 'Next page', 'example.org', 'Previous page', 'Page number', 'Next page',
+  assert.deepEqual(names, ['Previous page', 'Next page', 'example.org', 'Place in the book', 'Previous page', 'Page number', 'Next page',
     'Thumbnails', 'Zoom in', 'View', 'Turn pages by itself', 'Sound', 'Share', 'Print', 'Full screen', 'Help']);
 });
 
@@ -74,8 +74,9 @@ function misplaced(book) {
       .filter((one) => one.getClientRects().length > 0).map((one) => ({ one, box: one.getBoundingClientRect() }));
     const cut = boxes.filter(({ box: { left, top, right, bottom } }) =>
       left < 0 || top < 0 || right > innerWidth + 0.5 || bottom > innerHeight);
-    const over = boxes.filter(({ one, box }, index) => one.closest('.bar') && boxes.slice(index + 1).some((next) =>
-      next.one.closest('.bar') && next.box.left < box.right - 0.5 && box.left < next.box.right - 0.5));
+    const inRow = (one) => one.closest('.bar') && !one.closest('.seek');
+    const over = boxes.filter(({ one, box }, index) => inRow(one) && boxes.slice(index + 1).some((next) =>
+      inRow(next.one) && next.box.left < box.right - 0.5 && box.left < next.box.right - 0.5));
     const clipped = boxes.filter(({ one }) => one.matches('.page-box') && one.scrollWidth > one.clientWidth + 1);
     return [...cut, ...over, ...clipped].map(({ one }) => one.outerHTML.slice(0, 80));
   });
@@ -97,6 +98,7 @@ for (const [name, view, size] of windows) {
     if (inBar.includes('more')) await book.use('more');
     const inMenu = await book.page.locator('.entry:visible').count();
     assert.equal(inBar.filter((one) => one !== 'more').length + inMenu, 10, inBar.join());
+    assert.match(await book.page.locator('.bar').innerText(), /\b120\b/, 'how many pages there are');
     if (name !== 'phone') return;
     for (const one of ['thumbs', 'more']) assert.ok(inBar.includes(one), `${one} stays in the bar`);
     assert.match(await book.page.locator('.menu-panel').innerText(), /A caption/);
@@ -108,6 +110,32 @@ for (const [name, view, size] of windows) {
     assert.equal(await book.page.locator('.menu-panel').isVisible(), false);
   });
 }
+
+test('the slider shows the page to which it leads, by pointer with a way back, and by key without', async () => {
+  const book = await open(101, { hash: '#page=2' });
+  const slider = book.page.getByRole('slider', { name: 'Place in the book' });
+  const { x, y, width, height } = await slider.boundingBox();
+  await book.drag([x + width * 0.1, y + height / 2], [x + width - 7, y + height / 2], { pause: 100 });
+  await book.waitForPages(100, 101);
+  assert.equal(await slider.getAttribute('aria-valuetext'), 'Page 100 of 101');
+  assert.equal(await book.page.locator('.seek-note').isVisible(), false);
+  await book.page.mouse.move(x + width / 2, y + height / 2);
+  assert.equal(await book.page.locator('.seek-note').innerText(), 'Page 51');
+  const middle = await book.page.locator('.seek-note .thumb-picture').boundingBox();
+  await book.page.locator('.seek-note canvas').waitFor();
+  await book.rest();
+  assert.deepEqual(await book.colourAt(middle.x + middle.width / 2, middle.y + middle.height / 2), colourOf(51));
+  await book.page.goBack();
+  await book.waitForPages(2, 3);
+  await slider.focus();
+  for (const pages of [[4, 5], [6, 7]]) {
+    await book.page.keyboard.press('ArrowRight');
+    await book.page.keyboard.press('ArrowRight');
+    await book.waitForPages(...pages);
+  }
+  await book.page.goForward();
+  await book.waitForPages(100, 101);
+});
 
 test('the reader chooses how the pages lie, by key and in the panel, and finds it so again', async () => {
   const folder = await reader.book({ pages: plainPages(9) });

@@ -71,6 +71,30 @@ test('keys walk along the thumbnails, choose one and close them', async () => {
   assert.equal(await book.page.evaluate(() => document.activeElement.dataset.does), 'thumbs');
 });
 
+test('in the grid keys lead from row to row, and the reader finds it so again', async () => {
+  const book = await open(400, { hash: '#page=2' });
+  await openDrawer(book);
+  await book.page.getByRole('button', { name: 'All pages' }).click();
+  await drawn(book);
+  const place = async (page) => book.page.locator(`#thumb-${page}`).boundingBox();
+  const first = await place(2);
+  await book.page.locator('.strip').focus();
+  await book.page.keyboard.press('ArrowDown');
+  const below = await active(book);
+  const second = await place(below);
+  assert.ok(below > 8 && second.x === first.x && second.y > first.y, `page ${below} is below page 2`);
+  await book.page.keyboard.press('End');
+  await drawn(book);
+  const { y, height } = await place(400);
+  assert.ok(y > 0 && y + height < 800 && await book.page.locator('.thumb').count() < 200);
+  assert.deepEqual(await thumbColour(book, 400), colourOf(400));
+  await book.page.keyboard.press('Enter');
+  await book.waitForPages(400);
+  assert.equal(await book.page.locator('.drawer').isVisible(), false, 'it makes room for the page');
+  await book.page.keyboard.press('t');
+  assert.ok(second.y !== (await place(400)).y && await book.page.locator('.drawer[data-grid="yes"]').isVisible());
+});
+
 test('the thumbnails of a book that is read from the right lie from right to left', async () => {
   const book = await open(40, { values: { RightToLeft: 'Yes' } });
   await openDrawer(book);

@@ -50,6 +50,8 @@ export class Folding {
       bar.dataset.folded = 'yes';
       /** @type {HTMLElement} */ (waiting.shift()).classList.add('folded');
     }
+    // Then the slider shows the count.
+    bar.dataset.count = part(bar, '.of').matches('.folded') ? 'no' : 'yes';
     this.#fitCaption();
   }
 

@@ -29,7 +29,7 @@ export class Tips {
    * @param {EventTarget | null} target
    */
   follow(target) {
-    const control = /** @type {Element} */ (target).closest('.bar [aria-label], .arrow, [data-tip]');
+    const control = /** @type {Element} */ (target).closest('.bar [aria-label]:not(.seek *), .arrow, [data-tip]');
     if (!control) {
       this.hide();
       return;

@@ -64,8 +64,6 @@ export class Toolbar {
         /** @type {HTMLElement} */ (button).hidden = views.count === 1;
       }
     }
-    const share = views.count > 1 ? current / (views.count - 1) : 1;
-    this.bar.style.setProperty('--read', String(share));
   }
 
   /**
