@@ -56,7 +56,7 @@ function followWindow(root, turner, drawer, page) {
   const { book } = turner;
   let size = '';
   const fit = () => {
-    const now = [root.clientWidth, root.clientHeight, book.beside, book.choice, book.firstAlone].join();
+    const now = [root.clientWidth, root.clientHeight, book.beside, book.choice, book.firstAlone, book.tint].join();
     // Observers fire once without a change, which must not cancel a turn in progress.
     if (now === size) return;
     size = now;
@@ -98,6 +98,7 @@ function addControls(root, turner, sounds) {
     zoomIn: () => reading.enlarge(),
     zoomOut: () => zoom.out(),
     view: () => viewing.open(),
+    night: () => viewing.toggleNight(),
     viewOne: () => viewing.toggle('one'),
     viewTwo: () => viewing.toggle('two'),
     viewWidth: () => viewing.toggle('width'),

@@ -1,6 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { colourOf, plainPages } from './support/book.mjs';
+import { png } from './support/png.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 
 const reader = Reader.forTests();
@@ -159,6 +160,40 @@ test('the reader chooses how the pages lie, by key and in the panel, and finds i
   await book.waitForPages(9);
   const { height } = await book.box('left');
   assert.ok(height > 800, 'still all of the width, and the first page not alone');
+});
+
+test('by night paper is dark and print light, also as it turns, and pictures stay as they are', async () => {
+  const [WHITE, BLACK, PICTURE] = [[255, 255, 255], [0, 0, 0], [180, 60, 40]];
+  const bytes = png(240, 320, (x, y) => (y > 200 && x > 120 ? PICTURE : x > 56 && x < 64 ? BLACK : WHITE));
+  const folder = await reader.book({ pages: Array.from({ length: 6 }, () => ({ bytes })) });
+  const book = await reader.openFromDisk(folder, { hash: '#page=2' });
+  const colours = async () => {
+    await book.drawn();
+    const { x, y, width, height } = await book.box('left');
+    const places = [[0.1, 0.1], [0.25, 0.3], [0.75, 0.8]];
+    return Promise.all(places.map(([across, down]) => book.colourAt(x + width * across, y + height * down)));
+  };
+  assert.deepEqual(await colours(), [WHITE, BLACK, PICTURE]);
+  await book.page.keyboard.press('n');
+  const [paper, print, picture] = await colours();
+  assert.deepEqual(paper, [20, 20, 20]);
+  assert.ok(Math.min(...print) > 200, `print: ${print}`);
+  assert.ok(picture.every((part, index) => Math.abs(part - PICTURE[index] * 0.85) < 4), `picture: ${picture}`);
+  await book.page.mouse.move(1150, 300);
+  await book.page.mouse.down();
+  await book.page.mouse.move(800, 280, { steps: 4 });
+  await book.drawn();
+  for (let x = 1140; x > 700; x -= 40) {
+    const colour = await book.colourAt(x, 60);
+    assert.ok(Math.max(...colour) < 120 || Math.min(...colour) > 200, `at ${x}: ${colour}`);
+  }
+  await book.page.mouse.up();
+  await book.page.evaluate(() => localStorage.setItem('folvero:*:paper', 'auto'));
+  await book.page.reload();
+  await book.page.waitForSelector('#folvero[data-state="ready"]');
+  assert.deepEqual((await colours())[0], WHITE);
+  await book.page.emulateMedia({ colorScheme: 'dark' });
+  assert.deepEqual((await colours())[0], [20, 20, 20]);
 });
 
 const words = [[['de-AT', 'en'], 'de', 'Drucken', 'Seiten 2 und 3 von 6'],

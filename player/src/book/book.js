@@ -35,6 +35,10 @@ export class Book {
     /** @type {import('./layout.js').Choice} the reader's, as is the next */
     this.choice = 'auto';
     this.firstAlone = true;
+    /** @type {'' | 'sepia' | 'night'} what is done to the pages' pictures; the style sheet does the same */
+    this.tint = '';
+    /** Colour of the paper. */
+    this.paper = config.pageColour;
     /** @type {Layout} */
     this.layout = { spread: false, scrolls: false, pageWidth: 1, pageHeight: 1, bookLeft: 0, bookTop: 0, spineX: 0 };
     this.shown = { left: 0, right: 0 };
@@ -177,7 +181,7 @@ export class Book {
   #face(page, gutter, density) {
     const { pageWidth: width, pageHeight: height, spread } = this.layout;
     return this.drawn.get(page, gutter, (canvas) => drawFace(canvas, {
-      page, width, height, density, paper: this.config.pageColour,
+      page, width, height, density, paper: this.paper, tint: this.tint,
       entry: page ? this.images.get(page) : null, gutter: spread && this.bound ? gutter : 'none',
     }));
   }
@@ -195,7 +199,7 @@ export class Book {
     return {
       front: face,
       back: this.drawn.get(front, 'through',
-        (canvas) => drawShowThrough(canvas, face, this.config.pageColour)),
+        (canvas) => drawShowThrough(canvas, face, this.paper)),
     };
   }
 

@@ -39,6 +39,7 @@ export function fitted(imageWidth, imageHeight, width, height) {
  * @property {number} height
  * @property {number} density device pixels per CSS pixel
  * @property {string} paper
+ * @property {string} tint name of a filter of the page's document, or empty
  * @property {'left' | 'right' | 'none'} gutter side of the binding
  */
 
@@ -46,7 +47,7 @@ export function fitted(imageWidth, imageHeight, width, height) {
  * @param {HTMLCanvasElement} canvas
  * @param {FaceOptions} options
  */
-export function drawFace(canvas, { page, entry, width, height, density, paper, gutter }) {
+export function drawFace(canvas, { page, entry, width, height, density, paper, tint, gutter }) {
   const context = sized(canvas, Math.round(width * density), Math.round(height * density));
   context.setTransform(canvas.width / width, 0, 0, canvas.height / height, 0, 0);
   context.fillStyle = paper;
@@ -55,7 +56,10 @@ export function drawFace(canvas, { page, entry, width, height, density, paper, g
     const { image } = entry;
     const place = fitted(image.naturalWidth, image.naturalHeight, width, height);
     context.imageSmoothingQuality = 'high';
+    // Not in all browsers: there leaves turn untinted.
+    if (tint) context.filter = 'url(#paper-' + tint + ')';
     context.drawImage(image, place.x, place.y, place.width, place.height);
+    context.filter = 'none';
   } else if (entry?.state === 'missing') {
     context.fillStyle = '#f4f2ef';
     context.fillRect(0, 0, width, height);

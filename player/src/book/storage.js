@@ -1,13 +1,14 @@
-/** @param {string} name */
-const keyOf = (name) => 'folvero:' + location.pathname + ':' + name;
+/** @param {string} name @param {string} of */
+const keyOf = (name, of) => 'folvero:' + of + ':' + name;
 
 /**
  * What was stored for this book, null for nothing.
  * @param {string} name
+ * @param {string} [of] what else it was stored for
  */
-export function recall(name) {
+export function recall(name, of = location.pathname) {
   try {
-    return localStorage.getItem(keyOf(name));
+    return localStorage.getItem(keyOf(name, of));
   } catch {
     return null;
   }
@@ -17,10 +18,11 @@ export function recall(name) {
  * Stores something for this book, where the browser allows it.
  * @param {string} name
  * @param {string} value
+ * @param {string} [of] what else it is stored for
  */
-export function keep(name, value) {
+export function keep(name, value, of = location.pathname) {
   try {
-    localStorage.setItem(keyOf(name), value);
+    localStorage.setItem(keyOf(name, of), value);
   } catch {
     // Private windows and strict settings forbid it; then the book opens at its cover.
   }

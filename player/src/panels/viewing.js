@@ -8,7 +8,16 @@ import { Panel } from './panel.js';
 /** @type {Choice[]} */
 const CHOICES = ['auto', 'one', 'two', 'width'];
 
-/** The panel in which the reader chooses how the pages lie, which is stored for the book. */
+/** Colour that white paper has, by what the reader chooses. */
+const PAPERS = { day: '', sepia: '#f4ecd8', night: '#141414' };
+
+/** What paper the reader wants is the same for all books of a site. */
+const ALL_BOOKS = '*';
+
+/**
+ * The panel in which the reader chooses how the pages lie, which is stored for the book, and on what paper: as printed,
+ * in sepia, for the night, or for the night when the system is dark.
+ */
 export class Viewing {
   /**
    * @param {HTMLElement} root
@@ -21,9 +30,16 @@ export class Viewing {
     this.onChange = () => {};
     book.choice = CHOICES.find((choice) => choice === recall('view')) ?? 'auto';
     book.firstAlone = recall('first') !== 'paired';
+    this.root = root;
+    this.dark = matchMedia('(prefers-color-scheme: dark)');
+    this.paper = recall('paper', ALL_BOOKS) ?? 'day';
+    this.dark.addEventListener('change', () => this.#applyPaper());
+    this.#applyPaper();
     this.panel.dialog.addEventListener('change', ({ target }) => {
-      if (target === this.first) this.#set(book.choice, this.first.checked);
-      else this.#set(/** @type {Choice} */ (/** @type {HTMLInputElement} */ (target).value), book.firstAlone);
+      const { name, value } = /** @type {HTMLInputElement} */ (target);
+      if (name === 'paper') this.#setPaper(value);
+      else if (target === this.first) this.#set(book.choice, this.first.checked);
+      else this.#set(/** @type {Choice} */ (value), book.firstAlone);
     });
   }
 
@@ -38,6 +54,28 @@ export class Viewing {
    */
   toggle(choice) {
     this.#set(this.book.choice === choice ? 'auto' : choice, this.book.firstAlone);
+  }
+
+  toggleNight() {
+    this.#setPaper(this.book.tint === 'night' ? 'day' : 'night');
+    this.#show();
+  }
+
+  /** @param {string} paper what the reader chooses: a paper, or "auto" */
+  #setPaper(paper) {
+    this.paper = paper;
+    keep('paper', paper, ALL_BOOKS);
+    this.#applyPaper();
+  }
+
+  #applyPaper() {
+    const { root, book, dark, paper } = this;
+    const wanted = paper === 'auto' ? (dark.matches ? 'night' : 'day') : paper;
+    book.tint = wanted === 'night' || wanted === 'sepia' ? wanted : '';
+    book.paper = PAPERS[book.tint || 'day'] || book.config.pageColour;
+    root.dataset.paper = book.tint;
+    root.style.setProperty('--paper', book.paper);
+    this.onChange();
   }
 
   /**
@@ -55,8 +93,12 @@ export class Viewing {
   /** @returns {HTMLInputElement} what is chosen */
   #show() {
     const { choice, firstAlone, layout } = this.book;
-    const chosen = /** @type {HTMLInputElement} */ (part(this.panel.dialog, '[value="' + choice + '"]'));
+    const chosen = /** @type {HTMLInputElement} */ (part(this.panel.dialog, '[name="view"][value="' + choice + '"]'));
     chosen.checked = true;
+    for (const paper of this.panel.dialog.querySelectorAll('[name="paper"]')) {
+      const one = /** @type {HTMLInputElement} */ (paper);
+      one.checked = one.value === this.paper;
+    }
     this.first.checked = firstAlone;
     this.first.disabled = !layout.spread;
     return chosen;
