@@ -19,9 +19,9 @@ def run(esbuild, options, text=None):
     return result.stdout.strip()
 
 
-def bundled(esbuild, first, texts=None):
-    """The script that begins in a module, with all that it imports. Strict, as modules are. texts: name and value"""
-    define = [f"--define:{texts[0]}={json.dumps(texts[1], ensure_ascii=False)}"] if texts else []
+def bundled(esbuild, first, *texts):
+    """The script that begins in a module, with all that it imports. Strict, as modules are. texts: names and values"""
+    define = [f"--define:{name}={json.dumps(value, ensure_ascii=False)}" for name, value in texts]
     return run(esbuild, [str(first), "--bundle", "--format=iife", '--banner:js="use strict";', *define, *SCRIPT])
 
 

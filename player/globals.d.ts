@@ -4,6 +4,9 @@
 declare const PAGE_TEXTS: string;
 declare const WEB_TEXTS: string;
 declare const OFFLINE_TEXTS: string;
+declare const READING_TEXTS: string;
+/** Style sheet of the reading view. */
+declare const READING_STYLE: string;
 
 interface Window {
   /** What the page has of the configuration; nothing where the player is to request it. */

@@ -17,7 +17,8 @@ import type { Toast } from './panels/toast.js';
 import type { Viewing } from './panels/viewing.js';
 
 /** Names of all texts, those of web books included. */
-export type AnyWord = Word | keyof typeof english.web | keyof typeof english.offline;
+export type AnyWord = Word | keyof typeof english.web | keyof typeof english.offline
+  | keyof typeof english.reading;
 
 /** What is there before any page image is requested. */
 export interface Beginning {

@@ -41,13 +41,13 @@ export class Contents {
 
   /** @param {import('./facts.js').Entry[]} outline */
   #makeTree(outline) {
-    const { config, book, turner, say } = this.player;
+    const { config, say } = this.player;
     const list = make('ul', 'tree');
     list.setAttribute('aria-labelledby', 'contents-title');
     this.player.seeking.setChapters(outline);
     const tree = new Tree(list, outline, ({ position }) => (position ? labelOf(config, position) : ''),
       (position) => say('page', fullLabel(config, position)), (item) => {
-        turner.go(book.views.viewOf(item.entry.position));
+        this.layers.show(item.entry.position, item.entry.title);
         this.chosen = item;
         tree.mark(item);
         if (!this.room.besideBook) this.panel.hide();

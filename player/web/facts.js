@@ -38,6 +38,8 @@ export class Facts {
     this.searchParts = Number.isInteger(raw.searchParts) ? Math.max(1, Number(raw.searchParts)) : 1;
     /** Positions of pages of contents and indexes. */
     this.listings = listOf(raw.listings).map(numberOf);
+    /** @type {number[]} pages at which the files with the structure of the text begin */
+    this.reading = listOf(raw.reading).map((page) => positionOf(page, pageCount) || 1);
     this.start = positionOf(raw.start, pageCount);
     /** What is open at first where there is room beside the book. */
     this.panel = PANELS.find((name) => name === raw.panel) ?? '';

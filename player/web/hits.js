@@ -19,10 +19,6 @@ export class Hits {
     this.root = root;
     this.book = book;
     this.layers = layers;
-    /** @type {import('./query.js').Query | null} */
-    this.query = null;
-    /** @type {Hit | null} */
-    this.current = null;
     layers.fillers.push((face) => this.#mark(face));
   }
 
@@ -31,22 +27,23 @@ export class Hits {
    * @param {Hit | null} current
    */
   show(query, current) {
-    this.query = query;
-    this.current = current;
+    this.layers.marked = { query, current };
+    this.layers.onMarked();
     for (const face of this.layers.faces) this.#mark(face);
   }
 
   /** @param {Face} face */
   #mark(face) {
     const { box, text, position } = face;
+    const { query, current } = this.layers.marked;
     box.querySelector('.hit-layer')?.remove();
-    if (!text || !this.query || this.query.empty) return;
+    if (!text || !query || query.empty) return;
     const source = text.string;
     const folded = fold(source, true);
     const layer = make('div', 'hit-layer');
     layer.setAttribute('aria-hidden', 'true');
-    this.query.hitsIn(folded.text).forEach(({ at, length }, ordinal) => {
-      const isCurrent = this.current?.position === position && this.current.ordinal === ordinal;
+    query.hitsIn(folded.text).forEach(({ at, length }, ordinal) => {
+      const isCurrent = current?.position === position && current.ordinal === ordinal;
       for (const { box: place, turn } of text.boxesOf(...sourceOf(source, folded, at, length))) {
         const mark = make('i', isCurrent ? 'hit current' : 'hit');
         if (turn === 90 || turn === 270) mark.classList.add('upright');
@@ -56,7 +53,7 @@ export class Hits {
     });
     // Below the words, which are what the pointer is to reach.
     box.prepend(layer);
-    if (this.current?.position === position) this.#bringIntoView(layer.querySelector('.current'));
+    if (current?.position === position) this.#bringIntoView(layer.querySelector('.current'));
   }
 
   /**

@@ -6,6 +6,7 @@ const PATHS = {
   close: 'm7 7 10 10M17 7 7 17',
   keep: 'M12 4.2v10.3M8.3 11 12 14.6l3.7-3.6M5 16v2a1.8 1.8 0 0 0 1.8 1.8h10.4A1.8 1.8 0 0 0 19 18v-2',
   kept: 'm7.6 9.6 3.4 3.4 6-7M5 16v2a1.8 1.8 0 0 0 1.8 1.8h10.4A1.8 1.8 0 0 0 19 18v-2',
+  reading: 'm3.5 18.5 5-13 5 13M5.2 14.2h6.6M20.5 12v6.5M20.5 15.2a2.8 3.2 0 1 1-5.6 0 2.8 3.2 0 0 1 5.6 0z',
   branch: 'm9.5 7 5 5-5 5',
   up: 'm6.5 14.5 5.5-5.5 5.5 5.5',
   down: 'm6.5 9.5 5.5 5.5 5.5-5.5',
@@ -16,11 +17,16 @@ const PATHS = {
  * @param {keyof typeof PATHS} name
  */
 export function icon(name) {
+  return drawn(PATHS[name]);
+}
+
+/** @param {string} data of the path */
+export function drawn(data) {
   const svg = document.createElementNS(NAMESPACE, 'svg');
   svg.setAttribute('viewBox', '0 0 24 24');
   svg.setAttribute('aria-hidden', 'true');
   const path = document.createElementNS(NAMESPACE, 'path');
-  path.setAttribute('d', PATHS[name]);
+  path.setAttribute('d', data);
   svg.append(path);
   return svg;
 }

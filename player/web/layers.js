@@ -5,6 +5,7 @@ import { fullLabel } from '../src/book/labels.js';
 /** @typedef {import('./pagetexts.js').PageTexts} PageTexts */
 /** @typedef {'left' | 'right'} Side */
 /**
+ * @typedef {{query: import('./query.js').Query | null, current: import('./searchtext.js').Hit | null}} Marked
  * What lies over one of the standing pages.
  * @typedef {object} Face
  * @property {Side} side
@@ -32,6 +33,14 @@ export class Layers {
     this.fillers = [];
     /** @type {(() => void)[]} called whenever pages stand */
     this.followers = [];
+    /**
+     * Leads the reader to a page, in whatever shows the book's text now.
+     * @type {(position: number, title?: string) => void}
+     */
+    this.show = (position) => turner.go(book.views.viewOf(position));
+    /** @type {Marked} what a search has found */
+    this.marked = { query: null, current: null };
+    this.onMarked = () => {};
     const sides = /** @type {Side[]} */ (config.rightToLeft ? ['right', 'left'] : ['left', 'right']);
     /** @type {Face[]} in reading order */
     this.faces = sides.map((side) => {

@@ -26,11 +26,11 @@ export class Links {
    * @param {import('../src/player.js').Player} player
    * @param {import('./layers.js').Layers} layers
    */
-  constructor({ config, book, turner, toolbar, gestures, say, root }, layers) {
+  constructor({ config, book, toolbar, gestures, say, root }, layers) {
     this.root = root;
     this.config = config;
     this.book = book;
-    this.turner = turner;
+    this.layers = layers;
     this.tips = toolbar.tips;
     this.say = say;
     layers.fillers.push((face) => this.#add(face));
@@ -75,7 +75,7 @@ export class Links {
       element.addEventListener('click', (event) => {
         event.preventDefault();
         tell('link', { target });
-        this.turner.go(this.book.views.viewOf(target));
+        this.layers.show(target);
       });
       return element;
     }

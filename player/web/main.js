@@ -17,6 +17,9 @@ import { SingleFile } from './singlefile.js';
 import { StartList } from './startlist.js';
 import { addTextLayer } from './textlayer.js';
 
+/** Lines lower than this have letters of less than 9 CSS pixels. */
+const SMALL = 10;
+
 const single = SingleFile.here ? new SingleFile() : null;
 const shared = sharedFiles(/** @type {HTMLElement | null} */ (document.currentScript));
 /** @param {string} path */
@@ -31,7 +34,7 @@ asked.catch(() => {});
 
 /**
  * Makes a button for the bar.
- * @param {'contents' | 'search' | 'keep'} name
+ * @param {'contents' | 'search' | 'keep' | 'reading'} name
  * @param {string} key
  * @param {string} fold position in the order in which buttons move from the bar to its menu
  * @param {import('../src/player.js').Say} say
@@ -116,6 +119,32 @@ function addKeeping(player, layers) {
 }
 
 /**
+ * Adds the reading view, a script of its own that is loaded when it is first used, or where letters are small.
+ * @param {import('../src/player.js').Player} player
+ * @param {Layers} layers
+ * @param {SideRoom} room
+ */
+function addReading(player, layers, room) {
+  const { commands, toolbar, say, toast } = player;
+  const button = barButton('reading', 'A', '7.5', say);
+  toolbar.add(button, 'thumbs');
+  /** @type {Promise<import('./readingview.js').ReadingView> | null} */
+  let made = null;
+  const load = () => {
+    made ??= files.run('reading').then((make) =>
+      /** @type {typeof import('./readingpart.js').makeReading} */ (make)(player, layers, files, room, button));
+    // The next call tries again.
+    made.catch(() => { made = null; });
+    return made;
+  };
+  commands.reading = () => load().then((view) => view.toggle(),
+    () => toast.show(say('unreachableText'), say('tryAgain'), () => commands.reading?.()));
+  layers.fillers.push(({ text, box }) => {
+    if (text && text.lineHeight * box.clientHeight < SMALL * text.height) load().then((view) => view.offer(), () => {});
+  });
+}
+
+/**
  * @param {import('../src/player.js').Player} player
  * @param {Facts} facts
  */
@@ -144,6 +173,7 @@ function addToBook(player, facts) {
     toolbar.add(button, 'thumbs');
     if (player.asked.search) searching.mark(player.asked.search);
   }
+  if (facts.reading.length > 0) addReading(player, layers, room);
   if (facts.offline && !single && mayKeep()) addKeeping(player, layers);
   if (facts.textPage) addTextLink(root, facts.textPage, say('textPage'));
   if (facts.labels) toolbar.box.inputMode = 'text';

@@ -33,6 +33,12 @@ export class PageText {
     return this.lines.map(({ words }) => words.map(({ text }) => text).join('')).join('\n');
   }
 
+  /** Height of an ordinary line, 0 without text. */
+  get lineHeight() {
+    const heights = this.lines.filter(({ turn }) => !turn).map(({ box }) => box.height).sort((a, b) => a - b);
+    return heights[heights.length >> 1] ?? 0;
+  }
+
   /**
    * Boxes of a part of the page's string, one for each line.
    * @param {number} from

@@ -22,11 +22,9 @@ export class Searching {
    * @param {HTMLElement} button
    */
   constructor(player, layers, files, room, button) {
-    const { config, book, turner, say, root } = player;
+    const { config, say, root } = player;
     this.say = say;
     this.room = room;
-    this.turner = turner;
-    this.book = book;
     this.layers = layers;
     this.files = files;
     this.hits = new Hits(player, layers);
@@ -257,7 +255,7 @@ export class Searching {
   #show(index) {
     const { hits, query } = /** @type {Answer} */ (this.answer);
     this.index = index;
-    this.turner.go(this.book.views.viewOf(hits[index].position));
+    this.layers.show(hits[index].position);
     this.#mark(query, hits[index]);
     this.results.mark(index);
     this.#tell();

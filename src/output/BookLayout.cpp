@@ -58,8 +58,8 @@ QStringList BookLayout::webFilesOfPage(int number) {
 }
 
 QStringList BookLayout::webFiles() {
-    return filesOfHTMLPage() +
-           QStringList{searchText, vectorScript, offlineScript, shareImage, metadata};
+    return filesOfHTMLPage() + QStringList{searchText,    vectorScript, readingScript,
+                                           offlineScript, shareImage,   metadata};
 }
 
 QStringList BookLayout::filesOfHTMLPage() {

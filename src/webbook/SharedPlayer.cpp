@@ -101,8 +101,9 @@ SharedPlayer::SharedPlayer(const QString& folder, const QString& bookFolder,
 
 void SharedPlayer::addFiles(const QString& bookFolder, const FlashTemplate& flashTemplate) {
     const BookLayout book(bookFolder);
-    for (const QString& path : {BookLayout::webScript, BookLayout::webStyle,
-                                BookLayout::vectorScript, BookLayout::offlineScript})
+    for (const QString& path :
+         {BookLayout::webScript, BookLayout::webStyle, BookLayout::vectorScript,
+          BookLayout::readingScript, BookLayout::offlineScript})
         iFiles.push_back({BookLayout::inFiles(path), path,
                           PublishTransaction::contents(PlayerFile::installed(book, path))});
     iFiles.push_back(

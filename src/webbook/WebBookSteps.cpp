@@ -347,7 +347,8 @@ void WebBookSteps::copyPlayer(PublishTarget& to, const WebBook& book) {
         }
         return;
     }
-    QStringList paths{BookLayout::webScript, BookLayout::vectorScript, BookLayout::webStyle};
+    QStringList paths{BookLayout::webScript, BookLayout::vectorScript, BookLayout::readingScript,
+                      BookLayout::webStyle};
     if (book.isCourse)
         paths << BookLayout::courseScript;
     for (const QString& path : paths)
@@ -378,8 +379,8 @@ void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& 
     std::map<QString, QString> files;
     for (const auto& [target, staged] : parts.stagedFiles())
         files.emplace(QDir(to.layout.folder()).relativeFilePath(target), staged);
-    files.emplace(BookLayout::vectorScript,
-                  PlayerFile::installed(to.layout, BookLayout::vectorScript));
+    for (const QString& script : {BookLayout::vectorScript, BookLayout::readingScript})
+        files.emplace(script, PlayerFile::installed(to.layout, script));
     const SingleFilePage single(page.left(end).toUtf8(), files, page.mid(end).toUtf8());
     if (single.size() > limit)
         PublishTransaction::fail(book.htmlFile, tooLarge(single.size(), limit));

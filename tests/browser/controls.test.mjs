@@ -51,7 +51,7 @@ test('zoom, sound, playing and full screen are switched and show it', async () =
   await book.page.keyboard.press('s');
   assert.equal(await pressed('sound'), 'false');
   assert.equal(await does(book, 'sound').getAttribute('aria-keyshortcuts'), 'S');
-  await book.page.keyboard.press('a');
+  await book.page.keyboard.press('y');
   await book.waitForPages(2, 3);
   assert.equal(await pressed('play'), 'true');
   await book.use('play');

@@ -6,9 +6,9 @@ import { shownOf } from '../../web/keeping.js';
 
 test('facts are well formed whatever a file holds', () => {
   const none = { pageCount: 3, numbers: [], labels: null, outline: [], hasContents: false, large: [], listings: [],
-    hasText: false,
+    hasText: false, reading: [],
     searchParts: 1, offline: false, open: null, language: '', textPage: '', start: 0, panel: '' };
-  const wrong = { labels: 7, outline: 'x', numbers: {}, open: 'x', large: 3, text: 'yes', offline: 1, language: '<b>',
+  const wrong = { labels: 7, outline: 'x', numbers: {}, open: 'x', large: 3, reading: 'x', text: 'yes', offline: 1, language: '<b>',
     textPage: 'javascript:x.html', searchParts: '2', start: 4, panel: 'search' };
   for (const data of [undefined, null, 7, 'x', [], wrong]) {
     assert.deepEqual({ ...new Facts(data, 3) }, none);

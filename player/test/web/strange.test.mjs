@@ -6,6 +6,7 @@ import { fileAddress } from '../../src/book/values.js';
 import { Views } from '../../src/book/views.js';
 import { pageInAddress } from '../../src/controls/place.js';
 import { Facts } from '../../web/facts.js';
+import { chunksOf, partsOf } from '../../web/readingblocks.js';
 import { PageText } from '../../web/pagetext.js';
 import { SearchText } from '../../web/searchtext.js';
 import { StartList } from '../../web/startlist.js';
@@ -17,11 +18,12 @@ window.requestIdleCallback = (act) => act();
 /** More are tried by hand. */
 const ROUNDS = Number(process.env.FUZZ_ROUNDS ?? 800);
 
-const FACTS = { numbers: [3, 4], labels: ['iv', ['A-', 9, 2]], outline: [['A', 1, [['B', 2, []]]]], large: ['js', ''],
+const FACTS = { numbers: [3, 4], reading: [1, 2], labels: ['iv', ['A-', 9, 2]], outline: [['A', 1, [['B', 2, []]]]], large: ['js', ''],
   open: [[1, 2]], text: true, searchParts: 2, start: 1, panel: 'thumbs', language: 'de', textPage: 'text.html' };
 const LIST = { settings: 'AQID', sizes: [600, 800, 85, 113], numbers: [3, 2], runs: [0, 2],
   kinds: [['page/#.png', 'thumb/#.jpg', 'js']], facts: FACTS };
 const TEXT = { size: [600, 800], lines: [[1, 2, 90, 20, 0, 1, ['ab ', 0, 40, 'c', 50, 9]]], links: [[1, 2, 3, 4, 'tel:1']] };
+const BLOCKS = [{ kind: 'h1', page: 1, text: [['a', 1], 2, ['b', 4, 'tel:1']] }, { kind: 'row', page: 2, rtl: 1, text: ['c\td'] }];
 
 test('the player reads whatever a book of strangers holds', async () => {
   const chance = new Chance(1);
@@ -30,6 +32,11 @@ test('the player reads whatever a book of strangers holds', async () => {
   for (let round = 0; round < ROUNDS; round++) {
     for (const data of [StartList.find()?.facts, chance.changed(FACTS)]) {
       const facts = new Facts(data, 2);
+      partsOf(facts.reading, 2).forEach((part) => {
+        for (const { blocks, pages } of chunksOf(chance.changed(BLOCKS), part, facts)) {
+          assert.ok(blocks.length > 0 && [...pages].every((page) => page >= 1));
+        }
+      });
       for (const page of [1, 2, 3]) assert.match(facts.largeFile(page), /^(large\/\d+\.(js|png|jpg))?$/);
     }
     const page = new PageText(chance.changed(TEXT));

@@ -40,7 +40,7 @@ function stringOf({ lines = [] } = {}) {
 
 /** The data files of a web book by their names; JSON of each. */
 function dataOf({
-  pages, labels = null, outline = [], large = [], open = null, language = '', textPage = '', start, panel,
+  pages, reading = [], labels = null, outline = [], large = [], open = null, language = '', textPage = '', start, panel,
   inPart = pages.length,
 }) {
   const isOpen = (position) => !open || open.some(([from, to]) => position >= from && position <= to);
@@ -49,9 +49,10 @@ function dataOf({
     'web/book': {
       version: 1, numbers: null, labels, outline, open, language, textPage, start, panel,
       large: pages.map((_, index) => large[index]?.kind ?? ''), text: shown.some((page) => page?.lines?.length > 0),
-      searchParts: Math.ceil(pages.length / inPart),
+      searchParts: Math.ceil(pages.length / inPart), reading: reading.map(([{ page }]) => page),
     },
   };
+  reading.forEach((blocks, index) => { files[`reading/text-${index + 1}`] = blocks; });
   for (let part = 0; part * inPart < pages.length; part += 1) {
     files[`search/text${part ? `-${part}` : ''}`] = shown.slice(part * inPart, (part + 1) * inPart).map(stringOf);
   }
@@ -62,13 +63,13 @@ function dataOf({
 /**
  * Makes a published classic book one of the web kind.
  * description: pages: { size, lines, links } by position; labels, outline, open, language and
- * textPage as in the book's facts; inPart: pages whose text is in one file for searching;
+ * textPage as in the book's facts; reading: blocks of the text's structure, by file; inPart: pages whose text is in one file for searching;
  * large: { kind, bytes } by position, or svg for bytes; web: folder with the built parts of the player.
  */
 export async function makeWebBook(folder, description) {
   const { web, large = [] } = description;
   const files = path.join(folder, 'files');
-  await Promise.all(['web', 'text', 'search', 'large']
+  await Promise.all(['web', 'text', 'search', 'large', 'reading']
     .map((name) => mkdir(path.join(files, name), { recursive: true })));
   for (const [index, picture] of large.entries()) {
     if (!picture) continue;
@@ -80,7 +81,7 @@ export async function makeWebBook(folder, description) {
   for (const [name, value] of Object.entries(dataOf(description))) {
     await writeFile(path.join(files, `${name}.js`), `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});`);
   }
-  for (const name of ['web.js', 'web.css', 'vectors.js']) await copyFile(path.join(web, name), path.join(files, name));
+  for (const name of ['web.js', 'web.css', 'vectors.js', 'reading.js']) await copyFile(path.join(web, name), path.join(files, name));
   const tags = '<link rel="stylesheet" href="files/web.css">\n<script src="files/web.js"></script>\n';
   await writeFile(page, html.replace('</head>', () => `${tags}</head>`));
   return folder;

@@ -1,0 +1,191 @@
+import { mayFollow } from '../src/book/addresses.js';
+import { make } from '../src/book/dom.js';
+import { fullLabel, labelOf } from '../src/book/labels.js';
+import { fileAddress } from '../src/book/values.js';
+import { textOfBlock } from './readingblocks.js';
+
+/** @typedef {import('./readingblocks.js').Block} Block */
+/** @typedef {import('./readingblocks.js').Run} Run */
+
+/** A bullet or a number before an item of a list. */
+const MARKER = /^\s*((?:[^\p{L}\p{N}\s]|\(?[\p{L}\p{N}]{1,3}[.):])(?=\s))\s+/u;
+
+/** How captions begin: the picture is on the page, as its place there is not known. */
+const CAPTION =
+  /^\s*(?:fig(?:ure|ura|\.)|abb(?:ildung|\.)|afb(?:eelding|\.)|\u56f3|\u56fe|\u0634\u0643\u0644)\s*\d[^]{0,400}$/iu;
+
+/** Blocks that stand together in one element. */
+const GROUPS = { item: 'ul', row: 'table', note: 'aside' };
+
+/** Makes elements of the text's blocks. */
+export class Elements {
+  /**
+   * @param {import('../src/player.js').Player} player
+   * @param {(page: number) => void} lead to a page that a link names
+   * @param {(page: number) => void} open a page's picture
+   */
+  constructor({ config, say }, lead, open) {
+    this.config = config;
+    this.say = say;
+    this.lead = lead;
+    this.open = open;
+  }
+
+  /**
+   * @param {Block[]} blocks
+   * @returns {HTMLElement[]}
+   */
+  of(blocks) {
+    /** @type {HTMLElement[]} */
+    const elements = [];
+    let kind = '';
+    let group = make('div', '');
+    for (const block of blocks) {
+      const element = this.#element(block);
+      const name = GROUPS[/** @type {keyof typeof GROUPS} */ (block.kind)];
+      if (name && kind !== block.kind) {
+        group = make(name, 'read-' + block.kind + 's');
+        elements.push(name === 'table' ? make('div', 'read-table', group) : group);
+        if (block.rtl) group.dir = 'rtl';
+      }
+      kind = block.kind;
+      if (name) group.append(element);
+      else elements.push(element);
+    }
+    return elements;
+  }
+
+  /** @param {Block} block */
+  #element(block) {
+    if (block.kind === 'picture') return this.#picture(block.page);
+    const element = this.#written(block);
+    if (block.rtl) element.dir = 'rtl';
+    if (block.begins) (element.querySelector('td') ?? element).prepend(this.#mark(block.page));
+    return element;
+  }
+
+  /** @param {Block} block */
+  #written(block) {
+    const { kind, level, runs } = block;
+    if (kind === 'heading') return make('h' + Math.min(6, level + 1), '', ...this.#runs(runs, 1));
+    if (kind === 'code') return make('pre', '', make('code', '', ...this.#runs(runs, 4)));
+    if (kind === 'note') return make('p', 'read-note', ...this.#runs(runs));
+    if (kind === 'row') return make('tr', '', ...cellsOf(runs).map((cell) => make('td', '', ...this.#runs(cell))));
+    if (kind === 'closed') return make('p', 'read-closed', this.say('notOpen'));
+    if (kind === 'item') return this.#item(runs);
+    const paragraph = make('p', '', ...this.#runs(runs));
+    if (CAPTION.test(textOfBlock(block))) paragraph.append(' ', this.#opener(block.page, 'read-see'));
+    return paragraph;
+  }
+
+  /** @param {(Run | number)[]} runs */
+  #item(runs) {
+    const [first, ...others] = runs;
+    const found = typeof first === 'object' ? MARKER.exec(first.text) : null;
+    if (!found || typeof first !== 'object') return make('li', '', ...this.#runs(runs));
+    const rest = { ...first, text: first.text.slice(found[0].length) };
+    return make('li', '', make('span', 'read-marker', found[1] + ' '), ...this.#runs([rest, ...others]));
+  }
+
+  /**
+   * @param {(Run | number)[]} runs
+   * @param {number} plain styles that all of it has
+   */
+  #runs(runs, plain = 0) {
+    return runs.map((run) => (typeof run === 'number' ? this.#mark(run) : this.#run(run, run.style & ~plain)));
+  }
+
+  /**
+   * @param {Run} run
+   * @param {number} style
+   */
+  #run({ text, target }, style) {
+    /** @type {Node | string} */
+    let node = text;
+    if (style & 4) node = make('code', '', node);
+    if (style & 2) node = make('i', '', node);
+    if (style & 1) node = make('b', '', node);
+    const link = this.#link(target);
+    if (!link) return node;
+    link.append(node);
+    return link;
+  }
+
+  /**
+   * @param {number | string} target
+   * @returns {HTMLElement | null} none for what leads nowhere
+   */
+  #link(target) {
+    const link = /** @type {HTMLAnchorElement} */ (make('a', ''));
+    if (typeof target === 'string') {
+      if (!mayFollow(target)) return null;
+      Object.assign(link, { href: target, target: '_blank', rel: 'noopener noreferrer' });
+      return link;
+    }
+    if (!(target >= 1 && target <= this.config.pages.length)) return null;
+    link.href = '#page=' + target;
+    link.setAttribute('role', 'link');
+    link.addEventListener('click', (event) => {
+      event.preventDefault();
+      this.lead(target);
+    });
+    return link;
+  }
+
+  /**
+   * The number of a page beside the line with which it begins. It is no part of the text.
+   * @param {number} page
+   */
+  #mark(page) {
+    const mark = make('span', 'read-page');
+    mark.dataset.page = String(page);
+    mark.dataset.label = labelOf(this.config, page);
+    mark.setAttribute('aria-hidden', 'true');
+    return mark;
+  }
+
+  /** @param {number} page */
+  #picture(page) {
+    const { path, width, height } = this.config.pages[page - 1];
+    const image = /** @type {HTMLImageElement} */ (make('img', ''));
+    Object.assign(image, { src: fileAddress(path), width, height, decoding: 'async', alt: '' });
+    // Its room is there before the picture.
+    image.style.width = 'calc(82vh * ' + width / height + ')';
+    const button = this.#opener(page, 'read-picture');
+    button.append(image);
+    return make('figure', '', this.#mark(page), button);
+  }
+
+  /**
+   * A button that shows a page's picture.
+   * @param {number} page
+   * @param {string} className
+   */
+  #opener(page, className) {
+    const button = make('button', className);
+    button.setAttribute('type', 'button');
+    // Its label is no part of the text.
+    button.dataset.label = this.say('showPage', fullLabel(this.config, page));
+    button.setAttribute('aria-label', button.dataset.label);
+    button.addEventListener('click', () => this.open(page));
+    return button;
+  }
+}
+
+/**
+ * The runs of each cell of a table's row.
+ * @param {(Run | number)[]} runs
+ */
+function cellsOf(runs) {
+  /** @type {(Run | number)[][]} */
+  const cells = [[]];
+  for (const run of runs) {
+    const texts = typeof run === 'number' ? [] : run.text.split('\t');
+    if (typeof run === 'number') cells[cells.length - 1].push(run);
+    texts.forEach((text, index) => {
+      if (index > 0) cells.push([]);
+      if (text && typeof run === 'object') cells[cells.length - 1].push({ ...run, text });
+    });
+  }
+  return cells;
+}
