@@ -53,6 +53,13 @@ export class Flow {
     this.moved = 0;
     /** Height of the bar over the text. */
     this.top = 0;
+    /** @type {HTMLElement | null} a block that is to stay in the document */
+    this.pinned = null;
+    /** Whether the reader has scrolled since what is to be kept in view was there. */
+    this.strayed = false;
+    for (const way of ['wheel', 'touchmove', 'keydown']) {
+      scroller.addEventListener(way, () => { this.strayed = true; }, { passive: true });
+    }
     /** Called when elements have come or gone. */
     this.onFilled = () => {};
     /** Called when a file could not be loaded. */
@@ -93,7 +100,7 @@ export class Flow {
         const section = this.sections.find(({ element }) => element === target);
         if (!section) continue;
         if (isIntersecting) this.#near(section);
-        else if (section.filled && !selected) this.#empty(section);
+        else if (section.filled && !selected && !section.element.contains(this.pinned)) this.#empty(section);
       }
     });
     this.onFilled();
@@ -169,7 +176,7 @@ export class Flow {
   /** Where the reader is: the last element that begins at the top of what is seen or above. */
   get spot() {
     if (this.#away) return null;
-    const line = this.#line + 1;
+    const line = this.line + 1;
     /** @type {Spot | null} */
     let spot = null;
     for (const section of this.sections) {
@@ -186,7 +193,7 @@ export class Flow {
   }
 
   /** Window's height at which the text begins below the bar. */
-  get #line() {
+  get line() {
     return this.scroller.getBoundingClientRect().top + this.top;
   }
 
@@ -210,7 +217,7 @@ export class Flow {
     const anchor = anchorsOf(section)[index] ?? section.element;
     // The same part of a paragraph stays when it has become longer.
     const above = off * (off > LINE && height > LINE ? heightAround(anchor) / height : 1);
-    const moved = anchor.getBoundingClientRect().top - (this.#line + 1 - above);
+    const moved = anchor.getBoundingClientRect().top - (this.line + 1 - above);
     if (Math.abs(moved) >= 1) this.#scrollBy(moved);
   }
 
@@ -281,7 +288,7 @@ export class Flow {
    * @param {number} below pixels between the bar and it
    */
   bring(what, below = 0) {
-    this.#scrollBy(what.getBoundingClientRect().top - this.#line - below);
+    this.#scrollBy(what.getBoundingClientRect().top - this.line - below);
   }
 
   /**
@@ -290,7 +297,7 @@ export class Flow {
    */
   focusNext() {
     const controls = /** @type {HTMLElement[]} */ ([...this.article.querySelectorAll('a, button')]);
-    const next = controls.find((control) => control.getBoundingClientRect().top >= this.#line);
+    const next = controls.find((control) => control.getBoundingClientRect().top >= this.line);
     next?.focus();
     return next !== undefined;
   }
@@ -301,6 +308,58 @@ export class Flow {
     this.scroller.scrollTop += way;
     this.moved += this.scroller.scrollTop - scrollTop;
     this.note();
+  }
+
+  /**
+   * Blocks that have elements now.
+   * @param {string} selector
+   */
+  blocks(selector) {
+    const sections = this.sections.filter(({ filled }) => filled);
+    return sections.flatMap(({ element }) => /** @type {HTMLElement[]} */ ([...element.querySelectorAll(selector)]));
+  }
+
+  /**
+   * The block after another, which has elements then.
+   * @param {HTMLElement} block
+   * @param {string} selector
+   * @returns {Promise<HTMLElement | null>} none at the end, and where the text is not to be had
+   */
+  async blockAfter(block, selector) {
+    let index = this.sections.findIndex(({ element }) => element.contains(block));
+    if (index < 0) return null;
+    const own = [...this.sections[index].element.querySelectorAll(selector)];
+    /** @type {Element | null} */
+    let next = own[own.indexOf(block) + 1] ?? null;
+    while (!next && ++index < this.sections.length) {
+      const { part, chunk } = this.sections[index];
+      if (!chunk) await this.#ask(part).catch(() => this.onFailed());
+      const section = this.sections[index];
+      this.keep(() => this.#fill(section));
+      next = section.element.querySelector(selector);
+    }
+    return /** @type {HTMLElement | null} */ (next);
+  }
+
+  /** @param {Range} range */
+  sees(range) {
+    const { top, bottom } = range.getBoundingClientRect();
+    return bottom > this.line && top < this.line + this.scroller.clientHeight;
+  }
+
+  /**
+   * Keeps a part of the text in view, unless the reader has scrolled away from such a part.
+   * @param {Range} range
+   * @param {number} low share of the height below which it is brought up
+   */
+  follow(range, low) {
+    const { clientHeight } = this.scroller;
+    const { top, bottom } = range.getBoundingClientRect();
+    const below = top - this.line;
+    this.strayed &&= below < 0 || bottom - this.line > clientHeight;
+    if (this.strayed || (below >= 0 && bottom - this.line < low * clientHeight)) return;
+    const atOnce = Math.abs(below) > clientHeight || matchMedia('(prefers-reduced-motion: reduce)').matches;
+    this.scroller.scrollBy({ top: below - clientHeight / 8, behavior: atOnce ? 'auto' : 'smooth' });
   }
 
   /** Follows letters of another size. */

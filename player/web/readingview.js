@@ -2,6 +2,7 @@ import { make, part } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
 import { pageInAddress } from '../src/controls/place.js';
 import { drawn, icon } from './icons.js';
+import { ReadAloud } from './readaloud.js';
 import { Elements } from './readingelements.js';
 import { Flow } from './readingflow.js';
 import { SIZES, endOffers, mayOffer, storeLooks, storedLooks } from './readinglooks.js';
@@ -19,6 +20,9 @@ const REST = 300;
 const SCROLLED = 8;
 
 const BOOK = 'M12 7.5c-2.4-1.6-5-1.6-7.5-.8v11c2.5-.8 5.1-.8 7.5.8 2.4-1.6 5-1.6 7.5-.8v-11c-2.5-.8-5.1-.8-7.5.8zm0 0v11';
+
+const SPEAKER = 'M5 9.8v4.4h3l4 3.6V6.2L8 9.8zM15.2 9.2a4 4 0 0 1 0 5.6M17.8 6.8a7.4 7.4 0 0 1 0 10.4';
+const PAUSE = 'M9 6.5v11M15 6.5v11';
 
 /** Commands whose keys work in the reading view as in the book. */
 const ALSO_HERE = ['contents', 'search', 'keep', 'full', 'share', 'print', 'help', 'sound'];
@@ -56,6 +60,10 @@ export class ReadingView {
     this.where = make('span', 'read-where');
     const opener = this.#button('read-tool read-opener', 'looks', icon('reading'));
     this.panel = new LooksPanel(say, opener, this.looks, () => this.#dress(true));
+    this.speaker = this.#button('read-tool read-speaker', 'readAloud', drawn(SPEAKER));
+    this.speaker.dataset.key = 'R';
+    this.speaker.setAttribute('aria-keyshortcuts', 'R');
+    this.speaker.addEventListener('click', () => this.aloud.toggle());
     this.bar = this.#makeBar(opener);
     this.#build();
     const elements = new Elements(player, (page) => this.#lead(page), (page) => this.close(page));
@@ -67,6 +75,8 @@ export class ReadingView {
     this.flow.onFilled = () => this.#filled();
     this.flow.onFailed = () => player.toast.show(say('searchFailed'), say('tryAgain'), () => this.#goTo(this.page));
     this.marks = new Marks(this.article);
+    this.aloud = new ReadAloud(this.flow, layers.facts.language, () => this.#tellAloud());
+    this.#tellAloud();
     /** @type {Range | null} */
     this.hit = null;
     this.history = new ReadingHistory(this);
@@ -95,7 +105,7 @@ export class ReadingView {
       tool.addEventListener('click', () => commands[name]());
       tools.append(tool);
     }
-    tools.append(opener);
+    tools.append(this.speaker, opener);
     return make('header', 'read-bar', back, this.where, tools, this.panel.element);
   }
 
@@ -173,11 +183,23 @@ export class ReadingView {
     });
   }
 
+  /** The button is there where voices are. */
+  #tellAloud() {
+    const { aloud, speaker, player: { say } } = this;
+    const word = say(aloud.on ? 'readPause' : 'readAloud');
+    speaker.hidden = !aloud.able;
+    speaker.setAttribute('aria-label', word);
+    speaker.dataset.tip = word;
+    speaker.replaceChildren(drawn(aloud.on ? PAUSE : SPEAKER));
+    if (this.isOpen) this.showBar(true);
+  }
+
   /** The book shows again, at the page where the reader was. */
   closed() {
     if (!this.isOpen) return;
     this.isOpen = false;
     clearTimeout(this.timer);
+    this.aloud.stop();
     this.panel.show(false);
     delete this.player.root.dataset.reading;
     this.#follow();
@@ -252,7 +274,7 @@ export class ReadingView {
 
   /** @param {boolean} shown */
   showBar(shown) {
-    const used = !this.panel.element.hidden || this.bar.querySelector(':focus-visible');
+    const used = !this.panel.element.hidden || this.aloud.on || this.bar.querySelector(':focus-visible');
     this.dialog.dataset.calm = shown || used ? 'no' : 'yes';
     this.lastTop = this.scroller.scrollTop - this.flow.moved;
   }
@@ -300,10 +322,11 @@ export class ReadingView {
     if (!this.isOpen || event.ctrlKey || event.altKey || event.metaKey) return;
     if (target instanceof Element && target.closest('dialog:not(.read), .search-strip')) return;
     if (key === 'Tab' && target === this.scroller && !event.shiftKey && this.flow.focusNext()) event.preventDefault();
-    /** @type {Partial<Record<string, () => void>>} */
+    /** @type {Partial<Record<string, () => unknown>>} */
     const actions = {
       Escape: () => (this.panel.element.hidden ? this.player.commands.escape() : this.panel.show(false)),
-      A: () => this.close(), '+': () => this.panel.resize(1), '=': () => this.panel.resize(1),
+      A: () => this.close(), R: () => !this.speaker.hidden && this.aloud.toggle(),
+      '+': () => this.panel.resize(1), '=': () => this.panel.resize(1),
       '-': () => this.panel.resize(-1), 0: () => this.panel.resize(0),
     };
     const action = actions[key.length > 1 ? key : key.toUpperCase()];

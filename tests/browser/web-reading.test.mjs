@@ -12,14 +12,14 @@ const words = (page) => `Of page ${page} `.repeat(60);
 /** A chapter for each page, which ends on the next one; every tenth page has a picture only. */
 const blocksOf = (page) => (page % 10 === 0 ? [] : [
   { kind: 'h1', page, text: [`Chapter ${page}`] }, { kind: 'item', page, text: ['1. ', ['first', 1]] },
-  { kind: 'p', page, text: [words(page), ['to the harbour', 2, 250], ...(page % 10 === 9 ? [] : [page + 1, `Rest of ${page}.`])] },
+  { kind: 'p', page, text: [words(page), ['to the harbour. ', 2, 250], ...(page % 10 === 9 ? [] : [page + 1, `Rest of ${page}.`])] },
   { kind: 'row', page, text: ['a\tb'] }, { kind: 'note', page, text: ['1 A note'] }, { kind: 'code', page, text: [['x = 1\n', 4]] },
 ]);
 const text = Array.from({ length: COUNT }, (_, index) => blocksOf(index + 1));
 const description = {
   pages: text.map((_, index) => typedPage([`Chapter ${index + 1}`, `needle ${index + 1}`])),
   reading: [text.slice(0, 150).flat(), text.slice(150).flat()],
-  textPage: 'text.html', outline: [['Chapter 7', 7, []], ['Chapter 299', 299, []]],
+  textPage: 'text.html', language: 'en', outline: [['Chapter 7', 7, []], ['Chapter 299', 299, []]],
 };
 let folder = null;
 
@@ -140,3 +140,46 @@ for (const [name, options] of [['a desk', { view: DESK }], ['a phone', { view: P
     assert.equal(await book.page.locator('.read-text pre').first().innerText(), 'x = 1\n');
   });
 }
+
+/** Voices that speak when the test says so. */
+const voices = (page) => page.addInitScript(() => {
+  const speech = Object.assign(new EventTarget(), {
+    spoken: [], said: null, getVoices: () => [{ lang: 'de-DE', default: true }, { lang: 'en-GB' }],
+    speak(words) { this.said = words; this.spoken.push(`${words.voice?.lang ?? words.lang}: ${words.text}`); },
+    cancel() { this.said = null; },
+    end() { this.said?.onend(); },
+  });
+  Object.defineProperty(window, 'speechSynthesis', { value: speech });
+  window.SpeechSynthesisUtterance = class { constructor(text) { this.text = text; } };
+});
+
+test('the text is read aloud sentence by sentence from what is seen, on to the next pages', async () => {
+  const silent = await open({ hash: '#page=12', before: (page) => page.addInitScript(() =>
+    Object.defineProperty(window, 'speechSynthesis', { value: Object.assign(new EventTarget(), { getVoices: () => [], cancel() {} }) })) });
+  await read(silent);
+  assert.equal(await silent.page.locator('.read-speaker').isVisible(), false, 'without voices');
+  const book = await open({ hash: '#page=149', before: voices });
+  await read(book);
+  await reads(book, 149);
+  const heard = () => book.page.evaluate(() => window.speechSynthesis.spoken);
+  await book.page.locator('.read-speaker').click();
+  assert.deepEqual(await heard(), ['en-GB: Rest of 148.']);
+  assert.equal(await book.page.evaluate(() => String([...CSS.highlights.get('read-spoken')][0])), 'Rest of 148.');
+  await press(book, 'r');
+  await book.page.evaluate(() => window.speechSynthesis.end());
+  await press(book, 'r');
+  assert.equal((await heard()).length, 2);
+  assert.equal((await heard())[1], 'en-GB: Rest of 148.', 'goes on with the sentence that was interrupted');
+  // Page 151 is in another file.
+  await book.page.waitForFunction(() => {
+    window.speechSynthesis.end();
+    return window.speechSynthesis.spoken.at(-1).endsWith('Chapter 152');
+  }, null, { polling: 60 });
+  await book.page.waitForFunction(() => window.folvero.pages.includes(151));
+  const all = await heard();
+  for (const text of ['1 A note', 'Chapter 149', '1. first', 'a', 'b', 'Chapter 151']) assert.ok(all.includes(`en-GB: ${text}`), text);
+  assert.ok(all.indexOf('en-GB: Chapter 149') < all.indexOf('en-GB: Chapter 151'));
+  await press(book, 'Escape');
+  assert.equal(await book.page.evaluate(() => window.speechSynthesis.said), null, 'the closed view is silent');
+  assert.deepEqual(book.errors, []);
+});
