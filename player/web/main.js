@@ -20,6 +20,9 @@ import { addTextLayer } from './textlayer.js';
 /** Lines lower than this have letters of less than 9 CSS pixels. */
 const SMALL = 10;
 
+/** Larger pictures in a print; each takes browsers some 10 MB. */
+const MOST_LARGE = 30;
+
 const single = SingleFile.here ? new SingleFile() : null;
 const shared = sharedFiles(/** @type {HTMLElement | null} */ (document.currentScript));
 /** @param {string} path */
@@ -205,7 +208,11 @@ function addLargePages(player, layers) {
     look();
   };
   layers.followers.push(look);
-  sheets.load = (page) => needed().then(({ largePage }) => largePage(page, player, layers, files)).catch(() => load(page));
+  sheets.load = (page, count) => {
+    const usual = () => load(page, count);
+    if (count > MOST_LARGE) return usual();
+    return needed().then(({ largePage }) => largePage(page, player, layers, files)).catch(usual);
+  };
 }
 
 /**

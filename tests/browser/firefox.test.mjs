@@ -67,7 +67,7 @@ for (const [name, [options, addressOf]] of Object.entries(kinds)) {
     await press('ArrowRight');
     await book.waitForPages(2, 3);
     const { x, y, width, height } = await (await page.$('.page.right')).boundingBox();
-    await book.drag([x + width - 20, y + height / 2], [x - width * 0.9, y + height / 2 - 20]);
+    await book.drag([x + width - 20, y + height / 3], [x - width * 0.9, y + height / 3 - 20]);
     await book.waitForPages(4, 5);
     // The document opens its contents; here they get the focus.
     await press('c', 'c', 'Home', 'ArrowDown', 'Enter');

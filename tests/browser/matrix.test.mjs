@@ -41,7 +41,7 @@ function inTheWay(book) {
       .filter(({ width }) => width > 0)
       .flatMap(({ left, right, top, bottom }) => [left + 3, (left + right) / 2, right - 3]
         .flatMap((x) => [top + 3, bottom - 3].map((y) => document.elementFromPoint(x, y))))
-      .filter((at) => !at?.closest('.stage')).map((at) => at?.className ?? 'outside of the window');
+      .filter((at) => at && !at.closest('.stage')).map((at) => at.className);
   });
 }
 

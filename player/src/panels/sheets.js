@@ -15,8 +15,8 @@ export class Sheets {
     this.element = part(document, '.sheets');
     this.run = 0;
     /**
-     * The picture of a page once it has loaded; web books may have another one for the printer.
-     * @type {(page: number) => Promise<HTMLImageElement>}
+     * The picture of a page once it has loaded, of so many in a print; web books may have another one for the printer.
+     * @type {(page: number, count: number) => Promise<HTMLImageElement>}
      */
     this.load = (page) => loaded(this.#picture(page));
     window.addEventListener('beforeprint', () => {
@@ -41,7 +41,7 @@ export class Sheets {
     const sheets = [];
     for (const page of pages) {
       progress(sheets.length + 1);
-      const content = await this.load(page).catch(() => say('pageMissing', page));
+      const content = await this.load(page, pages.length).catch(() => say('pageMissing', page));
       if (run !== this.run) return false;
       sheets.push(sheet(content));
     }
