@@ -57,7 +57,7 @@ void checkStartList(const std::shared_ptr<PDFDocument>& document) {
     book.complete({});
     const int start = book.metadata.start;
     Fuzz::require(start >= 0 && start <= document->pageCount(), "it opens at one of its pages");
-    const QByteArray json = StartList::json(book, {1, {}});
+    const QByteArray json = StartList::json(book, {1, {}, {}});
     Fuzz::require(!json.contains('<') && !json.contains('$'), "a list is safe in its page");
     QStringList labels;
     for (const QJsonValue& run : QJsonDocument::fromJson(json)["facts"]["labels"].toArray()) {
