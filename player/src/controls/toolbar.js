@@ -99,7 +99,7 @@ export class Toolbar {
 
   #hide() {
     const used = this.bar.matches(':hover') || this.root.querySelector(
-      'dialog[open], .drawer:not([hidden]), :is(.bar *, .arrow, .back, .caption *):focus-visible');
+      'dialog.panel[open], .drawer:not([hidden]), :is(.bar *, .arrow, .back, .caption *):focus-visible');
     if (used) {
       this.show();
       return;
