@@ -20,6 +20,9 @@ import { addTextLayer } from './textlayer.js';
 /** Lines lower than this have letters of less than 9 CSS pixels. */
 const SMALL = 10;
 
+/** A page of fewer lines, such as an imprint, is no reason to read the book in another way. */
+const FEWEST_LINES = 10;
+
 /** Larger pictures in a print; each takes browsers some 10 MB. */
 const MOST_LARGE = 30;
 
@@ -143,7 +146,8 @@ function addReading(player, layers, room) {
   commands.reading = () => load().then((view) => view.toggle(),
     () => toast.show(say('unreachableText'), say('tryAgain'), () => commands.reading?.()));
   layers.fillers.push(({ text, box }) => {
-    if (text && text.lineHeight * box.clientHeight < SMALL * text.height) load().then((view) => view.offer(), () => {});
+    if (!text || text.lines.length < FEWEST_LINES || text.lineHeight * box.clientHeight >= SMALL * text.height) return;
+    load().then((view) => view.offer(), () => {});
   });
 }
 

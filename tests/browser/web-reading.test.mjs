@@ -17,7 +17,8 @@ const blocksOf = (page) => (page % 10 === 0 ? [] : [
 ]);
 const text = Array.from({ length: COUNT }, (_, index) => blocksOf(index + 1));
 const description = {
-  pages: text.map((_, index) => typedPage([`Chapter ${index + 1}`, `needle ${index + 1}`])),
+  pages: text.map((_, index) => typedPage([`Chapter ${index + 1}`, `needle ${index + 1}`,
+    ...Array(index === 0 ? 10 : 0).fill('line')])),
   reading: [text.slice(0, 150).flat(), text.slice(150).flat()],
   textPage: 'text.html', language: 'en', outline: [['Chapter 7', 7, []], ['Chapter 299', 299, []]],
 };
