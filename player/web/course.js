@@ -94,7 +94,7 @@ export class Visit {
     this.report();
   }
 
-  /** Makes the platform keep what it was told. */
+  /** Makes the platform store what was reported to it. */
   report() {
     this.reported = this.now();
     this.#set('session_time', timespan(this.now() - this.since));

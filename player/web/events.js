@@ -1,16 +1,16 @@
 import { labelOf } from '../src/book/labels.js';
 
-/** @type {MessageEventSource | null} the page around the book, once it has asked to be told */
+/** @type {MessageEventSource | null} the page around the book, once it has asked for events */
 let asking = null;
 let askingOrigin = '';
 
 /**
- * Tells what the reader did: as an event of the window, for scripts in this page, and as a message to the page around
+ * Reports what the reader did: as an event of the window, for scripts in this page, and as a message to the page around
  * a book in a frame, if that has asked for it. Nothing is sent anywhere else.
  * @param {string} name
  * @param {Record<string, unknown>} detail
  */
-export function tell(name, detail) {
+export function report(name, detail) {
   window.dispatchEvent(new CustomEvent('folvero:' + name, { detail }));
   post(name, detail);
 }
@@ -24,11 +24,11 @@ function post(name, detail) {
 }
 
 /**
- * Tells which pages are shown, and once that the end was reached.
+ * Reports which pages are shown, and once that the end was reached.
  * @param {import('../src/player.js').Player} player
  * @param {import('./layers.js').Layers} layers
  */
-export function tellPages({ config, book }, layers) {
+export function reportPages({ config, book }, layers) {
   const { pageCount } = book.views;
   /** @type {{page: number, pages: number[], label: string, pageCount: number} | undefined} */
   let shown;
@@ -38,10 +38,10 @@ export function tellPages({ config, book }, layers) {
     if (String(pages) === String(shown?.pages)) return;
     const [page] = pages;
     shown = { page, pages, label: labelOf(config, page), pageCount };
-    tell('page', shown);
+    report('page', shown);
     if (ended || !pages.includes(pageCount)) return;
     ended = true;
-    tell('end', { pageCount });
+    report('end', { pageCount });
   };
   window.addEventListener('message', ({ source, origin, data }) => {
     if (source !== window.parent || source === window || data?.folvero !== 'listen') return;

@@ -1,7 +1,7 @@
 import { mayFollow } from '../src/book/addresses.js';
 import { make } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
-import { tell } from './events.js';
+import { report } from './events.js';
 import { Layers } from './layers.js';
 import { distance } from './pagetext.js';
 
@@ -74,7 +74,7 @@ export class Links {
       element.dataset.tip = page;
       element.addEventListener('click', (event) => {
         event.preventDefault();
-        tell('link', { target });
+        report('link', { target });
         this.layers.show(target);
       });
       return element;
@@ -83,7 +83,7 @@ export class Links {
       element.href = target;
       element.target = '_blank';
       element.rel = 'noopener noreferrer';
-      element.addEventListener('click', () => tell('link', { target }));
+      element.addEventListener('click', () => report('link', { target }));
       element.setAttribute('aria-label', words || target);
       element.dataset.tip = shortened(target.replace(/^https?:\/\/|^(?:mailto|tel):/i, ''));
       return element;

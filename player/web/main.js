@@ -3,7 +3,7 @@ import { Memory } from '../src/controls/memory.js';
 import { closePages } from './closed.js';
 import { Contents } from './contents.js';
 import { DataFiles } from './data.js';
-import { tellPages } from './events.js';
+import { reportPages } from './events.js';
 import { Facts } from './facts.js';
 import { icon } from './icons.js';
 import { Layers } from './layers.js';
@@ -189,7 +189,7 @@ function addToBook(player, facts) {
     // Prefetches the words of the next pages.
     idle(() => book.views.pagesOf(book.views.clamp(turner.current + 1)).forEach((page) => texts.get(page)));
   });
-  tellPages(player, layers);
+  reportPages(player, layers);
   layers.update();
   // An open panel would stop a book that plays by itself.
   if (room.isWide && !player.config.autoPlay) openPanel(facts.panel, commands);

@@ -1,4 +1,4 @@
-import { pageInAddress } from '../src/controls/place.js';
+import { pageInAddress, write } from '../src/controls/place.js';
 
 /** Windows in which the player itself lets Back close what lies over the book. */
 const NARROW = '(max-width: 899px)';
@@ -22,12 +22,12 @@ export class ReadingHistory {
   enter() {
     this.depth = 0;
     this.goal = 0;
-    this.own = !matchMedia(NARROW).matches && write('pushState', 'cover', pageInAddress() || this.view.page);
+    this.own = !matchMedia(NARROW).matches && write('pushState', pageInAddress() || this.view.page, 'cover');
   }
 
   /** @param {number} page */
   jump(page) {
-    if (write('pushState', 'cover ' + (this.depth + 1), page)) this.depth += 1;
+    if (write('pushState', page, 'cover ' + (this.depth + 1))) this.depth += 1;
   }
 
   /**
@@ -35,7 +35,7 @@ export class ReadingHistory {
    * @param {number} page
    */
   note(page) {
-    if (pageInAddress() !== page) write('replaceState', history.state, page);
+    if (pageInAddress() !== page) write('replaceState', page, history.state);
   }
 
   /**
@@ -82,19 +82,5 @@ export class ReadingHistory {
     this.depth = Number(/^cover (\d+)$/.exec(history.state)?.[1] ?? 0);
     if (this.own && history.state === null) view.close();
     else view.addressed(pageInAddress());
-  }
-}
-
-/**
- * @param {'replaceState' | 'pushState'} how
- * @param {string | null} state
- * @param {number} page
- */
-function write(how, state, page) {
-  try {
-    history[how](state, '', '#page=' + page);
-    return true;
-  } catch {
-    return false;
   }
 }

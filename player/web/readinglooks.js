@@ -1,3 +1,5 @@
+import { ALL_BOOKS, keep, recall } from '../src/book/storage.js';
+
 /**
  * @typedef {object} Looks
  * @property {number} size index of SIZES
@@ -12,8 +14,8 @@ export const WIDTHS = /** @type {const} */ (['narrow', 'medium', 'wide']);
 export const FACES = /** @type {const} */ (['serif', 'sans', 'spaced']);
 export const COLOURS = /** @type {const} */ (['paper', 'sepia', 'night']);
 
-const KEY = 'folvero:reading';
-const NO_OFFER = 'folvero:reading-offer';
+const KEY = 'reading';
+const NO_OFFER = 'reading-offer';
 
 /** @type {Looks} */
 const FIRST = { size: 3, width: 'medium', face: 'serif', colours: '' };
@@ -24,7 +26,7 @@ const FIRST = { size: 3, width: 'medium', face: 'serif', colours: '' };
  */
 export function storedLooks() {
   try {
-    return looksOf(JSON.parse(localStorage.getItem(KEY) ?? ''));
+    return looksOf(JSON.parse(recall(KEY, ALL_BOOKS) ?? ''));
   } catch {
     return { ...FIRST };
   }
@@ -46,30 +48,14 @@ export function looksOf(raw) {
 
 /** @param {Looks} looks */
 export function storeLooks(looks) {
-  store(KEY, JSON.stringify(looks));
+  keep(KEY, JSON.stringify(looks), ALL_BOOKS);
 }
 
 /** Whether the reading view may offer itself. */
 export function mayOffer() {
-  try {
-    return localStorage.getItem(NO_OFFER) === null;
-  } catch {
-    return true;
-  }
+  return recall(NO_OFFER, ALL_BOOKS) === null;
 }
 
 export function endOffers() {
-  store(NO_OFFER, 'no');
-}
-
-/**
- * @param {string} key
- * @param {string} value
- */
-function store(key, value) {
-  try {
-    localStorage.setItem(key, value);
-  } catch {
-    // Private windows and strict settings forbid it; it lasts as long as the page then.
-  }
+  keep(NO_OFFER, 'no', ALL_BOOKS);
 }

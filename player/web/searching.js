@@ -1,6 +1,6 @@
 import { make, part } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
-import { tell } from './events.js';
+import { report } from './events.js';
 import { Hits } from './hits.js';
 import { icon } from './icons.js';
 import { Results } from './results.js';
@@ -89,7 +89,7 @@ export class Searching {
     this.box.addEventListener('input', () => {
       this.#find();
       clearTimeout(this.typing);
-      this.typing = setTimeout(() => this.#tellSearch(), TYPED_MS);
+      this.typing = setTimeout(() => this.#reportSearch(), TYPED_MS);
     });
     this.box.addEventListener('keydown', (event) => this.#boxKey(event));
     this.count.setAttribute('type', 'button');
@@ -207,12 +207,12 @@ export class Searching {
     this.#tell();
   }
 
-  /** Tells what was searched, once all of the text is. */
-  async #tellSearch() {
+  /** Reports what was searched, once all of the text is. */
+  async #reportSearch() {
     const typed = this.box.value;
     await this.loading;
     const { query, hits } = this.answer ?? {};
-    if (query && !query.empty && this.#complete && typed === this.box.value) tell('search', { text: typed, hits: hits?.length });
+    if (query && !query.empty && this.#complete && typed === this.box.value) report('search', { text: typed, hits: hits?.length });
   }
 
   /** Shows the number of hits and which one is current. */

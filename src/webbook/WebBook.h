@@ -28,7 +28,7 @@ struct WebBook {
     ShareImage shareImage;                      // empty for none
     std::shared_ptr<const SharedPlayer> player; // null: the book has its own
     bool hasText = true;   // otherwise without words to select, search and the page of text
-    bool isCourse = false; // it tells a learning platform about its reader
+    bool isCourse = false; // it reports to a learning platform
     PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
 
     // Completes the metadata, whose facts go before those of the document, the outline, unless

@@ -1,3 +1,6 @@
+/** For what readers want of all books of a site. */
+export const ALL_BOOKS = '*';
+
 /** @param {string} name @param {string} of */
 const keyOf = (name, of) => 'folvero:' + of + ':' + name;
 
@@ -24,6 +27,6 @@ export function keep(name, value, of = location.pathname) {
   try {
     localStorage.setItem(keyOf(name, of), value);
   } catch {
-    // Private windows and strict settings forbid it; then the book opens at its cover.
+    // Private windows and strict settings forbid it; then it lasts as long as the page.
   }
 }

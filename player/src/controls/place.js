@@ -72,11 +72,13 @@ export class Place {
 }
 
 /**
+ * Writes an entry of the history.
  * @param {'replaceState' | 'pushState'} how
  * @param {number} page
  * @param {string | null} state
+ * @returns {boolean} whether there is one now
  */
-function write(how, page, state = null) {
+export function write(how, page, state = null) {
   try {
     history[how](state, '', '#page=' + page);
     return true;

@@ -155,7 +155,7 @@ export class Seeking {
 
   /** Lets the keys be the book's again. */
   #release() {
-    // The change is told after this.
+    // The event "change" comes after this.
     setTimeout(() => {
       this.held = false;
       this.note.hidden = true;

@@ -1,5 +1,5 @@
 import { part } from '../book/dom.js';
-import { keep, recall } from '../book/storage.js';
+import { ALL_BOOKS, keep, recall } from '../book/storage.js';
 import { Panel } from './panel.js';
 
 /** @typedef {import('../book/book.js').Book} Book */
@@ -10,9 +10,6 @@ const CHOICES = ['auto', 'one', 'two', 'width'];
 
 /** Colour that white paper has, by what the reader chooses. */
 const PAPERS = { day: '', sepia: '#f4ecd8', night: '#141414' };
-
-/** What paper the reader wants is the same for all books of a site. */
-const ALL_BOOKS = '*';
 
 /**
  * The panel in which the reader chooses how the pages lie, which is stored for the book, and on what paper: as printed,

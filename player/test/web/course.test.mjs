@@ -24,7 +24,7 @@ test('writes durations as the format wants them', () => {
   for (const [time, text] of table) assert.equal(timespan(time), text);
 });
 
-/** A platform that notes what it is told. */
+/** A platform that records the calls. */
 function platformWith(values, initialized = 'true') {
   const calls = [];
   const note = (name) => (...given) => { calls.push([name, ...given].join(' ').trim()); return 'true'; };
