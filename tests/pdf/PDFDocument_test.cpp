@@ -284,7 +284,7 @@ TEST_F(PDFDocumentTest, GivesNoVectorsOfTooManyPictures) {
     for (unsigned i = 0, state = 1; i < side * side; ++i, state = state * 1664525 + 1013904223)
         noise[i] = char(state >> 24);
     auto page = PDFBuilder::page({500, 500}, QByteArray("500 0 0 500 0 0 cm") +
-                                                 QByteArray(" /I Do").repeated(30));
+                                                 QByteArray(" /I Do").repeated(24));
     page.xObjects["I"] = builder.addGrayImage({side, side}, noise);
     builder.addPage(page);
     const auto vectors = VectorEncoder().encode(DrawablePage(*open(), 0));
