@@ -1,16 +1,16 @@
 #!/usr/bin/env node
 // How soon a reader sees the first page of a long book over a slow connection.
-// Usage: first-view.mjs [BUILD_DIR]... [--rounds 5] [--pdf FILE]... [--types html,web]
+// Usage: first-view.mjs [BUILD_DIR]... [--rounds 5] [--pdf FILE]... [--types html,web,single] [--network 3g|4g]
 //
-// Publishes documents (thousand.pdf, of 1,000 pages) as classic and as web books with the program of each build, serves
-// them with `folvero serve`, and opens them alternately in headless Chromium with an empty cache, over what its developer
-// tools call "Fast 3G". Prints medians of the seconds from navigation until the first page is painted and the book can be
-// turned, of the seconds until the next pages stand there with their pictures after a key press at that moment, and of the
-// bytes and requests until the first page.
+// Publishes documents (thousand.pdf, of 1,000 pages) as classic and as web books, and as those in a single file, with the
+// program of each build, serves them with `folvero serve`, and opens them alternately in headless Chromium with an empty
+// cache, over what its developer tools call "Fast 3G" or "Fast 4G". Prints medians of the seconds from navigation until the
+// first page is painted and the book can be turned, of the seconds until the next pages stand there with their pictures
+// after a key press at that moment, and of the bytes and requests until the first page; then the bytes of the whole book.
 
 import { execFile, spawn } from 'node:child_process';
 import { once } from 'node:events';
-import { mkdtemp, rm } from 'node:fs/promises';
+import { mkdtemp, readdir, rm, stat } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
@@ -21,12 +21,16 @@ const { launchChromium } = await import(path.join(here, '../tests/browser/suppor
 
 const { values: options, positionals: builds } = parseArgs({ allowPositionals: true, options: {
   rounds: { type: 'string', default: '5' }, pdf: { type: 'string', multiple: true, default: [] },
-  types: { type: 'string', default: 'html,web' },
+  types: { type: 'string', default: 'html,web' }, network: { type: 'string', default: '3g' },
 } });
 if (builds.length === 0) builds.push(path.join(here, '../build/release'));
 if (options.pdf.length === 0) options.pdf.push(path.join(builds[0], 'samples/thousand.pdf'));
 const rounds = Number(options.rounds);
-const FAST_3G = { offline: false, latency: 562.5, downloadThroughput: (1.6e6 / 8) * 0.9, uploadThroughput: (750e3 / 8) * 0.9 };
+const NETWORKS = {
+  '3g': { offline: false, latency: 562.5, downloadThroughput: (1.6e6 / 8) * 0.9, uploadThroughput: (750e3 / 8) * 0.9 },
+  '4g': { offline: false, latency: 165, downloadThroughput: (9e6 / 8) * 0.9, uploadThroughput: (1.5e6 / 8) * 0.9 },
+};
+const TYPES = { html: ['--type', 'html'], web: ['--type', 'web'], single: ['--type', 'web', '--single-file'] };
 
 /** In the page: records when the first view is painted. */
 function watchOpening() {
@@ -42,7 +46,7 @@ async function open(browser, address) {
   const page = await context.newPage();
   const session = await context.newCDPSession(page);
   await session.send('Network.enable');
-  await session.send('Network.emulateNetworkConditions', FAST_3G);
+  await session.send('Network.emulateNetworkConditions', NETWORKS[options.network]);
   let bytes = 0;
   let requests = 0;
   session.on('Network.dataReceived', ({ dataLength }) => { bytes += dataLength; });
@@ -65,6 +69,12 @@ async function serve(program, folder) {
   return { address: String(line).trim(), stop: () => server.kill('SIGINT') };
 }
 
+async function bytesBelow(folder) {
+  const names = await readdir(folder, { recursive: true });
+  const files = await Promise.all(names.map((name) => stat(path.join(folder, name))));
+  return files.reduce((sum, file) => sum + (file.isFile() ? file.size : 0), 0);
+}
+
 const median = (values) => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
 const folder = await mkdtemp(path.join(tmpdir(), 'folvero-first-view-'));
@@ -74,9 +84,9 @@ for (const pdf of options.pdf) {
     for (const build of builds) {
       const program = path.join(build, 'bin/folvero');
       const book = path.join(folder, String(books.length));
-      await promisify(execFile)(program, ['publish', '--quiet', '--type', type, pdf, book]);
+      await promisify(execFile)(program, ['publish', '--quiet', ...TYPES[type], pdf, book]);
       const name = [path.basename(pdf), type === 'html' ? 'classic' : type, ...builds.length > 1 ? [build] : []];
-      books.push({ name: name.join(', '), views: [], server: await serve(program, book) });
+      books.push({ name: name.join(', '), views: [], bytes: await bytesBelow(book), server: await serve(program, book) });
     }
   }
 }
@@ -85,11 +95,11 @@ console.log(`Load before: ${loadavg()[0].toFixed(1)}; medians of ${rounds}.\n`);
 for (let round = 0; round < rounds; round += 1) {
   for (const { views, server } of books) views.push(await open(browser, server.address));
 }
-console.log('| book | first page | first turn | loaded by then | requests |');
-console.log('| --- | ---: | ---: | ---: | ---: |');
-for (const { name, views } of books) {
+console.log('| book | first page | first turn | loaded by then | requests | whole book |');
+console.log('| --- | ---: | ---: | ---: | ---: | ---: |');
+for (const { name, views, bytes } of books) {
   const middle = (key) => median(views.map((view) => view[key]));
-  console.log(`| ${name} | ${middle('opened').toFixed(2)} s | ${middle('turned').toFixed(2)} s | ${Math.round(middle('bytes') / 1000)} kB | ${middle('requests')} |`);
+  console.log(`| ${name} | ${middle('opened').toFixed(2)} s | ${middle('turned').toFixed(2)} s | ${Math.round(middle('bytes') / 1000)} kB | ${middle('requests')} | ${(bytes / 1e6).toFixed(1)} MB |`);
 }
 await browser.close();
 for (const { server } of books) server.stop();

@@ -23,7 +23,9 @@ interface Window {
   /** Other scripts leave here what they add to the book before the player's own runs. */
   folveroExtensions?: import('./src/player.js').Extension[];
   /** Address of a file of the book that is not beside the page. */
-  folveroFile?(path: string): string | undefined;
+  folveroFile?(path: string): string | Promise<string> | undefined;
+  /** The files of a single-file book. */
+  folveroSingle?: import('./web/singlefile.js').SingleFile;
   /** Called by each data file of a web book. */
   folveroData?(name: string, data: unknown): void;
 }

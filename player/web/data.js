@@ -1,4 +1,4 @@
-import { fileAddress } from '../src/book/values.js';
+import { loadFile } from '../src/book/values.js';
 
 /** @typedef {import('./singlefile.js').SingleFile} SingleFile */
 
@@ -58,7 +58,7 @@ export class DataFiles {
       script.onload = () => reject(new Error(name + ' is broken'));
       script.onerror = () => reject(new Error(name + ' is missing'));
     });
-    script.src = fileAddress(name + '.js');
+    loadFile(script, name + '.js');
     document.head.append(script);
     return promise.finally(() => script.remove());
   }

@@ -11,7 +11,7 @@ export async function loadLarge(image, file, files) {
   if (!file) throw new Error('no larger picture');
   const [, data] = /^(.*)\.js$/.exec(file) ?? [];
   image.src = data ? URL.createObjectURL(new Blob([await svgOf(await files.load(data))], { type: 'image/svg+xml' }))
-    : fileAddress(file);
+    : await fileAddress(file);
   try {
     await image.decode();
   } finally {

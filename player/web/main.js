@@ -13,7 +13,6 @@ import { Searching } from './searching.js';
 import { Selecting } from './selecting.js';
 import { sharedFiles } from './sharedfiles.js';
 import { SideRoom } from './side.js';
-import { SingleFile } from './singlefile.js';
 import { StartList } from './startlist.js';
 import { addTextLayer } from './textlayer.js';
 
@@ -26,7 +25,7 @@ const FEWEST_LINES = 10;
 /** Larger pictures in a print; each takes browsers some 10 MB. */
 const MOST_LARGE = 30;
 
-const single = SingleFile.here ? new SingleFile() : null;
+const single = window.folveroSingle ?? null;
 const shared = sharedFiles(/** @type {HTMLElement | null} */ (document.currentScript));
 /** @param {string} path */
 const address = (path) => single?.address(path) ?? shared(path);
@@ -251,7 +250,6 @@ window.folveroExtensions.push(async (beginning) => {
   const { config, say, learn } = beginning;
   learn(WEB_TEXTS);
   start?.complete(config);
-  await single?.complete;
   const facts = await asked.then((raw) => new Facts(raw, config.pages.length)).catch(() => null);
   // Without them the book still works as a classic one.
   if (!facts) return undefined;

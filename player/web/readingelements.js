@@ -1,7 +1,7 @@
 import { mayFollow } from '../src/book/addresses.js';
 import { make } from '../src/book/dom.js';
 import { fullLabel, labelOf } from '../src/book/labels.js';
-import { fileAddress } from '../src/book/values.js';
+import { loadFile } from '../src/book/values.js';
 import { textOfBlock } from './readingblocks.js';
 
 /** @typedef {import('./readingblocks.js').Block} Block */
@@ -148,7 +148,8 @@ export class Elements {
   #picture(page) {
     const { path, width, height } = this.config.pages[page - 1];
     const image = /** @type {HTMLImageElement} */ (make('img', ''));
-    Object.assign(image, { src: fileAddress(path), width, height, decoding: 'async', alt: '' });
+    loadFile(image, path);
+    Object.assign(image, { width, height, decoding: 'async', alt: '' });
     // Its room is there before the picture.
     image.style.width = 'calc(82vh * ' + width / height + ')';
     const button = this.#opener(page, 'read-picture');

@@ -224,8 +224,11 @@ void reportWebBook(const FolveroOutputWeb& output, const PublishOptions& options
     if (options.quiet)
         return;
     constexpr double megabyte = 1'000'000;
-    Terminal::report(QStringLiteral("Pages: %1 MB with text, thumbnails and larger pictures")
-                         .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1));
+    const auto* contents =
+        options.singleFile ? "text, each in one picture" : "text, thumbnails and larger pictures";
+    Terminal::report(QStringLiteral("Pages: %1 MB with %2")
+                         .arg(double(output.pageBytes()) / megabyte, 0, 'f', 1)
+                         .arg(QLatin1String(contents)));
     if (!isCourse)
         WebBookOptions::printEmbedSnippet(output);
 }

@@ -36,6 +36,7 @@ public:
     static inline const QString webScript = QStringLiteral("files/web.js");
     static inline const QString vectorScript = QStringLiteral("files/vectors.js");
     static inline const QString readingScript = QStringLiteral("files/reading.js");
+    static inline const QString singleScript = QStringLiteral("files/single.js");
     static inline const QString webStyle = QStringLiteral("files/web.css");
     static inline const QString metadata = QStringLiteral("files/web/book.js");
     static inline const QString searchText = QStringLiteral("files/search/text.js");

@@ -80,6 +80,8 @@ WebBook FolveroOutputWeb::webBook() const {
     if (iHTMLConfig)
         book.texts = *iHTMLConfig;
     book.pages = webPagesOf(*iBook.pageSource);
+    if (iIsSingleFile)
+        book.keepOnePicture();
     book.content = iBook;
     book.kindOfCopy = kindOfCopy();
     book.metadata.facts = iFacts;
@@ -148,15 +150,17 @@ PublishSteps FolveroOutputWeb::folderSteps(const WebBook& book) {
 }
 
 PublishSteps FolveroOutputWeb::singleFileSteps(const WebBook& book) {
-    return {{"single file",
-             [this, &book](PublishTarget& to) {
-                 // Never committed: the page contains what is staged.
-                 PublishTransaction transaction(to.layout.folder());
-                 PublishTarget inPage{to.layout, transaction, to.isCancelled};
-                 PublishRun::stage(inPage, contents(book) + configuration(book));
-                 WebBookSteps::writeSingleFile(to, transaction, book, iSingleFileLimit);
-             }},
-            BookSteps::outdatedOfflineFiles()};
+    return {
+        {"single file",
+         [this, &book](PublishTarget& to) {
+             // Never committed: the page contains what is staged.
+             PublishTransaction transaction(to.layout.folder());
+             PublishTarget inPage{to.layout, transaction, to.isCancelled};
+             PublishRun::stage(inPage, contents(book)
+                                           << BookSteps::sound(book.flashTemplate.get()));
+             WebBookSteps::writeSingleFile(to, transaction, book, {iReport.text, iSingleFileLimit});
+         }},
+        BookSteps::outdatedOfflineFiles()};
 }
 
 QStringList FolveroOutputWeb::foreignFiles() const {

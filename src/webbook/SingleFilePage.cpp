@@ -6,6 +6,7 @@
 #include "system/Files.h"
 #include "system/MediaType.h"
 #include "util/Base91.h"
+#include "util/NSData+CocoaDevUsersAdditions.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -16,10 +17,8 @@ namespace {
 // Bytes encoded at a time.
 constexpr qint64 pieceBytes = Base91::pieceBytes << 14;
 
-// These are inlined differently, or left out.
-bool isOfPage(const QString& path) {
-    return path == BookLayout::configuration || path == BookLayout::configurationScript ||
-           path == BookLayout::webScript || path == BookLayout::webStyle;
+QByteArray attribute(const char* name, const QString& value) {
+    return QByteArray(" data-") + name + "=\"" + value.toHtmlEscaped().toUtf8() + '"';
 }
 
 bool writeEncoded(const QString& source, QFile& to) {
@@ -36,27 +35,33 @@ bool writeEncoded(const QString& source, QFile& to) {
 
 } // namespace
 
-SingleFilePage::SingleFilePage(const QByteArray& start, const std::map<QString, QString>& files,
-                               const QByteArray& end) {
+SingleFilePage::SingleFilePage(const QByteArray& start, const Files& files, const QByteArray& end) {
     addText(start);
     for (const auto& [path, source] : files) {
-        if (!isOfPage(path))
+        if (path.endsWith(u".js"))
+            addScript(path, source);
+        else
             addFile(path, source);
     }
     addText(end);
 }
 
+void SingleFilePage::addScript(const QString& path, const QString& source) {
+    const bool isData = BookLayout::isData(path);
+    const QByteArray script = PublishTransaction::contents(source);
+    const QByteArray text = isData ? WebScript::jsonIn(path, script) : script;
+    const QByteArray name =
+        attribute("file", isData ? BookLayout::dataName(path) : BookLayout::inFiles(path));
+    const QByteArray packed = Base91::encode(NSDataExtension::zlibDeflate(text));
+    if (isData && packed.size() >= text.size())
+        addText("<script type=\"application/json\"" + name + '>' + text + "</script>\n");
+    else
+        addText("<script type=\"text/plain\"" + name + " data-packed>" + packed + "</script>\n");
+}
+
 void SingleFilePage::addFile(const QString& path, const QString& source) {
-    const auto named = [](const QString& name) {
-        return " data-file=\"" + name.toHtmlEscaped().toUtf8() + '"';
-    };
-    if (BookLayout::isData(path)) {
-        addText("<script type=\"application/json\"" + named(BookLayout::dataName(path)) + '>' +
-                WebScript::jsonIn(path, PublishTransaction::contents(source)) + "</script>\n");
-        return;
-    }
-    iParts.push_back({"<script type=\"text/plain\"" + named(BookLayout::inFiles(path)) +
-                          " data-type=\"" + MediaType::ofFile(path) + "\">",
+    iParts.push_back({"<script type=\"text/plain\"" + attribute("file", BookLayout::inFiles(path)) +
+                          attribute("type", QString::fromLatin1(MediaType::ofFile(path))) + '>',
                       source});
     addText("</script>\n");
 }

@@ -4,16 +4,17 @@
 
 #include <QByteArray>
 #include <QString>
-#include <map>
 #include <vector>
 
 // A web book as a single page that contains all of its files.
 class SingleFilePage {
 public:
-    // The book's files, their paths on disk by their paths in the book, between the two parts of
-    // its HTML page. The page's parts contain the configuration and the player.
-    SingleFilePage(const QByteArray& start, const std::map<QString, QString>& files,
-                   const QByteArray& end);
+    // Paths in a book and on disk.
+    using Files = std::vector<std::pair<QString, QString>>;
+
+    // The book's files in the order in which a reader gets them, between the two parts of its HTML
+    // page, which contain the player and what it begins with.
+    SingleFilePage(const QByteArray& start, const Files& files, const QByteArray& end);
 
     // Size in bytes.
     qint64 size() const;
@@ -28,6 +29,7 @@ private:
         QString source; // file whose bytes follow the text; null for none
     };
 
+    void addScript(const QString& path, const QString& source);
     void addFile(const QString& path, const QString& source);
     void addText(const QByteArray& text) { iParts.push_back({text, QString()}); }
 

@@ -70,7 +70,7 @@ void WebBook::complete(const std::optional<std::vector<PageRun>>& openPages) {
     if (openPages)
         metadata.open = runsOfPositions(metadata.numbers, *openPages);
     for (const WebPage& page : pages) {
-        const bool hasLarge = isOpen(page) && !page.large.isNull();
+        const bool hasLarge = isOpen(page) && !page.large.isNull() && !isDrawn(page);
         metadata.large << (hasLarge ? largeKind(page) : QString());
     }
     if (content.document)
@@ -105,10 +105,27 @@ bool WebBook::isOpen(const WebPage& page) const {
     return metadata.isOpen(metadata.positionOf(page.number));
 }
 
+void WebBook::keepOnePicture() {
+    for (WebPage& page : pages) {
+        page.thumbnail = QString();
+        // What is in the text of a script takes the same share more bytes in both forms.
+        const bool isSmaller = Files::pathExtension(page.large) == u"vectors" &&
+                               QFileInfo(page.large).size() < QFileInfo(page.picture).size();
+        if (isSmaller)
+            page.picture = page.large;
+        else
+            page.large = QString();
+    }
+}
+
+bool WebBook::isDrawn(const WebPage& page) {
+    return !page.large.isNull() && page.picture == page.large;
+}
+
 FlashPageSource::Pages WebBook::pictures() const {
     FlashPageSource::Pages pictures;
     for (const WebPage& page : pages) {
-        if (!isOpen(page))
+        if (!isOpen(page) || isDrawn(page))
             continue;
         auto picture = std::make_shared<FlashPage>();
         picture->setPageIndex(page.number);
@@ -124,7 +141,8 @@ QString WebBook::largeKind(const WebPage& page) {
 }
 
 QString WebBook::picturePath(const WebPage& page) {
-    return BookLayout::page(page.number, Files::pathExtension(page.picture));
+    return isDrawn(page) ? BookLayout::largePage(page.number, largeKind(page))
+                         : BookLayout::page(page.number, Files::pathExtension(page.picture));
 }
 
 QString WebBook::thumbnailPath(const WebPage& page) {

@@ -38,8 +38,13 @@ struct WebBook {
 
     QString htmlName() const;
     bool isOpen(const WebPage& page) const;
-    // The pictures of the included pages.
+    // Leaves each page one picture, its vectors where they take fewer bytes: for a book in a single
+    // file, which is loaded as a whole. Before complete().
+    void keepOnePicture();
+    // The pictures of the included pages that are files.
     FlashPageSource::Pages pictures() const;
+    // Whether the page has vectors only, which are its picture and its thumbnail, too.
+    static bool isDrawn(const WebPage& page);
     // The extension in the book of a page's larger picture, which it has. Vectors become a
     // script, since browsers load no other data from disk.
     static QString largeKind(const WebPage& page);

@@ -27,6 +27,7 @@
 #include <QJsonArray>
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <optional>
 
 using Copy = PublishTransaction::Copy;
@@ -106,7 +107,8 @@ void PageWriter::writeScript(const QString& path, const QByteArray& json) {
 }
 
 QString PageWriter::write(const WebPage& page) {
-    iReport.pageBytes += QFileInfo(page.picture).size();
+    if (!WebBook::isDrawn(page))
+        iReport.pageBytes += QFileInfo(page.picture).size();
     copy(page.thumbnail, BookLayout::thumbnail(page.number));
     copyLarge(page);
     const auto lines = iBook.hasText ? linesOf(page) : std::vector<PDFTextLine>();
@@ -286,6 +288,44 @@ Message tooLarge(qint64 size, qint64 limit) {
     return {forTerminal, forWindow.local()};
 }
 
+// What is staged for a book in one file, and parts of the player. A reader sees the first pages
+// while the others are still on their way, so these come first, then what can be used with any
+// page.
+SingleFilePage::Files orderedFiles(const BookLayout& layout, const PublishTransaction& parts,
+                                   const WebBook& book) {
+    constexpr std::size_t firstPages = 3; // what is seen before and after the first turn
+    std::map<QString, QString> staged;
+    for (const auto& [target, source] : parts.stagedFiles())
+        staged.emplace(QDir(layout.folder()).relativeFilePath(target), source);
+    SingleFilePage::Files files;
+    const auto take = [&](const QString& path) {
+        if (auto file = staged.extract(path))
+            files.emplace_back(file.key(), file.mapped());
+    };
+    const auto takeAll = [&](const QString& folder) {
+        std::erase_if(staged, [&](const auto& file) {
+            if (!BookLayout::isIn(folder, file.first))
+                return false;
+            files.emplace_back(file.first, file.second);
+            return true;
+        });
+    };
+    for (std::size_t i = 0; i < book.pages.size(); ++i) {
+        const WebPage& page = book.pages[i];
+        take(WebBook::picturePath(page));
+        take(BookLayout::text(page.number));
+        if (i == 0)
+            takeAll(BookLayout::settingsFiles);
+        if (i + 1 != std::min(firstPages, book.pages.size()))
+            continue;
+        for (const QString& script : {BookLayout::vectorScript, BookLayout::readingScript})
+            files.emplace_back(script, PlayerFile::installed(layout, script));
+        takeAll(BookLayout::webData);
+    }
+    files.insert(files.end(), staged.begin(), staged.end());
+    return files;
+}
+
 void writeTextPage(PublishTarget& to, const WebBook& book,
                    const std::vector<ReadingBlock>& blocks) {
     if (book.metadata.textPage.isEmpty())
@@ -360,30 +400,27 @@ void WebBookSteps::copyPlayer(PublishTarget& to, const WebBook& book) {
 }
 
 void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& parts,
-                                   const WebBook& book, qint64 limit) {
+                                   const WebBook& book, const SingleFileOptions& options) {
     to.checkCancelled();
     if (!BookSteps::isInFolder(to.layout, book.htmlFile))
         return;
     PagePlaces places = placesOf(book);
-    const QByteArray configuration =
-        PublishTransaction::contents(parts.stagedFile(to.layout.at(BookLayout::configuration)));
-    places.start = places.allowedScript(QStringLiteral("window.FolveroUserConfig = \"%1\";")
-                                            .arg(QString::fromLatin1(configuration.toBase64())));
-    places.head += QStringLiteral("<style>\n") + textOfPlayerPart(to.layout, BookLayout::webStyle) +
-                   QStringLiteral("</style>\n") +
-                   places.allowedScript(u'\n' + textOfPlayerPart(to.layout, BookLayout::webScript));
+    addStartList(places, book, options.text);
+    const auto script = [&](const QString& path) {
+        return places.allowedScript(u'\n' + textOfPlayerPart(to.layout, path));
+    };
+    places.head += script(BookLayout::singleScript) + QStringLiteral("<style>\n") +
+                   textOfPlayerPart(to.layout, BookLayout::webStyle) +
+                   QStringLiteral("</style>\n") + script(BookLayout::webScript);
     places.allowMadeScripts();
+    const QString pageTemplate =
+        WebPageTemplate::withStartList(WebPageTemplate::of(book.flashTemplate.get()));
     qsizetype end = 0;
-    const QString page = book.texts.filled(WebPageTemplate::of(book.flashTemplate.get()), places)
-                             .parse(PagePlaces::endName, end);
-    std::map<QString, QString> files;
-    for (const auto& [target, staged] : parts.stagedFiles())
-        files.emplace(QDir(to.layout.folder()).relativeFilePath(target), staged);
-    for (const QString& script : {BookLayout::vectorScript, BookLayout::readingScript})
-        files.emplace(script, PlayerFile::installed(to.layout, script));
-    const SingleFilePage single(page.left(end).toUtf8(), files, page.mid(end).toUtf8());
-    if (single.size() > limit)
-        PublishTransaction::fail(book.htmlFile, tooLarge(single.size(), limit));
+    const QString page = book.texts.filled(pageTemplate, places).parse(PagePlaces::endName, end);
+    const SingleFilePage single(page.left(end).toUtf8(), orderedFiles(to.layout, parts, book),
+                                page.mid(end).toUtf8());
+    if (single.size() > options.limit)
+        PublishTransaction::fail(book.htmlFile, tooLarge(single.size(), options.limit));
     Message error;
     if (!single.write(to.transaction.stage(book.htmlFile, Phase::page), &error))
         PublishTransaction::fail(book.htmlFile, error);

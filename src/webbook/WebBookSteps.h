@@ -30,9 +30,12 @@ void writePage(PublishTarget& to, const WebBook& book, const WebBookReport& repo
 // Scripts and styles that the HTML page loads; a book with a shared player loses its own.
 void copyPlayer(PublishTarget& to, const WebBook& book);
 
-// In place of the HTML page, one that contains all files staged in parts. Fails when it would have
-// more bytes than the limit.
+// In place of the HTML page, one that contains all files staged in parts.
+struct SingleFileOptions {
+    TextParts text;
+    qint64 limit; // in bytes; fails when the page would have more
+};
 void writeSingleFile(PublishTarget& to, const PublishTransaction& parts, const WebBook& book,
-                     qint64 limit);
+                     const SingleFileOptions& options);
 
 } // namespace WebBookSteps

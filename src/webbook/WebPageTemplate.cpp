@@ -93,6 +93,20 @@ bool isForClassicBooks(const QString& name) {
     return name == u"early.js";
 }
 
+// The page with something else for each of its parts, and without those for classic books.
+template <typename Replacement>
+QString withParts(const QString& page, const Replacement& replacement) {
+    QString changed;
+    qsizetype end = 0;
+    for (const auto& match : sharedPart().globalMatch(page)) {
+        changed += page.mid(end, match.capturedStart() - end);
+        if (!isForClassicBooks(match.captured(2)))
+            changed += replacement(match);
+        end = match.capturedEnd();
+    }
+    return changed + page.mid(end);
+}
+
 } // namespace
 
 QString WebPageTemplate::of(const FlashTemplate* flashTemplate) {
@@ -112,13 +126,11 @@ std::map<QString, QString> WebPageTemplate::parts(const QString& page) {
 }
 
 QString WebPageTemplate::withReferences(const QString& page, const QString& address) {
-    QString changed;
-    qsizetype end = 0;
-    for (const auto& match : sharedPart().globalMatch(page)) {
-        changed += page.mid(end, match.capturedStart() - end);
-        if (const QString name = match.captured(2); !isForClassicBooks(name))
-            changed += reference(name).arg(address);
-        end = match.capturedEnd();
-    }
-    return changed + page.mid(end);
+    return withParts(page, [&](const QRegularExpressionMatch& part) {
+        return reference(part.captured(2)).arg(address);
+    });
+}
+
+QString WebPageTemplate::withStartList(const QString& page) {
+    return withParts(page, [](const QRegularExpressionMatch& part) { return part.captured(); });
 }

@@ -15,10 +15,13 @@ namespace WebPageTemplate {
 QString of(const FlashTemplate* flashTemplate);
 
 // The parts of such a page that are the same in every book of the template, by paths in a book;
-// pages of templates from before there were such have none. And the page with references to these
-// files in their places, all of them at one address that ends in "/". It lacks the script that
-// requests the configuration early, which a start list replaces.
+// pages of templates from before there were such have none.
 std::map<QString, QString> parts(const QString& page);
+
+// The page of a book with a start list, which lacks the script that requests the configuration
+// early. With references to files in the places of its parts, all of them at one address that ends
+// in "/", or with the parts.
 QString withReferences(const QString& page, const QString& address);
+QString withStartList(const QString& page);
 
 } // namespace WebPageTemplate

@@ -51,14 +51,20 @@ function paintGround(element, ground) {
   // The angle counts clockwise from "to the right"; style sheets count from "upwards".
   const gradient = 'linear-gradient(' + (ground.angle + 90) + 'deg, '
     + ground.from + ', ' + ground.to + ')';
-  if (!ground.file) {
-    element.style.background = gradient;
-    return;
-  }
+  element.style.background = gradient;
+  if (ground.file) paintPicture(element, ground, gradient);
+}
+
+/**
+ * @param {HTMLElement} element
+ * @param {Ground} ground
+ * @param {string} gradient
+ */
+async function paintPicture(element, ground, gradient) {
   const [position, size, repeat] = POSITIONS.get(ground.position.toLowerCase()) ?? STRETCHED;
   const { width, height } = ground.size;
   const own = width > 0 && height > 0 ? width + 'px ' + height + 'px' : 'auto';
-  element.style.background = 'url("' + fileAddress(ground.file) + '") '
+  element.style.background = 'url("' + await fileAddress(ground.file) + '") '
     + position + ' / ' + (size === 'own' ? own : size) + ' ' + repeat + ', ' + gradient;
   element.dataset.picture = 'yes';
 }

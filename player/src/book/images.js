@@ -71,8 +71,10 @@ export class PageImages {
     entry.image.alt = say('page', page);
     entry.image.draggable = false;
     entry.image.decoding = 'async';
-    entry.image.src = fileAddress(this.pages[page - 1].path);
     try {
+      const address = await fileAddress(this.pages[page - 1].path);
+      if (this.kept.get(page) !== entry) return;
+      entry.image.src = address;
       await entry.image.decode();
       entry.state = 'ready';
       // It is decoded already, so it may be painted in the very frame in which it is inserted.

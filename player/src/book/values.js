@@ -52,11 +52,20 @@ export function ownFile(text) {
 }
 
 /**
- * URL of a file of the configuration.
+ * URL of a file of the configuration; in a single-file book it may still be on its way.
  * @param {string} path relative to the book's files folder; an empty one has no address
+ * @returns {string | Promise<string>}
  */
 export function fileAddress(path) {
   // A single-file book has its images and sounds in its page, others share some files.
   return path && (window.folveroFile?.(path)
     ?? 'files/' + path.split('/').map(encodeURIComponent).join('/'));
+}
+
+/**
+ * @param {{src: string}} element
+ * @param {string} path
+ */
+export async function loadFile(element, path) {
+  element.src = await fileAddress(path);
 }

@@ -24,9 +24,9 @@ export class Sounds {
     });
   }
 
-  playTurn() {
+  async playTurn() {
     if (!this.on || !this.allowed) return;
-    this.turnSound ??= new Audio(fileAddress(TURN_SOUND));
+    this.turnSound ??= new Audio(await fileAddress(TURN_SOUND));
     this.turnSound.currentTime = 0;
     this.turnSound.volume = 0.7;
     quietly(this.turnSound.play());
@@ -45,10 +45,12 @@ export class Sounds {
     this.#playMusic();
   }
 
-  #playMusic() {
+  async #playMusic() {
     if (!this.background.file || !this.on || !this.allowed || this.timesLeft === 0) return;
+    const address = await fileAddress(this.background.file);
+    if (!this.on) return;
     if (!this.music) {
-      this.music = new Audio(fileAddress(this.background.file));
+      this.music = new Audio(address);
       // Looped by the browser, a sound repeats without a gap.
       this.music.loop = this.background.loops < 0;
       this.music.addEventListener('ended', () => {

@@ -1,5 +1,5 @@
 import { make, part } from '../book/dom.js';
-import { fileAddress } from '../book/values.js';
+import { loadFile } from '../book/values.js';
 import { say } from '../book/words.js';
 
 /** @typedef {import('../book/config.js').PageEntry} PageEntry */
@@ -73,7 +73,7 @@ export class Sheets {
   #picture(page) {
     const image = new Image();
     image.alt = say('page', page);
-    image.src = fileAddress(this.pages[page - 1].path);
+    loadFile(image, this.pages[page - 1].path);
     return image;
   }
 }

@@ -1,5 +1,5 @@
 import { fitted } from '../book/face.js';
-import { fileAddress } from '../book/values.js';
+import { loadFile } from '../book/values.js';
 
 /** @typedef {import('../book/config.js').PageEntry} PageEntry */
 
@@ -53,8 +53,8 @@ export class Thumbnails {
   async #draw(path) {
     const image = new Image();
     this.imagesKept = 1;
-    image.src = fileAddress(path);
     try {
+      await loadFile(image, path);
       await image.decode();
       return this.#shrink(image);
     } catch {
