@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
-pages, reading.js for the reading view, single.js for single-file books, course.js for courses, and what books that
-readers can keep have beside these: offline.js and the service worker, sw.js.
+pages, reading.js for the reading view, contents.js for the tree of contents, single.js for single-file books, course.js
+for courses, and what books that readers can keep have beside these: offline.js and the service worker, sw.js.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
-The first five may be put into a page, which passes through a text template: they hold neither its
+All but the last two may be put into a page, which passes through a text template: they hold neither its
 placeholders nor anything that ends the element around them.
 """
 
@@ -31,6 +31,7 @@ def main():
     parts = {name: bundled(esbuild, player / "web" / first, (define, texts.table(player, section)))
              for name, (first, define, section) in scripts.items()}
     parts["course.js"] = bundled(esbuild, player / "web/coursepart.js")
+    parts["contents.js"] = bundled(esbuild, player / "web/contentspart.js")
     parts["vectors.js"] = bundled(esbuild, player / "web/vectorspart.js")
     parts["single.js"] = bundled(esbuild, player / "web/singlepart.js")
     parts["reading.js"] = bundled(esbuild, player / "web/readingpart.js", ("READING_TEXTS", texts.table(player, "reading")),

@@ -1,11 +1,11 @@
 import { make } from '../src/book/dom.js';
 import { fullLabel, labelOf } from '../src/book/labels.js';
-import { itemOfPage } from './branches.js';
 import { Facts } from './facts.js';
 import { SidePanel } from './side.js';
-import { Tree } from './tree.js';
 
 /** @typedef {import('./branches.js').Item} Item */
+/** @typedef {import('./facts.js').Entry} Entry */
+/** @typedef {import('./tree.js').Tree} Tree */
 
 /** Contents of so few entries are shown whole. */
 const SHORT = 24;
@@ -27,25 +27,32 @@ export class Contents {
     this.panel = new SidePanel(room, 'contents', button);
     /** @type {Item | null} what the reader has chosen, while its page is in view */
     this.chosen = null;
-    /** @type {Tree | null} none until the outline is loaded */
-    this.tree = layers.facts.outline.length > 0 ? this.#makeTree(layers.facts.outline) : null;
+    /** @type {Tree | null} none until it is first shown */
+    this.tree = null;
     /** @type {Promise<void> | null} */
     this.loading = null;
     this.#addTextPage(layers.facts.textPage, player.say('textPage'));
     this.panel.onShow = () => this.#show();
     layers.followers.push(() => this.#follow());
-    player.seeking.onUse = () => {
-      if (!this.tree) this.#show();
-    };
+    const { outline } = layers.facts;
+    if (outline.length > 0) player.seeking.setChapters(outline);
+    else {
+      player.seeking.onUse = () => {
+        if (!this.tree) this.#show();
+      };
+    }
   }
 
-  /** @param {import('./facts.js').Entry[]} outline */
-  #makeTree(outline) {
+  /**
+   * @param {typeof import('./tree.js').Tree} Made
+   * @param {Entry[]} outline
+   */
+  #makeTree(Made, outline) {
     const { config, say } = this.player;
     const list = make('ul', 'tree');
     list.setAttribute('aria-labelledby', 'contents-title');
     this.player.seeking.setChapters(outline);
-    const tree = new Tree(list, outline, ({ position }) => (position ? labelOf(config, position) : ''),
+    const tree = new Made(list, outline, ({ position }) => (position ? labelOf(config, position) : ''),
       (position) => say('page', fullLabel(config, position)), (item) => {
         this.layers.show(item.entry.position, item.entry.title);
         this.chosen = item;
@@ -71,7 +78,7 @@ export class Contents {
     this.tree?.reveal(this.tree.current);
   }
 
-  /** Loads the outline: a long book's is too long for the page. */
+  /** Loads the tree, and the outline of a long book, which is too long for the page. */
   async #load() {
     const { say, config } = this.player;
     const again = make('button', 'plain-button', say('tryAgain'));
@@ -81,7 +88,10 @@ export class Contents {
     status.setAttribute('role', 'status');
     this.panel.body.replaceChildren(status);
     try {
-      this.tree = this.#makeTree(new Facts(await this.files.load('web/book'), config.pages.length).outline);
+      const { outline } = this.layers.facts;
+      const part = /** @type {{Tree: typeof import('./tree.js').Tree}} */ (await this.files.run('contents'));
+      this.tree = this.#makeTree(part.Tree, outline.length > 0 ? outline
+        : new Facts(await this.files.load('web/book'), config.pages.length).outline);
       this.#reveal();
       // A panel that opened by itself leaves the keys to the book.
       if (this.panel.dialog.contains(document.activeElement)) this.tree.focus();
@@ -108,6 +118,6 @@ export class Contents {
     if (!this.tree) return;
     const pages = this.layers.inView;
     if (this.chosen && !pages.includes(this.chosen.entry.position)) this.chosen = null;
-    this.tree.mark(this.chosen ?? itemOfPage(this.tree.all, pages[pages.length - 1]));
+    this.tree.mark(this.chosen ?? this.tree.ofPage(pages[pages.length - 1]));
   }
 }

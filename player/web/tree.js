@@ -1,5 +1,5 @@
 import { make } from '../src/book/dom.js';
-import { above, flat, itemOf, nextTyped, seenFor } from './branches.js';
+import { above, flat, itemOf, itemOfPage, nextTyped, seenFor } from './branches.js';
 import { icon } from './icons.js';
 
 /** @typedef {import('./facts.js').Entry} Entry */
@@ -44,6 +44,14 @@ export class Tree {
   /** All entries in their order, opened or not. */
   get all() {
     return flat(this.items, () => true);
+  }
+
+  /**
+   * The entry to which a page belongs, null when it comes before all of them.
+   * @param {number} page
+   */
+  ofPage(page) {
+    return itemOfPage(this.all, page);
   }
 
   /** The visible entries. */

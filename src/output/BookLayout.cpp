@@ -58,8 +58,12 @@ QStringList BookLayout::webFilesOfPage(int number) {
 }
 
 QStringList BookLayout::webFiles() {
-    return filesOfHTMLPage() + QStringList{searchText,    vectorScript, readingScript,
-                                           offlineScript, shareImage,   metadata};
+    return filesOfHTMLPage() + laterScripts() +
+           QStringList{searchText, offlineScript, shareImage, metadata};
+}
+
+QStringList BookLayout::laterScripts() {
+    return {vectorScript, readingScript, contentsScript};
 }
 
 QStringList BookLayout::filesOfHTMLPage() {

@@ -37,6 +37,7 @@ public:
     static inline const QString vectorScript = QStringLiteral("files/vectors.js");
     static inline const QString readingScript = QStringLiteral("files/reading.js");
     static inline const QString singleScript = QStringLiteral("files/single.js");
+    static inline const QString contentsScript = QStringLiteral("files/contents.js");
     static inline const QString webStyle = QStringLiteral("files/web.css");
     static inline const QString metadata = QStringLiteral("files/web/book.js");
     static inline const QString searchText = QStringLiteral("files/search/text.js");
@@ -71,6 +72,8 @@ public:
     // The files of a web book that belong to no page; the last is the one by which it is
     // recognised.
     static QStringList webFiles();
+    // Scripts of the player of every web book that are loaded when they are first used.
+    static QStringList laterScripts();
     // Scripts and styles that the HTML page of a web book loads.
     static QStringList filesOfHTMLPage();
     // Those that let readers save it.

@@ -47,7 +47,7 @@ Kind kindOf(const QString& path, const QString& page) {
         return Kind::none;
     if (BookLayout::isIn(BookLayout::largePages, path) ||
         BookLayout::isIn(BookLayout::reading, path) || path == BookLayout::textPage ||
-        path == BookLayout::vectorScript || path == BookLayout::readingScript)
+        BookLayout::laterScripts().contains(path))
         return Kind::last;
     if (BookLayout::isIn(BookLayout::pages, path))
         return Kind::picture;

@@ -102,8 +102,8 @@ SharedPlayer::SharedPlayer(const QString& folder, const QString& bookFolder,
 void SharedPlayer::addFiles(const QString& bookFolder, const FlashTemplate& flashTemplate) {
     const BookLayout book(bookFolder);
     for (const QString& path :
-         {BookLayout::webScript, BookLayout::webStyle, BookLayout::vectorScript,
-          BookLayout::readingScript, BookLayout::offlineScript})
+         QStringList{BookLayout::webScript, BookLayout::webStyle, BookLayout::offlineScript} +
+             BookLayout::laterScripts())
         iFiles.push_back({BookLayout::inFiles(path), path,
                           PublishTransaction::contents(PlayerFile::installed(book, path))});
     iFiles.push_back(

@@ -318,7 +318,7 @@ SingleFilePage::Files orderedFiles(const BookLayout& layout, const PublishTransa
             takeAll(BookLayout::settingsFiles);
         if (i + 1 != std::min(firstPages, book.pages.size()))
             continue;
-        for (const QString& script : {BookLayout::vectorScript, BookLayout::readingScript})
+        for (const QString& script : BookLayout::laterScripts())
             files.emplace_back(script, PlayerFile::installed(layout, script));
         takeAll(BookLayout::webData);
     }
@@ -387,8 +387,8 @@ void WebBookSteps::copyPlayer(PublishTarget& to, const WebBook& book) {
         }
         return;
     }
-    QStringList paths{BookLayout::webScript, BookLayout::vectorScript, BookLayout::readingScript,
-                      BookLayout::webStyle};
+    QStringList paths =
+        QStringList{BookLayout::webScript, BookLayout::webStyle} + BookLayout::laterScripts();
     if (book.isCourse)
         paths << BookLayout::courseScript;
     for (const QString& path : paths)
