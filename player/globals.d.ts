@@ -5,8 +5,10 @@ declare const PAGE_TEXTS: string;
 declare const WEB_TEXTS: string;
 declare const OFFLINE_TEXTS: string;
 declare const READING_TEXTS: string;
-/** Style sheet of the reading view. */
+declare const NOTES_TEXTS: string;
+/** Style sheets of the reading view and of notes. */
 declare const READING_STYLE: string;
+declare const NOTES_STYLE: string;
 
 interface Window {
   /** What the page has of the configuration; nothing where the player is to request it. */

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
-pages, reading.js for the reading view, contents.js for the tree of contents, single.js for single-file books, course.js
-for courses, and what books that readers can keep have beside these: offline.js and the service worker, sw.js.
+pages, reading.js for the reading view, notes.js for the reader's notes, contents.js for the tree of contents, single.js
+for single-file books, course.js for courses, and what books that readers can keep have beside these: offline.js and the
+service worker, sw.js.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
@@ -15,7 +16,6 @@ import sys
 import texts
 from bundle import bundled, joined_style
 
-READING = "reading.css"
 STYLES = ["layers.css", "side.css", "contents.css", "search.css", "keeping.css", "looks.css"]
 
 
@@ -34,8 +34,10 @@ def main():
     parts["contents.js"] = bundled(esbuild, player / "web/contentspart.js")
     parts["vectors.js"] = bundled(esbuild, player / "web/vectorspart.js")
     parts["single.js"] = bundled(esbuild, player / "web/singlepart.js")
-    parts["reading.js"] = bundled(esbuild, player / "web/readingpart.js", ("READING_TEXTS", texts.table(player, "reading")),
-                                  ("READING_STYLE", joined_style(esbuild, [player / "web" / READING])))
+    for name in ["reading", "notes"]:
+        style = joined_style(esbuild, [player / f"web/{name}.css"])
+        parts[f"{name}.js"] = bundled(esbuild, player / f"web/{name}part.js", (f"{name.upper()}_TEXTS", texts.table(player, name)),
+                                      (f"{name.upper()}_STYLE", style))
     parts["web.css"] = joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])
     output.mkdir(parents=True, exist_ok=True)
     for name, text in parts.items():

@@ -1,6 +1,6 @@
 import { make } from '../src/book/dom.js';
 import { fold, sourceOf } from './foldtext.js';
-import { Layers } from './layers.js';
+import { putOver } from './layers.js';
 
 /** @typedef {import('./layers.js').Face} Face */
 /** @typedef {import('./searchtext.js').Hit} Hit */
@@ -12,12 +12,10 @@ const COVERED = 72;
 export class Hits {
   /**
    * @param {import('../src/player.js').Player} player
-   * @param {Layers} layers
+   * @param {import('./layers.js').Layers} layers
    */
-  constructor({ zoom, root, book }, layers) {
-    this.zoom = zoom;
-    this.root = root;
-    this.book = book;
+  constructor(player, layers) {
+    this.player = player;
     this.layers = layers;
     layers.fillers.push((face) => this.#mark(face));
   }
@@ -47,26 +45,28 @@ export class Hits {
       for (const { box: place, turn } of text.boxesOf(...sourceOf(source, folded, at, length))) {
         const mark = make('i', isCurrent ? 'hit current' : 'hit');
         if (turn === 90 || turn === 270) mark.classList.add('upright');
-        Layers.put(mark, text, place);
+        putOver(mark, text, place);
         layer.append(mark);
       }
     });
     // Below the words, which are what the pointer is to reach.
     box.prepend(layer);
-    if (current?.position === position) this.#bringIntoView(layer.querySelector('.current'));
+    if (current?.position === position) bringIntoView(layer.querySelector('.current'), this.player);
   }
 
-  /**
-   * Moves pages that go beyond the window so that the hit can be seen.
-   * @param {Element | null} mark
-   */
-  #bringIntoView(mark) {
-    if (!mark || !this.zoom.pans) return;
-    const { left, right, top, bottom } = mark.getBoundingClientRect();
-    const { clientWidth, clientHeight } = this.root;
-    const { beside } = this.book;
-    const seen = left >= beside && right <= clientWidth && top >= COVERED && bottom <= clientHeight - COVERED;
-    if (seen) return;
-    this.zoom.panBy((beside + clientWidth) / 2 - (left + right) / 2, clientHeight / 2 - (top + bottom) / 2);
-  }
+}
+
+/**
+ * Moves pages that go beyond the window so that a mark on them can be seen.
+ * @param {Element | null} mark
+ * @param {Pick<import('../src/player.js').Player, 'zoom' | 'root' | 'book'>} player
+ */
+export function bringIntoView(mark, { zoom, root, book }) {
+  if (!mark || !zoom.pans) return;
+  const { left, right, top, bottom } = mark.getBoundingClientRect();
+  const { clientWidth, clientHeight } = root;
+  const { beside } = book;
+  const seen = left >= beside && right <= clientWidth && top >= COVERED && bottom <= clientHeight - COVERED;
+  if (seen) return;
+  zoom.panBy((beside + clientWidth) / 2 - (left + right) / 2, clientHeight / 2 - (top + bottom) / 2);
 }

@@ -41,6 +41,8 @@ export class Layers {
     /** @type {Marked} what a search has found */
     this.marked = { query: null, current: null };
     this.onMarked = () => {};
+    /** Called when the reading view has other parts of the text. */
+    this.onRead = () => {};
     const sides = /** @type {Side[]} */ (config.rightToLeft ? ['right', 'left'] : ['left', 'right']);
     /** @type {Face[]} in reading order */
     this.faces = sides.map((side) => {
@@ -124,17 +126,17 @@ export class Layers {
       + 'px;height:' + place.height + 'px;--across:' + place.width / (text?.width ?? 1)
       + ';--down:' + place.height / (text?.height ?? 1);
   }
+}
 
-  /**
-   * Places something over the part of a page that a box names.
-   * @param {HTMLElement} element
-   * @param {PageText} text
-   * @param {import('./pagetext.js').Box} box
-   */
-  static put(element, text, box) {
-    element.style.left = (100 * box.x) / text.width + '%';
-    element.style.top = (100 * box.y) / text.height + '%';
-    element.style.width = (100 * box.width) / text.width + '%';
-    element.style.height = (100 * box.height) / text.height + '%';
-  }
+/**
+ * Places something over the part of a page that a box names.
+ * @param {HTMLElement} element
+ * @param {PageText} text
+ * @param {import('./pagetext.js').Box} box
+ */
+export function putOver(element, text, box) {
+  element.style.left = (100 * box.x) / text.width + '%';
+  element.style.top = (100 * box.y) / text.height + '%';
+  element.style.width = (100 * box.width) / text.width + '%';
+  element.style.height = (100 * box.height) / text.height + '%';
 }

@@ -2,7 +2,7 @@ import { mayFollow } from '../src/book/addresses.js';
 import { make } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
 import { report } from './events.js';
-import { Layers } from './layers.js';
+import { putOver } from './layers.js';
 import { distance } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */
@@ -53,7 +53,7 @@ export class Links {
     const layer = make('div', 'link-layer');
     for (const link of text.links) {
       const element = this.#element(link, text.wordsIn(link.box).slice(0, LONGEST_NAME));
-      Layers.put(element, text, link.box);
+      putOver(element, text, link.box);
       layer.append(element);
     }
     box.append(layer);

@@ -1,4 +1,5 @@
 import { make, part } from '../src/book/dom.js';
+import { recall } from '../src/book/storage.js';
 import { Memory } from '../src/controls/memory.js';
 import { closePages } from './closed.js';
 import { Contents } from './contents.js';
@@ -39,7 +40,7 @@ asked.catch(() => {});
 
 /**
  * Makes a button for the bar.
- * @param {'contents' | 'search' | 'keep' | 'reading'} name
+ * @param {'contents' | 'search' | 'keep' | 'reading' | 'bookmark' | 'notes'} name
  * @param {string} key
  * @param {string} fold position in the order in which buttons move from the bar to its menu
  * @param {import('../src/player.js').Say} say
@@ -86,12 +87,40 @@ function once(act) {
 }
 
 /**
+ * Calls something once the first pages are shown, which nothing may delay.
+ * @param {HTMLElement} root
+ * @param {() => void} act
+ */
+function whenShown(root, act) {
+  const observer = new MutationObserver(() => {
+    if (root.dataset.state !== 'ready') return;
+    observer.disconnect();
+    act();
+  });
+  observer.observe(root, { attributes: true, attributeFilter: ['data-state'] });
+}
+
+/**
+ * A command that needs a script of its own; where that can't be loaded, the reader may try again.
+ * @template T
+ * @param {import('../src/player.js').Player} player
+ * @param {() => Promise<T>} load
+ * @param {(part: T) => void} act
+ */
+function later({ toast, say }, load, act) {
+  const run = () => {
+    load().then(act, () => toast.show(say('unreachableText'), say('tryAgain'), run));
+  };
+  return run;
+}
+
+/**
  * Adds reading offline, by a script of its own that is loaded after the first pages.
  * @param {import('../src/player.js').Player} player
  * @param {Layers} layers
  */
 function addKeeping(player, layers) {
-  const { root, commands, toolbar, say, toast } = player;
+  const { root, commands, toolbar, say } = player;
   const button = barButton('keep', 'K', '2.5', say);
   button.setAttribute('aria-haspopup', 'dialog');
   /** @type {MessageEvent[]} */
@@ -107,19 +136,13 @@ function addKeeping(player, layers) {
     return keeping;
   };
   const load = once(begin);
-  // None of this may delay the first pages.
-  const observer = new MutationObserver(() => {
-    if (root.dataset.state !== 'ready') return;
-    observer.disconnect();
-    load();
-  });
-  observer.observe(root, { attributes: true, attributeFilter: ['data-state'] });
+  whenShown(root, load);
   // In a frame: offline, the page around it is missing anyway.
   if (window.parent !== window) return;
-  commands.keep = () => load().then((keeping) => {
+  commands.keep = later(player, load, (keeping) => {
     // On a slow connection the reader may have opened another dialog meanwhile.
     if (!root.querySelector('dialog.panel[open]')) keeping.open();
-  }, () => toast.show(say('unreachableText'), say('tryAgain'), () => commands.keep?.()));
+  });
   toolbar.add(button, 'print');
 }
 
@@ -130,24 +153,46 @@ function addKeeping(player, layers) {
  * @param {SideRoom} room
  */
 function addReading(player, layers, room) {
-  const { commands, toolbar, say, toast } = player;
+  const { commands, toolbar, say } = player;
   const button = barButton('reading', 'A', '7.5', say);
   toolbar.add(button, 'thumbs');
-  /** @type {Promise<import('./readingview.js').ReadingView> | null} */
-  let made = null;
-  const load = () => {
-    made ??= files.run('reading').then((make) =>
-      /** @type {typeof import('./readingpart.js').makeReading} */ (make)(player, layers, files, room, button));
-    // The next call tries again.
-    made.catch(() => { made = null; });
-    return made;
-  };
-  commands.reading = () => load().then((view) => view.toggle(),
-    () => toast.show(say('unreachableText'), say('tryAgain'), () => commands.reading?.()));
+  const load = once(() => files.run('reading').then((make) =>
+    /** @type {typeof import('./readingpart.js').makeReading} */ (make)(player, layers, files, room, button)));
+  commands.reading = later(player, load, (view) => view.toggle());
   layers.fillers.push(({ text, box }) => {
     if (!text || text.lines.length < FEWEST_LINES || text.lineHeight * box.clientHeight >= SMALL * text.height) return;
     load().then((view) => view.offer(), () => {});
   });
+}
+
+/**
+ * Adds bookmarks, highlights and notes, a script of its own that is loaded when it is first used, or where the reader
+ * has some.
+ * @param {import('../src/player.js').Player} player
+ * @param {Layers} layers
+ * @param {SideRoom} room
+ * @returns {() => void} marks what the address quotes
+ */
+function addNotes(player, layers, room) {
+  const { root, commands, toolbar, say } = player;
+  const buttons = { bookmark: barButton('bookmark', 'B', '5.5', say), notes: barButton('notes', 'M', '6.2', say) };
+  buttons.bookmark.setAttribute('aria-pressed', 'false');
+  Object.values(buttons).forEach((button) => toolbar.add(button, 'thumbs'));
+  const load = once(() => files.run('notes').then((make) =>
+    /** @type {typeof import('./notespart.js').makeNotes} */ (make)(player, layers, files, room, buttons)));
+  commands.bookmark = later(player, load, (notes) => notes.toggleBookmark());
+  commands.notes = later(player, load, (notes) => notes.list.panel.toggle());
+  commands.mark = later(player, load, (notes) => notes.markByKey());
+  // A key without a button, for the keys and their list.
+  const key = make('span', '');
+  Object.assign(key.dataset, { does: 'mark', name: 'mark', key: 'H' });
+  key.style.display = 'none';
+  toolbar.bar.append(key);
+  document.addEventListener('selectionchange', () => {
+    if (getSelection()?.anchorNode?.parentElement?.closest('.word, .read-text')) load().catch(() => {});
+  });
+  if (recall('notes')) whenShown(root, load);
+  return later(player, load, (notes) => notes.showQuote());
 }
 
 /**
@@ -172,14 +217,25 @@ function addToBook(player, facts) {
     commands.contents = () => contents.panel.toggle();
     toolbar.add(button, 'thumbs');
   }
+  /** @type {(typed: string) => void} */
+  let mark = () => {};
   if (facts.hasText) {
     const button = barButton('search', '/', '7.6', say);
     const searching = new Searching(player, layers, files, room, button);
     commands.search = () => searching.panel.toggle();
     toolbar.add(button, 'thumbs');
-    if (player.asked.search) searching.mark(player.asked.search);
+    mark = (typed) => searching.mark(typed);
   }
   if (facts.reading.length > 0) addReading(player, layers, room);
+  const showQuote = addNotes(player, layers, room);
+  const follow = () => {
+    const asked = new URLSearchParams(location.hash.slice(1));
+    const search = asked.get('search');
+    if (search) mark(search);
+    if (asked.get('quote')) showQuote();
+  };
+  window.addEventListener('hashchange', follow);
+  follow();
   if (facts.offline && !single && mayKeep()) addKeeping(player, layers);
   if (facts.textPage) addTextLink(root, facts.textPage, say('textPage'));
   if (facts.labels) toolbar.box.inputMode = 'text';

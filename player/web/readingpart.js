@@ -1,6 +1,6 @@
 // Entry point of files/reading.js, which only readers who want the text as text need.
 
-import { make } from '../src/book/dom.js';
+import { addStyle } from './addstyle.js';
 import { ReadingView } from './readingview.js';
 
 /**
@@ -12,20 +12,8 @@ import { ReadingView } from './readingview.js';
  */
 export function makeReading(player, layers, files, room, button) {
   player.learn(READING_TEXTS);
-  addStyle();
+  addStyle(READING_STYLE);
   return new ReadingView(player, layers, files, room, button);
-}
-
-/** A style sheet made by script needs no leave of a policy that forbids style elements. */
-function addStyle() {
-  try {
-    const sheet = new CSSStyleSheet();
-    sheet.replaceSync(READING_STYLE);
-    document.adoptedStyleSheets = [...document.adoptedStyleSheets, sheet];
-  } catch {
-    // Safari before 16.4
-    document.head.append(make('style', '', READING_STYLE));
-  }
 }
 
 window.folveroData?.('reading', makeReading);

@@ -25,7 +25,7 @@ const SPEAKER = 'M5 9.8v4.4h3l4 3.6V6.2L8 9.8zM15.2 9.2a4 4 0 0 1 0 5.6M17.8 6.8
 const PAUSE = 'M9 6.5v11M15 6.5v11';
 
 /** Commands whose keys work in the reading view as in the book. */
-const ALSO_HERE = ['contents', 'search', 'keep', 'full', 'share', 'print', 'help', 'sound'];
+const ALSO_HERE = ['contents', 'search', 'bookmark', 'notes', 'mark', 'keep', 'full', 'share', 'print', 'help', 'sound'];
 
 /** The text of the book as a page to scroll, in the reader's own letters. */
 export class ReadingView {
@@ -255,6 +255,7 @@ export class ReadingView {
   #filled() {
     this.#mark();
     this.#tell();
+    this.layers.onRead();
   }
 
   #mark() {
@@ -320,7 +321,7 @@ export class ReadingView {
   #key(event) {
     const { target, key } = event;
     if (!this.isOpen || event.ctrlKey || event.altKey || event.metaKey) return;
-    if (target instanceof Element && target.closest('dialog:not(.read), .search-strip')) return;
+    if (target instanceof Element && target.closest('dialog:not(.read), .search-strip, .note-bar')) return;
     if (key === 'Tab' && target === this.scroller && !event.shiftKey && this.flow.focusNext()) event.preventDefault();
     /** @type {Partial<Record<string, () => unknown>>} */
     const actions = {

@@ -241,19 +241,19 @@ function caretAt(face, clientX, clientY) {
  * The selected parts of words, in reading order.
  * @param {Selection} selection
  * @param {Layers} layers
- * @returns {{line: Element | null, part: string}[]}
+ * @returns {{face: Face, word: Element, line: Element | null, part: string, from: number, to: number}[]}
  */
-function wordsIn(selection, layers) {
+export function wordsIn(selection, layers) {
   const range = selection.getRangeAt(0);
   const marked = [];
-  for (const { over } of layers.faces) {
-    if (over.hidden || !range.intersectsNode(over)) continue;
-    for (const word of over.querySelectorAll('.word')) {
+  for (const face of layers.faces) {
+    if (face.over.hidden || !range.intersectsNode(face.over)) continue;
+    for (const word of face.over.querySelectorAll('.word')) {
       const node = /** @type {Text} */ (word.firstChild);
       if (!range.intersectsNode(node)) continue;
       const from = node === range.startContainer ? range.startOffset : 0;
       const to = node === range.endContainer ? range.endOffset : node.length;
-      if (to > from) marked.push({ line: word.parentElement, part: node.data.slice(from, to) });
+      if (to > from) marked.push({ face, word, line: word.parentElement, part: node.data.slice(from, to), from, to });
     }
   }
   return marked;

@@ -91,7 +91,7 @@ export class SideRoom {
 export class SidePanel {
   /**
    * @param {SideRoom} room
-   * @param {'contents' | 'search'} name of the panel and of the command that opens it
+   * @param {'contents' | 'search' | 'notes'} name of the panel and of the command that opens it
    * @param {HTMLElement} button in the bar
    */
   constructor(room, name, button) {

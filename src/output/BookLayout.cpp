@@ -63,7 +63,7 @@ QStringList BookLayout::webFiles() {
 }
 
 QStringList BookLayout::laterScripts() {
-    return {vectorScript, readingScript, contentsScript};
+    return {vectorScript, readingScript, notesScript, contentsScript};
 }
 
 QStringList BookLayout::filesOfHTMLPage() {

@@ -11,7 +11,8 @@ import globals from 'globals';
 const kind = (files, sourceType, names) => ({ files, languageOptions: { sourceType, globals: names } });
 
 /** The build puts them in. */
-const TEXTS = { PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READING_TEXTS: false, READING_STYLE: false };
+const TEXTS = { PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READING_TEXTS: false, READING_STYLE: false,
+  NOTES_TEXTS: false, NOTES_STYLE: false };
 
 export default [
   js.configs.recommended,

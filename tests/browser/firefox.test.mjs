@@ -86,6 +86,10 @@ for (const [name, [options, addressOf]] of Object.entries(kinds)) {
     });
     await book.drag(from, to);
     assert.match(await copied(page), /The hand lifts the corner, /);
+    await (await page.waitForSelector('.note-bar [data-colour="green"]', { visible: true })).click();
+    await page.waitForSelector('.note-mark');
+    await press('Escape', 'b');
+    await page.waitForSelector('.note-ribbon');
     await book.waitForPages(4, 5);
     await page.mouse.click(640, 20);
     await press('+', '+', '+', '+');

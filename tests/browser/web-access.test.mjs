@@ -35,12 +35,30 @@ async function strip(book) {
   await step(book);
   await book.page.waitForSelector('.search-strip:not([hidden])');
 }
+async function highlight(book) {
+  await book.page.keyboard.press('h');
+  await book.page.waitForFunction(() => !getSelection().isCollapsed);
+  await book.page.keyboard.press('Enter');
+  await book.page.waitForSelector('.note-bar [aria-pressed="true"]');
+}
+async function notes(book) {
+  await book.page.keyboard.press('b');
+  await book.page.keyboard.press('m');
+  await book.page.waitForSelector('.note-entry [aria-label="Note"]');
+}
+async function note(book) {
+  await notes(book);
+  await book.page.locator('.note-entry [aria-label="Note"]').last().click();
+  await book.page.waitForSelector('.note-panel[open]');
+}
 const key = (name) => (book) => book.page.keyboard.press(name);
 const states = {
   'a desk': [DESK, '#page=4',
-    { 'a spread': () => {}, 'the contents': contents, 'the search': step, 'pages left out': key('End') }],
+    { 'a spread': () => {}, 'the contents': contents, 'the search': step,
+      'a highlight': highlight, 'the notes': notes, 'a note': note, 'pages left out': key('End') }],
   'a phone': [PHONE, '',
-    { 'the strip of the search': strip, 'a page': key('ArrowRight'), 'the contents': contents, 'the search': search }],
+    { 'the strip of the search': strip, 'a page': key('ArrowRight'), 'the contents': contents, 'the search': search,
+      'a highlight': highlight, 'the notes': notes, 'a note': note }],
 };
 for (const [name, [view, hash, shown]] of Object.entries(states)) {
   test(`nothing keeps readers with other senses or hands out of a web book, on ${name}`, async () => {

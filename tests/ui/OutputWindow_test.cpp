@@ -55,8 +55,8 @@ protected:
     }
     OutputWindow& window() { return sheet->window(); }
     void openForWebBook() {
-        for (const char* part : {"web.js", "web.css", "vectors.js", "reading.js", "contents.js",
-                                 "single.js", "offline.js", "sw.js"})
+        for (const char* part : {"web.js", "web.css", "vectors.js", "reading.js", "notes.js",
+                                 "contents.js", "single.js", "offline.js", "sw.js"})
             book.library.addFile(QString("AppFiles/Web/") + part, part);
         open();
         window().mOutputType->button(OutputWindow::webBook)->click();

@@ -18,15 +18,18 @@ export function recall(name, of = location.pathname) {
 }
 
 /**
- * Stores something for this book, where the browser allows it.
+ * Stores something for this book, where the browser allows it. Private windows and strict settings forbid it; then it
+ * lasts as long as the page.
  * @param {string} name
  * @param {string} value
  * @param {string} [of] what else it is stored for
+ * @returns {boolean} whether it is stored
  */
 export function keep(name, value, of = location.pathname) {
   try {
     localStorage.setItem(keyOf(name, of), value);
+    return true;
   } catch {
-    // Private windows and strict settings forbid it; then it lasts as long as the page.
+    return false;
   }
 }

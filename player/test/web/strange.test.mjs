@@ -6,6 +6,7 @@ import { fileAddress } from '../../src/book/values.js';
 import { Views } from '../../src/book/views.js';
 import { pageInAddress } from '../../src/controls/place.js';
 import { Facts } from '../../web/facts.js';
+import { fileOf, notesOfFile } from '../../web/noteexchange.js';
 import { chunksOf, partsOf } from '../../web/readingblocks.js';
 import { PageText } from '../../web/pagetext.js';
 import { SearchText } from '../../web/searchtext.js';
@@ -24,12 +25,21 @@ const LIST = { settings: 'AQID', sizes: [600, 800, 85, 113], numbers: [3, 2], ru
   kinds: [['page/#.png', 'thumb/#.jpg', 'js']], facts: FACTS };
 const TEXT = { size: [600, 800], lines: [[1, 2, 90, 20, 0, 1, ['ab ', 0, 40, 'c', 50, 9]]], links: [[1, 2, 3, 4, 'tel:1']] };
 const BLOCKS = [{ kind: 'h1', page: 1, text: [['a', 1], 2, ['b', 4, 'tel:1']] }, { kind: 'row', page: 2, rtl: 1, text: ['c\td'] }];
+const NOTE = { id: 'a', kind: 'highlight', page: 2, quote: 'ab', before: '', after: 'c', at: 0, colour: 'blue', note: 'n', made: 1,
+  changed: 2 };
 
 test('the player reads whatever a book of strangers holds', async () => {
   const chance = new Chance(1);
   const list = chance.changed.bind(chance, LIST);
   globalThis.document = { querySelector: () => ({ textContent: JSON.stringify(list()) }) };
   for (let round = 0; round < ROUNDS; round++) {
+    try {
+      const { book, notes } = notesOfFile(JSON.stringify(chance.changed(JSON.parse(fileOf([NOTE], { title: 'T' }, new Date(0))))));
+      notes.forEach((note) => Object.entries(NOTE).forEach(([name, own]) => assert.equal(typeof note[name], typeof own)));
+      assert.equal(typeof book.title, 'string');
+    } catch (error) {
+      assert.match(error.message, /^import/);
+    }
     for (const data of [StartList.find()?.facts, chance.changed(FACTS)]) {
       const facts = new Facts(data, 2);
       partsOf(facts.reading, 2).forEach((part) => {
