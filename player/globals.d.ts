@@ -22,6 +22,8 @@ interface Window {
   };
   /** Base64 of the enciphered configuration, once its script has run. */
   FolveroUserConfig?: string;
+  /** Texts of further languages by section, in the form that learn() takes. */
+  folveroTexts?: Record<string, string>;
   /** Other scripts leave here what they add to the book before the player's own runs. */
   folveroExtensions?: import('./src/player.js').Extension[];
   /** Address of a file of the book that is not beside the page. */

@@ -4,6 +4,13 @@ import json
 import re
 import sys
 
+# The texts of these are in the scripts of every book, which each language makes a kilobyte larger. Those of all others
+# are in a file that only their readers load, with one more request.
+IN_SCRIPTS = ["en", "de", "es", "fr"]
+
+# Forms of a text with a number, as Intl.PluralRules names them; "other" is there always.
+FORMS = ["zero", "one", "two", "few", "many", "other"]
+
 
 def read(player):
     """Texts by section ("page": of every book, "web": of web books, "offline", "reading", "notes") and name, by language, English first."""
@@ -26,17 +33,36 @@ def parsed(file):
 def compared(texts, english, language):
     if not re.fullmatch("[a-z]{2,3}", language):
         yield f"{language}.json: named by its language's code of two or three small letters, such as pl.json"
-    own, wanted = flat(texts), flat(english)
+    own = flat(texts)
+    wanted = {name: text["other"] if isinstance(text, dict) else text for name, text in flat(english).items()}
     for name in sorted(wanted.keys() | own.keys()):
         text = own.get(name)
         if name not in wanted:
             yield f"{language}.json: {name} is not in en.json"
-        elif not isinstance(text, str) or not text:
-            yield f"{language}.json: {name} is missing"
-        elif placeholders(text) != placeholders(wanted[name]):
-            yield f"{language}.json: {name} must hold {placeholders(wanted[name]) or 'no placeholder'}, as in en.json"
-        elif re.search(r"[|\n]|\$\{|<", text):
-            yield f"{language}.json: {name} may not hold |, <, a line end or a dollar sign before a brace"
+        elif isinstance(text, dict):
+            yield from (f"{language}.json: {name}.{fault}" for fault in faults_of_forms(text, wanted[name]))
+        else:
+            yield from (f"{language}.json: {name} {fault}" for fault in faults_of_text(text, wanted[name]))
+
+
+def faults_of_forms(forms, wanted):
+    for form in sorted(forms.keys() | {"other"}):
+        if form not in FORMS or wanted.count("{0}") != 1:
+            yield f"{form} is none of the forms of a text with a number"
+            continue
+        # Arabic has its words for one and two of something.
+        without = form in ["zero", "one", "two"] and "{0}" not in str(forms[form])
+        yield from (f"{form} {fault}" for fault in
+                    faults_of_text(forms.get(form), wanted.replace("{0}", "") if without else wanted))
+
+
+def faults_of_text(text, wanted):
+    if not isinstance(text, str) or not text:
+        yield "is missing"
+    elif placeholders(text) != placeholders(wanted):
+        yield f"must hold {placeholders(wanted) or 'no placeholder'}, as in en.json"
+    elif re.search(r"[|\n\t]|\$\{|<", text):
+        yield "may not hold |, <, a tab, a line end or a dollar sign before a brace"
 
 
 def flat(texts):
@@ -49,8 +75,30 @@ def placeholders(text):
 
 
 def table(player, section):
-    """All languages' texts of a section, in the form that learn() in src/book/words.js takes."""
+    """
+    A section's texts in the form that learn() in src/book/words.js takes; languages whose texts are in a file of their
+    own have a line with their code only.
+    """
     languages = read(player)
+    rest = [code for code in languages if code not in IN_SCRIPTS]
+    return "\n".join([lines(languages, section, IN_SCRIPTS), *rest])
+
+
+def languages(player):
+    """The texts of all other languages, by section, each in the same form."""
+    languages = read(player)
+    rest = [code for code in languages if code not in IN_SCRIPTS]
+    return {section: lines(languages, section, rest) for section in languages["en"]}
+
+
+def lines(languages, section, codes):
     names = list(languages["en"][section])
-    rows = [["language", *names]] + [[code, *(own[section][name] for name in names)] for code, own in languages.items()]
-    return "\n".join("|".join(row) for row in rows)
+    rows = [[code, *(joined(languages[code][section][name]) for name in names)] for code in codes if code in languages]
+    return "\n".join("|".join(row) for row in [["language", *names], *rows])
+
+
+def joined(text):
+    """The form for other numbers, then each further form after a tab, its name before it."""
+    if isinstance(text, str):
+        return text
+    return "\t".join([text["other"], *(f"{form}:{text[form]}" for form in FORMS[:-1] if form in text)])

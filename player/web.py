@@ -2,14 +2,15 @@
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
 pages, reading.js for the reading view, notes.js for the reader's notes, contents.js for the tree of contents, single.js
 for single-file books, course.js for courses, and what books that readers can keep have beside these: offline.js and the
-service worker, sw.js.
+service worker, sw.js. All books have languages.js, texts of languages that the scripts do not have themselves.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
-All but the last two may be put into a page, which passes through a text template: they hold neither its
+All but sw.js may be put into a page, which passes through a text template: they hold neither its
 placeholders nor anything that ends the element around them.
 """
 
+import json
 import pathlib
 import sys
 
@@ -38,6 +39,7 @@ def main():
         style = joined_style(esbuild, [player / f"web/{name}.css"])
         parts[f"{name}.js"] = bundled(esbuild, player / f"web/{name}part.js", (f"{name.upper()}_TEXTS", texts.table(player, name)),
                                       (f"{name.upper()}_STYLE", style))
+    parts["languages.js"] = f"window.folveroTexts={json.dumps(texts.languages(player), ensure_ascii=False)};"
     parts["web.css"] = joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])
     output.mkdir(parents=True, exist_ok=True)
     for name, text in parts.items():

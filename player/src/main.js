@@ -4,7 +4,7 @@ import { loadConfiguration } from './book/config.js';
 import { part } from './book/dom.js';
 import { fullLabel, labelOf } from './book/labels.js';
 import { playEntrance } from './book/opening.js';
-import { learn, say, setTexts } from './book/words.js';
+import { learn, loadMore, say, setTexts } from './book/words.js';
 import { Turner } from './turning/turner.js';
 import { Gestures } from './controls/gestures.js';
 import { wireKeys } from './controls/keys.js';
@@ -215,8 +215,11 @@ function expose(book, turner, { drawer, sheets }) {
 }
 
 const root = /** @type {HTMLElement} */ (document.getElementById('folvero'));
-learn(PAGE_TEXTS);
-setTexts(root);
 part(root, '.book-title').textContent = document.title;
 root.dataset.begun = 'yes';
-openBook(root).catch((error) => showFailure(root, error));
+const table = PAGE_TEXTS; // once, since the build puts in the texts
+loadMore(table).then(() => {
+  learn(table, 'page');
+  setTexts(root);
+  return openBook(root);
+}).catch((error) => showFailure(root, error));

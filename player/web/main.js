@@ -304,7 +304,7 @@ window.folveroFile = address;
 window.folveroExtensions ??= [];
 window.folveroExtensions.push(async (beginning) => {
   const { config, say, learn } = beginning;
-  learn(WEB_TEXTS);
+  learn(WEB_TEXTS, 'web');
   start?.complete(config);
   const facts = await asked.then((raw) => new Facts(raw, config.pages.length)).catch(() => null);
   // Without them the book still works as a classic one.

@@ -11,7 +11,7 @@ import { Notes } from './notes.js';
  * @param {{bookmark: HTMLElement, notes: HTMLElement}} buttons in the bar
  */
 export function makeNotes(player, layers, files, room, buttons) {
-  player.learn(NOTES_TEXTS);
+  player.learn(NOTES_TEXTS, 'notes');
   addStyle(NOTES_STYLE);
   return new Notes(player, layers, files, room, buttons);
 }

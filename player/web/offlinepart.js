@@ -9,7 +9,7 @@ import { Offline } from './offline.js';
  * @param {HTMLElement} button in the bar
  */
 export function addKeeping(player, layers, button) {
-  player.learn(OFFLINE_TEXTS);
+  player.learn(OFFLINE_TEXTS, 'offline');
   return new Keeping(player, layers, new Offline(layers), button);
 }
 

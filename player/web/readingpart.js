@@ -11,7 +11,7 @@ import { ReadingView } from './readingview.js';
  * @param {HTMLElement} button in the bar
  */
 export function makeReading(player, layers, files, room, button) {
-  player.learn(READING_TEXTS);
+  player.learn(READING_TEXTS, 'reading');
   addStyle(READING_STYLE);
   return new ReadingView(player, layers, files, room, button);
 }

@@ -219,12 +219,13 @@ export class Searching {
   #tell() {
     const { hits, more, query } = /** @type {Answer} */ (this.answer);
     /** @param {number} value */
-    const written = (value) => value.toLocaleString(document.documentElement.lang);
-    const count = written(hits.length) + (more || !this.#complete ? '+' : '');
+    const written = (value) => value.toLocaleString(document.documentElement.lang + '-u-nu-latn');
+    const open = more || !this.#complete;
+    const count = written(hits.length) + (open ? '+' : '');
     let text = '';
     if (!query.empty && hits.length === 0) text = this.say(this.#complete ? 'noHits' : 'searchWait');
     else if (this.index >= 0) text = this.say('hitOf', written(this.index + 1), count);
-    else if (hits.length > 0) text = count === '1' ? this.say('hit') : this.say('hits', count);
+    else if (hits.length > 0) text = this.say('hits', count, open ? 100 : hits.length);
     this.status.textContent = text;
     this.count.textContent = text;
     for (const step of this.panel.dialog.querySelectorAll('.step-up, .step-down')) {

@@ -58,12 +58,14 @@ QStringList BookLayout::webFilesOfPage(int number) {
 }
 
 QStringList BookLayout::webFiles() {
-    return filesOfHTMLPage() + laterScripts() +
+    QStringList scripts = laterScripts();
+    scripts.removeOne(languageScript); // classic books have it, too
+    return filesOfHTMLPage() + scripts +
            QStringList{searchText, offlineScript, shareImage, metadata};
 }
 
 QStringList BookLayout::laterScripts() {
-    return {vectorScript, readingScript, notesScript, contentsScript};
+    return {vectorScript, readingScript, notesScript, contentsScript, languageScript};
 }
 
 QStringList BookLayout::filesOfHTMLPage() {

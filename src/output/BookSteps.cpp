@@ -5,6 +5,7 @@
 #include "output/BookName.h"
 #include "output/BookXML.h"
 #include "output/ExistingBook.h"
+#include "system/Bundle.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
 
@@ -250,6 +251,19 @@ PublishStep BookSteps::sound(const FlashTemplate* flashTemplate) {
     return {"sound", [=](PublishTarget& to) {
                 copyTemplateFile(to, flashTemplate, BookLayout::sound,
                                  &FlashTemplate::copyBookSoundFile);
+            }};
+}
+
+PublishStep BookSteps::languages(const FlashTemplate* flashTemplate) {
+    return {"languages", [=](PublishTarget& to) {
+                to.checkCancelled();
+                const QString name = Files::lastPathComponent(BookLayout::languageScript);
+                const QString source =
+                    Bundle::pathForResource(name, {}, QStringLiteral("AppFiles/Web"));
+                const QString page = flashTemplate ? flashTemplate->tmplHTMLFilePath() : QString();
+                if (isReadableFile(source) && Files::contents(page).contains(name.toUtf8()))
+                    to.transaction.copy(source, to.layout.at(BookLayout::languageScript),
+                                        Copy::independent);
             }};
 }
 

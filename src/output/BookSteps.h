@@ -50,6 +50,10 @@ bool isInFolder(const BookLayout& layout, const QString& page);
 PublishStep movie(const FlashTemplate* flashTemplate);
 PublishStep sound(const FlashTemplate* flashTemplate);
 
+// Texts of languages that the player in the template's page does not have itself; none where the
+// page loads none.
+PublishStep languages(const FlashTemplate* flashTemplate);
+
 // Removes files of the book that is replaced: those that let readers save it, who would otherwise
 // keep getting it, and those that the new configuration does not refer to.
 PublishStep outdatedOfflineFiles();

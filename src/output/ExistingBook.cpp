@@ -24,6 +24,7 @@ constexpr qint64 maxConfigurationBytes = 64 << 20;
 // pictures of a single-file book after it.
 constexpr qint64 headBytes = 1 << 20;
 
+constexpr char languagesStart[] = "window.folveroTexts=";
 constexpr char marker[] = "<meta name=\"generator\" content=\"Folvero\">";
 
 bool loadConfiguration(const QString& folder, pugi::xml_document& document) {
@@ -69,6 +70,10 @@ bool ExistingBook::isWebBookIn(const QString& folder) {
 
 bool ExistingBook::isPage(const QString& file) {
     return !headOfPage(file).isNull();
+}
+
+bool ExistingBook::isLanguages(const QString& file) {
+    return QFileInfo(file).isFile() && Files::beginning(file, headBytes).startsWith(languagesStart);
 }
 
 bool ExistingBook::isTextPage(const QString& file) {
@@ -151,6 +156,8 @@ QStringList ExistingBook::files(const QString& folder) {
         names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData)
               << numberedFiles(folder, BookLayout::search)
               << numberedFiles(folder, BookLayout::reading);
+    if (isLanguages(Files::join(folder, BookLayout::languageScript)))
+        names << BookLayout::languageScript;
     if (isIIIFManifest(Files::join(folder, BookLayout::iiifManifest)))
         names << BookLayout::iiifManifest;
     return names;

@@ -30,6 +30,9 @@ QStringList numberedFiles(const QString& folder, const QString& inFiles);
 // the book's text is not.
 bool isPage(const QString& file);
 
+// Whether a file has the texts of further languages.
+bool isLanguages(const QString& file);
+
 // Whether a file is the page of plain text of a web book.
 bool isTextPage(const QString& file);
 

@@ -53,6 +53,9 @@ QStringList FolveroOutput::foreignFiles() const {
                                       !ExistingBook::isWebBookIn(iSaveToFolder));
     if (!hasMovie && ForeignFiles::isThere(outputSWFName()))
         found << outputSWFName();
+    const QString languages = layout().at(BookLayout::languageScript);
+    if (ForeignFiles::isThere(languages) && !ExistingBook::isLanguages(languages))
+        found << languages;
     if (!hasBook)
         found << ForeignFiles::ofBook(layout(), iFlashTemplate.get());
     return found;
@@ -98,7 +101,8 @@ PublishSteps FolveroOutput::steps() {
                  << BookSteps::linkedFiles(iBook.annotations.get())
                  << BookSteps::htmlPage(outputHTMLFileName(), flashTemplate, iHTMLConfig.get())
                  << BookSteps::configuration(layout().at(BookLayout::configuration), bookXML())
-                 << BookSteps::movie(flashTemplate) << BookSteps::sound(flashTemplate);
+                 << BookSteps::movie(flashTemplate) << BookSteps::sound(flashTemplate)
+                 << BookSteps::languages(flashTemplate);
 }
 
 PublishStep FolveroOutput::pages() {

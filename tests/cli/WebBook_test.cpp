@@ -286,7 +286,7 @@ TEST_F(WebBookTest, OneFileHoldsWhatTheFolderDoes) {
 TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
     PublishedBook book;
     for (const char* part : {"web.js", "web.css", "vectors.js", "reading.js", "notes.js",
-                             "contents.js", "single.js", "offline.js", "sw.js"})
+                             "contents.js", "languages.js", "single.js", "offline.js", "sw.js"})
         book.library.addFile(QString("AppFiles/Web/") + part, part);
     book.addPage("1.jpg", 1, "picture");
     FolveroOutputWeb output(book.pageSource, book.flashTemplate, book.folder(), QString());
@@ -331,8 +331,8 @@ TEST_F(WebBookTest, ThePageOfAnOlderTemplateGetsWhatAWebBookAdds) {
 
 TEST_F(WebBookTest, OneFileBeyondTheLimitLeavesTheEarlierOne) {
     PublishedBook book;
-    for (const char* part :
-         {"web.js", "web.css", "vectors.js", "reading.js", "notes.js", "contents.js", "single.js"})
+    for (const char* part : {"web.js", "web.css", "vectors.js", "reading.js", "notes.js",
+                             "contents.js", "languages.js", "single.js"})
         book.library.addFile(QString("AppFiles/Web/") + part, part);
     book.addPage("1.jpg", 1, QByteArray(100'001, 'x'));
     FolveroOutputWeb output(book.pageSource, book.flashTemplate, book.folder(), QString());
@@ -378,7 +378,7 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
     for (const char* player :
          {"index.html", "files/page.js", "files/page.css", "files/web.js", "files/web.css",
           "files/vectors.js", "files/reading.js", "files/notes.js", "files/contents.js",
-          "files/web/offline.js", "sw.js", "manifest.webmanifest"})
+          "files/languages.js", "files/web/offline.js", "sw.js", "manifest.webmanifest"})
         files.erase(player);
     QByteArray& plain = files["text.html"];
     plain.remove(0, plain.indexOf("<main>"));

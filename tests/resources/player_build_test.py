@@ -29,6 +29,11 @@ class Texts(unittest.TestCase):
                 ("it", "page", "pageOf", "Pagina {0}", "it.json: page.pageOf must hold ['{0}', '{1}'], as in en.json"),
                 ("es", "page", "next", "Otra | más", "es.json: page.next may not hold |"),
                 ("es", "web", "search", 7, "es.json: web.search is missing"),
+                ("es", "web", "hits", {"one": "{0} resultado"}, "es.json: web.hits.other is missing"),
+                ("es", "web", "hits", {"other": "{0}", "lots": "{0}"},
+                 "es.json: web.hits.lots is none of the forms of a text with a number"),
+                ("es", "web", "hits", {"other": "{0}", "few": "unos"}, "es.json: web.hits.few must hold ['{0}'], as in"),
+                ("es", "web", "noHits", {"other": "nada"}, "es.json: web.noHits.other is none of the forms"),
                 ("pt_BR", None, None, None, "pt_BR.json: named by its language's code")]:
             with self.subTest(fault), tempfile.TemporaryDirectory() as folder:
                 changed = json.loads(json.dumps(languages))

@@ -56,7 +56,7 @@ protected:
     OutputWindow& window() { return sheet->window(); }
     void openForWebBook() {
         for (const char* part : {"web.js", "web.css", "vectors.js", "reading.js", "notes.js",
-                                 "contents.js", "single.js", "offline.js", "sw.js"})
+                                 "contents.js", "languages.js", "single.js", "offline.js", "sw.js"})
             book.library.addFile(QString("AppFiles/Web/") + part, part);
         open();
         window().mOutputType->button(OutputWindow::webBook)->click();
