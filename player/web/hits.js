@@ -64,9 +64,9 @@ export class Hits {
 export function bringIntoView(mark, { zoom, root, book }) {
   if (!mark || !zoom.pans) return;
   const { left, right, top, bottom } = mark.getBoundingClientRect();
-  const { clientWidth, clientHeight } = root;
-  const { beside } = book;
-  const seen = left >= beside && right <= clientWidth && top >= COVERED && bottom <= clientHeight - COVERED;
+  const { clientHeight } = root;
+  const { sight } = book;
+  const seen = left >= sight.left && right <= sight.right && top >= COVERED && bottom <= clientHeight - COVERED;
   if (seen) return;
-  zoom.panBy((beside + clientWidth) / 2 - (left + right) / 2, clientHeight / 2 - (top + bottom) / 2);
+  zoom.panBy((sight.left + sight.right) / 2 - (left + right) / 2, clientHeight / 2 - (top + bottom) / 2);
 }

@@ -7,7 +7,10 @@ const OVER_LEAST = 600;
 
 /** @typedef {'beside' | 'over' | 'sheet'} Way how a panel lies to the book */
 
-/** The area at the left in which one panel at a time opens. */
+/** Whether the reader's language runs from right to left, and the controls with it. */
+const isMirrored = () => document.documentElement.dir === 'rtl';
+
+/** The area at the side where lines begin, in which one panel at a time opens. */
 export class SideRoom {
   /** @param {import('../src/player.js').Player} player */
   constructor({ root, book, toolbar, commands, drawer, relayout, say }) {
@@ -51,7 +54,9 @@ export class SideRoom {
     if (this.way === 'sheet') panel.dialog.showModal();
     else panel.dialog.show();
     if (this.way !== 'beside') this.drawer.hide();
-    this.#make(this.way === 'beside' ? panel.dialog.offsetLeft + panel.dialog.offsetWidth : 0);
+    const { offsetLeft, offsetWidth } = panel.dialog;
+    const taken = isMirrored() ? this.root.clientWidth - offsetLeft : offsetLeft + offsetWidth;
+    this.#make(this.way === 'beside' ? taken : 0);
   }
 
   free() {
@@ -70,7 +75,7 @@ export class SideRoom {
   /** @param {number} beside width reserved for the panel, in CSS pixels */
   #make(beside) {
     this.root.style.setProperty('--beside', beside + 'px');
-    this.book.beside = beside;
+    this.book.beside = isMirrored() ? -beside : beside;
     this.folding.beside = beside;
     this.relayout();
     this.folding.fit();

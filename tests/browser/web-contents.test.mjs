@@ -52,6 +52,28 @@ test('the contents lie beside the book, lead to its pages and mark where the rea
   assert.deepEqual(book.errors, []);
 });
 
+test('controls of a language from right to left are mirrored, what turns pages is not', async () => {
+  const book = await open({ hash: '#page=4', before: (page) => page.addInitScript(() => {
+    Object.defineProperty(navigator, 'languages', { get: () => ['ar', 'en'] });
+  }) });
+  const at = (selector) => book.page.locator(selector).evaluate((one) => one.getBoundingClientRect().x);
+  assert.equal(await book.page.locator('html').getAttribute('dir'), 'rtl');
+  await book.use('contents');
+  const side = await panel(book).boundingBox();
+  const pages = await book.box('right');
+  assert.ok(side.x > 700 && pages.x + pages.width < side.x, 'the book makes room at the left of the panel');
+  assert.ok(await at('[data-does="help"]') < await at('[data-does="contents"]'));
+  for (const place of ['.bar >', '.arrow']) {
+    assert.ok(await at(`${place}[data-turn="left"]`) < await at(`${place}[data-turn="right"]`), place);
+  }
+  await book.page.locator('.arrow.right').click();
+  await book.waitForPages(6, 7);
+  // As a keyboard with Arabic letters sends it.
+  await book.page.evaluate(() => window.dispatchEvent(new KeyboardEvent('keydown', { key: '\u0624', code: 'KeyC', bubbles: true })));
+  assert.equal(await panel(book).isVisible(), false);
+  assert.deepEqual(book.errors, []);
+});
+
 test('a book opens where and as its document asks, with its panel at a desk only', async () => {
   for (const [asked, selector, view, hash, pages] of [
     ['contents', '.contents-side', undefined, '', [4, 5]], ['thumbs', '.drawer', undefined, '', [4, 5]],

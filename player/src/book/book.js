@@ -44,7 +44,7 @@ export class Book {
     this.shown = { left: 0, right: 0 };
     this.drawn = new FaceCache();
     this.shift = 0;
-    /** Width of an open panel at the left edge of the window, in CSS pixels. */
+    /** Width of an open panel at the left edge of the window, in CSS pixels; below 0 at the right one. */
     this.beside = 0;
     /** @type {ZoomState} */
     this.zoom = { level: 1, x: 0, y: 0 };
@@ -59,13 +59,19 @@ export class Book {
     if (image.naturalWidth > 0) this.aspect = image.naturalWidth / image.naturalHeight;
   }
 
+  /** From where to where the window is free of a panel, in CSS pixels. */
+  get sight() {
+    return { left: Math.max(0, this.beside), right: this.root.clientWidth + Math.min(0, this.beside) };
+  }
+
   /** Fits the book to the window. */
   resize() {
     const width = this.root.clientWidth;
     const height = this.root.clientHeight;
     const { rightToLeft, pages } = this.config;
     const margins = fittingMargins(this.config.margins, width, height);
-    const free = { ...margins, left: Math.max(margins.left, this.beside) };
+    const { left, right } = this.sight;
+    const free = { ...margins, left: Math.max(margins.left, left), right: Math.max(margins.right, width - right) };
     this.layout = layOut({
       width, height, margins: free, aspect: this.aspect, pageCount: pages.length, rightToLeft,
       maySpread: this.root.dataset.pages !== 'single', choice: this.choice,

@@ -50,11 +50,13 @@ export function say(word, ...values) {
 }
 
 /**
- * Sets texts (data-say) and accessible names (data-name) of all elements below.
+ * Sets texts (data-say) and accessible names (data-name) of all elements below, and the way that they read.
  * @param {HTMLElement} root
  */
 export function setTexts(root) {
-  document.documentElement.lang = texts.get('language') ?? '';
+  const html = document.documentElement;
+  html.lang = texts.get('language') ?? '';
+  html.dir = /^(ar|fa|he)/.test(html.lang) ? 'rtl' : 'ltr';
   for (const element of root.querySelectorAll('[data-say]')) {
     element.textContent = say(/** @type {Word} */ (element.getAttribute('data-say')));
   }

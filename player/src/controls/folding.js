@@ -16,7 +16,7 @@ export class Folding {
     this.root = root;
     this.bar = bar;
     this.more = part(bar, '[data-does="more"]');
-    /** Width of an open panel at the left edge, in CSS pixels. */
+    /** Width of an open panel at the side where lines begin, in CSS pixels. */
     this.beside = 0;
     /** @type {HTMLElement[]} */
     this.order = [];
@@ -60,7 +60,7 @@ export class Folding {
     const hidden = this.root.dataset.bar === 'no';
     const width = this.root.clientWidth - this.beside;
     const beside = (width - (hidden ? 0 : this.bar.offsetWidth)) / 2
-      - (parseFloat(getComputedStyle(caption).left) - this.beside) - BESIDE;
+      - (parseFloat(getComputedStyle(caption).insetInlineStart) - this.beside) - BESIDE;
     this.root.style.setProperty('--caption-room', beside + 'px');
     this.root.dataset.caption = beside < LEAST_CAPTION ? 'no' : 'yes';
   }

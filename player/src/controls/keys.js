@@ -9,7 +9,9 @@ export function wireKeys(root, commands) {
   window.addEventListener('keydown', (event) => {
     if (event.ctrlKey || event.altKey || event.metaKey || event.defaultPrevented) return;
     if (event.target instanceof HTMLInputElement || root.dataset.state !== 'ready') return;
-    const command = commandFor(root, event.key.toUpperCase());
+    // Where letters are others than Latin ones, the key counts.
+    const key = event.key > '~' ? event.code.slice(-1) : event.key.toUpperCase();
+    const command = commandFor(root, key);
     if (!command) return;
     event.preventDefault();
     commands[command]();

@@ -188,8 +188,8 @@ export class Reading {
    * @param {number} [otherwise] where neither fits
    */
   #middleOf({ left, right, page }, level, otherwise) {
-    const { root, beside, config, layout: { pageWidth } } = this.book;
-    const width = (root.clientWidth - beside) / level;
+    const { sight, config, layout: { pageWidth } } = this.book;
+    const width = (sight.right - sight.left) / level;
     if (pageWidth <= width) return page + pageWidth / 2;
     if (right - left <= width) return (left + right) / 2;
     const inward = width / 2 - ZOOM_AIR / level;

@@ -80,9 +80,10 @@ export class Zoom {
   /** Part of the window with whole pages that is seen once the pages have come to rest, in CSS pixels. */
   get seen() {
     const { level, x, y } = this.goal;
-    const { root: { clientWidth, clientHeight }, beside } = this.book;
+    const { root, sight } = this.book;
     return {
-      left: (beside - x) / level, right: (clientWidth - x) / level, top: -y / level, bottom: (clientHeight - y) / level,
+      left: (sight.left - x) / level, right: (sight.right - x) / level,
+      top: -y / level, bottom: (root.clientHeight - y) / level,
     };
   }
 
@@ -227,8 +228,8 @@ export class Zoom {
 
   /** @returns {Point} */
   #windowMiddle() {
-    const { root, beside } = this.book;
-    return { x: (beside + root.clientWidth) / 2, y: root.clientHeight / 2 };
+    const { root, sight } = this.book;
+    return { x: (sight.left + sight.right) / 2, y: root.clientHeight / 2 };
   }
 
   /**
@@ -253,10 +254,10 @@ export class Zoom {
   #limited({ level, x, y }) {
     if (level < 1 || (level === 1 && !this.book.layout.scrolls)) return { level, x: 0, y: 0 };
     const { left, top, right, bottom } = this.book.boxOf(this.turner.current);
-    const { root: { clientWidth, clientHeight }, beside } = this.book;
+    const { root, sight } = this.book;
     return {
-      level, x: heldInside(x, level, left, right, clientWidth, beside),
-      y: heldInside(y, level, top, bottom, clientHeight),
+      level, x: heldInside(x, level, left, right, sight.right, sight.left),
+      y: heldInside(y, level, top, bottom, root.clientHeight),
     };
   }
 

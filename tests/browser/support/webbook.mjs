@@ -81,7 +81,9 @@ export async function makeWebBook(folder, description) {
   for (const [name, value] of Object.entries(dataOf(description))) {
     await writeFile(path.join(files, `${name}.js`), `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});`);
   }
-  for (const name of ['web.js', 'web.css', 'vectors.js', 'reading.js', 'notes.js', 'contents.js']) await copyFile(path.join(web, name), path.join(files, name));
+  for (const name of ['web.js', 'web.css', 'vectors.js', 'reading.js', 'notes.js', 'contents.js', 'languages.js']) {
+    await copyFile(path.join(web, name), path.join(files, name));
+  }
   const tags = '<link rel="stylesheet" href="files/web.css">\n<script src="files/web.js"></script>\n';
   await writeFile(page, html.replace('</head>', () => `${tags}</head>`));
   return folder;
