@@ -6,8 +6,10 @@ declare const WEB_TEXTS: string;
 declare const OFFLINE_TEXTS: string;
 declare const READING_TEXTS: string;
 declare const NOTES_TEXTS: string;
-/** Style sheets of the reading view and of notes. */
+declare const VECTORS_TEXTS: string;
+/** Style sheets of the reading view, of notes and of enlarged pages. */
 declare const READING_STYLE: string;
+declare const VECTORS_STYLE: string;
 declare const NOTES_STYLE: string;
 
 interface Window {

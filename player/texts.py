@@ -13,7 +13,8 @@ FORMS = ["zero", "one", "two", "few", "many", "other"]
 
 
 def read(player):
-    """Texts by section ("page": of every book, "web": of web books, "offline", "reading", "notes") and name, by language, English first."""
+    """Texts by section ("page": of every book, "web": of web books, "offline", "reading", "notes",
+    "vectors") and name, by language, English first."""
     files = sorted((player / "texts").glob("*.json"), key=lambda file: (file.stem != "en", file.stem))
     languages = {file.stem: parsed(file) for file in files}
     faults = [fault for language, texts in languages.items() for fault in compared(texts, languages["en"], language)]

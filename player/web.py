@@ -33,9 +33,8 @@ def main():
              for name, (first, define, section) in scripts.items()}
     parts["course.js"] = bundled(esbuild, player / "web/coursepart.js")
     parts["contents.js"] = bundled(esbuild, player / "web/contentspart.js")
-    parts["vectors.js"] = bundled(esbuild, player / "web/vectorspart.js")
     parts["single.js"] = bundled(esbuild, player / "web/singlepart.js")
-    for name in ["reading", "notes"]:
+    for name in ["vectors", "reading", "notes"]:
         style = joined_style(esbuild, [player / f"web/{name}.css"])
         parts[f"{name}.js"] = bundled(esbuild, player / f"web/{name}part.js", (f"{name.upper()}_TEXTS", texts.table(player, name)),
                                       (f"{name.upper()}_STYLE", style))

@@ -18,7 +18,8 @@ import type { Viewing } from './panels/viewing.js';
 
 /** Names of all texts, those of web books included. */
 export type AnyWord = Word | keyof typeof english.web | keyof typeof english.offline
-  | keyof typeof english.reading | keyof typeof english.notes;
+  | keyof typeof english.reading | keyof typeof english.notes
+  | keyof typeof english.vectors;
 
 /** What is there before any page image is requested. */
 export interface Beginning {

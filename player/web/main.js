@@ -256,12 +256,22 @@ function addToBook(player, facts) {
  * @param {Layers} layers
  */
 function addLargePages(player, layers) {
-  const { zoom, sheets } = player;
+  const { root, zoom, sheets } = player;
   const { onChange } = zoom;
   const { load } = sheets;
   const needed = once(() => /** @type {Promise<typeof import('./vectorspart.js')>} */ (files.run('vectors')));
   const begin = once(() => needed().then(({ beginEnlarged }) => beginEnlarged(player, layers, files)));
   const look = () => { if (zoom.pans) begin(); };
+  const { toggleAt } = zoom;
+  zoom.toggleAt = (x, y) => {
+    const usual = () => toggleAt.call(zoom, x, y);
+    if (zoom.active) usual();
+    else begin().then((showColumn) => showColumn(x, y) || usual()).catch(usual);
+  };
+  // A double tap is not to wait.
+  root.addEventListener('pointerdown', ({ pointerType }) => {
+    if (pointerType !== 'mouse') needed().catch(() => {});
+  });
   zoom.onChange = () => {
     onChange();
     look();

@@ -12,7 +12,7 @@ const kind = (files, sourceType, names) => ({ files, languageOptions: { sourceTy
 
 /** The build puts them in. */
 const TEXTS = { PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READING_TEXTS: false, READING_STYLE: false,
-  NOTES_TEXTS: false, NOTES_STYLE: false };
+  NOTES_TEXTS: false, NOTES_STYLE: false, VECTORS_TEXTS: false, VECTORS_STYLE: false };
 
 export default [
   js.configs.recommended,

@@ -51,14 +51,18 @@ async function note(book) {
   await book.page.locator('.note-entry [aria-label="Note"]').last().click();
   await book.page.waitForSelector('.note-panel[open]');
 }
+async function enlarged(book) {
+  await book.page.keyboard.press('+');
+  await book.page.waitForSelector('.zoom-strip:not([hidden])');
+}
 const key = (name) => (book) => book.page.keyboard.press(name);
 const states = {
   'a desk': [DESK, '#page=4',
     { 'a spread': () => {}, 'the contents': contents, 'the search': step,
-      'a highlight': highlight, 'the notes': notes, 'a note': note, 'pages left out': key('End') }],
+      'a highlight': highlight, 'the notes': notes, 'a note': note, 'pages left out': key('End'), 'a larger page': enlarged }],
   'a phone': [PHONE, '',
     { 'the strip of the search': strip, 'a page': key('ArrowRight'), 'the contents': contents, 'the search': search,
-      'a highlight': highlight, 'the notes': notes, 'a note': note }],
+      'a larger page': enlarged, 'a highlight': highlight, 'the notes': notes, 'a note': note }],
 };
 for (const [name, [view, hash, shown]] of Object.entries(states)) {
   test(`nothing keeps readers with other senses or hands out of a web book, on ${name}`, async () => {

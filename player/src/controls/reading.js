@@ -67,7 +67,7 @@ export class Reading {
     const { zoom, turner } = this;
     const { active, seen } = zoom;
     if (!active) turner.settle();
-    const columns = this.#columns();
+    const columns = this.columns();
     const level = zoom.level * ZOOM_STEP;
     const at = this.point ?? this.rested;
     const pointed = at && !active && at.view === turner.current
@@ -125,7 +125,7 @@ export class Reading {
   #goOn(way) {
     const { zoom } = this;
     const { seen } = zoom;
-    const columns = this.#columns();
+    const columns = this.columns();
     let at = this.#current(columns);
     const column = columns[at];
     const left = way > 0 ? column.bottom - seen.bottom : seen.top - column.top;
@@ -146,7 +146,7 @@ export class Reading {
    * @param {number} way
    */
   begin(way = 1) {
-    const columns = this.#columns();
+    const columns = this.columns();
     this.#lead(columns, way > 0 ? 0 : columns.length - 1, way, true);
   }
 
@@ -197,7 +197,7 @@ export class Reading {
   }
 
   /** @returns {Column[]} of the pages in view, in reading order */
-  #columns() {
+  columns() {
     const { book, turner: { current } } = this;
     const { left, right, top, bottom } = book.boxOf(current);
     const { pageWidth } = book.layout;
