@@ -37,8 +37,9 @@ export class NoteBar {
    * @param {import('../src/player.js').Player} player
    * @param {{colour: (colour: Colour) => void, act: (action: Action) => void}} handlers
    */
-  constructor({ root, book, say }, { colour, act }) {
+  constructor({ root, book, toolbar, say }, { colour, act }) {
     this.root = root;
+    this.tips = toolbar.tips;
     this.book = book;
     this.say = say;
     /** @type {Subject | null} */
@@ -173,7 +174,11 @@ export class NoteBar {
     const line = y === below ? rects[rects.length - 1] : rects[0];
     const start = this.book.beside + AIR;
     const x = Math.max(start, Math.min((line.left + line.right - width) / 2, clientWidth - AIR - width));
-    style.transform = 'translate(' + Math.round(x) + 'px,' + Math.round(y) + 'px)';
+    const transform = 'translate(' + Math.round(x) + 'px, ' + Math.round(y) + 'px)';
+    if (style.transform === transform) return;
+    style.transform = transform;
+    // The name of a button would stay where that was.
+    this.tips.hide();
   }
 
   #buttons() {

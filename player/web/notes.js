@@ -56,6 +56,8 @@ export class Notes {
     this.selected = async () => [];
     this.timer = 0;
     this.pressed = false;
+    /** Whether the reader knows that notes are lost with the page. */
+    this.warned = false;
     this.#wire();
     this.#changed();
     this.#look();
@@ -67,7 +69,10 @@ export class Notes {
 
   #wire() {
     const { store, layers, player: { root, gestures } } = this;
-    store.onChange = () => this.#changed();
+    store.onChange = () => {
+      this.#changed();
+      if (!store.kept) this.#warn();
+    };
     layers.followers.push(() => this.#tellBookmark());
     document.addEventListener('selectionchange', () => this.#look());
     for (const kind of ['pointerdown', 'pointerup', 'pointercancel']) {
@@ -85,6 +90,13 @@ export class Notes {
     this.marks.draw();
     this.list.show(this.store.notes, this.lost);
     this.#tellBookmark();
+  }
+
+  /** Warns, once, of a browser that stores nothing. */
+  #warn() {
+    const { say, toast } = this.player;
+    if (!this.warned) toast.show(say('notesNotKept'), say('exportNotes'), () => this.#save());
+    this.warned = true;
   }
 
   /** @param {PointerEvent} event */

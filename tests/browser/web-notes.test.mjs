@@ -116,6 +116,19 @@ test('a finger that rests marks a word, and a tap on a highlight opens its bar i
   assert.deepEqual([await quotes(book), await book.pages()], [[['town', 'pink', '']], [2]]);
 });
 
+test('a browser that stores nothing says so at once, and keeps what is marked as long as the page', async () => {
+  const book = await open({ before: (page) => page.addInitScript(() => {
+    Storage.prototype.setItem = () => { throw new DOMException('full', 'QuotaExceededError'); };
+  }) });
+  await book.page.keyboard.press('h');
+  await book.page.waitForFunction(() => !getSelection().isCollapsed);
+  await book.page.keyboard.press('Enter');
+  await book.page.locator('.toast', { hasText: 'does not keep notes' }).waitFor();
+  await book.page.keyboard.press('Escape');
+  await book.page.keyboard.press('m');
+  await book.page.waitForSelector('.note-entry');
+});
+
 test('notes go into a file and into another browser, and follow words that a new edition has moved', async () => {
   const book = await open();
   await mark(book, 'another', 'story');
