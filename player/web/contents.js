@@ -2,6 +2,7 @@ import { make } from '../src/book/dom.js';
 import { fullLabel, labelOf } from '../src/book/labels.js';
 import { Facts } from './facts.js';
 import { SidePanel } from './side.js';
+import { textLink } from './textlink.js';
 
 /** @typedef {import('./branches.js').Item} Item */
 /** @typedef {import('./facts.js').Entry} Entry */
@@ -31,7 +32,9 @@ export class Contents {
     this.tree = null;
     /** @type {Promise<void> | null} */
     this.loading = null;
-    this.#addTextPage(layers.facts.textPage, player.say('textPage'));
+    if (layers.facts.textPage) {
+      this.panel.dialog.append(make('footer', '', textLink(layers, 'side-link', player.say('textPage'))));
+    }
     this.panel.onShow = () => this.#show();
     layers.followers.push(() => this.#follow());
     const { outline } = layers.facts;
@@ -100,17 +103,6 @@ export class Contents {
       status.textContent = say('unreachableText');
       status.after(again);
     }
-  }
-
-  /**
-   * @param {string} address
-   * @param {string} words
-   */
-  #addTextPage(address, words) {
-    if (!address) return;
-    const link = /** @type {HTMLAnchorElement} */ (make('a', 'side-link', words));
-    link.href = address;
-    this.panel.dialog.append(make('footer', '', link));
   }
 
   /** Marks the entry to which the pages in view belong. */

@@ -16,6 +16,7 @@ import { sharedFiles } from './sharedfiles.js';
 import { SideRoom } from './side.js';
 import { StartList } from './startlist.js';
 import { addTextLayer } from './textlayer.js';
+import { textLink } from './textlink.js';
 
 /** Lines lower than this have letters of less than 9 CSS pixels. */
 const SMALL = 10;
@@ -51,19 +52,6 @@ function barButton(name, key, fold, say) {
   button.setAttribute('type', 'button');
   button.setAttribute('aria-label', say(name));
   return button;
-}
-
-/**
- * Adds a link to the plain text, the first in the tab order and hidden until focused: for readers whom a page-flip
- * book does not help.
- * @param {HTMLElement} root
- * @param {string} address
- * @param {string} words
- */
-function addTextLink(root, address, words) {
-  const link = /** @type {HTMLAnchorElement} */ (make('a', 'text-link', words));
-  link.href = address;
-  root.prepend(link);
 }
 
 /** Whether the browser has service workers here: over https, and from this machine. */
@@ -237,7 +225,8 @@ function addToBook(player, facts) {
   window.addEventListener('hashchange', follow);
   follow();
   if (facts.offline && !single && mayKeep()) addKeeping(player, layers);
-  if (facts.textPage) addTextLink(root, facts.textPage, say('textPage'));
+  // The first in the tab order and hidden until focused: for readers whom a page-flip book does not help.
+  if (facts.textPage) root.prepend(textLink(layers, 'text-link', say('textPage')));
   if (facts.labels) toolbar.box.inputMode = 'text';
   layers.followers.push(() => {
     const idle = window.requestIdleCallback ?? ((/** @type {() => void} */ act) => setTimeout(act, 60));

@@ -131,7 +131,7 @@ test('on a phone the contents take the whole window and go when an entry is chos
   await book.use('contents', 'tap');
   await book.rest();
   assert.deepEqual(await panel(book).boundingBox(), { x: 0, y: 0, ...PHONE.viewport });
-  assert.equal(await panel(book).locator('.side-link').getAttribute('href'), 'text.html');
+  assert.equal(await panel(book).locator('.side-link').getAttribute('href'), 'text.html#page-1');
   await entry(book, 'Harbour').tap();
   await book.waitForPages(7);
   assert.equal(await panel(book).isVisible(), false);
