@@ -48,14 +48,18 @@ export class Links {
   }
 
   /** @param {Face} face */
-  #add({ box, text }) {
+  #add({ box, text, side }) {
     if (!text || text.links.length === 0) return;
     const layer = make('div', 'link-layer');
-    for (const link of text.links) {
-      const element = this.#element(link, text.wordsIn(link.box).slice(0, LONGEST_NAME));
+    const words = box.querySelectorAll('.word');
+    text.links.forEach((link, index) => {
+      const found = text.wordsIn(link.box);
+      const element = this.#element(link, found.map((word) => word.text).join(' ').slice(0, LONGEST_NAME));
       putOver(element, text, link.box);
       layer.append(element);
-    }
+      element.id = side + '-link-' + index;
+      standFor(element, found.map(({ at }) => words[at]));
+    });
     box.append(layer);
   }
 
@@ -129,6 +133,18 @@ export class Links {
     }
     return nearest?.link ?? null;
   }
+}
+
+/**
+ * To those who hear the page, a link comes where its words are read, and in their place.
+ * @param {HTMLElement} link
+ * @param {Element[]} words
+ */
+function standFor({ id }, words) {
+  const place = make('span', '');
+  place.setAttribute('aria-owns', id);
+  words[0]?.before(place);
+  for (const word of words) word.setAttribute('aria-hidden', 'true');
 }
 
 /**

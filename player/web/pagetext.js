@@ -10,6 +10,8 @@ import { fieldsOf, listOf, numberOf, textOf } from './facts.js';
  * @property {Word[]} words in reading order
  *
  * @typedef {{box: Box, target: string | number}} PageLink
+ * @typedef {{kind: string, lines: Line[]}} Part a heading ("h1" to "h6"), "p", "item", "note", "code", "row", or none of
+ *   these, such as a running head
  */
 
 const STRONG_RTL = /[\u0590-\u08ff\ufb1d-\ufdff\ufe70-\ufefc]|[\ud802\ud803\ud83a][\udc00-\udfff]/;
@@ -23,8 +25,9 @@ export class PageText {
     const [width, height] = listOf(raw.size).map(numberOf);
     this.width = width > 0 && Number.isFinite(width) ? width : 6000;
     this.height = height > 0 && Number.isFinite(height) ? height : 8000;
-    this.lines = listOf(raw.lines).filter((line) => Array.isArray(line)).map(lineOf)
-      .filter(({ words }) => words.length > 0);
+    const lines = listOf(raw.lines).map((line) => lineOf(listOf(line)));
+    this.lines = lines.filter(hasWords);
+    this.parts = partsOf(listOf(raw.blocks), lines);
     this.links = listOf(raw.links).filter((link) => Array.isArray(link)).map(linkOf);
   }
 
@@ -65,12 +68,17 @@ export class PageText {
   }
 
   /**
-   * The words whose middles lie in a box, with blanks between them.
+   * The words whose middles lie in a box, and their places among all words of the page.
    * @param {Box} box
    */
   wordsIn(box) {
-    return this.lines.filter((line) => meet(line.box, box)).flatMap((line) => line.words.filter((word) =>
-      distance(box, ...middleOf(boxIn(line, word, 0, 1))) === 0)).map(({ text }) => text.trim()).join(' ');
+    let before = 0;
+    return this.lines.flatMap((line) => {
+      const first = before;
+      before += line.words.length;
+      return meet(line.box, box) ? line.words.map(({ text }, index) => ({ text: text.trim(), at: first + index }))
+        .filter((_, index) => distance(box, ...middleOf(boxIn(line, line.words[index], 0, 1))) === 0) : [];
+    });
   }
 }
 
@@ -107,6 +115,27 @@ function lineOf(raw) {
   }
   const turn = /** @type {0 | 90 | 180 | 270} */ ([90, 180, 270].find((one) => one === raw[4]) ?? 0);
   return { box: boxOf(raw), turn, rtl: raw[5] === 1, words };
+}
+
+/** @param {Line} line */
+function hasWords({ words }) {
+  return words.length > 0;
+}
+
+/**
+ * @param {any[]} blocks kind and number of lines, in turn; the lines behind the last one are a part, too
+ * @param {Line[]} lines
+ */
+function partsOf(blocks, lines) {
+  /** @type {Part[]} */
+  const parts = [];
+  for (let at = 0, index = 0; at < lines.length; index += 2) {
+    const end = at + (blocks[index + 1] >= 1 ? Number(blocks[index + 1]) : lines.length);
+    const own = lines.slice(at, end).filter(hasWords);
+    if (own.length > 0) parts.push({ kind: textOf(blocks[index]), lines: own });
+    at = end;
+  }
+  return parts;
 }
 
 /**

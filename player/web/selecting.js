@@ -232,8 +232,9 @@ function placeIn({ box, text }, clientX, clientY) {
 function caretAt(face, clientX, clientY) {
   const { x, y } = placeIn(face, clientX, clientY);
   const caret = face.text && caretIn(face.text, x, y);
-  const layer = face.box.querySelector('.text-layer');
-  const node = caret && layer?.children[caret.line].children[caret.word].firstChild;
+  if (!caret) return null;
+  const line = face.box.querySelectorAll('.line')[caret.line];
+  const node = line?.querySelectorAll('.word')[caret.word].firstChild;
   return node ? { node, offset: caret.offset } : null;
 }
 

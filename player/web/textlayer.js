@@ -29,17 +29,63 @@ function widthOf(text) {
   return width;
 }
 
+/** What assistive technology takes parts of a page for, by their kinds; anything else is a paragraph. */
+const ROLES = new Map([['item', 'listitem'], ['note', 'note'], ['code', 'code'], ['row', 'row']]);
+
+/** What such parts lie in together. */
+const GROUPS = new Map([['item', 'list'], ['row', 'table']]);
+
 /**
  * Overlays a page's words as transparent text that can be selected, copied and read aloud. The layer has the page's
- * size in tenths of a point and is scaled as a whole.
+ * size in tenths of a point and is scaled as a whole. Its elements are headings, paragraphs, lists and tables without a
+ * place of their own, in which the lines lie.
  * @param {Face} face whose text is there
  */
 export function addTextLayer({ box, text }) {
   if (!text || text.lines.length === 0) return;
-  const layer = make('div', 'text-layer', ...text.lines.map(lineElement));
+  const layer = make('div', 'text-layer');
+  /** @type {HTMLElement} */
+  let group = layer;
+  /** @type {string[]} headings that the part is below */
+  const above = [];
+  for (const { kind, lines } of text.parts) {
+    const role = GROUPS.get(kind) ?? '';
+    if (!role) group = layer;
+    else if (group.getAttribute('role') !== role) {
+      group = withRole(make('div', ''), role);
+      layer.append(group);
+    }
+    const element = partElement(kind, lines);
+    if (kind[0] === 'h') {
+      while (above.length > 0 && above[above.length - 1] >= kind) above.pop();
+      above.push(kind);
+      // By the headings of this page, below the book's title: no level is left out.
+      element.setAttribute('aria-level', String(above.length + 1));
+    }
+    group.append(element);
+  }
   layer.style.width = text.width + 'px';
   layer.style.height = text.height + 'px';
   box.append(layer);
+}
+
+/**
+ * @param {HTMLElement} element
+ * @param {string} role
+ */
+function withRole(element, role) {
+  element.setAttribute('role', role);
+  return element;
+}
+
+/**
+ * @param {string} kind
+ * @param {Line[]} lines
+ */
+function partElement(kind, lines) {
+  const elements = lines.map(lineElement);
+  if (kind === 'row') elements.forEach((line) => withRole(line, 'cell'));
+  return withRole(make('div', '', ...elements), kind[0] === 'h' ? 'heading' : ROLES.get(kind) ?? 'paragraph');
 }
 
 /** @param {Line} line */

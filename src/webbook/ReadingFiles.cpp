@@ -5,6 +5,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <algorithm>
 
 namespace {
 
@@ -56,6 +57,32 @@ QJsonObject jsonOf(const ReadingBlock& block) {
 }
 
 } // namespace
+
+std::map<int, QJsonArray> ReadingFiles::blocksOfPages(const std::vector<ReadingBlock>& blocks) {
+    struct Part {
+        std::size_t first = 0;
+        std::size_t count = 0;
+        QString name;
+    };
+    std::map<int, std::vector<Part>> pages;
+    for (const ReadingBlock& block : blocks) {
+        for (const auto& [position, first, count] : block.lines)
+            pages[position].push_back({first, count, nameOf(block)});
+    }
+    std::map<int, QJsonArray> arrays;
+    for (auto& [position, parts] : pages) {
+        std::sort(parts.begin(), parts.end(),
+                  [](const Part& a, const Part& b) { return a.first < b.first; });
+        std::size_t next = 0;
+        for (const auto& [first, count, name] : parts) {
+            if (first > next)
+                arrays[position] << QString() << int(first - next);
+            arrays[position] << name << int(count);
+            next = first + count;
+        }
+    }
+    return arrays;
+}
 
 std::vector<int> ReadingFiles::write(const std::vector<ReadingBlock>& blocks, const Write& write) {
     constexpr qsizetype mostLetters = 250'000;

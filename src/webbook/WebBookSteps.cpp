@@ -56,6 +56,8 @@ public:
     QString write(const WebPage& page);
     // What the texts consist of.
     std::vector<ReadingBlock> reading();
+    // Adds to the files of pages what their lines belong to, which is known in the end only.
+    void addBlocks(const std::vector<ReadingBlock>& blocks);
     void writeScript(const QString& path, const QByteArray& json);
 
 private:
@@ -120,6 +122,18 @@ std::vector<ReadingBlock> PageWriter::reading() {
     if (iBook.content.outline)
         addEntries(iBook.content.outline->items(), 1, iBook.metadata, entries);
     return iReading.finish(entries);
+}
+
+void PageWriter::addBlocks(const std::vector<ReadingBlock>& blocks) {
+    for (const auto& [position, ofPage] : ReadingFiles::blocksOfPages(blocks)) {
+        iTo.checkCancelled();
+        const QString path = BookLayout::text(iBook.pages[std::size_t(position) - 1].number);
+        const QByteArray script =
+            PublishTransaction::contents(iTo.transaction.stagedFile(iTo.layout.at(path)));
+        iReport.pageBytes -= script.size();
+        writeScript(path, WebScript::jsonIn(path, script).chopped(1) +
+                              ",\"blocks\":" + WebScript::json(ofPage) + '}');
+    }
 }
 
 // The file was written by a process that has read an untrusted document.
@@ -357,6 +371,7 @@ void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookRep
     }
     report.text.search = search.finish();
     const auto blocks = writer.reading();
+    writer.addBlocks(blocks);
     report.text.reading = ReadingFiles::write(blocks, [&](int part, const QByteArray& json) {
         writer.writeScript(BookLayout::readingPart(part), json);
     });

@@ -1,7 +1,9 @@
 import assert from 'node:assert/strict';
+import path from 'node:path';
 import { test } from 'node:test';
 import { faults } from './support/axe.mjs';
 import { plainPages } from './support/book.mjs';
+import { folvero, ready, sample } from './support/program.mjs';
 import { DESK, PHONE, Reader } from './support/reader.mjs';
 import { typedPage } from './support/webbook.mjs';
 
@@ -9,8 +11,9 @@ const reader = Reader.forTests();
 
 const OUTLINE = [['Preface', 1, []], ['First part', 3, [['River', 4, []], ['Nowhere', 0, []]]]];
 const pages = Array.from({ length: 8 },
-  (_, index) => typedPage([`text of page ${index + 1}`, 'and a dead link', 'and a page'],
-  { links: [[0, 0, 4, 'https://example.org/'], [1, 6, 9, 0], [2, 6, 4, 1]] }));
+  (_, index) => ({ ...typedPage([`text of page ${index + 1}`, 'and a dead link', 'and a page', 'head'],
+    { links: [[0, 0, 4, 'https://example.org/'], [1, 6, 9, 0], [2, 6, 4, 1]] }),
+  blocks: index % 2 ? ['h6', 1, 'item', 1, 'item', 1] : ['code', 1, 'row', 2, 'note', 1] }));
 
 async function open({ values, change, ...options }) {
   const folder = await reader.webBook({ pages: plainPages(8), values: { TutorialTitle: 'Spring', ...values },
@@ -125,4 +128,41 @@ test('all of a page is reached by key, in the order in which it is read', async 
   await book.page.keyboard.press('Tab');
   await book.page.keyboard.press('Enter');
   await book.waitForPages(1);
+});
+
+/** What those who hear a page are told of it: its elements and their texts, by the browser's accessibility tree. */
+async function heard(page) {
+  const session = await page.context().newCDPSession(page);
+  const { nodes } = await session.send('Accessibility.getFullAXTree');
+  const byId = new Map(nodes.map((node) => [node.nodeId, node]));
+  const childrenOf = ({ childIds = [] }) => childIds.map((id) => byId.get(id)).filter(Boolean);
+  const isText = ({ role }) => role?.value === 'StaticText';
+  const textOf = (node) => (isText(node) ? node.name.value : childrenOf(node).map(textOf).join(''));
+  const told = [];
+  const walk = (node, isInPage) => {
+    const [role, name] = [node.role?.value, node.name?.value ?? ''];
+    const inside = isInPage || (role === 'group' && /^Page /.test(name));
+    const level = node.properties?.find((one) => one.name === 'level')?.value.value;
+    const own = { group: name, link: name, heading: `${level} ${textOf(node)}`, paragraph: textOf(node).slice(0, 30) }[role]
+      ?? (/^(table|row|list|listitem)$/.test(role) ? textOf(node) : undefined);
+    if (inside && !node.ignored && own !== undefined) told.push(`${role} ${own}`.trim());
+    for (const child of childrenOf(node)) walk(child, inside);
+  };
+  walk(nodes[0], false);
+  return told;
+}
+
+test('a page is heard as headings, paragraphs, lists, tables and links', ready, async () => {
+  const folder = path.join(reader.folder, 'heard');
+  await folvero('publish', '--quiet', '--type=web', '--pages=1-8', sample('sample'), folder);
+  const published = await reader.openFromDisk(folder, { hash: '#page=8' });
+  await published.page.waitForSelector('.over.left .word', { state: 'attached' });
+  assert.deepEqual(await heard(published.page), ['group Page 8', 'paragraph reader may do. Change one and',
+    'paragraph once. A set of values worth ke', 'heading 2 Publishing', 'paragraph The finished book is a folder.',
+    'link www.example.org.']);
+  const book = await open({ hash: '#page=2' });
+  const away = 'This link leads to a page that is not in this book';
+  assert.deepEqual(await heard(book.page), ['group Page ii (2)', 'heading 2 of page 2', 'link text', 'list and a and a',
+    'listitem and a', `link dead link, ${away}`, 'listitem and a', 'link page, Page i (1)', 'paragraph head',
+    'group Page 3', 'link text', 'table and a and a', 'row and a and a', `link dead link, ${away}`, 'link page, Page i (1)']);
 });

@@ -15,7 +15,7 @@ const page = new PageText({ size: [600, 800], lines: [
 test('a page is well formed whatever its file holds', () => {
   const wrong = { size: [0, Infinity], lines: [7, [], [1, 2, 3, 4, 5, 6, ['a']], [1, 2, 3, 4, 5, 6, [1, 2, 3]]] };
   for (const data of [undefined, 7, [], wrong]) {
-    assert.deepEqual({ ...new PageText(data) }, { width: 6000, height: 8000, lines: [], links: [] });
+    assert.deepEqual({ ...new PageText(data) }, { width: 6000, height: 8000, lines: [], parts: [], links: [] });
   }
   const { lines: [line] } = new PageText({ lines: [[NaN, 5, 0, -1, 45, true, ['a', 'x', -3, 'rest']]] });
   assert.deepEqual(line, { box: { x: 0, y: 5, width: 1, height: 1 }, turn: 0, rtl: false,
@@ -54,11 +54,22 @@ test('a point leads to the nearest place between letters', () => {
   for (const [text, offset, wanted] of words) assert.deepEqual(wordAround(text, offset), wanted, text);
 });
 
+test('parts of a page are its blocks, whatever its file says of their lines', () => {
+  const parts = (blocks) => new PageText({ lines: [3, 1, 0, 2, 5].map((count) => [0, 0, 9, 9, 0, 0, Array(count).fill(['a', 0, 9]).flat()]),
+    blocks }).parts.map(({ kind, lines }) => [kind, ...lines.map(({ words }) => words.length)]);
+  const cases = [[undefined, ['', 3, 1, 2, 5]], [['', 1, 'h2', 3], ['', 3], ['h2', 1, 2], ['', 5]], [['p', 2, 'p', 1, 'p', 99], ['p', 3, 1], ['p', 2, 5]],
+    [['p', -1, 'p', 'x'], ['p', 3, 1, 2, 5]], [[7, 1.5, 'code', Infinity], ['', 3], ['code', 1, 2, 5]]];
+  for (const [blocks, ...wanted] of cases) assert.deepEqual(parts(blocks), wanted, String(blocks));
+});
+
 test('a link is named by the words that it is drawn around', () => {
   const named = [[[100, 90, 45, 40], 'abcd'], [[90, 90, 110, 140], 'abcd ef שלום ab 12'], [[130, 90, 30, 40], ''],
     [[0, 109, 200, 2], 'abcd ef'],
     [[500, 100, 20, 50], 'ef'], [[0, 0, 5, 5], '']];
-  for (const [[x, y, width, height], words] of named) assert.equal(page.wordsIn({ x, y, width, height }), words);
+  for (const [[x, y, width, height], words] of named) {
+    assert.equal(page.wordsIn({ x, y, width, height }).map(({ text }) => text).join(' '), words);
+  }
+  assert.deepEqual(page.wordsIn({ x: 500, y: 100, width: 20, height: 50 }), [{ text: 'ef', at: 10 }]);
 });
 
 test('texts of pages are kept, and what did not come is asked for again', async () => {

@@ -158,6 +158,16 @@ void replaceTabs(ReadingLine& line) {
     line.text.replace(u'\t', u' ');
 }
 
+void addLines(ReadingBlock& block, const ReadingLine& line) {
+    for (const std::size_t source : line.sources) {
+        ReadingBlock::Lines* last = block.lines.empty() ? nullptr : &block.lines.back();
+        if (last && last->position == line.position() && last->first + last->count == source)
+            ++last->count;
+        else
+            block.lines.push_back({line.position(), source, 1});
+    }
+}
+
 ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
     ReadingBlock block;
     block.kind = paragraph.kind;
@@ -170,6 +180,7 @@ ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
             replaceTabs(line);
         if (line.position() == paragraph.lines.front().position())
             block.box |= line.box;
+        addLines(block, line);
         if (block.runs.empty())
             block.runs = line.runs;
         else
@@ -185,11 +196,12 @@ std::vector<PDFTextLine> BookReading::addPage(int position, const std::vector<PD
     iPages.push_back(PageLayout::of(position, lines, links));
     std::vector<PDFTextLine> ordered;
     std::vector<bool> isTaken(lines.size());
-    for (const ReadingRegion& region : iPages.back().regions) {
-        for (const ReadingLine& line : region.lines) {
-            for (const std::size_t source : line.sources) {
-                ordered.push_back(lines[source]);
+    for (ReadingRegion& region : iPages.back().regions) {
+        for (ReadingLine& line : region.lines) {
+            for (std::size_t& source : line.sources) {
                 isTaken[source] = true;
+                ordered.push_back(lines[source]);
+                source = ordered.size() - 1;
             }
         }
     }

@@ -25,7 +25,8 @@ struct ReadingLine {
     QRectF box;    // as displayed
     QString text;
     std::vector<ReadingRun> runs; // its text in parts
-    // The lines of the page that it was made of, as they are numbered there.
+    // The lines of the page that it was made of: their numbers as they were found there, later
+    // those in reading order.
     std::vector<std::size_t> sources;
 
     bool isBold() const { return (style & boldText) != 0; }

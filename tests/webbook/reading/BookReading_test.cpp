@@ -50,17 +50,37 @@ Lines operator+(Lines a, const Lines& b) {
     return a;
 }
 
+// Blanks and hyphens come and go where lines are joined.
+QString letters(QString text) {
+    static const QRegularExpression others("[\\s\\x{ad}\\x{2010}-]");
+    return text.remove(others);
+}
+
+// The letters of the lines that a block is made of, of pages in the order in which they are read.
+QString lettersOfLines(const ReadingBlock& block, const std::vector<Lines>& ordered) {
+    QString found;
+    for (const auto& [position, first, count] : block.lines) {
+        for (std::size_t i = first; i < first + count; ++i) {
+            for (const PDFTextWord& word : ordered[std::size_t(position) - 1].at(i).words)
+                found += letters(word.text);
+        }
+    }
+    return found;
+}
+
 // One text for each block, with its kind before it unless it is a paragraph.
 QStringList read(const std::vector<Lines>& pages,
                  const std::vector<Headings::Entry>& outline = {}) {
     BookReading reading;
     int position = 0;
+    std::vector<Lines> ordered;
     for (const Lines& page : pages)
-        reading.addPage(++position, page, {});
+        ordered.push_back(reading.addPage(++position, page, {}));
     static const QStringList kinds{"", "h", "item ", "note ", "code ", "row "};
     QStringList texts;
     for (const ReadingBlock& block : reading.finish(outline)) {
         const QString level = block.level > 0 ? QString::number(block.level) + ' ' : QString();
+        EXPECT_EQ(lettersOfLines(block, ordered), letters(block.text()));
         texts << kinds[int(block.kind)] + level + block.text().replace('\t', '|');
     }
     return texts;
