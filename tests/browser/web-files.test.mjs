@@ -1,5 +1,6 @@
 import assert from 'node:assert/strict';
 import { readFile, rm, writeFile } from 'node:fs/promises';
+import { createServer } from 'node:http';
 import path from 'node:path';
 import { test } from 'node:test';
 import { pathToFileURL } from 'node:url';
@@ -85,6 +86,33 @@ test('a published book in one file is read from disk without a network', ready, 
   await book.page.locator('.hit.current').first().waitFor();
   const asked = book.requests.filter((address) => !/^(?:blob|data):/.test(address));
   assert.deepEqual([asked, book.errors], [[pathToFileURL(path.join(folder, 'index.html')).href], []]);
+});
+
+test('a book in one file is read while the rest of it is on its way', ready, async () => {
+  const folder = path.join(reader.folder, 'arriving');
+  await folvero('publish', '--quiet', '--single-file', '--pages=1-8', sample('sample'), folder);
+  const html = await readFile(path.join(folder, 'index.html'));
+  const cut = html.indexOf('data-file="large/4"') + 200;
+  let arrive;
+  const server = createServer((_, response) => {
+    response.writeHead(200, { 'Content-Type': 'text/html' });
+    response.write(html.subarray(0, cut));
+    arrive = () => response.end(html.subarray(cut));
+  });
+  await new Promise((resolve) => { server.listen(0, '127.0.0.1', resolve); });
+  const page = await reader.browser.newPage({ reducedMotion: 'reduce' });
+  await page.goto(`http://127.0.0.1:${server.address().port}/`, { waitUntil: 'commit' });
+  await page.waitForSelector('#folvero[data-state="ready"]');
+  await page.keyboard.press('ArrowRight');
+  await page.waitForSelector('.page.right[data-page="3"][data-image="ready"]');
+  await page.keyboard.press('ArrowRight');
+  await page.waitForSelector('.page.left[data-page="4"][data-image="loading"]');
+  assert.equal(await page.evaluate(() => document.readyState), 'loading');
+  arrive();
+  await page.waitForSelector('.page.left[data-page="4"][data-image="ready"]');
+  await page.waitForSelector('.over.left .word', { state: 'attached' });
+  await page.close();
+  server.close();
 });
 
 test('a published book opens with the list in its page, and with its files where the list is damaged', ready, async () => {
