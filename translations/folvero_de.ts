@@ -1646,6 +1646,186 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <source>The height of the document&apos;s pages in points, noted at import; a book takes its shape from its pages, so a change here has no effect.</source>
         <translation>Die Höhe der Seiten des Dokuments in Punkt, beim Import festgehalten; ein Buch richtet sich nach seinen Seiten, eine Änderung hier hat deshalb keine Wirkung.</translation>
     </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Verlag</translation>
+    </message>
+    <message>
+        <source>Your logo and colour, how the book opens, and what readers may take with them; styles leave this as it is.</source>
+        <translation>Ihr Logo, Ihre Farbe, wie sich das Buch öffnet und was man daraus mitnehmen kann; Stile ändern daran nichts.</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>A picture in an upper corner of the window, at most 40 pixels high.</source>
+        <translation>Ein Bild in einer oberen Ecke des Fensters, höchstens 40 Pixel hoch.</translation>
+    </message>
+    <message>
+        <source>Logo link</source>
+        <translation>Link des Logos</translation>
+    </message>
+    <message>
+        <source>Where the logo leads: an address that begins with https://, http:// or mailto: (no other is followed).</source>
+        <translation>Wohin das Logo führt: eine Adresse, die mit https://, http:// oder mailto: beginnt (andere gelten nicht).</translation>
+    </message>
+    <message>
+        <source>Accent colour</source>
+        <translation>Akzentfarbe</translation>
+    </message>
+    <message>
+        <source>The colour of the main buttons and of what is chosen in dialogs; writing on it turns dark or light to suit.</source>
+        <translation>Die Farbe der wichtigsten Knöpfe und dessen, was in Dialogen gewählt ist; die Schrift darauf wird passend dunkel oder hell.</translation>
+    </message>
+    <message>
+        <source>First view</source>
+        <translation>Erste Ansicht</translation>
+    </message>
+    <message>
+        <source>How the pages lie until a reader chooses otherwise: as it suits the window, one page, or two; phones show what suits them.</source>
+        <translation>Wie die Seiten liegen, bis jemand anders wählt: wie es zum Fenster passt, eine Seite oder zwei; Telefone zeigen, was zu ihnen passt.</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>One page</source>
+        <translation>Eine Seite</translation>
+    </message>
+    <message>
+        <source>Two pages</source>
+        <translation>Zwei Seiten</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Readers can download the imported PDF, with all of its pages. Books in one file, previews and documents that open with a password only never offer it.</source>
+        <translation>Das importierte PDF kann heruntergeladen werden, mit allen seinen Seiten. Bücher in einer Datei, Leseproben und Dokumente mit Passwort bieten es nie an.</translation>
+    </message>
+    <message>
+        <source>Offer the PDF for download</source>
+        <translation>PDF zum Herunterladen anbieten</translation>
+    </message>
+    <message>
+        <source>Buttons</source>
+        <translation>Knöpfe</translation>
+    </message>
+    <message>
+        <source>What the bar offers to readers. A button that is not shown has no key either; styles leave this as it is.</source>
+        <translation>Was die Leiste anbietet. Ein Knopf, der nicht gezeigt wird, hat auch keine Taste; Stile ändern daran nichts.</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>The table of contents, of web books.</source>
+        <translation>Das Inhaltsverzeichnis, in Webbüchern.</translation>
+    </message>
+    <message>
+        <source>Show the button</source>
+        <translation>Knopf zeigen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>The search, of web books.</source>
+        <translation>Die Suche, in Webbüchern.</translation>
+    </message>
+    <message>
+        <source>Reading view</source>
+        <translation>Leseansicht</translation>
+    </message>
+    <message>
+        <source>The text as a page to scroll, of web books.</source>
+        <translation>Der Text als Seite zum Scrollen, in Webbüchern.</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Seitenübersicht</translation>
+    </message>
+    <message>
+        <source>The row of small pages.</source>
+        <translation>Die Reihe kleiner Seiten.</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Enlarging by button and key; a double click or two fingers always enlarge.</source>
+        <translation>Vergrößern mit Knopf und Taste; Doppelklick und zwei Finger vergrößern immer.</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>The choice of one page or two, and of the paper.</source>
+        <translation>Die Wahl zwischen einer Seite und zweien, und des Papiers.</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Turning pages by itself.</source>
+        <translation>Das Blättern von selbst.</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>The switch for sounds.</source>
+        <translation>Der Schalter für Geräusche.</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>The link to the page that is shown.</source>
+        <translation>Der Link zu der Seite, die gezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Keep offline</source>
+        <translation>Offline behalten</translation>
+    </message>
+    <message>
+        <source>Keeping a web book to read it without a connection.</source>
+        <translation>Ein Webbuch behalten, um es ohne Verbindung zu lesen.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Printing pages; the command of the browser still prints those in view.</source>
+        <translation>Seiten drucken; der Befehl des Browsers druckt weiterhin die gezeigten.</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Reading in full screen.</source>
+        <translation>Lesen im Vollbild.</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>The list of keys and gestures.</source>
+        <translation>Die Liste der Tasten und Gesten.</translation>
+    </message>
 </context>
 <context>
     <name>TmplStylePainter</name>

@@ -1,9 +1,11 @@
 import { applyLook } from './book/backdrop.js';
 import { Book } from './book/book.js';
 import { loadConfiguration } from './book/config.js';
-import { part } from './book/dom.js';
+import { make, part } from './book/dom.js';
 import { fullLabel, labelOf } from './book/labels.js';
+import { addLogo } from './book/logo.js';
 import { playEntrance } from './book/opening.js';
+import { fileAddress } from './book/values.js';
 import { learn, loadMore, say, setTexts } from './book/words.js';
 import { Turner } from './turning/turner.js';
 import { Gestures } from './controls/gestures.js';
@@ -54,6 +56,7 @@ function announcement(pages, config) {
  */
 function followWindow(root, turner, drawer, page) {
   const { book } = turner;
+  const placeLogo = addLogo(root, book);
   let size = '';
   const fit = () => {
     const now = [root.clientWidth, root.clientHeight, book.beside, book.choice, book.firstAlone, book.tint].join();
@@ -65,6 +68,7 @@ function followWindow(root, turner, drawer, page) {
     turner.resized();
     turner.stand(book.views.viewOf(page()));
     drawer.lay();
+    placeLogo();
   };
   new ResizeObserver(fit).observe(root);
   fit();
@@ -110,6 +114,11 @@ function addControls(root, turner, sounds) {
     full: () => toolbar.toggleFullScreen(),
     share: () => sharing.open(),
     print: () => printing.open(),
+    download: () => {
+      const link = make('a', '');
+      Object.assign(link, { href: fileAddress(config.download), download: document.title + '.pdf' });
+      link.click();
+    },
     help: () => helping.open(),
     more: () => menu.open(),
     goTo: () => toolbar.askForPage(),

@@ -147,6 +147,7 @@ function addReading(player, layers, room) {
   const load = once(() => files.run('reading').then((make) =>
     /** @type {typeof import('./readingpart.js').makeReading} */ (make)(player, layers, files, room, button)));
   commands.reading = later(player, load, (view) => view.toggle());
+  if (button.hidden) return;
   layers.fillers.push(({ text, box }) => {
     if (!text || text.lines.length < FEWEST_LINES || text.lineHeight * box.clientHeight >= SMALL * text.height) return;
     load().then((view) => view.offer(), () => {});

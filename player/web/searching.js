@@ -282,6 +282,7 @@ export class Searching {
   #key(event) {
     const asked = (event.ctrlKey || event.metaKey) && !event.altKey && !event.shiftKey && event.key.toLowerCase() === 'f';
     if (!asked || document.activeElement === this.box || this.room.root.dataset.state !== 'ready') return;
+    if (this.panel.button.hidden) return;
     if (this.room.root.querySelector('dialog.panel[open]')) return;
     event.preventDefault();
     this.panel.show();

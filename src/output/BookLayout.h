@@ -27,6 +27,8 @@ public:
     // Every book.
     static inline const QString configuration = QStringLiteral("files/UserConfig.bin");
     static inline const QString configurationScript = QStringLiteral("files/UserConfig.js");
+    // The PDF that readers may download.
+    static inline const QString document = QStringLiteral("files/extfiles/document.pdf");
     // Texts of languages that the page's script does not have itself.
     static inline const QString languageScript = QStringLiteral("files/languages.js");
     static inline const QString sound = QStringLiteral("files/extfiles/moveSound.mp3");

@@ -5,6 +5,7 @@
 #include "output/BookName.h"
 #include "output/BookXML.h"
 #include "output/ExistingBook.h"
+#include "pdf/PDFDocument.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
@@ -165,7 +166,9 @@ QStringList BookSteps::clearedFiles(const BookLayout& layout, const FlashTemplat
     const std::pair<QString, QStringList> settings[] = {
         {QStringLiteral("innerMainbgImgUrl"), images},
         {QStringLiteral("mainbgImgUrl"), images},
-        {QStringLiteral("backgroundSoundURL"), {QStringLiteral("mp3")}}};
+        {QStringLiteral("backgroundSoundURL"), {QStringLiteral("mp3")}},
+        {QStringLiteral("logoFile"),
+         images + QStringList{QStringLiteral("jpeg"), QStringLiteral("svg")}}};
     QStringList files;
     for (const auto& [key, extensions] : settings) {
         if (flashTemplate && !flashTemplate->propertyValueFor(key, empty).isEmpty())
@@ -251,6 +254,14 @@ PublishStep BookSteps::sound(const FlashTemplate* flashTemplate) {
     return {"sound", [=](PublishTarget& to) {
                 copyTemplateFile(to, flashTemplate, BookLayout::sound,
                                  &FlashTemplate::copyBookSoundFile);
+            }};
+}
+
+PublishStep BookSteps::document(const PDFDocument* source, const QString& path) {
+    return {"document", [=](PublishTarget& to) {
+                to.checkCancelled();
+                if (!path.isEmpty())
+                    to.transaction.copy(source->path(), to.layout.at(path), Copy::independent);
             }};
 }
 

@@ -11,6 +11,7 @@
 class FlashPagesAnnotations;
 class FlashTemplate;
 class FlashTemplateProperty;
+class PDFDocument;
 
 // The steps that make a classic book, most of which other kinds of books share. Each stages files
 // of one kind; files whose source is missing are left out. What is passed must live as long as the
@@ -49,6 +50,9 @@ bool isInFolder(const BookLayout& layout, const QString& page);
 // The template's Flash movie, and its sound of a turning page.
 PublishStep movie(const FlashTemplate* flashTemplate);
 PublishStep sound(const FlashTemplate* flashTemplate);
+
+// The document that readers may download, at a path in the book; none for an empty path.
+PublishStep document(const PDFDocument* source, const QString& path);
 
 // Texts of languages that the player in the template's page does not have itself; none where the
 // page loads none.

@@ -3,6 +3,7 @@
 #include "output/BookLayout.h"
 #include "output/BookName.h"
 #include "output/ImageSize.h"
+#include "output/PublisherChoices.h"
 #include "output/UserConfig.h"
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
@@ -152,11 +153,12 @@ void Writer::appendSound(pugi::xml_node background) const {
 
 std::unique_ptr<pugi::xml_document> BookXML::make(const FlashTemplate* flashTemplate,
                                                   const std::vector<PageURLs>& pages,
-                                                  QSize pageSize) {
-    auto document = std::make_unique<pugi::xml_document>();
-    pugi::xml_node root = document->append_child("SlidePowerPoint");
+                                                  QSize pageSize, const QString& document) {
+    auto xml = std::make_unique<pugi::xml_document>();
+    pugi::xml_node root = xml->append_child("SlidePowerPoint");
     const Writer writer(flashTemplate);
     writer.appendProperties(root);
+    PublisherChoices::append(root.last_child(), flashTemplate, document);
     writer.appendBackground(root);
     const PixelSize size{pageSize.width(), pageSize.height()};
     const PixelSize thumbnail = thumbnailSize(size);
@@ -166,7 +168,7 @@ std::unique_ptr<pugi::xml_document> BookXML::make(const FlashTemplate* flashTemp
         appendPage(page, "Normal", normalURL, size);
         appendPage(page, "Thumb", thumbnailURL, thumbnail);
     }
-    return document;
+    return xml;
 }
 
 QByteArray BookXML::enciphered(const pugi::xml_document& configuration, unsigned format) {

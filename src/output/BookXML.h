@@ -19,9 +19,10 @@ struct PageURLs {
     QString thumbnail;
 };
 
-// pageSize is in points.
+// pageSize is in points; document: the path in the book of one to download, empty for none.
 std::unique_ptr<pugi::xml_document> make(const FlashTemplate* flashTemplate,
-                                         const std::vector<PageURLs>& pages, QSize pageSize);
+                                         const std::vector<PageURLs>& pages, QSize pageSize,
+                                         const QString& document = {});
 
 // As files and pages of a book contain it. format: of pugixml.
 QByteArray enciphered(const pugi::xml_document& configuration, unsigned format);

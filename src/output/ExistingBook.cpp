@@ -156,6 +156,8 @@ QStringList ExistingBook::files(const QString& folder) {
         names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData)
               << numberedFiles(folder, BookLayout::search)
               << numberedFiles(folder, BookLayout::reading);
+    if (document.document_element().child("Properties").child("DownloadFile"))
+        names << BookLayout::document;
     if (isLanguages(Files::join(folder, BookLayout::languageScript)))
         names << BookLayout::languageScript;
     if (isIIIFManifest(Files::join(folder, BookLayout::iiifManifest)))

@@ -5,6 +5,7 @@
 #include "output/BookXML.h"
 #include "output/ExistingBook.h"
 #include "output/ForeignFiles.h"
+#include "output/PublisherChoices.h"
 #include "output/StagingFolder.h"
 #include "system/Files.h"
 
@@ -102,7 +103,9 @@ PublishSteps FolveroOutput::steps() {
                  << BookSteps::htmlPage(outputHTMLFileName(), flashTemplate, iHTMLConfig.get())
                  << BookSteps::configuration(layout().at(BookLayout::configuration), bookXML())
                  << BookSteps::movie(flashTemplate) << BookSteps::sound(flashTemplate)
-                 << BookSteps::languages(flashTemplate);
+                 << BookSteps::languages(flashTemplate)
+                 << BookSteps::document(iBook.document.get(),
+                                        PublisherChoices::documentPath(flashTemplate, iBook));
 }
 
 PublishStep FolveroOutput::pages() {
@@ -202,7 +205,8 @@ std::unique_ptr<pugi::xml_document> FolveroOutput::bookXML() const {
         const FlashPage& page = normal ? *normal : *entry;
         pages.push_back({getNormalPageURL(page), getThumbPageURL(page)});
     }
-    return BookXML::make(iFlashTemplate.get(), pages, iBook.pageSize);
+    return BookXML::make(iFlashTemplate.get(), pages, iBook.pageSize,
+                         PublisherChoices::documentPath(iFlashTemplate.get(), iBook));
 }
 
 void FolveroOutput::SaveXMLProperties(pugi::xml_node parent, const QString& nodeName,

@@ -66,7 +66,8 @@ QStringList ForeignFiles::page(const QString& path) {
 }
 
 QStringList ForeignFiles::ofBook(const BookLayout& book, const FlashTemplate* flashTemplate) {
-    QStringList keys{QFileInfo(BookLayout::sound).baseName()};
+    QStringList keys{QFileInfo(BookLayout::sound).baseName(),
+                     QFileInfo(BookLayout::document).baseName()};
     if (flashTemplate) {
         for (const auto& property : flashTemplate->properties()) {
             if (property)

@@ -4,6 +4,7 @@
 #include "output/BookSteps.h"
 #include "output/ExistingBook.h"
 #include "output/ForeignFiles.h"
+#include "output/PublisherChoices.h"
 #include "output/StagingFolder.h"
 #include "system/Files.h"
 #include "webbook/IIIFManifest.h"
@@ -89,6 +90,9 @@ WebBook FolveroOutputWeb::webBook() const {
     book.hasText = iIncludesForbiddenText || book.metadata.allowsText;
     if (!iIsSingleFile) {
         book.player = iSharedPlayer;
+        // A preview must not come with all pages.
+        if (!iOpenPages)
+            book.download = PublisherChoices::documentPath(iFlashTemplate.get(), iBook);
         if (book.hasText)
             book.metadata.textPage = BookLayout::textPage;
         if (const WebPage* first = book.firstPage(); first && !first->thumbnail.isNull())
@@ -119,7 +123,8 @@ PublishSteps FolveroOutputWeb::contents(const WebBook& book) {
             BookSteps::pages(book.pictures(), book.content.pageSource.get(), book.kindOfCopy,
                              iMissingPages),
             BookSteps::settingsFiles(book.flashTemplate.get()),
-            BookSteps::linkedFiles(book.content.annotations.get())};
+            BookSteps::linkedFiles(book.content.annotations.get()),
+            BookSteps::document(book.content.document.get(), book.download)};
 }
 
 PublishSteps FolveroOutputWeb::configuration(const WebBook& book) const {

@@ -41,9 +41,11 @@ enum class Kind { shell, picture, text, last, none };
 
 Kind kindOf(const QString& path, const QString& page) {
     // Browsers request sounds in ranges, which the service worker does not handle; the page has a
-    // start list in place of the configuration; other sites show the picture for links.
+    // start list in place of the configuration; other sites show the picture for links; a download
+    // is kept elsewhere.
     if (MediaType::ofFile(path).startsWith("audio/") || path == BookLayout::configuration ||
-        path == BookLayout::configurationScript || path == BookLayout::shareImage)
+        path == BookLayout::configurationScript || path == BookLayout::shareImage ||
+        path == BookLayout::document)
         return Kind::none;
     if (BookLayout::isIn(BookLayout::largePages, path) ||
         BookLayout::isIn(BookLayout::reading, path) || path == BookLayout::textPage ||

@@ -155,7 +155,7 @@ std::unique_ptr<pugi::xml_document> WebBook::configuration(std::size_t count) co
         urls.push_back({BookLayout::inFiles(picturePath(pages[i])),
                         BookLayout::inFiles(thumbnailPath(pages[i]))});
     }
-    return BookXML::make(flashTemplate.get(), urls, content.pageSize);
+    return BookXML::make(flashTemplate.get(), urls, content.pageSize, download);
 }
 
 const WebPage* WebBook::firstPage() const {

@@ -28,6 +28,7 @@ struct WebBook {
     ShareImage shareImage;                      // empty for none
     std::shared_ptr<const SharedPlayer> player; // null: the book has its own
     bool hasText = true;   // otherwise without words to select, search and the page of text
+    QString download;      // path in the book of one that readers may download; empty for none
     bool isCourse = false; // it reports to a learning platform
     PublishTransaction::Copy kindOfCopy = PublishTransaction::Copy::independent;
 

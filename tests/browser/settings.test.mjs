@@ -1,4 +1,5 @@
 import assert from 'node:assert/strict';
+import { readFile } from 'node:fs/promises';
 import { test } from 'node:test';
 import { plainPages } from './support/book.mjs';
 import { Reader } from './support/reader.mjs';
@@ -63,4 +64,47 @@ test('InitialShow says how the book comes in', async () => {
 test('AutoPlay turns from the start', async () => {
   const book = await open({ AutoPlay: 'Yes', SlideInterval: '0.2' });
   await book.waitForPages(2, 3);
+});
+
+test('the publisher takes buttons away with their keys, colours the others and leads to the own site', async () => {
+  const logo = { 'extfiles/logo.png': plainPages(1, 80, 20)[0].bytes };
+  const values = { HiddenButtons: 'print share play sound "] zoomIn', AccentColor: '0xf0c000', LogoFile: 'extfiles/logo.png' };
+  const folder = async (more) => reader.book({ pages: plainPages(4), extras: logo, values: { ...values, ...more } });
+  const book = await reader.openFromDisk(await folder({ LogoLink: 'https://example.org/' }));
+  await book.page.keyboard.press('?');
+  assert.match(await book.page.locator('.letters').innerText(), /T\s+Thumbnails/);
+  assert.doesNotMatch(await book.page.locator('.letters').innerText(), /Print|Share|Sound/);
+  await book.page.keyboard.press('Escape');
+  await book.page.keyboard.press('p');
+  assert.equal(await book.page.locator('dialog[open], .bar [data-does="print"]:visible').count(), 0);
+  assert.equal(await book.page.locator('.bar > .rule:visible').count(), 2, 'no line where a group is empty');
+  const button = await book.page.locator('.copy').evaluate((one) => [getComputedStyle(one).backgroundColor, getComputedStyle(one).color]);
+  assert.deepEqual(button, ['rgb(240, 192, 0)', 'rgb(20, 24, 29)']);
+  assert.equal(await book.page.getByRole('link', { name: 'example.org' }).getAttribute('href'), 'https://example.org/');
+  const hostile = await reader.openFromDisk(await folder({ LogoLink: 'javascript:alert(1)', AccentColor: 'url(x)' }));
+  assert.equal(await hostile.page.locator('.logo img').count(), 1);
+  assert.equal(await hostile.page.locator('a.logo').count(), 0);
+  assert.deepEqual([...book.errors, ...hostile.errors], []);
+});
+
+test('a book opens with the view of its publisher until its reader chooses', async () => {
+  const book = await open({ FirstView: 'One page' }, { hash: '#page=2' });
+  assert.deepEqual(await book.pages(), [2]);
+  await book.page.keyboard.press('2');
+  await book.waitForPages(2, 3);
+  await book.page.reload();
+  await book.waitForPages(2, 3);
+  assert.deepEqual(await (await open({ FirstView: 'Sideways' }, { hash: '#page=2' })).pages(), [2, 3]);
+});
+
+test('readers download the document where the publisher offers it', async () => {
+  const extras = { 'extfiles/document.pdf': Buffer.from('%PDF-1.7 whole') };
+  const values = { DownloadFile: 'extfiles/document.pdf' };
+  const book = await reader.openOverHttp(await reader.book({ pages: plainPages(4), extras, values, title: 'Tea' }));
+  const asked = book.page.waitForEvent('download');
+  await book.use('download');
+  const file = await asked;
+  assert.equal(file.suggestedFilename(), 'Tea.pdf');
+  assert.equal(await readFile(await file.path(), 'utf8'), '%PDF-1.7 whole');
+  assert.equal(await (await open({ DownloadFile: '../x.pdf' })).page.locator('[data-does="download"]:visible').count(), 0);
 });

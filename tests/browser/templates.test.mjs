@@ -25,6 +25,13 @@ function settingsOf(template, style) {
   }));
 }
 
+/** Of the publisher, whatever the style. */
+const BUTTONS = ['showContents', 'showSearch', 'showReadingView', 'showThumbnails', 'showZoom', 'showView', 'showAutoPlay',
+  'showSound', 'showShare', 'showKeep', 'showPrint', 'showFullScreen', 'showHelp'];
+const ALL_BUTTONS = 'contents search reading thumbs zoomIn zoomOut view viewOne viewTwo viewWidth night play sound share'
+  + ' keep print full help';
+const OWN = ['logoFile', 'logoLink', 'accentColor', 'firstView', 'offerDocument', ...BUTTONS];
+
 const LEGAL = {
   pt_text: () => true,
   pt_number: (value) => /^-?\d+(\.\d+)?$/.test(value),
@@ -43,7 +50,7 @@ for (const template of templates) {
       assert.ok(LEGAL[type](rest.value, rest), `${key}: ${rest.value}`);
       assert.equal(rest.value, rest.defaultValue, key);
     }
-    const set = properties.filter(({ key }) => !INFORMATION.includes(key));
+    const set = properties.filter(({ key }) => !INFORMATION.includes(key) && !OWN.includes(key));
     const styles = readdirSync(path.join(library, 'Styles', template));
     assert.ok(styles.length >= 4 && styles.includes('Blank'), styles.join());
     for (const style of styles) {
@@ -77,6 +84,10 @@ const EFFECTS = {
   innerMainbgImgPosition: ['InnerBackgroundPosition', 'Top left'], backgroundSoundLoop: ['SoundLoops', '7'],
   mainbgImgUrl: ['OuterBackgroundFile', picture, 'extfiles/mainbgImgUrl.jpg'],
   innerMainbgImgUrl: ['InnerBackgroundFile', picture, 'extfiles/innerMainbgImgUrl.jpg'],
+  logoFile: ['LogoFile', picture, 'extfiles/logoFile.jpg'], logoLink: ['LogoLink', 'https://example.org'],
+  accentColor: ['AccentColor', '0x0d0e0f'], firstView: ['FirstView', 'Two pages'],
+  offerDocument: ['DownloadFile', 'YES', 'extfiles/document.pdf'],
+  ...Object.fromEntries(BUTTONS.map((key) => [key, ['HiddenButtons', 'No', ALL_BUTTONS]])),
   backgroundSoundURL: ['SoundFile', path.join(TEMPLATE, 'moveSound.mp3'), 'extfiles/backgroundSoundURL.mp3'],
 };
 test('every property changes the published book', ready, async (t) => {

@@ -397,3 +397,23 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
     }
     EXPECT_GT(looked, 30);
 }
+
+TEST_F(WebBookTest, OffersTheDocumentWhereAllOfItMayBeRead) {
+    const QString offer = "--set=offerDocument=Yes";
+    const auto offered = [&](const QStringList& options, const QString& sample = "text.pdf") {
+        publishWeb(sample, QStringList{"--pages=1"} + options);
+        const bool isThere = QFileInfo::exists(file("files/extfiles/document.pdf"));
+        const auto decoded = Program::run({"decode", file("files/UserConfig.bin")});
+        EXPECT_EQ(decoded.output.contains("<DownloadFile>extfiles/document.pdf<"), isThere);
+        EXPECT_FALSE(TestFiles::read(file("files/web/offline.json")).contains("document.pdf"));
+        return isThere;
+    };
+    EXPECT_FALSE(offered({}));
+    EXPECT_TRUE(offered({offer}));
+    EXPECT_EQ(TestFiles::read(file("files/extfiles/document.pdf")), TestFiles::read(iPDF));
+    EXPECT_FALSE(offered({})) << "it goes when it is no longer offered";
+    EXPECT_FALSE(offered({offer, "--preview-pages=1"}));
+    qputenv("FOLVERO_PASSWORD", "secret");
+    EXPECT_FALSE(offered({offer}, "encrypted.pdf"));
+    qunsetenv("FOLVERO_PASSWORD");
+}

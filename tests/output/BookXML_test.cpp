@@ -80,6 +80,32 @@ TEST(BookXML, TakesEachValueFromTheTemplateAsItStands) {
               "SoundFile= SoundLoops=backgroundSoundLoop");
 }
 
+TEST(BookXML, HasWhatThePublisherDecidesOnlyWhereThatDiffers) {
+    const auto propertiesOf = [](const std::vector<std::pair<QString, QString>>& values) {
+        QString nested;
+        for (const auto& [key, value] : values)
+            nested += TemplateLibrary::property(key, value);
+        const PublishedBook book(TemplateLibrary::composite("group", nested));
+        return within(configurationOf(book), "Properties").section(" LoopPlay=Yes", 1).trimmed();
+    };
+    EXPECT_EQ(propertiesOf({{"logoFile", ""},
+                            {"logoLink", "https://example.org"},
+                            {"showPrint", "Yes"},
+                            {"showHelp", ""},
+                            {"firstView", "Automatic"},
+                            {"accentColor", "0X2B5876"},
+                            {"offerDocument", "Yes"}}),
+              "");
+    EXPECT_EQ(propertiesOf({{"logoFile", "/a/my logo.svg"},
+                            {"logoLink", "https://example.org"},
+                            {"showPrint", "No"},
+                            {"showZoom", "NO"},
+                            {"firstView", "Two pages"},
+                            {"accentColor", "0xf0c000"}}),
+              "LogoFile=extfiles/logoFile.svg LogoLink=https://example.org "
+              "HiddenButtons=zoomIn zoomOut print FirstView=Two pages AccentColor=0xf0c000");
+}
+
 TEST(BookXML, KeepsAnyTextThatXmlCanHold) {
     PublishedBook book(TemplateLibrary::property("TutorialTitle", QString()));
     const QString title = " <a> & \"\u4e66\U0001F4D6\" ";

@@ -13,3 +13,11 @@ export function mayFollow(address) {
     return false;
   }
 }
+
+/**
+ * How an address for the web or for mail is shown, without what is the same in all; empty for others.
+ * @param {string} text
+ */
+export function webAddress(text) {
+  return /^(?:https?:\/\/|mailto:)/i.test(text) && mayFollow(text) ? text.replace(/^https?:\/\/|^mailto:|\/$/gi, '') : '';
+}

@@ -1,5 +1,5 @@
 import { mayFollow } from './addresses.js';
-import { writingOn } from './contrast.js';
+import { blend, contrast, ENOUGH, writingOn } from './contrast.js';
 import { part } from './dom.js';
 import { fileAddress } from './values.js';
 
@@ -23,6 +23,10 @@ const POSITIONS = new Map([
   ['bottom right', ['right bottom', 'own', 'no-repeat']],
 ]);
 
+/** Colours of panels in the style sheet. */
+const PANEL = '#ffffff';
+const PANEL_INK = '#1e242b';
+
 /** Opacity of bar and drawer where their colour allows it. */
 const SURFACE = 0.94;
 
@@ -40,6 +44,20 @@ export function applyLook(root, config) {
   root.style.setProperty('--read-from', config.rightToLeft ? '100%' : '0%');
   root.dataset.bar = config.hideBar ? 'no' : 'yes';
   writeCaption(part(root, '.caption'), config.caption);
+  if (config.accent) paintAccent(root, config.accent);
+}
+
+/**
+ * Sets the colour of main buttons, and for writing in it the nearest one that is readable on panels.
+ * @param {HTMLElement} root
+ * @param {string} colour
+ */
+function paintAccent(root, colour) {
+  const shares = [1, 0.9, 0.8, 0.7, 0.6, 0.5, 0.4, 0.3, 0.2, 0.1, 0];
+  const texts = shares.map((share) => blend(colour, PANEL_INK, share));
+  root.style.setProperty('--accent', colour);
+  root.style.setProperty('--accent-ink', writingOn(colour, 1).ink);
+  root.style.setProperty('--accent-text', texts.find((text) => contrast(text, PANEL) >= ENOUGH) ?? PANEL_INK);
 }
 
 /**

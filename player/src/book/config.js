@@ -45,6 +45,11 @@ export class BookError extends Error {
  * @property {Ground} outer
  * @property {Ground} inner
  * @property {{file: string, loops: number}} sound loops below 0: for ever
+ * @property {{file: string, link: string}} logo
+ * @property {string} accent colour, empty for the player's own
+ * @property {string} firstView "one", "two" or nothing that is known: as it suits the window
+ * @property {string[]} hidden names of commands that readers do not have
+ * @property {string} download path of a PDF, empty for none
  * @property {PageEntry[]} pages
  * @property {PageEntry[]} thumbs as many as pages
  * @property {string[] | null} labels what pages are called, empty texts and none: by their numbers
@@ -152,6 +157,11 @@ export function readConfiguration(text, entries) {
       file: ownFile(text('BackgroundConfig BackgroundSound SoundFile')),
       loops: Math.floor(numberIn(text('BackgroundConfig BackgroundSound SoundLoops'), -1, -1, 1e4)),
     },
+    logo: { file: ownFile(text('Properties LogoFile')), link: text('Properties LogoLink') },
+    accent: cssColour(text('Properties AccentColor'), ''),
+    firstView: text('Properties FirstView').toLowerCase().split(' ')[0],
+    hidden: text('Properties HiddenButtons').split(' '),
+    download: ownFile(text('Properties DownloadFile')),
     pages: entries.map(({ page }) => page),
     thumbs: entries.map(({ thumb }) => thumb),
     labels: null,

@@ -1,7 +1,7 @@
 import { luminance } from './values.js';
 
 /** Minimum contrast between text and background, as WCAG AA asks. */
-const ENOUGH = 4.5;
+export const ENOUGH = 4.5;
 const INKS = ['#ffffff', '#14181d', '#000000'];
 
 /**

@@ -31,6 +31,7 @@ export class Toolbar {
     this.#wireComing();
     this.#wirePageBox();
     this.#wireFullScreen();
+    this.#hideCommands();
     this.folding = new Folding(root, this.bar);
     this.tips = new Tips(root);
     this.show();
@@ -134,8 +135,24 @@ export class Toolbar {
   add(button, next) {
     part(this.bar, '[data-does="' + next + '"]').before(button);
     this.#wireButton(button);
+    this.#hideCommands();
     this.folding.collect();
     this.folding.fit();
+  }
+
+  /** Takes away what the publisher does not offer; keys and help follow, and lines between groups that are empty. */
+  #hideCommands() {
+    const { hidden, download } = this.turner.book.config;
+    for (const one of /** @type {NodeListOf<HTMLElement>} */ (this.root.querySelectorAll('[data-does]'))) {
+      const { does = '' } = one.dataset;
+      if (hidden.includes(does)) one.hidden = true;
+      if (does === 'download') one.hidden = !download;
+    }
+    for (const rule of /** @type {NodeListOf<HTMLElement>} */ (this.bar.querySelectorAll('.rule'))) {
+      let next = /** @type {HTMLElement | null} */ (rule.nextElementSibling);
+      while (next?.hidden) next = /** @type {HTMLElement | null} */ (next.nextElementSibling);
+      rule.hidden = !next || next.matches('.rule');
+    }
   }
 
   /** Shows the bar on pointer and key events; a finger that swipes or scrolls must not cover what it moves. */

@@ -25,7 +25,9 @@ export class Viewing {
     this.panel = new Panel(part(root, '.view-panel'));
     this.first = /** @type {HTMLInputElement} */ (part(root, '.first-alone'));
     this.onChange = () => {};
-    book.choice = CHOICES.find((choice) => choice === recall('view')) ?? 'auto';
+    // Two pages would be tiny on a phone, unless its reader wants them.
+    const first = matchMedia('(max-width: 600px)').matches ? 'auto' : book.config.firstView;
+    book.choice = CHOICES.find((choice) => choice === (recall('view') ?? first)) ?? 'auto';
     book.firstAlone = recall('first') !== 'paired';
     this.root = root;
     this.dark = matchMedia('(prefers-color-scheme: dark)');

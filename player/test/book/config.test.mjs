@@ -32,6 +32,9 @@ const meanings = [
   ['BackgroundConfig BackgroundImage InnerImgWidth', '30', 'inner size width', 30],
   ['BackgroundConfig BackgroundImage InnerImgHeight', '-1', 'inner size height', 0],
   ['BackgroundConfig BackgroundSound SoundFile', '/etc/x.mp3', 'sound file', ''],
+  ['Properties LogoFile', '../logo.png', 'logo file', ''], ['Properties AccentColor', 'red', 'accent', ''],
+  ['Properties AccentColor', '0xABCDEF', 'accent', '#abcdef'], ['Properties FirstView', 'Two pages', 'firstView', 'two'],
+  ['Properties HiddenButtons', 'zoomIn print', 'hidden 1', 'print'], ['Properties DownloadFile', '/etc/x', 'download', ''],
   ['BackgroundConfig BackgroundSound SoundLoops', '2.9', 'sound loops', 2],
 ];
 test('each text of a configuration means what it says, within its limits', () => {

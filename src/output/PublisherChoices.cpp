@@ -1,0 +1,81 @@
+#include "output/PublisherChoices.h"
+
+#include "base/Log.h"
+#include "output/BookLayout.h"
+#include "output/BookName.h"
+#include "pages/Book.h"
+#include "pdf/PDFDocument.h"
+#include "template/FlashTemplate.h"
+#include "util/XMLText.h"
+
+#include <QStringList>
+
+namespace {
+
+constexpr Log logger("PublisherChoices");
+
+struct Button {
+    const char* key;
+    const char* names; // of the player's commands that go with it
+};
+
+constexpr Button buttons[] = {
+    {"showContents", "contents"},   {"showSearch", "search"},
+    {"showReadingView", "reading"}, {"showThumbnails", "thumbs"},
+    {"showZoom", "zoomIn zoomOut"}, {"showView", "view viewOne viewTwo viewWidth night"},
+    {"showAutoPlay", "play"},       {"showSound", "sound"},
+    {"showShare", "share"},         {"showKeep", "keep"},
+    {"showPrint", "print"},         {"showFullScreen", "full"},
+    {"showHelp", "help"},
+};
+
+// That of the player's own style.
+const QString usualAccent = QStringLiteral("0x2b5876");
+
+QString valueOf(const FlashTemplate* flashTemplate, const char* key) {
+    const QString none = QStringLiteral("");
+    return flashTemplate ? flashTemplate->propertyValueFor(QString::fromLatin1(key), none).trimmed()
+                         : none;
+}
+
+void appendUnlessEmpty(pugi::xml_node parent, const char* name, const QString& text) {
+    if (!text.isEmpty())
+        parent.append_child(name).text().set(XMLText::legal(text).toUtf8().constData());
+}
+
+} // namespace
+
+QString PublisherChoices::documentPath(const FlashTemplate* flashTemplate, const Book& book) {
+    if (!StringUtil::valueAsBool(valueOf(flashTemplate, "offerDocument")) || !book.document)
+        return {};
+    if (book.document->password().isEmpty())
+        return BookLayout::document;
+    logger.warn(QStringLiteral("not offered, since it opens with a password only: %1")
+                    .arg(book.document->path()));
+    return {};
+}
+
+void PublisherChoices::append(pugi::xml_node properties, const FlashTemplate* flashTemplate,
+                              const QString& document) {
+    const QString logo = valueOf(flashTemplate, "logoFile");
+    if (!logo.isEmpty()) {
+        const QString name = BookName::withExtensionOf(QStringLiteral("logoFile"), logo);
+        appendUnlessEmpty(properties, "LogoFile",
+                          BookLayout::inFiles(BookLayout::in(BookLayout::settingsFiles, name)));
+        appendUnlessEmpty(properties, "LogoLink", valueOf(flashTemplate, "logoLink"));
+    }
+    QStringList hidden;
+    for (const Button& button : buttons) {
+        const QString value = valueOf(flashTemplate, button.key);
+        if (!value.isEmpty() && !StringUtil::valueAsBool(value))
+            hidden << QString::fromLatin1(button.names);
+    }
+    appendUnlessEmpty(properties, "HiddenButtons", hidden.join(u' '));
+    const QString view = valueOf(flashTemplate, "firstView");
+    if (view.startsWith(u"One") || view.startsWith(u"Two"))
+        appendUnlessEmpty(properties, "FirstView", view);
+    const QString accent = valueOf(flashTemplate, "accentColor");
+    if (accent.compare(usualAccent, Qt::CaseInsensitive) != 0)
+        appendUnlessEmpty(properties, "AccentColor", accent);
+    appendUnlessEmpty(properties, "DownloadFile", BookLayout::inFiles(document));
+}
