@@ -1747,6 +1747,18 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <translation>Der Text als Seite zum Scrollen, in Webbüchern.</translation>
     </message>
     <message>
+        <source>Bookmarks and notes</source>
+        <translation>Lesezeichen und Notizen</translation>
+    </message>
+    <message>
+        <source>Bookmarks, highlights and notes that readers keep in their browser, of web books.</source>
+        <translation>Lesezeichen, Hervorhebungen und Notizen, die Leser in ihrem Browser behalten, in Webbüchern.</translation>
+    </message>
+    <message>
+        <source>Show the buttons</source>
+        <translation>Knöpfe zeigen</translation>
+    </message>
+    <message>
         <source>Thumbnails</source>
         <translation>Seitenübersicht</translation>
     </message>

@@ -167,6 +167,7 @@ function addNotes(player, layers, room) {
   const buttons = { bookmark: barButton('bookmark', 'B', '5.5', say), notes: barButton('notes', 'M', '6.2', say) };
   buttons.bookmark.setAttribute('aria-pressed', 'false');
   Object.values(buttons).forEach((button) => toolbar.add(button, 'thumbs'));
+  if (buttons.notes.hidden) return () => {};
   const load = once(() => files.run('notes').then((make) =>
     /** @type {typeof import('./notespart.js').makeNotes} */ (make)(player, layers, files, room, buttons)));
   commands.bookmark = later(player, load, (notes) => notes.toggleBookmark());

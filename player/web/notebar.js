@@ -163,7 +163,8 @@ export class NoteBar {
   /** @param {DOMRect[]} rects */
   #place(rects) {
     const { offsetWidth: width, offsetHeight: height, style } = this.element;
-    const { clientWidth, clientHeight } = this.root;
+    const { clientHeight } = this.root;
+    const { sight } = this.book;
     const top = Math.min(...rects.map((rect) => rect.top));
     const bottom = Math.max(...rects.map((rect) => rect.bottom));
     const [above, below] = [top - GAP - height, bottom + (this.byTouch ? HANDLES : GAP)];
@@ -172,8 +173,7 @@ export class NoteBar {
     const fits = (/** @type {number} */ y) => y >= AIR && y <= lowest;
     const y = [first, second].find(fits) ?? Math.max(AIR, Math.min(first, lowest));
     const line = y === below ? rects[rects.length - 1] : rects[0];
-    const start = this.book.beside + AIR;
-    const x = Math.max(start, Math.min((line.left + line.right - width) / 2, clientWidth - AIR - width));
+    const x = Math.max(sight.left + AIR, Math.min((line.left + line.right - width) / 2, sight.right - AIR - width));
     const transform = 'translate(' + Math.round(x) + 'px, ' + Math.round(y) + 'px)';
     if (style.transform === transform) return;
     style.transform = transform;
@@ -197,8 +197,9 @@ export class NoteBar {
     event.stopPropagation();
     const buttons = this.#buttons();
     const at = buttons.indexOf(/** @type {HTMLElement} */ (document.activeElement));
+    const right = document.documentElement.dir === 'rtl' ? -1 : 1;
     /** @type {Record<string, number>} */
-    const ways = { ArrowRight: at + 1, ArrowLeft: at - 1, Home: 0, End: -1 };
+    const ways = { ArrowRight: at + right, ArrowLeft: at - right, Home: 0, End: -1 };
     if (!(event.key in ways)) return;
     const next = /** @type {HTMLElement} */ (buttons.at(ways[event.key] % buttons.length));
     this.#rove(next);

@@ -20,12 +20,19 @@ struct Button {
 };
 
 constexpr Button buttons[] = {
-    {"showContents", "contents"},   {"showSearch", "search"},
-    {"showReadingView", "reading"}, {"showThumbnails", "thumbs"},
-    {"showZoom", "zoomIn zoomOut"}, {"showView", "view viewOne viewTwo viewWidth night"},
-    {"showAutoPlay", "play"},       {"showSound", "sound"},
-    {"showShare", "share"},         {"showKeep", "keep"},
-    {"showPrint", "print"},         {"showFullScreen", "full"},
+    {"showContents", "contents"},
+    {"showSearch", "search"},
+    {"showReadingView", "reading"},
+    {"showNotes", "bookmark notes mark"},
+    {"showThumbnails", "thumbs"},
+    {"showZoom", "zoomIn zoomOut"},
+    {"showView", "view viewOne viewTwo viewWidth night"},
+    {"showAutoPlay", "play"},
+    {"showSound", "sound"},
+    {"showShare", "share"},
+    {"showKeep", "keep"},
+    {"showPrint", "print"},
+    {"showFullScreen", "full"},
     {"showHelp", "help"},
 };
 

@@ -26,10 +26,10 @@ function settingsOf(template, style) {
 }
 
 /** Of the publisher, whatever the style. */
-const BUTTONS = ['showContents', 'showSearch', 'showReadingView', 'showThumbnails', 'showZoom', 'showView', 'showAutoPlay',
-  'showSound', 'showShare', 'showKeep', 'showPrint', 'showFullScreen', 'showHelp'];
-const ALL_BUTTONS = 'contents search reading thumbs zoomIn zoomOut view viewOne viewTwo viewWidth night play sound share'
-  + ' keep print full help';
+const BUTTONS = ['showContents', 'showSearch', 'showReadingView', 'showNotes', 'showThumbnails', 'showZoom', 'showView',
+  'showAutoPlay', 'showSound', 'showShare', 'showKeep', 'showPrint', 'showFullScreen', 'showHelp'];
+const ALL_BUTTONS = 'contents search reading bookmark notes mark thumbs zoomIn zoomOut view viewOne viewTwo viewWidth night'
+  + ' play sound share keep print full help';
 const OWN = ['logoFile', 'logoLink', 'accentColor', 'firstView', 'offerDocument', ...BUTTONS];
 
 const LEGAL = {
