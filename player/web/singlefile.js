@@ -10,6 +10,10 @@ const PASSING = /^(?:page|thumb|large)\//;
 /** Pages that the book has as vectors only. */
 const DRAWN = /^(large\/\d+)\.js$/;
 
+/** Time for which pages wait for a turn to end, and between looks at it, in milliseconds. */
+const LONGEST_TURN = 1200;
+const STEP = 50;
+
 /** Loads nothing, so that what asks for a missing file reports it. */
 const NOWHERE = 'data:,';
 
@@ -63,7 +67,11 @@ export class SingleFile {
   /** @param {string} path */
   async #make(path) {
     const [, vectors] = DRAWN.exec(path) ?? [];
-    if (vectors) return addressOfText(await svgOf(await this.data(vectors)), 'image/svg+xml');
+    if (vectors) {
+      const data = await this.data(vectors);
+      await landing();
+      return addressOfText(await svgOf(data), 'image/svg+xml');
+    }
     const element = await this.#element(path);
     if (!element) return NOWHERE;
     return isPacked(element) ? addressOfText(await textOf(element), 'text/javascript') : addressOf(element);
@@ -118,6 +126,17 @@ export class SingleFile {
       this.addresses.delete(path);
       URL.revokeObjectURL(/** @type {string} */ (address));
     }
+  }
+}
+
+/**
+ * Waits until no leaf is in the air: vectors of a page take browsers longer than a frame. The pages of a turn are there
+ * already. A reader who turns on and on gets the next ones in the middle of a turn.
+ */
+async function landing() {
+  const root = document.getElementById('folvero');
+  for (let waited = 0; root?.dataset.air === 'yes' && waited < LONGEST_TURN; waited += STEP) {
+    await new Promise((resolve) => { setTimeout(resolve, STEP); });
   }
 }
 

@@ -18,6 +18,7 @@ const textOf = async (address) => (await fetch(await address)).text();
 /** The page's end, where elements arrive one after the other. */
 let elements;
 let arrived;
+let root;
 function arrive(file, textContent, dataset = {}) {
   const element = { dataset: { file, ...dataset }, textContent, nextElementSibling: null, nextSibling: null };
   const last = elements.at(-1);
@@ -34,7 +35,8 @@ beforeEach(() => {
     observe() { arrived.push(this.call); }
     disconnect() {}
   };
-  globalThis.document = { readyState: 'loading', querySelector: () => elements[0] ?? null,
+  root = { dataset: {} };
+  globalThis.document = { getElementById: () => root, readyState: 'loading', querySelector: () => elements[0] ?? null,
     addEventListener: (kind, call) => arrived.push(call), removeEventListener() {} };
 });
 const end = () => {
@@ -67,7 +69,13 @@ test('vectors are pictures, and packed scripts are scripts', async () => {
   arrive('large/1', JSON.stringify({ vectors: packed('<svg></svg>') }));
   arrive('reading.js', packed('run()'), { packed: '' });
   end();
-  assert.equal(await textOf(single.address('large/1.js')), '<svg></svg>');
+  const { dataset } = root;
+  dataset.air = 'yes';
+  const drawn = single.address('large/1.js').then((address) => [dataset.air, address]);
+  setTimeout(() => { dataset.air = 'no'; }, 80);
+  const [air, address] = await drawn;
+  assert.equal(air, 'no', 'not while a leaf turns');
+  assert.equal(await textOf(address), '<svg></svg>');
   assert.equal(await textOf(single.address('reading.js')), 'run()');
 });
 
