@@ -1,18 +1,10 @@
 import assert from 'node:assert/strict';
 import { deflateSync } from 'node:zlib';
 import { beforeEach, test } from 'node:test';
+import { asciiOf } from '../../../tests/browser/support/webbook.mjs';
 import { SingleFile } from '../../web/singlefile.js';
 
-/** Letters in base 91 of bytes. */
-function lettersOf(bytes) {
-  const bits = [...bytes].map((byte) => byte.toString(2).padStart(8, '0')).join('');
-  const pairs = bits.match(/.{1,13}/g).map((part) => Number.parseInt(part.padEnd(13, '0'), 2));
-  const letter = (value) => (value === 25 ? '!' : String.fromCharCode(value + (value > 56 ? 36 : 35)));
-  const rest = Math.floor(pairs.length * 13 / 8) - bytes.length;
-  return pairs.map((value) => letter(Math.floor(value / 91)) + letter(value % 91)).join('') + '#'.repeat(rest);
-}
-
-const packed = (text) => lettersOf(deflateSync(text));
+const packed = (text) => asciiOf(deflateSync(text));
 const textOf = async (address) => (await fetch(await address)).text();
 
 /** The page's end, where elements arrive one after the other. */
