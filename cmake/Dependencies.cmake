@@ -22,7 +22,7 @@ pkg_check_modules(log4cplus REQUIRED IMPORTED_TARGET log4cplus)
 pkg_check_modules(httplib REQUIRED IMPORTED_TARGET cpp-httplib)
 pkg_check_modules(turbojpeg REQUIRED IMPORTED_TARGET libturbojpeg)
 # Names of languages.
-pkg_check_modules(icu REQUIRED IMPORTED_TARGET icu-uc)
+pkg_check_modules(icu REQUIRED IMPORTED_TARGET icu-uc icu-i18n)
 pkg_check_modules(sqlite REQUIRED IMPORTED_TARGET sqlite3)
 
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")

@@ -9,6 +9,16 @@ const TEXTS = JSON.parse(part(document, '#texts').textContent ?? '');
 
 const NAMES = /** @type {const} */ (['q', 'author', 'subject', 'language', 'from', 'to']);
 
+/**
+ * A text in the form that the language has for a number.
+ * @param {string | Record<string, string>} text
+ * @param {number} count
+ */
+function formOf(text, count) {
+  if (typeof text === 'string') return text;
+  return text[new Intl.PluralRules(document.documentElement.lang).select(count)] ?? text.other;
+}
+
 /** The page of the search: finds books while the reader types, and the pages of their texts where a server can. */
 class SearchPage {
   constructor() {
@@ -22,7 +32,7 @@ class SearchPage {
     this.views = part(document, '.views');
     this.books = new BooksFound(this.index, part(document, '.found .books'), TEXTS);
     this.texts = new TextsFound(this.hits, part(document, '.found .hits'), TEXTS);
-    this.numbers = new Intl.NumberFormat(document.documentElement.lang);
+    this.numbers = new Intl.NumberFormat(document.documentElement.lang + '-u-nu-latn');
     /** @type {BooksFound | TextsFound} what is shown */
     this.shown = this.books;
     /** Whether the reader chose what is shown. */
@@ -161,7 +171,8 @@ class SearchPage {
 
   #tell() {
     this.more.hidden = this.shown.done;
-    this.status.textContent = this.shown.status.replace('{0}', this.numbers.format(this.shown.count));
+    const { status, count } = this.shown;
+    this.status.textContent = formOf(status, count).replace('{0}', this.numbers.format(count));
     for (const button of this.views.querySelectorAll('button')) {
       const found = button.value === 'texts' ? this.texts : this.books;
       part(button, '.count').textContent = this.#field('q')?.value.trim() ? this.numbers.format(found.count) : '';

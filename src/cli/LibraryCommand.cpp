@@ -91,7 +91,8 @@ void takeShard(const std::string& typed, LibraryMakeOptions& options) {
 void addCatalogueTexts(CLI::App& command, LibraryCatalogueOptions& options) {
     addText(command, "--title", options.title, "Name of the library; by default that of its folder")
         ->type_name("TEXT");
-    addText(command, "--language", options.language, "Language of the catalogue's pages: en or de")
+    addText(command, "--language", options.language,
+            "Language of the catalogue's pages: ar, cs, de, en, fa, he, ja, pl, uk or zh")
         ->type_name("CODE")
         ->default_str("en");
     addText(command, "--contact", options.contact,

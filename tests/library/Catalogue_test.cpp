@@ -199,6 +199,20 @@ TEST_F(CatalogueTest, CompletesWhatAKilledRunBegan) {
         EXPECT_FALSE(exists("catalogue/" + name)) << name.toStdString();
 }
 
+TEST_F(CatalogueTest, CountsAndLiesAsItsLanguageDoes) {
+    for (const char* id : {"one", "two", "three"})
+        addBook(id, {id, "", "", "", "", ""});
+    make();
+    for (const auto& [language, html, books] :
+         {std::tuple{"pl", "<html lang=\"pl\">", "3 książki"},
+          {"cs", "<html lang=\"cs\">", "3 knihy"},
+          {"ar", "<html lang=\"ar\" dir=\"rtl\">", "3 كتب"}}) {
+        made({"--language", language});
+        EXPECT_THAT(read("index.html"), HasSubstr(html));
+        EXPECT_THAT(read("index.html"), HasSubstr(books));
+    }
+}
+
 TEST_F(CatalogueTest, RemembersItsAddressAndHasNoFeedsWithout) {
     addBook("one", {"One", "", "", "", "", ""});
     const auto plain = make();

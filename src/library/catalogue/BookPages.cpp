@@ -112,9 +112,9 @@ QByteArray factList(const CatalogueSite& site, const SitePage& page, const Catal
     const bool isYear = book.facts.date == QString::number(book.facts.year());
     add(isYear ? "year" : "date", isYear ? year : Markup::escaped(book.facts.date));
     add("language", groupLinks(site, page, site.languages, book));
-    add("extent", book.pages > 0 ? site.texts.html(book.pages == 1 ? "onePage" : "manyPages",
-                                                   site.texts.number(book.pages))
-                                 : QByteArray());
+    add("extent", book.pages > 0
+                      ? site.texts.counted(book.pages == 1 ? "onePage" : "manyPages", book.pages)
+                      : QByteArray());
     add("subject", groupLinks(site, page, site.subjects, book));
     add("rights", rightsOf(book.facts.rights));
     if (book.added.isValid())

@@ -8,11 +8,25 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <array>
+#include <memory>
 #include <unicode/uloc.h>
+#include <unicode/upluralrules.h>
 
 namespace {
 
 const QString folder = QStringLiteral("AppFiles/Catalogue/texts");
+
+// "one", "few" ...; "other" where that is not known.
+QByteArray formFor(int count, const QString& language) {
+    UErrorCode error = U_ZERO_ERROR;
+    const std::unique_ptr<UPluralRules, decltype(&uplrules_close)> rules(
+        uplrules_open(language.toUtf8().constData(), &error), &uplrules_close);
+    std::array<UChar, 20> form{};
+    const int32_t length = U_SUCCESS(error) ? uplrules_select(rules.get(), count, form.data(),
+                                                              int32_t(form.size()), &error)
+                                            : 0;
+    return U_SUCCESS(error) ? QString::fromUtf16(form.data(), length).toLatin1() : "other";
+}
 
 } // namespace
 
@@ -35,8 +49,13 @@ CatalogueTexts::CatalogueTexts(const QString& language) : iLanguage(language), i
                                 Message(QStringLiteral("%1/%2.json: the installation of Folvero is "
                                                        "damaged")
                                             .arg(folder, language)));
-    for (auto text = pages.begin(); text != pages.end(); ++text)
-        iTexts[text.key().toLatin1()] = text.value().toString();
+    for (auto text = pages.begin(); text != pages.end(); ++text) {
+        const QByteArray name = text.key().toLatin1();
+        const QJsonObject forms = text.value().toObject();
+        for (auto form = forms.begin(); form != forms.end(); ++form)
+            iTexts[name + '.' + form.key().toLatin1()] = form.value().toString();
+        iTexts[name] = forms.value(QStringLiteral("other")).toString(text.value().toString());
+    }
     for (auto text = iTexts.begin(); text != iTexts.end(); ++text)
         iHTML[text.key()] = Markup::escaped(text.value());
 }
@@ -54,11 +73,18 @@ QByteArray CatalogueTexts::html(const char* name, const QByteArray& first,
 }
 
 QByteArray CatalogueTexts::books(int count) const {
-    return html(count == 1 ? "book" : "books", number(count));
+    return counted(count == 1 ? "book" : "books", count);
+}
+
+QByteArray CatalogueTexts::counted(const char* name, int count) const {
+    const QByteArray form = name + ('.' + formFor(count, iLanguage));
+    return html(iHTML.contains(form) ? form.constData() : name, number(count));
 }
 
 QByteArray CatalogueTexts::number(int value) const {
-    return iLocale.toString(value).toUtf8();
+    // The digits of years, labels and the search's script, which are those of all books.
+    const bool hasOwn = iLocale.zeroDigit() != QStringLiteral("0");
+    return (hasOwn ? QLocale(QLocale::English) : iLocale).toString(value).toUtf8();
 }
 
 QString CatalogueTexts::nameOf(const QString& languageTag) const {

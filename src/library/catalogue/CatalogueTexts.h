@@ -17,9 +17,12 @@ public:
     explicit CatalogueTexts(const QString& language);
 
     const QString& language() const { return iLanguage; }
+    bool isRightToLeft() const { return iLocale.textDirection() == Qt::RightToLeft; }
     // In HTML, with values for {0} and {1}, which are HTML already.
     QByteArray html(const char* name, const QByteArray& first = {},
                     const QByteArray& second = {}) const;
+    // A text with a number, in the form that the language has for it.
+    QByteArray counted(const char* name, int count) const;
     // "1 book", "1,234 books"
     QByteArray books(int count) const;
     QString text(const char* name) const;
@@ -34,5 +37,5 @@ private:
     QLocale iLocale;
     QJsonObject iScript;
     QHash<QByteArray, QString> iTexts;
-    QHash<QByteArray, QByteArray> iHTML;
+    QHash<QByteArray, QByteArray> iHTML; // that of a form by "NAME.FORM"
 };

@@ -81,6 +81,7 @@ QByteArray SitePage::alike(const QByteArray& what, QByteArray (SitePage::*make)(
 
 QByteArray SitePage::start() const {
     return "<!DOCTYPE html>\n<html lang=\"" + iSite.texts.language().toLatin1() +
+           (iSite.texts.isRightToLeft() ? "\" dir=\"rtl" : "") +
            "\">\n<head>\n<meta charset=\"utf-8\">\n" + policy +
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
            "<meta name=\"color-scheme\" content=\"light dark\">\n"
