@@ -73,8 +73,9 @@ void PublisherChoices::append(pugi::xml_node properties, const FlashTemplate* fl
     }
     QStringList hidden;
     for (const Button& button : buttons) {
-        const QString value = valueOf(flashTemplate, button.key);
-        if (!value.isEmpty() && !StringUtil::valueAsBool(value))
+        // Whatever else stands in a settings file, the button is better there than missing.
+        if (valueOf(flashTemplate, button.key).compare(QLatin1String("No"), Qt::CaseInsensitive) ==
+            0)
             hidden << QString::fromLatin1(button.names);
     }
     appendUnlessEmpty(properties, "HiddenButtons", hidden.join(u' '));
