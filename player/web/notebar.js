@@ -192,8 +192,9 @@ export class NoteBar {
 
   /** @param {KeyboardEvent} event */
   #key(event) {
-    if (event.ctrlKey || event.metaKey || event.altKey) return;
-    // Keys typed here do not turn pages.
+    const isCommand = event.key.length === 1 && event.key !== ' ';
+    if (isCommand || event.ctrlKey || event.metaKey || event.altKey) return;
+    // Others, typed here, do not turn pages.
     event.stopPropagation();
     const buttons = this.#buttons();
     const at = buttons.indexOf(/** @type {HTMLElement} */ (document.activeElement));

@@ -124,7 +124,6 @@ test('a browser that stores nothing says so at once, and keeps what is marked as
   await book.page.waitForFunction(() => !getSelection().isCollapsed);
   await book.page.keyboard.press('Enter');
   await book.page.locator('.toast', { hasText: 'does not keep notes' }).waitFor();
-  await book.page.keyboard.press('Escape');
   await book.page.keyboard.press('m');
   await book.page.waitForSelector('.note-entry');
 });
