@@ -2,6 +2,7 @@
 
 #include "annotations/FlashPagesAnnotations.h"
 #include "base/Log.h"
+#include "base/PlatformException.h"
 #include "output/BookName.h"
 #include "output/BookXML.h"
 #include "output/ExistingBook.h"
@@ -257,11 +258,23 @@ PublishStep BookSteps::sound(const FlashTemplate* flashTemplate) {
             }};
 }
 
+void BookSteps::checkUnchanged(const PDFDocument& document) {
+    try {
+        document.checkUnchanged();
+    } catch (const PlatformException& failure) {
+        PublishTransaction::fail(document.path(), failure.message());
+    }
+}
+
 PublishStep BookSteps::document(const PDFDocument* source, const QString& path) {
     return {"document", [=](PublishTarget& to) {
                 to.checkCancelled();
-                if (!path.isEmpty())
-                    to.transaction.copy(source->path(), to.layout.at(path), Copy::independent);
+                if (path.isEmpty())
+                    return;
+                // Readers get what the pages were drawn from, and a whole file.
+                checkUnchanged(*source);
+                to.transaction.copy(source->path(), to.layout.at(path), Copy::independent);
+                checkUnchanged(*source);
             }};
 }
 

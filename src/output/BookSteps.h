@@ -51,6 +51,9 @@ bool isInFolder(const BookLayout& layout, const QString& page);
 PublishStep movie(const FlashTemplate* flashTemplate);
 PublishStep sound(const FlashTemplate* flashTemplate);
 
+// Fails with the document's path when that was replaced or written since it was opened.
+void checkUnchanged(const PDFDocument& document);
+
 // The document that readers may download, at a path in the book; none for an empty path.
 PublishStep document(const PDFDocument* source, const QString& path);
 

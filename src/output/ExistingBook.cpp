@@ -55,6 +55,10 @@ QString unescaped(QString text) {
         .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
 }
 
+bool offersDocument(const pugi::xml_document& configuration) {
+    return configuration.document_element().child("Properties").child("DownloadFile");
+}
+
 } // namespace
 
 bool ExistingBook::isIn(const QString& folder) {
@@ -70,6 +74,11 @@ bool ExistingBook::isWebBookIn(const QString& folder) {
 
 bool ExistingBook::isPage(const QString& file) {
     return !headOfPage(file).isNull();
+}
+
+bool ExistingBook::offersDocument(const QString& folder) {
+    pugi::xml_document configuration;
+    return loadConfiguration(folder, configuration) && ::offersDocument(configuration);
 }
 
 bool ExistingBook::isLanguages(const QString& file) {
@@ -156,7 +165,7 @@ QStringList ExistingBook::files(const QString& folder) {
         names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData)
               << numberedFiles(folder, BookLayout::search)
               << numberedFiles(folder, BookLayout::reading);
-    if (document.document_element().child("Properties").child("DownloadFile"))
+    if (::offersDocument(document))
         names << BookLayout::document;
     if (isLanguages(Files::join(folder, BookLayout::languageScript)))
         names << BookLayout::languageScript;

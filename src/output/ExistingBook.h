@@ -30,6 +30,9 @@ QStringList numberedFiles(const QString& folder, const QString& inFiles);
 // the book's text is not.
 bool isPage(const QString& file);
 
+// Whether a folder's book has the imported document to download.
+bool offersDocument(const QString& folder);
+
 // Whether a file has the texts of further languages.
 bool isLanguages(const QString& file);
 

@@ -57,6 +57,12 @@ QStringList FolveroOutput::foreignFiles() const {
     const QString languages = layout().at(BookLayout::languageScript);
     if (ForeignFiles::isThere(languages) && !ExistingBook::isLanguages(languages))
         found << languages;
+    // Callers ask before there is a document.
+    const QString document = layout().at(BookLayout::document);
+    if (PublisherChoices::offerDocument(iFlashTemplate.get()) &&
+        ExistingBook::isIn(iSaveToFolder) && !ExistingBook::offersDocument(iSaveToFolder) &&
+        ForeignFiles::isThere(document))
+        found << document;
     if (!hasBook)
         found << ForeignFiles::ofBook(layout(), iFlashTemplate.get());
     return found;

@@ -52,8 +52,12 @@ void appendUnlessEmpty(pugi::xml_node parent, const char* name, const QString& t
 
 } // namespace
 
+bool PublisherChoices::offerDocument(const FlashTemplate* flashTemplate) {
+    return StringUtil::valueAsBool(valueOf(flashTemplate, "offerDocument"));
+}
+
 QString PublisherChoices::documentPath(const FlashTemplate* flashTemplate, const Book& book) {
-    if (!StringUtil::valueAsBool(valueOf(flashTemplate, "offerDocument")) || !book.document)
+    if (!offerDocument(flashTemplate) || !book.document)
         return {};
     if (book.document->password().isEmpty())
         return BookLayout::document;

@@ -10,6 +10,9 @@ struct Book;
 // buttons, first view, accent colour, download. A null template decides nothing.
 namespace PublisherChoices {
 
+// Whether readers are to have the imported document, as the template's settings say.
+bool offerDocument(const FlashTemplate* flashTemplate);
+
 // Path in the book of the document that readers may download: the imported one where the template
 // offers it. Empty for none, and for one that only opens with a password.
 QString documentPath(const FlashTemplate* flashTemplate, const Book& book);

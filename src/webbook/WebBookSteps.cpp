@@ -37,15 +37,6 @@ namespace {
 
 constexpr Log logger("FolveroOutputWeb");
 
-// The pages may have been drawn long before their texts and links are read.
-void checkUnchanged(const PDFDocument& document) {
-    try {
-        document.checkUnchanged();
-    } catch (const PlatformException& failure) {
-        PublishTransaction::fail(document.path(), failure.message());
-    }
-}
-
 // Writes the files of pages and counts their bytes.
 class PageWriter {
 public:
@@ -316,6 +307,9 @@ SingleFilePage::Files orderedFiles(const BookLayout& layout, const PublishTransa
         if (auto file = staged.extract(path))
             files.emplace_back(file.key(), file.mapped());
     };
+    const auto takePlayer = [&](const QString& script) {
+        files.emplace_back(script, PlayerFile::installed(layout, script));
+    };
     const auto takeAll = [&](const QString& folder) {
         std::erase_if(staged, [&](const auto& file) {
             if (!BookLayout::isIn(folder, file.first))
@@ -328,12 +322,17 @@ SingleFilePage::Files orderedFiles(const BookLayout& layout, const PublishTransa
         const WebPage& page = book.pages[i];
         take(WebBook::picturePath(page));
         take(BookLayout::text(page.number));
-        if (i == 0)
+        if (i == 0) {
+            // Readers of other languages see nothing before it.
+            takePlayer(BookLayout::languageScript);
             takeAll(BookLayout::settingsFiles);
+        }
         if (i + 1 != std::min(firstPages, book.pages.size()))
             continue;
-        for (const QString& script : BookLayout::laterScripts())
-            files.emplace_back(script, PlayerFile::installed(layout, script));
+        for (const QString& script : BookLayout::laterScripts()) {
+            if (script != BookLayout::languageScript)
+                takePlayer(script);
+        }
         takeAll(BookLayout::webData);
     }
     files.insert(files.end(), staged.begin(), staged.end());
@@ -367,7 +366,8 @@ void WebBookSteps::writePages(PublishTarget& to, const WebBook& book, WebBookRep
     }
     if (book.content.document) {
         book.content.document->stopReader();
-        checkUnchanged(*book.content.document);
+        // The pages may have been drawn long before their texts and links are read.
+        BookSteps::checkUnchanged(*book.content.document);
     }
     report.text.search = search.finish();
     const auto blocks = writer.reading();

@@ -147,4 +147,6 @@ TEST_F(PublishTest, KnowsWhatABookOfTheOtherKindLacks) {
     TestFiles::write(file("text.html"), "mine");
     published("outline.pdf", classic + force);
     EXPECT_EQ(TestFiles::read(file("text.html")), "mine");
+    TestFiles::write(file("files/extfiles/document.pdf"), "mine");
+    EXPECT_EQ(publish("outline.pdf", classic + QStringList{"--set=offerDocument=Yes"}).exitCode, 1);
 }

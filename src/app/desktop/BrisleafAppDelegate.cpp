@@ -92,6 +92,8 @@ void BrisleafAppDelegate::publishPreview(PreviewedBook previewed) {
     output.setHTMLConfig(html);
     Book book = iBook;
     book.pageSize = AppSettings::shareInstance().pageSize();
+    // Otherwise each preview would copy a document that readers may download.
+    book.document.reset();
     output.setBook(std::move(book));
     output.ouputTheBook();
     if (!output.publishErrors().isEmpty())
