@@ -11,7 +11,7 @@ import { Turner } from './turning/turner.js';
 import { Gestures } from './controls/gestures.js';
 import { wireKeys } from './controls/keys.js';
 import { Memory } from './controls/memory.js';
-import { Place, pageInAddress, searchInAddress } from './controls/place.js';
+import { Place, pageInAddress } from './controls/place.js';
 import { Reading } from './controls/reading.js';
 import { Seeking } from './controls/seeking.js';
 import { Slideshow } from './controls/slideshow.js';
@@ -147,7 +147,7 @@ function addControls(root, turner, sounds) {
 /** @param {HTMLElement} root */
 async function openBook(root) {
   const config = await loadConfiguration();
-  const asked = { page: pageInAddress(), search: searchInAddress() };
+  const asked = { page: pageInAddress(), fragment: location.hash };
   // An extension of another version, from the browser's cache, may fail; the book works without it.
   const additions = await Promise.all(extensions.map(async (extend) => {
     try {

@@ -26,8 +26,8 @@ export interface Beginning {
   root: HTMLElement;
   /** May be changed until the book is laid out. */
   config: BookConfig;
-  /** What the address names: a page, 0 for none, and words to mark, null or empty for none. */
-  asked: { page: number; search: string | null };
+  /** What the address named at first: a page, 0 for none, and its whole fragment. */
+  asked: { page: number; fragment: string };
   say(word: AnyWord, ...values: (string | number)[]): string;
   learn: typeof learn;
 }

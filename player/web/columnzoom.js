@@ -15,14 +15,14 @@ const AIR = 10;
  * @param {number} y
  * @returns {boolean} whether there is a column that gains by it
  */
-export function showColumn({ book, zoom, reading, turner, gestures, root }, layers, x, y) {
+export function showColumn({ book, zoom, reading, turner, gestures }, layers, x, y) {
   const at = { clientX: x, clientY: y, pointerType: 'touch' };
   if (!gestures.textAt?.(/** @type {PointerEvent} */ (at))) return false;
   const columns = reading.columns();
   const across = (x - zoom.now.x) / zoom.level;
   const index = nearest(columns, across);
   const { left, right } = columns[index];
-  const level = Math.min((root.clientWidth - book.beside - 2 * AIR) / (right - left), HIGHEST_LINE / lineHeight(layers, x));
+  const level = Math.min((book.sight.right - book.sight.left - 2 * AIR) / (right - left), HIGHEST_LINE / lineHeight(layers, x));
   if (level < LEAST) return false;
   reading.led = { view: turner.current, column: index };
   return zoom.lookAt((left + right) / 2, (y - zoom.now.y) / zoom.level - y / level, level);

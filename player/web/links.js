@@ -14,9 +14,6 @@ const FINGER = 12;
 /** Time in which the browser's own click follows a tap, in milliseconds. */
 const CLICK_MS = 700;
 
-/** Longest name that a link takes from the words in it. */
-const LONGEST_NAME = 120;
-
 /** Longest address that is told beside the pointer. */
 const LONGEST_TIP = 64;
 
@@ -54,7 +51,7 @@ export class Links {
     const words = box.querySelectorAll('.word');
     text.links.forEach((link, index) => {
       const found = text.wordsIn(link.box);
-      const element = this.#element(link, found.map((word) => word.text).join(' ').slice(0, LONGEST_NAME));
+      const element = this.#element(link, found.map((word) => word.text).join(' '));
       putOver(element, text, link.box);
       layer.append(element);
       element.id = side + '-link-' + index;

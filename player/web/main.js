@@ -160,14 +160,14 @@ function addReading(player, layers, room) {
  * @param {import('../src/player.js').Player} player
  * @param {Layers} layers
  * @param {SideRoom} room
- * @returns {() => void} marks what the address quotes
+ * @returns {(fragment: string) => void} marks what an address quotes
  */
 function addNotes(player, layers, room) {
   const { root, commands, toolbar, say } = player;
   const buttons = { bookmark: barButton('bookmark', 'B', '5.5', say), notes: barButton('notes', 'M', '6.2', say) };
   buttons.bookmark.setAttribute('aria-pressed', 'false');
   Object.values(buttons).forEach((button) => toolbar.add(button, 'thumbs'));
-  if (buttons.notes.hidden) return () => {};
+  if (buttons.notes.hidden || buttons.bookmark.hidden) return () => {};
   const load = once(() => files.run('notes').then((make) =>
     /** @type {typeof import('./notespart.js').makeNotes} */ (make)(player, layers, files, room, buttons)));
   commands.bookmark = later(player, load, (notes) => notes.toggleBookmark());
@@ -182,7 +182,7 @@ function addNotes(player, layers, room) {
     if (getSelection()?.anchorNode?.parentElement?.closest('.word, .read-text')) load().catch(() => {});
   });
   if (recall('notes')) whenShown(root, load);
-  return later(player, load, (notes) => notes.showQuote());
+  return (fragment) => later(player, load, (notes) => notes.showQuote(fragment))();
 }
 
 /**
@@ -218,14 +218,15 @@ function addToBook(player, facts) {
   }
   if (facts.reading.length > 0) addReading(player, layers, room);
   const showQuote = addNotes(player, layers, room);
-  const follow = () => {
-    const asked = new URLSearchParams(location.hash.slice(1));
-    const search = asked.get('search');
+  const follow = (/** @type {string} */ fragment) => {
+    const values = new URLSearchParams(fragment.slice(1));
+    const search = values.get('search');
     if (search) mark(search);
-    if (asked.get('quote')) showQuote();
+    if (values.get('quote')) showQuote(fragment);
   };
-  window.addEventListener('hashchange', follow);
-  follow();
+  window.addEventListener('hashchange', () => follow(location.hash));
+  // What the address named at first: the page in view is in it now.
+  follow(player.asked.fragment);
   if (facts.offline && !single && mayKeep()) addKeeping(player, layers);
   // The first in the tab order and hidden until focused: for readers whom a page-flip book does not help.
   if (facts.textPage) root.prepend(textLink(layers, 'text-link', say('textPage')));
@@ -238,7 +239,7 @@ function addToBook(player, facts) {
   reportPages(player, layers);
   layers.update();
   // An open panel would stop a book that plays by itself.
-  if (room.isWide && !player.config.autoPlay) openPanel(facts.panel, commands);
+  if (room.isWide && !player.config.autoPlay) openPanel(facts.panel, player);
 }
 
 /**
@@ -292,9 +293,10 @@ function beginAt(page, pageCount) {
 /**
  * Opens what the document asks for; keys still turn pages.
  * @param {string} panel
- * @param {import('../src/controls/toolbar.js').Commands} commands
+ * @param {import('../src/player.js').Player} player
  */
-function openPanel(panel, commands) {
+function openPanel(panel, { commands, config }) {
+  if (config.hidden.includes(panel)) return;
   if (panel === 'contents') commands.contents?.();
   else if (panel === 'thumbs') commands.thumbs();
   else return;

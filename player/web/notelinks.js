@@ -49,12 +49,13 @@ export function quoteLink(book, page, anchor) {
 
 /**
  * The passage that an address names, null for none.
+ * @param {string} fragment
  * @returns {{page: number, anchor: Anchor} | null}
  */
-export function quoteInAddress() {
-  const values = new URLSearchParams(location.hash.slice(1));
+export function quoteInAddress(fragment) {
+  const values = new URLSearchParams(fragment.slice(1));
   const [quote, until, before] = ['quote', 'until', 'before'].map((name) => values.get(name) ?? '');
-  return quote.trim() ? { page: pageInAddress() || 1, anchor: { quote, until, before, after: '', at: 0 } } : null;
+  return quote.trim() ? { page: pageInAddress(fragment) || 1, anchor: { quote, until, before, after: '', at: 0 } } : null;
 }
 
 /**

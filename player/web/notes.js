@@ -343,9 +343,12 @@ export class Notes {
     if (!store.kept) this.#tellStorage();
   }
 
-  /** Marks the passage that the address names, on the page where this edition has it. */
-  async showQuote() {
-    const named = quoteInAddress();
+  /**
+   * Marks the passage that an address names, on the page where this edition has it.
+   * @param {string} fragment
+   */
+  async showQuote(fragment) {
+    const named = quoteInAddress(fragment);
     if (!named) return;
     const { layers, files, player } = this;
     const text = searched((await layers.texts.get(named.page))?.string ?? '');

@@ -1,5 +1,6 @@
 import { make, part } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
+import { keyOf } from '../src/controls/keys.js';
 import { pageInAddress } from '../src/controls/place.js';
 import { drawn, icon } from './icons.js';
 import { ReadAloud } from './readaloud.js';
@@ -330,10 +331,11 @@ export class ReadingView {
       '+': () => this.panel.resize(1), '=': () => this.panel.resize(1),
       '-': () => this.panel.resize(-1), 0: () => this.panel.resize(0),
     };
-    const action = actions[key.length > 1 ? key : key.toUpperCase()];
+    const shortcut = keyOf(event);
+    const action = actions[key.length > 1 ? key : shortcut];
     if (action) event.preventDefault();
     action?.();
-    const button = this.player.root.querySelector('.bar [data-key="' + CSS.escape(key.toUpperCase()) + '"]');
+    const button = this.player.root.querySelector('.bar [data-key="' + CSS.escape(shortcut) + '"]');
     const { does = '' } = /** @type {HTMLElement} */ (button ?? this.button).dataset;
     if (!action && button && ALSO_HERE.includes(does)) return;
     // Keys of the book behind; those that scroll are the browser's.

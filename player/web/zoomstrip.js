@@ -50,9 +50,10 @@ export class ZoomStrip {
    * @param {() => void} act
    */
   #button(name, key, act) {
-    const { say } = this.player;
+    const { say, config } = this.player;
     const button = make('button', 'zoom-' + name, drawn(SIGNS[name]));
     button.setAttribute('type', 'button');
+    button.hidden = config.hidden.includes(name);
     button.setAttribute('aria-label', say(name));
     button.setAttribute('aria-keyshortcuts', key);
     Object.assign(button.dataset, { tip: say(name) });
@@ -65,7 +66,7 @@ export class ZoomStrip {
     const { zoom, root, say } = this.player;
     clearTimeout(this.rest);
     clearTimeout(this.timer);
-    const figure = zoom.level.toLocaleString(document.documentElement.lang, { style: 'percent' });
+    const figure = zoom.level.toLocaleString(document.documentElement.lang + '-u-nu-latn', { style: 'percent' });
     this.figure.textContent = figure;
     const shown = zoom.active || zoom.level !== 1;
     this.element.hidden = !shown;

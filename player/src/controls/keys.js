@@ -9,13 +9,19 @@ export function wireKeys(root, commands) {
   window.addEventListener('keydown', (event) => {
     if (event.ctrlKey || event.altKey || event.metaKey || event.defaultPrevented) return;
     if (event.target instanceof HTMLInputElement || root.dataset.state !== 'ready') return;
-    // Where letters are others than Latin ones, the key counts.
-    const key = event.key > '~' ? event.code.slice(-1) : event.key.toUpperCase();
-    const command = commandFor(root, key);
+    const command = commandFor(root, keyOf(event));
     if (!command) return;
     event.preventDefault();
     commands[command]();
   });
+}
+
+/**
+ * The key as shortcuts name it. Where letters are others than Latin ones, its place on the keyboard counts.
+ * @param {KeyboardEvent} event
+ */
+export function keyOf({ key, code }) {
+  return key > '~' ? code.slice(-1) : key.toUpperCase();
 }
 
 /**

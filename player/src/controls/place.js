@@ -1,14 +1,12 @@
 /** @typedef {import('../turning/turner.js').Turner} Turner */
 
-/** Page number in the URL's fragment, 0 for none. */
-export function pageInAddress() {
-  const match = /(?:^#|&)page=(\d+)/.exec(location.hash);
+/**
+ * Page number in a URL's fragment, 0 for none.
+ * @param {string} [fragment] by default that of the page
+ */
+export function pageInAddress(fragment = location.hash) {
+  const match = /(?:^#|&)page=(\d+)/.exec(fragment);
   return match ? Number(match[1]) : 0;
-}
-
-/** What the URL's fragment asks to be marked, null or empty for nothing. */
-export function searchInAddress() {
-  return new URLSearchParams(location.hash.slice(1)).get('search');
 }
 
 /** Turns after a jump until the way back is offered no more. */
