@@ -1656,7 +1656,7 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     </message>
     <message>
         <source>Logo</source>
-        <translation>Logo</translation>
+        <translation>Eigenes Logo</translation>
     </message>
     <message>
         <source>A picture in an upper corner of the window, at most 40 pixels high.</source>

@@ -96,6 +96,7 @@ test('a book opens where and as its document asks, with its panel at a desk only
 test('long contents are folded but for the reader\'s place and used by key as trees are', async () => {
   const book = await open({ hash: '#page=7', change: { outline: long(60) } });
   await press(book, 'c');
+  await book.page.waitForSelector('.tree-row');
   assert.deepEqual((await shown(book)).slice(0, 5), ['Preface', 'First part', 'River', 'Harbour', 'Second part']);
   assert.equal(await focused(book), 'Harbour');
   await entry(book, 'First part').locator('.tree-sign').click();
