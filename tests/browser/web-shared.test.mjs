@@ -50,11 +50,12 @@ test('a book with a shared player is read from disk, over http, and without a co
   assert.equal(await page.locator('#folvero').isVisible(), false);
 });
 
-test('a server may forbid all scripts and styles but files of its own', ready, async () => {
+test('a server may forbid all scripts and styles but files of its own', ready, async (t) => {
   const publish = (...options) => folvero('publish', '--quiet', '--pages', '1-3', ...options);
   await publish('--shared-player', path.join(reader.folder, 'player'), sample('text'), path.join(reader.folder, 'shared'));
   await publish('--style', 'Garden', sample('text'), path.join(reader.folder, 'own'));
   const server = await serve(reader.folder);
+  t.after(() => server.close());
   for (const folder of ['shared', 'own']) {
     const page = await reader.browser.newPage();
     const refused = [];
@@ -66,6 +67,7 @@ test('a server may forbid all scripts and styles but files of its own', ready, a
       await route.fulfill({ response, headers: { ...response.headers(), 'Content-Security-Policy': "default-src 'self'" } });
     });
     await page.goto(`${server.address}${folder}/index.html`);
+    await page.waitForSelector('#folvero[data-state="ready"]');
     await page.keyboard.press('ArrowRight');
     await page.waitForFunction(() => window.folvero?.page === 2 && document.querySelector('.over.left .word'));
     await page.keyboard.press('p');
@@ -74,5 +76,4 @@ test('a server may forbid all scripts and styles but files of its own', ready, a
     await page.waitForSelector('.sheet', { state: 'attached' });
     assert.deepEqual(refused, [], folder);
   }
-  await server.close();
 });
