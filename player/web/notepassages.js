@@ -49,9 +49,10 @@ function passageIn(page, source, from, to) {
  * @param {Element} word
  */
 function offsetOf(text, word) {
-  const line = /** @type {Element} */ (word.parentElement);
-  const lineIndex = [.../** @type {Element} */ (line.parentElement).children].indexOf(line);
-  const wordIndex = [...line.children].indexOf(word);
+  // Lines lie in headings, paragraphs and lists, and what stands for a link lies between words.
+  const line = /** @type {Element} */ (word.closest('.line'));
+  const lineIndex = [.../** @type {Element} */ (line.closest('.text-layer')).querySelectorAll('.line')].indexOf(line);
+  const wordIndex = [...line.querySelectorAll('.word')].indexOf(word);
   /** @param {import('./pagetext.js').Word[]} words */
   const lengthOf = (words) => words.reduce((sum, one) => sum + one.text.length, 0);
   const before = text.lines.slice(0, lineIndex).reduce((sum, { words }) => sum + lengthOf(words) + 1, 0);

@@ -15,7 +15,11 @@ const TEXTS = [
 const BLOCKS = [{ kind: 'p', page: 2, box: [0, 0, 9, 9], text: ['A river runs below the old town and carries what it finds down to the harbour.'] }];
 
 async function open({ disk = false, hash = '#page=2', texts = TEXTS, ...options } = {}) {
-  const pages = texts.map((lines) => typedPage(lines));
+  // Every line is a paragraph, and "and" at the beginning of one is a link.
+  const pages = texts.map((lines) => ({
+    ...typedPage(lines, { links: lines.flatMap((line, row) => (line.startsWith('and ') ? [[row, 0, 3, 1]] : [])) }),
+    blocks: lines.flatMap(() => ['p', 1]),
+  }));
   const folder = await reader.webBook({ pages: plainPages(pages.length, 120, 160), description: { pages, reading: [BLOCKS] } });
   const book = await reader[disk ? 'openFromDisk' : 'openOverHttp'](folder, { hash, ...options });
   book.folder = folder;
