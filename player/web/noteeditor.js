@@ -21,15 +21,20 @@ export class NoteEditor {
     Object.assign(this.text, { rows: 5, maxLength: LONGEST, dir: 'auto' });
     this.text.setAttribute('aria-labelledby', title.id);
     this.text.addEventListener('keydown', (event) => {
-      if (event.key === 'Enter' && (event.ctrlKey || event.metaKey)) this.#save();
+      if (event.key === 'Enter' && (event.ctrlKey || event.metaKey)) this.panel.close();
     });
-    const cancel = this.#button('plain-button', say('cancel'), () => this.panel.close());
-    const save = this.#button('main-button', say('save'), () => this.#save());
+    const cancel = this.#button('plain-button', say('cancel'), () => {
+      this.save = () => {};
+      this.panel.close();
+    });
+    const save = this.#button('main-button', say('save'), () => this.panel.close());
     const dialog = make('dialog', 'panel note-panel', make('div', 'panel-body', make('header', '', title, close),
       this.quote, this.text, make('div', 'actions', cancel, save)));
     dialog.setAttribute('aria-labelledby', title.id);
     part(root, '.wait').before(dialog);
     this.panel = new Panel(dialog);
+    // However the dialog is closed, what was written is worth more than what was not.
+    this.panel.onClose = () => this.save(this.text.value.trim());
     /** @type {(note: string) => void} */
     this.save = () => {};
   }
@@ -58,10 +63,5 @@ export class NoteEditor {
     this.text.value = note;
     this.panel.open();
     this.text.focus();
-  }
-
-  #save() {
-    this.panel.close();
-    this.save(this.text.value.trim());
   }
 }

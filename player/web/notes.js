@@ -271,7 +271,7 @@ export class Notes {
   /** @param {Note} note */
   #write(note) {
     this.editor.open(inOneLine(note.quote), note.note, (text) => {
-      if (text !== note.note) this.store.edit(note.id, { note: text });
+      if (text !== note.note) this.store.write(note, text);
       if (!this.store.kept) this.#tellStorage();
     });
   }

@@ -70,6 +70,16 @@ export class NoteStore {
     this.change((notes) => notes.map((note) => (note.id === id ? { ...note, ...values, changed: Date.now() } : note)));
   }
 
+  /**
+   * Sets a note's text. One that another tab has deleted meanwhile comes back: nothing that was written is lost.
+   * @param {Note} note
+   * @param {string} text
+   */
+  write(note, text) {
+    this.change((notes) => notes.filter(({ id }) => id !== note.id)
+      .concat({ ...(notes.find(({ id }) => id === note.id) ?? note), note: text, changed: Date.now() }));
+  }
+
   /** @param {string} id */
   remove(id) {
     this.change((notes) => notes.filter((note) => note.id !== id));

@@ -54,6 +54,9 @@ test('text that the mouse marks is highlighted, noted and linked to, and all of 
   await bar(book).locator('[data-colour="green"]').click();
   await bar(book).locator('[data-act="note"]').click();
   await book.page.locator('.note-text').fill('Where to?');
+  const text = await book.page.locator('.note-text').boundingBox();
+  await book.drag([text.x + 80, text.y + 12], [20, text.y + 12]);
+  assert.ok(await book.page.locator('.note-panel').isVisible(), 'marking text does not close its panel');
   await book.page.keyboard.press('Control+Enter');
   await mark(book, 'another', 'story');
   await bar(book).locator('[data-act="link"]').click();
@@ -88,6 +91,10 @@ test('by keys alone words are marked, highlighted, listed, deleted and brought b
     ['and carries what', 'blue', '']]);
   await press('m');
   await count(2);
+  await press('Tab', 'Enter');
+  await book.page.keyboard.type('Kept');
+  await press('Escape');
+  await book.page.locator('.note-own', { hasText: 'Kept' }).waitFor();
   await press('Tab', 'Tab', 'Enter');
   await count(1);
   await press('Shift+Tab', 'Enter');

@@ -7,8 +7,11 @@ export class Panel {
   /** @param {HTMLElement} element a dialog with a button to close it */
   constructor(element) {
     this.dialog = /** @type {HTMLDialogElement} */ (element);
+    /** Whether the last press was beside the panel: one that marks text in it may end there. */
+    this.beside = false;
+    this.dialog.addEventListener('pointerdown', (event) => { this.beside = event.target === this.dialog; });
     this.dialog.addEventListener('click', (event) => {
-      if (event.target === this.dialog) this.close();
+      if (event.target === this.dialog && this.beside) this.close();
     });
     this.dialog.addEventListener('keydown', (event) => this.#key(event));
     this.dialog.addEventListener('close', () => this.onClose());

@@ -61,6 +61,11 @@ test('two tabs see what the other one keeps and deletes, and neither overwrites 
   one.edit(one.notes[1].id, { note: 'mine' });
   other.remove(other.notes[0].id);
   assert.deepEqual(JSON.parse(kept[KEY]).notes.map(({ quote, note }) => [quote, note]), [['river', 'mine']]);
+  const [, note] = one.notes;
+  other.remove(note.id);
+  one.write(note, 'written meanwhile');
+  event();
+  assert.deepEqual(other.notes.map((each) => each.note), ['written meanwhile']);
 });
 
 test('a full or forbidden storage keeps notes as long as the page, and all of them once there is room', () => {
