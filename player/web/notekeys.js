@@ -14,8 +14,8 @@ export class NoteKeys {
     /** Indices of the words at both ends of what is selected, null: not selecting. */
     this.ends = /** @type {{anchor: number, head: number} | null} */ (null);
     window.addEventListener('keydown', (event) => this.#key(event), { capture: true });
-    root.addEventListener('pointerdown', () => { this.ends = null; }, { capture: true });
-    layers.followers.push(() => { this.ends = null; });
+    root.addEventListener('pointerdown', () => this.end(), { capture: true });
+    layers.followers.push(() => this.end());
   }
 
   /** Begins at what a search has found in view, or at the first word. */
@@ -27,6 +27,13 @@ export class NoteKeys {
     const at = hit ? this.#nearest(words, left, top + hit.height / 2) : 0;
     this.ends = { anchor: at, head: at };
     this.#select(words);
+    // The keys are for the words now, not for what had the focus.
+    if (document.activeElement instanceof HTMLElement) document.activeElement.blur();
+  }
+
+  /** Gives the keys back; what is selected stays so. */
+  end() {
+    this.ends = null;
   }
 
   get #words() {
@@ -36,13 +43,15 @@ export class NoteKeys {
 
   /** @param {KeyboardEvent} event */
   #key(event) {
+    if (getSelection()?.isCollapsed !== false) this.end();
     const { ends } = this;
     if (!ends || event.ctrlKey || event.metaKey || event.altKey || !this.root.querySelector('.stage')) return;
-    if (event.target instanceof Element && event.target.closest('dialog, .note-bar, input')) return;
+    if (event.target instanceof Element && event.target.closest('a, button, dialog, input, .note-bar')) return;
     const words = this.#words;
+    const right = words[ends.head].closest('[dir="rtl"].line') ? -1 : 1;
     /** @type {Record<string, () => number>} */
     const ways = {
-      ArrowRight: () => ends.head + 1, ArrowLeft: () => ends.head - 1,
+      ArrowRight: () => ends.head + right, ArrowLeft: () => ends.head - right,
       ArrowDown: () => this.#beside(words, ends.head, 1), ArrowUp: () => this.#beside(words, ends.head, -1),
     };
     if (ways[event.key]) {
@@ -50,10 +59,10 @@ export class NoteKeys {
       this.ends = { anchor: event.shiftKey ? ends.anchor : head, head };
       this.#select(words);
     } else if (event.key === 'Enter') {
-      this.ends = null;
+      this.end();
       this.onDone();
     } else if (event.key === 'Escape') {
-      this.ends = null;
+      this.end();
       getSelection()?.removeAllRanges();
     } else return;
     event.preventDefault();

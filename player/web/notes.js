@@ -146,6 +146,7 @@ export class Notes {
       if (!this.player.root.dataset.reading) this.keys.begin();
       return;
     }
+    this.keys.end();
     this.#lookNow();
     this.bar.focus();
     await this.#colour(this.colour);

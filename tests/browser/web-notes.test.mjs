@@ -14,12 +14,13 @@ const TEXTS = [
 ];
 const BLOCKS = [{ kind: 'p', page: 2, box: [0, 0, 9, 9], text: ['A river runs below the old town and carries what it finds down to the harbour.'] }];
 
-async function open({ disk = false, hash = '#page=2', texts = TEXTS, ...options } = {}) {
+async function open({ disk = false, hash = '#page=2', texts = TEXTS, rtl = false, ...options } = {}) {
   // Every line is a paragraph, and "and" at the beginning of one is a link.
   const pages = texts.map((lines) => ({
     ...typedPage(lines, { links: lines.flatMap((line, row) => (line.startsWith('and ') ? [[row, 0, 3, 1]] : [])) }),
     blocks: lines.flatMap(() => ['p', 1]),
   }));
+  if (rtl) pages.forEach(({ lines }) => lines.forEach((line) => { line[5] = 1; }));
   const folder = await reader.webBook({ pages: plainPages(pages.length, 120, 160), description: { pages, reading: [BLOCKS] } });
   const book = await reader[disk ? 'openFromDisk' : 'openOverHttp'](folder, { hash, ...options });
   book.folder = folder;
@@ -103,6 +104,18 @@ test('by keys alone words are marked, highlighted, listed, deleted and brought b
   await count(1);
   assert.equal((await book.pages()).join(), '2,3');
   assert.deepEqual(book.errors, []);
+});
+
+test('arrows select the way that text is read, and turn pages again once it is highlighted', async () => {
+  const book = await open({ rtl: true });
+  await book.page.keyboard.press('h');
+  await book.page.waitForFunction(() => String(getSelection()) === 'A');
+  for (const key of ['ArrowLeft', 'h']) await book.page.keyboard.press(key);
+  await book.page.waitForSelector('.note-mark', { state: 'attached' });
+  await book.page.keyboard.press('Escape');
+  await book.page.keyboard.press('ArrowRight');
+  await book.waitForPages(4, 5);
+  assert.deepEqual(await quotes(book), [['river', 'yellow', '']]);
 });
 
 test('a finger that rests marks a word, and a tap on a highlight opens its bar instead of turning', async () => {
