@@ -333,12 +333,13 @@ export class Notes {
   async #take(others) {
     const { store, list, player: { say } } = this;
     let [added, changed] = [0, 0];
-    store.change((notes) => {
+    const taken = store.takeOver((notes) => {
       const result = merged(notes, others);
       ({ added, changed } = result);
       return result.notes;
     });
-    list.tell(say('importDone', added, changed));
+    list.tell(taken ? say('importDone', added, changed) : say('importMany'));
+    if (!taken) return;
     this.lost = await checkPlaces(store, this.layers, this.files).catch(() => this.lost);
     this.#changed();
     if (!store.kept) this.#tellStorage();

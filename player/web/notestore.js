@@ -51,10 +51,27 @@ export class NoteStore {
     const all = this.notes.concat(stored.filter(({ id }) => !this.known.has(id)));
     this.#take(act(this.kept ? stored : all));
     const before = this.kept;
-    this.kept = !this.locked && keep(KEY, JSON.stringify({ version: VERSION, notes: this.notes }));
+    this.kept = !this.locked && this.#keep(this.notes);
     // Nothing may be stored any more, and nothing be read.
     if (before && !this.kept) this.#take(act(all));
     this.onChange();
+  }
+
+  /**
+   * Takes over many notes, all or none: what the browser has no room for must not cost it what it stores.
+   * @param {(notes: Note[]) => Note[]} act may be called twice
+   * @returns {boolean} whether they are there
+   */
+  takeOver(act) {
+    const stored = this.#stored();
+    const notes = act(this.kept ? stored : this.notes);
+    if (notes.length > MOST_NOTES || (this.kept && !this.#keep(inOrder(notes)))) return false;
+    if (!this.kept) this.change(act);
+    else {
+      this.#take(notes);
+      this.onChange();
+    }
+    return true;
   }
 
   /** @param {Note} note */
@@ -83,6 +100,11 @@ export class NoteStore {
   /** @param {string} id */
   remove(id) {
     this.change((notes) => notes.filter((note) => note.id !== id));
+  }
+
+  /** @param {Note[]} notes */
+  #keep(notes) {
+    return keep(KEY, JSON.stringify({ version: VERSION, notes }));
   }
 
   /** @param {Note[]} notes */

@@ -85,6 +85,18 @@ test('a full or forbidden storage keeps notes as long as the page, and all of th
   }
 });
 
+test('notes that do not fit in are not taken over, and cost the store neither its own nor what comes later', () => {
+  const store = new NoteStore();
+  store.add(noteAt('river'));
+  refuses = 'some';
+  assert.equal(store.takeOver((notes) => notes.concat(noteAt('wide'))), false);
+  refuses = false;
+  assert.equal(store.takeOver((notes) => notes.concat(Array.from({ length: 5000 }, () => noteAt('wide')))), false);
+  store.add(noteAt('town'));
+  assert.ok(store.takeOver((notes) => notes.concat(noteAt('old'))));
+  assert.deepEqual([quotes(store), quotes(new NoteStore())], [['river', 'old', 'town'], ['river', 'old', 'town']]);
+});
+
 test('stored notes that cannot be read are put aside, those of a later version left alone', () => {
   const whole = noteAt('river');
   for (const text of ['{"version":1,"notes":[', JSON.stringify({ version: 1, notes: [whole, { ...whole, page: 'x' }] })]) {
