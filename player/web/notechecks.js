@@ -1,43 +1,108 @@
 import { findAnchor, findPage, searched } from './noteanchors.js';
 import { listOf, textOf } from './facts.js';
+import { pause } from './idle.js';
 
 /** @typedef {import('./notestore.js').Note} Note */
+/** @typedef {import('./noteanchors.js').Searched} Searched */
 
-/**
- * Looks whether the notes are where they were made, and follows those that another edition has moved to other pages.
- * @param {import('./notestore.js').NoteStore} store
- * @param {import('./layers.js').Layers} layers
- * @param {import('./data.js').DataFiles} files
- * @returns {Promise<Set<string>>} ids of those that this edition does not have
- */
-export async function checkPlaces(store, { texts, facts }, files) {
-  const lost = [];
-  for (const page of new Set(store.notes.map((note) => note.page))) {
-    const text = await texts.get(page);
-    // A page that could not be loaded says nothing.
-    if (!text && page <= facts.pageCount) continue;
-    const own = searched(text?.string ?? '');
-    lost.push(...store.notes.filter((note) => note.page === page && isMissing(own, note, facts.pageCount)));
+/** Time slice for looking for notes in all pages, in milliseconds. */
+const SLICE_MS = 8;
+
+/** Knows which notes are where they were made, and follows those that another edition has moved to other pages. */
+export class NoteChecks {
+  /**
+   * @param {import('./notestore.js').NoteStore} store
+   * @param {import('./layers.js').Layers} layers
+   * @param {import('./data.js').DataFiles} files
+   */
+  constructor(store, layers, files) {
+    this.store = store;
+    this.layers = layers;
+    this.facts = layers.facts;
+    this.files = files;
+    /** @type {Set<string>} ids of notes that this edition does not have */
+    this.lost = new Set();
+    /** @type {Set<string>} ids of notes that were found, or looked for on all pages */
+    this.checked = new Set();
+    /** @type {Promise<void>} */
+    this.running = Promise.resolve();
+    layers.fillers.push((face) => this.#lookAt(face));
   }
-  if (lost.length === 0) return new Set();
-  /** @type {Map<string, {page: number, at: number}>} */
-  const moved = new Map();
-  const all = (await allTexts(files, facts.searchParts)).map(searched);
-  for (const note of lost) {
-    const { page, from } = findPage(all, note, note.page);
-    if (page) moved.set(note.id, { page, at: from });
+
+  /** Looks for notes where that needs no request: on the pages in view, and on pages that this edition does not have. */
+  look() {
+    for (const { id, page } of this.store.notes) {
+      if (page > this.facts.pageCount && !this.checked.has(id)) this.lost.add(id);
+    }
+    this.layers.faces.forEach((face) => this.#lookAt(face));
   }
-  if (moved.size > 0) store.change((notes) => notes.map((note) => ({ ...note, ...moved.get(note.id) })));
-  return new Set(lost.map(({ id }) => id).filter((id) => !moved.has(id)));
+
+  /** @param {import('./layers.js').Face} face */
+  #lookAt({ position, text }) {
+    const notes = text ? this.#unknown.filter(({ page }) => page === position) : [];
+    if (!text || notes.length === 0) return;
+    const own = searched(text.string);
+    for (const note of notes) if (isOn(own, note)) this.checked.add(note.id);
+  }
+
+  get #unknown() {
+    const { facts, checked } = this;
+    return this.store.notes.filter(({ id, page }) => !checked.has(id) && (page > facts.pageCount || facts.isOpen(page)));
+  }
+
+  /**
+   * Looks for all notes that were not seen yet in the text of the book. One that cannot be loaded says nothing.
+   * @returns {Promise<void>}
+   */
+  search() {
+    this.running = this.running.then(() => this.#search()).catch(() => {});
+    return this.running;
+  }
+
+  async #search() {
+    if (this.#unknown.length === 0) return;
+    const pages = await inSlices(await allTexts(this.files, this.facts.searchParts), searched);
+    /** @type {Map<string, {page: number, at: number}>} */
+    const moved = new Map();
+    await inSlices(this.#unknown, (note) => {
+      this.checked.add(note.id);
+      const own = pages[note.page - 1];
+      const { page, from } = own && isOn(own, note) ? { page: note.page, from: note.at } : findPage(pages, note, note.page);
+      if (page !== note.page && page) moved.set(note.id, { page, at: from });
+      if (page) this.lost.delete(note.id);
+      else this.lost.add(note.id);
+    });
+    if (moved.size > 0) this.store.change((notes) => notes.map((note) => ({ ...note, ...moved.get(note.id) })));
+  }
 }
 
 /**
- * @param {import('./noteanchors.js').Searched} text of the note's page
+ * Whether a note is on a page. What has no words is anywhere.
+ * @param {Searched} text
  * @param {Note} note
- * @param {number} pageCount
  */
-function isMissing(text, note, pageCount) {
-  return note.quote ? !findAnchor(text, note) : note.page > pageCount;
+function isOn(text, note) {
+  return !note.quote || findAnchor(text, note) !== null;
+}
+
+/**
+ * Does something with each of many, in slices.
+ * @template T, R
+ * @param {T[]} all
+ * @param {(one: T) => R} act
+ * @returns {Promise<R[]>}
+ */
+async function inSlices(all, act) {
+  const results = [];
+  let until = 0;
+  for (const one of all) {
+    if (performance.now() >= until) {
+      await pause();
+      until = performance.now() + SLICE_MS;
+    }
+    results.push(act(one));
+  }
+  return results;
 }
 
 /**

@@ -2,7 +2,7 @@ import { pageInAddress } from '../src/controls/place.js';
 import { copyText } from './copytext.js';
 import { anchorOfPage, findAnchor, findPage, inOneLine, searched } from './noteanchors.js';
 import { NoteBar } from './notebar.js';
-import { allTexts, checkPlaces } from './notechecks.js';
+import { NoteChecks, allTexts } from './notechecks.js';
 import { NoteEditor } from './noteeditor.js';
 import { LARGEST, RefusedFile, fileOf, isSameBook, merged, notesOfFile } from './noteexchange.js';
 import { NoteKeys } from './notekeys.js';
@@ -36,8 +36,7 @@ export class Notes {
     this.button = buttons.bookmark;
     this.store = new NoteStore();
     this.marks = new NoteMarks(player, layers, this.store);
-    /** @type {Set<string>} ids of notes that this edition does not have */
-    this.lost = new Set();
+    this.checks = new NoteChecks(this.store, layers, files);
     this.bar = new NoteBar(player, { colour: (colour) => this.#colour(colour), act: (action) => this.#act(action) });
     this.editor = new NoteEditor(player);
     this.keys = new NoteKeys(player, layers, () => this.markByKey());
@@ -48,6 +47,7 @@ export class Notes {
     this.list.panel.onShow = () => {
       this.#tellStorage();
       this.list.focus();
+      this.#search();
     };
     /** @type {Colour} the last one chosen */
     this.colour = 'yellow';
@@ -61,10 +61,12 @@ export class Notes {
     this.#wire();
     this.#changed();
     this.#look();
-    checkPlaces(this.store, layers, files).then((lost) => {
-      this.lost = lost;
-      this.#changed();
-    }, () => {});
+  }
+
+  /** Looks for notes on other pages than those in view. */
+  async #search() {
+    await this.checks.search();
+    this.#changed();
   }
 
   #wire() {
@@ -87,8 +89,9 @@ export class Notes {
   }
 
   #changed() {
+    this.checks.look();
     this.marks.draw();
-    this.list.show(this.store.notes, this.lost);
+    this.list.show(this.store.notes, this.checks.lost);
     this.#tellBookmark();
   }
 
@@ -340,8 +343,7 @@ export class Notes {
     });
     list.tell(taken ? say('importDone', added, changed) : say('importMany'));
     if (!taken) return;
-    this.lost = await checkPlaces(store, this.layers, this.files).catch(() => this.lost);
-    this.#changed();
+    await this.#search();
     if (!store.kept) this.#tellStorage();
   }
 

@@ -1,5 +1,6 @@
 import { fold, sourceOf } from './foldtext.js';
 import { listOf, textOf } from './facts.js';
+import { pause } from './idle.js';
 import { Query } from './query.js';
 
 /** @typedef {{position: number, ordinal: number, at: number, length: number}} Hit at: in the page's folded text */
@@ -105,14 +106,6 @@ export class SearchText {
     return [(start > 0 || first > 0 ? '\u2026' : '') + head.slice(start).replace(/^\u2026 /, ''), hit,
       end < tail.length || to + REACH < source.length ? behind.replace(/[.,;:\u2013\u2014-]+$/, '') + '\u2026' : behind];
   }
-}
-
-/** Yields to the event loop. */
-function pause() {
-  return new Promise((resolve) => {
-    if (window.requestIdleCallback) window.requestIdleCallback(() => resolve(undefined), { timeout: 60 });
-    else setTimeout(resolve, 4);
-  });
 }
 
 /**

@@ -2,6 +2,7 @@ import assert from 'node:assert/strict';
 import { afterEach, beforeEach, test } from 'node:test';
 import '../support/browser.mjs';
 import { anchorAt, findAnchor, findPage, searched } from '../../web/noteanchors.js';
+import { NoteChecks } from '../../web/notechecks.js';
 import { fileOf, isSameBook, merged, notesOfFile } from '../../web/noteexchange.js';
 import { isPhrase, phraseLink, quoteInAddress, quoteLink } from '../../web/notelinks.js';
 import { NoteStore, makeNote } from '../../web/notestore.js';
@@ -49,6 +50,24 @@ test('a quote that moved is found on the nearest page with the same surroundings
   const note = noteAt('carries what it finds');
   assert.deepEqual([1, 5].map((page) => findPage(pages, note, page).page), [3, 4]);
   assert.equal(findPage(pages, anchorAt('is', 0, 2), 2).page, 0);
+});
+
+test('where notes are is asked for once, when somebody wants to know', async () => {
+  const store = new NoteStore();
+  const gone = noteAt('wide', 1, { quote: 'nowhere to be found', before: '', after: '' });
+  for (const note of [noteAt('river is'), noteAt('old town', 9), gone]) store.add(note);
+  const asked = [];
+  const files = { load: async (name) => { asked.push(name); return ['Cover', 'Other', TEXT]; } };
+  const facts = { pageCount: 3, searchParts: 1, isOpen: () => true };
+  const checks = new NoteChecks(store, { facts, faces: [], fillers: [] }, files);
+  checks.look();
+  assert.deepEqual([asked, [...checks.lost].length], [[], 1]);
+  window.requestIdleCallback = (act) => act();
+  await checks.search();
+  await checks.search();
+  const pages = store.notes.map(({ quote, page }) => [quote, page]);
+  assert.deepEqual(pages, [['nowhere to be found', 1], ['old town', 3], ['river is', 3]]);
+  assert.deepEqual([asked, [...checks.lost]], [['search/text'], [gone.id]]);
 });
 
 test('two tabs see what the other one keeps and deletes, and neither overwrites it', () => {
