@@ -118,9 +118,24 @@ export class NoteStore {
     const text = recall(KEY);
     if (text === null) return [];
     const { notes, whole, newer } = notesIn(text);
-    this.locked = newer || (!whole && !keep(DAMAGED, text));
+    this.locked = newer || (!whole && !putAside(text));
     if (this.locked) this.kept = false;
     return notes;
+  }
+}
+
+/**
+ * Stores damaged notes beside all others that were damaged before.
+ * @param {string} text
+ * @returns {boolean} whether they are stored
+ */
+function putAside(text) {
+  let name = DAMAGED;
+  for (let count = 2; ; count++) {
+    const there = recall(name);
+    if (there === text) return true;
+    if (there === null) return keep(name, text);
+    name = DAMAGED + '-' + count;
   }
 }
 

@@ -124,6 +124,9 @@ test('stored notes that cannot be read are put aside, those of a later version l
     store.add(noteAt('town'));
     assert.equal(kept[`${KEY}-damaged`], text);
     assert.equal(new NoteStore().notes.length, text.endsWith('[') ? 1 : 2);
+    kept[KEY] = '{';
+    for (let again = 0; again < 2; again += 1) new NoteStore();
+    assert.deepEqual(Object.entries(kept).filter(([key]) => key !== KEY), [[`${KEY}-damaged`, text], [`${KEY}-damaged-2`, '{']]);
   }
   const later = JSON.stringify({ version: 2, notes: [{ shape: 'new' }] });
   kept = { [KEY]: later };
