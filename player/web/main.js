@@ -178,8 +178,13 @@ function addNotes(player, layers, room) {
   Object.assign(key.dataset, { does: 'mark', name: 'mark', key: 'H' });
   key.style.display = 'none';
   toolbar.bar.append(key);
+  // A selection changes many times during a press; where the script can't be loaded, once is enough.
+  let tried = false;
+  for (const kind of ['pointerdown', 'keydown']) window.addEventListener(kind, () => { tried = false; }, { capture: true });
   document.addEventListener('selectionchange', () => {
-    if (getSelection()?.anchorNode?.parentElement?.closest('.word, .read-text')) load().catch(() => {});
+    if (tried || !getSelection()?.anchorNode?.parentElement?.closest('.word, .read-text')) return;
+    tried = true;
+    load().catch(() => {});
   });
   if (recall('notes')) whenShown(root, load);
   return (fragment) => later(player, load, (notes) => notes.showQuote(fragment))();

@@ -140,6 +140,14 @@ test('a finger that rests marks a word, and a tap on a highlight opens its bar i
   assert.deepEqual([await quotes(book), await book.pages()], [[['town', 'pink', '']], [2]]);
 });
 
+test('a script for notes that cannot be loaded is asked for once while text is being marked', async () => {
+  const book = await open({ before: (page) => page.route('**/files/notes.js*', (route) => route.abort()) });
+  const [a, b] = [await boxOf(book, 'carries'), await boxOf(book, 'harbour\\.')];
+  await book.drag([a.x + 1, a.y + a.height / 2], [b.x + b.width, b.y + b.height / 2], { steps: 30 });
+  assert.match(await book.page.evaluate(() => String(getSelection())), /^carries.*harbour/s);
+  assert.equal(book.requests.filter((address) => address.includes('/notes.js')).length, 1);
+});
+
 test('a browser that stores nothing says so at once, and keeps what is marked as long as the page', async () => {
   const book = await open({ before: (page) => page.addInitScript(() => {
     Storage.prototype.setItem = () => { throw new DOMException('full', 'QuotaExceededError'); };
