@@ -60,6 +60,29 @@ function offsetOf(text, word) {
 }
 
 /**
+ * Whether there is text of the book in what is selected in the reading view, which also has titles.
+ * @param {Range} range
+ * @param {Element} article
+ */
+export function hasPassages(range, article) {
+  return piecesOf(range, article).length > 0;
+}
+
+/**
+ * The beginning and the end of a range, by the texts in which they are.
+ * @param {Range} range
+ * @returns {Range[]}
+ */
+export function endsOf(range) {
+  const { startContainer: first, endContainer: last } = range;
+  if (first === last) return [range];
+  const [start, end] = [range.cloneRange(), range.cloneRange()];
+  start.setEnd(first, first instanceof Text ? first.length : first.childNodes.length);
+  end.setStart(last, 0);
+  return [start, end];
+}
+
+/**
  * What is selected in the reading view, by pages. A part that is not found on its page as a whole, since something else
  * stands between, is taken paragraph by paragraph.
  * @param {Range} range

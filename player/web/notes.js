@@ -9,7 +9,7 @@ import { NoteKeys } from './notekeys.js';
 import { isPhrase, phraseLink, quoteInAddress, quoteLink } from './notelinks.js';
 import { NoteList } from './notelist.js';
 import { GUEST, NoteMarks } from './notemarks.js';
-import { passagesInText, passagesOnPages } from './notepassages.js';
+import { endsOf, hasPassages, passagesInText, passagesOnPages } from './notepassages.js';
 import { COLOURS, NoteStore, makeNote } from './notestore.js';
 
 /** @typedef {import('./notestore.js').Note} Note */
@@ -128,7 +128,15 @@ export class Notes {
     const { range, passages } = found;
     this.opened = '';
     this.selected = passages;
-    const rects = () => (getSelection()?.isCollapsed === false ? [...range.getClientRects()].filter(({ width }) => width > 0) : []);
+    // They are asked for in every frame; a long selection has thousands of words.
+    const ends = endsOf(range);
+    const rectsIn = (/** @type {Range[]} */ ranges) =>
+      ranges.flatMap((one) => [...one.getClientRects()]).filter(({ width }) => width > 0);
+    const rects = () => {
+      if (getSelection()?.isCollapsed !== false) return [];
+      const near = rectsIn(ends);
+      return near.length > 0 ? near : rectsIn([range]);
+    };
     this.bar.show({ colour: '', own: false, rects });
   }
 
@@ -137,8 +145,11 @@ export class Notes {
     const selection = getSelection();
     if (!selection || selection.isCollapsed || this.player.root.querySelector('dialog.panel[open]')) return null;
     const range = selection.getRangeAt(0).cloneRange();
-    const article = range.commonAncestorContainer.parentElement?.closest('.read-text') ?? null;
-    if (article) return { range, passages: () => passagesInText(range, article, this.layers.texts) };
+    const { commonAncestorContainer: around } = range;
+    const article = (around instanceof Element ? around : around.parentElement)?.closest('.read-text');
+    if (article) {
+      return hasPassages(range, article) ? { range, passages: () => passagesInText(range, article, this.layers.texts) } : null;
+    }
     const found = passagesOnPages(selection, this.layers);
     return found.length > 0 ? { range, passages: async () => found } : null;
   }
@@ -231,6 +242,7 @@ export class Notes {
       return;
     }
     const passages = await this.#passages();
+    if (passages.length === 0) return;
     const text = action === 'copy' ? passages.map(({ anchor }) => anchor.quote).join('\n') : this.#linkOf(passages[0]);
     if (await copyText(text)) this.bar.done(action, say('copied'));
     else this.player.toast.show(text, say('close'), () => {});

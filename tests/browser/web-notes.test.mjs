@@ -72,6 +72,8 @@ test('text that the mouse marks is highlighted, noted and linked to, and all of 
   const marked = () => [...CSS.highlights.get('note-green') ?? []].map(String);
   await book.page.waitForFunction(() => CSS.highlights.get('note-green')?.size > 0);
   assert.deepEqual(await book.page.evaluate(marked), ['carries what it finds down to the harbour.']);
+  await book.page.evaluate(() => getSelection().selectAllChildren(document.querySelector('.read-text')));
+  await bar(book).waitFor();
   await book.page.keyboard.press('a');
   await book.page.goto(link);
   await book.page.waitForSelector('.hit.current');
