@@ -8,6 +8,7 @@
 #include "cli/LibrarySearchCommands.h"
 #include "cli/LibraryStatusCommand.h"
 #include "cli/PublishArguments.h"
+#include "library/catalogue/CatalogueTexts.h"
 #include "system/NameAliases.h"
 
 #include <QByteArray>
@@ -92,7 +93,8 @@ void addCatalogueTexts(CLI::App& command, LibraryCatalogueOptions& options) {
     addText(command, "--title", options.title, "Name of the library; by default that of its folder")
         ->type_name("TEXT");
     addText(command, "--language", options.language,
-            "Language of the catalogue's pages: ar, cs, de, en, fa, he, ja, pl, uk or zh")
+            "Language of the catalogue's pages:\n" +
+                CatalogueTexts::languages().join(QStringLiteral(", ")).toStdString())
         ->type_name("CODE")
         ->default_str("en");
     addText(command, "--contact", options.contact,
