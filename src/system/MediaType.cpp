@@ -13,6 +13,7 @@ QByteArray MediaType::ofFile(const QString& name) {
         {QStringLiteral("webmanifest"), "application/manifest+json"},
         {QStringLiteral("xml"), "application/xml"},
         {QStringLiteral("txt"), "text/plain"},
+        {QStringLiteral("pdf"), "application/pdf"},
         {QStringLiteral("svg"), "image/svg+xml"},
         {QStringLiteral("jpg"), "image/jpeg"},
         {QStringLiteral("jpeg"), "image/jpeg"},

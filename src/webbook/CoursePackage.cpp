@@ -18,10 +18,11 @@ const QByteArray comment = QByteArrayLiteral("Course package by Folvero");
 
 constexpr qsizetype identifierLetters = 16;
 
-// Pictures and sounds would not get smaller.
+// Pictures, sounds and documents would not get smaller.
 ZipWriter::Method methodFor(const QString& path) {
     const QByteArray type = MediaType::ofFile(path);
     const bool isCompressed = type.startsWith("audio/") || type.startsWith("video/") ||
+                              type == "application/pdf" ||
                               (type.startsWith("image/") && !type.contains("svg"));
     return isCompressed ? ZipWriter::Method::stored : ZipWriter::Method::deflated;
 }
