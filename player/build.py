@@ -19,8 +19,8 @@ import sys
 import texts
 from bundle import bundled, joined_style
 
-PLACEHOLDERS = ["book.language", "book.scripts", "index.title", "meta.keywords", "meta.description", "book.start",
-                "book.head", "book.movie", "book.end"]
+PLACEHOLDERS = ["book.language", "book.scripts", "index.title", "meta.keywords", "meta.description", "book.head",
+                "book.movie", "book.end"]
 STYLES = ["book.css", "controls.css", "drawer.css", "panels.css", "print.css"]
 
 

@@ -25,7 +25,8 @@ TextTemplate HTMLConfigInfo::filled(const QString& pageTemplate, const PagePlace
     const QString allowed =
         PageScripts::sources(pageTemplate) + u' ' + places.allowedSources().join(u' ');
     page.setItem(PagePlaces::scriptsName, allowed.trimmed());
-    page.setItem(PagePlaces::startName, places.start);
+    // Pages of templates that were copied from ours have it still.
+    page.setItem(QStringLiteral("book.start"), {});
     page.setItem(PagePlaces::headName, places.head);
     page.setItem(PagePlaces::movieName, places.movie);
     page.setItem(PagePlaces::endName, places.end);

@@ -11,13 +11,11 @@ struct PagePlaces {
     // Its placeholders.
     static inline const QString languageName = QStringLiteral("book.language");
     static inline const QString scriptsName = QStringLiteral("book.scripts");
-    static inline const QString startName = QStringLiteral("book.start");
     static inline const QString headName = QStringLiteral("book.head");
     static inline const QString movieName = QStringLiteral("book.movie");
     static inline const QString endName = QStringLiteral("book.end");
 
     QString language = QStringLiteral("en");
-    QString start;                // markup before the first script
     QString head;                 // markup at the end of the head
     QString movie = flashMovie(); // the Flash movie, for browsers that run no scripts
     // Markup at the end of the body; not the files of a book in one page, which may be too large

@@ -27,7 +27,7 @@ bool isFilled(const QString& page, const QString& name) {
 QString withPlaces(QString page) {
     for (const auto& [name, where] :
          {Place{PagePlaces::languageName, "(?<=<html lang=\")en(?=\">)"},
-          Place{PagePlaces::startName, "(?=<script)"}, Place{PagePlaces::headName, "(?=</head>)"},
+          Place{PagePlaces::headName, "(?=</head>)"},
           Place{PagePlaces::movieName, "<object .*?</object>"},
           Place{PagePlaces::endName, "(?=</body>(?!.*</body>))"}}) {
         const QRegularExpression element(QString::fromLatin1(where),
