@@ -35,9 +35,11 @@ bool writeEncoded(const QString& source, QFile& to) {
 
 } // namespace
 
-SingleFilePage::SingleFilePage(const QByteArray& start, const Files& files, const QByteArray& end) {
+SingleFilePage::SingleFilePage(const QByteArray& start, const Files& files, const QByteArray& end,
+                               const std::function<void()>& checkCancelled) {
     addText(start);
     for (const auto& [path, source] : files) {
+        checkCancelled();
         if (path.endsWith(u".js"))
             addScript(path, source);
         else

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
 #include <vector>
 
 // A web book as a single page that contains all of its files.
@@ -13,8 +14,10 @@ public:
     using Files = std::vector<std::pair<QString, QString>>;
 
     // The book's files in the order in which a reader gets them, between the two parts of its HTML
-    // page, which contain the player and what it begins with.
-    SingleFilePage(const QByteArray& start, const Files& files, const QByteArray& end);
+    // page, which contain the player and what it begins with. checkCancelled is called before each
+    // file and may throw: scripts are read and packed here.
+    SingleFilePage(const QByteArray& start, const Files& files, const QByteArray& end,
+                   const std::function<void()>& checkCancelled);
 
     // Size in bytes.
     qint64 size() const;

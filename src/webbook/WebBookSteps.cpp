@@ -433,7 +433,7 @@ void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& 
     qsizetype end = 0;
     const QString page = book.texts.filled(pageTemplate, places).parse(PagePlaces::endName, end);
     const SingleFilePage single(page.left(end).toUtf8(), orderedFiles(to.layout, parts, book),
-                                page.mid(end).toUtf8());
+                                page.mid(end).toUtf8(), [&to] { to.checkCancelled(); });
     if (single.size() > options.limit)
         PublishTransaction::fail(book.htmlFile, tooLarge(single.size(), options.limit));
     Message error;
