@@ -95,6 +95,22 @@ void copyTemplateFile(PublishTarget& to, const FlashTemplate* flashTemplate, con
         to.transaction.remove(target);
 }
 
+// Logos in the book that the template no longer has, also those with another file extension.
+QStringList earlierLogos(const BookLayout& layout, const FlashTemplate* flashTemplate) {
+    const QString key = QStringLiteral("logoFile");
+    const QString logo =
+        flashTemplate ? flashTemplate->propertyValueFor(key, QStringLiteral("")) : QString();
+    const QString kept = logo.isEmpty() ? QString() : BookName::withExtensionOf(key, logo);
+    QStringList files;
+    const QDir folder(layout.at(BookLayout::settingsFiles, {}));
+    for (const QString& name :
+         folder.entryList({key + QStringLiteral(".*")}, QDir::Files | QDir::CaseSensitive)) {
+        if (name != kept)
+            files << folder.filePath(name);
+    }
+    return files;
+}
+
 } // namespace
 
 PublishStep BookSteps::pages(FlashPageSource::Pages pages, const FlashPageSource* source, Copy kind,
@@ -167,9 +183,7 @@ QStringList BookSteps::clearedFiles(const BookLayout& layout, const FlashTemplat
     const std::pair<QString, QStringList> settings[] = {
         {QStringLiteral("innerMainbgImgUrl"), images},
         {QStringLiteral("mainbgImgUrl"), images},
-        {QStringLiteral("backgroundSoundURL"), {QStringLiteral("mp3")}},
-        {QStringLiteral("logoFile"),
-         images + QStringList{QStringLiteral("jpeg"), QStringLiteral("svg")}}};
+        {QStringLiteral("backgroundSoundURL"), {QStringLiteral("mp3")}}};
     QStringList files;
     for (const auto& [key, extensions] : settings) {
         if (flashTemplate && !flashTemplate->propertyValueFor(key, empty).isEmpty())
@@ -180,7 +194,7 @@ QStringList BookSteps::clearedFiles(const BookLayout& layout, const FlashTemplat
                 files << path;
         }
     }
-    return files;
+    return files + earlierLogos(layout, flashTemplate);
 }
 
 PublishStep BookSteps::linkedFiles(const FlashPagesAnnotations* annotations) {

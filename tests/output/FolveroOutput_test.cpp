@@ -79,6 +79,21 @@ TEST(FolveroOutput, RemovesLeftoversOfClearedSettings) {
               "backgroundSoundURL.wav innerMainbgImgUrl.jpg mainbgImgUrl.jpeg moveSound.mp3");
 }
 
+TEST(FolveroOutput, RemovesAnEarlierLogo) {
+    PublishedBook book(fileProperty("logoFile", QString()));
+    const auto publishWithLogo = [&book](const char* name) {
+        book.flashTemplate->setPropertyValue("logoFile", book.addSource(name, "logo"));
+        book.publish();
+        return book.files("files/extfiles");
+    };
+    EXPECT_EQ(publishWithLogo("a.webp"), "logoFile.webp moveSound.mp3");
+    EXPECT_EQ(publishWithLogo("a.PNG"), "logoFile.PNG moveSound.mp3");
+    EXPECT_EQ(publishWithLogo("a.png"), "logoFile.png moveSound.mp3");
+    book.flashTemplate->setPropertyValue("logoFile", QString());
+    book.publish();
+    EXPECT_EQ(book.files("files/extfiles"), "moveSound.mp3");
+}
+
 TEST(FolveroOutput, CopiesSettingsFilesAtAnyDepthButNotBelowAMissingOne) {
     PublishedBook book;
     const QString file = book.addSource("a.png", "a");
