@@ -219,6 +219,17 @@
     </message>
 </context>
 <context>
+    <name>FolveroOutputWeb</name>
+    <message>
+        <source>a book in one file has no other files</source>
+        <translation>ein Buch in einer Datei hat keine anderen Dateien</translation>
+    </message>
+    <message>
+        <source>it has the pages that a reading sample leaves out</source>
+        <translation>es enthält die Seiten, die eine Leseprobe auslässt</translation>
+    </message>
+</context>
+<context>
     <name>ImportPDFOperation</name>
     <message>
         <source>%1: none of the pages asked for is in it</source>
@@ -742,6 +753,15 @@
         <source>The document forbids copying its text. Without text the book can&apos;t be searched, and its words can&apos;t be selected or read aloud.</source>
         <translation>Das Dokument verbietet, seinen Text zu kopieren. Ohne Text lässt sich das Buch nicht durchsuchen, und seine Wörter lassen sich nicht markieren oder vorlesen.</translation>
     </message>
+    <message>
+        <source>Readers can&apos;t download the document</source>
+        <translation>Das Dokument lässt sich nicht herunterladen</translation>
+    </message>
+    <message>
+        <source>The settings offer it for download, but %1.</source>
+        <extracomment>%1 is a reason, such as &quot;it opens with a password only&quot;</extracomment>
+        <translation>Die Einstellungen bieten es zum Herunterladen an, aber %1.</translation>
+    </message>
 </context>
 <context>
     <name>PDFDocument</name>
@@ -956,6 +976,13 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <source>“%1”</source>
         <extracomment>A setting&apos;s name in quotation marks; stands in &quot;Undo %1&quot;.</extracomment>
         <translation>„%1“</translation>
+    </message>
+</context>
+<context>
+    <name>PublisherChoices</name>
+    <message>
+        <source>it opens with a password only</source>
+        <translation>es öffnet sich nur mit einem Passwort</translation>
     </message>
 </context>
 <context>

@@ -334,6 +334,9 @@ MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, Publ
         timing.write(options.timingFile);
 
     MadeBook made = resultOf(*output, book);
+    if (const Message reason = output->documentLeftOut(); !reason.isNull())
+        Terminal::report(QStringLiteral("folvero: %1: readers can't download the document: %2")
+                             .arg(options.pdf, reason.english()));
     if (web) {
         reportWebBook(*web, options, made);
         made.metadata = metadataOf(*web);

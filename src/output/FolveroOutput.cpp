@@ -89,6 +89,10 @@ Message FolveroOutput::missingPart() const {
         .arg(iFlashTemplate->HTMLFilePath(), iFlashTemplate->tmplName());
 }
 
+Message FolveroOutput::documentLeftOut() const {
+    return PublisherChoices::documentLeftOut(iFlashTemplate.get(), iBook);
+}
+
 void FolveroOutput::ouputTheBook() {
     resetResults();
     if (!QFileInfo(iSaveToFolder).isDir())

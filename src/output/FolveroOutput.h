@@ -49,6 +49,9 @@ public:
     // What lacks in the template or the installation, so that nobody could open the book; null for
     // nothing. A run makes it all the same, so callers must ask first.
     virtual Message missingPart() const;
+    // Why readers of the book can't download its document although the template offers that; null
+    // when they can, or it does not.
+    virtual Message documentLeftOut() const;
     // The title, as plain text, of the book that a run would replace. Null when there is none, or
     // its page has no title.
     QString titleOfExistingBook() const;

@@ -1,6 +1,5 @@
 #include "output/PublisherChoices.h"
 
-#include "base/Log.h"
 #include "output/BookLayout.h"
 #include "output/BookName.h"
 #include "pages/Book.h"
@@ -11,8 +10,6 @@
 #include <QStringList>
 
 namespace {
-
-constexpr Log logger("PublisherChoices");
 
 struct Button {
     const char* key;
@@ -56,14 +53,16 @@ bool PublisherChoices::offerDocument(const FlashTemplate* flashTemplate) {
     return StringUtil::valueAsBool(valueOf(flashTemplate, "offerDocument"));
 }
 
-QString PublisherChoices::documentPath(const FlashTemplate* flashTemplate, const Book& book) {
-    if (!offerDocument(flashTemplate) || !book.document)
+Message PublisherChoices::documentLeftOut(const FlashTemplate* flashTemplate, const Book& book) {
+    if (!offerDocument(flashTemplate) || !book.document || book.document->password().isEmpty())
         return {};
-    if (book.document->password().isEmpty())
-        return BookLayout::document;
-    logger.warn(QStringLiteral("not offered, since it opens with a password only: %1")
-                    .arg(book.document->path()));
-    return {};
+    return Message::translate("PublisherChoices", "it opens with a password only");
+}
+
+QString PublisherChoices::documentPath(const FlashTemplate* flashTemplate, const Book& book) {
+    const bool isOffered = offerDocument(flashTemplate) && book.document &&
+                           documentLeftOut(flashTemplate, book).isNull();
+    return isOffered ? BookLayout::document : QString();
 }
 
 void PublisherChoices::append(pugi::xml_node properties, const FlashTemplate* flashTemplate,

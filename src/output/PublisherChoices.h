@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Message.h"
+
 #include <QString>
 #include <pugixml.hpp>
 
@@ -13,8 +15,12 @@ namespace PublisherChoices {
 // Whether readers are to have the imported document, as the template's settings say.
 bool offerDocument(const FlashTemplate* flashTemplate);
 
+// Why the document is not offered although it should be: it opens with a password only. Null for
+// no reason.
+Message documentLeftOut(const FlashTemplate* flashTemplate, const Book& book);
+
 // Path in the book of the document that readers may download: the imported one where the template
-// offers it. Empty for none, and for one that only opens with a password.
+// offers it. Empty for none, and for one that is left out.
 QString documentPath(const FlashTemplate* flashTemplate, const Book& book);
 
 // Appends an element for each choice that differs from what books do by themselves, so that others

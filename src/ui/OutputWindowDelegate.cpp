@@ -314,6 +314,12 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
                "then publish once more.")
                 .arg(pages.join(QStringLiteral(", "))));
     }
+    if (const Message reason = output.documentLeftOut(); !reason.isNull()) {
+        iQuestions.showMessage(
+            tr("Readers can't download the document"),
+            //: %1 is a reason, such as "it opens with a password only"
+            tr("The settings offer it for download, but %1.").arg(reason.local()));
+    }
     if (iQuestions.openResult(tr("Open the result files?"), tr("Publish finished! Open the it?")))
         iQuestions.open(result);
 }

@@ -90,8 +90,7 @@ WebBook FolveroOutputWeb::webBook() const {
     book.hasText = iIncludesForbiddenText || book.metadata.allowsText;
     if (!iIsSingleFile) {
         book.player = iSharedPlayer;
-        // A preview must not come with all pages.
-        if (!iOpenPages)
+        if (documentLeftOut().isNull())
             book.download = PublisherChoices::documentPath(iFlashTemplate.get(), iBook);
         if (book.hasText)
             book.metadata.textPage = BookLayout::textPage;
@@ -166,6 +165,17 @@ PublishSteps FolveroOutputWeb::singleFileSteps(const WebBook& book) {
              WebBookSteps::writeSingleFile(to, transaction, book, {iReport.text, iSingleFileLimit});
          }},
         BookSteps::outdatedOfflineFiles()};
+}
+
+Message FolveroOutputWeb::documentLeftOut() const {
+    if (!PublisherChoices::offerDocument(iFlashTemplate.get()))
+        return {};
+    if (iIsSingleFile)
+        return Message::translate("FolveroOutputWeb", "a book in one file has no other files");
+    if (iOpenPages)
+        return Message::translate("FolveroOutputWeb",
+                                  "it has the pages that a reading sample leaves out");
+    return FolveroOutput::documentLeftOut();
 }
 
 QStringList FolveroOutputWeb::foreignFiles() const {

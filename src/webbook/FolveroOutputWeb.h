@@ -55,6 +55,7 @@ public:
     // Does nothing without pages.
     void ouputTheBook() override;
     QStringList foreignFiles() const override;
+    Message documentLeftOut() const override;
 
     // Pages of the last run that lack some of their files, and why.
     const std::vector<std::pair<int, Message>>& degradedPages() const {

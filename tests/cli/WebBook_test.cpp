@@ -401,10 +401,11 @@ TEST_F(WebBookTest, PreviewHoldsNothingOfClosedPages) {
 TEST_F(WebBookTest, OffersTheDocumentWhereAllOfItMayBeRead) {
     const QString offer = "--set=offerDocument=Yes";
     const auto offered = [&](const QStringList& options, const QString& sample = "text.pdf") {
-        publishWeb(sample, QStringList{"--pages=1"} + options);
+        const QByteArray errors = publishWeb(sample, QStringList{"--pages=1"} + options);
         const bool isThere = QFileInfo::exists(file("files/extfiles/document.pdf"));
         const auto decoded = Program::run({"decode", file("files/UserConfig.bin")});
         EXPECT_EQ(decoded.output.contains("<DownloadFile>extfiles/document.pdf<"), isThere);
+        EXPECT_EQ(errors.contains("can't download"), options.contains(offer) && !isThere);
         EXPECT_FALSE(TestFiles::read(file("files/web/offline.json")).contains("document.pdf"));
         return isThere;
     };
