@@ -96,7 +96,8 @@ void restrictFiles(const Sandbox::Policy& policy) {
         return;
     const Ruleset rules(version, Ruleset::Forbids::everything);
     // A file that can't be opened now can't be opened later either, and that is reported then.
-    rules.allow(policy.file, Access::readFile);
+    for (const QString& file : policy.files)
+        rules.allow(file, Access::readFile);
     if (!policy.workFolder.isNull())
         rules.allow(policy.workFolder, Access::workFolder);
     rules.enforce();

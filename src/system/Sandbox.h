@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <cstddef>
 
 // A sandbox for processes that read untrusted files: after entering it, an attacker who controls
@@ -9,7 +9,7 @@ namespace Sandbox {
 
 // What the process may still use.
 struct Policy {
-    QString file;            // may be read; a symbolic link is followed
+    QStringList files;       // may be read; symbolic links are followed
     QString workFolder;      // files in it may be read, written, renamed and deleted; null for none
     std::size_t memory{0};   // limit of data memory, in bytes
     std::size_t fileSize{0}; // limit of a file's size, in bytes; 0 for none

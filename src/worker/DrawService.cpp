@@ -75,7 +75,7 @@ void serveDrawing() {
     const QByteArrayList order = QByteArray::fromStdString(line).split(' ');
     const QString path = QFile::decodeName(QByteArray::fromBase64(order.value(0)));
     const QString workFolder = QFile::decodeName(QByteArray::fromBase64(order.value(1)));
-    enterWorkerSandbox(path, workFolder);
+    enterWorkerSandbox({path}, workFolder);
     try {
         const DrawablePDF document(path, DrawablePDF::Access::mapped,
                                    QByteArray::fromBase64(order.value(3)));

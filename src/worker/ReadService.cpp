@@ -4,20 +4,16 @@
 #include "pdf/DrawablePDF.h"
 #include "pdf/PDFLimits.h"
 #include "pdf/PDFSerialization.h"
+#include "worker/Answer.h"
 #include "worker/WorkerSandbox.h"
 
 #include <QFile>
-#include <functional>
 #include <iostream>
-#include <new>
 #include <string>
-#include <unistd.h>
 
 namespace {
 
-// A process that is no longer waited for must not keep running. The other side times out before
-// that.
-constexpr unsigned maxQuestionSeconds = unsigned(PDFLimits::maxPageTime.count()) + 10;
+constexpr std::chrono::seconds maxQuestionTime = PDFLimits::maxPageTime;
 
 QByteArray answer(const PDFDocument& document, const QByteArray& question) {
     const qsizetype blank = question.indexOf(' ');
@@ -42,24 +38,6 @@ QByteArray answer(const PDFDocument& document, const QByteArray& question) {
     throw PlatformException(ErrorKind::readerMalformedAnswer, QStringLiteral("no such question"));
 }
 
-void answerWith(const std::function<QByteArray()>& work) {
-    std::string line;
-    ::alarm(maxQuestionSeconds);
-    try {
-        line = "ok " + work().toBase64().toStdString();
-    } catch (const PlatformException& failure) {
-        QString reason = failure.reason();
-        reason.replace(u'\n', u' ');
-        line = "fail " + failure.name().toStdString() + ' ' + reason.toStdString();
-    } catch (const std::bad_alloc&) {
-        line = "fail PDFPageUnreadable it takes more memory than a page may have";
-    } catch (const std::exception& failure) {
-        line = std::string("fail PDFPageUnreadable ") + failure.what();
-    }
-    ::alarm(0);
-    std::cout << line << std::endl;
-}
-
 } // namespace
 
 void serveReading(const char* pdf) {
@@ -68,12 +46,13 @@ void serveReading(const char* pdf) {
         return;
     const QByteArray password = QByteArray::fromBase64(QByteArray::fromStdString(line));
     const QString path = QFile::decodeName(pdf);
-    enterWorkerSandbox(path, QString());
+    enterWorkerSandbox({path}, QString());
     std::shared_ptr<PDFDocument> document;
-    answerWith([&] {
+    answerWith(maxQuestionTime, [&] {
         document = std::make_shared<DrawablePDF>(path, DrawablePDF::Access::mapped, password);
         return PDFSerialization::pack(document->pageCount());
     });
     while (document && std::getline(std::cin, line))
-        answerWith([&] { return answer(*document, QByteArray::fromStdString(line)); });
+        answerWith(maxQuestionTime,
+                   [&] { return answer(*document, QByteArray::fromStdString(line)); });
 }

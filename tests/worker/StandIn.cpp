@@ -115,7 +115,7 @@ int main() {
     const QByteArray file = QByteArray::fromBase64(order.value(0));
     const std::string folder = QByteArray::fromBase64(order.value(1)).toStdString();
     const auto deeds = readDeeds(file.constData());
-    enterWorkerSandbox(QFile::decodeName(file), QFile::decodeName(folder.c_str()));
+    enterWorkerSandbox({QFile::decodeName(file)}, QFile::decodeName(folder.c_str()));
     if (const auto deed = deeds.find("opening"); deed != deeds.end())
         known.at(deed->second)(folder);
     std::cout << "ready" << std::endl;
