@@ -817,6 +817,30 @@
         <source>its pages can&apos;t be found (%1)</source>
         <translation>die Seiten sind nicht auffindbar (%1)</translation>
     </message>
+    <message>
+        <source>was changed while it was read</source>
+        <translation>wurde geändert, während es gelesen wurde</translation>
+    </message>
+    <message>
+        <source>can&apos;t be merged with others (%1)</source>
+        <translation>lässt sich nicht mit anderen verbinden (%1)</translation>
+    </message>
+    <message>
+        <source>is too damaged to be merged with others</source>
+        <translation>ist zu beschädigt, um mit anderen verbunden zu werden</translation>
+    </message>
+    <message>
+        <source>has no page %1</source>
+        <translation>hat keine Seite %1</translation>
+    </message>
+    <message>
+        <source>is neither a PDF nor a picture</source>
+        <translation>ist weder ein PDF noch ein Bild</translation>
+    </message>
+    <message>
+        <source>the picture can&apos;t be read (%1)</source>
+        <translation>das Bild lässt sich nicht lesen (%1)</translation>
+    </message>
 </context>
 <context>
     <name>PDFReader</name>

@@ -6,7 +6,9 @@
 #include "system/NameAliases.h"
 
 #include <QByteArray>
+#include <QDir>
 #include <QFileInfo>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -51,6 +53,33 @@ void addFacts(CLI::App& command, BookFacts& facts) {
     addText(command, "--rights", facts.rights,
             "Rights of a web book, a text or the address of a licence")
         ->type_name("TEXT");
+}
+
+// The last path is the folder, but a list takes whatever comes.
+void addPaths(CLI::App& command, PublishOptions& options) {
+    const auto folder = std::make_shared<CLI::Option*>();
+    command
+        .add_option_function<std::vector<std::string>>(
+            "PDF",
+            [folder, &options](std::vector<std::string> typed) {
+                if (typed.size() > 1) {
+                    (*folder)->add_result(typed.back());
+                    typed.pop_back();
+                }
+                for (const std::string& path : typed)
+                    options.inputs << NameAliases::decoded(QByteArray::fromStdString(path));
+                options.pdf = options.inputs.front();
+                // A book is named after a folder, even if that is called "." or "x/".
+                if (QFileInfo(options.pdf).isDir())
+                    options.pdf = QDir::cleanPath(QFileInfo(options.pdf).absoluteFilePath());
+            },
+            "The PDF file; or several PDFs, pictures and folders of them, whose pages\n"
+            "make one book in this order")
+        ->type_name("")
+        ->required();
+    *folder = addPath(command, "FOLDER", options.outputFolder,
+                      "The folder for the book; created if missing");
+    (*folder)->type_name("")->required();
 }
 
 // Options that change the book.
@@ -160,10 +189,7 @@ void addRunOptions(CLI::App& command, PublishOptions& options) {
 } // namespace
 
 void PublishArguments::addTo(CLI::App& command, PublishOptions& options) {
-    addPath(command, "PDF", options.pdf, "The PDF file")->type_name("")->required();
-    addPath(command, "FOLDER", options.outputFolder, "The folder for the book; created if missing")
-        ->type_name("")
-        ->required();
+    addPaths(command, options);
     addBookOptions(command, options);
     addPassword(command, options.password);
     addRunOptions(command, options);

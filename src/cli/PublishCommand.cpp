@@ -4,6 +4,7 @@
 #include "base/PlatformException.h"
 #include "cli/FileWatcher.h"
 #include "cli/InputFile.h"
+#include "cli/MergedInput.h"
 #include "cli/OutputFolder.h"
 #include "cli/PageSelection.h"
 #include "cli/PublishReport.h"
@@ -67,11 +68,14 @@ QString bookName(const PublishOptions& options) {
     return name + QStringLiteral(".html");
 }
 
-// What counts is the file as it was when the stamp was compared with it.
-OpenedPDF openDocument(const PublishOptions& options, const PublishStamp& stamp) {
-    OpenedPDF opened =
-        InputFile::openForDrawing(options.pdf, options.password.password(), options.jobs);
-    opened.document->setOpenedState(stamp.documentState(), stamp.documentDigest());
+// What counts of a document is the file as it was when the stamp was compared with it.
+OpenedPDF openDocument(const PublishOptions& options, const PublishStamp& stamp,
+                       const MergedInput* merged) {
+    OpenedPDF opened = InputFile::openForDrawing(
+        merged ? merged->path() : options.pdf, merged ? QByteArray() : options.password.password(),
+        options.jobs);
+    if (!merged)
+        opened.document->setOpenedState(stamp.documentState(), stamp.documentDigest());
     if (opened.document->pageCount() == 0)
         throw CommandError(QStringLiteral("%1: the document has no pages").arg(options.pdf),
                            ExitCode::badDocument);
@@ -87,8 +91,8 @@ QString bookTitle(const PublishOptions& options, const Book& imported) {
 
 std::shared_ptr<ImportPDFOperation> newImport(const PublishOptions& options, OpenedPDF document,
                                               const QString& range) {
-    auto operation =
-        std::make_shared<ImportPDFOperation>(options.pdf, range, importDPI, options.quality);
+    auto operation = std::make_shared<ImportPDFOperation>(document.document->path(), range,
+                                                          importDPI, options.quality);
     operation->setDocument(std::move(document));
     operation->setImportLinks(options.links);
     operation->setImportBookmarks(options.bookmarks);
@@ -285,7 +289,8 @@ FilesOfPages filesFor(Type type, const std::optional<std::vector<PageRun>>& open
 }
 
 MadeBook makeAnew(const PublishOptions& options, const PublishStamp& stamp, PublishTiming& timing) {
-    OpenedPDF opened = openDocument(options, stamp);
+    const auto merged = MergedInput::of(options);
+    OpenedPDF opened = openDocument(options, stamp, merged.get());
     const auto document = opened.document;
     const auto tmpl = TemplateOptions::prepared(options, document->isRightToLeft());
     PageSelection pages = selectPages(options.pages, document->pageCount());
@@ -433,7 +438,7 @@ void watchAndRepublish(const PublishOptions& options, FileWatcher& files) {
 } // namespace
 
 void runPublish(const PublishOptions& options) {
-    FileWatcher files({options.pdf, options.settingsFile});
+    FileWatcher files(QStringList(options.inputs) << options.settingsFile);
     files.takeSnapshot();
     const MadeBook made = makeReported(options);
     Terminal::print(made.file);

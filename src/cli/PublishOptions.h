@@ -10,7 +10,10 @@
 
 // The options of "folvero publish".
 struct PublishOptions {
-    QString pdf;
+    // Documents, pictures and folders of pictures, in this order. A book of several, or of
+    // pictures, is named after the first one.
+    QStringList inputs;
+    QString pdf; // the first of them
     PasswordOptions password;
     QString outputFolder;
     enum class Type { html, app, web, scorm };

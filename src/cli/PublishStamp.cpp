@@ -1,5 +1,6 @@
 #include "cli/PublishStamp.h"
 
+#include "cli/MergedInput.h"
 #include "cli/PublishOptions.h"
 #include "output/EarlierPages.h"
 #include "system/Bundle.h"
@@ -39,6 +40,16 @@ public:
 private:
     QCryptographicHash iHash{QCryptographicHash::Blake2b_256};
 };
+
+// Of a document that is merged from files; none of them is recognised without reading it.
+BookStamp::Document documentOf(const QStringList& merged) {
+    Digest digest;
+    for (const QString& path : merged)
+        digest << Files::pathExtension(path) << fileContents(path);
+    BookStamp::Document document;
+    document.digest = digest.result();
+    return document;
+}
 
 // The names and contents of all files below a folder.
 void addFolder(Digest& to, const QString& folder) {
@@ -103,7 +114,9 @@ PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& t
     using Type = PublishOptions::Type;
     if (options.type != Type::app && options.type != Type::scorm && !options.singleFile)
         iFolder = QFileInfo(iPage).path();
-    iWanted.document = BookStamp::documentAt(options.pdf, iEarlier);
+    const QStringList merged = MergedInput::files(options);
+    iWanted.document =
+        merged.isEmpty() ? BookStamp::documentAt(options.pdf, iEarlier) : documentOf(merged);
     if (iWanted.document.digest.isEmpty())
         return;
     iWanted.pages = digestOfPages(options, tmpl, iWanted.document.digest);

@@ -45,7 +45,8 @@ struct CommandLine {
 
 void addPublish(CLI::App& app, PublishOptions& options) {
     auto* command =
-        app.add_subcommand("publish", "Make a page-flip book from a PDF file")->group("Commands");
+        app.add_subcommand("publish", "Make a page-flip book from PDF files and pictures")
+            ->group("Commands");
     PublishArguments::addTo(*command, options);
     command->callback([&options] { runPublish(options); });
 }

@@ -17,6 +17,10 @@ inline constexpr int maxBitmapSide = 32'000;
 // was built to hang.
 inline constexpr std::chrono::seconds maxPageTime{60};
 
+// The time and size of a document that is merged from others.
+inline constexpr std::chrono::seconds maxMergeTime{600};
+inline constexpr std::size_t maxMergedSize = std::size_t{8} << 30;
+
 // Memory that one MuPDF context may allocate beside the bitmap.
 inline constexpr std::size_t maxMuPDFMemory = std::size_t{1} << 30;
 

@@ -6,6 +6,7 @@
 #include "pdf/PDFFile.h"
 #include "pdf/PDFSerialization.h"
 #include "system/Bundle.h"
+#include "system/Files.h"
 
 #include <QFile>
 #include <poll.h>
@@ -60,7 +61,7 @@ bool isOpenError(ErrorKind kind) {
 }
 
 // "fail NAME REASON".
-PlatformException failureFrom(const QByteArray& line, const QString& path) {
+PlatformException failureFrom(const QByteArray& line, const QStringList& paths) {
     const QByteArray begin = "fail ";
     const qsizetype end = line.indexOf(' ', begin.size());
     const auto kind = reportedKind(line.mid(begin.size(), end - begin.size()));
@@ -69,9 +70,12 @@ PlatformException failureFrom(const QByteArray& line, const QString& path) {
     const QString reason = QString::fromUtf8(line.mid(end + 1, maxReason));
     if (!isOpenError(*kind))
         return {*kind, Message::translate("PageFailure", reason.toUtf8().constData())};
-    const QString start = path + QStringLiteral(": ");
-    const QString cause = reason.startsWith(start) ? reason.mid(start.size()) : reason;
-    return {*kind, Message::about(path, openErrorFrom(cause))};
+    for (const QString& path : paths) {
+        const QString start = path + QStringLiteral(": ");
+        if (reason.startsWith(start))
+            return {*kind, Message::about(path, openErrorFrom(reason.mid(start.size())))};
+    }
+    return {*kind, Message::about(paths.value(0), openErrorFrom(reason))};
 }
 
 } // namespace
@@ -93,8 +97,24 @@ std::shared_ptr<PDFDocument> PDFReader::open(const QString& path, std::function<
 
 PDFReader::PDFReader(const QString& path, std::function<bool()> stopped, const QByteArray& password)
     : PDFDocument(path, password),
+      iService{{"read", QFile::encodeName(path).toStdString()}, password.toBase64(), {path}},
       iProgram(Bundle::pageWorkerPath()),
       iStopped(std::move(stopped)) {}
+
+void PDFReader::merge(const MergePlan& plan, const QString& to, std::function<bool()> stopped) {
+    PDFReader reader(to, std::move(stopped));
+    reader.iTimeout = PDFLimits::maxMergeTime;
+    // Not in the first line, which may not fit into what a process takes without reading.
+    const QString file = to + QStringLiteral(".plan");
+    Message cause;
+    if (!Files::writeAtomically(file, PDFSerialization::pack(plan), &cause))
+        throw PlatformException(ErrorKind::workFolder, Message::about(file, cause));
+    reader.iService = {
+        {"merge", QFile::encodeName(to).toStdString()}, QFile::encodeName(file).toBase64(), {}};
+    for (const MergePlan::Source& source : plan.sources)
+        reader.iService.sources << source.path;
+    reader.ask(QByteArray());
+}
 
 bool PDFReader::start() {
     try {
@@ -160,11 +180,10 @@ QByteArray PDFReader::askOnce(const QByteArray& question) const {
     if (iEnded >= maxEnded)
         throw PlatformException(ErrorKind::readerEnded, crashMessage());
     if (!iProcess) {
-        iProcess = std::make_unique<ChildProcess>(
-            QFile::encodeName(iProgram).toStdString(),
-            std::vector<std::string>{"read", QFile::encodeName(path()).toStdString()});
+        iProcess = std::make_unique<ChildProcess>(QFile::encodeName(iProgram).toStdString(),
+                                                  iService.arguments);
         iIsSandboxed = false;
-        iProcess->writeLine(password().toBase64());
+        iProcess->writeLine(iService.firstLine);
         QByteArray count = awaitAnswer();
         if (question.isEmpty())
             return count;
@@ -184,7 +203,7 @@ QByteArray PDFReader::awaitAnswer() const {
             }
             if (line->startsWith("ok "))
                 return QByteArray::fromBase64(line->mid(3));
-            throw failureFrom(*line, path());
+            throw failureFrom(*line, iService.sources);
         }
         if (iStopped && iStopped()) {
             stopReader();

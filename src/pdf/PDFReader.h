@@ -1,12 +1,16 @@
 #pragma once
 
+#include "pdf/MergePlan.h"
 #include "pdf/PDFDocument.h"
 #include "pdf/PDFLimits.h"
 #include "system/ChildProcess.h"
 
+#include <QStringList>
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 // A PDF that a separate, sandboxed process reads: a file that crashes MuPDF or makes it hang ends
 // that process, not this one.
@@ -21,6 +25,12 @@ public:
     // DrawablePDF does.
     static std::shared_ptr<PDFDocument>
     open(const QString& path, std::function<bool()> stopped = {}, const QByteArray& password = {});
+
+    // Writes the merged document to a new file, in a process that may read nothing but the plan's
+    // sources. The file's folder must hold nothing else of value. Throws as open() does; the reason
+    // names the source, and a file that was begun is left. A process that can't be started is
+    // temporary.
+    static void merge(const MergePlan& plan, const QString& to, std::function<bool()> stopped = {});
 
     // Does not read yet; start() must come first.
     PDFReader(const QString& path, std::function<bool()> stopped, const QByteArray& password = {});
@@ -45,11 +55,19 @@ public:
     void stopReader() const override { iProcess.reset(); }
 
 private:
+    // Of the process: its arguments, and the line that it begins with.
+    struct Service {
+        std::vector<std::string> arguments;
+        QByteArray firstLine;
+        QStringList sources; // what its errors may be about
+    };
+
     QByteArray ask(const QByteArray& question) const;
     QByteArray askOnce(const QByteArray& question) const;
     QByteArray awaitAnswer() const;
     [[noreturn]] void reportEnd() const;
 
+    Service iService;
     QString iProgram;
     std::function<bool()> iStopped;
     std::chrono::milliseconds iTimeout = PDFLimits::maxPageTime;

@@ -40,6 +40,23 @@ void describe(Archive& archive, PDFViewing& viewing) {
 }
 
 template <class Archive>
+void describe(Archive& archive, MergePlan::Source& source) {
+    archive(source.path, source.password);
+}
+
+template <class Archive>
+void describe(Archive& archive, MergePlan::Page& page) {
+    archive(page.source, page.index, page.rotation);
+}
+
+template <class Archive>
+void describe(Archive& archive, MergePlan& plan) {
+    archive(plan.sources, plan.pages);
+    for (const MergePlan::Page& page : plan.pages)
+        archive.require(page.source >= -1 && page.source < int(plan.sources.size()));
+}
+
+template <class Archive>
 void describe(Archive& archive, PDFAnnotation& annotation) {
     archive(annotation.type, annotation.bounds, annotation.url, annotation.destinationPage,
             annotation.destinationAcross);
@@ -174,6 +191,7 @@ template QByteArray PDFSerialization::pack(const int&);
 template QByteArray PDFSerialization::pack(const QString&);
 template QByteArray PDFSerialization::pack(const PDFPage&);
 template QByteArray PDFSerialization::pack(const PDFViewing&);
+template QByteArray PDFSerialization::pack(const MergePlan&);
 template QByteArray PDFSerialization::pack(const std::vector<QString>&);
 template QByteArray PDFSerialization::pack(const std::vector<QSizeF>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>&);
@@ -184,6 +202,7 @@ template int PDFSerialization::unpack(const QByteArray&);
 template QString PDFSerialization::unpack(const QByteArray&);
 template PDFPage PDFSerialization::unpack(const QByteArray&);
 template PDFViewing PDFSerialization::unpack(const QByteArray&);
+template MergePlan PDFSerialization::unpack(const QByteArray&);
 template std::vector<QString> PDFSerialization::unpack(const QByteArray&);
 template std::vector<QSizeF> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFAnnotation> PDFSerialization::unpack(const QByteArray&);

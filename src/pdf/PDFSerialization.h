@@ -1,13 +1,15 @@
 #pragma once
 
 #include "base/PlatformException.h"
+#include "pdf/MergePlan.h"
 #include "pdf/PDFDocument.h"
 #include "pdf/PDFText.h"
 
 #include <QByteArray>
 
-// Serialises what one process reports to another about a document: an int, a QString, a PDFPage,
-// a PDFViewing, or a vector of QString, QSizeF, PDFAnnotation, PDFOutlineNode or PDFTextLine.
+// Serialises what one process tells another about a document: an int, a QString, a PDFPage, a
+// PDFViewing, a MergePlan, or a vector of QString, QSizeF, PDFAnnotation, PDFOutlineNode or
+// PDFTextLine.
 namespace PDFSerialization {
 
 // An exception of the kind readerMalformedAnswer.

@@ -22,6 +22,19 @@ int blockEdge(int offset, int block) {
 
 } // namespace
 
+int JPEGFile::plainComponents(Bytes file) {
+    const std::unique_ptr<void, int (*)(tjhandle)> decoder(tjInitDecompress(), tjDestroy);
+    int width = 0;
+    int height = 0;
+    int sampling = 0;
+    int space = 0;
+    const auto length = static_cast<unsigned long>(file.size());
+    if (!decoder || tjDecompressHeader3(decoder.get(), file.data(), length, &width, &height,
+                                        &sampling, &space) != 0)
+        return 0;
+    return space == TJCS_GRAY ? 1 : space == TJCS_YCbCr ? 3 : 0;
+}
+
 QByteArray JPEGFile::withoutMetadata(Bytes file) {
     const auto bytes = [file](std::size_t at, std::size_t count) {
         return QByteArray(reinterpret_cast<const char*>(file.data()) + at, qsizetype(count));

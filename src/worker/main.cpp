@@ -1,7 +1,8 @@
-// The page worker: handles one PDF for a program that does not open the file itself. See
-// DrawService.h and ReadService.h for the protocol.
+// The page worker: handles PDFs for a program that does not open the files itself. See
+// DrawService.h, ReadService.h and MergeService.h for the protocol.
 
 #include "worker/DrawService.h"
+#include "worker/MergeService.h"
 #include "worker/ReadService.h"
 
 #include <cstdlib>
@@ -21,9 +22,12 @@ int main(int argc, char** argv) {
             serveDrawing();
         } else if (service == "read" && argc == 3) {
             serveReading(arguments[2]);
+        } else if (service == "merge" && argc == 3) {
+            serveMerging(arguments[2]);
         } else {
             std::cerr << "usage: folvero-page-worker draw\n"
-                         "       folvero-page-worker read PDF\n";
+                         "       folvero-page-worker read PDF\n"
+                         "       folvero-page-worker merge OUTPUT\n";
             return 2;
         }
     } catch (const std::exception& failure) {

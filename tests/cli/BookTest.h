@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -17,6 +19,15 @@ protected:
     QString file(const QString& name) const { return book() + u'/' + name; }
     bool exists(const QString& name) const { return QFileInfo::exists(file(name)); }
     std::map<QString, QByteArray> contents() const { return BookReader::contentsBeneath(book()); }
+
+    // The data that a script of a web book hands over under its name.
+    QJsonDocument data(const QString& name) const {
+        const QByteArray script = TestFiles::read(file(QString("files/%1.js").arg(name)));
+        const QByteArray start = "folveroData(\"" + name.toUtf8() + "\", ";
+        EXPECT_TRUE(script.startsWith(start)) << name.toStdString();
+        return QJsonDocument::fromJson(script.mid(start.size()).chopped(3));
+    }
+    QJsonObject page(int number) const { return data(QString("text/%1").arg(number)).object(); }
 
     // Publishes a sample, or the document at an absolute path; classic unless options name a type.
     Program::Result publish(const QString& document, const QStringList& options = {}) const {

@@ -32,15 +32,6 @@ protected:
         return result.errors;
     }
 
-    // The data that a script of the book hands over under its name.
-    QJsonDocument data(const QString& name) const {
-        const QByteArray script = TestFiles::read(file(QString("files/%1.js").arg(name)));
-        const QByteArray start = "folveroData(\"" + name.toUtf8() + "\", ";
-        EXPECT_TRUE(script.startsWith(start)) << name.toStdString();
-        return QJsonDocument::fromJson(script.mid(start.size()).chopped(3));
-    }
-    QJsonObject page(int number) const { return data(QString("text/%1").arg(number)).object(); }
-
     // What a program of Poppler's says of a page.
     QByteArray runPoppler(const QString& program, int number, const QStringList& options = {},
                           const QStringList& output = {"-"}) const {
