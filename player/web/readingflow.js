@@ -15,7 +15,7 @@ import { chunksOf, partsOf } from './readingblocks.js';
  * @typedef {object} Spot
  * @property {number} page
  * @property {Section} section
- * @property {number} index of an anchor in the section
+ * @property {number} index of an anchor in the section, -1 for the section itself
  * @property {number} off pixels by which the anchor lies above
  * @property {number} height of the block with the anchor, when that was so
  */
@@ -163,9 +163,9 @@ export class Flow {
     if (spot) this.#restore(spot);
   }
 
-  /** Notes where the reader is. */
+  /** Notes where the reader is: nowhere while the text there is not loaded. */
   note() {
-    this.held = this.spot ?? this.held;
+    if (!this.#away) this.held = this.spot;
   }
 
   /** Whether the view is closed: nothing has a height or a place then. */
@@ -173,23 +173,19 @@ export class Flow {
     return this.scroller.clientHeight === 0;
   }
 
-  /** Where the reader is: the last element that begins at the top of what is seen or above. */
+  /** Where the reader is: the last element that begins at the top of what is seen or above, else the first. */
   get spot() {
     if (this.#away) return null;
     const line = this.line + 1;
-    /** @type {Spot | null} */
-    let spot = null;
-    for (const section of this.sections) {
-      if (!section.filled || section.element.getBoundingClientRect().top > line) continue;
-      const anchors = anchorsOf(section);
-      for (let index = 0; index < anchors.length; index++) {
-        const { top } = anchors[index].getBoundingClientRect();
-        if (top > line && spot) break;
-        spot = { page: section.page, section, index, off: line - top, height: heightAround(anchors[index]) };
-      }
-    }
-    if (spot) spot.page = this.#pageAt(spot.section, line);
-    return spot;
+    const topOf = (/** @type {Element} */ element) => element.getBoundingClientRect().top;
+    const section = this.sections.filter(({ element }) => topOf(element) <= line).at(-1) ?? this.sections[0];
+    if (!section.chunk) return null;
+    const anchors = section.filled ? anchorsOf(section) : [];
+    const below = anchors.findIndex((anchor) => topOf(anchor) > line);
+    const index = (below < 0 ? anchors.length : below) - 1;
+    const anchor = anchors[index] ?? section.element;
+    /** @type {Spot} */
+    return { page: this.#pageAt(section, line), section, index, off: line - topOf(anchor), height: heightAround(anchor) };
   }
 
   /** Window's height at which the text begins below the bar. */
@@ -202,13 +198,13 @@ export class Flow {
    * @param {number} line
    */
   #pageAt(section, line) {
-    let page = 0;
+    let { page } = section;
     const marks = /** @type {NodeListOf<HTMLElement>} */ (section.element.querySelectorAll('[data-page]'));
     for (const mark of marks) {
-      if (page && mark.getBoundingClientRect().top > line + 2) break;
+      if (mark.getBoundingClientRect().top > line + 2) break;
       page = Number(mark.dataset.page);
     }
-    return page || section.page;
+    return page;
   }
 
   /** @param {Spot} spot */
@@ -238,7 +234,7 @@ export class Flow {
     this.#fill(section);
     if (!this.perLetter) this.relay();
     if (page === 1) {
-      this.#scrollBy(-this.scroller.scrollTop);
+      this.showStart();
       return;
     }
     const marks = /** @type {HTMLElement[]} */ ([...section.element.querySelectorAll('[data-page]')]);
@@ -339,6 +335,19 @@ export class Flow {
       next = section.element.querySelector(selector);
     }
     return /** @type {HTMLElement | null} */ (next);
+  }
+
+  /** Shows the beginning of the text. Browsers scroll there smoothly, until text on the way has come and moved it. */
+  showStart() {
+    this.#fill(this.sections[0]);
+    this.#scrollBy(-this.scroller.scrollTop);
+  }
+
+  /** Shows the end of the text, of which enough has elements then for a window. */
+  async showEnd() {
+    await this.ready(this.facts.pageCount);
+    for (const section of this.sections.slice(-2)) this.#fill(section);
+    this.#scrollBy(this.scroller.scrollHeight);
   }
 
   /** @param {Range} range */

@@ -55,6 +55,8 @@ export class ReadingView {
     this.lastTop = 0;
     /** @type {Promise<void>} resolves when what was asked for last is shown */
     this.arrived = Promise.resolve();
+    /** Whether the text of the page that was asked for last is still to come. */
+    this.waits = false;
     this.article = make('article', 'read-text');
     this.scroller = make('div', 'read-scroll', this.article);
     this.dialog = /** @type {HTMLDialogElement} */ (make('dialog', 'read'));
@@ -169,7 +171,8 @@ export class ReadingView {
     const [page] = pages.includes(pageInAddress()) ? [pageInAddress()] : pages;
     this.flow.top = this.bar.offsetHeight + AIR;
     this.showBar(true);
-    if (this.flow.held && pages.includes(this.page)) this.flow.resume();
+    const { held } = this.flow;
+    if (held && pages.includes(held.page)) this.flow.resume();
     else this.#goTo(page);
   }
 
@@ -230,11 +233,15 @@ export class ReadingView {
    */
   #goTo(page, title = '') {
     this.page = page;
-    this.arrived = this.flow.showPage(page, title).then(() => {
+    this.waits = true;
+    const arrived = this.flow.showPage(page, title).finally(() => {
+      if (this.arrived === arrived) this.waits = false;
+    }).then(() => {
       this.showBar(true);
       this.#scrolled();
     }, () => this.flow.onFailed());
-    return this.arrived;
+    this.arrived = arrived;
+    return arrived;
   }
 
   /**
@@ -284,7 +291,7 @@ export class ReadingView {
   /** Notes where the reader is. */
   #note() {
     this.flow.note();
-    this.page = this.flow.held?.page ?? this.page;
+    if (!this.waits) this.page = this.flow.held?.page ?? this.page;
   }
 
   #tell() {
@@ -330,6 +337,7 @@ export class ReadingView {
       A: () => this.close(), R: () => !this.speaker.hidden && this.aloud.toggle(),
       '+': () => this.panel.resize(1), '=': () => this.panel.resize(1),
       '-': () => this.panel.resize(-1), 0: () => this.panel.resize(0),
+      Home: () => this.flow.showStart(), End: () => this.flow.showEnd().catch(() => this.flow.onFailed()),
     };
     const shortcut = keyOf(event);
     const action = actions[key.length > 1 ? key : shortcut];

@@ -86,10 +86,19 @@ test('contents and search lead to their places in the view', async () => {
   await reads(book, 299);
   assert.match(await atTop(book), /^Chapter 299/);
   await press(book, '/', ...'Rest of 7', 'Enter');
-  await press(book, 'Escape', 'ArrowRight', 'End', 'y');
+  await press(book, 'Escape', 'ArrowRight', 'y');
   assert.deepEqual(await book.pages(), [298, 299], 'keys of the book do not reach it');
+  await press(book, 'Home');
+  await reads(book, 1);
+  await press(book, 'End');
+  await reads(book, 300);
   await press(book, 'Escape');
   await view(book).waitFor({ state: 'hidden' });
+  await press(book, 'Home');
+  await book.waitForPages(1);
+  await read(book);
+  await book.rest();
+  await reads(book, 1);
 });
 
 test('letters and colours are chosen, kept for the next book, and keep the place', async () => {
