@@ -10,6 +10,9 @@ import { say } from '../book/words.js';
 const IDLE_MS = 2600;
 const IDLE_TOUCH_MS = 4500;
 
+/** Keys of those who read on, whom the bar would hide the end of each page. */
+const READS_ON = /^(Arrow|Page| $)/;
+
 /** The bar and the arrows at the sides, shown while the reader is active. */
 export class Toolbar {
   /**
@@ -166,7 +169,9 @@ export class Toolbar {
       const onPages = /** @type {Element} */ (event.target).closest('.stage');
       if (event.pointerType === 'mouse' || !onPages) this.show();
     }, { capture: true });
-    window.addEventListener('keydown', () => this.show(), { capture: true });
+    window.addEventListener('keydown', ({ key }) => {
+      if (!READS_ON.test(key)) this.show();
+    }, { capture: true });
     this.root.addEventListener('focusin', () => this.show());
   }
 
