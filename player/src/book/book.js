@@ -1,4 +1,4 @@
-import { drawFace, drawShowThrough, drawSideBySide, fitted, missingText } from './face.js';
+import { drawFace, drawShowThrough, drawSideBySide, fitted, isPhotograph, missingText } from './face.js';
 import { FaceCache } from './facecache.js';
 import { PageImages } from './images.js';
 import { fittingMargins, layOut } from './layout.js';
@@ -260,6 +260,7 @@ export class Book {
       if (state === 'missing') slot.textContent = missingText(page);
       return;
     }
+    slot.classList.toggle('photo', this.tint === 'night' && isPhotograph(image));
     const place = this.placeOf(image.naturalWidth, image.naturalHeight);
     image.style.inset = place.y + 'px auto auto ' + place.x + 'px';
     image.style.width = place.width + 'px';

@@ -30,6 +30,32 @@ export function fitted(imageWidth, imageHeight, width, height) {
   return { x: (width - w) / 2, y: (height - h) / 2, width: w, height: h };
 }
 
+/** Side of the small copy of a page that is looked at, in pixels. */
+const SAMPLE = 24;
+
+/** The least that each colour of paper has, which may be a scan's, of 255. */
+const NEAR_WHITE = 215;
+
+/** Share of a page below which what is near white is no paper. */
+const LEAST_PAPER = 0.2;
+
+/**
+ * Whether a page is a photograph to its edges: too little of it is as white as paper.
+ * @param {HTMLImageElement} image
+ */
+export function isPhotograph(image) {
+  const context = sized(document.createElement('canvas'), SAMPLE, SAMPLE);
+  context.drawImage(image, 0, 0, SAMPLE, SAMPLE);
+  try {
+    const { data } = context.getImageData(0, 0, SAMPLE, SAMPLE);
+    const white = data.filter((red, at) => at % 4 === 0 && Math.min(red, data[at + 1], data[at + 2]) > NEAR_WHITE);
+    return white.length < LEAST_PAPER * SAMPLE * SAMPLE;
+  } catch {
+    // Browsers let no page read pictures from disk.
+    return false;
+  }
+}
+
 /**
  * One side of a leaf, drawn once per turn at the size at which it is shown.
  * @typedef {object} FaceOptions
@@ -57,7 +83,7 @@ export function drawFace(canvas, { page, entry, width, height, density, paper, t
     const place = fitted(image.naturalWidth, image.naturalHeight, width, height);
     context.imageSmoothingQuality = 'high';
     // Not in all browsers: there leaves turn untinted.
-    if (tint) context.filter = 'url(#paper-' + tint + ')';
+    if (tint) context.filter = 'url(#paper-' + (tint === 'night' && isPhotograph(image) ? 'photo' : tint) + ')';
     context.drawImage(image, place.x, place.y, place.width, place.height);
     context.filter = 'none';
   } else if (entry?.state === 'missing') {
