@@ -64,6 +64,13 @@ QString folded(const QString& title) {
     return digits < kept.size() ? kept.mid(digits) : kept;
 }
 
+// Without the number of a footnote, or of sources, at its end, which outlines leave out.
+QString withoutReferences(QString title) {
+    static const QRegularExpression reference(
+        QStringLiteral("(?:(?<=[^\\s\\d.])\\d{1,2}|\\s*\\[[\\d,\\s\u2013-]+\\])$"));
+    return title.remove(reference);
+}
+
 bool hasShape(const ReadingParagraph& paragraph) {
     const QString text = textOf(paragraph);
     return (paragraph.kind == Kind::paragraph || paragraph.kind == Kind::listItem) &&
@@ -120,7 +127,10 @@ void mark(std::vector<ReadingParagraph>& paragraphs, const TextMeasure& measure,
     for (const Entry& entry : outline)
         byTitle[folded(entry.title)].push_back(&entry);
     const auto levelInOutline = [&](const ReadingParagraph& paragraph) {
-        const auto found = byTitle.constFind(folded(textOf(paragraph)));
+        const QString text = textOf(paragraph);
+        auto found = byTitle.constFind(folded(text));
+        if (found == byTitle.constEnd())
+            found = byTitle.constFind(folded(withoutReferences(text)));
         if (found == byTitle.constEnd() || !hasShape(paragraph))
             return 0;
         for (const Entry* entry : *found) {

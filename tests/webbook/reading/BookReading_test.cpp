@@ -201,6 +201,8 @@ TEST(BookReading, FindsHeadingsByOutlineNumberSizeAndBoldness) {
     EXPECT_EQ(levels(page("Large", "Bold"), {}), (QStringList{"h1 Large", "h2 Bold"}));
     EXPECT_EQ(levels(page("Large", "Bold"), {{"1.2 Large", 1, 2}}),
               (QStringList{"h2 Large", "h3 Bold"}));
+    EXPECT_EQ(levels(page("Large3", "1. Bold [4, 5]"), {{"Large", 1, 2}, {"1 Bold", 1, 3}}),
+              (QStringList{"h2 Large3", "h3 1. Bold [4, 5]"}));
     EXPECT_EQ(levels(page("3 Large", "3.1.4 Bold"), {}),
               (QStringList{"h1 3 Large", "h3 3.1.4 Bold"}));
 }
