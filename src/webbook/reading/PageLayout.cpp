@@ -211,6 +211,9 @@ ReadingLine lineFrom(std::vector<const Piece*> pieces) {
                 second = word.left;
             (line.isMonospaced() ? appendCode : append)(line, word, std::exchange(gap, 0));
             line.lastStyle = word.run.style;
+            // A single letter may be a mark, which is smaller.
+            if (word.run.text.trimmed().size() > 1)
+                line.lastSize = word.size;
         }
         line.right = std::max(line.right, piece->place.right);
     }

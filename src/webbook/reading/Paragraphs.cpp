@@ -136,7 +136,9 @@ bool Divider::isApart(std::size_t i) const {
     const bool isCode = iMeasure.isCode(a) && iMeasure.isCode(b);
     if (isCode)
         return pitch > 4 * a.size || pitch <= 0;
-    if (!areSimilar(a.size, b.size) || pitch < 0.5 * std::min(a.size, b.size) ||
+    // A paragraph may begin with words of another size, such as a title within its first line.
+    const bool isOneSize = areSimilar(a.size, b.size) || areSimilar(a.lastSize, b.size);
+    if (!isOneSize || pitch < 0.5 * std::min(a.size, b.size) ||
         pitch > 1.22 * pitchOf(b.size) + 0.5)
         return true;
     if (isRow(i) || isRow(i - 1) || listMarkerOf(b.text) == ListMarker::bullet)

@@ -17,6 +17,7 @@ struct ReadingLine {
     int firstStyle = 0;
     int lastStyle = 0;
     double firstLength = 0;
+    double lastSize = 0; // of the last word's letters, if it has more than one
     // Where its second word starts; right for a single word.
     double second = 0;
     bool startsRaised = false; // the first letters are smaller, as a footnote's number is

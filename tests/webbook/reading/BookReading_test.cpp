@@ -148,6 +148,16 @@ TEST(BookReading, DividesParagraphs) {
         EXPECT_EQ(read({lines(50, 100, texts) + body}).first(found.size()), found) << by;
 }
 
+TEST(BookReading, KeepsAParagraphThatBeginsWithASmallerTitle) {
+    const QStringList rest = full("rest", 4, "end.");
+    Lines page = lines(50, 100, QStringList{"Title within. It goes on so it has"} + rest);
+    for (PDFTextWord& word : page.front().words) {
+        if (word.start < 13 * letter)
+            std::tie(word.size, word.style) = std::pair(0.9 * size, int(boldText));
+    }
+    EXPECT_EQ(read({page}), QStringList{"Title within. It goes on so it has " + joined(rest)});
+}
+
 TEST(BookReading, ClosesHyphensAsTheBookWritesTheWords) {
     const auto withHyphen = [](const QString& before, const QString& after) {
         return lines(50, 100,
