@@ -17,6 +17,9 @@ const CAPTION =
 /** Blocks that stand together in one element. */
 const GROUPS = { item: 'ul', row: 'table', note: 'aside' };
 
+/** Dots that lead to the numbers in contents and indexes. */
+const DOTS = /((?:\s*[.\u2026]){5,})/;
+
 /** Makes elements of the text's blocks. */
 export class Elements {
   /**
@@ -92,23 +95,23 @@ export class Elements {
    * @param {number} plain styles that all of it has
    */
   #runs(runs, plain = 0) {
-    return runs.map((run) => (typeof run === 'number' ? this.#mark(run) : this.#run(run, run.style & ~plain)));
+    return runs.flatMap((run) => (typeof run === 'number' ? this.#mark(run) : this.#run(run, run.style & ~plain)));
   }
 
   /**
    * @param {Run} run
    * @param {number} style
    */
-  #run({ text, target }, style) {
-    /** @type {Node | string} */
-    let node = text;
-    if (style & 4) node = make('code', '', node);
-    if (style & 2) node = make('i', '', node);
-    if (style & 1) node = make('b', '', node);
+  #run({ text, target, style: all }, style) {
+    /** @type {(Node | string)[]} */
+    let nodes = all & 4 ? [text] : text.split(DOTS).map((part, index) => (index % 2 ? make('span', 'read-dots', part) : part));
+    if (style & 4) nodes = [make('code', '', ...nodes)];
+    if (style & 2) nodes = [make('i', '', ...nodes)];
+    if (style & 1) nodes = [make('b', '', ...nodes)];
     const link = this.#link(target);
-    if (!link) return node;
-    link.append(node);
-    return link;
+    if (!link) return nodes;
+    link.append(...nodes);
+    return [link];
   }
 
   /**
