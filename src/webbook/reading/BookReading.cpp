@@ -47,7 +47,8 @@ constexpr double leastLength = 0.6;
 bool goesOn(const ReadingParagraph& a, const ReadingParagraph& b, bool areIndented) {
     const ReadingLine& last = a.lines.back();
     const ReadingLine& next = b.lines.front();
-    if (!haveSameLook(last, next) || Paragraphs::wouldFit(last, a.right, next) ||
+    if (!haveSameLook(last, next) || Paragraphs::isEntry(last.text) ||
+        Paragraphs::wouldFit(last, a.right, next) ||
         last.right - last.left < leastLength * (b.right - next.left))
         return false;
     if (!endsSentence(last.text))

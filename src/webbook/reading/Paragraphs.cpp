@@ -2,6 +2,7 @@
 
 #include "webbook/reading/ListMarker.h"
 
+#include <QRegularExpression>
 #include <cmath>
 #include <optional>
 #include <span>
@@ -141,7 +142,8 @@ bool Divider::isApart(std::size_t i) const {
     if (!isOneSize || pitch < 0.5 * std::min(a.size, b.size) ||
         pitch > 1.22 * pitchOf(b.size) + 0.5)
         return true;
-    if (isRow(i) || isRow(i - 1) || listMarkerOf(b.text) == ListMarker::bullet)
+    if (isRow(i) || isRow(i - 1) || Paragraphs::isEntry(a.text) ||
+        listMarkerOf(b.text) == ListMarker::bullet)
         return true;
     const bool boldEnds = a.isBold() && !(b.firstStyle & boldText);
     const bool boldStarts = b.isBold() && !(a.lastStyle & boldText);
@@ -343,6 +345,12 @@ double TextMeasure::pitchOf(double lettersSize) const {
 std::vector<ReadingParagraph> Paragraphs::of(const ReadingRegion& region,
                                              const TextMeasure& measure) {
     return Divider(region, measure).divide();
+}
+
+bool Paragraphs::isEntry(const QString& text) {
+    static const QRegularExpression leader(
+        QStringLiteral("(?:[.\u2026]\\s*){4}[\\divxlc,\\s\u2013-]+$"));
+    return text.contains(leader);
 }
 
 bool Paragraphs::wouldFit(const ReadingLine& before, double right, const ReadingLine& line) {

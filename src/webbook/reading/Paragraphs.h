@@ -35,6 +35,9 @@ namespace Paragraphs {
 // Divides a region's lines into paragraphs.
 std::vector<ReadingParagraph> of(const ReadingRegion& region, const TextMeasure& measure);
 
+// Whether a line is an entry of contents or an index: dots that lead to the numbers of pages.
+bool isEntry(const QString& text);
+
 // Whether the first word of the line would still have fitted into the one before, which so is the
 // last of its paragraph.
 bool wouldFit(const ReadingLine& before, double right, const ReadingLine& line);
