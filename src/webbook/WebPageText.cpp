@@ -64,6 +64,32 @@ QJsonArray arrayOf(const std::vector<PageLayout::Link>& links) {
     return array;
 }
 
+// Whether a word is one of the dots that lead from an entry of the contents to its page number.
+bool isLeader(const PDFTextWord& word) {
+    return QStringView(word.text).trimmed() == QStringView(u".");
+}
+
+// The words of a line, with leaders as one word: a page of contents has a thousand dots, and each
+// word becomes an element in the reader's browser.
+std::vector<PDFTextWord> withJoinedLeaders(const std::vector<PDFTextWord>& words) {
+    std::vector<PDFTextWord> joined;
+    bool isLast = false;
+    for (const PDFTextWord& word : words) {
+        const bool wasLast = isLast;
+        isLast = isLeader(word);
+        if (!isLast || !wasLast) {
+            joined.push_back(word);
+            continue;
+        }
+        PDFTextWord& leaders = joined.back();
+        const double end = std::max(leaders.start + leaders.length, word.start + word.length);
+        leaders.start = std::min(leaders.start, word.start);
+        leaders.length = end - leaders.start;
+        leaders.text += word.text;
+    }
+    return joined;
+}
+
 QJsonArray linesOf(const std::vector<PDFTextLine>& lines) {
     QJsonArray array;
     for (const PDFTextLine& line : lines) {
@@ -72,7 +98,7 @@ QJsonArray linesOf(const std::vector<PDFTextLine>& lines) {
         entry.append(line.turn);
         entry.append(line.rightToLeft ? 1 : 0);
         QJsonArray words;
-        for (const PDFTextWord& word : line.words) {
+        for (const PDFTextWord& word : withJoinedLeaders(line.words)) {
             words.append(word.text);
             words.append(tenths(word.start));
             words.append(tenths(word.length));

@@ -12,6 +12,17 @@ TEST(WebPageText, HasOnlyLinksThatLieOnThePage) {
     }
 }
 
+TEST(WebPageText, JoinsTheDotsOfContentsInBothDirections) {
+    PDFTextLine line{{0, 0, 100, 10}, 0, false, {}, 0};
+    line.words = {{"End. ", 0, 20}, {". ", 30, 2}, {". ", 40, 2}, {".", 50, 2}, {"9", 90, 5}};
+    PDFTextLine reversed{{0, 0, 100, 10}, 0, true, {}, 0};
+    reversed.words = {{". ", 50, 2}, {". ", 40, 2}};
+    const QJsonArray lines = WebPageText::asJson({}, {line, reversed}, {})["lines"].toArray();
+    EXPECT_EQ(lines[0].toArray().last().toArray(),
+              QJsonArray({"End. ", 0, 200, ". . .", 300, 220, "9", 900, 50}));
+    EXPECT_EQ(lines[1].toArray().last().toArray(), QJsonArray({". . ", 400, 120}));
+}
+
 TEST(WebPageText, TellsContentsAndIndexesFromTextAndTables) {
     const std::pair<const char*, bool> cases[] = {
         {"Contents\n1\nBeginning . . . . 1\n1.1 More ..... iv\nThen . . . 9\nA ... 12\nB ... 20",
