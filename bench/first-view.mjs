@@ -8,16 +8,16 @@
 // first page is painted and the book can be turned, of the seconds until the next pages stand there with their pictures
 // after a key press at that moment, and of the bytes and requests until the first page; then the bytes of the whole book.
 
-import { execFile, spawn } from 'node:child_process';
-import { once } from 'node:events';
+import { execFile } from 'node:child_process';
 import { mkdtemp, readdir, rm, stat } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { parseArgs, promisify } from 'node:util';
+import { launchChromium } from '../tests/browser/support/chromium.mjs';
+import { median, NETWORKS, serve } from './support.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
-const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
 
 const { values: options, positionals: builds } = parseArgs({ allowPositionals: true, options: {
   rounds: { type: 'string', default: '5' }, pdf: { type: 'string', multiple: true, default: [] },
@@ -26,10 +26,6 @@ const { values: options, positionals: builds } = parseArgs({ allowPositionals: t
 if (builds.length === 0) builds.push(path.join(here, '../build/release'));
 if (options.pdf.length === 0) options.pdf.push(path.join(builds[0], 'samples/thousand.pdf'));
 const rounds = Number(options.rounds);
-const NETWORKS = {
-  '3g': { offline: false, latency: 562.5, downloadThroughput: (1.6e6 / 8) * 0.9, uploadThroughput: (750e3 / 8) * 0.9 },
-  '4g': { offline: false, latency: 165, downloadThroughput: (9e6 / 8) * 0.9, uploadThroughput: (1.5e6 / 8) * 0.9 },
-};
 const TYPES = { html: ['--type', 'html'], web: ['--type', 'web'], single: ['--type', 'web', '--single-file'] };
 
 /** In the page: records when the first view is painted. */
@@ -63,19 +59,11 @@ async function open(browser, address) {
   return { opened: opened / 1000, turned: turned / 1000, ...loaded };
 }
 
-async function serve(program, folder) {
-  const server = spawn(program, ['serve', '--port', '0', folder], { stdio: ['ignore', 'pipe', 'ignore'] });
-  const [line] = await once(server.stdout, 'data');
-  return { address: String(line).trim(), stop: () => server.kill('SIGINT') };
-}
-
 async function bytesBelow(folder) {
   const names = await readdir(folder, { recursive: true });
   const files = await Promise.all(names.map((name) => stat(path.join(folder, name))));
   return files.reduce((sum, file) => sum + (file.isFile() ? file.size : 0), 0);
 }
-
-const median = (values) => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
 const folder = await mkdtemp(path.join(tmpdir(), 'folvero-first-view-'));
 const books = [];

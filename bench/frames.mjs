@@ -9,10 +9,9 @@
 import { cp, mkdtemp, readFile, rm, writeFile } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
 import path from 'node:path';
-import { fileURLToPath, pathToFileURL } from 'node:url';
-
-const here = path.dirname(fileURLToPath(import.meta.url));
-const { launchChromium } = await import(path.join(here, '../tests/browser/support/chromium.mjs'));
+import { pathToFileURL } from 'node:url';
+import { launchChromium } from '../tests/browser/support/chromium.mjs';
+import { figures, traceSteps } from './support.mjs';
 
 const KINDS = ['curl', 'flip', 'slide'];
 
@@ -52,25 +51,6 @@ function watchFrames() {
   requestAnimationFrame(note);
 }
 
-/** Starts a trace; the result stops it and returns CPU times by event name. */
-async function traceSteps(session) {
-  const steps = { 'ProxyMain::BeginMainFrame': [], 'Display::DrawAndSwap': [] };
-  const collect = ({ value }) => {
-    for (const { name, ph, tdur } of value) {
-      if (ph === 'X' && tdur !== undefined) steps[name]?.push(tdur / 1000);
-    }
-  };
-  session.on('Tracing.dataCollected', collect);
-  await session.send('Tracing.start', { categories: 'cc,viz', transferMode: 'ReportEvents' });
-  return async () => {
-    const complete = new Promise((resolve) => { session.once('Tracing.tracingComplete', resolve); });
-    await session.send('Tracing.end');
-    await complete;
-    session.off('Tracing.dataCollected', collect);
-    return steps;
-  };
-}
-
 const settled = (page) => page.waitForFunction(() => !window.folvero.turning);
 
 async function turnByKey(page) {
@@ -93,13 +73,6 @@ async function turnByDrag(page) {
     await settled(page);
     await page.waitForTimeout(120);
   }
-}
-
-function figures(values) {
-  const sorted = [...values].sort((a, b) => a - b);
-  const at = (share) => sorted[Math.min(sorted.length - 1, Math.floor(sorted.length * share))];
-  const round = (value) => Math.round(value * 10) / 10;
-  return { median: round(at(0.5)), p95: round(at(0.95)), max: round(sorted.at(-1)), frames: sorted.length };
 }
 
 async function measure(browser, kind, by) {

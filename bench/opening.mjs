@@ -9,12 +9,12 @@ import { mkdtemp, rm } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
 import path from 'node:path';
 import { fileURLToPath, pathToFileURL } from 'node:url';
+import { plainPages, writeBook } from '../tests/browser/support/book.mjs';
+import { launchChromium } from '../tests/browser/support/chromium.mjs';
+import { serve } from '../tests/browser/support/server.mjs';
+import { median } from './support.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
-const support = path.join(here, '../tests/browser/support');
-const { plainPages, writeBook } = await import(path.join(support, 'book.mjs'));
-const { launchChromium } = await import(path.join(support, 'chromium.mjs'));
-const { serve } = await import(path.join(support, 'server.mjs'));
 
 const LENGTHS = [10, 2000];
 const given = process.argv.slice(2);
@@ -41,8 +41,6 @@ async function timeToOpen(browser, address) {
   await page.close();
   return time;
 }
-
-const median = (values) => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
 const folder = await mkdtemp(path.join(tmpdir(), 'folvero-opening-'));
 const books = {};

@@ -10,13 +10,13 @@ import { mkdtemp, rm } from 'node:fs/promises';
 import { loadavg, tmpdir } from 'node:os';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
+import { plainPages, writeBook } from '../tests/browser/support/book.mjs';
+import { launchChromium } from '../tests/browser/support/chromium.mjs';
+import { serve } from '../tests/browser/support/server.mjs';
+import { makeWebBook, typedPage } from '../tests/browser/support/webbook.mjs';
+import { median } from './support.mjs';
 
 const here = path.dirname(fileURLToPath(import.meta.url));
-const support = path.join(here, '../tests/browser/support');
-const { plainPages, writeBook } = await import(path.join(support, 'book.mjs'));
-const { makeWebBook, typedPage } = await import(path.join(support, 'webbook.mjs'));
-const { launchChromium } = await import(path.join(support, 'chromium.mjs'));
-const { serve } = await import(path.join(support, 'server.mjs'));
 
 const given = process.argv.slice(2);
 const at = given.indexOf('--pages');
@@ -51,8 +51,6 @@ function answerTimes([query, rounds]) {
     return performance.now() - start;
   });
 }
-
-const median = (values) => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
 const folder = await mkdtemp(path.join(tmpdir(), 'folvero-search-'));
 await writeBook(folder, { template, pages: plainPages(count, 60, 80) });
