@@ -76,7 +76,7 @@ void checkReading(const std::vector<PDFTextLine>& lines,
     BookReading reading;
     reading.addPage(1, lines, links);
     for (const ReadingBlock& block : reading.finish({})) {
-        Fuzz::require(block.position() == 1 && !block.text().isEmpty(), "a block has text");
+        Fuzz::require(block.position == 1 && !block.text().isEmpty(), "a block has text");
         Fuzz::require(block.level >= 0 && block.level <= 6, "a heading has a level");
     }
 }

@@ -21,6 +21,8 @@ QString nameOf(const ReadingBlock& block) {
         return QStringLiteral("code");
     case ReadingBlock::Kind::tableRow:
         return QStringLiteral("row");
+    case ReadingBlock::Kind::figure:
+        return QStringLiteral("figure");
     case ReadingBlock::Kind::paragraph:
         break;
     }
@@ -30,7 +32,7 @@ QString nameOf(const ReadingBlock& block) {
 // Texts, with the positions of pages that begin between them.
 QJsonArray textOf(const ReadingBlock& block) {
     QJsonArray array;
-    int position = block.position();
+    int position = block.position;
     for (const ReadingRun& run : block.runs) {
         if (run.position != position)
             array.append(position = run.position);
@@ -48,11 +50,17 @@ QJsonArray textOf(const ReadingBlock& block) {
 
 QJsonObject jsonOf(const ReadingBlock& block) {
     QJsonObject object{{QStringLiteral("kind"), nameOf(block)},
-                       {QStringLiteral("page"), block.position()},
+                       {QStringLiteral("page"), block.position},
                        {QStringLiteral("box"), WebPageText::tenths(block.box)},
                        {QStringLiteral("text"), textOf(block)}};
     if (block.rightToLeft)
         object[QStringLiteral("rtl")] = 1;
+    if (block.kind == ReadingBlock::Kind::figure)
+        object[QStringLiteral("size")] = WebPageText::tenths(block.pageSize);
+    if (!block.alternative.isEmpty())
+        object[QStringLiteral("alt")] = block.alternative;
+    if (!block.words.isEmpty())
+        object[QStringLiteral("words")] = block.words;
     return object;
 }
 
@@ -91,7 +99,7 @@ std::vector<int> ReadingFiles::write(const std::vector<ReadingBlock>& blocks, co
     qsizetype letters = 0;
     for (const ReadingBlock& block : blocks) {
         if (part.isEmpty())
-            starts.push_back(block.position());
+            starts.push_back(block.position);
         part.append(jsonOf(block));
         letters += block.text().size();
         if (letters <= mostLetters && &block != &blocks.back())

@@ -140,10 +140,13 @@ QJsonArray WebPageText::tenths(const QRectF& box) {
     return array;
 }
 
+QJsonArray WebPageText::tenths(const QSizeF& size) {
+    return {::tenths(size.width()), ::tenths(size.height())};
+}
+
 QJsonObject WebPageText::asJson(const PDFPage& page, const std::vector<PDFTextLine>& lines,
                                 const std::vector<PageLayout::Link>& links) {
-    const QSizeF size = sizeOf(page);
-    return {{QStringLiteral("size"), QJsonArray{::tenths(size.width()), ::tenths(size.height())}},
+    return {{QStringLiteral("size"), tenths(sizeOf(page))},
             {QStringLiteral("lines"), linesOf(lines)},
             {QStringLiteral("links"), arrayOf(links)}};
 }

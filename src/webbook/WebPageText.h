@@ -27,6 +27,7 @@ std::vector<PageLayout::Link> linksOf(const PDFPage& page,
 
 // Left, top, width and height in tenths of a point.
 QJsonArray tenths(const QRectF& box);
+QJsonArray tenths(const QSizeF& size);
 
 // Numbers are integers in tenths of a point. URLs are copied from the document: the player decides
 // which ones to follow.

@@ -173,13 +173,14 @@ ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
     ReadingBlock block;
     block.kind = paragraph.kind;
     block.level = paragraph.level;
+    block.position = paragraph.lines.front().position();
     block.rightToLeft = paragraph.lines.front().rightToLeft;
     if (block.kind == Kind::code)
         indentCode(paragraph);
     for (ReadingLine& line : paragraph.lines) {
         if (block.kind != Kind::tableRow)
             replaceTabs(line);
-        if (line.position() == paragraph.lines.front().position())
+        if (line.position() == block.position)
             block.box |= line.box;
         addLines(block, line);
         if (block.runs.empty())

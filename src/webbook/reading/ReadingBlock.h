@@ -3,6 +3,7 @@
 #include "pdf/PDFText.h"
 
 #include <QRectF>
+#include <QSizeF>
 #include <QString>
 #include <vector>
 
@@ -15,9 +16,9 @@ struct ReadingRun {
     int target = 0; // of a link into the book: the page's position; 0 for none
 };
 
-// A part of a book's text that readers see as one: a heading, a paragraph, a row of a table.
+// A part of a book that readers see as one: a heading, a paragraph, a row of a table, a figure.
 struct ReadingBlock {
-    enum class Kind { paragraph, heading, listItem, footnote, code, tableRow };
+    enum class Kind { paragraph, heading, listItem, footnote, code, tableRow, figure };
     // Some of a page's lines, by their places in what BookReading::addPage() has returned.
     struct Lines {
         int position = 0; // of the page
@@ -26,16 +27,19 @@ struct ReadingBlock {
     };
 
     Kind kind = Kind::paragraph;
-    int level = 0; // of a heading, 1 to 6
-    QRectF box;    // of what is on its first page, in points from the top left as displayed
+    int level = 0;    // of a heading, 1 to 6
+    int position = 0; // of the page where it begins
+    QRectF box;       // of what is on that page, in points from the top left as displayed
     bool rightToLeft = false;
     // In reading order. Lines of code end with line breaks, cells of a row with tabs, except for
-    // the last ones.
+    // the last ones. Of a figure, whose box is the figure alone, its caption; empty for none.
     std::vector<ReadingRun> runs;
     std::vector<Lines> lines; // that it consists of
 
-    // That of its first page; 0 without runs.
-    int position() const { return runs.empty() ? 0 : runs.front().position; }
+    QSizeF pageSize;     // of a figure's page as displayed, in points
+    QString words;       // within a figure
+    QString alternative; // for a figure, from the document; empty for none
+
     QString text() const {
         QString text;
         for (const ReadingRun& run : runs)
