@@ -10,7 +10,7 @@ import { fieldsOf, listOf, numberOf, textOf } from './facts.js';
  * @property {Word[]} words in reading order
  *
  * @typedef {{box: Box, target: string | number}} PageLink
- * @typedef {{kind: string, lines: Line[]}} Part a heading ("h1" to "h6"), "p", "item", "note", "code", "row", or none of
+ * @typedef {{kind: string, lines: Line[]}} Part a heading ("h1" to "h6"), "p", "item", "note", "code", "row", "figure", or none of
  *   these, such as a running head
  */
 

@@ -1,7 +1,7 @@
 import { fieldsOf, listOf, numberOf, textOf } from './facts.js';
 
 /**
- * @typedef {'heading' | 'paragraph' | 'item' | 'note' | 'code' | 'row' | 'picture' | 'closed'} Kind
+ * @typedef {'heading' | 'paragraph' | 'item' | 'note' | 'code' | 'row' | 'figure' | 'picture' | 'closed'} Kind
  * @typedef {{text: string, style: number, target: number | string}} Run style: 1 bold, 2 italic, 4 monospaced
  * @typedef {object} Block
  * @property {Kind} kind picture: of a page with little or no text; closed: pages that a preview leaves out
@@ -9,7 +9,19 @@ import { fieldsOf, listOf, numberOf, textOf } from './facts.js';
  * @property {number} page where it begins
  * @property {boolean} rtl
  * @property {boolean} begins whether its page begins with it
- * @property {(Run | number)[]} runs a number is a page that begins there
+ * @property {(Run | number)[]} runs a number is a page that begins there; of a figure, its caption
+ * @property {Figure} [figure]
+ *
+ * @typedef {object} Figure a part of a page, whose shares of the page's width and height these are
+ * @property {number} x
+ * @property {number} y
+ * @property {number} width
+ * @property {number} height
+ * @property {number} points its width
+ * @property {number} ratio width by height
+ * @property {boolean} images whether it is more than lines and areas
+ * @property {string} alternative from the document, empty for none
+ * @property {string} words within it
  *
  * @typedef {object} Chunk blocks that are shown together
  * @property {Block[]} blocks
@@ -25,13 +37,14 @@ const CHUNK = 6000;
 
 /** What a picture takes, in letters of text. */
 const PICTURE = 1500;
+const FIGURE = 500;
 
 /** A page with fewer letters is a picture with words, or a slide, where this share of the pages has no more. */
 const FEW = 250;
 const SHARE = 0.4;
 
 /** @type {Record<string, Kind>} */
-const KINDS = { item: 'item', note: 'note', code: 'code', row: 'row' };
+const KINDS = { item: 'item', note: 'note', code: 'code', row: 'row', figure: 'figure' };
 
 /**
  * The blocks of a file, whatever it holds, in chunks; with a block for each page that has no text.
@@ -59,6 +72,24 @@ function blockOf(raw, first, last) {
     kind: level ? 'heading' : KINDS[textOf(kind)] ?? 'paragraph',
     level, page: within(page), rtl: rtl === 1, begins: false,
     runs: listOf(text).map((run) => (typeof run === 'number' ? within(run) : runOf(run))),
+    ...(kind === 'figure' ? { figure: figureOf(fieldsOf(raw)) } : {}),
+  };
+}
+
+/** @param {Record<string, unknown>} raw */
+function figureOf({ box, size, images, alt, words }) {
+  const [left, top, across, down] = listOf(box).map(numberOf);
+  const [wide, high] = listOf(size).map(numberOf);
+  /**
+   * @param {number} part
+   * @param {number} whole
+   */
+  const share = (part, whole) => Math.min(1, Math.max(0, part / whole)) || 0;
+  const [x, y] = [share(left, wide), share(top, high)];
+  const [width, height] = [Math.min(share(across, wide), 1 - x) || 1, Math.min(share(down, high), 1 - y) || 1];
+  return {
+    x, y, width, height, points: width * wide / 10 || 300, ratio: width * wide / (height * high) || 1,
+    images: images === 1, alternative: textOf(alt), words: textOf(words),
   };
 }
 
@@ -114,9 +145,15 @@ function withPages(blocks, { first, last }, facts) {
   };
   for (const block of blocks) {
     fill(Math.min(last, block.page - 1));
-    if (illustrated && !seen.has(block.page) && Number(letters.get(block.page)) < FEW) {
+    // A page that is shown whole shows its figures, too.
+    const whole = illustrated && Number(letters.get(block.page)) < FEW;
+    if (whole && !seen.has(block.page)) {
       all.push(instead('picture', block.page));
       begins(block.page);
+    }
+    if (whole && block.kind === 'figure') {
+      if (block.runs.length === 0) continue;
+      block.kind = 'paragraph';
     }
     block.begins = begins(block.page);
     block.runs = block.runs.filter((run) => typeof run !== 'number' || begins(run));
@@ -165,7 +202,7 @@ function split(blocks) {
       chunks.push(chunk);
     }
     chunk.blocks.push(block);
-    chunk.letters += block.kind === 'picture' ? PICTURE : textOfBlock(block).length;
+    chunk.letters += block.kind === 'picture' ? PICTURE : (block.kind === 'figure' ? FIGURE : 0) + textOfBlock(block).length;
     for (const page of [block.begins ? block.page : '', ...block.runs]) {
       if (typeof page === 'number') chunk.pages.add(page);
     }

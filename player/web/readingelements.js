@@ -14,6 +14,12 @@ const MARKER = /^\s*((?:[^\p{L}\p{N}\s]|\(?[\p{L}\p{N}]{1,3}[.):])(?=\s))\s+/u;
 const CAPTION =
   /^\s*(?:fig(?:ure|ura|\.)|abb(?:ildung|\.)|afb(?:eelding|\.)|\u56f3|\u56fe|\u0634\u0643\u0644)\s*\d[^]{0,400}$/iu;
 
+/** Points of a figure that are as wide as a letter of the text is high. */
+const LETTERS = 10;
+
+/** Letters of the words within a figure that stand for it. */
+const WORDS = 300;
+
 /** Blocks that stand together in one element. */
 const GROUPS = { item: 'ul', row: 'table', note: 'aside' };
 
@@ -27,9 +33,10 @@ export class Elements {
    * @param {(page: number) => void} lead to a page that a link names
    * @param {(page: number) => void} open a page's picture
    */
-  constructor({ config, say }, lead, open) {
+  constructor({ config, say, sheets }, lead, open) {
     this.config = config;
     this.say = say;
+    this.sheets = sheets;
     this.lead = lead;
     this.open = open;
   }
@@ -61,6 +68,7 @@ export class Elements {
   /** @param {Block} block */
   #element(block) {
     if (block.kind === 'picture') return this.#picture(block.page);
+    if (block.kind === 'figure' && block.figure) return this.#figure(block, block.figure);
     const element = this.#written(block);
     if (block.rtl) element.dir = 'rtl';
     if (block.begins) (element.querySelector('td') ?? element).prepend(this.#mark(block.page));
@@ -161,6 +169,58 @@ export class Elements {
   }
 
   /**
+   * A part of a page's picture, with its caption.
+   * @param {Block} block
+   * @param {import('./readingblocks.js').Figure} figure
+   */
+  #figure(block, figure) {
+    const { page, runs } = block;
+    const { alternative, words, x, y, width, height, points, ratio, images } = figure;
+    const button = make('button', images ? 'read-crop' : 'read-crop read-drawn');
+    const caption = textOfBlock(block);
+    const name = alternative || caption || this.say('figureOn', fullLabel(this.config, page));
+    button.setAttribute('type', 'button');
+    button.setAttribute('aria-label', alternative || !words ? name : name + '. ' + words.slice(0, WORDS));
+    button.addEventListener('click', () => this.open(page));
+    // Its letters are about as large as those of the text.
+    button.style.width = 'min(' + (points / LETTERS).toFixed(2) + 'em, ' + (80 * ratio).toFixed(1) + 'vh)';
+    button.style.aspectRatio = ratio.toFixed(4);
+    const place = { width: percent(1 / width), left: percent(-x / width), top: percent(-y / height) };
+    button.append(this.#crop(page, place));
+    const mark = block.begins ? [this.#mark(page)] : [];
+    const text = make('p', '', ...this.#runs(runs));
+    if (block.rtl) text.dir = 'rtl';
+    return make('figure', 'read-figure', ...mark, button, ...(caption ? [make('figcaption', '', text)] : []));
+  }
+
+  /**
+   * The picture of a page, and the larger one where this shows too few pixels.
+   * @param {number} page
+   * @param {Record<'width' | 'left' | 'top', string>} place
+   */
+  #crop(page, place) {
+    const { path } = this.config.pages[page - 1];
+    const image = /** @type {HTMLImageElement} */ (make('img', ''));
+    /** @param {HTMLImageElement} shown */
+    const dress = (shown) => {
+      shown.alt = '';
+      Object.assign(shown.style, place);
+    };
+    dress(image);
+    Object.assign(image, { loading: 'lazy', decoding: 'async' });
+    image.addEventListener('load', async () => {
+      const { width } = image.getBoundingClientRect();
+      if (path.endsWith('.js') || image.naturalWidth >= width * devicePixelRatio) return;
+      const larger = await this.sheets.load(page, 1).catch(() => null);
+      if (!larger || !image.isConnected) return;
+      dress(larger);
+      image.replaceWith(larger);
+    }, { once: true });
+    loadFile(image, path);
+    return image;
+  }
+
+  /**
    * A button that shows a page's picture.
    * @param {number} page
    * @param {string} className
@@ -174,6 +234,11 @@ export class Elements {
     button.addEventListener('click', () => this.open(page));
     return button;
   }
+}
+
+/** @param {number} share */
+function percent(share) {
+  return (100 * share).toFixed(3) + '%';
 }
 
 /**

@@ -30,7 +30,7 @@ function widthOf(text) {
 }
 
 /** What assistive technology takes parts of a page for, by their kinds; anything else is a paragraph. */
-const ROLES = new Map([['item', 'listitem'], ['note', 'note'], ['code', 'code'], ['row', 'row']]);
+const ROLES = new Map([['item', 'listitem'], ['note', 'note'], ['code', 'code'], ['row', 'row'], ['figure', 'figure']]);
 
 /** What such parts lie in together. */
 const GROUPS = new Map([['item', 'list'], ['row', 'table']]);

@@ -20,6 +20,18 @@ test('pages with few words are shown where most of a book has such pages', () =>
   assert.deepEqual(shape(chunked([few(1), p(2, 'a'), p(3, 'b')], [1, 3])), ['pa1 pa2 pa3']);
 });
 
+test('a figure stands for a page without text, lies within its page, and is not shown twice', () => {
+  const figure = (page, box, ...text) => ({ kind: 'figure', page, box, size: [6000, 8000], text });
+  const few = { kind: 'p', page: 3, text: ['few'] };
+  const raw = [p(1, 'a'), figure(2, [600, 800, 3000, 2000]), p(3, 'a'), figure(3, [-9, 7000, 9e9, 2000])];
+  const [{ blocks }] = chunked(raw, [1, 3]);
+  assert.deepEqual(shape([{ blocks }]), ['pa1 fi2 pa3 fi']);
+  const { x, y, width, height, points, ratio } = blocks[1].figure;
+  assert.deepEqual([x, y, width, height, points, ratio], [0.1, 0.1, 0.5, 0.25, 300, 1.5]);
+  assert.deepEqual(Object.values(blocks[3].figure).slice(0, 4), [0, 0.875, 1, 0.125]);
+  assert.deepEqual(shape(chunked([p(1, 'a'), figure(2, []), few, figure(3, [], 'caption')], [1, 3])), ['pa1 pi2 pi3 pa pa']);
+});
+
 test('a page is numbered where the text comes back to it behind the figures of the next', () => {
   const raw = [p(1, 'a', 3, 'a'), p(2, 'figure'), p(3, 'b', 4, 'c'), p(3, 'its note'), p(4, 'd')];
   const [{ pages, last, blocks }] = chunked(raw, [1, 4]);
