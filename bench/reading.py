@@ -35,7 +35,7 @@ def fold(text):
 class Paragraphs(html.parser.HTMLParser):
     """The texts of an HTML page's paragraphs, with the page of the document on which each begins."""
 
-    BLOCKS = {"p", "h1", "h2", "h3", "h4", "h5", "h6", "li", "pre", "tr", "div"}
+    BLOCKS = {"p", "h1", "h2", "h3", "h4", "h5", "h6", "li", "pre", "tr", "div", "figcaption"}
 
     def __init__(self, page=0):
         super().__init__()

@@ -25,7 +25,7 @@ constexpr void (*checks[])(const QByteArray&) = {check<int>,
                                                  check<std::vector<PDFAnnotation>>,
                                                  check<std::vector<PDFOutlineNode>>,
                                                  check<std::vector<QString>>,
-                                                 check<std::vector<PDFTextLine>>,
+                                                 check<PDFPageContent>,
                                                  check<PDFViewing>,
                                                  check<std::vector<QSizeF>>};
 

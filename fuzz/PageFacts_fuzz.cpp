@@ -71,21 +71,22 @@ void checkStartList(const std::shared_ptr<PDFDocument>& document) {
 }
 
 // However words lie on their page.
-void checkReading(const std::vector<PDFTextLine>& lines,
-                  const std::vector<PageLayout::Link>& links) {
+void checkReading(const PDFPageContent& content, const std::vector<PageLayout::Link>& links) {
     BookReading reading;
-    reading.addPage(1, lines, links);
+    reading.addPage(1, content.lines, links, Figures::of(content, {600, 800}));
     for (const ReadingBlock& block : reading.finish({})) {
-        Fuzz::require(block.position == 1 && !block.text().isEmpty(), "a block has text");
+        Fuzz::require(block.position == 1 &&
+                          (block.kind == ReadingBlock::Kind::figure || !block.text().isEmpty()),
+                      "a block has text");
         Fuzz::require(block.level >= 0 && block.level <= 6, "a heading has a level");
     }
 }
 
-void checkText(const PDFDocument& document, const std::vector<PDFTextLine>& lines) {
+void checkText(const PDFDocument& document, const PDFPageContent& content) {
     const auto links =
         WebPageText::linksOf(document.page(0), document.annotations(0), [](int) { return 0; });
-    const QJsonObject text = WebPageText::asJson(document.page(0), lines, links);
-    checkReading(lines, links);
+    const QJsonObject text = WebPageText::asJson(document.page(0), content.lines, links);
+    checkReading(content, links);
     constexpr int furthest = 1'000'000'000; // in tenths of a point
     const QJsonArray size = text["size"].toArray();
     for (const QJsonValue& link : text["links"].toArray()) {
@@ -112,7 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto document = split ? split : std::shared_ptr<PDFDocument>(answers);
     const std::function<void()> uses[] = {
         [&] { checkStartList(document); },
-        [&] { checkText(*document, answers->answer<std::vector<PDFTextLine>>(6)); },
+        [&] { checkText(*document, answers->answer<PDFPageContent>(6)); },
         [&] { Fuzz::importLinks(document, document->pageCount()); }};
     for (const auto& use : uses) {
         try {

@@ -72,7 +72,7 @@ Seeds answers() {
             pack(std::vector{web, within}),
             pack(std::vector{branch, leaf}),
             pack(std::vector{QString("A-9"), QString("A-10"), QString("iv")}),
-            pack(std::vector{line}),
+            pack(PDFPageContent{{line}, {{QRectF(5, 6, 70, 80), PDFMark::Kind::image}}}),
             pack(PDFViewing{true, true, "UseThumbs", 1}),
             pack(std::vector{page.display})};
 }

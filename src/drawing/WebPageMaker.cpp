@@ -64,6 +64,11 @@ void reduce(const PageBitmap& from, PageBitmap& to, int width, int height) {
                          to.stride(), width, height, libyuv::kFilterBox);
 }
 
+// The page's text, packed.
+QByteArray contentOf(const DrawablePage& page) {
+    return PDFSerialization::pack(PDFPageContent{page.text(), page.marks()});
+}
+
 } // namespace
 
 void writePageFile(const QString& path, std::span<const unsigned char> data) {
@@ -76,7 +81,7 @@ void WebPageMaker::makeOthers(const DrawablePage& page, PageBitmap& bitmap, qint
                               const WebPageFiles& files, PageTiming& timing) {
     const qint64 size = pictureSize + makeThumbnail(bitmap, files.thumbnail, timing);
     Stopwatch watch;
-    const QByteArray text = PDFSerialization::pack(page.text());
+    const QByteArray text = contentOf(page);
     timing.draw += watch.lap();
     const auto writeText = [&] { write(files.text, bytesOf(text), timing); };
     try {
@@ -92,7 +97,7 @@ void WebPageMaker::makeOthers(const DrawablePage& page, PageBitmap& bitmap, qint
 void WebPageMaker::makeText(const DrawablePage& page, const WebPageFiles& files,
                             PageTiming& timing) {
     Stopwatch watch;
-    const QByteArray text = PDFSerialization::pack(page.text());
+    const QByteArray text = contentOf(page);
     timing.draw += watch.lap();
     write(files.text, bytesOf(text), timing);
 }

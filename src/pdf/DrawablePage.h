@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pdf/PDFMark.h"
 #include "pdf/PDFText.h"
 #include "pdf/PageCut.h"
 #include "pdf/PageDamage.h"
@@ -51,6 +52,9 @@ public:
     // The words on the page without its annotations, line by line in the order of the file. Empty
     // for a page that was recorded without its text.
     std::vector<PDFTextLine> text() const;
+
+    // Where what is no text lies: images, lines, areas, with the page's annotations.
+    std::vector<PDFMark> marks() const;
 
     PageDetail detail() const;
 

@@ -41,6 +41,9 @@ inline constexpr int maxTextLength = 65'536;
 // Characters of text read from one page. A page of small print has ten thousand.
 inline constexpr std::size_t maxPageCharacters = 200'000;
 
+// Images, lines and areas of one page whose places are kept, to find its figures.
+inline constexpr std::size_t maxPageMarks = 2'000;
+
 // Entries of an outline.
 inline constexpr std::size_t maxOutlineEntries = 100'000;
 

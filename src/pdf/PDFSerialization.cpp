@@ -1,5 +1,7 @@
 #include "pdf/PDFSerialization.h"
 
+#include "pdf/PDFLimits.h"
+
 #include <QDataStream>
 #include <QIODevice>
 #include <climits>
@@ -83,6 +85,19 @@ void describe(Archive& archive, PDFTextLine& line) {
     archive(line.box, line.turn, line.rightToLeft, line.words, line.baseline);
     archive.require(line.turn == 0 || line.turn == 90 || line.turn == 180 || line.turn == 270);
     archive.require(isFinite(line.box) && std::isfinite(line.baseline));
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFMark& mark) {
+    archive(mark.box, mark.kind);
+    archive.require(isFinite(mark.box) && mark.kind >= PDFMark::Kind::image &&
+                    mark.kind <= PDFMark::Kind::drawing);
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFPageContent& content) {
+    archive(content.lines, content.marks);
+    archive.require(content.marks.size() <= PDFLimits::maxPageMarks);
 }
 
 class Writer {
@@ -196,7 +211,7 @@ template QByteArray PDFSerialization::pack(const std::vector<QString>&);
 template QByteArray PDFSerialization::pack(const std::vector<QSizeF>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFAnnotation>&);
 template QByteArray PDFSerialization::pack(const std::vector<PDFOutlineNode>&);
-template QByteArray PDFSerialization::pack(const std::vector<PDFTextLine>&);
+template QByteArray PDFSerialization::pack(const PDFPageContent&);
 
 template int PDFSerialization::unpack(const QByteArray&);
 template QString PDFSerialization::unpack(const QByteArray&);
@@ -207,4 +222,4 @@ template std::vector<QString> PDFSerialization::unpack(const QByteArray&);
 template std::vector<QSizeF> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFAnnotation> PDFSerialization::unpack(const QByteArray&);
 template std::vector<PDFOutlineNode> PDFSerialization::unpack(const QByteArray&);
-template std::vector<PDFTextLine> PDFSerialization::unpack(const QByteArray&);
+template PDFPageContent PDFSerialization::unpack(const QByteArray&);

@@ -3,13 +3,13 @@
 #include "base/PlatformException.h"
 #include "pdf/MergePlan.h"
 #include "pdf/PDFDocument.h"
-#include "pdf/PDFText.h"
+#include "pdf/PDFPageContent.h"
 
 #include <QByteArray>
 
 // Serialises what one process tells another about a document: an int, a QString, a PDFPage, a
-// PDFViewing, a MergePlan, or a vector of QString, QSizeF, PDFAnnotation, PDFOutlineNode or
-// PDFTextLine.
+// PDFViewing, a PDFPageContent, a MergePlan, or a vector of QString, QSizeF, PDFAnnotation or
+// PDFOutlineNode.
 namespace PDFSerialization {
 
 // An exception of the kind readerMalformedAnswer.

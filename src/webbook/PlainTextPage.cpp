@@ -16,11 +16,13 @@ constexpr char style[] =
     "25}"
     "ul{list-style:none;padding:0 0 0 1em}pre{overflow-x:auto;font-size:.85em}"
     "td{padding:0 1em 0 0;vertical-align:top}.note{font-size:.85em}"
+    "figure{margin:1.6em 0}.crop{display:block;position:relative;overflow:hidden;max-width:100%}"
+    ".crop img{position:absolute;max-width:none}"
     ".page{font:600 .7em system-ui,sans-serif;color:#666;text-decoration:none;border:1px solid "
     "#ccc;"
     "border-radius:.3em;padding:0 .4em;margin-inline-end:.4em}a{color:#1d5a86}"
     "@media(prefers-color-scheme:dark){body{background:#16181b;color:#ddd}a{color:#8cc2ea}"
-    ".page{color:#aaa;border-color:#444}}";
+    ".page{color:#aaa;border-color:#444}.crop{filter:brightness(.86)}}";
 
 // As the player: a document's other addresses lead nowhere.
 bool mayFollow(const QString& url) {
@@ -42,22 +44,26 @@ void PlainTextPage::attempt(Action action) {
 }
 
 PlainTextPage::PlainTextPage(const WebBookMetadata& metadata, const QString& book,
-                             const QString& path)
-    : iMetadata(metadata), iAddress(QUrl::toPercentEncoding(book)), iFile(path) {
+                             const QString& path, Picture picture)
+    : iMetadata(metadata),
+      iAddress(QUrl::toPercentEncoding(book)),
+      iFile(path),
+      iPicture(std::move(picture)) {
     attempt([this] { return iFile.open(QIODevice::WriteOnly); });
     const BookFacts& facts = metadata.facts;
     const QByteArray language =
         escaped(facts.language.isEmpty() ? QStringLiteral("en") : facts.language);
-    write("<!DOCTYPE html>\n<html lang=\"" + language +
-          "\">\n<head>\n<meta charset=\"utf-8\">\n"
-          "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
-          "'unsafe-inline'; base-uri 'none'; form-action 'none'\">\n<title>" +
-          escaped(facts.title) +
-          "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
-          "<link rel=\"canonical\" href=\"" +
-          iAddress + ExistingBook::textPageMark + style +
-          "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + iAddress + "\">" +
-          escaped(facts.title) + "</a></h1>\n");
+    write(
+        "<!DOCTYPE html>\n<html lang=\"" + language +
+        "\">\n<head>\n<meta charset=\"utf-8\">\n"
+        "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src "
+        "'self' file:; style-src 'unsafe-inline'; base-uri 'none'; form-action 'none'\">\n<title>" +
+        escaped(facts.title) +
+        "</title>\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
+        "<link rel=\"canonical\" href=\"" +
+        iAddress + ExistingBook::textPageMark + style +
+        "</style>\n</head>\n<body>\n<main>\n<h1><a href=\"" + iAddress + "\">" +
+        escaped(facts.title) + "</a></h1>\n");
     if (!facts.author.isEmpty())
         write("<p>" + escaped(facts.author) + "</p>\n");
 }
@@ -114,9 +120,44 @@ QByteArray PlainTextPage::html(const ReadingBlock& block) {
     return text;
 }
 
+// What of the page's picture shows the figure; it leads to the page.
+QByteArray PlainTextPage::figure(const ReadingBlock& block) {
+    const QByteArray marks = marksUpTo(block.position);
+    const QString picture = iPicture(block.position);
+    const QRectF& box = block.box;
+    if (picture.isEmpty() || box.isEmpty() || block.pageSize.isEmpty())
+        return marks;
+    const auto percent = [](double part, double whole) {
+        return QByteArray::number(100 * part / whole, 'f', 2) + '%';
+    };
+    // At the size of the text around it.
+    constexpr double emsPerPoint = 0.1;
+    const QString words = block.alternative.isEmpty() ? block.words : block.alternative;
+    const QString label = iMetadata.labels.value(block.position - 1);
+    const QString name = !words.isEmpty()   ? words
+                         : !label.isEmpty() ? label
+                                            : QString::number(block.position);
+    return marks + "<a class=\"crop\" href=\"" + iAddress +
+           "#page=" + QByteArray::number(block.position) +
+           "\" style=\"width:" + QByteArray::number(emsPerPoint * box.width(), 'f', 1) +
+           "em;aspect-ratio:" + QByteArray::number(box.width() / box.height(), 'f', 4) +
+           "\"><img loading=\"lazy\" src=\"" + escaped(picture) + "\" alt=\"" + escaped(name) +
+           "\" style=\"width:" + percent(block.pageSize.width(), box.width()) +
+           ";left:" + percent(-box.x(), box.width()) + ";top:" + percent(-box.y(), box.height()) +
+           "\"></a>";
+}
+
 void PlainTextPage::add(const ReadingBlock& block) {
     using Kind = ReadingBlock::Kind;
     const QByteArray side = block.rightToLeft ? " dir=\"rtl\">" : ">";
+    if (block.kind == Kind::figure) {
+        enter(Group::none);
+        const QByteArray picture = figure(block);
+        write("<figure>" + picture +
+              (block.runs.empty() ? "" : "<figcaption" + side + html(block) + "</figcaption>") +
+              "</figure>\n");
+        return;
+    }
     if (block.kind == Kind::listItem) {
         enter(Group::list);
         write("<li" + side + html(block) + "</li>\n");

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QFile>
 #include <QString>
+#include <functional>
 
 struct WebBookMetadata;
 
@@ -14,8 +15,12 @@ struct WebBookMetadata;
 // book begins, a link leads to it.
 class PlainTextPage {
 public:
+    // The picture of a page at a position, relative to this one; empty for none.
+    using Picture = std::function<QString(int position)>;
+
     // book is the name of the book's page, beside this one; path is that of the file to write.
-    PlainTextPage(const WebBookMetadata& metadata, const QString& book, const QString& path);
+    PlainTextPage(const WebBookMetadata& metadata, const QString& book, const QString& path,
+                  Picture picture);
 
     // Adds what follows in the text.
     void add(const ReadingBlock& block);
@@ -35,10 +40,12 @@ private:
     QByteArray mark(int position) const;
     QByteArray html(const ReadingRun& run, bool isPlain) const;
     QByteArray html(const ReadingBlock& block);
+    QByteArray figure(const ReadingBlock& block);
 
     const WebBookMetadata& iMetadata;
     QByteArray iAddress; // of the book's page
     QFile iFile;
+    Picture iPicture;
     Message iError;
     int iPosition = 0; // of the last page that was begun
     Group iGroup = Group::none;

@@ -57,6 +57,8 @@ QJsonObject jsonOf(const ReadingBlock& block) {
         object[QStringLiteral("rtl")] = 1;
     if (block.kind == ReadingBlock::Kind::figure)
         object[QStringLiteral("size")] = WebPageText::tenths(block.pageSize);
+    if (block.hasImages)
+        object[QStringLiteral("images")] = 1;
     if (!block.alternative.isEmpty())
         object[QStringLiteral("alt")] = block.alternative;
     if (!block.words.isEmpty())
@@ -74,8 +76,13 @@ std::map<int, QJsonArray> ReadingFiles::blocksOfPages(const std::vector<ReadingB
     };
     std::map<int, std::vector<Part>> pages;
     for (const ReadingBlock& block : blocks) {
+        const bool isFigure = block.kind == ReadingBlock::Kind::figure;
+        if (block.within.count > 0)
+            pages[block.within.position].push_back(
+                {block.within.first, block.within.count, nameOf(block)});
         for (const auto& [position, first, count] : block.lines)
-            pages[position].push_back({first, count, nameOf(block)});
+            pages[position].push_back(
+                {first, count, isFigure ? QStringLiteral("p") : nameOf(block)});
     }
     std::map<int, QJsonArray> arrays;
     for (auto& [position, parts] : pages) {

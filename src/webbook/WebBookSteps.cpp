@@ -21,6 +21,7 @@
 #include "webbook/WebPageTemplate.h"
 #include "webbook/WebPageText.h"
 #include "webbook/reading/BookReading.h"
+#include "webbook/reading/Figures.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -54,9 +55,9 @@ public:
 private:
     void copy(const QString& source, const QString& path);
     void copyLarge(const WebPage& page);
-    std::vector<PDFTextLine> linesOf(const WebPage& page);
+    PDFPageContent contentOf(const WebPage& page);
     // Returns the lines in reading order.
-    std::vector<PDFTextLine> writeText(const WebPage& page, const std::vector<PDFTextLine>& lines);
+    std::vector<PDFTextLine> writeText(const WebPage& page, const PDFPageContent& content);
 
     PublishTarget& iTo;
     const WebBook& iBook;
@@ -104,8 +105,7 @@ QString PageWriter::write(const WebPage& page) {
         iReport.pageBytes += QFileInfo(page.picture).size();
     copy(page.thumbnail, BookLayout::thumbnail(page.number));
     copyLarge(page);
-    const auto lines = iBook.hasText ? linesOf(page) : std::vector<PDFTextLine>();
-    return WebPageText::plain(writeText(page, lines));
+    return WebPageText::plain(writeText(page, iBook.hasText ? contentOf(page) : PDFPageContent()));
 }
 
 std::vector<ReadingBlock> PageWriter::reading() {
@@ -128,12 +128,12 @@ void PageWriter::addBlocks(const std::vector<ReadingBlock>& blocks) {
 }
 
 // The file was written by a process that has read an untrusted document.
-std::vector<PDFTextLine> PageWriter::linesOf(const WebPage& page) {
+PDFPageContent PageWriter::contentOf(const WebPage& page) {
     if (page.text.isNull())
         return {};
     const QByteArray packed = PublishTransaction::contents(page.text);
     try {
-        return PDFSerialization::unpack<std::vector<PDFTextLine>>(packed);
+        return PDFSerialization::unpack<PDFPageContent>(packed);
     } catch (const PlatformException& failure) {
         logger.warn(QStringLiteral("%1: %2").arg(page.text, failure.reason()));
         iReport.degradedPages.emplace_back(
@@ -144,8 +144,7 @@ std::vector<PDFTextLine> PageWriter::linesOf(const WebPage& page) {
     }
 }
 
-std::vector<PDFTextLine> PageWriter::writeText(const WebPage& page,
-                                               const std::vector<PDFTextLine>& lines) {
+std::vector<PDFTextLine> PageWriter::writeText(const WebPage& page, const PDFPageContent& content) {
     PDFPage source;
     std::vector<PDFAnnotation> annotations;
     if (iBook.content.document && page.number <= iBook.content.document->pageCount()) {
@@ -162,7 +161,8 @@ std::vector<PDFTextLine> PageWriter::writeText(const WebPage& page,
     const WebBookMetadata& metadata = iBook.metadata;
     const auto links = WebPageText::linksOf(
         source, annotations, [&](int index) { return metadata.positionOf(index + 1); });
-    auto ordered = iReading.addPage(metadata.positionOf(page.number), lines, links);
+    auto ordered = iReading.addPage(metadata.positionOf(page.number), content.lines, links,
+                                    Figures::of(content, source.display));
     writeScript(BookLayout::text(page.number),
                 WebScript::json(WebPageText::asJson(source, ordered, links)));
     return ordered;
@@ -344,7 +344,13 @@ void writeTextPage(PublishTarget& to, const WebBook& book,
     if (book.metadata.textPage.isEmpty())
         return;
     const QString path = to.layout.at(book.metadata.textPage);
-    PlainTextPage page(book.metadata, book.htmlName(), to.transaction.stage(path, Phase::page));
+    const auto picture = [&](int position) {
+        const WebPage& page = book.pages[std::size_t(position) - 1];
+        const bool isShown = book.isOpen(page) && QFileInfo::exists(page.picture);
+        return isShown ? WebBook::picturePath(page) : QString();
+    };
+    PlainTextPage page(book.metadata, book.htmlName(), to.transaction.stage(path, Phase::page),
+                       picture);
     for (const ReadingBlock& block : blocks)
         page.add(block);
     if (const Message error = page.finish(); !error.isNull())

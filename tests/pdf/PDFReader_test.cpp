@@ -1,5 +1,6 @@
 #include "pdf/PDFReader.h"
 
+#include "pdf/PDFLimits.h"
 #include "pdf/PDFSerialization.h"
 #include "support/FailureOf.h"
 #include "support/TemplateLibrary.h"
@@ -111,7 +112,7 @@ TEST(PDFSerialization, RefusesNumbersThatMakeNoSense) {
             .name;
     };
     const auto lines = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
-        return std::vector{PDFTextLine{box, turn, false, {word}}};
+        return PDFPageContent{{{box, turn, false, {word}}}, {}};
     };
     const QString garbled = "PDFReaderMalformedAnswer";
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
@@ -124,6 +125,10 @@ TEST(PDFSerialization, RefusesNumbersThatMakeNoSense) {
         EXPECT_EQ(failureWith(PDFPage{{}, box, 0, {}, {}}), garbled);
         EXPECT_EQ(failureWith(std::vector{PDFAnnotation{"Link", box, {}, 1}}), garbled);
     }
+    EXPECT_EQ(failureWith(PDFPageContent{{}, {{QRectF(0, 0, 0, none)}}}), garbled);
+    EXPECT_EQ(failureWith(PDFPageContent{{}, {{QRectF(), PDFMark::Kind(9)}}}), garbled);
+    const std::vector<PDFMark> tooMany(PDFLimits::maxPageMarks + 1);
+    EXPECT_EQ(failureWith(PDFPageContent{{}, tooMany}), garbled);
     for (const PDFTextWord& word :
          {PDFTextWord{"x", none, 0}, PDFTextWord{"x", 0, none}, PDFTextWord{"x", 0, 0, none},
           PDFTextWord{"x", 0, 0, -1}, PDFTextWord{"x", 0, 0, 9, -1}, PDFTextWord{"x", 0, 0, 9, 8}})

@@ -32,7 +32,8 @@ QByteArray pageOf(const std::vector<ReadingBlock>& blocks) {
     const QString path = folder.filePath("text.html");
     WebBookMetadata metadata;
     metadata.numbers = {1, 2, 3};
-    PlainTextPage page(metadata, "my book.html", path);
+    const auto picture = [](int position) { return QString("files/page/%1.png").arg(position); };
+    PlainTextPage page(metadata, "my book.html", path, picture);
     for (const ReadingBlock& each : blocks)
         page.add(each);
     EXPECT_EQ(page.finish().local(), QString());
@@ -72,4 +73,19 @@ TEST(PlainTextPage, LinksOnlyToHarmlessAddresses) {
         EXPECT_FALSE(linked(url)) << url;
     EXPECT_TRUE(pageOf({block(Kind::paragraph, {run("x", 3, {}, 2)})})
                     .contains("<a href=\"#page-2\">x</a>"));
+}
+
+TEST(PlainTextPage, ShowsFiguresOutOfThePicturesOfPages) {
+    ReadingBlock figure = block(Kind::figure, {run("Figure <1>", 2)});
+    figure.position = 2;
+    figure.box = QRectF(100, 200, 300, 150);
+    figure.pageSize = QSizeF(600, 800);
+    figure.words = "a \"label\"";
+    EXPECT_EQ(pageOf({figure}).split('\n').first().chopped(9),
+              "<figure>" + mark("1") + mark("2") +
+                  "<a class=\"crop\" href=\"my%20book.html#page=2\" "
+                  "style=\"width:30.0em;aspect-ratio:2.0000\"><img loading=\"lazy\" "
+                  "src=\"files/page/2.png\" alt=\"a &quot;label&quot;\" "
+                  "style=\"width:200.00%;left:-33.33%;top:-133.33%\"></a>"
+                  "<figcaption>Figure &lt;1&gt;</figcaption>");
 }

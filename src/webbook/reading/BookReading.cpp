@@ -1,5 +1,6 @@
 #include "webbook/reading/BookReading.h"
 
+#include "webbook/reading/FigurePlaces.h"
 #include "webbook/reading/RunningHeads.h"
 
 #include <cmath>
@@ -60,16 +61,22 @@ bool isText(const ReadingParagraph& paragraph) {
     return paragraph.kind == Kind::paragraph || paragraph.kind == Kind::listItem;
 }
 
+bool isFigure(const ReadingParagraph& paragraph) {
+    return paragraph.kind == Kind::figure;
+}
+
 // The paragraph in which the last one of the list goes on: the first text of the next column, or
 // behind what stands above it there.
 std::size_t continuationOf(const ReadingParagraph& open, const List& next, bool areIndented) {
     constexpr std::size_t furthest = 24;
-    for (std::size_t i = 0; i < std::min(furthest, next.size()); ++i) {
+    const auto first =
+        std::size_t(std::find_if_not(next.begin(), next.end(), isFigure) - next.begin());
+    for (std::size_t i = first; i < std::min(furthest, next.size()); ++i) {
         const ReadingParagraph& candidate = next[i];
         if (candidate.kind != Kind::paragraph || !goesOn(open, candidate, areIndented))
             continue;
         const bool isCertain = !endsSentence(open.lines.back().text) && startsWithin(candidate);
-        if (i == 0 ? isCertain || candidate.lines.size() > 1 : isCertain)
+        if (i == first ? isCertain || candidate.lines.size() > 1 : isCertain)
             return i;
     }
     return next.size();
@@ -130,8 +137,12 @@ void Flow::add(List region) {
 }
 
 void Flow::add(const ReadingPage& page) {
+    std::vector<List> regions;
     for (const ReadingRegion& region : page.regions)
-        add(Paragraphs::of(region, iMeasure));
+        regions.push_back(Paragraphs::of(region, iMeasure));
+    FigurePlaces::insert(page.figures, regions);
+    for (List& region : regions)
+        add(std::move(region));
     for (ReadingParagraph& note : std::exchange(iNotes, {}))
         iAll.push_back(std::move(note));
 }
@@ -173,14 +184,23 @@ ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
     ReadingBlock block;
     block.kind = paragraph.kind;
     block.level = paragraph.level;
-    block.position = paragraph.lines.front().position();
-    block.rightToLeft = paragraph.lines.front().rightToLeft;
+    if (isFigure(paragraph)) {
+        block.position = paragraph.figure.lines.position;
+        block.box = paragraph.figure.box;
+        block.pageSize = paragraph.figure.page;
+        block.words = paragraph.figure.words;
+        block.within = paragraph.figure.lines;
+        block.hasImages = paragraph.figure.hasImages;
+    } else {
+        block.position = paragraph.lines.front().position();
+    }
+    block.rightToLeft = !paragraph.lines.empty() && paragraph.lines.front().rightToLeft;
     if (block.kind == Kind::code)
         indentCode(paragraph);
     for (ReadingLine& line : paragraph.lines) {
         if (block.kind != Kind::tableRow)
             replaceTabs(line);
-        if (line.position() == block.position)
+        if (line.position() == block.position && block.kind != Kind::figure)
             block.box |= line.box;
         addLines(block, line);
         if (block.runs.empty())
@@ -194,18 +214,49 @@ ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
 } // namespace
 
 std::vector<PDFTextLine> BookReading::addPage(int position, const std::vector<PDFTextLine>& lines,
-                                              const std::vector<PageLayout::Link>& links) {
-    iPages.push_back(PageLayout::of(position, lines, links));
+                                              const std::vector<PageLayout::Link>& links,
+                                              const Figures::OfPage& figures) {
+    const auto figureOf = [&](const PDFTextLine& line) {
+        return std::find_if(figures.figures.begin(), figures.figures.end(),
+                            [&](const auto& each) { return each.box.contains(line.box.center()); });
+    };
+    std::vector<PDFTextLine> flow;
+    std::vector<std::size_t> sources; // of the flow, among all lines
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (figureOf(lines[i]) != figures.figures.end())
+            continue;
+        flow.push_back(lines[i]);
+        sources.push_back(i);
+    }
+    iPages.push_back(PageLayout::of(position, flow, links));
     std::vector<PDFTextLine> ordered;
     std::vector<bool> isTaken(lines.size());
+    const auto take = [&](std::size_t i) {
+        isTaken[i] = true;
+        ordered.push_back(lines[i]);
+    };
     for (ReadingRegion& region : iPages.back().regions) {
         for (ReadingLine& line : region.lines) {
             for (std::size_t& source : line.sources) {
-                isTaken[source] = true;
-                ordered.push_back(lines[source]);
+                take(sources[source]);
                 source = ordered.size() - 1;
             }
         }
+    }
+    for (auto each = figures.figures.begin(); each != figures.figures.end(); ++each) {
+        ReadingFigure figure{
+            each->box, figures.size, each->hasImages, {position, ordered.size(), 0}, {}};
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (figureOf(lines[i]) != each)
+                continue;
+            take(i);
+            for (const PDFTextWord& word : lines[i].words)
+                figure.words += word.text;
+            figure.words += u' ';
+        }
+        figure.words = figure.words.simplified();
+        figure.lines.count = ordered.size() - figure.lines.first;
+        iPages.back().figures.push_back(std::move(figure));
     }
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (!isTaken[i])

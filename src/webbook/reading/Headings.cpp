@@ -101,6 +101,15 @@ bool looksLikeHeading(const ReadingParagraph& paragraph, const ReadingParagraph*
            next && next->kind != Kind::tableRow && !measure.isCode(line);
 }
 
+// What is read next, whatever figures are between; null for none.
+const ReadingParagraph* textAfter(const std::vector<ReadingParagraph>& paragraphs, std::size_t i) {
+    while (++i < paragraphs.size()) {
+        if (paragraphs[i].kind != Kind::figure)
+            return &paragraphs[i];
+    }
+    return nullptr;
+}
+
 // The levels of looks: as in the outline, and between those by size.
 std::map<Look, int> levelsOf(const std::map<Look, std::map<int, int>>& looks) {
     std::map<Look, int> levels;
@@ -142,7 +151,9 @@ void mark(std::vector<ReadingParagraph>& paragraphs, const TextMeasure& measure,
     std::map<Look, std::map<int, int>> looks;
     for (std::size_t i = 0; i < paragraphs.size(); ++i) {
         ReadingParagraph& paragraph = paragraphs[i];
-        const ReadingParagraph* next = i + 1 < paragraphs.size() ? &paragraphs[i + 1] : nullptr;
+        if (paragraph.kind == Kind::figure)
+            continue;
+        const ReadingParagraph* next = textAfter(paragraphs, i);
         paragraph.level = outline.empty() ? 0 : levelInOutline(paragraph);
         if (paragraph.level == 0 && !looksLikeHeading(paragraph, next, measure))
             continue;

@@ -337,7 +337,7 @@ bool liesOnPage(const PDFTextLine& line) {
 
 ReadingPage of(int position, const std::vector<PDFTextLine>& found,
                const std::vector<Link>& links) {
-    ReadingPage page{position, {}};
+    ReadingPage page{position, {}, {}};
     if (found.empty())
         return page;
     const std::vector<Source> lines = withVerticalLines(found);

@@ -19,7 +19,7 @@ struct TextMeasure {
     bool isSmall(double lettersSize) const { return lettersSize < 0.94 * size; }
 };
 
-// Lines that belong together.
+// Lines that belong together. Those of a figure are its caption; there may be none.
 struct ReadingParagraph {
     ReadingBlock::Kind kind = ReadingBlock::Kind::paragraph;
     int level = 0; // of a heading
@@ -28,6 +28,7 @@ struct ReadingParagraph {
     bool isIndented = false;   // its first line is
     bool startsRegion = false; // and the next one ends it
     bool endsRegion = false;
+    ReadingFigure figure; // if it is one
 };
 
 namespace Paragraphs {

@@ -34,10 +34,14 @@ struct ReadingBlock {
     // In reading order. Lines of code end with line breaks, cells of a row with tabs, except for
     // the last ones. Of a figure, whose box is the figure alone, its caption; empty for none.
     std::vector<ReadingRun> runs;
-    std::vector<Lines> lines; // that it consists of
+    std::vector<Lines> lines; // that it consists of, or its caption does
 
-    QSizeF pageSize;     // of a figure's page as displayed, in points
-    QString words;       // within a figure
+    // Of a figure: the size of its page as displayed, in points, the lines within it, their words,
+    // and whether it has images.
+    QSizeF pageSize;
+    Lines within;
+    QString words;
+    bool hasImages = false;
     QString alternative; // for a figure, from the document; empty for none
 
     QString text() const {

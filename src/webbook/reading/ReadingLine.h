@@ -51,8 +51,19 @@ struct ReadingRegion {
     }
 };
 
-// The lines of a page. No region is empty.
+// A figure on a page. In points, as displayed.
+struct ReadingFigure {
+    QRectF box;
+    QSizeF page; // its size
+    bool hasImages = false;
+    // Of the lines within it, as BookReading::addPage() has returned them.
+    ReadingBlock::Lines lines;
+    QString words;
+};
+
+// The lines of a page, without those in figures. No region is empty.
 struct ReadingPage {
     int position = 0; // in the book, one-based
     std::vector<ReadingRegion> regions;
+    std::vector<ReadingFigure> figures;
 };

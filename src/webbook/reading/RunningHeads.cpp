@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <array>
 #include <cmath>
 #include <map>
 #include <set>
@@ -193,9 +194,37 @@ double bodySize(const std::vector<ReadingPage>& pages) {
     return most == letters.end() ? 0 : most->first / 2.0;
 }
 
+// Near the upper or lower edge of the page.
+bool isAtEdge(const ReadingFigure& figure) {
+    constexpr double edge = 0.15; // of the page's height
+    const double middle = figure.box.center().y() / figure.page.height();
+    return middle < edge || middle > 1 - edge;
+}
+
+// Logos and ornaments, which recur at the same place.
+void removeFigures(std::vector<ReadingPage>& pages) {
+    constexpr int mostPages = 2;
+    const auto place = [](const ReadingFigure& figure) {
+        const QRectF& box = figure.box;
+        return std::array{std::lround(box.x() / sameHeight), std::lround(box.y() / sameHeight),
+                          std::lround(box.width() / sameHeight)};
+    };
+    std::map<decltype(place({})), int> counts;
+    for (const ReadingPage& page : pages) {
+        for (const ReadingFigure& figure : page.figures)
+            ++counts[place(figure)];
+    }
+    for (ReadingPage& page : pages) {
+        std::erase_if(page.figures, [&](const ReadingFigure& figure) {
+            return counts[place(figure)] > mostPages && isAtEdge(figure);
+        });
+    }
+}
+
 } // namespace
 
 void remove(std::vector<ReadingPage>& pages) {
+    removeFigures(pages);
     Edge edge = edgesOf(pages);
     auto found = recurring(edge, bodySize(pages), pages.size());
     addUsual(edge, pages.size(), found);

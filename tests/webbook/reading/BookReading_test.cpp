@@ -241,3 +241,33 @@ TEST(BookReading, GivesWordsTheLinksAroundThem) {
     EXPECT_EQ(blocks.front().runs[1].text, "example.org");
     EXPECT_EQ(blocks.front().runs[1].url, "https://example.org/");
 }
+
+TEST(BookReading, PutsFiguresWithTheirCaptionsWhereTheyStand) {
+    const Lines words = Lines{line(120, 180, "label", 8)};
+    const Lines page = lines(50, 100, full("above", 3, "it.")) + words +
+                       lines(50, 250, {"Figure 1: A hill"}) + lines(50, 280, full("below", 3));
+    BookReading reading;
+    const Lines ordered =
+        reading.addPage(1, page, {}, {{600, 800}, {{QRectF(50, 150, 200, 80), true}}});
+    const auto blocks = reading.finish({});
+    ASSERT_EQ(blocks.size(), 3U);
+    const ReadingBlock& figure = blocks[1];
+    EXPECT_EQ(figure.kind, ReadingBlock::Kind::figure);
+    EXPECT_EQ(figure.text(), "Figure 1: A hill");
+    EXPECT_EQ(figure.words, "label");
+    EXPECT_EQ(lettersOfLines(figure, {ordered}), "Figure1:Ahill");
+    ASSERT_EQ(figure.within.count, 1U);
+    EXPECT_EQ(ordered[figure.within.first].words[0].text, "label");
+}
+
+TEST(BookReading, LeavesOutPicturesOfRunningHeads) {
+    BookReading reading;
+    for (const int position : {1, 2, 3}) {
+        const Figures::Figure logo{QRectF(50, 20, 90, 40), true};
+        const Figures::Figure photo{QRectF(50, 300, 200, 200), true};
+        reading.addPage(position, lines(50, 100, full(QString(position, u'x'), 3)), {},
+                        {{600, 800}, {logo, photo}});
+    }
+    for (const ReadingBlock& block : reading.finish({}))
+        EXPECT_NE(block.box.height(), 40) << block.position;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "pdf/PDFMark.h"
+#include "pdf/PDFText.h"
+
+#include <vector>
+
+// What the structure of a page's text is found from.
+struct PDFPageContent {
+    std::vector<PDFTextLine> lines;
+    std::vector<PDFMark> marks;
+};
