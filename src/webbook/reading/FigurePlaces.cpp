@@ -14,7 +14,8 @@ using List = std::vector<ReadingParagraph>;
 // In points, from a figure to its caption.
 constexpr double farthestCaption = 48;
 // A share of the narrower one of two widths.
-constexpr double leastShared = 0.5;
+constexpr double leastOfColumn = 0.5;
+constexpr double leastOfCaption = 0.25; // below a program and its output, say
 
 QRectF boxOf(const ReadingParagraph& paragraph) {
     QRectF box;
@@ -30,14 +31,15 @@ QRectF boxOf(const List& region) {
     return box;
 }
 
-bool shareWidth(const QRectF& a, const QRectF& b) {
+bool shareWidth(const QRectF& a, const QRectF& b, double least) {
     const double shared = std::min(a.right(), b.right()) - std::max(a.left(), b.left());
-    return shared > leastShared * std::min(a.width(), b.width());
+    return shared > least * std::min(a.width(), b.width());
 }
 
-// How far a paragraph is above or below a figure.
+// How far a paragraph is below a figure, or above it, where captions are less often.
 double distance(const QRectF& figure, const QRectF& text) {
-    return std::max(text.top() - figure.bottom(), figure.top() - text.bottom());
+    constexpr double above = 12;
+    return std::max(text.top() - figure.bottom(), figure.top() - text.bottom() + above);
 }
 
 // A paragraph in one of the regions.
@@ -53,7 +55,7 @@ Place placeOf(const ReadingFigure& figure, const std::vector<List>& regions) {
     Place place{0, 0};
     bool isFound = false;
     for (std::size_t i = 0; i < regions.size(); ++i) {
-        const bool isOfColumn = shareWidth(boxOf(regions[i]), figure.box);
+        const bool isOfColumn = shareWidth(boxOf(regions[i]), figure.box, leastOfColumn);
         const auto below =
             std::find_if(regions[i].begin(), regions[i].end(), [&](const ReadingParagraph& each) {
                 return !each.lines.empty() && each.kind != Kind::figure &&
@@ -87,7 +89,7 @@ std::vector<Caption> captionsOf(const std::vector<ReadingFigure>& figures,
             const QRectF box = boxOf(paragraph);
             for (std::size_t figure = 0; figure < figures.size(); ++figure) {
                 const double apart = distance(figures[figure].box, box);
-                if (apart < farthestCaption && shareWidth(figures[figure].box, box))
+                if (apart < farthestCaption && shareWidth(figures[figure].box, box, leastOfCaption))
                     captions.push_back({apart, figure, {i, j}});
             }
         }

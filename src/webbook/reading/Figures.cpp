@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <map>
 #include <numeric>
 #include <optional>
@@ -16,11 +17,11 @@ using Kind = PDFMark::Kind;
 using Marks = std::vector<PDFMark>;
 
 // In points: how far marks of one figure are apart, and rules from what they belong to.
-constexpr double nearMarks = 8;
-constexpr double nearRule = 4;
-constexpr double nearRules = 1.5;
+constexpr double nearMarks = 14;
+constexpr double nearRule = 7;
+constexpr double nearRules = 2;
 constexpr double staffPitch = 8;  // of the lines of a musical staff
-constexpr double nearLabel = 7;   // of words beside a drawing
+constexpr double nearLabel = 13;  // of words beside a drawing
 constexpr double nearFigure = 36; // of parts with one caption
 
 constexpr double largerSize = 1.1; // of headings, for the size of most text
@@ -32,7 +33,7 @@ constexpr double letterImage = 40; // the height of an image that may stand in a
 // Shares of an area.
 constexpr double wholePage = 0.8;
 constexpr double leastImages = 0.3;
-constexpr double leastDrawn = 0.25;
+constexpr double leastDrawn = 0.15;
 constexpr double mostText = 0.35;
 constexpr double leastFilled = 0.2;
 constexpr double mostTextAtFills = 0.12;
@@ -104,14 +105,16 @@ std::vector<Line> linesOf(const std::vector<PDFTextLine>& lines) {
     return made;
 }
 
-// 0 without lines.
+// Of paragraphs, in points; endless without these.
 double usualSize(const std::vector<Line>& lines) {
     std::map<double, double> lengths;
-    for (const Line& line : lines)
-        lengths[std::round(2 * line.size) / 2] += line.box.width();
+    for (const Line& line : lines) {
+        if (line.isProse)
+            lengths[std::round(2 * line.size) / 2] += line.box.width();
+    }
     const auto most = std::max_element(lengths.begin(), lengths.end(),
                                        [](auto& a, auto& b) { return a.second < b.second; });
-    return most == lengths.end() ? 0 : most->first;
+    return most == lengths.end() ? std::numeric_limits<double>::infinity() : most->first;
 }
 
 // What makes no figure by itself.
@@ -165,6 +168,7 @@ private:
     bool hasCaption(const QRectF& box) const;
     bool isLabel(const Line& line) const;
     bool divides(const Line& line) const;
+    bool isOnMark(const Line& line) const;
     double textIn(const QRectF& box) const;
     int proseIn(const QRectF& box) const;
     QRectF withLabels(QRectF box) const;
@@ -174,7 +178,7 @@ private:
 
     QRectF iPage;
     std::vector<Line> iLines;
-    double iSize; // of the letters of most lines
+    double iSize; // of the letters of paragraphs
     Marks iMarks; // from left to right
     std::vector<bool> iUnderText;
 };
@@ -305,7 +309,14 @@ bool Finder::divides(const Line& line) const {
            (line.style & monospacedText) != 0;
 }
 
-// Not the first or last line of more text.
+// A word in a box of a diagram, however large.
+bool Finder::isOnMark(const Line& line) const {
+    return std::any_of(iMarks.begin(), iMarks.end(), [&](const PDFMark& mark) {
+        return !isWeak(mark.kind) && around(mark.box, 1).contains(line.box);
+    });
+}
+
+// Neither the first or last line of more text, nor a line of the column.
 bool Finder::isLabel(const Line& line) const {
     constexpr double sameEdge = 1;
     const auto goesOn = [&](const Line& other) {
@@ -313,14 +324,18 @@ bool Finder::isLabel(const Line& line) const {
         return std::abs(other.box.left() - line.box.left()) < sameEdge && down > 1 &&
                down < 1.6 * line.box.height();
     };
+    const auto isOfColumn = [&](const Line& other) {
+        return other.isProse && std::abs(other.box.left() - line.box.left()) < sameEdge;
+    };
     return !divides(line) && (line.style & boldText) == 0 &&
-           std::count_if(iLines.begin(), iLines.end(), goesOn) < 2;
+           std::count_if(iLines.begin(), iLines.end(), goesOn) < 2 &&
+           std::none_of(iLines.begin(), iLines.end(), isOfColumn);
 }
 
 // With the words at its axes and ends.
 QRectF Finder::withLabels(QRectF box) const {
     constexpr int rounds = 2;
-    constexpr double mostGrowth = 1.4; // of the area, by one label
+    constexpr double mostGrowth = 1.75; // of the area, by one label
     for (int round = 0; round < rounds; ++round) {
         const QRectF before = box;
         const QRectF reach = around(box, nearLabel);
@@ -341,7 +356,9 @@ QRectF Finder::withoutText(QRectF box) const {
     constexpr double mostCut = 0.25;
     const double height = box.height();
     for (const Line& line : iLines) {
-        if (!divides(line) || !box.intersects(line.box))
+        const QRectF common = box.intersected(line.box);
+        const bool isBeside = common.width() < line.box.width() / 2;
+        if (!divides(line) || common.isEmpty() || isBeside || isOnMark(line))
             continue;
         QRectF cut = box;
         if (line.box.center().y() > box.center().y())
@@ -364,8 +381,8 @@ bool Finder::haveOneCaption(const QRectF& a, const QRectF& b) const {
     return (areInRow || areInColumn) &&
            std::none_of(iLines.begin(), iLines.end(), [&](const Line& line) {
                const QPointF middle = line.box.center();
-               return (divides(line) || (line.style & boldText) != 0) && both.contains(middle) &&
-                      !a.contains(middle) && !b.contains(middle);
+               return (divides(line) || (line.style & boldText) != 0) && !isOnMark(line) &&
+                      both.contains(middle) && !a.contains(middle) && !b.contains(middle);
            });
 }
 
@@ -392,7 +409,8 @@ std::vector<Figure> Finder::find() {
     std::erase_if(boxes, [&](const QRectF& box) {
         const auto isBeside = [&](const Line& line) {
             return line.isProse && !box.contains(line.box.center()) &&
-                   line.box.top() < box.center().y() && line.box.bottom() > box.center().y();
+                   meet(around(line.box, nearLabel),
+                        QRectF(box.left(), box.center().y(), box.width(), 0));
         };
         const bool stood =
             box.height() < letterImage && std::any_of(iLines.begin(), iLines.end(), isBeside);
