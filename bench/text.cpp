@@ -29,17 +29,17 @@ void measure(const QString& path) {
     QJsonArray texts;
     for (int index = 0; index < pages; ++index) {
         Stopwatch watch;
-        const auto lines =
+        const PDFPageText text =
             DrawablePage(document, index, {}, DrawablePage::Content::picturesAndText).text();
         reading += 1000 * watch.lap();
         const PDFPage page = document.page(index);
         const auto links = WebPageText::linksOf(page, document.annotations(index),
                                                 [](int target) { return target + 1; });
-        const auto json = WebPageText::asJson(page, lines, links);
+        const auto json = WebPageText::asJson(page, text.lines, links);
         layerBytes += WebScript::file(QStringLiteral("text"), WebScript::json(json)).size();
-        texts.append(WebPageText::plain(lines));
+        texts.append(WebPageText::plain(text.lines));
         layers += 1000 * watch.lap();
-        structure.addPage(index + 1, lines, links);
+        structure.addPage(index + 1, text, links);
         structuring += 1000 * watch.lap();
     }
     Stopwatch finishing;

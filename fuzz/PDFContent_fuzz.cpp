@@ -42,7 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             Fuzz::require(label.size() < 100, "a label is short");
         const DrawablePage page(document, 0, control, DrawablePage::Content::picturesAndText);
         checkVectors(page);
-        Fuzz::requireSound(page.text());
+        Fuzz::requireSound(PDFPageContent{page.text(), page.marks()});
     } catch (const PlatformException& failure) {
         Fuzz::require(!failure.reason().isEmpty(), "a failure has a reason");
     }

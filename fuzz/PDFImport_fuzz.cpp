@@ -78,7 +78,7 @@ void drawFirstPage(const QString& path) {
         Fuzz::require(side > 0 && side <= PDFLimits::maxBitmapSide,
                       "a drawn page has pixels and keeps within the limits");
     VectorEncoder().encode(page);
-    for (const PDFTextLine& line : page.text()) {
+    for (const PDFTextLine& line : page.text().lines) {
         Fuzz::require(isFinite(line.box) && !line.words.empty(), "a line lies somewhere");
         for (const PDFTextWord& word : line.words)
             Fuzz::require(!word.text.isEmpty() && std::isfinite(word.start) && word.length >= 0,

@@ -73,19 +73,21 @@ void checkStartList(const std::shared_ptr<PDFDocument>& document) {
 // However words lie on their page.
 void checkReading(const PDFPageContent& content, const std::vector<PageLayout::Link>& links) {
     BookReading reading;
-    reading.addPage(1, content.lines, links, Figures::of(content, {600, 800}));
+    const auto lines = reading.addPage(1, content.text, links, Figures::of(content, {600, 800}));
     for (const ReadingBlock& block : reading.finish({})) {
         Fuzz::require(block.position == 1 &&
                           (block.kind == ReadingBlock::Kind::figure || !block.text().isEmpty()),
                       "a block has text");
         Fuzz::require(block.level >= 0 && block.level <= 6, "a heading has a level");
+        for (const auto& [position, first, count] : block.lines)
+            Fuzz::require(first + count <= lines.size(), "a block consists of the page's lines");
     }
 }
 
 void checkText(const PDFDocument& document, const PDFPageContent& content) {
     const auto links =
         WebPageText::linksOf(document.page(0), document.annotations(0), [](int) { return 0; });
-    const QJsonObject text = WebPageText::asJson(document.page(0), content.lines, links);
+    const QJsonObject text = WebPageText::asJson(document.page(0), content.text.lines, links);
     checkReading(content, links);
     constexpr int furthest = 1'000'000'000; // in tenths of a point
     const QJsonArray size = text["size"].toArray();

@@ -66,13 +66,15 @@ Seeds answers() {
     const PDFOutlineNode leaf{"Leaf", 2, {}};
     const PDFOutlineNode branch{"Branch", -1, {leaf, leaf}};
     const PDFTextLine line{{10, 20, 90, 12}, 90, true, {{"two ", 0, 30}, {"words", 35, 55}}, 20};
+    PDFPageText text{{line}, {{PDFTag::Kind::heading, 9, 2, 0}}, {{line.box, "A figure"}}};
+    text.lines.front().words.front().tag = 0;
     return {pack(7),
             pack(QString("A title")),
             pack(page),
             pack(std::vector{web, within}),
             pack(std::vector{branch, leaf}),
             pack(std::vector{QString("A-9"), QString("A-10"), QString("iv")}),
-            pack(PDFPageContent{{line}, {{QRectF(5, 6, 70, 80), PDFMark::Kind::image}}}),
+            pack(PDFPageContent{text, {{QRectF(5, 6, 70, 80), PDFMark::Kind::image}}}),
             pack(PDFViewing{true, true, "UseThumbs", 1}),
             pack(std::vector{page.display})};
 }

@@ -3,6 +3,7 @@
 #include "pdf/AnnotationBudget.h"
 #include "pdf/PDFEngine.h"
 #include "pdf/PDFLimits.h"
+#include "pdf/PDFStructure.h"
 
 namespace {
 
@@ -63,6 +64,7 @@ PDFAnnotation annotationFrom(const PDFEngine& engine, pdf_obj* object) {
 DrawablePDF::DrawablePDF(const QString& path, Access access, const QByteArray& password)
     : PDFDocument(path, password), iEngine(std::make_unique<PDFEngine>()) {
     iEngine->open(path, access == Access::mapped, password);
+    iStructure = std::make_unique<PDFStructure>(*iEngine);
 }
 
 DrawablePDF::~DrawablePDF() = default;

@@ -5,6 +5,7 @@
 #include <memory>
 
 class PDFEngine;
+class PDFStructure;
 
 // A PDF that MuPDF has open in this process, so that its pages can be drawn, see DrawablePage. A
 // malicious file may crash MuPDF or make it hang, see PDFReader.
@@ -32,7 +33,9 @@ public:
 
     // For DrawablePage.
     const PDFEngine& engine() const { return *iEngine; }
+    PDFStructure& structure() const { return *iStructure; }
 
 private:
     std::unique_ptr<PDFEngine> iEngine;
+    std::unique_ptr<PDFStructure> iStructure;
 };

@@ -49,9 +49,9 @@ public:
     // one component when the page is gray.
     void draw(double scale, PageBitmap& bitmap) const;
 
-    // The words on the page without its annotations, line by line in the order of the file. Empty
-    // for a page that was recorded without its text.
-    std::vector<PDFTextLine> text() const;
+    // The words on the page without its annotations, and what they are if the document is tagged.
+    // Empty for a page that was recorded without its text.
+    PDFPageText text() const;
 
     // Where what is no text lies: images, lines, areas, with the page's annotations.
     std::vector<PDFMark> marks() const;

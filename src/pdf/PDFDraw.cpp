@@ -94,16 +94,19 @@ void drawList(fz_context* ctx, fz_display_list* list, bool skipsGroup, const fz_
 
 DrawablePage::DrawablePage(const DrawablePDF& document, PageCut cut, const DrawControl& control,
                            Content content)
-    : iRecording(std::make_unique<Recording>(document.engine(), control)) {
+    : iRecording(std::make_unique<Recording>(document, control)) {
     Recording& recording = *iRecording;
     document.requirePage(cut.index);
     recording.engine.beginPage();
     pdf_obj* object = recording.engine.pageObject(cut.index);
+    if (content == Content::picturesAndText && recording.structure.has(object))
+        recording.marks.emplace();
     recording.engine.run(ErrorKind::pageUnreadable, [&](fz_context* ctx) {
         recording.load(ctx, cut, object, content);
         recording.record(ctx, object);
     });
     recording.watch.throwIfEnded();
+    recording.readTags(object);
 }
 
 DrawablePage::~DrawablePage() = default;

@@ -7,6 +7,6 @@
 
 // What the structure of a page's text is found from.
 struct PDFPageContent {
-    std::vector<PDFTextLine> lines;
+    PDFPageText text;
     std::vector<PDFMark> marks;
 };

@@ -212,6 +212,8 @@ void DrawablePage::Recording::makeLists(fz_context* ctx, Content content) {
         text = fz_new_stext_page(ctx, bounds);
     isColour = 0;
     textError = {};
+    if (marks)
+        marks.emplace();
 }
 
 // MuPDF gives up a page at an image whose dictionary or header makes no sense.
@@ -251,9 +253,14 @@ void DrawablePage::Recording::interpret(fz_context* ctx) {
         if (text) {
             const fz_stext_options options{FZ_STEXT_MEDIABOX_CLIP, 1};
             texts = fz_new_stext_device(ctx, text, &options);
-            tap = TextTap::make(ctx, test, texts, textError);
+            if (!marks)
+                tap = TextTap::make(ctx, test, texts, textError);
         }
         fz_run_page_contents(ctx, page, tap ? tap : test, fz_identity, watch.cookie());
+        if (texts && marks)
+            runText(ctx, textError, [&] {
+                marks->interpret(ctx, pdf_page_from_fz_page(ctx, page), texts, watch.cookie());
+            });
         if (texts)
             runText(ctx, textError, [&] { fz_close_device(ctx, texts); });
         if (frames)
@@ -273,4 +280,18 @@ void DrawablePage::Recording::interpret(fz_context* ctx) {
     // composited onto white. Many documents declare a group on every page but use blending on a few
     // only. Without blending the page can be drawn directly, faster and with the same result.
     hasPlainGroup = pdf_page_from_fz_page(ctx, page)->transparency != 0 && !blends(ctx, list);
+}
+
+void DrawablePage::Recording::readTags(pdf_obj* object) {
+    if (!marks)
+        return;
+    const fz_matrix toDisplay = engine.get(
+        [&](fz_context* ctx) {
+            fz_rect box;
+            fz_matrix matrix;
+            pdf_page_transform(ctx, pdf_page_from_fz_page(ctx, page), &box, &matrix);
+            return matrix;
+        },
+        fz_identity);
+    tags = structure.tagsOf(object, marks->marks(), toDisplay);
 }

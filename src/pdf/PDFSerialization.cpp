@@ -74,7 +74,7 @@ void describe(Archive& archive, PDFOutlineNode& node) {
 
 template <class Archive>
 void describe(Archive& archive, PDFTextWord& word) {
-    archive(word.text, word.start, word.length, word.size, word.style);
+    archive(word.text, word.start, word.length, word.size, word.style, word.tag);
     archive.require(std::isfinite(word.start) && std::isfinite(word.length));
     archive.require(std::isfinite(word.size) && word.size >= 0);
     archive.require(word.style >= 0 && word.style <= (boldText | italicText | monospacedText));
@@ -88,6 +88,29 @@ void describe(Archive& archive, PDFTextLine& line) {
 }
 
 template <class Archive>
+void describe(Archive& archive, PDFTag& tag) {
+    archive(tag.kind, tag.element, tag.level, tag.cell);
+    archive.require(tag.kind >= PDFTag::Kind::paragraph && tag.kind <= PDFTag::Kind::artifact);
+    archive.require(tag.level >= 0 && tag.level <= PDFTag::deepestLevel);
+    archive.require(tag.cell >= 0 && tag.cell <= PDFTag::lastCell);
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFAlternative& alternative) {
+    archive(alternative.box, alternative.text);
+    archive.require(isFinite(alternative.box));
+}
+
+template <class Archive>
+void describe(Archive& archive, PDFPageText& text) {
+    archive(text.lines, text.tags, text.alternatives);
+    for (const PDFTextLine& line : text.lines) {
+        for (const PDFTextWord& word : line.words)
+            archive.require(word.tag >= -1 && word.tag < int(text.tags.size()));
+    }
+}
+
+template <class Archive>
 void describe(Archive& archive, PDFMark& mark) {
     archive(mark.box, mark.kind);
     archive.require(isFinite(mark.box) && mark.kind >= PDFMark::Kind::image &&
@@ -96,7 +119,7 @@ void describe(Archive& archive, PDFMark& mark) {
 
 template <class Archive>
 void describe(Archive& archive, PDFPageContent& content) {
-    archive(content.lines, content.marks);
+    archive(content.text, content.marks);
     archive.require(content.marks.size() <= PDFLimits::maxPageMarks);
 }
 

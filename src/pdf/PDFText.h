@@ -17,6 +17,7 @@ struct PDFTextWord {
     // Of its first letter: the size of the font in points, and PDFTextStyle.
     double size = 0;
     int style = plainText;
+    int tag = -1; // that of its first letter, by its place in PDFPageText::tags; -1 for none
 };
 
 // One line of a page's text.
@@ -37,6 +38,37 @@ struct PDFTextCharacter {
     double to = 0;
     double size = 0; // as in PDFTextWord
     int style = plainText;
+    int tag = -1;
+};
+
+// What a tagged document says that a piece of text is.
+struct PDFTag {
+    // unknown are words in figures, and what is in no block.
+    enum class Kind { paragraph, heading, listItem, note, code, tableRow, unknown, artifact };
+    static constexpr int deepestLevel = 6;
+    static constexpr int lastCell = 255; // what is further right is in that one
+
+    Kind kind = Kind::paragraph;
+    // Which paragraph, item, row or figure of the document; may begin on an earlier page. 0 for
+    // none.
+    int element = 0;
+    int level = 0; // of a heading, 1 to 6
+    int cell = 0;  // which one of its row, from 0 on
+};
+
+// What stands for a figure where it is not seen.
+struct PDFAlternative {
+    QRectF box; // of the figure, in points from the top left of the page as displayed
+    QString text;
+};
+
+// The text of a page.
+struct PDFPageText {
+    std::vector<PDFTextLine> lines; // in the order of the file
+    // In the order in which they are read; empty for a page without tags. Not to be trusted to fit
+    // the text: they may be wrong, or few.
+    std::vector<PDFTag> tags;
+    std::vector<PDFAlternative> alternatives;
 };
 
 namespace PDFText {

@@ -16,6 +16,7 @@ struct Cluster {
     Direction direction;
     double size;
     int style;
+    int tag;
 };
 
 Direction directionOf(char32_t code) {
@@ -68,7 +69,8 @@ std::vector<Cluster> clustersOf(const std::vector<PDFTextCharacter>& characters)
             clusters.back().text += textOf(character.code);
         else
             clusters.push_back({textOf(character.code), character.from, character.to,
-                                directionOf(character.code), character.size, character.style});
+                                directionOf(character.code), character.size, character.style,
+                                character.tag});
     }
     return clusters;
 }
@@ -89,7 +91,7 @@ void addNarrowBlanks(std::vector<Cluster>& clusters) {
     for (const Cluster& cluster : clusters) {
         if (!spaced.empty() && isBetweenWords(spaced.back(), cluster)) {
             spaced.push_back({QStringLiteral(" "), spaced.back().to, cluster.from,
-                              Direction::neutral, cluster.size, cluster.style});
+                              Direction::neutral, cluster.size, cluster.style, spaced.back().tag});
             ++added;
         }
         spaced.push_back(cluster);
@@ -158,7 +160,7 @@ void PDFText::makeWords(const std::vector<PDFTextCharacter>& characters, double 
         const bool alone = isOfUnspacedScript(cluster.text);
         if (begins || alone)
             line.words.push_back(
-                {QString(), cluster.from - lineStart, 0, cluster.size, cluster.style});
+                {QString(), cluster.from - lineStart, 0, cluster.size, cluster.style, cluster.tag});
         PDFTextWord& word = line.words.back();
         const double from = std::min(word.start, cluster.from - lineStart);
         const double to = std::max(word.start + word.length, cluster.to - lineStart);

@@ -161,7 +161,7 @@ std::vector<PDFTextLine> PageWriter::writeText(const WebPage& page, const PDFPag
     const WebBookMetadata& metadata = iBook.metadata;
     const auto links = WebPageText::linksOf(
         source, annotations, [&](int index) { return metadata.positionOf(index + 1); });
-    auto ordered = iReading.addPage(metadata.positionOf(page.number), content.lines, links,
+    auto ordered = iReading.addPage(metadata.positionOf(page.number), content.text, links,
                                     Figures::of(content, source.display));
     writeScript(BookLayout::text(page.number),
                 WebScript::json(WebPageText::asJson(source, ordered, links)));

@@ -112,7 +112,7 @@ TEST(PDFSerialization, RefusesNumbersThatMakeNoSense) {
             .name;
     };
     const auto lines = [](const QRectF& box, int turn, const PDFTextWord& word = {}) {
-        return PDFPageContent{{{box, turn, false, {word}}}, {}};
+        return PDFPageContent{{{PDFTextLine{box, turn, false, {word}}}, {}, {}}, {}};
     };
     const QString garbled = "PDFReaderMalformedAnswer";
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
@@ -131,8 +131,12 @@ TEST(PDFSerialization, RefusesNumbersThatMakeNoSense) {
     EXPECT_EQ(failureWith(PDFPageContent{{}, tooMany}), garbled);
     for (const PDFTextWord& word :
          {PDFTextWord{"x", none, 0}, PDFTextWord{"x", 0, none}, PDFTextWord{"x", 0, 0, none},
-          PDFTextWord{"x", 0, 0, -1}, PDFTextWord{"x", 0, 0, 9, -1}, PDFTextWord{"x", 0, 0, 9, 8}})
+          PDFTextWord{"x", 0, 0, -1}, PDFTextWord{"x", 0, 0, 9, -1}, PDFTextWord{"x", 0, 0, 9, 8},
+          PDFTextWord{"x", 0, 0, 9, 0, -2}, PDFTextWord{"x", 0, 0, 9, 0, 0}})
         EXPECT_EQ(failureWith(lines({}, 0, word)), garbled);
+    for (const PDFTag& tag : {PDFTag{PDFTag::Kind(8), 1, 0, 0}, PDFTag{PDFTag::Kind(-1), 1, 0, 0},
+                              PDFTag{{}, 1, 7, 0}, PDFTag{{}, 1, 0, -1}, PDFTag{{}, 1, 0, 256}})
+        EXPECT_EQ(failureWith(PDFPageContent{{{}, {tag}, {}}, {}}), garbled);
     for (const int rotation : {-1, 360})
         EXPECT_EQ(failureWith(PDFPage{{}, {}, rotation, {}, {}}), garbled);
     EXPECT_EQ(failureWith(PDFPage{{}, {}, 0, {1, none}, {}}), garbled);

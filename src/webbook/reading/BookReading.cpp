@@ -2,8 +2,10 @@
 
 #include "webbook/reading/FigurePlaces.h"
 #include "webbook/reading/RunningHeads.h"
+#include "webbook/reading/TaggedLayout.h"
 
 #include <cmath>
+#include <unordered_map>
 #include <utility>
 
 namespace {
@@ -65,6 +67,22 @@ bool isFigure(const ReadingParagraph& paragraph) {
     return paragraph.kind == Kind::figure;
 }
 
+bool isTagged(const ReadingParagraph& paragraph) {
+    return paragraph.isTagged;
+}
+
+// What the tag of a region says.
+ReadingParagraph taggedFrom(const ReadingRegion& region) {
+    ReadingParagraph made;
+    made.kind = region.tag->kind;
+    made.level = region.tag->level;
+    made.element = region.tag->element;
+    made.isTagged = true;
+    made.lines = region.lines;
+    made.right = region.right();
+    return made;
+}
+
 // The paragraph in which the last one of the list goes on: the first text of the next column, or
 // behind what stands above it there.
 std::size_t continuationOf(const ReadingParagraph& open, const List& next, bool areIndented) {
@@ -89,6 +107,9 @@ void append(ReadingParagraph& to, ReadingParagraph&& from) {
         to.lines.push_back(std::move(line));
 }
 
+// From line to line of a program, in sizes of letters: some are left empty.
+constexpr double mostPitchOfCode = 4;
+
 // Collects a book's paragraphs, region by region, and joins those that go on.
 class Flow {
 public:
@@ -99,6 +120,10 @@ public:
 
 private:
     void add(List region);
+    void addTagged(ReadingParagraph made);
+    bool goesOnTagged(const ReadingParagraph& paragraph) const;
+    bool isTaggedCode(const ReadingParagraph& paragraph) const;
+    bool isBelowCode(const ReadingLine& line) const;
     bool areIndented() const { return iIndented >= 4 && iIndented > 0.3 * iLong; }
 
     const TextMeasure& iMeasure;
@@ -107,6 +132,10 @@ private:
     int iLong = 0;             // paragraphs of several lines so far
     int iIndented = 0;         // those whose first line is indented
     std::ptrdiff_t iOpen = -1; // the last paragraph of text, which may go on
+    // Tagged blocks of the page before and of this one, by their elements.
+    using Elements = std::unordered_map<int, std::size_t>;
+    Elements iBefore;
+    Elements iHere;
 };
 
 void Flow::add(List region) {
@@ -136,13 +165,69 @@ void Flow::add(List region) {
     }
 }
 
+// Some programs divide at the end of a page what is one paragraph.
+bool Flow::goesOnTagged(const ReadingParagraph& paragraph) const {
+    if (iOpen < 0 || !iHere.empty() || paragraph.kind != Kind::paragraph)
+        return false;
+    const ReadingParagraph& open = iAll[std::size_t(iOpen)];
+    return isText(open) && !endsSentence(open.lines.back().text) &&
+           startsLower(paragraph.lines.front().text) && goesOn(open, paragraph, false);
+}
+
+// Programs are tagged as paragraphs, each line as one or all as a single one.
+bool Flow::isTaggedCode(const ReadingParagraph& paragraph) const {
+    return paragraph.kind == Kind::paragraph &&
+           std::all_of(paragraph.lines.begin(), paragraph.lines.end(),
+                       [&](const ReadingLine& line) { return iMeasure.isCode(line); });
+}
+
+// Whether a program goes on in the next paragraph of the page.
+bool Flow::isBelowCode(const ReadingLine& line) const {
+    if (iHere.empty() || !iAll.back().isTagged || iAll.back().kind != Kind::code)
+        return false;
+    const double pitch = line.baseline - iAll.back().lines.back().baseline;
+    return pitch > 0 && pitch < mostPitchOfCode * line.size;
+}
+
+void Flow::addTagged(ReadingParagraph made) {
+    const int element = made.element;
+    const bool isCode = isTaggedCode(made);
+    if (isCode)
+        made.kind = Kind::code;
+    const auto begun = iBefore.find(element);
+    const bool isContinued = begun != iBefore.end() && iAll[begun->second].kind == made.kind &&
+                             made.kind != Kind::tableRow;
+    std::size_t place = iAll.size();
+    if (isContinued || goesOnTagged(made)) {
+        place = isContinued ? begun->second : std::size_t(iOpen);
+        append(iAll[place], std::move(made));
+    } else if (isCode && isBelowCode(made.lines.front())) {
+        append(iAll[--place], std::move(made));
+    } else {
+        iAll.push_back(std::move(made));
+    }
+    iHere[element] = place;
+    iOpen = isText(iAll[place]) ? std::ptrdiff_t(place) : -1;
+}
+
 void Flow::add(const ReadingPage& page) {
     std::vector<List> regions;
     for (const ReadingRegion& region : page.regions)
-        regions.push_back(Paragraphs::of(region, iMeasure));
+        regions.push_back(region.tag ? List{taggedFrom(region)} : Paragraphs::of(region, iMeasure));
     FigurePlaces::insert(page.figures, regions);
-    for (List& region : regions)
-        add(std::move(region));
+    for (List& region : regions) {
+        if (std::none_of(region.begin(), region.end(), isTagged)) {
+            add(std::move(region));
+            continue;
+        }
+        for (ReadingParagraph& paragraph : region) {
+            if (isFigure(paragraph))
+                iAll.push_back(std::move(paragraph));
+            else
+                addTagged(std::move(paragraph));
+        }
+    }
+    iBefore = std::exchange(iHere, {});
     for (ReadingParagraph& note : std::exchange(iNotes, {}))
         iAll.push_back(std::move(note));
 }
@@ -180,6 +265,13 @@ void addLines(ReadingBlock& block, const ReadingLine& line) {
     }
 }
 
+// The cells between two lines of a tagged row, empty ones included.
+void endCells(ReadingBlock& block, const ReadingLine& next, int cells) {
+    constexpr int most = PDFTag::lastCell;
+    const QString tabs(std::clamp(cells, 1, most), u'\t');
+    block.runs.push_back({tabs, next.position(), plainText, {}, 0});
+}
+
 ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
     ReadingBlock block;
     block.kind = paragraph.kind;
@@ -189,6 +281,7 @@ ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
         block.box = paragraph.figure.box;
         block.pageSize = paragraph.figure.page;
         block.words = paragraph.figure.words;
+        block.alternative = paragraph.figure.alternative;
         block.within = paragraph.figure.lines;
         block.hasImages = paragraph.figure.hasImages;
     } else {
@@ -197,25 +290,31 @@ ReadingBlock blockFrom(ReadingParagraph&& paragraph, const LineJoin& join) {
     block.rightToLeft = !paragraph.lines.empty() && paragraph.lines.front().rightToLeft;
     if (block.kind == Kind::code)
         indentCode(paragraph);
+    int cell = 0;
     for (ReadingLine& line : paragraph.lines) {
-        if (block.kind != Kind::tableRow)
+        if (block.kind != Kind::tableRow || paragraph.isTagged)
             replaceTabs(line);
         if (line.position() == block.position && block.kind != Kind::figure)
             block.box |= line.box;
         addLines(block, line);
-        if (block.runs.empty())
-            block.runs = line.runs;
-        else
+        if (line.cell != cell)
+            endCells(block, line, line.cell - std::exchange(cell, line.cell));
+        else if (!block.runs.empty()) {
             join.append(block, line);
+            continue;
+        }
+        block.runs.insert(block.runs.end(), line.runs.begin(), line.runs.end());
     }
     return block;
 }
 
 } // namespace
 
-std::vector<PDFTextLine> BookReading::addPage(int position, const std::vector<PDFTextLine>& lines,
+std::vector<PDFTextLine> BookReading::addPage(int position, const PDFPageText& text,
                                               const std::vector<PageLayout::Link>& links,
                                               const Figures::OfPage& figures) {
+    const bool usesTags = TaggedLayout::isPlausible(text);
+    const std::vector<PDFTextLine> lines = usesTags ? TaggedLayout::divided(text) : text.lines;
     const auto figureOf = [&](const PDFTextLine& line) {
         return std::find_if(figures.figures.begin(), figures.figures.end(),
                             [&](const auto& each) { return each.box.contains(line.box.center()); });
@@ -228,7 +327,8 @@ std::vector<PDFTextLine> BookReading::addPage(int position, const std::vector<PD
         flow.push_back(lines[i]);
         sources.push_back(i);
     }
-    iPages.push_back(PageLayout::of(position, flow, links));
+    iPages.push_back(usesTags ? TaggedLayout::of(position, flow, text.tags, links)
+                              : PageLayout::of(position, flow, links));
     std::vector<PDFTextLine> ordered;
     std::vector<bool> isTaken(lines.size());
     const auto take = [&](std::size_t i) {
@@ -245,7 +345,8 @@ std::vector<PDFTextLine> BookReading::addPage(int position, const std::vector<PD
     }
     for (auto each = figures.figures.begin(); each != figures.figures.end(); ++each) {
         ReadingFigure figure{
-            each->box, figures.size, each->hasImages, {position, ordered.size(), 0}, {}};
+            each->box, figures.size,     each->hasImages, {position, ordered.size(), 0},
+            {},        each->alternative};
         for (std::size_t i = 0; i < lines.size(); ++i) {
             if (figureOf(lines[i]) != each)
                 continue;

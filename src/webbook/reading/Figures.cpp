@@ -2,6 +2,7 @@
 
 #include "webbook/reading/Caption.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -152,7 +153,7 @@ struct Cluster {
 class Finder {
 public:
     Finder(const PDFPageContent& content, const QSizeF& size)
-        : iPage(QPointF(), size), iLines(linesOf(content.lines)), iSize(usualSize(iLines)) {
+        : iPage(QPointF(), size), iLines(linesOf(content.text.lines)), iSize(usualSize(iLines)) {
         takeMarks(content.marks);
     }
 
@@ -421,9 +422,22 @@ std::vector<Figure> Finder::find() {
         const bool hasImages = std::any_of(iMarks.begin(), iMarks.end(), [&](const PDFMark& mark) {
             return mark.kind == Kind::image && box.contains(mark.box.center());
         });
-        figures.push_back({around(box, 0.5).intersected(iPage), hasImages});
+        figures.push_back({around(box, 0.5).intersected(iPage), hasImages, {}});
     }
     return figures;
+}
+
+// Of the tagged figure that is at the same place, or of those that are parts of it.
+QString alternativeOf(const QRectF& box, const std::vector<PDFAlternative>& alternatives) {
+    constexpr double leastShare = 0.5;
+    QStringList texts;
+    for (const PDFAlternative& each : alternatives) {
+        const double smaller = std::min(areaOf(box), areaOf(each.box));
+        if (smaller > 0 && areaOf(box.intersected(each.box)) > leastShare * smaller)
+            texts << each.text;
+    }
+    texts.removeDuplicates();
+    return texts.join(QStringLiteral("; "));
 }
 
 } // namespace
@@ -431,9 +445,12 @@ std::vector<Figure> Finder::find() {
 OfPage of(const PDFPageContent& content, const QSizeF& size) {
     // A map has more, and a long answer of a broken program.
     constexpr std::size_t mostLines = 3'000;
-    if (size.isEmpty() || content.marks.empty() || content.lines.size() > mostLines)
+    if (size.isEmpty() || content.marks.empty() || content.text.lines.size() > mostLines)
         return {size, {}};
-    return {size, Finder(content, size).find()};
+    OfPage found{size, Finder(content, size).find()};
+    for (Figure& figure : found.figures)
+        figure.alternative = alternativeOf(figure.box, content.text.alternatives);
+    return found;
 }
 
 } // namespace Figures

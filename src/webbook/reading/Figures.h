@@ -10,6 +10,7 @@ namespace Figures {
 struct Figure {
     QRectF box; // in points from the top left of the page as displayed
     bool hasImages = false;
+    QString alternative; // what the document says that stands for it; empty for nothing
 };
 
 // The figures of a page, and its size as displayed, in points.

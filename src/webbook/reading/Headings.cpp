@@ -16,6 +16,8 @@ using Kind = ReadingBlock::Kind;
 constexpr std::size_t mostLines = 4;
 constexpr qsizetype mostLetters = 220;
 constexpr int deepest = 6;
+// Of letters, for those of the text: some programs tag the title of a document as a paragraph.
+constexpr double titleSize = 1.3;
 
 // Larger ones first.
 struct Look {
@@ -110,6 +112,10 @@ const ReadingParagraph* textAfter(const std::vector<ReadingParagraph>& paragraph
     return nullptr;
 }
 
+bool isTaggedHeading(const ReadingParagraph& paragraph) {
+    return paragraph.isTagged && paragraph.kind == Kind::heading;
+}
+
 // The levels of looks: as in the outline, and between those by size.
 std::map<Look, int> levelsOf(const std::map<Look, std::map<int, int>>& looks) {
     std::map<Look, int> levels;
@@ -148,10 +154,16 @@ void mark(std::vector<ReadingParagraph>& paragraphs, const TextMeasure& measure,
         }
         return 0;
     };
+    const bool hasTags = std::any_of(paragraphs.begin(), paragraphs.end(), isTaggedHeading);
     std::map<Look, std::map<int, int>> looks;
     for (std::size_t i = 0; i < paragraphs.size(); ++i) {
         ReadingParagraph& paragraph = paragraphs[i];
         if (paragraph.kind == Kind::figure)
+            continue;
+        if (isTaggedHeading(paragraph))
+            ++looks[lookOf(paragraph)][paragraph.level];
+        const bool isTitle = paragraph.lines.front().size > titleSize * measure.size;
+        if (paragraph.isTagged && hasTags && (!isTitle || isTaggedHeading(paragraph)))
             continue;
         const ReadingParagraph* next = textAfter(paragraphs, i);
         paragraph.level = outline.empty() ? 0 : levelInOutline(paragraph);

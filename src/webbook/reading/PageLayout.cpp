@@ -5,7 +5,9 @@
 
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <map>
+#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -333,10 +335,10 @@ bool liesOnPage(const PDFTextLine& line) {
            std::all_of(line.words.begin(), line.words.end(), isWordNear);
 }
 
-} // namespace
-
-ReadingPage of(int position, const std::vector<PDFTextLine>& found,
-               const std::vector<Link>& links) {
+// groupsOf divides pieces by their places as ColumnCut::groups() does.
+template <class GroupsOf>
+ReadingPage layOut(int position, const std::vector<PDFTextLine>& found,
+                   const std::vector<Link>& links, GroupsOf groupsOf) {
     ReadingPage page{position, {}, {}};
     if (found.empty())
         return page;
@@ -364,10 +366,32 @@ ReadingPage of(int position, const std::vector<PDFTextLine>& found,
                 pieces.back().sources.push_back(first + i);
             places.push_back(pieces.back().place);
         }
-        for (const auto& group : ColumnCut::groups(places))
-            page.regions.push_back(regionFrom(pieces, group));
+        for (const auto& group : groupsOf(places)) {
+            if (!group.empty())
+                page.regions.push_back(regionFrom(pieces, group));
+        }
     }
     return page;
+}
+
+} // namespace
+
+ReadingPage of(int position, const std::vector<PDFTextLine>& lines,
+               const std::vector<Link>& links) {
+    return layOut(position, lines, links, ColumnCut::groups);
+}
+
+std::vector<ReadingLine> inOrder(int position, const std::vector<PDFTextLine>& lines,
+                                 const std::vector<Link>& links) {
+    const auto oneGroup = [](const std::vector<ColumnCut::Piece>& places) {
+        std::vector<std::size_t> all(places.size());
+        std::iota(all.begin(), all.end(), std::size_t(0));
+        return std::vector<std::vector<std::size_t>>{all};
+    };
+    std::vector<ReadingLine> ordered;
+    for (ReadingRegion& region : layOut(position, lines, links, oneGroup).regions)
+        std::move(region.lines.begin(), region.lines.end(), std::back_inserter(ordered));
+    return ordered;
 }
 
 } // namespace PageLayout

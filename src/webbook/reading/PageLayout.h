@@ -20,4 +20,8 @@ struct Link {
 // other directions than most of the page's comes last.
 ReadingPage of(int position, const std::vector<PDFTextLine>& lines, const std::vector<Link>& links);
 
+// The lines as one column, in the order that they come in, whatever their places.
+std::vector<ReadingLine> inOrder(int position, const std::vector<PDFTextLine>& lines,
+                                 const std::vector<Link>& links);
+
 } // namespace PageLayout

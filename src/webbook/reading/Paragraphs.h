@@ -24,6 +24,8 @@ struct ReadingParagraph {
     ReadingBlock::Kind kind = ReadingBlock::Kind::paragraph;
     int level = 0; // of a heading
     std::vector<ReadingLine> lines;
+    bool isTagged = false;     // its kind is what the document says
+    int element = 0;           // of a tagged one, see PDFTag
     double right = 0;          // how far its lines may go
     bool isIndented = false;   // its first line is
     bool startsRegion = false; // and the next one ends it

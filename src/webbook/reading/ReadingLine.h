@@ -3,6 +3,7 @@
 #include "webbook/reading/ReadingBlock.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 // One line of text as it is read: whatever its direction on the page, it runs along from smaller to
@@ -23,6 +24,7 @@ struct ReadingLine {
     bool startsRaised = false; // the first letters are smaller, as a footnote's number is
     bool rightToLeft = false;
     int cells = 1; // parts with wide gaps between them, which are tabs in the text
+    int cell = 0;  // which one of a tagged row it is in
     QRectF box;    // as displayed
     QString text;
     std::vector<ReadingRun> runs; // its text in parts
@@ -35,9 +37,18 @@ struct ReadingLine {
     int position() const { return runs.empty() ? 0 : runs.front().position; }
 };
 
-// Lines below each other, such as those of a column, from top to bottom.
+// What the document says that lines are.
+struct ReadingTag {
+    ReadingBlock::Kind kind = ReadingBlock::Kind::paragraph;
+    int level = 0;   // of a heading
+    int element = 0; // the same number on another page is the same block
+};
+
+// Lines below each other, such as those of a column, from top to bottom. Those with a tag are one
+// block.
 struct ReadingRegion {
     std::vector<ReadingLine> lines;
+    std::optional<ReadingTag> tag;
 
     double left() const {
         return std::min_element(lines.begin(), lines.end(),
@@ -59,6 +70,7 @@ struct ReadingFigure {
     // Of the lines within it, as BookReading::addPage() has returned them.
     ReadingBlock::Lines lines;
     QString words;
+    QString alternative; // empty for none
 };
 
 // The lines of a page, without those in figures. No region is empty.

@@ -86,6 +86,9 @@ Edge edgesOf(const std::vector<ReadingPage>& pages) {
     for (std::size_t page = 0; page < pages.size(); ++page) {
         std::vector<const ReadingLine*> lines;
         for (const ReadingRegion& region : pages[page].regions) {
+            // Heads of tables recur, too.
+            if (region.tag && region.tag->kind != ReadingBlock::Kind::paragraph)
+                continue;
             for (const ReadingLine& line : region.lines)
                 lines.push_back(&line);
         }

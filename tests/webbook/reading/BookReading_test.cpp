@@ -75,7 +75,7 @@ QStringList read(const std::vector<Lines>& pages,
     int position = 0;
     std::vector<Lines> ordered;
     for (const Lines& page : pages)
-        ordered.push_back(reading.addPage(++position, page, {}));
+        ordered.push_back(reading.addPage(++position, {page, {}, {}}, {}));
     static const QStringList kinds{"", "h", "item ", "note ", "code ", "row "};
     QStringList texts;
     for (const ReadingBlock& block : reading.finish(outline)) {
@@ -235,7 +235,7 @@ TEST(BookReading, ReadsColumnsFromRightToLeftWhereTheTextDoes) {
 TEST(BookReading, GivesWordsTheLinksAroundThem) {
     const Lines page = lines(50, 100, {"See example.org for more."});
     BookReading reading;
-    reading.addPage(1, page, {{QRectF(68, 90, 60, 15), "https://example.org/", 0}});
+    reading.addPage(1, {page, {}, {}}, {{QRectF(68, 90, 60, 15), "https://example.org/", 0}});
     const auto blocks = reading.finish({});
     ASSERT_EQ(blocks.front().runs.size(), 3U);
     EXPECT_EQ(blocks.front().runs[1].text, "example.org");
@@ -247,8 +247,8 @@ TEST(BookReading, PutsFiguresWithTheirCaptionsWhereTheyStand) {
     const Lines page = lines(50, 100, full("above", 3, "it.")) + words +
                        lines(50, 250, {"Figure 1: A hill"}) + lines(50, 280, full("below", 3));
     BookReading reading;
-    const Lines ordered =
-        reading.addPage(1, page, {}, {{600, 800}, {{QRectF(50, 150, 200, 80), true}}});
+    const Lines ordered = reading.addPage(1, {page, {}, {}}, {},
+                                          {{600, 800}, {{QRectF(50, 150, 200, 80), true, {}}}});
     const auto blocks = reading.finish({});
     ASSERT_EQ(blocks.size(), 3U);
     const ReadingBlock& figure = blocks[1];
@@ -263,9 +263,9 @@ TEST(BookReading, PutsFiguresWithTheirCaptionsWhereTheyStand) {
 TEST(BookReading, LeavesOutPicturesOfRunningHeads) {
     BookReading reading;
     for (const int position : {1, 2, 3}) {
-        const Figures::Figure logo{QRectF(50, 20, 90, 40), true};
-        const Figures::Figure photo{QRectF(50, 300, 200, 200), true};
-        reading.addPage(position, lines(50, 100, full(QString(position, u'x'), 3)), {},
+        const Figures::Figure logo{QRectF(50, 20, 90, 40), true, {}};
+        const Figures::Figure photo{QRectF(50, 300, 200, 200), true, {}};
+        reading.addPage(position, {lines(50, 100, full(QString(position, u'x'), 3)), {}, {}}, {},
                         {{600, 800}, {logo, photo}});
     }
     for (const ReadingBlock& block : reading.finish({}))

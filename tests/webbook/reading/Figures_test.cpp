@@ -114,6 +114,18 @@ TEST(Figures, AreImagesAndDrawingsButNotWhatTextStandsOn) {
         EXPECT_EQ(figuresOf(content).toStdString(), found) << what;
 }
 
+TEST(Figures, HaveTheAlternativeTextsOfTheirPlaces) {
+    const PDFMark photo{QRectF(100, 100, 200, 100), PDFMark::Kind::image};
+    const PDFPageText text{{},
+                           {},
+                           {{QRectF(90, 90, 400, 300), "A hill"},
+                            {QRectF(120, 110, 20, 20), "with a tree"},
+                            {QRectF(290, 190, 300, 300), "elsewhere"}}};
+    const auto found = Figures::of({text, {photo}}, pageSize).figures;
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found[0].alternative, "A hill; with a tree");
+}
+
 TEST(Figures, AreWholeWithMoreMarksThanAreKept) {
     QByteArray content = paragraph(50);
     constexpr int count = 5000;
