@@ -304,10 +304,14 @@ bool Finder::isFigure(const Cluster& cluster) const {
            text < mostTextAtFills;
 }
 
-// Text of its own, though short: a caption, a heading, a program.
+// Text of its own, though short: a caption, a bold heading, a program.
+bool isText(const Line& line) {
+    return line.isProse || line.isCaption || (line.style & (boldText | monospacedText)) != 0;
+}
+
+// Whether figures end at a line.
 bool Finder::divides(const Line& line) const {
-    return line.isProse || line.isCaption || (line.size > largerSize * iSize && !line.isShort) ||
-           (line.style & monospacedText) != 0;
+    return isText(line) || (line.size > largerSize * iSize && !line.isShort);
 }
 
 // A word in a box of a diagram, however large.
@@ -328,8 +332,7 @@ bool Finder::isLabel(const Line& line) const {
     const auto isOfColumn = [&](const Line& other) {
         return other.isProse && std::abs(other.box.left() - line.box.left()) < sameEdge;
     };
-    return !divides(line) && (line.style & boldText) == 0 &&
-           std::count_if(iLines.begin(), iLines.end(), goesOn) < 2 &&
+    return !divides(line) && std::count_if(iLines.begin(), iLines.end(), goesOn) < 2 &&
            std::none_of(iLines.begin(), iLines.end(), isOfColumn);
 }
 
@@ -343,7 +346,8 @@ QRectF Finder::withLabels(QRectF box) const {
         for (const Line& line : iLines) {
             const bool isSmall = areaOf(before | line.box) < mostGrowth * areaOf(before);
             const bool isWithin = before.contains(line.box.center()) && !line.isProse;
-            if (isSmall && (isWithin || (meet(reach, line.box) && isLabel(line))))
+            const bool isCut = before.intersects(line.box) && !isText(line);
+            if (isSmall && (isWithin || isCut || (meet(reach, line.box) && isLabel(line))))
                 box |= line.box;
         }
         if (box == before)
@@ -382,8 +386,8 @@ bool Finder::haveOneCaption(const QRectF& a, const QRectF& b) const {
     return (areInRow || areInColumn) &&
            std::none_of(iLines.begin(), iLines.end(), [&](const Line& line) {
                const QPointF middle = line.box.center();
-               return (divides(line) || (line.style & boldText) != 0) && !isOnMark(line) &&
-                      both.contains(middle) && !a.contains(middle) && !b.contains(middle);
+               return divides(line) && !isOnMark(line) && both.contains(middle) &&
+                      !a.contains(middle) && !b.contains(middle);
            });
 }
 
