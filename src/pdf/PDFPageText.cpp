@@ -158,9 +158,11 @@ PDFPageText DrawablePage::text() const {
                                 QString::fromUtf8(page.textError.data()));
     }
     PDFPageText text{{}, page.tags.tags, {}};
+    const QRectF shown(0, 0, width(), double(page.bounds.y1) - page.bounds.y0);
     for (PDFAlternative alternative : page.tags.alternatives) {
         alternative.box.translate(-page.bounds.x0, -page.bounds.y0);
-        text.alternatives.push_back(std::move(alternative));
+        if (alternative.box.intersects(shown))
+            text.alternatives.push_back(std::move(alternative));
     }
     LineLetters letters(page);
     std::size_t characters = 0;

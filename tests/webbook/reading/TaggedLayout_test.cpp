@@ -174,7 +174,10 @@ TEST(TaggedLayout, SurvivesTreesWithoutAnEnd) {
 }
 
 TEST(TaggedLayout, ReportsWhatStandsForFigures) {
-    TaggedPage page({{"P", "Some text.", {20, 300}}, {"Figure", "label", {110, 210}}});
+    TaggedPage page({{"P", "Some text.", {20, 300}},
+                     {"Figure", "label", {110, 210}},
+                     {"Figure#2", "elsewhere", {20, 20}}});
+    page.addEntries("Figure#2", "/Alt(Nowhere)/A[<</O/Layout/BBox[500 200 580 260]>>]");
     page.addEntries("Figure", "/Alt(A red square)/A<</O/Layout/BBox[100 200 180 260]>>");
     const auto found = page.text().alternatives;
     ASSERT_EQ(found.size(), 1U);
