@@ -26,6 +26,15 @@ const GROUPS = { item: 'ul', row: 'table', note: 'aside' };
 /** Dots that lead to the numbers in contents and indexes. */
 const DOTS = /((?:\s*[.\u2026]){5,})/;
 
+/**
+ * What may be wider than the text, so that keys scroll it once it has the focus.
+ * @param {HTMLElement} element
+ */
+function scrollable(element) {
+  element.tabIndex = 0;
+  return element;
+}
+
 /** Makes elements of the text's blocks. */
 export class Elements {
   /**
@@ -55,7 +64,7 @@ export class Elements {
       const name = GROUPS[/** @type {keyof typeof GROUPS} */ (block.kind)];
       if (name && kind !== block.kind) {
         group = make(name, 'read-' + block.kind + 's');
-        elements.push(name === 'table' ? make('div', 'read-table', group) : group);
+        elements.push(name === 'table' ? scrollable(make('div', 'read-table', group)) : group);
         if (block.rtl) group.dir = 'rtl';
       }
       kind = block.kind;
@@ -79,7 +88,7 @@ export class Elements {
   #written(block) {
     const { kind, level, runs } = block;
     if (kind === 'heading') return make('h' + Math.min(6, level + 1), '', ...this.#runs(runs, 1));
-    if (kind === 'code') return make('pre', '', make('code', '', ...this.#runs(runs, 4)));
+    if (kind === 'code') return scrollable(make('pre', '', make('code', '', ...this.#runs(runs, 4))));
     if (kind === 'note') return make('p', 'read-note', ...this.#runs(runs));
     if (kind === 'row') return make('tr', '', ...cellsOf(runs).map((cell) => make('td', '', ...this.#runs(cell))));
     if (kind === 'closed') return make('p', 'read-closed', this.say('notOpen'));

@@ -288,11 +288,11 @@ export class Flow {
   }
 
   /**
-   * Focuses the next link or button: the browser would go to the first, which may be far above.
+   * Focuses the next link, button or scrolled part: the browser would go to the first, which may be far above.
    * @returns {boolean} whether there is one
    */
   focusNext() {
-    const controls = /** @type {HTMLElement[]} */ ([...this.article.querySelectorAll('a, button')]);
+    const controls = /** @type {HTMLElement[]} */ ([...this.article.querySelectorAll('a, button, [tabindex]')]);
     const next = controls.find((control) => control.getBoundingClientRect().top >= this.line);
     next?.focus();
     return next !== undefined;

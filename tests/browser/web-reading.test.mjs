@@ -8,12 +8,14 @@ import { typedPage } from './support/webbook.mjs';
 const reader = Reader.forTests();
 
 const COUNT = 300;
+/** Wider than a phone. */
+const CODE = `x = 1${' + 1'.repeat(20)}\n`;
 const words = (page) => `Of page ${page} `.repeat(60);
 /** A chapter for each page, which ends on the next one; every tenth page has a picture only. */
 const blocksOf = (page) => (page % 10 === 0 ? [] : [
   { kind: 'h1', page, text: [`Chapter ${page}`] }, { kind: 'item', page, text: ['1. ', ['first', 1]] },
   { kind: 'p', page, text: [words(page), ['to the harbour. ', 2, 250], ...(page % 10 === 9 ? [] : [page + 1, `Rest of ${page}.`])] },
-  { kind: 'row', page, text: ['a\tb'] }, { kind: 'note', page, text: ['1 A note'] }, { kind: 'code', page, text: [['x = 1\n', 4]] },
+  { kind: 'row', page, text: ['a\tb'] }, { kind: 'note', page, text: ['1 A note'] }, { kind: 'code', page, text: [[CODE, 4]] },
 ]);
 const text = Array.from({ length: COUNT }, (_, index) => blocksOf(index + 1));
 const description = {
@@ -147,7 +149,7 @@ for (const [name, options] of [['a desk', { view: DESK }], ['a phone', { view: P
       assert.deepEqual(await faults(book), [], value);
     }
     assert.equal(await book.page.getByRole('article').getByRole('heading', { name: 'Chapter 1', exact: true }).count(), 1);
-    assert.equal(await book.page.locator('.read-text pre').first().innerText(), 'x = 1\n');
+    assert.equal(await book.page.locator('.read-text pre').first().innerText(), CODE);
   });
 }
 
