@@ -2,6 +2,12 @@ import { make, part } from '../src/book/dom.js';
 import { Panel } from '../src/panels/panel.js';
 import { icon } from './icons.js';
 
+/**
+ * Pauses, in milliseconds, after which missing pages are requested when the connection is back: browsers notice it
+ * before requests succeed, and those that were under way may fail after it.
+ */
+const RETRIES = [0, 3000, 10000];
+
 /** The panel in which readers save the whole book for reading offline. */
 export class Keeping {
   /**
@@ -43,7 +49,7 @@ export class Keeping {
     layers.followers.push(() => this.#look());
     window.addEventListener('online', () => {
       this.alone = false;
-      this.images.retry();
+      for (const pause of RETRIES) setTimeout(() => this.images.retry(), pause);
     });
   }
 
