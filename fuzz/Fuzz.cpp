@@ -52,6 +52,24 @@ QString Fuzz::fileWith(const QByteArray& content) {
     return path;
 }
 
+namespace {
+
+// A structure tree for the marks 0 to 2 of the first page. Returns the catalog's entry.
+QByteArray addTags(PDFBuilder& pdf) {
+    const int root = pdf.reserveObject();
+    QByteArray elements;
+    for (const char* entries : {"/S /H2 /K [0]", "/S /P /K [1] /ActualText (a)",
+                                "/S /Figure /K 2 /Alt (a) /A << /BBox [0 0 50 50] >>"})
+        elements += PDFBuilder::reference(
+                        pdf.addObject("<< /P " + PDFBuilder::reference(root) + entries + " >>")) +
+                    ' ';
+    pdf.setObject(root,
+                  "<< /K [" + elements + "] /ParentTree << /Nums [0 [" + elements + "]] >> >>");
+    return " /StructTreeRoot " + PDFBuilder::reference(root);
+}
+
+} // namespace
+
 QByteArray Fuzz::documentWith(const QByteArray& content, const QByteArray& catalogEntries) {
     PDFBuilder pdf;
     const QByteArray colours = QByteArray("\xff\x80\x00", 3).repeated(64);
@@ -79,10 +97,11 @@ QByteArray Fuzz::documentWith(const QByteArray& content, const QByteArray& catal
                      "/Shading << /S << /ShadingType 2 /ColorSpace /DeviceRGB /Coords [0 0 100 0] "
                      "/Function << /FunctionType 2 /Domain [0 1] /C0 [1 0 0] /C1 [0 0 1] /N 1 >> "
                      ">> >>";
+    page.extraEntries = "/StructParents 0";
     pdf.addPage(page);
     for (int more = 0; more < 2; ++more)
         pdf.addPage(PDFBuilder::page({100, 100}));
-    pdf.addCatalogEntries(catalogEntries);
+    pdf.addCatalogEntries(catalogEntries + addTags(pdf));
     return pdf.build();
 }
 

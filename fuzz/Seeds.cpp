@@ -115,7 +115,9 @@ Seeds contents() {
          {"<< /Nums [0 << /S /R /P (A-) /St 7 >> 1 << /S /a >> 2 << /P (x) >>] >>",
           "<< /Kids [<< /Nums [0 << /S /D /St 2147483647 >>] >> << /Kids [null] >>] >>"})
         for (const char* content :
-             {"BT /F 12 Tf 1 0 0 1 9 50 Tm (Two words) Tj 0 -14 TD [(a) -300 (b)] TJ ET",
+             {"BT /F 12 Tf 1 0 0 1 9 50 Tm /P <</MCID 1>> BDC (b) Tj EMC /H <</MCID 0>> BDC (a) Tj "
+              "ET EMC /P <</MCID 2>> BDC /X Do /I Do EMC /Artifact BMC EMC EMC",
+              "BT /F 12 Tf 1 0 0 1 9 50 Tm (Two words) Tj 0 -14 TD [(a) -300 (b)] TJ ET",
               "q 0.5 g 10 10 m 50 90 l 90 10 60 60 20 20 c h W n 0 0 100 100 re f* Q 2 w [3 1] 0 d "
               "1 j 5 5 m 95 95 l S",
               "q /E gs /X Do Q /A gs q 9 0 0 30 8 12 cm /I Do /J Do /M Do /N Do Q /S sh",
