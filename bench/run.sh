@@ -4,6 +4,10 @@ set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build/release}
 
+for packages in tests/browser bench; do
+    (cd "$packages" && node "$OLDPWD/tests/browser/support/packages.mjs" npm)
+done
+
 bench/import.py
 bench/profile.py
 bench/sharpness.py
@@ -26,4 +30,5 @@ cmake --build "$build" --target folvero-bench-text >/dev/null
 bench/reading.py
 bench/search.mjs "$templates/Templates/float"
 bench/first-view.mjs "$build"
+bench/beside.mjs --build "$build"
 bench/catalogue.py
