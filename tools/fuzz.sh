@@ -3,8 +3,8 @@
 #
 #   tools/fuzz.sh [MINUTES [NAME ...]]
 #
-# The preset "release" must have been built. It continues from the corpora of earlier runs. A harness that ends with a finding is restarted until
-# its time is up; the inputs that caused it are kept in findings/.
+# The preset "release" must have been built. It continues from the corpora of earlier runs, and a run that was interrupted goes on where it was if
+# the harness is the same. A harness that ends with a finding is restarted until its time is up; the inputs that caused it are kept in findings/.
 #   FUZZ_BUILD   a build folder to use as it is; by default build/fuzz is built
 #   FUZZ_FOLDER  where corpora, findings and logs are kept, fuzz/runs in the build folder by default
 #   FUZZ_JOBS    how many harnesses run at a time, 1 by default
@@ -34,25 +34,37 @@ mkdir -p "$folder/findings" "$folder/logs"
 
 # Otherwise a harness that always fails at once would run for ever.
 most_findings=200
+# What an interrupted run loses at most, by the clock.
+slice_seconds=900
 
+# The log tells how far the harness is: of a finished one, "harness: none".
 run() {
-    local name=$1 log=$folder/logs/$1.log options left used=0 started=$SECONDS
+    local name=$1 log=$folder/logs/$1.log harness options left used=0 seconds=0 findings=0 earlier=0 started
+    harness=$(sha256sum "$build/fuzz/bin/fuzz-$name" | cut -d ' ' -f 1)
     mapfile -t options <"$build/fuzz/bin/$name.options"
     mkdir -p "$folder/corpus/$name"
-    : >"$log"
-    for ((i = 0; i < most_findings; i++)); do
-        # A harness counts the time by the clock; on a busy machine it is started again for the rest.
-        left=$((minutes * 60 - used))
-        ((left > 0)) || break
-        nice -n 19 "$build/fuzz/bin/fuzz-$name" "${options[@]}" -max_total_time="$left" \
+    if [ "$(awk '/^harness:/ { last = $2 } END { print last }' "$log" 2>/dev/null)" = "$harness" ]; then
+        used=$(awk '/^processor:/ { last = $2 } END { print last + 0 }' "$log")
+        seconds=$(awk '/^seconds:/ { last = $2 } END { print last + 0 }' "$log")
+        earlier=$used
+    else
+        echo "harness: $harness" >"$log"
+    fi
+    # A harness counts the time by the clock; on a busy machine it is started again for the rest.
+    while left=$((minutes * 60 - used)) && ((left > 0 && findings < most_findings)); do
+        started=$SECONDS
+        nice -n 19 "$build/fuzz/bin/fuzz-$name" "${options[@]}" -max_total_time=$((left < slice_seconds ? left : slice_seconds)) \
             -print_final_stats=1 -artifact_prefix="$folder/findings/$name-" \
-            "$folder/corpus/$name" "$build/fuzz/seeds/$name" >>"$log" 2>&1 || true
+            "$folder/corpus/$name" "$build/fuzz/seeds/$name" >>"$log" 2>&1 || findings=$((findings + 1))
         # Not in a subshell, which would have harnesses of its own; the second line is about them.
         times >"$folder/logs/$name.times"
-        used=$(awk 'NR == 2 { split($1 "m" $2, t, /[ms]+/); print int((t[1] + t[3]) * 60 + t[2] + t[4] + 0.5) }' "$folder/logs/$name.times")
+        used=$((earlier + $(awk 'NR == 2 { split($1 "m" $2, t, /[ms]+/); print int((t[1] + t[3]) * 60 + t[2] + t[4] + 0.5) }' \
+            "$folder/logs/$name.times")))
+        seconds=$((seconds + SECONDS - started))
+        { echo "seconds: $seconds"; echo "processor: $used"; } >>"$log"
     done
     rm -f "$folder/logs/$name.times"
-    { echo "seconds: $((SECONDS - started))"; echo "processor: $used"; } >>"$log"
+    echo "harness: none" >>"$log"
 }
 
 row() {
