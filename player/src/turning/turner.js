@@ -1,4 +1,5 @@
 import { Leaf } from './leaf.js';
+import { Pace } from './pace.js';
 import { painterFor } from './turnings.js';
 
 /** @typedef {import('../book/book.js').Book} Book */
@@ -8,10 +9,6 @@ import { painterFor } from './turnings.js';
 const QUICK_MS = 220;
 const HURRIED_MS = 110;
 const FADE_MS = 260;
-
-/** Frames further apart than this are late; with so many more late ones than others, the density is reduced. */
-const LATE_MS = 30;
-const MOST_LATE = 12;
 
 /** Device pixels of a page on a leaf; larger ones are drawn coarser while they turn. */
 const MOST_PIXELS = 9e6;
@@ -35,9 +32,7 @@ export class Turner {
     this.density = 1;
     /** Highest density at which this machine keeps up. */
     this.most = 2;
-    /** Recent late frames. */
-    this.late = 0;
-    this.lastTick = 0;
+    this.pace = new Pace();
     this.frame = 0;
     this.calm = matchMedia('(prefers-reduced-motion: reduce)');
     /** @type {Animation | null} */
@@ -296,7 +291,9 @@ export class Turner {
   }
 
   #requestFrame() {
-    if (!this.frame) this.frame = requestAnimationFrame((now) => this.#tick(now));
+    if (this.frame) return;
+    this.frame = requestAnimationFrame((now) => this.#tick(now));
+    this.pace.ask(performance.now());
   }
 
   /** @param {number} now */
@@ -304,7 +301,7 @@ export class Turner {
     this.frame = 0;
     const leaf = this.leaf;
     if (!leaf) return;
-    this.#notePace(now);
+    this.pace.frame(performance.now());
     const { motion } = leaf;
     if (motion) {
       if (!motion.start) motion.start = this.pending === null ? now : now - 1;
@@ -319,18 +316,9 @@ export class Turner {
     this.#draw();
   }
 
-  /** @param {number} now */
-  #notePace(now) {
-    const passed = now - this.lastTick;
-    this.lastTick = now;
-    // Longer pauses do not count: nothing was animated, or the machine was busy otherwise.
-    if (passed < 200) this.late = Math.max(0, this.late + (passed > LATE_MS ? 1 : -1));
-  }
-
   /** Reduces the density where frames come late. */
   #keepPace() {
-    if (this.late < MOST_LATE || this.density <= 1) return;
-    this.late = 0;
+    if (this.density <= 1 || !this.pace.isLost()) return;
     this.most = Math.max(1, this.density - 0.5);
     this.resized();
     this.book.drawn.clear();
