@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <turbojpeg.h>
 
 namespace {
@@ -20,19 +21,32 @@ int blockEdge(int offset, int block) {
     return std::abs(edge - offset) <= 1 ? edge : -1;
 }
 
+using Handle = std::unique_ptr<void, int (*)(tjhandle)>;
+
+struct Header {
+    int width = 0;
+    int height = 0;
+    int sampling = 0; // TJSAMP
+    int space = 0;    // TJCS
+};
+
+// None of a file that can't be read.
+std::optional<Header> headerOf(JPEGFile::Bytes file, const Handle& handle) {
+    Header header;
+    const auto length = static_cast<unsigned long>(file.size());
+    if (!handle || tjDecompressHeader3(handle.get(), file.data(), length, &header.width,
+                                       &header.height, &header.sampling, &header.space) != 0)
+        return std::nullopt;
+    return header;
+}
+
 } // namespace
 
 int JPEGFile::plainComponents(Bytes file) {
-    const std::unique_ptr<void, int (*)(tjhandle)> decoder(tjInitDecompress(), tjDestroy);
-    int width = 0;
-    int height = 0;
-    int sampling = 0;
-    int space = 0;
-    const auto length = static_cast<unsigned long>(file.size());
-    if (!decoder || tjDecompressHeader3(decoder.get(), file.data(), length, &width, &height,
-                                        &sampling, &space) != 0)
+    const auto header = headerOf(file, Handle(tjInitDecompress(), tjDestroy));
+    if (!header)
         return 0;
-    return space == TJCS_GRAY ? 1 : space == TJCS_YCbCr ? 3 : 0;
+    return header->space == TJCS_GRAY ? 1 : header->space == TJCS_YCbCr ? 3 : 0;
 }
 
 QByteArray JPEGFile::withoutMetadata(Bytes file) {
@@ -57,15 +71,11 @@ QByteArray JPEGFile::withoutMetadata(Bytes file) {
 }
 
 QByteArray JPEGFile::turned(Bytes file, Turn turn, const QRect& part) {
-    const std::unique_ptr<void, int (*)(tjhandle)> transformer(tjInitTransform(), tjDestroy);
-    int width = 0;
-    int height = 0;
-    int sampling = 0;
-    int space = 0;
-    const auto length = static_cast<unsigned long>(file.size());
-    if (!transformer || tjDecompressHeader3(transformer.get(), file.data(), length, &width, &height,
-                                            &sampling, &space) != 0)
+    const Handle transformer(tjInitTransform(), tjDestroy);
+    const auto header = headerOf(file, transformer);
+    if (!header)
         return {};
+    const auto& [width, height, sampling, space] = *header;
     const bool swapsSides = turn == Turn::transpose || turn == Turn::transverse ||
                             turn == Turn::clockwise || turn == Turn::anticlockwise;
     const QSize block(tjMCUWidth[sampling], tjMCUHeight[sampling]);
@@ -83,7 +93,8 @@ QByteArray JPEGFile::turned(Bytes file, Turn turn, const QRect& part) {
     unsigned char* output = nullptr;
     unsigned long size = 0;
     const bool isDone =
-        tjTransform(transformer.get(), file.data(), length, 1, &output, &size, &change, 0) == 0;
+        tjTransform(transformer.get(), file.data(), static_cast<unsigned long>(file.size()), 1,
+                    &output, &size, &change, 0) == 0;
     const std::unique_ptr<unsigned char, void (*)(unsigned char*)> owner(output, tjFree);
     return isDone ? QByteArray(reinterpret_cast<const char*>(output), qsizetype(size))
                   : QByteArray();

@@ -83,6 +83,7 @@ void PDFMerger::openSources() {
         else
             iPictures[number] = PicturePage::ownSize(source.path);
     }
+    iUsualSize = usualSize();
 }
 
 void PDFMerger::addPages() {
@@ -99,15 +100,14 @@ void PDFMerger::add(const MergePlan::Page& page) {
             addOfDocument(*document->second, index, page.rotation);
         return;
     }
-    const QSizeF usual = usualSize();
     if (page.source < 0) {
         QPDFObjectHandle blank = QPDFObjectHandle::parse("<< /Type /Page /Resources << >> >>");
         blank.replaceKey("/MediaBox", QPDFObjectHandle::newArray(QPDFObjectHandle::Rectangle(
-                                          0, 0, usual.width(), usual.height())));
+                                          0, 0, iUsualSize.width(), iUsualSize.height())));
         addObject(iMerged.makeIndirectObject(blank), page.rotation, nullptr, 0);
         return;
     }
-    const QSizeF size = iDocuments.empty() ? iPictures[page.source] : usual;
+    const QSizeF size = iDocuments.empty() ? iPictures[page.source] : iUsualSize;
     const QString& path = iPlan.sources[std::size_t(page.source)].path;
     addObject(aboutFile(path, [&] { return PicturePage::make(iMerged, path, size); }),
               page.rotation, nullptr, 0);

@@ -70,5 +70,6 @@ private:
     QPDF iMerged;
     std::map<int, std::unique_ptr<Document>> iDocuments; // by the number of the source
     std::map<int, QSizeF> iPictures;                     // own sizes, in the same way
+    QSizeF iUsualSize; // of pictures beside documents, and of blank pages
     std::vector<Page> iPages;
 };
