@@ -1,5 +1,6 @@
 import { make, part } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
+import { pause } from './idle.js';
 
 /** @typedef {import('./pagetext.js').PageText} PageText */
 /** @typedef {import('./pagetexts.js').PageTexts} PageTexts */
@@ -12,8 +13,13 @@ import { fullLabel } from '../src/book/labels.js';
  * @property {HTMLElement} over as large as the page
  * @property {HTMLElement} box as large as the page's picture; empty until its text is there
  * @property {number} position 0 for no page
+ * @property {number} opened how many pages it has had
+ * @property {number} height of the page's picture, in CSS pixels
  * @property {PageText | null} text
  */
+
+/** For words over a page where the browser is never idle, milliseconds: the leaves of the next turns come first. */
+const LONGEST_WAIT = 1000;
 
 /** Keeps layers over the standing pages: they come with a page's text and go with the page. */
 export class Layers {
@@ -29,7 +35,10 @@ export class Layers {
     this.say = say;
     this.texts = texts;
     this.facts = texts.facts;
-    /** @type {((face: Face) => void)[]} what fills the box of a page with text */
+    /**
+     * What fills the box of a page with text, one after the other; "rest" resolves when there is time for more.
+     * @type {((face: Face, rest: () => Promise<void>) => void | Promise<void>)[]}
+     */
     this.fillers = [];
     /** @type {(() => void)[]} called whenever pages stand */
     this.followers = [];
@@ -52,7 +61,7 @@ export class Layers {
       book.element.append(over);
       // What stands over a page says all that there is to say about it.
       part(book.element, '.page.' + side).setAttribute('aria-hidden', 'true');
-      return { side, over, box, position: 0, text: null };
+      return { side, over, box, position: 0, opened: 0, height: 0, text: null };
     });
     const { onChange } = zoom;
     zoom.onChange = () => {
@@ -87,9 +96,11 @@ export class Layers {
    */
   #open(face, position) {
     face.position = position;
+    face.opened += 1;
     face.text = null;
     face.box.replaceChildren();
     face.over.hidden = position === 0;
+    face.over.ariaBusy = position ? 'true' : null;
     if (!position) return;
     const label = this.say('page', fullLabel(this.config, position));
     const closed = this.facts.isOpen(position) ? '' : '. ' + this.say('notOpen');
@@ -103,25 +114,43 @@ export class Layers {
    * @param {number} position
    */
   async #fill(face, position) {
+    const { opened } = face;
     const text = await this.texts.get(position);
-    if (!text || face.position !== position) return;
+    await this.#rest();
+    if (face.opened !== opened) return;
+    if (!text) {
+      face.over.ariaBusy = null;
+      return;
+    }
     face.text = text;
     // Words and links inside a picture would be none for readers who hear the page.
     if (text.lines.length + text.links.length > 0) face.over.setAttribute('role', 'group');
     this.#place(face);
-    for (const fill of this.fillers) fill(face);
+    for (const fill of this.fillers) {
+      await fill(face, () => this.#rest());
+      if (face.opened !== opened) return;
+    }
+    face.over.ariaBusy = null;
+  }
+
+  /** Resolves when no leaf is in the air and the browser is idle: a page's words take longer than a frame. */
+  async #rest() {
+    do await pause(LONGEST_WAIT);
+    while (this.root.dataset.air === 'yes');
   }
 
   /**
    * The box lies exactly over the picture, which may leave paper around it.
    * @param {Face} face
    */
-  #place({ position, text, box }) {
+  #place(face) {
+    const { position, text, box } = face;
     const { pageWidth, pageHeight } = this.book.layout;
     const { image, state } = this.book.images.get(position);
     const width = state === 'ready' ? image.naturalWidth : text?.width ?? pageWidth;
     const height = state === 'ready' ? image.naturalHeight : text?.height ?? pageHeight;
     const place = this.book.placeOf(width, height);
+    face.height = place.height;
     box.style.cssText = 'left:' + place.x + 'px;top:' + place.y + 'px;width:' + place.width
       + 'px;height:' + place.height + 'px;--across:' + place.width / (text?.width ?? 1)
       + ';--down:' + place.height / (text?.height ?? 1);

@@ -148,8 +148,8 @@ function addReading(player, layers, room) {
     /** @type {typeof import('./readingpart.js').makeReading} */ (make)(player, layers, files, room, button)));
   commands.reading = later(player, load, (view) => view.toggle());
   if (button.hidden) return;
-  layers.fillers.push(({ text, box }) => {
-    if (!text || text.lines.length < FEWEST_LINES || text.lineHeight * box.clientHeight >= SMALL * text.height) return;
+  layers.fillers.push(({ text, height }) => {
+    if (!text || text.lines.length < FEWEST_LINES || text.lineHeight * height >= SMALL * text.height) return;
     load().then((view) => view.offer(), () => {});
   });
 }

@@ -29,6 +29,9 @@ function widthOf(text) {
   return width;
 }
 
+/** Words that are added at a time, since the browser lays them out before its next frame. */
+const AT_A_TIME = 120;
+
 /** What assistive technology takes parts of a page for, by their kinds; anything else is a paragraph. */
 const ROLES = new Map([['item', 'listitem'], ['note', 'note'], ['code', 'code'], ['row', 'row'], ['figure', 'figure']]);
 
@@ -40,15 +43,27 @@ const GROUPS = new Map([['item', 'list'], ['row', 'table']]);
  * size in tenths of a point and is scaled as a whole. Its elements are headings, paragraphs, lists and tables without a
  * place of their own, in which the lines lie.
  * @param {Face} face whose text is there
+ * @param {() => Promise<void>} rest resolves when there is time for more
  */
-export function addTextLayer({ box, text }) {
+export async function addTextLayer({ box, text }, rest) {
   if (!text || text.lines.length === 0) return;
   const layer = make('div', 'text-layer');
   /** @type {HTMLElement} */
   let group = layer;
   /** @type {string[]} headings that the part is below */
   const above = [];
+  layer.style.width = text.width + 'px';
+  layer.style.height = text.height + 'px';
+  box.append(layer);
+  let added = 0;
   for (const { kind, lines } of text.parts) {
+    if (added > AT_A_TIME) {
+      await rest();
+      // The reader may have left the page.
+      if (!layer.isConnected) return;
+      added = 0;
+    }
+    added += lines.reduce((sum, { words }) => sum + words.length, 0);
     const role = GROUPS.get(kind) ?? '';
     if (!role) group = layer;
     else if (group.getAttribute('role') !== role) {
@@ -64,9 +79,6 @@ export function addTextLayer({ box, text }) {
     }
     group.append(element);
   }
-  layer.style.width = text.width + 'px';
-  layer.style.height = text.height + 'px';
-  box.append(layer);
 }
 
 /**

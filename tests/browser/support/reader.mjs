@@ -87,6 +87,7 @@ export class Reader {
     await before(page);
     await page.goto(address);
     await page.waitForSelector('#folvero:is([data-state="ready"], [data-state="error"])', { timeout: 20000 });
+    await opened.waitForWords();
     return opened;
   }
 }
@@ -101,6 +102,11 @@ class OpenBook {
     page.on('request', (request) => this.requests.push(request.url()));
   }
 
+  /** Waits until the words of the pages in view are there, which are added when the browser is idle. */
+  async waitForWords() {
+    await this.page.waitForFunction(() => !document.querySelector('.over[aria-busy="true"]'));
+  }
+
   /** Page numbers in view once nothing moves any more. */
   async pages() {
     await this.page.waitForFunction(() => !window.folvero.turning);
@@ -110,6 +116,7 @@ class OpenBook {
   async waitForPages(...pages) {
     await this.page.waitForFunction(
       (wanted) => !window.folvero.turning && String(window.folvero.pages) === wanted, String(pages));
+    await this.waitForWords();
   }
 
   /**
