@@ -8,6 +8,8 @@ export class FaceCache {
     this.kept = new Map();
     /** @type {HTMLCanvasElement[]} */
     this.spare = [];
+    /** @type {WeakMap<HTMLCanvasElement, CanvasPattern>} */
+    this.patterns = new WeakMap();
   }
 
   /**
@@ -23,10 +25,24 @@ export class FaceCache {
       if (this.kept.size >= MOST_FACES) this.#discard([...this.kept.keys()][0]);
       face = { canvas: this.spare.pop() ?? document.createElement('canvas'), page };
       draw(face.canvas);
+      this.patternOf(face.canvas);
     }
     this.kept.delete(key);
     this.kept.set(key, face);
     return face.canvas;
+  }
+
+  /**
+   * A face as a fill style. Browsers put off what is drawn on a canvas until it is needed: with the pattern that happens
+   * before a turn, not in its first frame.
+   * @param {HTMLCanvasElement} face
+   * @returns {CanvasPattern}
+   */
+  patternOf(face) {
+    const context = /** @type {CanvasRenderingContext2D} */ (face.getContext('2d'));
+    const pattern = this.patterns.get(face) ?? /** @type {CanvasPattern} */ (context.createPattern(face, 'no-repeat'));
+    this.patterns.set(face, pattern);
+    return pattern;
   }
 
   /** @param {number} page whose picture has changed */
@@ -44,7 +60,11 @@ export class FaceCache {
   /** @param {string} key */
   #discard(key) {
     const face = this.kept.get(key);
-    if (face) this.spare.push(face.canvas);
+    if (face) {
+      this.spare.push(face.canvas);
+      // Otherwise the canvas would be copied for it when it is drawn again.
+      this.patterns.delete(face.canvas);
+    }
     this.kept.delete(key);
   }
 }

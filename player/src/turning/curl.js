@@ -73,7 +73,7 @@ export class CurlPainter {
 function drawPart(context, leaf, face, flipped, part) {
   if (part.length < 3) return;
   const across = leaf.width / face.width;
-  const pattern = leaf.patternOf(context, face);
+  const pattern = leaf.book.drawn.patternOf(face);
   pattern.setTransform(new DOMMatrix(
     [flipped ? -across : across, 0, 0, leaf.height / face.height, flipped ? leaf.width : 0, 0]));
   context.fillStyle = pattern;

@@ -53,8 +53,6 @@ export class Leaf {
     this.slide = 0;
     /** @type {Motion | null} none while a pointer holds the leaf */
     this.motion = null;
-    /** @type {Map<HTMLCanvasElement, CanvasPattern>} */
-    this.patterns = new Map();
     const upper = book.views.at(this.reversed ? to : from);
     const lower = book.views.at(this.reversed ? from : to);
     const other = this.mirrored ? 'right' : 'left';
@@ -70,7 +68,6 @@ export class Leaf {
    * @param {number} density device pixels per CSS pixel
    */
   drawFaces(density) {
-    this.patterns.clear();
     if (this.whole) {
       this.front = this.book.viewFace(this.pages, density);
       this.back = this.front;
@@ -78,21 +75,6 @@ export class Leaf {
     }
     const other = this.mirrored ? 'right' : 'left';
     Object.assign(this, this.book.faces(this.pages[this.side], this.pages[other], this.side, density));
-  }
-
-  /**
-   * A face as a fill style.
-   * @param {CanvasRenderingContext2D} context
-   * @param {HTMLCanvasElement} face
-   * @returns {CanvasPattern}
-   */
-  patternOf(context, face) {
-    let pattern = this.patterns.get(face);
-    if (!pattern) {
-      pattern = /** @type {CanvasPattern} */ (context.createPattern(face, 'no-repeat'));
-      this.patterns.set(face, pattern);
-    }
-    return pattern;
   }
 
   /** Offset of the book from the middle at this moment, in CSS pixels. */

@@ -7,10 +7,14 @@ const MOST_OF_FRAME = 4;
 /** With so much more lateness than frames in time, a machine does not keep up. */
 const MOST_LATE = 12;
 
+/** Lateness of late frames, on average, from which on the machine is far from keeping up. */
+const FAR_BEHIND = 3;
+
 /** Notes whether frames come in time. */
 export class Pace {
   #asked = 0;
   #late = 0;
+  #frames = 0;
 
   /** @param {number} now */
   ask(now) {
@@ -21,12 +25,18 @@ export class Pace {
   frame(now) {
     const late = Math.min(MOST_OF_FRAME, Math.floor((now - this.#asked) / LATE_MS));
     this.#late = Math.max(0, this.#late + (late || -1));
+    if (late) this.#frames += 1;
   }
 
-  /** Whether the machine does not keep up; once true, it is noted anew. */
-  isLost() {
-    if (this.#late < MOST_LATE) return false;
+  /**
+   * By how much the density is to be lower, 0 where the machine keeps up. What was noted begins anew after that.
+   * @returns {number}
+   */
+  lost() {
+    if (this.#late < MOST_LATE) return 0;
+    const isFar = this.#late >= FAR_BEHIND * this.#frames;
     this.#late = 0;
-    return true;
+    this.#frames = 0;
+    return isFar ? 1 : 0.5;
   }
 }

@@ -318,8 +318,9 @@ export class Turner {
 
   /** Reduces the density where frames come late. */
   #keepPace() {
-    if (this.density <= 1 || !this.pace.isLost()) return;
-    this.most = Math.max(1, this.density - 0.5);
+    const lost = this.density > 1 ? this.pace.lost() : 0;
+    if (!lost) return;
+    this.most = Math.max(1, this.density - lost);
     this.resized();
     this.book.drawn.clear();
   }

@@ -10,7 +10,7 @@ function framesOf(times) {
     pace.ask(now);
     now += times[i % times.length];
     pace.frame(now);
-    if (pace.isLost()) return i;
+    if (pace.lost()) return i;
     now += 400; // until the next is asked for: a finger rests, or nothing moves
   }
   return Infinity;
