@@ -2,7 +2,9 @@
 
 /* global flip, br */
 
-const dragAcross = async (page, forward, [left, right, height]) => {
+/** From margin to margin: over words a drag selects text. */
+const dragAcross = async (page, forward) => {
+  const [left, right, height] = [80, 1200, 640];
   const [from, to] = forward ? [right, left] : [left, right];
   await page.mouse.move(from, height);
   await page.mouse.down();
@@ -27,7 +29,7 @@ export const VIEWERS = [
     turning: () => Boolean(window.folvero?.turning),
     at: () => String(window.folvero.pages),
     width: () => document.querySelector('.page:not([hidden])').getBoundingClientRect().width,
-    drag: (page, forward) => dragAcross(page, forward, [180, 1100, 640]),
+    drag: (page, forward) => dragAcross(page, forward),
   },
   {
     name: 'page-flip', where: 'page-flip.html', content: () => '#book',
@@ -36,7 +38,7 @@ export const VIEWERS = [
     turning: () => typeof flip === 'object' && flip.getState() !== 'read',
     at: () => String(flip.getCurrentPageIndex()),
     width: () => document.querySelector('canvas').getBoundingClientRect().width,
-    drag: (page, forward) => dragAcross(page, forward, [180, 1100, 640]),
+    drag: (page, forward) => dragAcross(page, forward),
   },
   {
     name: 'BookReader', where: 'bookreader.html', content: (page) => `.BRpagecontainer.pagediv${page - 1}`,
