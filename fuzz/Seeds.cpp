@@ -1,5 +1,7 @@
 #include "Fuzz.h"
 #include "pdf/PDFSerialization.h"
+#include "project/ProjectFile.h"
+#include "project/ProjectJSON.h"
 #include "support/TemplateLibrary.h"
 
 #include <QBuffer>
@@ -190,6 +192,21 @@ Seeds lists() {
         "true}\n\n{\"pdf\": 1}\n[]\n{\"pdf\": \"b.pdf\", \"id\": \"../a\", \"set\": [\"x=1\"]}"};
 }
 
+// The first byte says whether the rest is a file or its description only.
+Seeds projects() {
+    Project project;
+    project.documents = {{"/a/b.pdf", "b.pdf", 3, "ab"}, {"/a/c.jpg", "../c.jpg", -1, {}}};
+    project.pages = {{1, 0, 0}, {}, {0, -1, 270}};
+    project.values = {{"title", "A & B", false, {}}, {"logoFile", "/l", true, {"/l", "l", 1, {}}}};
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("a.folvero");
+    Message error;
+    ProjectFile::write(project, "JPEG", file, &error);
+    const QByteArray description = ProjectJSON::written(project);
+    return {'0' + TestFiles::read(file), '1' + description,
+            '1' + QByteArray(description).replace("\"format\": 1", "\"format\": 2")};
+}
+
 Seeds queries() {
     return {"well-known har* \"in the order\"\nA well-known Harbour in the order",
             "\xe6\x9d\xb1\xe4\xba\xac AND (a OR b) NEAR/3 -c:d ^e\n\xe6\x9d\xb1\xe4\xba\xac",
@@ -215,6 +232,7 @@ int main(int argc, char** argv) {
                                                   {"UserSettings", userSettings()},
                                                   {"BookFiles", files()},
                                                   {"LibraryList", lists()},
+                                                  {"ProjectFile", projects()},
                                                   {"SearchQuery", queries()}};
     if (argc != 3)
         return 2;

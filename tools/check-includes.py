@@ -22,7 +22,7 @@ pages
 output
 webbook/reading
 webbook
-library
+library project
 library/search library/catalogue
 app console
 ui cli server worker

@@ -995,6 +995,37 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>Project</name>
+    <message>
+        <source>no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>is no project</source>
+        <translation>ist kein Projekt</translation>
+    </message>
+    <message>
+        <source>%1 was not found; it was looked for at: %2</source>
+        <translation>%1 wurde nicht gefunden; gesucht wurde hier: %2</translation>
+    </message>
+    <message>
+        <source>was changed after the project was saved</source>
+        <translation>wurde geändert, nachdem das Projekt gespeichert wurde</translation>
+    </message>
+    <message>
+        <source>is damaged at “%1”</source>
+        <translation>ist bei „%1“ beschädigt</translation>
+    </message>
+    <message>
+        <source>was saved by a newer version of Folvero (format %1; this version reads format %2)</source>
+        <translation>wurde von einer neueren Version von Folvero gespeichert (Format %1; diese Version liest Format %2)</translation>
+    </message>
+    <message>
+        <source>is damaged</source>
+        <translation>ist beschädigt</translation>
+    </message>
+</context>
+<context>
     <name>PropertyHistory</name>
     <message>
         <source>“%1”</source>
@@ -1950,6 +1981,25 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>No document element found</source>
         <translation>Kein Wurzelelement gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>ZipReader</name>
+    <message>
+        <source>is damaged</source>
+        <translation>ist beschädigt</translation>
+    </message>
+    <message>
+        <source>has far too much in it</source>
+        <translation>enthält viel zu viel</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>ist keine Datei</translation>
+    </message>
+    <message>
+        <source>is no ZIP archive, or not all of one</source>
+        <translation>ist kein ZIP-Archiv oder nur ein Teil davon</translation>
     </message>
 </context>
 <context>

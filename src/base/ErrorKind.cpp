@@ -34,6 +34,7 @@ constexpr std::array names{
     std::pair{ErrorKind::searchIndex, "SearchIndexFailed"},
     std::pair{ErrorKind::preview, "Publish"},
     std::pair{ErrorKind::previewFolder, "PreviewFolder"},
+    std::pair{ErrorKind::project, "ProjectFailed"},
     std::pair{ErrorKind::list, "ListFailed"},
 };
 

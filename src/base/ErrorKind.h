@@ -39,6 +39,8 @@ enum class ErrorKind {
     preview,
     previewFolder,
 
+    project, // damaged, or of a newer version
+
     list, // of a library's books
 };
 

@@ -2,9 +2,12 @@
 
 #include "base/PlatformException.h"
 #include "cli/InputFile.h"
+#include "cli/ProjectInfo.h"
 #include "console/Terminal.h"
 #include "pdf/AnnotationBudget.h"
+#include "project/ProjectFile.h"
 
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -145,6 +148,10 @@ void printOutline(const std::vector<PDFOutlineNode>& nodes, int depth) {
 } // namespace
 
 void runInfo(const QString& pdf, const QByteArray& password, bool json) {
+    if (ProjectFile::isProject(pdf) && QFileInfo(pdf).isFile()) {
+        runProjectInfo(pdf, json);
+        return;
+    }
     const auto document = InputFile::open(pdf, password);
     if (json) {
         printAsJson(*document);

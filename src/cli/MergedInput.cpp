@@ -4,18 +4,13 @@
 #include "cli/PublishOptions.h"
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
-#include "pdf/PDFFile.h"
-#include "pdf/PDFReader.h"
-#include "system/FileState.h"
 #include "system/Files.h"
-#include "system/TemporaryFolders.h"
 
 #include <QCollator>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <algorithm>
-#include <vector>
 
 namespace {
 
@@ -47,13 +42,6 @@ QStringList filesOf(const QString& folder) {
     return files;
 }
 
-std::vector<FileState> statesOf(const QStringList& files) {
-    std::vector<FileState> states;
-    for (const QString& file : files)
-        states.push_back(FileState::of(file));
-    return states;
-}
-
 } // namespace
 
 QStringList MergedInput::files(const PublishOptions& options) {
@@ -61,51 +49,20 @@ QStringList MergedInput::files(const PublishOptions& options) {
     for (const QString& input : options.inputs)
         files << (QFileInfo(input).isDir() ? filesOf(input) : QStringList(input));
     const QString& first = options.inputs.front();
-    const bool isOneDocument = files.size() == 1 && !isPicture(first) && files.front() == first;
+    const bool isOneDocument = files.size() == 1 && !isPicture(first) && files.front() == first &&
+                               options.pageList.empty();
     return isOneDocument ? QStringList() : files;
 }
 
-std::unique_ptr<MergedInput> MergedInput::of(const PublishOptions& options) {
+std::unique_ptr<MergedDocument> MergedInput::of(const PublishOptions& options) {
     const QStringList all = files(options);
     if (all.isEmpty())
         return nullptr;
     try {
-        return std::make_unique<MergedInput>(all, options.password.password(),
-                                             Files::lastPathComponent(options.pdf));
+        return std::make_unique<MergedDocument>(all, options.pageList, options.password.password(),
+                                                Files::lastPathComponent(options.pdf),
+                                                Interrupt::wasRequested);
     } catch (const PlatformException& failure) {
         throw CommandError(failure);
     }
-}
-
-MergedInput::MergedInput(const QStringList& files, const QByteArray& password, const QString& name)
-    : iFolder(TemporaryFolders::make(QStringLiteral("Folvero"))),
-      iPath(Files::join(iFolder, QFileInfo(name).completeBaseName() + QStringLiteral(".pdf"))) {
-    try {
-        merge(files, password);
-    } catch (...) {
-        TemporaryFolders::remove(iFolder);
-        throw;
-    }
-}
-
-MergedInput::~MergedInput() {
-    TemporaryFolders::remove(iFolder);
-}
-
-void MergedInput::merge(const QStringList& files, const QByteArray& password) const {
-    MergePlan plan;
-    for (const QString& file : files) {
-        PDFFile::check(file);
-        plan.pages.push_back({int(plan.sources.size())});
-        plan.sources.push_back({file, password});
-    }
-    const auto before = statesOf(files);
-    PDFReader::merge(plan, iPath, Interrupt::wasRequested);
-    const auto after = statesOf(files);
-    const auto changed = std::mismatch(before.begin(), before.end(), after.begin()).first;
-    if (changed != before.end())
-        PDFFile::failToOpen(
-            files[changed - before.begin()],
-            Message::translate("PDFDocument", "was changed while it was read").temporary(),
-            ErrorKind::pdfChanged);
 }

@@ -74,7 +74,7 @@ void addPaths(CLI::App& command, PublishOptions& options) {
                     options.pdf = QDir::cleanPath(QFileInfo(options.pdf).absoluteFilePath());
             },
             "The PDF file; or several PDFs, pictures and folders of them, whose pages\n"
-            "make one book in this order")
+            "make one book in this order; or a project")
         ->type_name("")
         ->required();
     *folder = addPath(command, "FOLDER", options.outputFolder,
@@ -193,6 +193,12 @@ void PublishArguments::addTo(CLI::App& command, PublishOptions& options) {
     addBookOptions(command, options);
     addPassword(command, options.password);
     addRunOptions(command, options);
+    command.parse_complete_callback([&command, &options] {
+        for (const CLI::Option* option : command.get_options()) {
+            if (option->count() > 0)
+                options.given << QString::fromStdString(option->get_name());
+        }
+    });
 }
 
 void PublishArguments::addPassword(CLI::App& command, PasswordOptions& options) {

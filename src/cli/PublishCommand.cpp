@@ -7,6 +7,7 @@
 #include "cli/MergedInput.h"
 #include "cli/OutputFolder.h"
 #include "cli/PageSelection.h"
+#include "cli/ProjectInput.h"
 #include "cli/PublishReport.h"
 #include "cli/PublishStamp.h"
 #include "cli/PublishTiming.h"
@@ -70,7 +71,7 @@ QString bookName(const PublishOptions& options) {
 
 // What counts of a document is the file as it was when the stamp was compared with it.
 OpenedPDF openDocument(const PublishOptions& options, const PublishStamp& stamp,
-                       const MergedInput* merged) {
+                       const MergedDocument* merged) {
     OpenedPDF opened = InputFile::openForDrawing(
         merged ? merged->path() : options.pdf, merged ? QByteArray() : options.password.password(),
         options.jobs);
@@ -385,7 +386,9 @@ MadeBook makeReported(const PublishOptions& options) {
     if (!options.reportFile.isNull())
         Interrupt::watch();
     try {
-        MadeBook made = makeBook(options, timing);
+        const PublishOptions whole = ProjectInput::resolved(options);
+        report.describe(whole);
+        MadeBook made = makeBook(whole, timing);
         made.reportError = report.writeMade(made, timing);
         return made;
     } catch (const std::exception& failure) {
@@ -438,7 +441,8 @@ void watchAndRepublish(const PublishOptions& options, FileWatcher& files) {
 } // namespace
 
 void runPublish(const PublishOptions& options) {
-    FileWatcher files(QStringList(options.inputs) << options.settingsFile);
+    FileWatcher files(options.watch ? ProjectInput::filesOf(options) << options.settingsFile
+                                    : QStringList());
     files.takeSnapshot();
     const MadeBook made = makeReported(options);
     Terminal::print(made.file);

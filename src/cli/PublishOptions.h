@@ -2,11 +2,14 @@
 
 #include "cli/PasswordOptions.h"
 #include "drawing/SpareWorkers.h"
+#include "pdf/MergePlan.h"
 #include "pdf/SplitPDF.h"
+#include "project/Project.h"
 #include "webbook/BookFacts.h"
 
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 // The options of "folvero publish".
 struct PublishOptions {
@@ -14,6 +17,8 @@ struct PublishOptions {
     // pictures, is named after the first one.
     QStringList inputs;
     QString pdf; // the first of them
+    // A project's: sources are inputs; empty for all pages of all inputs.
+    std::vector<MergePlan::Page> pageList;
     PasswordOptions password;
     QString outputFolder;
     enum class Type { html, app, web, scorm };
@@ -34,6 +39,7 @@ struct PublishOptions {
     bool bookmarks = false;
     QString templateName = QStringLiteral("float");
     QString styleName;
+    std::vector<Project::Value> values; // a project's
     QString settingsFile;
     QStringList assignments; // "key=value"
     QString timingFile;
@@ -42,4 +48,6 @@ struct PublishOptions {
     bool quiet = false;
     bool force = false; // replace files that do not belong to a book
     bool watch = false; // republish whenever the PDF or the settings file changes
+    // Names of the options on the command line, such as "--type": a project has no say in them.
+    QStringList given;
 };

@@ -85,6 +85,10 @@ PublishReport::PublishReport(const PublishOptions& options) : iPath(options.repo
         return;
     if (!isFree(iPath))
         throw CommandError(QStringLiteral("--report: %1").arg(notFree(iPath)), ExitCode::usage);
+    describe(options);
+}
+
+void PublishReport::describe(const PublishOptions& options) {
     iContent = {{programKey, programName},
                 {QStringLiteral("version"), Bundle::version()},
                 {QStringLiteral("document"), absolute(options.pdf)},

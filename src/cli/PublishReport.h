@@ -38,6 +38,9 @@ public:
     // Throws CommandError when the file exists and is not such a report, which must not be lost.
     explicit PublishReport(const PublishOptions& options);
 
+    // Takes over what a project says beside the command line.
+    void describe(const PublishOptions& options);
+
     // Replace the report of an earlier run. Return why that failed, or a null message.
     Message writeMade(const MadeBook& book, const PublishTiming& timing);
     Message writeFailed(const CommandError& error, const PublishTiming& timing);

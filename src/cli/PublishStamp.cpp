@@ -42,10 +42,13 @@ private:
 };
 
 // Of a document that is merged from files; none of them is recognised without reading it.
-BookStamp::Document documentOf(const QStringList& merged) {
+BookStamp::Document documentOf(const QStringList& merged,
+                               const std::vector<MergePlan::Page>& pages) {
     Digest digest;
     for (const QString& path : merged)
         digest << Files::pathExtension(path) << fileContents(path);
+    for (const MergePlan::Page& page : pages)
+        digest << page.source << page.index << page.rotation;
     BookStamp::Document document;
     document.digest = digest.result();
     return document;
@@ -115,8 +118,8 @@ PublishStamp::PublishStamp(const PublishOptions& options, const FlashTemplate& t
     if (options.type != Type::app && options.type != Type::scorm && !options.singleFile)
         iFolder = QFileInfo(iPage).path();
     const QStringList merged = MergedInput::files(options);
-    iWanted.document =
-        merged.isEmpty() ? BookStamp::documentAt(options.pdf, iEarlier) : documentOf(merged);
+    iWanted.document = merged.isEmpty() ? BookStamp::documentAt(options.pdf, iEarlier)
+                                        : documentOf(merged, options.pageList);
     if (iWanted.document.digest.isEmpty())
         return;
     iWanted.pages = digestOfPages(options, tmpl, iWanted.document.digest);

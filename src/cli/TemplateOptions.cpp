@@ -2,6 +2,7 @@
 
 #include "cli/PublishOptions.h"
 #include "console/CommandError.h"
+#include "project/ProjectValues.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
 
@@ -166,6 +167,7 @@ std::shared_ptr<FlashTemplate> TemplateOptions::prepared(const PublishOptions& o
     auto tmpl = load(options.templateName, options.styleName);
     if (isRightToLeft)
         tmpl->setPropertyValue(QStringLiteral("RightToLeft"), QStringLiteral("YES"));
+    ProjectValues::apply(options.values, *tmpl);
     if (!options.settingsFile.isEmpty())
         applySettingsFile(*tmpl, options.settingsFile);
     for (const QString& assignment : options.assignments)

@@ -34,8 +34,8 @@ void applySettingsFile(FlashTemplate& tmpl, const QString& path);
 // take, or a file that does not exist.
 void applyAssignment(FlashTemplate& tmpl, const QString& assignment);
 
-// The template of a book with all that is set: first what the document asks for, then what the user
-// does.
+// The template of a book with all that is set: first what the document asks for, then what the
+// project and the user do.
 std::shared_ptr<FlashTemplate> prepared(const PublishOptions& options, bool isRightToLeft);
 
 } // namespace TemplateOptions

@@ -63,9 +63,11 @@ void addTemplates(CLI::App& app, CommandLine& line) {
 
 void addInfo(CLI::App& app, CommandLine& line) {
     auto* command =
-        app.add_subcommand("info", "Show pages, sizes, rotation, links and outline of a PDF file")
+        app.add_subcommand(
+               "info", "Show pages, sizes, rotation, links and outline of a PDF file, or what a\n"
+                       "project consists of")
             ->group("Commands");
-    addPath(*command, "PDF", line.pdf, "The PDF file")->type_name("")->required();
+    addPath(*command, "PDF", line.pdf, "The PDF file or project")->type_name("")->required();
     PublishArguments::addPassword(*command, line.password);
     command->add_flag("--json", line.json, "Print JSON");
     command->callback([&line] {

@@ -12,6 +12,7 @@ ExitCode exitCodeFor(ErrorKind kind) {
     case ErrorKind::readerEnded:
     case ErrorKind::readerTimeout:
     case ErrorKind::readerMalformedAnswer:
+    case ErrorKind::project:
         return ExitCode::badDocument;
 
     case ErrorKind::pdfPassword:

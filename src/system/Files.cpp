@@ -171,9 +171,9 @@ bool Files::haveSameContent(const QString& one, const QString& other) {
     return true;
 }
 
-QByteArray Files::digest(const QString& path) {
+QByteArray Files::digest(const QString& path, QCryptographicHash::Algorithm algorithm) {
     QFile file(path);
-    QCryptographicHash hash(QCryptographicHash::Blake2b_256);
+    QCryptographicHash hash(algorithm);
     const bool isRead = QFileInfo(path).isFile() && // opening a pipe would block
                         file.open(QIODevice::ReadOnly) && hash.addData(&file);
     return isRead ? hash.result().toHex() : QByteArray();

@@ -3,6 +3,7 @@
 #include "base/Message.h"
 
 #include <QByteArray>
+#include <QCryptographicHash>
 #include <QString>
 #include <span>
 
@@ -50,7 +51,8 @@ bool linkOrCopy(const QString& source, const QString& target, Message* error = n
 bool haveSameContent(const QString& one, const QString& other);
 
 // A digest of the content of a file, as text; empty when it can't be read or is no regular file.
-QByteArray digest(const QString& path);
+QByteArray digest(const QString& path,
+                  QCryptographicHash::Algorithm algorithm = QCryptographicHash::Blake2b_256);
 
 // "FOLDER/NAME", whether or not the folder ends in a separator; FOLDER when the name is empty.
 QString join(const QString& folder, const QString& name);

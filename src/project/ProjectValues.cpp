@@ -1,0 +1,53 @@
+#include "project/ProjectValues.h"
+
+#include <QSet>
+
+namespace {
+
+// Of properties with the same key only the first can be set by it.
+void walk(const FlashTemplate::Properties& properties, QSet<QString>& seen,
+          const std::function<void(const FlashTemplateProperty&)>& visit) {
+    for (const auto& property : properties) {
+        if (!property->key().isEmpty() && !seen.contains(property->key())) {
+            seen.insert(property->key());
+            visit(*property);
+        }
+        walk(property->childProperties(), seen, visit);
+    }
+}
+
+// The template as it is without any edits.
+FlashTemplate unchanged(const FlashTemplate& tmpl) {
+    FlashTemplate fresh;
+    if (fresh.tmplName() != tmpl.tmplName())
+        fresh.loadTemplate(tmpl.tmplName());
+    if (!tmpl.styleName().isEmpty())
+        fresh.loadStyleByStyleName(tmpl.styleName());
+    return fresh;
+}
+
+Project::Value valueOf(const FlashTemplateProperty& property) {
+    Project::Value value{property.key(), property.value(), false, {}};
+    value.isFile = property.propertyType() == pt_file && value.text.startsWith(u'/');
+    if (value.isFile)
+        value.file.path = value.text;
+    return value;
+}
+
+} // namespace
+
+std::vector<Project::Value> ProjectValues::changed(const FlashTemplate& tmpl) {
+    const FlashTemplate fresh = unchanged(tmpl);
+    std::vector<Project::Value> values;
+    QSet<QString> seen{QStringLiteral("pageWidth"), QStringLiteral("pageHeight")};
+    walk(tmpl.properties(), seen, [&](const FlashTemplateProperty& property) {
+        if (property.value() != fresh.propertyValueFor(property.key(), {}))
+            values.push_back(valueOf(property));
+    });
+    return values;
+}
+
+void ProjectValues::apply(const std::vector<Project::Value>& values, FlashTemplate& tmpl) {
+    for (const Project::Value& value : values)
+        tmpl.setPropertyValue(value.key, value.text);
+}

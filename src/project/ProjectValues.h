@@ -1,0 +1,16 @@
+#pragma once
+
+#include "project/Project.h"
+#include "template/FlashTemplate.h"
+
+// Values of a template in a project.
+namespace ProjectValues {
+
+// Those that differ from what the template and its style have by themselves, but for the page size,
+// which is the document's. Files are named only: they have no size and no digest.
+std::vector<Project::Value> changed(const FlashTemplate& tmpl);
+
+// Sets them; ignores keys that the template lacks.
+void apply(const std::vector<Project::Value>& values, FlashTemplate& tmpl);
+
+} // namespace ProjectValues
