@@ -53,14 +53,6 @@
         <extracomment>The help in your language; keep the path as it is until there is one.</extracomment>
         <translation>PDF to Folvero for mac Help/PDF to Folvero for Mac.de.pdf</translation>
     </message>
-    <message>
-        <source>Replace %1?</source>
-        <translation>%1 ersetzen?</translation>
-    </message>
-    <message>
-        <source>A file of this name is already in the folder. What is in it would be lost.</source>
-        <translation>Eine Datei dieses Namens liegt schon in dem Ordner. Ihr Inhalt ginge verloren.</translation>
-    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
@@ -119,6 +111,17 @@
     <message>
         <source>Unknown Error</source>
         <translation>Unbekannter Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>FileToSave</name>
+    <message>
+        <source>Replace %1?</source>
+        <translation>%1 ersetzen?</translation>
+    </message>
+    <message>
+        <source>A file of this name is already in the folder. What is in it would be lost.</source>
+        <translation>Eine Datei dieses Namens liegt schon in dem Ordner. Ihr Inhalt ginge verloren.</translation>
     </message>
 </context>
 <context>
@@ -417,16 +420,8 @@
         <translation>Das fertige Buch in einen Ordner Ihrer Wahl schreiben</translation>
     </message>
     <message>
-        <source>&amp;Load settings…</source>
-        <translation>Einstellungen &amp;laden …</translation>
-    </message>
-    <message>
         <source>Load settings that were saved to a file</source>
         <translation>Einstellungen laden, die in einer Datei gespeichert wurden</translation>
-    </message>
-    <message>
-        <source>&amp;Save settings…</source>
-        <translation>Einstellungen &amp;speichern …</translation>
     </message>
     <message>
         <source>Save the settings to a file, to use them for other books</source>
@@ -525,10 +520,6 @@
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>Import a &amp;recent PDF</source>
-        <translation>&amp;Zuletzt importierte PDFs</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
@@ -552,6 +543,50 @@
     <message>
         <source>&amp;Clear the list</source>
         <translation>&amp;Liste leeren</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>Start a new project</source>
+        <translation>Ein neues Projekt beginnen</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Open a project that was saved</source>
+        <translation>Ein gespeichertes Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save the project, to go on with the book later</source>
+        <translation>Das Projekt speichern, um später an dem Buch weiterzuarbeiten</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Save the project under another name</source>
+        <translation>Das Projekt unter einem anderen Namen speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Load look…</source>
+        <translation>Aussehen &amp;laden …</translation>
+    </message>
+    <message>
+        <source>Save loo&amp;k…</source>
+        <translation>Aussehen sp&amp;eichern …</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt benutzt</translation>
     </message>
 </context>
 <context>
@@ -582,13 +617,13 @@
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <source>%1 – Folvero</source>
-        <translation>%1 – Folvero</translation>
+        <source>Demo book</source>
+        <translation>Demobuch</translation>
     </message>
     <message>
-        <source>Demo book</source>
-        <extracomment>The title of the window; %1 is the name of the document.</extracomment>
-        <translation>Demobuch</translation>
+        <source>%1[*] – Folvero</source>
+        <extracomment>The title of the window; %1 is the name of the document, [*] marks changes.</extracomment>
+        <translation>%1[*] – Folvero</translation>
     </message>
 </context>
 <context>
@@ -957,6 +992,22 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <source>Without text</source>
         <translation>Ohne Text</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Don&apos;t save</source>
+        <translation>Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>Löschen</translation>
+    </message>
 </context>
 <context>
     <name>PasswordWindow</name>
@@ -1023,6 +1074,41 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>is damaged</source>
         <translation>ist beschädigt</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectSession</name>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>Die Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Without saving they are lost.</source>
+        <translation>Ohne Speichern gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>The project was not opened.</source>
+        <translation>Das Projekt wurde nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>The project is not as it was saved.</source>
+        <translation>Das Projekt ist nicht mehr, wie es gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>The project was not saved to %1.</source>
+        <translation>Das Projekt wurde nicht in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>a book that was not saved</source>
+        <translation>ein Buch, das nicht gespeichert wurde</translation>
+    </message>
+    <message>
+        <source>Recover the changes to “%1”?</source>
+        <translation>Die Änderungen an „%1“ wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Folvero ended before they were saved, last on %1.</source>
+        <translation>Folvero endete, bevor sie gespeichert waren, zuletzt am %1.</translation>
     </message>
 </context>
 <context>
@@ -2009,8 +2095,8 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <translation>Macht aus PDF-Dateien Bücher zum Blättern.</translation>
     </message>
     <message>
-        <source>A PDF file to import.</source>
-        <translation>Eine PDF-Datei, die importiert wird.</translation>
+        <source>A PDF file to import, or a project to open.</source>
+        <translation>Eine PDF-Datei zum Importieren oder ein Projekt zum Öffnen.</translation>
     </message>
 </context>
 </TS>

@@ -90,6 +90,34 @@ bool Panels::askToReplace(const QString& message, const QString& information) {
     return alert.clickedButton() == replace;
 }
 
+Panels::Unsaved Panels::askToSave(const QString& message, const QString& information) {
+    QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
+                      QMessageBox::NoButton, QApplication::activeWindow());
+    QPushButton* save =
+        alert.addButton(QCoreApplication::translate("Panels", "Save"), QMessageBox::AcceptRole);
+    const QAbstractButton* discard = alert.addButton(
+        QCoreApplication::translate("Panels", "Don't save"), QMessageBox::DestructiveRole);
+    alert.addButton(QCoreApplication::translate("Panels", "Cancel"), QMessageBox::RejectRole);
+    alert.setDefaultButton(save);
+    run(alert, information);
+    return alert.clickedButton() == save      ? Unsaved::save
+           : alert.clickedButton() == discard ? Unsaved::discard
+                                              : Unsaved::cancel;
+}
+
+bool Panels::askToRecover(const QString& message, const QString& information) {
+    QMessageBox alert(QMessageBox::Question, QApplication::applicationDisplayName(), message,
+                      QMessageBox::NoButton, QApplication::activeWindow());
+    QPushButton* recover =
+        alert.addButton(QCoreApplication::translate("Panels", "Recover"), QMessageBox::AcceptRole);
+    const QAbstractButton* remove = alert.addButton(
+        QCoreApplication::translate("Panels", "Remove them"), QMessageBox::DestructiveRole);
+    alert.setDefaultButton(recover);
+    alert.setEscapeButton(recover);
+    run(alert, information);
+    return alert.clickedButton() != remove;
+}
+
 std::optional<bool> Panels::askForText(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Question, QApplication::applicationDisplayName(), message,
                       QMessageBox::NoButton, QApplication::activeWindow());

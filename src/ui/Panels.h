@@ -33,6 +33,15 @@ bool askToOpen(const QString& message, const QString& information);
 // True when the user wants to replace what would be lost; "no" is the default.
 bool askToReplace(const QString& message, const QString& information);
 
+// What becomes of changes that are not saved.
+enum class Unsaved { save, discard, cancel };
+
+// "Save" is the default.
+Unsaved askToSave(const QString& message, const QString& information);
+
+// True for "Recover", the default. Otherwise what could be recovered is lost.
+bool askToRecover(const QString& message, const QString& information);
+
 // True for "With text", none when cancelled; "Without text" is the default.
 std::optional<bool> askForText(const QString& message, const QString& information);
 

@@ -18,17 +18,30 @@ DesktopProgram::DesktopProgram() {
     QSettings().clear();
     AppSettings::shareInstance().loadSettings();
     QDir(Folders::userApplicationSupport()).removeRecursively();
-    program = std::make_unique<BrisleafAppDelegate>();
-    program->setQuestions({[this](const QString&, const QStringList&) { return fileToOpen; },
-                           [this](const QString&, const QStringList&) {
-                               return std::exchange(fileToSave, std::nullopt);
-                           },
-                           [this](const QString& message, const QString&) {
-                               losses << message;
-                               return replaces;
-                           },
-                           [this](const QColor& initial) { return color.value_or(initial); },
-                           [this](const QString& path) { opened << path; }, [this] { ++abouts; }});
+    program = newProgram();
+}
+
+std::unique_ptr<BrisleafAppDelegate> DesktopProgram::newProgram() {
+    auto made = std::make_unique<BrisleafAppDelegate>();
+    made->setQuestions({[this](const QString&, const QStringList&) { return fileToOpen; },
+                        [this](const QString&, const QStringList&) {
+                            return std::exchange(fileToSave, std::nullopt);
+                        },
+                        [this](const QString& message, const QString&) {
+                            losses << message;
+                            return replaces;
+                        },
+                        [this](const QColor& initial) { return color.value_or(initial); },
+                        [this](const QString& path) { opened << path; }, [this] { ++abouts; },
+                        [this](const QString& message, const QString&) {
+                            unsavedAsked << message;
+                            return unsaved;
+                        },
+                        [this](const QString& message, const QString&) {
+                            recoveries << message;
+                            return recovers;
+                        }});
+    return made;
 }
 
 DesktopProgram::~DesktopProgram() {

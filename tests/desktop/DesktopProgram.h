@@ -31,6 +31,8 @@ protected:
     DesktopProgram();
     ~DesktopProgram() override;
 
+    // One that has not been launched yet, with the panels of this test.
+    std::unique_ptr<BrisleafAppDelegate> newProgram();
     void launch();
     MainWindow& window() const { return *program->window(); }
 
@@ -63,6 +65,10 @@ protected:
     std::optional<QString> fileToSave; // asked for once
     bool replaces = false;
     QStringList losses; // what the user was asked to replace
+    Panels::Unsaved unsaved = Panels::Unsaved::discard;
+    QStringList unsavedAsked; // questions about changes
+    bool recovers = false;
+    QStringList recoveries; // questions about what an earlier run has left
     std::optional<QColor> color;
     QStringList opened;
     int abouts = 0; // how often the window about the program was asked for

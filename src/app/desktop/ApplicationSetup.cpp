@@ -31,19 +31,23 @@ int runApplication(const QStringList& arguments) {
         QCoreApplication::translate("main", "Turns PDF files into page-flip books."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("pdf"),
-                                 QCoreApplication::translate("main", "A PDF file to import."),
-                                 QStringLiteral("[pdf]"));
+    parser.addPositionalArgument(
+        QStringLiteral("file"),
+        QCoreApplication::translate("main", "A PDF file to import, or a project to open."),
+        QStringLiteral("[file]"));
     parser.process(arguments);
 
     BrisleafAppDelegate controller;
     const QuitSignals quitSignals;
     // Not quit(): that asks the windows first, and a sheet with a running import refuses.
-    QObject::connect(&quitSignals, &QuitSignals::requested, [] { QCoreApplication::exit(); });
+    QObject::connect(&quitSignals, &QuitSignals::requested, [&controller] {
+        controller.keepForRecovery();
+        QCoreApplication::exit();
+    });
     QTimer::singleShot(0, &controller, [&] {
         controller.applicationDidFinishLaunching();
-        if (const QStringList files = parser.positionalArguments(); !files.isEmpty())
-            controller.importFile(QFileInfo(files.first()).absoluteFilePath());
+        const QString file = parser.positionalArguments().value(0);
+        controller.begin(file.isEmpty() ? file : QFileInfo(file).absoluteFilePath());
     });
     return QApplication::exec();
 }

@@ -6,7 +6,6 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
-#include "app/desktop/RecentFiles.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "system/Bundle.h"
@@ -166,8 +165,10 @@ void BrisleafAppDelegate::importFile(const QString& path) {
 }
 
 void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
-    if (returnCode != 1)
+    if (returnCode != 1) {
+        iProject->importWasCancelled();
         return;
+    }
     iFlashTmpl->setPropertyValue(QStringLiteral("pageWidth"),
                                  QString::number(iImportWindow->pageWidth()));
     iFlashTmpl->setPropertyValue(QStringLiteral("pageHeight"),
@@ -176,12 +177,8 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     takeDirectionOfDocument();
     iHistory.snapshotValues();
     iOutline->reloadValues();
-    const QString file = AppSettings::shareInstance().lastImportedFile();
-    RecentFiles::add(file);
-    iWindow->menu->showRecentFiles(RecentFiles::list());
-    iDocument = QFileInfo(file).absoluteFilePath();
-    iWindow->setDocumentName(QFileInfo(file).completeBaseName());
     iWindow->messages->hide();
+    iDocument = iProject->takeImport();
     if (!iImportWindow->failures().isEmpty())
         iWindow->messages->showError(tr("Not everything could be imported."),
                                      iImportWindow->failures().join(u'\n'));
@@ -193,29 +190,16 @@ void BrisleafAppDelegate::OnExportFlipBook() {
     iOuputWindow->setBook(iBook);
     iOuputWindow->setDocument(iDocument, iWindow->documentName());
     iOuputWindow->beginSheet();
-}
-
-// The panel asks before it replaces a file, but it does not know about the extension that is added.
-std::optional<QString> BrisleafAppDelegate::settingsFileToSave() const {
-    QString proposed = QStringLiteral("tmplSetting.txt");
-    while (true) {
-        std::optional<QString> file = iQuestions.fileToSave(proposed, {settingsFileType});
-        if (!file || !Files::pathExtension(*file).isEmpty())
-            return file;
-        *file += u'.' + settingsFileType;
-        if (!QFileInfo::exists(*file) ||
-            iQuestions.replace(tr("Replace %1?").arg(QFileInfo(*file).fileName()),
-                               tr("A file of this name is already in the folder. What is in it "
-                                  "would be lost.")))
-            return file;
-        proposed = *file;
-    }
+    iProject->proposePublish();
 }
 
 void BrisleafAppDelegate::OnExportTmplSettings() {
     if (!iFlashTmpl)
         return;
-    const std::optional<QString> file = settingsFileToSave();
+    const std::optional<QString> file =
+        FileToSave(iQuestions.fileToSave, iQuestions.replace)
+            .ask(QStringLiteral("tmplSetting.txt"), settingsFileType,
+                 [](const QString& typed) { return !Files::pathExtension(typed).isEmpty(); });
     if (!file)
         return;
     Message cause;
@@ -258,6 +242,7 @@ void BrisleafAppDelegate::selectTmplWindowDidEnd(int returnCode) {
     iFlashTmpl->changeTmplTo(name, styleFolder);
     iWindow->messages->hide();
     showTemplate(name);
+    iProject->setModified();
     applyChange(SameBook);
 }
 

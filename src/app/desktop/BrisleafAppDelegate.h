@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/desktop/PreviewFolder.h"
+#include "app/desktop/ProjectSession.h"
 #include "app/desktop/PropertyHistory.h"
 #include "base/NotificationCenter.h"
 #include "output/FolveroOutput.h"
@@ -33,14 +34,18 @@ public:
 
     // Opens the window with the demo book.
     void applicationDidFinishLaunching();
+    // Offers to recover what an earlier run has left, or else opens a file, which may be empty.
+    void begin(const QString& path);
+    // Keeps what is not saved for the next start, without a question.
+    void keepForRecovery();
     // Cancels a running import and removes the preview folder.
     void applicationWillTerminate();
     // Shows the page "index.html" of the resource folder "Demo", if it exists, instead of the book.
     void previewDemo();
 
     // How the user is asked for files (none when cancelled), for permission to replace files and
-    // for colours, and how a file is opened in its default program and the about box shown. Set
-    // before the launch.
+    // for colours; how a file is opened in its default program and the about box shown; and what
+    // becomes of changes, in a project that is closed and of an earlier run. Set before the launch.
     struct Questions {
         Panels::FilePanel fileToOpen;
         Panels::FilePanel fileToSave;
@@ -48,6 +53,12 @@ public:
         std::function<QColor(const QColor& initial)> color;
         std::function<void(const QString& path)> open;
         std::function<void()> about;
+        std::function<Panels::Unsaved(const QString& message, const QString& information)> unsaved =
+            [](const QString& /*message*/, const QString& /*information*/) {
+                return Panels::Unsaved::discard;
+            };
+        std::function<bool(const QString& message, const QString& information)> recover =
+            [](const QString& /*message*/, const QString& /*information*/) { return false; };
     };
     void setQuestions(Questions questions) { iQuestions = std::move(questions); }
 
@@ -56,6 +67,7 @@ public:
     ImportWindowDelegate& importWindow() const { return *iImportWindow; }
     OutputWindowDelegate& ouputWindow() const { return *iOuputWindow; }
     SelectTemplateWindowDelegate& selecteTmplWindow() const { return *iSelecteTmplWindow; }
+    ProjectSession& project() const { return *iProject; }
     const std::shared_ptr<FlashTemplate>& flashTmpl() const { return iFlashTmpl; }
     FlashTemplateModel& outline() const { return *iOutline; }
     QString flashPreviewFolder() const { return iFlashPreviewFolder; }
@@ -70,6 +82,8 @@ public:
     void OnOpenHelp();
     // Shows the import sheet and starts with that file.
     void importFile(const QString& path);
+    // Opens a project, or imports a document.
+    void openFile(const QString& path);
 
     void importWindowDidEnd(int returnCode);
     void selectTmplWindowDidEnd(int returnCode);
@@ -87,7 +101,9 @@ private:
     void takeDirectionOfDocument();
     void connectCommands();
     void observeEditor();
-    std::optional<QString> settingsFileToSave() const;
+    void makeProject();
+    Project look() const;
+    void showLook(const Project& project);
     void updateTmplPropertyTip();
     void valueWasEdited(const FlashTemplateProperty& property);
     void tmplPpertyValueChanged();
@@ -120,4 +136,5 @@ private:
     PreviewFolder iPreviewFolder;
     NotificationCenter::Subscription iTips;
     NotificationCenter::Subscription iChanges;
+    std::unique_ptr<ProjectSession> iProject;
 };

@@ -35,7 +35,8 @@ constexpr int indentationPerLevel = 8;
 BrisleafAppDelegate::BrisleafAppDelegate()
     : iQuestions{Panels::chooseFile,   Panels::chooseFileToSave,
                  Panels::askToReplace, Panels::chooseColor,
-                 Panels::open,         Panels::about},
+                 Panels::open,         Panels::about,
+                 Panels::askToSave,    Panels::askToRecover},
       iHistory([this] { valuesWereUndone(); }) {}
 
 BrisleafAppDelegate::~BrisleafAppDelegate() {
@@ -79,6 +80,7 @@ void BrisleafAppDelegate::makeWindows() {
     iOuputWindow = std::make_unique<OutputWindowDelegate>(iWindow.get());
     iSelecteTmplWindow = std::make_unique<SelectTemplateWindowDelegate>(iWindow.get());
     iWindow->menu->showRecentFiles(RecentFiles::list());
+    makeProject();
     connectCommands();
 }
 
@@ -133,7 +135,7 @@ void BrisleafAppDelegate::connectCommands() {
     command(menu.about, [this] { iQuestions.about(); });
     command(menu.reloadPreview, [this] { iWindow->webView->reloadBook(); });
     command(menu.quit, [this] { iWindow->close(); });
-    connect(&menu, &MainMenu::recentFileChosen, this, &BrisleafAppDelegate::importFile);
+    connect(&menu, &MainMenu::recentFileChosen, this, &BrisleafAppDelegate::openFile);
     connect(&menu, &MainMenu::recentFilesCleared, this, [this] {
         RecentFiles::clear();
         iWindow->menu->showRecentFiles({});
@@ -153,5 +155,6 @@ void BrisleafAppDelegate::applicationWillTerminate() {
     iImportWindow.reset();
     iFlashTmpl.reset();
     iBook = {};
+    iProject.reset();
     removeFlashPreviewFolder();
 }

@@ -39,8 +39,20 @@ QAction* MainMenu::add(const QString& text, const QString& iconName, const QKeyS
     return action;
 }
 
+void MainMenu::makeProjectCommands() {
+    newProject = add(tr("&New"), {}, QKeySequence::New);
+    newProject->setToolTip(tr("Start a new project"));
+    openProject = add(tr("&Open…"), {}, QKeySequence::Open);
+    openProject->setToolTip(tr("Open a project that was saved"));
+    saveProject = add(tr("&Save"), {}, QKeySequence::Save);
+    saveProject->setToolTip(tr("Save the project, to go on with the book later"));
+    saveProjectAs = add(tr("Save &as…"), {}, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    saveProjectAs->setToolTip(tr("Save the project under another name"));
+}
+
 void MainMenu::makeCommands(QUndoStack& edits) {
-    importPDF = add(tr("&Import PDF…"), QStringLiteral("import"), QKeySequence::Open);
+    makeProjectCommands();
+    importPDF = add(tr("&Import PDF…"), QStringLiteral("import"), Qt::CTRL | Qt::Key_I);
     //: Beneath a picture in the toolbar: short.
     importPDF->setIconText(tr("Import PDF"));
     importPDF->setToolTip(tr("Make the book from a PDF document"));
@@ -48,11 +60,10 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     //: Beneath a picture in the toolbar: short.
     exportFlipBook->setIconText(tr("Publish"));
     exportFlipBook->setToolTip(tr("Write the finished book into a folder of your choice"));
-    importSettings =
-        add(tr("&Load settings…"), QStringLiteral("settings-load"), Qt::CTRL | Qt::Key_L);
+    importSettings = add(tr("&Load look…"), QStringLiteral("settings-load"), Qt::CTRL | Qt::Key_L);
     importSettings->setToolTip(tr("Load settings that were saved to a file"));
     exportSettings =
-        add(tr("&Save settings…"), QStringLiteral("settings-save"), QKeySequence::Save);
+        add(tr("Save loo&k…"), QStringLiteral("settings-save"), Qt::CTRL | Qt::SHIFT | Qt::Key_L);
     exportSettings->setToolTip(tr("Save the settings to a file, to use them for other books"));
     quit = add(tr("&Quit"), {}, Qt::CTRL | Qt::Key_Q);
     quit->setMenuRole(QAction::QuitRole);
@@ -116,8 +127,11 @@ void MainMenu::makeAppearanceGroup() {
 
 void MainMenu::fillMenuBar() {
     auto* file = iWindow.menuBar()->addMenu(tr("&File"));
+    file->addActions({newProject, openProject});
+    recentFiles = file->addMenu(tr("Open &recent"));
+    file->addActions({saveProject, saveProjectAs});
+    file->addSeparator();
     file->addAction(importPDF);
-    recentFiles = file->addMenu(tr("Import a &recent PDF"));
     file->addSeparator();
     file->addActions({importSettings, exportSettings});
     file->addSeparator();

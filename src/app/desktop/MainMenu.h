@@ -16,6 +16,10 @@ class MainMenu : public QObject {
 public:
     MainMenu(QMainWindow& window, QUndoStack& edits);
 
+    QAction* newProject;
+    QAction* openProject;
+    QAction* saveProject;
+    QAction* saveProjectAs;
     QAction* importPDF;
     QMenu* recentFiles;
     QAction* exportFlipBook;
@@ -47,6 +51,7 @@ Q_SIGNALS:
 private:
     QAction* add(const QString& text, const QString& iconName, const QKeySequence& shortcut);
     void makeCommands(QUndoStack& edits);
+    void makeProjectCommands();
     void makeEditCommands(QUndoStack& edits);
     void makeAppearanceGroup();
     void fillMenuBar();

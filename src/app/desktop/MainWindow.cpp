@@ -149,9 +149,9 @@ QWidget* MainWindow::previewSide() {
 }
 
 void MainWindow::setDocumentName(const QString& name) {
-    //: The title of the window; %1 is the name of the document.
     iDocumentName = name.isNull() ? tr("Demo book") : name;
-    setWindowTitle(tr("%1 – Folvero").arg(iDocumentName));
+    //: The title of the window; %1 is the name of the document, [*] marks changes.
+    setWindowTitle(tr("%1[*] – Folvero").arg(iDocumentName));
 }
 
 void MainWindow::restoreSizes() {

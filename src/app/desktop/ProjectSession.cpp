@@ -1,0 +1,357 @@
+#include "app/desktop/ProjectSession.h"
+
+#include "app/AppSettings.h"
+#include "app/desktop/BookCover.h"
+#include "app/desktop/MainMenu.h"
+#include "app/desktop/MainWindow.h"
+#include "app/desktop/MessageBar.h"
+#include "app/desktop/RecentFiles.h"
+#include "app/desktop/SheetChoices.h"
+#include "base/PlatformException.h"
+#include "pages/Book.h"
+#include "project/MergedDocument.h"
+#include "project/ProjectFile.h"
+#include "project/ProjectFiles.h"
+#include "system/Files.h"
+#include "ui/ImportWindow.h"
+#include "ui/ImportWindowDelegate.h"
+#include "ui/OutputWindow.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QLocale>
+#include <QSettings>
+#include <QTimer>
+#include <QUndoStack>
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const QString autosaveKey = QStringLiteral("autosaveSeconds");
+constexpr int usualAutosaveSeconds = 60;
+
+QStringList pathsOf(const std::vector<Project::File>& files) {
+    QStringList paths;
+    for (const Project::File& file : files)
+        paths << file.path;
+    return paths;
+}
+
+bool isPDF(const QString& path) {
+    return Files::pathExtension(path).compare(QStringLiteral("pdf"), Qt::CaseInsensitive) == 0;
+}
+
+} // namespace
+
+ProjectSession::ProjectSession(Program program, Questions questions)
+    : iProgram(std::move(program)),
+      iQuestions(std::move(questions)),
+      iAutosave(std::make_unique<QTimer>()) {
+    connectCommands();
+    iProgram.window.installEventFilter(this);
+    constexpr int milliseconds = 1000;
+    constexpr int mostSeconds = 3600;
+    const int seconds = QSettings().value(autosaveKey, usualAutosaveSeconds).toInt();
+    iAutosave->setInterval(std::clamp(seconds, 1, mostSeconds) * milliseconds);
+    connect(iAutosave.get(), &QTimer::timeout, this, &ProjectSession::autosave);
+    iAutosave->start();
+}
+
+ProjectSession::~ProjectSession() = default;
+
+void ProjectSession::connectCommands() {
+    const MainMenu& menu = *iProgram.window.menu;
+    connect(menu.newProject, &QAction::triggered, this, &ProjectSession::onNew);
+    connect(menu.openProject, &QAction::triggered, this, &ProjectSession::onOpen);
+    connect(menu.saveProject, &QAction::triggered, this, &ProjectSession::onSave);
+    connect(menu.saveProjectAs, &QAction::triggered, this, &ProjectSession::onSaveAs);
+    connect(&iProgram.edits, &QUndoStack::cleanChanged, this, &ProjectSession::updateTitle);
+    connect(&iProgram.output, &QDialog::accepted, this, &ProjectSession::takePublish);
+}
+
+bool ProjectSession::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != &iProgram.window || event->type() != QEvent::Close || mayLeave())
+        return QObject::eventFilter(watched, event);
+    event->ignore();
+    return true;
+}
+
+bool ProjectSession::isModified() const {
+    return iIsChanged || !iProgram.edits.isClean();
+}
+
+void ProjectSession::setModified() {
+    iIsChanged = true;
+    updateTitle();
+}
+
+void ProjectSession::setSaved() {
+    iIsChanged = false;
+    iProgram.edits.setClean();
+    iRecovery.remove();
+    updateTitle();
+}
+
+void ProjectSession::updateTitle() {
+    const QString& named = iPath.isEmpty() ? iDocuments.value(0) : iPath;
+    iProgram.window.setDocumentName(named.isEmpty() ? QString()
+                                                    : QFileInfo(named).completeBaseName());
+    iProgram.window.setWindowModified(isModified());
+}
+
+// True when there is nothing to lose.
+bool ProjectSession::mayLeave() {
+    if (!isModified())
+        return true;
+    const auto answer =
+        iQuestions.unsaved(tr("Save the changes to “%1”?").arg(iProgram.window.documentName()),
+                           tr("Without saving they are lost."));
+    if (answer == Panels::Unsaved::save)
+        return onSave();
+    if (answer == Panels::Unsaved::discard)
+        iRecovery.remove();
+    return answer == Panels::Unsaved::discard;
+}
+
+void ProjectSession::onNew() {
+    if (mayLeave())
+        show({}, QStringLiteral(""));
+}
+
+void ProjectSession::onOpen() {
+    if (!mayLeave())
+        return;
+    const auto path = iQuestions.fileToOpen(QFileInfo(iPath).path(), {ProjectFile::extension});
+    if (path)
+        load(*path);
+}
+
+void ProjectSession::open(const QString& path) {
+    if (mayLeave())
+        load(path);
+}
+
+void ProjectSession::load(const QString& path) {
+    const QString whole = QFileInfo(path).absoluteFilePath();
+    const QString failed = tr("The project was not opened.");
+    try {
+        const auto located =
+            ProjectFiles::locate(ProjectFile::read(whole), QFileInfo(whole).path());
+        if (!located.missingDocuments.isEmpty()) {
+            showError(failed, localTexts(located.missingDocuments).join(u'\n'));
+            return;
+        }
+        iWarnings = localTexts(located.changed + located.missingValues);
+        remember(whole);
+        show(located.project, whole);
+    } catch (const PlatformException& failure) {
+        showError(failed, failure.message().local());
+    }
+}
+
+// The window shows the demo pages until the documents are imported.
+void ProjectSession::show(const Project& project, const QString& path) {
+    iPath = path;
+    iDocuments = pathsOf(project.documents);
+    iPages = project.pages;
+    iImport = project.import;
+    iPublish = project.publish;
+    iMerged.reset();
+    iProgram.window.messages->hide();
+    iProgram.showLook(project);
+    setSaved();
+    if (iDocuments.isEmpty())
+        iProgram.showBook();
+    else
+        importDocuments(project);
+}
+
+void ProjectSession::importDocuments(const Project& project) {
+    try {
+        iOpening = documentToImport(project);
+    } catch (const PlatformException& failure) {
+        show({}, QStringLiteral(""));
+        showError(tr("The project was not opened."), failure.message().local());
+        return;
+    }
+    iProgram.showImportSheet();
+    ImportWindow& sheet = iProgram.import.window();
+    SheetChoices::set(sheet, project.import);
+    sheet.txtImportFile->setText(iOpening);
+    iProgram.import.onImportAction();
+}
+
+// Merges documents and pages that were chosen one by one.
+QString ProjectSession::documentToImport(const Project& project) {
+    const QString& first = iDocuments.front();
+    if (iDocuments.size() == 1 && project.pages.empty() && isPDF(first))
+        return first;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        iMerged = std::make_unique<MergedDocument>(iDocuments, project.pages, QByteArray(),
+                                                   Files::lastPathComponent(first),
+                                                   std::function<bool()>());
+    } catch (...) {
+        QGuiApplication::restoreOverrideCursor();
+        throw;
+    }
+    QGuiApplication::restoreOverrideCursor();
+    return iMerged->path();
+}
+
+QString ProjectSession::takeImport() {
+    auto& settings = AppSettings::shareInstance();
+    const QString file = settings.lastImportedFile();
+    const bool isOpened = !file.isEmpty() && std::exchange(iOpening, {}) == file;
+    if (!isOpened) {
+        const QStringList imported(QFileInfo(file).absoluteFilePath());
+        // Without a project, what to publish was chosen for the earlier document.
+        if (iPath.isEmpty() && iDocuments != imported)
+            iPublish = {};
+        iDocuments = imported;
+        iPages.clear();
+        iMerged.reset();
+        remember(file);
+    } else if (iMerged) {
+        // The merged file is nothing that the user knows.
+        settings.setLastImportedFile(iDocuments.front());
+        iProgram.import.window().txtImportFile->setText(iDocuments.front());
+    }
+    iImport = SheetChoices::importOf(iProgram.import.window());
+    iIsChanged = !isOpened || std::exchange(iIsRecovering, false);
+    updateTitle();
+    if (const QStringList warnings = std::exchange(iWarnings, {}); isOpened && !warnings.isEmpty())
+        showError(tr("The project is not as it was saved."), warnings.join(u'\n'));
+    return iDocuments.front();
+}
+
+void ProjectSession::importWasCancelled() {
+    if (std::exchange(iOpening, {}).isEmpty())
+        return;
+    if (!std::exchange(iIsRecovering, false)) {
+        show({}, QStringLiteral(""));
+        return;
+    }
+    // The rest of what was recovered is not lost with a document that is gone.
+    iDocuments.clear();
+    iPages.clear();
+    setModified();
+}
+
+void ProjectSession::proposePublish() const {
+    if (!iPublish.folder.isEmpty())
+        SheetChoices::set(iProgram.output, iPublish);
+}
+
+void ProjectSession::takePublish() {
+    const Project::Publish chosen = SheetChoices::publishOf(iProgram.output);
+    if (chosen == iPublish)
+        return;
+    iPublish = chosen;
+    setModified();
+}
+
+// A document is read again only after it was changed.
+Project::File ProjectSession::described(const QString& path) {
+    const FileState state = FileState::of(path);
+    auto& [known, file] = iDescribed[path];
+    if (file.path.isEmpty() || known != state)
+        file = ProjectFiles::describe(path);
+    known = state;
+    return file;
+}
+
+Project ProjectSession::current() {
+    Project project = iProgram.look();
+    for (const QString& document : iDocuments)
+        project.documents.push_back(described(document));
+    for (Project::Value& value : project.values) {
+        if (value.isFile)
+            value.file = described(value.text);
+    }
+    project.pages = iPages;
+    project.import = iImport;
+    project.publish = iPublish;
+    return project;
+}
+
+bool ProjectSession::onSave() {
+    return iPath.isEmpty() ? onSaveAs() : saveTo(iPath);
+}
+
+bool ProjectSession::onSaveAs() {
+    const QString beside = iDocuments.isEmpty() ? QDir::homePath() : iDocuments.front();
+    const QString proposed =
+        !iPath.isEmpty() ? iPath
+                         : Files::join(QFileInfo(beside).path(), iProgram.window.documentName() +
+                                                                     u'.' + ProjectFile::extension);
+    const auto path =
+        iQuestions.fileToSave.ask(proposed, ProjectFile::extension, ProjectFile::isProject);
+    return path && saveTo(QFileInfo(*path).absoluteFilePath());
+}
+
+bool ProjectSession::saveTo(const QString& path) {
+    Message error;
+    if (!ProjectFile::write(current(), BookCover::of(iProgram.book()), path, &error)) {
+        showError(tr("The project was not saved to %1.").arg(path), error.local());
+        return false;
+    }
+    iPath = path;
+    remember(path);
+    setSaved();
+    return true;
+}
+
+void ProjectSession::autosave() {
+    if (isModified())
+        keepForRecovery();
+    else
+        iRecovery.remove();
+}
+
+void ProjectSession::keepForRecovery() {
+    if (!isModified())
+        return;
+    Project project = current();
+    project.recoveryOf = iPath;
+    iRecovery.write(project);
+}
+
+bool ProjectSession::offerRecovery() {
+    bool isTaken = false;
+    ProjectRecovery::offer([&](const Project& saved, const QDateTime& time) {
+        const QString name = saved.recoveryOf.isEmpty()
+                                 ? tr("a book that was not saved")
+                                 : QFileInfo(saved.recoveryOf).completeBaseName();
+        const auto located =
+            ProjectFiles::locate(saved, QFileInfo(saved.recoveryOf).absolutePath());
+        if (!iQuestions.recover(tr("Recover the changes to “%1”?").arg(name),
+                                tr("Folvero ended before they were saved, last on %1.")
+                                    .arg(QLocale().toString(time, QLocale::ShortFormat))))
+            return false;
+        iWarnings = localTexts(located.changed + located.missingValues);
+        Project project = located.project;
+        iIsRecovering = true;
+        show(project, saved.recoveryOf.isNull() ? QStringLiteral("") : saved.recoveryOf);
+        iIsChanged = true;
+        updateTitle();
+        project.recoveryOf = iPath;
+        iRecovery.write(project);
+        isTaken = true;
+        return true;
+    });
+    return isTaken;
+}
+
+void ProjectSession::remember(const QString& path) const {
+    RecentFiles::add(path);
+    iProgram.window.menu->showRecentFiles(RecentFiles::list());
+}
+
+void ProjectSession::showError(const QString& what, const QString& cause) const {
+    iProgram.window.messages->showError(what, cause);
+}

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "app/desktop/FileToSave.h"
+#include "app/desktop/ProjectRecovery.h"
+#include "project/Project.h"
+#include "system/FileState.h"
+
+#include <QHash>
+#include <QObject>
+#include <functional>
+#include <memory>
+
+class ImportWindowDelegate;
+class MainWindow;
+class MergedDocument;
+class OutputWindow;
+class QTimer;
+class QUndoStack;
+struct Book;
+
+// The project that the window shows: its file, whether it has changes that are not saved, and the
+// commands that open and save projects. Keeps what is not saved for recovery.
+class ProjectSession : public QObject {
+    Q_OBJECT
+
+public:
+    // What a session drives. All of it must live longer.
+    struct Program {
+        MainWindow& window;
+        ImportWindowDelegate& import;
+        OutputWindow& output;
+        QUndoStack& edits;
+        // Template, style and values that are shown.
+        std::function<Project()> look;
+        // Shows those of a project, with the demo pages in place of its documents.
+        std::function<void(const Project&)> showLook;
+        // Brings the preview up to date with them.
+        std::function<void()> showBook;
+        std::function<void()> showImportSheet;
+        std::function<const Book&()> book;
+    };
+    struct Questions {
+        Panels::FilePanel fileToOpen;
+        FileToSave fileToSave;
+        std::function<Panels::Unsaved(const QString& message, const QString& information)> unsaved;
+        std::function<bool(const QString& message, const QString& information)> recover;
+    };
+
+    ProjectSession(Program program, Questions questions);
+    ~ProjectSession() override;
+
+    // Offers to recover what an earlier run has left. True when there is something that is shown.
+    bool offerRecovery();
+    // What is not saved is kept for the next start; for an end without questions.
+    void keepForRecovery();
+
+    // Each asks first when there are changes.
+    void onNew();
+    void onOpen();
+    void open(const QString& path);
+    // False when the project was not saved.
+    bool onSave();
+    bool onSaveAs();
+
+    bool isModified() const;
+    void setModified();
+    // Empty for a project that was never saved.
+    const QString& path() const { return iPath; }
+
+    // Call when the import sheet has ended with a document; returns its path.
+    QString takeImport();
+    // Call when it has ended without one.
+    void importWasCancelled();
+    // Proposes in the publish sheet what the project has chosen, if anything.
+    void proposePublish() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void connectCommands();
+    bool mayLeave();
+    void load(const QString& path);
+    void show(const Project& project, const QString& path);
+    void importDocuments(const Project& project);
+    QString documentToImport(const Project& project);
+    void takePublish();
+    void autosave();
+    Project current();
+    Project::File described(const QString& path);
+    bool saveTo(const QString& path);
+    void setSaved();
+    void updateTitle();
+    void remember(const QString& path) const;
+    void showError(const QString& what, const QString& cause) const;
+
+    Program iProgram;
+    Questions iQuestions;
+    QString iPath = QStringLiteral("");
+    // Beside template, style and values, which the window has.
+    QStringList iDocuments;
+    std::vector<MergePlan::Page> iPages;
+    Project::Import iImport;
+    Project::Publish iPublish;
+    bool iIsChanged = false; // beside the edits that can be undone
+    // While the documents of a project that is opened are imported: the path that the import has.
+    QString iOpening;
+    bool iIsRecovering = false;
+    QStringList iWarnings; // of the project that is opened
+    std::unique_ptr<MergedDocument> iMerged;
+    QHash<QString, std::pair<FileState, Project::File>> iDescribed;
+    ProjectRecovery iRecovery;
+    std::unique_ptr<QTimer> iAutosave;
+};
