@@ -3,8 +3,7 @@
 #include <QBuffer>
 #include <QImage>
 
-ShareImage ShareImage::of(const QString& picture) {
-    constexpr QSize box(1200, 1200);
+ShareImage ShareImage::of(const QString& picture, QSize box) {
     constexpr int quality = 85;
     const QImage page(picture);
     if (page.isNull())

@@ -10,6 +10,6 @@ struct ShareImage {
     QByteArray jpeg;
     QSize size;
 
-    // Of the picture of a page; empty when it can't be read.
-    static ShareImage of(const QString& picture);
+    // Of the picture of a page; empty when it can't be read. As large as fits into the box.
+    static ShareImage of(const QString& picture, QSize box = QSize(1200, 1200));
 };

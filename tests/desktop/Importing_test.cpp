@@ -137,8 +137,8 @@ TEST_F(Importing, ProgramThatIsTerminatedDuringAnImportRemovesItsPreview) {
 
 TEST_F(Importing, RecentDocumentsAreListedUntilTheyAreCleared) {
     for (int pages = 1; pages <= 9; ++pages)
-        RecentFiles::add(pdf(pages));
-    RecentFiles::add(pdf(3));
+        RecentFiles::add(pdf(pages), {});
+    RecentFiles::add(pdf(3), {});
     ASSERT_TRUE(QFile::remove(path("8 pages.pdf")));
     import(pdf(2));
     auto& menu = *window().menu->recentFiles;

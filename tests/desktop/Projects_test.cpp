@@ -1,3 +1,4 @@
+#include "builder/PDFBuilder.h"
 #include "desktop/DesktopProgram.h"
 #include "project/ProjectFile.h"
 #include "support/Program.h"
@@ -177,4 +178,26 @@ TEST_F(Projects, WorkOfAKilledProgramIsOfferedOnce) {
     EXPECT_EQ(recoveries.size(), 1);
     EXPECT_TRUE(recoveryFiles().isEmpty());
     EXPECT_EQ(publishedPages(), 12u);
+}
+
+TEST_F(Projects, RecentFilesShowTheirCovers) {
+    launch();
+    PDFBuilder red;
+    red.addPage(PDFBuilder::page({300, 400}, "1 0 0 rg 0 0 300 400 re f"));
+    ASSERT_TRUE(red.write(path("red.pdf")));
+    import(path("red.pdf"));
+    saveAs("tea.folvero");
+    import(pdf(2));
+    const auto colour = [this](int at) {
+        const QAction* recent = window().menu->recentFiles->actions().at(at);
+        const QImage icon = recent->icon().pixmap(40).toImage();
+        return recent->text() + ' ' + icon.pixelColor(icon.rect().center()).name();
+    };
+    EXPECT_EQ(colour(0), "2 pages.pdf #ffffff");
+    for (const int at : {1, 2})
+        EXPECT_TRUE(colour(at).contains(" #fe") || colour(at).contains(" #ff0"))
+            << colour(at).toStdString();
+    window().menu->recentFiles->actions().at(1)->trigger();
+    ASSERT_TRUE(waitForImport());
+    EXPECT_TRUE(window().windowTitle().startsWith("tea"));
 }

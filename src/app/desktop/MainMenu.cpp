@@ -1,6 +1,7 @@
 #include "app/desktop/MainMenu.h"
 
 #include "app/desktop/Appearance.h"
+#include "app/desktop/RecentCovers.h"
 #include "ui/Icons.h"
 #include "ui/PlainText.h"
 
@@ -9,6 +10,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProxyStyle>
 #include <QToolBar>
 #include <QUndoStack>
 
@@ -18,6 +20,17 @@ namespace {
 QString withoutMnemonic(QString text) {
     return text.replace(u'&', QStringLiteral("&&"));
 }
+
+// Shows icons of a menu in the size of covers.
+class CoverStyle : public QProxyStyle {
+public:
+    explicit CoverStyle(QObject* parent) { setParent(parent); }
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+        return metric == PM_SmallIconSize ? RecentCovers::side
+                                          : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 } // namespace
 
@@ -129,6 +142,7 @@ void MainMenu::fillMenuBar() {
     auto* file = iWindow.menuBar()->addMenu(tr("&File"));
     file->addActions({newProject, openProject});
     recentFiles = file->addMenu(tr("Open &recent"));
+    recentFiles->setStyle(new CoverStyle(recentFiles));
     file->addActions({saveProject, saveProjectAs});
     file->addSeparator();
     file->addAction(importPDF);
@@ -180,7 +194,7 @@ void MainMenu::showRecentFiles(const QStringList& files) {
     recentFiles->clear();
     recentFiles->setEnabled(!files.isEmpty());
     for (const QString& path : files) {
-        auto* action = recentFiles->addAction(QFileInfo(path).fileName());
+        auto* action = recentFiles->addAction(RecentCovers::of(path), QFileInfo(path).fileName());
         action->setToolTip(PlainText::toolTip(path));
         action->setStatusTip(path);
         action->setData(path);

@@ -215,7 +215,7 @@ QString ProjectSession::takeImport() {
         iDocuments = imported;
         iPages.clear();
         iMerged.reset();
-        remember(file);
+        remember(iDocuments.front(), BookCover::of(iProgram.book()));
     } else if (iMerged) {
         // The merged file is nothing that the user knows.
         settings.setLastImportedFile(iDocuments.front());
@@ -347,8 +347,8 @@ bool ProjectSession::offerRecovery() {
     return isTaken;
 }
 
-void ProjectSession::remember(const QString& path) const {
-    RecentFiles::add(path);
+void ProjectSession::remember(const QString& path, const QByteArray& cover) const {
+    RecentFiles::add(path, cover);
     iProgram.window.menu->showRecentFiles(RecentFiles::list());
 }
 

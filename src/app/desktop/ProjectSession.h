@@ -91,7 +91,8 @@ private:
     bool saveTo(const QString& path);
     void setSaved();
     void updateTitle();
-    void remember(const QString& path) const;
+    // As the most recent file; see RecentFiles.
+    void remember(const QString& path, const QByteArray& cover = {}) const;
     void showError(const QString& what, const QString& cause) const;
 
     Program iProgram;

@@ -1,5 +1,7 @@
 #include "app/desktop/RecentFiles.h"
 
+#include "app/desktop/RecentCovers.h"
+
 #include <QFileInfo>
 #include <QSettings>
 #include <algorithm>
@@ -23,14 +25,18 @@ QStringList RecentFiles::list() {
     return files;
 }
 
-void RecentFiles::add(const QString& path) {
+void RecentFiles::add(const QString& path, const QByteArray& cover) {
     QStringList files = stored();
     const QString whole = QFileInfo(path).absoluteFilePath();
     files.removeAll(whole);
     files.prepend(whole);
+    RecentCovers::keep(whole, cover);
+    for (const QString& forgotten : files.mid(maxFiles))
+        RecentCovers::keep(forgotten, {});
     QSettings().setValue(key, QStringList(files.mid(0, maxFiles)));
 }
 
 void RecentFiles::clear() {
     QSettings().remove(key);
+    RecentCovers::clear();
 }

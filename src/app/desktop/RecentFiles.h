@@ -2,12 +2,13 @@
 
 #include <QStringList>
 
-// Recently imported PDF files, kept across runs, most recent first.
+// Recently opened projects and imported documents, kept across runs, most recent first.
 namespace RecentFiles {
 
 // Files that no longer exist are left out.
 QStringList list();
-void add(const QString& path);
+// cover: of a document, its first page as a JPEG file; null for none, and for a project.
+void add(const QString& path, const QByteArray& cover);
 void clear();
 
 } // namespace RecentFiles
