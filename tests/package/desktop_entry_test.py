@@ -12,6 +12,8 @@ from support import VERSION, contents
 
 ENTRY = "./usr/share/applications/folvero.desktop"
 METAINFO = "./usr/share/metainfo/invalid.folvero.folvero.metainfo.xml"
+MEDIA_TYPE = "./usr/share/mime/packages/folvero.xml"
+PROJECT = "application/x-folvero"
 LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
 
 
@@ -42,7 +44,15 @@ class DesktopEntry(unittest.TestCase):
         program, argument = entry["Exec"].split()
         self.assertIn(f"./usr/bin/{program}", self.files.getnames())
         self.assertEqual(argument, "%f")
-        self.assertEqual(entry["MimeType"], "application/pdf;")
+        self.assertEqual(entry["MimeType"], f"{PROJECT};application/pdf;")
+
+    def test_projects_have_a_media_type(self):
+        with tempfile.TemporaryDirectory() as folder:
+            packages = Path(folder, "packages")
+            packages.mkdir()
+            (packages / "folvero.xml").write_bytes(self.read(MEDIA_TYPE))
+            subprocess.run(["update-mime-database", folder], check=True)
+            self.assertIn(f"50:{PROJECT}:*.folvero\n", Path(folder, "globs2").read_text(encoding="utf-8"))
 
     def test_metainfo_is_valid_and_of_this_version(self):
         self.check(METAINFO, "appstreamcli", "validate", "--no-net")
