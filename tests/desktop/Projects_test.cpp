@@ -172,6 +172,18 @@ TEST_F(Projects, WorkOfAKilledProgramIsOfferedOnce) {
         program = newProgram();
     }
     loseWork(SIGKILL);
+    QFile::remove(path("2 pages.pdf"));
+    recovers = true;
+    launch();
+    program->begin({});
+    ASSERT_TRUE(waitForImport());
+    QTest::mouseClick(program->importWindow().window().btnCancel, Qt::LeftButton);
+    EXPECT_TRUE(window().isWindowModified()) << "although its document is gone";
+    saveAs("tea.folvero");
+    EXPECT_EQ(ProjectFile::read(path("tea.folvero")).documents.size(), 1u);
+    recoveries.clear();
+    program = newProgram();
+    loseWork(SIGKILL);
     recovers = false;
     launch();
     program->begin({});

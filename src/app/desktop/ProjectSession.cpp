@@ -168,13 +168,18 @@ void ProjectSession::show(const Project& project, const QString& path) {
         iProgram.showBook();
     else
         importDocuments(project);
+    if (iOpening.isEmpty()) {
+        iIsRecovering = false;
+        showWarnings();
+    }
 }
 
 void ProjectSession::importDocuments(const Project& project) {
     try {
         iOpening = documentToImport(project);
     } catch (const PlatformException& failure) {
-        show({}, QStringLiteral(""));
+        iOpening = iDocuments.front();
+        importWasCancelled();
         showError(tr("The project was not opened."), failure.message().local());
         return;
     }
@@ -224,22 +229,24 @@ QString ProjectSession::takeImport() {
     iImport = SheetChoices::importOf(iProgram.import.window());
     iIsChanged = !isOpened || std::exchange(iIsRecovering, false);
     updateTitle();
-    if (const QStringList warnings = std::exchange(iWarnings, {}); isOpened && !warnings.isEmpty())
-        showError(tr("The project is not as it was saved."), warnings.join(u'\n'));
+    showWarnings();
     return iDocuments.front();
+}
+
+void ProjectSession::showWarnings() {
+    if (const QStringList warnings = std::exchange(iWarnings, {}); !warnings.isEmpty())
+        showError(tr("The project is not as it was saved."), warnings.join(u'\n'));
 }
 
 void ProjectSession::importWasCancelled() {
     if (std::exchange(iOpening, {}).isEmpty())
         return;
-    if (!std::exchange(iIsRecovering, false)) {
+    iWarnings.clear();
+    // What was recovered is not lost with a document that is gone: it can be saved.
+    if (std::exchange(iIsRecovering, false))
+        setModified();
+    else
         show({}, QStringLiteral(""));
-        return;
-    }
-    // The rest of what was recovered is not lost with a document that is gone.
-    iDocuments.clear();
-    iPages.clear();
-    setModified();
 }
 
 void ProjectSession::proposePublish() const {

@@ -84,6 +84,7 @@ private:
     void show(const Project& project, const QString& path);
     void importDocuments(const Project& project);
     QString documentToImport(const Project& project);
+    void showWarnings();
     void takePublish();
     void autosave();
     Project current();
