@@ -639,6 +639,25 @@
     </message>
 </context>
 <context>
+    <name>OfficeDocument</name>
+    <message>
+        <source>needs LibreOffice, which is not installed</source>
+        <translation>braucht LibreOffice, das nicht installiert ist</translation>
+    </message>
+    <message>
+        <source>was cancelled</source>
+        <translation>wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>LibreOffice takes too long for it</source>
+        <translation>LibreOffice braucht zu lange dafür</translation>
+    </message>
+    <message>
+        <source>LibreOffice can&apos;t make a PDF of it</source>
+        <translation>LibreOffice kann kein PDF daraus machen</translation>
+    </message>
+</context>
+<context>
     <name>OutputWindow</name>
     <message>
         <source>Publish the book</source>

@@ -4,6 +4,7 @@
 #include "cli/PublishOptions.h"
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
+#include "pdf/OfficeDocument.h"
 #include "system/Files.h"
 
 #include <QCollator>
@@ -49,8 +50,9 @@ QStringList MergedInput::files(const PublishOptions& options) {
     for (const QString& input : options.inputs)
         files << (QFileInfo(input).isDir() ? filesOf(input) : QStringList(input));
     const QString& first = options.inputs.front();
-    const bool isOneDocument = files.size() == 1 && !isPicture(first) && files.front() == first &&
-                               options.pageList.empty();
+    const bool isPDF = !isPicture(first) && !OfficeDocument::isOne(first);
+    const bool isOneDocument =
+        files.size() == 1 && isPDF && files.front() == first && options.pageList.empty();
     return isOneDocument ? QStringList() : files;
 }
 
@@ -58,6 +60,7 @@ std::unique_ptr<MergedDocument> MergedInput::of(const PublishOptions& options) {
     const QStringList all = files(options);
     if (all.isEmpty())
         return nullptr;
+    Interrupt::watch(); // there is something to clean up
     try {
         return std::make_unique<MergedDocument>(all, options.pageList, options.password.password(),
                                                 Files::lastPathComponent(options.pdf),

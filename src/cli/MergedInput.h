@@ -11,7 +11,7 @@ struct PublishOptions;
 namespace MergedInput {
 
 // The files of the inputs, those of a folder by name, when they have to be merged: when there are
-// several, or the only one is a picture, or pages of it are chosen one by one. Empty for one
+// several, or the only one is no PDF, or pages of it are chosen one by one. Empty for one
 // document. Throws CommandError for a folder without any.
 QStringList files(const PublishOptions& options);
 

@@ -74,7 +74,8 @@ void addPaths(CLI::App& command, PublishOptions& options) {
                     options.pdf = QDir::cleanPath(QFileInfo(options.pdf).absoluteFilePath());
             },
             "The PDF file; or several PDFs, pictures and folders of them, whose pages\n"
-            "make one book in this order; or a project")
+            "make one book in this order; or a project. Other documents (Word, PowerPoint,\n"
+            "OpenDocument) need LibreOffice")
         ->type_name("")
         ->required();
     *folder = addPath(command, "FOLDER", options.outputFolder,

@@ -9,7 +9,7 @@
 #include <vector>
 
 // Pages of several documents and pictures as one document, in a temporary folder that goes with
-// this object.
+// this object. Documents of office programs are converted by LibreOffice.
 class MergedDocument {
 public:
     // pages: of those files; empty for all. name: a file name, after which the document is called.
@@ -25,6 +25,7 @@ public:
     const QString& path() const { return iPath; }
 
 private:
+    QString readable(const QString& file, int index, const std::function<bool()>& stopped) const;
     void merge(const QStringList& files, std::vector<MergePlan::Page> pages,
                const QByteArray& password, const std::function<bool()>& stopped) const;
 

@@ -135,4 +135,35 @@ TEST_F(MergedInput, AnErrorNamesTheFileThatItIsAbout) {
     }
 }
 
+// With programs that stand in for LibreOffice, which is too large to be installed for tests.
+TEST_F(MergedInput, DocumentsOfOfficeProgramsAreConverted) {
+    TestFiles::write(path("report.docx"), "words");
+    const QByteArray convert = "while [ $1 != --outdir ]; do shift; done; cp '" +
+                               Program::sample("links.pdf").toUtf8() + "' $2/report.pdf";
+    auto environment = QProcessEnvironment::systemEnvironment();
+    struct Case {
+        QByteArray script; // empty: not installed
+        int exitCode;
+        QByteArray error;
+    };
+    for (const auto& [script, exitCode, error] :
+         {Case{"", 1, "report.docx: needs LibreOffice, which is not installed"},
+          Case{"exit 0", 65, "report.docx: LibreOffice can't make a PDF of it"},
+          Case{convert, 0, ""}}) {
+        const QString program = path("bin/soffice");
+        environment.insert("PATH", path("bin") + (script.isEmpty() ? "" : ":/usr/bin:/bin"));
+        QDir().mkpath(path("bin"));
+        if (!script.isEmpty())
+            TestFiles::write(program, "#!/bin/sh\n" + script + "\n");
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+        const auto result = Program::runOther(
+            Program::path(), {"publish", "--quiet", path("report.docx"), book()}, environment);
+        EXPECT_EQ(result.exitCode, exitCode);
+        EXPECT_TRUE(result.errors.contains(error)) << result.errors.constData();
+        EXPECT_EQ(exists("index.html"), exitCode == 0);
+        QFile::remove(program);
+    }
+    EXPECT_GT(page(1)["links"].toArray().size(), 0);
+}
+
 } // namespace
