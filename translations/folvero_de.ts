@@ -588,6 +588,19 @@
         <source>Open &amp;recent</source>
         <translation>&amp;Zuletzt benutzt</translation>
     </message>
+    <message>
+        <source>P&amp;ages…</source>
+        <translation>&amp;Seiten…</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <extracomment>Beneath a picture in the toolbar: short.</extracomment>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Arrange, turn, remove and insert pages</source>
+        <translation>Seiten anordnen, drehen, entfernen und einfügen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -974,6 +987,181 @@
     </message>
 </context>
 <context>
+    <name>PagesModel</name>
+    <message numerus="yes">
+        <source>turning of %n page(s)</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>
+            <numerusform>Drehen von %n Seite</numerusform>
+            <numerusform>Drehen von %n Seiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>removal of %n page(s)</source>
+        <translation>
+            <numerusform>Entfernen von %n Seite</numerusform>
+            <numerusform>Entfernen von %n Seiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>move of %n page(s)</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>
+            <numerusform>Verschieben von %n Seite</numerusform>
+            <numerusform>Verschieben von %n Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>blank page</source>
+        <translation>Einfügen einer leeren Seite</translation>
+    </message>
+    <message numerus="yes">
+        <source>insertion of %n page(s)</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>
+            <numerusform>Einfügen von %n Seite</numerusform>
+            <numerusform>Einfügen von %n Seiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Blank page</source>
+        <translation>Leere Seite</translation>
+    </message>
+    <message>
+        <source>%1, page %2</source>
+        <extracomment>%1 is a file&apos;s name, %2 a page number in it.</extracomment>
+        <translation>%1, Seite %2</translation>
+    </message>
+    <message>
+        <source>Page %1: %2</source>
+        <extracomment>%1 is a page number in the book, %2 where the page comes from.</extracomment>
+        <translation>Seite %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PagesWindow</name>
+    <message>
+        <source>The book&apos;s pages</source>
+        <translation>Die Seiten des Buchs</translation>
+    </message>
+    <message>
+        <source>&amp;Use these pages</source>
+        <extracomment>The book is made of these pages, in this order.</extracomment>
+        <translation>Diese Seiten &amp;verwenden</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Insert…</source>
+        <extracomment>Beneath a picture in the toolbar, as the others here: short.</extracomment>
+        <translation>Einfügen…</translation>
+    </message>
+    <message>
+        <source>Insert PDFs and pictures before the selected page</source>
+        <translation>PDFs und Bilder vor der ausgewählten Seite einfügen</translation>
+    </message>
+    <message>
+        <source>Blank page</source>
+        <translation>Leere Seite</translation>
+    </message>
+    <message>
+        <source>Insert a blank page before the selected one</source>
+        <translation>Eine leere Seite vor der ausgewählten einfügen</translation>
+    </message>
+    <message>
+        <source>Turn left</source>
+        <translation>Nach links</translation>
+    </message>
+    <message>
+        <source>Turn the selected pages to the left</source>
+        <translation>Die ausgewählten Seiten nach links drehen</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>Nach rechts</translation>
+    </message>
+    <message>
+        <source>Turn the selected pages to the right</source>
+        <translation>Die ausgewählten Seiten nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Earlier</source>
+        <translation>Nach vorn</translation>
+    </message>
+    <message>
+        <source>Move the selected pages towards the beginning</source>
+        <translation>Die ausgewählten Seiten zum Anfang hin verschieben</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Nach hinten</translation>
+    </message>
+    <message>
+        <source>Move the selected pages towards the end</source>
+        <translation>Die ausgewählten Seiten zum Ende hin verschieben</translation>
+    </message>
+    <message>
+        <source>As cover</source>
+        <extracomment>The selected page becomes the book&apos;s cover.</extracomment>
+        <translation>Als Titelseite</translation>
+    </message>
+    <message>
+        <source>Move the selected page to the front of the book</source>
+        <translation>Die ausgewählte Seite an den Anfang des Buchs setzen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Take the selected pages out of the book</source>
+        <translation>Die ausgewählten Seiten aus dem Buch nehmen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>PagesWindowDelegate</name>
+    <message>
+        <source>PDFs and pictures (%1)</source>
+        <translation>PDFs und Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>Insert pages</source>
+        <translation>Seiten einfügen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n Seite</numerusform>
+            <numerusform>%n Seiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n ausgewählt</numerusform>
+            <numerusform>%n ausgewählt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>Open it</source>
@@ -1128,6 +1316,10 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>Folvero ended before they were saved, last on %1.</source>
         <translation>Folvero endete, bevor sie gespeichert waren, zuletzt am %1.</translation>
+    </message>
+    <message>
+        <source>The pages can&apos;t be arranged.</source>
+        <translation>Die Seiten können nicht angeordnet werden.</translation>
     </message>
 </context>
 <context>

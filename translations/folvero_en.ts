@@ -19,6 +19,57 @@
     </message>
 </context>
 <context>
+    <name>PagesModel</name>
+    <message numerus="yes">
+        <source>turning of %n page(s)</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>
+            <numerusform>turning of %n page</numerusform>
+            <numerusform>turning of %n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>removal of %n page(s)</source>
+        <translation>
+            <numerusform>removal of %n page</numerusform>
+            <numerusform>removal of %n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>move of %n page(s)</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>
+            <numerusform>move of %n page</numerusform>
+            <numerusform>move of %n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>insertion of %n page(s)</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>
+            <numerusform>insertion of %n page</numerusform>
+            <numerusform>insertion of %n pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PagesWindowDelegate</name>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform>
+            <numerusform>%n pages</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n selected</numerusform>
+            <numerusform>%n selected</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SelectTemplateWindowDelegate</name>
     <message numerus="yes">
         <source>%n more cannot be used.</source>

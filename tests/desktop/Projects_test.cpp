@@ -2,6 +2,7 @@
 #include "desktop/DesktopProgram.h"
 #include "project/ProjectFile.h"
 #include "support/Program.h"
+#include "ui/PagesWindowDelegate.h"
 
 #include <csignal>
 
@@ -92,6 +93,36 @@ TEST_F(Projects, BookIsTakenUpAgainAsItWas) {
     EXPECT_TRUE(publishSheet().mOutputType->button(OutputWindow::htmlBook)->isChecked());
     QTest::mouseClick(publishSheet().btnCancel, Qt::LeftButton);
     EXPECT_TRUE(TestFiles::read(path("out/index.html")).contains("Tea &amp; Cake"));
+}
+
+TEST_F(Projects, PagesThatWereArrangedMakeTheBookAndComeBackWithTheProject) {
+    launch();
+    import(pdf(3));
+    saveAs("tea.folvero");
+    auto& pages = program->pagesWindow();
+    trigger(&MainMenu::arrangePages);
+    EXPECT_EQ(pages.model().rowCount(), 3);
+    pages.model().remove({0});
+    pages.model().rotate({1}, 90);
+    QTest::mouseClick(pages.window().btnOK, Qt::LeftButton);
+    ASSERT_TRUE(waitForImport());
+    EXPECT_EQ(publishedPages(), 2u);
+    EXPECT_TRUE(window().isWindowModified());
+    saveAs("tea.folvero");
+    trigger(&MainMenu::newProject);
+    open(path("tea.folvero"));
+    EXPECT_EQ(publishedPages(), 2u);
+    EXPECT_FALSE(window().isWindowModified());
+
+    trigger(&MainMenu::arrangePages);
+    ASSERT_EQ(pages.model().rowCount(), 2);
+    EXPECT_EQ(pages.model().pages()[1].rotation, 90);
+    ASSERT_TRUE(QFile::rename(path("3 pages.pdf"), path("moved.pdf")));
+    pages.model().insertBlankPage(1);
+    QTest::mouseClick(pages.window().btnOK, Qt::LeftButton);
+    EXPECT_TRUE(window().messages->message().contains("3 pages.pdf"));
+    EXPECT_EQ(publishedPages(), 2u) << "the book stays as it was";
+    EXPECT_FALSE(window().isWindowModified());
 }
 
 TEST_F(Projects, ChangesAreNotLostUnasked) {

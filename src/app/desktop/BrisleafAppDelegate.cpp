@@ -15,6 +15,7 @@
 #include "ui/FlashTemplateOutline.h"
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindowDelegate.h"
+#include "ui/PagesWindowDelegate.h"
 #include "ui/SelectTemplateWindowDelegate.h"
 #include "ui/TemplateTexts.h"
 

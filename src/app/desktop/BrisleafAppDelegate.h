@@ -18,6 +18,7 @@ class FlashTemplateModel;
 class ImportWindowDelegate;
 class MainWindow;
 class OutputWindowDelegate;
+class PagesWindowDelegate;
 class QTimer;
 class SelectTemplateWindowDelegate;
 
@@ -65,6 +66,7 @@ public:
     // Null before the launch.
     MainWindow* window() const { return iWindow.get(); }
     ImportWindowDelegate& importWindow() const { return *iImportWindow; }
+    PagesWindowDelegate& pagesWindow() const { return *iPagesWindow; }
     OutputWindowDelegate& ouputWindow() const { return *iOuputWindow; }
     SelectTemplateWindowDelegate& selecteTmplWindow() const { return *iSelecteTmplWindow; }
     ProjectSession& project() const { return *iProject; }
@@ -121,6 +123,7 @@ private:
     PropertyHistory iHistory;
     std::unique_ptr<MainWindow> iWindow;
     std::unique_ptr<ImportWindowDelegate> iImportWindow;
+    std::unique_ptr<PagesWindowDelegate> iPagesWindow;
     std::unique_ptr<OutputWindowDelegate> iOuputWindow;
     std::unique_ptr<SelectTemplateWindowDelegate> iSelecteTmplWindow;
     std::shared_ptr<FlashTemplate> iFlashTmpl;

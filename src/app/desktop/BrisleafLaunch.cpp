@@ -16,6 +16,7 @@
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindow.h"
 #include "ui/OutputWindowDelegate.h"
+#include "ui/PagesWindowDelegate.h"
 #include "ui/PropertyCellDelegate.h"
 #include "ui/SelectTemplateWindowDelegate.h"
 
@@ -77,6 +78,7 @@ void BrisleafAppDelegate::makeWindows() {
     iImportWindow = std::make_unique<ImportWindowDelegate>(iWindow.get());
     iImportWindow->setFilePanel(iQuestions.fileToOpen);
     iImportWindow->setFileOpener(iQuestions.open);
+    iPagesWindow = std::make_unique<PagesWindowDelegate>(iWindow.get());
     iOuputWindow = std::make_unique<OutputWindowDelegate>(iWindow.get());
     iSelecteTmplWindow = std::make_unique<SelectTemplateWindowDelegate>(iWindow.get());
     iWindow->menu->showRecentFiles(RecentFiles::list());

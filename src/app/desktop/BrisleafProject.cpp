@@ -9,6 +9,7 @@
 #include "ui/FlashTemplateModel.h"
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindowDelegate.h"
+#include "ui/PagesWindowDelegate.h"
 
 #include <algorithm>
 #include <utility>
@@ -34,8 +35,8 @@ std::shared_ptr<FlashTemplate> templateOf(const Project& project) {
 
 void BrisleafAppDelegate::makeProject() {
     iProject = std::make_unique<ProjectSession>(
-        ProjectSession::Program{*iWindow, *iImportWindow, iOuputWindow->window(), iHistory.stack(),
-                                [this] { return look(); },
+        ProjectSession::Program{*iWindow, *iImportWindow, iOuputWindow->window(), *iPagesWindow,
+                                iHistory.stack(), [this] { return look(); },
                                 [this](const Project& project) { showLook(project); },
                                 [this] { applyChange(OtherBook); }, [this] { OnImportPDF(); },
                                 [this]() -> const Book& { return iBook; }},

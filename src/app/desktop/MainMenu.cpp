@@ -69,6 +69,10 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     //: Beneath a picture in the toolbar: short.
     importPDF->setIconText(tr("Import PDF"));
     importPDF->setToolTip(tr("Make the book from a PDF document"));
+    arrangePages = add(tr("P&ages…"), QStringLiteral("pages"), Qt::CTRL | Qt::Key_G);
+    //: Beneath a picture in the toolbar: short.
+    arrangePages->setIconText(tr("Pages"));
+    arrangePages->setToolTip(tr("Arrange, turn, remove and insert pages"));
     exportFlipBook = add(tr("&Publish the book…"), QStringLiteral("publish"), Qt::CTRL | Qt::Key_E);
     //: Beneath a picture in the toolbar: short.
     exportFlipBook->setIconText(tr("Publish"));
@@ -145,7 +149,7 @@ void MainMenu::fillMenuBar() {
     recentFiles->setStyle(new CoverStyle(recentFiles));
     file->addActions({saveProject, saveProjectAs});
     file->addSeparator();
-    file->addAction(importPDF);
+    file->addActions({importPDF, arrangePages});
     file->addSeparator();
     file->addActions({importSettings, exportSettings});
     file->addSeparator();
@@ -176,7 +180,7 @@ void MainMenu::fillToolBar() {
         gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
         bar->addWidget(gap);
     };
-    bar->addActions({importPDF, selectTemplate});
+    bar->addActions({importPDF, arrangePages, selectTemplate});
     bar->addSeparator();
     bar->addActions({undo, redo, toolBarItemApplyChange});
     addGap();

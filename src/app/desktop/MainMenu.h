@@ -21,6 +21,7 @@ public:
     QAction* saveProject;
     QAction* saveProjectAs;
     QAction* importPDF;
+    QAction* arrangePages;
     QMenu* recentFiles;
     QAction* exportFlipBook;
     QAction* importSettings;

@@ -16,6 +16,8 @@
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindow.h"
+#include "ui/PagesWindowDelegate.h"
+#include "util/PageRange.h"
 
 #include <QDir>
 #include <QEvent>
@@ -23,6 +25,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QLocale>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QTimer>
 #include <QUndoStack>
@@ -69,6 +72,7 @@ void ProjectSession::connectCommands() {
     connect(menu.openProject, &QAction::triggered, this, &ProjectSession::onOpen);
     connect(menu.saveProject, &QAction::triggered, this, &ProjectSession::onSave);
     connect(menu.saveProjectAs, &QAction::triggered, this, &ProjectSession::onSaveAs);
+    connect(menu.arrangePages, &QAction::triggered, this, &ProjectSession::onArrangePages);
     connect(&iProgram.edits, &QUndoStack::cleanChanged, this, &ProjectSession::updateTitle);
     connect(&iProgram.output, &QDialog::accepted, this, &ProjectSession::takePublish);
 }
@@ -167,45 +171,77 @@ void ProjectSession::show(const Project& project, const QString& path) {
     if (iDocuments.isEmpty())
         iProgram.showBook();
     else
-        importDocuments(project);
+        importDocuments();
     if (iOpening.isEmpty()) {
         iIsRecovering = false;
         showWarnings();
     }
 }
 
-void ProjectSession::importDocuments(const Project& project) {
+void ProjectSession::importDocuments() {
     try {
-        iOpening = documentToImport(project);
+        iOpening = documentToImport();
     } catch (const PlatformException& failure) {
+        const QString what =
+            iEarlier ? tr("The pages can't be arranged.") : tr("The project was not opened.");
         iOpening = iDocuments.front();
         importWasCancelled();
-        showError(tr("The project was not opened."), failure.message().local());
+        showError(what, failure.message().local());
         return;
     }
     iProgram.showImportSheet();
     ImportWindow& sheet = iProgram.import.window();
-    SheetChoices::set(sheet, project.import);
+    SheetChoices::set(sheet, iImport);
     sheet.txtImportFile->setText(iOpening);
     iProgram.import.onImportAction();
 }
 
 // Merges documents and pages that were chosen one by one.
-QString ProjectSession::documentToImport(const Project& project) {
+QString ProjectSession::documentToImport() {
     const QString& first = iDocuments.front();
-    if (iDocuments.size() == 1 && project.pages.empty() && isPDF(first))
+    if (iDocuments.size() == 1 && iPages.empty() && isPDF(first)) {
+        iMerged.reset();
         return first;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
-        iMerged = std::make_unique<MergedDocument>(iDocuments, project.pages, QByteArray(),
-                                                   Files::lastPathComponent(first),
-                                                   std::function<bool()>());
-    } catch (...) {
-        QGuiApplication::restoreOverrideCursor();
-        throw;
     }
-    QGuiApplication::restoreOverrideCursor();
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto atEnd = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    iMerged = std::make_shared<MergedDocument>(
+        iDocuments, iPages, QByteArray(), Files::lastPathComponent(first), std::function<bool()>());
     return iMerged->path();
+}
+
+void ProjectSession::onArrangePages() {
+    std::vector<MergePlan::Page> pages = iPages;
+    if (pages.empty() && iImport.isRangeTyped && iDocuments.size() == 1) {
+        for (const int page : pagesFromExpression(iImport.range, 0))
+            pages.push_back({0, page - 1});
+    }
+    QString failure;
+    const auto atEnd = [this](int returnCode) {
+        if (returnCode == 1)
+            takePages();
+    };
+    if (!iProgram.pages.beginSheet(iDocuments, std::move(pages), atEnd, &failure))
+        showError(tr("The pages can't be arranged."), failure);
+}
+
+void ProjectSession::takePages() {
+    if (iProgram.pages.model().history().isClean())
+        return;
+    iEarlier = {iDocuments, iPages, iImport, iMerged};
+    const PagesModel::Used used = iProgram.pages.model().used();
+    iDocuments = used.documents;
+    iPages = used.pages;
+    iImport.isRangeTyped = false;
+    importDocuments();
+}
+
+void ProjectSession::restorePages() {
+    iDocuments = iEarlier->documents;
+    iPages = iEarlier->pages;
+    iImport = iEarlier->import;
+    iMerged = iEarlier->merged;
+    iEarlier.reset();
 }
 
 QString ProjectSession::takeImport() {
@@ -227,7 +263,8 @@ QString ProjectSession::takeImport() {
         iProgram.import.window().txtImportFile->setText(iDocuments.front());
     }
     iImport = SheetChoices::importOf(iProgram.import.window());
-    iIsChanged = !isOpened || std::exchange(iIsRecovering, false);
+    iIsChanged = !isOpened || iEarlier || std::exchange(iIsRecovering, false);
+    iEarlier.reset();
     updateTitle();
     showWarnings();
     return iDocuments.front();
@@ -241,6 +278,10 @@ void ProjectSession::showWarnings() {
 void ProjectSession::importWasCancelled() {
     if (std::exchange(iOpening, {}).isEmpty())
         return;
+    if (iEarlier) {
+        restorePages();
+        return;
+    }
     iWarnings.clear();
     // What was recovered is not lost with a document that is gone: it can be saved.
     if (std::exchange(iIsRecovering, false))

@@ -14,6 +14,7 @@ class ImportWindowDelegate;
 class MainWindow;
 class MergedDocument;
 class OutputWindow;
+class PagesWindowDelegate;
 class QTimer;
 class QUndoStack;
 struct Book;
@@ -29,6 +30,7 @@ public:
         MainWindow& window;
         ImportWindowDelegate& import;
         OutputWindow& output;
+        PagesWindowDelegate& pages;
         QUndoStack& edits;
         // Template, style and values that are shown.
         std::function<Project()> look;
@@ -61,6 +63,8 @@ public:
     // False when the project was not saved.
     bool onSave();
     bool onSaveAs();
+    // Shows the sheet in which the pages are arranged, and makes the book anew of those.
+    void onArrangePages();
 
     bool isModified() const;
     void setModified();
@@ -82,9 +86,11 @@ private:
     bool mayLeave();
     void load(const QString& path);
     void show(const Project& project, const QString& path);
-    void importDocuments(const Project& project);
-    QString documentToImport(const Project& project);
+    void importDocuments();
+    QString documentToImport();
     void showWarnings();
+    void takePages();
+    void restorePages();
     void takePublish();
     void autosave();
     Project current();
@@ -109,7 +115,15 @@ private:
     QString iOpening;
     bool iIsRecovering = false;
     QStringList iWarnings; // of the project that is opened
-    std::unique_ptr<MergedDocument> iMerged;
+    std::shared_ptr<MergedDocument> iMerged;
+    // While pages that were arranged are imported: what the shown book is made of.
+    struct Sources {
+        QStringList documents;
+        std::vector<MergePlan::Page> pages;
+        Project::Import import;
+        std::shared_ptr<MergedDocument> merged;
+    };
+    std::optional<Sources> iEarlier;
     QHash<QString, std::pair<FileState, Project::File>> iDescribed;
     ProjectRecovery iRecovery;
     std::unique_ptr<QTimer> iAutosave;

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "ui/PagePictures.h"
+#include "ui/PagesModel.h"
+#include "ui/PagesWindow.h"
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+
+// Controls the sheet in which the pages of a book are arranged. The result is what the model has
+// when the sheet has ended with 1.
+class PagesWindowDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    using FilesPanel = std::function<QStringList(const QString& title)>;
+
+    // The window belongs to the parent.
+    explicit PagesWindowDelegate(QWidget* parent = nullptr);
+    ~PagesWindowDelegate() override;
+
+    // documents: paths of PDFs and pictures. pages: of these, as in a MergePlan; empty for all.
+    // Returns false, and shows no sheet, when a document can't be read; *failure says why.
+    bool beginSheet(const QStringList& documents, PagesModel::Pages pages,
+                    std::function<void(int returnCode)> onEnd, QString* failure);
+    void setFilesPanel(FilesPanel panel) { iFilesPanel = std::move(panel); }
+
+    PagesWindow& window() const { return *iWindow; }
+    PagesModel& model() { return iModel; }
+
+private:
+    void wire();
+    void showCommands();
+    void select(const PagesModel::Rows& rows);
+    PagesModel::Rows selected() const;
+    int insertionRow() const;
+    void moveBy(int rows);
+    void insertFiles(const QStringList& files, int before);
+    void showFailure(const QString& failure);
+    void drawPictures(int from);
+    void endSheet(int returnCode);
+
+    QPointer<PagesWindow> iWindow;
+    PagesModel iModel;
+    PagePictures iPictures;
+    FilesPanel iFilesPanel;
+    std::function<void(int)> iOnEnd;
+};

@@ -1,0 +1,130 @@
+#include "ui/PagesWindow.h"
+
+#include "support/Program.h"
+#include "ui/PagesWindowDelegate.h"
+
+#include <QAction>
+#include <QFileInfo>
+#include <QImage>
+#include <QListView>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The sheet with the nine pages of a document.
+class PagesSheet : public testing::Test {
+protected:
+    void SetUp() override {
+        QString failure;
+        ASSERT_TRUE(delegate.beginSheet(
+            {Program::sample("outline.pdf")}, {}, [this](int code) { ended = code; }, &failure))
+            << failure.toStdString();
+    }
+
+    // Pages by their number in the document, "-" for a blank one, "b1" of the second document, each
+    // with a turn that is not 0; selected ones in brackets.
+    std::string shown() {
+        QStringList all;
+        const auto* chosen = delegate.window().pages->selectionModel();
+        for (int row = 0; row < delegate.model().rowCount(); ++row) {
+            const auto& page = delegate.model().pages()[std::size_t(row)];
+            QString text = page.source < 0 ? QStringLiteral("-") : QString::number(page.index + 1);
+            if (page.source == 1)
+                text.prepend('b');
+            if (page.rotation)
+                text += '/' + QString::number(page.rotation);
+            const bool isChosen = chosen->isSelected(delegate.model().index(row));
+            all << (isChosen ? '[' + text + ']' : text);
+        }
+        return all.join(' ').toStdString();
+    }
+
+    void choose(const QList<int>& rows) {
+        auto* selection = delegate.window().pages->selectionModel();
+        selection->clear();
+        for (const int row : rows)
+            selection->select(delegate.model().index(row), QItemSelectionModel::Select);
+    }
+
+    bool drop(const QMimeData& data, int row) {
+        return delegate.model().dropMimeData(&data, Qt::MoveAction, row, 0, {});
+    }
+
+    PagesWindowDelegate delegate;
+    PagesWindow& window = delegate.window();
+    int ended = -1;
+};
+
+TEST_F(PagesSheet, EachCommandArrangesWhatIsSelectedAndCanBeUndone) {
+    struct Step {
+        QAction* command;
+        QList<int> rows;
+        const char* after;
+    };
+    const std::string before = shown();
+    ASSERT_EQ(before, "1 2 3 4 5 6 7 8 9");
+    const std::vector<Step> steps{
+        {window.turnLeft, {0, 2}, "[1/270] 2 [3/270] 4 5 6 7 8 9"},
+        {window.removePages, {1, 8}, "1/270 [3/270] 4 5 6 7 8"},
+        {window.later, {0, 2}, "3/270 5 [1/270] [4] 6 7 8"},
+        {window.earlier, {6}, "3/270 5 1/270 4 6 [8] 7"},
+        {window.makeFirst, {5}, "[8] 3/270 5 1/270 4 6 7"},
+        {window.insertBlankPage, {2}, "8 3/270 [-] 5 1/270 4 6 7"},
+        {window.turnRight, {1}, "8 [3] - 5 1/270 4 6 7"},
+    };
+    for (const auto& [command, rows, after] : steps) {
+        choose(rows);
+        command->trigger();
+        EXPECT_EQ(shown(), after) << command->text().toStdString();
+    }
+    for (std::size_t step = 0; step < steps.size(); ++step)
+        window.undo->trigger();
+    EXPECT_EQ(shown(), before);
+    EXPECT_FALSE(window.undo->isEnabled());
+    for (std::size_t step = 0; step < steps.size(); ++step)
+        window.redo->trigger();
+    EXPECT_EQ(shown(), steps.back().after);
+}
+
+TEST_F(PagesSheet, PagesAreDraggedBetweenOthersAndFilesFromOutside) {
+    auto& model = delegate.model();
+    const std::unique_ptr<QMimeData> dragged(model.mimeData({model.index(5), model.index(1)}));
+    EXPECT_FALSE(drop(*dragged, 3));
+    EXPECT_EQ(shown(), "1 3 [2] [6] 4 5 7 8 9");
+    QTemporaryDir folder;
+    const QString picture = folder.filePath("cover.png");
+    QImage image(30, 40, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.save(picture);
+    QMimeData files;
+    files.setUrls(
+        {QUrl::fromLocalFile(picture), QUrl::fromLocalFile(Program::sample("truncated.pdf"))});
+    drop(files, 0);
+    EXPECT_EQ(shown(), "[b1] 1 3 2 6 4 5 7 8 9");
+    EXPECT_EQ(model.used().documents, QStringList({Program::sample("outline.pdf"), picture}));
+    EXPECT_EQ(model.used().pages.size(), 10U);
+    EXPECT_TRUE(window.findChild<QWidget*>("lblFailure")->isVisible());
+}
+
+TEST_F(PagesSheet, PicturesOfItsPagesArriveAndTheAnswerIsTold) {
+    auto& model = delegate.model();
+    const auto picture = [&](int row) { return model.index(row).data(PagesModel::pictureRole); };
+    QTRY_VERIFY_WITH_TIMEOUT(!picture(8).toString().isEmpty(), 60000);
+    EXPECT_TRUE(QFileInfo::exists(picture(0).toString()));
+    choose({0, 1, 2, 3, 4, 5, 6, 7, 8});
+    window.removePages->trigger();
+    EXPECT_FALSE(window.btnOK->isEnabled()) << "a book has pages";
+    window.undo->trigger();
+    EXPECT_EQ(model.used().pages.size(), 0U) << "all as they stand";
+    window.btnOK->click();
+    EXPECT_EQ(ended, 1);
+    EXPECT_FALSE(window.isVisible());
+}
+
+} // namespace
