@@ -764,10 +764,6 @@
 <context>
     <name>OutputWindowDelegate</name>
     <message>
-        <source>The folder %1 could not be made.</source>
-        <translation>Der Ordner %1 konnte nicht angelegt werden.</translation>
-    </message>
-    <message>
         <source>The book was not published</source>
         <translation>Das Buch wurde nicht veröffentlicht</translation>
     </message>
@@ -828,6 +824,10 @@
         <source>The settings offer it for download, but %1.</source>
         <extracomment>%1 is a reason, such as &quot;it opens with a password only&quot;</extracomment>
         <translation>Die Einstellungen bieten es zum Herunterladen an, aber %1.</translation>
+    </message>
+    <message>
+        <source>The folder %1 could not be made: %2</source>
+        <translation>Der Ordner %1 konnte nicht angelegt werden: %2</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <cerrno>
 #include <utility>
 
 namespace {
@@ -167,8 +168,8 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     const QString name = pageName();
     if (AppSettings::shareInstance().outputType() == OutputWindow::application)
         return std::make_unique<FolveroOutputApp>(iBook.pageSource, iFlashTmpl, folder, name);
-    if (!QFileInfo::exists(folder))
-        QDir().mkdir(folder);
+    errno = 0;
+    iFolderFailure = QDir().mkpath(folder) ? QString() : Message::ofLastSystemError().local();
     if (AppSettings::shareInstance().outputType() != OutputWindow::webBook)
         return std::make_unique<FolveroOutput>(iBook.pageSource, iFlashTmpl, folder, name);
     auto output = std::make_unique<FolveroOutputWeb>(iBook.pageSource, iFlashTmpl, folder, name);
@@ -296,10 +297,10 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     output.ouputTheBook();
     const QString result = output.outputFileName();
     if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
-        const QString cause =
-            output.publishErrors().isEmpty()
-                ? tr("The folder %1 could not be made.").arg(QFileInfo(result).path())
-                : localTexts(output.publishMessages()).join(u'\n');
+        const QString cause = output.publishErrors().isEmpty()
+                                  ? tr("The folder %1 could not be made: %2")
+                                        .arg(QFileInfo(result).path(), iFolderFailure)
+                                  : localTexts(output.publishMessages()).join(u'\n');
         iQuestions.showMessage(tr("The book was not published"), cause);
         return;
     }

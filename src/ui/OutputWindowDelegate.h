@@ -85,6 +85,7 @@ private:
     Questions iQuestions;
     // Of the current run.
     std::unique_ptr<FolveroOutput> iOutput;
+    QString iFolderFailure;              // why its folder could not be made
     QPointer<QProgressDialog> iProgress; // while web files are made
     // Last, so that it is destroyed first: its thread must end before anything that it may use.
     OperationQueue iQueue;

@@ -97,11 +97,11 @@ protected:
 TEST_F(PublishSheet, PublishesAPageIntoAFolderThatItMakes) {
     openAnswer = true;
     open();
-    window().txtOutputFolder->setText(book.folder() + "/new");
+    window().txtOutputFolder->setText(book.folder() + "/all/new");
     publish();
-    EXPECT_TRUE(book.read("new/mybook.html").endsWith("<title>Tea &amp; cake</title>"));
-    EXPECT_EQ(book.read("new/files/page/1.jpg"), "first");
-    EXPECT_EQ(opened, QStringList{book.folder() + "/new/mybook.html"});
+    EXPECT_TRUE(book.read("all/new/mybook.html").endsWith("<title>Tea &amp; cake</title>"));
+    EXPECT_EQ(book.read("all/new/files/page/1.jpg"), "first");
+    EXPECT_EQ(opened, QStringList{book.folder() + "/all/new/mybook.html"});
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_FALSE(window().isVisible());
 }
@@ -298,12 +298,14 @@ TEST_F(PublishSheet, NamesWhatAnApplicationOrATemplateLacks) {
 }
 
 TEST_F(PublishSheet, RemembersTheChoicesAlsoWhenPublishingFails) {
+    book.write("no", "a file");
     open();
-    window().txtOutputFolder->setText("/no/such/folder");
+    const QString folder = book.folder() + "/no/such/folder";
+    window().txtOutputFolder->setText(folder);
     window().txtOutputName->setText("other");
     window().txtTitle->setText("Other");
     publish();
-    EXPECT_EQ(told, QStringList{"The folder /no/such/folder could not be made."});
+    EXPECT_EQ(told, QStringList{"The folder " + folder + " could not be made: Not a directory"});
     EXPECT_TRUE(questions.isEmpty());
     EXPECT_EQ(ended, QList<int>{1});
     AppSettings::shareInstance().loadSettings();
