@@ -53,6 +53,11 @@
         <extracomment>The help in your language; keep the path as it is until there is one.</extracomment>
         <translation>PDF to Folvero for mac Help/PDF to Folvero for Mac.de.pdf</translation>
     </message>
+    <message>
+        <source>choice of template</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>Wahl der Vorlage</translation>
+    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>

@@ -115,8 +115,8 @@ TEST_F(Editing, SettingsGoToAFileAndComeBack) {
     EXPECT_NE(TestFiles::read(path("mine.txt")), "of another book");
 }
 
-TEST_F(Editing, AnotherStyleKeepsThePageSizeAndClearsTheHistory) {
-    const QString width = value("pageWidth");
+TEST_F(Editing, AnotherStyleKeepsEditsAndIsUndone) {
+    const QString width = value("pageWidth"), ground = value("bgEndColor");
     edit("topMargin", "40");
     QTest::mouseClick(window().btnFloat, Qt::LeftButton);
     auto& chooser = program->selecteTmplWindow();
@@ -130,9 +130,24 @@ TEST_F(Editing, AnotherStyleKeepsThePageSizeAndClearsTheHistory) {
     EXPECT_EQ(program->flashTmpl()->styleName(), style);
     EXPECT_EQ(window().btnFloat->text(), "Desk");
     EXPECT_EQ(value("pageWidth"), width);
-    EXPECT_FALSE(window().menu->undo->isEnabled());
+    EXPECT_EQ(published("Properties/Top"), "40");
+    const QString ofStyle = value("bgEndColor");
+    EXPECT_NE(ofStyle, ground);
     EXPECT_FALSE(program->isChangePending());
     EXPECT_TRUE(waitForNewPreview("true"));
     window().menu->selectTemplate->trigger();
     EXPECT_TRUE(chooser.selectedStyle().endsWith("/desk/" + style + "/shot.jpg"));
+    chooser.onCancel();
+
+    window().menu->undo->trigger();
+    EXPECT_EQ(window().btnFloat->text(), "Float");
+    EXPECT_EQ(value("bgEndColor"), ground);
+    EXPECT_EQ(published("Properties/Top"), "40");
+    window().menu->undo->trigger();
+    EXPECT_EQ(valueOf("topMargin").data().toString(), "12") << "edits before it are undone as well";
+    for (int i = 0; i < 2; ++i)
+        window().menu->redo->trigger();
+    EXPECT_EQ(program->flashTmpl()->styleName(), style);
+    EXPECT_EQ(value("bgEndColor"), ofStyle);
+    EXPECT_EQ(value("topMargin"), "40");
 }

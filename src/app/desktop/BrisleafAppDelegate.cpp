@@ -221,7 +221,7 @@ void BrisleafAppDelegate::OnImportTmplSettings() {
     iFlashTmpl->importPropertiesSettingsFrom(file);
     iIsDirectionChosen = iIsDirectionChosen || !file.isEmpty();
     //: Stands in "Undo %1".
-    iHistory.recordEdits(tr("loading of settings"));
+    iHistory.recordLook(tr("loading of settings"));
     iOutline->reloadValues();
     applyChange(SameBook);
 }
@@ -240,10 +240,11 @@ void BrisleafAppDelegate::selectTmplWindowDidEnd(int returnCode) {
         return;
     const QString styleFolder = QFileInfo(shot).path();
     const QString name = QFileInfo(styleFolder).dir().dirName();
-    iFlashTmpl->changeTmplTo(name, styleFolder);
+    iIsDirectionChosen = iHistory.isEdited(direction);
     iWindow->messages->hide();
-    showTemplate(name);
-    iProject->setModified();
+    //: Stands in "Undo %1".
+    iHistory.changeTemplate(name, styleFolder, tr("choice of template"));
+    showTemplate();
     applyChange(SameBook);
 }
 
@@ -265,11 +266,21 @@ void BrisleafAppDelegate::takeDirectionOfDocument() {
                                      iBook.rightToLeft ? QStringLiteral("YES") : iOwnDirection);
 }
 
-void BrisleafAppDelegate::showTemplate(const QString& name) {
+void BrisleafAppDelegate::templateWasLoaded() {
     iOwnDirection = iFlashTmpl->propertyValueFor(direction, QStringLiteral("NO"));
-    iIsDirectionChosen = false;
     takeDirectionOfDocument();
-    iHistory.reset(iFlashTmpl);
+}
+
+// The document may have come after the choice that is undone.
+void BrisleafAppDelegate::templateWasUndone() {
+    takeDirectionOfDocument();
+    iHistory.snapshotValues();
+    showTemplate();
+    applyChange(SameBook);
+}
+
+void BrisleafAppDelegate::showTemplate() {
+    const QString name = iFlashTmpl->tmplName();
     iOutline->reloadData();
     iWindow->outlineView->expandAll();
     iWindow->btnFloat->setText(TemplateTexts::templateName(name));

@@ -99,7 +99,9 @@ private:
     void makeWindows();
     void loadDemoPages();
     void showEditor();
-    void showTemplate(const QString& name);
+    void showTemplate();
+    void templateWasLoaded();
+    void templateWasUndone();
     void takeDirectionOfDocument();
     void connectCommands();
     void observeEditor();

@@ -38,7 +38,8 @@ BrisleafAppDelegate::BrisleafAppDelegate()
                  Panels::askToReplace, Panels::chooseColor,
                  Panels::open,         Panels::about,
                  Panels::askToSave,    Panels::askToRecover},
-      iHistory([this] { valuesWereUndone(); }) {}
+      iHistory({[this] { valuesWereUndone(); }, [this] { templateWasLoaded(); },
+                [this] { templateWasUndone(); }}) {}
 
 BrisleafAppDelegate::~BrisleafAppDelegate() {
     applicationWillTerminate();
@@ -108,7 +109,9 @@ void BrisleafAppDelegate::showEditor() {
     view->setIndentation(indentationPerLevel);
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { tmplDelegate->outlineViewSelectionDidChange(); });
-    showTemplate(iFlashTmpl->tmplName());
+    templateWasLoaded();
+    iHistory.reset(iFlashTmpl);
+    showTemplate();
 }
 
 void BrisleafAppDelegate::observeEditor() {

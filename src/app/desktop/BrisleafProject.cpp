@@ -82,7 +82,9 @@ void BrisleafAppDelegate::showLook(const Project& project) {
     iDocument = QStringLiteral("");
     loadDemoPages();
     AppSettings::shareInstance().setPageSize(Book::defaultPageSize);
-    showTemplate(project.templateName);
+    templateWasLoaded();
+    iHistory.reset(iFlashTmpl);
+    showTemplate();
     ProjectValues::apply(project.values, *iFlashTmpl);
     iIsDirectionChosen = std::any_of(project.values.begin(), project.values.end(), isDirection);
     iHistory.snapshotValues();
