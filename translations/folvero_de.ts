@@ -58,6 +58,14 @@
         <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
         <translation>Wahl der Vorlage</translation>
     </message>
+    <message>
+        <source>These files are missing. The book is shown without them.</source>
+        <translation>Diese Dateien fehlen. Das Buch wird ohne sie gezeigt.</translation>
+    </message>
+    <message>
+        <source>Choose others in the settings, or clear the fields.</source>
+        <translation>Wählen Sie in den Einstellungen andere, oder leeren Sie die Felder.</translation>
+    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
@@ -833,6 +841,14 @@
     <message>
         <source>The folder %1 could not be made: %2</source>
         <translation>Der Ordner %1 konnte nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>These files are missing. The book was published without them.</source>
+        <translation>Diese Dateien fehlen. Das Buch wurde ohne sie veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>Choose others in the settings, or clear the fields, and publish again.</source>
+        <translation>Wählen Sie in den Einstellungen andere, oder leeren Sie die Felder, und veröffentlichen Sie noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -2228,6 +2244,26 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>No picture</source>
         <translation>Kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>ValueEditor</name>
+    <message>
+        <source>A colour: #RRGGBB, 0xRRGGBB, or an English name such as “red”.</source>
+        <translation>Eine Farbe: #RRGGBB, 0xRRGGBB oder ein englischer Name wie „red“.</translation>
+    </message>
+    <message>
+        <source>The file %1 does not exist. Books are made without it.</source>
+        <translation>Die Datei %1 gibt es nicht. Bücher werden ohne sie gemacht.</translation>
+    </message>
+    <message>
+        <source>A number.</source>
+        <translation>Eine Zahl.</translation>
+    </message>
+    <message>
+        <source>A number from %1 to %2%3.</source>
+        <extracomment>%1 and %2 are numbers, %3 is a unit with a space before it, or nothing.</extracomment>
+        <translation>Eine Zahl von %1 bis %2%3.</translation>
     </message>
 </context>
 <context>

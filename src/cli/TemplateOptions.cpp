@@ -5,6 +5,7 @@
 #include "project/ProjectValues.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
+#include "util/ColorCategory.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -43,7 +44,6 @@ const FlashTemplateProperty* findIn(const FlashTemplate::Properties& nodes, cons
 // from any folder.
 QString checkedValue(const FlashTemplateProperty& property, const QString& value) {
     static const QRegularExpression number(QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)$"));
-    static const QRegularExpression colour(QStringLiteral("^(0[xX]|#)?[0-9a-fA-F]{6}$"));
     static const QRegularExpression boolean(QStringLiteral("^(yes|no|true|false)$"),
                                             QRegularExpression::CaseInsensitiveOption);
     const QString key = property.key();
@@ -53,9 +53,9 @@ QString checkedValue(const FlashTemplateProperty& property, const QString& value
             refuse(key, value, QStringLiteral("a number"));
         return value;
     case pt_color:
-        if (!colour.match(value).hasMatch())
+        if (MyColorOper::hexRGBFromText(value).isNull())
             refuse(key, value, QStringLiteral("a colour such as 0x1E90FF"));
-        return QStringLiteral("0x") + value.right(6);
+        return MyColorOper::hexRGBFromText(value);
     case pt_list:
         if (!TemplateOptions::choices(property).contains(value)) {
             refuse(key, value,

@@ -53,26 +53,29 @@ bool replaceWithCopy(PublishTarget& to, const QString& source, const QString& fo
     PublishTransaction::fail(path, Message::ofSystemError(isBack ? EIO : errno));
 }
 
-void copySettingsFile(PublishTarget& to, const FlashTemplateProperty& property) {
+void copySettingsFile(PublishTarget& to, const FlashTemplateProperty& property,
+                      QStringList& missing) {
     const QString name = BookName::withExtensionOf(property.key(), property.value());
-    if (!replaceWithCopy(to, property.value(), BookLayout::settingsFiles, name,
-                         Copy::independent) &&
-        !property.value().isEmpty())
-        logger.warn(QStringLiteral("the file of setting %1 was left out: %2")
-                        .arg(property.key(), property.value()));
+    if (replaceWithCopy(to, property.value(), BookLayout::settingsFiles, name, Copy::independent) ||
+        property.value().isEmpty())
+        return;
+    missing << property.value();
+    logger.warn(QStringLiteral("the file of setting %1 was left out: %2")
+                    .arg(property.key(), property.value()));
 }
 
-void copySettingsFilesBelow(PublishTarget& to, const FlashTemplateProperty& property) {
+void copySettingsFilesBelow(PublishTarget& to, const FlashTemplateProperty& property,
+                            QStringList& missing) {
     for (const auto& child : property.childProperties()) {
         if (!child)
             continue;
         if (child->propertyType() == pt_file && !child->value().isEmpty()) {
-            copySettingsFile(to, *child);
+            copySettingsFile(to, *child, missing);
             // Children of a missing file are left out with it.
             if (!isReadableFile(child->value()))
                 continue;
         }
-        copySettingsFilesBelow(to, *child);
+        copySettingsFilesBelow(to, *child, missing);
     }
 }
 
@@ -150,8 +153,8 @@ PublishStep BookSteps::zoomedPages(FlashPageSource::Pages pages) {
             }};
 }
 
-PublishStep BookSteps::settingsFiles(const FlashTemplate* flashTemplate) {
-    return {"files of settings", [=](PublishTarget& to) {
+PublishStep BookSteps::settingsFiles(const FlashTemplate* flashTemplate, QStringList& missing) {
+    return {"files of settings", [flashTemplate, &missing](PublishTarget& to) {
                 to.transaction.makeFolder(to.layout.at(BookLayout::settingsFiles, {}));
                 if (!flashTemplate)
                     return;
@@ -159,15 +162,17 @@ PublishStep BookSteps::settingsFiles(const FlashTemplate* flashTemplate) {
                     if (!property)
                         continue;
                     if (property->propertyType() == pt_file)
-                        copySettingsFile(to, *property);
-                    copySettingsFilesBelow(to, *property);
+                        copySettingsFile(to, *property, missing);
+                    copySettingsFilesBelow(to, *property, missing);
                 }
             }};
 }
 
-PublishStep BookSteps::settingsFilesBelow(const FlashTemplateProperty& property) {
-    return {"files of a setting",
-            [&property](PublishTarget& to) { copySettingsFilesBelow(to, property); }};
+PublishStep BookSteps::settingsFilesBelow(const FlashTemplateProperty& property,
+                                          QStringList& missing) {
+    return {"files of a setting", [&property, &missing](PublishTarget& to) {
+                copySettingsFilesBelow(to, property, missing);
+            }};
 }
 
 PublishStep BookSteps::clearedSettings(const FlashTemplate* flashTemplate) {

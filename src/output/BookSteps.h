@@ -25,9 +25,10 @@ PublishStep pages(FlashPageSource::Pages pages, const FlashPageSource* source,
 // Larger page files, into a folder that exists already.
 PublishStep zoomedPages(FlashPageSource::Pages pages);
 
-// The files that the template's properties, or the descendants of one, name.
-PublishStep settingsFiles(const FlashTemplate* flashTemplate);
-PublishStep settingsFilesBelow(const FlashTemplateProperty& property);
+// The files that the template's properties, or the descendants of one, name. Adds the paths of
+// those that are left out, since they are missing or not readable.
+PublishStep settingsFiles(const FlashTemplate* flashTemplate, QStringList& missing);
+PublishStep settingsFilesBelow(const FlashTemplateProperty& property, QStringList& missing);
 // Removes those of an earlier run for properties that are empty now.
 PublishStep clearedSettings(const FlashTemplate* flashTemplate);
 // Full paths of such files.

@@ -108,7 +108,7 @@ PublishSteps FolveroOutput::steps() {
     PublishSteps steps{BookSteps::clearedSettings(flashTemplate), pages()};
     if (!iZoomedPageSameAsNormalPage)
         steps << zoomedPages();
-    return steps << BookSteps::settingsFiles(flashTemplate)
+    return steps << BookSteps::settingsFiles(flashTemplate, iMissingFiles)
                  << BookSteps::linkedFiles(iBook.annotations.get())
                  << BookSteps::htmlPage(outputHTMLFileName(), flashTemplate, iHTMLConfig.get())
                  << BookSteps::configuration(layout().at(BookLayout::configuration), bookXML())
@@ -149,6 +149,7 @@ bool FolveroOutput::run(const BookLayout& book, const PublishSteps& steps,
 void FolveroOutput::resetResults() {
     iOutcome = {};
     iMissingPages.clear();
+    iMissingFiles.clear();
 }
 
 void FolveroOutput::reportFailure(const Message& reason) {
@@ -172,11 +173,11 @@ void FolveroOutput::prepaireZoomendPage(const QString& base) {
 void FolveroOutput::prepaireThumbPage(const QString& /*base*/) {}
 
 void FolveroOutput::prepaireExtFiles(const QString& base) {
-    run(layoutFor(base), {BookSteps::settingsFiles(iFlashTemplate.get())});
+    run(layoutFor(base), {BookSteps::settingsFiles(iFlashTemplate.get(), iMissingFiles)});
 }
 
 void FolveroOutput::prepaireExtFiles(const QString& base, const FlashTemplateProperty& atChildPro) {
-    run(layoutFor(base), {BookSteps::settingsFilesBelow(atChildPro)});
+    run(layoutFor(base), {BookSteps::settingsFilesBelow(atChildPro, iMissingFiles)});
 }
 
 void FolveroOutput::PrepareAnnotationFiles(const QString& base) {

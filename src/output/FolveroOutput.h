@@ -63,6 +63,8 @@ public:
     const PublishTransaction::Counts& fileCounts() const { return iOutcome.counts; }
     // Numbers of the pages that the last run left out because their file was missing.
     const std::vector<int>& missingPages() const { return iMissingPages; }
+    // Files of settings that the last run left out because they were missing or not readable.
+    const QStringList& missingFiles() const { return iMissingFiles; }
     // Polled between files; true cancels a run without a change to the folder.
     void setCancelled(std::function<bool()> isCancelled) { iIsCancelled = std::move(isCancelled); }
     // Whether the last run was cancelled.
@@ -138,6 +140,7 @@ protected:
     const QString iAnnotationFilesFolder = BookLayout::linkedFiles;
     bool iZoomedPageSameAsNormalPage = true;
     std::vector<int> iMissingPages;
+    QStringList iMissingFiles;
 
 private:
     PublishStep pages();

@@ -1,5 +1,9 @@
 #include "ui/FlashTmplFileCell.h"
 
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
 #include <cmath>
 
 namespace {
@@ -8,6 +12,7 @@ constexpr qreal titleLeft = 4;
 constexpr qreal titleKept = 21;
 constexpr qreal buttonFromRight = 14;
 constexpr qreal tallest = 3;
+constexpr int darkBelow = 128;
 
 } // namespace
 
@@ -33,5 +38,21 @@ QSizeF FlashTmplFileCell::cellSizeForBounds(const QRectF& bounds) const {
 
 void FlashTmplFileCell::drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const {
     drawTitle(painter, frame);
+    if (isMissing(title())) {
+        const QRectF text = titleRectForBounds(frame);
+        painter.setPen(QPen(titleColor(), 1, Qt::DotLine));
+        painter.drawLine(text.bottomLeft(), text.bottomRight());
+    }
     drawInfoButton(painter, frame);
+}
+
+bool FlashTmplFileCell::isMissing(const QString& path) {
+    return !path.isEmpty() && !QFileInfo(path).isFile();
+}
+
+QColor FlashTmplFileCell::titleColor() const {
+    if (isHighlighted() || !isMissing(title()))
+        return TextFieldCell::titleColor();
+    const bool isDark = QGuiApplication::palette().color(QPalette::Base).lightness() < darkBelow;
+    return isDark ? QColor(0xff, 0x9a, 0x8d) : QColor(0xb4, 0x23, 0x18);
 }

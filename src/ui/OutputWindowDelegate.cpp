@@ -315,6 +315,12 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
                "then publish once more.")
                 .arg(pages.join(QStringLiteral(", "))));
     }
+    if (!output.missingFiles().isEmpty()) {
+        iQuestions.showMessage(
+            tr("These files are missing. The book was published without them."),
+            output.missingFiles().join(u'\n') + u'\n' +
+                tr("Choose others in the settings, or clear the fields, and publish again."));
+    }
     if (const Message reason = output.documentLeftOut(); !reason.isNull()) {
         iQuestions.showMessage(
             tr("Readers can't download the document"),

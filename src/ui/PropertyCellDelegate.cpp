@@ -1,14 +1,18 @@
 #include "ui/PropertyCellDelegate.h"
 
+#include "ui/PlainText.h"
 #include "ui/TemplateTexts.h"
+#include "ui/ValueEditor.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 #include <QTreeView>
 
 namespace {
@@ -55,17 +59,6 @@ bool isEditKey(const QKeyEvent& event) {
 bool isEditedAsText(const QModelIndex& index) {
     const int type = FlashTemplateModel::item(index)->propertyType();
     return index.flags().testFlag(Qt::ItemIsEditable) && type != pt_bool && type != pt_list;
-}
-
-// Players expect a decimal point, whatever the user's locale.
-void replaceCommasWithPoints(QLineEdit& edit) {
-    QObject::connect(&edit, &QLineEdit::textEdited, &edit, [&edit](QString text) {
-        if (!text.contains(u','))
-            return;
-        const int cursor = edit.cursorPosition();
-        edit.setText(text.replace(u',', u'.'));
-        edit.setCursorPosition(cursor);
-    });
 }
 
 bool isLeftButton(const QEvent& event, QEvent::Type type) {
@@ -136,14 +129,8 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
     const FlashTemplateProperty* item = FlashTemplateModel::item(index);
     if (item->propertyType() == pt_bool)
         return nullptr;
-    if (item->propertyType() != pt_list) {
-        auto* edit = new QLineEdit(parent);
-        edit->setFrame(false);
-        edit->setAccessibleName(TemplateTexts::shown(item->title()));
-        if (item->propertyType() == pt_number)
-            replaceCommasWithPoints(*edit);
-        return edit;
-    }
+    if (item->propertyType() != pt_list)
+        return new ValueEditor(*item, parent);
     auto* list = new ListEditor(parent);
     for (const QString& choice : FlashTemplateOutlineDelegate::choices(*item))
         list->addItem(TemplateTexts::shown(choice));
@@ -176,8 +163,8 @@ void PropertyCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* mod
     if (const auto* list = qobject_cast<QComboBox*>(editor)) {
         if (list->currentIndex() >= 0)
             model->setData(index, list->currentIndex());
-    } else if (const auto* edit = qobject_cast<QLineEdit*>(editor)) {
-        model->setData(index, edit->text());
+    } else if (const auto* edit = qobject_cast<ValueEditor*>(editor)) {
+        model->setData(index, edit->value());
     }
 }
 
@@ -228,6 +215,16 @@ bool PropertyCellDelegate::trackButton(QMouseEvent& event, const QStyleOptionVie
     iTracked = std::move(cell);
     iTrackedIndex = index;
     iTracked->trackMouse(event, frame, *iView.viewport());
+    return true;
+}
+
+bool PropertyCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                     const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const bool isValue = index.column() == FlashTemplateModel::value;
+    const QString hint = isValue ? ValueEditor::hint(*FlashTemplateModel::item(index)) : QString();
+    if (hint.isEmpty() || event->type() != QEvent::ToolTip)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), PlainText::toolTip(hint), view);
     return true;
 }
 
@@ -309,9 +306,16 @@ void PropertyCellDelegate::edit(const QModelIndex& index, bool byItsButton) {
         iView.edit(index);
 }
 
-// Commits the text and moves to the next or previous row, whose text is edited at once.
+// Commits the text and moves to the next or previous row, whose text is edited at once. Stays where
+// the text can't be stored.
 bool PropertyCellDelegate::leaveEditor(QWidget& editor, int key) {
-    if (key != Qt::Key_Tab && key != Qt::Key_Backtab)
+    const bool isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    if (!isTab && key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    auto* value = qobject_cast<ValueEditor*>(&editor);
+    if (value && !value->isReady())
+        return true;
+    if (!isTab)
         return false;
     Q_EMIT commitData(&editor);
     Q_EMIT closeEditor(&editor);

@@ -29,6 +29,9 @@ public:
                               const QModelIndex& index) const override;
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
                      const QModelIndex& index) override;
+    // Says what a value may be, or what is wrong with it.
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -117,8 +117,12 @@ void TextFieldCell::drawText(QPainter& painter, const QRectF& rect, const QStrin
 }
 
 void TextFieldCell::drawTitle(QPainter& painter, const QRectF& bounds) const {
+    drawText(painter, titleRectForBounds(bounds), iTitle, titleColor());
+}
+
+QColor TextFieldCell::titleColor() const {
     const auto role = iHighlighted ? QPalette::HighlightedText : QPalette::Text;
-    drawText(painter, titleRectForBounds(bounds), iTitle, QGuiApplication::palette().color(role));
+    return QGuiApplication::palette().color(role);
 }
 
 void TextFieldCell::drawInfoButton(QPainter& painter, const QRectF& bounds) const {

@@ -75,6 +75,7 @@ protected:
     void drawText(QPainter& painter, const QRectF& rect, const QString& text,
                   const QColor& color) const;
     void drawTitle(QPainter& painter, const QRectF& bounds) const;
+    virtual QColor titleColor() const;
     void drawInfoButton(QPainter& painter, const QRectF& bounds) const;
 
     // Space beside the title for the button.

@@ -1,5 +1,6 @@
 #include "util/ColorCategory.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
@@ -40,4 +41,15 @@ QString MyColorOper::colorToHexRGB(const QColor& color) {
     const QRgba64 rgb = color.toRgb().rgba64();
     return QStringLiteral("0x") + componentText(rgb.red()) + componentText(rgb.green()) +
            componentText(rgb.blue());
+}
+
+QString MyColorOper::hexRGBFromText(const QString& text) {
+    static const QRegularExpression digits(QStringLiteral("^(?:0[xX]|#)?([0-9a-fA-F]{6})$"));
+    static const QRegularExpression shortOrName(QStringLiteral("^(#[0-9a-fA-F]{3}|[a-zA-Z ]+)$"));
+    const QString written = text.trimmed();
+    if (const auto match = digits.match(written); match.hasMatch())
+        return QStringLiteral("0x") + match.captured(1);
+    const QColor color =
+        shortOrName.match(written).hasMatch() ? QColor(written) : QColor(QColor::Invalid);
+    return color.isValid() && color.alpha() == 255 ? colorToHexRGB(color) : QString();
 }

@@ -13,4 +13,8 @@ QColor colorFromHexRGB(const QString& text);
 // Lower case, without alpha; a null text for an invalid colour.
 QString colorToHexRGB(const QColor& color);
 
+// The same notation for a colour as people write it: #rgb, #rrggbb, 0xRRGGBB, RRGGBB, or an English
+// name. A null text for anything else.
+QString hexRGBFromText(const QString& text);
+
 } // namespace MyColorOper

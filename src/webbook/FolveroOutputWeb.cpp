@@ -121,7 +121,7 @@ PublishSteps FolveroOutputWeb::contents(const WebBook& book) {
              [this, &book](PublishTarget& to) { WebBookSteps::writePages(to, book, iReport); }},
             BookSteps::pages(book.pictures(), book.content.pageSource.get(), book.kindOfCopy,
                              iMissingPages),
-            BookSteps::settingsFiles(book.flashTemplate.get()),
+            BookSteps::settingsFiles(book.flashTemplate.get(), iMissingFiles),
             BookSteps::linkedFiles(book.content.annotations.get()),
             BookSteps::document(book.content.document.get(), book.download)};
 }

@@ -48,6 +48,9 @@ TEST_F(Editing, ValuesOfEveryTypeReachTheBookWhenApplied) {
 
 TEST_F(Editing, ManyEditsBlinkUntilTheyAreApplied) {
     EXPECT_FALSE(program->isChangePending());
+    edit("logoFile", path("gone.png"));
+    apply();
+    EXPECT_TRUE(window().messages->message().contains("gone.png"));
     edit("topMargin", "12");
     EXPECT_FALSE(program->isChangePending()) << "the value is what it was";
     edit("topMargin", "13");

@@ -3,6 +3,7 @@
 #include "ui/FlashTmplColorCell.h"
 #include "ui/FlashTmplFileCell.h"
 #include "ui/PropertyCellDelegate.h"
+#include "ui/ValueEditor.h"
 
 #include "base/NotificationCenter.h"
 #include "support/TemplateLibrary.h"
@@ -26,7 +27,7 @@ QString property(const QString& key, const QString& value, const QString& attrib
 
 const QString properties = TemplateLibrary::composite(
     "group", property("words", "Hello", "type='pt_text'") +
-                 property("count", "4", "type='pt_number'") +
+                 property("count", "4", "type='pt_number'", "-1..400 s") +
                  property("color", "0xff8000", "type='pt_color'") +
                  property("choice", "b", "type='pt_list'", "a,b,c") +
                  property("picture", "old.png", "type='pt_file'", "Image files|*.jpg;*.png") +
@@ -182,9 +183,11 @@ TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
     for (const char* key : {"words", "count", "color", "picture"}) {
         for (const auto with : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter}) {
             press(key, with);
-            type(QString::number(++typed), Qt::Key_Return);
+            const QString text =
+                key == "color"_L1 ? u"0x10000%1"_s.arg(++typed) : QString::number(++typed);
+            type(text, Qt::Key_Return);
             EXPECT_TRUE(waitForNoEditor());
-            EXPECT_EQ(value(key), QString::number(typed)) << key;
+            EXPECT_EQ(value(key), text) << key;
         }
     }
     press("words", Qt::Key_Space);
@@ -231,6 +234,42 @@ TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
         press("flag", with);
         EXPECT_NE(value("flag"), before);
     }
+}
+
+TEST_F(EditorView, ValuesAreCheckedWhileTheyAreTyped) {
+    struct Case {
+        const char *key, *typed, *stored;
+        bool ends = true;
+    };
+    const Case cases[] = {{"count", "-5000", "-1"},
+                          {"count", "9999", "400"},
+                          {"count", "1x,5", "1.5"},
+                          {"count", "-", "1.5", false},
+                          {"color", "Red", "0xff0000"},
+                          {"color", "#0a0", "0x00aa00"},
+                          {"color", "C0C0C0", "0xC0C0C0"},
+                          {"color", "#12", "0xC0C0C0", false},
+                          {"color", "transparent", "0xC0C0C0", false}};
+    for (const auto& [key, typed, stored, ends] : cases) {
+        for (const auto end : {Qt::Key_Return, Qt::Key_Tab}) {
+            view.setCurrentIndex(index(key));
+            view.edit(index(key));
+            QWidget* edit = editors().value(0);
+            QTest::keyClicks(edit, typed);
+            QTest::keyClick(edit, end);
+            EXPECT_EQ(QTest::qWaitFor([&] { return !editors().contains(edit); }, ends ? 5000 : 50),
+                      ends)
+                << typed;
+            EXPECT_EQ(value(key), stored) << typed;
+            EXPECT_TRUE(ends || edit->property("isWrong").toBool());
+            while (!editors().isEmpty()) {
+                QTest::keyClick(editors().first(), Qt::Key_Escape);
+                EXPECT_TRUE(waitForNoEditor());
+            }
+        }
+    }
+    EXPECT_TRUE(ValueEditor::hint(*item("count")).contains("-1 to 400 s"));
+    EXPECT_TRUE(ValueEditor::hint(*item("picture")).contains("old.png does not exist"));
 }
 
 TEST_F(EditorView, SwatchAndButtonStayFreeWhileTheTextIsEdited) {

@@ -18,6 +18,7 @@
 #include "ui/PagesWindowDelegate.h"
 #include "ui/SelectTemplateWindowDelegate.h"
 #include "ui/TemplateTexts.h"
+#include "ui/ValueEditor.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -101,6 +102,10 @@ void BrisleafAppDelegate::publishPreview(PreviewedBook previewed) {
             ErrorKind::preview,
             {output.publishErrors().join(u'\n'), localTexts(output.publishMessages()).join(u'\n')});
     iWindow->webView->showFile(output.outputFileName(), previewed == OtherBook);
+    if (!output.missingFiles().isEmpty())
+        iWindow->messages->showError(tr("These files are missing. The book is shown without them."),
+                                     output.missingFiles().join(u'\n') + u'\n' +
+                                         tr("Choose others in the settings, or clear the fields."));
 }
 
 void BrisleafAppDelegate::previewCrashed(bool reloads) {
@@ -144,7 +149,9 @@ void BrisleafAppDelegate::updateTmplPropertyTip() {
         return;
     const FlashTemplateProperty* property = FlashTemplateModel::item(current);
     iWindow->toolTipBox->setTitle(TemplateTexts::shown(property->title()));
-    iWindow->toolTip->setPlainText(TemplateTexts::shown(property->desc()));
+    QStringList texts{TemplateTexts::shown(property->desc()), ValueEditor::hint(*property)};
+    texts.removeAll(QString());
+    iWindow->toolTip->setPlainText(texts.join(QStringLiteral("\n\n")));
 }
 
 void BrisleafAppDelegate::valuesWereUndone() {
