@@ -66,6 +66,10 @@
         <source>Choose others in the settings, or clear the fields.</source>
         <translation>Wählen Sie in den Einstellungen andere, oder leeren Sie die Felder.</translation>
     </message>
+    <message>
+        <source>The file %1 contains no settings. Choose one that was made with “Save settings”.</source>
+        <translation>Die Datei %1 enthält keine Einstellungen. Wählen Sie eine, die mit „Einstellungen speichern“ gemacht wurde.</translation>
+    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
@@ -273,6 +277,10 @@
         <extracomment>%1 is the PDF file, %2 tells what is wrong with its bookmarks.</extracomment>
         <translation>%1: Lesezeichen: %2</translation>
     </message>
+    <message>
+        <source>%1: the document has no pages; the file may be incomplete</source>
+        <translation>%1: Das Dokument hat keine Seiten; die Datei ist vielleicht unvollständig</translation>
+    </message>
 </context>
 <context>
     <name>ImportWindow</name>
@@ -402,6 +410,22 @@
             <numerusform>%n weitere Seite ließ sich nicht vollständig zeichnen.</numerusform>
             <numerusform>%n weitere Seiten ließen sich nicht vollständig zeichnen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Choose a PDF document.</source>
+        <translation>Wählen Sie ein PDF-Dokument.</translation>
+    </message>
+    <message>
+        <source>Choose another document.</source>
+        <translation>Wählen Sie ein anderes Dokument.</translation>
+    </message>
+    <message>
+        <source>Choose other pages or another document.</source>
+        <translation>Wählen Sie andere Seiten oder ein anderes Dokument.</translation>
+    </message>
+    <message>
+        <source>Try again, or choose another document.</source>
+        <translation>Versuchen Sie es noch einmal, oder wählen Sie ein anderes Dokument.</translation>
     </message>
 </context>
 <context>
@@ -1001,6 +1025,22 @@
     </message>
 </context>
 <context>
+    <name>PageListText</name>
+    <message>
+        <source>%1 to %2</source>
+        <extracomment>A run of page numbers.</extracomment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <extracomment>Follows page numbers.</extracomment>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PageRange</name>
     <message>
         <source>the page range &quot;%1&quot; names %2 pages</source>
@@ -1235,6 +1275,62 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>Remove them</source>
         <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Choose a PDF document</source>
+        <translation>PDF-Dokument wählen</translation>
+    </message>
+    <message>
+        <source>PDF documents</source>
+        <translation>PDF-Dokumente</translation>
+    </message>
+    <message>
+        <source>Load settings</source>
+        <translation>Einstellungen laden</translation>
+    </message>
+    <message>
+        <source>Save settings</source>
+        <translation>Einstellungen speichern</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Choose a picture</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Choose a sound</source>
+        <translation>Klang wählen</translation>
+    </message>
+    <message>
+        <source>Sounds</source>
+        <translation>Klänge</translation>
+    </message>
+    <message>
+        <source>Choose a file</source>
+        <translation>Datei wählen</translation>
+    </message>
+    <message>
+        <source>Save a file</source>
+        <translation>Datei speichern</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,17 @@
     </message>
 </context>
 <context>
+    <name>PageListText</name>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <extracomment>Follows page numbers.</extracomment>
+        <translation>
+            <numerusform>and %n more</numerusform>
+            <numerusform>and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PagesModel</name>
     <message numerus="yes">
         <source>turning of %n page(s)</source>

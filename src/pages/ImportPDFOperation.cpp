@@ -158,7 +158,12 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
 // The source is kept: a caller may have a use for empty pages.
 void ImportPDFOperation::reportNothingDrawn() {
     const auto& failed = iBook.converter->failedPages();
-    if (failed.empty())
+    if (iBook.document->pageCount() == 0)
+        fail(ErrorKind::pageMissing,
+             Message::translate("ImportPDFOperation",
+                                "%1: the document has no pages; the file may be incomplete")
+                 .arg(iPDFPath));
+    else if (failed.empty())
         fail(ErrorKind::pageMissing,
              Message::translate("ImportPDFOperation", "%1: none of the pages asked for is in it")
                  .arg(iPDFPath));

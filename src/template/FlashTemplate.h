@@ -64,9 +64,10 @@ public:
     // Does nothing: publishing makes the page from tmplHTMLFilePath().
     void copyHTMLToFile(const QString& /*destination*/) const {}
 
-    // The settings file: one record "key=value" per property. An unreadable file has no records;
-    // writing returns false on failure and sets *error (when given).
-    void importPropertiesSettingsFrom(const QString& path);
+    // The settings file: one record "key=value" per property. An unreadable file has no records.
+    // Reading returns how many records name a property; writing returns false on failure and sets
+    // *error (when given).
+    int importPropertiesSettingsFrom(const QString& path);
     bool exportPropertiesSettingsTo(const QString& path, Message* error = nullptr) const;
     // Appends the records of a node and its descendants; of the whole tree for nullptr.
     void exportPropertiesSettingsToArray(QStringList& records,

@@ -23,10 +23,11 @@ QString recordOf(const FlashTemplateProperty& node) {
 
 } // namespace
 
-void FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
+int FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
     const QString pageWidth = propertyValueFor(QStringLiteral("pageWidth"), QStringLiteral("960"));
     const QString pageHeight =
         propertyValueFor(QStringLiteral("pageHeight"), QStringLiteral("600"));
+    int known = 0;
     for (QString& line : textOfFile(path).split(u'\n')) {
         line.remove(u'\r');
         const qsizetype equals = line.indexOf(u'=');
@@ -37,10 +38,12 @@ void FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
         if (key == u"innerMainbgImgUrl")
             logger.debug(QStringLiteral("key 0[%1=%2]").arg(key, value));
         setPropertyValue(key, value);
+        known += propertyValueFor(key, QString()).isNull() ? 0 : 1;
     }
     // The page size belongs to the imported document, not to a style.
     setPropertyValue(QStringLiteral("pageWidth"), pageWidth);
     setPropertyValue(QStringLiteral("pageHeight"), pageHeight);
+    return known;
 }
 
 bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, Message* error) const {

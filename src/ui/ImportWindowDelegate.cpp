@@ -217,8 +217,23 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     }
     logger.warn(QStringLiteral("import pdf failed..."));
     if (!operation->isCancelled())
-        showFailure(iFailures);
+        showFailure(iFailures << nextStep(*operation));
     iIsImporting = false;
+}
+
+// An empty path has no failure of its own that would make sense to users.
+QString ImportWindowDelegate::nextStep(const ImportPDFOperation& operation) {
+    if (iWindow->txtImportFile->text().isEmpty())
+        iFailures.clear();
+    switch (operation.failureKind().value_or(ErrorKind::pdfOpen)) {
+    case ErrorKind::pdfFile:
+    case ErrorKind::pdfOpen:
+        return iFailures.isEmpty() ? tr("Choose a PDF document.") : tr("Choose another document.");
+    case ErrorKind::pageMissing:
+        return tr("Choose other pages or another document.");
+    default:
+        return tr("Try again, or choose another document.");
+    }
 }
 
 void ImportWindowDelegate::onPasswordAction() {

@@ -73,6 +73,7 @@ private:
     void anyThread_handleMSG(const Notification& message);
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
+    QString nextStep(const ImportPDFOperation& operation);
     void reportFailedPages();
     void storePageSize() const;
     static Book emptyBook();

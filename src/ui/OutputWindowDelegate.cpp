@@ -11,6 +11,7 @@
 #include "pdf/PDFDocument.h"
 #include "system/Files.h"
 #include "ui/OutputWindow.h"
+#include "ui/PageListText.h"
 #include "ui/Panels.h"
 #include "webbook/FolveroOutputWeb.h"
 
@@ -306,14 +307,11 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     }
     rememberBook(output);
     if (const auto& missing = output.missingPages(); !missing.empty()) {
-        QStringList pages;
-        for (const int page : missing)
-            pages << QString::number(page);
         iQuestions.showMessage(
             tr("The book is not complete"),
             tr("The pictures of these pages have gone: %1. Import the document again, "
                "then publish once more.")
-                .arg(pages.join(QStringLiteral(", "))));
+                .arg(PageListText::of(missing)));
     }
     if (!output.missingFiles().isEmpty()) {
         iQuestions.showMessage(

@@ -1,25 +1,84 @@
 #include "ui/Panels.h"
 
+#include "ui/FilePreview.h"
 #include "ui/PlainText.h"
 #include "ui/wxCPWCDelegate.h"
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
 
 namespace {
 
-QString nameFilter(const QStringList& types) {
-    QStringList patterns;
-    for (const QString& type : types) {
-        if (!type.trimmed().isEmpty())
-            patterns << QStringLiteral("*.%1 *.%2").arg(type.trimmed(), type.trimmed().toUpper());
+const QString pictureType = QStringLiteral("jpg");
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(Panels)
+};
+
+// A file panel's title and the name of its files, by their first extension.
+struct KindOfFile {
+    QString type;
+    QString title;
+    QString titleToSave;
+    QString files;
+};
+
+KindOfFile kindOf(const QStringList& types) {
+    const KindOfFile kinds[] = {
+        {QStringLiteral("pdf"), Texts::tr("Choose a PDF document"), {}, Texts::tr("PDF documents")},
+        {QStringLiteral("txt"), Texts::tr("Load settings"), Texts::tr("Save settings"),
+         Texts::tr("Settings")},
+        {pictureType, Texts::tr("Choose a picture"), {}, Texts::tr("Pictures")},
+        {QStringLiteral("mp3"), Texts::tr("Choose a sound"), {}, Texts::tr("Sounds")},
+    };
+    for (const KindOfFile& kind : kinds) {
+        if (types.contains(kind.type))
+            return kind;
     }
-    return patterns.isEmpty() ? QString() : QStringLiteral("(%1)").arg(patterns.join(u' '));
+    return {{}, Texts::tr("Choose a file"), Texts::tr("Save a file"), Texts::tr("Files")};
+}
+
+// The patterns in capitals are for file systems and panels that tell them apart; they are not
+// shown.
+QString nameFilter(const QStringList& types, const QString& files) {
+    QStringList shown;
+    QStringList all;
+    for (const QString& type : types) {
+        const QString pattern = QStringLiteral("*.") + type.trimmed();
+        if (pattern.size() > 2)
+            shown << pattern;
+    }
+    for (const QString& pattern : shown)
+        all << pattern << pattern.toUpper();
+    return shown.isEmpty()
+               ? QString()
+               : QStringLiteral("%1 (%2) (%3)").arg(files, shown.join(u' '), all.join(u' '));
+}
+
+std::optional<QString> run(QFileDialog& panel, const QString& proposed, const QStringList& types) {
+    const QFileInfo before(proposed);
+    if (!proposed.isEmpty() && before.absoluteDir().exists())
+        panel.setDirectory(before.absoluteDir());
+    if (!proposed.isEmpty())
+        panel.selectFile(before.fileName());
+    panel.setOption(QFileDialog::HideNameFilterDetails);
+    if (const QString filter = nameFilter(types, kindOf(types).files); !filter.isEmpty())
+        panel.setNameFilter(filter);
+    std::optional<FilePreview> preview;
+    if (types.contains(pictureType))
+        preview.emplace(panel);
+    if (panel.exec() != QDialog::Accepted || panel.selectedFiles().isEmpty())
+        return std::nullopt;
+    return panel.selectedFiles().first();
 }
 
 // Shows both texts literally.
@@ -37,30 +96,35 @@ void run(QMessageBox& alert, const QString& information) {
 } // namespace
 
 std::optional<QString> Panels::chooseFile(const QString& proposed, const QStringList& types) {
-    const QString file = QFileDialog::getOpenFileName(QApplication::activeWindow(), QString(),
-                                                      proposed, nameFilter(types));
-    return file.isEmpty() ? std::nullopt : std::optional(file);
+    QFileDialog panel(QApplication::activeWindow(), kindOf(types).title);
+    panel.setFileMode(QFileDialog::ExistingFile);
+    return run(panel, proposed, types);
 }
 
 std::optional<QString> Panels::chooseFileToSave(const QString& proposed, const QStringList& types) {
-    const QString file = QFileDialog::getSaveFileName(QApplication::activeWindow(), QString(),
-                                                      proposed, nameFilter(types));
-    return file.isEmpty() ? std::nullopt : std::optional(file);
+    QFileDialog panel(QApplication::activeWindow(), kindOf(types).titleToSave);
+    panel.setAcceptMode(QFileDialog::AcceptSave);
+    return run(panel, proposed, types);
 }
 
 QColor Panels::chooseColor(const QColor& initial) {
     QColorDialog panel(initial, QApplication::activeWindow());
+    panel.setWindowTitle(Texts::tr("Choose a colour"));
     wxCPWCDelegate delegate;
-    QObject::connect(&panel, &QDialog::finished, [&delegate] { delegate.windowShouldClose(); });
+    QEventLoop session;
+    QObject::connect(&panel, &QDialog::finished, &session, [&] {
+        delegate.windowShouldClose();
+        session.quit();
+    });
     panel.setModal(true);
     panel.show();
-    while (!delegate.isClosed())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    // Ends without the panel where the program is asked to.
+    session.exec();
     return panel.result() == QDialog::Accepted ? panel.selectedColor() : initial;
 }
 
 std::optional<QString> Panels::chooseFolder(const QString& prompt) {
-    QFileDialog panel(QApplication::activeWindow());
+    QFileDialog panel(QApplication::activeWindow(), Texts::tr("Choose a folder"));
     panel.setFileMode(QFileDialog::Directory);
     panel.setOption(QFileDialog::ShowDirsOnly);
     panel.setLabelText(QFileDialog::Accept, prompt);
@@ -72,9 +136,8 @@ std::optional<QString> Panels::chooseFolder(const QString& prompt) {
 bool Panels::askToOpen(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Information, QApplication::applicationDisplayName(), message,
                       QMessageBox::NoButton, QApplication::activeWindow());
-    const QAbstractButton* openIt =
-        alert.addButton(QCoreApplication::translate("Panels", "Open it"), QMessageBox::AcceptRole);
-    alert.addButton(QCoreApplication::translate("Panels", "No"), QMessageBox::RejectRole);
+    const QAbstractButton* openIt = alert.addButton(Texts::tr("Open it"), QMessageBox::AcceptRole);
+    alert.addButton(Texts::tr("No"), QMessageBox::RejectRole);
     run(alert, information);
     return alert.clickedButton() == openIt;
 }
@@ -82,10 +145,8 @@ bool Panels::askToOpen(const QString& message, const QString& information) {
 bool Panels::askToReplace(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
                       QMessageBox::NoButton, QApplication::activeWindow());
-    const QAbstractButton* replace =
-        alert.addButton(QCoreApplication::translate("Panels", "Replace"), QMessageBox::AcceptRole);
-    alert.setDefaultButton(
-        alert.addButton(QCoreApplication::translate("Panels", "Cancel"), QMessageBox::RejectRole));
+    const QAbstractButton* replace = alert.addButton(Texts::tr("Replace"), QMessageBox::AcceptRole);
+    alert.setDefaultButton(alert.addButton(Texts::tr("Cancel"), QMessageBox::RejectRole));
     run(alert, information);
     return alert.clickedButton() == replace;
 }
@@ -121,11 +182,9 @@ bool Panels::askToRecover(const QString& message, const QString& information) {
 std::optional<bool> Panels::askForText(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Question, QApplication::applicationDisplayName(), message,
                       QMessageBox::NoButton, QApplication::activeWindow());
-    const QAbstractButton* with =
-        alert.addButton(QCoreApplication::translate("Panels", "With text"), QMessageBox::YesRole);
-    QPushButton* without =
-        alert.addButton(QCoreApplication::translate("Panels", "Without text"), QMessageBox::NoRole);
-    alert.addButton(QCoreApplication::translate("Panels", "Cancel"), QMessageBox::RejectRole);
+    const QAbstractButton* with = alert.addButton(Texts::tr("With text"), QMessageBox::YesRole);
+    QPushButton* without = alert.addButton(Texts::tr("Without text"), QMessageBox::NoRole);
+    alert.addButton(Texts::tr("Cancel"), QMessageBox::RejectRole);
     alert.setDefaultButton(without);
     run(alert, information);
     if (alert.clickedButton() == with)
@@ -141,11 +200,11 @@ void Panels::showMessage(const QString& message, const QString& information) {
 
 void Panels::about() {
     QMessageBox box(QApplication::activeWindow());
-    box.setWindowTitle(QCoreApplication::translate("Panels", "About Folvero"));
+    box.setWindowTitle(Texts::tr("About Folvero"));
     box.setIconPixmap(QApplication::windowIcon().pixmap(96, 96));
     box.setText(QStringLiteral("<h3>Folvero %1</h3>").arg(QApplication::applicationVersion()));
-    box.setInformativeText(QCoreApplication::translate(
-        "Panels", "Turns PDF documents into page-flip books for every browser.\n\n"
+    box.setInformativeText(
+        Texts::tr("Turns PDF documents into page-flip books for every browser.\n\n"
                   "Free software under the GNU Affero General Public License, version 3 or "
                   "later. It comes without any warranty."));
     box.exec();

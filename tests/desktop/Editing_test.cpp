@@ -106,6 +106,9 @@ TEST_F(Editing, SettingsGoToAFileAndComeBack) {
     EXPECT_EQ(load(std::nullopt), "12") << "a cancelled panel refreshes the preview as well";
     load(path("missing.txt"));
     EXPECT_TRUE(window().messages->message().contains("missing.txt cannot be read"));
+    TestFiles::write(path("letter.txt"), "a=b\nDear Ann,");
+    EXPECT_EQ(load(path("letter.txt")), "12");
+    EXPECT_TRUE(window().messages->message().contains("letter.txt contains no settings"));
     save("no/such/folder/mine.txt");
     EXPECT_TRUE(window().messages->message().contains("no/such/folder/mine.txt"));
 

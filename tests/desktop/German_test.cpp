@@ -254,7 +254,8 @@ TEST_F(German, FailuresAreShownInGermanAndLoggedInEnglish) {
     sheet.txtImportFile->setText(path("kaputt.pdf"));
     QTest::mouseClick(sheet.btnOK, Qt::LeftButton);
     EXPECT_TRUE(waitForImport());
-    EXPECT_EQ(sheet.lblFailure->text(), path("kaputt.pdf: ist kein PDF-Dokument"));
+    EXPECT_EQ(sheet.lblFailure->text(),
+              path("kaputt.pdf: ist kein PDF-Dokument\nWählen Sie ein anderes Dokument."));
     const QByteArray log =
         TestFiles::read(Folders::userApplicationSupport() + "/Tessamar/Folvero/Folvero.log");
     EXPECT_TRUE(log.contains("kaputt.pdf: is not a PDF document")) << log.toStdString();

@@ -130,3 +130,11 @@ TEST_F(Windows, AreAsWrittenDown) {
         ask(button, [&] { return Panels::chooseFileToSave(entered, {"txt"}).value_or("none"); });
     expectLinesOf(FOLVERO_WINDOWS_TEXT, lines << "");
 }
+
+TEST_F(Windows, TheColourPanelEndsWithTheProgram) {
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    EXPECT_EQ(Panels::chooseColor(Qt::red), QColor(Qt::red));
+    // Or no other window would open.
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec();
+}

@@ -58,6 +58,13 @@ void BorderedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     painter->restore();
 }
 
+int BorderedStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* returned) const {
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons
+               ? 0
+               : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
 QIcon BorderedStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                   const QWidget* widget) const {
     switch (which) {

@@ -222,11 +222,15 @@ void BrisleafAppDelegate::OnImportTmplSettings() {
         return;
     const QString file = iQuestions.fileToOpen({}, {settingsFileType}).value_or(QStringLiteral(""));
     iWindow->messages->hide();
-    if (!file.isEmpty() && !QFileInfo(file).isReadable())
+    const int loaded = iFlashTmpl->importPropertiesSettingsFrom(file);
+    if (!file.isEmpty() && loaded == 0)
         iWindow->messages->showError(tr("The settings were not loaded."),
-                                     tr("The file %1 cannot be read.").arg(file));
-    iFlashTmpl->importPropertiesSettingsFrom(file);
-    iIsDirectionChosen = iIsDirectionChosen || !file.isEmpty();
+                                     (QFileInfo(file).isReadable()
+                                          ? tr("The file %1 contains no settings. Choose one that "
+                                               "was made with “Save settings”.")
+                                          : tr("The file %1 cannot be read."))
+                                         .arg(file));
+    iIsDirectionChosen = iIsDirectionChosen || loaded > 0;
     //: Stands in "Undo %1".
     iHistory.recordLook(tr("loading of settings"));
     iOutline->reloadValues();
