@@ -34,6 +34,12 @@ QWidget* Sheet::buttonRow(QPushButton* main) {
     return row;
 }
 
+void Sheet::done(int result) {
+    QDialog::done(result);
+    if (parentWidget())
+        parentWidget()->activateWindow();
+}
+
 void Sheet::growToContent() {
     const int needed = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width())
                                                      : layout()->totalMinimumSize().height();

@@ -21,6 +21,8 @@ public:
     void growToContent();
 
     void reject() override { Q_EMIT closeRequested(); }
+    // Gives the keyboard back to the main window, which not every window manager does.
+    void done(int result) override;
 
 Q_SIGNALS:
     // Escape, or the window's close button.

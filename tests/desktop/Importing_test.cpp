@@ -156,6 +156,15 @@ TEST_F(Importing, RecentDocumentsAreListedUntilTheyAreCleared) {
     EXPECT_TRUE(RecentFiles::list().isEmpty());
 }
 
+TEST_F(Importing, PagesOfTheEarlierBookAreRemovedWithIt) {
+    import(pdf(1));
+    window().menu->exportFlipBook->trigger();
+    program->ouputWindow().onCancel();
+    const std::weak_ptr<FlashPageSource> earlier = program->flashPageSource();
+    import(pdf(2));
+    EXPECT_TRUE(earlier.expired());
+}
+
 TEST_F(Importing, BookIsPublishedFromTheSheet) {
     import(pdf(3));
     auto& publish = program->ouputWindow();

@@ -182,6 +182,8 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     iFlashTmpl->setPropertyValue(QStringLiteral("pageHeight"),
                                  QString::number(iImportWindow->pageHeight()));
     iBook = iImportWindow->book();
+    // Or it would keep the earlier book, and the folder with its pages, until the next publish.
+    iOuputWindow->setBook(iBook);
     takeDirectionOfDocument();
     iHistory.snapshotValues();
     iOutline->reloadValues();
