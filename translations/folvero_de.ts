@@ -874,6 +874,10 @@
         <source>Choose others in the settings, or clear the fields, and publish again.</source>
         <translation>Wählen Sie in den Einstellungen andere, oder leeren Sie die Felder, und veröffentlichen Sie noch einmal.</translation>
     </message>
+    <message>
+        <source>Writing the book… %1%</source>
+        <translation>Das Buch wird geschrieben … %1 %</translation>
+    </message>
 </context>
 <context>
     <name>PDFDocument</name>

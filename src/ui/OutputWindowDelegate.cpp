@@ -19,6 +19,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -26,7 +27,11 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTimer>
+#include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <exception>
 #include <utility>
 
 namespace {
@@ -34,6 +39,8 @@ namespace {
 constexpr Log logger("OutputWindowDelegate");
 
 constexpr int progressWidth = 340;
+constexpr int progressInterval = 100; // ms
+constexpr int filesBesidePages = 10;
 constexpr qsizetype maxFilesShown = 3;
 
 // Stays open until its run ends. Its bar is too low for a text.
@@ -52,15 +59,33 @@ QProgressDialog* progressWindow(QWidget* parent) {
 }
 
 // Not with setValue() of the dialog, which processes events.
-void showProgress(QProgressDialog* dialog, int done, int total) {
+void showProgress(QProgressDialog* dialog, const QString& text, int done, int total) {
     if (!dialog)
         return;
-    dialog->setLabelText(OutputWindowDelegate::tr("Making the pages of the book… %1%")
-                             .arg(total > 0 ? 100LL * done / total : 0));
+    dialog->setLabelText(text.arg(total > 0 ? 100LL * done / total : 0));
     auto* bar = dialog->findChild<QProgressBar*>();
     bar->setMaximum(total);
     bar->setValue(done);
 }
+
+// Runs a publisher on another thread.
+class WriteBook : public Operation {
+public:
+    explicit WriteBook(FolveroOutput& output) : iOutput(output) {}
+
+    void main() override {
+        try {
+            iOutput.ouputTheBook();
+        } catch (...) {
+            failure = std::current_exception();
+        }
+    }
+
+    std::exception_ptr failure;
+
+private:
+    FolveroOutput& iOutput;
+};
 
 // A permission that can't be read is not given.
 bool allowsText(const PDFDocument& document) {
@@ -181,6 +206,8 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
 
 // If the user declines or cancels, the sheet stays open for other choices.
 void OutputWindowDelegate::onPublish() {
+    if (iProgress)
+        return;
     saveChoices();
     iOutput = makeOutput();
     if (const Message missing = iOutput->missingPart(); !missing.isNull()) {
@@ -219,12 +246,13 @@ bool OutputWindowDelegate::askForText(FolveroOutput& output) const {
 // Of pages that were imported for another kind of book. Takes as long as an import.
 void OutputWindowDelegate::makePageFiles(PageFiles kind) {
     iProgress = progressWindow(iWindow);
-    showProgress(iProgress, 0, 1);
+    const QString text = tr("Making the pages of the book… %1%");
+    showProgress(iProgress, text, 0, 1);
     connect(iProgress, &QProgressDialog::canceled, this, [this] { iQueue.cancelAllOperations(); });
     const auto operation = std::make_shared<PageFilesOperation>(iBook.pageSource, kind);
-    operation->setProgress([this](int done, int total) {
+    operation->setProgress([this, text](int done, int total) {
         QMetaObject::invokeMethod(
-            this, [=, this] { showProgress(iProgress, done, total); }, Qt::QueuedConnection);
+            this, [=, this] { showProgress(iProgress, text, done, total); }, Qt::QueuedConnection);
     });
     operation->setFinishedObserver([this, weak = std::weak_ptr<PageFilesOperation>(operation)] {
         QMetaObject::invokeMethod(
@@ -288,6 +316,39 @@ void OutputWindowDelegate::rememberBook(const FolveroOutput& output) const {
                          iWindow->txtTitle->text(), place(output)});
 }
 
+// Returns when the book is written, while the sheet shows how far that is. A publisher asks between
+// any two files whether it was cancelled, which is taken for its progress.
+void OutputWindowDelegate::write(FolveroOutput& output) {
+    std::atomic<bool> isCancelled = false;
+    std::atomic<int> files = 0;
+    const std::size_t pages = iBook.pageSource ? iBook.pageSource->pages().size() : 0;
+    const bool isWeb = AppSettings::shareInstance().outputType() == OutputWindow::webBook;
+    const int total = int(isWeb ? 2 * pages : pages) + filesBesidePages;
+    output.setCancelled([&] {
+        ++files;
+        return isCancelled.load();
+    });
+    const auto operation = std::make_shared<WriteBook>(output);
+    QEventLoop loop;
+    operation->setFinishedObserver(
+        [&loop] { QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection); });
+    iProgress = progressWindow(iWindow);
+    connect(iProgress, &QProgressDialog::canceled, this, [&] { isCancelled = true; });
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] {
+        showProgress(iProgress, tr("Writing the book… %1%"), std::min(files.load(), total), total);
+    });
+    timer.start(progressInterval);
+    iQueue.addOperation(operation);
+    loop.exec();
+    // Before its end only where the program ends.
+    isCancelled = isCancelled || !operation->isFinished();
+    iQueue.waitFor(-1);
+    delete iProgress;
+    if (operation->failure)
+        std::rethrow_exception(operation->failure);
+}
+
 void OutputWindowDelegate::publish(FolveroOutput& output) {
     auto html = std::make_shared<HTMLConfigInfo>();
     html->setHTMLTitle(AppSettings::shareInstance().lastOutputFileTitle().toHtmlEscaped());
@@ -295,7 +356,9 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     Book book = iBook;
     book.pageSize = AppSettings::shareInstance().pageSize();
     output.setBook(std::move(book));
-    output.ouputTheBook();
+    write(output);
+    if (output.wasCancelled())
+        return;
     const QString result = output.outputFileName();
     if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
         const QString cause = output.publishErrors().isEmpty()
@@ -330,7 +393,8 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
 }
 
 void OutputWindowDelegate::onCancel() {
-    endSheet(0);
+    if (!iProgress)
+        endSheet(0);
 }
 
 void OutputWindowDelegate::onSelectFolder() {

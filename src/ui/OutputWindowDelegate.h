@@ -71,6 +71,7 @@ private:
     void rememberBook(const FolveroOutput& output) const;
     bool askForText(FolveroOutput& output) const;
     void publish(FolveroOutput& output);
+    void write(FolveroOutput& output);
     void publishAndEnd();
     void makePageFiles(PageFiles kind);
     void pageFilesAreMade(const std::shared_ptr<PageFilesOperation>& operation);
@@ -86,7 +87,7 @@ private:
     // Of the current run.
     std::unique_ptr<FolveroOutput> iOutput;
     QString iFolderFailure;              // why its folder could not be made
-    QPointer<QProgressDialog> iProgress; // while web files are made
+    QPointer<QProgressDialog> iProgress; // while it takes time
     // Last, so that it is destroyed first: its thread must end before anything that it may use.
     OperationQueue iQueue;
 };

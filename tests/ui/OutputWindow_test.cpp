@@ -262,6 +262,24 @@ TEST_F(PublishSheet, PublishesAnApplication) {
     EXPECT_EQ(AppSettings().outputType(), OutputWindow::application);
 }
 
+TEST_F(PublishSheet, StaysAliveAndOpenWhileABookIsWritten) {
+    open();
+    bool wasAlive = false;
+    QMetaObject::invokeMethod(
+        sheet.get(),
+        [&] {
+            wasAlive = window().findChild<QProgressDialog*>() != nullptr;
+            sheet->onCancel();
+            sheet->onPublish();
+        },
+        Qt::QueuedConnection);
+    sheet->onPublish();
+    EXPECT_TRUE(wasAlive);
+    EXPECT_EQ(ended, QList<int>{1});
+    EXPECT_EQ(questions.size(), 2);
+    EXPECT_TRUE(book.exists("mybook.html"));
+}
+
 TEST_F(PublishSheet, OffersAWebBookInOneFileAndTheTextToEmbedIt) {
     AppSettings::shareInstance().setPageSize({420, 595});
     open();
