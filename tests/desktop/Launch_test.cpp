@@ -42,7 +42,6 @@ TEST(WindowFitter, FrameThatComesLateLiesOnTheScreenToo) {
     EXPECT_EQ(window.geometry(), screen);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     margins = {4, 20, 4, 4};
-    window.repaint();
     EXPECT_TRUE(QTest::qWaitFor([&] { return window.geometry() == screen - margins; }));
     window.resize(300, 200);
     window.repaint();

@@ -7,6 +7,13 @@
 #include <QWindow>
 #include <utility>
 
+namespace {
+
+constexpr int checkInterval = 100; // ms
+constexpr int maxChecks = 50;
+
+} // namespace
+
 WindowFitter::WindowFitter(QWidget& window, Margins margins)
     : QObject(&window), iWindow(window), iMargins(std::move(margins)) {
     if (!iMargins)
@@ -17,6 +24,17 @@ WindowFitter::WindowFitter(QWidget& window, Margins margins)
     // Not on the native window, which is recreated when a web view is added.
     iWindow.installEventFilter(this);
     fit();
+    // The last event may come before the frame, whose size no event reports.
+    iPatience.setInterval(checkInterval);
+    connect(&iPatience, &QTimer::timeout, this, &WindowFitter::check);
+    iPatience.start();
+}
+
+void WindowFitter::check() {
+    if (iFitted.isNull() && !iMargins().isNull())
+        fit();
+    if (!iFitted.isNull() || ++iChecks == maxChecks)
+        iPatience.stop();
 }
 
 // The whole screen, including the part covered by system bars.
@@ -30,7 +48,7 @@ void WindowFitter::fit() {
 bool WindowFitter::eventFilter(QObject* watched, QEvent* event) {
     const bool comesWithAFrame =
         event->type() == QEvent::Paint || event->type() == QEvent::WindowActivate;
-    if (comesWithAFrame && iFitted.isNull() && !iMargins().isNull())
-        QMetaObject::invokeMethod(this, &WindowFitter::fit, Qt::QueuedConnection);
+    if (comesWithAFrame && iFitted.isNull())
+        QMetaObject::invokeMethod(this, &WindowFitter::check, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }

@@ -2,6 +2,7 @@
 
 #include <QMargins>
 #include <QObject>
+#include <QTimer>
 #include <functional>
 
 class QWidget;
@@ -22,8 +23,12 @@ public:
 
 private:
     void fit();
+    // Fits the window once more as soon as its frame is known.
+    void check();
 
     QWidget& iWindow;
     Margins iMargins;
     QMargins iFitted;
+    QTimer iPatience;
+    int iChecks = 0;
 };
