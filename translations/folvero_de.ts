@@ -70,6 +70,10 @@
         <source>The file %1 contains no settings. Choose one that was made with “Save settings”.</source>
         <translation>Die Datei %1 enthält keine Einstellungen. Wählen Sie eine, die mit „Einstellungen speichern“ gemacht wurde.</translation>
     </message>
+    <message>
+        <source>%1 was not used: a book is made of one document.</source>
+        <translation>%1 wurde nicht verwendet: Ein Buch entsteht aus einem Dokument.</translation>
+    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
@@ -128,6 +132,17 @@
     <message>
         <source>Unknown Error</source>
         <translation>Unbekannter Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>DropHint</name>
+    <message>
+        <source>Only PDF documents can be dropped here.</source>
+        <translation>Hier können nur PDF-Dokumente abgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Drop the PDF here to make a book of it.</source>
+        <translation>Legen Sie das PDF hier ab, um ein Buch daraus zu machen.</translation>
     </message>
 </context>
 <context>
@@ -674,6 +689,10 @@
         <source>%1[*] – Folvero</source>
         <extracomment>The title of the window; %1 is the name of the document, [*] marks changes.</extracomment>
         <translation>%1[*] – Folvero</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: only PDF documents can be dropped.</source>
+        <translation>Nichts wurde importiert: Nur PDF-Dokumente können abgelegt werden.</translation>
     </message>
 </context>
 <context>

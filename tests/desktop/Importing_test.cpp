@@ -1,4 +1,5 @@
 #include "app/AppSettings.h"
+#include "app/desktop/DropHint.h"
 #include "app/desktop/RecentFiles.h"
 #include "builder/PDFBuilder.h"
 #include "desktop/DesktopProgram.h"
@@ -22,15 +23,19 @@ protected:
         ASSERT_TRUE(waitForImport());
     }
     std::size_t publishedPages() const { return configuration().at("Ppts").children.size(); }
-    void drop(const QString& file) const {
+    void drop(const QStringList& paths) const {
         QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(file)});
+        QList<QUrl> urls;
+        for (const QString& file : paths)
+            urls << QUrl::fromLocalFile(file);
+        data.setUrls(urls);
         QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&window(), &enter);
-        if (!enter.isAccepted())
-            return;
+        const auto* hint = window().findChild<DropHint*>();
+        EXPECT_TRUE(enter.isAccepted() && hint->isVisible());
         QDropEvent dropped({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&window(), &dropped);
+        EXPECT_FALSE(hint->isVisible());
         QCoreApplication::processEvents();
     }
 };
@@ -74,11 +79,14 @@ TEST_F(Importing, BookIsReadAsItsDocumentAsksUntilTheUserChooses) {
 
 TEST_F(Importing, DroppedDocumentIsImportedAtOnce) {
     TestFiles::write(path("note.txt"), "no PDF");
-    drop(path("note.txt"));
+    drop({path("note.txt")});
     EXPECT_FALSE(sheet().isVisible());
-    drop(pdf(3));
+    EXPECT_TRUE(window().messages->message().contains("note.txt"));
+    drop({path("note.txt"), pdf(3), pdf(2)});
     ASSERT_TRUE(waitForImport());
     EXPECT_EQ(publishedPages(), 3u);
+    for (const char* left : {"note.txt was not used", "2 pages.pdf was not used"})
+        EXPECT_TRUE(window().messages->message().contains(left));
 }
 
 TEST_F(Importing, PageThatCouldNotBeDrawnIsNamedAboveTheBook) {

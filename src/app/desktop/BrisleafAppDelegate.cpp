@@ -26,6 +26,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <utility>
 
 namespace {
 
@@ -160,6 +161,7 @@ void BrisleafAppDelegate::valuesWereUndone() {
 }
 
 void BrisleafAppDelegate::OnImportPDF() {
+    iNotUsed.clear();
     iImportWindow->setRightToLeft(iIsDirectionChosen
                                       ? std::optional(StringUtil::valueAsBool(
                                             iFlashTmpl->propertyValueFor(direction, QString())))
@@ -189,9 +191,11 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     iOutline->reloadValues();
     iWindow->messages->hide();
     iDocument = iProject->takeImport();
-    if (!iImportWindow->failures().isEmpty())
-        iWindow->messages->showError(tr("Not everything could be imported."),
-                                     iImportWindow->failures().join(u'\n'));
+    QStringList leftOut = iImportWindow->failures();
+    for (const QString& dropped : std::exchange(iNotUsed, {}))
+        leftOut << tr("%1 was not used: a book is made of one document.").arg(dropped);
+    if (!leftOut.isEmpty())
+        iWindow->messages->showError(tr("Not everything could be imported."), leftOut.join(u'\n'));
     applyChange(OtherBook);
 }
 

@@ -135,6 +135,7 @@ private:
     std::unique_ptr<FlashTemplateModel> iOutline;
     // The path of the last import; empty while the demo book is shown.
     QString iDocument = QStringLiteral("");
+    QStringList iNotUsed; // of the files that were dropped for the import
     std::unique_ptr<QTimer> iApplyChangeTimer;
     // Empty, not null, until the folder is created.
     QString iFlashPreviewFolder = QStringLiteral("");

@@ -151,7 +151,11 @@ void BrisleafAppDelegate::connectCommands() {
         command(action, [this, choice] { iAppearance->setChoice(choice); });
     }
     connect(iWindow->btnFloat, &QPushButton::clicked, this, &BrisleafAppDelegate::onSelectTemplate);
-    connect(iWindow.get(), &MainWindow::fileDropped, this, &BrisleafAppDelegate::importFile);
+    connect(iWindow.get(), &MainWindow::fileDropped, this,
+            [this](const QString& path, const QStringList& notUsed) {
+                importFile(path);
+                iNotUsed = notUsed;
+            });
     connect(iWindow->webView, &PreviewView::rendererCrashed, this,
             &BrisleafAppDelegate::previewCrashed);
 }

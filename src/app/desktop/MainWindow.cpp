@@ -1,5 +1,6 @@
 #include "app/desktop/MainWindow.h"
 
+#include "app/desktop/DropHint.h"
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
@@ -15,7 +16,6 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QToolButton>
-#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -39,16 +39,6 @@ QWidget* card(QWidget* view, const QString& name) {
     return frame;
 }
 
-// The path of the first dropped local PDF file, or null.
-QString droppedPDF(const QMimeData& data) {
-    for (const QUrl& url : data.urls()) {
-        const QString path = url.toLocalFile();
-        if (path.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive))
-            return path;
-    }
-    return {};
-}
-
 } // namespace
 
 MainWindow::MainWindow(QUndoStack& edits)
@@ -56,6 +46,7 @@ MainWindow::MainWindow(QUndoStack& edits)
       iSides(new QSplitter(Qt::Horizontal)),
       iEditorAndTip(new QSplitter(Qt::Vertical)) {
     setAcceptDrops(true);
+    iDropHint = new DropHint(*this);
     setUnifiedTitleAndToolBarOnMac(true);
     iSides->addWidget(editorSide());
     iSides->addWidget(previewSide());
@@ -188,17 +179,31 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
+// Files that can't be used are accepted, too: the hint and a message say so.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedPDF(*event->mimeData()).isNull())
-        event->acceptProposedAction();
+    const QMimeData& files = *event->mimeData();
+    if (DropHint::documents(files).isEmpty() && DropHint::others(files).isEmpty())
+        return;
+    event->acceptProposedAction();
+    iDropHint->showFor(files);
+}
+
+void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+    iDropHint->hide();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    const QString path = droppedPDF(*event->mimeData());
-    if (path.isNull())
-        return;
+    iDropHint->hide();
+    const QStringList documents = DropHint::documents(*event->mimeData());
+    const QStringList others = DropHint::others(*event->mimeData());
     event->acceptProposedAction();
+    if (documents.isEmpty()) {
+        messages->showError(tr("Nothing was imported: only PDF documents can be dropped."),
+                            others.join(u'\n'));
+        return;
+    }
     // The drag source is blocked until this function returns.
     QMetaObject::invokeMethod(
-        this, [this, path] { Q_EMIT fileDropped(path); }, Qt::QueuedConnection);
+        this, [=, this] { Q_EMIT fileDropped(documents.first(), documents.mid(1) + others); },
+        Qt::QueuedConnection);
 }

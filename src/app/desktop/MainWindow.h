@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+class DropHint;
 class FlashTemplateOutline;
 class MainMenu;
 class MessageBar;
@@ -36,12 +37,14 @@ public:
     const QString& documentName() const { return iDocumentName; }
 
 Q_SIGNALS:
-    void fileDropped(const QString& path);
+    // One document of the dropped files, and the others, which are not used.
+    void fileDropped(const QString& path, const QStringList& notUsed);
 
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
@@ -53,6 +56,7 @@ private:
     void saveSizes() const;
 
     QString iDocumentName;
+    DropHint* iDropHint;
     QSplitter* iSides;
     QSplitter* iEditorAndTip;
 };
