@@ -74,6 +74,14 @@
         <source>%1 was not used: a book is made of one document.</source>
         <translation>%1 wurde nicht verwendet: Ein Buch entsteht aus einem Dokument.</translation>
     </message>
+    <message>
+        <source>Press “Apply” to try again.</source>
+        <translation>Drücken Sie „Anwenden“, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
+        <source>The book was not published.</source>
+        <translation>Das Buch wurde nicht veröffentlicht.</translation>
+    </message>
 </context>
 <context>
     <name>CommonCryptoErrorDomain</name>
@@ -896,6 +904,10 @@
     <message>
         <source>Writing the book… %1%</source>
         <translation>Das Buch wird geschrieben … %1 %</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or make room in this one, and publish again: what you have typed is kept.</source>
+        <translation>Wählen Sie einen anderen Ordner, oder schaffen Sie in diesem Platz, und veröffentlichen Sie noch einmal: Was Sie eingegeben haben, bleibt erhalten.</translation>
     </message>
 </context>
 <context>

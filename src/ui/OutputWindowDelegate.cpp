@@ -279,12 +279,16 @@ void OutputWindowDelegate::pageFilesAreMade(const std::shared_ptr<PageFilesOpera
 }
 
 void OutputWindowDelegate::publishAndEnd() {
+    Message cause;
     try {
         publish(*iOutput);
     } catch (const PlatformException& failure) {
         logger.error(QStringLiteral("publish error:%1").arg(failure.reason()));
+        cause = failure.message();
     }
     endSheet(1);
+    if (!cause.isNull())
+        Q_EMIT publishFailed(cause.local());
 }
 
 // No warning about the book of the same document: republishing is meant to replace it.
@@ -365,7 +369,11 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
                                   ? tr("The folder %1 could not be made: %2")
                                         .arg(QFileInfo(result).path(), iFolderFailure)
                                   : localTexts(output.publishMessages()).join(u'\n');
-        iQuestions.showMessage(tr("The book was not published"), cause);
+        iQuestions.showMessage(
+            tr("The book was not published"),
+            cause + u'\n' +
+                tr("Choose another folder, or make room in this one, and publish again: what you "
+                   "have typed is kept."));
         return;
     }
     rememberBook(output);

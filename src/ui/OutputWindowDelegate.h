@@ -56,6 +56,10 @@ public:
     void onCopyEmbed();
     void openPanelDidEnd(const std::optional<QString>& panelFile);
 
+Q_SIGNALS:
+    // After the sheet has ended; it shows no message about an unexpected failure itself.
+    void publishFailed(const QString& cause);
+
 private:
     void awakeFromNib();
     void proposeTexts();

@@ -79,7 +79,8 @@ void BrisleafAppDelegate::applyChange(PreviewedBook previewed) {
     } catch (const PlatformException& failure) {
         logger.error(QStringLiteral("apply change :%1").arg(failure.reason()));
         iWindow->messages->showError(tr("The preview could not be brought up to date."),
-                                     failure.message().local());
+                                     failure.message().local() + u'\n' +
+                                         tr("Press “Apply” to try again."));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "app/desktop/BrisleafAppDelegate.h"
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
 #include "app/desktop/RecentFiles.h"
 #include "app/desktop/WindowFitter.h"
@@ -155,6 +156,10 @@ void BrisleafAppDelegate::connectCommands() {
             [this](const QString& path, const QStringList& notUsed) {
                 importFile(path);
                 iNotUsed = notUsed;
+            });
+    connect(iOuputWindow.get(), &OutputWindowDelegate::publishFailed, this,
+            [this](const QString& cause) {
+                iWindow->messages->showError(tr("The book was not published."), cause);
             });
     connect(iWindow->webView, &PreviewView::rendererCrashed, this,
             &BrisleafAppDelegate::previewCrashed);
