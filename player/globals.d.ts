@@ -28,6 +28,8 @@ interface Window {
   folveroTexts?: Record<string, string>;
   /** Other scripts leave here what they add to the book before the player's own runs. */
   folveroExtensions?: import('./src/player.js').Extension[];
+  /** In the preview of the window only. */
+  folveroPreview?: Readonly<{ applySettings(document: string): void }>;
   /** Address of a file of the book that is not beside the page. */
   folveroFile?(path: string): string | Promise<string> | undefined;
   /** The files of a single-file book. */

@@ -171,11 +171,14 @@ std::unique_ptr<pugi::xml_document> BookXML::make(const FlashTemplate* flashTemp
     return xml;
 }
 
-QByteArray BookXML::enciphered(const pugi::xml_document& configuration, unsigned format) {
+QByteArray BookXML::text(const pugi::xml_document& configuration, unsigned format) {
     std::ostringstream text;
     configuration.save(text, "    ", format, pugi::encoding_utf8);
-    return CommonCryptor::RC4EncryptedDataUsingKey(QByteArray::fromStdString(text.str()),
-                                                   userConfigKey);
+    return QByteArray::fromStdString(text.str());
+}
+
+QByteArray BookXML::enciphered(const pugi::xml_document& configuration, unsigned format) {
+    return CommonCryptor::RC4EncryptedDataUsingKey(text(configuration, format), userConfigKey);
 }
 
 void BookXML::appendValue(pugi::xml_node parent, const QString& nodeName,

@@ -24,6 +24,9 @@ std::unique_ptr<pugi::xml_document> make(const FlashTemplate* flashTemplate,
                                          const std::vector<PageURLs>& pages, QSize pageSize,
                                          const QString& document = {});
 
+// In UTF-8. format: of pugixml.
+QByteArray text(const pugi::xml_document& configuration, unsigned format);
+
 // As files and pages of a book contain it. format: of pugixml.
 QByteArray enciphered(const pugi::xml_document& configuration, unsigned format);
 

@@ -17,7 +17,7 @@ const TEXTS = { PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READI
 export default [
   js.configs.recommended,
   kind(['**/*.mjs'], 'module', { ...globals.node, ...globals.browser }),
-  kind(['player/early.js', 'player/{src,web,catalogue}/**/*.js'], 'module', { ...globals.browser, ...TEXTS }),
+  kind(['player/early.js', 'player/{src,web,catalogue,preview}/**/*.js'], 'module', { ...globals.browser, ...TEXTS }),
   kind(['player/swf/*.js'], 'script', globals.browser),
   kind(['player/sw*.js'], 'module', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
   // Its one name is for the pages that take it.

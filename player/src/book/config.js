@@ -196,7 +196,7 @@ function readGround(text, which, from, to) {
  * @param {Element} root
  * @param {string} path names with blanks between them
  */
-function textAt(root, path) {
+export function textAt(root, path) {
   /** @type {Element | undefined} */
   let element = root;
   for (const name of path.split(' ')) {

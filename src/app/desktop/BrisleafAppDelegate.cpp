@@ -8,6 +8,7 @@
 #include "app/desktop/PreviewView.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
+#include "output/BookXML.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
 #include "system/Folders.h"
@@ -126,6 +127,14 @@ void BrisleafAppDelegate::previewDemo() {
 void BrisleafAppDelegate::valueWasEdited(const FlashTemplateProperty& property) {
     iIsDirectionChosen = iIsDirectionChosen || property.key() == direction;
     iHistory.recordEdits();
+    showChangedSettings();
+}
+
+// What the open page cannot show waits until the change is applied.
+void BrisleafAppDelegate::showChangedSettings() {
+    const auto settings =
+        BookXML::make(iFlashTmpl.get(), {}, AppSettings::shareInstance().pageSize());
+    iWindow->webView->applySettings(BookXML::text(*settings, pugi::format_raw));
     tmplPpertyValueChanged();
 }
 
@@ -158,7 +167,7 @@ void BrisleafAppDelegate::updateTmplPropertyTip() {
 
 void BrisleafAppDelegate::valuesWereUndone() {
     iOutline->reloadValues();
-    tmplPpertyValueChanged();
+    showChangedSettings();
 }
 
 void BrisleafAppDelegate::OnImportPDF() {

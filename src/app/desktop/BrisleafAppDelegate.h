@@ -110,6 +110,7 @@ private:
     void showLook(const Project& project);
     void updateTmplPropertyTip();
     void valueWasEdited(const FlashTemplateProperty& property);
+    void showChangedSettings();
     void tmplPpertyValueChanged();
     void onTimerEvent();
     void valuesWereUndone();

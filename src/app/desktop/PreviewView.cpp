@@ -1,6 +1,8 @@
 #include "app/desktop/PreviewView.h"
 
 #include "base/Log.h"
+#include "system/Bundle.h"
+#include "system/Files.h"
 #include "util/LinkScheme.h"
 
 #include <QContextMenuEvent>
@@ -8,9 +10,13 @@
 #include <QDesktopServices>
 #include <QDragEnterEvent>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QMenu>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInterceptor>
 
@@ -76,6 +82,20 @@ protected:
     }
 };
 
+// Adds the entry through which changed settings come into the player. Frames in the page do not get
+// it, nor does any published book.
+QWebEngineScript settingsScript() {
+    const QString file = Bundle::pathForResource(QStringLiteral("preview"), QStringLiteral("js"),
+                                                 QStringLiteral("Preview"));
+    QWebEngineScript script;
+    script.setName(QStringLiteral("settings"));
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(false);
+    script.setSourceCode(QString::fromUtf8(Files::contents(file)));
+    return script;
+}
+
 OwnFilesOnly& gateOf(QWebEngineProfile& profile) {
     return *profile.findChild<OwnFilesOnly*>(QString(), Qt::FindDirectChildrenOnly);
 }
@@ -94,6 +114,8 @@ PreviewView::PreviewView(QWidget* parent)
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     settings->setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, false);
     settings->setAttribute(QWebEngineSettings::ErrorPageEnabled, false);
+    page()->scripts().insert(settingsScript());
+    connect(page(), &QWebEnginePage::loadFinished, this, &PreviewView::sendSettings);
     connect(page(), &QWebEnginePage::renderProcessTerminated, this,
             [this](QWebEnginePage::RenderProcessTerminationStatus status) {
                 if (status != QWebEnginePage::NormalTerminationStatus)
@@ -107,6 +129,7 @@ PreviewView::~PreviewView() {
 }
 
 void PreviewView::showFile(const QString& path, bool isOtherBook) {
+    iChangedSettings.clear();
     gateOf(*iProfile).setFolder(QFileInfo(path).canonicalPath());
     const QUrl address = QUrl::fromLocalFile(path);
     if (url().adjusted(QUrl::RemoveFragment) != address) {
@@ -125,6 +148,21 @@ void PreviewView::showFile(const QString& path, bool isOtherBook) {
 
 void PreviewView::reloadBook() {
     triggerPageAction(QWebEnginePage::ReloadAndBypassCache);
+}
+
+void PreviewView::applySettings(const QByteArray& configuration) {
+    iChangedSettings = configuration;
+    sendSettings();
+}
+
+// Also after each load: the page begins with what was published.
+void PreviewView::sendSettings() {
+    if (iChangedSettings.isEmpty())
+        return;
+    const QJsonArray arguments{QString::fromUtf8(iChangedSettings)};
+    const QByteArray literal = QJsonDocument(arguments).toJson(QJsonDocument::Compact);
+    page()->runJavaScript(QStringLiteral("window.folveroPreview?.applySettings(...%1)")
+                              .arg(QString::fromUtf8(literal)));
 }
 
 void PreviewView::setOpener(std::function<void(const QUrl&)> opener) {

@@ -19,6 +19,9 @@ public:
     // another book.
     void showFile(const QString& path, bool isOtherBook);
     void reloadBook();
+    // Shows changed settings in the open book, as far as the player can without loading it again,
+    // until the next showFile(). configuration: the book's, not enciphered and without pages.
+    void applySettings(const QByteArray& configuration);
 
     // Sets how a web address is opened.
     void setOpener(std::function<void(const QUrl&)> opener);
@@ -34,8 +37,10 @@ protected:
 
 private:
     void recover();
+    void sendSettings();
 
     QWebEngineProfile* iProfile;
+    QByteArray iChangedSettings; // empty when nothing has changed since the book was loaded
     int iCrashes = 0;
     qint64 iLastCrash = 0;
 };
