@@ -1394,6 +1394,64 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>PreviewPane</name>
+    <message>
+        <source>Size of the preview</source>
+        <extracomment>What a screen reader says when it comes to the buttons Window, Desktop, Tablet and Phone.</extracomment>
+        <translation>Größe der Vorschau</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <extracomment>A size of the preview: all the space that the window has for it.</extracomment>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Show the book in all the space there is</source>
+        <translation>Das Buch im ganzen verfügbaren Raum zeigen</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <extracomment>A size of the preview.</extracomment>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Show the book as on a desktop screen</source>
+        <translation>Das Buch wie auf einem großen Bildschirm zeigen</translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <extracomment>A size of the preview.</extracomment>
+        <translation>Tablet</translation>
+    </message>
+    <message>
+        <source>Show the book as on a tablet</source>
+        <translation>Das Buch wie auf einem Tablet zeigen</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <extracomment>A size of the preview.</extracomment>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Show the book as on a phone</source>
+        <translation>Das Buch wie auf einem Telefon zeigen</translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <extracomment>Turns the tablet or phone of the preview on its side.</extracomment>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>Turn the tablet or phone on its side</source>
+        <translation>Tablet oder Telefon quer legen</translation>
+    </message>
+    <message>
+        <source>%1 × %2, %3 %</source>
+        <extracomment>The size of the preview in pixels, and how much it is scaled down.</extracomment>
+        <translation>%1 × %2, %3 %</translation>
+    </message>
+</context>
+<context>
     <name>PreviewView</name>
     <message>
         <source>Preview of the book</source>

@@ -166,7 +166,7 @@ protected:
 // The last one stands behind the fields of files and is never seen.
 bool mayBeTheSame(const QString& caption) {
     static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
-        "\\P{L}*|0x[0-9a-f]{6}|F\\d+|OK|Sand|go go bay,hello world....just ok"));
+        "\\P{L}*|0x[0-9a-f]{6}|F\\d+|OK|Sand|Tablet|go go bay,hello world....just ok"));
     return pattern.match(caption).hasMatch();
 }
 

@@ -3,7 +3,7 @@
 #include "app/desktop/DropHint.h"
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MessageBar.h"
-#include "app/desktop/PreviewView.h"
+#include "app/desktop/PreviewPane.h"
 #include "ui/FlashTemplateOutline.h"
 
 #include <QCloseEvent>
@@ -129,13 +129,14 @@ QWidget* MainWindow::tipBox() {
 
 QWidget* MainWindow::previewSide() {
     messages = new MessageBar;
-    webView = new PreviewView;
+    auto* preview = new PreviewPane;
+    webView = preview->view();
     auto* side = new QWidget;
     auto* layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(messages);
-    layout->addWidget(webView, 1);
+    layout->addWidget(preview, 1);
     return side;
 }
 
