@@ -661,6 +661,10 @@
         <source>Arrange, turn, remove and insert pages</source>
         <translation>Seiten anordnen, drehen, entfernen und einfügen</translation>
     </message>
+    <message>
+        <source>&amp;Find a setting</source>
+        <translation>Einstellung s&amp;uchen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -1619,6 +1623,25 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
             <numerusform>%n weitere kann nicht verwendet werden.</numerusform>
             <numerusform>%n weitere können nicht verwendet werden.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SettingsSearch</name>
+    <message>
+        <source>Search the settings</source>
+        <translation>Einstellungen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Show all settings</source>
+        <translation>Alle Einstellungen zeigen</translation>
+    </message>
+    <message>
+        <source>Show all settings (Esc)</source>
+        <translation>Alle Einstellungen zeigen (Esc)</translation>
+    </message>
+    <message>
+        <source>No setting has “%1”.</source>
+        <translation>Keine Einstellung hat „%1“.</translation>
     </message>
 </context>
 <context>

@@ -20,6 +20,7 @@
 #include "ui/PagesWindowDelegate.h"
 #include "ui/PropertyCellDelegate.h"
 #include "ui/SelectTemplateWindowDelegate.h"
+#include "ui/SettingsSearch.h"
 
 #include <QActionGroup>
 #include <QItemSelectionModel>
@@ -107,6 +108,7 @@ void BrisleafAppDelegate::showEditor() {
     auto* view = iWindow->outlineView;
     view->setItemDelegate(new PropertyCellDelegate(*view));
     view->setModel(iOutline.get());
+    iWindow->search->follow(*iOutline);
     view->setIndentation(indentationPerLevel);
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { tmplDelegate->outlineViewSelectionDidChange(); });

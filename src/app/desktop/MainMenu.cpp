@@ -101,6 +101,7 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     about = add(tr("&About Folvero"), {}, {});
     about->setMenuRole(QAction::AboutRole);
 
+    findSetting = add(tr("&Find a setting"), QStringLiteral("search"), QKeySequence::Find);
     makeEditCommands(edits);
 }
 
@@ -158,6 +159,8 @@ void MainMenu::fillMenuBar() {
     file->addAction(quit);
     auto* edit = iWindow.menuBar()->addMenu(tr("&Edit"));
     edit->addActions({undo, redo});
+    edit->addSeparator();
+    edit->addAction(findSetting);
     edit->addSeparator();
     edit->addAction(toolBarItemApplyChange);
     auto* view = iWindow.menuBar()->addMenu(tr("&View"));

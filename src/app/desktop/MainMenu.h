@@ -29,6 +29,7 @@ public:
     QAction* quit;
     QAction* undo;
     QAction* redo;
+    QAction* findSetting;
     // Its data is the phase of its blinking.
     QAction* toolBarItemApplyChange;
     QAction* selectTemplate;

@@ -5,6 +5,7 @@
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewPane.h"
 #include "ui/FlashTemplateOutline.h"
+#include "ui/SettingsSearch.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -29,12 +30,14 @@ constexpr int minColumnWidth = 60;
 constexpr int tipHeight = 130;
 constexpr int gap = 8;
 
-// A view in a frame with rounded corners.
-QWidget* card(QWidget* view, const QString& name) {
+// A view in a frame with rounded corners, and what lies above it.
+QWidget* card(QWidget* above, QWidget* view, const QString& name) {
     auto* frame = new QFrame;
     frame->setObjectName(name);
     auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(4, 4, 2, 4);
+    layout->setSpacing(0);
+    layout->addWidget(above);
     layout->addWidget(view);
     return frame;
 }
@@ -69,7 +72,9 @@ QWidget* MainWindow::editorSide() {
     outlineView->setEditTriggers(
         QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
         QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);
-    iEditorAndTip->addWidget(card(outlineView, QStringLiteral("settingsCard")));
+    search = new SettingsSearch(*outlineView);
+    connect(menu->findSetting, &QAction::triggered, search, &SettingsSearch::begin);
+    iEditorAndTip->addWidget(card(search, outlineView, QStringLiteral("settingsCard")));
     iEditorAndTip->addWidget(tipBox());
     iEditorAndTip->setHandleWidth(gap);
     iEditorAndTip->setStretchFactor(0, 1);

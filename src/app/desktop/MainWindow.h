@@ -13,6 +13,7 @@ class QPushButton;
 class QSplitter;
 class QToolButton;
 class QUndoStack;
+class SettingsSearch;
 
 // The program's window: the template's settings with an explanation below them on the left, the
 // live preview on the right. The controller implements its controls.
@@ -27,6 +28,7 @@ public:
     QPushButton* btnFloat;
     QToolButton* btnImportTmpl;
     QToolButton* btnExportTmpl;
+    SettingsSearch* search;
     FlashTemplateOutline* outlineView;
     QGroupBox* toolTipBox;
     QPlainTextEdit* toolTip;
