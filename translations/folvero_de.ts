@@ -205,6 +205,11 @@
         <extracomment>What a screen reader says: the name of a setting and its value.</extracomment>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>%1, changed</source>
+        <extracomment>What a screen reader says of a setting that is not as the template has it; %1 is its name and value.</extracomment>
+        <translation>%1, geändert</translation>
+    </message>
 </context>
 <context>
     <name>FlashTemplateOutlineDelegate</name>
@@ -664,6 +669,14 @@
     <message>
         <source>&amp;Find a setting</source>
         <translation>Einstellung s&amp;uchen</translation>
+    </message>
+    <message>
+        <source>Reset to &amp;default</source>
+        <translation>Zurücksetzen auf &amp;Standard</translation>
+    </message>
+    <message>
+        <source>R&amp;eset all settings</source>
+        <translation>Alle &amp;Einstellungen zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1550,18 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>PropertyCellDelegate</name>
+    <message>
+        <source>Changed. Click to make it empty again.</source>
+        <extracomment>%1 is the value that a setting had before it was changed.</extracomment>
+        <translation>Geändert. Ein Klick macht es wieder leer.</translation>
+    </message>
+    <message>
+        <source>Changed. Click to set it back to %1.</source>
+        <translation>Geändert. Ein Klick setzt es zurück auf %1.</translation>
+    </message>
+</context>
+<context>
     <name>PropertyHistory</name>
     <message>
         <source>“%1”</source>
@@ -1623,6 +1648,33 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
             <numerusform>%n weitere kann nicht verwendet werden.</numerusform>
             <numerusform>%n weitere können nicht verwendet werden.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SettingsReset</name>
+    <message>
+        <source>reset of all settings</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
+        <translation>Zurücksetzen aller Einstellungen</translation>
+    </message>
+    <message>
+        <source>reset of “%1”</source>
+        <extracomment>Stands in &quot;Undo %1&quot;; %1 is the title of a group of settings.</extracomment>
+        <translation>Zurücksetzen von „%1“</translation>
+    </message>
+    <message>
+        <source>&amp;Reset “%1”</source>
+        <extracomment>%1 is the title of a setting or of a group of settings.</extracomment>
+        <translation>„%1“ &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset the &amp;group “%1”</source>
+        <extracomment>%1 is the title of a group of settings.</extracomment>
+        <translation>Die &amp;Gruppe „%1“ zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset &amp;all settings</source>
+        <translation>Alle &amp;Einstellungen zurücksetzen</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "ui/FlashTemplateModel.h"
 
+#include "template/TemplateDefaults.h"
 #include "ui/PlainText.h"
 #include "ui/TemplateTexts.h"
 
@@ -24,6 +25,28 @@ void FlashTemplateModel::reloadValuesBelow(const QModelIndex& parent) {
     Q_EMIT dataChanged(index(0, key, parent), index(rows - 1, value, parent));
     for (int row = 0; row < rows; ++row)
         reloadValuesBelow(index(row, key, parent));
+}
+
+bool FlashTemplateModel::isChanged(const FlashTemplateProperty& property) const {
+    return iDefaults && iDefaults->isChanged(property);
+}
+
+QString FlashTemplateModel::defaultValue(const FlashTemplateProperty& property) const {
+    return iDefaults ? iDefaults->valueFor(property) : property.defaultValue();
+}
+
+void FlashTemplateModel::addChanged(const QModelIndex& index,
+                                    std::vector<FlashTemplateProperty*>& changed) const {
+    if (index.isValid() && isChanged(*item(index)))
+        changed.push_back(item(index));
+    for (int row = 0; row < rowCount(index); ++row)
+        addChanged(this->index(row, key, index), changed);
+}
+
+std::vector<FlashTemplateProperty*> FlashTemplateModel::changedIn(const QModelIndex& index) const {
+    std::vector<FlashTemplateProperty*> changed;
+    addChanged(index.siblingAtColumn(key), changed);
+    return changed;
 }
 
 FlashTemplateProperty* FlashTemplateModel::item(const QModelIndex& index) {
@@ -78,14 +101,15 @@ QVariant FlashTemplateModel::displayText(const QModelIndex& index) const {
     return isWord ? TemplateTexts::shown(text.toString()) : text;
 }
 
-QString FlashTemplateModel::accessibleValue(const FlashTemplateProperty& property) {
+QString FlashTemplateModel::shownValue(const FlashTemplateProperty& property,
+                                       const QString& value) {
     switch (property.propertyType()) {
     case pt_list:
-        return TemplateTexts::shown(property.value());
+        return TemplateTexts::shown(value);
     case pt_bool:
-        return StringUtil::valueAsBool(property.value()) ? tr("Yes") : tr("No");
+        return StringUtil::valueAsBool(value) ? tr("Yes") : tr("No");
     default:
-        return property.value();
+        return value;
     }
 }
 
@@ -97,7 +121,10 @@ QString FlashTemplateModel::accessibleText(const QModelIndex& index) const {
     if (index.column() == key || property.propertyType() == pt_composite)
         return title;
     //: What a screen reader says: the name of a setting and its value.
-    return tr("%1: %2").arg(title, accessibleValue(property));
+    const QString text = tr("%1: %2").arg(title, shownValue(property, property.value()));
+    //: What a screen reader says of a setting that is not as the template has it; %1 is its name
+    //: and value.
+    return isChanged(property) ? tr("%1, changed").arg(text) : text;
 }
 
 QVariant FlashTemplateModel::data(const QModelIndex& index, int role) const {

@@ -3,6 +3,9 @@
 #include "ui/FlashTemplateOutlineDelegate.h"
 
 #include <QAbstractItemModel>
+#include <vector>
+
+class TemplateDefaults;
 
 // The property editor's rows and columns as a Qt model over the outline delegate, which must
 // outlive it.
@@ -18,6 +21,15 @@ public:
     void reloadData();
     // Call when values have been changed from outside.
     void reloadValues();
+    // What values are compared with; must outlive this. Without it none counts as changed.
+    void setDefaults(const TemplateDefaults* defaults) { iDefaults = defaults; }
+
+    // Properties whose value is not the default: the index's own and those below it, at any depth;
+    // of all for an invalid index.
+    std::vector<FlashTemplateProperty*> changedIn(const QModelIndex& index) const;
+    QString defaultValue(const FlashTemplateProperty& property) const;
+    // A value as one says it, in the user's language.
+    static QString shownValue(const FlashTemplateProperty& property, const QString& value);
 
     FlashTemplateOutlineDelegate& source() const { return iSource; }
     // nullptr for an invalid index.
@@ -42,7 +54,9 @@ private:
     // The text in the user's language; templates are in English.
     QVariant displayText(const QModelIndex& index) const;
     QString accessibleText(const QModelIndex& index) const;
-    static QString accessibleValue(const FlashTemplateProperty& property);
+    bool isChanged(const FlashTemplateProperty& property) const;
+    void addChanged(const QModelIndex& index, std::vector<FlashTemplateProperty*>& changed) const;
 
     FlashTemplateOutlineDelegate& iSource;
+    const TemplateDefaults* iDefaults = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "ui/PropertyCellDelegate.h"
 
 #include "ui/PlainText.h"
+#include "ui/ResetMark.h"
 #include "ui/TemplateTexts.h"
 #include "ui/ValueEditor.h"
 
@@ -106,6 +107,7 @@ void PropertyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& 
                              : nullptr;
     if (!cell) {
         QStyledItemDelegate::paint(painter, option, index);
+        paintTitle(*painter, plain, index);
         return;
     }
     prepare(*cell, plain, index);
@@ -116,6 +118,63 @@ void PropertyCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& 
     const Cell& shown = iTracked && iTrackedIndex == index ? *iTracked : *cell;
     shown.paint(*painter, plain);
     painter->restore();
+}
+
+PropertyCellDelegate::Mark PropertyCellDelegate::markOf(const QModelIndex& index) const {
+    const auto* model = qobject_cast<const FlashTemplateModel*>(index.model());
+    if (!model || index.column() != FlashTemplateModel::key || model->changedIn(index).empty())
+        return noMark;
+    if (!model->hasChildren(index))
+        return sign;
+    return iView.isExpanded(index) ? noMark : dot;
+}
+
+// A title ends before its mark.
+void PropertyCellDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                           const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->rect.isEmpty() || markOf(index) == noMark)
+        return;
+    const int room = option->rect.width() - ResetMark::width - ResetMark::width / 2;
+    option->text = option->fontMetrics.elidedText(option->text, Qt::ElideRight, room);
+}
+
+void PropertyCellDelegate::paintTitle(QPainter& painter, const QStyleOptionViewItem& option,
+                                      const QModelIndex& index) const {
+    switch (markOf(index)) {
+    case sign:
+        ResetMark::paint(painter, option, iHoveredIndex == index);
+        break;
+    case dot:
+        ResetMark::paintDot(painter, option);
+        break;
+    case noMark:
+        break;
+    }
+}
+
+QString PropertyCellDelegate::tipAt(const QPoint& place, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    const FlashTemplateProperty& property = *FlashTemplateModel::item(index);
+    if (index.column() == FlashTemplateModel::value)
+        return ValueEditor::hint(property);
+    if (markOf(index) != sign || !ResetMark::rectIn(option.rect).contains(place))
+        return {};
+    const auto& model = static_cast<const FlashTemplateModel&>(*index.model());
+    const QString value = model.shownValue(property, model.defaultValue(property));
+    //: %1 is the value that a setting had before it was changed.
+    return value.isEmpty() ? tr("Changed. Click to make it empty again.")
+                           : tr("Changed. Click to set it back to %1.").arg(value);
+}
+
+bool PropertyCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                     const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const bool isAsked = event->type() == QEvent::ToolTip && index.isValid();
+    const QString tip = isAsked ? tipAt(event->pos(), option, index) : QString();
+    if (tip.isEmpty())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), PlainText::toolTip(tip), view);
+    return true;
 }
 
 QSize PropertyCellDelegate::sizeHint(const QStyleOptionViewItem& option,
@@ -187,6 +246,12 @@ void PropertyCellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOpt
 bool PropertyCellDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                        const QStyleOptionViewItem& option,
                                        const QModelIndex& index) {
+    if (markOf(index) == sign &&
+        isOverButton(index, static_cast<QMouseEvent*>(event)->position())) {
+        if (isLeftButton(*event, QEvent::MouseButtonRelease))
+            Q_EMIT resetClicked(index);
+        return true;
+    }
     if (!index.flags().testFlag(Qt::ItemIsEditable))
         return false;
     const int type = FlashTemplateModel::item(index)->propertyType();
@@ -215,16 +280,6 @@ bool PropertyCellDelegate::trackButton(QMouseEvent& event, const QStyleOptionVie
     iTracked = std::move(cell);
     iTrackedIndex = index;
     iTracked->trackMouse(event, frame, *iView.viewport());
-    return true;
-}
-
-bool PropertyCellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
-                                     const QStyleOptionViewItem& option, const QModelIndex& index) {
-    const bool isValue = index.column() == FlashTemplateModel::value;
-    const QString hint = isValue ? ValueEditor::hint(*FlashTemplateModel::item(index)) : QString();
-    if (hint.isEmpty() || event->type() != QEvent::ToolTip)
-        return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(), PlainText::toolTip(hint), view);
     return true;
 }
 
@@ -262,12 +317,17 @@ bool PropertyCellDelegate::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
+bool PropertyCellDelegate::isOverButton(const QModelIndex& index, const QPointF& at) const {
+    const QRect rect = iView.visualRect(index);
+    if (markOf(index) == sign)
+        return ResetMark::rectIn(rect).contains(at.toPoint());
+    const auto cell = buttonCellFor(index);
+    return cell && cell->infoButtonRectForBounds(TextFieldCell::frameIn(rect)).contains(at);
+}
+
 void PropertyCellDelegate::hover(const QPointF& at) {
     const QModelIndex index = iView.indexAt(at.toPoint());
-    const auto cell = index.isValid() ? buttonCellFor(index) : nullptr;
-    const bool isOver =
-        cell &&
-        cell->infoButtonRectForBounds(TextFieldCell::frameIn(iView.visualRect(index))).contains(at);
+    const bool isOver = index.isValid() && isOverButton(index, at);
     const QPersistentModelIndex before = iHoveredIndex;
     iHoveredIndex = isOver ? index : QModelIndex();
     if (before == iHoveredIndex)

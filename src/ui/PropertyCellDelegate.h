@@ -29,12 +29,27 @@ public:
                               const QModelIndex& index) const override;
     bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
                      const QModelIndex& index) override;
-    // Says what a value may be, or what is wrong with it.
+    // Says what a value may be, what is wrong with it, or that it was changed.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+Q_SIGNALS:
+    // The sign of a changed value was clicked.
+    void resetClicked(const QModelIndex& title);
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
 private:
+    // Whether a title has the sign, or a dot.
+    enum Mark { noMark, dot, sign };
+    Mark markOf(const QModelIndex& index) const;
+    QString tipAt(const QPoint& place, const QStyleOptionViewItem& option,
+                  const QModelIndex& index) const;
+    void paintTitle(QPainter& painter, const QStyleOptionViewItem& option,
+                    const QModelIndex& index) const;
+    bool isOverButton(const QModelIndex& index, const QPointF& at) const;
     // Does what a click on the button of the row's value does; false when it has none.
     bool activate(const QModelIndex& index);
     bool keyPressed(const QKeyEvent& event);

@@ -243,7 +243,7 @@ TEST_F(German, SettingsAreShownInGermanAndKeptAsTheyAre) {
               "Center");
     press("RightToLeft");
     EXPECT_EQ(valueOf("RightToLeft").data(Qt::AccessibleTextRole).toString(),
-              "Von rechts nach links: Ja");
+              "Von rechts nach links: Ja, geändert");
 }
 
 TEST_F(German, FailuresAreShownInGermanAndLoggedInEnglish) {

@@ -6,6 +6,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
+#include "app/desktop/SettingsReset.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "output/BookXML.h"
@@ -197,6 +198,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     // Or it would keep the earlier book, and the folder with its pages, until the next publish.
     iOuputWindow->setBook(iBook);
     takeDirectionOfDocument();
+    takeSizeOfDocument();
     iHistory.snapshotValues();
     iOutline->reloadValues();
     iWindow->messages->hide();
@@ -288,14 +290,22 @@ void BrisleafAppDelegate::OnOpenHelp() {
 }
 
 void BrisleafAppDelegate::takeDirectionOfDocument() {
+    const QString own = iBook.rightToLeft ? QStringLiteral("YES") : iOwnDirection;
+    iDefaults.setOfDocument(direction, own);
     if (!iIsDirectionChosen)
-        iFlashTmpl->setPropertyValue(direction,
-                                     iBook.rightToLeft ? QStringLiteral("YES") : iOwnDirection);
+        iFlashTmpl->setPropertyValue(direction, own);
+}
+
+// Other templates keep it.
+void BrisleafAppDelegate::takeSizeOfDocument() {
+    for (const QString& key : {QStringLiteral("pageWidth"), QStringLiteral("pageHeight")})
+        iDefaults.setOfDocument(key, iFlashTmpl->propertyValueFor(key, {}));
 }
 
 void BrisleafAppDelegate::templateWasLoaded() {
     iOwnDirection = iFlashTmpl->propertyValueFor(direction, QStringLiteral("NO"));
     takeDirectionOfDocument();
+    iDefaults.read(*iFlashTmpl);
 }
 
 // The document may have come after the choice that is undone.

@@ -5,6 +5,7 @@
 #include "app/desktop/PropertyHistory.h"
 #include "base/NotificationCenter.h"
 #include "output/FolveroOutput.h"
+#include "template/TemplateDefaults.h"
 #include "ui/FlashTemplateOutlineDelegate.h"
 #include "ui/Panels.h"
 
@@ -21,6 +22,7 @@ class OutputWindowDelegate;
 class PagesWindowDelegate;
 class QTimer;
 class SelectTemplateWindowDelegate;
+class SettingsReset;
 
 inline constexpr char16_t APP_NAME[] = u"Folvero";
 
@@ -103,6 +105,7 @@ private:
     void templateWasLoaded();
     void templateWasUndone();
     void takeDirectionOfDocument();
+    void takeSizeOfDocument();
     void connectCommands();
     void observeEditor();
     void makeProject();
@@ -133,7 +136,9 @@ private:
     QString iOwnDirection;           // the template's own RightToLeft
     bool iIsDirectionChosen = false; // by the user
     std::unique_ptr<FlashTemplateOutlineDelegate> tmplDelegate;
+    TemplateDefaults iDefaults;
     std::unique_ptr<FlashTemplateModel> iOutline;
+    std::unique_ptr<SettingsReset> iReset;
     // The path of the last import; empty while the demo book is shown.
     QString iDocument = QStringLiteral("");
     QStringList iNotUsed; // of the files that were dropped for the import

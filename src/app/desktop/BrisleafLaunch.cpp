@@ -8,6 +8,7 @@
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
 #include "app/desktop/RecentFiles.h"
+#include "app/desktop/SettingsReset.h"
 #include "app/desktop/WindowFitter.h"
 #include "base/Log.h"
 #include "pages/FlashPageSourceImg.h"
@@ -105,6 +106,7 @@ void BrisleafAppDelegate::showEditor() {
     tmplDelegate->setFilePanel(iQuestions.fileToOpen);
     tmplDelegate->setColorPanel(iQuestions.color);
     iOutline = std::make_unique<FlashTemplateModel>(*tmplDelegate);
+    iOutline->setDefaults(&iDefaults);
     auto* view = iWindow->outlineView;
     view->setItemDelegate(new PropertyCellDelegate(*view));
     view->setModel(iOutline.get());
@@ -112,6 +114,8 @@ void BrisleafAppDelegate::showEditor() {
     view->setIndentation(indentationPerLevel);
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this] { tmplDelegate->outlineViewSelectionDidChange(); });
+    takeSizeOfDocument();
+    iReset = std::make_unique<SettingsReset>(*view, *iOutline, iHistory, *iWindow->menu);
     templateWasLoaded();
     iHistory.reset(iFlashTmpl);
     showTemplate();

@@ -83,6 +83,7 @@ void BrisleafAppDelegate::showLook(const Project& project) {
     loadDemoPages();
     AppSettings::shareInstance().setPageSize(Book::defaultPageSize);
     templateWasLoaded();
+    takeSizeOfDocument();
     iHistory.reset(iFlashTmpl);
     showTemplate();
     ProjectValues::apply(project.values, *iFlashTmpl);

@@ -102,6 +102,11 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     about->setMenuRole(QAction::AboutRole);
 
     findSetting = add(tr("&Find a setting"), QStringLiteral("search"), QKeySequence::Find);
+    resetSetting =
+        add(tr("Reset to &default"), QStringLiteral("reset"), Qt::CTRL | Qt::Key_Backspace);
+    resetSetting->setEnabled(false);
+    resetSettings = add(tr("R&eset all settings"), {}, {});
+    resetSettings->setEnabled(false);
     makeEditCommands(edits);
 }
 
@@ -160,7 +165,7 @@ void MainMenu::fillMenuBar() {
     auto* edit = iWindow.menuBar()->addMenu(tr("&Edit"));
     edit->addActions({undo, redo});
     edit->addSeparator();
-    edit->addAction(findSetting);
+    edit->addActions({findSetting, resetSetting, resetSettings});
     edit->addSeparator();
     edit->addAction(toolBarItemApplyChange);
     auto* view = iWindow.menuBar()->addMenu(tr("&View"));

@@ -30,6 +30,9 @@ public:
     QAction* undo;
     QAction* redo;
     QAction* findSetting;
+    // Of the selected setting, and of all.
+    QAction* resetSetting;
+    QAction* resetSettings;
     // Its data is the phase of its blinking.
     QAction* toolBarItemApplyChange;
     QAction* selectTemplate;

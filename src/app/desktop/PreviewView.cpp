@@ -151,8 +151,9 @@ void PreviewView::reloadBook() {
 }
 
 void PreviewView::applySettings(const QByteArray& configuration) {
-    iChangedSettings = configuration;
-    sendSettings();
+    // Once for all changes of one command.
+    if (std::exchange(iChangedSettings, configuration) != configuration)
+        QMetaObject::invokeMethod(this, &PreviewView::sendSettings, Qt::QueuedConnection);
 }
 
 // Also after each load: the page begins with what was published.
