@@ -32,14 +32,14 @@ ImportWindow::ImportWindow(QWidget* parent)
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->addRow(tr("&PDF file:"), row({txtImportFile, btnBrowseFile, btnOpenFile}));
+    auto* fileRow = row({txtImportFile, btnBrowseFile, btnOpenFile});
+    form->addRow(tr("&PDF file:"), fileRow);
+    setFieldOfRow(*form, fileRow, txtImportFile);
     form->addRow(tr("Pages:"), pagesRow());
     form->addRow(tr("&Double pages:"), spreads);
     form->addRow(tr("&Quality:"), importQuality);
     form->addRow(QString(), btnImportLinks);
     form->addRow(QString(), btnImportBookMark);
-    static_cast<QLabel*>(form->itemAt(0, QFormLayout::LabelRole)->widget())
-        ->setBuddy(txtImportFile);
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(margins);

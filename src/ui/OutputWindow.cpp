@@ -33,8 +33,8 @@ OutputWindow::OutputWindow(QWidget* parent)
     form->addRow(tr("&Title:"), txtTitle);
     //: Markup that shows the book inside another page.
     form->addRow(tr("&Embed:"), iEmbedRow);
-    for (const auto& [of, field] : {std::pair{folderRow, txtOutputFolder}, {iEmbedRow, txtEmbed}})
-        static_cast<QLabel*>(form->labelForField(of))->setBuddy(field);
+    setFieldOfRow(*form, folderRow, txtOutputFolder);
+    setFieldOfRow(*form, iEmbedRow, txtEmbed);
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(margins);

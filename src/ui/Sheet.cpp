@@ -1,6 +1,9 @@
 #include "ui/Sheet.h"
 
+#include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <algorithm>
 
@@ -21,6 +24,12 @@ QWidget* Sheet::row(const QList<QWidget*>& widgets) {
             button->setAutoDefault(false);
     }
     return row;
+}
+
+void Sheet::setFieldOfRow(const QFormLayout& form, QWidget* row, QLineEdit* field) {
+    auto* label = static_cast<QLabel*>(form.labelForField(row));
+    label->setBuddy(field);
+    field->setAccessibleName(label->text().remove(u'&').remove(u':'));
 }
 
 QWidget* Sheet::buttonRow(QPushButton* main) {

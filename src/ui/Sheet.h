@@ -3,6 +3,7 @@
 #include <QDialog>
 #include <QMargins>
 
+class QFormLayout;
 class QLineEdit;
 class QPushButton;
 
@@ -37,6 +38,9 @@ protected:
     static constexpr int narrowWidth = 400;
     // Widgets side by side; the first one stretches.
     static QWidget* row(const QList<QWidget*>& widgets);
+    // Makes the label of such a row that of its field: the label's key leads to it, and a screen
+    // reader, which looks for labels only beside a field, says it.
+    static void setFieldOfRow(const QFormLayout& form, QWidget* row, QLineEdit* field);
     // The cancel button, and the default button.
     QWidget* buttonRow(QPushButton* main);
 };

@@ -1,0 +1,168 @@
+#!/usr/bin/env python3
+"""Uses the window as a screen reader does, over the accessibility bus: each control that can be seen has a name, and all
+of them are reached by Tab, or by arrow keys within a group of choices.
+
+Usage: accessibility.py PROGRAM
+
+Runs itself again with a display, a session bus and a home of its own. Needs Xvfb, openbox, D-Bus and AT-SPI.
+"""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import time
+
+INSIDE = "FOLVERO_ACCESSIBILITY_TEST"
+PATIENCE = 30  # seconds
+TAB, ESCAPE, RIGHT, DOWN = 0xFF09, 0xFF1B, 0xFF53, 0xFF54
+ALT = 64
+# The letters of the menu and of the command in it that open each sheet, and its title.
+SHEETS = [("fi", "Import a PDF"), ("vt", "Choose a template"), ("fp", "Publish the book"), ("ha", "About Folvero")]
+CONTROLS = {"push button", "toggle button", "check box", "radio button", "text", "password text", "combo box", "list",
+            "tree", "tree table", "table", "slider", "spin button", "link", "menu item", "table cell", "list item"}
+# What arrow keys reach.
+CHOICES = ("radio button", "check box")
+# Their insides are reached with the container, or are the book's own.
+CONTAINERS = {"menu bar", "tree", "tree table", "table", "list", "combo box", "text", "document web", "scroll bar"}
+
+
+def rerun(program):
+    """In a session without anything of the user's."""
+    with tempfile.TemporaryDirectory() as folder:
+        home = pathlib.Path(folder)
+        (home / "run").mkdir(mode=0o700)
+        environment = {name: value for name, value in os.environ.items() if not name.startswith(("XDG_", "DBUS_"))}
+        environment |= {INSIDE: "yes", "HOME": folder, "XDG_RUNTIME_DIR": str(home / "run"), "LANG": "C.UTF-8",
+                        "LANGUAGE": "en", "QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+        if os.geteuid() == 0:
+            environment["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
+        command = ["xvfb-run", "-a", "-s", "-screen 0 1280x800x24", "dbus-run-session", "--", sys.executable, __file__]
+        return subprocess.run([*command, program], env=environment).returncode
+
+
+class Screen:
+    """What a screen reader knows of the program."""
+
+    def __init__(self, atspi, name):
+        self.atspi = atspi
+        self.name = name
+
+    def window(self):
+        """The window in front: a sheet, where one is open."""
+        desktop = self.atspi.get_desktop(0)
+        windows = [window for app in self.children(desktop) if app.get_name() == self.name
+                   for window in self.children(app) if self.has(window, "SHOWING")]
+        return next((window for window in windows if window.get_role_name() in ("dialog", "alert")),
+                    windows[-1] if windows else None)
+
+    def wait_for_window(self, title):
+        """Until it gets what is typed."""
+        end = time.monotonic() + PATIENCE
+        while time.monotonic() < end:
+            window = self.window()
+            if window and title in window.get_name() and self.has(window, "ACTIVE"):
+                return window
+            time.sleep(0.1)
+        sys.exit(f"waited in vain for {title}")
+
+    def has(self, thing, state):
+        return thing.get_state_set().contains(getattr(self.atspi.StateType, state))
+
+    @staticmethod
+    def children(thing):
+        try:
+            found = [thing.get_child_at_index(at) for at in range(thing.get_child_count())]
+        except Exception:  # it has gone meanwhile
+            return []
+        return [child for child in found if child]
+
+    def shown(self, thing, within=()):
+        """All that can be seen and used, without what is inside of the roles in within."""
+        for child in self.children(thing):
+            if self.has(child, "SHOWING"):
+                if self.has(child, "SENSITIVE"):
+                    yield child
+                if child.get_role_name() not in within:
+                    yield from self.shown(child, within)
+
+    def label(self, thing):
+        labels = [relation.get_target(0).get_name() for relation in thing.get_relation_set()
+                  if relation.get_relation_type() == self.atspi.RelationType.LABELLED_BY]
+        # The name of a list that drops down is what it shows.
+        return "".join(labels) or ("" if thing.get_role_name() == "combo box" else thing.get_name())
+
+    def describe(self, thing):
+        return f"{thing.get_role_name()} “{self.label(thing)}”"
+
+    def press(self, key, held=None):
+        """Keysyms of X, such as the codes of capital and small letters; held: a key code."""
+        kinds = self.atspi.KeySynthType
+        if held:
+            self.atspi.generate_keyboard_event(held, None, kinds.PRESS)
+        self.atspi.generate_keyboard_event(key, None, kinds.SYM)
+        if held:
+            self.atspi.generate_keyboard_event(held, None, kinds.RELEASE)
+        time.sleep(0.08)
+
+
+def names_missing(screen, window):
+    return [f"{one.get_role_name()} without a name, in “{one.get_parent().get_name()}”"
+            for one in screen.shown(window, {"document web"})
+            if one.get_role_name() in CONTROLS and not screen.label(one).strip()]
+
+
+def not_reached(screen, window):
+    wanted = {screen.describe(one): one for one in screen.shown(window, CONTAINERS)
+              if one.get_role_name() in CONTROLS}
+    reached = set()
+
+    def focused():
+        found = next((name for name, one in wanted.items() if screen.has(one, "FOCUSED")), "")
+        reached.add(found)
+        return found
+
+    for _ in range(3 * len(wanted) + 30):
+        if reached.issuperset(wanted):
+            break
+        screen.press(TAB)
+        for arrow in (RIGHT, DOWN):
+            for _ in wanted:
+                if not focused().startswith(CHOICES):
+                    break
+                screen.press(arrow)
+    return [f"no key reaches {one}" for one in wanted if one not in reached]
+
+
+def check(screen, title):
+    window = screen.wait_for_window(title)
+    faults = names_missing(screen, window) + not_reached(screen, window)
+    return [f"{title}: {fault}" for fault in faults]
+
+
+def main(program):
+    import gi
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi
+
+    started = [subprocess.Popen(["openbox"]), subprocess.Popen([program])]
+    try:
+        Atspi.init()
+        screen = Screen(Atspi, "Folvero")
+        faults = check(screen, "Demo book")
+        for (menu, command), title in SHEETS:
+            screen.press(ord(menu), ALT)
+            screen.press(ord(command))
+            faults += check(screen, title)
+            screen.press(ESCAPE)
+            screen.wait_for_window("Demo book")
+    finally:
+        for process in reversed(started):
+            process.terminate()
+            process.wait()
+    print("\n".join(faults) or "all controls have names and are reached by keys")
+    return 1 if faults else 0
+
+
+sys.exit(main(sys.argv[1]) if INSIDE in os.environ else rerun(sys.argv[1]))
