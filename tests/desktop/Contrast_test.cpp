@@ -1,21 +1,11 @@
 #include "app/desktop/Appearance.h"
 #include "app/desktop/BorderedStyle.h"
+#include "desktop/ColorContrast.h"
 #include "desktop/DesktopProgram.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
-
-// As WCAG 2 has it.
-double luminance(QRgb color) {
-    const auto linear = [](int part) {
-        const double value = part / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) +
-           0.0722 * linear(qBlue(color));
-}
 
 // Of what stands out most in a picture against the colour that it has most of.
 double contrast(const QImage& picture) {
@@ -26,10 +16,8 @@ double contrast(const QImage& picture) {
     }
     const QRgb ground = std::max_element(colors.cbegin(), colors.cend()).key();
     double best = 1;
-    for (const QRgb color : colors.keys()) {
-        const auto [low, high] = std::minmax({luminance(color), luminance(ground)});
-        best = std::max(best, (high + 0.05) / (low + 0.05));
-    }
+    for (const QRgb color : colors.keys())
+        best = std::max(best, ColorContrast::between(color, ground));
     return best;
 }
 

@@ -99,6 +99,7 @@ QString Appearance::styleSheet(bool isDark) {
              {"@button", colors.color(QPalette::Button)},
              {"@edge", QColor(isDark ? "#5a5f69" : "#b9bec7")},
              {"@faint", QColor(isDark ? "#8b9099" : "#6b717b")},
+             {"@focus", QColor(isDark ? "#6aa9ec" : "#1f66b3")},
              {"@hover", QColor(isDark ? "#3b3f46" : "#e7e9ed")},
              {"@line", QColor(isDark ? "#3a3d43" : "#d8dbe0")},
              {"@press", QColor(isDark ? "#474b53" : "#dadde3")},
