@@ -654,8 +654,8 @@
         <translation>&amp;Zuletzt benutzt</translation>
     </message>
     <message>
-        <source>P&amp;ages…</source>
-        <translation>&amp;Seiten…</translation>
+        <source>Pa&amp;ges…</source>
+        <translation>Sei&amp;ten…</translation>
     </message>
     <message>
         <source>Pages</source>

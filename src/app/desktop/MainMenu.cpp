@@ -6,6 +6,7 @@
 #include "ui/PlainText.h"
 
 #include <QActionGroup>
+#include <QEvent>
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
@@ -69,7 +70,7 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     //: Beneath a picture in the toolbar: short.
     importPDF->setIconText(tr("Import PDF"));
     importPDF->setToolTip(tr("Make the book from a PDF document"));
-    arrangePages = add(tr("P&ages…"), QStringLiteral("pages"), Qt::CTRL | Qt::Key_G);
+    arrangePages = add(tr("Pa&ges…"), QStringLiteral("pages"), Qt::CTRL | Qt::Key_G);
     //: Beneath a picture in the toolbar: short.
     arrangePages->setIconText(tr("Pages"));
     arrangePages->setToolTip(tr("Arrange, turn, remove and insert pages"));
@@ -195,11 +196,24 @@ void MainMenu::fillToolBar() {
     bar->addActions({exportFlipBook});
     bar->addSeparator();
     bar->addActions({openHelp});
+    bar->installEventFilter(this);
     // Makes the buttons reachable with Tab like everything else.
     for (QAction* action : bar->actions()) {
         if (QWidget* button = bar->widgetForAction(action); button && !action->isSeparator())
             button->setFocusPolicy(action->text().isEmpty() ? Qt::NoFocus : Qt::TabFocus);
     }
+}
+
+// Without captions where there is no room for them: otherwise they would be cut off.
+bool MainMenu::eventFilter(QObject* watched, QEvent* event) {
+    auto* bar = qobject_cast<QToolBar*>(watched);
+    if (bar && event->type() == QEvent::Resize) {
+        if (bar->toolButtonStyle() == Qt::ToolButtonTextUnderIcon)
+            iBarWidth = bar->sizeHint().width();
+        bar->setToolButtonStyle(bar->width() < iBarWidth ? Qt::ToolButtonIconOnly
+                                                         : Qt::ToolButtonTextUnderIcon);
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void MainMenu::showRecentFiles(const QStringList& files) {

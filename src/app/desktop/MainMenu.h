@@ -53,6 +53,9 @@ Q_SIGNALS:
     void recentFileChosen(const QString& path);
     void recentFilesCleared();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QAction* add(const QString& text, const QString& iconName, const QKeySequence& shortcut);
     void makeCommands(QUndoStack& edits);
@@ -63,6 +66,7 @@ private:
     void fillToolBar();
 
     QMainWindow& iWindow;
+    int iBarWidth = 0; // of the toolbar with captions
     QString iApplyImage = QStringLiteral("apply");
     std::vector<std::pair<QAction*, QString>> iIcons;
 };
