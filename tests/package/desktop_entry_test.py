@@ -8,13 +8,15 @@ import unittest
 import xml.etree.ElementTree as xml
 from pathlib import Path
 
-from support import VERSION, contents
+from support import SOURCE, VERSION, contents
 
 ENTRY = "./usr/share/applications/folvero.desktop"
 METAINFO = "./usr/share/metainfo/invalid.folvero.folvero.metainfo.xml"
 MEDIA_TYPE = "./usr/share/mime/packages/folvero.xml"
 PROJECT = "application/x-folvero"
 LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
+# Those of the window; texts without a language are English.
+LANGUAGES = [None, *sorted({path.stem.split("_", 1)[1] for path in SOURCE.glob("translations/*.ts")} - {"en"})]
 
 
 class DesktopEntry(unittest.TestCase):
@@ -62,7 +64,7 @@ class DesktopEntry(unittest.TestCase):
         for parent in root.iter():
             texts = [child for child in parent if child.tag in ("summary", "p", "li")]
             self.assertEqual([(child.tag, child.get(LANGUAGE)) for child in texts],
-                             [(child.tag, language) for child in texts[::2] for language in (None, "de")])
+                             [(child.tag, language) for child in texts[::len(LANGUAGES)] for language in LANGUAGES])
 
     def test_icon_comes_in_each_size(self):
         folder = "./usr/share/icons/hicolor"
