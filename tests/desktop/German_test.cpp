@@ -175,9 +175,10 @@ bool mayBeTheSame(const QString& caption) {
 TEST(Translations, FirstOfTheUsersLanguagesThatTheProgramSpeaksIsTaken) {
     const std::tuple<QStringList, const char*, const char*> cases[] = {
         {{"de-AT"}, "de-AT", "&Beenden Abbrechen"},
-        {{"fr-FR", "de", "en"}, "de", "&Beenden Abbrechen"},
+        {{"is-IS", "de", "en"}, "de", "&Beenden Abbrechen"},
         {{"en-GB", "de"}, "en-GB", "&Quit Cancel"},
-        {{"fr-FR"}, "", "&Quit Cancel"},
+        {{"fr-CA"}, "fr-CA", "&Quitter Annuler"},
+        {{"is-IS"}, "", "&Quit Cancel"},
         {{"C"}, "", "&Quit Cancel"},
     };
     for (const auto& [languages, taken, captions] : cases) {
