@@ -67,8 +67,8 @@
         <translation>Wählen Sie in den Einstellungen andere, oder leeren Sie die Felder.</translation>
     </message>
     <message>
-        <source>The file %1 contains no settings. Choose one that was made with “Save settings”.</source>
-        <translation>Die Datei %1 enthält keine Einstellungen. Wählen Sie eine, die mit „Einstellungen speichern“ gemacht wurde.</translation>
+        <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
+        <translation>Die Datei %1 enthält keine Einstellungen. Wählen Sie eine, die mit „Aussehen speichern“ gemacht wurde.</translation>
     </message>
     <message>
         <source>%1 was not used: a book is made of one document.</source>

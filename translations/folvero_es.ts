@@ -70,7 +70,7 @@
         <translation>No se usó %1: un libro se crea a partir de un solo documento.</translation>
     </message>
     <message>
-        <source>The file %1 contains no settings. Choose one that was made with “Save settings”.</source>
+        <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
         <translation>El archivo %1 no contiene ajustes. Elija uno creado con «Guardar aspecto».</translation>
     </message>
     <message>
@@ -642,7 +642,7 @@
         <translation>Guardar el proyecto con otro nombre</translation>
     </message>
     <message>
-        <source>P&amp;ages…</source>
+        <source>Pa&amp;ges…</source>
         <translation>Págin&amp;as…</translation>
     </message>
     <message>

@@ -70,7 +70,7 @@
         <translation>%1 n’a pas été utilisé&#xa0;: un livre se fait à partir d’un seul document.</translation>
     </message>
     <message>
-        <source>The file %1 contains no settings. Choose one that was made with “Save settings”.</source>
+        <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
         <translation>Le fichier %1 ne contient pas de paramètres. Choisissez-en un créé avec «&#xa0;Enregistrer l’aspect&#xa0;».</translation>
     </message>
     <message>
@@ -642,7 +642,7 @@
         <translation>Enregistrer le projet sous un autre nom</translation>
     </message>
     <message>
-        <source>P&amp;ages…</source>
+        <source>Pa&amp;ges…</source>
         <translation>Pa&amp;ges…</translation>
     </message>
     <message>

@@ -70,7 +70,7 @@
         <translation>%1 non è stato usato: un libro si crea da un solo documento.</translation>
     </message>
     <message>
-        <source>The file %1 contains no settings. Choose one that was made with “Save settings”.</source>
+        <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
         <translation>Il file %1 non contiene impostazioni. Sceglierne uno creato con «Salva aspetto».</translation>
     </message>
     <message>
@@ -642,7 +642,7 @@
         <translation>Salva il progetto con un altro nome</translation>
     </message>
     <message>
-        <source>P&amp;ages…</source>
+        <source>Pa&amp;ges…</source>
         <translation>Pa&amp;gine…</translation>
     </message>
     <message>

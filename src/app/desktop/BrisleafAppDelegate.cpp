@@ -245,7 +245,7 @@ void BrisleafAppDelegate::OnImportTmplSettings() {
         iWindow->messages->showError(tr("The settings were not loaded."),
                                      (QFileInfo(file).isReadable()
                                           ? tr("The file %1 contains no settings. Choose one that "
-                                               "was made with “Save settings”.")
+                                               "was made with “Save look”.")
                                           : tr("The file %1 cannot be read."))
                                          .arg(file));
     iIsDirectionChosen = iIsDirectionChosen || loaded > 0;
