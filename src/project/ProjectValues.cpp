@@ -1,5 +1,7 @@
 #include "project/ProjectValues.h"
 
+#include "template/TemplateDefaults.h"
+
 #include <QSet>
 
 namespace {
@@ -16,16 +18,6 @@ void walk(const FlashTemplate::Properties& properties, QSet<QString>& seen,
     }
 }
 
-// The template as it is without any edits.
-FlashTemplate unchanged(const FlashTemplate& tmpl) {
-    FlashTemplate fresh;
-    if (fresh.tmplName() != tmpl.tmplName())
-        fresh.loadTemplate(tmpl.tmplName());
-    if (!tmpl.styleName().isEmpty())
-        fresh.loadStyleByStyleName(tmpl.styleName());
-    return fresh;
-}
-
 Project::Value valueOf(const FlashTemplateProperty& property) {
     Project::Value value{property.key(), property.value(), false, {}};
     value.isFile = property.propertyType() == pt_file && value.text.startsWith(u'/');
@@ -37,11 +29,12 @@ Project::Value valueOf(const FlashTemplateProperty& property) {
 } // namespace
 
 std::vector<Project::Value> ProjectValues::changed(const FlashTemplate& tmpl) {
-    const FlashTemplate fresh = unchanged(tmpl);
+    TemplateDefaults defaults;
+    defaults.read(tmpl);
     std::vector<Project::Value> values;
     QSet<QString> seen{QStringLiteral("pageWidth"), QStringLiteral("pageHeight")};
     walk(tmpl.properties(), seen, [&](const FlashTemplateProperty& property) {
-        if (property.value() != fresh.propertyValueFor(property.key(), {}))
+        if (defaults.isChanged(property))
             values.push_back(valueOf(property));
     });
     return values;
