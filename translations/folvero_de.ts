@@ -71,8 +71,8 @@
         <translation>Die Datei %1 enthält keine Einstellungen. Wählen Sie eine, die mit „Aussehen speichern“ gemacht wurde.</translation>
     </message>
     <message>
-        <source>%1 was not used: a book is made of one document.</source>
-        <translation>%1 wurde nicht verwendet: Ein Buch entsteht aus einem Dokument.</translation>
+        <source>%1 was not used. Insert it with “Pages”.</source>
+        <translation>%1 wurde nicht verwendet. Fügen Sie es mit „Seiten“ ein.</translation>
     </message>
     <message>
         <source>Press “Apply” to try again.</source>

@@ -66,8 +66,8 @@
         <translation>Elija otros en los ajustes o vacíe los campos.</translation>
     </message>
     <message>
-        <source>%1 was not used: a book is made of one document.</source>
-        <translation>No se usó %1: un libro se crea a partir de un solo documento.</translation>
+        <source>%1 was not used. Insert it with “Pages”.</source>
+        <translation>%1 no se ha usado. Insértelo con «Páginas».</translation>
     </message>
     <message>
         <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>

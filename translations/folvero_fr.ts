@@ -66,8 +66,8 @@
         <translation>Choisissez-en d’autres dans les paramètres, ou videz les champs.</translation>
     </message>
     <message>
-        <source>%1 was not used: a book is made of one document.</source>
-        <translation>%1 n’a pas été utilisé&#xa0;: un livre se fait à partir d’un seul document.</translation>
+        <source>%1 was not used. Insert it with “Pages”.</source>
+        <translation>%1 n’a pas été utilisé. Insérez-le avec « Pages ».</translation>
     </message>
     <message>
         <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>

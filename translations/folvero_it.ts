@@ -66,8 +66,8 @@
         <translation>Sceglierne altri nelle impostazioni, oppure svuotare i campi.</translation>
     </message>
     <message>
-        <source>%1 was not used: a book is made of one document.</source>
-        <translation>%1 non è stato usato: un libro si crea da un solo documento.</translation>
+        <source>%1 was not used. Insert it with “Pages”.</source>
+        <translation>%1 non è stato usato. Inseriscilo con «Pagine».</translation>
     </message>
     <message>
         <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>

@@ -89,6 +89,17 @@ TEST_F(Importing, DroppedDocumentIsImportedAtOnce) {
         EXPECT_TRUE(window().messages->message().contains(left));
 }
 
+TEST_F(Importing, DroppedProjectIsOpened) {
+    import(pdf(3));
+    fileToSave = path("tea");
+    window().menu->saveProject->trigger();
+    window().menu->newProject->trigger();
+    drop({path("tea.folvero")});
+    ASSERT_TRUE(waitForImport());
+    EXPECT_EQ(publishedPages(), 3u);
+    EXPECT_TRUE(window().windowTitle().startsWith("tea"));
+}
+
 TEST_F(Importing, PageThatCouldNotBeDrawnIsNamedAboveTheBook) {
     import(Program::sample("damaged-page.pdf"));
     EXPECT_FALSE(sheet().isVisible());

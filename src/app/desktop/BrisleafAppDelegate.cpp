@@ -205,7 +205,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     iDocument = iProject->takeImport();
     QStringList leftOut = iImportWindow->failures();
     for (const QString& dropped : std::exchange(iNotUsed, {}))
-        leftOut << tr("%1 was not used: a book is made of one document.").arg(dropped);
+        leftOut << tr("%1 was not used. Insert it with “Pages”.").arg(dropped);
     if (!leftOut.isEmpty())
         iWindow->messages->showError(tr("Not everything could be imported."), leftOut.join(u'\n'));
     applyChange(OtherBook);

@@ -160,7 +160,7 @@ void BrisleafAppDelegate::connectCommands() {
     connect(iWindow->btnFloat, &QPushButton::clicked, this, &BrisleafAppDelegate::onSelectTemplate);
     connect(iWindow.get(), &MainWindow::fileDropped, this,
             [this](const QString& path, const QStringList& notUsed) {
-                importFile(path);
+                openFile(path);
                 iNotUsed = notUsed;
             });
     connect(iOuputWindow.get(), &OutputWindowDelegate::publishFailed, this,

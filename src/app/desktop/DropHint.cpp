@@ -1,5 +1,7 @@
 #include "app/desktop/DropHint.h"
 
+#include "project/ProjectFile.h"
+
 #include <QMimeData>
 #include <QPainter>
 #include <QUrl>
@@ -11,7 +13,8 @@ constexpr qreal corner = 14;
 constexpr float veil = 0.88F;
 
 bool isDocument(const QString& path) {
-    return path.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive);
+    return path.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive) ||
+           ProjectFile::isProject(path);
 }
 
 QStringList pathsOf(const QMimeData& files, bool areDocuments) {
