@@ -5,6 +5,7 @@
 #include "console/CommandError.h"
 #include "console/Interrupt.h"
 #include "pdf/OfficeDocument.h"
+#include "pdf/PictureFile.h"
 #include "system/Files.h"
 
 #include <QCollator>
@@ -15,19 +16,11 @@
 
 namespace {
 
-const QStringList pictureTypes{
-    QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("png"), QStringLiteral("webp"),
-    QStringLiteral("tif"), QStringLiteral("tiff"), QStringLiteral("gif"), QStringLiteral("bmp")};
-
-bool isPicture(const QString& path) {
-    return pictureTypes.contains(Files::pathExtension(path).toLower());
-}
-
 // "Page 9" comes before "Page 10".
 QStringList filesOf(const QString& folder) {
     QStringList names;
     for (const QString& name : QDir(folder).entryList(QDir::Files)) {
-        if (isPicture(name) || Files::pathExtension(name).toLower() == u"pdf")
+        if (PictureFile::isOne(name) || Files::pathExtension(name).toLower() == u"pdf")
             names << name;
     }
     if (names.isEmpty())
@@ -50,7 +43,7 @@ QStringList MergedInput::files(const PublishOptions& options) {
     for (const QString& input : options.inputs)
         files << (QFileInfo(input).isDir() ? filesOf(input) : QStringList(input));
     const QString& first = options.inputs.front();
-    const bool isPDF = !isPicture(first) && !OfficeDocument::isOne(first);
+    const bool isPDF = !PictureFile::isOne(first) && !OfficeDocument::isOne(first);
     const bool isOneDocument =
         files.size() == 1 && isPDF && files.front() == first && options.pageList.empty();
     return isOneDocument ? QStringList() : files;

@@ -1,11 +1,15 @@
 #include "ui/PagePainter.h"
 
+#include "ui/ItemPainting.h"
 #include "ui/PagesModel.h"
 
 #include <QApplication>
 #include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
+
+using ItemPainting::faded;
+using ItemPainting::is;
 
 namespace {
 
@@ -15,15 +19,6 @@ constexpr int numberGap = 4;
 constexpr qreal cornerRadius = 6;
 // Of a page whose picture is not there yet, and of a blank one.
 constexpr QSizeF usualShape(210, 297);
-
-bool is(const QStyleOptionViewItem& option, QStyle::StateFlag state) {
-    return option.state.testFlag(state);
-}
-
-QColor faded(QColor color, qreal opacity) {
-    color.setAlphaF(float(opacity));
-    return color;
-}
 
 // Read at the size at which it is shown; a null pixmap when it can't be.
 QPixmap pictureAt(const QString& file, int rotation, qreal pixelRatio) {

@@ -2,7 +2,7 @@
 
 #include "base/PlatformException.h"
 #include "pdf/PDFReader.h"
-#include "system/Files.h"
+#include "pdf/PictureFile.h"
 #include "ui/PagesWindow.h"
 
 #include <QAction>
@@ -14,24 +14,16 @@
 
 namespace {
 
-const QStringList pictureTypes{
-    QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("png"), QStringLiteral("webp"),
-    QStringLiteral("tif"), QStringLiteral("tiff"), QStringLiteral("gif"), QStringLiteral("bmp")};
-
-bool isPicture(const QString& path) {
-    return pictureTypes.contains(Files::pathExtension(path).toLower());
-}
-
 QString filter() {
     QStringList patterns{QStringLiteral("*.pdf")};
-    for (const QString& type : pictureTypes)
+    for (const QString& type : PictureFile::types())
         patterns << QStringLiteral("*.") + type;
     return PagesWindowDelegate::tr("PDFs and pictures (%1)").arg(patterns.join(u' '));
 }
 
 // Throws PlatformException.
 PagesModel::Document opened(const QString& path) {
-    if (isPicture(path))
+    if (PictureFile::isOne(path))
         return {path, 1};
     const auto document = PDFReader::open(path);
     const int pages = document->pageCount();
@@ -115,7 +107,7 @@ void PagesWindowDelegate::drawPictures(int from) {
     const auto& documents = iModel.documents();
     for (int number = from; number < int(documents.size()); ++number) {
         const QString& path = documents[std::size_t(number)].path;
-        if (isPicture(path))
+        if (PictureFile::isOne(path))
             iModel.setPicture(number, 0, path);
         else
             iPictures.draw(number, path);

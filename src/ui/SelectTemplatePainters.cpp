@@ -1,5 +1,6 @@
 #include "ui/SelectTemplatePainters.h"
 
+#include "ui/ItemPainting.h"
 #include "ui/SelectTemplateModels.h"
 
 #include <QHelpEvent>
@@ -7,6 +8,9 @@
 #include <QPainter>
 #include <QPixmapCache>
 #include <QToolTip>
+
+using ItemPainting::faded;
+using ItemPainting::is;
 
 namespace {
 
@@ -25,15 +29,6 @@ constexpr qreal pictureRadius = 4;
 // The frame of the selected picture, and the gap between the two.
 constexpr qreal frameWidth = 3;
 constexpr qreal frameGap = 2;
-
-bool is(const QStyleOptionViewItem& option, QStyle::StateFlag state) {
-    return option.state.testFlag(state);
-}
-
-QColor faded(QColor color, qreal opacity) {
-    color.setAlphaF(float(opacity));
-    return color;
-}
 
 void drawFocus(QPainter& painter, const QRectF& rect, const QColor& color) {
     painter.setPen(QPen(color, 1));
