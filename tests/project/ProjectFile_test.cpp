@@ -76,7 +76,7 @@ TEST_F(ProjectFileTest, FilesAreFoundWhereTheyWereOrMovedWithTheProject) {
     TestFiles::write(old + "/project/sub/a.pdf", "one");
     TestFiles::write(old + "/logo.png", "logo");
     write(filled(old + "/project/sub/a.pdf", old + "/logo.png"), old + "/project/b.folvero");
-    const auto located = [this](const QString& folder) {
+    const auto located = [](const QString& folder) {
         return ProjectFiles::locate(ProjectFile::read(folder + "/b.folvero"), folder);
     };
     QDir().mkpath(path("else"));
