@@ -200,13 +200,22 @@ export class Book {
    * @param {number} density
    */
   faces(front, back, side, density) {
-    const face = this.#face(front, side === 'left' ? 'right' : 'left', density);
+    const face = this.frontFace(front, side, density);
     if (this.layout.spread) return { front: face, back: this.#face(back, side, density) };
     return {
       front: face,
       back: this.drawn.get(front, 'through',
         (canvas) => drawShowThrough(canvas, face, this.paper)),
     };
+  }
+
+  /**
+   * @param {number} page
+   * @param {Side} side on which the leaf lies
+   * @param {number} density
+   */
+  frontFace(page, side, density) {
+    return this.#face(page, side === 'left' ? 'right' : 'left', density);
   }
 
   /**

@@ -77,6 +77,14 @@ export class Leaf {
     Object.assign(this, this.book.faces(this.pages[this.side], this.pages[other], this.side, density));
   }
 
+  /**
+   * Draws a part of that ahead, which takes half the time.
+   * @param {number} density
+   */
+  drawFront(density) {
+    if (!this.whole) this.book.frontFace(this.pages[this.side], this.side, density);
+  }
+
   /** Offset of the book from the middle at this moment, in CSS pixels. */
   get shift() {
     const { book } = this;

@@ -165,17 +165,19 @@ export class Turner {
     else this.#finish('back', config.riseTime * 800);
   }
 
-  /** Draws the faces of the next turns when idle, so that these start at once. */
+  /** Draws the faces of the next turns when idle, so that these start at once: one at a time, which holds no frame up. */
   #prepareSoon() {
     const idle = window.requestIdleCallback ?? ((/** @type {() => void} */ act) => setTimeout(act, 60));
     const view = this.current;
     for (const to of [view + 1, view - 1]) {
-      idle(() => {
-        if (this.leaf || view !== this.current || to !== this.book.views.clamp(to)) return;
-        if (this.#mayLift() && this.book.ready(to)) {
-          new Leaf(this.book, this.painter, view, to, 0).drawFaces(this.density);
-        }
-      });
+      for (const draw of /** @type {const} */ (['drawFront', 'drawFaces'])) {
+        idle(() => {
+          if (this.leaf || view !== this.current || to !== this.book.views.clamp(to)) return;
+          if (this.#mayLift() && this.book.ready(to)) {
+            new Leaf(this.book, this.painter, view, to, 0)[draw](this.density);
+          }
+        });
+      }
     }
   }
 
