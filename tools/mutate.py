@@ -194,8 +194,8 @@ def failed_test(command, longest_seconds):
     return f"{begun[-1]}, " + ("hangs" if code is None else f"exit code {code}")
 
 
-def is_built(target):
-    return run(["cmake", "--build", "--preset", "release", "-j", "1", "--target", target])[1] == 0
+def is_built(*targets):
+    return run(["cmake", "--build", "--preset", "release", "-j", "1", "--target", *targets])[1] == 0
 
 
 @functools.cache
@@ -212,9 +212,11 @@ def tests_of(program):
     """Taken once for a commit: it takes minutes."""
     commit = run(["git", "log", "-1", "--format=%h", "--", "src", "tests"])[0].strip()
     report = WORK / f"build/{program}-{commit}.json"
-    failed = None if report.exists() else failed_test((str(BIN / program), f"--gtest_output=json:{report}"), 300)
-    if failed and not report.exists():
-        sys.exit(f"mutate.py: {failed} without a fault")
+    if not report.exists():
+        is_built(program)  # again without the last fault
+        failed = failed_test((str(BIN / program), f"--gtest_output=json:{report}"), 300)
+        if not report.exists():
+            sys.exit(f"mutate.py: {failed} without a fault")
     suites = json.loads(report.read_text(encoding="utf-8"))["testsuites"]
     tests = [(f"{suite['name']}.{test['name']}", test) for suite in suites for test in suite["testsuite"]]
     for name, test in tests:
@@ -224,18 +226,20 @@ def tests_of(program):
             for name, test in tests if "failures" not in test]
 
 
-def ctest(names, target):
+def ctest(names, *targets):
     command = ("ctest", "--preset", "release", "-R", f"^({names})$")
-    return target, command, normal_seconds(command)
+    is_built(*targets)  # again without the last fault
+    return targets, command, normal_seconds(command)
 
 
 def checks_of(path, in_browser):
-    """Steps (target to build, command, seconds of its longest test), nearest and fastest first."""
+    """Steps (targets to build, command, seconds of its longest test), nearest and fastest first."""
     if path.suffix == ".js":
         commands = [("node", "--test", "player/test")] if (WORK / "player/test").is_dir() else []
         commands.append(("tsc", "--project", "player"))
-        checks = [(None, command, normal_seconds(command)) for command in commands]
-        return checks + [ctest(rf"browser\.({BROWSER.get(path.parent.name, 'opening')})", "resources")] * in_browser
+        checks = [((), command, normal_seconds(command)) for command in commands]
+        opened = BROWSER.get(path.parent.name, "opening")
+        return checks + ([ctest(rf"browser\.({opened})", "folvero", "resources")] if in_browser else [])
     folder = str(path.parent.relative_to(WORK / "src"))
     near = NEAR.get(folder, folder)
     checks = []
@@ -245,7 +249,7 @@ def checks_of(path, in_browser):
         for test in tests_of(program):
             is_slow = test.seconds > slow_seconds
             steps[2 if is_slow else test.folder != near].append(test)
-        checks += [(program, (str(BIN / program), "--gtest_fail_fast",
+        checks += [((program,), (str(BIN / program), "--gtest_fail_fast",
                               "--gtest_filter=" + ":".join(test.name for test in step)),
                     max(test.seconds for test in step)) for step in steps if step]
     return [*checks, ctest(r"resources\.translations", program)]
@@ -271,11 +275,11 @@ def catcher(fault, checks):
     try:
         if fault.path.suffix == ".js" and run(["esbuild", str(fault.path)])[1] != 0:
             return None
-        built = None
-        for target, command, seconds in checks:
-            if target != built and not is_built(target):
+        built = ()
+        for targets, command, seconds in checks:
+            if targets not in ((), built) and not is_built(*targets):
                 return None
-            built = target
+            built = targets
             failed = caught_by(command, seconds)
             if failed:
                 return failed
@@ -301,11 +305,11 @@ def check_out():
 
 
 def prepare(options):
-    """All faults and, unless they are only listed, the checks of each file."""
+    """All faults, numbered, and, unless they are only listed, what gives the checks of a file."""
     check_out()
     paths = {path for name in options.paths for path in (WORK / name, *(WORK / name).rglob("*"))
              if path.is_file() and path.suffix in (".cpp", ".js")}
-    faults = shuffled(paths, options.seed)
+    faults = itertools.islice(enumerate(shuffled(paths, options.seed), 1), options.skip, None)
     if options.list:
         return faults, None
     extra = ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"] if shutil.which("ccache") else []
@@ -313,7 +317,7 @@ def prepare(options):
     needs_build = options.browser or any(path.suffix == ".cpp" for path in paths)
     if needs_build and (run(["cmake", "--preset", "release", *extra])[1] != 0 or not is_built("all")):
         sys.exit("mutate.py: the last commit does not build")
-    return faults, {path: checks_of(path, options.browser) for path in paths}
+    return faults, functools.cache(lambda path: checks_of(path, options.browser))
 
 
 def described(fault):
@@ -323,11 +327,11 @@ def described(fault):
 def measure(faults, checks, count):
     tally = collections.defaultdict(collections.Counter)
     try:
-        for fault in faults:
-            start = time.monotonic()
-            by = catcher(fault, checks[fault.path])
+        for number, fault in faults:
+            steps, start = checks(fault.path), time.monotonic()
+            by = catcher(fault, steps)
             word = "does not compile" if by is None else f"caught by {by}" if by else "SURVIVED"
-            print(f"{described(fault)} [{word}, {time.monotonic() - start:.0f} s]", flush=True)
+            print(f"{number} {described(fault)} [{word}, {time.monotonic() - start:.0f} s]", flush=True)
             if by is not None:
                 tally[str(fault.path.parent.relative_to(WORK))].update(caught=bool(by), tried=1)
             if sum(row["tried"] for row in tally.values()) == count:
@@ -342,6 +346,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n", maxsplit=1)[0])
     parser.add_argument("--count", type=int, default=100)
     parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--skip", type=int, default=0, help="faults of the seed to pass over, to go on with a stopped run")
     parser.add_argument("--list", action="store_true", help="print the faults and try none")
     parser.add_argument("--browser", action="store_true", help="open books in a browser for what no other test caught")
     parser.add_argument("paths", nargs="*", default=["src"], help="files or folders of src/ or player/; all of src/")
@@ -355,7 +360,7 @@ def main():
             sys.exit("mutate.py: another run is using build/mutate")
         faults, checks = prepare(options)
         if options.list:
-            print("\n".join(described(fault) for fault in itertools.islice(faults, options.count)))
+            print("\n".join(f"{number} {described(fault)}" for number, fault in itertools.islice(faults, options.count)))
         else:
             measure(faults, checks, options.count)
 
