@@ -50,6 +50,15 @@ class Texts(unittest.TestCase):
                 self.assertTrue(str(refused.exception).startswith(f"player/texts/{fault}"), refused.exception)
 
 
+    def test_each_part_takes_its_own_section_of_other_languages(self):
+        taken = {}
+        for script in [*PLAYER.glob("src/**/*.js"), *PLAYER.glob("web/*.js")]:
+            for table, section in re.findall(r"\blearn\((\w+), '(.*?)'\)", script.read_text(encoding="utf-8")):
+                taken[section] = table
+        self.assertEqual(taken, {section: "table" if section == "page" else f"{section.upper()}_TEXTS"
+                                 for section in texts.languages(PLAYER)})
+
+
 class Sizes(unittest.TestCase):
     def test_scripts_stay_within_their_budgets(self):
         page = (BUILT / "Templates/float/index.html").read_text(encoding="utf-8")

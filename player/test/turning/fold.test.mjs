@@ -1,6 +1,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 import { foldOf, leafCorners, reachable, seenOutline, within } from '../../src/turning/fold.js';
+import { clearedCanvas } from '../../src/turning/shade.js';
 
 const WIDTH = 300;
 const HEIGHT = 400;
@@ -42,4 +43,16 @@ test('a leaf folds in the middle between where its edge lay and where it is, abo
       assert.ok(seen.every((point) => beyond(point) <= radius), 'no paper beyond the roll');
     }
   }
+});
+
+test('a canvas that is drawn on again is cleared as a whole, however it was scaled, and only grows', () => {
+  const calls = [];
+  const log = (name) => (...values) => calls.push([name, ...values]);
+  const context = { canvas: { width: 10, height: 10 }, setTransform: log('scale'), clearRect: log('clear') };
+  clearedCanvas(context, 8, 10);
+  assert.deepEqual(calls.splice(0), [['scale', 1, 0, 0, 1, 0, 0], ['clear', 0, 0, 10, 12]]);
+  clearedCanvas(context, 12, 5);
+  assert.deepEqual([context.canvas, calls], [{ width: 12, height: 10 }, []], 'a new size clears it');
+  clearedCanvas(context, 5, 14);
+  assert.deepEqual(context.canvas, { width: 12, height: 14 });
 });
