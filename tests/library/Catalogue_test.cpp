@@ -256,6 +256,9 @@ TEST_F(CatalogueTest, HasFeedsWithAllThatTheirFormatsRequire) {
                 EXPECT_TRUE(entry.node().select_node(needed)) << needed;
         }
     }
+    for (const QString list : {"index", "languages"})
+        EXPECT_TRUE(
+            xml("catalogue/opds/" + list + ".xml").select_nodes("//entry[not(content)]").empty());
     const auto all = xml("catalogue/opds/all-2.xml");
     EXPECT_STREQ(all.select_node("//link[@rel='previous']/@href").attribute().value(),
                  (address + "catalogue/opds/all.xml").toUtf8());

@@ -70,7 +70,8 @@ TEST_F(PDFDocumentTest, SaysWhyPagesCanNotBeFound) {
 
 TEST_F(PDFDocumentTest, LabelsItsPages) {
     const std::pair<QByteArray, QStringList> ranges[] = {
-        {"/S /r /St 8", {"viii", "ix", "x"}}, {"/S /R /St 1994", {"MCMXCIV"}},
+        {"/S /r /St 8", {"viii", "ix", "x"}}, {"/S /R /St 1999", {"MCMXCIX"}},
+        {"/S /R /St 1666", {"MDCLXVI"}},      {"/S /r /St 1444", {"mcdxliv"}},
         {"/S /A /St 26", {"Z", "AA", "BB"}},  {"/S /a /P (C-)", {"C-a", "C-b"}},
         {"/P (Cover)", {"Cover", "Cover"}},   {"/S /D /St 5", {"5", "6"}}};
     std::vector<QString> expected;

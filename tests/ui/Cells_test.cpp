@@ -60,6 +60,9 @@ TEST(Cells, PlaceTextButtonAndPicture) {
     };
     for (const auto& [is, wanted] : places)
         EXPECT_EQ(is, wanted);
+    EXPECT_EQ(file.hitTestForEvent({110, 58}, bounds), hitContentArea | hitEditableTextArea);
+    EXPECT_EQ(file.hitTestForEvent(inButton, bounds), hitContentArea | hitTrackableArea);
+    EXPECT_EQ(file.hitTestForEvent(outside, bounds), hitNone);
     image.setImage(QPixmap(20, 11));
     EXPECT_EQ(image.imageRectForBounds(bounds), QRectF(111, 65, 20, 11));
     EXPECT_EQ(image.titleRectForBounds(QRectF(0, 0, 60, 40)).width(), 2);
@@ -74,6 +77,12 @@ TEST(CellButton, HasAPictureForEachState) {
         const QImage image = drawn(cell, {40, 20});
         looks << QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
     };
+    for (const auto& [pointer, name] :
+         {std::pair{outside, "info-normal"}, {inButton, "info-normal-hovered"}}) {
+        EXPECT_EQ(cell.addTrackingAreas(bounds, pointer), cell.infoButtonRectForBounds(bounds));
+        EXPECT_EQ(cell.infoButtonImage(), name);
+    }
+    cell.mouseExited();
     for (const QString name : {"info-normal", "info-selected"}) {
         cell.setHighlighted(name == "info-selected");
         look(name);

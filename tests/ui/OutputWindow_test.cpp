@@ -237,12 +237,17 @@ TEST_F(PublishSheet, CancelsAWebBookWhileItsPagesAreMade) {
     EXPECT_TRUE(questions.isEmpty() && told.isEmpty());
 }
 
-TEST_F(PublishSheet, NamesThePageWhosePictureHasGone) {
+TEST_F(PublishSheet, NamesThePageAndTheFileThatHaveGone) {
+    book.library.addTemplate(
+        "float", TemplateLibrary::composite(
+                     "group", TemplateLibrary::property("logoFile", "/gone/logo.png", "pt_file")));
+    book.flashTemplate->loadTemplate("float");
     book.addPage("2.jpg", 2, "second");
     open();
     ASSERT_TRUE(QFile::remove(book.pageSource->pages().back()->pageFilePath()));
     publish();
     EXPECT_EQ(told.filter(": 2.").size(), 1) << told.join(u' ').toStdString();
+    EXPECT_EQ(told.filter("/gone/logo.png\n").size(), 1) << told.join(u' ').toStdString();
     EXPECT_EQ(questions.size(), 2);
 }
 

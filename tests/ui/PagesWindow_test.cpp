@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QFileInfo>
 #include <QImage>
+#include <QLabel>
 #include <QListView>
 #include <QMimeData>
 #include <QPushButton>
@@ -52,10 +53,20 @@ protected:
             selection->select(delegate.model().index(row), QItemSelectionModel::Select);
     }
 
+    // A page of its own.
+    QString picture() {
+        const QString file = folder.filePath("cover.png");
+        QImage image(30, 40, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        EXPECT_TRUE(image.save(file));
+        return file;
+    }
+
     bool drop(const QMimeData& data, int row) {
         return delegate.model().dropMimeData(&data, Qt::MoveAction, row, 0, {});
     }
 
+    QTemporaryDir folder;
     PagesWindowDelegate delegate;
     PagesWindow& window = delegate.window();
     int ended = -1;
@@ -97,19 +108,38 @@ TEST_F(PagesSheet, PagesAreDraggedBetweenOthersAndFilesFromOutside) {
     const std::unique_ptr<QMimeData> dragged(model.mimeData({model.index(5), model.index(1)}));
     EXPECT_FALSE(drop(*dragged, 3));
     EXPECT_EQ(shown(), "1 3 [2] [6] 4 5 7 8 9");
-    QTemporaryDir folder;
-    const QString picture = folder.filePath("cover.png");
-    QImage image(30, 40, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    image.save(picture);
     QMimeData files;
     files.setUrls(
-        {QUrl::fromLocalFile(picture), QUrl::fromLocalFile(Program::sample("truncated.pdf"))});
-    drop(files, 0);
+        {QUrl::fromLocalFile(picture()), QUrl::fromLocalFile(Program::sample("truncated.pdf"))});
+    EXPECT_FALSE(drop(files, 0)) << "whoever offers them would take them for moved";
     EXPECT_EQ(shown(), "[b1] 1 3 2 6 4 5 7 8 9");
-    EXPECT_EQ(model.used().documents, QStringList({Program::sample("outline.pdf"), picture}));
+    EXPECT_EQ(model.used().documents, QStringList({Program::sample("outline.pdf"), picture()}));
     EXPECT_EQ(model.used().pages.size(), 10U);
     EXPECT_TRUE(window.findChild<QWidget*>("lblFailure")->isVisible());
+}
+
+TEST_F(PagesSheet, TakesUpAnEarlierArrangementAndSaysWhatItIsMadeOf) {
+    const QString outline = Program::sample("outline.pdf");
+    QString failure;
+    ASSERT_TRUE(delegate.beginSheet({outline, picture()},
+                                    {{1}, {}, {0, 8, 90}, {0, 9}, {0, -1, 180}}, {}, &failure));
+    EXPECT_EQ(shown(), "b1 - 9/90 1/180 2/180 3/180 4/180 5/180 6/180 7/180 8/180 9/180");
+    choose({3, 4, 5, 6, 7, 8, 9, 10, 11});
+    EXPECT_FALSE(window.makeFirst->isEnabled()) << "of one page only";
+    window.removePages->trigger();
+    EXPECT_EQ(shown(), "b1 - [9/90]");
+    EXPECT_TRUE(window.lblCount->text().startsWith("3 page"));
+    EXPECT_TRUE(window.lblCount->text().endsWith(", 1 selected"));
+    auto& model = delegate.model();
+    const char* spoken[] = {"Page 1: cover.png", "Page 2: Blank page",
+                            "Page 3: outline.pdf, page 9"};
+    for (int row = 0; row < 3; ++row)
+        EXPECT_EQ(model.index(row).data(Qt::AccessibleTextRole).toString(), spoken[row]);
+    EXPECT_EQ(model.index(0).data(PagesModel::pictureRole).toString(), picture());
+    EXPECT_EQ(model.used().documents, QStringList({outline, picture()}));
+    window.removePages->trigger();
+    EXPECT_EQ(model.used().documents, QStringList{picture()});
+    EXPECT_EQ(model.used().pages.at(0).source, 0) << "the only one that is left";
 }
 
 TEST_F(PagesSheet, PicturesOfItsPagesArriveAndTheAnswerIsTold) {
