@@ -3,7 +3,6 @@
 #include "console/CommandError.h"
 #include "util/PageRange.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 #include <algorithm>
 
@@ -11,18 +10,6 @@ namespace {
 
 QString runText(int first, int last) {
     return first == last ? QString::number(first) : QStringLiteral("%1-%2").arg(first).arg(last);
-}
-
-// The parts of the range, quoted, that are neither a page number nor a run of pages.
-QStringList invalidParts(const QString& expression) {
-    static const QRegularExpression clear(QStringLiteral("^\\s*(\\d+\\s*(-\\s*\\d+\\s*)?|all)$"),
-                                          QRegularExpression::CaseInsensitiveOption);
-    QStringList pieces;
-    for (const QString& piece : expression.split(u',', Qt::SkipEmptyParts)) {
-        if (!clear.match(piece).hasMatch())
-            pieces << QStringLiteral("\"%1\"").arg(piece);
-    }
-    return pieces;
 }
 
 } // namespace
@@ -45,10 +32,11 @@ PageSelection selectPages(const QString& expression, int pageCount) {
                                .arg(pageCount));
     }
     PageSelection selection{kept.join(u','), {}};
-    const QStringList unclear = invalidParts(expression);
+    const QStringList unclear = unclearParts(expression);
     if (!unclear.isEmpty()) {
-        selection.remarks << QStringLiteral("the page range is not clear at %1; taking pages %2")
-                                 .arg(unclear.join(QStringLiteral(", ")), selection.range);
+        selection.remarks << QStringLiteral(
+                                 "the page range is not clear at \"%1\"; taking pages %2")
+                                 .arg(unclear.join(QStringLiteral("\", \"")), selection.range);
     }
     if (!missing.isEmpty()) {
         selection.remarks << QStringLiteral("has only %1 pages; left out: %2")

@@ -3,6 +3,7 @@
 #include "pdf/PDFPage.h"
 #include "pdf/PageCut.h"
 #include "system/FileState.h"
+#include "util/PageRange.h"
 
 #include <QByteArray>
 #include <QString>
@@ -47,6 +48,9 @@ public:
 
     // What the page at a zero-based index shows of the file.
     virtual PageCut cut(int index) const { return index; }
+
+    // The numbers of this document's pages for those of the file's.
+    virtual std::vector<PageRun> runs(const std::vector<PageRun>& ofFile) const { return ofFile; }
 
     // The sizes of all pages as displayed, in points; empty ones for pages that can't be read.
     virtual std::vector<QSizeF> pageSizes() const = 0;

@@ -147,7 +147,7 @@ bool SplitPDF::isSplit(int ofDocument) const {
     return iFirst[std::size_t(ofDocument) + 1] - iFirst[std::size_t(ofDocument)] > 1;
 }
 
-std::vector<PageRun> SplitPDF::runs(const std::vector<PageRun>& ofDocument) const {
+std::vector<PageRun> SplitPDF::runs(const std::vector<PageRun>& ofFile) const {
     const qint64 count = iDocument->pageCount();
     // Numbers that the document lacks stay such.
     const auto firstPart = [&](qint64 number) -> qint64 {
@@ -156,7 +156,7 @@ std::vector<PageRun> SplitPDF::runs(const std::vector<PageRun>& ofDocument) cons
         return number > count ? number - count + pageCount() : iFirst[std::size_t(number) - 1] + 1;
     };
     std::vector<PageRun> runs;
-    for (const auto& [first, last] : ofDocument) {
+    for (const auto& [first, last] : ofFile) {
         const qint64 end = firstPart(std::max(qint64{last}, qint64{0}) + 1) - 1;
         runs.push_back({int(firstPart(first)), int(std::min<qint64>(end, INT_MAX))});
     }

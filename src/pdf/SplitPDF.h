@@ -1,7 +1,6 @@
 #pragma once
 
 #include "pdf/PDFDocument.h"
-#include "util/PageRange.h"
 
 #include <memory>
 #include <vector>
@@ -21,8 +20,7 @@ public:
     static std::shared_ptr<SplitPDF> of(const std::shared_ptr<PDFDocument>& document,
                                         Spreads spreads, bool rightToLeft);
 
-    // The numbers of this document's pages for those of the document's.
-    std::vector<PageRun> runs(const std::vector<PageRun>& ofDocument) const;
+    std::vector<PageRun> runs(const std::vector<PageRun>& ofFile) const override;
     // The same for the text of a page range.
     QString range(const QString& ofDocument) const;
 

@@ -4,6 +4,7 @@
 #include "base/PlatformException.h"
 #include "util/LenientInteger.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <cstdint>
 
@@ -62,6 +63,17 @@ std::vector<int> pagesFromExpression(const QString& expression, int total) {
             log.debug(QStringLiteral("range[%1]=%2").arg(i).arg(numbers[i]));
     }
     return numbers;
+}
+
+QStringList unclearParts(const QString& expression) {
+    static const QRegularExpression clear(QStringLiteral("^\\s*(\\d+\\s*(-\\s*\\d+\\s*)?|all)$"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    QStringList parts;
+    for (const QString& part : expression.split(u',', Qt::SkipEmptyParts)) {
+        if (!clear.match(part).hasMatch())
+            parts << part;
+    }
+    return parts;
 }
 
 bool isWithin(const std::vector<PageRun>& runs, int page) {
