@@ -124,10 +124,15 @@ void WebBookOptions::printLeftoverFiles(const PublishOptions& options,
 }
 
 void WebBookOptions::printEmbedSnippet(const FolveroOutputWeb& output) {
-    const QString html = EmbedSnippet::html(output.title(), output.book().pageSize,
-                                            Files::lastPathComponent(output.outputHTMLFileName()));
+    const QString address = output.metadata().address;
+    const QString html =
+        EmbedSnippet::html(output.title(), output.book().pageSize,
+                           Files::lastPathComponent(output.outputHTMLFileName()), address);
+    const QString where =
+        address.isEmpty() ? QStringLiteral(", with the book's\naddress on the web in place of %1")
+                                .arg(EmbedSnippet::placeholder)
+                          : QString();
     Terminal::report(QStringLiteral("To show the book inside a page of yours, put this line into "
-                                    "that page, with the book's\naddress on the web in place of "
-                                    "%1:\n%2")
-                         .arg(EmbedSnippet::placeholder, html));
+                                    "that page%1:\n%2")
+                         .arg(where, html));
 }

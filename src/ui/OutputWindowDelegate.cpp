@@ -166,7 +166,7 @@ void OutputWindowDelegate::showState() {
                                     !iWindow->txtOutputName->text().trimmed().isEmpty());
     iWindow->showWebBookParts(iWindow->mOutputType->checkedId() == OutputWindow::webBook);
     iWindow->txtEmbed->setText(EmbedSnippet::html(
-        iWindow->txtTitle->text(), AppSettings::shareInstance().pageSize(), pageName()));
+        iWindow->txtTitle->text(), AppSettings::shareInstance().pageSize(), pageName(), {}));
     iWindow->txtEmbed->setCursorPosition(0);
 }
 
