@@ -54,6 +54,8 @@ void runProjectInfo(const QString& path, bool json) {
     print("Title", project.publish.title);
     print("Name", project.publish.name);
     print("Folder", project.publish.folder);
+    print("Address", project.publish.url);
+    print("Reading sample", project.publish.previewPages);
     for (const Message& warning :
          located.changed + located.missingDocuments + located.missingValues)
         Terminal::report(QStringLiteral("folvero: %1").arg(warning.english()));

@@ -77,8 +77,12 @@ void apply(const Project& project, PublishOptions& options) {
     choices.setText("--name", &PublishOptions::name, publish.name);
     choices.setText("--title", &PublishOptions::title, publish.title);
     choices.set("--type", &PublishOptions::type, typeOf(publish.kind));
-    if (options.type == Type::web)
+    if (options.type == Type::web) {
         choices.set("--single-file", &PublishOptions::singleFile, publish.singleFile);
+        choices.setText("--url", &PublishOptions::url, publish.url);
+    }
+    if (options.type == Type::web || options.type == Type::scorm)
+        choices.setText("--preview-pages", &PublishOptions::previewPages, publish.previewPages);
 }
 
 } // namespace

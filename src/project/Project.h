@@ -40,7 +40,10 @@ struct Project {
         QString name; // of the page or the application, without extension
         QString title;
         Kind kind = Kind::web;
-        bool singleFile = false; // web books only
+        // Web books only.
+        bool singleFile = false;
+        QString url;          // where the book will be
+        QString previewPages; // of a reading sample, by their numbers in the document
 
         bool operator==(const Publish& other) const = default;
     };

@@ -200,7 +200,9 @@ QJsonObject asJson(const Project::Publish& publish) {
             {QStringLiteral("name"), publish.name},
             {QStringLiteral("title"), publish.title},
             {QStringLiteral("kind"), nameOf(kinds, publish.kind)},
-            {QStringLiteral("singleFile"), publish.singleFile}};
+            {QStringLiteral("singleFile"), publish.singleFile},
+            {QStringLiteral("url"), publish.url},
+            {QStringLiteral("previewPages"), publish.previewPages}};
 }
 
 Project::Publish publishOf(const Reader& from) {
@@ -210,6 +212,8 @@ Project::Publish publishOf(const Reader& from) {
     publish.title = from.text("title");
     publish.kind = from.choice("kind", kinds, Project::Kind::web);
     publish.singleFile = from.flag("singleFile");
+    publish.url = from.text("url");
+    publish.previewPages = from.text("previewPages");
     return publish;
 }
 

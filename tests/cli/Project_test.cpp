@@ -38,14 +38,18 @@ Project projectOf(const QStringList& documents) {
 TEST_F(PublishedProject, IsTheBookThatTheSameOptionsMakeAndOptionsComeFirst) {
     const QString document = copy("links.pdf");
     Project project = projectOf({document});
-    project.import = {true, "1", 45, Spreads::keep, true, false};
+    project.import = {true, "1-2", 45, Spreads::keep, true, false};
     project.templateName = "deck";
     project.values = {{"mainColor", "0x123456", false, {}}};
-    project.publish = {"", "tea", "Tea & Cake", Project::Kind::web, true};
+    project.publish = {"", "tea", "Tea & Cake", Project::Kind::web, true, "https://example.org/",
+                       "2"};
     const QString file = save(project);
-    const QStringList options{"--pages=1",     "--quality=45",    "--spreads=keep",
-                              "--links",       "--template=deck", "--set=mainColor=0x123456",
-                              "--single-file", "--name=tea",      "--title=Tea & Cake"};
+    const QStringList options{"--pages=1-2",        "--quality=45",
+                              "--spreads=keep",     "--links",
+                              "--template=deck",    "--set=mainColor=0x123456",
+                              "--single-file",      "--name=tea",
+                              "--title=Tea & Cake", "--url=https://example.org/",
+                              "--preview-pages=2"};
     const auto expected = published(QStringList{document} + options);
     EXPECT_TRUE(expected.contains("tea.html"));
     EXPECT_TRUE(published({file}) == expected);

@@ -50,7 +50,8 @@ Project filled(const QString& document, const QString& picture) {
     project.styleName = "Night";
     project.values = {{"title", "A <book> “ü”", false, {}},
                       {"logoFile", picture, true, ProjectFiles::describe(picture)}};
-    project.publish = {"/out", "tea", "Tea & Cake", Project::Kind::app, true};
+    project.publish = {
+        "/out", "tea", "Tea & Cake", Project::Kind::app, true, "https://example.org/tea/", "1-2"};
     return project;
 }
 
