@@ -455,6 +455,47 @@
         <source>Try again, or choose another document.</source>
         <translation>Versuchen Sie es noch einmal, oder wählen Sie ein anderes Dokument.</translation>
     </message>
+    <message>
+        <source>“%1” was imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>„%1“ wurde importiert.</translation>
+    </message>
+    <message>
+        <source>“%1” was not imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>„%1“ wurde nicht importiert.</translation>
+    </message>
+</context>
+<context>
+    <name>JobProgress</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>Share of a job that is done.</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a percentage, %2 the time that is left.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>less than a minute left</source>
+        <translation>noch weniger als eine Minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s) left</source>
+        <translation>
+            <numerusform>noch etwa %n Minute</numerusform>
+            <numerusform>noch etwa %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s) left</source>
+        <translation>
+            <numerusform>noch etwa %n Stunde</numerusform>
+            <numerusform>noch etwa %n Stunden</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -870,10 +911,6 @@
         <translation>Die Bilder dieser Seiten sind nicht mehr da: %1. Importieren Sie das Dokument noch einmal und veröffentlichen Sie dann neu.</translation>
     </message>
     <message>
-        <source>Making the pages of the book… %1%</source>
-        <translation>Die Seiten des Buchs entstehen … %1 %</translation>
-    </message>
-    <message>
         <source>Replace what is already there?</source>
         <translation>Ersetzen, was dort schon liegt?</translation>
     </message>
@@ -919,12 +956,17 @@
         <translation>Wählen Sie in den Einstellungen andere, oder leeren Sie die Felder, und veröffentlichen Sie noch einmal.</translation>
     </message>
     <message>
-        <source>Writing the book… %1%</source>
-        <translation>Das Buch wird geschrieben … %1 %</translation>
-    </message>
-    <message>
         <source>Choose another folder, or make room in this one, and publish again: what you have typed is kept.</source>
         <translation>Wählen Sie einen anderen Ordner, oder schaffen Sie in diesem Platz, und veröffentlichen Sie noch einmal: Was Sie eingegeben haben, bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>The book was not published.</source>
+        <translation>Das Buch wurde nicht veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>The book was published.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
+        <translation>Das Buch wurde veröffentlicht.</translation>
     </message>
 </context>
 <context>
@@ -1567,6 +1609,22 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <source>“%1”</source>
         <extracomment>A setting&apos;s name in quotation marks; stands in &quot;Undo %1&quot;.</extracomment>
         <translation>„%1“</translation>
+    </message>
+</context>
+<context>
+    <name>PublishProgress</name>
+    <message>
+        <source>Page %1 of %2 – %3</source>
+        <extracomment>%1 is the page that is worked at, %2 the number of pages, %3 is like &quot;37 %, about 2 minutes left&quot;.</extracomment>
+        <translation>Seite %1 von %2 – %3</translation>
+    </message>
+    <message>
+        <source>Making the pages of the book…</source>
+        <translation>Die Seiten des Buchs entstehen …</translation>
+    </message>
+    <message>
+        <source>Writing the book…</source>
+        <translation>Das Buch wird geschrieben …</translation>
     </message>
 </context>
 <context>

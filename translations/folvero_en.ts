@@ -19,6 +19,23 @@
     </message>
 </context>
 <context>
+    <name>JobProgress</name>
+    <message numerus="yes">
+        <source>about %n minute(s) left</source>
+        <translation>
+            <numerusform>about %n minute left</numerusform>
+            <numerusform>about %n minutes left</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s) left</source>
+        <translation>
+            <numerusform>about %n hour left</numerusform>
+            <numerusform>about %n hours left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>PageListText</name>
     <message numerus="yes">
         <source>and %n more</source>

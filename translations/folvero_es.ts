@@ -455,6 +455,47 @@
         <source>Try again, or choose another document.</source>
         <translation>Inténtelo de nuevo o elija otro documento.</translation>
     </message>
+    <message>
+        <source>“%1” was imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>«%1» se importó.</translation>
+    </message>
+    <message>
+        <source>“%1” was not imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>«%1» no se importó.</translation>
+    </message>
+</context>
+<context>
+    <name>JobProgress</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>Share of a job that is done.</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a percentage, %2 the time that is left.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>less than a minute left</source>
+        <translation>queda menos de un minuto</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s) left</source>
+        <translation>
+            <numerusform>queda %n minuto aproximadamente</numerusform>
+            <numerusform>quedan unos %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s) left</source>
+        <translation>
+            <numerusform>queda %n hora aproximadamente</numerusform>
+            <numerusform>quedan unas %n horas</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -870,10 +911,6 @@
         <translation>Las imágenes de estas páginas ya no existen: %1. Importe de nuevo el documento y vuelva a publicar el libro.</translation>
     </message>
     <message>
-        <source>Making the pages of the book… %1%</source>
-        <translation>Creando las páginas del libro… %1&#xa0;%</translation>
-    </message>
-    <message>
         <source>Replace what is already there?</source>
         <translation>¿Reemplazar lo que ya hay?</translation>
     </message>
@@ -907,10 +944,6 @@
         <translation>Los ajustes permiten descargarlo, pero %1.</translation>
     </message>
     <message>
-        <source>Writing the book… %1%</source>
-        <translation>Escribiendo el libro… %1&#xa0;%</translation>
-    </message>
-    <message>
         <source>The folder %1 could not be made: %2</source>
         <translation>No se pudo crear la carpeta %1: %2</translation>
     </message>
@@ -925,6 +958,15 @@
     <message>
         <source>Choose others in the settings, or clear the fields, and publish again.</source>
         <translation>Elija otros en los ajustes o vacíe los campos, y publique de nuevo.</translation>
+    </message>
+    <message>
+        <source>The book was not published.</source>
+        <translation>El libro no se publicó.</translation>
+    </message>
+    <message>
+        <source>The book was published.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
+        <translation>El libro se publicó.</translation>
     </message>
 </context>
 <context>
@@ -1567,6 +1609,22 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
         <source>“%1”</source>
         <extracomment>A setting&apos;s name in quotation marks; stands in &quot;Undo %1&quot;.</extracomment>
         <translation>«%1»</translation>
+    </message>
+</context>
+<context>
+    <name>PublishProgress</name>
+    <message>
+        <source>Page %1 of %2 – %3</source>
+        <extracomment>%1 is the page that is worked at, %2 the number of pages, %3 is like &quot;37 %, about 2 minutes left&quot;.</extracomment>
+        <translation>Página %1 de %2 – %3</translation>
+    </message>
+    <message>
+        <source>Making the pages of the book…</source>
+        <translation>Creando las páginas del libro…</translation>
+    </message>
+    <message>
+        <source>Writing the book…</source>
+        <translation>Escribiendo el libro…</translation>
     </message>
 </context>
 <context>

@@ -67,7 +67,7 @@
     </message>
     <message>
         <source>%1 was not used. Insert it with “Pages”.</source>
-        <translation>%1 n’a pas été utilisé. Insérez-le avec « Pages ».</translation>
+        <translation>%1 n’a pas été utilisé. Insérez-le avec «&#xa0;Pages&#xa0;».</translation>
     </message>
     <message>
         <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
@@ -454,6 +454,47 @@
     <message>
         <source>Try again, or choose another document.</source>
         <translation>Réessayez, ou choisissez un autre document.</translation>
+    </message>
+    <message>
+        <source>“%1” was imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>« %1 » a été importé.</translation>
+    </message>
+    <message>
+        <source>“%1” was not imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>« %1 » n’a pas été importé.</translation>
+    </message>
+</context>
+<context>
+    <name>JobProgress</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>Share of a job that is done.</extracomment>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a percentage, %2 the time that is left.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>less than a minute left</source>
+        <translation>reste moins d’une minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s) left</source>
+        <translation>
+            <numerusform>reste environ %n minute</numerusform>
+            <numerusform>reste environ %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s) left</source>
+        <translation>
+            <numerusform>reste environ %n heure</numerusform>
+            <numerusform>reste environ %n heures</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -870,10 +911,6 @@
         <translation>Les images de ces pages n’existent plus&#xa0;: %1. Importez de nouveau le document, puis recommencez la publication.</translation>
     </message>
     <message>
-        <source>Making the pages of the book… %1%</source>
-        <translation>Création des pages du livre… %1&#xa0;%</translation>
-    </message>
-    <message>
         <source>Replace what is already there?</source>
         <translation>Remplacer ce qui s’y trouve déjà&#x202f;?</translation>
     </message>
@@ -907,10 +944,6 @@
         <translation>Les paramètres le proposent au téléchargement, mais %1.</translation>
     </message>
     <message>
-        <source>Writing the book… %1%</source>
-        <translation>Écriture du livre… %1&#xa0;%</translation>
-    </message>
-    <message>
         <source>The folder %1 could not be made: %2</source>
         <translation>Le dossier %1 n’a pas pu être créé&#xa0;: %2</translation>
     </message>
@@ -925,6 +958,15 @@
     <message>
         <source>Choose others in the settings, or clear the fields, and publish again.</source>
         <translation>Choisissez-en d’autres dans les paramètres, ou videz les champs, et publiez de nouveau.</translation>
+    </message>
+    <message>
+        <source>The book was not published.</source>
+        <translation>Le livre n’a pas été publié.</translation>
+    </message>
+    <message>
+        <source>The book was published.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
+        <translation>Le livre a été publié.</translation>
     </message>
 </context>
 <context>
@@ -1567,6 +1609,22 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
         <source>“%1”</source>
         <extracomment>A setting&apos;s name in quotation marks; stands in &quot;Undo %1&quot;.</extracomment>
         <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>PublishProgress</name>
+    <message>
+        <source>Page %1 of %2 – %3</source>
+        <extracomment>%1 is the page that is worked at, %2 the number of pages, %3 is like &quot;37 %, about 2 minutes left&quot;.</extracomment>
+        <translation>Page %1 sur %2 – %3</translation>
+    </message>
+    <message>
+        <source>Making the pages of the book…</source>
+        <translation>Création des pages du livre…</translation>
+    </message>
+    <message>
+        <source>Writing the book…</source>
+        <translation>Écriture du livre…</translation>
     </message>
 </context>
 <context>

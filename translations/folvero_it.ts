@@ -455,6 +455,47 @@
         <source>Try again, or choose another document.</source>
         <translation>Riprovare, oppure scegliere un altro documento.</translation>
     </message>
+    <message>
+        <source>“%1” was imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>«%1» è stato importato.</translation>
+    </message>
+    <message>
+        <source>“%1” was not imported.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <translation>«%1» non è stato importato.</translation>
+    </message>
+</context>
+<context>
+    <name>JobProgress</name>
+    <message>
+        <source>%1 %</source>
+        <extracomment>Share of a job that is done.</extracomment>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>%1 is a percentage, %2 the time that is left.</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>less than a minute left</source>
+        <translation>meno di un minuto alla fine</translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n minute(s) left</source>
+        <translation>
+            <numerusform>circa %n minuto alla fine</numerusform>
+            <numerusform>circa %n minuti alla fine</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>about %n hour(s) left</source>
+        <translation>
+            <numerusform>circa %n ora alla fine</numerusform>
+            <numerusform>circa %n ore alla fine</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
@@ -870,10 +911,6 @@
         <translation>Le immagini di queste pagine non ci sono più: %1. Importare di nuovo il documento, poi ripetere la pubblicazione.</translation>
     </message>
     <message>
-        <source>Making the pages of the book… %1%</source>
-        <translation>Creazione delle pagine del libro… %1%</translation>
-    </message>
-    <message>
         <source>Replace what is already there?</source>
         <translation>Sostituire ciò che c’è già?</translation>
     </message>
@@ -907,10 +944,6 @@
         <translation>Le impostazioni lo offrono da scaricare, ma %1.</translation>
     </message>
     <message>
-        <source>Writing the book… %1%</source>
-        <translation>Scrittura del libro… %1%</translation>
-    </message>
-    <message>
         <source>The folder %1 could not be made: %2</source>
         <translation>Impossibile creare la cartella %1: %2</translation>
     </message>
@@ -925,6 +958,15 @@
     <message>
         <source>Choose others in the settings, or clear the fields, and publish again.</source>
         <translation>Sceglierne altri nelle impostazioni, oppure svuotare i campi, e pubblicare di nuovo.</translation>
+    </message>
+    <message>
+        <source>The book was not published.</source>
+        <translation>Il libro non è stato pubblicato.</translation>
+    </message>
+    <message>
+        <source>The book was published.</source>
+        <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
+        <translation>Il libro è stato pubblicato.</translation>
     </message>
 </context>
 <context>
@@ -1567,6 +1609,22 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
         <source>“%1”</source>
         <extracomment>A setting&apos;s name in quotation marks; stands in &quot;Undo %1&quot;.</extracomment>
         <translation>«%1»</translation>
+    </message>
+</context>
+<context>
+    <name>PublishProgress</name>
+    <message>
+        <source>Page %1 of %2 – %3</source>
+        <extracomment>%1 is the page that is worked at, %2 the number of pages, %3 is like &quot;37 %, about 2 minutes left&quot;.</extracomment>
+        <translation>Pagina %1 di %2 – %3</translation>
+    </message>
+    <message>
+        <source>Making the pages of the book…</source>
+        <translation>Creazione delle pagine del libro…</translation>
+    </message>
+    <message>
+        <source>Writing the book…</source>
+        <translation>Scrittura del libro…</translation>
     </message>
 </context>
 <context>

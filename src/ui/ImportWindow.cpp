@@ -94,11 +94,18 @@ QWidget* ImportWindow::progressRow() {
     prgBar = new QProgressBar;
     prgBar->setTextVisible(false);
     lblInfo = new QLabel;
-    lblInfo->setTextFormat(Qt::PlainText);
-    for (auto* part : std::initializer_list<QWidget*>{prgBar, lblInfo}) {
+    lblTimeLeft = new QLabel;
+    for (auto* label : {lblInfo, lblTimeLeft})
+        label->setTextFormat(Qt::PlainText);
+    for (auto* part : std::initializer_list<QWidget*>{prgBar, lblInfo, lblTimeLeft}) {
         QSizePolicy policy = part->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         part->setSizePolicy(policy);
     }
-    return row({prgBar, lblInfo});
+    auto* rows = new QWidget;
+    auto* layout = new QVBoxLayout(rows);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(prgBar);
+    layout->addWidget(row({lblInfo, lblTimeLeft}));
+    return rows;
 }

@@ -31,6 +31,7 @@ public:
     QCheckBox* btnImportBookMark;
     QCheckBox* btnImportLinks;
     QLabel* lblInfo;
+    QLabel* lblTimeLeft; // how much of the import is done, and how long the rest takes
     QProgressBar* prgBar;
     // Why the last import failed; hidden when there is nothing to show.
     QLabel* lblFailure;

@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
+#include "system/Files.h"
 #include "ui/ImportWindow.h"
 #include "ui/OutputWindow.h"
 #include "ui/PasswordWindow.h"
@@ -103,6 +104,7 @@ void ImportWindowDelegate::enableButtons(bool idle) {
     iWindow->spreads->setEnabled(idle);
     iWindow->importQuality->setEnabled(idle);
     iWindow->lblInfo->setVisible(!idle);
+    iWindow->lblTimeLeft->setVisible(!idle);
     iWindow->prgBar->setVisible(!idle);
     // Without a range the bar shows a busy animation.
     iWindow->prgBar->setRange(0, idle ? 1 : 0);
@@ -120,6 +122,7 @@ void ImportWindowDelegate::onImportAction() {
     AppSettings::shareInstance().saveSettings();
     iBook = emptyBook();
     iWindow->lblInfo->clear();
+    iWindow->lblTimeLeft->clear();
     showFailure({});
     logger.debug(QStringLiteral("start to import pdf now..."));
     startImport();
@@ -152,6 +155,7 @@ int ImportWindowDelegate::qualityForLevel(int importQualityLevel) {
 
 void ImportWindowDelegate::startImport() {
     iQueue.cancelAllOperations();
+    iJob.begin();
     const bool typed = iWindow->pageRangeType->checkedId() == ImportWindow::typedPages;
     const QString range = typed ? iWindow->txtPageRange->text() : QStringLiteral("ALL");
     logger.debug(QStringLiteral("page range is:%1").arg(range));
@@ -189,10 +193,12 @@ void ImportWindowDelegate::anyThread_handleMSG(const Notification& message) {
 void ImportWindowDelegate::mainThread_handleMSG(const QVariantMap& userInfo) {
     if (iWindow->lblInfo->isHidden())
         return;
+    const int page = userInfo[QStringLiteral("pageIndex")].toInt();
+    const int pages = userInfo[QStringLiteral("totalPage")].toInt();
     //: %1 is the page that is worked at, %2 the number of pages.
-    iWindow->lblInfo->setText(tr("Importing:%1/%2")
-                                  .arg(userInfo[QStringLiteral("pageIndex")].toInt())
-                                  .arg(userInfo[QStringLiteral("totalPage")].toInt()));
+    iWindow->lblInfo->setText(tr("Importing:%1/%2").arg(page).arg(pages));
+    iJob.show(pages > 0 ? double(page) / pages : 0);
+    iWindow->lblTimeLeft->setText(iJob.text());
 }
 
 void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation) {
@@ -205,6 +211,8 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     if (operation->book().hasDrawnPages()) {
         logger.debug(QStringLiteral("import pdf ok..."));
         iBook = operation->book();
+        //: A notification of the desktop, for users who look elsewhere; %1 is the name of a file.
+        iJob.end(tr("“%1” was imported.").arg(fileName()));
         reportFailedPages();
         storePageSize();
         iIsImporting = false;
@@ -212,13 +220,21 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
         return;
     }
     if (operation->failureKind() == ErrorKind::pdfPassword && !operation->isCancelled()) {
+        iJob.end({});
         iPasswordWindow->ask(iWindow->txtImportFile->text(), iWasPasswordTyped);
         return; // the import goes on with the answer
     }
     logger.warn(QStringLiteral("import pdf failed..."));
+    //: A notification of the desktop, for users who look elsewhere; %1 is the name of a file.
+    const QString failed = tr("“%1” was not imported.").arg(fileName());
+    iJob.end(operation->isCancelled() ? QString() : failed);
     if (!operation->isCancelled())
         showFailure(iFailures << nextStep(*operation));
     iIsImporting = false;
+}
+
+QString ImportWindowDelegate::fileName() const {
+    return Files::lastPathComponent(iWindow->txtImportFile->text());
 }
 
 // An empty path has no failure of its own that would make sense to users.

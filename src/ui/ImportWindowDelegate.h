@@ -3,6 +3,7 @@
 #include "base/NotificationCenter.h"
 #include "base/Operation.h"
 #include "pages/ImportPDFOperation.h"
+#include "ui/JobProgress.h"
 #include "ui/Panels.h"
 
 #include <QObject>
@@ -25,6 +26,7 @@ public:
 
     ImportWindow& window() const { return *iWindow; }
     PasswordWindow& passwordWindow() const { return *iPasswordWindow; }
+    const JobProgress& job() const { return iJob; }
     // Shows the sheet on its parent; onEnd gets the return code.
     void beginSheet(std::function<void(int)> onEnd);
     // Imports all pages of that file as if the user had chosen it in the sheet.
@@ -73,6 +75,7 @@ private:
     void anyThread_handleMSG(const Notification& message);
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
+    QString fileName() const;
     QString nextStep(const ImportPDFOperation& operation);
     void reportFailedPages();
     void storePageSize() const;
@@ -91,6 +94,7 @@ private:
     QStringList iFailures;
     std::shared_ptr<ImportPDFOperation> iImportPDF;
     NotificationCenter::Subscription iProgress;
+    JobProgress iJob;
     Panels::FilePanel iFilePanel;
     std::function<void(const QString&)> iOpenFile;
     std::function<void(int)> iOnEnd;

@@ -13,6 +13,7 @@
 #include "ui/OutputWindow.h"
 #include "ui/PageListText.h"
 #include "ui/Panels.h"
+#include "ui/PublishProgress.h"
 #include "webbook/FolveroOutputWeb.h"
 
 #include <QButtonGroup>
@@ -23,8 +24,6 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QLineEdit>
-#include <QProgressBar>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
@@ -38,35 +37,10 @@ namespace {
 
 constexpr Log logger("OutputWindowDelegate");
 
-constexpr int progressWidth = 340;
 constexpr int progressInterval = 100; // ms
 constexpr int filesBesidePages = 10;
+constexpr std::size_t manyPages = 50; // take a while to write
 constexpr qsizetype maxFilesShown = 3;
-
-// Stays open until its run ends. Its bar is too low for a text.
-QProgressDialog* progressWindow(QWidget* parent) {
-    auto* dialog = new QProgressDialog(parent);
-    constexpr int patienceMilliseconds = 400;
-    dialog->setWindowModality(Qt::WindowModal);
-    dialog->setMinimumDuration(patienceMilliseconds);
-    dialog->setMinimumWidth(progressWidth);
-    dialog->setAutoReset(false);
-    dialog->setAutoClose(false);
-    auto* bar = new QProgressBar;
-    bar->setTextVisible(false);
-    dialog->setBar(bar);
-    return dialog;
-}
-
-// Not with setValue() of the dialog, which processes events.
-void showProgress(QProgressDialog* dialog, const QString& text, int done, int total) {
-    if (!dialog)
-        return;
-    dialog->setLabelText(text.arg(total > 0 ? 100LL * done / total : 0));
-    auto* bar = dialog->findChild<QProgressBar*>();
-    bar->setMaximum(total);
-    bar->setValue(done);
-}
 
 // Runs a publisher on another thread.
 class WriteBook : public Operation {
@@ -220,6 +194,7 @@ void OutputWindowDelegate::onPublish() {
         return;
     if (!askForText(*iOutput))
         return;
+    iJob.begin();
     const PageFiles kind = AppSettings::shareInstance().outputType() == OutputWindow::webBook
                                ? PageFiles::web
                                : PageFiles::classic;
@@ -245,14 +220,16 @@ bool OutputWindowDelegate::askForText(FolveroOutput& output) const {
 
 // Of pages that were imported for another kind of book. Takes as long as an import.
 void OutputWindowDelegate::makePageFiles(PageFiles kind) {
-    iProgress = progressWindow(iWindow);
-    const QString text = tr("Making the pages of the book… %1%");
-    showProgress(iProgress, text, 0, 1);
+    iProgress = new PublishProgress(iWindow, iJob, PublishProgress::atOnce);
+    iProgress->showPages(0, int(iBook.pageSource->pagesWithout(kind).size()));
     connect(iProgress, &QProgressDialog::canceled, this, [this] { iQueue.cancelAllOperations(); });
     const auto operation = std::make_shared<PageFilesOperation>(iBook.pageSource, kind);
-    operation->setProgress([this, text](int done, int total) {
-        QMetaObject::invokeMethod(
-            this, [=, this] { showProgress(iProgress, text, done, total); }, Qt::QueuedConnection);
+    operation->setProgress([this](int done, int total) {
+        const auto show = [=, this] {
+            if (iProgress)
+                iProgress->showPages(done, total);
+        };
+        QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
     });
     operation->setFinishedObserver([this, weak = std::weak_ptr<PageFilesOperation>(operation)] {
         QMetaObject::invokeMethod(
@@ -262,15 +239,18 @@ void OutputWindowDelegate::makePageFiles(PageFiles kind) {
     iQueue.addOperation(operation);
 }
 
-// The progress window is closed first: it would stay open under the next question.
+// The progress window is closed before a question: it would stay open under that.
 void OutputWindowDelegate::pageFilesAreMade(const std::shared_ptr<PageFilesOperation>& operation) {
     const bool isCancelled = iProgress && iProgress->wasCanceled();
-    delete iProgress;
+    if (isCancelled || !operation->failure().isNull())
+        delete iProgress;
     if (isCancelled) {
+        iJob.end({});
         endSheet(1);
         return;
     }
     if (!operation->failure().isNull()) {
+        iJob.end(tr("The book was not published."));
         iQuestions.showMessage(tr("The book was not published"), operation->failure().local());
         endSheet(1);
         return;
@@ -286,6 +266,7 @@ void OutputWindowDelegate::publishAndEnd() {
         logger.error(QStringLiteral("publish error:%1").arg(failure.reason()));
         cause = failure.message();
     }
+    iJob.end(cause.isNull() ? QString() : tr("The book was not published."));
     endSheet(1);
     if (!cause.isNull())
         Q_EMIT publishFailed(cause.local());
@@ -336,12 +317,17 @@ void OutputWindowDelegate::write(FolveroOutput& output) {
     QEventLoop loop;
     operation->setFinishedObserver(
         [&loop] { QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection); });
-    iProgress = progressWindow(iWindow);
-    connect(iProgress, &QProgressDialog::canceled, this, [&] { isCancelled = true; });
+    if (!iProgress)
+        iProgress = new PublishProgress(
+            iWindow, iJob, pages < manyPages ? PublishProgress::whenSlow : PublishProgress::atOnce);
+    connect(iProgress, &QProgressDialog::canceled, &loop, [&] { isCancelled = true; });
+    const auto show = [&] {
+        if (iProgress)
+            iProgress->showFiles(std::min(1.0, double(files) / total));
+    };
+    show();
     QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] {
-        showProgress(iProgress, tr("Writing the book… %1%"), std::min(files.load(), total), total);
-    });
+    connect(&timer, &QTimer::timeout, &loop, show);
     timer.start(progressInterval);
     iQueue.addOperation(operation);
     loop.exec();
@@ -364,7 +350,10 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     if (output.wasCancelled())
         return;
     const QString result = output.outputFileName();
-    if (!output.publishErrors().isEmpty() || !QFileInfo::exists(result)) {
+    const bool isWritten = output.publishErrors().isEmpty() && QFileInfo::exists(result);
+    //: A notification of the desktop, for users who look elsewhere.
+    iJob.end(isWritten ? tr("The book was published.") : tr("The book was not published."));
+    if (!isWritten) {
         const QString cause = output.publishErrors().isEmpty()
                                   ? tr("The folder %1 could not be made: %2")
                                         .arg(QFileInfo(result).path(), iFolderFailure)

@@ -2,6 +2,7 @@
 
 #include "base/Operation.h"
 #include "output/FolveroOutput.h"
+#include "ui/JobProgress.h"
 
 #include <QObject>
 #include <QPointer>
@@ -10,8 +11,8 @@
 #include <optional>
 
 class OutputWindow;
-class QProgressDialog;
 class PageFilesOperation;
+class PublishProgress;
 
 // Controls the publish sheet: reads the user's choices, publishes while the sheet is open, and
 // offers to open the result. Set its book before it is shown; the page size is that of the
@@ -24,6 +25,7 @@ public:
     ~OutputWindowDelegate() override;
 
     OutputWindow& window() const { return *iWindow; }
+    const JobProgress& job() const { return iJob; }
     void beginSheet();
 
     std::shared_ptr<FlashTemplate> flashTmpl() const { return iFlashTmpl; }
@@ -91,7 +93,8 @@ private:
     // Of the current run.
     std::unique_ptr<FolveroOutput> iOutput;
     QString iFolderFailure;              // why its folder could not be made
-    QPointer<QProgressDialog> iProgress; // while it takes time
+    QPointer<PublishProgress> iProgress; // while it takes time
+    JobProgress iJob;
     // Last, so that it is destroyed first: its thread must end before anything that it may use.
     OperationQueue iQueue;
 };

@@ -218,6 +218,7 @@ TEST_F(ImportSheet, MayBeDestroyedWhileItImports) {
     startImport(path(400));
     ASSERT_TRUE(
         QTest::qWaitFor([&] { return window().lblInfo->text().startsWith("Importing:"); }, 20000));
+    EXPECT_TRUE(window().lblTimeLeft->text().contains(" %"));
     sheet.reset();
     QCoreApplication::processEvents();
     EXPECT_TRUE(ended.isEmpty());

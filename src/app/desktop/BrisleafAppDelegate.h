@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/desktop/JobWatcher.h"
 #include "app/desktop/PreviewFolder.h"
 #include "app/desktop/ProjectSession.h"
 #include "app/desktop/PropertyHistory.h"
@@ -141,6 +142,7 @@ private:
     std::unique_ptr<SettingsReset> iReset;
     // The path of the last import; empty while the demo book is shown.
     QString iDocument = QStringLiteral("");
+    JobWatcher iJobs;
     QStringList iNotUsed; // of the files that were dropped for the import
     std::unique_ptr<QTimer> iApplyChangeTimer;
     // Empty, not null, until the folder is created.

@@ -85,6 +85,8 @@ void BrisleafAppDelegate::makeWindows() {
     iPagesWindow = std::make_unique<PagesWindowDelegate>(iWindow.get());
     iOuputWindow = std::make_unique<OutputWindowDelegate>(iWindow.get());
     iSelecteTmplWindow = std::make_unique<SelectTemplateWindowDelegate>(iWindow.get());
+    iJobs.watch(iImportWindow->job());
+    iJobs.watch(iOuputWindow->job());
     iWindow->menu->showRecentFiles(RecentFiles::list());
     makeProject();
     connectCommands();
