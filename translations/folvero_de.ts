@@ -465,13 +465,17 @@
         <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
         <translation>„%1“ wurde nicht importiert.</translation>
     </message>
+    <message>
+        <source>Preparing the document…</source>
+        <translation>Das Dokument wird vorbereitet …</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>
     <message>
         <source>%1 %</source>
         <extracomment>Share of a job that is done.</extracomment>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -1425,6 +1429,11 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>Choose a folder</source>
         <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Documents for LibreOffice</source>
+        <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
+        <translation>Dokumente für LibreOffice</translation>
     </message>
 </context>
 <context>

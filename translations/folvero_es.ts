@@ -465,13 +465,17 @@
         <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
         <translation>«%1» no se importó.</translation>
     </message>
+    <message>
+        <source>Preparing the document…</source>
+        <translation>Preparando el documento…</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>
     <message>
         <source>%1 %</source>
         <extracomment>Share of a job that is done.</extracomment>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -1425,6 +1429,11 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     <message>
         <source>Remove them</source>
         <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Documents for LibreOffice</source>
+        <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
+        <translation>Documentos para LibreOffice</translation>
     </message>
 </context>
 <context>

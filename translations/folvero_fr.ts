@@ -458,12 +458,16 @@
     <message>
         <source>“%1” was imported.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
-        <translation>« %1 » a été importé.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été importé.</translation>
     </message>
     <message>
         <source>“%1” was not imported.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
-        <translation>« %1 » n’a pas été importé.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas été importé.</translation>
+    </message>
+    <message>
+        <source>Preparing the document…</source>
+        <translation>Préparation du document…</translation>
     </message>
 </context>
 <context>
@@ -471,7 +475,7 @@
     <message>
         <source>%1 %</source>
         <extracomment>Share of a job that is done.</extracomment>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -1425,6 +1429,11 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     <message>
         <source>Remove them</source>
         <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Documents for LibreOffice</source>
+        <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
+        <translation>Documents pour LibreOffice</translation>
     </message>
 </context>
 <context>

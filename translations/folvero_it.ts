@@ -465,6 +465,10 @@
         <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
         <translation>«%1» non è stato importato.</translation>
     </message>
+    <message>
+        <source>Preparing the document…</source>
+        <translation>Preparazione del documento…</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>
@@ -1425,6 +1429,11 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     <message>
         <source>Remove them</source>
         <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Documents for LibreOffice</source>
+        <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
+        <translation>Documenti per LibreOffice</translation>
     </message>
 </context>
 <context>

@@ -55,9 +55,9 @@ std::unique_ptr<MergedDocument> MergedInput::of(const PublishOptions& options) {
         return nullptr;
     Interrupt::watch(); // there is something to clean up
     try {
-        return std::make_unique<MergedDocument>(all, options.pageList, options.password.password(),
-                                                Files::lastPathComponent(options.pdf),
-                                                Interrupt::wasRequested);
+        return std::make_unique<MergedDocument>(
+            all, options.pageList, [&](const QString&) { return options.password.password(); },
+            Files::lastPathComponent(options.pdf), Interrupt::wasRequested);
     } catch (const PlatformException& failure) {
         throw CommandError(failure);
     }

@@ -85,7 +85,23 @@ void ImportPDFOperation::main() {
     }
 }
 
+// False when there is none.
+bool ImportPDFOperation::makeDocument() {
+    if (!iMakeDocument)
+        return true;
+    try {
+        iPDFPath = iMakeDocument([stopped = iStopReading] { return stopped->load(); });
+        return true;
+    } catch (const PlatformException& failure) {
+        logger.error(failure.reason());
+        fail(failure.kind(), failure.message());
+        return false;
+    }
+}
+
 void ImportPDFOperation::importStages() {
+    if (!makeDocument())
+        return;
     importPages();
     if (!isCancelled() && iImportLinks)
         importPageLinks();

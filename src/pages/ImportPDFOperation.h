@@ -8,6 +8,7 @@
 
 #include <QString>
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -37,6 +38,11 @@ public:
     // does not use it until the import is finished. By default the import opens the file.
     void setDocument(OpenedPDF document) { iDocument = std::move(document); }
 
+    // What makes the document first, on the import's thread; by default it exists. stopped says
+    // that the import is cancelled. Returns the document's path; throws PlatformException.
+    using MakeDocument = std::function<QString(const std::function<bool()>& stopped)>;
+    void setMakeDocument(MakeDocument make) { iMakeDocument = std::move(make); }
+
     void main() override;
     // Thread-safe. Also stops the page that is being drawn.
     void cancel() override;
@@ -58,6 +64,7 @@ private:
     void setBook(Book book);
     // For failures that leave no pages.
     void fail(ErrorKind kind, const Message& reason);
+    bool makeDocument();
     void importStages();
     void importPages();
     void readDocumentProperties(const PDFDocument& document);
@@ -67,6 +74,7 @@ private:
     void checkUnchanged();
 
     OpenedPDF iDocument;
+    MakeDocument iMakeDocument;
     FilesOfPages iFilesOf = classicFiles;
     TakeEarlierPage iTakeEarlierPage;
     SpreadChoice iSpreads;

@@ -21,11 +21,6 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds longest = 10min;
 constexpr int pollMilliseconds = 100;
 
-const QStringList types{QStringLiteral("doc"), QStringLiteral("docx"), QStringLiteral("odt"),
-                        QStringLiteral("rtf"), QStringLiteral("ppt"),  QStringLiteral("pptx"),
-                        QStringLiteral("odp"), QStringLiteral("xls"),  QStringLiteral("xlsx"),
-                        QStringLiteral("ods"), QStringLiteral("odg")};
-
 [[noreturn]] void fail(const QString& path, const char* cause, ErrorKind kind) {
     PDFFile::failToOpen(path, Message::translate("OfficeDocument", cause), kind);
 }
@@ -60,8 +55,17 @@ private:
 
 } // namespace
 
+const QStringList& OfficeDocument::types() {
+    static const QStringList all{
+        QStringLiteral("doc"), QStringLiteral("docx"), QStringLiteral("odt"),
+        QStringLiteral("rtf"), QStringLiteral("ppt"),  QStringLiteral("pptx"),
+        QStringLiteral("odp"), QStringLiteral("xls"),  QStringLiteral("xlsx"),
+        QStringLiteral("ods"), QStringLiteral("odg")};
+    return all;
+}
+
 bool OfficeDocument::isOne(const QString& path) {
-    return types.contains(Files::pathExtension(path).toLower());
+    return types().contains(Files::pathExtension(path).toLower());
 }
 
 QString OfficeDocument::converter() {

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 // Documents of office programs, which LibreOffice turns into PDFs where it is installed.
 namespace OfficeDocument {
+
+// The extensions of their names, in small letters.
+const QStringList& types();
 
 // By its name: a text, a presentation, a sheet or a drawing.
 bool isOne(const QString& path);

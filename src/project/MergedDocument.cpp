@@ -1,5 +1,6 @@
 #include "project/MergedDocument.h"
 
+#include "base/PlatformException.h"
 #include "pdf/OfficeDocument.h"
 #include "pdf/PDFFile.h"
 #include "pdf/PDFReader.h"
@@ -21,15 +22,41 @@ std::vector<FileState> statesOf(const QStringList& files) {
     return states;
 }
 
+// Answers of the user's, not faults of a file.
+bool isFaulty(const PlatformException& failure) {
+    return failure.kind() != ErrorKind::readStopped && failure.kind() != ErrorKind::pdfPassword;
+}
+
+[[noreturn]] void failWithoutFiles(const Messages& causes) {
+    throw PlatformException(ErrorKind::pdfOpen,
+                            {englishTexts(causes).join(u'\n'), localTexts(causes).join(u'\n')});
+}
+
 } // namespace
 
 MergedDocument::MergedDocument(const QStringList& files, std::vector<MergePlan::Page> pages,
-                               const QByteArray& password, const QString& name,
-                               const std::function<bool()>& stopped)
+                               const PasswordOf& passwordOf, const QString& name,
+                               const std::function<bool()>& stopped, Unreadable unreadable)
     : iFolder(TemporaryFolders::make(QStringLiteral("Folvero"))),
       iPath(Files::join(iFolder, QFileInfo(name).completeBaseName() + QStringLiteral(".pdf"))) {
     try {
-        merge(files, std::move(pages), password, stopped);
+        const auto before = statesOf(files);
+        take(files, passwordOf, stopped, unreadable);
+        try {
+            write(pages, stopped);
+        } catch (const PlatformException& failure) {
+            if (unreadable == Unreadable::fails || !isFaulty(failure))
+                throw;
+            leaveOutUnreadable(stopped);
+            write({}, stopped);
+        }
+        const auto after = statesOf(files);
+        const auto changed = std::mismatch(before.begin(), before.end(), after.begin()).first;
+        if (changed != before.end())
+            PDFFile::failToOpen(
+                files[changed - before.begin()],
+                Message::translate("PDFDocument", "was changed while it was read").temporary(),
+                ErrorKind::pdfChanged);
     } catch (...) {
         TemporaryFolders::remove(iFolder);
         throw;
@@ -40,43 +67,75 @@ MergedDocument::~MergedDocument() {
     TemporaryFolders::remove(iFolder);
 }
 
-// The file itself, or the PDF that a document of an office program is converted to.
-QString MergedDocument::readable(const QString& file, int index,
-                                 const std::function<bool()>& stopped) const {
-    if (!OfficeDocument::isOne(file))
-        return file;
-    const QString folder = Files::join(iFolder, QString::number(index));
-    const QString pdf = Files::join(folder, QStringLiteral("document.pdf"));
-    if (!QDir().mkdir(folder))
-        PDFFile::failToOpen(folder, Message::ofLastSystemError(), ErrorKind::temporaryFolder);
-    OfficeDocument::convert(file, pdf, stopped);
-    return pdf;
+QString MergedDocument::readable(const QString& file) const {
+    return iConverted.value(file, file);
 }
 
-void MergedDocument::merge(const QStringList& files, std::vector<MergePlan::Page> pages,
-                           const QByteArray& password, const std::function<bool()>& stopped) const {
-    MergePlan plan{{}, std::move(pages)};
-    const bool takesAll = plan.pages.empty();
-    const auto before = statesOf(files);
+void MergedDocument::take(const QStringList& files, const PasswordOf& passwordOf,
+                          const std::function<bool()>& stopped, Unreadable unreadable) {
     for (const QString& file : files) {
-        PDFFile::check(file);
-        const int index = int(plan.sources.size());
-        if (takesAll)
-            plan.pages.push_back({index});
-        plan.sources.push_back({readable(file, index, stopped), password});
+        try {
+            PDFFile::check(file);
+            if (OfficeDocument::isOne(file) && !iConverted.contains(file))
+                convert(file, stopped);
+        } catch (const PlatformException& failure) {
+            if (unreadable == Unreadable::fails || !isFaulty(failure))
+                throw;
+            iLeftOut << failure.message();
+            continue;
+        }
+        iFiles << file;
+        iSources.push_back({readable(file), passwordOf(file)});
     }
+    if (iFiles.isEmpty())
+        failWithoutFiles(iLeftOut);
+}
+
+void MergedDocument::convert(const QString& file, const std::function<bool()>& stopped) {
+    const qsizetype number = iFiles.size() + iLeftOut.size();
+    const QString folder = Files::join(iFolder, QString::number(number));
+    if (!QDir().mkdir(folder))
+        PDFFile::failToOpen(folder, Message::ofLastSystemError(), ErrorKind::temporaryFolder);
+    const QString pdf = Files::join(folder, QStringLiteral("document.pdf"));
+    OfficeDocument::convert(file, pdf, stopped);
+    iConverted[file] = pdf;
+}
+
+void MergedDocument::write(std::vector<MergePlan::Page> pages,
+                           const std::function<bool()>& stopped) const {
+    const QString& first = iSources.front().path;
     // A document that was converted keeps its tags when it is not merged.
-    const QString& first = plan.sources.front().path;
-    const bool isWhole = takesAll && files.size() == 1 && first != files.front();
-    if (!isWhole)
-        PDFReader::merge(plan, iPath, stopped);
-    else if (!QFile::rename(first, iPath))
-        PDFFile::failToOpen(iPath, Message::ofLastSystemError(), ErrorKind::temporaryFolder);
-    const auto after = statesOf(files);
-    const auto changed = std::mismatch(before.begin(), before.end(), after.begin()).first;
-    if (changed != before.end())
-        PDFFile::failToOpen(
-            files[changed - before.begin()],
-            Message::translate("PDFDocument", "was changed while it was read").temporary(),
-            ErrorKind::pdfChanged);
+    if (pages.empty() && iFiles.size() == 1 && first != iFiles.front()) {
+        if (!QFile::copy(first, iPath))
+            PDFFile::failToOpen(iPath, Message::ofLastSystemError(), ErrorKind::temporaryFolder);
+        return;
+    }
+    if (pages.empty()) {
+        for (int source = 0; source < iFiles.size(); ++source)
+            pages.push_back({source});
+    }
+    const MergePlan plan{iSources, std::move(pages)};
+    PDFReader::merge(plan, iPath, stopped);
+}
+
+// A source is at fault when it can't even be merged alone.
+void MergedDocument::leaveOutUnreadable(const std::function<bool()>& stopped) {
+    QFile::remove(iPath);
+    const QString alone = Files::join(iFolder, QStringLiteral("alone.pdf"));
+    const auto earlier = std::exchange(iSources, {});
+    const QStringList files = std::exchange(iFiles, {});
+    for (std::size_t at = 0; at < earlier.size(); ++at) {
+        try {
+            PDFReader::merge({{earlier[at]}, {{0}}}, alone, stopped);
+            iSources.push_back(earlier[at]);
+            iFiles << files[qsizetype(at)];
+        } catch (const PlatformException& failure) {
+            if (!isFaulty(failure))
+                throw;
+            iLeftOut << failure.message();
+        }
+        QFile::remove(alone);
+    }
+    if (iFiles.isEmpty())
+        failWithoutFiles(iLeftOut);
 }

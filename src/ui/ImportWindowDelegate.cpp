@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
+#include "project/MergedDocument.h"
 #include "system/Files.h"
 #include "ui/ImportWindow.h"
 #include "ui/OutputWindow.h"
@@ -17,6 +18,7 @@
 #include <QPushButton>
 #include <algorithm>
 #include <span>
+#include <utility>
 
 namespace {
 
@@ -82,15 +84,23 @@ void ImportWindowDelegate::beginSheet(std::function<void(int)> onEnd) {
     iWindow->open();
 }
 
-void ImportWindowDelegate::importFile(const QString& path) {
+void ImportWindowDelegate::importFiles(const QStringList& paths) {
     if (iIsImporting)
         return;
-    iWindow->txtImportFile->setText(path);
     iWindow->pageRangeType->button(ImportWindow::allPages)->setChecked(true);
+    importSources({paths, {}, paths.size() > 1});
+}
+
+void ImportWindowDelegate::importSources(ImportSources sources) {
+    if (iIsImporting)
+        return;
+    iWindow->txtImportFile->setText(sources.documents.front());
+    iSources = std::move(sources);
     onImportAction();
 }
 
 void ImportWindowDelegate::endSheet(int returnCode) {
+    iSources.reset();
     iWindow->done(returnCode);
     if (iOnEnd)
         iOnEnd(returnCode);
@@ -116,7 +126,7 @@ void ImportWindowDelegate::onPageRangeTypeChangeAction() {
 
 void ImportWindowDelegate::onImportAction() {
     iIsImporting = true;
-    iWasPasswordTyped = false;
+    iAskedFor.clear();
     saveChoices();
     enableButtons(false);
     AppSettings::shareInstance().saveSettings();
@@ -171,17 +181,30 @@ void ImportWindowDelegate::startImport() {
     // Most likely the next book is of the same kind as the last.
     if (settings.outputType() == OutputWindow::webBook)
         iImportPDF->setFilesOf(webFiles);
-    if (iWindow->txtImportFile->text() == iProtectedFile) {
-        OpenedPDF document;
-        document.password = iPassword;
-        iImportPDF->setDocument(std::move(document));
-    }
+    prepareSources();
     iImportPDF->setSpreads({Spreads(iWindow->spreads->currentIndex()), iIsRightToLeft});
     iImportPDF->setImportLinks(settings.importLinks() == 1);
     iImportPDF->setImportBookmarks(settings.importBookmark() == 1);
     logger.debug(QStringLiteral("before add operation"));
     iQueue.addOperation(iImportPDF);
     logger.debug(QStringLiteral("after add operation"));
+}
+
+void ImportWindowDelegate::prepareSources() {
+    const QString typed = iWindow->txtImportFile->text();
+    const bool areOthers = iSources && iSources->documents.front() == typed;
+    iUsed = areOthers ? *iSources : ImportSources{{typed}, {}};
+    iMerge.reset();
+    if (iUsed.areMerged()) {
+        iMerge = std::make_shared<DocumentMerge>(iUsed, iPasswords);
+        iImportPDF->setMakeDocument(
+            [merge = iMerge](const auto& stopped) { return merge->make(stopped); });
+        iWindow->lblInfo->setText(tr("Preparing the document…"));
+    } else if (iPasswords.contains(typed)) {
+        OpenedPDF document;
+        document.password = iPasswords[typed];
+        iImportPDF->setDocument(std::move(document));
+    }
 }
 
 void ImportWindowDelegate::anyThread_handleMSG(const Notification& message) {
@@ -211,6 +234,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     if (operation->book().hasDrawnPages()) {
         logger.debug(QStringLiteral("import pdf ok..."));
         iBook = operation->book();
+        takeMerged();
         //: A notification of the desktop, for users who look elsewhere; %1 is the name of a file.
         iJob.end(tr("“%1” was imported.").arg(fileName()));
         reportFailedPages();
@@ -219,9 +243,10 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
         endSheet(1);
         return;
     }
-    if (operation->failureKind() == ErrorKind::pdfPassword && !operation->isCancelled()) {
+    if (const QString file = lockedDocument(*operation); !file.isEmpty()) {
         iJob.end({});
-        iPasswordWindow->ask(iWindow->txtImportFile->text(), iWasPasswordTyped);
+        const bool wasWrong = std::exchange(iAskedFor, file) == file;
+        iPasswordWindow->ask(file, wasWrong);
         return; // the import goes on with the answer
     }
     logger.warn(QStringLiteral("import pdf failed..."));
@@ -235,6 +260,22 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
 
 QString ImportWindowDelegate::fileName() const {
     return Files::lastPathComponent(iWindow->txtImportFile->text());
+}
+
+// The document whose password would let the import go on.
+QString ImportWindowDelegate::lockedDocument(const ImportPDFOperation& operation) const {
+    if (operation.failureKind() != ErrorKind::pdfPassword || operation.isCancelled())
+        return {};
+    return iMerge ? iMerge->protectedDocument() : iWindow->txtImportFile->text();
+}
+
+void ImportWindowDelegate::takeMerged() {
+    iMerged.reset();
+    if (!iMerge)
+        return;
+    iUsed = iMerge->sources();
+    iMerged = iMerge->document();
+    iFailures = localTexts(iMerge->leftOut()) + iFailures;
 }
 
 // An empty path has no failure of its own that would make sense to users.
@@ -253,16 +294,14 @@ QString ImportWindowDelegate::nextStep(const ImportPDFOperation& operation) {
 }
 
 void ImportWindowDelegate::onPasswordAction() {
-    iProtectedFile = iWindow->txtImportFile->text();
-    iPassword = iPasswordWindow->txtPassword->text().toUtf8();
-    iWasPasswordTyped = true;
+    iPasswords[iAskedFor] = iPasswordWindow->txtPassword->text().toUtf8();
     iPasswordWindow->done(1);
     enableButtons(false);
     startImport();
 }
 
 void ImportWindowDelegate::onNoPasswordAction() {
-    iPassword.clear();
+    iPasswords.remove(iAskedFor);
     iPasswordWindow->done(0);
     iIsImporting = false;
 }

@@ -3,9 +3,11 @@
 #include "base/NotificationCenter.h"
 #include "base/Operation.h"
 #include "pages/ImportPDFOperation.h"
+#include "ui/DocumentMerge.h"
 #include "ui/JobProgress.h"
 #include "ui/Panels.h"
 
+#include <QHash>
 #include <QObject>
 #include <functional>
 #include <memory>
@@ -29,11 +31,22 @@ public:
     const JobProgress& job() const { return iJob; }
     // Shows the sheet on its parent; onEnd gets the return code.
     void beginSheet(std::function<void(int)> onEnd);
-    // Imports all pages of that file as if the user had chosen it in the sheet.
-    void importFile(const QString& path);
+    // Imports all pages of these files as one document. Of several, those that can't be read are
+    // left out.
+    void importFiles(const QStringList& paths);
+    // With the choices that the sheet shows. The sources count until the sheet ends or another path
+    // is typed.
+    void importSources(ImportSources sources);
 
     // The reading direction that the user has chosen for the book; none for the document's.
     void setRightToLeft(std::optional<bool> value) { iIsRightToLeft = value; }
+
+    // What the last import has used, and the document that was made of it; null for a PDF that was
+    // imported as it is. Its file exists as long as one of its owners.
+    const ImportSources& sources() const { return iUsed; }
+    const std::shared_ptr<MergedDocument>& merged() const { return iMerged; }
+    // The password that a document was opened with, in UTF-8; empty when none is known.
+    QByteArray passwordOf(const QString& path) const { return iPasswords.value(path); }
 
     // What the last import left out and why: one text per failed part or page; many failed pages
     // share one.
@@ -72,11 +85,14 @@ private:
     void wire();
     void saveChoices() const;
     void startImport();
+    void prepareSources();
     void anyThread_handleMSG(const Notification& message);
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
     QString fileName() const;
     QString nextStep(const ImportPDFOperation& operation);
+    QString lockedDocument(const ImportPDFOperation& operation) const;
+    void takeMerged();
     void reportFailedPages();
     void storePageSize() const;
     static Book emptyBook();
@@ -85,10 +101,12 @@ private:
 
     ImportWindow* iWindow;
     PasswordWindow* iPasswordWindow;
-    // The last password, in UTF-8, and the file that it is for; kept until the program ends.
-    QString iProtectedFile;
-    QByteArray iPassword;
-    bool iWasPasswordTyped = false; // for the import that runs
+    QHash<QString, QByteArray> iPasswords; // in UTF-8, by path; kept until the program ends
+    QString iAskedFor;                     // whose password was typed for the import that runs
+    std::optional<ImportSources> iSources; // other than what the sheet shows
+    std::shared_ptr<DocumentMerge> iMerge; // of the import that runs; null where nothing is merged
+    ImportSources iUsed;
+    std::shared_ptr<MergedDocument> iMerged;
     bool iIsImporting = false;
     std::optional<bool> iIsRightToLeft;
     QStringList iFailures;

@@ -2,6 +2,8 @@
 
 #include "pages/ImportPDFOperation.h"
 
+#include <utility>
+
 namespace {
 
 // Enough for the list of pages on a screen of two pixels a point.
@@ -14,9 +16,12 @@ PagePictures::~PagePictures() {
     clear();
 }
 
-void PagePictures::draw(int document, const QString& pdf) {
+void PagePictures::draw(int document, const QString& pdf, const QByteArray& password) {
     auto operation = std::make_shared<ImportPDFOperation>(pdf, QStringLiteral("ALL"), pictureDPI,
                                                           pictureQuality);
+    OpenedPDF opened;
+    opened.password = password;
+    operation->setDocument(std::move(opened));
     iOperations[document] = operation;
     operation->setFinishedObserver([this, document, weak = std::weak_ptr(operation)] {
         QMetaObject::invokeMethod(

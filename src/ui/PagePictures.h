@@ -18,8 +18,9 @@ public:
     using QObject::QObject;
     ~PagePictures() override;
 
-    // Draws the pages of a PDF. document: how its pictures are told from those of others.
-    void draw(int document, const QString& pdf);
+    // Draws the pages of a PDF. document: how its pictures are told from those of others. password:
+    // in UTF-8; empty for none.
+    void draw(int document, const QString& pdf, const QByteArray& password);
     // Stops drawing and forgets all.
     void clear();
 

@@ -21,22 +21,15 @@ QString filter() {
     return PagesWindowDelegate::tr("PDFs and pictures (%1)").arg(patterns.join(u' '));
 }
 
-// Throws PlatformException.
-PagesModel::Document opened(const QString& path) {
-    if (PictureFile::isOne(path))
-        return {path, 1};
-    const auto document = PDFReader::open(path);
-    const int pages = document->pageCount();
-    document->stopReader();
-    return {path, pages};
-}
-
 } // namespace
 
 PagesWindowDelegate::PagesWindowDelegate(QWidget* parent)
-    : iWindow(new PagesWindow(parent)), iFilesPanel([this](const QString& title) {
+    : iWindow(new PagesWindow(parent)),
+      iFilesPanel([this](const QString& title) {
           return QFileDialog::getOpenFileNames(iWindow, title, {}, filter());
-      }) {
+      }),
+      iReading{[](const QString& document) { return document; },
+               [](const QString& /*document*/) { return QByteArray(); }} {
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     iWindow->pages->setModel(&iModel);
@@ -77,6 +70,16 @@ void PagesWindowDelegate::wire() {
     connect(iWindow, &Sheet::closeRequested, this, [this] { endSheet(0); });
 }
 
+// Throws PlatformException.
+PagesModel::Document PagesWindowDelegate::opened(const QString& path) const {
+    if (PictureFile::isOne(path))
+        return {path, 1};
+    const auto document = PDFReader::open(iReading.file(path), {}, iReading.password(path));
+    const int pages = document->pageCount();
+    document->stopReader();
+    return {path, pages};
+}
+
 bool PagesWindowDelegate::beginSheet(const QStringList& documents, PagesModel::Pages pages,
                                      std::function<void(int)> onEnd, QString* failure) {
     std::vector<PagesModel::Document> all;
@@ -110,7 +113,7 @@ void PagesWindowDelegate::drawPictures(int from) {
         if (PictureFile::isOne(path))
             iModel.setPicture(number, 0, path);
         else
-            iPictures.draw(number, path);
+            iPictures.draw(number, iReading.file(path), iReading.password(path));
     }
 }
 

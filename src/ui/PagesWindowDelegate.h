@@ -24,6 +24,13 @@ public:
     // Returns false, and shows no sheet, when a document can't be read; *failure says why.
     bool beginSheet(const QStringList& documents, PagesModel::Pages pages,
                     std::function<void(int returnCode)> onEnd, QString* failure);
+    // The PDF that is read for a document, and its password in UTF-8; by default the document
+    // itself and none.
+    struct Reading {
+        std::function<QString(const QString& document)> file;
+        std::function<QByteArray(const QString& document)> password;
+    };
+    void setReading(Reading reading) { iReading = std::move(reading); }
     void setFilesPanel(FilesPanel panel) { iFilesPanel = std::move(panel); }
 
     PagesWindow& window() const { return *iWindow; }
@@ -31,6 +38,7 @@ public:
 
 private:
     void wire();
+    PagesModel::Document opened(const QString& path) const;
     void showCommands();
     void select(const PagesModel::Rows& rows);
     PagesModel::Rows selected() const;
@@ -45,5 +53,6 @@ private:
     PagesModel iModel;
     PagePictures iPictures;
     FilesPanel iFilesPanel;
+    Reading iReading;
     std::function<void(int)> iOnEnd;
 };

@@ -1,5 +1,7 @@
 #include "ui/Panels.h"
 
+#include "pdf/OfficeDocument.h"
+#include "pdf/PictureFile.h"
 #include "ui/FilePreview.h"
 #include "ui/PlainText.h"
 #include "ui/wxCPWCDelegate.h"
@@ -64,6 +66,15 @@ QString nameFilter(const QStringList& types, const QString& files) {
                : QStringLiteral("%1 (%2) (%3)").arg(files, shown.join(u' '), all.join(u' '));
 }
 
+// What can be imported beside a PDF, as choices that follow it.
+QStringList otherDocuments(const QStringList& types) {
+    if (types != QStringList(QStringLiteral("pdf")))
+        return {};
+    //: Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.
+    return {nameFilter(OfficeDocument::types(), Texts::tr("Documents for LibreOffice")),
+            nameFilter(PictureFile::types(), Texts::tr("Pictures"))};
+}
+
 std::optional<QString> run(QFileDialog& panel, const QString& proposed, const QStringList& types) {
     const QFileInfo before(proposed);
     if (!proposed.isEmpty() && before.absoluteDir().exists())
@@ -72,7 +83,7 @@ std::optional<QString> run(QFileDialog& panel, const QString& proposed, const QS
         panel.selectFile(before.fileName());
     panel.setOption(QFileDialog::HideNameFilterDetails);
     if (const QString filter = nameFilter(types, kindOf(types).files); !filter.isEmpty())
-        panel.setNameFilter(filter);
+        panel.setNameFilters(QStringList(filter) + otherDocuments(types));
     std::optional<FilePreview> preview;
     if (types.contains(pictureType))
         preview.emplace(panel);

@@ -120,7 +120,10 @@ TEST_F(Projects, PagesThatWereArrangedMakeTheBookAndComeBackWithTheProject) {
     ASSERT_TRUE(QFile::rename(path("3 pages.pdf"), path("moved.pdf")));
     pages.model().insertBlankPage(1);
     QTest::mouseClick(pages.window().btnOK, Qt::LeftButton);
-    EXPECT_TRUE(window().messages->message().contains("3 pages.pdf"));
+    ASSERT_TRUE(waitForImport());
+    const ImportWindow& import = program->importWindow().window();
+    EXPECT_TRUE(import.lblFailure->text().contains("3 pages.pdf"));
+    QTest::mouseClick(import.btnCancel, Qt::LeftButton);
     EXPECT_EQ(publishedPages(), 2u) << "the book stays as it was";
     EXPECT_FALSE(window().isWindowModified());
 }

@@ -190,6 +190,59 @@ TEST_F(ImportSheet, AsksForThePasswordOfAProtectedDocumentUntilItIsRightOrCancel
     ASSERT_TRUE(import(file)) << "it is asked for once";
 }
 
+TEST_F(ImportSheet, AsksForThePasswordOfOneOfSeveralDocuments) {
+    const QStringList files{path(2), path(1)};
+    PDFBuilder pdf;
+    pdf.addPage({});
+    pdf.encrypt("green", "owner");
+    ASSERT_TRUE(pdf.write(files.last()));
+    open();
+    sheet->importFiles(files);
+    PasswordWindow& question = sheet->passwordWindow();
+    for (const QString& typed : {u"red"_s, u"green"_s}) {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return question.isVisible(); }, 20000));
+        EXPECT_TRUE(question.lblQuestion->text().contains("1.pdf"));
+        EXPECT_EQ(question.lblFailure->isHidden(), typed == "red");
+        question.txtPassword->setText(typed);
+        click(question.btnOK);
+    }
+    ASSERT_TRUE(waitForIdle());
+    EXPECT_EQ(ended, QList<int>{1});
+    EXPECT_EQ(sheet->flashPageSource()->pages().size(), 3U);
+}
+
+// With programs that stand in for LibreOffice.
+TEST_F(ImportSheet, ConvertsDocumentsOfOfficeProgramsAndCanBeCancelledMeanwhile) {
+    const QTemporaryDir folder;
+    const QString report = folder.filePath("report.docx");
+    const QString program = folder.filePath("soffice");
+    TestFiles::write(report, "words");
+    const QByteArray before = qgetenv("PATH");
+    const auto standIn = [&](const QByteArray& script) {
+        QFile::remove(program);
+        TestFiles::write(program, "#!/bin/sh\n" + script + "\n");
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin");
+    };
+    open();
+    qputenv("PATH", QFile::encodeName(folder.path()));
+    ASSERT_TRUE(import(report));
+    EXPECT_TRUE(window().lblFailure->text().contains("report.docx: needs LibreOffice"));
+    standIn("touch '" + report.toUtf8() + ".begun'; sleep 100");
+    startImport(report);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(report + ".begun"); }, 20000));
+    click(window().btnCancel);
+    ASSERT_TRUE(waitForIdle());
+    EXPECT_TRUE(ended.isEmpty() && window().lblFailure->isHidden());
+    standIn("while [ $1 != --outdir ]; do shift; done; cp '" + path(3).toUtf8() +
+            "' $2/report.pdf");
+    ASSERT_TRUE(import(report));
+    qputenv("PATH", before);
+    EXPECT_EQ(ended, QList<int>{1});
+    EXPECT_EQ(sheet->flashPageSource()->pages().size(), 3U);
+    EXPECT_EQ(AppSettings::shareInstance().lastImportedFile(), report);
+}
+
 TEST_F(ImportSheet, CancellingAnImportKeepsTheSheetAndCancellingAgainClosesIt) {
     open();
     startImport(path(400));

@@ -182,7 +182,7 @@ void BrisleafAppDelegate::OnImportPDF() {
 
 void BrisleafAppDelegate::importFile(const QString& path) {
     OnImportPDF();
-    iImportWindow->importFile(path);
+    iImportWindow->importFiles({path});
 }
 
 void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {

@@ -1,6 +1,5 @@
 #include "app/desktop/ProjectSession.h"
 
-#include "app/AppSettings.h"
 #include "app/desktop/BookCover.h"
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MainWindow.h"
@@ -22,10 +21,7 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
-#include <QGuiApplication>
-#include <QLineEdit>
 #include <QLocale>
-#include <QScopeGuard>
 #include <QSettings>
 #include <QTimer>
 #include <QUndoStack>
@@ -44,10 +40,6 @@ QStringList pathsOf(const std::vector<Project::File>& files) {
     return paths;
 }
 
-bool isPDF(const QString& path) {
-    return Files::pathExtension(path).compare(QStringLiteral("pdf"), Qt::CaseInsensitive) == 0;
-}
-
 } // namespace
 
 ProjectSession::ProjectSession(Program program, Questions questions)
@@ -55,6 +47,9 @@ ProjectSession::ProjectSession(Program program, Questions questions)
       iQuestions(std::move(questions)),
       iAutosave(std::make_unique<QTimer>()) {
     connectCommands();
+    iProgram.pages.setReading(
+        {[this](const QString& path) { return iMerged ? iMerged->readable(path) : path; },
+         [this](const QString& path) { return iProgram.import.passwordOf(path); }});
     iProgram.window.installEventFilter(this);
     constexpr int milliseconds = 1000;
     constexpr int mostSeconds = 3600;
@@ -172,42 +167,17 @@ void ProjectSession::show(const Project& project, const QString& path) {
         iProgram.showBook();
     else
         importDocuments();
-    if (iOpening.isEmpty()) {
+    if (!iIsOpening) {
         iIsRecovering = false;
         showWarnings();
     }
 }
 
 void ProjectSession::importDocuments() {
-    try {
-        iOpening = documentToImport();
-    } catch (const PlatformException& failure) {
-        const QString what =
-            iEarlier ? tr("The pages can't be arranged.") : tr("The project was not opened.");
-        iOpening = iDocuments.front();
-        importWasCancelled();
-        showError(what, failure.message().local());
-        return;
-    }
+    iIsOpening = true;
     iProgram.showImportSheet();
-    ImportWindow& sheet = iProgram.import.window();
-    SheetChoices::set(sheet, iImport);
-    sheet.txtImportFile->setText(iOpening);
-    iProgram.import.onImportAction();
-}
-
-// Merges documents and pages that were chosen one by one.
-QString ProjectSession::documentToImport() {
-    const QString& first = iDocuments.front();
-    if (iDocuments.size() == 1 && iPages.empty() && isPDF(first)) {
-        iMerged.reset();
-        return first;
-    }
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto atEnd = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
-    iMerged = std::make_shared<MergedDocument>(
-        iDocuments, iPages, QByteArray(), Files::lastPathComponent(first), std::function<bool()>());
-    return iMerged->path();
+    SheetChoices::set(iProgram.import.window(), iImport);
+    iProgram.import.importSources({iDocuments, iPages});
 }
 
 void ProjectSession::onArrangePages() {
@@ -228,7 +198,7 @@ void ProjectSession::onArrangePages() {
 void ProjectSession::takePages() {
     if (iProgram.pages.model().history().isClean())
         return;
-    iEarlier = {iDocuments, iPages, iImport, iMerged};
+    iEarlier = {iDocuments, iPages, iImport};
     const PagesModel::Used used = iProgram.pages.model().used();
     iDocuments = used.documents;
     iPages = used.pages;
@@ -240,30 +210,34 @@ void ProjectSession::restorePages() {
     iDocuments = iEarlier->documents;
     iPages = iEarlier->pages;
     iImport = iEarlier->import;
-    iMerged = iEarlier->merged;
     iEarlier.reset();
 }
 
+// Whether the import was what was asked for, not what was typed into its sheet meanwhile.
+bool ProjectSession::isOpened(const ImportSources& imported) const {
+    return iIsOpening && imported.documents == iDocuments && imported.pages.size() == iPages.size();
+}
+
 QString ProjectSession::takeImport() {
-    auto& settings = AppSettings::shareInstance();
-    const QString file = settings.lastImportedFile();
-    const bool isOpened = !file.isEmpty() && std::exchange(iOpening, {}) == file;
-    if (!isOpened) {
-        const QStringList imported(QFileInfo(file).absoluteFilePath());
+    const ImportSources& imported = iProgram.import.sources();
+    const bool wasAskedFor = isOpened(imported);
+    iIsOpening = false;
+    if (!wasAskedFor) {
+        QStringList documents;
+        for (const QString& document : imported.documents)
+            documents << QFileInfo(document).absoluteFilePath();
         // Without a project, what to publish was chosen for the earlier document.
-        if (iPath.isEmpty() && iDocuments != imported)
+        if (iPath.isEmpty() && iDocuments != documents)
             iPublish = {};
-        iDocuments = imported;
+        iDocuments = documents;
         iPages.clear();
-        iMerged.reset();
-        remember(iDocuments.front(), BookCover::of(iProgram.book()));
-    } else if (iMerged) {
-        // The merged file is nothing that the user knows.
-        settings.setLastImportedFile(iDocuments.front());
-        iProgram.import.window().txtImportFile->setText(iDocuments.front());
+        // Of several, the first would come alone.
+        if (documents.size() == 1)
+            remember(documents.front(), BookCover::of(iProgram.book()));
     }
+    iMerged = iProgram.import.merged();
     iImport = SheetChoices::importOf(iProgram.import.window());
-    iIsChanged = !isOpened || iEarlier || std::exchange(iIsRecovering, false);
+    iIsChanged = !wasAskedFor || iEarlier || std::exchange(iIsRecovering, false);
     iEarlier.reset();
     updateTitle();
     showWarnings();
@@ -276,7 +250,7 @@ void ProjectSession::showWarnings() {
 }
 
 void ProjectSession::importWasCancelled() {
-    if (std::exchange(iOpening, {}).isEmpty())
+    if (!std::exchange(iIsOpening, false))
         return;
     if (iEarlier) {
         restorePages();

@@ -18,6 +18,7 @@ class PagesWindowDelegate;
 class QTimer;
 class QUndoStack;
 struct Book;
+struct ImportSources;
 
 // The project that the window shows: its file, whether it has changes that are not saved, and the
 // commands that open and save projects. Keeps what is not saved for recovery.
@@ -87,7 +88,7 @@ private:
     void load(const QString& path);
     void show(const Project& project, const QString& path);
     void importDocuments();
-    QString documentToImport();
+    bool isOpened(const ImportSources& imported) const;
     void showWarnings();
     void takePages();
     void restorePages();
@@ -111,17 +112,17 @@ private:
     Project::Import iImport;
     Project::Publish iPublish;
     bool iIsChanged = false; // beside the edits that can be undone
-    // While the documents of a project that is opened are imported: the path that the import has.
-    QString iOpening;
+    // While the documents of a project that is opened, or pages that were arranged, are imported.
+    bool iIsOpening = false;
     bool iIsRecovering = false;
-    QStringList iWarnings; // of the project that is opened
-    std::shared_ptr<MergedDocument> iMerged;
+    bool iArePagesSaved = true;              // as they are arranged
+    QStringList iWarnings;                   // of the project that is opened
+    std::shared_ptr<MergedDocument> iMerged; // that the shown book consists of
     // While pages that were arranged are imported: what the shown book is made of.
     struct Sources {
         QStringList documents;
         std::vector<MergePlan::Page> pages;
         Project::Import import;
-        std::shared_ptr<MergedDocument> merged;
     };
     std::optional<Sources> iEarlier;
     QHash<QString, std::pair<FileState, Project::File>> iDescribed;
