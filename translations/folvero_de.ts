@@ -71,16 +71,20 @@
         <translation>Die Datei %1 enthält keine Einstellungen. Wählen Sie eine, die mit „Aussehen speichern“ gemacht wurde.</translation>
     </message>
     <message>
-        <source>%1 was not used. Insert it with “Pages”.</source>
-        <translation>%1 wurde nicht verwendet. Fügen Sie es mit „Seiten“ ein.</translation>
-    </message>
-    <message>
         <source>Press “Apply” to try again.</source>
         <translation>Drücken Sie „Anwenden“, um es noch einmal zu versuchen.</translation>
     </message>
     <message>
         <source>The book was not published.</source>
         <translation>Das Buch wurde nicht veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>%1: is a project; open it alone</source>
+        <translation>%1: ist ein Projekt; öffnen Sie es allein</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Nichts wurde importiert.</translation>
     </message>
 </context>
 <context>
@@ -145,12 +149,20 @@
 <context>
     <name>DropHint</name>
     <message>
-        <source>Only PDF documents can be dropped here.</source>
-        <translation>Hier können nur PDF-Dokumente abgelegt werden.</translation>
+        <source>Only PDFs, pictures and documents that LibreOffice can open become a book.</source>
+        <translation>Nur aus PDFs, Bildern und Dokumenten, die LibreOffice öffnen kann, wird ein Buch.</translation>
     </message>
     <message>
-        <source>Drop the PDF here to make a book of it.</source>
-        <translation>Legen Sie das PDF hier ab, um ein Buch daraus zu machen.</translation>
+        <source>Drop the project here to open it.</source>
+        <translation>Legen Sie das Projekt hier ab, um es zu öffnen.</translation>
+    </message>
+    <message>
+        <source>Drop it here to make a book of it.</source>
+        <translation>Legen Sie es hier ab, um ein Buch daraus zu machen.</translation>
+    </message>
+    <message>
+        <source>Drop them here to make one book of them, in the order of their names.</source>
+        <translation>Legen Sie sie hier ab, um ein einziges Buch daraus zu machen, in der Reihenfolge ihrer Namen.</translation>
     </message>
 </context>
 <context>
@@ -471,6 +483,17 @@
     </message>
 </context>
 <context>
+    <name>InputFiles</name>
+    <message>
+        <source>has no PDF and no picture</source>
+        <translation>enthält kein PDF und kein Bild</translation>
+    </message>
+    <message>
+        <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
+        <translation>ist kein PDF, kein Bild und kein Dokument, aus dem LibreOffice ein PDF macht</translation>
+    </message>
+</context>
+<context>
     <name>JobProgress</name>
     <message>
         <source>%1 %</source>
@@ -759,10 +782,6 @@
         <source>%1[*] – Folvero</source>
         <extracomment>The title of the window; %1 is the name of the document, [*] marks changes.</extracomment>
         <translation>%1[*] – Folvero</translation>
-    </message>
-    <message>
-        <source>Nothing was imported: only PDF documents can be dropped.</source>
-        <translation>Nichts wurde importiert: Nur PDF-Dokumente können abgelegt werden.</translation>
     </message>
 </context>
 <context>

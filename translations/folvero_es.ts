@@ -66,10 +66,6 @@
         <translation>Elija otros en los ajustes o vacíe los campos.</translation>
     </message>
     <message>
-        <source>%1 was not used. Insert it with “Pages”.</source>
-        <translation>%1 no se ha usado. Insértelo con «Páginas».</translation>
-    </message>
-    <message>
         <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
         <translation>El archivo %1 no contiene ajustes. Elija uno creado con «Guardar aspecto».</translation>
     </message>
@@ -81,6 +77,14 @@
     <message>
         <source>The book was not published.</source>
         <translation>El libro no se publicó.</translation>
+    </message>
+    <message>
+        <source>%1: is a project; open it alone</source>
+        <translation>%1: es un proyecto; ábralo solo</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>No se importó nada.</translation>
     </message>
 </context>
 <context>
@@ -145,12 +149,20 @@
 <context>
     <name>DropHint</name>
     <message>
-        <source>Only PDF documents can be dropped here.</source>
-        <translation>Aquí solo se pueden soltar documentos PDF.</translation>
+        <source>Only PDFs, pictures and documents that LibreOffice can open become a book.</source>
+        <translation>Solo los PDF, las imágenes y los documentos que LibreOffice puede abrir se convierten en un libro.</translation>
     </message>
     <message>
-        <source>Drop the PDF here to make a book of it.</source>
-        <translation>Suelte aquí el PDF para convertirlo en un libro.</translation>
+        <source>Drop the project here to open it.</source>
+        <translation>Suelte aquí el proyecto para abrirlo.</translation>
+    </message>
+    <message>
+        <source>Drop it here to make a book of it.</source>
+        <translation>Suéltelo aquí para hacer un libro con él.</translation>
+    </message>
+    <message>
+        <source>Drop them here to make one book of them, in the order of their names.</source>
+        <translation>Suéltelos aquí para hacer un solo libro con ellos, en el orden de sus nombres.</translation>
     </message>
 </context>
 <context>
@@ -471,6 +483,17 @@
     </message>
 </context>
 <context>
+    <name>InputFiles</name>
+    <message>
+        <source>has no PDF and no picture</source>
+        <translation>no contiene ningún PDF ni ninguna imagen</translation>
+    </message>
+    <message>
+        <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
+        <translation>no es un PDF, ni una imagen, ni un documento que LibreOffice convierta en PDF</translation>
+    </message>
+</context>
+<context>
     <name>JobProgress</name>
     <message>
         <source>%1 %</source>
@@ -759,10 +782,6 @@
         <source>%1[*] – Folvero</source>
         <extracomment>The title of the window; %1 is the name of the document, [*] marks changes.</extracomment>
         <translation>%1[*] – Folvero</translation>
-    </message>
-    <message>
-        <source>Nothing was imported: only PDF documents can be dropped.</source>
-        <translation>No se importó nada: solo se pueden soltar documentos PDF.</translation>
     </message>
 </context>
 <context>

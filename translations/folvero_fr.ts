@@ -66,10 +66,6 @@
         <translation>Choisissez-en d’autres dans les paramètres, ou videz les champs.</translation>
     </message>
     <message>
-        <source>%1 was not used. Insert it with “Pages”.</source>
-        <translation>%1 n’a pas été utilisé. Insérez-le avec «&#xa0;Pages&#xa0;».</translation>
-    </message>
-    <message>
         <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
         <translation>Le fichier %1 ne contient pas de paramètres. Choisissez-en un créé avec «&#xa0;Enregistrer l’aspect&#xa0;».</translation>
     </message>
@@ -81,6 +77,14 @@
     <message>
         <source>The book was not published.</source>
         <translation>Le livre n’a pas été publié.</translation>
+    </message>
+    <message>
+        <source>%1: is a project; open it alone</source>
+        <translation>%1&amp;#x202f;: est un projet&amp;#x202f;; ouvrez-le seul</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Rien n’a été importé.</translation>
     </message>
 </context>
 <context>
@@ -145,12 +149,20 @@
 <context>
     <name>DropHint</name>
     <message>
-        <source>Only PDF documents can be dropped here.</source>
-        <translation>Seuls des documents PDF peuvent être déposés ici.</translation>
+        <source>Only PDFs, pictures and documents that LibreOffice can open become a book.</source>
+        <translation>Seuls les PDF, les images et les documents que LibreOffice peut ouvrir deviennent un livre.</translation>
     </message>
     <message>
-        <source>Drop the PDF here to make a book of it.</source>
-        <translation>Déposez le PDF ici pour en faire un livre.</translation>
+        <source>Drop the project here to open it.</source>
+        <translation>Déposez le projet ici pour l’ouvrir.</translation>
+    </message>
+    <message>
+        <source>Drop it here to make a book of it.</source>
+        <translation>Déposez-le ici pour en faire un livre.</translation>
+    </message>
+    <message>
+        <source>Drop them here to make one book of them, in the order of their names.</source>
+        <translation>Déposez-les ici pour en faire un seul livre, dans l’ordre de leurs noms.</translation>
     </message>
 </context>
 <context>
@@ -471,6 +483,17 @@
     </message>
 </context>
 <context>
+    <name>InputFiles</name>
+    <message>
+        <source>has no PDF and no picture</source>
+        <translation>ne contient ni PDF ni image</translation>
+    </message>
+    <message>
+        <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
+        <translation>n’est ni un PDF, ni une image, ni un document que LibreOffice convertit en PDF</translation>
+    </message>
+</context>
+<context>
     <name>JobProgress</name>
     <message>
         <source>%1 %</source>
@@ -759,10 +782,6 @@
         <source>%1[*] – Folvero</source>
         <extracomment>The title of the window; %1 is the name of the document, [*] marks changes.</extracomment>
         <translation>%1[*] – Folvero</translation>
-    </message>
-    <message>
-        <source>Nothing was imported: only PDF documents can be dropped.</source>
-        <translation>Rien n’a été importé&#xa0;: seuls des documents PDF peuvent être déposés.</translation>
     </message>
 </context>
 <context>

@@ -66,10 +66,6 @@
         <translation>Sceglierne altri nelle impostazioni, oppure svuotare i campi.</translation>
     </message>
     <message>
-        <source>%1 was not used. Insert it with “Pages”.</source>
-        <translation>%1 non è stato usato. Inseriscilo con «Pagine».</translation>
-    </message>
-    <message>
         <source>The file %1 contains no settings. Choose one that was made with “Save look”.</source>
         <translation>Il file %1 non contiene impostazioni. Sceglierne uno creato con «Salva aspetto».</translation>
     </message>
@@ -81,6 +77,14 @@
     <message>
         <source>The book was not published.</source>
         <translation>Il libro non è stato pubblicato.</translation>
+    </message>
+    <message>
+        <source>%1: is a project; open it alone</source>
+        <translation>%1: è un progetto; aprirlo da solo</translation>
+    </message>
+    <message>
+        <source>Nothing was imported.</source>
+        <translation>Non è stato importato nulla.</translation>
     </message>
 </context>
 <context>
@@ -145,12 +149,20 @@
 <context>
     <name>DropHint</name>
     <message>
-        <source>Only PDF documents can be dropped here.</source>
-        <translation>Qui si possono rilasciare solo documenti PDF.</translation>
+        <source>Only PDFs, pictures and documents that LibreOffice can open become a book.</source>
+        <translation>Solo i PDF, le immagini e i documenti che LibreOffice può aprire diventano un libro.</translation>
     </message>
     <message>
-        <source>Drop the PDF here to make a book of it.</source>
-        <translation>Rilasciare qui il PDF per farne un libro.</translation>
+        <source>Drop the project here to open it.</source>
+        <translation>Rilasciare qui il progetto per aprirlo.</translation>
+    </message>
+    <message>
+        <source>Drop it here to make a book of it.</source>
+        <translation>Rilasciarlo qui per farne un libro.</translation>
+    </message>
+    <message>
+        <source>Drop them here to make one book of them, in the order of their names.</source>
+        <translation>Rilasciarli qui per farne un solo libro, nell’ordine dei loro nomi.</translation>
     </message>
 </context>
 <context>
@@ -471,6 +483,17 @@
     </message>
 </context>
 <context>
+    <name>InputFiles</name>
+    <message>
+        <source>has no PDF and no picture</source>
+        <translation>non contiene né PDF né immagini</translation>
+    </message>
+    <message>
+        <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
+        <translation>non è un PDF, né un’immagine, né un documento che LibreOffice converte in PDF</translation>
+    </message>
+</context>
+<context>
     <name>JobProgress</name>
     <message>
         <source>%1 %</source>
@@ -759,10 +782,6 @@
         <source>%1[*] – Folvero</source>
         <extracomment>The title of the window; %1 is the name of the document, [*] marks changes.</extracomment>
         <translation>%1[*] – Folvero</translation>
-    </message>
-    <message>
-        <source>Nothing was imported: only PDF documents can be dropped.</source>
-        <translation>Non è stato importato nulla: si possono rilasciare solo documenti PDF.</translation>
     </message>
 </context>
 <context>

@@ -6,33 +6,18 @@
 #include "console/Interrupt.h"
 #include "pdf/OfficeDocument.h"
 #include "pdf/PictureFile.h"
+#include "project/InputFiles.h"
 #include "system/Files.h"
 
-#include <QCollator>
-#include <QDir>
 #include <QFileInfo>
-#include <QLocale>
-#include <algorithm>
 
 namespace {
 
-// "Page 9" comes before "Page 10".
 QStringList filesOf(const QString& folder) {
-    QStringList names;
-    for (const QString& name : QDir(folder).entryList(QDir::Files)) {
-        if (PictureFile::isOne(name) || Files::pathExtension(name).toLower() == u"pdf")
-            names << name;
-    }
-    if (names.isEmpty())
+    const QStringList files = InputFiles::inFolder(folder);
+    if (files.isEmpty())
         throw CommandError(QStringLiteral("%1: has no PDF and no picture").arg(folder),
                            ExitCode::badDocument);
-    QCollator order(QLocale::English); // that of "C" knows no numbers
-    order.setNumericMode(true);
-    order.setCaseSensitivity(Qt::CaseInsensitive);
-    std::sort(names.begin(), names.end(), order);
-    QStringList files;
-    for (const QString& name : names)
-        files << Files::join(folder, name);
     return files;
 }
 

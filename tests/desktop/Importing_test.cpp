@@ -77,16 +77,24 @@ TEST_F(Importing, BookIsReadAsItsDocumentAsksUntilTheUserChooses) {
     EXPECT_EQ(value("RightToLeft"), "NO");
 }
 
-TEST_F(Importing, DroppedDocumentIsImportedAtOnce) {
+TEST_F(Importing, DroppedFilesMakeOneBookInTheOrderOfTheirNames) {
     TestFiles::write(path("note.txt"), "no PDF");
     drop({path("note.txt")});
     EXPECT_FALSE(sheet().isVisible());
-    EXPECT_TRUE(window().messages->message().contains("note.txt"));
-    drop({path("note.txt"), pdf(3), pdf(2)});
+    EXPECT_TRUE(window().messages->message().contains("note.txt: is no PDF"));
+    TestFiles::write(path("damaged.pdf"), "%PDF-1.7 no more");
+    QDir().mkpath(path("pictures"));
+    for (const char* name : {"pictures/page 10.png", "pictures/page 9.png"})
+        ASSERT_TRUE(QImage(300, 400, QImage::Format_RGB32).save(path(name)));
+    drop({path("pictures"), path("note.txt"), path("damaged.pdf"), pdf(3), pdf(2)});
     ASSERT_TRUE(waitForImport());
-    EXPECT_EQ(publishedPages(), 3u);
-    for (const char* left : {"note.txt was not used", "2 pages.pdf was not used"})
+    EXPECT_EQ(publishedPages(), 7u);
+    EXPECT_EQ(
+        program->importWindow().sources().documents,
+        QStringList({pdf(2), pdf(3), path("pictures/page 9.png"), path("pictures/page 10.png")}));
+    for (const char* left : {"note.txt: is no PDF", "damaged.pdf: "})
         EXPECT_TRUE(window().messages->message().contains(left));
+    EXPECT_TRUE(window().isWindowModified());
 }
 
 TEST_F(Importing, DroppedProjectIsOpened) {

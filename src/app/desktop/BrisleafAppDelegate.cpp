@@ -204,8 +204,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     iWindow->messages->hide();
     iDocument = iProject->takeImport();
     QStringList leftOut = iImportWindow->failures();
-    for (const QString& dropped : std::exchange(iNotUsed, {}))
-        leftOut << tr("%1 was not used. Insert it with “Pages”.").arg(dropped);
+    leftOut << std::exchange(iNotUsed, {});
     if (!leftOut.isEmpty())
         iWindow->messages->showError(tr("Not everything could be imported."), leftOut.join(u'\n'));
     applyChange(OtherBook);

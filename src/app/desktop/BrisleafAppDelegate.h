@@ -89,6 +89,8 @@ public:
     void importFile(const QString& path);
     // Opens a project, or imports a document.
     void openFile(const QString& path);
+    // Makes one book of documents, pictures and folders of them, in the order of their names.
+    void openFiles(const QStringList& paths);
 
     void importWindowDidEnd(int returnCode);
     void selectTmplWindowDidEnd(int returnCode);
@@ -143,7 +145,7 @@ private:
     // The path of the last import; empty while the demo book is shown.
     QString iDocument = QStringLiteral("");
     JobWatcher iJobs;
-    QStringList iNotUsed; // of the files that were dropped for the import
+    QStringList iNotUsed; // of the files that were dropped for the import, and why
     std::unique_ptr<QTimer> iApplyChangeTimer;
     // Empty, not null, until the folder is created.
     QString iFlashPreviewFolder = QStringLiteral("");

@@ -160,11 +160,7 @@ void BrisleafAppDelegate::connectCommands() {
         command(action, [this, choice] { iAppearance->setChoice(choice); });
     }
     connect(iWindow->btnFloat, &QPushButton::clicked, this, &BrisleafAppDelegate::onSelectTemplate);
-    connect(iWindow.get(), &MainWindow::fileDropped, this,
-            [this](const QString& path, const QStringList& notUsed) {
-                openFile(path);
-                iNotUsed = notUsed;
-            });
+    connect(iWindow.get(), &MainWindow::filesDropped, this, &BrisleafAppDelegate::openFiles);
     connect(iOuputWindow.get(), &OutputWindowDelegate::publishFailed, this,
             [this](const QString& cause) {
                 iWindow->messages->showError(tr("The book was not published."), cause);

@@ -3,7 +3,9 @@
 #include "app/AppSettings.h"
 #include "app/desktop/BrisleafAppDelegate.h"
 #include "app/desktop/MainWindow.h"
+#include "app/desktop/MessageBar.h"
 #include "app/desktop/ProjectSession.h"
+#include "project/InputFiles.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectValues.h"
 #include "ui/FlashTemplateModel.h"
@@ -61,6 +63,28 @@ void BrisleafAppDelegate::openFile(const QString& path) {
         iProject->open(path);
     else
         importFile(path);
+}
+
+void BrisleafAppDelegate::openFiles(const QStringList& paths) {
+    if (paths.size() == 1 && ProjectFile::isProject(paths.front())) {
+        iProject->open(paths.front());
+        return;
+    }
+    QStringList projects;
+    QStringList others;
+    for (const QString& path : paths)
+        (ProjectFile::isProject(path) ? projects : others) << path;
+    const auto [files, unusable] = InputFiles::of(others);
+    QStringList notUsed = localTexts(unusable);
+    for (const QString& project : projects)
+        notUsed << tr("%1: is a project; open it alone").arg(project);
+    if (files.isEmpty()) {
+        iWindow->messages->showError(tr("Nothing was imported."), notUsed.join(u'\n'));
+        return;
+    }
+    OnImportPDF();
+    iNotUsed = notUsed;
+    iImportWindow->importFiles(files);
 }
 
 // The direction that the document asks for is no choice of the user's.

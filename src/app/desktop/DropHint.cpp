@@ -1,10 +1,13 @@
 #include "app/desktop/DropHint.h"
 
+#include "project/InputFiles.h"
 #include "project/ProjectFile.h"
 
+#include <QFileInfo>
 #include <QMimeData>
 #include <QPainter>
 #include <QUrl>
+#include <algorithm>
 
 namespace {
 
@@ -12,19 +15,8 @@ constexpr int edge = 24;
 constexpr qreal corner = 14;
 constexpr float veil = 0.88F;
 
-bool isDocument(const QString& path) {
-    return path.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive) ||
-           ProjectFile::isProject(path);
-}
-
-QStringList pathsOf(const QMimeData& files, bool areDocuments) {
-    QStringList paths;
-    for (const QUrl& url : files.urls()) {
-        const QString path = url.toLocalFile();
-        if (!path.isEmpty() && isDocument(path) == areDocuments)
-            paths << path;
-    }
-    return paths;
+bool mayBeUsed(const QString& path) {
+    return InputFiles::isUsable(path) || ProjectFile::isProject(path) || QFileInfo(path).isDir();
 }
 
 } // namespace
@@ -35,19 +27,29 @@ DropHint::DropHint(QWidget& window) : QWidget(&window) {
 }
 
 void DropHint::showFor(const QMimeData& files) {
-    iText = documents(files).isEmpty() ? tr("Only PDF documents can be dropped here.")
-                                       : tr("Drop the PDF here to make a book of it.");
+    const QStringList dropped = paths(files);
+    const auto used = std::count_if(dropped.begin(), dropped.end(), mayBeUsed);
+    const bool isProject = dropped.size() == 1 && ProjectFile::isProject(dropped.front());
+    if (used == 0)
+        iText = tr("Only PDFs, pictures and documents that LibreOffice can open become a book.");
+    else if (isProject)
+        iText = tr("Drop the project here to open it.");
+    else if (dropped.size() == 1)
+        iText = tr("Drop it here to make a book of it.");
+    else
+        iText = tr("Drop them here to make one book of them, in the order of their names.");
     setGeometry(parentWidget()->rect());
     raise();
     show();
 }
 
-QStringList DropHint::documents(const QMimeData& files) {
-    return pathsOf(files, true);
-}
-
-QStringList DropHint::others(const QMimeData& files) {
-    return pathsOf(files, false);
+QStringList DropHint::paths(const QMimeData& files) {
+    QStringList paths;
+    for (const QUrl& url : files.urls()) {
+        if (const QString path = url.toLocalFile(); !path.isEmpty())
+            paths << path;
+    }
+    return paths;
 }
 
 void DropHint::paintEvent(QPaintEvent* /*event*/) {

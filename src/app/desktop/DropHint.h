@@ -13,9 +13,8 @@ public:
 
     void showFor(const QMimeData& files);
 
-    // Paths of the dropped local files: those that are PDF documents, and the others.
-    static QStringList documents(const QMimeData& files);
-    static QStringList others(const QMimeData& files);
+    // Paths of the dropped local files and folders.
+    static QStringList paths(const QMimeData& files);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

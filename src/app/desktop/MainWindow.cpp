@@ -188,7 +188,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 // Files that can't be used are accepted, too: the hint and a message say so.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     const QMimeData& files = *event->mimeData();
-    if (DropHint::documents(files).isEmpty() && DropHint::others(files).isEmpty())
+    if (DropHint::paths(files).isEmpty())
         return;
     event->acceptProposedAction();
     iDropHint->showFor(files);
@@ -200,16 +200,9 @@ void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
 
 void MainWindow::dropEvent(QDropEvent* event) {
     iDropHint->hide();
-    const QStringList documents = DropHint::documents(*event->mimeData());
-    const QStringList others = DropHint::others(*event->mimeData());
     event->acceptProposedAction();
-    if (documents.isEmpty()) {
-        messages->showError(tr("Nothing was imported: only PDF documents can be dropped."),
-                            others.join(u'\n'));
-        return;
-    }
     // The drag source is blocked until this function returns.
     QMetaObject::invokeMethod(
-        this, [=, this] { Q_EMIT fileDropped(documents.first(), documents.mid(1) + others); },
+        this, [this, paths = DropHint::paths(*event->mimeData())] { Q_EMIT filesDropped(paths); },
         Qt::QueuedConnection);
 }

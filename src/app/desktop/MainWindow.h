@@ -39,8 +39,8 @@ public:
     const QString& documentName() const { return iDocumentName; }
 
 Q_SIGNALS:
-    // One document of the dropped files, and the others, which are not used.
-    void fileDropped(const QString& path, const QStringList& notUsed);
+    // Files and folders, as they were dropped.
+    void filesDropped(const QStringList& paths);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -8,6 +8,7 @@
 #include "app/desktop/SheetChoices.h"
 #include "base/PlatformException.h"
 #include "pages/Book.h"
+#include "pdf/PictureFile.h"
 #include "project/MergedDocument.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectFiles.h"
@@ -96,9 +97,14 @@ void ProjectSession::setSaved() {
 }
 
 void ProjectSession::updateTitle() {
-    const QString& named = iPath.isEmpty() ? iDocuments.value(0) : iPath;
-    iProgram.window.setDocumentName(named.isEmpty() ? QString()
-                                                    : QFileInfo(named).completeBaseName());
+    const bool arePictures = iDocuments.size() > 1 &&
+                             std::all_of(iDocuments.begin(), iDocuments.end(), PictureFile::isOne);
+    const QFileInfo named(iPath.isEmpty() ? iDocuments.value(0) : iPath);
+    // Pictures are most often numbered, and their folder says what they show.
+    const bool isOfFolder = iPath.isEmpty() && arePictures;
+    iProgram.window.setDocumentName(named.filePath().isEmpty() ? QString()
+                                    : isOfFolder               ? named.dir().dirName()
+                                                               : named.completeBaseName());
     iProgram.window.setWindowModified(isModified());
 }
 
