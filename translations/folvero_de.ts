@@ -1618,6 +1618,14 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <source>The pages can&apos;t be arranged.</source>
         <translation>Die Seiten können nicht angeordnet werden.</translation>
     </message>
+    <message>
+        <source>Save the pages of “%1” first?</source>
+        <translation>Die Seiten von „%1“ zuerst speichern?</translation>
+    </message>
+    <message>
+        <source>The document that you import takes the place of the pages that you have put together. Without saving they are lost.</source>
+        <translation>Das Dokument, das Sie importieren, ersetzt die Seiten, die Sie zusammengestellt haben. Ohne Speichern gehen sie verloren.</translation>
+    </message>
 </context>
 <context>
     <name>PropertyCellDelegate</name>

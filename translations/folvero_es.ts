@@ -1618,6 +1618,14 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
         <source>Folvero ended before they were saved, last on %1.</source>
         <translation>Folvero se cerró antes de que se guardaran; son del %1.</translation>
     </message>
+    <message>
+        <source>Save the pages of “%1” first?</source>
+        <translation>¿Guardar primero las páginas de «%1»?</translation>
+    </message>
+    <message>
+        <source>The document that you import takes the place of the pages that you have put together. Without saving they are lost.</source>
+        <translation>El documento que importa ocupa el lugar de las páginas que ha reunido. Si no las guarda, se pierden.</translation>
+    </message>
 </context>
 <context>
     <name>PropertyCellDelegate</name>

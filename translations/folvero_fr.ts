@@ -1618,6 +1618,14 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
         <source>Folvero ended before they were saved, last on %1.</source>
         <translation>Folvero s’est arrêté avant leur enregistrement&#x202f;; les dernières datent du %1.</translation>
     </message>
+    <message>
+        <source>Save the pages of “%1” first?</source>
+        <translation>Enregistrer d’abord les pages de «&amp;#xa0;%1&amp;#xa0;»&amp;#x202f;?</translation>
+    </message>
+    <message>
+        <source>The document that you import takes the place of the pages that you have put together. Without saving they are lost.</source>
+        <translation>Le document que vous importez prend la place des pages que vous avez réunies. Si vous ne les enregistrez pas, elles sont perdues.</translation>
+    </message>
 </context>
 <context>
     <name>PropertyCellDelegate</name>

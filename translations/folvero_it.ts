@@ -1618,6 +1618,14 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
         <source>Folvero ended before they were saved, last on %1.</source>
         <translation>Folvero si è chiuso prima che fossero salvate; le ultime sono del %1.</translation>
     </message>
+    <message>
+        <source>Save the pages of “%1” first?</source>
+        <translation>Salvare prima le pagine di «%1»?</translation>
+    </message>
+    <message>
+        <source>The document that you import takes the place of the pages that you have put together. Without saving they are lost.</source>
+        <translation>Il documento importato prende il posto delle pagine che sono state riunite. Senza salvarle vanno perse.</translation>
+    </message>
 </context>
 <context>
     <name>PropertyCellDelegate</name>

@@ -97,6 +97,23 @@ TEST_F(Importing, DroppedFilesMakeOneBookInTheOrderOfTheirNames) {
     EXPECT_TRUE(window().isWindowModified());
 }
 
+TEST_F(Importing, PagesThatWerePutTogetherAreNotReplacedUnasked) {
+    drop({pdf(2), pdf(3)});
+    ASSERT_TRUE(waitForImport());
+    unsaved = Panels::Unsaved::cancel;
+    window().menu->importPDF->trigger();
+    EXPECT_FALSE(sheet().isVisible());
+    drop({pdf(1)});
+    EXPECT_EQ(unsavedAsked.size(), 2);
+    EXPECT_EQ(publishedPages(), 5u);
+    fileToSave = path("tea");
+    window().menu->saveProject->trigger();
+    drop({pdf(1)});
+    ASSERT_TRUE(waitForImport());
+    EXPECT_EQ(unsavedAsked.size(), 2) << "the project has them";
+    EXPECT_EQ(publishedPages(), 1u);
+}
+
 TEST_F(Importing, DroppedProjectIsOpened) {
     import(pdf(3));
     fileToSave = path("tea");

@@ -172,6 +172,11 @@ void BrisleafAppDelegate::valuesWereUndone() {
 }
 
 void BrisleafAppDelegate::OnImportPDF() {
+    if (iProject->mayReplacePages())
+        showImportSheet();
+}
+
+void BrisleafAppDelegate::showImportSheet() {
     iNotUsed.clear();
     iImportWindow->setRightToLeft(iIsDirectionChosen
                                       ? std::optional(StringUtil::valueAsBool(
@@ -181,7 +186,9 @@ void BrisleafAppDelegate::OnImportPDF() {
 }
 
 void BrisleafAppDelegate::importFile(const QString& path) {
-    OnImportPDF();
+    if (!iProject->mayReplacePages())
+        return;
+    showImportSheet();
     iImportWindow->importFiles({path});
 }
 

@@ -112,6 +112,7 @@ private:
     void connectCommands();
     void observeEditor();
     void makeProject();
+    void showImportSheet();
     Project look() const;
     void showLook(const Project& project);
     void updateTmplPropertyTip();

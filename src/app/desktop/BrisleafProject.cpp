@@ -40,7 +40,7 @@ void BrisleafAppDelegate::makeProject() {
         ProjectSession::Program{*iWindow, *iImportWindow, iOuputWindow->window(), *iPagesWindow,
                                 iHistory.stack(), [this] { return look(); },
                                 [this](const Project& project) { showLook(project); },
-                                [this] { applyChange(OtherBook); }, [this] { OnImportPDF(); },
+                                [this] { applyChange(OtherBook); }, [this] { showImportSheet(); },
                                 [this]() -> const Book& { return iBook; }},
         ProjectSession::Questions{iQuestions.fileToOpen,
                                   {iQuestions.fileToSave, iQuestions.replace},
@@ -82,7 +82,9 @@ void BrisleafAppDelegate::openFiles(const QStringList& paths) {
         iWindow->messages->showError(tr("Nothing was imported."), notUsed.join(u'\n'));
         return;
     }
-    OnImportPDF();
+    if (!iProject->mayReplacePages())
+        return;
+    showImportSheet();
     iNotUsed = notUsed;
     iImportWindow->importFiles(files);
 }

@@ -91,6 +91,7 @@ void ProjectSession::setModified() {
 
 void ProjectSession::setSaved() {
     iIsChanged = false;
+    iArePagesSaved = true;
     iProgram.edits.setClean();
     iRecovery.remove();
     updateTitle();
@@ -110,11 +111,22 @@ void ProjectSession::updateTitle() {
 
 // True when there is nothing to lose.
 bool ProjectSession::mayLeave() {
-    if (!isModified())
-        return true;
+    return !isModified() ||
+           mayLose(tr("Save the changes to “%1”?"), tr("Without saving they are lost."));
+}
+
+bool ProjectSession::mayReplacePages() {
+    const bool areArranged = !iPages.empty() || iDocuments.size() > 1;
+    return iArePagesSaved || !areArranged ||
+           mayLose(tr("Save the pages of “%1” first?"),
+                   tr("The document that you import takes the place of the pages that you have "
+                      "put together. Without saving they are lost."));
+}
+
+// question: with a place for the name.
+bool ProjectSession::mayLose(const QString& question, const QString& information) {
     const auto answer =
-        iQuestions.unsaved(tr("Save the changes to “%1”?").arg(iProgram.window.documentName()),
-                           tr("Without saving they are lost."));
+        iQuestions.unsaved(question.arg(iProgram.window.documentName()), information);
     if (answer == Panels::Unsaved::save)
         return onSave();
     if (answer == Panels::Unsaved::discard)
@@ -244,6 +256,7 @@ QString ProjectSession::takeImport() {
     iMerged = iProgram.import.merged();
     iImport = SheetChoices::importOf(iProgram.import.window());
     iIsChanged = !wasAskedFor || iEarlier || std::exchange(iIsRecovering, false);
+    iArePagesSaved = !iIsChanged;
     iEarlier.reset();
     updateTitle();
     showWarnings();

@@ -67,6 +67,10 @@ public:
     // Shows the sheet in which the pages are arranged, and makes the book anew of those.
     void onArrangePages();
 
+    // Asks when an import would replace pages that were arranged, or a book of several documents,
+    // and that are not saved. False when the user wants to keep them.
+    bool mayReplacePages();
+
     bool isModified() const;
     void setModified();
     // Empty for a project that was never saved.
@@ -85,6 +89,7 @@ protected:
 private:
     void connectCommands();
     bool mayLeave();
+    bool mayLose(const QString& question, const QString& information);
     void load(const QString& path);
     void show(const Project& project, const QString& path);
     void importDocuments();
