@@ -1798,6 +1798,39 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>StartPanel</name>
+    <message>
+        <source>Choose a file…</source>
+        <translation>Datei wählen …</translation>
+    </message>
+    <message>
+        <source>How to begin</source>
+        <extracomment>What a screen reader says when it comes to the part of the window that says how to begin.</extracomment>
+        <translation>So fangen Sie an</translation>
+    </message>
+    <message>
+        <source>Drop a PDF or a folder of pictures here</source>
+        <translation>Legen Sie hier ein PDF oder einen Ordner mit Bildern ab</translation>
+    </message>
+    <message>
+        <source>Or play with the demo book below: turn its pages, try templates and settings.</source>
+        <translation>Oder spielen Sie mit dem Demobuch unten: blättern Sie, probieren Sie Vorlagen und Einstellungen aus.</translation>
+    </message>
+    <message>
+        <source>Make the book from a PDF, a picture or a text</source>
+        <translation>Das Buch aus einem PDF, einem Bild oder einem Text machen</translation>
+    </message>
+    <message>
+        <source>Close this note</source>
+        <translation>Diesen Hinweis schließen</translation>
+    </message>
+    <message>
+        <source>Open %1 again</source>
+        <extracomment>What a screen reader says for a file that was opened before.</extracomment>
+        <translation>%1 wieder öffnen</translation>
+    </message>
+</context>
+<context>
     <name>StyleName</name>
     <message>
         <source>Aurora</source>

@@ -1798,6 +1798,39 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     </message>
 </context>
 <context>
+    <name>StartPanel</name>
+    <message>
+        <source>Choose a file…</source>
+        <translation>Elegir un archivo…</translation>
+    </message>
+    <message>
+        <source>How to begin</source>
+        <extracomment>What a screen reader says when it comes to the part of the window that says how to begin.</extracomment>
+        <translation>Cómo empezar</translation>
+    </message>
+    <message>
+        <source>Drop a PDF or a folder of pictures here</source>
+        <translation>Suelte aquí un PDF o una carpeta de imágenes</translation>
+    </message>
+    <message>
+        <source>Or play with the demo book below: turn its pages, try templates and settings.</source>
+        <translation>O juegue con el libro de demostración de abajo: pase sus páginas, pruebe plantillas y ajustes.</translation>
+    </message>
+    <message>
+        <source>Make the book from a PDF, a picture or a text</source>
+        <translation>Hacer el libro a partir de un PDF, una imagen o un texto</translation>
+    </message>
+    <message>
+        <source>Close this note</source>
+        <translation>Cerrar este aviso</translation>
+    </message>
+    <message>
+        <source>Open %1 again</source>
+        <extracomment>What a screen reader says for a file that was opened before.</extracomment>
+        <translation>Volver a abrir %1</translation>
+    </message>
+</context>
+<context>
     <name>StyleName</name>
     <message>
         <source>Aurora</source>

@@ -1798,6 +1798,39 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     </message>
 </context>
 <context>
+    <name>StartPanel</name>
+    <message>
+        <source>Choose a file…</source>
+        <translation>Choisir un fichier…</translation>
+    </message>
+    <message>
+        <source>How to begin</source>
+        <extracomment>What a screen reader says when it comes to the part of the window that says how to begin.</extracomment>
+        <translation>Pour commencer</translation>
+    </message>
+    <message>
+        <source>Drop a PDF or a folder of pictures here</source>
+        <translation>Déposez ici un PDF ou un dossier d’images</translation>
+    </message>
+    <message>
+        <source>Or play with the demo book below: turn its pages, try templates and settings.</source>
+        <translation>Ou jouez avec le livre de démonstration ci-dessous : tournez ses pages, essayez modèles et paramètres.</translation>
+    </message>
+    <message>
+        <source>Make the book from a PDF, a picture or a text</source>
+        <translation>Faire le livre à partir d’un PDF, d’une image ou d’un texte</translation>
+    </message>
+    <message>
+        <source>Close this note</source>
+        <translation>Fermer cette note</translation>
+    </message>
+    <message>
+        <source>Open %1 again</source>
+        <extracomment>What a screen reader says for a file that was opened before.</extracomment>
+        <translation>Rouvrir %1</translation>
+    </message>
+</context>
+<context>
     <name>StyleName</name>
     <message>
         <source>Aurora</source>

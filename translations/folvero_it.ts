@@ -1798,6 +1798,39 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     </message>
 </context>
 <context>
+    <name>StartPanel</name>
+    <message>
+        <source>Choose a file…</source>
+        <translation>Scegli un file…</translation>
+    </message>
+    <message>
+        <source>How to begin</source>
+        <extracomment>What a screen reader says when it comes to the part of the window that says how to begin.</extracomment>
+        <translation>Come iniziare</translation>
+    </message>
+    <message>
+        <source>Drop a PDF or a folder of pictures here</source>
+        <translation>Rilasciare qui un PDF o una cartella di immagini</translation>
+    </message>
+    <message>
+        <source>Or play with the demo book below: turn its pages, try templates and settings.</source>
+        <translation>Oppure si può giocare con il libro dimostrativo qui sotto: sfogliarlo, provare modelli e impostazioni.</translation>
+    </message>
+    <message>
+        <source>Make the book from a PDF, a picture or a text</source>
+        <translation>Fare il libro da un PDF, un’immagine o un testo</translation>
+    </message>
+    <message>
+        <source>Close this note</source>
+        <translation>Chiudi questa nota</translation>
+    </message>
+    <message>
+        <source>Open %1 again</source>
+        <extracomment>What a screen reader says for a file that was opened before.</extracomment>
+        <translation>Riapri %1</translation>
+    </message>
+</context>
+<context>
     <name>StyleName</name>
     <message>
         <source>Aurora</source>

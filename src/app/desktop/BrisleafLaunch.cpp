@@ -9,6 +9,7 @@
 #include "app/desktop/PreviewView.h"
 #include "app/desktop/RecentFiles.h"
 #include "app/desktop/SettingsReset.h"
+#include "app/desktop/StartPanel.h"
 #include "app/desktop/WindowFitter.h"
 #include "base/Log.h"
 #include "pages/FlashPageSourceImg.h"
@@ -153,6 +154,7 @@ void BrisleafAppDelegate::connectCommands() {
     connect(&menu, &MainMenu::recentFilesCleared, this, [this] {
         RecentFiles::clear();
         iWindow->menu->showRecentFiles({});
+        iWindow->start->showRecentFiles();
     });
     for (QAction* action : menu.appearance->actions()) {
         const auto choice = Appearance::Choice(action->data().toInt());
@@ -160,6 +162,11 @@ void BrisleafAppDelegate::connectCommands() {
         command(action, [this, choice] { iAppearance->setChoice(choice); });
     }
     connect(iWindow->btnFloat, &QPushButton::clicked, this, &BrisleafAppDelegate::onSelectTemplate);
+    connect(iWindow->start, &StartPanel::fileChosen, this, &BrisleafAppDelegate::openFile);
+    connect(iWindow->start->btnChoose, &QPushButton::clicked, this, [this] {
+        if (const auto file = iQuestions.fileToOpen({}, {QStringLiteral("pdf")}))
+            openFile(*file);
+    });
     connect(iWindow.get(), &MainWindow::filesDropped, this, &BrisleafAppDelegate::openFiles);
     connect(iOuputWindow.get(), &OutputWindowDelegate::publishFailed, this,
             [this](const QString& cause) {

@@ -4,6 +4,7 @@
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewPane.h"
+#include "app/desktop/StartPanel.h"
 #include "ui/FlashTemplateOutline.h"
 #include "ui/SettingsSearch.h"
 
@@ -134,6 +135,7 @@ QWidget* MainWindow::tipBox() {
 
 QWidget* MainWindow::previewSide() {
     messages = new MessageBar;
+    start = new StartPanel;
     auto* preview = new PreviewPane;
     webView = preview->view();
     auto* side = new QWidget;
@@ -141,6 +143,7 @@ QWidget* MainWindow::previewSide() {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(messages);
+    layout->addWidget(start);
     layout->addWidget(preview, 1);
     return side;
 }
@@ -149,6 +152,7 @@ void MainWindow::setDocumentName(const QString& name) {
     iDocumentName = name.isNull() ? tr("Demo book") : name;
     //: The title of the window; %1 is the name of the document, [*] marks changes.
     setWindowTitle(tr("%1[*] – Folvero").arg(iDocumentName));
+    start->setNeeded(name.isNull());
 }
 
 void MainWindow::restoreSizes() {

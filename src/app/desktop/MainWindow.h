@@ -14,6 +14,7 @@ class QSplitter;
 class QToolButton;
 class QUndoStack;
 class SettingsSearch;
+class StartPanel;
 
 // The program's window: the template's settings with an explanation below them on the left, the
 // live preview on the right. The controller implements its controls.
@@ -25,6 +26,7 @@ public:
 
     MainMenu* menu;
     MessageBar* messages;
+    StartPanel* start;
     QPushButton* btnFloat;
     QToolButton* btnImportTmpl;
     QToolButton* btnExportTmpl;
