@@ -746,6 +746,14 @@
         <source>R&amp;eset all settings</source>
         <translation>Alle &amp;Einstellungen zurücksetzen</translation>
     </message>
+    <message>
+        <source>Save as a st&amp;yle…</source>
+        <translation>&amp;Als Stil speichern …</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a style of your own among the templates</source>
+        <translation>Die Einstellungen als eigenen Stil bei den Vorlagen behalten</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -794,6 +802,13 @@
     <message>
         <source>Close the message</source>
         <translation>Die Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>NameWindow</name>
+    <message>
+        <source>&amp;Name of the style:</source>
+        <translation>&amp;Name des Stils:</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1005,29 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>Das Buch wurde veröffentlicht.</translation>
+    </message>
+</context>
+<context>
+    <name>OwnStyles</name>
+    <message>
+        <source>The template itself has a style “%1”. Choose another name.</source>
+        <translation>Die Vorlage hat selbst einen Stil „%1“. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>Geben Sie einen Namen ein.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, contain a slash, or be very long.</source>
+        <translation>Ein Name kann nicht mit einem Punkt beginnen, keinen Schrägstrich enthalten und nicht sehr lang sein.</translation>
+    </message>
+    <message>
+        <source>The file %1 contains no settings.</source>
+        <translation>Die Datei %1 enthält keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>There is a style “%1” already. Choose another name.</source>
+        <translation>Es gibt schon einen Stil „%1“. Wählen Sie einen anderen Namen.</translation>
     </message>
 </context>
 <context>
@@ -1454,6 +1492,10 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
         <translation>Dokumente für LibreOffice</translation>
     </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
 </context>
 <context>
     <name>PasswordWindow</name>
@@ -1713,6 +1755,24 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
         <source>This template has no styles.</source>
         <translation>Diese Vorlage hat keine Stile.</translation>
     </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>Umbe&amp;nennen …</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Löschen …</translation>
+    </message>
+    <message>
+        <source>Gives a style of your own another name (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Gibt einem eigenen Stil einen anderen Namen (%1)</translation>
+    </message>
+    <message>
+        <source>Deletes a style of your own (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Löscht einen eigenen Stil (%1)</translation>
+    </message>
 </context>
 <context>
     <name>SelectTemplateWindowDelegate</name>
@@ -1742,6 +1802,32 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
             <numerusform>%n weitere kann nicht verwendet werden.</numerusform>
             <numerusform>%n weitere können nicht verwendet werden.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rename the style</source>
+        <extracomment>The button that gives a style another name.</extracomment>
+        <translation>Stil umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>The style “%1” cannot be used. %2</source>
+        <extracomment>%1 is the style&apos;s name, %2 a sentence that tells why.</extracomment>
+        <translation>Der Stil „%1“ ist nicht verwendbar. %2</translation>
+    </message>
+    <message>
+        <source>Delete the style “%1”?</source>
+        <translation>Den Stil „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Books and projects that have it keep their look.</source>
+        <translation>Bücher und Projekte, die ihn haben, behalten ihr Aussehen.</translation>
+    </message>
+    <message>
+        <source>The style was not deleted. %1</source>
+        <translation>Der Stil wurde nicht gelöscht. %1</translation>
     </message>
 </context>
 <context>
@@ -1919,6 +2005,30 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>Sand</source>
         <translation>Sand</translation>
+    </message>
+</context>
+<context>
+    <name>StyleSaver</name>
+    <message>
+        <source>Save as a style</source>
+        <extracomment>The button that saves a style.</extracomment>
+        <translation>Als Stil speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Replace the style “%1”?</source>
+        <translation>Den Stil „%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>You have saved a style of this name before. Its settings would be lost.</source>
+        <translation>Unter diesem Namen haben Sie schon einen Stil gespeichert. Seine Einstellungen gingen verloren.</translation>
+    </message>
+    <message>
+        <source>The style was not saved. %1</source>
+        <translation>Der Stil wurde nicht gespeichert. %1</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +2745,13 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>No picture</source>
         <translation>Kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>TmplStylesModel</name>
+    <message>
+        <source>A style of your own</source>
+        <translation>Ein eigener Stil</translation>
     </message>
 </context>
 <context>

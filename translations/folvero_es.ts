@@ -746,6 +746,14 @@
         <source>Open &amp;recent</source>
         <translation>Abrir &amp;recientes</translation>
     </message>
+    <message>
+        <source>Save as a st&amp;yle…</source>
+        <translation>Guardar como &amp;estilo…</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a style of your own among the templates</source>
+        <translation>Conservar los ajustes como estilo propio entre las plantillas</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -794,6 +802,13 @@
     <message>
         <source>Close the message</source>
         <translation>Cerrar el mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>NameWindow</name>
+    <message>
+        <source>&amp;Name of the style:</source>
+        <translation>&amp;Nombre del estilo:</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1005,29 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>El libro se publicó.</translation>
+    </message>
+</context>
+<context>
+    <name>OwnStyles</name>
+    <message>
+        <source>The template itself has a style “%1”. Choose another name.</source>
+        <translation>La propia plantilla tiene un estilo «%1». Elija otro nombre.</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>Escriba un nombre.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, contain a slash, or be very long.</source>
+        <translation>Un nombre no puede empezar por un punto, contener una barra ni ser muy largo.</translation>
+    </message>
+    <message>
+        <source>The file %1 contains no settings.</source>
+        <translation>El archivo %1 no contiene ajustes.</translation>
+    </message>
+    <message>
+        <source>There is a style “%1” already. Choose another name.</source>
+        <translation>Ya hay un estilo «%1». Elija otro nombre.</translation>
     </message>
 </context>
 <context>
@@ -1454,6 +1492,10 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
         <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
         <translation>Documentos para LibreOffice</translation>
     </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
 </context>
 <context>
     <name>PasswordWindow</name>
@@ -1713,6 +1755,24 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
         <source>This template has no styles.</source>
         <translation>Esta plantilla no tiene estilos.</translation>
     </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>Cambiar &amp;nombre…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>E&amp;liminar…</translation>
+    </message>
+    <message>
+        <source>Gives a style of your own another name (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Da otro nombre a un estilo propio (%1)</translation>
+    </message>
+    <message>
+        <source>Deletes a style of your own (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Elimina un estilo propio (%1)</translation>
+    </message>
 </context>
 <context>
     <name>SelectTemplateWindowDelegate</name>
@@ -1742,6 +1802,32 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
             <numerusform>Hay %n más que no se puede usar.</numerusform>
             <numerusform>Hay %n más que no se pueden usar.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rename the style</source>
+        <extracomment>The button that gives a style another name.</extracomment>
+        <translation>Cambiar el nombre del estilo</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Cambiar</translation>
+    </message>
+    <message>
+        <source>The style “%1” cannot be used. %2</source>
+        <extracomment>%1 is the style&apos;s name, %2 a sentence that tells why.</extracomment>
+        <translation>El estilo «%1» no se puede usar. %2</translation>
+    </message>
+    <message>
+        <source>Delete the style “%1”?</source>
+        <translation>¿Eliminar el estilo «%1»?</translation>
+    </message>
+    <message>
+        <source>Books and projects that have it keep their look.</source>
+        <translation>Los libros y proyectos que lo tienen conservan su aspecto.</translation>
+    </message>
+    <message>
+        <source>The style was not deleted. %1</source>
+        <translation>El estilo no se eliminó. %1</translation>
     </message>
 </context>
 <context>
@@ -1919,6 +2005,30 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     <message>
         <source>Sand</source>
         <translation>Arena</translation>
+    </message>
+</context>
+<context>
+    <name>StyleSaver</name>
+    <message>
+        <source>Save as a style</source>
+        <extracomment>The button that saves a style.</extracomment>
+        <translation>Guardar como estilo</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Replace the style “%1”?</source>
+        <translation>¿Reemplazar el estilo «%1»?</translation>
+    </message>
+    <message>
+        <source>You have saved a style of this name before. Its settings would be lost.</source>
+        <translation>Ya ha guardado un estilo con este nombre. Sus ajustes se perderían.</translation>
+    </message>
+    <message>
+        <source>The style was not saved. %1</source>
+        <translation>El estilo no se guardó. %1</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +2745,13 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     <message>
         <source>No picture</source>
         <translation>Sin imagen</translation>
+    </message>
+</context>
+<context>
+    <name>TmplStylesModel</name>
+    <message>
+        <source>A style of your own</source>
+        <translation>Un estilo propio</translation>
     </message>
 </context>
 <context>

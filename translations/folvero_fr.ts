@@ -746,6 +746,14 @@
         <source>Open &amp;recent</source>
         <translation>Fichiers &amp;récents</translation>
     </message>
+    <message>
+        <source>Save as a st&amp;yle…</source>
+        <translation>Enregistrer comme st&amp;yle…</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a style of your own among the templates</source>
+        <translation>Garder les paramètres comme style personnel parmi les modèles</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -794,6 +802,13 @@
     <message>
         <source>Close the message</source>
         <translation>Fermer le message</translation>
+    </message>
+</context>
+<context>
+    <name>NameWindow</name>
+    <message>
+        <source>&amp;Name of the style:</source>
+        <translation>&amp;Nom du style&amp;#x202f;:</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1005,29 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>Le livre a été publié.</translation>
+    </message>
+</context>
+<context>
+    <name>OwnStyles</name>
+    <message>
+        <source>The template itself has a style “%1”. Choose another name.</source>
+        <translation>Le modèle a lui-même un style «&amp;#xa0;%1&amp;#xa0;». Choisissez un autre nom.</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>Saisissez un nom.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, contain a slash, or be very long.</source>
+        <translation>Un nom ne peut pas commencer par un point, contenir une barre oblique ni être très long.</translation>
+    </message>
+    <message>
+        <source>The file %1 contains no settings.</source>
+        <translation>Le fichier %1 ne contient pas de paramètres.</translation>
+    </message>
+    <message>
+        <source>There is a style “%1” already. Choose another name.</source>
+        <translation>Il y a déjà un style «&amp;#xa0;%1&amp;#xa0;». Choisissez un autre nom.</translation>
     </message>
 </context>
 <context>
@@ -1454,6 +1492,10 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
         <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
         <translation>Documents pour LibreOffice</translation>
     </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>PasswordWindow</name>
@@ -1713,6 +1755,24 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
         <source>This template has no styles.</source>
         <translation>Ce modèle n’a pas de styles.</translation>
     </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>&amp;Renommer…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>S&amp;upprimer…</translation>
+    </message>
+    <message>
+        <source>Gives a style of your own another name (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Donne un autre nom à un style personnel (%1)</translation>
+    </message>
+    <message>
+        <source>Deletes a style of your own (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Supprime un style personnel (%1)</translation>
+    </message>
 </context>
 <context>
     <name>SelectTemplateWindowDelegate</name>
@@ -1742,6 +1802,32 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
             <numerusform>%n autre ne peut pas être utilisé.</numerusform>
             <numerusform>%n autres ne peuvent pas être utilisés.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rename the style</source>
+        <extracomment>The button that gives a style another name.</extracomment>
+        <translation>Renommer le style</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>The style “%1” cannot be used. %2</source>
+        <extracomment>%1 is the style&apos;s name, %2 a sentence that tells why.</extracomment>
+        <translation>Le style «&amp;#xa0;%1&amp;#xa0;» est inutilisable. %2</translation>
+    </message>
+    <message>
+        <source>Delete the style “%1”?</source>
+        <translation>Supprimer le style «&amp;#xa0;%1&amp;#xa0;»&amp;#x202f;?</translation>
+    </message>
+    <message>
+        <source>Books and projects that have it keep their look.</source>
+        <translation>Les livres et les projets qui l’ont gardent leur aspect.</translation>
+    </message>
+    <message>
+        <source>The style was not deleted. %1</source>
+        <translation>Le style n’a pas été supprimé. %1</translation>
     </message>
 </context>
 <context>
@@ -1814,7 +1900,7 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     </message>
     <message>
         <source>Or play with the demo book below: turn its pages, try templates and settings.</source>
-        <translation>Ou jouez avec le livre de démonstration ci-dessous : tournez ses pages, essayez modèles et paramètres.</translation>
+        <translation>Ou jouez avec le livre de démonstration ci-dessous&#x202f;: tournez ses pages, essayez modèles et paramètres.</translation>
     </message>
     <message>
         <source>Make the book from a PDF, a picture or a text</source>
@@ -1919,6 +2005,30 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     <message>
         <source>Sand</source>
         <translation>Sable</translation>
+    </message>
+</context>
+<context>
+    <name>StyleSaver</name>
+    <message>
+        <source>Save as a style</source>
+        <extracomment>The button that saves a style.</extracomment>
+        <translation>Enregistrer comme style</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Replace the style “%1”?</source>
+        <translation>Remplacer le style «&amp;#xa0;%1&amp;#xa0;»&amp;#x202f;?</translation>
+    </message>
+    <message>
+        <source>You have saved a style of this name before. Its settings would be lost.</source>
+        <translation>Vous avez déjà enregistré un style sous ce nom. Ses paramètres seraient perdus.</translation>
+    </message>
+    <message>
+        <source>The style was not saved. %1</source>
+        <translation>Le style n’a pas été enregistré. %1</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +2745,13 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     <message>
         <source>No picture</source>
         <translation>Aucune image</translation>
+    </message>
+</context>
+<context>
+    <name>TmplStylesModel</name>
+    <message>
+        <source>A style of your own</source>
+        <translation>Un style personnel</translation>
     </message>
 </context>
 <context>

@@ -746,6 +746,14 @@
         <source>Open &amp;recent</source>
         <translation>Apri &amp;recenti</translation>
     </message>
+    <message>
+        <source>Save as a st&amp;yle…</source>
+        <translation>Salva come sti&amp;le…</translation>
+    </message>
+    <message>
+        <source>Keep the settings as a style of your own among the templates</source>
+        <translation>Conserva le impostazioni come stile personale tra i modelli</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -794,6 +802,13 @@
     <message>
         <source>Close the message</source>
         <translation>Chiudi il messaggio</translation>
+    </message>
+</context>
+<context>
+    <name>NameWindow</name>
+    <message>
+        <source>&amp;Name of the style:</source>
+        <translation>&amp;Nome dello stile:</translation>
     </message>
 </context>
 <context>
@@ -990,6 +1005,29 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>Il libro è stato pubblicato.</translation>
+    </message>
+</context>
+<context>
+    <name>OwnStyles</name>
+    <message>
+        <source>The template itself has a style “%1”. Choose another name.</source>
+        <translation>Il modello stesso ha uno stile «%1». Scegliere un altro nome.</translation>
+    </message>
+    <message>
+        <source>Type a name.</source>
+        <translation>Digitare un nome.</translation>
+    </message>
+    <message>
+        <source>A name can&apos;t begin with a dot, contain a slash, or be very long.</source>
+        <translation>Un nome non può iniziare con un punto, contenere una barra o essere molto lungo.</translation>
+    </message>
+    <message>
+        <source>The file %1 contains no settings.</source>
+        <translation>Il file %1 non contiene impostazioni.</translation>
+    </message>
+    <message>
+        <source>There is a style “%1” already. Choose another name.</source>
+        <translation>Esiste già uno stile «%1». Scegliere un altro nome.</translation>
     </message>
 </context>
 <context>
@@ -1454,6 +1492,10 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
         <extracomment>Documents that LibreOffice can turn into PDFs: texts, presentations, sheets.</extracomment>
         <translation>Documenti per LibreOffice</translation>
     </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
 </context>
 <context>
     <name>PasswordWindow</name>
@@ -1713,6 +1755,24 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
         <source>This template has no styles.</source>
         <translation>Questo modello non ha stili.</translation>
     </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>&amp;Rinomina…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete…</source>
+        <translation>&amp;Elimina…</translation>
+    </message>
+    <message>
+        <source>Gives a style of your own another name (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Dà un altro nome a uno stile personale (%1)</translation>
+    </message>
+    <message>
+        <source>Deletes a style of your own (%1)</source>
+        <extracomment>%1 is a key.</extracomment>
+        <translation>Elimina uno stile personale (%1)</translation>
+    </message>
 </context>
 <context>
     <name>SelectTemplateWindowDelegate</name>
@@ -1742,6 +1802,32 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
             <numerusform>%n altro non può essere usato.</numerusform>
             <numerusform>Altri %n non possono essere usati.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Rename the style</source>
+        <extracomment>The button that gives a style another name.</extracomment>
+        <translation>Rinomina lo stile</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rinomina</translation>
+    </message>
+    <message>
+        <source>The style “%1” cannot be used. %2</source>
+        <extracomment>%1 is the style&apos;s name, %2 a sentence that tells why.</extracomment>
+        <translation>Lo stile «%1» non è utilizzabile. %2</translation>
+    </message>
+    <message>
+        <source>Delete the style “%1”?</source>
+        <translation>Eliminare lo stile «%1»?</translation>
+    </message>
+    <message>
+        <source>Books and projects that have it keep their look.</source>
+        <translation>I libri e i progetti che lo hanno mantengono il loro aspetto.</translation>
+    </message>
+    <message>
+        <source>The style was not deleted. %1</source>
+        <translation>Lo stile non è stato eliminato. %1</translation>
     </message>
 </context>
 <context>
@@ -1919,6 +2005,30 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     <message>
         <source>Sand</source>
         <translation>Sabbia</translation>
+    </message>
+</context>
+<context>
+    <name>StyleSaver</name>
+    <message>
+        <source>Save as a style</source>
+        <extracomment>The button that saves a style.</extracomment>
+        <translation>Salva come stile</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>Replace the style “%1”?</source>
+        <translation>Sostituire lo stile «%1»?</translation>
+    </message>
+    <message>
+        <source>You have saved a style of this name before. Its settings would be lost.</source>
+        <translation>È già stato salvato uno stile con questo nome. Le sue impostazioni andrebbero perse.</translation>
+    </message>
+    <message>
+        <source>The style was not saved. %1</source>
+        <translation>Lo stile non è stato salvato. %1</translation>
     </message>
 </context>
 <context>
@@ -2635,6 +2745,13 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     <message>
         <source>No picture</source>
         <translation>Nessuna immagine</translation>
+    </message>
+</context>
+<context>
+    <name>TmplStylesModel</name>
+    <message>
+        <source>A style of your own</source>
+        <translation>Uno stile personale</translation>
     </message>
 </context>
 <context>

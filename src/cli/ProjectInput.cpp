@@ -2,6 +2,7 @@
 
 #include "base/PlatformException.h"
 #include "cli/PublishOptions.h"
+#include "cli/TemplateOptions.h"
 #include "console/CommandError.h"
 #include "console/Terminal.h"
 #include "project/ProjectFile.h"
@@ -69,7 +70,10 @@ void apply(const Project& project, PublishOptions& options) {
     choices.set("--links", &PublishOptions::links, import.links);
     choices.set("--bookmarks", &PublishOptions::bookmarks, import.bookmarks);
     // A style is one of its template.
-    if (!choices.isGiven("--template"))
+    const bool isMissing =
+        project.holdsStyle &&
+        !TemplateOptions::styleNames(project.templateName).contains(project.styleName);
+    if (!choices.isGiven("--template") && !isMissing)
         choices.setText("--style", &PublishOptions::styleName, project.styleName);
     choices.set("--template", &PublishOptions::templateName, project.templateName);
     options.values = project.values;

@@ -5,6 +5,8 @@
 #include "project/ProjectValues.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
+#include "template/OwnStyles.h"
+#include "template/StyleFolders.h"
 #include "util/ColorCategory.h"
 
 #include <QFile>
@@ -85,8 +87,12 @@ QStringList TemplateOptions::templateNames() {
 }
 
 QStringList TemplateOptions::styleNames(const QString& templateName) {
-    return namesWith(QStringLiteral("tmplSetting.txt"),
-                     FlashTemplate::tmplStyleNamesForTmpl(templateName));
+    QStringList names =
+        namesWith(StyleFolders::settingsFile, FlashTemplate::tmplStyleNamesForTmpl(templateName) +
+                                                  StyleFolders::ownOf(templateName));
+    // The library's comes first.
+    names.removeDuplicates();
+    return names;
 }
 
 QStringList TemplateOptions::choices(const FlashTemplateProperty& property) {
@@ -113,9 +119,14 @@ std::shared_ptr<FlashTemplate> TemplateOptions::load(const QString& templateName
             QStringLiteral("the template \"%1\" has no style \"%2\"; it has: %3")
                 .arg(templateName, styleName, styleNames(templateName).join(QStringLiteral(", "))));
     }
+    const QString style = FlashTemplate::styleFolder(templateName, styleName);
+    if (const Message failure =
+            StyleFolders::isOwn(style) ? OwnStyles::failureOf(style) : Message();
+        !failure.isNull())
+        throw CommandError(failure.english());
     auto tmpl = std::make_shared<FlashTemplate>();
     if (!styleName.isEmpty())
-        tmpl->changeTmplTo(templateName, FlashTemplate::stylePathFor(templateName, styleName));
+        tmpl->changeTmplTo(templateName, style);
     else if (templateName != tmpl->tmplName())
         tmpl->loadTemplate(templateName);
     if (!tmpl->loadError().isNull())

@@ -55,6 +55,9 @@ struct Project {
     QString templateName = QStringLiteral("float");
     QString styleName; // empty for the template's own values
     std::vector<Value> values;
+    // The style is not one of the library, so the values are also those that it sets itself: it may
+    // be missing where the project is opened.
+    bool holdsStyle = false;
     Publish publish;
     // Of what was saved in case the program ends early: the path of the project itself, empty when
     // it was never saved. Null in other projects.

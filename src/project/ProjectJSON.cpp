@@ -244,6 +244,8 @@ QByteArray ProjectJSON::written(const Project& project) {
         {QStringLiteral("values"), asJson(project.values)},
         {QStringLiteral("publish"), asJson(project.publish)},
     };
+    if (project.holdsStyle)
+        object[QStringLiteral("holdsStyle")] = true;
     if (!project.recoveryOf.isNull())
         object[QStringLiteral("recoveryOf")] = project.recoveryOf;
     return QJsonDocument(object).toJson();
@@ -263,6 +265,7 @@ Project ProjectJSON::read(const QByteArray& text) {
     project.import = importOf(from.object("import"));
     project.templateName = from.text("template", project.templateName);
     project.styleName = from.text("style");
+    project.holdsStyle = from.flag("holdsStyle");
     for (const Reader& value : from.list("values", mostValues))
         project.values.push_back(valueOf(value));
     project.publish = publishOf(from.object("publish"));

@@ -2,6 +2,7 @@
 
 #include "template/TemplateDefaults.h"
 
+#include <QFileInfo>
 #include <QSet>
 
 namespace {
@@ -28,13 +29,24 @@ Project::Value valueOf(const FlashTemplateProperty& property) {
 
 } // namespace
 
+bool ProjectValues::holdStyle(const FlashTemplate& tmpl) {
+    return !tmpl.styleName().isEmpty() &&
+           !QFileInfo::exists(FlashTemplate::stylePathFor(tmpl.tmplName(), tmpl.styleName()));
+}
+
 std::vector<Project::Value> ProjectValues::changed(const FlashTemplate& tmpl) {
     TemplateDefaults defaults;
     defaults.read(tmpl);
+    TemplateDefaults withoutStyle = defaults;
+    if (holdStyle(tmpl)) {
+        FlashTemplate alone;
+        alone.loadTemplate(tmpl.tmplName());
+        withoutStyle.read(alone);
+    }
     std::vector<Project::Value> values;
     QSet<QString> seen{QStringLiteral("pageWidth"), QStringLiteral("pageHeight")};
     walk(tmpl.properties(), seen, [&](const FlashTemplateProperty& property) {
-        if (defaults.isChanged(property))
+        if (defaults.isChanged(property) || withoutStyle.isChanged(property))
             values.push_back(valueOf(property));
     });
     return values;

@@ -6,6 +6,7 @@
 #include "system/Confinement.h"
 #include "system/Files.h"
 #include "system/FolderList.h"
+#include "template/StyleFolders.h"
 #include "template/TemplateFile.h"
 
 #include <QFile>
@@ -87,6 +88,13 @@ QString FlashTemplate::stylePathFor(const QString& tmplName, const QString& styl
     return appendPathComponent(stylesFolder(tmplName), styleName);
 }
 
+QString FlashTemplate::styleFolder(const QString& tmplName, const QString& styleName) {
+    const QString own = StyleFolders::ownFor(tmplName, styleName);
+    const QString ofLibrary = stylePathFor(tmplName, styleName);
+    const bool isOwn = !own.isNull() && !QFileInfo::exists(ofLibrary) && QFileInfo::exists(own);
+    return isOwn ? own : ofLibrary;
+}
+
 QString FlashTemplate::tmplPathForName(const QString& name) {
     const QString folder = QStringLiteral("AppFiles/Templates/%1/").arg(name);
     return appendPathComponent(Bundle::resourcePath(), folder) + u'/';
@@ -160,14 +168,14 @@ void FlashTemplate::changeTmplTo(const QString& name, const QString& stylePath) 
 }
 
 void FlashTemplate::loadStyleByStyleName(const QString& styleName) {
-    loadStyleByStylePath(stylePathFor(iTmplName, styleName));
+    loadStyleByStylePath(styleFolder(iTmplName, styleName));
 }
 
 void FlashTemplate::loadStyleByStylePath(const QString& stylePath) {
     // First, since the style's values refer to files of this style.
     iStyleName = Files::lastPathComponent(stylePath);
     const auto before = fileValues();
-    importPropertiesSettingsFrom(Files::join(stylePath, QStringLiteral("tmplSetting.txt")));
+    importPropertiesSettingsFrom(Files::join(stylePath, StyleFolders::settingsFile));
     warnAboutOutsideFiles(QStringLiteral("style \"%1\"").arg(iStyleName), before);
 }
 
@@ -203,7 +211,7 @@ QString FlashTemplate::valueAsFilePath(const QString& value) const {
     const qsizetype found = value.indexOf(prefix);
     if (found < 0)
         return value;
-    const QString style = stylePathFor(iTmplName, iStyleName);
+    const QString style = styleFolder(iTmplName, iStyleName);
     const QString path = appendPathComponent(style, value.mid(found + prefix.size()));
     if (Confinement::contains(style, path))
         return path;
@@ -220,7 +228,7 @@ FlashTemplate::FileValues FlashTemplate::fileValues() const {
 
 // Not an error: a style may be a settings file exported by the user, which may name any file.
 void FlashTemplate::warnAboutOutsideFiles(const QString& source, const FileValues& before) const {
-    const QStringList folders{stylePathFor(iTmplName, iStyleName), tmplPathForName(iTmplName),
+    const QStringList folders{styleFolder(iTmplName, iStyleName), tmplPathForName(iTmplName),
                               libraryFolder()};
     const auto now = fileValues();
     for (std::size_t i = 0; i < now.size(); ++i) {

@@ -3,6 +3,7 @@
 #include "base/Message.h"
 #include "template/FlashTemplateProperty.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -21,6 +22,9 @@ public:
     // Paths of all folders below a template's style folder.
     static QStringList tmplStyleNamesForTmpl(const QString& name);
     static QString stylePathFor(const QString& tmplName, const QString& styleName);
+    // The folder of a style: that of the library, or else the user's own; see StyleFolders. Where
+    // there is neither, the path in the library.
+    static QString styleFolder(const QString& tmplName, const QString& styleName);
     // The template's folder, ending in "/".
     static QString tmplPathForName(const QString& name);
     static QString tmplMetaPathForName(const QString& name);
@@ -69,6 +73,8 @@ public:
     // *error (when given).
     int importPropertiesSettingsFrom(const QString& path);
     bool exportPropertiesSettingsTo(const QString& path, Message* error = nullptr) const;
+    // What is written, but for the values of some keys.
+    QByteArray settings(const QStringList& leftOut = {}) const;
     // Appends the records of a node and its descendants; of the whole tree for nullptr.
     void exportPropertiesSettingsToArray(QStringList& records,
                                          const FlashTemplateProperty* fromPro) const;

@@ -46,14 +46,20 @@ int FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
     return known;
 }
 
-bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, Message* error) const {
+QByteArray FlashTemplate::settings(const QStringList& leftOut) const {
     QStringList records;
     exportPropertiesSettingsToArray(records, nullptr);
     QString text;
-    for (const QString& record : records)
-        text += recordStart + record;
+    for (const QString& record : records) {
+        if (!leftOut.contains(record.section(u'=', 0, 0)))
+            text += recordStart + record;
+    }
+    return text.toUtf8();
+}
+
+bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, Message* error) const {
     Message cause;
-    const bool written = Files::writeAtomically(path, text.toUtf8(), &cause);
+    const bool written = Files::writeAtomically(path, settings(), &cause);
     if (!written)
         logger.warn(
             QStringLiteral("can't write the settings file \"%1\": %2").arg(path, cause.english()));

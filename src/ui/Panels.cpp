@@ -104,6 +104,16 @@ void run(QMessageBox& alert, const QString& information) {
     alert.exec();
 }
 
+// Whether the user presses the button of that text.
+bool confirmLoss(const QString& verb, const QString& message, const QString& information) {
+    QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
+                      QMessageBox::NoButton, QApplication::activeWindow());
+    const QAbstractButton* confirm = alert.addButton(verb, QMessageBox::AcceptRole);
+    alert.setDefaultButton(alert.addButton(Texts::tr("Cancel"), QMessageBox::RejectRole));
+    run(alert, information);
+    return alert.clickedButton() == confirm;
+}
+
 } // namespace
 
 std::optional<QString> Panels::chooseFile(const QString& proposed, const QStringList& types) {
@@ -154,12 +164,11 @@ bool Panels::askToOpen(const QString& message, const QString& information) {
 }
 
 bool Panels::askToReplace(const QString& message, const QString& information) {
-    QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
-                      QMessageBox::NoButton, QApplication::activeWindow());
-    const QAbstractButton* replace = alert.addButton(Texts::tr("Replace"), QMessageBox::AcceptRole);
-    alert.setDefaultButton(alert.addButton(Texts::tr("Cancel"), QMessageBox::RejectRole));
-    run(alert, information);
-    return alert.clickedButton() == replace;
+    return confirmLoss(Texts::tr("Replace"), message, information);
+}
+
+bool Panels::askToDelete(const QString& message, const QString& information) {
+    return confirmLoss(Texts::tr("Delete"), message, information);
 }
 
 Panels::Unsaved Panels::askToSave(const QString& message, const QString& information) {

@@ -33,6 +33,9 @@ bool askToOpen(const QString& message, const QString& information);
 // True when the user wants to replace what would be lost; "no" is the default.
 bool askToReplace(const QString& message, const QString& information);
 
+// True for "Delete"; "no" is the default.
+bool askToDelete(const QString& message, const QString& information);
+
 // What becomes of changes that are not saved.
 enum class Unsaved { save, discard, cancel };
 

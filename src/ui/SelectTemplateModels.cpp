@@ -1,6 +1,7 @@
 #include "ui/SelectTemplateModels.h"
 
 #include "system/Files.h"
+#include "template/StyleFolders.h"
 #include "ui/PlainText.h"
 #include "ui/TemplateTexts.h"
 
@@ -49,7 +50,10 @@ QVariant TmplStylesModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     const IKBTmplStyleItem& item = *iItems.at(std::size_t(index.row()));
+    const bool isOwn = StyleFolders::isOwn(item.imageID());
     if (role == Qt::DisplayRole)
-        return TemplateTexts::styleName(item.imageTitle());
+        return isOwn ? item.imageTitle() : TemplateTexts::styleName(item.imageTitle());
+    if (role == Qt::AccessibleDescriptionRole && isOwn)
+        return tr("A style of your own");
     return role == Qt::DecorationRole ? QVariant(item.imageRepresentation()) : QVariant();
 }

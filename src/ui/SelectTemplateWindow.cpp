@@ -55,6 +55,8 @@ QLabel* caption(const QString& text, QWidget* buddy) {
 SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     : Sheet(tr("Choose a template"), parent),
       btnRefresh(new QPushButton(tr("&Refresh"))),
+      btnRename(new QPushButton(tr("Re&name…"))),
+      btnDelete(new QPushButton(tr("&Delete…"))),
       btnOK(new QPushButton(tr("OK"))) {
     makeTmplList();
     makeStyleBrowser();
@@ -66,6 +68,7 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     //: %1 is a key.
     btnRefresh->setToolTip(tr("Looks for templates that were added or repaired meanwhile (%1)")
                                .arg(refresh->key().toString(QKeySequence::NativeText)));
+    makeStyleButtons();
     btnOK->setObjectName(QStringLiteral("ok"));
     btnCancel->setObjectName(QStringLiteral("cancel"));
 
@@ -79,6 +82,8 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(btnRefresh);
+    buttons->addWidget(btnRename);
+    buttons->addWidget(btnDelete);
     buttons->addWidget(buttonRow(btnOK), 1);
 
     auto* all = new QVBoxLayout(this);
@@ -120,6 +125,25 @@ void SelectTemplateWindow::makeStyleBrowser() {
     const int bar = iImgBrowserView->verticalScrollBar()->sizeHint().width();
     iImgBrowserView->setMinimumSize(cell.width() + frame + bar, cell.height() + frame);
     iImgBrowserView->installEventFilter(this);
+}
+
+void SelectTemplateWindow::makeStyleButtons() {
+    const auto make = [this](QPushButton* button, const QString& name, const QKeySequence& key,
+                             const QString& text) {
+        button->setObjectName(name);
+        button->setAutoDefault(false);
+        button->setEnabled(false);
+        const auto* shortcut =
+            new QShortcut(key, iImgBrowserView, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+        button->setToolTip(text.arg(key.toString(QKeySequence::NativeText)));
+    };
+    //: %1 is a key.
+    make(btnRename, QStringLiteral("rename"), Qt::Key_F2,
+         tr("Gives a style of your own another name (%1)"));
+    //: %1 is a key.
+    make(btnDelete, QStringLiteral("delete"), QKeySequence::Delete,
+         tr("Deletes a style of your own (%1)"));
 }
 
 QWidget* SelectTemplateWindow::noticeRow() {

@@ -18,6 +18,9 @@ public:
     QLabel* lblNoTmpls;
     QLabel* lblNoStyles;
     QPushButton* btnRefresh;
+    // For styles of the user's own.
+    QPushButton* btnRename;
+    QPushButton* btnDelete;
     QPushButton* btnOK;
 
     // Adjusts the grid of styles to the available width; call when their number has changed.
@@ -31,6 +34,7 @@ protected:
 private:
     void makeTmplList();
     void makeStyleBrowser();
+    void makeStyleButtons();
     QWidget* noticeRow();
     QSize firstSize() const;
 

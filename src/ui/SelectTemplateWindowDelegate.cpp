@@ -2,6 +2,10 @@
 
 #include "system/Files.h"
 #include "template/FlashTemplate.h"
+#include "template/OwnStyles.h"
+#include "template/StyleFolders.h"
+#include "ui/NameWindow.h"
+#include "ui/Panels.h"
 #include "ui/SelectTemplateModels.h"
 #include "ui/SelectTemplatePainters.h"
 #include "ui/TemplateTexts.h"
@@ -14,7 +18,6 @@
 
 namespace {
 
-const QString pictureFile = QStringLiteral("shot.jpg");
 constexpr std::size_t usualCount = 12;
 constexpr int maxFailuresShown = 3;
 
@@ -38,7 +41,8 @@ bool isNestedTemplate(const QString& path) {
 }
 
 bool isNestedStyle(const QString& tmplName, const QString& path) {
-    return FlashTemplate::stylePathFor(tmplName, Files::lastPathComponent(path)) != path;
+    return !StyleFolders::isOwn(path) &&
+           FlashTemplate::stylePathFor(tmplName, Files::lastPathComponent(path)) != path;
 }
 
 // -1 without a selection.
@@ -51,6 +55,9 @@ int selectedIn(const QListView& view) {
 
 SelectTemplateWindowDelegate::SelectTemplateWindowDelegate(QWidget* parent)
     : iWindow(new SelectTemplateWindow(parent)),
+      //: The button that gives a style another name.
+      iNameWindow(new NameWindow(tr("Rename the style"), tr("&Rename"), iWindow)),
+      iAskToDelete(Panels::askToDelete),
       iTmplModel(new TmplListModel(
           iTmplListData, [this](const QString& name) { return failureOf(name); }, this)),
       iStylesModel(new TmplStylesModel(iTmplStylesData, this)),
@@ -88,6 +95,8 @@ void SelectTemplateWindowDelegate::wire() {
     connect(iWindow->btnCancel, &QPushButton::clicked, this, &Self::onCancel);
     connect(iWindow, &SelectTemplateWindow::closeRequested, this, &Self::onCancel);
     connect(iWindow->btnRefresh, &QPushButton::clicked, this, &Self::onRefresh);
+    connect(iWindow->btnRename, &QPushButton::clicked, this, &Self::onRename);
+    connect(iWindow->btnDelete, &QPushButton::clicked, this, &Self::onDelete);
     connect(iWindow->iTableViewTmpls->selectionModel(), &QItemSelectionModel::selectionChanged,
             this, &Self::tableViewSelectionDidChange);
     connect(iWindow->iImgBrowserView->selectionModel(), &QItemSelectionModel::selectionChanged,
@@ -151,8 +160,9 @@ void SelectTemplateWindowDelegate::prepairToTmpl(const QString& name,
 void SelectTemplateWindowDelegate::reloadStylesForTmpl(const QString& name) {
     iShownTmpl = name;
     iTmplStylesData.clear();
-    for (const QString& path : FlashTemplate::tmplStyleNamesForTmpl(name)) {
-        const QString picture = Files::join(path, pictureFile);
+    for (const QString& path :
+         FlashTemplate::tmplStyleNamesForTmpl(name) + StyleFolders::ownOf(name)) {
+        const QString picture = Files::join(path, StyleFolders::pictureFile);
         iTmplStylesData.push_back(std::make_unique<IKBTmplStyleItem>(
             QImage(picture), picture, Files::lastPathComponent(path)));
     }
@@ -214,7 +224,7 @@ void SelectTemplateWindowDelegate::selectRow(int row) {
 
 bool SelectTemplateWindowDelegate::canChoose() const {
     return selectedIn(*iWindow->iImgBrowserView) >= 0 && isListed(iShownTmpl) &&
-           failureOf(iShownTmpl).isNull();
+           failureOf(iShownTmpl).isNull() && styleFailure().isNull();
 }
 
 bool SelectTemplateWindowDelegate::isListed(const QString& tmplName) const {
@@ -223,6 +233,9 @@ bool SelectTemplateWindowDelegate::isListed(const QString& tmplName) const {
 
 void SelectTemplateWindowDelegate::showState() {
     iWindow->btnOK->setEnabled(canChoose());
+    const bool isOwn = StyleFolders::isOwn(selectedStylePath());
+    iWindow->btnRename->setEnabled(isOwn);
+    iWindow->btnDelete->setEnabled(isOwn);
     iWindow->showNotice(notice());
 }
 
@@ -231,6 +244,10 @@ QString SelectTemplateWindowDelegate::notice() const {
     if (!iShownTmpl.isEmpty() && !isListed(iShownTmpl))
         //: %1 is the template's name in quotation marks.
         return tr("The template %1 is not in the library.").arg(quoted(iShownTmpl));
+    if (const QString failure = styleFailure(); !failure.isNull())
+        //: %1 is the style's name, %2 a sentence that tells why.
+        return tr("The style “%1” cannot be used. %2")
+            .arg(Files::lastPathComponent(selectedStylePath()), failure);
     QStringList broken = failures().keys();
     broken.sort();
     if (broken.contains(iShownTmpl))
@@ -291,4 +308,61 @@ void SelectTemplateWindowDelegate::onRefresh() {
     if (row >= 0)
         selectRow(row);
     showState();
+}
+
+// Empty without a selection.
+QString SelectTemplateWindowDelegate::selectedStylePath() const {
+    const int item = selectedIn(*iWindow->iImgBrowserView);
+    return item < 0 ? QString() : QFileInfo(itemAtIndex(item).imageID()).path();
+}
+
+QString SelectTemplateWindowDelegate::styleFailure() const {
+    const QString path = selectedStylePath();
+    return StyleFolders::isOwn(path) ? OwnStyles::failureOf(path).local() : QString();
+}
+
+void SelectTemplateWindowDelegate::selectStyle(const QString& path) {
+    for (int item = 0; item < numberOfItemsInImageBrowser(); ++item) {
+        if (QFileInfo(itemAtIndex(item).imageID()).path() == path)
+            iWindow->iImgBrowserView->setCurrentIndex(iStylesModel->index(item));
+    }
+}
+
+void SelectTemplateWindowDelegate::onRename() {
+    const QString path = selectedStylePath();
+    if (!StyleFolders::isOwn(path))
+        return;
+    const QString name = Files::lastPathComponent(path);
+    iNameWindow->ask(name, [this, path, name](const QString& typed) {
+        Message error;
+        if (typed == name)
+            return QString();
+        if (!OwnStyles::rename(path, typed, &error))
+            return error.local();
+        takeMovedStyle(path, StyleFolders::ownFor(iShownTmpl, typed));
+        return QString();
+    });
+}
+
+void SelectTemplateWindowDelegate::onDelete() {
+    const QString path = selectedStylePath();
+    if (!StyleFolders::isOwn(path) ||
+        !iAskToDelete(tr("Delete the style “%1”?").arg(Files::lastPathComponent(path)),
+                      tr("Books and projects that have it keep their look.")))
+        return;
+    Message error;
+    if (OwnStyles::remove(path, &error))
+        takeMovedStyle(path, {});
+    else
+        iWindow->showNotice(tr("The style was not deleted. %1").arg(error.local()));
+}
+
+void SelectTemplateWindowDelegate::takeMovedStyle(const QString& from, const QString& to) {
+    if (iCurrentStylePath == from)
+        iCurrentStylePath = to;
+    Q_EMIT styleMoved(from, to);
+    reloadStylesForTmpl(iShownTmpl);
+    if (!to.isNull())
+        selectStyle(to);
+    iWindow->iImgBrowserView->setFocus();
 }

@@ -13,6 +13,7 @@
 #include <optional>
 #include <vector>
 
+class NameWindow;
 class TmplListModel;
 class TmplRowPainter;
 class TmplStylesModel;
@@ -43,6 +44,17 @@ public:
     void onCancel();
     // The displayed styles stay until another template is selected.
     void onRefresh();
+    // For the selected style, if it is one of the user's own.
+    void onRename();
+    void onDelete();
+
+    // Asks for a style's new name.
+    NameWindow& nameWindow() const { return *iNameWindow; }
+    // How the user is asked whether to delete a style.
+    void
+    setAskToDelete(std::function<bool(const QString& message, const QString& information)> ask) {
+        iAskToDelete = std::move(ask);
+    }
 
     // The template list. A row for a template nested in another one's folder exists, but is hidden.
     int numberOfRowsInTableView() const { return int(iTmplListData.size()); }
@@ -62,6 +74,10 @@ public:
     // The icon file of the template in that folder.
     static QString iconFileIn(const QString& tmplPath);
 
+Q_SIGNALS:
+    // A style of the user's own was renamed or, when to is null, deleted. The paths of its folder.
+    void styleMoved(const QString& from, const QString& to);
+
 private:
     void awakeFromNib();
     void wire();
@@ -75,9 +91,15 @@ private:
     bool canChoose() const;
     void showState();
     QString notice() const;
+    QString selectedStylePath() const;
+    QString styleFailure() const;
+    void selectStyle(const QString& path);
+    void takeMovedStyle(const QString& from, const QString& to);
     void endSheet(int returnCode);
 
     QPointer<SelectTemplateWindow> iWindow;
+    NameWindow* iNameWindow;
+    std::function<bool(const QString&, const QString&)> iAskToDelete;
     std::vector<std::unique_ptr<IKBTmplStyleItem>> iTmplStylesData;
     QStringList iTmplListData;
     quint32 iSelectedItemIndex = 0;

@@ -1,6 +1,7 @@
 #include "cli/BookTest.h"
 #include "project/ProjectFile.h"
 #include "project/ProjectFiles.h"
+#include "template/StyleFolders.h"
 
 #include <QImage>
 
@@ -56,6 +57,25 @@ TEST_F(PublishedProject, IsTheBookThatTheSameOptionsMakeAndOptionsComeFirst) {
     const auto other = published({file, "--type=html", "--name=cake", "--set=mainColor=0x654321"});
     EXPECT_TRUE(other.contains("cake.html") && !other.contains("files/web/book.js"));
     EXPECT_EQ(BookReader::configuration(book()).textAt("Properties/FlashWindowsColor"), "0x654321");
+}
+
+TEST_F(PublishedProject, HasAStyleOfTheUsersOwnAlsoWhereThatIsMissing) {
+    const QString folder = StyleFolders::ownFor("float", "Mine");
+    TestFiles::write(folder + "/tmplSetting.txt", "topMargin=40\nleftMargin=30\n");
+    Project project = projectOf({copy("links.pdf")});
+    project.styleName = "Mine";
+    project.values = {{"topMargin", "40", false, {}}, {"leftMargin", "30", false, {}}};
+    project.holdsStyle = true;
+    const QString file = save(project);
+    const auto expected = published({project.documents[0].path, "--style=Mine"});
+    EXPECT_EQ(BookReader::configuration(book()).textAt("Properties/Top"), "40");
+    EXPECT_TRUE(published({file}) == expected);
+    TestFiles::write(folder + "/tmplSetting.txt", "nothing");
+    const auto broken = Program::run({"publish", file, book()});
+    EXPECT_EQ(broken.exitCode, 1);
+    EXPECT_TRUE(broken.errors.contains("contains no settings"));
+    QDir(StyleFolders::own()).removeRecursively();
+    EXPECT_TRUE(published({file}) == expected);
 }
 
 TEST_F(PublishedProject, HasThePagesOfItsListTurnedAsItSays) {

@@ -265,7 +265,7 @@ void BrisleafAppDelegate::onSelectTemplate() {
     const QString style = iFlashTmpl->styleName().isEmpty() ? iFlashTmpl->defaultSytleName()
                                                             : iFlashTmpl->styleName();
     iSelecteTmplWindow->prepairToTmpl(iFlashTmpl->tmplName(),
-                                      FlashTemplate::stylePathFor(iFlashTmpl->tmplName(), style));
+                                      FlashTemplate::styleFolder(iFlashTmpl->tmplName(), style));
     iSelecteTmplWindow->beginSheet([this](int returnCode) { selectTmplWindowDidEnd(returnCode); });
 }
 
@@ -273,7 +273,10 @@ void BrisleafAppDelegate::selectTmplWindowDidEnd(int returnCode) {
     const QString shot = returnCode == 1 ? iSelecteTmplWindow->selectedStyle() : QString();
     if (shot.isNull())
         return;
-    const QString styleFolder = QFileInfo(shot).path();
+    chooseStyle(QFileInfo(shot).path());
+}
+
+void BrisleafAppDelegate::chooseStyle(const QString& styleFolder) {
     const QString name = QFileInfo(styleFolder).dir().dirName();
     iIsDirectionChosen = iHistory.isEdited(direction);
     iWindow->messages->hide();

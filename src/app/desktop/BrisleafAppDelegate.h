@@ -24,6 +24,7 @@ class PagesWindowDelegate;
 class QTimer;
 class SelectTemplateWindowDelegate;
 class SettingsReset;
+class StyleSaver;
 
 inline constexpr char16_t APP_NAME[] = u"Folvero";
 
@@ -72,6 +73,7 @@ public:
     PagesWindowDelegate& pagesWindow() const { return *iPagesWindow; }
     OutputWindowDelegate& ouputWindow() const { return *iOuputWindow; }
     SelectTemplateWindowDelegate& selecteTmplWindow() const { return *iSelecteTmplWindow; }
+    StyleSaver& styleSaver() const { return *iStyleSaver; }
     ProjectSession& project() const { return *iProject; }
     const std::shared_ptr<FlashTemplate>& flashTmpl() const { return iFlashTmpl; }
     FlashTemplateModel& outline() const { return *iOutline; }
@@ -113,6 +115,9 @@ private:
     void observeEditor();
     void makeProject();
     void showImportSheet();
+    void makeStyleSaver();
+    void chooseStyle(const QString& styleFolder);
+    void styleWasMoved(const QString& from, const QString& to);
     Project look() const;
     void showLook(const Project& project);
     void updateTmplPropertyTip();
@@ -136,6 +141,7 @@ private:
     std::unique_ptr<PagesWindowDelegate> iPagesWindow;
     std::unique_ptr<OutputWindowDelegate> iOuputWindow;
     std::unique_ptr<SelectTemplateWindowDelegate> iSelecteTmplWindow;
+    std::unique_ptr<StyleSaver> iStyleSaver;
     std::shared_ptr<FlashTemplate> iFlashTmpl;
     QString iOwnDirection;           // the template's own RightToLeft
     bool iIsDirectionChosen = false; // by the user

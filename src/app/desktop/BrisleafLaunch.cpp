@@ -10,6 +10,7 @@
 #include "app/desktop/RecentFiles.h"
 #include "app/desktop/SettingsReset.h"
 #include "app/desktop/StartPanel.h"
+#include "app/desktop/StyleSaver.h"
 #include "app/desktop/WindowFitter.h"
 #include "base/Log.h"
 #include "pages/FlashPageSourceImg.h"
@@ -90,6 +91,7 @@ void BrisleafAppDelegate::makeWindows() {
     iJobs.watch(iOuputWindow->job());
     iWindow->menu->showRecentFiles(RecentFiles::list());
     makeProject();
+    makeStyleSaver();
     connectCommands();
 }
 

@@ -95,6 +95,7 @@ Project BrisleafAppDelegate::look() const {
     project.templateName = iFlashTmpl->tmplName();
     project.styleName = iFlashTmpl->styleName();
     project.values = ProjectValues::changed(*iFlashTmpl);
+    project.holdsStyle = ProjectValues::holdStyle(*iFlashTmpl);
     if (!iIsDirectionChosen)
         std::erase_if(project.values, isDirection);
     return project;

@@ -83,6 +83,8 @@ void MainMenu::makeCommands(QUndoStack& edits) {
     exportSettings =
         add(tr("Save loo&k…"), QStringLiteral("settings-save"), Qt::CTRL | Qt::SHIFT | Qt::Key_L);
     exportSettings->setToolTip(tr("Save the settings to a file, to use them for other books"));
+    saveStyle = add(tr("Save as a st&yle…"), {}, {});
+    saveStyle->setToolTip(tr("Keep the settings as a style of your own among the templates"));
     quit = add(tr("&Quit"), {}, Qt::CTRL | Qt::Key_Q);
     quit->setMenuRole(QAction::QuitRole);
     toolBarItemApplyChange = add(tr("&Apply the changes"), {}, Qt::CTRL | Qt::Key_Return);
@@ -158,7 +160,7 @@ void MainMenu::fillMenuBar() {
     file->addSeparator();
     file->addActions({importPDF, arrangePages});
     file->addSeparator();
-    file->addActions({importSettings, exportSettings});
+    file->addActions({importSettings, exportSettings, saveStyle});
     file->addSeparator();
     file->addAction(exportFlipBook);
     file->addSeparator();

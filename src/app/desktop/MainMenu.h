@@ -26,6 +26,7 @@ public:
     QAction* exportFlipBook;
     QAction* importSettings;
     QAction* exportSettings;
+    QAction* saveStyle;
     QAction* quit;
     QAction* undo;
     QAction* redo;

@@ -85,7 +85,7 @@ void PropertyHistory::reset(std::shared_ptr<FlashTemplate> tmpl) {
     iStack.clear();
     iTmpl = std::move(tmpl);
     iStylePath = iTmpl && !iTmpl->styleName().isEmpty()
-                     ? FlashTemplate::stylePathFor(iTmpl->tmplName(), iTmpl->styleName())
+                     ? FlashTemplate::styleFolder(iTmpl->tmplName(), iTmpl->styleName())
                      : QString();
     iValues = iOwnValues = valuesOf(iTmpl.get());
 }

@@ -37,6 +37,8 @@ public:
     // Changes template and style as one undo step. Edits are kept where the new template has the
     // same setting and allows the value.
     void changeTemplate(const QString& name, const QString& stylePath, const QString& text);
+    // The style in use was renamed, or deleted: the path is null then.
+    void setStylePath(const QString& path) { iStylePath = path; }
     // Whether the user has given the property with that key another value.
     bool isEdited(const QString& key) const { return edits().contains(key); }
 

@@ -1,0 +1,50 @@
+#include "template/StyleFolders.h"
+
+#include "system/Files.h"
+#include "system/Folders.h"
+
+#include <QCollator>
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+
+QString StyleFolders::own() {
+    const QString support = Folders::userApplicationSupport();
+    return Files::join(support.isNull() ? Folders::temporary() : support,
+                       QStringLiteral("Folvero/styles"));
+}
+
+bool StyleFolders::isName(const QString& name) {
+    constexpr qsizetype mostBytes = 200;
+    return !name.isEmpty() && !name.startsWith(u'.') && name.toUtf8().size() <= mostBytes &&
+           std::none_of(name.begin(), name.end(), [](QChar letter) {
+               return letter == u'/' || letter.category() == QChar::Other_Control;
+           });
+}
+
+QString StyleFolders::ownFor(const QString& tmplName, const QString& styleName) {
+    if (!isName(tmplName) || !isName(styleName))
+        return {};
+    return Files::join(Files::join(own(), tmplName), styleName);
+}
+
+QStringList StyleFolders::ownOf(const QString& tmplName) {
+    if (!isName(tmplName))
+        return {};
+    const QString folder = Files::join(own(), tmplName);
+    QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    names.removeIf([&](const QString& name) {
+        return !isName(name) ||
+               !QFileInfo::exists(Files::join(Files::join(folder, name), settingsFile));
+    });
+    QCollator order;
+    order.setNumericMode(true);
+    std::sort(names.begin(), names.end(), order);
+    for (QString& name : names)
+        name = Files::join(folder, name);
+    return names;
+}
+
+bool StyleFolders::isOwn(const QString& stylePath) {
+    return stylePath.startsWith(own() + u'/');
+}
