@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Fuzz::require(meta.property(i).read(&settings) == meta.property(i).read(&again),
                       "saved settings are read again");
 
-    const PublishedBooks::Book book{"/f", "n", "t", "/p"};
+    const PublishedBooks::Book book{"/f", "n", "t", "u", "1", "/p"};
     const auto before = PublishedBooks::of("/other");
     PublishedBooks::add("/document", book);
     const auto after = PublishedBooks::of("/document");

@@ -888,25 +888,9 @@
         <translation>Öffnet den Ordner im Dateimanager</translation>
     </message>
     <message>
-        <source>Web &amp;book: with search, links, contents and text to copy</source>
-        <translation>Web&amp;buch: mit Suche, Links, Inhalt und Text zum Kopieren</translation>
-    </message>
-    <message>
         <source>&amp;Embed:</source>
         <extracomment>Markup that shows the book inside another page.</extracomment>
         <translation>E&amp;inbetten:</translation>
-    </message>
-    <message>
-        <source>Everything in &amp;one file</source>
-        <translation>Alles in &amp;einer Datei</translation>
-    </message>
-    <message>
-        <source>One page that holds the whole book, to send by mail or to open from a memory stick</source>
-        <translation>Eine Seite, die das ganze Buch enthält, zum Verschicken per Mail oder zum Öffnen von einem Speicherstift</translation>
-    </message>
-    <message>
-        <source>Shows the book inside another page: put this into that page, with the book&apos;s address on the web in place of %1</source>
-        <translation>Zeigt das Buch in einer anderen Seite: Fügen Sie dies dort ein, mit der Adresse des Buchs im Web anstelle von %1</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
@@ -919,6 +903,67 @@
     <message>
         <source>Copy the text for embedding</source>
         <translation>Text zum Einbetten kopieren</translation>
+    </message>
+    <message>
+        <source>Web &amp;book</source>
+        <translation>Web&amp;buch</translation>
+    </message>
+    <message>
+        <source>For a web site: with contents, search and links; opens page by page</source>
+        <translation>Für eine Website: mit Inhalt, Suche und Links; öffnet sich Seite für Seite</translation>
+    </message>
+    <message>
+        <source>Web book in &amp;one file</source>
+        <translation>Webbuch in &amp;einer Datei</translation>
+    </message>
+    <message>
+        <source>To send by mail or to open from a memory stick</source>
+        <translation>Zum Verschicken per Mail oder zum Öffnen von einem Speicherstift</translation>
+    </message>
+    <message>
+        <source>For a quick look: made in less time, without contents, search and links</source>
+        <translation>Für einen schnellen Blick: eher fertig, ohne Inhalt, Suche und Links</translation>
+    </message>
+    <message>
+        <source>For people with a Mac: one file that opens with a double-click</source>
+        <translation>Für Leute mit einem Mac: eine Datei, die sich mit einem Doppelklick öffnet</translation>
+    </message>
+    <message>
+        <source>Mo&amp;re options</source>
+        <extracomment>Shows further fields beneath it.</extracomment>
+        <translation>Weite&amp;re Optionen</translation>
+    </message>
+    <message>
+        <source>for example https://example.org/book/</source>
+        <extracomment>Shown in the empty field for the book&apos;s address on the web.</extracomment>
+        <translation>zum Beispiel https://example.org/buch/</translation>
+    </message>
+    <message>
+        <source>Where the book will be on the web: for search engines, previews of links, “Copy link” and the text for embedding</source>
+        <translation>Wo das Buch im Web stehen wird: für Suchmaschinen, Vorschauen von Links, „Link kopieren“ und den Text zum Einbetten</translation>
+    </message>
+    <message>
+        <source>all pages, or for example 1-12</source>
+        <extracomment>Shown in the empty field for the pages of a reading sample.</extracomment>
+        <translation>alle Seiten, oder zum Beispiel 1-12</translation>
+    </message>
+    <message>
+        <source>The pages that can be read, by their numbers in the document; the book contains nothing of the others</source>
+        <translation>Die Seiten, die man lesen kann, nach ihren Nummern im Dokument; von den anderen enthält das Buch nichts</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <extracomment>The book&apos;s address on the web.</extracomment>
+        <translation>&amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>Rea&amp;ding sample:</source>
+        <extracomment>Some of the book&apos;s pages, as a foretaste.</extracomment>
+        <translation>&amp;Leseprobe:</translation>
+    </message>
+    <message>
+        <source>Shows the book inside another page: put this into that page. %1 stands for the book&apos;s address until that is given above.</source>
+        <translation>Zeigt das Buch in einer anderen Seite: Fügen Sie dies dort ein. %1 steht für die Adresse des Buchs, bis sie oben angegeben ist.</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1050,10 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>Das Buch wurde veröffentlicht.</translation>
+    </message>
+    <message>
+        <source>The address must be that of a folder or page, such as https://example.org/book/, without “?” and “#”.</source>
+        <translation>Die Adresse muss die eines Ordners oder einer Seite sein, wie https://example.org/buch/, ohne „?“ und „#“.</translation>
     </message>
 </context>
 <context>
@@ -1710,6 +1759,17 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>it opens with a password only</source>
         <translation>es öffnet sich nur mit einem Passwort</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSample</name>
+    <message>
+        <source>The reading sample needs numbers of pages, such as 1-12, and not “%1”.</source>
+        <translation>Die Leseprobe braucht Nummern von Seiten, wie 1-12, und nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>The book has none of the pages of the reading sample.</source>
+        <translation>Das Buch hat keine der Seiten der Leseprobe.</translation>
     </message>
 </context>
 <context>

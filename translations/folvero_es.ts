@@ -888,25 +888,9 @@
         <translation>Abre la carpeta en el gestor de archivos</translation>
     </message>
     <message>
-        <source>Web &amp;book: with search, links, contents and text to copy</source>
-        <translation>Libro &amp;web: con búsqueda, enlaces, índice y texto para copiar</translation>
-    </message>
-    <message>
         <source>&amp;Embed:</source>
         <extracomment>Markup that shows the book inside another page.</extracomment>
         <translation>&amp;Incrustar:</translation>
-    </message>
-    <message>
-        <source>Everything in &amp;one file</source>
-        <translation>Todo en &amp;un solo archivo</translation>
-    </message>
-    <message>
-        <source>One page that holds the whole book, to send by mail or to open from a memory stick</source>
-        <translation>Una página que contiene todo el libro, para enviarla por correo o abrirla desde una memoria USB</translation>
-    </message>
-    <message>
-        <source>Shows the book inside another page: put this into that page, with the book&apos;s address on the web in place of %1</source>
-        <translation>Muestra el libro dentro de otra página: inserte esto en ella, con la dirección web del libro en lugar de %1</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
@@ -919,6 +903,67 @@
     <message>
         <source>Copy the text for embedding</source>
         <translation>Copiar el texto para incrustar</translation>
+    </message>
+    <message>
+        <source>Web &amp;book</source>
+        <translation>Libro &amp;web</translation>
+    </message>
+    <message>
+        <source>For a web site: with contents, search and links; opens page by page</source>
+        <translation>Para un sitio web: con índice, búsqueda y enlaces; se abre página a página</translation>
+    </message>
+    <message>
+        <source>Web book in &amp;one file</source>
+        <translation>Libro web en &amp;un solo archivo</translation>
+    </message>
+    <message>
+        <source>To send by mail or to open from a memory stick</source>
+        <translation>Para enviarlo por correo o abrirlo desde una memoria USB</translation>
+    </message>
+    <message>
+        <source>For a quick look: made in less time, without contents, search and links</source>
+        <translation>Para un vistazo: se crea más rápido, sin índice, búsqueda ni enlaces</translation>
+    </message>
+    <message>
+        <source>For people with a Mac: one file that opens with a double-click</source>
+        <translation>Para quien tiene un Mac: un archivo que se abre con un doble clic</translation>
+    </message>
+    <message>
+        <source>Mo&amp;re options</source>
+        <extracomment>Shows further fields beneath it.</extracomment>
+        <translation>Más opcione&amp;s</translation>
+    </message>
+    <message>
+        <source>for example https://example.org/book/</source>
+        <extracomment>Shown in the empty field for the book&apos;s address on the web.</extracomment>
+        <translation>por ejemplo, https://example.org/libro/</translation>
+    </message>
+    <message>
+        <source>Where the book will be on the web: for search engines, previews of links, “Copy link” and the text for embedding</source>
+        <translation>Dónde estará el libro en la web: para los buscadores, las vistas previas de enlaces, «Copiar enlace» y el texto para incrustar</translation>
+    </message>
+    <message>
+        <source>all pages, or for example 1-12</source>
+        <extracomment>Shown in the empty field for the pages of a reading sample.</extracomment>
+        <translation>todas las páginas o, por ejemplo, 1-12</translation>
+    </message>
+    <message>
+        <source>The pages that can be read, by their numbers in the document; the book contains nothing of the others</source>
+        <translation>Las páginas que se pueden leer, por sus números en el documento; el libro no contiene nada de las demás</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <extracomment>The book&apos;s address on the web.</extracomment>
+        <translation>&amp;Dirección:</translation>
+    </message>
+    <message>
+        <source>Rea&amp;ding sample:</source>
+        <extracomment>Some of the book&apos;s pages, as a foretaste.</extracomment>
+        <translation>Muest&amp;ra:</translation>
+    </message>
+    <message>
+        <source>Shows the book inside another page: put this into that page. %1 stands for the book&apos;s address until that is given above.</source>
+        <translation>Muestra el libro dentro de otra página: inserte esto en ella. %1 ocupa el lugar de la dirección del libro hasta que se indique arriba.</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1050,10 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>El libro se publicó.</translation>
+    </message>
+    <message>
+        <source>The address must be that of a folder or page, such as https://example.org/book/, without “?” and “#”.</source>
+        <translation>La dirección debe ser la de una carpeta o una página, como https://example.org/libro/, sin «?» ni «#».</translation>
     </message>
 </context>
 <context>
@@ -1710,6 +1759,17 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     <message>
         <source>it opens with a password only</source>
         <translation>solo se abre con contraseña</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSample</name>
+    <message>
+        <source>The reading sample needs numbers of pages, such as 1-12, and not “%1”.</source>
+        <translation>La muestra necesita números de página, como 1-12, y no «%1».</translation>
+    </message>
+    <message>
+        <source>The book has none of the pages of the reading sample.</source>
+        <translation>El libro no tiene ninguna de las páginas de la muestra.</translation>
     </message>
 </context>
 <context>

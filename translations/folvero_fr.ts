@@ -888,25 +888,9 @@
         <translation>Ouvre le dossier dans le gestionnaire de fichiers</translation>
     </message>
     <message>
-        <source>Web &amp;book: with search, links, contents and text to copy</source>
-        <translation>Livre &amp;web&#xa0;: avec recherche, liens, sommaire et texte à copier</translation>
-    </message>
-    <message>
         <source>&amp;Embed:</source>
         <extracomment>Markup that shows the book inside another page.</extracomment>
         <translation>&amp;Intégration&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Everything in &amp;one file</source>
-        <translation>Tout dans un seul &amp;fichier</translation>
-    </message>
-    <message>
-        <source>One page that holds the whole book, to send by mail or to open from a memory stick</source>
-        <translation>Une page qui contient tout le livre, à envoyer par e-mail ou à ouvrir depuis une clé USB</translation>
-    </message>
-    <message>
-        <source>Shows the book inside another page: put this into that page, with the book&apos;s address on the web in place of %1</source>
-        <translation>Affiche le livre dans une autre page&#xa0;: collez ce code dans cette page, avec l’adresse du livre sur le web à la place de %1</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
@@ -919,6 +903,67 @@
     <message>
         <source>Copy the text for embedding</source>
         <translation>Copier le code d’intégration</translation>
+    </message>
+    <message>
+        <source>Web &amp;book</source>
+        <translation>Livre &amp;web</translation>
+    </message>
+    <message>
+        <source>For a web site: with contents, search and links; opens page by page</source>
+        <translation>Pour un site web&amp;#xa0;: avec sommaire, recherche et liens&amp;#x202f;; s’ouvre page par page</translation>
+    </message>
+    <message>
+        <source>Web book in &amp;one file</source>
+        <translation>Livre web dans un seul &amp;fichier</translation>
+    </message>
+    <message>
+        <source>To send by mail or to open from a memory stick</source>
+        <translation>À envoyer par e-mail ou à ouvrir depuis une clé USB</translation>
+    </message>
+    <message>
+        <source>For a quick look: made in less time, without contents, search and links</source>
+        <translation>Pour un coup d’œil&amp;#xa0;: plus vite fait, sans sommaire, recherche ni liens</translation>
+    </message>
+    <message>
+        <source>For people with a Mac: one file that opens with a double-click</source>
+        <translation>Pour qui a un Mac&amp;#xa0;: un fichier qui s’ouvre d’un double-clic</translation>
+    </message>
+    <message>
+        <source>Mo&amp;re options</source>
+        <extracomment>Shows further fields beneath it.</extracomment>
+        <translation>Plus d’option&amp;s</translation>
+    </message>
+    <message>
+        <source>for example https://example.org/book/</source>
+        <extracomment>Shown in the empty field for the book&apos;s address on the web.</extracomment>
+        <translation>par exemple https://example.org/livre/</translation>
+    </message>
+    <message>
+        <source>Where the book will be on the web: for search engines, previews of links, “Copy link” and the text for embedding</source>
+        <translation>Où le livre se trouvera sur le web&amp;#xa0;: pour les moteurs de recherche, les aperçus de liens, «&amp;#xa0;Copier le lien&amp;#xa0;» et le code d’intégration</translation>
+    </message>
+    <message>
+        <source>all pages, or for example 1-12</source>
+        <extracomment>Shown in the empty field for the pages of a reading sample.</extracomment>
+        <translation>toutes les pages, ou par exemple 1-12</translation>
+    </message>
+    <message>
+        <source>The pages that can be read, by their numbers in the document; the book contains nothing of the others</source>
+        <translation>Les pages qui peuvent être lues, par leurs numéros dans le document&amp;#x202f;; le livre ne contient rien des autres</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <extracomment>The book&apos;s address on the web.</extracomment>
+        <translation>Adr&amp;esse&amp;#xa0;:</translation>
+    </message>
+    <message>
+        <source>Rea&amp;ding sample:</source>
+        <extracomment>Some of the book&apos;s pages, as a foretaste.</extracomment>
+        <translation>Ext&amp;rait&amp;#xa0;:</translation>
+    </message>
+    <message>
+        <source>Shows the book inside another page: put this into that page. %1 stands for the book&apos;s address until that is given above.</source>
+        <translation>Affiche le livre dans une autre page&amp;#xa0;: collez ce code dans cette page. %1 tient la place de l’adresse du livre tant qu’elle n’est pas indiquée plus haut.</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1050,10 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>Le livre a été publié.</translation>
+    </message>
+    <message>
+        <source>The address must be that of a folder or page, such as https://example.org/book/, without “?” and “#”.</source>
+        <translation>L’adresse doit être celle d’un dossier ou d’une page, comme https://example.org/livre/, sans «&amp;#xa0;?&amp;#xa0;» ni «&amp;#xa0;#&amp;#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1710,6 +1759,17 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     <message>
         <source>it opens with a password only</source>
         <translation>il ne s’ouvre qu’avec un mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSample</name>
+    <message>
+        <source>The reading sample needs numbers of pages, such as 1-12, and not “%1”.</source>
+        <translation>L’extrait demande des numéros de pages, comme 1-12, et non «&amp;#xa0;%1&amp;#xa0;».</translation>
+    </message>
+    <message>
+        <source>The book has none of the pages of the reading sample.</source>
+        <translation>Le livre n’a aucune des pages de l’extrait.</translation>
     </message>
 </context>
 <context>

@@ -888,25 +888,9 @@
         <translation>Apre la cartella nel gestore dei file</translation>
     </message>
     <message>
-        <source>Web &amp;book: with search, links, contents and text to copy</source>
-        <translation>Libro &amp;web: con ricerca, link, indice e testo da copiare</translation>
-    </message>
-    <message>
         <source>&amp;Embed:</source>
         <extracomment>Markup that shows the book inside another page.</extracomment>
         <translation>&amp;Incorpora:</translation>
-    </message>
-    <message>
-        <source>Everything in &amp;one file</source>
-        <translation>Tutto in un &amp;unico file</translation>
-    </message>
-    <message>
-        <source>One page that holds the whole book, to send by mail or to open from a memory stick</source>
-        <translation>Una sola pagina che contiene tutto il libro, da inviare per e-mail o da aprire da una chiavetta USB</translation>
-    </message>
-    <message>
-        <source>Shows the book inside another page: put this into that page, with the book&apos;s address on the web in place of %1</source>
-        <translation>Mostra il libro in un’altra pagina: inserire questo testo in quella pagina, con l’indirizzo web del libro al posto di %1</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
@@ -919,6 +903,67 @@
     <message>
         <source>Copy the text for embedding</source>
         <translation>Copia il testo da incorporare</translation>
+    </message>
+    <message>
+        <source>Web &amp;book</source>
+        <translation>Libro &amp;web</translation>
+    </message>
+    <message>
+        <source>For a web site: with contents, search and links; opens page by page</source>
+        <translation>Per un sito web: con indice, ricerca e link; si apre pagina per pagina</translation>
+    </message>
+    <message>
+        <source>Web book in &amp;one file</source>
+        <translation>Libro web in un &amp;unico file</translation>
+    </message>
+    <message>
+        <source>To send by mail or to open from a memory stick</source>
+        <translation>Da inviare per e-mail o da aprire da una chiavetta USB</translation>
+    </message>
+    <message>
+        <source>For a quick look: made in less time, without contents, search and links</source>
+        <translation>Per un’occhiata: pronto più in fretta, senza indice, ricerca e link</translation>
+    </message>
+    <message>
+        <source>For people with a Mac: one file that opens with a double-click</source>
+        <translation>Per chi ha un Mac: un file che si apre con un doppio clic</translation>
+    </message>
+    <message>
+        <source>Mo&amp;re options</source>
+        <extracomment>Shows further fields beneath it.</extracomment>
+        <translation>A&amp;ltre opzioni</translation>
+    </message>
+    <message>
+        <source>for example https://example.org/book/</source>
+        <extracomment>Shown in the empty field for the book&apos;s address on the web.</extracomment>
+        <translation>ad esempio https://example.org/libro/</translation>
+    </message>
+    <message>
+        <source>Where the book will be on the web: for search engines, previews of links, “Copy link” and the text for embedding</source>
+        <translation>Dove si troverà il libro sul web: per i motori di ricerca, le anteprime dei link, «Copia il link» e il testo da incorporare</translation>
+    </message>
+    <message>
+        <source>all pages, or for example 1-12</source>
+        <extracomment>Shown in the empty field for the pages of a reading sample.</extracomment>
+        <translation>tutte le pagine, oppure ad esempio 1-12</translation>
+    </message>
+    <message>
+        <source>The pages that can be read, by their numbers in the document; the book contains nothing of the others</source>
+        <translation>Le pagine che si possono leggere, secondo i loro numeri nel documento; il libro non contiene nulla delle altre</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <extracomment>The book&apos;s address on the web.</extracomment>
+        <translation>In&amp;dirizzo:</translation>
+    </message>
+    <message>
+        <source>Rea&amp;ding sample:</source>
+        <extracomment>Some of the book&apos;s pages, as a foretaste.</extracomment>
+        <translation>&amp;Estratto:</translation>
+    </message>
+    <message>
+        <source>Shows the book inside another page: put this into that page. %1 stands for the book&apos;s address until that is given above.</source>
+        <translation>Mostra il libro in un’altra pagina: inserire questo testo in quella pagina. %1 sta per l’indirizzo del libro finché non viene indicato sopra.</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +1050,10 @@
         <source>The book was published.</source>
         <extracomment>A notification of the desktop, for users who look elsewhere.</extracomment>
         <translation>Il libro è stato pubblicato.</translation>
+    </message>
+    <message>
+        <source>The address must be that of a folder or page, such as https://example.org/book/, without “?” and “#”.</source>
+        <translation>L’indirizzo deve essere quello di una cartella o di una pagina, come https://example.org/libro/, senza «?» e «#».</translation>
     </message>
 </context>
 <context>
@@ -1710,6 +1759,17 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     <message>
         <source>it opens with a password only</source>
         <translation>si apre solo con una password</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingSample</name>
+    <message>
+        <source>The reading sample needs numbers of pages, such as 1-12, and not “%1”.</source>
+        <translation>L’estratto richiede numeri di pagina, come 1-12, e non «%1».</translation>
+    </message>
+    <message>
+        <source>The book has none of the pages of the reading sample.</source>
+        <translation>Il libro non ha nessuna delle pagine dell’estratto.</translation>
     </message>
 </context>
 <context>

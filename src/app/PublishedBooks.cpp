@@ -12,6 +12,8 @@ constexpr char documentKey[] = "document";
 constexpr char folderKey[] = "folder";
 constexpr char nameKey[] = "name";
 constexpr char titleKey[] = "title";
+constexpr char urlKey[] = "url";
+constexpr char previewPagesKey[] = "previewPages";
 constexpr char placeKey[] = "place";
 constexpr int maxBooks = 200;
 
@@ -29,7 +31,8 @@ std::vector<Entry> stored() {
     for (std::size_t i = 0; i < entries.size(); ++i) {
         settings.setArrayIndex(int(i));
         entries[i] = {text(documentKey),
-                      {text(folderKey), text(nameKey), text(titleKey), text(placeKey)}};
+                      {text(folderKey), text(nameKey), text(titleKey), text(urlKey),
+                       text(previewPagesKey), text(placeKey)}};
     }
     return entries;
 }
@@ -45,6 +48,8 @@ void store(const std::vector<Entry>& entries) {
                                          {folderKey, book.folder},
                                          {nameKey, book.name},
                                          {titleKey, book.title},
+                                         {urlKey, book.url},
+                                         {previewPagesKey, book.previewPages},
                                          {placeKey, book.place}})
             settings.setValue(QLatin1String(key), value);
     }

@@ -11,6 +11,9 @@ struct Book {
     QString folder;
     QString name;
     QString title;
+    // Of web books: where it is on the web, and the pages of a reading sample.
+    QString url;
+    QString previewPages;
     // What a publish replaces as a whole: the book's folder, or an application.
     QString place;
 };

@@ -23,12 +23,7 @@ ImportWindow::ImportWindow(QWidget* parent)
         {tr("Best, for zooming in"), tr("High"), tr("Medium"), tr("Low"), tr("Smallest files")});
     btnImportLinks = new QCheckBox(tr("Import &links"));
     btnImportBookMark = new QCheckBox(tr("Import &bookmarks as contents"));
-    lblFailure = new QLabel;
-    lblFailure->setObjectName(QStringLiteral("failure"));
-    lblFailure->setWordWrap(true);
-    lblFailure->setTextFormat(Qt::PlainText);
-    lblFailure->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    lblFailure->hide();
+    lblFailure = failureLabel();
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);

@@ -179,7 +179,7 @@ void ImportWindowDelegate::startImport() {
             Qt::QueuedConnection);
     });
     // Most likely the next book is of the same kind as the last.
-    if (settings.outputType() == OutputWindow::webBook)
+    if (OutputWindow::isWeb(settings.outputType()))
         iImportPDF->setFilesOf(webFiles);
     prepareSources();
     iImportPDF->setSpreads({Spreads(iWindow->spreads->currentIndex()), iIsRightToLeft});

@@ -1,19 +1,21 @@
 #include "ui/OutputWindow.h"
 
 #include "output/EmbedSnippet.h"
+#include "ui/ChoiceList.h"
 
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 OutputWindow::OutputWindow(QWidget* parent)
-    : Sheet(tr("Publish the book"), parent), btnPublish(new QPushButton(tr("&Publish"))) {
+    : Sheet(tr("Publish the book"), parent),
+      btnPublish(new QPushButton(tr("&Publish"))),
+      iForm(new QFormLayout),
+      iProblem(failureLabel()) {
     makeFolderField();
     txtOutputName = new QLineEdit;
     //: Shown in the empty field for the file's name.
@@ -22,24 +24,25 @@ OutputWindow::OutputWindow(QWidget* parent)
     //: Shown in the empty field for the book's title.
     txtTitle->setPlaceholderText(tr("shown in the browser's window"));
 
-    makeEmbedField();
-
-    auto* form = iForm = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->addRow(tr("Kind of book:"), typeRow());
+    iForm->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    iForm->setVerticalSpacing(8);
+    auto* kinds = kindsOfBooks();
+    iForm->addRow(tr("Kind of book:"), kinds);
+    // Beside the first kind.
+    auto* label = static_cast<QLabel*>(iForm->labelForField(kinds));
+    label->setAlignment(Qt::AlignTop);
+    label->setContentsMargins(0, kinds->layout()->contentsMargins().top(), 0, 0);
     auto* folderRow = row({txtOutputFolder, btnSelectFolder, btnOpenFolder});
-    form->addRow(tr("&Folder:"), folderRow);
-    form->addRow(tr("File &name:"), txtOutputName);
-    form->addRow(tr("&Title:"), txtTitle);
-    //: Markup that shows the book inside another page.
-    form->addRow(tr("&Embed:"), iEmbedRow);
-    setFieldOfRow(*form, folderRow, txtOutputFolder);
-    setFieldOfRow(*form, iEmbedRow, txtEmbed);
+    iForm->addRow(tr("&Folder:"), folderRow);
+    iForm->addRow(tr("File &name:"), txtOutputName);
+    iForm->addRow(tr("&Title:"), txtTitle);
+    setFieldOfRow(*iForm, folderRow, txtOutputFolder);
+    makeWebFields();
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(margins);
-    form->setVerticalSpacing(8);
-    all->addLayout(form);
+    all->addLayout(iForm);
+    all->addWidget(iProblem);
     all->addSpacing(8);
     all->addStretch();
     all->addWidget(buttonRow(btnPublish));
@@ -47,29 +50,18 @@ OutputWindow::OutputWindow(QWidget* parent)
     resize(sizeHint().expandedTo({usualWidth, 0}));
 }
 
-QWidget* OutputWindow::typeRow() {
-    auto* row = new QWidget;
-    auto* layout = new QVBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    mOutputType = new QButtonGroup(this);
-    auto* html = new QRadioButton(tr("C&lassic (pictures only)"));
-    auto* app = new QRadioButton(tr("Application for the &Mac"));
-    auto* web = new QRadioButton(tr("Web &book: with search, links, contents and text to copy"));
-    mOutputType->addButton(html, htmlBook);
-    mOutputType->addButton(web, webBook);
-    mOutputType->addButton(app, application);
-    chkSingleFile = new QCheckBox(tr("Everything in &one file"));
-    chkSingleFile->setToolTip(
-        tr("One page that holds the whole book, to send by mail or to open from a memory stick"));
-    auto* beneath = new QHBoxLayout;
-    beneath->addSpacing(web->style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth) +
-                        web->style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing));
-    beneath->addWidget(chkSingleFile);
-    layout->addWidget(html);
-    layout->addWidget(web);
-    layout->addLayout(beneath);
-    layout->addWidget(app);
-    return row;
+QWidget* OutputWindow::kindsOfBooks() {
+    auto* kinds = new ChoiceList;
+    mOutputType = kinds->group;
+    kinds->add(webBook, tr("Web &book"),
+               tr("For a web site: with contents, search and links; opens page by page"));
+    kinds->add(webBookInOneFile, tr("Web book in &one file"),
+               tr("To send by mail or to open from a memory stick"));
+    kinds->add(htmlBook, tr("C&lassic (pictures only)"),
+               tr("For a quick look: made in less time, without contents, search and links"));
+    kinds->add(application, tr("Application for the &Mac"),
+               tr("For people with a Mac: one file that opens with a double-click"));
+    return kinds;
 }
 
 void OutputWindow::makeFolderField() {
@@ -81,12 +73,56 @@ void OutputWindow::makeFolderField() {
     btnOpenFolder->setToolTip(tr("Opens the folder in the file manager"));
 }
 
+void OutputWindow::makeWebFields() {
+    btnMore = new QToolButton;
+    //: Shows further fields beneath it.
+    btnMore->setText(tr("Mo&re options"));
+    btnMore->setCheckable(true);
+    btnMore->setAutoRaise(true);
+    btnMore->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    btnMore->setFocusPolicy(Qt::StrongFocus);
+    txtAddress = new QLineEdit;
+    //: Shown in the empty field for the book's address on the web.
+    txtAddress->setPlaceholderText(tr("for example https://example.org/book/"));
+    txtAddress->setToolTip(
+        tr("Where the book will be on the web: for search engines, previews of links, “Copy link” "
+           "and the text for embedding"));
+    txtSample = new QLineEdit;
+    //: Shown in the empty field for the pages of a reading sample.
+    txtSample->setPlaceholderText(tr("all pages, or for example 1-12"));
+    txtSample->setToolTip(
+        tr("The pages that can be read, by their numbers in the document; the book contains "
+           "nothing of the others"));
+    makeEmbedField();
+    iForm->addRow(QString(), btnMore);
+    //: The book's address on the web.
+    iForm->addRow(tr("&Address:"), txtAddress);
+    //: Some of the book's pages, as a foretaste.
+    iForm->addRow(tr("Rea&ding sample:"), txtSample);
+    //: Markup that shows the book inside another page.
+    iForm->addRow(tr("&Embed:"), iEmbedRow);
+    setFieldOfRow(*iForm, iEmbedRow, txtEmbed);
+    connect(btnMore, &QToolButton::toggled, this, [this](bool isOn) {
+        showMore(isOn);
+        fitToContent();
+    });
+    for (QLineEdit* field : {txtAddress, txtSample}) {
+        field->setAccessibleDescription(field->toolTip());
+        // What is chosen is seen.
+        connect(field, &QLineEdit::textChanged, this, [this](const QString& text) {
+            hideProblem();
+            if (!text.isEmpty())
+                btnMore->setChecked(true);
+        });
+    }
+}
+
 void OutputWindow::makeEmbedField() {
     txtEmbed = new QLineEdit;
     txtEmbed->setReadOnly(true);
     const QString explanation =
-        tr("Shows the book inside another page: put this into that page, with the book's address "
-           "on the web in place of %1")
+        tr("Shows the book inside another page: put this into that page. %1 stands for the book's "
+           "address until that is given above.")
             .arg(EmbedSnippet::placeholder);
     txtEmbed->setToolTip(explanation);
     txtEmbed->setAccessibleDescription(explanation);
@@ -97,7 +133,34 @@ void OutputWindow::makeEmbedField() {
 }
 
 void OutputWindow::showWebBookParts(bool isShown) {
-    chkSingleFile->setVisible(isShown);
-    iForm->setRowVisible(iEmbedRow, isShown);
+    iForm->setRowVisible(btnMore, isShown);
+    showMore(isShown && btnMore->isChecked());
     growToContent();
+}
+
+void OutputWindow::showMore(bool isShown) {
+    btnMore->setArrowType(isShown ? Qt::DownArrow : Qt::RightArrow);
+    for (QWidget* field : std::initializer_list<QWidget*>{txtAddress, txtSample, iEmbedRow})
+        iForm->setRowVisible(field, isShown);
+}
+
+void OutputWindow::fitToContent() {
+    resize(width(), 0);
+    growToContent();
+}
+
+void OutputWindow::showProblem(QLineEdit& field, const QString& problem) {
+    btnMore->setChecked(true);
+    iProblem->setText(problem);
+    iProblem->show();
+    growToContent();
+    field.setFocus();
+    field.selectAll();
+}
+
+void OutputWindow::hideProblem() {
+    if (iProblem->isHidden())
+        return;
+    iProblem->hide();
+    fitToContent();
 }

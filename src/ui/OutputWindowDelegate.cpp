@@ -9,15 +9,15 @@
 #include "output/FolveroOutputApp.h"
 #include "pages/PageFilesOperation.h"
 #include "pdf/PDFDocument.h"
-#include "system/Files.h"
 #include "ui/OutputWindow.h"
 #include "ui/PageListText.h"
 #include "ui/Panels.h"
 #include "ui/PublishProgress.h"
+#include "ui/PublishProposal.h"
+#include "ui/ReadingSample.h"
 #include "webbook/FolveroOutputWeb.h"
 
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QDir>
 #include <QEventLoop>
@@ -25,7 +25,6 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTimer>
 #include <algorithm>
 #include <atomic>
@@ -80,7 +79,8 @@ OutputWindowDelegate::OutputWindowDelegate(QWidget* parent)
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
     awakeFromNib();
-    for (const auto* field : {iWindow->txtOutputFolder, iWindow->txtOutputName, iWindow->txtTitle})
+    for (const auto* field :
+         {iWindow->txtOutputFolder, iWindow->txtOutputName, iWindow->txtTitle, iWindow->txtAddress})
         connect(field, &QLineEdit::textChanged, this, &OutputWindowDelegate::showState);
     connect(iWindow->mOutputType, &QButtonGroup::idToggled, this, &OutputWindowDelegate::showState);
     connect(iWindow->btnCopyEmbed, &QPushButton::clicked, this, &OutputWindowDelegate::onCopyEmbed);
@@ -105,7 +105,8 @@ void OutputWindowDelegate::awakeFromNib() {
 }
 
 void OutputWindowDelegate::beginSheet() {
-    proposeTexts();
+    PublishProposal::fill(*iWindow, iDocument, iDocumentName,
+                          std::exchange(iIsOtherDocument, false));
     showState();
     iWindow->open();
 }
@@ -117,36 +118,24 @@ void OutputWindowDelegate::setDocument(const QString& path, const QString& name)
     iDocumentName = name;
 }
 
-// Proposes the texts of the document's last publish, or the most likely ones. Texts typed for
-// another document are replaced: this one must not end up in that one's folder or under its title.
-void OutputWindowDelegate::proposeTexts() {
-    const bool isOther = std::exchange(iIsOtherDocument, false);
-    const auto propose = [](QLineEdit* field, const QString& text, bool always) {
-        if (always || field->text().isEmpty())
-            field->setText(text);
-    };
-    const auto book = isOther ? PublishedBooks::of(iDocument) : std::nullopt;
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString parent = QFileInfo::exists(documents) ? documents : QDir::homePath();
-    propose(iWindow->txtOutputFolder, book ? book->folder : Files::join(parent, iDocumentName),
-            isOther);
-    propose(iWindow->txtTitle, book ? book->title : iDocumentName, isOther);
-    propose(iWindow->txtOutputName, book ? book->name : QStringLiteral("index"), book.has_value());
-}
-
 // Folder and name are required.
 void OutputWindowDelegate::showState() {
     iWindow->btnPublish->setEnabled(!iWindow->txtOutputFolder->text().trimmed().isEmpty() &&
                                     !iWindow->txtOutputName->text().trimmed().isEmpty());
-    iWindow->showWebBookParts(iWindow->mOutputType->checkedId() == OutputWindow::webBook);
-    iWindow->txtEmbed->setText(EmbedSnippet::html(
-        iWindow->txtTitle->text(), AppSettings::shareInstance().pageSize(), pageName(), {}));
+    iWindow->showWebBookParts(OutputWindow::isWeb(iWindow->mOutputType->checkedId()));
+    iWindow->txtEmbed->setText(EmbedSnippet::html(iWindow->txtTitle->text(),
+                                                  AppSettings::shareInstance().pageSize(),
+                                                  pageName(), pageAddress()));
     iWindow->txtEmbed->setCursorPosition(0);
 }
 
 void OutputWindowDelegate::endSheet(int returnCode) {
     iOutput.reset();
     iWindow->done(returnCode);
+}
+
+bool OutputWindowDelegate::isWeb() {
+    return OutputWindow::isWeb(AppSettings::shareInstance().outputType());
 }
 
 void OutputWindowDelegate::saveChoices() const {
@@ -162,6 +151,12 @@ QString OutputWindowDelegate::pageName() const {
     return iWindow->txtOutputName->text() + QStringLiteral(".html");
 }
 
+// Empty while there is none, or no valid one.
+QString OutputWindowDelegate::pageAddress() const {
+    const auto address = BookAddress::from(iWindow->txtAddress->text());
+    return address ? address->page(pageName()) : QString();
+}
+
 // The application's name comes from the same text, with another extension.
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     const QString folder = iWindow->txtOutputFolder->text();
@@ -170,17 +165,20 @@ std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
         return std::make_unique<FolveroOutputApp>(iBook.pageSource, iFlashTmpl, folder, name);
     errno = 0;
     iFolderFailure = QDir().mkpath(folder) ? QString() : Message::ofLastSystemError().local();
-    if (AppSettings::shareInstance().outputType() != OutputWindow::webBook)
+    if (!isWeb())
         return std::make_unique<FolveroOutput>(iBook.pageSource, iFlashTmpl, folder, name);
     auto output = std::make_unique<FolveroOutputWeb>(iBook.pageSource, iFlashTmpl, folder, name);
     output->setTitle(AppSettings::shareInstance().lastOutputFileTitle());
-    output->setSingleFile(iWindow->chkSingleFile->isChecked());
+    output->setSingleFile(AppSettings::shareInstance().outputType() ==
+                          OutputWindow::webBookInOneFile);
+    output->setAddress(BookAddress::from(iWindow->txtAddress->text()));
+    output->setOpenPages(ReadingSample(iWindow->txtSample->text(), iBook).pages());
     return output;
 }
 
 // If the user declines or cancels, the sheet stays open for other choices.
 void OutputWindowDelegate::onPublish() {
-    if (iProgress)
+    if (iProgress || !areWebFieldsValid())
         return;
     saveChoices();
     iOutput = makeOutput();
@@ -195,13 +193,28 @@ void OutputWindowDelegate::onPublish() {
     if (!askForText(*iOutput))
         return;
     iJob.begin();
-    const PageFiles kind = AppSettings::shareInstance().outputType() == OutputWindow::webBook
-                               ? PageFiles::web
-                               : PageFiles::classic;
+    const PageFiles kind = isWeb() ? PageFiles::web : PageFiles::classic;
     if (iBook.pageSource && !iBook.pageSource->pagesWithout(kind).empty())
         makePageFiles(kind);
     else
         publishAndEnd();
+}
+
+// A problem is shown in the sheet.
+bool OutputWindowDelegate::areWebFieldsValid() const {
+    if (!OutputWindow::isWeb(iWindow->mOutputType->checkedId()))
+        return true;
+    const QString address = iWindow->txtAddress->text().trimmed();
+    if (!address.isEmpty() && !BookAddress::from(address)) {
+        iWindow->showProblem(*iWindow->txtAddress,
+                             tr("The address must be that of a folder or page, such as "
+                                "https://example.org/book/, without “?” and “#”."));
+        return false;
+    }
+    const QString problem = ReadingSample(iWindow->txtSample->text(), iBook).problem();
+    if (!problem.isNull())
+        iWindow->showProblem(*iWindow->txtSample, problem);
+    return problem.isNull();
 }
 
 // A web book contains the document's text unless the document forbids copying it. False when the
@@ -260,6 +273,7 @@ void OutputWindowDelegate::pageFilesAreMade(const std::shared_ptr<PageFilesOpera
 
 void OutputWindowDelegate::publishAndEnd() {
     Message cause;
+    iResult.reset();
     try {
         publish(*iOutput);
     } catch (const PlatformException& failure) {
@@ -270,6 +284,8 @@ void OutputWindowDelegate::publishAndEnd() {
     endSheet(1);
     if (!cause.isNull())
         Q_EMIT publishFailed(cause.local());
+    else if (iResult)
+        Q_EMIT bookPublished(*iResult);
 }
 
 // No warning about the book of the same document: republishing is meant to replace it.
@@ -295,20 +311,13 @@ QString OutputWindowDelegate::place(const FolveroOutput& output) {
     return QDir::cleanPath(isApplication ? output.outputFileName() : output.saveToFolder());
 }
 
-void OutputWindowDelegate::rememberBook(const FolveroOutput& output) const {
-    PublishedBooks::add(iDocument,
-                        {iWindow->txtOutputFolder->text(), iWindow->txtOutputName->text(),
-                         iWindow->txtTitle->text(), place(output)});
-}
-
 // Returns when the book is written, while the sheet shows how far that is. A publisher asks between
 // any two files whether it was cancelled, which is taken for its progress.
 void OutputWindowDelegate::write(FolveroOutput& output) {
     std::atomic<bool> isCancelled = false;
     std::atomic<int> files = 0;
     const std::size_t pages = iBook.pageSource ? iBook.pageSource->pages().size() : 0;
-    const bool isWeb = AppSettings::shareInstance().outputType() == OutputWindow::webBook;
-    const int total = int(isWeb ? 2 * pages : pages) + filesBesidePages;
+    const int total = int(isWeb() ? 2 * pages : pages) + filesBesidePages;
     output.setCancelled([&] {
         ++files;
         return isCancelled.load();
@@ -365,7 +374,10 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
                    "have typed is kept."));
         return;
     }
-    rememberBook(output);
+    const QString address = isWeb() ? pageAddress() : QString();
+    iResult = {result, iWindow->txtTitle->text(), address,
+               address.isEmpty() ? QString() : iWindow->txtEmbed->text()};
+    PublishProposal::remember(*iWindow, iDocument, place(output));
     if (const auto& missing = output.missingPages(); !missing.empty()) {
         iQuestions.showMessage(
             tr("The book is not complete"),

@@ -3,6 +3,7 @@
 #include "base/Operation.h"
 #include "output/FolveroOutput.h"
 #include "ui/JobProgress.h"
+#include "ui/PublishResult.h"
 
 #include <QObject>
 #include <QPointer>
@@ -59,14 +60,17 @@ public:
     void openPanelDidEnd(const std::optional<QString>& panelFile);
 
 Q_SIGNALS:
-    // After the sheet has ended; it shows no message about an unexpected failure itself.
+    // After the sheet has ended. It shows no message about an unexpected failure itself.
     void publishFailed(const QString& cause);
+    void bookPublished(const PublishResult& result);
 
 private:
     void awakeFromNib();
-    void proposeTexts();
     void showState();
     QString pageName() const;
+    QString pageAddress() const;
+    bool areWebFieldsValid() const;
+    static bool isWeb();
     void saveChoices() const;
     std::unique_ptr<FolveroOutput> makeOutput();
     // A text about files or a book that a publish would replace and somebody may want to keep;
@@ -74,7 +78,6 @@ private:
     QString overwriteWarning(const FolveroOutput& output) const;
     // What a publish replaces as a whole.
     static QString place(const FolveroOutput& output);
-    void rememberBook(const FolveroOutput& output) const;
     bool askForText(FolveroOutput& output) const;
     void publish(FolveroOutput& output);
     void write(FolveroOutput& output);
@@ -92,8 +95,9 @@ private:
     Questions iQuestions;
     // Of the current run.
     std::unique_ptr<FolveroOutput> iOutput;
-    QString iFolderFailure;              // why its folder could not be made
-    QPointer<PublishProgress> iProgress; // while it takes time
+    std::optional<PublishResult> iResult; // of a success
+    QString iFolderFailure;               // why its folder could not be made
+    QPointer<PublishProgress> iProgress;  // while it takes time
     JobProgress iJob;
     // Last, so that it is destroyed first: its thread must end before anything that it may use.
     OperationQueue iQueue;

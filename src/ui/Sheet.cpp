@@ -32,6 +32,16 @@ void Sheet::setFieldOfRow(const QFormLayout& form, QWidget* row, QLineEdit* fiel
     field->setAccessibleName(label->text().remove(u'&').remove(u':'));
 }
 
+QLabel* Sheet::failureLabel() {
+    auto* label = new QLabel;
+    label->setObjectName(QStringLiteral("failure"));
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->hide();
+    return label;
+}
+
 QWidget* Sheet::buttonRow(QPushButton* main) {
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);

@@ -4,6 +4,7 @@
 #include <QMargins>
 
 class QFormLayout;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -41,6 +42,8 @@ protected:
     // Makes the label of such a row that of its field: the label's key leads to it, and a screen
     // reader, which looks for labels only beside a field, says it.
     static void setFieldOfRow(const QFormLayout& form, QWidget* row, QLineEdit* field);
+    // For a text that says what went wrong; hidden.
+    static QLabel* failureLabel();
     // The cancel button, and the default button.
     QWidget* buttonRow(QPushButton* main);
 };

@@ -75,7 +75,7 @@ TEST_F(AppSettingsTest, ResetsOnlyTheSettingWhoseEntryIsGone) {
 }
 
 TEST_F(AppSettingsTest, FindsPublishedBooksWhateverTheirNumberIsSaidToBe) {
-    PublishedBooks::add("/a.pdf", {"/books", "a", "A", "/books/a"});
+    PublishedBooks::add("/a.pdf", {"/books", "a", "A", {}, {}, "/books/a"});
     for (const int size : {INT_MAX, -1}) {
         QSettings().setValue("publishedBooks/size", size);
         EXPECT_EQ(PublishedBooks::of("/a.pdf").has_value(), size > 0);

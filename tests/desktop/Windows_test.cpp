@@ -104,6 +104,7 @@ protected:
 
 TEST_F(Windows, AreAsWrittenDown) {
     launch();
+    program->ouputWindow().window().btnMore->setChecked(true);
     program->ouputWindow().window().showWebBookParts(true);
     lines = linesOf(window());
     const auto yesOrNo = [](bool yes) { return yes ? "yes" : "no"; };

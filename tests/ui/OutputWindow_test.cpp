@@ -288,22 +288,65 @@ TEST_F(PublishSheet, StaysAliveAndOpenWhileABookIsWritten) {
 TEST_F(PublishSheet, OffersAWebBookInOneFileAndTheTextToEmbedIt) {
     AppSettings::shareInstance().setPageSize({420, 595});
     open();
-    EXPECT_FALSE(window().chkSingleFile->isVisible() || window().txtEmbed->isVisible());
+    EXPECT_FALSE(window().btnMore->isVisible() || window().txtEmbed->isVisible());
     openForWebBook();
-    EXPECT_TRUE(window().chkSingleFile->isVisible() && window().btnCopyEmbed->isVisible());
+    EXPECT_FALSE(window().txtEmbed->isVisible());
+    QTest::keyClick(window().btnMore, Qt::Key_Space);
     window().txtTitle->setText("\"Tea\" & <cake>");
     click(window().btnCopyEmbed);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(),
-              "<iframe src=\"BOOK-ADDRESS/mybook.html\" title=\"&quot;Tea&quot; &amp; "
-              "&lt;cake&gt;\" loading=\"lazy\" allowfullscreen style=\"width: 100%; "
-              "aspect-ratio: 840 / 595; border: 0\"></iframe>");
+    const auto embed = [](const char* address) {
+        return QString("<iframe src=\"%1\" title=\"&quot;Tea&quot; &amp; &lt;cake&gt;\" "
+                       "loading=\"lazy\" allowfullscreen style=\"width: 100%; "
+                       "aspect-ratio: 840 / 595; border: 0\"></iframe>")
+            .arg(address);
+    };
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), embed("BOOK-ADDRESS/mybook.html"));
     EXPECT_EQ(window().txtEmbed->selectedText(), window().txtEmbed->text());
-    QTest::keyClick(window().chkSingleFile, Qt::Key_Space);
+    window().txtAddress->setText("http://x.org/a");
+    EXPECT_EQ(window().txtEmbed->text(), embed("http://x.org/a/mybook.html"));
+    window().mOutputType->button(OutputWindow::webBookInOneFile)->click();
     publish();
     EXPECT_TRUE(told.isEmpty()) << told.join(u' ').toStdString();
     EXPECT_EQ(QDir(book.folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{"mybook.html"});
     EXPECT_TRUE(book.read("mybook.html").contains(Base91::encode("first")));
+    open();
+    EXPECT_EQ(window().mOutputType->checkedId(), OutputWindow::webBookInOneFile);
+}
+
+TEST_F(PublishSheet, AddressAndReadingSampleAreCheckedPublishedAndKeptForTheirDocument) {
+    importPages(3);
+    openForWebBook();
+    propose("Tea");
+    window().txtOutputFolder->setText(book.folder());
+    std::optional<PublishResult> result;
+    QObject::connect(sheet.get(), &OutputWindowDelegate::bookPublished,
+                     [&](const PublishResult& published) { result = published; });
+    for (auto* field : {window().txtAddress, window().txtSample}) {
+        for (const char* wrong : {"example.org", "2-x", "4-9", "https://x.org/?a"}) {
+            field->setText(wrong);
+            publish();
+            EXPECT_TRUE(field->isVisible() && field->selectedText() == wrong) << wrong;
+        }
+        field->clear();
+    }
+    EXPECT_TRUE(ended.isEmpty() && !book.exists("mybook.html"));
+    window().txtAddress->setText(" https://example.org/tea ");
+    window().txtSample->setText("2-9");
+    publish();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !ended.isEmpty(); }, 20000));
+    EXPECT_TRUE(book.exists("files/web/share.jpg")) << "which only books with an address have";
+    EXPECT_TRUE(book.exists("files/thumb/2.jpg") && !book.exists("files/thumb/1.jpg"));
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->link, "https://example.org/tea/mybook.html");
+    EXPECT_TRUE(result->embed.contains(result->link));
+    propose("Cake");
+    EXPECT_EQ(window().txtAddress->text() + window().txtSample->text(), "");
+    open();
+    propose("Tea");
+    EXPECT_EQ(window().txtAddress->text(), "https://example.org/tea");
+    EXPECT_EQ(window().txtSample->text(), "2-9");
+    EXPECT_TRUE(window().btnMore->isChecked()) << "what is chosen is seen";
 }
 
 TEST_F(PublishSheet, NamesWhatAnApplicationOrATemplateLacks) {

@@ -56,7 +56,9 @@ Project::Publish SheetChoices::publishOf(const OutputWindow& sheet) {
     publish.kind = type == OutputWindow::htmlBook      ? Project::Kind::html
                    : type == OutputWindow::application ? Project::Kind::app
                                                        : Project::Kind::web;
-    publish.singleFile = sheet.chkSingleFile->isChecked();
+    publish.singleFile = type == OutputWindow::webBookInOneFile;
+    publish.url = sheet.txtAddress->text().trimmed();
+    publish.previewPages = sheet.txtSample->text().trimmed();
     return publish;
 }
 
@@ -66,7 +68,9 @@ void SheetChoices::set(OutputWindow& sheet, const Project::Publish& publish) {
     sheet.txtTitle->setText(publish.title);
     const auto type = publish.kind == Project::Kind::html  ? OutputWindow::htmlBook
                       : publish.kind == Project::Kind::app ? OutputWindow::application
+                      : publish.singleFile                 ? OutputWindow::webBookInOneFile
                                                            : OutputWindow::webBook;
     sheet.mOutputType->button(type)->setChecked(true);
-    sheet.chkSingleFile->setChecked(publish.singleFile);
+    sheet.txtAddress->setText(publish.url);
+    sheet.txtSample->setText(publish.previewPages);
 }
