@@ -1773,6 +1773,55 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     </message>
 </context>
 <context>
+    <name>ResultBar</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Im Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Link kopieren</translation>
+    </message>
+    <message>
+        <source>Copy embed text</source>
+        <extracomment>The text embeds the book in another page.</extracomment>
+        <translation>Einbettung kopieren</translation>
+    </message>
+    <message>
+        <source>Publish again</source>
+        <translation>Erneut veröffentlichen</translation>
+    </message>
+    <message>
+        <source>Published book</source>
+        <extracomment>What a screen reader says when it comes to the bar after a publish.</extracomment>
+        <translation>Veröffentlichtes Buch</translation>
+    </message>
+    <message>
+        <source>Opens the book in the program that usually shows it</source>
+        <translation>Öffnet das Buch in dem Programm, das es sonst zeigt</translation>
+    </message>
+    <message>
+        <source>Publishes the book as it is now, with the same choices</source>
+        <translation>Veröffentlicht das Buch, wie es jetzt ist, noch einmal ebenso</translation>
+    </message>
+    <message>
+        <source>Close the message</source>
+        <translation>Die Meldung schließen</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Kopiert: %1</translation>
+    </message>
+    <message>
+        <source>“%1” was published</source>
+        <translation>„%1“ ist veröffentlicht</translation>
+    </message>
+</context>
+<context>
     <name>SelectTemplateWindow</name>
     <message>
         <source>Choose a template</source>

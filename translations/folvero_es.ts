@@ -1773,6 +1773,55 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     </message>
 </context>
 <context>
+    <name>ResultBar</name>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Mostrar en la carpeta</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Copiar enlace</translation>
+    </message>
+    <message>
+        <source>Copy embed text</source>
+        <extracomment>The text embeds the book in another page.</extracomment>
+        <translation>Copiar inserción</translation>
+    </message>
+    <message>
+        <source>Publish again</source>
+        <translation>Publicar de nuevo</translation>
+    </message>
+    <message>
+        <source>Published book</source>
+        <extracomment>What a screen reader says when it comes to the bar after a publish.</extracomment>
+        <translation>Libro publicado</translation>
+    </message>
+    <message>
+        <source>Opens the book in the program that usually shows it</source>
+        <translation>Abre el libro en el programa que suele mostrarlo</translation>
+    </message>
+    <message>
+        <source>Publishes the book as it is now, with the same choices</source>
+        <translation>Publica el libro tal como está ahora, con las mismas opciones</translation>
+    </message>
+    <message>
+        <source>Close the message</source>
+        <translation>Cerrar el mensaje</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copiado: %1</translation>
+    </message>
+    <message>
+        <source>“%1” was published</source>
+        <translation>«%1» se ha publicado</translation>
+    </message>
+</context>
+<context>
     <name>SelectTemplateWindow</name>
     <message>
         <source>Choose a template</source>

@@ -1773,6 +1773,55 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     </message>
 </context>
 <context>
+    <name>ResultBar</name>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Afficher le dossier</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Copier le lien</translation>
+    </message>
+    <message>
+        <source>Copy embed text</source>
+        <extracomment>The text embeds the book in another page.</extracomment>
+        <translation>Copier le code</translation>
+    </message>
+    <message>
+        <source>Publish again</source>
+        <translation>Publier de nouveau</translation>
+    </message>
+    <message>
+        <source>Published book</source>
+        <extracomment>What a screen reader says when it comes to the bar after a publish.</extracomment>
+        <translation>Livre publié</translation>
+    </message>
+    <message>
+        <source>Opens the book in the program that usually shows it</source>
+        <translation>Ouvre le livre dans le programme qui l’affiche d’habitude</translation>
+    </message>
+    <message>
+        <source>Publishes the book as it is now, with the same choices</source>
+        <translation>Publie le livre tel qu’il est maintenant, avec les mêmes choix</translation>
+    </message>
+    <message>
+        <source>Close the message</source>
+        <translation>Fermer le message</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copié&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>“%1” was published</source>
+        <translation>«&#xa0;%1&#xa0;» est publié</translation>
+    </message>
+</context>
+<context>
     <name>SelectTemplateWindow</name>
     <message>
         <source>Choose a template</source>

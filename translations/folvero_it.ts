@@ -1773,6 +1773,55 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     </message>
 </context>
 <context>
+    <name>ResultBar</name>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Show in folder</source>
+        <translation>Mostra nella cartella</translation>
+    </message>
+    <message>
+        <source>Copy link</source>
+        <translation>Copia il link</translation>
+    </message>
+    <message>
+        <source>Copy embed text</source>
+        <extracomment>The text embeds the book in another page.</extracomment>
+        <translation>Copia l’incorporamento</translation>
+    </message>
+    <message>
+        <source>Publish again</source>
+        <translation>Pubblica di nuovo</translation>
+    </message>
+    <message>
+        <source>Published book</source>
+        <extracomment>What a screen reader says when it comes to the bar after a publish.</extracomment>
+        <translation>Libro pubblicato</translation>
+    </message>
+    <message>
+        <source>Opens the book in the program that usually shows it</source>
+        <translation>Apre il libro nel programma che lo mostra di solito</translation>
+    </message>
+    <message>
+        <source>Publishes the book as it is now, with the same choices</source>
+        <translation>Pubblica il libro com’è ora, con le stesse scelte</translation>
+    </message>
+    <message>
+        <source>Close the message</source>
+        <translation>Chiudi il messaggio</translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation>Copiato: %1</translation>
+    </message>
+    <message>
+        <source>“%1” was published</source>
+        <translation>«%1» è stato pubblicato</translation>
+    </message>
+</context>
+<context>
     <name>SelectTemplateWindow</name>
     <message>
         <source>Choose a template</source>

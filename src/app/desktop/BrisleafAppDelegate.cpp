@@ -6,6 +6,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
+#include "app/desktop/ResultBar.h"
 #include "app/desktop/SettingsReset.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
@@ -209,6 +210,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
     iHistory.snapshotValues();
     iOutline->reloadValues();
     iWindow->messages->hide();
+    iWindow->result->hide();
     iDocument = iProject->takeImport();
     QStringList leftOut = iImportWindow->failures();
     leftOut << std::exchange(iNotUsed, {});
@@ -218,6 +220,7 @@ void BrisleafAppDelegate::importWindowDidEnd(int returnCode) {
 }
 
 void BrisleafAppDelegate::OnExportFlipBook() {
+    iWindow->result->hide();
     iOuputWindow->setFlashTmpl(iFlashTmpl);
     iOuputWindow->setBook(iBook);
     iOuputWindow->setDocument(iDocument, iWindow->documentName());

@@ -8,6 +8,7 @@
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewView.h"
 #include "app/desktop/RecentFiles.h"
+#include "app/desktop/ResultBar.h"
 #include "app/desktop/SettingsReset.h"
 #include "app/desktop/StartPanel.h"
 #include "app/desktop/StyleSaver.h"
@@ -174,6 +175,14 @@ void BrisleafAppDelegate::connectCommands() {
             [this](const QString& cause) {
                 iWindow->messages->showError(tr("The book was not published."), cause);
             });
+    connect(iOuputWindow.get(), &OutputWindowDelegate::bookPublished, iWindow->result,
+            &ResultBar::showResult);
+    connect(iWindow->result, &ResultBar::openRequested, this,
+            [this](const QString& path) { iQuestions.open(path); });
+    connect(iWindow->result, &ResultBar::publishRequested, this, [this] {
+        OnExportFlipBook();
+        iOuputWindow->onPublish();
+    });
     connect(iWindow->webView, &PreviewView::rendererCrashed, this,
             &BrisleafAppDelegate::previewCrashed);
 }

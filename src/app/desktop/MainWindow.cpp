@@ -4,6 +4,7 @@
 #include "app/desktop/MainMenu.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/PreviewPane.h"
+#include "app/desktop/ResultBar.h"
 #include "app/desktop/StartPanel.h"
 #include "ui/FlashTemplateOutline.h"
 #include "ui/SettingsSearch.h"
@@ -43,10 +44,22 @@ QWidget* card(QWidget* above, QWidget* view, const QString& name) {
     return frame;
 }
 
+// A bar that is not always there, and what lies beneath it.
+QWidget* stacked(QWidget* bar, QWidget* content) {
+    auto* whole = new QWidget;
+    auto* layout = new QVBoxLayout(whole);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar);
+    layout->addWidget(content, 1);
+    return whole;
+}
+
 } // namespace
 
 MainWindow::MainWindow(QUndoStack& edits)
     : menu(new MainMenu(*this, edits)),
+      result(new ResultBar),
       iSides(new QSplitter(Qt::Horizontal)),
       iEditorAndTip(new QSplitter(Qt::Vertical)) {
     setAcceptDrops(true);
@@ -57,7 +70,7 @@ MainWindow::MainWindow(QUndoStack& edits)
     iSides->setStretchFactor(1, 1);
     iSides->setChildrenCollapsible(false);
     iSides->setHandleWidth(1);
-    setCentralWidget(iSides);
+    setCentralWidget(stacked(result, iSides));
     setDocumentName({});
     restoreSizes();
 }
@@ -138,14 +151,7 @@ QWidget* MainWindow::previewSide() {
     start = new StartPanel;
     auto* preview = new PreviewPane;
     webView = preview->view();
-    auto* side = new QWidget;
-    auto* layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(messages);
-    layout->addWidget(start);
-    layout->addWidget(preview, 1);
-    return side;
+    return stacked(messages, stacked(start, preview));
 }
 
 void MainWindow::setDocumentName(const QString& name) {

@@ -6,6 +6,7 @@ class DropHint;
 class FlashTemplateOutline;
 class MainMenu;
 class MessageBar;
+class ResultBar;
 class PreviewView;
 class QGroupBox;
 class QPlainTextEdit;
@@ -27,6 +28,7 @@ public:
     MainMenu* menu;
     MessageBar* messages;
     StartPanel* start;
+    ResultBar* result;
     QPushButton* btnFloat;
     QToolButton* btnImportTmpl;
     QToolButton* btnExportTmpl;

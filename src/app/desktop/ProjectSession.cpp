@@ -5,6 +5,7 @@
 #include "app/desktop/MainWindow.h"
 #include "app/desktop/MessageBar.h"
 #include "app/desktop/RecentFiles.h"
+#include "app/desktop/ResultBar.h"
 #include "app/desktop/SheetChoices.h"
 #include "base/PlatformException.h"
 #include "pages/Book.h"
@@ -179,6 +180,7 @@ void ProjectSession::show(const Project& project, const QString& path) {
     iPublish = project.publish;
     iMerged.reset();
     iProgram.window.messages->hide();
+    iProgram.window.result->hide();
     iProgram.showLook(project);
     setSaved();
     if (iDocuments.isEmpty())
