@@ -1,5 +1,6 @@
 #include "app/desktop/ResultBar.h"
 #include "desktop/DesktopProgram.h"
+#include "ui/SettingsSearch.h"
 
 namespace {
 
@@ -22,6 +23,20 @@ protected:
 };
 
 } // namespace
+
+TEST_F(Publishing, ShortcutOpensTheSheetAlsoFromATextField) {
+    launch();
+    QLineEdit* field = window().search->field();
+    field->setFocus();
+    ASSERT_TRUE(waitUntil([field] { return field->hasFocus(); }));
+    // Fields claim this on all platforms, Ctrl+E on some.
+    window().menu->exportFlipBook->setShortcut(QKeySequence::SelectAll);
+    QTest::keySequence(field, QKeySequence::SelectAll);
+    EXPECT_TRUE(sheet().isVisible());
+    program->ouputWindow().onCancel();
+    QTest::keyClick(field, Qt::Key_E);
+    EXPECT_EQ(field->text(), "e") << "other keys are the field's";
+}
 
 TEST_F(Publishing, BarAfterwardsOpensCopiesAndPublishesAgain) {
     launch();

@@ -6,6 +6,7 @@
 #include "app/desktop/PreviewPane.h"
 #include "app/desktop/ResultBar.h"
 #include "app/desktop/StartPanel.h"
+#include "app/desktop/WindowShortcut.h"
 #include "ui/FlashTemplateOutline.h"
 #include "ui/SettingsSearch.h"
 
@@ -71,6 +72,7 @@ MainWindow::MainWindow(QUndoStack& edits)
     iSides->setChildrenCollapsible(false);
     iSides->setHandleWidth(1);
     setCentralWidget(stacked(result, iSides));
+    new WindowShortcut(*menu->exportFlipBook, *this);
     setDocumentName({});
     restoreSizes();
 }
