@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 OutputWindow::OutputWindow(QWidget* parent)
     : Sheet(tr("Publish the book"), parent),
@@ -38,6 +39,12 @@ OutputWindow::OutputWindow(QWidget* parent)
     iForm->addRow(tr("&Title:"), txtTitle);
     setFieldOfRow(*iForm, folderRow, txtOutputFolder);
     makeWebFields();
+    // Or the fields would move when the longest label is hidden.
+    for (int row = 0; row < iForm->rowCount(); ++row) {
+        if (const auto* other = iForm->itemAt(row, QFormLayout::LabelRole))
+            label->setMinimumWidth(
+                std::max(label->minimumWidth(), other->widget()->sizeHint().width()));
+    }
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(margins);
