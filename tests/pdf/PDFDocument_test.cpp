@@ -346,10 +346,12 @@ TEST_F(PDFDocumentTest, SaysWhatOfAPageIsDamagedAndDrawsTheRest) {
                           "<< /FontName /A /FontFile2 " +
                           PDFBuilder::reference(file) + " >> >>");
     builder.addPage(page);
-    // Inline images of no width, in the page and in a form, among others that look like them.
+    // Inline images of no width, in the page and in a form, among others that look like them and
+    // one that is the corner.
     const QByteArray inlined = "BI/H 9/BPC 8/CS/G/W 0 ID aEI\nEI q (a\\) BI) Tj /BI gs % BI\n"
-                               "BI /W 3 /H 2 /BPC 8 /CS /G ID BI ID1 EI Q " +
-                               QByteArray(redCorner);
+                               "BI /W 3 /H 2 /BPC 8 /CS /G ID BI ID1 EI Q "
+                               "100 0 0 50 0 0 cm BI /W 1 /H 1 /BPC 8 /CS /RGB /F /AHx ID "
+                               "FF0000> EI ";
     builder.addPage(PDFBuilder::page(pageSize, inlined));
     page = PDFBuilder::page(pageSize, "/I Do");
     page.xObjects["I"] = builder.addStream("/Subtype /Form /BBox [0 0 200 100]", inlined);
