@@ -58,6 +58,8 @@ constexpr Alphabet lettersAnd(Text others) {
     return only(others, only("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"));
 }
 
+constexpr Alphabet nameCharacters = lettersAnd("");
+
 // Numbers, names and lists of them. Without a colon, a slash or a backslash they make no address.
 constexpr Alphabet plainCharacters = lettersAnd(" #%()+,-.");
 constexpr Alphabet base64 = lettersAnd("+/=");
@@ -89,12 +91,19 @@ bool isAllowedAddress(Text name, Text value) {
     return false;
 }
 
+// Whether it names one element of the same drawing and nothing else.
+bool isReference(Text value) {
+    return value.size() > 1 && value.front() == '#' &&
+           lengthIn(nameCharacters, value.substr(1)) == value.size() - 1;
+}
+
 // Whether an attribute of plain characters contains no address.
 bool isAllowed(Text element, Text name, Text value) {
     if (name == "href")
-        return element == "use" && value.starts_with('#');
+        return element == "use" && isReference(value);
     if (name == "clip-path")
-        return value.starts_with("url(#");
+        return value.starts_with("url(") && value.ends_with(')') &&
+               isReference(value.substr(4, value.size() - 5));
     if (name == "d")
         return lengthIn(pathData, value) == value.size();
     return std::find(attributes.begin(), attributes.end(), name) != attributes.end() &&

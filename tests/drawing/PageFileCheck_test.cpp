@@ -36,6 +36,8 @@ TEST(PageFileCheck, AllowsOnlyDrawingsInVectors) {
                              "<g xmlns=\"data:image/png;base64,A\"/>",
                              "<path d=\"M1 2url(3\"/>",
                              "<g clip-path=\"url(x#a)\"/>",
+                             "<g clip-path=\"url(#a)url(x)\"/>",
+                             "<use href=\"#url(x\"/>",
                              "<a/>",
                              "&#60;",
                              "<rect fill=\"\\75rl(x)\"/>",
