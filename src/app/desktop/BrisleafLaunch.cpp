@@ -177,6 +177,9 @@ void BrisleafAppDelegate::connectCommands() {
             });
     connect(iOuputWindow.get(), &OutputWindowDelegate::bookPublished, iWindow->result,
             &ResultBar::showResult);
+    // Both would leave the preview little room in a small window.
+    connect(iOuputWindow.get(), &OutputWindowDelegate::bookPublished, iWindow->start,
+            &QWidget::hide);
     connect(iWindow->result, &ResultBar::openRequested, this,
             [this](const QString& path) { iQuestions.open(path); });
     connect(iWindow->result, &ResultBar::publishRequested, this, [this] {
