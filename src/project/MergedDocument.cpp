@@ -43,7 +43,7 @@ MergedDocument::MergedDocument(const QStringList& files, std::vector<MergePlan::
         const auto before = statesOf(files);
         take(files, passwordOf, stopped, unreadable);
         try {
-            write(pages, stopped);
+            write(std::move(pages), stopped);
         } catch (const PlatformException& failure) {
             if (unreadable == Unreadable::fails || !isFaulty(failure))
                 throw;
