@@ -3,7 +3,7 @@ import { make } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
 import { report } from './events.js';
 import { putOver } from './layers.js';
-import { distance } from './pagetext.js';
+import { boxAlong, distance } from './pagetext.js';
 
 /** @typedef {import('./layers.js').Face} Face */
 /** @typedef {import('./pagetext.js').PageLink} PageLink */
@@ -45,19 +45,20 @@ export class Links {
   }
 
   /** @param {Face} face */
-  #add({ box, text, side }) {
+  #add({ box, text }) {
     if (!text || text.links.length === 0) return;
-    const layer = make('div', 'link-layer');
+    /** @type {NodeListOf<HTMLElement>} */
     const words = box.querySelectorAll('.word');
-    text.links.forEach((link, index) => {
+    for (const link of text.links) {
       const found = text.wordsIn(link.box);
       const element = this.#element(link, found.map((word) => word.text).join(' '));
-      putOver(element, text, link.box);
-      layer.append(element);
-      element.id = side + '-link-' + index;
-      standFor(element, found.map(({ at }) => words[at]));
-    });
-    box.append(layer);
+      const own = found.map(({ at }) => words[at]).filter(Boolean);
+      if (own.length > 0) putIntoLine(element, own, boxAlong(found[0].line, link.box));
+      else {
+        putOver(element, text, link.box);
+        box.append(element);
+      }
+    }
   }
 
   /**
@@ -133,15 +134,32 @@ export class Links {
 }
 
 /**
- * To those who hear the page, a link comes where its words are read, and in their place.
+ * Puts a link into the line of its words, before the first of them: there readers who hear the page or go through it by
+ * key come to it. It takes no room in the line.
  * @param {HTMLElement} link
- * @param {Element[]} words
+ * @param {HTMLElement[]} words
+ * @param {import('./pagetext.js').Box} box the link's, along the line
  */
-function standFor({ id }, words) {
-  const place = make('span', '');
-  place.setAttribute('aria-owns', id);
-  words[0]?.before(place);
+function putIntoLine(link, words, { x, y, width, height }) {
+  const line = /** @type {HTMLElement} */ (words[0].parentElement);
+  const start = line.dir === 'rtl' ? parseFloat(line.style.width) - x - width : x;
+  const margin = start - endOf(words[0].previousElementSibling);
+  link.style.cssText = 'top:' + y + 'px;width:' + width + 'px;height:' + height + 'px;margin-inline:' + margin + 'px '
+    + -(margin + width) + 'px';
+  words[0].before(link);
   for (const word of words) word.setAttribute('aria-hidden', 'true');
+}
+
+/**
+ * How far a line has come behind one of its words, by the places that they were given.
+ * @param {Element | null} last
+ */
+function endOf(last) {
+  let end = 0;
+  for (let word = last; word instanceof HTMLElement; word = word.previousElementSibling) {
+    if (word.className === 'word') end += parseFloat(word.style.marginInlineStart) + parseFloat(word.style.width);
+  }
+  return end;
 }
 
 /**

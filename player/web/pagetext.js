@@ -68,7 +68,7 @@ export class PageText {
   }
 
   /**
-   * The words whose middles lie in a box, and their places among all words of the page.
+   * The words whose middles lie in a box, with their lines and their places among all words of the page.
    * @param {Box} box
    */
   wordsIn(box) {
@@ -76,7 +76,7 @@ export class PageText {
     return this.lines.flatMap((line) => {
       const first = before;
       before += line.words.length;
-      return meet(line.box, box) ? line.words.map(({ text }, index) => ({ text: text.trim(), at: first + index }))
+      return meet(line.box, box) ? line.words.map(({ text }, index) => ({ text: text.trim(), line, at: first + index }))
         .filter((_, index) => distance(box, ...middleOf(boxIn(line, line.words[index], 0, 1))) === 0) : [];
     });
   }
@@ -179,6 +179,21 @@ export function boxIn(line, word, from, to) {
   const length = word.length * (last - first);
   const { x, y, width, height } = line.box;
   return isUpright(line) ? { x, y: y + start, width, height: length } : { x: x + start, y, width: length, height };
+}
+
+/**
+ * A box of the page as its line sees it: from the line's left edge and top where it would lie, were it not turned.
+ * @param {Line} line
+ * @param {Box} box
+ * @returns {Box}
+ */
+export function boxAlong({ box: line, turn }, { x, y, width, height }) {
+  const [left, top] = [x - line.x, y - line.y];
+  const [right, bottom] = [line.width - left - width, line.height - top - height];
+  if (turn === 90) return { x: top, y: right, width: height, height: width };
+  if (turn === 180) return { x: right, y: bottom, width, height };
+  if (turn === 270) return { x: bottom, y: left, width: height, height: width };
+  return { x: left, y: top, width, height };
 }
 
 /**

@@ -130,6 +130,30 @@ test('all of a page is reached by key, in the order in which it is read', async 
   await book.waitForPages(1);
 });
 
+test('links lie over their words in lines of all directions, and may be as close as these', async () => {
+  const words = ['first ', 0, 400, 'linked ', 500, 600, 'last', 1200, 300];
+  const [backward, upward] = [words, words].map((all) => all.map((one, at) => (at % 3 === 1 ? 1500 - one - all[at + 1] : one)));
+  const lines = [[600, 600, 1500, 90, 0, 0, words], [600, 700, 1500, 90, 0, 0, words], [600, 800, 1500, 90, 0, 1, backward],
+    [600, 2000, 1500, 90, 180, 0, backward], [600, 3000, 90, 1500, 90, 0, words], [800, 3000, 90, 1500, 270, 0, upward]];
+  const boxOf = ([x, y, width, height, , , { 4: start, 5: length }]) =>
+    (width > height ? [x + start, y - 10, length, height + 20] : [x - 10, y + start, width + 20, length]);
+  const links = lines.map((line) => [...boxOf(line), 3]);
+  const page = { size: [6000, 8000], lines, links: [...links, [3000, 5000, 900, 900, 4]] };
+  const book = await open({ hash: '#page=2', change: { pages: [pages[0], page, ...pages.slice(2)] } });
+  await book.page.waitForSelector('.over.left .page-link');
+  const placed = await book.page.locator('.over.left').evaluate((over) => {
+    const { x, y, width } = over.getBoundingClientRect();
+    return [...over.querySelectorAll('.page-link')].map((link) => {
+      const box = link.getBoundingClientRect();
+      return [box.x - x, box.y - y, box.width, box.height].map((size) => size * 6000 / width);
+    });
+  });
+  assert.equal(placed.length, page.links.length);
+  page.links.forEach((link, index) => placed[index].forEach((size, side) =>
+    assert.ok(Math.abs(size - link[side]) < 6, `link ${index + 1} lies at ${placed[index]} and not at ${link}`)));
+  assert.deepEqual(await faults(book), []);
+});
+
 /** What those who hear a page are told of it: its elements and their texts, by the browser's accessibility tree. */
 async function heard(page) {
   const session = await page.context().newCDPSession(page);
