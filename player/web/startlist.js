@@ -34,7 +34,7 @@ export class StartList {
     /** @param {number} which @param {number} w @param {number} h @returns {PageEntry[]} */
     const entries = (which, w, h) => kinds.map((kind, index) =>
       ({ path: ownFile(kind[which].replace('#', String(numbers[index]))), width: w, height: h }));
-    this.pages = entries(0, width, height);
+    this.pages = entries(0, width, height).map((entry, index) => ({ ...entry, photo: kinds[index][3] === 'photo' }));
     this.thumbs = entries(1, thumbWidth, thumbHeight);
     const fits = this.settings && kinds.length > 0 && kinds.length === numbers.length && width > 0 && height > 0;
     if (!fits) throw new Error('damaged');

@@ -3,6 +3,7 @@
 #include "base/PlatformException.h"
 #include "base/Stopwatch.h"
 #include "pdf/PDFSerialization.h"
+#include "picture/PhotographMark.h"
 #include "system/Files.h"
 
 #include <QFileInfo>
@@ -126,8 +127,10 @@ qint64 WebPageMaker::makeThumbnail(const PageBitmap& bitmap, const QString& path
     const auto side = [&](int length) { return std::max(1, int(length * scale)); };
     reduce(bitmap, iThumbnail, side(bitmap.width()), side(bitmap.height()));
     const auto jpeg = iEncoder.encode(iThumbnail, thumbnailFactor);
+    const QByteArray marked =
+        PhotographMark::isPhotograph(iThumbnail) ? PhotographMark::marked(jpeg) : QByteArray();
     timing.encode += watch.lap();
-    return write(path, jpeg, timing);
+    return write(path, marked.isNull() ? jpeg : bytesOf(marked), timing);
 }
 
 // Of a page that is one scan with more pixels than the page's picture: as the scanner made it.

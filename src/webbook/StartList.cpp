@@ -4,8 +4,10 @@
 #include "output/BookLayout.h"
 #include "output/BookXML.h"
 #include "output/WebScript.h"
+#include "picture/PhotographMark.h"
 #include "webbook/WebBook.h"
 
+#include <QFile>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
@@ -52,6 +54,12 @@ QString pattern(const QString& path, int number) {
                                              QStringLiteral("/#."));
 }
 
+bool isPhotograph(const QString& thumbnail) {
+    QFile file(thumbnail);
+    return !thumbnail.isEmpty() && file.open(QIODevice::ReadOnly) &&
+           PhotographMark::isMarked(file.read(PhotographMark::headSize));
+}
+
 void addPages(QJsonObject& list, const WebBook& book) {
     Runs numbers(1);
     Runs runs(0);
@@ -59,9 +67,11 @@ void addPages(QJsonObject& list, const WebBook& book) {
     QHash<QStringList, int> indexes;
     for (std::size_t i = 0; i < book.pages.size(); ++i) {
         const WebPage& page = book.pages[i];
-        const QStringList kind{pattern(WebBook::picturePath(page), page.number),
-                               pattern(WebBook::thumbnailPath(page), page.number),
-                               book.metadata.large[qsizetype(i)]};
+        QStringList kind{pattern(WebBook::picturePath(page), page.number),
+                         pattern(WebBook::thumbnailPath(page), page.number),
+                         book.metadata.large[qsizetype(i)]};
+        if (book.isOpen(page) && isPhotograph(page.thumbnail))
+            kind << QStringLiteral("photo");
         if (!indexes.contains(kind)) {
             indexes.insert(kind, int(indexes.size()));
             kinds << QJsonArray::fromStringList(kind);

@@ -1,8 +1,15 @@
+#include "picture/JPEGEncoder.h"
+#include "picture/PhotographMark.h"
+#include "picture/PictureHeader.h"
 #include "webbook/StartList.h"
 #include "webbook/WebBook.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
 
 TEST(StartList, HasPagesAndLabelsInRuns) {
@@ -32,4 +39,40 @@ TEST(StartList, HasPagesAndLabelsInRuns) {
     EXPECT_EQ(QJsonDocument(list["facts"]["labels"].toArray()).toJson(QJsonDocument::Compact),
               R"([["A-",9,2],"007","${x}<","9999999999"])");
     EXPECT_EQ(StartList::json(WebBook(), {1, {}, {}}), QByteArray());
+}
+
+TEST(StartList, NamesPhotographs) {
+    const QTemporaryDir folder;
+    WebBook book;
+    // Shares of a page's rows that are white, a little yellow as a scan's paper.
+    for (const int percent : {0, 19, 21, 100}) {
+        PageBitmap page;
+        page.resize(40, 100, 3);
+        for (int i = 0; i < 40 * 100; ++i) {
+            const auto colour =
+                i < 40 * percent ? std::array{250, 245, 220} : std::array{255, 90, 60};
+            std::copy(colour.begin(), colour.end(), page.data() + std::ptrdiff_t(i) * 3);
+        }
+        JPEGEncoder encoder;
+        const auto jpeg = encoder.encode(page, 1);
+        const QByteArray bytes =
+            PhotographMark::isPhotograph(page)
+                ? PhotographMark::marked(jpeg)
+                : QByteArray(reinterpret_cast<const char*>(jpeg.data()), qsizetype(jpeg.size()));
+        EXPECT_EQ(PictureHeader::sizeOfJPEG(bytes), QSize(40, 100));
+        EXPECT_TRUE(PictureHeader::isWholeJPEG(bytes));
+        WebPage& added = book.pages.emplace_back();
+        added.number = int(book.pages.size());
+        added.picture = QStringLiteral("p.png");
+        added.thumbnail = folder.filePath(QStringLiteral("%1.jpg").arg(percent));
+        QFile file(added.thumbnail);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
+    book.complete({});
+    const QJsonDocument list = QJsonDocument::fromJson(StartList::json(book, {1, {}, {}}));
+    const QJsonArray kinds = list["kinds"].toArray();
+    ASSERT_EQ(kinds.size(), 2);
+    EXPECT_EQ(kinds[0][3].toString(), "photo");
+    EXPECT_TRUE(kinds[1][3].isUndefined());
+    EXPECT_EQ(list["runs"].toArray(), (QJsonArray{0, 2, 1, 2}));
 }

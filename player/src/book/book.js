@@ -262,14 +262,15 @@ export class Book {
       slot.replaceChildren();
       return;
     }
-    const { image, state } = this.images.get(page);
+    const entry = this.images.get(page);
+    const { image, state } = entry;
     slot.dataset.image = state;
     if (state !== 'ready') {
       slot.replaceChildren();
       if (state === 'missing') slot.textContent = missingText(page);
       return;
     }
-    slot.classList.toggle('photo', this.tint === 'night' && isPhotograph(image));
+    slot.classList.toggle('photo', this.tint === 'night' && isPhotograph(entry));
     const place = this.placeOf(image.naturalWidth, image.naturalHeight);
     image.style.inset = place.y + 'px auto auto ' + place.x + 'px';
     image.style.width = place.width + 'px';

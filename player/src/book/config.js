@@ -19,7 +19,7 @@ export class BookError extends Error {
 }
 
 /**
- * @typedef {{path: string, width: number, height: number}} PageEntry
+ * @typedef {{path: string, width: number, height: number, photo?: boolean}} PageEntry photo: it is a photograph to its edges
  * @typedef {object} Ground
  * @property {string} from
  * @property {string} to

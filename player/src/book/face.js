@@ -41,9 +41,10 @@ const LEAST_PAPER = 0.2;
 
 /**
  * Whether a page is a photograph to its edges: too little of it is as white as paper.
- * @param {HTMLImageElement} image
+ * @param {PageImage} entry
  */
-export function isPhotograph(image) {
+export function isPhotograph({ image, photo }) {
+  if (photo) return true;
   const context = sized(document.createElement('canvas'), SAMPLE, SAMPLE);
   context.drawImage(image, 0, 0, SAMPLE, SAMPLE);
   try {
@@ -51,7 +52,7 @@ export function isPhotograph(image) {
     const white = data.filter((red, at) => at % 4 === 0 && Math.min(red, data[at + 1], data[at + 2]) > NEAR_WHITE);
     return white.length < LEAST_PAPER * SAMPLE * SAMPLE;
   } catch {
-    // Browsers let no page read pictures from disk.
+    // Browsers let no page read pictures from disk: there a book says itself which pages are such.
     return false;
   }
 }
@@ -83,7 +84,7 @@ export function drawFace(canvas, { page, entry, width, height, density, paper, t
     const place = fitted(image.naturalWidth, image.naturalHeight, width, height);
     context.imageSmoothingQuality = 'high';
     // Not in all browsers: there leaves turn untinted.
-    if (tint) context.filter = 'url(#paper-' + (tint === 'night' && isPhotograph(image) ? 'photo' : tint) + ')';
+    if (tint) context.filter = 'url(#paper-' + (tint === 'night' && isPhotograph(entry) ? 'photo' : tint) + ')';
     context.drawImage(image, place.x, place.y, place.width, place.height);
     context.filter = 'none';
   } else if (entry?.state === 'missing') {

@@ -5,6 +5,7 @@ import { say } from './words.js';
 /**
  * @typedef {object} PageImage
  * @property {HTMLImageElement} image
+ * @property {boolean} [photo] whether it is known to be a photograph to its edges
  * @property {'loading' | 'ready' | 'missing'} state
  * @property {Promise<void>} settled kept when the image has arrived or failed
  */
@@ -46,7 +47,7 @@ export class PageImages {
   get(page, urgent = true) {
     let entry = this.kept.get(page);
     if (!entry) {
-      entry = { image: new Image(), state: 'loading', settled: Promise.resolve() };
+      entry = { image: new Image(), photo: this.pages[page - 1].photo, state: 'loading', settled: Promise.resolve() };
       entry.image.setAttribute('fetchpriority', urgent ? 'high' : 'low');
       this.kept.set(page, entry);
       entry.settled = this.#load(page, entry);

@@ -4,15 +4,15 @@ import { Facts } from '../../web/facts.js';
 import { StartList } from '../../web/startlist.js';
 
 const LIST = { settings: 'AQID', sizes: [600, 800, 85, 113], numbers: [3, 2, 9, 1], runs: [0, 1, 1, 2],
-  kinds: [['page/#.png', 'thumb/#.jpg', 'js'], ['../#.png', 'page/#.jpg', '']],
+  kinds: [['page/#.png', 'thumb/#.jpg', 'js'], ['../#.png', 'page/#.jpg', '', 'photo']],
   facts: { labels: [['A-', 9, 2], 'x'], outline: true, text: true } };
 
 test('a start list has every page, and what is known of the book', () => {
   const list = new StartList(LIST);
   const config = {};
   list.complete(config);
-  assert.deepEqual(config.pages.map(({ path, width, height }) => [path, width, height]),
-    [['page/3.png', 600, 800], ['', 600, 800], ['', 600, 800]]);
+  assert.deepEqual(config.pages.map(({ path, width, height, photo }) => [path, width, height, photo]),
+    [['page/3.png', 600, 800, false], ['', 600, 800, true], ['', 600, 800, true]]);
   assert.deepEqual([config.thumbs[2], config.thumbs.length], [{ path: 'page/9.jpg', width: 85, height: 113 }, 3]);
   const { numbers, labels, large, hasText, hasContents } = new Facts(list.facts, 3);
   assert.deepEqual({ numbers, labels, large, hasText, hasContents },
