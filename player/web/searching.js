@@ -140,7 +140,7 @@ export class Searching {
     this.strip.hidden = true;
     this.#mark(null, null);
     if (this.panel.shown) this.panel.hide();
-    else this.panel.button.focus({ preventScroll: true });
+    else this.room.giveBack();
   }
 
   /**

@@ -1,4 +1,4 @@
-import { make, part } from '../src/book/dom.js';
+import { focusByKey, giveFocus, make, part } from '../src/book/dom.js';
 import { icon } from './icons.js';
 
 /** Minimum window width for a panel beside the book, and for one over it instead of a full-window sheet. */
@@ -24,6 +24,8 @@ export class SideRoom {
     this.open = null;
     /** @type {Way} */
     this.way = 'beside';
+    /** @type {HTMLElement | null} what had the focus before */
+    this.from = null;
     const { escape } = commands;
     commands.escape = () => {
       if (this.open) this.open.hide();
@@ -47,7 +49,8 @@ export class SideRoom {
 
   /** @param {SidePanel} panel */
   take(panel) {
-    if (this.open && this.open !== panel) this.open.leave();
+    if (!this.open) this.from = focusByKey();
+    else if (this.open !== panel) this.open.leave();
     this.open = panel;
     this.way = this.#wayNow();
     this.root.dataset.panel = this.way;
@@ -63,6 +66,12 @@ export class SideRoom {
     this.open = null;
     delete this.root.dataset.panel;
     this.#make(0);
+  }
+
+  /** Gives the focus back to where it was by key, or to the menu that it is in now. */
+  giveBack() {
+    const more = part(this.root, '[data-does="more"]');
+    giveFocus(this.from && [this.from, more].find((one) => one.getClientRects().length > 0));
   }
 
   /** @returns {Way} */
@@ -142,13 +151,13 @@ export class SidePanel {
     this.onShow();
   }
 
-  /** Closes the panel; the focus goes back to where it was opened. */
+  /** Closes the panel; the focus goes back to where it was. */
   hide() {
     if (!this.shown) return;
     const hadFocus = this.dialog.contains(document.activeElement);
     this.leave();
     this.room.free();
-    if (hadFocus) this.#opener()?.focus({ preventScroll: true });
+    if (hadFocus) this.room.giveBack();
   }
 
   /** Closes the panel because another one opens. */
@@ -156,12 +165,6 @@ export class SidePanel {
     this.dialog.close();
     this.button.setAttribute('aria-expanded', 'false');
     this.onHide();
-  }
-
-  /** @returns {HTMLElement | undefined} what shows that the panel can be opened */
-  #opener() {
-    const more = part(this.room.root, '[data-does="more"]');
-    return [this.button, more].find((one) => one.getClientRects().length > 0);
   }
 
   /**

@@ -1,4 +1,4 @@
-import { make, part } from '../book/dom.js';
+import { focusByKey, giveFocus, make, part } from '../book/dom.js';
 import { fullLabel, labelOf } from '../book/labels.js';
 import { Thumbnails } from './thumbnails.js';
 import { keep, recall } from '../book/storage.js';
@@ -43,6 +43,8 @@ export class Drawer {
     /** @type {Map<number, HTMLElement>} */
     this.shown = new Map();
     this.frame = 0;
+    /** @type {HTMLElement | null} what had the focus before */
+    this.from = null;
     this.onToggle = () => {};
     this.#wire();
   }
@@ -57,6 +59,7 @@ export class Drawer {
   }
 
   show() {
+    this.from = focusByKey();
     this.element.hidden = false;
     this.active = this.inView[0];
     this.lay();
@@ -69,7 +72,7 @@ export class Drawer {
     const hadFocus = this.element.contains(document.activeElement);
     this.element.hidden = true;
     this.onToggle();
-    if (hadFocus) part(this.root, '[data-does="thumbs"]').focus({ preventScroll: true });
+    if (hadFocus) giveFocus(this.from);
   }
 
   /**

@@ -1,7 +1,7 @@
-import { part } from '../book/dom.js';
+import { focusByKey, part } from '../book/dom.js';
 
 /**
- * A modal dialog. The browser makes everything behind it inert and restores the focus when it closes.
+ * A modal dialog. The browser makes everything behind it inert and gives the focus back when it closes.
  */
 export class Panel {
   /** @param {HTMLElement} element a dialog with a button to close it */
@@ -24,7 +24,9 @@ export class Panel {
   }
 
   open() {
-    if (!this.dialog.open) this.dialog.showModal();
+    if (this.dialog.open) return;
+    focusByKey();
+    this.dialog.showModal();
   }
 
   close() {
