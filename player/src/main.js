@@ -9,7 +9,7 @@ import { fileAddress } from './book/values.js';
 import { learn, loadMore, say, setTexts } from './book/words.js';
 import { Turner } from './turning/turner.js';
 import { Gestures } from './controls/gestures.js';
-import { wireKeys } from './controls/keys.js';
+import { keepKeys, wireKeys } from './controls/keys.js';
 import { Memory } from './controls/memory.js';
 import { Place, pageInAddress } from './controls/place.js';
 import { Reading } from './controls/reading.js';
@@ -198,6 +198,7 @@ async function openBook(root) {
     toast.show(say('wasOn', labelOf(config, left)), say('startOver'), () => turner.go(0));
   }
   expose(book, turner, controls);
+  giveKeys();
 }
 
 /**
@@ -226,6 +227,7 @@ function expose(book, turner, { drawer, sheets }) {
 const root = /** @type {HTMLElement} */ (document.getElementById('folvero'));
 part(root, '.book-title').textContent = document.title;
 root.dataset.begun = 'yes';
+const giveKeys = keepKeys(root);
 const table = PAGE_TEXTS; // once, since the build puts in the texts
 loadMore(table).then(() => {
   learn(table, 'page');

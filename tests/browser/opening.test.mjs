@@ -38,6 +38,16 @@ test('a page without a file, or with one that is no picture, leaves a note in it
   assert.deepEqual(await book.colourOf('right'), colourOf(5));
 });
 
+test('keys pressed while a book opens are not lost', async () => {
+  const folder = await reader.book({ pages: plainPages(5) });
+  const book = await reader.openOverHttp(folder, { before: (page) => page.route('**/page/1.jpg', async (route) => {
+    for (const key of ['ArrowRight', 't']) await page.keyboard.press(key);
+    await route.continue();
+  }) });
+  await book.waitForPages(2, 3);
+  assert.equal(await book.page.locator('.drawer').isVisible(), true);
+});
+
 const written = (bytes) => (folder) => writeConfiguration(folder, bytes);
 const damages = [
   ['a configuration of noise', written(Buffer.from('this is no configuration')), /damaged/i],

@@ -17,6 +17,27 @@ export function wireKeys(root, commands) {
 }
 
 /**
+ * Keeps the keys that are pressed while the book opens, and gives them to it once it is there.
+ * @param {HTMLElement} root
+ * @returns {() => void} to be called when the book is ready
+ */
+export function keepKeys(root) {
+  /** @type {KeyboardEvent[]} */
+  const kept = [];
+  const keep = (/** @type {KeyboardEvent} */ event) => {
+    const { target, key } = event;
+    if (event.ctrlKey || event.altKey || event.metaKey || key === 'Tab' || target !== document.body) return;
+    event.stopImmediatePropagation();
+    kept.push(event);
+  };
+  window.addEventListener('keydown', keep, true);
+  return () => {
+    window.removeEventListener('keydown', keep, true);
+    for (const event of kept) root.dispatchEvent(new KeyboardEvent('keydown', event));
+  };
+}
+
+/**
  * The key as shortcuts name it. Where letters are others than Latin ones, its place on the keyboard counts.
  * @param {KeyboardEvent} event
  */
