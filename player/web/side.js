@@ -158,6 +158,7 @@ export class SidePanel {
     this.leave();
     this.room.free();
     if (hadFocus) this.room.giveBack();
+    else focusByKey();
   }
 
   /** Closes the panel because another one opens. */

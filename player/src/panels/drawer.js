@@ -73,6 +73,7 @@ export class Drawer {
     this.element.hidden = true;
     this.onToggle();
     if (hadFocus) giveFocus(this.from);
+    else focusByKey();
   }
 
   /**

@@ -1,4 +1,4 @@
-import { focusByKey, part } from '../book/dom.js';
+import { focusByKey, giveFocus, part } from '../book/dom.js';
 
 /**
  * A modal dialog. The browser makes everything behind it inert and gives the focus back when it closes.
@@ -14,7 +14,11 @@ export class Panel {
       if (event.target === this.dialog && this.beside) this.close();
     });
     this.dialog.addEventListener('keydown', (event) => this.#key(event));
-    this.dialog.addEventListener('close', () => this.onClose());
+    this.dialog.addEventListener('close', () => {
+      // Where the focus came from nowhere, browsers leave it here until the next frame.
+      if (this.dialog.contains(document.activeElement)) giveFocus(null);
+      this.onClose();
+    });
     part(element, '.close').addEventListener('click', () => this.close());
     this.onClose = () => {};
   }
@@ -34,12 +38,10 @@ export class Panel {
   }
 
   /**
-   * Keys typed here do not turn pages, and Tab stays within the panel. Until the next frame a closed panel still has
-   * the focus if it came from nowhere.
+   * Keys typed here do not turn pages, and Tab stays within the panel.
    * @param {KeyboardEvent} event
    */
   #key(event) {
-    if (!this.dialog.open) return;
     event.stopPropagation();
     if (event.key !== 'Tab') return;
     const controls = [...this.dialog.querySelectorAll('button, input')]
