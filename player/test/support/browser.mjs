@@ -25,9 +25,21 @@ export const clock = {
   },
 };
 
+/** What is drawn while a test looks: what is called or set, and with which values. */
+export const drawings = { calls: [] };
+
 /** Takes every call and every value that a drawing makes of it. */
 function drawing(canvas) {
-  const context = new Proxy({ canvas }, { get: (target, name) => target[name] ?? (() => context) });
+  const context = new Proxy({ canvas }, {
+    get: (target, name) => target[name] ?? ((...values) => {
+      drawings.calls.push([name, values]);
+      return context;
+    }),
+    set: (target, name, value) => {
+      drawings.calls.push([name, [value]]);
+      return Reflect.set(target, name, value);
+    },
+  });
   return context;
 }
 
@@ -83,7 +95,7 @@ export function newWindow() {
     location: { hash: '', pathname: '/book/', protocol: 'https:' },
     matchMedia: () => ({ matches: false }),
     performance: { now: () => clock.now },
-    Image: Picture, HTMLInputElement: class {}, HTMLButtonElement: class {}, DOMMatrix: class {},
+    Image: Picture, HTMLInputElement: class {}, HTMLButtonElement: class {}, DOMMatrix: Array,
   });
   Object.defineProperty(globalThis, 'navigator', { value: { languages: ['en'] }, configurable: true });
   return globalThis.window;
