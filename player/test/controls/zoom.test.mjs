@@ -46,6 +46,22 @@ test('a double click keeps what lies there under it, another shows whole pages',
   assert.equal(table.zoom.now.level, 1.5, 'at once');
 });
 
+test('pages grow and shrink by and by, never beyond where that leads', () => {
+  const table = open();
+  for (const goal of [2.5, 1]) {
+    const levels = [table.zoom.now.level];
+    table.zoom.toggleAt(700, 300);
+    while (levels.at(-1) !== goal && levels.length < 60) {
+      clock.run(16);
+      levels.push(table.zoom.now.level);
+    }
+    const ordered = levels.toSorted((a, b) => (goal > 1 ? a - b : b - a));
+    assert.deepEqual(levels, ordered);
+    assert.equal(levels.at(-1), goal);
+    assert.ok(new Set(levels).size > 5, `${levels}`);
+  }
+});
+
 test('the wheel with Ctrl enlarges about the pointer, and small steps add up', () => {
   const table = open();
   const pushes = [[-30, 3, Math.exp(0.9)], [-100, 20, 5], [100, 20, 1], [-1, 90, Math.exp(0.9)], [1, 88, 1],
