@@ -1,3 +1,4 @@
+#include "output/CommitGuard.h"
 #include "output/CommitSwitch.h"
 #include "output/FolderCommit.h"
 #include "output/PublishTransaction.h"
@@ -6,10 +7,12 @@
 #include "support/RecordedLog.h"
 #include "support/TemplateLibrary.h"
 #include "system/FileDescriptor.h"
+#include "system/LockedFolder.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -327,6 +330,60 @@ TEST_F(Transaction, KeepsWhatOthersPutIntoAFolderAfterItWasCopied) {
         EXPECT_EQ(state(path(base)),
                   "files/ files/1=" + QString(base == "added" ? "new" : "theirs") +
                       " files/late=theirs files/sub/ files/sub/late=theirs");
+    }
+}
+
+// A program in the middle of a switch, which it may have done as a whole. Without a kill it is
+// content with how things are.
+[[noreturn]] void switchEntries(const QString& folder, bool isWhole, bool isKilled) {
+    const QString staging = LockedFolder::make(folder + "/.folvero-publish-1-XXXXXX");
+    for (const char* name : {"/swap/a", "/swap/b"})
+        TestFiles::write(staging + name, "new");
+    const FileDescriptor opened(::open(QFile::encodeName(folder).constData(), O_RDONLY));
+    CommitSwitch steps(opened.number(), LockedFolder::descriptor(staging));
+    steps.addReplacement("a");
+    steps.addReplacement("b");
+    steps.addRemoval("c");
+    steps.writeJournal(staging, nullptr);
+    {
+        const CommitGuard guard(steps);
+        steps.apply();
+        if (!isWhole)
+            QFile::rename(staging + "/away/c", folder + "/c");
+        if (isKilled)
+            ::raise(SIGKILL);
+    }
+    ::_exit(0);
+}
+
+TEST_F(Transaction, IsEndedOrUndoneByItsGuardWhenTheProgramIsKilled) {
+    struct Case {
+        bool isWhole, isKilled;
+        const char* after;
+    };
+    for (const auto& [isWhole, isKilled, after] : {Case{false, true, "a=old c=old"},
+                                                   {true, true, "a=new b=new"},
+                                                   {false, false, "a=new b=new c=old journal"}}) {
+        const QTemporaryDir book;
+        for (const char* name : {"/a", "/c"})
+            TestFiles::write(book.path() + name, "old");
+        const pid_t child = ::fork();
+        if (child == 0)
+            switchEntries(book.path(), isWhole, isKilled);
+        ::waitpid(child, nullptr, 0);
+        const QString staging =
+            QDir(book.path()).entryList({".folvero*"}, QDir::Dirs | QDir::Hidden).value(0);
+        const FileDescriptor opened(::open(QFile::encodeName(book.path()).constData(), O_RDONLY));
+        const auto isGuarded = [&] {
+            return LockedFolder::isLocked(opened.number(), QFile::encodeName(staging));
+        };
+        for (int i = 0; i < 6000 && isGuarded(); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        EXPECT_FALSE(isGuarded());
+        const QString journal =
+            CommitSwitch::hasJournal(book.filePath(staging)) ? " journal" : QString();
+        ASSERT_TRUE(QDir(book.filePath(staging)).removeRecursively());
+        EXPECT_EQ(state(book.path()) + journal, after);
     }
 }
 
