@@ -1,6 +1,7 @@
 #include "library/BookResult.h"
 #include "library/LibraryLayout.h"
 #include "support/BookReader.h"
+#include "support/ExpectedText.h"
 #include "support/Program.h"
 #include "support/TemplateLibrary.h"
 
@@ -82,6 +83,29 @@ protected:
         return {};
     }
 
+    // Each link leads to a file, and to a place in it.
+    void expectLinksToLead() const {
+        static const QRegularExpression link("href=\"([^\":?#]*)(?:#([^\"]+))?\"");
+        for (const auto& [name, content] : BookReader::contentsBeneath(path())) {
+            if (!name.endsWith(".html"))
+                continue;
+            const QString folder = QFileInfo(path(name)).path() + '/';
+            for (auto each = link.globalMatch(QString::fromUtf8(content)); each.hasNext();) {
+                const auto found = each.next();
+                const QString target = found.captured(1);
+                const QString file =
+                    target.isEmpty() ? path(name) : QDir::cleanPath(folder + target);
+                if (file.startsWith(path("books/")))
+                    continue; // there are none
+                EXPECT_TRUE(QFileInfo::exists(file)) << found.captured().toStdString();
+                EXPECT_TRUE(
+                    found.captured(2).isEmpty() ||
+                    TestFiles::read(file).contains("id=\"" + found.captured(2).toUtf8() + '"'))
+                    << found.captured().toStdString() << " in " << name.toStdString();
+            }
+        }
+    }
+
     QTemporaryDir iRoot;
 };
 
@@ -131,6 +155,7 @@ TEST_F(CatalogueTest, ListsEveryBookOnceInEachOrder) {
                 HasSubstr("href=\"../" + bookPage("first").toStdString()));
     EXPECT_THAT(read("catalogue/year/1850.html"), HasSubstr("\u00c4pfel"));
     EXPECT_THAT(read("catalogue/new.html"), HasSubstr("\u00c4pfel"));
+    expectLinksToLead();
 }
 
 TEST_F(CatalogueTest, HasTheEarlierBookAfterAFailureAndNoneThatWasNeverMade) {
@@ -227,6 +252,34 @@ TEST_F(CatalogueTest, RemembersItsAddressAndHasNoFeedsWithout) {
     EXPECT_FALSE(exists("sitemap.xml"));
     for (const QStringList& wrong : {QStringList{"--url", "books"}, {"--language", "xx"}})
         EXPECT_EQ(make(wrong).exitCode, 2);
+}
+
+// With FOLVERO_WRITE_EXPECTED=1 in the environment it is written anew. A line stands where it
+// comes first, without the way up to the library's folder.
+TEST_F(CatalogueTest, IsAsWrittenDown) {
+    addBook("hill", {"A hill & \"more\"", "Ann; Zo\u00eb", "c. 1850", "de",
+                     "https://example.org/licence", "Fruit; Trees"});
+    addBook("tea", {"Tea", "Ann", "2001-04", "en", "", "Trees"}, 90'000);
+    addBook("bare", {"bare", "", "", "", "", ""}, 200);
+    QDir().mkpath(path("books/hill"));
+    TestFiles::write(path("books/hill/manifest.json"), "{}");
+    made({"--url", address, "--title", "Lesesaal", "--contact", "a@b.org", "--oai-gateway",
+          "http://gate.example/oai"});
+    QByteArrayList found;
+    QSet<QByteArray> known;
+    for (const auto& [name, content] : BookReader::contentsBeneath(path())) {
+        if (name.startsWith(LibraryLayout::state) || name.endsWith(".css") ||
+            name.endsWith(".js") || name.endsWith(".svg"))
+            continue;
+        found << "== " + name.toUtf8();
+        for (QByteArray line : content.split('\n')) {
+            line.replace("../", "");
+            if (!known.contains(line))
+                found << line;
+            known << line;
+        }
+    }
+    expectLinesOf(FOLVERO_CATALOGUE_TEXT, found);
 }
 
 std::string value(const pugi::xml_node& node, const char* query) {
