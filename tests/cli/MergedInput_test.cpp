@@ -69,6 +69,8 @@ TEST_F(MergedInput, LinksAndBookmarksLeadToThePagesOfTheBook) {
     EXPECT_EQ(outline[0].toArray()[0], "An outline three deep");
     EXPECT_EQ(outline[0].toArray()[2].toArray().last().toArray()[1], 9);
     EXPECT_EQ(outline[1].toArray()[1], first + 1);
+    EXPECT_TRUE(
+        TestFiles::read(file("index.html")).contains("<title>An outline three deep</title>"));
 }
 
 TEST_F(MergedInput, PicturesStandAsTheyWereTakenAndInTheOrderOfTheirNumbers) {
@@ -92,10 +94,12 @@ TEST_F(MergedInput, PicturesStandAsTheyWereTakenAndInTheOrderOfTheirNumbers) {
 
 TEST_F(MergedInput, APictureBesideADocumentHasItsPageSize) {
     const QString cover = picture("cover.jpg", {300, 200}, Qt::red);
-    ASSERT_EQ(merge({cover, Program::sample("text.pdf")}, {"--type=html"}).exitCode, 0);
-    EXPECT_EQ(QImage(file("files/page/1.jpg")).size(), QImage(file("files/page/2.jpg")).size());
+    const QString tower = picture("tower.jpg", {100, 400}, Qt::blue);
+    ASSERT_EQ(merge({cover, tower, Program::sample("text.pdf")}, {"--type=html"}).exitCode, 0);
+    EXPECT_EQ(QImage(file("files/page/1.jpg")).size(), QImage(file("files/page/3.jpg")).size());
     EXPECT_EQ(colour(1, 0.5, 0.1), "white") << "above the picture";
     EXPECT_EQ(colour(1, 0.5, 0.45) + colour(1, 0.5, 0.55), "redwhite");
+    EXPECT_EQ(colour(2, 0.1, 0.2) + colour(2, 0.5, 0.2) + colour(2, 0.9, 0.2), "whitebluewhite");
 }
 
 TEST_F(MergedInput, WhatADocumentForbidsOrHidesStaysSo) {

@@ -4,6 +4,7 @@
 #include "template/StyleFolders.h"
 
 #include <QImage>
+#include <QJsonArray>
 
 namespace {
 
@@ -94,6 +95,14 @@ TEST_F(PublishedProject, HasThePagesOfItsListTurnedAsItSays) {
     project.pages.pop_back();
     published({save(project)});
     EXPECT_EQ(QDir(file("files/page")).entryList({"*.jpg"}).size(), 2);
+}
+
+TEST_F(PublishedProject, PagesOfAListKeepWhatTheyAreCalled) {
+    Project project = projectOf({copy("spreads.pdf")});
+    project.pages = {{0, 2, 0}, {}, {0, 0, 0}};
+    project.import.spreads = Spreads::keep;
+    published({save(project)});
+    EXPECT_EQ(data("web/book").object()["labels"], (QJsonArray{"4-5", "", "Cover"}));
 }
 
 TEST_F(PublishedProject, ChangedDocumentIsWarnedOfAndMissingOneNamedWithItsPlaces) {
