@@ -249,6 +249,28 @@ TEST_F(LibraryTest, LosesNothingWhenItIsStopped) {
                     .isEmpty());
 }
 
+TEST_F(LibraryTest, SaysWhatEndedTheProcessOfABook) {
+    list(line("thousand.pdf", "long,,"));
+    for (const auto& [signal, state] :
+         {std::pair{SIGKILL, "to be tried again"}, {SIGBUS, "failed"}}) {
+        QProcess process;
+        process.start(Program::path(), {"library", "make", path("list.csv"), out()});
+        ASSERT_TRUE(process.waitForStarted());
+        std::vector<pid_t> started;
+        waitUntil([&] {
+            started = ChildProcesses::of(process.processId());
+            return !started.empty() && !ChildProcesses::running("draw", started.front()).empty();
+        });
+        ::kill(started.front(), signal);
+        Program::finish(process);
+        const QByteArray shown = status().output;
+        EXPECT_TRUE(shown.contains("the process that made it was ended by signal " +
+                                   QByteArray::number(signal)))
+            << shown.constData();
+        EXPECT_TRUE(shown.contains(state)) << shown.constData();
+    }
+}
+
 // As a share that is gone leaves its empty mount point behind.
 TEST_F(LibraryTest, EndsWhenItsFolderIsGone) {
     list(line("thousand.pdf", "long,,1-60") + line("outline.pdf", "next,,1"));

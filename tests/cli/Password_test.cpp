@@ -42,7 +42,10 @@ TEST(Password, IsAskedForWithoutBeingShown) {
     const auto opened = whenTyped("secreT\x7ft\n");
     EXPECT_EQ(opened.exitCode, 0);
     EXPECT_TRUE(opened.output.startsWith("Password: \r\nTitle: ")) << opened.output.constData();
-    for (const char* cancelling : {"secret\x03", "\x04"})
-        EXPECT_EQ(whenTyped(cancelling).exitCode, 130);
+    for (const char* cancelling : {"secret\x03", "\x04"}) {
+        const auto cancelled = whenTyped(cancelling);
+        EXPECT_EQ(cancelled.exitCode, 130);
+        EXPECT_EQ(cancelled.output, "Password: \r\nfolvero: cancelled; nothing was made\r\n");
+    }
     EXPECT_EQ(whenTyped("wrong\n").exitCode, 77);
 }
