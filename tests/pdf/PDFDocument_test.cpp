@@ -375,6 +375,8 @@ TEST_F(PDFDocumentTest, DrawsTheFramesThatLinksAskFor) {
     builder.addPage(
         PDFBuilder::page(pageSize, "",
                          {PDFBuilder::link({0, 50, 100, 50}, "/Border [0 0 6 [80 1]] /C [1 0 0]"),
+                          PDFBuilder::link({40, 60, 50, 30}, "/Border [0 0 6] /C [0 0 0 1]"),
+                          PDFBuilder::link({110, 60, 50, 30}, "/Border [0 0 6] /C [0.5 0]"),
                           PDFBuilder::link({100, 50, 100, 50}, "/Border [0 0 0] /C [1 0 0]"),
                           PDFBuilder::link({100, 0, 100, 50}, "/C [1 0 0]"),
                           PDFBuilder::link({0, 0, 100, 50}, "/BS << /W 6 /S /U >> /C [0 0 1]")}));
@@ -385,8 +387,10 @@ TEST_F(PDFDocumentTest, DrawsTheFramesThatLinksAskFor) {
                                        {0.99, 0.25, Qt::white},
                                        {0.99, 0.75, Qt::white},
                                        {0.25, 0.99, Qt::blue},
-                                       {0.01, 0.75, Qt::white}})
+                                       {0.01, 0.75, Qt::white},
+                                       {0.565, 0.25, Qt::white}})
         EXPECT_TRUE(isNear(colourAt(image, x, y), colour)) << x << ' ' << y;
+    EXPECT_LT(colourAt(image, 0.215, 0.25).lightness(), 60) << "black in inks";
     EXPECT_TRUE(vectors(*document, 0).contains("stroke-dasharray=\"8000 100\""));
 }
 

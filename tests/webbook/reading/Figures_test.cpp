@@ -44,6 +44,13 @@ QByteArray table() {
     return content + rect("f", 100, 200, 1, 60) + rect("f", 300, 200, 1, 60);
 }
 
+QByteArray staff() {
+    QByteArray content;
+    for (int rule = 0; rule < 5; ++rule)
+        content += rect("f", 100, 200 + 7 * rule, 400, 0.5);
+    return content;
+}
+
 QByteArray image(const char* box) {
     return QByteArray("q ") + box + " cm /I Do Q\n";
 }
@@ -102,6 +109,7 @@ TEST(Figures, AreImagesAndDrawingsButNotWhatTextStandsOn) {
              rect("f", 280, 200, 90, 70) + "0 g ",
          ""},
         {"lines under headings", text + rect("f", 50, 150, 500, 0.5), ""},
+        {"music", text + staff(), "99 199 501 229"},
         {"an image", text + image("200 0 0 100 100 500"), "99 199 301 301 image"},
         {"what a clip leaves of it",
          text + "q 100 500 50 100 re W n " + image("200 0 0 100 100 500") + 'Q',
