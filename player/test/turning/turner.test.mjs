@@ -113,6 +113,18 @@ test('a page is drawn once, and again when its picture has changed', () => {
   assert.deepEqual(drawn, [1, 2, 1]);
 });
 
+test('a page is drawn anew for a window of another size', () => {
+  const { book, turner } = new Table();
+  const faceOf = () => book.faces(4, 3, 'left', 1).front;
+  const before = { ...book.layout };
+  assert.equal(faceOf().width, Math.round(before.pageWidth));
+  book.root.clientHeight = 500;
+  book.resize();
+  turner.resized();
+  assert.ok(book.layout.pageWidth < before.pageWidth);
+  assert.equal(faceOf().width, Math.round(book.layout.pageWidth));
+});
+
 test('leaves are drawn at two pixels a point at most, and at fewer once frames came late', () => {
   /** Densities after turns with these milliseconds between frames. */
   const densities = (...intervals) => {
