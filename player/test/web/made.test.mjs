@@ -15,9 +15,10 @@ const { Tree } = await import('../../web/tree.js');
 
 const EXPECTED = new URL('made.txt', import.meta.url);
 const WRITES = Boolean(process.env.FOLVERO_WRITE_EXPECTED);
-const expected = WRITES ? '' : await readFile(EXPECTED, 'utf8');
+if (WRITES) await writeFile(EXPECTED, '');
+const expected = await readFile(EXPECTED, 'utf8');
 
-/** Asserts that elements are as they are written down; with FOLVERO_WRITE_EXPECTED=1 they are written anew. */
+/** Asserts that elements are as they are written down; with FOLVERO_WRITE_EXPECTED=1 in the environment, writes them anew. */
 async function isAsWritten(name, elements) {
   const found = [`== ${name}`, ...elements.flatMap((element) => element.written()), ''].join('\n');
   if (WRITES) await writeFile(EXPECTED, found, { flag: 'a' });
