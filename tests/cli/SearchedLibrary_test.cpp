@@ -108,14 +108,20 @@ TEST_F(SearchedLibraryTest, MarksWordsInViewers) {
     EXPECT_EQ(page["ignored"], QJsonArray{"motivation"});
     const QJsonArray hits = page["items"].toArray();
     ASSERT_EQ(hits.size(), 2);
-    EXPECT_EQ(hits[0]["body"]["value"], "Hügel");
+    EXPECT_EQ(hits[0]["body"].toObject(),
+              (QJsonObject{{"type", "TextualBody"}, {"value", "Hügel"}, {"format", "text/plain"}}));
+    EXPECT_EQ(hits[0]["motivation"], "highlighting");
     // Letters 7 to 11 of a page 600 points wide, on a canvas of 1200 pixels.
     EXPECT_EQ(hits[0]["target"], "https://example.org/b/canvas/1#xywh=140,0,100,24");
     const QString host = QStringLiteral("http://127.0.0.1:%1").arg(served.port);
     EXPECT_EQ(hits[1]["target"], host + "/books/plain/canvas/2#xywh=0,0,50,12");
     const QJsonValue context = page["annotations"][0]["items"][0]["target"];
     EXPECT_EQ(context["source"], hits[0]["id"]);
-    EXPECT_EQ(context["selector"][0]["prefix"], "Ein <b>");
+    EXPECT_EQ(context["type"], "SpecificResource");
+    const QJsonValue quote = context["selector"][0];
+    EXPECT_EQ(quote["type"], "TextQuoteSelector");
+    EXPECT_EQ(quote["prefix"].toString() + quote["exact"].toString(), "Ein <b>Hügel");
+    EXPECT_TRUE(quote["suffix"].toString().startsWith("</b>"));
     EXPECT_EQ(served.json("/books/none/search?q=x")["items"], QJsonArray());
 }
 
