@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>%1: is a project; open it alone</source>
-        <translation>%1&amp;#x202f;: est un projet&amp;#x202f;; ouvrez-le seul</translation>
+        <translation>%1&#x202f;: est un projet&#x202f;; ouvrez-le seul</translation>
     </message>
     <message>
         <source>Nothing was imported.</source>
@@ -808,7 +808,7 @@
     <name>NameWindow</name>
     <message>
         <source>&amp;Name of the style:</source>
-        <translation>&amp;Nom du style&amp;#x202f;:</translation>
+        <translation>&amp;Nom du style&#x202f;:</translation>
     </message>
 </context>
 <context>
@@ -910,7 +910,7 @@
     </message>
     <message>
         <source>For a web site: with contents, search and links; opens page by page</source>
-        <translation>Pour un site web&amp;#xa0;: avec sommaire, recherche et liens&amp;#x202f;; s’ouvre page par page</translation>
+        <translation>Pour un site web&#xa0;: avec sommaire, recherche et liens&#x202f;; s’ouvre page par page</translation>
     </message>
     <message>
         <source>Web book in &amp;one file</source>
@@ -922,11 +922,11 @@
     </message>
     <message>
         <source>For a quick look: made in less time, without contents, search and links</source>
-        <translation>Pour un coup d’œil&amp;#xa0;: plus vite fait, sans sommaire, recherche ni liens</translation>
+        <translation>Pour un coup d’œil&#xa0;: plus vite fait, sans sommaire, recherche ni liens</translation>
     </message>
     <message>
         <source>For people with a Mac: one file that opens with a double-click</source>
-        <translation>Pour qui a un Mac&amp;#xa0;: un fichier qui s’ouvre d’un double-clic</translation>
+        <translation>Pour qui a un Mac&#xa0;: un fichier qui s’ouvre d’un double-clic</translation>
     </message>
     <message>
         <source>Mo&amp;re options</source>
@@ -940,7 +940,7 @@
     </message>
     <message>
         <source>Where the book will be on the web: for search engines, previews of links, “Copy link” and the text for embedding</source>
-        <translation>Où le livre se trouvera sur le web&amp;#xa0;: pour les moteurs de recherche, les aperçus de liens, «&amp;#xa0;Copier le lien&amp;#xa0;» et le code d’intégration</translation>
+        <translation>Où le livre se trouvera sur le web&#xa0;: pour les moteurs de recherche, les aperçus de liens, «&#xa0;Copier le lien&#xa0;» et le code d’intégration</translation>
     </message>
     <message>
         <source>all pages, or for example 1-12</source>
@@ -949,21 +949,21 @@
     </message>
     <message>
         <source>The pages that can be read, by their numbers in the document; the book contains nothing of the others</source>
-        <translation>Les pages qui peuvent être lues, par leurs numéros dans le document&amp;#x202f;; le livre ne contient rien des autres</translation>
+        <translation>Les pages qui peuvent être lues, par leurs numéros dans le document&#x202f;; le livre ne contient rien des autres</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
         <extracomment>The book&apos;s address on the web.</extracomment>
-        <translation>Adr&amp;esse&amp;#xa0;:</translation>
+        <translation>Adr&amp;esse&#xa0;:</translation>
     </message>
     <message>
         <source>Rea&amp;ding sample:</source>
         <extracomment>Some of the book&apos;s pages, as a foretaste.</extracomment>
-        <translation>Ext&amp;rait&amp;#xa0;:</translation>
+        <translation>Ext&amp;rait&#xa0;:</translation>
     </message>
     <message>
         <source>Shows the book inside another page: put this into that page. %1 stands for the book&apos;s address until that is given above.</source>
-        <translation>Affiche le livre dans une autre page&amp;#xa0;: collez ce code dans cette page. %1 tient la place de l’adresse du livre tant qu’elle n’est pas indiquée plus haut.</translation>
+        <translation>Affiche le livre dans une autre page&#xa0;: collez ce code dans cette page. %1 tient la place de l’adresse du livre tant qu’elle n’est pas indiquée plus haut.</translation>
     </message>
 </context>
 <context>
@@ -1053,14 +1053,14 @@
     </message>
     <message>
         <source>The address must be that of a folder or page, such as https://example.org/book/, without “?” and “#”.</source>
-        <translation>L’adresse doit être celle d’un dossier ou d’une page, comme https://example.org/livre/, sans «&amp;#xa0;?&amp;#xa0;» ni «&amp;#xa0;#&amp;#xa0;».</translation>
+        <translation>L’adresse doit être celle d’un dossier ou d’une page, comme https://example.org/livre/, sans «&#xa0;?&#xa0;» ni «&#xa0;#&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>OwnStyles</name>
     <message>
         <source>The template itself has a style “%1”. Choose another name.</source>
-        <translation>Le modèle a lui-même un style «&amp;#xa0;%1&amp;#xa0;». Choisissez un autre nom.</translation>
+        <translation>Le modèle a lui-même un style «&#xa0;%1&#xa0;». Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>Type a name.</source>
@@ -1076,7 +1076,7 @@
     </message>
     <message>
         <source>There is a style “%1” already. Choose another name.</source>
-        <translation>Il y a déjà un style «&amp;#xa0;%1&amp;#xa0;». Choisissez un autre nom.</translation>
+        <translation>Il y a déjà un style «&#xa0;%1&#xa0;». Choisissez un autre nom.</translation>
     </message>
 </context>
 <context>
@@ -1711,7 +1711,7 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     </message>
     <message>
         <source>Save the pages of “%1” first?</source>
-        <translation>Enregistrer d’abord les pages de «&amp;#xa0;%1&amp;#xa0;»&amp;#x202f;?</translation>
+        <translation>Enregistrer d’abord les pages de «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>The document that you import takes the place of the pages that you have put together. Without saving they are lost.</source>
@@ -1765,7 +1765,7 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     <name>ReadingSample</name>
     <message>
         <source>The reading sample needs numbers of pages, such as 1-12, and not “%1”.</source>
-        <translation>L’extrait demande des numéros de pages, comme 1-12, et non «&amp;#xa0;%1&amp;#xa0;».</translation>
+        <translation>L’extrait demande des numéros de pages, comme 1-12, et non «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The book has none of the pages of the reading sample.</source>
@@ -1924,11 +1924,11 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     <message>
         <source>The style “%1” cannot be used. %2</source>
         <extracomment>%1 is the style&apos;s name, %2 a sentence that tells why.</extracomment>
-        <translation>Le style «&amp;#xa0;%1&amp;#xa0;» est inutilisable. %2</translation>
+        <translation>Le style «&#xa0;%1&#xa0;» est inutilisable. %2</translation>
     </message>
     <message>
         <source>Delete the style “%1”?</source>
-        <translation>Supprimer le style «&amp;#xa0;%1&amp;#xa0;»&amp;#x202f;?</translation>
+        <translation>Supprimer le style «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>Books and projects that have it keep their look.</source>
@@ -2129,7 +2129,7 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     </message>
     <message>
         <source>Replace the style “%1”?</source>
-        <translation>Remplacer le style «&amp;#xa0;%1&amp;#xa0;»&amp;#x202f;?</translation>
+        <translation>Remplacer le style «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
     <message>
         <source>You have saved a style of this name before. Its settings would be lost.</source>

@@ -71,6 +71,10 @@ class Translations(unittest.TestCase):
                 self.assertEqual(len(re.findall(r"&(?=\w)", text)), len(re.findall(r"&(?=\w)", source)))
                 self.assertEqual(re.findall("[…:]$", text), re.findall("[…:]$", source))
 
+    def test_no_character_is_escaped_twice(self):
+        """Readers of XML take one level away: the other would be read in the window."""
+        self.assertEqual([text for _, text in ALL_TEXTS if re.search(r"&#?\w+;", text)], [])
+
 
 if __name__ == "__main__":
     unittest.main()
