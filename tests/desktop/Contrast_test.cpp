@@ -2,40 +2,72 @@
 #include "app/desktop/BorderedStyle.h"
 #include "desktop/ColorContrast.h"
 #include "desktop/DesktopProgram.h"
+#include "desktop/DrawnTexts.h"
+#include "desktop/Views.h"
 
 #include <algorithm>
 
 namespace {
 
-// Of what stands out most in a picture against the colour that it has most of.
-double contrast(const QImage& picture) {
+// Letters with strokes of whole pixels.
+constexpr int scale = 3;
+constexpr double readable = 4.5;
+
+// Of what stands out most in a part of a picture against the colour that it has most of.
+double contrast(const QImage& picture, const QRect& part) {
     QHash<QRgb, int> colors;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x)
             ++colors[picture.pixel(x, y)];
     }
     const QRgb ground = std::max_element(colors.cbegin(), colors.cend()).key();
     double best = 1;
-    for (const QRgb color : colors.keys())
-        best = std::max(best, ColorContrast::between(color, ground));
+    for (auto it = colors.cbegin(); it != colors.cend(); ++it)
+        best = std::max(best, ColorContrast::between(it.key(), ground));
     return best;
 }
 
-// Without its edge, where there may be a frame.
-QImage inside(QWidget& widget, const QRect& rect) {
-    return widget.grab(rect.adjusted(4, 4, -4, -4)).toImage();
-}
-
-QImage chosen(QAbstractItemView& view) {
-    return inside(*view.viewport(), view.visualRect(view.currentIndex()));
-}
-
-QImage chosenInPopup(QComboBox& list) {
-    list.showPopup();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list.view()->isVisible(); }));
-    const QImage picture = chosen(*list.view());
-    list.hidePopup();
+QImage enlarged(QWidget& view) {
+    QImage picture(view.size() * scale, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    view.render(&picture);
     return picture;
+}
+
+// What can't be used may be faint, and an editor covers what it edits.
+bool isToBeRead(const DrawnText& drawn, const QWidget& view) {
+    const QPoint middle = drawn.place.center().toPoint();
+    const QWidget& widget = *drawn.widget;
+    const QWidget* above = view.childAt(middle);
+    const bool isCovered = above && above != &widget && widget.isAncestorOf(above);
+    const auto* menu = qobject_cast<const QMenu*>(&widget);
+    const QAction* action = menu ? menu->actionAt(menu->mapFrom(&view, middle)) : nullptr;
+    return widget.isEnabled() && !isCovered && (!action || action->isEnabled()) &&
+           !drawn.text.trimmed().isEmpty();
+}
+
+// Where its widget shows it; empty for a line that is scrolled half out of sight.
+QRect seenPart(const DrawnText& drawn, const QWidget& view) {
+    const QRectF room(drawn.widget->mapTo(&view, QPoint()), drawn.widget->size());
+    const QRectF seen = drawn.place & room & QRectF(view.rect());
+    if (seen.height() < drawn.place.height() * 0.7)
+        return {};
+    return QRectF(seen.topLeft() * scale, seen.size() * scale).toRect();
+}
+
+QStringList unreadable(QWidget& view) {
+    const QImage picture = enlarged(view);
+    QStringList found;
+    for (const DrawnText& drawn : DrawnText::in(view)) {
+        const QRect part = seenPart(drawn, view) & picture.rect();
+        if (part.isEmpty() || !isToBeRead(drawn, view))
+            continue;
+        if (const double got = contrast(picture, part); got < readable)
+            found << QString("%1 “%2” has %3")
+                         .arg(drawn.widget->metaObject()->className(), drawn.text)
+                         .arg(got, 0, 'f', 2);
+    }
+    return found;
 }
 
 // The brightest line of an empty control against its own ground, in a dark window.
@@ -52,54 +84,21 @@ int lineContrast(QWidget& control) {
     return brightest - Appearance::palette(true).color(QPalette::Window).lightness();
 }
 
-class Contrast : public DesktopProgram {
-protected:
-    QHash<QString, QImage> highlights() {
-        QHash<QString, QImage> all;
-        auto* settings = window().outlineView;
-        for (const QString key : {"topMargin", "mainbgImgPosition", "RightToLeft"}) {
-            const QModelIndex value = valueOf(key);
-            all[key] = chosen(*settings);
-            all[key + " title"] =
-                inside(*settings->viewport(), settings->visualRect(value.siblingAtColumn(0)));
-        }
-        settings->edit(valueOf("mainbgImgPosition"));
-        all["choices of a setting"] = chosenInPopup(*settings->findChild<QComboBox*>());
-        window().menu->importPDF->trigger();
-        auto& import = program->importWindow();
-        all["quality"] = chosenInPopup(*import.window().importQuality);
-        import.onCancelAction();
-        program->onSelectTemplate();
-        auto& chooser = program->selecteTmplWindow();
-        all["templates"] = chosen(*chooser.window().iTableViewTmpls);
-        const QImage style = chosen(*chooser.window().iImgBrowserView);
-        all["styles"] = style.copy(style.rect().adjusted(0, style.height() - 24, 0, 0));
-        chooser.onCancel();
-        auto& menu = *window().menuBar()->actions().first()->menu();
-        menu.popup({});
-        menu.setActiveAction(window().menu->importPDF);
-        all["menu"] = inside(menu, menu.actionGeometry(window().menu->importPDF));
-        menu.close();
-        return all;
-    }
-};
+class Contrast : public Views, public testing::WithParamInterface<Appearance::Choice> {};
 
 } // namespace
 
-TEST_F(Contrast, ChosenLineOfEveryListCanBeRead) {
-    // Letters with strokes of whole pixels.
-    const QFont usual = QApplication::font();
-    QApplication::setFont(QFont(usual.family(), 20, QFont::Bold));
-    launch();
-    const auto choices = window().menu->appearance->actions();
-    for (const auto choice : {Appearance::dark, Appearance::light}) {
-        choices.at(choice)->trigger();
-        const auto all = highlights();
-        for (auto it = all.cbegin(); it != all.cend(); ++it)
-            EXPECT_GE(contrast(it.value()), 4.5) << it.key().toStdString() << ", " << choice;
-    }
-    QApplication::setFont(usual);
+TEST_P(Contrast, EveryTextCanBeRead) {
+    std::size_t texts = 0;
+    const auto look = [&texts](const std::string& name, QWidget& view) {
+        EXPECT_EQ(unreadable(view).join('\n').toStdString(), "") << name;
+        texts += DrawnText::in(view).size();
+    };
+    visit({GetParam() == Appearance::dark ? "dark" : "light", "en", GetParam()}, look);
+    EXPECT_GT(texts, 1000u);
 }
+
+INSTANTIATE_TEST_SUITE_P(All, Contrast, testing::Values(Appearance::light, Appearance::dark));
 
 TEST(Appearance, HasAColourForEveryRole) {
     for (const bool isDark : {true, false}) {

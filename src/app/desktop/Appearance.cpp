@@ -89,7 +89,7 @@ QString Appearance::styleSheet(bool isDark) {
     const QPalette colors = palette(isDark);
     // Longer names come before names that are their prefix.
     for (const auto& [name, value] : std::initializer_list<std::pair<const char*, QColor>>{
-             {"@accentHover", QColor(isDark ? "#3b7ec2" : "#2767ab")},
+             {"@accentHover", QColor(isDark ? "#3675b8" : "#2767ab")},
              {"@noteGround", noteColors(isDark).ground},
              {"@noteInk", noteColors(isDark).ink},
              {"@noteLine", noteColors(isDark).line},
@@ -98,7 +98,7 @@ QString Appearance::styleSheet(bool isDark) {
              {"@base", colors.color(QPalette::Base)},
              {"@button", colors.color(QPalette::Button)},
              {"@edge", QColor(isDark ? "#5a5f69" : "#b9bec7")},
-             {"@faint", QColor(isDark ? "#8b9099" : "#6b717b")},
+             {"@faint", QColor(isDark ? "#8b9099" : "#666c76")},
              {"@focus", QColor(isDark ? "#6aa9ec" : "#1f66b3")},
              {"@hover", QColor(isDark ? "#3b3f46" : "#e7e9ed")},
              {"@line", QColor(isDark ? "#3a3d43" : "#d8dbe0")},
@@ -127,7 +127,7 @@ QPalette Appearance::palette(bool isDark) {
     setColor(palette, QPalette::AlternateBase, isDark ? "#23252a" : "#f7f8fa");
     setColor(palette, QPalette::Text, isDark ? "#e8e9ec" : "#1f2328",
              isDark ? "#7d828b" : "#8f959e");
-    setColor(palette, QPalette::PlaceholderText, isDark ? "#8b9099" : "#767c86");
+    setColor(palette, QPalette::PlaceholderText, isDark ? "#8b9099" : "#666c76");
     setColor(palette, QPalette::Button, isDark ? "#34373d" : "#fbfbfc");
     setColor(palette, QPalette::ButtonText, isDark ? "#e8e9ec" : "#1f2328",
              isDark ? "#7d828b" : "#8f959e");
