@@ -1353,7 +1353,7 @@
     </message>
     <message>
         <source>Earlier</source>
-        <translation>Nach vorn</translation>
+        <translation>Früher</translation>
     </message>
     <message>
         <source>Move the selected pages towards the beginning</source>
@@ -1361,7 +1361,7 @@
     </message>
     <message>
         <source>Later</source>
-        <translation>Nach hinten</translation>
+        <translation>Später</translation>
     </message>
     <message>
         <source>Move the selected pages towards the end</source>

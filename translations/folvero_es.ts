@@ -1329,7 +1329,7 @@
     </message>
     <message>
         <source>Blank page</source>
-        <translation>Página en blanco</translation>
+        <translation>En blanco</translation>
     </message>
     <message>
         <source>Insert a blank page before the selected one</source>
@@ -2426,7 +2426,7 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     </message>
     <message>
         <source>Turn pages automatically</source>
-        <translation>Pasar páginas automáticamente</translation>
+        <translation>Avance automático</translation>
     </message>
     <message>
         <source>Pause between pages</source>

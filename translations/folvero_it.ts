@@ -2370,7 +2370,7 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     </message>
     <message>
         <source>Turning</source>
-        <translation>Movimento delle pagine</translation>
+        <translation>Movimento pagine</translation>
     </message>
     <message>
         <source>How the pages move, and whether they move by themselves.</source>

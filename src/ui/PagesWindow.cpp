@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 
@@ -120,6 +121,13 @@ void PagesWindow::fillToolBar() {
 void PagesWindow::updateColors() {
     for (const auto& [action, icon] : iIcons)
         action->setIcon(Icons::icon(icon, palette().color(QPalette::ButtonText)));
+}
+
+// Captions are longer in other languages.
+void PagesWindow::showEvent(QShowEvent* event) {
+    const int needed = iTools->sizeHint().width() + margins.left() + margins.right();
+    resize(std::max(width(), needed), height());
+    Sheet::showEvent(event);
 }
 
 void PagesWindow::changeEvent(QEvent* event) {

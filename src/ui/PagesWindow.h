@@ -33,6 +33,7 @@ public:
     QPushButton* btnOK;
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
