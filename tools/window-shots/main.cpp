@@ -60,9 +60,10 @@ public:
 private:
     // A copy of a sample, with a realistic name and folder.
     QString document(const char* sample, const char* name) const {
-        const QString folder = iOptions.language == QStringLiteral("de")
-                                   ? QStringLiteral("Dokumente")
-                                   : QStringLiteral("Documents");
+        static const QHash<QString, QString> folders{{QStringLiteral("de"), "Dokumente"},
+                                                     {QStringLiteral("es"), "Documentos"},
+                                                     {QStringLiteral("it"), "Documenti"}};
+        const QString folder = folders.value(iOptions.language, QStringLiteral("Documents"));
         const QString path = QStringLiteral("%1/%2.pdf").arg(folder, QLatin1String(name));
         QDir().mkpath(folder);
         QFile::remove(path);
@@ -120,7 +121,7 @@ private:
         save(iProgram.pictureOfSheet(), "importing");
         import.onCancelAction();
         waitUntil([&] { return !import.isImporting(); }, "the cancelled import");
-        import.importFile(document("encrypted.pdf", "Report"));
+        import.importFiles({document("encrypted.pdf", "Report")});
         PasswordWindow& question = import.passwordWindow();
         waitUntil([&] { return question.isVisible(); }, "the question for the password");
         question.txtPassword->setText(QStringLiteral("password"));
@@ -129,7 +130,7 @@ private:
         waitUntil([&] { return question.isVisible(); }, "the next question");
         save(iProgram.pictureOfSheet(), "password-wrong");
         import.onNoPasswordAction();
-        import.importFile(document("truncated.pdf", "Report"));
+        import.importFiles({document("truncated.pdf", "Report")});
         waitUntil([&] { return !import.isImporting(); }, "the failed import");
         save(iProgram.pictureOfSheet(), "import-failed");
         import.onCancelAction();
