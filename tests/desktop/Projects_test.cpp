@@ -26,6 +26,20 @@ protected:
     }
     std::size_t publishedPages() const { return configuration().at("Ppts").children.size(); }
     OutputWindow& publishSheet() const { return program->ouputWindow().window(); }
+    // As an HTML book, without opening the result.
+    void publish(const QString& title) const {
+        program->ouputWindow().setQuestions(
+            {[](const QString&) { return std::nullopt; },
+             [](const QString&, const QString&) { return true; },
+             [](const QString&, const QString&) { return false; }, [](const QString&) {},
+             [](const QString&, const QString& cause) { ADD_FAILURE() << cause.toStdString(); }});
+        trigger(&MainMenu::exportFlipBook);
+        publishSheet().txtOutputFolder->setText(path("out"));
+        publishSheet().txtTitle->setText(title);
+        publishSheet().mOutputType->button(OutputWindow::htmlBook)->setChecked(true);
+        QTest::mouseClick(publishSheet().btnPublish, Qt::LeftButton);
+        ASSERT_TRUE(waitUntil([this] { return !publishSheet().isVisible(); }));
+    }
 
     // Starts the program itself, with the folders of this test, and kills it after it has written
     // what it would lose.
@@ -59,17 +73,7 @@ TEST_F(Projects, BookIsTakenUpAgainAsItWas) {
     EXPECT_TRUE(window().windowTitle().startsWith("tea"));
     EXPECT_FALSE(ProjectFile::cover(path("tea.folvero")).isNull());
 
-    program->ouputWindow().setQuestions(
-        {[](const QString&) { return std::nullopt; },
-         [](const QString&, const QString&) { return true; },
-         [](const QString&, const QString&) { return false; }, [](const QString&) {},
-         [](const QString&, const QString& cause) { ADD_FAILURE() << cause.toStdString(); }});
-    trigger(&MainMenu::exportFlipBook);
-    publishSheet().txtOutputFolder->setText(path("out"));
-    publishSheet().txtTitle->setText("Tea & Cake");
-    publishSheet().mOutputType->button(OutputWindow::htmlBook)->setChecked(true);
-    QTest::mouseClick(publishSheet().btnPublish, Qt::LeftButton);
-    ASSERT_TRUE(waitUntil([this] { return !publishSheet().isVisible(); }));
+    publish("Tea & Cake");
     EXPECT_TRUE(window().isWindowModified()) << "what to publish belongs to the project";
     trigger(&MainMenu::saveProject);
 
@@ -126,6 +130,18 @@ TEST_F(Projects, PagesThatWereArrangedMakeTheBookAndComeBackWithTheProject) {
     QTest::mouseClick(import.btnCancel, Qt::LeftButton);
     EXPECT_EQ(publishedPages(), 2u) << "the book stays as it was";
     EXPECT_FALSE(window().isWindowModified());
+}
+
+TEST_F(Projects, DemoBookThatWasPublishedHasNothingToSave) {
+    launch();
+    publish("Demo");
+    EXPECT_TRUE(QFile::exists(path("out/index.html")));
+    EXPECT_FALSE(window().isWindowModified());
+    edit("pageMoveTime", "2.5");
+    saveAs("demo.folvero");
+    EXPECT_EQ(ProjectFile::read(path("demo.folvero")).publish.title, "Demo");
+    publish("Demo 2");
+    EXPECT_TRUE(window().isWindowModified()) << "a project has changed";
 }
 
 TEST_F(Projects, ChangesAreNotLostUnasked) {

@@ -295,7 +295,9 @@ void ProjectSession::takePublish() {
     if (chosen == iPublish)
         return;
     iPublish = chosen;
-    setModified();
+    // Whoever only tries what becomes of the demo book has nothing to save.
+    if (!iDocuments.isEmpty() || !iPath.isEmpty())
+        setModified();
 }
 
 // A document is read again only after it was changed.
