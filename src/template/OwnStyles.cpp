@@ -104,12 +104,19 @@ bool OwnStyles::rename(const QString& stylePath, const QString& name, Message* e
 }
 
 bool OwnStyles::remove(const QString& stylePath, Message* error) {
+    for (const QString& name : {StyleFolders::settingsFile, StyleFolders::pictureFile}) {
+        const QString file = fileIn(stylePath, name);
+        const QFileInfo info(file);
+        errno = 0;
+        if ((info.exists() || info.isSymLink()) && !QFile::remove(file)) {
+            *error = Message::about(file, Message::ofLastSystemError());
+            return false;
+        }
+    }
     errno = 0;
-    if (!QFile::remove(fileIn(stylePath, StyleFolders::settingsFile))) {
+    if (!QDir().rmdir(stylePath) && QDir(stylePath).isEmpty()) {
         *error = Message::about(stylePath, Message::ofLastSystemError());
         return false;
     }
-    QFile::remove(fileIn(stylePath, StyleFolders::pictureFile));
-    QDir().rmdir(stylePath);
     return true;
 }

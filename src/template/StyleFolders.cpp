@@ -8,6 +8,18 @@
 #include <QFileInfo>
 #include <algorithm>
 
+namespace {
+
+// A folder with nothing in it but somebody else's files is none. What is left of a style is one
+// that users see, and can delete.
+bool isStyle(const QString& path) {
+    const QDir folder(path);
+    return folder.exists(StyleFolders::settingsFile) || folder.exists(StyleFolders::pictureFile) ||
+           folder.isEmpty();
+}
+
+} // namespace
+
 QString StyleFolders::own() {
     const QString support = Folders::userApplicationSupport();
     return Files::join(support.isNull() ? Folders::temporary() : support,
@@ -33,10 +45,8 @@ QStringList StyleFolders::ownOf(const QString& tmplName) {
         return {};
     const QString folder = Files::join(own(), tmplName);
     QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    names.removeIf([&](const QString& name) {
-        return !isName(name) ||
-               !QFileInfo::exists(Files::join(Files::join(folder, name), settingsFile));
-    });
+    names.removeIf(
+        [&](const QString& name) { return !isName(name) || !isStyle(Files::join(folder, name)); });
     QCollator order;
     order.setNumericMode(true);
     std::sort(names.begin(), names.end(), order);

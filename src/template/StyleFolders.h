@@ -10,7 +10,8 @@ namespace StyleFolders {
 QString own();
 // The folder of one style; null for names that can't be those of folders. It may not exist.
 QString ownFor(const QString& tmplName, const QString& styleName);
-// The folders of a template's own styles, sorted by name. One without a settings file is no style.
+// The folders of a template's own styles, sorted by name; also those that have lost their settings
+// file, see OwnStyles::failureOf().
 QStringList ownOf(const QString& tmplName);
 bool isOwn(const QString& stylePath);
 

@@ -104,6 +104,32 @@ TEST_F(OwnStylesTest, AreRenamedAndDeletedWhileABookHasThem) {
     EXPECT_TRUE(window().menu->resetSettings->isEnabled());
 }
 
+TEST_F(OwnStylesTest, AreDeletedAlsoWithoutTheirSettings) {
+    launch();
+    edit("topMargin", "40");
+    saveAs("Mine");
+    const QDir styles(QFileInfo(StyleFolders::ownFor("float", "Mine")).path());
+    ASSERT_TRUE(QFile::remove(file("Mine")) && styles.mkdir("Empty"));
+    TestFiles::write(styles.filePath("Notes/plan.txt"), "not ours");
+    chooser().setAskToDelete([](const QString&, const QString&) { return true; });
+    window().menu->selectTemplate->trigger();
+    EXPECT_FALSE(select("Notes"));
+    for (const char* name : {"Mine", "Empty"}) {
+        ASSERT_TRUE(select(name)) << name;
+        EXPECT_TRUE(notice().contains(file(name))) << notice().toStdString();
+        EXPECT_FALSE(chooser().window().btnOK->isEnabled());
+        QTest::mouseClick(chooser().window().btnDelete, Qt::LeftButton);
+        EXPECT_FALSE(select(name) || styles.exists(name)) << name;
+    }
+    TestFiles::write(file("Notes"), "no settings");
+    chooser().onRefresh();
+    window().menu->selectTemplate->trigger();
+    ASSERT_TRUE(select("Notes"));
+    chooser().onDelete();
+    EXPECT_FALSE(select("Notes"));
+    EXPECT_TRUE(styles.exists("Notes/plan.txt")) << "which somebody else has put there";
+}
+
 TEST_F(OwnStylesTest, AreKeptByProjectsWhereTheyAreMissing) {
     launch();
     choose("Garden");
