@@ -107,6 +107,7 @@ FlashTemplateOutlineDelegate::fieldCellForTableColumn(const QString& column, Ite
     case pt_color: {
         auto cell = std::make_unique<FlashTmplColorCell>(value);
         cell->setColor(MyColorOper::colorFromHexRGB(value));
+        cell->setPro(item);
         cell->setInfoButtonAction([this](TextFieldCell& sender) {
             onSelectColor(static_cast<FlashTmplColorCell&>(sender));
         });
@@ -166,7 +167,19 @@ void FlashTemplateOutlineDelegate::onSelectFile(FlashTmplFileCell& sender) {
 
 void FlashTemplateOutlineDelegate::onSelectColor(FlashTmplColorCell& sender) {
     Log::system(QStringLiteral("Seleting color now"));
-    sender.setColor2(iColorPanel(sender.color()));
+    FlashTemplateProperty* const item = sender.pro();
+    sender.setColor2(iColorPanel(sender.color(), [&](const QColor& color) {
+        if (item)
+            tryValue(*item, MyColorOper::colorToHexRGB(color));
+    }));
+    if (item)
+        tryValue(*item, item->value());
+}
+
+void FlashTemplateOutlineDelegate::tryValue(FlashTemplateProperty& item,
+                                            const QString& value) const {
+    if (iTrial)
+        iTrial(item, value);
 }
 
 void FlashTemplateOutlineDelegate::openPanelDidEnd(const QString& panelFile, int /*returnCode*/,

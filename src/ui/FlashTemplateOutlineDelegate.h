@@ -35,9 +35,16 @@ public:
     }
 
     // How the user is asked for files and colours.
-    using ColorPanel = std::function<QColor(const QColor& initial)>;
+    using ColorPanel =
+        std::function<QColor(const QColor& initial, const Panels::ColorMoved& moved)>;
     void setFilePanel(Panels::FilePanel panel) { iFilePanel = std::move(panel); }
     void setColorPanel(ColorPanel panel) { iColorPanel = std::move(panel); }
+
+    // Called with a value that the user tries, as by dragging a colour or while typing, and in the
+    // end with the setting's own. The setting keeps its value meanwhile.
+    using Trial = std::function<void(FlashTemplateProperty& item, const QString& value)>;
+    void setTrial(Trial trial) { iTrial = std::move(trial); }
+    void tryValue(FlashTemplateProperty& item, const QString& value) const;
 
     int numberOfChildrenOfItem(Item item) const;
     // nullptr for an index out of range.
@@ -73,4 +80,5 @@ private:
     std::shared_ptr<FlashTemplate> iFlashTmpl;
     Panels::FilePanel iFilePanel;
     ColorPanel iColorPanel;
+    Trial iTrial;
 };

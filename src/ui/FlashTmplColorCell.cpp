@@ -13,7 +13,7 @@ constexpr qreal tallest = 17;
 } // namespace
 
 FlashTmplColorCell::FlashTmplColorCell(const QString& text)
-    : TextFieldCell(text), iColor(Qt::red) {}
+    : FlashTmplCell(text), iColor(Qt::red) {}
 
 void FlashTmplColorCell::setColor2(const QColor& color) {
     iColor = color;

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "ui/TextFieldCell.h"
+#include "ui/FlashTmplCell.h"
 
 #include <QColor>
 
 // A colour as a swatch and as text; the swatch is the button.
-class FlashTmplColorCell : public TextFieldCell {
+class FlashTmplColorCell : public FlashTmplCell {
 public:
     FlashTmplColorCell() = default;
     // Starts with red.

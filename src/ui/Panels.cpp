@@ -128,9 +128,11 @@ std::optional<QString> Panels::chooseFileToSave(const QString& proposed, const Q
     return run(panel, proposed, types);
 }
 
-QColor Panels::chooseColor(const QColor& initial) {
+QColor Panels::chooseColor(const QColor& initial, const ColorMoved& moved) {
     QColorDialog panel(initial, QApplication::activeWindow());
     panel.setWindowTitle(Texts::tr("Choose a colour"));
+    if (moved)
+        QObject::connect(&panel, &QColorDialog::currentColorChanged, &panel, moved);
     wxCPWCDelegate delegate;
     QEventLoop session;
     QObject::connect(&panel, &QDialog::finished, &session, [&] {

@@ -21,8 +21,10 @@ std::optional<QString> chooseFile(const QString& proposed, const QStringList& ty
 // the name that is returned.
 std::optional<QString> chooseFileToSave(const QString& proposed, const QStringList& types);
 
-// The initial colour when cancelled.
-QColor chooseColor(const QColor& initial);
+// The initial colour when cancelled. moved is called with each colour that the user comes to
+// meanwhile, as while one is dragged; it may be empty.
+using ColorMoved = std::function<void(const QColor& color)>;
+QColor chooseColor(const QColor& initial, const ColorMoved& moved = {});
 
 // None when cancelled. prompt is the button's text.
 std::optional<QString> chooseFolder(const QString& prompt);

@@ -74,6 +74,7 @@ PropertyCellDelegate::PropertyCellDelegate(QTreeView& view)
     view.viewport()->setMouseTracking(true);
     view.viewport()->installEventFilter(this);
     view.installEventFilter(this);
+    connect(this, &QAbstractItemDelegate::closeEditor, this, &PropertyCellDelegate::endTyping);
 }
 
 void PropertyCellDelegate::prepare(Cell& cell, const QStyleOptionViewItem& option,
@@ -188,14 +189,18 @@ QWidget* PropertyCellDelegate::createEditor(QWidget* parent, const QStyleOptionV
     const FlashTemplateProperty* item = FlashTemplateModel::item(index);
     if (item->propertyType() == pt_bool)
         return nullptr;
-    if (item->propertyType() != pt_list)
-        return new ValueEditor(*item, parent);
+    auto* self = const_cast<PropertyCellDelegate*>(this);
+    if (item->propertyType() != pt_list) {
+        auto* edit = new ValueEditor(*item, parent);
+        connect(edit, &QLineEdit::textEdited, self,
+                [self, edit, at = QPersistentModelIndex(index)] { self->showTyped(*edit, at); });
+        return edit;
+    }
     auto* list = new ListEditor(parent);
     for (const QString& choice : FlashTemplateOutlineDelegate::choices(*item))
         list->addItem(TemplateTexts::shown(choice));
     list->setAccessibleName(TemplateTexts::shown(item->title()));
     list->setFont(option.font);
-    auto* self = const_cast<PropertyCellDelegate*>(this);
     connect(list, &QComboBox::activated, self, [self, list] {
         Q_EMIT self->commitData(list);
         Q_EMIT self->closeEditor(list);
@@ -386,6 +391,24 @@ bool PropertyCellDelegate::leaveEditor(QWidget& editor, int key) {
     if (next.isValid() && isEditedAsText(next))
         iView.edit(next);
     return true;
+}
+
+// A number or a colour, as soon as it is one. Half a path would be a file that is missing.
+void PropertyCellDelegate::showTyped(const ValueEditor& editor, const QModelIndex& index) {
+    auto* source = sourceOf(index);
+    const bool isShown = editor.validator() && editor.hasAcceptableInput();
+    if (!source || !isShown)
+        return;
+    iTypedIndex = index;
+    source->tryValue(*FlashTemplateModel::item(index), editor.value());
+}
+
+void PropertyCellDelegate::endTyping() {
+    const QPersistentModelIndex index = std::exchange(iTypedIndex, QPersistentModelIndex());
+    if (!index.isValid())
+        return;
+    FlashTemplateProperty& item = *FlashTemplateModel::item(index);
+    sourceOf(index)->tryValue(item, item.value());
 }
 
 bool PropertyCellDelegate::activate(const QModelIndex& index) {

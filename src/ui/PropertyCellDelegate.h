@@ -7,6 +7,7 @@
 #include <QStyledItemDelegate>
 
 class QTreeView;
+class ValueEditor;
 
 // Connects the outline delegate's cells to the property editor's view: draws them, passes mouse and
 // keyboard events to them, and opens an editor over the text of one. Keys always go to the value of
@@ -63,10 +64,13 @@ private:
     void toggle(QAbstractItemModel& model, const QModelIndex& index) const;
     void hover(const QPointF& at);
     void commit(const TextFieldCell& cell, const QModelIndex& index);
+    void showTyped(const ValueEditor& editor, const QModelIndex& index);
+    void endTyping();
 
     QTreeView& iView;
     // The cell that tracks the mouse, and the row whose button the pointer is over.
     std::unique_ptr<TextFieldCell> iTracked;
     QPersistentModelIndex iTrackedIndex;
     QPersistentModelIndex iHoveredIndex;
+    QPersistentModelIndex iTypedIndex; // of the value that is shown while it is typed
 };

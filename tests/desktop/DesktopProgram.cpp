@@ -31,7 +31,10 @@ std::unique_ptr<BrisleafAppDelegate> DesktopProgram::newProgram() {
                             losses << message;
                             return replaces;
                         },
-                        [this](const QColor& initial) { return color.value_or(initial); },
+                        [this](const QColor& initial, const Panels::ColorMoved& moved) {
+                            return usesColorPanel ? Panels::chooseColor(initial, moved)
+                                                  : color.value_or(initial);
+                        },
                         [this](const QString& path) { opened << path; }, [this] { ++abouts; },
                         [this](const QString& message, const QString&) {
                             unsavedAsked << message;

@@ -70,6 +70,7 @@ protected:
     bool recovers = false;
     QStringList recoveries; // questions about what an earlier run has left
     std::optional<QColor> color;
+    bool usesColorPanel = false; // the program's own in place of color
     QStringList opened;
     int abouts = 0; // how often the window about the program was asked for
 };

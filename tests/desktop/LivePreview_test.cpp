@@ -52,6 +52,39 @@ TEST_F(LivePreview, ChangesAreSeenAtOnceAndNothingIsWritten) {
     EXPECT_TRUE(openPageShows("!document.querySelector('[data-does=print]').hidden"));
 }
 
+TEST_F(LivePreview, ValuesThatAreDraggedOrTypedAreSeenBeforeTheyAreChosen) {
+    usesColorPanel = true;
+    const QString before = value("bgBeginColor");
+    for (const bool isChosen : {false, true}) {
+        QTimer::singleShot(0, &window(), [&] {
+            auto* panel = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(panel);
+            panel->setCurrentColor(QColor(1, 2, 3));
+            EXPECT_TRUE(openPageShows(backgroundHas("rgb(1, 2, 3)")));
+            panel->setCurrentColor(QColor(0x65, 0x43, 0x21));
+            EXPECT_TRUE(openPageShows(backgroundHas("rgb(101, 67, 33)")));
+            EXPECT_EQ(value("bgBeginColor"), before);
+            EXPECT_FALSE(program->isChangePending());
+            isChosen ? panel->accept() : panel->reject();
+        });
+        press("bgBeginColor");
+        EXPECT_TRUE(openPageShows((isChosen ? "" : "!") + backgroundHas("rgb(101, 67, 33)")));
+        EXPECT_EQ(program->isChangePending(), isChosen);
+    }
+    EXPECT_EQ(value("bgBeginColor"), "0x654321");
+
+    auto* view = window().outlineView;
+    view->edit(valueOf("topMargin"));
+    auto* field = view->findChild<QLineEdit*>();
+    ASSERT_TRUE(field);
+    field->selectAll();
+    QTest::keyClicks(field, "44");
+    EXPECT_TRUE(openPageShows(marginIs(44)));
+    EXPECT_EQ(value("topMargin"), "12");
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(openPageShows(marginIs(12)));
+}
+
 TEST_F(LivePreview, ChangesThatWaitAreShownAgainWhenThePageIsReloaded) {
     edit("topMargin", "44");
     ASSERT_TRUE(openPageShows(marginIs(44)));

@@ -162,7 +162,7 @@ TEST_F(Editor, HasACellForEachKind) {
 }
 
 TEST_F(EditorView, EverySettingIsReachedAndEditedWithTheKeyboardAlone) {
-    delegate.setColorPanel([](const QColor&) { return QColor(1, 2, 3); });
+    delegate.setColorPanel([](const QColor&, const auto&) { return QColor(1, 2, 3); });
     delegate.setFilePanel([](const QString&, const QStringList&) { return "/new.png"; });
     view.setFocus();
     const auto press = [&](const QString& key, Qt::Key with) {
@@ -296,7 +296,7 @@ TEST_F(EditorView, SettingsAreEditedWithTheMouse) {
     list->setCurrentIndex(2);
     Q_EMIT list->activated(2);
     EXPECT_EQ(value("choice"), "c");
-    delegate.setColorPanel([](const QColor& initial) {
+    delegate.setColorPanel([](const QColor& initial, const auto&) {
         EXPECT_EQ(initial, QColor(255, 128, 0));
         return QColor(1, 2, 3);
     });

@@ -132,11 +132,23 @@ void BrisleafAppDelegate::valueWasEdited(const FlashTemplateProperty& property) 
     showChangedSettings();
 }
 
-// What the open page cannot show waits until the change is applied.
-void BrisleafAppDelegate::showChangedSettings() {
+// Nothing is changed yet that could be applied.
+void BrisleafAppDelegate::valueIsTried(FlashTemplateProperty& property, const QString& value) {
+    const QString own = property.value();
+    property.setValue(value);
+    showSettings();
+    property.setValue(own);
+}
+
+void BrisleafAppDelegate::showSettings() {
     const auto settings =
         BookXML::make(iFlashTmpl.get(), {}, AppSettings::shareInstance().pageSize());
     iWindow->webView->applySettings(BookXML::text(*settings, pugi::format_raw));
+}
+
+// What the open page cannot show waits until the change is applied.
+void BrisleafAppDelegate::showChangedSettings() {
+    showSettings();
     tmplPpertyValueChanged();
 }
 

@@ -55,7 +55,7 @@ public:
         Panels::FilePanel fileToOpen;
         Panels::FilePanel fileToSave;
         std::function<bool(const QString& message, const QString& information)> replace;
-        std::function<QColor(const QColor& initial)> color;
+        FlashTemplateOutlineDelegate::ColorPanel color;
         std::function<void(const QString& path)> open;
         std::function<void()> about;
         std::function<Panels::Unsaved(const QString& message, const QString& information)> unsaved =
@@ -122,6 +122,8 @@ private:
     void showLook(const Project& project);
     void updateTmplPropertyTip();
     void valueWasEdited(const FlashTemplateProperty& property);
+    void valueIsTried(FlashTemplateProperty& property, const QString& value);
+    void showSettings();
     void showChangedSettings();
     void tmplPpertyValueChanged();
     void onTimerEvent();

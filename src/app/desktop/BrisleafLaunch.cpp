@@ -111,6 +111,9 @@ void BrisleafAppDelegate::showEditor() {
     tmplDelegate->setFlashTmpl(iFlashTmpl);
     tmplDelegate->setFilePanel(iQuestions.fileToOpen);
     tmplDelegate->setColorPanel(iQuestions.color);
+    tmplDelegate->setTrial([this](FlashTemplateProperty& property, const QString& value) {
+        valueIsTried(property, value);
+    });
     iOutline = std::make_unique<FlashTemplateModel>(*tmplDelegate);
     iOutline->setDefaults(&iDefaults);
     auto* view = iWindow->outlineView;
