@@ -161,10 +161,13 @@ QString OutputWindowDelegate::pageAddress() const {
 std::unique_ptr<FolveroOutput> OutputWindowDelegate::makeOutput() {
     const QString folder = iWindow->txtOutputFolder->text();
     const QString name = pageName();
+    iNewFolder.clear();
     if (AppSettings::shareInstance().outputType() == OutputWindow::application)
         return std::make_unique<FolveroOutputApp>(iBook.pageSource, iFlashTmpl, folder, name);
+    const bool isNew = !QFileInfo::exists(folder);
     errno = 0;
     iFolderFailure = QDir().mkpath(folder) ? QString() : Message::ofLastSystemError().local();
+    iNewFolder = isNew ? folder : QString();
     if (!isWeb())
         return std::make_unique<FolveroOutput>(iBook.pageSource, iFlashTmpl, folder, name);
     auto output = std::make_unique<FolveroOutputWeb>(iBook.pageSource, iFlashTmpl, folder, name);
@@ -190,8 +193,10 @@ void OutputWindowDelegate::onPublish() {
     const QString lost = overwriteWarning(*iOutput);
     if (!lost.isEmpty() && !iQuestions.replace(tr("Replace what is already there?"), lost))
         return;
-    if (!askForText(*iOutput))
+    if (!askForText(*iOutput)) {
+        goBackToSheet();
         return;
+    }
     iJob.begin();
     const PageFiles kind = isWeb() ? PageFiles::web : PageFiles::classic;
     if (iBook.pageSource && !iBook.pageSource->pagesWithout(kind).empty())
@@ -258,8 +263,7 @@ void OutputWindowDelegate::pageFilesAreMade(const std::shared_ptr<PageFilesOpera
     if (isCancelled || !operation->failure().isNull())
         delete iProgress;
     if (isCancelled) {
-        iJob.end({});
-        endSheet(1);
+        goBackToSheet();
         return;
     }
     if (!operation->failure().isNull()) {
@@ -271,6 +275,15 @@ void OutputWindowDelegate::pageFilesAreMade(const std::shared_ptr<PageFilesOpera
     publishAndEnd();
 }
 
+// With what the user has typed, and without anything that was made.
+void OutputWindowDelegate::goBackToSheet() {
+    iJob.end({});
+    iOutput.reset();
+    if (!iNewFolder.isEmpty())
+        QDir().rmdir(iNewFolder);
+    iWindow->activateWindow();
+}
+
 void OutputWindowDelegate::publishAndEnd() {
     Message cause;
     iResult.reset();
@@ -279,6 +292,10 @@ void OutputWindowDelegate::publishAndEnd() {
     } catch (const PlatformException& failure) {
         logger.error(QStringLiteral("publish error:%1").arg(failure.reason()));
         cause = failure.message();
+    }
+    if (iOutput->wasCancelled()) {
+        goBackToSheet();
+        return;
     }
     iJob.end(cause.isNull() ? QString() : tr("The book was not published."));
     endSheet(1);

@@ -17,7 +17,8 @@ class PublishProgress;
 
 // Controls the publish sheet: reads the user's choices, publishes while the sheet is open, and
 // offers to open the result. Set its book before it is shown; the page size is that of the
-// settings. The sheet ends with 1 after a publish, successful or not, and 0 without one.
+// settings. The sheet ends with 1 after a publish, successful or not, and 0 without one. It stays
+// open when a publish was cancelled.
 class OutputWindowDelegate : public QObject, public HasBook {
     Q_OBJECT
 
@@ -84,6 +85,7 @@ private:
     void publishAndEnd();
     void makePageFiles(PageFiles kind);
     void pageFilesAreMade(const std::shared_ptr<PageFilesOperation>& operation);
+    void goBackToSheet();
     void endSheet(int returnCode);
 
     OutputWindow* iWindow;
@@ -97,6 +99,7 @@ private:
     std::unique_ptr<FolveroOutput> iOutput;
     std::optional<PublishResult> iResult; // of a success
     QString iFolderFailure;               // why its folder could not be made
+    QString iNewFolder;                   // which was made for it; empty for none
     QPointer<PublishProgress> iProgress;  // while it takes time
     JobProgress iJob;
     // Last, so that it is destroyed first: its thread must end before anything that it may use.
