@@ -3,7 +3,6 @@
 #include "ui/JobProgress.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QVariantMap>
 #include <algorithm>
@@ -17,16 +16,8 @@ constexpr std::chrono::milliseconds longJob = 5s;
 
 const QString entry = QStringLiteral("folvero");
 
-// For docks and task bars that show the progress of a program; others do not listen.
-void showInTaskBar(const QVariantMap& state) {
-    auto signal = QDBusMessage::createSignal(QStringLiteral("/invalid/folvero/folvero"),
-                                             QStringLiteral("com.canonical.Unity.LauncherEntry"),
-                                             QStringLiteral("Update"));
-    signal << QStringLiteral("application://%1.desktop").arg(entry) << state;
-    QDBusConnection::sessionBus().send(signal);
-}
-
-void notify(const QString& message) {
+// Of the desktop's notification service.
+QDBusMessage notification(const QString& message) {
     const QString service = QStringLiteral("org.freedesktop.Notifications");
     auto call =
         QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/Notifications"),
@@ -35,21 +26,21 @@ void notify(const QString& message) {
     const int usualTime = -1;
     call << QStringLiteral("Folvero") << nothingReplaced << entry << message << QString()
          << QStringList() << QVariantMap{{QStringLiteral("desktop-entry"), entry}} << usualTime;
-    QDBusConnection::sessionBus().send(call);
-}
-
-void tell(const QString& message, std::chrono::milliseconds taken) {
-    if (!message.isEmpty() && taken >= longJob && !QApplication::activeWindow())
-        notify(message);
+    return call;
 }
 
 } // namespace
 
 void JobWatcher::watch(const JobProgress& job) {
-    if (!QDBusConnection::sessionBus().isConnected())
+    if (!iBus.isConnected())
         return;
     connect(&job, &JobProgress::moved, this, &JobWatcher::show);
-    connect(&job, &JobProgress::ended, this, tell);
+    connect(&job, &JobProgress::ended, this, &JobWatcher::tell);
+}
+
+void JobWatcher::tell(const QString& message, std::chrono::milliseconds taken) const {
+    if (!message.isEmpty() && taken >= longJob && !QApplication::activeWindow())
+        iBus.send(notification(message));
 }
 
 void JobWatcher::show(double share) {
@@ -59,4 +50,13 @@ void JobWatcher::show(double share) {
     iPercent = percent;
     showInTaskBar({{QStringLiteral("progress-visible"), percent >= 0},
                    {QStringLiteral("progress"), std::max(0.0, share)}});
+}
+
+// For docks and task bars that show the progress of a program; others do not listen.
+void JobWatcher::showInTaskBar(const QVariantMap& state) const {
+    auto signal = QDBusMessage::createSignal(QStringLiteral("/invalid/folvero/folvero"),
+                                             QStringLiteral("com.canonical.Unity.LauncherEntry"),
+                                             QStringLiteral("Update"));
+    signal << QStringLiteral("application://%1.desktop").arg(entry) << state;
+    iBus.send(signal);
 }
