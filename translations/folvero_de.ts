@@ -831,6 +831,13 @@
     </message>
 </context>
 <context>
+    <name>OfficePages</name>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice erzeugt die Seiten…</translation>
+    </message>
+</context>
+<context>
     <name>OutputWindow</name>
     <message>
         <source>Publish the book</source>
@@ -1324,10 +1331,6 @@
         <translation>Einfügen…</translation>
     </message>
     <message>
-        <source>Insert PDFs and pictures before the selected page</source>
-        <translation>PDFs und Bilder vor der ausgewählten Seite einfügen</translation>
-    </message>
-    <message>
         <source>Blank page</source>
         <translation>Leere Seite</translation>
     </message>
@@ -1392,13 +1395,13 @@
         <source>Redo</source>
         <translation>Wiederholen</translation>
     </message>
+    <message>
+        <source>Insert PDFs, pictures and documents before the selected page</source>
+        <translation>PDFs, Bilder und Dokumente vor der ausgewählten Seite einfügen</translation>
+    </message>
 </context>
 <context>
     <name>PagesWindowDelegate</name>
-    <message>
-        <source>PDFs and pictures (%1)</source>
-        <translation>PDFs und Bilder (%1)</translation>
-    </message>
     <message>
         <source>Insert pages</source>
         <translation>Seiten einfügen</translation>
@@ -1424,6 +1427,11 @@
             <numerusform>%n ausgewählt</numerusform>
             <numerusform>%n ausgewählt</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>PDFs, pictures and documents for LibreOffice (%1)</source>
+        <extracomment>%1 are the patterns of their names.</extracomment>
+        <translation>PDFs, Bilder und Dokumente für LibreOffice (%1)</translation>
     </message>
 </context>
 <context>

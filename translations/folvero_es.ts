@@ -831,6 +831,13 @@
     </message>
 </context>
 <context>
+    <name>OfficePages</name>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice está creando las páginas…</translation>
+    </message>
+</context>
+<context>
     <name>OutputWindow</name>
     <message>
         <source>Publish the book</source>
@@ -1324,10 +1331,6 @@
         <translation>Insertar…</translation>
     </message>
     <message>
-        <source>Insert PDFs and pictures before the selected page</source>
-        <translation>Insertar archivos PDF e imágenes antes de la página seleccionada</translation>
-    </message>
-    <message>
         <source>Blank page</source>
         <translation>En blanco</translation>
     </message>
@@ -1392,13 +1395,13 @@
         <source>Redo</source>
         <translation>Rehacer</translation>
     </message>
+    <message>
+        <source>Insert PDFs, pictures and documents before the selected page</source>
+        <translation>Insertar archivos PDF, imágenes y documentos antes de la página seleccionada</translation>
+    </message>
 </context>
 <context>
     <name>PagesWindowDelegate</name>
-    <message>
-        <source>PDFs and pictures (%1)</source>
-        <translation>Archivos PDF e imágenes (%1)</translation>
-    </message>
     <message>
         <source>Insert pages</source>
         <translation>Insertar páginas</translation>
@@ -1424,6 +1427,11 @@
             <numerusform>%n seleccionada</numerusform>
             <numerusform>%n seleccionadas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>PDFs, pictures and documents for LibreOffice (%1)</source>
+        <extracomment>%1 are the patterns of their names.</extracomment>
+        <translation>Archivos PDF, imágenes y documentos para LibreOffice (%1)</translation>
     </message>
 </context>
 <context>

@@ -831,6 +831,13 @@
     </message>
 </context>
 <context>
+    <name>OfficePages</name>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice crée les pages…</translation>
+    </message>
+</context>
+<context>
     <name>OutputWindow</name>
     <message>
         <source>Publish the book</source>
@@ -1324,10 +1331,6 @@
         <translation>Insérer…</translation>
     </message>
     <message>
-        <source>Insert PDFs and pictures before the selected page</source>
-        <translation>Insérer des PDF et des images avant la page sélectionnée</translation>
-    </message>
-    <message>
         <source>Blank page</source>
         <translation>Page vierge</translation>
     </message>
@@ -1392,13 +1395,13 @@
         <source>Redo</source>
         <translation>Rétablir</translation>
     </message>
+    <message>
+        <source>Insert PDFs, pictures and documents before the selected page</source>
+        <translation>Insérer des PDF, des images et des documents avant la page sélectionnée</translation>
+    </message>
 </context>
 <context>
     <name>PagesWindowDelegate</name>
-    <message>
-        <source>PDFs and pictures (%1)</source>
-        <translation>PDF et images (%1)</translation>
-    </message>
     <message>
         <source>Insert pages</source>
         <translation>Insérer des pages</translation>
@@ -1424,6 +1427,11 @@
             <numerusform>%n sélectionnée</numerusform>
             <numerusform>%n sélectionnées</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>PDFs, pictures and documents for LibreOffice (%1)</source>
+        <extracomment>%1 are the patterns of their names.</extracomment>
+        <translation>PDF, images et documents pour LibreOffice (%1)</translation>
     </message>
 </context>
 <context>

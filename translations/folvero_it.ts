@@ -831,6 +831,13 @@
     </message>
 </context>
 <context>
+    <name>OfficePages</name>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice sta creando le pagine…</translation>
+    </message>
+</context>
+<context>
     <name>OutputWindow</name>
     <message>
         <source>Publish the book</source>
@@ -1324,10 +1331,6 @@
         <translation>Inserisci…</translation>
     </message>
     <message>
-        <source>Insert PDFs and pictures before the selected page</source>
-        <translation>Inserisci PDF e immagini prima della pagina selezionata</translation>
-    </message>
-    <message>
         <source>Blank page</source>
         <translation>Pagina vuota</translation>
     </message>
@@ -1392,13 +1395,13 @@
         <source>Redo</source>
         <translation>Ripeti</translation>
     </message>
+    <message>
+        <source>Insert PDFs, pictures and documents before the selected page</source>
+        <translation>Inserisci PDF, immagini e documenti prima della pagina selezionata</translation>
+    </message>
 </context>
 <context>
     <name>PagesWindowDelegate</name>
-    <message>
-        <source>PDFs and pictures (%1)</source>
-        <translation>PDF e immagini (%1)</translation>
-    </message>
     <message>
         <source>Insert pages</source>
         <translation>Inserisci pagine</translation>
@@ -1424,6 +1427,11 @@
             <numerusform>%n selezionata</numerusform>
             <numerusform>%n selezionate</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>PDFs, pictures and documents for LibreOffice (%1)</source>
+        <extracomment>%1 are the patterns of their names.</extracomment>
+        <translation>PDF, immagini e documenti per LibreOffice (%1)</translation>
     </message>
 </context>
 <context>

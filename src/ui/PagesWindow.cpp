@@ -76,9 +76,9 @@ QAction* PagesWindow::add(const QString& icon, const QString& text, const QStrin
 void PagesWindow::makeActions() {
     const auto named = [](const char* name) { return QString::fromLatin1(name); };
     //: Beneath a picture in the toolbar, as the others here: short.
-    insertFiles =
-        add(named("page-insert"), tr("Insert…"),
-            tr("Insert PDFs and pictures before the selected page"), Qt::CTRL | Qt::Key_I);
+    insertFiles = add(named("page-insert"), tr("Insert…"),
+                      tr("Insert PDFs, pictures and documents before the selected page"),
+                      Qt::CTRL | Qt::Key_I);
     insertBlankPage = add(named("page-blank"), tr("Blank page"),
                           tr("Insert a blank page before the selected one"), Qt::Key_Insert);
     turnLeft = add(named("turn-left"), tr("Turn left"), tr("Turn the selected pages to the left"),

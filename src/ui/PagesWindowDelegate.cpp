@@ -1,6 +1,7 @@
 #include "ui/PagesWindowDelegate.h"
 
 #include "base/PlatformException.h"
+#include "pdf/OfficeDocument.h"
 #include "pdf/PDFReader.h"
 #include "pdf/PictureFile.h"
 #include "ui/PagesWindow.h"
@@ -16,15 +17,18 @@ namespace {
 
 QString filter() {
     QStringList patterns{QStringLiteral("*.pdf")};
-    for (const QString& type : PictureFile::types())
+    for (const QString& type : PictureFile::types() + OfficeDocument::types())
         patterns << QStringLiteral("*.") + type;
-    return PagesWindowDelegate::tr("PDFs and pictures (%1)").arg(patterns.join(u' '));
+    //: %1 are the patterns of their names.
+    return PagesWindowDelegate::tr("PDFs, pictures and documents for LibreOffice (%1)")
+        .arg(patterns.join(u' '));
 }
 
 } // namespace
 
 PagesWindowDelegate::PagesWindowDelegate(QWidget* parent)
     : iWindow(new PagesWindow(parent)),
+      iOffice(*iWindow),
       iFilesPanel([this](const QString& title) {
           return QFileDialog::getOpenFileNames(iWindow, title, {}, filter());
       }),
@@ -74,7 +78,7 @@ void PagesWindowDelegate::wire() {
 PagesModel::Document PagesWindowDelegate::opened(const QString& path) const {
     if (PictureFile::isOne(path))
         return {path, 1};
-    const auto document = PDFReader::open(iReading.file(path), {}, iReading.password(path));
+    const auto document = PDFReader::open(readable(path), {}, iReading.password(path));
     const int pages = document->pageCount();
     document->stopReader();
     return {path, pages};
@@ -104,6 +108,12 @@ void PagesWindowDelegate::endSheet(int returnCode) {
     if (iOnEnd)
         iOnEnd(returnCode);
     iPictures.clear();
+    iOffice.clear();
+}
+
+QString PagesWindowDelegate::readable(const QString& document) const {
+    const QString made = iOffice.pdfOf(document);
+    return made.isNull() ? iReading.file(document) : made;
 }
 
 void PagesWindowDelegate::drawPictures(int from) {
@@ -113,14 +123,23 @@ void PagesWindowDelegate::drawPictures(int from) {
         if (PictureFile::isOne(path))
             iModel.setPicture(number, 0, path);
         else
-            iPictures.draw(number, iReading.file(path), iReading.password(path));
+            iPictures.draw(number, readable(path), iReading.password(path));
     }
 }
 
 void PagesWindowDelegate::insertFiles(const QStringList& files, int before) {
+    iOffice.make(files, [this, files, before](const QStringList& failures) {
+        insertReadable(files, before, failures);
+    });
+}
+
+// failures: of the office documents.
+void PagesWindowDelegate::insertReadable(const QStringList& files, int before,
+                                         QStringList failures) {
     std::vector<PagesModel::Document> added;
-    QStringList failures;
     for (const QString& file : files) {
+        if (OfficeDocument::isOne(file) && iOffice.pdfOf(file).isNull())
+            continue;
         try {
             added.push_back(opened(file));
         } catch (const PlatformException& error) {

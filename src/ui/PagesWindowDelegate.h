@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/OfficePages.h"
 #include "ui/PagePictures.h"
 #include "ui/PagesModel.h"
 #include "ui/PagesWindow.h"
@@ -20,7 +21,8 @@ public:
     explicit PagesWindowDelegate(QWidget* parent = nullptr);
     ~PagesWindowDelegate() override;
 
-    // documents: paths of PDFs and pictures. pages: of these, as in a MergePlan; empty for all.
+    // documents: paths of PDFs and pictures, and of office documents that can be read, see
+    // setReading(). pages: of these, as in a MergePlan; empty for all.
     // Returns false, and shows no sheet, when a document can't be read; *failure says why.
     bool beginSheet(const QStringList& documents, PagesModel::Pages pages,
                     std::function<void(int returnCode)> onEnd, QString* failure);
@@ -44,13 +46,16 @@ private:
     PagesModel::Rows selected() const;
     int insertionRow() const;
     void moveBy(int rows);
+    QString readable(const QString& document) const;
     void insertFiles(const QStringList& files, int before);
+    void insertReadable(const QStringList& files, int before, QStringList failures);
     void showFailure(const QString& failure);
     void drawPictures(int from);
     void endSheet(int returnCode);
 
     QPointer<PagesWindow> iWindow;
     PagesModel iModel;
+    OfficePages iOffice;
     PagePictures iPictures;
     FilesPanel iFilesPanel;
     Reading iReading;

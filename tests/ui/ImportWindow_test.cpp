@@ -5,6 +5,7 @@
 
 #include "app/AppSettings.h"
 #include "builder/PDFBuilder.h"
+#include "support/OfficeStandIn.h"
 #include "support/TemplateLibrary.h"
 
 #include <QTest>
@@ -215,29 +216,19 @@ TEST_F(ImportSheet, AsksForThePasswordOfOneOfSeveralDocuments) {
 TEST_F(ImportSheet, ConvertsDocumentsOfOfficeProgramsAndCanBeCancelledMeanwhile) {
     const QTemporaryDir folder;
     const QString report = folder.filePath("report.docx");
-    const QString program = folder.filePath("soffice");
     TestFiles::write(report, "words");
-    const QByteArray before = qgetenv("PATH");
-    const auto standIn = [&](const QByteArray& script) {
-        QFile::remove(program);
-        TestFiles::write(program, "#!/bin/sh\n" + script + "\n");
-        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
-        qputenv("PATH", QFile::encodeName(folder.path()) + ":/usr/bin:/bin");
-    };
+    const OfficeStandIn office;
     open();
-    qputenv("PATH", QFile::encodeName(folder.path()));
     ASSERT_TRUE(import(report));
     EXPECT_TRUE(window().lblFailure->text().contains("report.docx: needs LibreOffice"));
-    standIn("touch '" + report.toUtf8() + ".begun'; sleep 100");
+    office.does("touch '" + report.toUtf8() + ".begun'; sleep 100");
     startImport(report);
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(report + ".begun"); }, 20000));
     click(window().btnCancel);
     ASSERT_TRUE(waitForIdle());
     EXPECT_TRUE(ended.isEmpty() && window().lblFailure->isHidden());
-    standIn("while [ $1 != --outdir ]; do shift; done; cp '" + path(3).toUtf8() +
-            "' $2/report.pdf");
+    office.makes(path(3));
     ASSERT_TRUE(import(report));
-    qputenv("PATH", before);
     EXPECT_EQ(ended, QList<int>{1});
     EXPECT_EQ(sheet->flashPageSource()->pages().size(), 3U);
     EXPECT_EQ(AppSettings::shareInstance().lastImportedFile(), report);

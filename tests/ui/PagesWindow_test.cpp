@@ -1,6 +1,8 @@
 #include "ui/PagesWindow.h"
 
+#include "support/OfficeStandIn.h"
 #include "support/Program.h"
+#include "support/TemplateLibrary.h"
 #include "ui/PagesWindowDelegate.h"
 
 #include <QAction>
@@ -9,6 +11,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QMimeData>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -116,6 +119,45 @@ TEST_F(PagesSheet, PagesAreDraggedBetweenOthersAndFilesFromOutside) {
     EXPECT_EQ(model.used().documents, QStringList({Program::sample("outline.pdf"), picture()}));
     EXPECT_EQ(model.used().pages.size(), 10U);
     EXPECT_TRUE(window.findChild<QWidget*>("lblFailure")->isVisible());
+}
+
+TEST_F(PagesSheet, PagesOfOfficeDocumentsAreMadeMeanwhileAndCanBeCancelled) {
+    auto& model = delegate.model();
+    const OfficeStandIn office;
+    const QString report = folder.filePath("report.odt");
+    const QString begun = folder.filePath("begun");
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(report), QUrl::fromLocalFile(picture())});
+    const auto hasEnded = [&] {
+        return QTest::qWaitFor([&] { return !window.findChild<QProgressDialog*>(); }, 20000);
+    };
+    TestFiles::write(report, "words");
+
+    office.does("touch '" + begun.toUtf8() + "'; sleep 100");
+    drop(files, 2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(begun); }, 20000));
+    window.findChild<QProgressDialog*>()->findChild<QPushButton*>()->click();
+    ASSERT_TRUE(hasEnded());
+    EXPECT_EQ(model.rowCount(), 9) << "not even the picture that was dropped with it";
+    office.makes(Program::sample("links.pdf"));
+    drop(files, 2);
+    ASSERT_TRUE(hasEnded());
+    EXPECT_EQ(shown().substr(0, 14), "1 2 [b1] [b2] ");
+    EXPECT_EQ(model.used().documents,
+              QStringList({Program::sample("outline.pdf"), report, picture()}));
+    EXPECT_TRUE(window.lblFailure->isHidden());
+    QTRY_VERIFY_WITH_TIMEOUT(model.index(2).data(PagesModel::pictureRole).isValid(), 60000);
+}
+
+TEST_F(PagesSheet, NamesLibreOfficeWhereItIsMissing) {
+    const OfficeStandIn office;
+    const QString report = folder.filePath("report.pptx");
+    TestFiles::write(report, "words");
+    delegate.setFilesPanel([&](const QString&) { return QStringList{report, picture()}; });
+    window.insertFiles->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.lblFailure->isVisible(); }, 20000));
+    EXPECT_TRUE(window.lblFailure->text().contains("report.pptx: needs LibreOffice"));
+    EXPECT_EQ(shown(), "1 2 3 4 5 6 7 8 9 [b1]") << "the picture can be had without it";
 }
 
 TEST_F(PagesSheet, TakesUpAnEarlierArrangementAndSaysWhatItIsMadeOf) {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "base/Operation.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <memory>
+
+class QProgressDialog;
+
+// The PDFs of documents of office programs, which LibreOffice makes in the background, under a
+// small window with which the user can cancel. For the main thread.
+class OfficePages : public QObject {
+    Q_OBJECT
+
+public:
+    // window: over which the small one is shown. It must live longer.
+    explicit OfficePages(QWidget& window);
+    ~OfficePages() override;
+
+    // Those that are no office documents are left out, and those whose PDF is there. Calls back,
+    // at once when there is nothing to do, with what failed, and not at all when it is cancelled.
+    using Done = std::function<void(const QStringList& failures)>;
+    void make(const QStringList& files, const Done& done);
+
+    // The PDF of a document; null when none was made.
+    QString pdfOf(const QString& file) const { return iPDFs.value(file); }
+    // Removes the PDFs.
+    void clear();
+
+private:
+    class Conversion;
+    void take(const std::shared_ptr<Conversion>& conversion, const Done& done);
+
+    QWidget& iWindow;
+    QString iFolder; // null until it is needed
+    int iCount = 0;
+    QHash<QString, QString> iPDFs;
+    QPointer<QProgressDialog> iProgress;
+    OperationQueue iQueue; // goes first: its operation refers to the rest
+};
