@@ -2,14 +2,15 @@
 
 #include "base/PlatformException.h"
 #include "project/ProjectJSON.h"
+#include "system/FileDescriptor.h"
 #include "system/Files.h"
+#include "system/PartFile.h"
 #include "system/ZipReader.h"
 #include "system/ZipWriter.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTemporaryFile>
-#include <cerrno>
+#include <sys/mman.h>
 
 namespace {
 
@@ -42,22 +43,22 @@ void setRelative(Project::File& file, const QDir& folder) {
     file.relative = folder.relativeFilePath(file.path);
 }
 
-// Null when it fails.
+// Null when it fails. Made in memory: of a program that is killed meanwhile no file is left.
 QByteArray archiveOf(const QByteArray& description, const QByteArray& cover, Message* error) {
-    errno = 0;
-    QTemporaryFile file;
-    if (!file.open()) {
-        *error = errno ? Message::ofLastSystemError() : Message(file.errorString());
+    const FileDescriptor memory(::memfd_create("project", MFD_CLOEXEC));
+    if (!memory.isOpen()) {
+        *error = Message::ofLastSystemError();
         return {};
     }
+    const QString file = QStringLiteral("/proc/self/fd/%1").arg(memory.number());
     // Stored first, so that the file's first bytes tell its type.
-    ZipWriter archive(file.fileName());
+    ZipWriter archive(file);
     archive.add(typeName, mediaType, ZipWriter::Method::stored);
     archive.add(descriptionName, description, ZipWriter::Method::deflated);
     if (!cover.isNull())
         archive.add(coverName, cover, ZipWriter::Method::stored);
     *error = archive.finish({});
-    return error->isNull() ? Files::contents(file.fileName(), error) : QByteArray();
+    return error->isNull() ? Files::contents(file, error) : QByteArray();
 }
 
 } // namespace
@@ -93,5 +94,5 @@ bool ProjectFile::write(Project project, const QByteArray& cover, const QString&
             setRelative(value.file, folder);
     }
     const QByteArray archive = archiveOf(ProjectJSON::written(project), cover, error);
-    return !archive.isNull() && Files::writeAtomically(path, archive, error);
+    return !archive.isNull() && PartFile::write(path, archive, error);
 }

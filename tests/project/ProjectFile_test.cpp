@@ -5,11 +5,15 @@
 #include "project/ProjectValues.h"
 #include "support/FailureOf.h"
 #include "support/TemplateLibrary.h"
+#include "system/FileDescriptor.h"
+#include "system/PartFile.h"
 #include "system/ZipWriter.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 
 namespace {
 
@@ -69,6 +73,33 @@ TEST_F(ProjectFileTest, ReadsWhatItWroteAndStartsWithItsType) {
     EXPECT_EQ(ProjectFile::cover(path("b.folvero")), "a picture");
     const QByteArray bytes = TestFiles::read(path("b.folvero"));
     EXPECT_EQ(bytes.mid(30, 29), "mimetypeapplication/x-folvero");
+}
+
+TEST_F(ProjectFileTest, TakesWhatAKilledProgramHasLeftAndNothingOfARunningOne) {
+    const QString file = path("b.folvero");
+    const QString link = path("link.folvero");
+    const QString part = path(".b.folvero.part");
+    TestFiles::write(part, QByteArray(100'000, 'x'));
+    write({}, file);
+    EXPECT_EQ(ProjectFile::read(file).templateName, "float");
+    EXPECT_FALSE(QFile::exists(part));
+    const auto permissions = QFile::ReadOwner | QFile::WriteOwner;
+    ASSERT_TRUE(QFile::setPermissions(file, permissions) && QFile::link(file, link));
+    TestFiles::write(part, "half");
+    PartFile::removeRemains(link);
+    EXPECT_FALSE(QFile::exists(part));
+    TestFiles::write(part, "of another program");
+    const FileDescriptor other(::open(QFile::encodeName(part).constData(), O_RDONLY));
+    ASSERT_EQ(::flock(other.number(), LOCK_EX), 0);
+    Project project;
+    project.templateName = "cinema";
+    write(project, link);
+    PartFile::removeRemains(file);
+    EXPECT_EQ(ProjectFile::read(file).templateName, "cinema");
+    EXPECT_EQ(TestFiles::read(part), "of another program");
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther),
+              QFile::Permissions());
 }
 
 TEST_F(ProjectFileTest, FilesAreFoundWhereTheyWereOrMovedWithTheProject) {

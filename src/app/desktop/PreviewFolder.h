@@ -7,7 +7,8 @@
 #include <memory>
 
 // The private folder to which the edited book is published. The first running program uses
-// "preview", others "preview-2" and so on, until they end.
+// "preview", others "preview-2" and so on, until they end. Those of programs that were killed are
+// removed.
 class PreviewFolder {
 public:
     // Creates the folder and locks it for this program. The path has no trailing separator. An
@@ -19,7 +20,8 @@ public:
     void remove();
 
 private:
-    QString claim(const QString& base);
+    QString claim(const QString& home);
+    void removeAbandoned(const QString& home) const;
 
     QString iPath;
     std::unique_ptr<QLockFile> iLock;

@@ -17,8 +17,10 @@ namespace {
 
 constexpr Log logger("ProjectRecovery");
 
+const QString lockEnding = QStringLiteral(".lock");
+
 std::unique_ptr<QLockFile> lockOf(const QString& path) {
-    auto lock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
+    auto lock = std::make_unique<QLockFile>(path + lockEnding);
     // It never expires while the program runs.
     lock->setStaleLockTime(0);
     return lock;
@@ -68,7 +70,24 @@ void ProjectRecovery::remove() {
     iLock.reset();
 }
 
+// Of programs that were killed before, or while, they wrote their file: its lock, which is removed
+// with its object, or a temporary file beside it.
+void ProjectRecovery::removeRemains() {
+    const QDir all(folder());
+    const QString ending = u'.' + ProjectFile::extension;
+    for (const QString& name : all.entryList(QDir::Files | QDir::Hidden)) {
+        const qsizetype end = name.indexOf(ending);
+        const QString own = name.left(end + ending.size());
+        const bool isLock = name == own + lockEnding;
+        if (end < 0 || name == own || (isLock && all.exists(own)))
+            continue;
+        if (const auto lock = lockOf(all.filePath(own)); lock->tryLock() && !isLock)
+            QFile::remove(all.filePath(name));
+    }
+}
+
 void ProjectRecovery::offer(const Take& take) {
+    removeRemains();
     const auto files = QDir(folder()).entryInfoList({QStringLiteral("*.") + ProjectFile::extension},
                                                     QDir::Files, QDir::Time);
     for (const QFileInfo& file : files) {

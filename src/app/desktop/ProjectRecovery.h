@@ -30,6 +30,7 @@ public:
 
 private:
     static QString folder();
+    static void removeRemains();
 
     QString iPath; // null until something was written
     QByteArray iWritten;

@@ -14,6 +14,7 @@
 #include "project/ProjectFile.h"
 #include "project/ProjectFiles.h"
 #include "system/Files.h"
+#include "system/PartFile.h"
 #include "ui/ImportWindow.h"
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindow.h"
@@ -164,6 +165,7 @@ void ProjectSession::load(const QString& path) {
             return;
         }
         iWarnings = localTexts(located.changed + located.missingValues);
+        PartFile::removeRemains(whole);
         remember(whole);
         show(located.project, whole);
     } catch (const PlatformException& failure) {
@@ -340,6 +342,8 @@ bool ProjectSession::onSaveAs() {
 }
 
 bool ProjectSession::saveTo(const QString& path) {
+    // A program that is killed in between must not come back with what was kept earlier.
+    keepForRecovery();
     Message error;
     if (!ProjectFile::write(current(), BookCover::of(iProgram.book()), path, &error)) {
         showError(tr("The project was not saved to %1.").arg(path), error.local());
