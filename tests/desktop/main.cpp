@@ -1,6 +1,7 @@
 #include "app/desktop/ApplicationSetup.h"
 #include "app/desktop/BorderedStyle.h"
 #include "desktop/DesktopProgram.h"
+#include "desktop/Scenario.h"
 #include "support/OwnFolders.h"
 #include "system/Folders.h"
 
@@ -22,6 +23,12 @@ int main(int argc, char** argv) {
         QStringList arguments = QApplication::arguments();
         arguments.remove(1, 2);
         return runApplication(arguments);
+    }
+    if (argc > 3 && argv[1] == Scenario::option) {
+        const QString folder = QFile::decodeName(argv[2]);
+        Folders::setMachineRoot(folder);
+        const QApplication app(argc, argv);
+        return Scenario::run(folder, QString::fromUtf8(argv[3]));
     }
     const OwnFolders folders;
     // Listing the names of the tests needs neither.
