@@ -26,7 +26,7 @@ ImportWindow::ImportWindow(QWidget* parent)
     lblFailure = failureLabel();
 
     auto* form = new QFormLayout;
-    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     auto* fileRow = row({txtImportFile, btnBrowseFile, btnOpenFile});
     form->addRow(tr("&PDF file:"), fileRow);
     setFieldOfRow(*form, fileRow, txtImportFile);

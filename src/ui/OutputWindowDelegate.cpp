@@ -108,6 +108,8 @@ void OutputWindowDelegate::beginSheet() {
     PublishProposal::fill(*iWindow, iDocument, iDocumentName,
                           std::exchange(iIsOtherDocument, false));
     showState();
+    // Not on the button to publish, which Return presses from everywhere.
+    iWindow->mOutputType->checkedButton()->setFocus();
     iWindow->open();
 }
 

@@ -25,6 +25,7 @@ PasswordWindow::PasswordWindow(QWidget* parent)
       lblFailure(plainLabel()),
       //: Opens the document with the password that was typed.
       btnOK(new QPushButton(tr("&Open"))) {
+    lblQuestion->setObjectName(QStringLiteral("question"));
     txtPassword->setEchoMode(QLineEdit::Password);
     connect(txtPassword, &QLineEdit::textChanged, btnOK,
             [this](const QString& typed) { btnOK->setEnabled(!typed.isEmpty()); });

@@ -84,7 +84,6 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     buttons->addWidget(btnRefresh);
     buttons->addWidget(btnRename);
     buttons->addWidget(btnDelete);
-    buttons->addWidget(buttonRow(btnOK), 1);
 
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(margins);
@@ -92,6 +91,7 @@ SelectTemplateWindow::SelectTemplateWindow(QWidget* parent)
     all->addLayout(lists, 1);
     all->addWidget(noticeRow());
     all->addLayout(buttons);
+    buttons->addWidget(buttonRow(btnOK), 1);
     resize(sizeHint().expandedTo(firstSize()));
 }
 

@@ -43,7 +43,9 @@ QLabel* Sheet::failureLabel() {
 }
 
 QWidget* Sheet::buttonRow(QPushButton* main) {
-    auto* row = new QWidget;
+    // In the sheet from the beginning: it must know its default button, or that would no longer be
+    // one after it was clicked.
+    auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addStretch();

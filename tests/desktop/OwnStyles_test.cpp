@@ -48,6 +48,7 @@ TEST_F(OwnStylesTest, AreSavedAndChosenLikeThoseOfTheLibrary) {
     launch();
     edit("topMargin", "40");
     EXPECT_TRUE(saveAs("Garden").contains("“Garden”")) << "the template has one";
+    EXPECT_TRUE(program->styleSaver().nameWindow().btnOK->isDefault()) << "Return tries again";
     EXPECT_FALSE(take(program->styleSaver().nameWindow(), "a/b").isNull());
     EXPECT_TRUE(take(program->styleSaver().nameWindow(), " Mine ").isNull());
     EXPECT_EQ(style(), "Mine");
