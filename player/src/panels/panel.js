@@ -14,11 +14,8 @@ export class Panel {
       if (event.target === this.dialog && this.beside) this.close();
     });
     this.dialog.addEventListener('keydown', (event) => this.#key(event));
-    this.dialog.addEventListener('close', () => {
-      // Where the focus came from nowhere, browsers leave it here until the next frame.
-      if (this.dialog.contains(document.activeElement)) giveFocus(null);
-      this.onClose();
-    });
+    this.dialog.addEventListener('cancel', () => this.close());
+    this.dialog.addEventListener('close', () => this.onClose());
     part(element, '.close').addEventListener('click', () => this.close());
     this.onClose = () => {};
   }
@@ -35,13 +32,17 @@ export class Panel {
 
   close() {
     this.dialog.close();
+    // Nor would keys that are pressed at once reach the book from a field.
+    if (this.dialog.contains(document.activeElement)) giveFocus(null);
   }
 
   /**
-   * Keys typed here do not turn pages, and Tab stays within the panel.
+   * Keys typed here do not turn pages, and Tab stays within the panel. Until the next frame a closed panel still has
+   * the focus if it came from nowhere.
    * @param {KeyboardEvent} event
    */
   #key(event) {
+    if (!this.dialog.open) return;
     event.stopPropagation();
     if (event.key !== 'Tab') return;
     const controls = [...this.dialog.querySelectorAll('button, input')]
