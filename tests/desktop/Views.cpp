@@ -268,7 +268,7 @@ void Views::showKindsOfBooks() {
     auto& sheet = program->ouputWindow().window();
     for (const int kind : {OutputWindow::htmlBook, OutputWindow::application,
                            OutputWindow::webBookInOneFile, OutputWindow::webBook}) {
-        click(sheet.mOutputType->button(kind));
+        sheet.mOutputType->button(kind)->click();
         look("publish kind " + std::to_string(kind), sheet);
     }
     sheet.btnMore->setChecked(true);
