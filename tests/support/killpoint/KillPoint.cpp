@@ -81,8 +81,8 @@ __attribute__((constructor)) void begin() {
     }
 
 // The mode is there only where a file is created.
-#define OPEN(name)                                                                                 \
-    int name(const char* path, int flags, ...) {                                                   \
+#define OPENING(name, parameters, ...)                                                             \
+    int name parameters {                                                                          \
         va_list rest;                                                                              \
         va_start(rest, flags);                                                                     \
         const mode_t mode = creates(flags) ? va_arg(rest, mode_t) : 0;                             \
@@ -90,20 +90,11 @@ __attribute__((constructor)) void begin() {
         if (creates(flags))                                                                        \
             pass(#name, path);                                                                     \
         static const auto original = next(&name, #name);                                           \
-        return original(path, flags, mode);                                                        \
+        return original(__VA_ARGS__, flags, mode);                                                 \
     }
 
-#define OPENAT(name)                                                                               \
-    int name(int folder, const char* path, int flags, ...) {                                       \
-        va_list rest;                                                                              \
-        va_start(rest, flags);                                                                     \
-        const mode_t mode = creates(flags) ? va_arg(rest, mode_t) : 0;                             \
-        va_end(rest);                                                                              \
-        if (creates(flags))                                                                        \
-            pass(#name, path);                                                                     \
-        static const auto original = next(&name, #name);                                           \
-        return original(folder, path, flags, mode);                                                \
-    }
+#define OPEN(name) OPENING(name, (const char* path, int flags, ...), path)
+#define OPENAT(name) OPENING(name, (int folder, const char* path, int flags, ...), folder, path)
 
 extern "C" {
 
