@@ -16,10 +16,15 @@ import sys
 import tempfile
 import time
 
+import gi
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
+
 INSIDE = "FOLVERO_ACCESSIBILITY_TEST"
-PATIENCE = 30  # seconds
-TAB, RETURN, ESCAPE, RIGHT, DOWN = 0xFF09, 0xFF0D, 0xFF1B, 0xFF53, 0xFF54
-ALT = 64
+PATIENCE = 60  # seconds
+MOMENT = 1  # seconds that the focus has to move in
+TAB, RETURN, ESCAPE, LEFT, RIGHT, DOWN = 0xFF09, 0xFF0D, 0xFF1B, 0xFF51, 0xFF53, 0xFF54
+CONTROL, ALT = 37, 64
 # The letters of the menu and of the command in it that open each sheet, and its title.
 SHEETS = [("fi", "Import a PDF"), ("vt", "Choose a template"), ("fp", "Publish the book"), ("ha", "About Folvero")]
 CONTROLS = {"push button", "toggle button", "check box", "radio button", "text", "password text", "combo box", "list",
@@ -47,39 +52,46 @@ def rerun(program, samples):
 class Screen:
     """What a screen reader knows of the program."""
 
-    def __init__(self, atspi, name):
-        self.atspi = atspi
+    def __init__(self, name):
         self.name = name
 
     def window(self):
         """The window in front: a sheet, where one is open."""
-        desktop = self.atspi.get_desktop(0)
+        desktop = Atspi.get_desktop(0)
         windows = [window for app in self.children(desktop) if app.get_name() == self.name
                    for window in self.children(app) if self.has(window, "SHOWING")]
         return next((window for window in windows if self.has(window, "ACTIVE")), None)
 
-    def wait_for_window(self, title):
-        """Until it gets what is typed. A question goes by its text: its title is the program's name."""
+    def wait_for_window(self, title, expected=()):
+        """Until it gets what is typed and has what is expected. A question goes by its text: its title is the program's
+        name."""
         end = time.monotonic() + PATIENCE
-        while time.monotonic() < end:
-            window = self.window()
-            if window and any(title in name for name in self.names(window)):
-                return window
+        missing, there = {title}, set()
+        while missing and time.monotonic() < end:
             time.sleep(0.1)
-        sys.exit(f"waited in vain for {title}")
+            try:
+                window = self.window()
+                if window and any(title in name for name in self.names(window)):
+                    there = {self.describe(one) for one in self.shown(window, {"document web"})}
+                    missing = set(expected) - there
+            except GLib.Error:  # it has gone meanwhile
+                pass
+        if missing:
+            sys.exit(f"{title}: waited in vain for {', '.join(missing)}; there is {', '.join(there)}")
+        return window
 
     def names(self, window):
         labels = [part.get_name() for part in self.children(window) if part.get_role_name() == "label"]
         return [window.get_name()] + (labels if window.get_role_name() == "alert" else [])
 
     def has(self, thing, state):
-        return thing.get_state_set().contains(getattr(self.atspi.StateType, state))
+        return thing.get_state_set().contains(getattr(Atspi.StateType, state))
 
     @staticmethod
     def children(thing):
         try:
             found = [thing.get_child_at_index(at) for at in range(thing.get_child_count())]
-        except Exception:  # it has gone meanwhile
+        except GLib.Error:  # it has gone meanwhile
             return []
         return [child for child in found if child]
 
@@ -94,7 +106,7 @@ class Screen:
 
     def label(self, thing):
         labels = [relation.get_target(0).get_name() for relation in thing.get_relation_set()
-                  if relation.get_relation_type() == self.atspi.RelationType.LABELLED_BY]
+                  if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY]
         # The name of a list that drops down is what it shows.
         return "".join(labels) or ("" if thing.get_role_name() == "combo box" else thing.get_name())
 
@@ -103,13 +115,12 @@ class Screen:
 
     def press(self, key, held=None):
         """Keysyms of X, such as the codes of capital and small letters; held: a key code."""
-        kinds = self.atspi.KeySynthType
+        kinds = Atspi.KeySynthType
         if held:
-            self.atspi.generate_keyboard_event(held, None, kinds.PRESS)
-        self.atspi.generate_keyboard_event(key, None, kinds.SYM)
+            Atspi.generate_keyboard_event(held, None, kinds.PRESS)
+        Atspi.generate_keyboard_event(key, None, kinds.SYM)
         if held:
-            self.atspi.generate_keyboard_event(held, None, kinds.RELEASE)
-        time.sleep(0.08)
+            Atspi.generate_keyboard_event(held, None, kinds.RELEASE)
 
 
 def names_missing(screen, window):
@@ -128,32 +139,43 @@ def not_reached(screen, window):
         reached.add(found)
         return found
 
+    def move(key):
+        before = now = focused()
+        screen.press(key)
+        end = time.monotonic() + MOMENT
+        while now == before and time.monotonic() < end:
+            time.sleep(0.01)
+            now = focused()
+        return now
+
+    focused()
     for _ in range(3 * len(wanted) + 30):
         if reached.issuperset(wanted):
             break
-        screen.press(TAB)
-        for arrow in (RIGHT, DOWN):
-            for _ in wanted:
-                if not focused().startswith(CHOICES):
-                    break
-                screen.press(arrow)
+        found = move(TAB)
+        for arrow in (RIGHT, DOWN, LEFT):
+            before = ""
+            while found.startswith(CHOICES) and found != before:
+                before, found = found, move(arrow)
     return [f"no key reaches {one}" for one in wanted if one not in reached]
 
 
 def check(screen, title, expected=()):
     """expected: controls that must be there, with their roles."""
-    window = screen.wait_for_window(title)
-    there = [screen.describe(one) for one in screen.shown(window, {"document web"})]
-    faults = names_missing(screen, window) + not_reached(screen, window)
-    faults += [f"there is no {one}, only {', '.join(there)}" for one in expected if one not in there]
-    return [f"{title}: {fault}" for fault in faults]
+    window = screen.wait_for_window(title, expected)
+    return [f"{title}: {fault}" for fault in names_missing(screen, window) + not_reached(screen, window)]
+
+
+def choose(screen, menu, command):
+    """By their letters."""
+    screen.press(ord(menu), ALT)
+    screen.press(ord(command))
 
 
 def check_sheets(screen):
-    faults = check(screen, "Demo book")
+    faults = check(screen, "Demo book", ["push button “Choose a file…”"])
     for (menu, command), title in SHEETS:
-        screen.press(ord(menu), ALT)
-        screen.press(ord(command))
+        choose(screen, menu, command)
         faults += check(screen, title)
         screen.press(ESCAPE)
         screen.wait_for_window("Demo book")
@@ -162,29 +184,38 @@ def check_sheets(screen):
 
 def check_password(screen):
     faults = check(screen, "Password", ["password text “Password:”", "push button “Cancel”"])
-    screen.press(ord("x"))
+    choose(screen, "p", "x")  # the field, and what is typed into it
     screen.press(RETURN)
-    time.sleep(0.5)  # the sheet that is there now closes before it comes again
     return faults + check(screen, "Password", ["label “This password does not open it.”"])
 
 
-def check_message(screen):
-    """Of a book with a damaged page."""
-    return check(screen, "Yearbook", ["push button “Close the message”"])
+def check_bars(screen):
+    """Those of a book with a damaged page and of one that was published, and the questions on the way."""
+    faults = check(screen, "Yearbook", ["frame “Message”", "push button “Close the message”"])
+    choose(screen, "f", "p")
+    screen.wait_for_window("Publish the book")
+    screen.press(RETURN)
+    faults += check(screen, "The book is not complete", ["push button “OK”"])
+    screen.press(RETURN)
+    faults += check(screen, "Open the result files?", ["push button “Open it”", "push button “No”"])
+    screen.press(ESCAPE)
+    faults += check(screen, "Yearbook", ["frame “Published book”", "push button “Publish again”"])
+    screen.press(ord("n"), CONTROL)
+    question = "Save the changes to “Yearbook”?"
+    faults += check(screen, question, ["push button “Save”", "push button “Don't save”", "push button “Cancel”"])
+    screen.press(ESCAPE)
+    screen.wait_for_window("Yearbook")
+    return faults
 
 
 # The sample that the program opens, the name it has then, and what is looked at.
 RUNS = [(None, None, check_sheets), ("encrypted.pdf", "Report.pdf", check_password),
-        ("damaged-page.pdf", "Yearbook.pdf", check_message)]
+        ("damaged-page.pdf", "Yearbook.pdf", check_bars)]
 
 
 def main(program, samples):
-    import gi
-    gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi
-
     Atspi.init()
-    screen = Screen(Atspi, "Folvero")
+    screen = Screen("Folvero")
     manager = subprocess.Popen(["openbox"])
     faults = []
     for sample, name, look in RUNS:
