@@ -997,8 +997,8 @@
         <translation>Das Buch ist nicht vollständig</translation>
     </message>
     <message>
-        <source>The pictures of these pages have gone: %1. Import the document again, then publish once more.</source>
-        <translation>Die Bilder dieser Seiten sind nicht mehr da: %1. Importieren Sie das Dokument noch einmal und veröffentlichen Sie dann neu.</translation>
+        <source>These pages have no picture and stay empty: %1. If the document itself is sound, import it again, then publish once more.</source>
+        <translation>Diese Seiten haben kein Bild und bleiben leer: %1. Wenn das Dokument selbst in Ordnung ist, importieren Sie es noch einmal und veröffentlichen Sie dann neu.</translation>
     </message>
     <message>
         <source>Replace what is already there?</source>

@@ -997,8 +997,8 @@
         <translation>El libro no está completo</translation>
     </message>
     <message>
-        <source>The pictures of these pages have gone: %1. Import the document again, then publish once more.</source>
-        <translation>Las imágenes de estas páginas ya no existen: %1. Importe de nuevo el documento y vuelva a publicar el libro.</translation>
+        <source>These pages have no picture and stay empty: %1. If the document itself is sound, import it again, then publish once more.</source>
+        <translation>Estas páginas no tienen imagen y quedan vacías: %1. Si el documento en sí está bien, impórtelo de nuevo y vuelva a publicar el libro.</translation>
     </message>
     <message>
         <source>Replace what is already there?</source>

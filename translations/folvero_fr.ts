@@ -997,8 +997,8 @@
         <translation>Le livre n’est pas complet</translation>
     </message>
     <message>
-        <source>The pictures of these pages have gone: %1. Import the document again, then publish once more.</source>
-        <translation>Les images de ces pages n’existent plus&#xa0;: %1. Importez de nouveau le document, puis recommencez la publication.</translation>
+        <source>These pages have no picture and stay empty: %1. If the document itself is sound, import it again, then publish once more.</source>
+        <translation>Ces pages n’ont pas d’image et restent vides&#xa0;: %1. Si le document lui-même est intact, importez-le de nouveau, puis recommencez la publication.</translation>
     </message>
     <message>
         <source>Replace what is already there?</source>

@@ -997,8 +997,8 @@
         <translation>Il libro non è completo</translation>
     </message>
     <message>
-        <source>The pictures of these pages have gone: %1. Import the document again, then publish once more.</source>
-        <translation>Le immagini di queste pagine non ci sono più: %1. Importare di nuovo il documento, poi ripetere la pubblicazione.</translation>
+        <source>These pages have no picture and stay empty: %1. If the document itself is sound, import it again, then publish once more.</source>
+        <translation>Queste pagine non hanno immagine e restano vuote: %1. Se il documento in sé è integro, importarlo di nuovo, poi ripetere la pubblicazione.</translation>
     </message>
     <message>
         <source>Replace what is already there?</source>

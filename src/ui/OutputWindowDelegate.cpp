@@ -400,8 +400,8 @@ void OutputWindowDelegate::publish(FolveroOutput& output) {
     if (const auto& missing = output.missingPages(); !missing.empty()) {
         iQuestions.showMessage(
             tr("The book is not complete"),
-            tr("The pictures of these pages have gone: %1. Import the document again, "
-               "then publish once more.")
+            tr("These pages have no picture and stay empty: %1. If the document itself is sound, "
+               "import it again, then publish once more.")
                 .arg(PageListText::of(missing)));
     }
     if (!output.missingFiles().isEmpty()) {
