@@ -7,9 +7,10 @@ cd "$(dirname "$0")/.."
 build=${1:-build/release}
 cmake --build "$build" --target folvero-window-shots resources sample-pdfs >/dev/null
 
-for language in en de; do
-    "$build/bin/folvero-window-shots" --jpeg --scale 2 --language $language \
-        --only start,editing,settings,import,password,message,chooser,publish-web \
+for language in en de es fr it; do
+    mkdir -p resources/help/pictures/$language
+    "$build/bin/folvero-window-shots" --jpeg --scale 1.5 --language $language \
+        --only start,editing,settings,import,password,message,pages,chooser,publish-web \
         "$build/samples" resources/help/pictures/$language 2>/dev/null
 done
 windows=$(mktemp -d)

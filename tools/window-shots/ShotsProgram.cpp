@@ -17,6 +17,7 @@
 #include <QTest>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -91,6 +92,15 @@ void ShotsProgram::waitForBook() {
     waitFor(QStringLiteral("!window.isOld && "
                            "document.querySelector('#folvero[data-state=\"ready\"]') !== null"),
             "the preview");
+    // A busy machine shows the opening of the book late.
+    QImage before;
+    waitUntil(
+        [&] {
+            rest(turnTime);
+            const QImage now = window().grab().toImage();
+            return std::exchange(before, now) == now;
+        },
+        "the preview to stand still");
 }
 
 void ShotsProgram::showPage(int page) {
@@ -118,7 +128,8 @@ QImage ShotsProgram::picture() {
         QPainter painter(&content);
         painter.drawPixmap(window().mapFromGlobal(menu->pos()), const_cast<QWidget*>(menu)->grab());
     }
-    return WindowFrame::framed(content, window().windowTitle(), isDark(window()));
+    const QString title = window().windowTitle().remove(QStringLiteral("[*]"));
+    return WindowFrame::framed(content, title, isDark(window()));
 }
 
 QImage ShotsProgram::pictureOfSheet() {

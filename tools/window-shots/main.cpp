@@ -11,6 +11,7 @@
 #include "ui/ImportWindowDelegate.h"
 #include "ui/OutputWindow.h"
 #include "ui/OutputWindowDelegate.h"
+#include "ui/PagesWindowDelegate.h"
 #include "ui/Panels.h"
 #include "ui/PasswordWindow.h"
 #include "ui/SelectTemplateWindowDelegate.h"
@@ -24,6 +25,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
@@ -81,6 +83,7 @@ private:
         takeImport();
         takeMessage();
         takeEditing();
+        takePages();
         takeChooser();
         takePublish();
         takeMenu();
@@ -148,6 +151,22 @@ private:
         iProgram.select(QStringLiteral("bgBeginColor"));
         savePicture("editing");
         save(iProgram.pictureOf(*window().outlineView->parentWidget()), "settings");
+    }
+
+    void takePages() {
+        window().menu->arrangePages->trigger();
+        PagesWindowDelegate& pages = program().pagesWindow();
+        const QAbstractItemModel& model = pages.model();
+        waitUntil(
+            [&] {
+                const QModelIndex last = model.index(model.rowCount() - 1, 0);
+                return last.data(PagesModel::pictureRole).isValid();
+            },
+            "the pictures of the pages");
+        pages.window().pages->setCurrentIndex(model.index(2, 0));
+        pages.window().pages->setFocus();
+        save(iProgram.pictureOfSheet(), "pages");
+        pages.window().btnCancel->click();
     }
 
     void takeChooser() {
