@@ -16,6 +16,7 @@ constexpr int maxDepth = 40;
 
 constexpr double gutterSize = 0.7;   // in sizes of letters
 constexpr double headlineSize = 1.3; // for the size of most letters
+constexpr double letterWidth = 1.2;  // in sizes of letters, at most
 constexpr int fewestRows = 3;        // of a column
 constexpr double leastOverlap = 0.4; // of the heights of columns, for the lower one
 constexpr double leastFilled = 0.45; // of a column's width by its mean row
@@ -91,7 +92,7 @@ double Cutter::medianSize(std::span<const std::size_t> group) const {
 }
 
 // Whether each piece is large and has nothing smaller beside it: what follows is an article of its
-// own, which has its own columns.
+// own, which has its own columns. Single letters stand in the columns of an index.
 std::vector<bool> Cutter::headlines(std::span<const std::size_t> group, double size) const {
     std::vector<bool> are;
     for (const std::size_t i : group) {
@@ -102,6 +103,7 @@ std::vector<bool> Cutter::headlines(std::span<const std::size_t> group, double s
                    beside.top() < piece.bottom();
         };
         are.push_back(piece.size >= headlineSize * size &&
+                      piece.right - piece.left > letterWidth * piece.size &&
                       std::none_of(group.begin(), group.end(), isBeside));
     }
     return are;

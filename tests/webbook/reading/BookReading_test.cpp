@@ -110,6 +110,19 @@ TEST(BookReading, ReadsColumnsOneAfterTheOtherAndJoinsWhatGoesOn) {
                                          joined(full("more", 3, "end."))}));
 }
 
+TEST(BookReading, ReadsTheColumnsOfAnIndexWhoseLettersAreLarge) {
+    const auto column = [](double left, const QString& first, const QString& second) {
+        return Lines{line(left, 130, first, 16)} + lines(left, 145, full(first, 2)) +
+               Lines{line(left, 185, second, 16)} + lines(left, 200, full(second, 3));
+    };
+    const Lines page = Lines{line(50, 100, "Concept index and more", 16)} + column(50, "A", "B") +
+                       column(250, "N", "O");
+    QString found;
+    for (const QString& text : read({page}))
+        found += text.section(' ', text.startsWith('h') ? 1 : 0).left(1);
+    EXPECT_EQ(found, "CAABBNNOO");
+}
+
 TEST(BookReading, KeepsRowsOfTablesTogether) {
     Lines page;
     for (const int row : {0, 1, 2, 3, 4}) {
