@@ -1,5 +1,6 @@
 #include "ui/PagesWindow.h"
 
+#include "ui/EdgeScroller.h"
 #include "ui/Icons.h"
 #include "ui/PagePainter.h"
 
@@ -59,6 +60,7 @@ void PagesWindow::makeList() {
     pages->setDefaultDropAction(Qt::MoveAction);
     pages->setDragDropOverwriteMode(false);
     pages->setMouseTracking(true);
+    new EdgeScroller(*pages);
     pages->setAccessibleName(tr("Pages"));
 }
 

@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -119,6 +120,30 @@ TEST_F(PagesSheet, PagesAreDraggedBetweenOthersAndFilesFromOutside) {
     EXPECT_EQ(model.used().documents, QStringList({Program::sample("outline.pdf"), picture()}));
     EXPECT_EQ(model.used().pages.size(), 10U);
     EXPECT_TRUE(window.findChild<QWidget*>("lblFailure")->isVisible());
+}
+
+TEST_F(PagesSheet, ScrollsWhileSomethingIsDraggedNearItsEdgesAndNotLonger) {
+    window.resize(500, 400);
+    QWidget& list = *window.pages->viewport();
+    const QScrollBar& bar = *window.pages->verticalScrollBar();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.maximum() > 0; }, 20000));
+    const std::unique_ptr<QMimeData> dragged(
+        delegate.model().mimeData({delegate.model().index(1)}));
+    const auto dragTo = [&](int y, int value) {
+        QDragMoveEvent move({60, y}, Qt::MoveAction, dragged.get(), Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&list, &move);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return bar.value() == value; }, 20000)) << bar.value();
+    };
+    QDragEnterEvent enter({60, 100}, Qt::MoveAction, dragged.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&list, &enter);
+    dragTo(list.height() - 2, bar.maximum());
+    dragTo(2, 0);
+    dragTo(list.height() - 2, bar.maximum());
+    dragTo(list.height() / 2, bar.maximum());
+    QTest::qWait(300);
+    EXPECT_EQ(bar.value(), 0) << "pages would be dropped elsewhere";
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&list, &leave);
 }
 
 TEST_F(PagesSheet, PagesOfOfficeDocumentsAreMadeMeanwhileAndCanBeCancelled) {
