@@ -35,20 +35,23 @@ PagesModel::Pages allPages(const PagesModel::Document& document, int number) {
 // The list as a whole: it is small, and no step can leave it in a state of its own.
 class PagesModel::Arrangement : public QUndoCommand {
 public:
-    Arrangement(PagesModel& model, Pages after, Rows rows, const QString& text)
+    Arrangement(PagesModel& model, const Rows& rowsBefore, Pages after, Rows rows,
+                const QString& text)
         : QUndoCommand(text),
           iModel(model),
           iBefore(model.iPages),
           iAfter(std::move(after)),
+          iRowsBefore(rowsBefore),
           iRows(std::move(rows)) {}
 
-    void undo() override { iModel.show(iBefore, {}); }
+    void undo() override { iModel.show(iBefore, iRowsBefore); }
     void redo() override { iModel.show(iAfter, iRows); }
 
 private:
     PagesModel& iModel;
     Pages iBefore;
     Pages iAfter;
+    Rows iRowsBefore;
     Rows iRows;
 };
 
@@ -113,8 +116,9 @@ void PagesModel::setPicture(int document, int index, const QString& file) {
     }
 }
 
-void PagesModel::arrange(Pages pages, const Rows& rows, const QString& text) {
-    iHistory.push(new Arrangement(*this, std::move(pages), rows, text));
+void PagesModel::arrange(const Rows& rowsBefore, Pages pages, const Rows& rows,
+                         const QString& text) {
+    iHistory.push(new Arrangement(*this, rowsBefore, std::move(pages), rows, text));
 }
 
 void PagesModel::show(const Pages& pages, const Rows& rows) {
@@ -131,7 +135,7 @@ void PagesModel::rotate(const Rows& rows, int degrees) {
         rotation = ((rotation + degrees) % fullTurn + fullTurn) % fullTurn;
     }
     //: Stands in "Undo %1".
-    arrange(std::move(pages), rows, tr("turning of %n page(s)", nullptr, int(rows.size())));
+    arrange(rows, std::move(pages), rows, tr("turning of %n page(s)", nullptr, int(rows.size())));
 }
 
 void PagesModel::remove(const Rows& rows) {
@@ -142,7 +146,7 @@ void PagesModel::remove(const Rows& rows) {
     }
     const int next = std::min(rows.empty() ? 0 : rows.front(), int(pages.size()) - 1);
     //: Stands in "Undo %1".
-    arrange(std::move(pages), next < 0 ? Rows{} : Rows{next},
+    arrange(rows, std::move(pages), next < 0 ? Rows{} : Rows{next},
             tr("removal of %n page(s)", nullptr, int(rows.size())));
 }
 
@@ -159,7 +163,7 @@ void PagesModel::move(const Rows& rows, int before) {
     pages.insert(pages.end(), moved.begin(), moved.end());
     pages.insert(pages.end(), below.begin(), below.end());
     //: Stands in "Undo %1".
-    arrange(std::move(pages), range(first, moved.size()),
+    arrange(rows, std::move(pages), range(first, moved.size()),
             tr("move of %n page(s)", nullptr, int(moved.size())));
 }
 
@@ -167,7 +171,8 @@ void PagesModel::insertBlankPage(int before) {
     Pages pages = iPages;
     pages.insert(pages.begin() + before, Page{});
     //: Stands in "Undo %1".
-    arrange(std::move(pages), {before}, tr("blank page"));
+    const QString text = tr("blank page");
+    arrange({}, std::move(pages), {before}, text);
 }
 
 void PagesModel::insertDocuments(const std::vector<Document>& documents, int before) {
@@ -180,8 +185,8 @@ void PagesModel::insertDocuments(const std::vector<Document>& documents, int bef
     Pages pages = iPages;
     pages.insert(pages.begin() + before, added.begin(), added.end());
     //: Stands in "Undo %1".
-    arrange(std::move(pages), range(before, added.size()),
-            tr("insertion of %n page(s)", nullptr, int(added.size())));
+    const QString text = tr("insertion of %n page(s)", nullptr, int(added.size()));
+    arrange({}, std::move(pages), range(before, added.size()), text);
 }
 
 int PagesModel::rowCount(const QModelIndex& parent) const {

