@@ -8,7 +8,7 @@
 #include "system/Files.h"
 #include "system/TemporaryFolders.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <utility>
@@ -36,12 +36,14 @@ bool isFaulty(const PlatformException& failure) {
 
 MergedDocument::MergedDocument(const QStringList& files, std::vector<MergePlan::Page> pages,
                                const PasswordOf& passwordOf, const QString& name,
-                               const std::function<bool()>& stopped, Unreadable unreadable)
+                               const std::function<bool()>& stopped, Unreadable unreadable,
+                               ConvertedDocuments* converted)
     : iFolder(TemporaryFolders::make(QStringLiteral("Folvero"))),
       iPath(Files::join(iFolder, QFileInfo(name).completeBaseName() + QStringLiteral(".pdf"))) {
     try {
         const auto before = statesOf(files);
-        take(files, passwordOf, stopped, unreadable);
+        ConvertedDocuments none;
+        take(files, passwordOf, stopped, unreadable, converted ? *converted : none);
         try {
             write(std::move(pages), stopped);
         } catch (const PlatformException& failure) {
@@ -68,16 +70,18 @@ MergedDocument::~MergedDocument() {
 }
 
 QString MergedDocument::readable(const QString& file) const {
-    return iConverted.value(file, file);
+    const auto converted = iConverted.find(file);
+    return converted == iConverted.end() ? file : (*converted)->pdf();
 }
 
 void MergedDocument::take(const QStringList& files, const PasswordOf& passwordOf,
-                          const std::function<bool()>& stopped, Unreadable unreadable) {
+                          const std::function<bool()>& stopped, Unreadable unreadable,
+                          ConvertedDocuments& converted) {
     for (const QString& file : files) {
         try {
             PDFFile::check(file);
             if (OfficeDocument::isOne(file) && !iConverted.contains(file))
-                convert(file, stopped);
+                convert(file, stopped, converted);
         } catch (const PlatformException& failure) {
             if (unreadable == Unreadable::fails || !isFaulty(failure))
                 throw;
@@ -91,14 +95,12 @@ void MergedDocument::take(const QStringList& files, const PasswordOf& passwordOf
         failWithoutFiles(iLeftOut);
 }
 
-void MergedDocument::convert(const QString& file, const std::function<bool()>& stopped) {
-    const qsizetype number = iFiles.size() + iLeftOut.size();
-    const QString folder = Files::join(iFolder, QString::number(number));
-    if (!QDir().mkdir(folder))
-        PDFFile::failToOpen(folder, Message::ofLastSystemError(), ErrorKind::temporaryFolder);
-    const QString pdf = Files::join(folder, QStringLiteral("document.pdf"));
-    OfficeDocument::convert(file, pdf, stopped);
-    iConverted[file] = pdf;
+void MergedDocument::convert(const QString& file, const std::function<bool()>& stopped,
+                             ConvertedDocuments& converted) {
+    const auto known = converted.find(file);
+    if (known == converted.end() || !(*known)->isCurrent())
+        converted[file] = std::make_shared<ConvertedDocument>(file, stopped);
+    iConverted[file] = converted[file];
 }
 
 void MergedDocument::write(std::vector<MergePlan::Page> pages,

@@ -2,9 +2,9 @@
 
 #include "base/Message.h"
 #include "pdf/MergePlan.h"
+#include "project/ConvertedDocument.h"
 
 #include <QByteArray>
-#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -21,11 +21,13 @@ public:
     enum class Unreadable { fails, isLeftOut };
 
     // pages: of those files; empty for all. name: a file name, after which the document is called.
-    // stopped is polled and cancels; it may be empty. Throws PlatformException, also when a file is
-    // changed meanwhile or no file is left.
+    // stopped is polled and cancels; it may be empty. converted: those that need not be converted
+    // again unless they were changed; gets those that were, also when this fails. Throws
+    // PlatformException, also when a file is changed meanwhile or no file is left.
     MergedDocument(const QStringList& files, std::vector<MergePlan::Page> pages,
                    const PasswordOf& passwordOf, const QString& name,
-                   const std::function<bool()>& stopped, Unreadable unreadable = Unreadable::fails);
+                   const std::function<bool()>& stopped, Unreadable unreadable = Unreadable::fails,
+                   ConvertedDocuments* converted = nullptr);
     ~MergedDocument();
     MergedDocument(const MergedDocument&) = delete;
     MergedDocument& operator=(const MergedDocument&) = delete;
@@ -34,13 +36,16 @@ public:
     // The files that it consists of, and why the others were left out.
     const QStringList& files() const { return iFiles; }
     const Messages& leftOut() const { return iLeftOut; }
-    // The PDF that a file was converted to; the file itself where that was not needed.
-    QString readable(const QString& file) const;
+    // All that were converted.
+    const ConvertedDocuments& converted() const { return iConverted; }
 
 private:
     void take(const QStringList& files, const PasswordOf& passwordOf,
-              const std::function<bool()>& stopped, Unreadable unreadable);
-    void convert(const QString& file, const std::function<bool()>& stopped);
+              const std::function<bool()>& stopped, Unreadable unreadable,
+              ConvertedDocuments& converted);
+    void convert(const QString& file, const std::function<bool()>& stopped,
+                 ConvertedDocuments& converted);
+    QString readable(const QString& file) const;
     void write(std::vector<MergePlan::Page> pages, const std::function<bool()>& stopped) const;
     void leaveOutUnreadable(const std::function<bool()>& stopped);
 
@@ -48,6 +53,6 @@ private:
     QString iPath;
     QStringList iFiles;
     std::vector<MergePlan::Source> iSources; // of the files
-    QHash<QString, QString> iConverted;
+    ConvertedDocuments iConverted;
     Messages iLeftOut;
 };

@@ -31,7 +31,8 @@ QString DocumentMerge::make(const std::function<bool()>& stopped) {
             files, iSources.pages, [this](const QString& file) { return iPasswords.value(file); },
             Files::lastPathComponent(files.front()), stopped,
             iSources.leavesOut ? MergedDocument::Unreadable::isLeftOut
-                               : MergedDocument::Unreadable::fails);
+                               : MergedDocument::Unreadable::fails,
+            &iSources.converted);
     } catch (const PlatformException& failure) {
         if (failure.kind() == ErrorKind::pdfPassword)
             iProtected = firstProtected(stopped);

@@ -2,6 +2,7 @@
 
 #include "base/Message.h"
 #include "pdf/MergePlan.h"
+#include "project/ConvertedDocument.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -20,6 +21,7 @@ struct ImportSources {
     std::vector<MergePlan::Page> pages;
     // Whether documents that can't be read are left out; without pages only.
     bool leavesOut = false;
+    ConvertedDocuments converted = {}; // of the documents; others are converted
 
     // False for one PDF with all its pages, which is imported as it is.
     bool areMerged() const;

@@ -297,6 +297,8 @@ void ImportWindowDelegate::onPasswordAction() {
     iPasswords[iAskedFor] = iPasswordWindow->txtPassword->text().toUtf8();
     iPasswordWindow->done(1);
     enableButtons(false);
+    if (iMerge && iSources)
+        iSources->converted = iMerge->sources().converted;
     startImport();
 }
 

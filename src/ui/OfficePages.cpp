@@ -2,10 +2,7 @@
 
 #include "base/PlatformException.h"
 #include "pdf/OfficeDocument.h"
-#include "system/Files.h"
-#include "system/TemporaryFolders.h"
 
-#include <QDir>
 #include <QProgressDialog>
 #include <vector>
 
@@ -13,15 +10,16 @@ class OfficePages::Conversion : public Operation {
 public:
     struct Job {
         QString file;
-        QString pdf;
-        Message failure; // null when it was made
+        std::shared_ptr<const ConvertedDocument> made;
+        Message failure; // when nothing was made
     };
     explicit Conversion(std::vector<Job> jobs) : iJobs(std::move(jobs)) {}
 
     void main() override {
         for (Job& job : iJobs) {
             try {
-                OfficeDocument::convert(job.file, job.pdf, [this] { return isCancelled(); });
+                job.made =
+                    std::make_shared<ConvertedDocument>(job.file, [this] { return isCancelled(); });
             } catch (const PlatformException& failure) {
                 job.failure = failure.message();
             }
@@ -45,27 +43,15 @@ void OfficePages::clear() {
     iQueue.cancelAllOperations();
     iQueue.waitFor(-1);
     iPDFs.clear();
-    if (!iFolder.isNull())
-        TemporaryFolders::remove(iFolder);
-    iFolder = QString();
 }
 
 void OfficePages::make(const QStringList& files, const Done& done) {
     std::vector<Conversion::Job> jobs;
-    try {
-        for (const QString& file : files) {
-            if (!OfficeDocument::isOne(file) || iPDFs.contains(file))
-                continue;
-            if (iFolder.isNull())
-                iFolder = TemporaryFolders::make(QStringLiteral("Folvero"));
-            // The program keeps files of its own beside each PDF.
-            const QString folder = Files::join(iFolder, QString::number(++iCount));
-            QDir().mkdir(folder);
-            jobs.push_back({file, Files::join(folder, QStringLiteral("document.pdf")), {}});
-        }
-    } catch (const PlatformException& failure) {
-        done({failure.message().local()});
-        return;
+    for (const QString& file : files) {
+        const auto known = iPDFs.find(file);
+        const bool isThere = known != iPDFs.end() && (*known)->isCurrent();
+        if (OfficeDocument::isOne(file) && !isThere)
+            jobs.push_back({file, {}, {}});
     }
     if (jobs.empty()) {
         done({});
@@ -75,6 +61,8 @@ void OfficePages::make(const QStringList& files, const Done& done) {
     iProgress->setWindowModality(Qt::WindowModal);
     iProgress->setLabelText(tr("LibreOffice is making the pages…"));
     iProgress->setRange(0, 0);
+    // At once: the program takes seconds to start, and nobody is to go on without the pages.
+    iProgress->show();
     const auto conversion = std::make_shared<Conversion>(std::move(jobs));
     connect(iProgress, &QProgressDialog::canceled, this, [this] { iQueue.cancelAllOperations(); });
     conversion->setFinishedObserver([this, done, weak = std::weak_ptr(conversion)] {
@@ -90,8 +78,8 @@ void OfficePages::take(const std::shared_ptr<Conversion>& conversion, const Done
         return;
     QStringList failures;
     for (const auto& job : conversion->jobs()) {
-        if (job.failure.isNull())
-            iPDFs[job.file] = job.pdf;
+        if (job.made)
+            iPDFs[job.file] = job.made;
         else
             failures << job.failure.local();
     }

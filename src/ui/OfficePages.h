@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Operation.h"
+#include "project/ConvertedDocument.h"
 
-#include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -22,14 +22,16 @@ public:
     explicit OfficePages(QWidget& window);
     ~OfficePages() override;
 
-    // Those that are no office documents are left out, and those whose PDF is there. Calls back,
-    // at once when there is nothing to do, with what failed, and not at all when it is cancelled.
+    // Those that are no office documents are left out, and those whose PDF is there and current.
+    // Calls back, at once when there is nothing to do, with what failed, and not at all when it is
+    // cancelled.
     using Done = std::function<void(const QStringList& failures)>;
     void make(const QStringList& files, const Done& done);
 
-    // The PDF of a document; null when none was made.
-    QString pdfOf(const QString& file) const { return iPDFs.value(file); }
-    // Removes the PDFs.
+    // The PDFs that are there, also those that were made elsewhere.
+    const ConvertedDocuments& pdfs() const { return iPDFs; }
+    void setPDFs(const ConvertedDocuments& pdfs) { iPDFs = pdfs; }
+    // Stops, and forgets the PDFs.
     void clear();
 
 private:
@@ -37,9 +39,7 @@ private:
     void take(const std::shared_ptr<Conversion>& conversion, const Done& done);
 
     QWidget& iWindow;
-    QString iFolder; // null until it is needed
-    int iCount = 0;
-    QHash<QString, QString> iPDFs;
+    ConvertedDocuments iPDFs;
     QPointer<QProgressDialog> iProgress;
     OperationQueue iQueue; // goes first: its operation refers to the rest
 };

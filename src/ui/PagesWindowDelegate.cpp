@@ -32,7 +32,7 @@ PagesWindowDelegate::PagesWindowDelegate(QWidget* parent)
       iFilesPanel([this](const QString& title) {
           return QFileDialog::getOpenFileNames(iWindow, title, {}, filter());
       }),
-      iReading{[](const QString& document) { return document; },
+      iReading{[] { return ConvertedDocuments(); },
                [](const QString& /*document*/) { return QByteArray(); }} {
     if (!parent)
         connect(this, &QObject::destroyed, iWindow, &QObject::deleteLater);
@@ -87,6 +87,7 @@ PagesModel::Document PagesWindowDelegate::opened(const QString& path) const {
 bool PagesWindowDelegate::beginSheet(const QStringList& documents, PagesModel::Pages pages,
                                      std::function<void(int)> onEnd, QString* failure) {
     std::vector<PagesModel::Document> all;
+    iOffice.setPDFs(iReading.converted());
     try {
         for (const QString& path : documents)
             all.push_back(opened(path));
@@ -112,8 +113,8 @@ void PagesWindowDelegate::endSheet(int returnCode) {
 }
 
 QString PagesWindowDelegate::readable(const QString& document) const {
-    const QString made = iOffice.pdfOf(document);
-    return made.isNull() ? iReading.file(document) : made;
+    const auto made = iOffice.pdfs().find(document);
+    return made == iOffice.pdfs().end() ? document : (*made)->pdf();
 }
 
 void PagesWindowDelegate::drawPictures(int from) {
@@ -138,7 +139,7 @@ void PagesWindowDelegate::insertReadable(const QStringList& files, int before,
                                          QStringList failures) {
     std::vector<PagesModel::Document> added;
     for (const QString& file : files) {
-        if (OfficeDocument::isOne(file) && iOffice.pdfOf(file).isNull())
+        if (OfficeDocument::isOne(file) && !iOffice.pdfs().contains(file))
             continue;
         try {
             added.push_back(opened(file));

@@ -26,10 +26,10 @@ public:
     // Returns false, and shows no sheet, when a document can't be read; *failure says why.
     bool beginSheet(const QStringList& documents, PagesModel::Pages pages,
                     std::function<void(int returnCode)> onEnd, QString* failure);
-    // The PDF that is read for a document, and its password in UTF-8; by default the document
-    // itself and none.
+    // The PDFs of office documents that need not be made, and the password of a document in UTF-8;
+    // by default none.
     struct Reading {
-        std::function<QString(const QString& document)> file;
+        std::function<ConvertedDocuments()> converted;
         std::function<QByteArray(const QString& document)> password;
     };
     void setReading(Reading reading) { iReading = std::move(reading); }
@@ -37,6 +37,8 @@ public:
 
     PagesWindow& window() const { return *iWindow; }
     PagesModel& model() { return iModel; }
+    // The PDFs of office documents, until the sheet has ended.
+    const ConvertedDocuments& converted() const { return iOffice.pdfs(); }
 
 private:
     void wire();

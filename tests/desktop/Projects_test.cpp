@@ -1,6 +1,7 @@
 #include "builder/PDFBuilder.h"
 #include "desktop/DesktopProgram.h"
 #include "project/ProjectFile.h"
+#include "support/OfficeStandIn.h"
 #include "support/Program.h"
 #include "ui/PagesWindowDelegate.h"
 
@@ -130,6 +131,37 @@ TEST_F(Projects, PagesThatWereArrangedMakeTheBookAndComeBackWithTheProject) {
     QTest::mouseClick(import.btnCancel, Qt::LeftButton);
     EXPECT_EQ(publishedPages(), 2u) << "the book stays as it was";
     EXPECT_FALSE(window().isWindowModified());
+}
+
+TEST_F(Projects, DocumentsOfOfficeProgramsAreConvertedOnlyAfterTheyWereChanged) {
+    const OfficeStandIn office;
+    office.makes(pdf(3));
+    for (const char* name : {"report.docx", "slides.odp"})
+        TestFiles::write(path(name), "words");
+    launch();
+    import(path("report.docx"));
+    EXPECT_EQ(office.runs(), 1);
+    auto& pages = program->pagesWindow();
+    const auto arrange = [&](const auto& change) {
+        trigger(&MainMenu::arrangePages);
+        change();
+        ASSERT_TRUE(waitUntil([&] { return !pages.window().findChild<QProgressDialog*>(); }));
+        QTest::mouseClick(pages.window().btnOK, Qt::LeftButton);
+        ASSERT_TRUE(waitForImport());
+    };
+    arrange([&] {
+        QMimeData dropped;
+        dropped.setUrls({QUrl::fromLocalFile(path("slides.odp"))});
+        pages.model().dropMimeData(&dropped, Qt::CopyAction, 0, 0, {});
+    });
+    EXPECT_EQ(publishedPages(), 6u);
+    EXPECT_EQ(office.runs(), 2) << "the sheet's pages are those of the book";
+    arrange([&] { pages.model().remove({0}); });
+    EXPECT_EQ(publishedPages(), 5u);
+    EXPECT_EQ(office.runs(), 2);
+    TestFiles::write(path("report.docx"), "other words");
+    arrange([&] { pages.model().remove({0}); });
+    EXPECT_EQ(office.runs(), 3);
 }
 
 TEST_F(Projects, DemoBookThatWasPublishedHasNothingToSave) {

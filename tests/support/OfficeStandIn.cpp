@@ -15,9 +15,14 @@ OfficeStandIn::~OfficeStandIn() {
 void OfficeStandIn::does(const QByteArray& script) const {
     const QString program = iFolder.filePath("soffice");
     QFile::remove(program);
-    TestFiles::write(program, "#!/bin/sh\n" + script + "\n");
+    TestFiles::write(program, "#!/bin/sh\necho >> '" + QFile::encodeName(iFolder.filePath("runs")) +
+                                  "'\n" + script + "\n");
     QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
     qputenv("PATH", QFile::encodeName(iFolder.path()) + ":/usr/bin:/bin");
+}
+
+int OfficeStandIn::runs() const {
+    return int(QFile(iFolder.filePath("runs")).size());
 }
 
 void OfficeStandIn::makes(const QString& pdf) const {

@@ -16,6 +16,8 @@ public:
     void does(const QByteArray& script) const;
     // It turns every document into that PDF.
     void makes(const QString& pdf) const;
+    // How often it was started.
+    int runs() const;
 
 private:
     QTemporaryDir iFolder;

@@ -51,7 +51,7 @@ ProjectSession::ProjectSession(Program program, Questions questions)
       iAutosave(std::make_unique<QTimer>()) {
     connectCommands();
     iProgram.pages.setReading(
-        {[this](const QString& path) { return iMerged ? iMerged->readable(path) : path; },
+        {[this] { return iMerged ? iMerged->converted() : ConvertedDocuments(); },
          [this](const QString& path) { return iProgram.import.passwordOf(path); }});
     iProgram.window.installEventFilter(this);
     constexpr int milliseconds = 1000;
@@ -188,18 +188,18 @@ void ProjectSession::show(const Project& project, const QString& path) {
     if (iDocuments.isEmpty())
         iProgram.showBook();
     else
-        importDocuments();
+        importDocuments({});
     if (!iIsOpening) {
         iIsRecovering = false;
         showWarnings();
     }
 }
 
-void ProjectSession::importDocuments() {
+void ProjectSession::importDocuments(const ConvertedDocuments& converted) {
     iIsOpening = true;
     iProgram.showImportSheet();
     SheetChoices::set(iProgram.import.window(), iImport);
-    iProgram.import.importSources({iDocuments, iPages});
+    iProgram.import.importSources({iDocuments, iPages, false, converted});
 }
 
 void ProjectSession::onArrangePages() {
@@ -225,7 +225,7 @@ void ProjectSession::takePages() {
     iDocuments = used.documents;
     iPages = used.pages;
     iImport.isRangeTyped = false;
-    importDocuments();
+    importDocuments(iProgram.pages.converted());
 }
 
 void ProjectSession::restorePages() {

@@ -2,6 +2,7 @@
 
 #include "app/desktop/FileToSave.h"
 #include "app/desktop/ProjectRecovery.h"
+#include "project/ConvertedDocument.h"
 #include "project/Project.h"
 #include "system/FileState.h"
 
@@ -92,7 +93,7 @@ private:
     bool mayLose(const QString& question, const QString& information);
     void load(const QString& path);
     void show(const Project& project, const QString& path);
-    void importDocuments();
+    void importDocuments(const ConvertedDocuments& converted);
     bool isOpened(const ImportSources& imported) const;
     void showWarnings();
     void takePages();
