@@ -421,6 +421,19 @@
         <source>&amp;Double pages:</source>
         <translation>D&amp;oppelseiten:</translation>
     </message>
+    <message numerus="yes">
+        <source>and %1 and %n more</source>
+        <extracomment>As above, with some of the names.</extracomment>
+        <translation>
+            <numerusform>und %1 und %n weitere</numerusform>
+            <numerusform>und %1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>Beneath the path of a file: those that are imported with it. %1 is a list of names.</extracomment>
+        <translation>und %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportWindowDelegate</name>
@@ -469,17 +482,35 @@
     </message>
     <message>
         <source>“%1” was imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>„%1“ wurde importiert.</translation>
     </message>
     <message>
         <source>“%1” was not imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>„%1“ wurde nicht importiert.</translation>
     </message>
     <message>
         <source>Preparing the document…</source>
         <translation>Das Dokument wird vorbereitet …</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were imported.</source>
+        <translation>
+            <numerusform>%n Datei wurde importiert.</numerusform>
+            <numerusform>%n Dateien wurden importiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were not imported.</source>
+        <translation>
+            <numerusform>%n Datei wurde nicht importiert.</numerusform>
+            <numerusform>%n Dateien wurden nicht importiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice erzeugt die Seiten…</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>ImportWindow</name>
+    <message numerus="yes">
+        <source>and %1 and %n more</source>
+        <extracomment>As above, with some of the names.</extracomment>
+        <translation>
+            <numerusform>and %1 and %n more</numerusform>
+            <numerusform>and %1 and %n more</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ImportWindowDelegate</name>
     <message numerus="yes">
         <source>%n more page(s) could not be drawn.</source>
@@ -15,6 +26,20 @@
         <translation>
             <numerusform>%n more page could not be drawn completely.</numerusform>
             <numerusform>%n more pages could not be drawn completely.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were imported.</source>
+        <translation>
+            <numerusform>%n file was imported.</numerusform>
+            <numerusform>%n files were imported.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were not imported.</source>
+        <translation>
+            <numerusform>%n file was not imported.</numerusform>
+            <numerusform>%n files were not imported.</numerusform>
         </translation>
     </message>
 </context>

@@ -421,6 +421,19 @@
         <source>&amp;Double pages:</source>
         <translation>Páginas &amp;dobles:</translation>
     </message>
+    <message numerus="yes">
+        <source>and %1 and %n more</source>
+        <extracomment>As above, with some of the names.</extracomment>
+        <translation>
+            <numerusform>y %1 y %n más</numerusform>
+            <numerusform>y %1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>Beneath the path of a file: those that are imported with it. %1 is a list of names.</extracomment>
+        <translation>y %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportWindowDelegate</name>
@@ -469,17 +482,35 @@
     </message>
     <message>
         <source>“%1” was imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>«%1» se importó.</translation>
     </message>
     <message>
         <source>“%1” was not imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>«%1» no se importó.</translation>
     </message>
     <message>
         <source>Preparing the document…</source>
         <translation>Preparando el documento…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were imported.</source>
+        <translation>
+            <numerusform>Se ha importado %n archivo.</numerusform>
+            <numerusform>Se han importado %n archivos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were not imported.</source>
+        <translation>
+            <numerusform>No se ha importado %n archivo.</numerusform>
+            <numerusform>No se han importado %n archivos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice está creando las páginas…</translation>
     </message>
 </context>
 <context>

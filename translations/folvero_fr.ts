@@ -421,6 +421,19 @@
         <source>&amp;Double pages:</source>
         <translation>&amp;Doubles pages&#xa0;:</translation>
     </message>
+    <message numerus="yes">
+        <source>and %1 and %n more</source>
+        <extracomment>As above, with some of the names.</extracomment>
+        <translation>
+            <numerusform>et %1 et %n autre</numerusform>
+            <numerusform>et %1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>Beneath the path of a file: those that are imported with it. %1 is a list of names.</extracomment>
+        <translation>et %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportWindowDelegate</name>
@@ -469,17 +482,35 @@
     </message>
     <message>
         <source>“%1” was imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>«&#xa0;%1&#xa0;» a été importé.</translation>
     </message>
     <message>
         <source>“%1” was not imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>«&#xa0;%1&#xa0;» n’a pas été importé.</translation>
     </message>
     <message>
         <source>Preparing the document…</source>
         <translation>Préparation du document…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were imported.</source>
+        <translation>
+            <numerusform>%n fichier a été importé.</numerusform>
+            <numerusform>%n fichiers ont été importés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were not imported.</source>
+        <translation>
+            <numerusform>%n fichier n’a pas été importé.</numerusform>
+            <numerusform>%n fichiers n’ont pas été importés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice crée les pages…</translation>
     </message>
 </context>
 <context>

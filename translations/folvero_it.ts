@@ -421,6 +421,19 @@
         <source>&amp;Double pages:</source>
         <translation>Pagine &amp;doppie:</translation>
     </message>
+    <message numerus="yes">
+        <source>and %1 and %n more</source>
+        <extracomment>As above, with some of the names.</extracomment>
+        <translation>
+            <numerusform>e %1 e %n altro</numerusform>
+            <numerusform>e %1 e altri %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>and %1</source>
+        <extracomment>Beneath the path of a file: those that are imported with it. %1 is a list of names.</extracomment>
+        <translation>e %1</translation>
+    </message>
 </context>
 <context>
     <name>ImportWindowDelegate</name>
@@ -469,17 +482,35 @@
     </message>
     <message>
         <source>“%1” was imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>«%1» è stato importato.</translation>
     </message>
     <message>
         <source>“%1” was not imported.</source>
-        <extracomment>A notification of the desktop, for users who look elsewhere; %1 is the name of a file.</extracomment>
+        <extracomment>A notification of the desktop; %1 is the name of a file.</extracomment>
         <translation>«%1» non è stato importato.</translation>
     </message>
     <message>
         <source>Preparing the document…</source>
         <translation>Preparazione del documento…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were imported.</source>
+        <translation>
+            <numerusform>%n file è stato importato.</numerusform>
+            <numerusform>%n file sono stati importati.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) were not imported.</source>
+        <translation>
+            <numerusform>%n file non è stato importato.</numerusform>
+            <numerusform>%n file non sono stati importati.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>LibreOffice is making the pages…</source>
+        <translation>LibreOffice sta creando le pagine…</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,8 @@
 #include "ui/ImportWindow.h"
 
+#include "system/Files.h"
+#include "ui/PlainText.h"
+
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -12,6 +15,13 @@
 #include <QRadioButton>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
+
+namespace {
+
+constexpr qsizetype mostNames = 6;
+constexpr int nameWidth = 220;
+
+} // namespace
 
 ImportWindow::ImportWindow(QWidget* parent)
     : Sheet(tr("Import a PDF"), parent), btnOK(new QPushButton(tr("&Import"))) {
@@ -30,6 +40,7 @@ ImportWindow::ImportWindow(QWidget* parent)
     auto* fileRow = row({txtImportFile, btnBrowseFile, btnOpenFile});
     form->addRow(tr("&PDF file:"), fileRow);
     setFieldOfRow(*form, fileRow, txtImportFile);
+    form->addRow(QString(), lblOthers);
     form->addRow(tr("Pages:"), pagesRow());
     form->addRow(tr("&Double pages:"), spreads);
     form->addRow(tr("&Quality:"), importQuality);
@@ -58,10 +69,33 @@ QComboBox* ImportWindow::choice(const QStringList& items) {
 void ImportWindow::makeFileField() {
     txtImportFile = new QLineEdit;
     txtImportFile->setMinimumWidth(260);
+    lblOthers = new QLabel;
+    lblOthers->setWordWrap(true);
+    lblOthers->setTextFormat(Qt::PlainText);
+    lblOthers->hide();
     btnBrowseFile = new QPushButton(tr("&Choose…"));
     //: Opens the chosen PDF in another program.
     btnOpenFile = new QPushButton(tr("&View"));
     btnOpenFile->setToolTip(tr("Opens the PDF in the program that usually shows it"));
+}
+
+// All names where they fit; the tool tip has the paths.
+void ImportWindow::showOthers(const QStringList& files) {
+    const qsizetype shown = files.size() > mostNames ? mostNames - 1 : files.size();
+    QStringList names;
+    for (const QString& file : files.mid(0, shown))
+        names << lblOthers->fontMetrics().elidedText(Files::lastPathComponent(file),
+                                                     Qt::ElideMiddle, nameWidth);
+    const QString list = names.join(QStringLiteral(", "));
+    const int more = int(files.size() - shown);
+    //: Beneath the path of a file: those that are imported with it. %1 is a list of names.
+    const QString all = tr("and %1");
+    //: As above, with some of the names.
+    const QString some = tr("and %1 and %n more", nullptr, more);
+    lblOthers->setText((more > 0 ? some : all).arg(list));
+    lblOthers->setToolTip(PlainText::toolTip(files.join(u'\n')));
+    lblOthers->setVisible(!files.isEmpty());
+    growToContent();
 }
 
 QWidget* ImportWindow::pagesRow() {

@@ -22,6 +22,7 @@ public:
     explicit ImportWindow(QWidget* parent = nullptr);
 
     QLineEdit* txtImportFile;
+    QLabel* lblOthers; // the files after the one that the field names
     QPushButton* btnBrowseFile;
     QPushButton* btnOpenFile;
     QButtonGroup* pageRangeType;
@@ -36,6 +37,9 @@ public:
     // Why the last import failed; hidden when there is nothing to show.
     QLabel* lblFailure;
     QPushButton* btnOK;
+
+    // Paths of the files that are imported with the one in the field; empty for none.
+    void showOthers(const QStringList& files);
 
 private:
     static QComboBox* choice(const QStringList& items);

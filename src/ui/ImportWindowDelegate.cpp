@@ -3,6 +3,7 @@
 #include "app/AppSettings.h"
 #include "base/Log.h"
 #include "base/PlatformException.h"
+#include "pdf/OfficeDocument.h"
 #include "project/MergedDocument.h"
 #include "system/Files.h"
 #include "ui/ImportWindow.h"
@@ -68,6 +69,8 @@ void ImportWindowDelegate::wire() {
             &ImportWindowDelegate::onBrowseFileAction);
     connect(iWindow->btnOpenFile, &QPushButton::clicked, this,
             &ImportWindowDelegate::onOpenTheFileAction);
+    connect(iWindow->txtImportFile, &QLineEdit::textChanged, this,
+            &ImportWindowDelegate::showOthers);
     connect(iWindow->pageRangeType, &QButtonGroup::idClicked, this,
             &ImportWindowDelegate::onPageRangeTypeChangeAction);
     connect(iPasswordWindow->btnOK, &QPushButton::clicked, this,
@@ -96,11 +99,22 @@ void ImportWindowDelegate::importSources(ImportSources sources) {
         return;
     iWindow->txtImportFile->setText(sources.documents.front());
     iSources = std::move(sources);
+    showOthers();
     onImportAction();
+}
+
+// What the field names counts alone once something else is typed there.
+bool ImportWindowDelegate::areOthersThanTyped() const {
+    return iSources && iSources->documents.front() == iWindow->txtImportFile->text();
+}
+
+void ImportWindowDelegate::showOthers() {
+    iWindow->showOthers(areOthersThanTyped() ? iSources->documents.mid(1) : QStringList());
 }
 
 void ImportWindowDelegate::endSheet(int returnCode) {
     iSources.reset();
+    showOthers();
     iWindow->done(returnCode);
     if (iOnEnd)
         iOnEnd(returnCode);
@@ -192,19 +206,26 @@ void ImportWindowDelegate::startImport() {
 
 void ImportWindowDelegate::prepareSources() {
     const QString typed = iWindow->txtImportFile->text();
-    const bool areOthers = iSources && iSources->documents.front() == typed;
-    iUsed = areOthers ? *iSources : ImportSources{{typed}, {}};
+    iUsed = areOthersThanTyped() ? *iSources : ImportSources{{typed}, {}};
     iMerge.reset();
     if (iUsed.areMerged()) {
         iMerge = std::make_shared<DocumentMerge>(iUsed, iPasswords);
         iImportPDF->setMakeDocument(
             [merge = iMerge](const auto& stopped) { return merge->make(stopped); });
-        iWindow->lblInfo->setText(tr("Preparing the document…"));
+        iWindow->lblInfo->setText(needsOffice() ? tr("LibreOffice is making the pages…")
+                                                : tr("Preparing the document…"));
     } else if (iPasswords.contains(typed)) {
         OpenedPDF document;
         document.password = iPasswords[typed];
         iImportPDF->setDocument(std::move(document));
     }
+}
+
+bool ImportWindowDelegate::needsOffice() const {
+    const QStringList& files = iUsed.documents;
+    return std::any_of(files.begin(), files.end(), [this](const QString& file) {
+        return OfficeDocument::isOne(file) && !iUsed.converted.contains(file);
+    });
 }
 
 void ImportWindowDelegate::anyThread_handleMSG(const Notification& message) {
@@ -235,8 +256,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
         logger.debug(QStringLiteral("import pdf ok..."));
         iBook = operation->book();
         takeMerged();
-        //: A notification of the desktop, for users who look elsewhere; %1 is the name of a file.
-        iJob.end(tr("“%1” was imported.").arg(fileName()));
+        iJob.end(endNotice(true));
         reportFailedPages();
         storePageSize();
         iIsImporting = false;
@@ -250,16 +270,24 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
         return; // the import goes on with the answer
     }
     logger.warn(QStringLiteral("import pdf failed..."));
-    //: A notification of the desktop, for users who look elsewhere; %1 is the name of a file.
-    const QString failed = tr("“%1” was not imported.").arg(fileName());
-    iJob.end(operation->isCancelled() ? QString() : failed);
+    iJob.end(operation->isCancelled() ? QString() : endNotice(false));
     if (!operation->isCancelled())
         showFailure(iFailures << nextStep(*operation));
     iIsImporting = false;
 }
 
-QString ImportWindowDelegate::fileName() const {
-    return Files::lastPathComponent(iWindow->txtImportFile->text());
+// A notification of the desktop, for users who look elsewhere.
+QString ImportWindowDelegate::endNotice(bool isImported) const {
+    const int files = int(iUsed.documents.size());
+    if (files > 1)
+        return isImported ? tr("%n file(s) were imported.", nullptr, files)
+                          : tr("%n file(s) were not imported.", nullptr, files);
+    const QString name = Files::lastPathComponent(iUsed.documents.front());
+    //: A notification of the desktop; %1 is the name of a file.
+    const QString done = tr("“%1” was imported.");
+    //: A notification of the desktop; %1 is the name of a file.
+    const QString failed = tr("“%1” was not imported.");
+    return (isImported ? done : failed).arg(name);
 }
 
 // The document whose password would let the import go on.

@@ -89,7 +89,10 @@ private:
     void anyThread_handleMSG(const Notification& message);
     void mainThread_handleMSG(const QVariantMap& userInfo);
     void importDidFinish(const std::shared_ptr<ImportPDFOperation>& operation);
-    QString fileName() const;
+    bool areOthersThanTyped() const;
+    void showOthers();
+    bool needsOffice() const;
+    QString endNotice(bool isImported) const;
     QString nextStep(const ImportPDFOperation& operation);
     QString lockedDocument(const ImportPDFOperation& operation) const;
     void takeMerged();

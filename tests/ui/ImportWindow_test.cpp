@@ -192,13 +192,18 @@ TEST_F(ImportSheet, AsksForThePasswordOfAProtectedDocumentUntilItIsRightOrCancel
 }
 
 TEST_F(ImportSheet, AsksForThePasswordOfOneOfSeveralDocuments) {
-    const QStringList files{path(2), path(1)};
+    const QTemporaryDir folder;
+    const QStringList files{path(2), folder.filePath("report.docx"), path(1)};
     PDFBuilder pdf;
     pdf.addPage({});
     pdf.encrypt("green", "owner");
     ASSERT_TRUE(pdf.write(files.last()));
+    TestFiles::write(files[1], "words");
+    const OfficeStandIn office;
+    office.makes(path(4));
     open();
     sheet->importFiles(files);
+    EXPECT_EQ(window().lblOthers->text(), "and report.docx, 1.pdf");
     PasswordWindow& question = sheet->passwordWindow();
     for (const QString& typed : {u"red"_s, u"green"_s}) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return question.isVisible(); }, 20000));
@@ -209,7 +214,9 @@ TEST_F(ImportSheet, AsksForThePasswordOfOneOfSeveralDocuments) {
     }
     ASSERT_TRUE(waitForIdle());
     EXPECT_EQ(ended, QList<int>{1});
-    EXPECT_EQ(sheet->flashPageSource()->pages().size(), 3U);
+    EXPECT_EQ(sheet->flashPageSource()->pages().size(), 7U);
+    EXPECT_EQ(office.runs(), 1) << "not once for each password";
+    EXPECT_TRUE(window().lblOthers->isHidden()) << "the next import is of one file";
 }
 
 // With programs that stand in for LibreOffice.
