@@ -523,6 +523,10 @@
         <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
         <translation>ist kein PDF, kein Bild und kein Dokument, aus dem LibreOffice ein PDF macht</translation>
     </message>
+    <message>
+        <source>is not on this computer; save it here first</source>
+        <translation>liegt nicht auf diesem Computer; bitte zuerst hier speichern</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>

@@ -523,6 +523,10 @@
         <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
         <translation>no es un PDF, ni una imagen, ni un documento que LibreOffice convierta en PDF</translation>
     </message>
+    <message>
+        <source>is not on this computer; save it here first</source>
+        <translation>no está en este equipo; guárdelo antes aquí</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>

@@ -523,6 +523,10 @@
         <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
         <translation>n’est ni un PDF, ni une image, ni un document que LibreOffice convertit en PDF</translation>
     </message>
+    <message>
+        <source>is not on this computer; save it here first</source>
+        <translation>n’est pas sur cet ordinateur ; enregistrez-le d’abord ici</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>

@@ -523,6 +523,10 @@
         <source>is no PDF, no picture and no document that LibreOffice turns into a PDF</source>
         <translation>non è un PDF, né un’immagine, né un documento che LibreOffice converte in PDF</translation>
     </message>
+    <message>
+        <source>is not on this computer; save it here first</source>
+        <translation>non è su questo computer; prima salvarlo qui</translation>
+    </message>
 </context>
 <context>
     <name>JobProgress</name>

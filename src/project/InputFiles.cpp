@@ -16,6 +16,13 @@ bool isPDFOrPicture(const QString& path) {
     return PictureFile::isOne(path) || Files::pathExtension(path).toLower() == u"pdf";
 }
 
+// Browsers and network folders offer addresses in place of files.
+Message whyMissing(const QString& path) {
+    return path.contains(QStringLiteral("://"))
+               ? Message::translate("InputFiles", "is not on this computer; save it here first")
+               : Message::translate("PDFDocument", "no such file");
+}
+
 } // namespace
 
 bool InputFiles::isUsable(const QString& path) {
@@ -45,7 +52,9 @@ InputFiles::Chosen InputFiles::of(QStringList paths) {
     sortByName(paths);
     Chosen chosen;
     for (const QString& path : paths) {
-        if (QFileInfo(path).isDir()) {
+        if (!QFileInfo::exists(path)) {
+            chosen.notUsed << Message::about(path, whyMissing(path));
+        } else if (QFileInfo(path).isDir()) {
             const QStringList files = inFolder(path);
             chosen.files << files;
             if (files.isEmpty())

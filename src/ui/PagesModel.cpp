@@ -1,9 +1,10 @@
 #include "ui/PagesModel.h"
 
+#include "ui/DroppedFiles.h"
+
 #include <QDataStream>
 #include <QFileInfo>
 #include <QMimeData>
-#include <QUrl>
 #include <algorithm>
 #include <numeric>
 
@@ -40,8 +41,8 @@ public:
         : QUndoCommand(text),
           iModel(model),
           iBefore(model.iPages),
-          iAfter(std::move(after)),
           iRowsBefore(rowsBefore),
+          iAfter(std::move(after)),
           iRows(std::move(rows)) {}
 
     void undo() override { iModel.show(iBefore, iRowsBefore); }
@@ -50,8 +51,8 @@ public:
 private:
     PagesModel& iModel;
     Pages iBefore;
-    Pages iAfter;
     Rows iRowsBefore;
+    Pages iAfter;
     Rows iRows;
 };
 
@@ -251,10 +252,7 @@ bool PagesModel::dropMimeData(const QMimeData* data, Qt::DropAction /*action*/, 
                               int /*column*/, const QModelIndex& /*parent*/) {
     const int before = row < 0 ? rowCount() : row;
     if (data->hasUrls()) {
-        QStringList files;
-        for (const QUrl& url : data->urls())
-            files << url.toLocalFile();
-        Q_EMIT filesWereDropped(files, before);
+        Q_EMIT filesWereDropped(DroppedFiles::paths(*data), before);
         return false;
     }
     QByteArray bytes = data->data(rowsType);

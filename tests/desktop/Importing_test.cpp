@@ -27,7 +27,7 @@ protected:
         QMimeData data;
         QList<QUrl> urls;
         for (const QString& file : paths)
-            urls << QUrl::fromLocalFile(file);
+            urls << (file.contains("://") ? QUrl(file) : QUrl::fromLocalFile(file));
         data.setUrls(urls);
         QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&window(), &enter);
@@ -101,6 +101,10 @@ TEST_F(Importing, PagesThatWerePutTogetherAreNotReplacedUnasked) {
     drop({pdf(2), pdf(3)});
     ASSERT_TRUE(waitForImport());
     unsaved = Panels::Unsaved::cancel;
+    drop({path("gone.pdf"), "https://example.org/tea.pdf"});
+    EXPECT_TRUE(unsavedAsked.isEmpty()) << "nothing would take their place";
+    for (const char* cause : {"gone.pdf: no such file", "tea.pdf: is not on this computer"})
+        EXPECT_TRUE(window().messages->message().contains(cause));
     window().menu->importPDF->trigger();
     EXPECT_FALSE(sheet().isVisible());
     drop({pdf(1)});

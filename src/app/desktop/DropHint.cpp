@@ -2,11 +2,10 @@
 
 #include "project/InputFiles.h"
 #include "project/ProjectFile.h"
+#include "ui/DroppedFiles.h"
 
 #include <QFileInfo>
-#include <QMimeData>
 #include <QPainter>
-#include <QUrl>
 #include <algorithm>
 
 namespace {
@@ -16,7 +15,9 @@ constexpr qreal corner = 14;
 constexpr float veil = 0.88F;
 
 bool mayBeUsed(const QString& path) {
-    return InputFiles::isUsable(path) || ProjectFile::isProject(path) || QFileInfo(path).isDir();
+    const QFileInfo file(path);
+    return file.isDir() ||
+           (file.exists() && (InputFiles::isUsable(path) || ProjectFile::isProject(path)));
 }
 
 } // namespace
@@ -27,7 +28,7 @@ DropHint::DropHint(QWidget& window) : QWidget(&window) {
 }
 
 void DropHint::showFor(const QMimeData& files) {
-    const QStringList dropped = paths(files);
+    const QStringList dropped = DroppedFiles::paths(files);
     const auto used = std::count_if(dropped.begin(), dropped.end(), mayBeUsed);
     const bool isProject = dropped.size() == 1 && ProjectFile::isProject(dropped.front());
     if (used == 0)
@@ -41,15 +42,6 @@ void DropHint::showFor(const QMimeData& files) {
     setGeometry(parentWidget()->rect());
     raise();
     show();
-}
-
-QStringList DropHint::paths(const QMimeData& files) {
-    QStringList paths;
-    for (const QUrl& url : files.urls()) {
-        if (const QString path = url.toLocalFile(); !path.isEmpty())
-            paths << path;
-    }
-    return paths;
 }
 
 void DropHint::paintEvent(QPaintEvent* /*event*/) {

@@ -13,9 +13,6 @@ public:
 
     void showFor(const QMimeData& files);
 
-    // Paths of the dropped local files and folders.
-    static QStringList paths(const QMimeData& files);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 

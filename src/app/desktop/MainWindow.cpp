@@ -7,6 +7,7 @@
 #include "app/desktop/ResultBar.h"
 #include "app/desktop/StartPanel.h"
 #include "app/desktop/WindowShortcut.h"
+#include "ui/DroppedFiles.h"
 #include "ui/FlashTemplateOutline.h"
 #include "ui/SettingsSearch.h"
 
@@ -200,7 +201,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 // Files that can't be used are accepted, too: the hint and a message say so.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     const QMimeData& files = *event->mimeData();
-    if (DropHint::paths(files).isEmpty())
+    if (DroppedFiles::paths(files).isEmpty())
         return;
     event->acceptProposedAction();
     iDropHint->showFor(files);
@@ -215,6 +216,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     // The drag source is blocked until this function returns.
     QMetaObject::invokeMethod(
-        this, [this, paths = DropHint::paths(*event->mimeData())] { Q_EMIT filesDropped(paths); },
+        this,
+        [this, paths = DroppedFiles::paths(*event->mimeData())] { Q_EMIT filesDropped(paths); },
         Qt::QueuedConnection);
 }
