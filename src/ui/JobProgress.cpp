@@ -17,14 +17,20 @@ constexpr int longHours = 90; // minutes from which on hours are told
 
 void JobProgress::begin() {
     iShare = 0;
+    iFirstShare = -1;
     iTimer.start();
     Q_EMIT moved(0);
 }
 
 void JobProgress::show(double share) {
     iShare = std::clamp(share, iShare, 1.0);
-    if (iTimer.isValid())
-        Q_EMIT moved(iShare);
+    if (!iTimer.isValid())
+        return;
+    if (iFirstShare < 0) {
+        iFirstShare = iShare;
+        iFirstTime = taken();
+    }
+    Q_EMIT moved(iShare);
 }
 
 void JobProgress::end(const QString& message) {
@@ -37,7 +43,13 @@ void JobProgress::end(const QString& message) {
 }
 
 QString JobProgress::text() const {
-    return iTimer.isValid() ? textFor(iShare, taken()) : QString();
+    if (!iTimer.isValid())
+        return {};
+    const double since = iShare - iFirstShare;
+    if (iFirstShare < 0 || since <= 0)
+        return textFor(iShare, 0ms);
+    const std::chrono::duration<double, std::milli> whole = (taken() - iFirstTime) * iShare / since;
+    return textFor(iShare, std::chrono::duration_cast<std::chrono::milliseconds>(whole));
 }
 
 // Rounded down, but not where the fraction is a little less only for how computers count.

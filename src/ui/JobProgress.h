@@ -37,4 +37,8 @@ private:
 
     QElapsedTimer iTimer; // invalid when no job is under way
     double iShare = 0;
+    // The first share that was shown, and when: what was prepared before says nothing about the
+    // rest.
+    double iFirstShare = -1;
+    std::chrono::milliseconds iFirstTime{};
 };
