@@ -27,6 +27,13 @@ struct Texts {
 };
 
 // A file panel's title and the name of its files, by their first extension.
+// The window over which something is asked. While the user works with another program, it is the
+// one that cannot be used before the answer, and not none: the question would stand alone.
+QWidget* front() {
+    QWidget* active = QApplication::activeWindow();
+    return active ? active : QApplication::activeModalWidget();
+}
+
 struct KindOfFile {
     QString type;
     QString title;
@@ -107,7 +114,7 @@ void run(QMessageBox& alert, const QString& information) {
 // Whether the user presses the button of that text.
 bool confirmLoss(const QString& verb, const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
-                      QMessageBox::NoButton, QApplication::activeWindow());
+                      QMessageBox::NoButton, front());
     const QAbstractButton* confirm = alert.addButton(verb, QMessageBox::AcceptRole);
     alert.setDefaultButton(alert.addButton(Texts::tr("Cancel"), QMessageBox::RejectRole));
     run(alert, information);
@@ -117,19 +124,19 @@ bool confirmLoss(const QString& verb, const QString& message, const QString& inf
 } // namespace
 
 std::optional<QString> Panels::chooseFile(const QString& proposed, const QStringList& types) {
-    QFileDialog panel(QApplication::activeWindow(), kindOf(types).title);
+    QFileDialog panel(front(), kindOf(types).title);
     panel.setFileMode(QFileDialog::ExistingFile);
     return run(panel, proposed, types);
 }
 
 std::optional<QString> Panels::chooseFileToSave(const QString& proposed, const QStringList& types) {
-    QFileDialog panel(QApplication::activeWindow(), kindOf(types).titleToSave);
+    QFileDialog panel(front(), kindOf(types).titleToSave);
     panel.setAcceptMode(QFileDialog::AcceptSave);
     return run(panel, proposed, types);
 }
 
 QColor Panels::chooseColor(const QColor& initial, const ColorMoved& moved) {
-    QColorDialog panel(initial, QApplication::activeWindow());
+    QColorDialog panel(initial, front());
     panel.setWindowTitle(Texts::tr("Choose a colour"));
     if (moved)
         QObject::connect(&panel, &QColorDialog::currentColorChanged, &panel, moved);
@@ -147,7 +154,7 @@ QColor Panels::chooseColor(const QColor& initial, const ColorMoved& moved) {
 }
 
 std::optional<QString> Panels::chooseFolder(const QString& prompt) {
-    QFileDialog panel(QApplication::activeWindow(), Texts::tr("Choose a folder"));
+    QFileDialog panel(front(), Texts::tr("Choose a folder"));
     panel.setFileMode(QFileDialog::Directory);
     panel.setOption(QFileDialog::ShowDirsOnly);
     panel.setLabelText(QFileDialog::Accept, prompt);
@@ -158,7 +165,7 @@ std::optional<QString> Panels::chooseFolder(const QString& prompt) {
 
 bool Panels::askToOpen(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Information, QApplication::applicationDisplayName(), message,
-                      QMessageBox::NoButton, QApplication::activeWindow());
+                      QMessageBox::NoButton, front());
     const QAbstractButton* openIt = alert.addButton(Texts::tr("Open it"), QMessageBox::AcceptRole);
     alert.addButton(Texts::tr("No"), QMessageBox::RejectRole);
     run(alert, information);
@@ -175,7 +182,7 @@ bool Panels::askToDelete(const QString& message, const QString& information) {
 
 Panels::Unsaved Panels::askToSave(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
-                      QMessageBox::NoButton, QApplication::activeWindow());
+                      QMessageBox::NoButton, front());
     QPushButton* save =
         alert.addButton(QCoreApplication::translate("Panels", "Save"), QMessageBox::AcceptRole);
     const QAbstractButton* discard = alert.addButton(
@@ -190,7 +197,7 @@ Panels::Unsaved Panels::askToSave(const QString& message, const QString& informa
 
 bool Panels::askToRecover(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Question, QApplication::applicationDisplayName(), message,
-                      QMessageBox::NoButton, QApplication::activeWindow());
+                      QMessageBox::NoButton, front());
     QPushButton* recover =
         alert.addButton(QCoreApplication::translate("Panels", "Recover"), QMessageBox::AcceptRole);
     const QAbstractButton* remove = alert.addButton(
@@ -203,7 +210,7 @@ bool Panels::askToRecover(const QString& message, const QString& information) {
 
 std::optional<bool> Panels::askForText(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Question, QApplication::applicationDisplayName(), message,
-                      QMessageBox::NoButton, QApplication::activeWindow());
+                      QMessageBox::NoButton, front());
     const QAbstractButton* with = alert.addButton(Texts::tr("With text"), QMessageBox::YesRole);
     QPushButton* without = alert.addButton(Texts::tr("Without text"), QMessageBox::NoRole);
     alert.addButton(Texts::tr("Cancel"), QMessageBox::RejectRole);
@@ -216,12 +223,12 @@ std::optional<bool> Panels::askForText(const QString& message, const QString& in
 
 void Panels::showMessage(const QString& message, const QString& information) {
     QMessageBox alert(QMessageBox::Warning, QApplication::applicationDisplayName(), message,
-                      QMessageBox::Ok, QApplication::activeWindow());
+                      QMessageBox::Ok, front());
     run(alert, information);
 }
 
 void Panels::about() {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(front());
     box.setWindowTitle(Texts::tr("About Folvero"));
     box.setIconPixmap(QApplication::windowIcon().pixmap(96, 96));
     box.setText(QStringLiteral("<h3>Folvero %1</h3>").arg(QApplication::applicationVersion()));
