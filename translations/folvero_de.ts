@@ -1320,6 +1320,7 @@
     </message>
     <message>
         <source>blank page</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
         <translation>Einfügen einer leeren Seite</translation>
     </message>
     <message numerus="yes">
@@ -1587,6 +1588,18 @@ Freie Software unter der GNU Affero General Public License, Version 3 oder spät
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projekte</translation>
     </message>
 </context>
 <context>

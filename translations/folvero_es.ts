@@ -1320,6 +1320,7 @@
     </message>
     <message>
         <source>blank page</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
         <translation>la página en blanco</translation>
     </message>
     <message numerus="yes">
@@ -1587,6 +1588,18 @@ Software libre bajo la Licencia Pública General Affero de GNU, versión 3 o pos
     <message>
         <source>Delete</source>
         <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>Abrir un proyecto</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Guardar el proyecto</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Proyectos</translation>
     </message>
 </context>
 <context>

@@ -1320,6 +1320,7 @@
     </message>
     <message>
         <source>blank page</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
         <translation>l’ajout d’une page vierge</translation>
     </message>
     <message numerus="yes">
@@ -1587,6 +1588,18 @@ Logiciel libre sous licence publique générale GNU Affero, version 3 ou ultéri
     <message>
         <source>Delete</source>
         <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Enregistrer le projet</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Projets</translation>
     </message>
 </context>
 <context>

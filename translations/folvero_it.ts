@@ -1320,6 +1320,7 @@
     </message>
     <message>
         <source>blank page</source>
+        <extracomment>Stands in &quot;Undo %1&quot;.</extracomment>
         <translation>inserimento di una pagina vuota</translation>
     </message>
     <message numerus="yes">
@@ -1587,6 +1588,18 @@ Software libero distribuito secondo la GNU Affero General Public License, versio
     <message>
         <source>Delete</source>
         <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>Apri un progetto</translation>
+    </message>
+    <message>
+        <source>Save the project</source>
+        <translation>Salva il progetto</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Progetti</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "pdf/OfficeDocument.h"
 #include "pdf/PictureFile.h"
+#include "project/ProjectFile.h"
 #include "ui/FilePreview.h"
 #include "ui/PlainText.h"
 #include "ui/wxCPWCDelegate.h"
@@ -26,7 +27,6 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(Panels)
 };
 
-// A file panel's title and the name of its files, by their first extension.
 // The window over which something is asked. While the user works with another program, it is the
 // one that cannot be used before the answer, and not none: the question would stand alone.
 QWidget* front() {
@@ -34,6 +34,7 @@ QWidget* front() {
     return active ? active : QApplication::activeModalWidget();
 }
 
+// A file panel's title and the name of its files, by their first extension.
 struct KindOfFile {
     QString type;
     QString title;
@@ -48,6 +49,8 @@ KindOfFile kindOf(const QStringList& types) {
          Texts::tr("Settings")},
         {pictureType, Texts::tr("Choose a picture"), {}, Texts::tr("Pictures")},
         {QStringLiteral("mp3"), Texts::tr("Choose a sound"), {}, Texts::tr("Sounds")},
+        {ProjectFile::extension, Texts::tr("Open a project"), Texts::tr("Save the project"),
+         Texts::tr("Projects")},
     };
     for (const KindOfFile& kind : kinds) {
         if (types.contains(kind.type))
