@@ -43,6 +43,17 @@ QStringList pathsOf(const std::vector<Project::File>& files) {
     return paths;
 }
 
+// That of the project, or of its documents before it is saved; null without any.
+QString bookName(const QString& project, const QStringList& documents) {
+    const QFileInfo named(project.isEmpty() ? documents.value(0) : project);
+    if (named.filePath().isEmpty())
+        return {};
+    // Pictures are most often numbered, and their folder says what they show.
+    const bool arePictures = project.isEmpty() && documents.size() > 1 &&
+                             std::all_of(documents.begin(), documents.end(), PictureFile::isOne);
+    return arePictures ? named.dir().dirName() : named.completeBaseName();
+}
+
 } // namespace
 
 ProjectSession::ProjectSession(Program program, Questions questions)
@@ -100,14 +111,7 @@ void ProjectSession::setSaved() {
 }
 
 void ProjectSession::updateTitle() {
-    const bool arePictures = iDocuments.size() > 1 &&
-                             std::all_of(iDocuments.begin(), iDocuments.end(), PictureFile::isOne);
-    const QFileInfo named(iPath.isEmpty() ? iDocuments.value(0) : iPath);
-    // Pictures are most often numbered, and their folder says what they show.
-    const bool isOfFolder = iPath.isEmpty() && arePictures;
-    iProgram.window.setDocumentName(named.filePath().isEmpty() ? QString()
-                                    : isOfFolder               ? named.dir().dirName()
-                                                               : named.completeBaseName());
+    iProgram.window.setDocumentName(bookName(iPath, iDocuments));
     iProgram.window.setWindowModified(isModified());
 }
 
@@ -373,9 +377,8 @@ void ProjectSession::keepForRecovery() {
 bool ProjectSession::offerRecovery() {
     bool isTaken = false;
     ProjectRecovery::offer([&](const Project& saved, const QDateTime& time) {
-        const QString name = saved.recoveryOf.isEmpty()
-                                 ? tr("a book that was not saved")
-                                 : QFileInfo(saved.recoveryOf).completeBaseName();
+        const QString known = bookName(saved.recoveryOf, pathsOf(saved.documents));
+        const QString name = known.isNull() ? tr("a book that was not saved") : known;
         const auto located =
             ProjectFiles::locate(saved, QFileInfo(saved.recoveryOf).absolutePath());
         if (!iQuestions.recover(tr("Recover the changes to “%1”?").arg(name),
