@@ -247,13 +247,14 @@ QMimeData* PagesModel::mimeData(const QModelIndexList& indexes) const {
     return data;
 }
 
-// False although rows were moved: otherwise the view would remove those that were dragged.
-bool PagesModel::dropMimeData(const QMimeData* data, Qt::DropAction /*action*/, int row,
-                              int /*column*/, const QModelIndex& /*parent*/) {
+// False although something was moved: the view would remove the rows that were dragged, and another
+// program its files.
+bool PagesModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int /*column*/,
+                              const QModelIndex& /*parent*/) {
     const int before = row < 0 ? rowCount() : row;
     if (data->hasUrls()) {
         Q_EMIT filesWereDropped(DroppedFiles::paths(*data), before);
-        return false;
+        return action == Qt::CopyAction;
     }
     QByteArray bytes = data->data(rowsType);
     QDataStream stream(&bytes, QIODevice::ReadOnly);
