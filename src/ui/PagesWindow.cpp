@@ -22,17 +22,13 @@ constexpr QSize usualSize(900, 620);
 PagesWindow::PagesWindow(QWidget* parent)
     : Sheet(tr("The book's pages"), parent),
       lblCount(new QLabel),
-      lblFailure(new QLabel),
+      lblFailure(failureLabel()),
       //: The book is made of these pages, in this order.
       btnOK(new QPushButton(tr("&Use these pages"))),
       iTools(new QToolBar) {
     makeList();
     makeActions();
     fillToolBar();
-    lblFailure->setTextFormat(Qt::PlainText);
-    lblFailure->setWordWrap(true);
-    lblFailure->setObjectName(QStringLiteral("lblFailure"));
-    lblFailure->hide();
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(margins);
     all->addWidget(iTools);

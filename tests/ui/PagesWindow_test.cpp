@@ -122,7 +122,7 @@ TEST_F(PagesSheet, PagesAreDraggedBetweenOthersAndFilesFromOutside) {
     EXPECT_EQ(shown(), "[b1] 1 3 2 6 4 5 7 8 9");
     EXPECT_EQ(model.used().documents, QStringList({Program::sample("outline.pdf"), picture()}));
     EXPECT_EQ(model.used().pages.size(), 10U);
-    EXPECT_TRUE(window.findChild<QWidget*>("lblFailure")->isVisible());
+    EXPECT_TRUE(window.lblFailure->isVisible());
 }
 
 TEST_F(PagesSheet, ScrollsWhileSomethingIsDraggedNearItsEdgesAndNotLonger) {
