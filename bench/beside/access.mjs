@@ -23,9 +23,10 @@ const PAGE = 9;
 export async function treeOf(browser, address, viewer) {
   // So narrow that each viewer shows one page.
   const page = await openViewer(browser, address, viewer, { viewport: { width: 700, height: 1000 } });
-  await page.waitForTimeout(1500);
+  if (!viewer.complete) await page.waitForTimeout(1500);
   await page.evaluate(viewer.goTo, PAGE);
-  await page.waitForTimeout(3000);
+  if (viewer.complete) await page.waitForFunction(viewer.complete, PAGE);
+  else await page.waitForTimeout(3000);
   const session = await page.context().newCDPSession(page);
   await session.send('Accessibility.enable');
   const { result } = await session.send('Runtime.evaluate',

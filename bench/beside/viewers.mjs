@@ -18,13 +18,15 @@ const dragAcross = async (page, forward) => {
 /**
  * where: address within the site. shown: whether the first page is painted. turning: whether pages move or are being
  * drawn. at: what is shown, by a value that changes with each turn. width: of the page, in the window's pixels.
- * goTo: shows a page, from 1. content: selector of what holds a page, from 1. drag: turns by drag, run here;
- * without it, pages do not turn that way.
+ * goTo: shows a page, from 1. content: selector of what holds a page, from 1. complete: whether a page stands there
+ * with its words; not all viewers tell. drag: turns by drag, run here; without it, pages do not turn that way.
  */
 export const VIEWERS = [
   {
     name: 'folvero', where: 'folvero/index.html', content: () => '.book',
     goTo: (page) => window.folvero.goTo(page),
+    complete: (page) => !window.folvero.turning && window.folvero.pages.includes(page)
+      && !document.querySelector('[aria-busy="true"]'),
     shown: () => document.getElementById('folvero')?.dataset.state === 'ready',
     turning: () => Boolean(window.folvero?.turning),
     at: () => String(window.folvero.pages),
