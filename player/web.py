@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
-pages, reading.js for the reading view, notes.js for the reader's notes, contents.js for the tree of contents, single.js
-for single-file books, course.js for courses, and what books that readers can keep have beside these: offline.js and the
-service worker, sw.js. All books have languages.js, texts of languages that the scripts do not have themselves.
+pages, reading.js for the reading view, notes.js for the reader's notes, contents.js for the tree of contents, search.js
+for what searches, single.js for single-file books, course.js for courses, and what books that readers can keep have
+beside these: offline.js and the service worker, sw.js. All books have languages.js, texts of languages that the scripts
+do not have themselves.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
@@ -32,8 +33,8 @@ def main():
     parts = {name: bundled(esbuild, player / "web" / first, (define, texts.table(player, section)))
              for name, (first, define, section) in scripts.items()}
     parts["course.js"] = bundled(esbuild, player / "web/coursepart.js")
-    parts["contents.js"] = bundled(esbuild, player / "web/contentspart.js")
-    parts["single.js"] = bundled(esbuild, player / "web/singlepart.js")
+    for name in ["contents", "search", "single"]:
+        parts[f"{name}.js"] = bundled(esbuild, player / f"web/{name}part.js")
     for name in ["vectors", "reading", "notes"]:
         style = joined_style(esbuild, [player / f"web/{name}.css"])
         parts[f"{name}.js"] = bundled(esbuild, player / f"web/{name}part.js", (f"{name.upper()}_TEXTS", texts.table(player, name)),

@@ -9,8 +9,9 @@ import { Facts } from './facts.js';
 import { icon } from './icons.js';
 import { Layers } from './layers.js';
 import { Links } from './links.js';
+import { once } from './once.js';
 import { PageTexts } from './pagetexts.js';
-import { Searching } from './searching.js';
+import { SearchPanel } from './searchpanel.js';
 import { Selecting } from './selecting.js';
 import { sharedFiles } from './sharedfiles.js';
 import { SideRoom } from './side.js';
@@ -57,21 +58,6 @@ function barButton(name, key, fold, say) {
 /** Whether the browser has service workers here: over https, and from this machine. */
 function mayKeep() {
   return window.isSecureContext && /^https?:$/.test(location.protocol) && 'serviceWorker' in navigator;
-}
-
-/**
- * What does something at its first call, and again at the next one when that failed.
- * @template T
- * @param {() => Promise<T>} act
- */
-function once(act) {
-  /** @type {Promise<T> | null} */
-  let made = null;
-  return () => {
-    made ??= act();
-    made.catch(() => { made = null; });
-    return made;
-  };
 }
 
 /**
@@ -216,10 +202,10 @@ function addToBook(player, facts) {
   let mark = () => {};
   if (facts.hasText) {
     const button = barButton('search', '/', '7.6', say);
-    const searching = new Searching(player, layers, files, room, button);
-    commands.search = () => searching.panel.toggle();
+    const search = new SearchPanel(player, layers, files, room, button);
+    commands.search = () => search.panel.toggle();
     toolbar.add(button, 'thumbs');
-    mark = (typed) => searching.mark(typed);
+    mark = (typed) => search.mark(typed);
   }
   if (facts.reading.length > 0) addReading(player, layers, room);
   const showQuote = addNotes(player, layers, room);

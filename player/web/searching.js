@@ -1,36 +1,39 @@
 import { make, part } from '../src/book/dom.js';
 import { fullLabel } from '../src/book/labels.js';
-import { report } from './events.js';
 import { Hits } from './hits.js';
 import { icon } from './icons.js';
 import { Results } from './results.js';
 import { SearchText } from './searchtext.js';
-import { SidePanel } from './side.js';
 
 /** @typedef {import('./searchtext.js').Answer} Answer */
 
 /** Rest after which what was typed counts as searched, in milliseconds. */
 const TYPED_MS = 1000;
 
-/** The search panel, and the strip that replaces it where it would cover the book. */
+/** What the search panel finds, and the strip that replaces it where it would cover the book. */
 export class Searching {
   /**
    * @param {import('../src/player.js').Player} player
    * @param {import('./layers.js').Layers} layers
    * @param {import('./data.js').DataFiles} files
    * @param {import('./side.js').SideRoom} room
-   * @param {HTMLElement} button
+   * @param {import('./searchpanel.js').SearchPanel} head
+   * @param {Promise<unknown>} begun the first part of the text
    */
-  constructor(player, layers, files, room, button) {
+  constructor(player, layers, files, room, head, begun) {
     const { config, say, root } = player;
     this.say = say;
     this.room = room;
+    this.head = head;
+    this.box = head.box;
+    this.panel = head.panel;
     this.layers = layers;
     this.files = files;
     this.hits = new Hits(player, layers);
     this.seeking = player.seeking;
-    this.panel = new SidePanel(room, 'search', button);
     this.text = new SearchText(layers.facts.listings);
+    /** @type {Promise<unknown> | null} */
+    this.begun = begun;
     /** Parts of the text that are loaded. */
     this.loaded = 0;
     /** @type {Promise<void> | null} */
@@ -43,9 +46,6 @@ export class Searching {
     this.typing = undefined;
     /** Whether the strip is shown when the panel closes. */
     this.stays = false;
-    this.box = /** @type {HTMLInputElement} */ (make('input', 'search-box'));
-    this.status = make('p', 'search-status');
-    this.again = make('button', 'plain-button', say('tryAgain'));
     this.count = make('button', 'strip-count');
     this.strip = make('div', 'search-strip');
     this.#build(root);
@@ -54,9 +54,7 @@ export class Searching {
     this.results.element.setAttribute('aria-labelledby', 'search-title');
     this.panel.body.append(this.results.element);
     this.results.show(null, []);
-    this.panel.onShow = () => this.#shown();
     this.panel.onHide = () => this.#hidden();
-    window.addEventListener('keydown', (event) => this.#key(event), { capture: true });
   }
 
   /**
@@ -71,33 +69,14 @@ export class Searching {
 
   /** @param {HTMLElement} root */
   #build(root) {
-    const { say } = this;
-    Object.assign(this.box, { type: 'search', autocomplete: 'off', spellcheck: false, enterKeyHint: 'search', maxLength: 200 });
-    this.box.dir = 'auto';
-    this.box.setAttribute('aria-label', say('searchBox'));
-    this.box.placeholder = say('searchBox');
-    this.status.setAttribute('role', 'status');
-    const field = make('label', 'search-field', icon('search'), this.box);
-    const row = make('div', 'search-row', this.status, ...this.#steps());
-    this.again.setAttribute('type', 'button');
-    this.again.hidden = true;
-    this.again.addEventListener('click', () => {
-      this.box.focus();
-      this.#find();
-    });
-    this.panel.head.after(make('div', 'search-head', field, row, this.again));
-    this.box.addEventListener('input', () => {
-      this.#find();
-      clearTimeout(this.typing);
-      this.typing = setTimeout(() => this.#reportSearch(), TYPED_MS);
-    });
+    this.head.row.append(...this.#steps());
     this.box.addEventListener('keydown', (event) => this.#boxKey(event));
     this.count.setAttribute('type', 'button');
     this.count.addEventListener('click', () => this.panel.show());
     const end = this.#button('close', 'searchEnd', () => this.end());
     this.strip.append(this.count, ...this.#steps(), end);
     this.strip.setAttribute('role', 'group');
-    this.strip.setAttribute('aria-label', say('search'));
+    this.strip.setAttribute('aria-label', this.say('search'));
     this.strip.hidden = true;
     part(root, '.toast').before(this.strip);
   }
@@ -121,11 +100,9 @@ export class Searching {
     return button;
   }
 
-  #shown() {
+  shown() {
     this.strip.hidden = true;
     this.stays = false;
-    this.box.focus({ preventScroll: true });
-    this.box.select();
     this.#load();
     if (this.answer) this.#tell();
   }
@@ -148,7 +125,7 @@ export class Searching {
    * @param {string} typed
    */
   async mark(typed) {
-    this.text.apart = this.box.value = typed;
+    this.text.apart = typed;
     this.#find();
     await this.loading;
     const { inView } = this.layers;
@@ -164,24 +141,29 @@ export class Searching {
   }
 
   #load() {
-    this.loading ??= this.#loadParts().catch(() => {
-      this.status.textContent = this.say('searchFailed');
-      this.again.hidden = false;
-    }).finally(() => { this.loading = null; });
+    this.loading ??= this.#loadParts().catch(() => this.head.fail()).finally(() => { this.loading = null; });
   }
 
   /** Loads the text, of which a long book has megabytes: until the reader types, only the first part. */
   async #loadParts() {
     while (!this.#complete && (this.loaded === 0 || this.box.value.trim())) {
-      await this.text.add(await this.files.load('search/text' + (this.loaded ? '-' + this.loaded : '')));
+      const text = this.begun ?? this.files.load('search/text' + (this.loaded ? '-' + this.loaded : ''));
+      this.begun = null;
+      await this.text.add(await text);
       this.loaded += 1;
       this.text.complete = this.#complete;
       this.#answer(this.answer);
     }
   }
 
+  /** Searches for what was typed. */
+  find() {
+    this.#find();
+    clearTimeout(this.typing);
+    this.typing = setTimeout(() => this.#reportSearch(), TYPED_MS);
+  }
+
   #find() {
-    this.again.hidden = true;
     if (!this.#complete) this.#load();
     this.#answer(null);
   }
@@ -191,12 +173,8 @@ export class Searching {
    * @param {Answer | null} before what is shown of the same search
    */
   #answer(before) {
-    const typed = this.box.value;
-    if (this.loaded === 0) {
-      this.status.textContent = typed.trim() ? this.say('searchWait') : '';
-      return;
-    }
-    this.answer = this.text.find(typed);
+    if (this.loaded === 0) return;
+    this.answer = this.text.find(this.box.value);
     const { query, hits } = this.answer;
     if (before && before.hits.length > 0 && String(before.query.parts) === String(query.parts)) this.results.extend(hits);
     else {
@@ -212,7 +190,7 @@ export class Searching {
     const typed = this.box.value;
     await this.loading;
     const { query, hits } = this.answer ?? {};
-    if (query && !query.empty && this.#complete && typed === this.box.value) report('search', { text: typed, hits: hits?.length });
+    if (query && !query.empty && this.#complete && typed === this.box.value) this.head.report(typed, hits?.length);
   }
 
   /** Shows the number of hits and which one is current. */
@@ -226,7 +204,7 @@ export class Searching {
     if (!query.empty && hits.length === 0) text = this.say(this.#complete ? 'noHits' : 'searchWait');
     else if (this.index >= 0) text = this.say('hitOf', written(this.index + 1), count);
     else if (hits.length > 0) text = this.say('hits', count, open ? 100 : hits.length);
-    this.status.textContent = text;
+    this.head.status.textContent = text;
     this.count.textContent = text;
     for (const step of this.panel.dialog.querySelectorAll('.step-up, .step-down')) {
       /** @type {HTMLButtonElement} */ (step).disabled = hits.length === 0;
@@ -273,18 +251,5 @@ export class Searching {
     else if (event.key === 'Enter') this.step(event.shiftKey ? -1 : 1);
     else return;
     event.preventDefault();
-  }
-
-  /**
-   * Ctrl+F: the browser's own search would find only what is in view. A second Ctrl+F is left to the browser.
-   * @param {KeyboardEvent} event
-   */
-  #key(event) {
-    const asked = (event.ctrlKey || event.metaKey) && !event.altKey && !event.shiftKey && event.key.toLowerCase() === 'f';
-    if (!asked || document.activeElement === this.box || this.room.root.dataset.state !== 'ready') return;
-    if (this.panel.button.hidden) return;
-    if (this.room.root.querySelector('dialog.panel[open]')) return;
-    event.preventDefault();
-    this.panel.show();
   }
 }

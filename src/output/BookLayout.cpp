@@ -65,7 +65,7 @@ QStringList BookLayout::webFiles() {
 }
 
 QStringList BookLayout::laterScripts() {
-    return {vectorScript, readingScript, notesScript, contentsScript, languageScript};
+    return {vectorScript, readingScript, notesScript, contentsScript, searchScript, languageScript};
 }
 
 QStringList BookLayout::filesOfHTMLPage() {

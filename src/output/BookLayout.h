@@ -43,6 +43,7 @@ public:
     static inline const QString singleScript = QStringLiteral("files/single.js");
     static inline const QString notesScript = QStringLiteral("files/notes.js");
     static inline const QString contentsScript = QStringLiteral("files/contents.js");
+    static inline const QString searchScript = QStringLiteral("files/search.js");
     static inline const QString webStyle = QStringLiteral("files/web.css");
     static inline const QString metadata = QStringLiteral("files/web/book.js");
     static inline const QString searchText = QStringLiteral("files/search/text.js");

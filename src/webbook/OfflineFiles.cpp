@@ -47,16 +47,16 @@ Kind kindOf(const QString& path, const QString& page) {
         path == BookLayout::configurationScript || path == BookLayout::shareImage ||
         path == BookLayout::document)
         return Kind::none;
+    if (BookLayout::isIn(BookLayout::texts, path) ||
+        BookLayout::isIn(BookLayout::thumbnails, path) ||
+        BookLayout::isIn(BookLayout::search, path) || path == BookLayout::searchScript)
+        return Kind::text;
     if (BookLayout::isIn(BookLayout::largePages, path) ||
         BookLayout::isIn(BookLayout::reading, path) || path == BookLayout::textPage ||
         BookLayout::laterScripts().contains(path))
         return Kind::last;
     if (BookLayout::isIn(BookLayout::pages, path))
         return Kind::picture;
-    if (BookLayout::isIn(BookLayout::texts, path) ||
-        BookLayout::isIn(BookLayout::thumbnails, path) ||
-        BookLayout::isIn(BookLayout::search, path))
-        return Kind::text;
     return path == page || !BookLayout::inFiles(path).isNull() ? Kind::shell : Kind::none;
 }
 

@@ -153,11 +153,30 @@ test('an enlarged page is moved to the hit', async () => {
   assert.ok(x >= side.x + side.width && x + width <= 1280 && y >= 0 && y + height <= 728, `${[x, y, width, height]}`);
 });
 
-test('text that cannot be loaded is said so and may be asked for again', async () => {
-  const book = await open(STORY,
-    { before: (page) => page.route('**/search/text.js', (route) => route.fulfill({ status: 404 })) });
-  assert.match(await search(book, 'harbour'), /could not be loaded/);
-  await book.page.unroute('**/search/text.js');
-  await book.page.locator('.search-side .plain-button').click();
-  await book.page.getByText('5 results').first().waitFor();
+for (const file of ['text.js', 'search.js']) {
+  test(`what cannot be loaded for searching is said so and may be asked for again: ${file}`, async () => {
+    const book = await open(STORY,
+      { before: (page) => page.route(`**/${file}`, (route) => route.fulfill({ status: 404 })) });
+    assert.match(await search(book, 'harbour'), /could not be loaded/);
+    await book.page.unroute(`**/${file}`);
+    await book.page.locator('.search-side .plain-button').click();
+    await book.page.getByText('5 results').first().waitFor();
+    assert.equal(await book.page.locator('.search-side .plain-button').isVisible(), false);
+  });
+}
+
+test('what is typed while the script of the search is on its way is found, and both are asked for at once', async () => {
+  let give;
+  const asked = new Promise((resolve) => { give = resolve; });
+  const book = await open(STORY, { before: (page) => page.route('**/search.js', (route) => give(route)) });
+  const isAsked = () => ['files/search.js', 'search/text.js'].map((name) => book.requests.some((one) => one.includes(name)));
+  assert.deepEqual(isAsked(), [false, false]);
+  await press(book, '/', ...'town');
+  const route = await asked;
+  assert.equal(await status(book), 'Searching…');
+  assert.deepEqual(isAsked(), [true, true]);
+  await route.continue();
+  await book.page.getByText('1 result').first().waitFor();
+  assert.equal(await box(book).inputValue(), 'town');
+  assert.deepEqual(book.errors, []);
 });
