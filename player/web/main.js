@@ -268,12 +268,11 @@ function addLargePages(player, layers) {
 }
 
 /**
- * Begins at that page where the reader's last visit names none.
+ * Begins at that page, where neither the address nor the reader's last visit names one.
  * @param {number} page 0 for none
- * @param {number} pageCount
  */
-function beginAt(page, pageCount) {
-  if (!page || new Memory(pageCount).page) return;
+function beginAt(page) {
+  if (!page) return;
   try {
     history.replaceState(null, '', '#page=' + page);
   } catch {
@@ -304,7 +303,10 @@ window.folveroExtensions.push(async (beginning) => {
   // Without them the book still works as a classic one.
   if (!facts) return undefined;
   config.labels = facts.labels;
-  if (!beginning.asked.page) beginAt(facts.start, config.pages.length);
+  if (!beginning.asked.page && !new Memory(config.pages.length).page) {
+    start?.askForNext();
+    beginAt(facts.start);
+  }
   const closed = closePages(config, facts, say('notOpen'));
   window.folveroFile = (path) => closed(path) ?? address(path);
   return (parts) => addToBook({ ...beginning, ...parts }, facts);

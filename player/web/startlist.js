@@ -1,4 +1,4 @@
-import { ownFile } from '../src/book/values.js';
+import { fileAddress, ownFile } from '../src/book/values.js';
 import { fieldsOf, listOf, textOf } from './facts.js';
 
 /** @typedef {import('../src/book/config.js').BookConfig} BookConfig */
@@ -36,6 +36,8 @@ export class StartList {
       ({ path: ownFile(kind[which].replace('#', String(numbers[index]))), width: w, height: h }));
     this.pages = entries(0, width, height).map((entry, index) => ({ ...entry, photo: kinds[index][3] === 'photo' }));
     this.thumbs = entries(1, thumbWidth, thumbHeight);
+    /** Pictures that a reader needs next who begins where the book does. */
+    this.next = listOf(raw.next).map((position) => this.pages[position - 1]?.path).filter(Boolean);
     const fits = this.settings && kinds.length > 0 && kinds.length === numbers.length && width > 0 && height > 0;
     if (!fits) throw new Error('damaged');
     const facts = fieldsOf(raw.facts);
@@ -47,6 +49,15 @@ export class StartList {
   announce() {
     window.FolveroUserConfig = this.settings;
     window.folveroConfiguration = { ...window.folveroConfiguration, here: true, whole: true };
+  }
+
+  /** Requests those pictures early: the book does so only once the first one has arrived, by which it is laid out. */
+  askForNext() {
+    for (const path of this.next) {
+      const link = document.createElement('link');
+      Object.assign(link, { rel: 'preload', as: 'image', fetchPriority: 'low', href: fileAddress(path) });
+      document.head.append(link);
+    }
   }
 
   /** @param {BookConfig} config of the first page */

@@ -29,7 +29,7 @@ TextTemplate HTMLConfigInfo::filled(const QString& pageTemplate, const PagePlace
     page.setItem(QStringLiteral("book.start"), {});
     page.setItem(PagePlaces::headName, places.head);
     page.setItem(PagePlaces::movieName, places.movie);
-    page.setItem(PagePlaces::endName, places.end);
+    page.setItem(PagePlaces::endName, {});
     return page;
 }
 

@@ -13,14 +13,13 @@ struct PagePlaces {
     static inline const QString scriptsName = QStringLiteral("book.scripts");
     static inline const QString headName = QStringLiteral("book.head");
     static inline const QString movieName = QStringLiteral("book.movie");
+    // At the end of the body, where the files of a book in one page go. They may be too large for
+    // memory, so the text template leaves it empty.
     static inline const QString endName = QStringLiteral("book.end");
 
     QString language = QStringLiteral("en");
     QString head;                 // markup at the end of the head
     QString movie = flashMovie(); // the Flash movie, for browsers that run no scripts
-    // Markup at the end of the body; not the files of a book in one page, which may be too large
-    // for memory.
-    QString end;
 
     static QString flashMovie();
     // The element of a script that becomes part of a place. The page's content security policy

@@ -129,7 +129,8 @@ QJsonObject factsOf(const WebBook& book, const TextParts& parts) {
 
 } // namespace
 
-QByteArray StartList::json(const WebBook& book, const TextParts& parts) {
+QByteArray StartList::json(const WebBook& book, const TextParts& parts,
+                           const std::vector<int>& next) {
     if (book.pages.empty())
         return {};
     const auto first = book.configuration(1);
@@ -139,6 +140,11 @@ QByteArray StartList::json(const WebBook& book, const TextParts& parts) {
         {QStringLiteral("sizes"), sizesIn(*first)},
         {QStringLiteral("facts"), factsOf(book, parts)}};
     addPages(list, book);
+    QJsonArray positions;
+    for (const int position : next)
+        positions << position;
+    if (!positions.isEmpty())
+        list[QStringLiteral("next")] = positions;
     // The page passes through a text template, whose placeholders begin with it.
     return WebScript::json(list).replace('$', "\\u0024");
 }

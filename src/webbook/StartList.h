@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <vector>
 
 struct TextParts;
 struct WebBook;
@@ -10,6 +11,7 @@ struct WebBook;
 namespace StartList {
 
 // As JSON, safe inside a script element and in a text template; null for a book without pages.
-QByteArray json(const WebBook& book, const TextParts& parts);
+// next: positions of pages whose pictures are requested before the first has arrived
+QByteArray json(const WebBook& book, const TextParts& parts, const std::vector<int>& next = {});
 
 } // namespace StartList

@@ -205,32 +205,37 @@ QString textOfPlayerPart(const BookLayout& layout, const QString& path) {
     return QString::fromUtf8(PublishTransaction::contents(PlayerFile::installed(layout, path)));
 }
 
-QString preload(const QString& picture, const char* priority) {
-    return QStringLiteral("<link rel=\"preload\" as=\"image\" href=\"%1\" fetchpriority=\"%2\">\n")
-        .arg(picture, QLatin1String(priority));
+bool isSent(const PublishTarget& to, const WebBook& book, std::size_t index) {
+    return index < book.pages.size() && book.isOpen(book.pages[index]) &&
+           to.writes(WebBook::picturePath(book.pages[index]));
 }
 
 // On slow connections, files discovered only after another has arrived cost a round trip each. The
-// first picture is requested before the player, the next two, or those at which the book opens,
-// when all of the page has arrived, unless they are so large that they would delay that.
-void addPreloads(PagePlaces& places, const PublishTarget& to, const WebBook& book) {
+// first picture is requested before the player.
+void addPreload(PagePlaces& places, const PublishTarget& to, const WebBook& book) {
+    if (isSent(to, book, 0))
+        places.head.prepend(
+            QStringLiteral(
+                "<link rel=\"preload\" as=\"image\" href=\"%1\" fetchpriority=\"high\">\n")
+                .arg(WebBook::picturePath(book.pages[0])));
+}
+
+// The next two pages, or those at which the book opens, unless their pictures are so large that
+// they would delay the first one. Only the player knows whether the reader begins there.
+std::vector<int> nextPages(const PublishTarget& to, const WebBook& book) {
     constexpr qint64 mostBytes = 250'000;
     qint64 bytes = 0;
-    const auto next = std::size_t(std::max(2, book.metadata.start / 2 * 2));
-    for (const std::size_t i : {std::size_t(0), next - 1, next}) {
-        if (i >= book.pages.size())
-            break;
-        const QString picture = WebBook::picturePath(book.pages[i]);
-        if (!book.isOpen(book.pages[i]) || !to.writes(picture))
+    std::vector<int> positions;
+    const int next = std::max(2, book.metadata.start / 2 * 2);
+    for (const int position : {next, next + 1}) {
+        const auto index = std::size_t(position) - 1;
+        if (!isSent(to, book, index))
             continue;
-        if (i == 0) {
-            places.head.prepend(preload(picture, "high"));
-            continue;
-        }
-        bytes += QFileInfo(book.pages[i].picture).size();
+        bytes += QFileInfo(book.pages[index].picture).size();
         if (bytes <= mostBytes)
-            places.end += preload(picture, "low");
+            positions.push_back(position);
     }
+    return positions;
 }
 
 // What web books of both forms put into the page.
@@ -245,8 +250,9 @@ PagePlaces placesOf(const WebBook& book) {
 }
 
 // What the player opens the book with, so that it need not request the configuration.
-void addStartList(PagePlaces& places, const WebBook& book, const TextParts& parts) {
-    const QByteArray list = StartList::json(book, parts);
+void addStartList(PagePlaces& places, const WebBook& book, const TextParts& parts,
+                  const std::vector<int>& next) {
+    const QByteArray list = StartList::json(book, parts, next);
     if (list.isNull())
         return;
     places.head += QStringLiteral("<script type=\"application/json\" data-file=\"web/start\">") +
@@ -393,8 +399,8 @@ void WebBookSteps::writePage(PublishTarget& to, const WebBook& book, const WebBo
     const QString pageTemplate = WebPageTemplate::withReferences(
         WebPageTemplate::of(book.flashTemplate.get()), playerAddress(book));
     PagePlaces places = placesOf(book);
-    addPreloads(places, to, book);
-    addStartList(places, book, report.text);
+    addPreload(places, to, book);
+    addStartList(places, book, report.text, nextPages(to, book));
     places.head += playerMarkup(book);
     const TextTemplate page = book.texts.filled(pageTemplate, places);
     to.transaction.write(book.htmlFile, page.parse().toUtf8(), Phase::page);
@@ -426,7 +432,7 @@ void WebBookSteps::writeSingleFile(PublishTarget& to, const PublishTransaction& 
     if (!BookSteps::isInFolder(to.layout, book.htmlFile))
         return;
     PagePlaces places = placesOf(book);
-    addStartList(places, book, options.text);
+    addStartList(places, book, options.text, {});
     const auto script = [&](const QString& path) {
         return places.allowedScript(u'\n' + textOfPlayerPart(to.layout, path));
     };

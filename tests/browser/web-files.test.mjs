@@ -142,6 +142,25 @@ test('a published book opens with the list in its page, and with its files where
   }
 });
 
+test('the next pictures are asked for before the first has come, but not by readers who begin elsewhere', ready, async () => {
+  const folder = path.join(reader.folder, 'next');
+  await folvero('publish', '--quiet', '--type=web', '--pages=1-12', sample('fifty'), folder);
+  const asked = ({ requests }) => requests.map((address) => path.basename(address)).filter((name) => /^[23]\.png$/.test(name));
+  const book = await reader.openOverHttp(folder, { before: async (page) => {
+    const next = Promise.all([2, 3].map((number) => page.waitForRequest(`**/page/${number}.png`)));
+    await page.route('**/page/1.png', (route) => next.then(() => route.continue()));
+  } });
+  await book.page.evaluate(() => window.folvero.goTo(9));
+  await book.waitForPages(8, 9);
+  await book.page.goto('about:blank');
+  book.requests.length = 0;
+  await book.page.goto(book.server.address);
+  await book.page.waitForSelector('#folvero[data-state="ready"]');
+  await book.waitForPages(8, 9);
+  assert.deepEqual(asked(book), [], 'the page of the last visit');
+  assert.deepEqual(asked(await reader.openFromDisk(folder, { hash: '#page=9' })), [], 'the page in the address');
+});
+
 const DAMAGE = [
   ['no facts', 'web/book', null], ['facts that are no script', 'web/book', '<html>not found</html>'],
   ['facts of another file', 'web/book', 'folveroData("web/other", {});'], ['no words', 'text/1', null],

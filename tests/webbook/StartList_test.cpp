@@ -38,6 +38,8 @@ TEST(StartList, HasPagesAndLabelsInRuns) {
     EXPECT_EQ(compact("runs"), "[0,2,1,1,2,1,3,1]");
     EXPECT_EQ(QJsonDocument(list["facts"]["labels"].toArray()).toJson(QJsonDocument::Compact),
               R"([["A-",9,2],"007","${x}<","9999999999"])");
+    EXPECT_FALSE(list.object().contains("next"));
+    EXPECT_TRUE(StartList::json(book, {1, {}, {}}, {2, 3}).contains("\"next\":[2,3]"));
     EXPECT_EQ(StartList::json(WebBook(), {1, {}, {}}), QByteArray());
 }
 

@@ -14,6 +14,7 @@ test('a start list has every page, and what is known of the book', () => {
   assert.deepEqual(config.pages.map(({ path, width, height, photo }) => [path, width, height, photo]),
     [['page/3.png', 600, 800, false], ['', 600, 800, true], ['', 600, 800, true]]);
   assert.deepEqual([config.thumbs[2], config.thumbs.length], [{ path: 'page/9.jpg', width: 85, height: 113 }, 3]);
+  assert.deepEqual(new StartList({ ...LIST, next: [1, 2, 0, 9, 'x'] }).next, ['page/3.png'], 'a page without a picture, and none');
   const { numbers, labels, large, hasText, hasContents } = new Facts(list.facts, 3);
   assert.deepEqual({ numbers, labels, large, hasText, hasContents },
     { numbers: [3, 4, 9], labels: ['A-9', 'A-10', 'x'], large: ['js', '', ''], hasText: true, hasContents: true });
