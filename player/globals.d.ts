@@ -1,5 +1,7 @@
 // Types only: globals that the scripts of a book's page share, and browser APIs that the type checker does not know.
 
+/** How the pages of the template turn; the build puts it in. */
+declare const TURN: string | undefined;
 /** Texts of each script, in the form that learn() takes; the build puts them in. */
 declare const PAGE_TEXTS: string;
 declare const WEB_TEXTS: string;

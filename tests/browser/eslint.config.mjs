@@ -11,13 +11,13 @@ import globals from 'globals';
 const kind = (files, sourceType, names) => ({ files, languageOptions: { sourceType, globals: names } });
 
 /** The build puts them in. */
-const TEXTS = { PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READING_TEXTS: false, READING_STYLE: false,
+const BUILT = { TURN: false, PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READING_TEXTS: false, READING_STYLE: false,
   NOTES_TEXTS: false, NOTES_STYLE: false, VECTORS_TEXTS: false, VECTORS_STYLE: false };
 
 export default [
   js.configs.recommended,
   kind(['**/*.mjs'], 'module', { ...globals.node, ...globals.browser }),
-  kind(['player/early.js', 'player/{src,web,catalogue,preview}/**/*.js'], 'module', { ...globals.browser, ...TEXTS }),
+  kind(['player/early.js', 'player/{src,web,catalogue,preview}/**/*.js'], 'module', { ...globals.browser, ...BUILT }),
   kind(['player/swf/*.js'], 'script', globals.browser),
   kind(['player/sw*.js'], 'module', { ...globals.serviceworker, AbortSignal: false, BOOK: false }),
   // Its one name is for the pages that take it.

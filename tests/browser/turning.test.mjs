@@ -1,13 +1,14 @@
 import assert from 'node:assert/strict';
 import { readFile } from 'node:fs/promises';
+import path from 'node:path';
 import { test } from 'node:test';
 import { colourOf, plainPages } from './support/book.mjs';
-import { PHONE, Reader } from './support/reader.mjs';
+import { PHONE, Reader, TEMPLATE } from './support/reader.mjs';
 
 const reader = Reader.forTests();
 
-async function open(count, { values, look, ...options } = {}) {
-  return reader.openFromDisk(await reader.book({ pages: plainPages(count), values, look }), options);
+async function open(count, { values, template = TEMPLATE, ...options } = {}) {
+  return reader.openFromDisk(await reader.book({ pages: plainPages(count), values, template }), options);
 }
 
 test('mouse, wheel and keys reach the book', async () => {
@@ -44,7 +45,7 @@ test('a page dragged across shows its back on the way', async () => {
 });
 
 test('a page that slides keeps under the finger and uncovers the next', async () => {
-  const book = await open(5, { look: { turn: 'slide', pages: 'single' }, hash: '#page=2' });
+  const book = await open(5, { template: path.join(TEMPLATE, '../deck'), hash: '#page=2' });
   const { x, width } = await book.box('right');
   const { mouse } = book.page;
   await mouse.move(640, 300);

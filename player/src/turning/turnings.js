@@ -19,11 +19,13 @@ import { SlidePainter } from './slide.js';
  */
 
 /**
- * @param {string | undefined} name
+ * A template's pages turn in one way, which the build puts in, so that it can leave out the others.
+ * @param {string | undefined} name of the way where the build has put in none
  * @returns {Painter}
  */
 export function painterFor(name) {
-  if (name === 'flip') return new FlipPainter();
-  if (name === 'slide') return new SlidePainter();
-  return new CurlPainter();
+  // With "else", since the build keeps what merely comes after a return.
+  if (typeof TURN === 'string' ? TURN === 'flip' : name === 'flip') return new FlipPainter();
+  else if (typeof TURN === 'string' ? TURN === 'slide' : name === 'slide') return new SlidePainter();
+  else return new CurlPainter();
 }

@@ -65,20 +65,17 @@ export async function writeConfiguration(folder, bytes) {
 
 /**
  * Writes a book as the publisher would, from the built template.
- * extras: further files by their path in the files folder; look: how the template turns and lays out
- * pages, in place of what it says itself, as { turn, pages, binding }.
+ * extras: further files by their path in the files folder.
  */
 export async function writeBook(folder, options) {
-  const { template, pages, values, declaredSize, thumb, extras = {}, look = {}, title = 'Test book' } = options;
+  const { template, pages, values, declaredSize, thumb, extras = {}, title = 'Test book' } = options;
   await mkdir(path.join(folder, 'files/page'), { recursive: true });
   await mkdir(path.join(folder, 'files/extfiles'), { recursive: true });
   const shell = await readFile(path.join(template, 'index.html'), 'utf8');
   const scripts = [...shell.matchAll(/<script(?: data-shared="[^"]*")?>([^]*?)<\/script>/g)]
     .map(([, text]) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`).join(' ');
   const texts = { 'index.title': title, 'book.language': 'en', 'book.scripts': scripts };
-  const html = Object.entries(look).reduce((page, [name, value]) => page.replace(
-    new RegExp(`(<main id="folvero"[^>]* data-${name}=")[^"]*`), (_, before) => before + value),
-  shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => texts[name] ?? ''));
+  const html = shell.replaceAll(/\$\{([^}]*)\}\s*/g, (_, name) => texts[name] ?? '');
   await writeFile(path.join(folder, 'index.html'), html);
   for (const [index, page] of pages.entries()) {
     await writeFile(path.join(folder, 'files/page', `${index + 1}.jpg`), page.bytes);
