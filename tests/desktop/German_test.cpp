@@ -1,6 +1,7 @@
 #include "app/desktop/Translations.h"
 #include "desktop/DesktopProgram.h"
 #include "desktop/WindowTexts.h"
+#include "ui/PagesWindowDelegate.h"
 
 namespace {
 
@@ -50,17 +51,18 @@ bool mayBeTheSame(const QString& caption) {
 
 TEST(Translations, FirstOfTheUsersLanguagesThatTheProgramSpeaksIsTaken) {
     const std::tuple<QStringList, const char*, const char*> cases[] = {
-        {{"de-AT"}, "de-AT", "&Beenden Abbrechen"},
-        {{"is-IS", "de", "en"}, "de", "&Beenden Abbrechen"},
-        {{"en-GB", "de"}, "en-GB", "&Quit Cancel"},
-        {{"fr-CA"}, "fr-CA", "&Quitter Annuler"},
-        {{"is-IS"}, "", "&Quit Cancel"},
-        {{"C"}, "", "&Quit Cancel"},
+        {{"de-AT"}, "de-AT", "&Beenden Abbrechen 2 Seiten"},
+        {{"is-IS", "de", "en"}, "de", "&Beenden Abbrechen 2 Seiten"},
+        {{"en-GB", "de"}, "en-GB", "&Quit Cancel 2 pages"},
+        {{"fr-CA"}, "fr-CA", "&Quitter Annuler 2 pages"},
+        {{"is-IS"}, "en", "&Quit Cancel 2 pages"},
+        {{"C"}, "en", "&Quit Cancel 2 pages"},
     };
     for (const auto& [languages, taken, captions] : cases) {
         EXPECT_EQ(Translations::install(languages), taken);
         EXPECT_EQ(QCoreApplication::translate("MainMenu", "&Quit") + ' ' +
-                      QCoreApplication::translate("QPlatformTheme", "Cancel"),
+                      QCoreApplication::translate("QPlatformTheme", "Cancel") + ' ' +
+                      PagesWindowDelegate::tr("%n page(s)", nullptr, 2),
                   captions);
         removeTranslations();
     }

@@ -22,7 +22,8 @@ bool load(const QString& language, const QString& name, const QString& folder) {
 // One language at a time: given the whole list, QTranslator would prefer an exact match such as
 // "de" to an earlier partial one such as "en-GB" for our "en".
 QString Translations::install(const QStringList& languages) {
-    for (const QString& language : languages) {
+    // English has texts of its own too: those with a number.
+    for (const QString& language : languages + QStringList(QStringLiteral("en"))) {
         if (!load(language, QStringLiteral("folvero"), QStringLiteral(":/translations")))
             continue;
         // Dialogs in another language than the window's would not help.
