@@ -50,8 +50,9 @@ class FirefoxBook {
   }
 
   /** File of the picture that the first page on the screen shows, once it is there. */
-  picture() {
-    return this.page.$eval('.page:not([hidden]) img', (image) => image.naturalWidth > 0 && image.src.split('/').at(-1));
+  async picture() {
+    const shown = await this.page.waitForSelector('.page:not([hidden]) img');
+    return shown.evaluate((image) => image.naturalWidth > 0 && image.src.split('/').at(-1));
   }
 
   async drag(from, to) {
