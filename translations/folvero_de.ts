@@ -164,6 +164,14 @@
         <source>Drop them here to make one book of them, in the order of their names.</source>
         <translation>Legen Sie sie hier ab, um ein einziges Buch daraus zu machen, in der Reihenfolge ihrer Namen.</translation>
     </message>
+    <message>
+        <source>Drop here to make a new book.</source>
+        <translation>Hier ablegen für ein neues Buch.</translation>
+    </message>
+    <message>
+        <source>Drop here to add to “%1”.</source>
+        <translation>Hier ablegen und zu „%1“ hinzufügen.</translation>
+    </message>
 </context>
 <context>
     <name>FileToSave</name>

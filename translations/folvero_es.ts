@@ -164,6 +164,14 @@
         <source>Drop them here to make one book of them, in the order of their names.</source>
         <translation>Suéltelos aquí para hacer un solo libro con ellos, en el orden de sus nombres.</translation>
     </message>
+    <message>
+        <source>Drop here to make a new book.</source>
+        <translation>Suelte aquí para crear un libro nuevo.</translation>
+    </message>
+    <message>
+        <source>Drop here to add to “%1”.</source>
+        <translation>Suelte aquí para añadir a «%1».</translation>
+    </message>
 </context>
 <context>
     <name>FileToSave</name>

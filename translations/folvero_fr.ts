@@ -164,6 +164,14 @@
         <source>Drop them here to make one book of them, in the order of their names.</source>
         <translation>Déposez-les ici pour en faire un seul livre, dans l’ordre de leurs noms.</translation>
     </message>
+    <message>
+        <source>Drop here to make a new book.</source>
+        <translation>Déposez ici pour faire un nouveau livre.</translation>
+    </message>
+    <message>
+        <source>Drop here to add to “%1”.</source>
+        <translation>Déposez ici pour ajouter à «&#xa0;%1&#xa0;».</translation>
+    </message>
 </context>
 <context>
     <name>FileToSave</name>

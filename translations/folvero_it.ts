@@ -164,6 +164,14 @@
         <source>Drop them here to make one book of them, in the order of their names.</source>
         <translation>Rilasciarli qui per farne un solo libro, nell’ordine dei loro nomi.</translation>
     </message>
+    <message>
+        <source>Drop here to make a new book.</source>
+        <translation>Rilasciare qui per creare un nuovo libro.</translation>
+    </message>
+    <message>
+        <source>Drop here to add to “%1”.</source>
+        <translation>Rilasciare qui per aggiungere a «%1».</translation>
+    </message>
 </context>
 <context>
     <name>FileToSave</name>

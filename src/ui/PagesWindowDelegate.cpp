@@ -134,7 +134,13 @@ void PagesWindowDelegate::insertFiles(const QStringList& files, int before) {
     });
 }
 
-// failures: of the office documents.
+void PagesWindowDelegate::append(const QStringList& files, const QStringList& failures) {
+    iOffice.make(files, [this, files, failures](const QStringList& further) {
+        insertReadable(files, iModel.rowCount(), failures + further);
+    });
+}
+
+// failures: of files that are left out.
 void PagesWindowDelegate::insertReadable(const QStringList& files, int before,
                                          QStringList failures) {
     std::vector<PagesModel::Document> added;

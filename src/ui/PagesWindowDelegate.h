@@ -35,6 +35,9 @@ public:
     void setReading(Reading reading) { iReading = std::move(reading); }
     void setFilesPanel(FilesPanel panel) { iFilesPanel = std::move(panel); }
 
+    // Inserts files at the end of the book that the sheet shows. failures: of others, to be shown.
+    void append(const QStringList& files, const QStringList& failures);
+
     PagesWindow& window() const { return *iWindow; }
     PagesModel& model() { return iModel; }
     // The PDFs of office documents, until the sheet has ended.

@@ -5,6 +5,8 @@
 #include "desktop/DesktopProgram.h"
 #include "support/ChildProcesses.h"
 #include "support/Program.h"
+#include "ui/PagesWindow.h"
+#include "ui/PagesWindowDelegate.h"
 
 namespace {
 
@@ -23,7 +25,7 @@ protected:
         ASSERT_TRUE(waitForImport());
     }
     std::size_t publishedPages() const { return configuration().at("Ppts").children.size(); }
-    void drop(const QStringList& paths) const {
+    void drop(const QStringList& paths, const QPoint& place = {10, 10}) const {
         QMimeData data;
         QList<QUrl> urls;
         for (const QString& file : paths)
@@ -33,7 +35,7 @@ protected:
         QCoreApplication::sendEvent(&window(), &enter);
         const auto* hint = window().findChild<DropHint*>();
         EXPECT_TRUE(enter.isAccepted() && hint->isVisible());
-        QDropEvent dropped({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent dropped(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&window(), &dropped);
         EXPECT_FALSE(hint->isVisible());
         QCoreApplication::processEvents();
@@ -95,6 +97,19 @@ TEST_F(Importing, DroppedFilesMakeOneBookInTheOrderOfTheirNames) {
     for (const char* left : {"note.txt: is no PDF", "damaged.pdf: "})
         EXPECT_TRUE(window().messages->message().contains(left));
     EXPECT_TRUE(window().isWindowModified());
+}
+
+TEST_F(Importing, FilesDroppedOnTheRightAreAddedToTheBook) {
+    const QPoint right(window().width() - 10, 10);
+    drop({pdf(2)}, right);
+    ASSERT_TRUE(waitForImport()) << "there was none";
+    drop({pdf(3), path("gone.pdf")}, right);
+    const PagesWindow& pages = program->pagesWindow().window();
+    ASSERT_TRUE(pages.isVisible());
+    EXPECT_TRUE(pages.lblFailure->text().contains("gone.pdf: no such file"));
+    QTest::mouseClick(pages.btnOK, Qt::LeftButton);
+    ASSERT_TRUE(waitForImport());
+    EXPECT_EQ(publishedPages(), 5u);
 }
 
 TEST_F(Importing, PagesThatWerePutTogetherAreNotReplacedUnasked) {

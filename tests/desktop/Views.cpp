@@ -100,8 +100,10 @@ void Views::showStart() {
     QMimeData dragged;
     dragged.setUrls({QUrl::fromLocalFile(pdf(1)), QUrl::fromLocalFile(pdf(2))});
     auto* hint = window().findChild<DropHint*>();
-    hint->showFor(dragged);
+    hint->showFor(dragged, {});
     look("dragging", *hint);
+    hint->showFor(dragged, "tea");
+    look("dragging over a book", *hint);
     hint->hide();
 }
 

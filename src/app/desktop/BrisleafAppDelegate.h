@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 class Appearance;
 class FlashTemplateModel;
@@ -93,6 +94,8 @@ public:
     void openFile(const QString& path);
     // Makes one book of documents, pictures and folders of them, in the order of their names.
     void openFiles(const QStringList& paths);
+    // Shows the pages of the book with those of the files after them.
+    void addFiles(const QStringList& paths);
 
     void importWindowDidEnd(int returnCode);
     void selectTmplWindowDidEnd(int returnCode);
@@ -104,6 +107,8 @@ private:
     void prepaireTheLog() const;
     static void chooseFirstKind();
     void makeWindows();
+    // Those of the paths that a book can be made of, and why the others can't.
+    std::pair<QStringList, QStringList> usable(const QStringList& paths);
     void loadDemoPages();
     void showEditor();
     void showTemplate();

@@ -174,6 +174,7 @@ void BrisleafAppDelegate::connectCommands() {
             openFile(*file);
     });
     connect(iWindow.get(), &MainWindow::filesDropped, this, &BrisleafAppDelegate::openFiles);
+    connect(iWindow.get(), &MainWindow::filesAdded, this, &BrisleafAppDelegate::addFiles);
     connect(iOuputWindow.get(), &OutputWindowDelegate::publishFailed, this,
             [this](const QString& cause) {
                 iWindow->messages->showError(tr("The book was not published."), cause);

@@ -70,6 +70,22 @@ void BrisleafAppDelegate::openFiles(const QStringList& paths) {
         iProject->open(paths.front());
         return;
     }
+    const auto [files, notUsed] = usable(paths);
+    if (files.isEmpty() || !iProject->mayReplacePages())
+        return;
+    showImportSheet();
+    iNotUsed = notUsed;
+    iImportWindow->importFiles(files);
+}
+
+void BrisleafAppDelegate::addFiles(const QStringList& paths) {
+    const auto [files, notUsed] = usable(paths);
+    if (!files.isEmpty())
+        iProject->addPages(files, notUsed);
+}
+
+// Says so when there is nothing to use.
+std::pair<QStringList, QStringList> BrisleafAppDelegate::usable(const QStringList& paths) {
     QStringList projects;
     QStringList others;
     for (const QString& path : paths)
@@ -78,15 +94,9 @@ void BrisleafAppDelegate::openFiles(const QStringList& paths) {
     QStringList notUsed = localTexts(unusable);
     for (const QString& project : projects)
         notUsed << tr("%1: is a project; open it alone").arg(project);
-    if (files.isEmpty()) {
+    if (files.isEmpty())
         iWindow->messages->showError(tr("Nothing was imported."), notUsed.join(u'\n'));
-        return;
-    }
-    if (!iProject->mayReplacePages())
-        return;
-    showImportSheet();
-    iNotUsed = notUsed;
-    iImportWindow->importFiles(files);
+    return {files, notUsed};
 }
 
 // The direction that the document asks for is no choice of the user's.

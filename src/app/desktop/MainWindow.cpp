@@ -158,10 +158,11 @@ QWidget* MainWindow::previewSide() {
 }
 
 void MainWindow::setDocumentName(const QString& name) {
-    iDocumentName = name.isNull() ? tr("Demo book") : name;
+    iHasDocument = !name.isNull();
+    iDocumentName = iHasDocument ? name : tr("Demo book");
     //: The title of the window; %1 is the name of the document, [*] marks changes.
     setWindowTitle(tr("%1[*] – Folvero").arg(iDocumentName));
-    start->setNeeded(name.isNull());
+    start->setNeeded(!iHasDocument);
 }
 
 void MainWindow::restoreSizes() {
@@ -204,7 +205,12 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     if (DroppedFiles::paths(files).isEmpty())
         return;
     event->acceptProposedAction();
-    iDropHint->showFor(files);
+    iDropHint->showFor(files, iHasDocument ? iDocumentName : QString());
+    iDropHint->pointAt(event->position().toPoint());
+}
+
+void MainWindow::dragMoveEvent(QDragMoveEvent* event) {
+    iDropHint->pointAt(event->position().toPoint());
 }
 
 void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
@@ -214,9 +220,13 @@ void MainWindow::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
 void MainWindow::dropEvent(QDropEvent* event) {
     iDropHint->hide();
     event->acceptProposedAction();
+    iDropHint->pointAt(event->position().toPoint());
     // The drag source is blocked until this function returns.
+    const auto signal = iDropHint->areAdded() ? &MainWindow::filesAdded : &MainWindow::filesDropped;
     QMetaObject::invokeMethod(
         this,
-        [this, paths = DroppedFiles::paths(*event->mimeData())] { Q_EMIT filesDropped(paths); },
+        [this, signal, paths = DroppedFiles::paths(*event->mimeData())] {
+            Q_EMIT(this->*signal)(paths);
+        },
         Qt::QueuedConnection);
 }

@@ -45,11 +45,14 @@ public:
 Q_SIGNALS:
     // Files and folders, as they were dropped.
     void filesDropped(const QStringList& paths);
+    // On the half of the window where they are to be added to the book.
+    void filesAdded(const QStringList& paths);
 
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -62,6 +65,7 @@ private:
     void saveSizes() const;
 
     QString iDocumentName;
+    bool iHasDocument = false;
     DropHint* iDropHint;
     QSplitter* iSides;
     QSplitter* iEditorAndTip;

@@ -81,7 +81,7 @@ void ProjectSession::connectCommands() {
     connect(menu.openProject, &QAction::triggered, this, &ProjectSession::onOpen);
     connect(menu.saveProject, &QAction::triggered, this, &ProjectSession::onSave);
     connect(menu.saveProjectAs, &QAction::triggered, this, &ProjectSession::onSaveAs);
-    connect(menu.arrangePages, &QAction::triggered, this, &ProjectSession::onArrangePages);
+    connect(menu.arrangePages, &QAction::triggered, this, &ProjectSession::arrangePages);
     connect(&iProgram.edits, &QUndoStack::cleanChanged, this, &ProjectSession::updateTitle);
     connect(&iProgram.output, &QDialog::accepted, this, &ProjectSession::takePublish);
 }
@@ -206,7 +206,7 @@ void ProjectSession::importDocuments(const ConvertedDocuments& converted) {
     iProgram.import.importSources({iDocuments, iPages, false, converted});
 }
 
-void ProjectSession::onArrangePages() {
+bool ProjectSession::arrangePages() {
     std::vector<MergePlan::Page> pages = iPages;
     if (pages.empty() && iImport.isRangeTyped && iDocuments.size() == 1) {
         for (const int page : pagesFromExpression(iImport.range, 0))
@@ -217,8 +217,15 @@ void ProjectSession::onArrangePages() {
         if (returnCode == 1)
             takePages();
     };
-    if (!iProgram.pages.beginSheet(iDocuments, std::move(pages), atEnd, &failure))
+    const bool isShown = iProgram.pages.beginSheet(iDocuments, std::move(pages), atEnd, &failure);
+    if (!isShown)
         showError(tr("The pages can't be arranged."), failure);
+    return isShown;
+}
+
+void ProjectSession::addPages(const QStringList& files, const QStringList& notUsed) {
+    if (arrangePages())
+        iProgram.pages.append(files, notUsed);
 }
 
 void ProjectSession::takePages() {

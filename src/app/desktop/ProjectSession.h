@@ -65,8 +65,11 @@ public:
     // False when the project was not saved.
     bool onSave();
     bool onSaveAs();
-    // Shows the sheet in which the pages are arranged, and makes the book anew of those.
-    void onArrangePages();
+    // Shows the sheet in which the pages are arranged, and makes the book anew of those. False when
+    // they can't be read; a message says why.
+    bool arrangePages();
+    // The same, with the pages of files after them. notUsed: why others are left out, to be shown.
+    void addPages(const QStringList& files, const QStringList& notUsed);
 
     // Asks when an import would replace pages that were arranged, or a book of several documents,
     // and that are not saved. False when the user wants to keep them.
