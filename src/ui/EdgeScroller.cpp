@@ -51,7 +51,7 @@ int EdgeScroller::step() const {
     return longestStep * depth / edge;
 }
 
-// The view is told anew where the drag is, so that it marks the place that is there now.
+// Repeats the last move of the drag, so that the view marks the place that has come under it.
 void EdgeScroller::scroll() {
     QScrollBar& bar = *iView.verticalScrollBar();
     const int before = bar.value();
