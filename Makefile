@@ -81,7 +81,7 @@ tidy: build-tidy
 
 # Commands to compile with, nothing compiled.
 build-tidy: packages-test
-	@mkdir -p build && cmake --preset release -B build/tidy -D FOLVERO_PRECOMPILE=OFF >build/tidy.log 2>&1 || \
+	@mkdir -p build && cmake --preset release -B build/tidy -D FOLVERO_PRECOMPILE=OFF -D CMAKE_UNITY_BUILD=OFF >build/tidy.log 2>&1 || \
 		{ cat build/tidy.log; exit 1; }
 
 # A changed header is looked at with the sources that bear its name. A file takes a quarter of a minute, so there is a

@@ -1,8 +1,14 @@
 # Settings that all our targets link to.
 add_library(folvero-settings INTERFACE)
 target_compile_options(folvero-settings INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
+    -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion
     -Wno-sign-conversion -Werror)
+# In a unity build a source comes after others, whose names it may use again, and every class is in an included file.
+if(NOT CMAKE_UNITY_BUILD)
+    target_compile_options(folvero-settings INTERFACE -Wshadow)
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    target_compile_options(folvero-settings INTERFACE -Wno-subobject-linkage)
+endif()
 # Log records contain source file names, but must not contain the build machine's paths.
 target_compile_options(folvero-settings INTERFACE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 target_compile_definitions(folvero-settings INTERFACE

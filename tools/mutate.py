@@ -43,7 +43,7 @@ BROWSER = {"book": "opening|layout|settings|backgrounds|hostile", "turning": "tu
 # Log texts, assertions, layout in pixels, and what makes things faster only.
 LEFT_OUT = re.compile(
     r"\s*(?:#|(?:static_assert|using|import|export \{|template|friend|enum)\b)"
-    r"|.*\b(?:logger(?:\.\w+)?|\w*Log|log|Log::\w+|console\.\w+|\w*(?:assert|ASSERT)|Q_UNUSED|reserve|squeeze|setObjectName"
+    r"|.*\b(?:\w*Log(?:\.\w+)?|log|Log::\w+|console\.\w+|\w*(?:assert|ASSERT)|Q_UNUSED|reserve|squeeze|setObjectName"
     r"|setSpacing|set\w*Margins?|setFixed\w+|setMinimum\w+|resize)\(")
 
 Fault = collections.namedtuple("Fault", "path line kind old new")

@@ -11,7 +11,7 @@ namespace {
 
 constexpr char16_t scanPageForLinks[] = u"scanPageForLinks";
 
-constexpr Log logger("FlashPagesAnnotationsPDF");
+constexpr Log annotationsLog("FlashPagesAnnotationsPDF");
 
 // A link's rectangle in fractions of the page. The player expects exactly these numbers: the origin
 // of the crop box is not subtracted, and the divisors are not swapped on rotated pages.
@@ -82,18 +82,18 @@ bool appendLink(pugi::xml_node pageAnnos, const PDFAnnotation& annotation) {
 }
 
 void logAnnotation(std::size_t index, const PDFAnnotation& annotation) {
-    if (!logger.isDebugEnabled())
+    if (!annotationsLog.isDebugEnabled())
         return;
     const QRectF& bounds = annotation.bounds;
-    logger.debug(QStringLiteral("%1:%2,(%3 %4 %5 %6),d:%7,url:%8")
-                     .arg(index)
-                     .arg(annotation.type)
-                     .arg(bounds.x())
-                     .arg(bounds.y())
-                     .arg(bounds.width())
-                     .arg(bounds.height())
-                     .arg(annotation.destinationPage.value_or(-1))
-                     .arg(annotation.url));
+    annotationsLog.debug(QStringLiteral("%1:%2,(%3 %4 %5 %6),d:%7,url:%8")
+                             .arg(index)
+                             .arg(annotation.type)
+                             .arg(bounds.x())
+                             .arg(bounds.y())
+                             .arg(bounds.width())
+                             .arg(bounds.height())
+                             .arg(annotation.destinationPage.value_or(-1))
+                             .arg(annotation.url));
 }
 
 // False for a page that the document lacks, since then the range is wrong, and for a cancelled
@@ -133,7 +133,7 @@ void FlashPagesAnnotationsPDF::loadLinksFromPDF(std::shared_ptr<PDFDocument> doc
         } catch (const PlatformException& failure) {
             if (!affectsOnePage(failure))
                 throw;
-            logger.warn(
+            annotationsLog.warn(
                 QStringLiteral("page %1: %2").arg(QString::number(number), failure.reason()));
             iUnreadPages.push_back({number, failure.message()});
         }
@@ -155,7 +155,7 @@ void FlashPagesAnnotationsPDF::scheduledScanPage(const Notification& /*notificat
     try {
         parsePage();
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        annotationsLog.warn(failure.reason());
         return;
     }
     ++iCurrentIndex;
@@ -173,21 +173,21 @@ void FlashPagesAnnotationsPDF::parsePage() {
                 .arg(QString::number(iCurrentIndex)));
     }
     const int number = iNeedToImportPages[std::size_t(iCurrentIndex)];
-    logger.debug(QStringLiteral("page is:%1").arg(number));
+    annotationsLog.debug(QStringLiteral("page is:%1").arg(number));
     pugi::xml_node pageAnnos = pagesAnnotationsNode().append_child("pageAnnos");
     pageAnnos.append_attribute("pageIndex") = iCurrentIndex + 1;
     if (!iPDFDoc)
         return;
     const PDFPage page = iPDFDoc->page(number - 1);
     if (iBudget.isSpent()) {
-        logger.warn(QStringLiteral("page %1: too many links before it").arg(number));
+        annotationsLog.warn(QStringLiteral("page %1: too many links before it").arg(number));
         return;
     }
     const auto annotations = iPDFDoc->annotations(number - 1);
     iBudget.spend(annotations);
     if (annotations.empty())
         return;
-    logger.debug(QStringLiteral("count is:%1").arg(annotations.size()));
+    annotationsLog.debug(QStringLiteral("count is:%1").arg(annotations.size()));
     for (std::size_t i = 0; i < annotations.size(); ++i) {
         logAnnotation(i, annotations[i]);
         if (!appendLink(pageAnnos, annotations[i]))

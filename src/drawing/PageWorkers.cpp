@@ -38,7 +38,7 @@ Message notStarted() {
     return Message::translate("PageFailure", "the program that draws pages can't be started");
 }
 
-constexpr Log logger("PageWorkers");
+constexpr Log workersLog("PageWorkers");
 
 // Workers report in English: one of our own reasons, or a file's path and the system's error text.
 Message reasonFrom(const QByteArray& words) {
@@ -88,7 +88,7 @@ std::unique_ptr<ChildProcess> PageWorkers::startProcess() const {
         process->writeLine(order); // a failure shows when reading
         return process;
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        workersLog.warn(failure.reason());
         return nullptr;
     }
 }
@@ -278,7 +278,7 @@ void PageWorkers::failPage(Worker& worker, const Message& reason) {
     worker.process->kill();
     removeFilesOf(page);
     iResults[page].error = reason;
-    logger.warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
+    workersLog.warn(QStringLiteral("page %1: %2").arg(page).arg(reason.english()));
 }
 
 // A process that did not become ready is not a page's fault. One in its sandbox may have opened the

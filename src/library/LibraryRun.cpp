@@ -24,7 +24,7 @@ const QString booksKey = QStringLiteral("books");
 const QString badLineCountKey = QStringLiteral("badLineCount");
 const QString badLinesKey = QStringLiteral("badLines");
 
-QString asText(const QDateTime& time) {
+QString timeText(const QDateTime& time) {
     return time.toUTC().toString(Qt::ISODate);
 }
 
@@ -64,8 +64,8 @@ Message LibraryRun::write(const LibraryLayout& to) const {
                              {shardKey, shard},
                              {shardsKey, shards},
                              {hostKey, host},
-                             {startedKey, asText(started)},
-                             {endedKey, asText(ended)},
+                             {startedKey, timeText(started)},
+                             {endedKey, timeText(ended)},
                              {listKey, QString::fromLatin1(list)},
                              {booksKey, books},
                              {badLineCountKey, badLineCount},

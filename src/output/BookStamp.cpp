@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr Log logger("BookStamp");
+constexpr Log stampLog("BookStamp");
 
 constexpr auto digestMethod = QCryptographicHash::Blake2b_256;
 
@@ -128,7 +128,7 @@ void BookStamp::write(const QString& page) const {
                               {filesKey, text(digestOfFiles(page))}};
     Message cause;
     if (!Files::writeAtomically(pathFor(page), QJsonDocument(content).toJson(), &cause))
-        logger.warn(Message::about(pathFor(page), cause).english());
+        stampLog.warn(Message::about(pathFor(page), cause).english());
 }
 
 BookStamp::Removal::Removal(const QString& page)

@@ -22,7 +22,7 @@ using Phase = PublishTransaction::Phase;
 
 namespace {
 
-constexpr Log logger("FolveroOutput");
+constexpr Log stepsLog("FolveroOutput");
 
 bool isReadableFile(const QString& path) {
     const QFileInfo info(path);
@@ -35,7 +35,7 @@ bool replaceWithCopy(PublishTarget& to, const QString& source, const QString& fo
                      const QString& name, Copy kind) {
     to.checkCancelled();
     if (!BookName::isSafe(name)) {
-        logger.warn(QStringLiteral("left out, not a name for a file of a book: %1").arg(name));
+        stepsLog.warn(QStringLiteral("left out, not a name for a file of a book: %1").arg(name));
         return false;
     }
     const QString target = to.layout.at(folder, name);
@@ -60,8 +60,8 @@ void copySettingsFile(PublishTarget& to, const FlashTemplateProperty& property,
         property.value().isEmpty())
         return;
     missing << property.value();
-    logger.warn(QStringLiteral("the file of setting %1 was left out: %2")
-                    .arg(property.key(), property.value()));
+    stepsLog.warn(QStringLiteral("the file of setting %1 was left out: %2")
+                      .arg(property.key(), property.value()));
 }
 
 void copySettingsFilesBelow(PublishTarget& to, const FlashTemplateProperty& property,
@@ -130,9 +130,9 @@ PublishStep BookSteps::pages(FlashPageSource::Pages pages, const FlashPageSource
                     if (source && source->wasMade(page->pageIndex()))
                         failOfLost(page->pageFilePath());
                     missing.push_back(page->pageIndex());
-                    logger.warn(QStringLiteral("page %1 was left out, no file %2")
-                                    .arg(page->pageIndex())
-                                    .arg(page->pageFilePath()));
+                    stepsLog.warn(QStringLiteral("page %1 was left out, no file %2")
+                                      .arg(page->pageIndex())
+                                      .arg(page->pageFilePath()));
                 }
             }};
 }
@@ -211,7 +211,7 @@ PublishStep BookSteps::linkedFiles(const FlashPagesAnnotations* annotations) {
                     to.checkCancelled();
                     const QString name = Files::lastPathComponent(source);
                     if (!isReadableFile(source) || !BookName::isSafe(name)) {
-                        logger.warn(QStringLiteral("a link's file was left out: %1").arg(source));
+                        stepsLog.warn(QStringLiteral("a link's file was left out: %1").arg(source));
                         continue;
                     }
                     const QString target = to.layout.at(BookLayout::linkedFiles, name);
@@ -238,7 +238,7 @@ bool BookSteps::isInFolder(const BookLayout& layout, const QString& page) {
     if (!page.endsWith(u'/') && BookName::staysInFolder(Files::lastPathComponent(page)) &&
         QDir::cleanPath(QFileInfo(page).path()) == QDir::cleanPath(layout.folder()))
         return true;
-    logger.error(QStringLiteral("no HTML page: not a file in the book's folder: %1").arg(page));
+    stepsLog.error(QStringLiteral("no HTML page: not a file in the book's folder: %1").arg(page));
     return false;
 }
 

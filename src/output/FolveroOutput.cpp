@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr Log logger("FolveroOutput");
+constexpr Log outputLog("FolveroOutput");
 
 void logFailure(const Message& reason) {
-    logger.error(QStringLiteral("the book was not published: %1").arg(reason.english()));
+    outputLog.error(QStringLiteral("the book was not published: %1").arg(reason.english()));
 }
 
 } // namespace
@@ -142,7 +142,7 @@ bool FolveroOutput::run(const BookLayout& book, const PublishSteps& steps,
     for (const Message& error : iOutcome.errors)
         logFailure(error);
     if (iOutcome.wasCancelled)
-        logger.info(QStringLiteral("publishing was cancelled"));
+        outputLog.info(QStringLiteral("publishing was cancelled"));
     return iOutcome.isDone();
 }
 

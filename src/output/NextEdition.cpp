@@ -16,9 +16,7 @@
 
 namespace {
 
-constexpr Log logger("NextEdition");
-
-constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr Log editionLog("NextEdition");
 
 QString parentOf(const QString& path) {
     return path.left(std::max<qsizetype>(path.lastIndexOf(u'/'), 0));
@@ -160,8 +158,8 @@ bool NextEdition::makeFolder(const QString& top, int to) const {
     if (iTypes.value(top) == S_IFDIR)
         obstacle = copyFolder(top, to);
     if (obstacle) {
-        logger.info(QStringLiteral("the files in %1 are exchanged one by one: %2")
-                        .arg(top, obstacle->english()));
+        editionLog.info(QStringLiteral("the files in %1 are exchanged one by one: %2")
+                            .arg(top, obstacle->english()));
         FolderRemoval::removeEntry(to, name);
         if (::mkdirat(to, name.constData(), 0777) != 0 && errno != EEXIST)
             fail(top, Message::ofLastSystemError());

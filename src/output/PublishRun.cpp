@@ -7,7 +7,7 @@ namespace {
 
 struct Cancelled {};
 
-constexpr Log logger("PublishRun");
+constexpr Log runLog("PublishRun");
 
 } // namespace
 
@@ -37,7 +37,7 @@ PublishOutcome PublishRun::commit(const BookLayout& layout, const PublishSteps& 
 
 void PublishRun::stage(PublishTarget& target, const PublishSteps& steps) {
     for (const PublishStep& step : steps) {
-        logger.debug(QStringLiteral("publishing: %1").arg(QLatin1String(step.name)));
+        runLog.debug(QStringLiteral("publishing: %1").arg(QLatin1String(step.name)));
         step.work(target);
     }
 }

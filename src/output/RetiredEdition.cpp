@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-
 // Other programs may put files into a folder as often as it was emptied.
 constexpr int attempts = 5;
 

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr Log logger("ImportPDFOperation");
+constexpr Log operationLog("ImportPDFOperation");
 
 QRectF firstReadableCropBox(const PDFDocument& document) {
     for (int i = 0;; ++i) {
@@ -80,7 +80,7 @@ void ImportPDFOperation::main() {
         throw;
     }
     if (isCancelled()) {
-        logger.debug(QStringLiteral("import pdf is cancelled"));
+        operationLog.debug(QStringLiteral("import pdf is cancelled"));
         setBook({});
     }
 }
@@ -93,7 +93,7 @@ bool ImportPDFOperation::makeDocument() {
         iPDFPath = iMakeDocument([stopped = iStopReading] { return stopped->load(); });
         return true;
     } catch (const PlatformException& failure) {
-        logger.error(failure.reason());
+        operationLog.error(failure.reason());
         fail(failure.kind(), failure.message());
         return false;
     }
@@ -116,7 +116,7 @@ void ImportPDFOperation::checkUnchanged() {
     try {
         iBook.document->checkUnchanged();
     } catch (const PlatformException& failure) {
-        logger.error(failure.reason());
+        operationLog.error(failure.reason());
         iFailures.clear();
         fail(failure.kind(), Message::about(iPDFPath, failure.message()));
         setBook({});
@@ -141,16 +141,16 @@ void ImportPDFOperation::importPages() {
         source->startDrawing();
         if (iBook.document)
             readDocumentProperties(*iBook.document);
-        logger.debug(QStringLiteral("before generate pages"));
+        operationLog.debug(QStringLiteral("before generate pages"));
         source->generatePages();
-        logger.debug(QStringLiteral("after generate pages"));
-        logger.debug(QStringLiteral("before generateNormalPages"));
+        operationLog.debug(QStringLiteral("after generate pages"));
+        operationLog.debug(QStringLiteral("before generateNormalPages"));
         source->generateNormalPages();
-        logger.debug(QStringLiteral("after generateNormalPages"));
+        operationLog.debug(QStringLiteral("after generateNormalPages"));
         if (!isCancelled() && iBook.document && !iBook.hasDrawnPages())
             reportNothingDrawn();
     } catch (const PlatformException& failure) {
-        logger.error(
+        operationLog.error(
             QStringLiteral("Run Import PDF Operation error,import pages:%1").arg(failure.reason()));
         fail(failure.kind(), Message::about(iPDFPath, failure.message()));
         setBook({});
@@ -167,7 +167,7 @@ void ImportPDFOperation::readDocumentProperties(const PDFDocument& document) {
         iBook.documentTitle = document.information("Title").trimmed();
         iBook.rightToLeft = document.isRightToLeft();
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        operationLog.warn(failure.reason());
     }
 }
 
@@ -197,7 +197,7 @@ void ImportPDFOperation::importPageLinks() {
         if (!annotations->unreadPages().empty())
             iFailures << aboutLinks().arg(iPDFPath, linkFailure(annotations->unreadPages()));
     } catch (const PlatformException& failure) {
-        logger.error(
+        operationLog.error(
             QStringLiteral("Run Import PDF Operation error,import links:%1").arg(failure.reason()));
         iFailures << aboutLinks().arg(iPDFPath, failure.message());
     }
@@ -209,8 +209,8 @@ void ImportPDFOperation::importOutline() {
         outline->loadOutlineFromPDF(iBook.document);
         iBook.outline = outline;
     } catch (const PlatformException& failure) {
-        logger.error(QStringLiteral("Run Import PDF Operation error,import outline:%1")
-                         .arg(failure.reason()));
+        operationLog.error(QStringLiteral("Run Import PDF Operation error,import outline:%1")
+                               .arg(failure.reason()));
         //: %1 is the PDF file, %2 tells what is wrong with its bookmarks.
         iFailures << Message::translate("ImportPDFOperation", "%1: bookmarks: %2")
                          .arg(iPDFPath, failure.message());

@@ -10,7 +10,7 @@ namespace {
 
 // Of a page. A page full of small print has some thousand.
 constexpr std::size_t maxMarks = 100'000;
-constexpr std::size_t maxDepth = 256;
+constexpr std::size_t maxOpen = 256;
 constexpr qsizetype maxReplacement = 1'000; // characters
 constexpr qsizetype maxReplacements = 100'000;
 
@@ -164,7 +164,7 @@ struct MarkedContent::Operators {
 };
 
 void MarkedContent::open(const char* tag, int id, const char* replacement) {
-    if (iOpen.size() >= maxDepth) {
+    if (iOpen.size() >= maxOpen) {
         ++iTooDeep;
         return;
     }

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr Log logger("PDFEngine");
+constexpr Log engineLog("PDFEngine");
 
 // Counts what MuPDF allocates and refuses to exceed the limit. MuPDF then empties its store and
 // tries again before it reports an error.
@@ -69,8 +69,8 @@ PDFEngine::~PDFEngine() {
 void PDFEngine::readMessage(void* engine, const char* message) noexcept {
     static_cast<PDFEngine*>(engine)->iDamage.add(message);
     try {
-        if (logger.isDebugEnabled())
-            logger.debug(QString::fromUtf8(message));
+        if (engineLog.isDebugEnabled())
+            engineLog.debug(QString::fromUtf8(message));
     } catch (const std::exception&) {
         return; // losing a warning is harmless
     }

@@ -15,7 +15,7 @@ struct LabelRange {
 
 using LabelRanges = std::map<int, LabelRange>; // by zero-based first page
 
-constexpr int maxDepth = 32;
+constexpr int maxTreeDepth = 32;
 constexpr qsizetype maxPrefix = 64;
 
 QString roman(int number) {
@@ -79,7 +79,7 @@ public:
 
     void read(pdf_obj* node, int depth) {
         pdf_obj* dictionary = iEngine.resolved(node);
-        if (!dictionary || depth > maxDepth || !iSeen.insert(dictionary).second)
+        if (!dictionary || depth > maxTreeDepth || !iSeen.insert(dictionary).second)
             return;
         readLeaf(iEngine.entry(dictionary, "Nums"));
         pdf_obj* children = iEngine.entry(dictionary, "Kids");

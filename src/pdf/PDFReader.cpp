@@ -26,7 +26,7 @@ constexpr qsizetype maxAnswer = qsizetype{128} << 20;
 // A sentence with a path in it.
 constexpr qsizetype maxReason = 16'384;
 
-constexpr Log logger("PDFReader");
+constexpr Log readerLog("PDFReader");
 
 Message crashMessage() {
     return Message::translate("PDFReader", "the program that reads PDF files broke off at it");
@@ -124,7 +124,7 @@ bool PDFReader::start() {
         stopReader();
         if (failure.kind() != ErrorKind::processStart)
             throw;
-        logger.warn(failure.reason());
+        readerLog.warn(failure.reason());
         return false;
     }
 }

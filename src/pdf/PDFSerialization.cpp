@@ -10,7 +10,7 @@
 namespace {
 
 // Far beyond what is read from a document.
-constexpr int maxDepth = 100;
+constexpr int maxNesting = 100;
 constexpr int maxItems = 1'000'000;
 
 bool isFinite(const QSizeF& size) {
@@ -188,7 +188,7 @@ private:
         iStream >> count;
         ++iDepth;
         for (; count > 0 && isOk(); --count) {
-            require(iDepth <= maxDepth && ++iItems <= maxItems);
+            require(iDepth <= maxNesting && ++iItems <= maxItems);
             if (isOk())
                 read(items.emplace_back());
         }

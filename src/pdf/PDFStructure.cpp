@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int maxDepth = 64;
+constexpr int maxAncestors = 64;
 constexpr int maxRoleSteps = 8;
 // Of all elements that a document's pages lead to, and once more of those of a page: they are
 // counted to know their order.
@@ -163,7 +163,7 @@ const PDFStructure::Element* PDFStructure::element(int number) {
 PDFStructure::Chain PDFStructure::chainOf(int number) {
     Chain chain;
     while (number != iRoot) {
-        const Element* next = number > 0 && chain.size() < maxDepth ? element(number) : nullptr;
+        const Element* next = number > 0 && chain.size() < maxAncestors ? element(number) : nullptr;
         if (!next || next->parent == 0)
             return {};
         chain.push_back(next);
@@ -185,7 +185,7 @@ bool PDFStructure::isFirstIn(const Chain& chain, std::size_t inner, std::size_t 
 // The text's block is the innermost element that may be one; some take in their first paragraph.
 PDFTag PDFStructure::tagFrom(const Chain& chain) {
     using Kind = PDFTag::Kind;
-    constexpr std::size_t none = maxDepth;
+    constexpr std::size_t none = maxAncestors;
     std::size_t block = none;
     int sections = 0;
     int cell = 0;

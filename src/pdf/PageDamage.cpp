@@ -5,16 +5,16 @@
 
 namespace {
 
-using Part = bool PageDamage::*;
+using Sign = bool PageDamage::*;
 
-constexpr Part images = &PageDamage::images;
-constexpr Part fonts = &PageDamage::fonts;
-constexpr Part data = &PageDamage::data;
+constexpr Sign images = &PageDamage::images;
+constexpr Sign fonts = &PageDamage::fonts;
+constexpr Sign data = &PageDamage::data;
 
 // How messages begin that are about something that shows. Left out on purpose is what MuPDF repairs
 // or does without, and other readers, too: substituted fonts that are not embedded, unknown
 // operators, missing graphics states, wrong checksums and lengths.
-constexpr std::pair<std::string_view, Part> beginnings[]{
+constexpr std::pair<std::string_view, Sign> beginnings[]{
     {"cannot decode jbig2", images},
     {"cannot complete jbig2 image", images},
     {"no jbig2 image decoded", images},
@@ -72,7 +72,7 @@ bool isMissingFeature(std::string_view message) {
            (has("(NYI)") || has("unsupported") || has("failed to"));
 }
 
-constexpr std::pair<const char*, Part> names[]{
+constexpr std::pair<const char*, Sign> names[]{
     {"images", images}, {"fonts", fonts}, {"data", data}};
 
 } // namespace

@@ -12,7 +12,7 @@ constexpr float outlineUnitsPerEm = PageGlyphs::unitsPerEm / 2;
 constexpr std::size_t maxOutlines = 10'000;
 
 // Of the outlines of one page, and of one outline.
-constexpr std::size_t maxBytes = std::size_t{1} << 20;
+constexpr std::size_t maxLineBytes = std::size_t{1} << 20;
 
 // A wrong one costs bytes only: the pen is moved.
 int advanceOf(float ems) {
@@ -23,7 +23,7 @@ int advanceOf(float ems) {
 } // namespace
 
 PageGlyphs::PageGlyphs(fz_context* ofEngine)
-    : iContext(ofEngine), iLines(maxBytes), iLine(maxBytes) {}
+    : iContext(ofEngine), iLines(maxLineBytes), iLine(maxLineBytes) {}
 
 void PageGlyphs::forgetFonts() {
     for (const auto& entry : iOutlines)

@@ -11,7 +11,7 @@
 namespace {
 
 // A larger file would take a browser seconds to draw.
-constexpr std::size_t maxBytes = std::size_t{1} << 20;
+constexpr std::size_t maxPartBytes = std::size_t{1} << 20;
 
 // Units of the file's numbers.
 constexpr float unitsPerPoint = 100;
@@ -32,7 +32,7 @@ bool keepsCircles(const fz_matrix& matrix) {
 } // namespace
 
 SVGWriter::SVGWriter(fz_context* ofEngine)
-    : iContext(ofEngine), iGlyphs(ofEngine), iBody(maxBytes), iClip(maxBytes) {}
+    : iContext(ofEngine), iGlyphs(ofEngine), iBody(maxPartBytes), iClip(maxPartBytes) {}
 
 void SVGWriter::begin(fz_rect page, std::size_t mostPictureBytes) {
     iGlyphs.begin();
@@ -41,7 +41,7 @@ void SVGWriter::begin(fz_rect page, std::size_t mostPictureBytes) {
     iPictureElements.clear();
     iPictureCount = 0;
     iGlyphCount = 0;
-    iMostPictureBytes = std::min(mostPictureBytes, PDFLimits::maxVectorBytes - 3 * maxBytes);
+    iMostPictureBytes = std::min(mostPictureBytes, PDFLimits::maxVectorBytes - 3 * maxPartBytes);
     iPage = page;
     iToUnits = fz_concat(fz_translate(-page.x0, -page.y0), fz_scale(unitsPerPoint, unitsPerPoint));
     iIsCorrect = true;

@@ -29,7 +29,7 @@ constexpr std::size_t threads = 64;
 // Of one address: far more than a browser opens, and some threads are left for others.
 constexpr std::size_t threadsOfClient = 48;
 
-constexpr Log logger("BookServer");
+constexpr Log serverLog("BookServer");
 
 // The range of a file that a response contains.
 struct Extent {
@@ -207,8 +207,8 @@ void logAnswer(const Request& request, const Response& response) {
     // Keeps a malformed address on one line and free of terminal escape sequences.
     const QByteArray target =
         QByteArray::fromStdString(request.target).toPercentEncoding("/%?=&;,+:@!$'()*");
-    logger.debug(QString::fromStdString(request.method) + u' ' + QString::fromLatin1(target) +
-                 QStringLiteral(": ") + QString::number(response.status));
+    serverLog.debug(QString::fromStdString(request.method) + u' ' + QString::fromLatin1(target) +
+                    QStringLiteral(": ") + QString::number(response.status));
 }
 
 ClientQueues::Address addressOf(socket_t socket) {
@@ -300,7 +300,7 @@ public:
             return httplib::Server::HandlerResponse::Handled;
         };
         iServer.set_error_handler(withoutRange);
-        if (logger.isDebugEnabled())
+        if (serverLog.isDebugEnabled())
             iServer.set_logger(logAnswer);
     }
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr Log logger("SearchService");
+constexpr Log searchLog("SearchService");
 
 // Nobody reads further; each further page costs more than the one before.
 constexpr int mostPages = 50;
@@ -68,7 +68,7 @@ std::optional<ServerAnswer> SearchService::answer(const ServerRequest& request) 
         if (const QString book = bookAt(request.path, manifestPath); !book.isNull())
             return answerWithManifest(book, request);
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        searchLog.warn(failure.reason());
         return problem(500, "the index can't be read");
     }
     return {};

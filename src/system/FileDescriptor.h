@@ -1,7 +1,11 @@
 #pragma once
 
+#include <fcntl.h>
 #include <unistd.h>
 #include <utility>
+
+// Flags to open a folder and not what a link of that name leads to.
+inline constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 // Owns the descriptor of an open file or folder and closes it on destruction.
 class FileDescriptor {

@@ -16,8 +16,6 @@
 
 namespace {
 
-constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-
 // Some file systems give all files one mode, and refuse to set it.
 bool setMode(int file, mode_t mode) {
     struct stat made {};

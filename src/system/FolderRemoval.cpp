@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-
 bool isOnDevice(int folder, dev_t device) {
     struct stat info {};
     return ::fstat(folder, &info) == 0 && info.st_dev == device;

@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr int openFolderItself = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr mode_t permissions = 0777;
 constexpr mode_t ownersOnly = 0700;
 

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr Log logger("FlashTemplate");
+constexpr Log templateLog("FlashTemplate");
 
 // Joins with exactly one separator and none at the end.
 QString appendPathComponent(const QString& folder, const QString& component) {
@@ -71,8 +71,8 @@ void replaceFile(const QString& source, const QString& target) {
 FlashTemplate::FlashTemplate() {
     initTmplProperties();
     loadTemplate(QStringLiteral("float"));
-    logger.debug(QStringLiteral("self is:<FlashTemplate: 0x%1>")
-                     .arg(reinterpret_cast<quintptr>(this), 0, 16));
+    templateLog.debug(QStringLiteral("self is:<FlashTemplate: 0x%1>")
+                          .arg(reinterpret_cast<quintptr>(this), 0, 16));
 }
 
 QStringList FlashTemplate::tmplNames() {
@@ -112,7 +112,7 @@ void FlashTemplate::loadTemplate(const QString& name) {
     if (path.contains(QChar::Null)) {
         iLoadError =
             Message::translate("FlashTemplate", "Can't create an URL from file %1.").arg(path);
-        logger.error(loadError());
+        templateLog.error(loadError());
         return;
     }
     try {
@@ -120,7 +120,7 @@ void FlashTemplate::loadTemplate(const QString& name) {
     } catch (const PlatformException& failure) {
         iLoadError = Message::translate("FlashTemplate", "Can't load the template file \"%1\": %2")
                          .arg(path, failure.message());
-        logger.error(loadError());
+        templateLog.error(loadError());
     }
     warnAboutOutsideFiles(QStringLiteral("template \"%1\"").arg(name), {});
 }
@@ -200,7 +200,7 @@ bool FlashTemplate::isOfLibrary(const QString& path) const {
     if (Confinement::contains(tmplPathForName(iTmplName), path) ||
         Confinement::contains(libraryFolder(), path))
         return true;
-    logger.warn(
+    templateLog.warn(
         QStringLiteral("the template \"%1\" has no right to this file, it lies elsewhere: %2")
             .arg(iTmplName, path));
     return false;
@@ -215,8 +215,9 @@ QString FlashTemplate::valueAsFilePath(const QString& value) const {
     const QString path = appendPathComponent(style, value.mid(found + prefix.size()));
     if (Confinement::contains(style, path))
         return path;
-    logger.warn(QStringLiteral("the style \"%1\" has no right to this file, it lies elsewhere: %2")
-                    .arg(iStyleName, path));
+    templateLog.warn(
+        QStringLiteral("the style \"%1\" has no right to this file, it lies elsewhere: %2")
+            .arg(iStyleName, path));
     return QStringLiteral("");
 }
 
@@ -238,7 +239,7 @@ void FlashTemplate::warnAboutOutsideFiles(const QString& source, const FileValue
         };
         if (isNew && !now[i].second.isEmpty() &&
             std::none_of(folders.begin(), folders.end(), holds))
-            logger.warn(
+            templateLog.warn(
                 QStringLiteral("the %1 names a file that lies elsewhere, books will hold it: %2=%3")
                     .arg(source, now[i].first, now[i].second));
     }

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr Log logger("FlashTemplate");
+constexpr Log settingsLog("FlashTemplate");
 
 // This order, LF before CR, is part of the format.
 const QString recordStart = QStringLiteral("\n\r");
@@ -36,7 +36,7 @@ int FlashTemplate::importPropertiesSettingsFrom(const QString& path) {
         const QString key = line.left(equals);
         const QString value = line.mid(equals + 1);
         if (key == u"innerMainbgImgUrl")
-            logger.debug(QStringLiteral("key 0[%1=%2]").arg(key, value));
+            settingsLog.debug(QStringLiteral("key 0[%1=%2]").arg(key, value));
         setPropertyValue(key, value);
         known += propertyValueFor(key, QString()).isNull() ? 0 : 1;
     }
@@ -61,7 +61,7 @@ bool FlashTemplate::exportPropertiesSettingsTo(const QString& path, Message* err
     Message cause;
     const bool written = Files::writeAtomically(path, settings(), &cause);
     if (!written)
-        logger.warn(
+        settingsLog.warn(
             QStringLiteral("can't write the settings file \"%1\": %2").arg(path, cause.english()));
     if (error)
         *error = cause;

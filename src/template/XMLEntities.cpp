@@ -10,7 +10,7 @@
 namespace {
 
 // Nested entities of a few hundred bytes can expand to gigabytes.
-constexpr qsizetype maximumBytes = 1 << 20;
+constexpr qsizetype maximumTextBytes = 1 << 20;
 constexpr int maximumDepth = 16;
 constexpr qsizetype maximumNameLength = 255;
 
@@ -130,7 +130,7 @@ private:
 
     const Entities& iEntities;
     QByteArray iResult;
-    qsizetype iLeft = maximumBytes;
+    qsizetype iLeft = maximumTextBytes;
 };
 
 } // namespace

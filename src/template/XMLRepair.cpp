@@ -17,7 +17,7 @@ namespace {
 
 // libtidy recurses once per open element, and in malformed text any tag may stay open. So the
 // number of tags bounds the recursion, and the stack is sized for it.
-constexpr qsizetype maximumBytes = 4 << 20;
+constexpr qsizetype maximumFileBytes = 4 << 20;
 constexpr qsizetype maximumTags = 20'000;
 constexpr uint stackBytes = 64U << 20;
 
@@ -156,7 +156,7 @@ QByteArray repairHere(const QByteArray& text) {
 } // namespace
 
 QByteArray XMLRepair::repaired(const QByteArray& text) {
-    if (text.size() > maximumBytes || text.count('<') > maximumTags)
+    if (text.size() > maximumFileBytes || text.count('<') > maximumTags)
         return {};
     std::packaged_task<QByteArray()> repair([&] { return repairHere(text); });
     auto result = repair.get_future();

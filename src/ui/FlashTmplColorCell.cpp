@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr qreal titleLeft = 24;
-constexpr qreal titleKept = 41;
-constexpr qreal tallest = 17;
+constexpr qreal colorTitleLeft = 24;
+constexpr qreal colorTitleKept = 41;
+constexpr qreal colorTallest = 17;
 
 } // namespace
 
@@ -25,7 +25,7 @@ QRectF FlashTmplColorCell::imageRectForBounds(const QRectF& bounds) const {
 }
 
 QRectF FlashTmplColorCell::titleRectForBounds(const QRectF& bounds) const {
-    return titleRect(bounds, titleLeft, 1, titleKept);
+    return titleRect(bounds, colorTitleLeft, 1, colorTitleKept);
 }
 
 QRectF FlashTmplColorCell::infoButtonRectForBounds(const QRectF& bounds) const {
@@ -33,7 +33,7 @@ QRectF FlashTmplColorCell::infoButtonRectForBounds(const QRectF& bounds) const {
 }
 
 QSizeF FlashTmplColorCell::cellSizeForBounds(const QRectF& bounds) const {
-    return cellSize(bounds, titleLeft, tallest);
+    return cellSize(bounds, colorTitleLeft, colorTallest);
 }
 
 void FlashTmplColorCell::drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const {

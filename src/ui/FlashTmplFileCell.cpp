@@ -8,16 +8,16 @@
 
 namespace {
 
-constexpr qreal titleLeft = 4;
-constexpr qreal titleKept = 21;
+constexpr qreal fileTitleLeft = 4;
+constexpr qreal fileTitleKept = 21;
 constexpr qreal buttonFromRight = 14;
-constexpr qreal tallest = 3;
+constexpr qreal fileTallest = 3;
 constexpr int darkBelow = 128;
 
 } // namespace
 
 QRectF FlashTmplFileCell::titleRectForBounds(const QRectF& bounds) const {
-    return titleRect(bounds, titleLeft, 1, titleKept);
+    return titleRect(bounds, fileTitleLeft, 1, fileTitleKept);
 }
 
 QRectF FlashTmplFileCell::infoButtonRectForBounds(const QRectF& bounds) const {
@@ -33,7 +33,7 @@ QRectF FlashTmplFileCell::rectForInfoButtonBasedOnTitleRect(const QRectF& titleR
 }
 
 QSizeF FlashTmplFileCell::cellSizeForBounds(const QRectF& bounds) const {
-    return cellSize(bounds, titleLeft, tallest);
+    return cellSize(bounds, fileTitleLeft, fileTallest);
 }
 
 void FlashTmplFileCell::drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const {

@@ -7,9 +7,9 @@
 namespace {
 
 constexpr qreal imageSide = 32;
-constexpr qreal titleLeft = 41;
-constexpr qreal titleKept = 58;
-constexpr qreal tallest = 40;
+constexpr qreal imageTitleLeft = 41;
+constexpr qreal imageTitleKept = 58;
+constexpr qreal imageTallest = 40;
 
 qreal centred(qreal side) {
     return side < imageSide ? std::round((imageSide - side) / 2) : 0;
@@ -26,7 +26,7 @@ QRectF ImagePreviewCell::imageRectForBounds(const QRectF& bounds) const {
 }
 
 QRectF ImagePreviewCell::titleRectForBounds(const QRectF& bounds) const {
-    return titleRect(bounds, titleLeft, 4, titleKept);
+    return titleRect(bounds, imageTitleLeft, 4, imageTitleKept);
 }
 
 QRectF ImagePreviewCell::subTitleRectForBounds(const QRectF& bounds) const {
@@ -54,7 +54,7 @@ QRectF ImagePreviewCell::rectForInfoButtonBasedOnTitleRect(const QRectF& titleRe
 }
 
 QSizeF ImagePreviewCell::cellSizeForBounds(const QRectF& bounds) const {
-    return cellSize(bounds, titleLeft, tallest);
+    return cellSize(bounds, imageTitleLeft, imageTallest);
 }
 
 void ImagePreviewCell::drawInteriorWithFrame(QPainter& painter, const QRectF& frame) const {

@@ -26,7 +26,7 @@ namespace {
 constexpr int importDPI = 144;
 constexpr std::size_t maxPagesShown = 5;
 
-constexpr Log logger("ImportWindowDelegate");
+constexpr Log importLog("ImportWindowDelegate");
 
 } // namespace
 
@@ -148,7 +148,7 @@ void ImportWindowDelegate::onImportAction() {
     iWindow->lblInfo->clear();
     iWindow->lblTimeLeft->clear();
     showFailure({});
-    logger.debug(QStringLiteral("start to import pdf now..."));
+    importLog.debug(QStringLiteral("start to import pdf now..."));
     startImport();
 }
 
@@ -182,7 +182,7 @@ void ImportWindowDelegate::startImport() {
     iJob.begin();
     const bool typed = iWindow->pageRangeType->checkedId() == ImportWindow::typedPages;
     const QString range = typed ? iWindow->txtPageRange->text() : QStringLiteral("ALL");
-    logger.debug(QStringLiteral("page range is:%1").arg(range));
+    importLog.debug(QStringLiteral("page range is:%1").arg(range));
     const auto& settings = AppSettings::shareInstance();
     iImportPDF =
         std::make_shared<ImportPDFOperation>(iWindow->txtImportFile->text(), range, importDPI,
@@ -199,9 +199,9 @@ void ImportWindowDelegate::startImport() {
     iImportPDF->setSpreads({Spreads(iWindow->spreads->currentIndex()), iIsRightToLeft});
     iImportPDF->setImportLinks(settings.importLinks() == 1);
     iImportPDF->setImportBookmarks(settings.importBookmark() == 1);
-    logger.debug(QStringLiteral("before add operation"));
+    importLog.debug(QStringLiteral("before add operation"));
     iQueue.addOperation(iImportPDF);
-    logger.debug(QStringLiteral("after add operation"));
+    importLog.debug(QStringLiteral("after add operation"));
 }
 
 void ImportWindowDelegate::prepareSources() {
@@ -249,11 +249,11 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
     // Ignores an operation that was cancelled for a newer one.
     if (!operation || operation != iImportPDF)
         return;
-    logger.debug(QStringLiteral("import pdf isFinished."));
+    importLog.debug(QStringLiteral("import pdf isFinished."));
     iFailures = localTexts(operation->failures());
     enableButtons(true);
     if (operation->book().hasDrawnPages()) {
-        logger.debug(QStringLiteral("import pdf ok..."));
+        importLog.debug(QStringLiteral("import pdf ok..."));
         iBook = operation->book();
         takeMerged();
         iJob.end(endNotice(true));
@@ -269,7 +269,7 @@ void ImportWindowDelegate::importDidFinish(const std::shared_ptr<ImportPDFOperat
         iPasswordWindow->ask(file, wasWrong);
         return; // the import goes on with the answer
     }
-    logger.warn(QStringLiteral("import pdf failed..."));
+    importLog.warn(QStringLiteral("import pdf failed..."));
     iJob.end(operation->isCancelled() ? QString() : endNotice(false));
     if (!operation->isCancelled())
         showFailure(iFailures << nextStep(*operation));

@@ -34,7 +34,7 @@
 
 namespace {
 
-constexpr Log logger("OutputWindowDelegate");
+constexpr Log publishLog("OutputWindowDelegate");
 
 constexpr int progressInterval = 100; // ms
 constexpr int filesBesidePages = 10;
@@ -65,7 +65,7 @@ bool allowsText(const PDFDocument& document) {
     try {
         return document.viewing().allowsText;
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        publishLog.warn(failure.reason());
         return false;
     }
 }
@@ -292,7 +292,7 @@ void OutputWindowDelegate::publishAndEnd() {
     try {
         publish(*iOutput);
     } catch (const PlatformException& failure) {
-        logger.error(QStringLiteral("publish error:%1").arg(failure.reason()));
+        publishLog.error(QStringLiteral("publish error:%1").arg(failure.reason()));
         cause = failure.message();
     }
     if (iOutput->wasCancelled()) {
@@ -432,7 +432,7 @@ void OutputWindowDelegate::onSelectFolder() {
 
 // Cancelling keeps what was typed.
 void OutputWindowDelegate::openPanelDidEnd(const std::optional<QString>& panelFile) {
-    logger.debug(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
+    publishLog.debug(QStringLiteral("die end,%1").arg(panelFile.value_or(QString())));
     if (panelFile)
         iWindow->txtOutputFolder->setText(*panelFile);
 }

@@ -9,9 +9,9 @@ namespace {
 
 constexpr qreal iconSide = 32;
 constexpr qreal iconLeft = 1;
-constexpr qreal titleLeft = 35;
+constexpr qreal itemTitleLeft = 35;
 // Total space left free beside the title.
-constexpr qreal titleKept = 71;
+constexpr qreal itemTitleKept = 71;
 // From the title's top to the middle of the row.
 constexpr qreal titleDrop = 8;
 
@@ -25,7 +25,7 @@ const QImage& SelectTmplItemCell::itemImage() const {
 }
 
 QRectF SelectTmplItemCell::titleRectForBounds(const QRectF& bounds) const {
-    return titleRect(bounds, titleLeft, 1, titleKept);
+    return titleRect(bounds, itemTitleLeft, 1, itemTitleKept);
 }
 
 QRectF SelectTmplItemCell::imageRectForBounds(const QRectF& bounds) const {
@@ -39,7 +39,7 @@ QRectF SelectTmplItemCell::infoButtonRectForBounds(const QRectF& /*bounds*/) con
 }
 
 QSizeF SelectTmplItemCell::cellSizeForBounds(const QRectF& bounds) const {
-    const qreal width = titleRectForBounds(bounds).width() + titleKept;
+    const qreal width = titleRectForBounds(bounds).width() + itemTitleKept;
     return {std::min(width, bounds.width()), std::min<qreal>(bounds.height(), rowHeight)};
 }
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr Log logger("FolveroOutputWeb");
+constexpr Log webBookLog("FolveroOutputWeb");
 
 std::vector<PageRun> runsOfPositions(const std::vector<int>& numbers,
                                      const std::vector<PageRun>& openPages) {
@@ -93,7 +93,7 @@ void WebBook::readDocument(const std::shared_ptr<PDFDocument>& document) {
         }
         readLabels(*document, metadata);
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        webBookLog.warn(failure.reason());
     }
 }
 

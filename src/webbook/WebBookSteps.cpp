@@ -36,7 +36,7 @@ using Phase = PublishTransaction::Phase;
 
 namespace {
 
-constexpr Log logger("FolveroOutputWeb");
+constexpr Log webStepsLog("FolveroOutputWeb");
 
 // Writes the files of pages and counts their bytes.
 class PageWriter {
@@ -135,7 +135,7 @@ PDFPageContent PageWriter::contentOf(const WebPage& page) {
     try {
         return PDFSerialization::unpack<PDFPageContent>(packed);
     } catch (const PlatformException& failure) {
-        logger.warn(QStringLiteral("%1: %2").arg(page.text, failure.reason()));
+        webStepsLog.warn(QStringLiteral("%1: %2").arg(page.text, failure.reason()));
         iReport.degradedPages.emplace_back(
             page.number,
             Message::translate("PageFailure",

@@ -9,7 +9,7 @@ using namespace LowLevelCommonCryptor;
 
 namespace {
 
-QByteArray hex(const char* text) {
+QByteArray fromHex(const char* text) {
     return QByteArray::fromHex(text);
 }
 
@@ -40,21 +40,24 @@ TEST(CommonCryptor, MatchesPublishedValuesOfOneBlockInBothDirections) {
           Case{CCAlgorithmRC4, "0102030405060708090a0b0c0d0e0f101112131415161718191a1b1c1d1e1f20",
                "00000000000000000000000000000000", "eaa6bd25880bf93d3f5d1e4ca2611d91"}}) {
         EXPECT_EQ(
-            dataEncryptedUsingAlgorithm(hex(plain), algorithm, hex(key), CCOptionECBMode).toHex(),
+            dataEncryptedUsingAlgorithm(fromHex(plain), algorithm, fromHex(key), CCOptionECBMode)
+                .toHex(),
             cipher);
         EXPECT_EQ(
-            decryptedDataUsingAlgorithm(hex(cipher), algorithm, hex(key), CCOptionECBMode).toHex(),
+            decryptedDataUsingAlgorithm(fromHex(cipher), algorithm, fromHex(key), CCOptionECBMode)
+                .toHex(),
             plain);
     }
 }
 
 TEST(CommonCryptor, ChainsBlocksFromTheVector) {
-    const QByteArray key = hex("603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4");
-    const QByteArray vector = hex("000102030405060708090a0b0c0d0e0f");
+    const QByteArray key =
+        fromHex("603deb1015ca71be2b73aef0857d77811f352c073b6108d72d9810a30914dff4");
+    const QByteArray vector = fromHex("000102030405060708090a0b0c0d0e0f");
     const QByteArray plain =
-        hex("6bc1bee22e409f96e93d7e117393172aae2d8a571e03ac9c9eb76fac45af8e51");
+        fromHex("6bc1bee22e409f96e93d7e117393172aae2d8a571e03ac9c9eb76fac45af8e51");
     const QByteArray cipher =
-        hex("f58c4c04d6e5f1ba779eabfb5f7bfbd69cfc4e967edb808d679f777bc6702c7d");
+        fromHex("f58c4c04d6e5f1ba779eabfb5f7bfbd69cfc4e967edb808d679f777bc6702c7d");
     EXPECT_EQ(dataEncryptedUsingAlgorithm(plain, CCAlgorithmAES, key, vector, 0).toHex(),
               cipher.toHex());
     EXPECT_EQ(decryptedDataUsingAlgorithm(cipher, CCAlgorithmAES, key, vector, 0).toHex(),
@@ -98,7 +101,7 @@ TEST(CommonCryptor, RefusesPaddingThatIsNotWhole) {
                                       {"11", CCDecodeError},
                                       {"01", CCSuccess},
                                       {"030303", CCSuccess}}) {
-        const QByteArray block = QByteArray(16, 'p') + hex(end);
+        const QByteArray block = QByteArray(16, 'p') + fromHex(end);
         CommonCryptor::Error error;
         CommonCryptor::decryptedAES256DataUsingKey(
             dataEncryptedUsingAlgorithm(block.right(16), CCAlgorithmAES, "k"), "k", &error);

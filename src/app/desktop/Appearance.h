@@ -10,6 +10,7 @@ class Appearance : public QObject {
     Q_OBJECT
 
 public:
+    // A C function has the name, too. NOLINTNEXTLINE(clang-diagnostic-shadow)
     enum Choice { system = 0, light = 1, dark = 2 };
 
     explicit Appearance(QObject* parent = nullptr);

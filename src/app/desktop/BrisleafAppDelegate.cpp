@@ -33,7 +33,7 @@
 
 namespace {
 
-constexpr Log logger("BrisleafAppDelegate");
+constexpr Log appLog("BrisleafAppDelegate");
 
 const QString settingsFileType = QStringLiteral("txt");
 const QString helpFile = QStringLiteral("PDF to Folvero for mac Help/PDF to Folvero for Mac.pdf");
@@ -80,7 +80,7 @@ void BrisleafAppDelegate::applyChange(PreviewedBook previewed) {
     try {
         publishPreview(previewed);
     } catch (const PlatformException& failure) {
-        logger.error(QStringLiteral("apply change :%1").arg(failure.reason()));
+        appLog.error(QStringLiteral("apply change :%1").arg(failure.reason()));
         iWindow->messages->showError(tr("The preview could not be brought up to date."),
                                      failure.message().local() + u'\n' +
                                          tr("Press “Apply” to try again."));

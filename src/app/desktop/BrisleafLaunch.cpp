@@ -33,7 +33,7 @@
 
 namespace {
 
-constexpr Log logger("BrisleafAppDelegate");
+constexpr Log launchLog("BrisleafAppDelegate");
 
 constexpr int indentationPerLevel = 8;
 
@@ -56,7 +56,7 @@ void BrisleafAppDelegate::applicationDidFinishLaunching() {
     iAppearance = std::make_unique<Appearance>();
     chooseFirstKind();
     makeWindows();
-    logger.info(QStringLiteral("version is:%1").arg(Bundle::version()));
+    launchLog.info(QStringLiteral("version is:%1").arg(Bundle::version()));
     iWindow->show();
     iWindow->activateWindow();
     iFlashPreviewFolder = QStringLiteral("");

@@ -18,10 +18,10 @@
 
 namespace {
 
-const QString direction = QStringLiteral("RightToLeft");
+const QString directionKey = QStringLiteral("RightToLeft");
 
 bool isDirection(const Project::Value& value) {
-    return value.key == direction;
+    return value.key == directionKey;
 }
 
 std::shared_ptr<FlashTemplate> templateOf(const Project& project) {

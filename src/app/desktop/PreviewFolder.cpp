@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr Log logger("BrisleafAppDelegate");
+constexpr Log previewLog("BrisleafAppDelegate");
 
 // With more programs than this something else is wrong; they share the last folder.
 constexpr int maxFolders = 32;
@@ -63,7 +63,7 @@ QString PreviewFolder::make() {
     removeAbandoned(home);
     const Message failure = restore();
     if (!failure.isNull())
-        logger.warn(
+        previewLog.warn(
             QStringLiteral("flash preview folder cannot be crearted[%1]").arg(failure.english()));
     return iPath;
 }

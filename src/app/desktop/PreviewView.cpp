@@ -22,7 +22,7 @@
 
 namespace {
 
-constexpr Log logger("PreviewView");
+constexpr Log viewLog("PreviewView");
 
 // A page that crashes the renderer on each load must not be reloaded for ever.
 constexpr int maxCrashes = 3;
@@ -78,7 +78,7 @@ protected:
 
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString& message,
                                   int line, const QString& source) override {
-        logger.debug(QStringLiteral("%1:%2: %3").arg(source).arg(line).arg(message));
+        viewLog.debug(QStringLiteral("%1:%2: %3").arg(source).arg(line).arg(message));
     }
 };
 
@@ -175,7 +175,7 @@ void PreviewView::recover() {
     iCrashes = now - iLastCrash < crashWindow ? iCrashes + 1 : 1;
     iLastCrash = now;
     const bool reloads = iCrashes <= maxCrashes;
-    logger.warn(QStringLiteral("the preview's renderer has crashed (%1)").arg(iCrashes));
+    viewLog.warn(QStringLiteral("the preview's renderer has crashed (%1)").arg(iCrashes));
     // The renderer restarts only after the signal has been handled.
     if (reloads)
         QMetaObject::invokeMethod(this, &PreviewView::reloadBook, Qt::QueuedConnection);

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr Log logger("ProjectRecovery");
+constexpr Log recoveryLog("ProjectRecovery");
 
 const QString lockEnding = QStringLiteral(".lock");
 
@@ -31,7 +31,7 @@ std::optional<Project> projectIn(const QString& path) {
     try {
         return ProjectFile::read(path);
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        recoveryLog.warn(failure.reason());
         return std::nullopt;
     }
 }
@@ -59,7 +59,7 @@ void ProjectRecovery::write(const Project& project) {
     if (ProjectFile::write(project, {}, iPath, &error))
         iWritten = content;
     else
-        logger.warn(Message::about(iPath, error).english());
+        recoveryLog.warn(Message::about(iPath, error).english());
 }
 
 void ProjectRecovery::remove() {

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t newBooks = 12;
+constexpr std::size_t shownNewBooks = 12;
 constexpr std::size_t namesInList = 10;
 constexpr std::size_t mostBars = 24;
 constexpr int chartHeight = 72;
@@ -22,7 +22,7 @@ QByteArray newest(const CatalogueSite& site, const SitePage& page) {
     QByteArray markup = "<section class=\"row\">\n<h2><a href=\"" +
                         page.to(CatalogueLayout::page("new", 1)) + "\">" + site.texts.html("new") +
                         "</a></h2>\n<ul class=\"books\">\n";
-    for (std::size_t place = 0; place < std::min(newBooks, site.newest.size()); ++place)
+    for (std::size_t place = 0; place < std::min(shownNewBooks, site.newest.size()); ++place)
         markup += page.card(site.newest[place]);
     return markup + "</ul>\n</section>\n";
 }

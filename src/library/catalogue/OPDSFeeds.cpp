@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int booksAPage = 100;
-constexpr std::size_t newBooks = 100;
+constexpr std::size_t listedNewBooks = 100;
 
 const QString navigation =
     QStringLiteral("application/atom+xml;profile=opds-catalog;kind=navigation");
@@ -142,9 +142,9 @@ void writeLanguages(const CatalogueSite& site, std::vector<Way>& ways) {
 } // namespace
 
 void Feeds::writeOPDS(const CatalogueSite& site) {
-    const BookOrder::Numbers newest(site.newest.begin(),
-                                    site.newest.begin() +
-                                        std::ptrdiff_t(std::min(newBooks, site.newest.size())));
+    const BookOrder::Numbers newest(
+        site.newest.begin(),
+        site.newest.begin() + std::ptrdiff_t(std::min(listedNewBooks, site.newest.size())));
     const QString newTitle = site.texts.text("new");
     const QString allTitle = site.texts.text("title");
     writeBooks(site, "new", newTitle, newest);

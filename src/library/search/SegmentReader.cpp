@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr Log logger("SegmentReader");
+constexpr Log readerLog("SegmentReader");
 
 // How many matches are still to be ranked.
 struct Ranking {
@@ -59,7 +59,7 @@ fts5_api* extensionOf(const Sqlite& database) {
     return api;
 }
 
-bool isBetter(const SegmentReader::Page& one, const SegmentReader::Page& other) {
+bool isBetterPage(const SegmentReader::Page& one, const SegmentReader::Page& other) {
     return one.score != other.score ? one.score > other.score : one.row < other.row;
 }
 
@@ -114,7 +114,7 @@ bool SegmentReader::refresh() {
             database, "SELECT first, pages FROM books WHERE id = ?");
         iOpen = std::move(open);
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        readerLog.warn(failure.reason());
     }
     return iOpen != nullptr;
 }
@@ -160,10 +160,10 @@ SegmentReader::Found SegmentReader::find(const QByteArray& expression, const QSt
         if (found.count > limits.mostRanked)
             continue;
         found.pages.push_back({row, match.real(1)});
-        std::push_heap(found.pages.begin(), found.pages.end(), isBetter);
+        std::push_heap(found.pages.begin(), found.pages.end(), isBetterPage);
         if (found.pages.size() <= limits.mostPages)
             continue;
-        std::pop_heap(found.pages.begin(), found.pages.end(), isBetter); // the worst one
+        std::pop_heap(found.pages.begin(), found.pages.end(), isBetterPage); // the worst one
         found.pages.pop_back();
     }
     return found;

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr Log logger("SegmentWriter");
+constexpr Log writerLog("SegmentWriter");
 
 // Dead rows cost space and time: with more of them than a quarter, a segment is made anew.
 constexpr qint64 mostDead = 4;
@@ -102,7 +102,7 @@ void SegmentWriter::readOld() {
         SqliteStatement state(database, "SELECT next FROM state");
         iNext = state.step() ? state.number(0) : 0;
     } catch (const PlatformException& failure) {
-        logger.warn(failure.reason());
+        writerLog.warn(failure.reason());
         iOld.clear();
         iNext = 0;
     }

@@ -8,13 +8,13 @@ namespace {
 
 using Lines = std::vector<PDFTextLine>;
 
-constexpr double size = 10;
+constexpr double usualSize = 10;
 constexpr double letter = 5;
 
 // A line of words from a left edge on, or up to it where the text runs from right to left.
-PDFTextLine line(double edge, double baseline, const QString& text, double letters = size,
+PDFTextLine line(double edge, double baseline, const QString& text, double letters = usualSize,
                  int style = plainText) {
-    const double wide = letter * letters / size;
+    const double wide = letter * letters / usualSize;
     PDFTextLine made;
     made.baseline = baseline;
     made.rightToLeft = text.front().direction() == QChar::DirR;
@@ -33,7 +33,7 @@ PDFTextLine line(double edge, double baseline, const QString& text, double lette
 }
 
 // Lines below each other, 12 points apart; each text begins with a blank for each unit of indent.
-Lines lines(double left, double top, const QStringList& texts, double letters = size) {
+Lines lines(double left, double top, const QStringList& texts, double letters = usualSize) {
     Lines made;
     for (const QString& text : texts) {
         const QString words = text.trimmed();
@@ -169,7 +169,7 @@ TEST(BookReading, KeepsAParagraphThatBeginsWithASmallerTitle) {
     Lines page = lines(50, 100, QStringList{"Title within. It goes on so it has"} + rest);
     for (PDFTextWord& word : page.front().words) {
         if (word.start < 13 * letter)
-            std::tie(word.size, word.style) = std::pair(0.9 * size, int(boldText));
+            std::tie(word.size, word.style) = std::pair(0.9 * usualSize, int(boldText));
     }
     EXPECT_EQ(read({page}), QStringList{"Title within. It goes on so it has " + joined(rest)});
 }
@@ -218,7 +218,7 @@ TEST(BookReading, PutsFootnotesBehindTheParagraphThatGoesOn) {
 TEST(BookReading, FindsHeadingsByOutlineNumberSizeAndBoldness) {
     const auto page = [](const QString& large, const QString& small) {
         return Lines{line(50, 60, large, 16)} + lines(50, 100, full("body", 5, "end.")) +
-               Lines{line(50, 200, small, size, boldText)} +
+               Lines{line(50, 200, small, usualSize, boldText)} +
                lines(50, 220, full("text", 5, "end."));
     };
     const auto levels = [&](const Lines& lines, const std::vector<Headings::Entry>& outline) {

@@ -14,14 +14,14 @@ namespace {
 constexpr QSizeF pageSize(600, 800);
 
 // A line of words whose baseline is so far from the top.
-QByteArray line(double x, double y, const QByteArray& words, double size = 10) {
+QByteArray drawnLine(double x, double y, const QByteArray& words, double size = 10) {
     return PDFContent::text("F", size, {x, pageSize.height() - y}, words);
 }
 
 QByteArray paragraph(double y, double size = 10) {
     QByteArray lines;
     for (int i = 0; i < 4; ++i)
-        lines += line(50, y + 12 * i, "every line of a paragraph has a good many words", size);
+        lines += drawnLine(50, y + 12 * i, "every line of a paragraph has a good many words", size);
     return lines;
 }
 
@@ -39,7 +39,7 @@ QByteArray table() {
     for (int row = 0; row < 5; ++row) {
         content += rect("f", 100, 200 + 15 * row, 200, 1);
         for (int cell = 0; cell < 3; ++cell)
-            content += line(105 + 66 * cell, 211 + 15 * row, "some words");
+            content += drawnLine(105 + 66 * cell, 211 + 15 * row, "some words");
     }
     return content + rect("f", 100, 200, 1, 60) + rect("f", 300, 200, 1, 60);
 }
@@ -84,8 +84,8 @@ QString figuresOf(const QByteArray& content) {
 
 TEST(Figures, AreImagesAndDrawingsButNotWhatTextStandsOn) {
     const QByteArray text = paragraph(100) + paragraph(600);
-    const QByteArray caption = line(150, 325, "Figure 1: A hill");
-    const QByteArray cell = rect("S", 100, 200, 90, 30) + line(110, 220, "a cell");
+    const QByteArray caption = drawnLine(150, 325, "Figure 1: A hill");
+    const QByteArray cell = rect("S", 100, 200, 90, 30) + drawnLine(110, 220, "a cell");
     const struct {
         const char* what;
         QByteArray content;
@@ -93,15 +93,16 @@ TEST(Figures, AreImagesAndDrawingsButNotWhatTextStandsOn) {
     } cases[] = {
         {"a drawing", text + drawing, "99 199 301 301"},
         {"one with labels, above its caption",
-         text + drawing + line(180, 311, "time") + line(80, 250, "cm") + caption, "79 199 301 315"},
+         text + drawing + drawnLine(180, 311, "time") + drawnLine(80, 250, "cm") + caption,
+         "79 199 301 315"},
         {"parts of one", text + drawing + "q 1 0 0 1 220 0 cm " + drawing + "Q", "99 199 521 301"},
         {"two with text between",
-         text + drawing + line(50, 330, "and these are the words between") +
+         text + drawing + drawnLine(50, 330, "and these are the words between") +
              "q 1 0 0 1 0 -140 cm " + drawing + "Q",
          "99 199 301 301, 99 339 301 441"},
         {"a table", text + table(), ""},
-        {"a table with the caption of a figure", text + cell + line(100, 245, "Figure 2: A cell"),
-         "99 199 191 231"},
+        {"a table with the caption of a figure",
+         text + cell + drawnLine(100, 245, "Figure 2: A cell"), "99 199 191 231"},
         {"a box around text", rect("S", 40, 80, 300, 80) + text, ""},
         {"a page's colour", "0.9 g " + rect("f", 0, 0, 600, 800) + "0 g " + text, ""},
         {"white on white",

@@ -2,12 +2,12 @@
 
 namespace {
 
-QByteArray number(double value) {
+QByteArray operand(double value) {
     return QByteArray::number(value, 'g', 8) + " ";
 }
 
 QByteArray rectOperands(const QRectF& rect) {
-    return number(rect.x()) + number(rect.y()) + number(rect.width()) + number(rect.height());
+    return operand(rect.x()) + operand(rect.y()) + operand(rect.width()) + operand(rect.height());
 }
 
 } // namespace
@@ -20,12 +20,12 @@ QByteArray PDFContent::text(const QByteArray& font, double size, QPointF baselin
             escaped += '\\';
         escaped += c;
     }
-    return "BT /" + font + " " + number(size) + "Tf " + number(baseline.x()) +
-           number(baseline.y()) + "Td (" + escaped + ") Tj ET\n";
+    return "BT /" + font + " " + operand(size) + "Tf " + operand(baseline.x()) +
+           operand(baseline.y()) + "Td (" + escaped + ") Tj ET\n";
 }
 
 QByteArray PDFContent::fillColor(const QColor& color) {
-    return number(color.redF()) + number(color.greenF()) + number(color.blueF()) + "rg\n";
+    return operand(color.redF()) + operand(color.greenF()) + operand(color.blueF()) + "rg\n";
 }
 
 QByteArray PDFContent::fillRect(const QRectF& rect) {
@@ -33,12 +33,12 @@ QByteArray PDFContent::fillRect(const QRectF& rect) {
 }
 
 QByteArray PDFContent::strokeRect(const QRectF& rect, double lineWidth) {
-    return number(lineWidth) + "w " + rectOperands(rect) + "re S\n";
+    return operand(lineWidth) + "w " + rectOperands(rect) + "re S\n";
 }
 
 QByteArray PDFContent::image(const QByteArray& name, const QRectF& rect) {
-    return "q " + number(rect.width()) + "0 0 " + number(rect.height()) + number(rect.x()) +
-           number(rect.y()) + "cm /" + name + " Do Q\n";
+    return "q " + operand(rect.width()) + "0 0 " + operand(rect.height()) + operand(rect.x()) +
+           operand(rect.y()) + "cm /" + name + " Do Q\n";
 }
 
 QByteArray PDFContent::form(const QByteArray& name) {
