@@ -204,6 +204,17 @@ void NextEdition::moveFiles(const QString& top, int to) const {
         if (change.isNeeded && change.staged != 0 && isIn(top, change.path))
             moveStaged(change, to);
     }
+    removeEmptied(top, to);
+}
+
+// Folders whose last file is removed.
+void NextEdition::removeEmptied(const QString& top, int to) const {
+    for (const Change& change : iChanges) {
+        const QString folder = parentOf(change.path);
+        if (change.isNeeded && change.staged == 0 && isIn(top, folder) &&
+            !iFolders.contains(folder))
+            ::unlinkat(to, QFile::encodeName(folder).constData(), AT_REMOVEDIR); // fails for others
+    }
 }
 
 void NextEdition::addSteps(CommitSwitch& to) {

@@ -63,6 +63,7 @@ private:
     std::optional<Message> copyFolder(const QString& top, int to) const;
     QStringList foldersIn(const QString& top) const;
     void moveFiles(const QString& top, int to) const;
+    void removeEmptied(const QString& top, int to) const;
     void addSteps(CommitSwitch& to);
     void addNewFolders(const QString& top, CommitSwitch& to);
     void addReplacement(const QString& path, CommitSwitch& to) const;
