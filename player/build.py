@@ -47,7 +47,8 @@ def main():
     template = json.loads((folder / "template.json").read_text(encoding="utf-8"))
     sheets = [player / "style" / sheet for sheet in STYLES] + [folder / "look.css"]
     style = joined_style(esbuild, sheets)
-    script = bundled(esbuild, player / "src/main.js", ("PAGE_TEXTS", texts.table(player, "page")), ("TURN", template["turn"]))
+    script = bundled(esbuild, player / "src/main.js", ("PAGE_TEXTS", texts.table(player, "page")),
+                     ("LANGUAGES", " ".join(texts.others(player))), ("TURN", template["turn"]))
     page = (player / "shell.html").read_text(encoding="utf-8")
     early = bundled(esbuild, player / "early.js")
     page = page.replace("/*early*/", early).replace("/*style*/", style).replace("/*script*/", script)

@@ -9,6 +9,8 @@ declare const OFFLINE_TEXTS: string;
 declare const READING_TEXTS: string;
 declare const NOTES_TEXTS: string;
 declare const VECTORS_TEXTS: string;
+/** Codes of the languages that have a file of texts in books. */
+declare const LANGUAGES: string;
 /** Style sheets of the reading view, of notes and of enlarged pages. */
 declare const READING_STYLE: string;
 declare const VECTORS_STYLE: string;
@@ -26,7 +28,7 @@ interface Window {
   };
   /** Base64 of the enciphered configuration, once its script has run. */
   FolveroUserConfig?: string;
-  /** Texts of further languages by section, in the form that learn() takes. */
+  /** Texts of the reader's language by section, in the form that learn() takes; missing in English. */
   folveroTexts?: Record<string, string>;
   /** Other scripts leave here what they add to the book before the player's own runs. */
   folveroExtensions?: import('./src/player.js').Extension[];

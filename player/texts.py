@@ -4,10 +4,6 @@ import json
 import re
 import sys
 
-# The texts of these are in the scripts of every book, which each language makes a kilobyte larger. Those of all others
-# are in a file that only their readers load, with one more request.
-IN_SCRIPTS = ["en", "de", "es", "fr"]
-
 # Forms of a text with a number, as Intl.PluralRules names them; "other" is there always.
 FORMS = ["zero", "one", "two", "few", "many", "other"]
 
@@ -76,26 +72,18 @@ def placeholders(text):
 
 
 def table(player, section):
-    """
-    A section's texts in the form that learn() in src/book/words.js takes; languages whose texts are in a file of their
-    own have a line with their code only.
-    """
-    languages = read(player)
-    rest = [code for code in languages if code not in IN_SCRIPTS]
-    return "\n".join([lines(languages, section, IN_SCRIPTS), *rest])
+    """A section's English texts, which scripts have themselves, in the form that learn() in src/book/words.js takes."""
+    return lines(read(player)["en"][section], "en")
 
 
-def languages(player):
-    """The texts of all other languages, by section, each in the same form."""
-    languages = read(player)
-    rest = [code for code in languages if code not in IN_SCRIPTS]
-    return {section: lines(languages, section, rest) for section in languages["en"]}
+def others(player):
+    """By language, those that only its readers load: the texts of each section in the same form."""
+    return {code: {section: lines(own, code) for section, own in texts.items()}
+            for code, texts in read(player).items() if code != "en"}
 
 
-def lines(languages, section, codes):
-    names = list(languages["en"][section])
-    rows = [[code, *(joined(languages[code][section][name]) for name in names)] for code in codes if code in languages]
-    return "\n".join("|".join(row) for row in [["language", *names], *rows])
+def lines(texts, code):
+    return "|".join(["language", *texts]) + "\n" + "|".join([code, *map(joined, texts.values())])
 
 
 def joined(text):

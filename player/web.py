@@ -2,8 +2,8 @@
 """Builds the parts of the player that web books have beside the page's own: web.js and web.css, vectors.js for enlarged
 pages, reading.js for the reading view, notes.js for the reader's notes, contents.js for the tree of contents, search.js
 for what searches, single.js for single-file books, course.js for courses, and what books that readers can keep have
-beside these: offline.js and the service worker, sw.js. All books have languages.js, texts of languages that the scripts
-do not have themselves.
+beside these: offline.js and the service worker, sw.js. All books have languages/CODE.js, the texts of each language but
+English, which the scripts have themselves.
 
 Usage: web.py ESBUILD PLAYER_DIR OUTPUT_DIR
 
@@ -39,9 +39,10 @@ def main():
         style = joined_style(esbuild, [player / f"web/{name}.css"])
         parts[f"{name}.js"] = bundled(esbuild, player / f"web/{name}part.js", (f"{name.upper()}_TEXTS", texts.table(player, name)),
                                       (f"{name.upper()}_STYLE", style))
-    parts["languages.js"] = f"window.folveroTexts={json.dumps(texts.languages(player), ensure_ascii=False)};"
+    parts |= {f"languages/{code}.js": f"window.folveroTexts={json.dumps(own, ensure_ascii=False)};"
+              for code, own in texts.others(player).items()}
     parts["web.css"] = joined_style(esbuild, [player / "web" / sheet for sheet in STYLES])
-    output.mkdir(parents=True, exist_ok=True)
+    (output / "languages").mkdir(parents=True, exist_ok=True)
     for name, text in parts.items():
         check(name, text)
         (output / name).write_text(text + "\n", encoding="utf-8")

@@ -6,7 +6,7 @@ import { fullLabel, labelOf } from './book/labels.js';
 import { addLogo } from './book/logo.js';
 import { playEntrance } from './book/opening.js';
 import { fileAddress } from './book/values.js';
-import { learn, loadMore, say, setTexts } from './book/words.js';
+import { learn, loadTexts, say, setTexts } from './book/words.js';
 import { Turner } from './turning/turner.js';
 import { Gestures } from './controls/gestures.js';
 import { keepKeys, wireKeys } from './controls/keys.js';
@@ -228,9 +228,8 @@ const root = /** @type {HTMLElement} */ (document.getElementById('folvero'));
 part(root, '.book-title').textContent = document.title;
 root.dataset.begun = 'yes';
 const giveKeys = keepKeys(root);
-const table = PAGE_TEXTS; // once, since the build puts in the texts
-loadMore(table).then(() => {
-  learn(table, 'page');
+loadTexts(LANGUAGES).then(() => {
+  learn(PAGE_TEXTS, 'page');
   setTexts(root);
   return openBook(root);
 }).catch((error) => showFailure(root, error));

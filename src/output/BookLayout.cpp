@@ -58,14 +58,12 @@ QStringList BookLayout::webFilesOfPage(int number) {
 }
 
 QStringList BookLayout::webFiles() {
-    QStringList scripts = laterScripts();
-    scripts.removeOne(languageScript); // classic books have it, too
-    return filesOfHTMLPage() + scripts +
+    return filesOfHTMLPage() + laterScripts() +
            QStringList{searchText, offlineScript, shareImage, metadata};
 }
 
 QStringList BookLayout::laterScripts() {
-    return {vectorScript, readingScript, notesScript, contentsScript, searchScript, languageScript};
+    return {vectorScript, readingScript, notesScript, contentsScript, searchScript};
 }
 
 QStringList BookLayout::filesOfHTMLPage() {
@@ -81,6 +79,8 @@ QString BookLayout::namesIn(const QString& folder) {
         return QStringLiteral("offline-[1-9][0-9]*\\.json");
     if (folder == search || folder == reading)
         return QStringLiteral("text-[1-9][0-9]*\\.js");
+    if (folder == languages)
+        return QStringLiteral("[a-z]{2,3}\\.js");
     QString extension = QStringLiteral("[A-Za-z0-9]{1,5}");
     if (folder == largePages)
         extension = QStringLiteral("(js|png|jpg)");

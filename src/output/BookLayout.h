@@ -23,13 +23,14 @@ public:
     static inline const QString webData = QStringLiteral("web");
     static inline const QString settingsFiles = QStringLiteral("extfiles");
     static inline const QString linkedFiles = QStringLiteral("pageConfig");
+    static inline const QString languages = QStringLiteral("languages");
 
     // Every book.
     static inline const QString configuration = QStringLiteral("files/UserConfig.bin");
     static inline const QString configurationScript = QStringLiteral("files/UserConfig.js");
     // The PDF that readers may download.
     static inline const QString document = QStringLiteral("files/extfiles/document.pdf");
-    // Texts of languages that the page's script does not have itself.
+    // Of books of earlier versions: the texts of many languages, which are in a folder now.
     static inline const QString languageScript = QStringLiteral("files/languages.js");
     static inline const QString sound = QStringLiteral("files/extfiles/moveSound.mp3");
     // Books for the Flash player.
@@ -84,7 +85,8 @@ public:
     static QStringList filesOfHTMLPage();
     // Those that let readers save it.
     static QStringList offlineFiles();
-    // A regular expression for the names of numbered files in a folder, whatever their numbers.
+    // A regular expression for the names of files in a folder whose files are named by numbers or,
+    // in "languages", by codes.
     static QString namesIn(const QString& folder);
     // The number of the page whose picture has this path; 0 for other paths.
     static int numberOfPage(const QString& path);

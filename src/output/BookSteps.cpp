@@ -6,6 +6,7 @@
 #include "output/BookName.h"
 #include "output/BookXML.h"
 #include "output/ExistingBook.h"
+#include "output/PlayerFile.h"
 #include "pdf/PDFDocument.h"
 #include "system/Bundle.h"
 #include "system/Files.h"
@@ -300,12 +301,12 @@ PublishStep BookSteps::document(const PDFDocument* source, const QString& path) 
 PublishStep BookSteps::languages(const FlashTemplate* flashTemplate) {
     return {"languages", [=](PublishTarget& to) {
                 to.checkCancelled();
-                const QString name = Files::lastPathComponent(BookLayout::languageScript);
-                const QString source =
-                    Bundle::pathForResource(name, {}, QStringLiteral("AppFiles/Web"));
                 const QString page = flashTemplate ? flashTemplate->tmplHTMLFilePath() : QString();
-                if (isReadableFile(source) && Files::contents(page).contains(name.toUtf8()))
-                    to.transaction.copy(source, to.layout.at(BookLayout::languageScript),
+                // The script of the page asks for them by this name.
+                if (!Files::contents(page).contains(BookLayout::languages.toUtf8() + '/'))
+                    return;
+                for (const QString& path : PlayerFile::languages())
+                    to.transaction.copy(PlayerFile::installed(to.layout, path), to.layout.at(path),
                                         Copy::independent);
             }};
 }
@@ -318,7 +319,7 @@ PublishStep BookSteps::outdatedOfflineFiles() {
                     return;
                 QStringList outdated =
                     BookLayout::offlineFiles() +
-                    ExistingBook::numberedFiles(to.layout.folder(), BookLayout::webData);
+                    ExistingBook::filesNamedAsIn(to.layout.folder(), BookLayout::webData);
                 if (ExistingBook::isTextPage(to.layout.at(BookLayout::textPage)))
                     outdated << BookLayout::textPage;
                 for (const QString& path : outdated) {

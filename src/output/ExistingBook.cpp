@@ -133,7 +133,7 @@ QString ExistingBook::title(const QString& page) {
     return unescaped(QString::fromUtf8(head.mid(text, end - text)));
 }
 
-QStringList ExistingBook::numberedFiles(const QString& folder, const QString& inFiles) {
+QStringList ExistingBook::filesNamedAsIn(const QString& folder, const QString& inFiles) {
     const QRegularExpression name(
         QRegularExpression::anchoredPattern(BookLayout::namesIn(inFiles)));
     QStringList paths;
@@ -162,13 +162,16 @@ QStringList ExistingBook::files(const QString& folder) {
             names << BookLayout::webFilesOfPage(number);
     }
     if (isWebBook)
-        names << BookLayout::webFiles() << numberedFiles(folder, BookLayout::webData)
-              << numberedFiles(folder, BookLayout::search)
-              << numberedFiles(folder, BookLayout::reading);
+        names << BookLayout::webFiles() << filesNamedAsIn(folder, BookLayout::webData)
+              << filesNamedAsIn(folder, BookLayout::search)
+              << filesNamedAsIn(folder, BookLayout::reading);
     if (::offersDocument(document))
         names << BookLayout::document;
-    if (isLanguages(Files::join(folder, BookLayout::languageScript)))
-        names << BookLayout::languageScript;
+    for (const QString& path :
+         QStringList{BookLayout::languageScript} + filesNamedAsIn(folder, BookLayout::languages)) {
+        if (isLanguages(Files::join(folder, path)))
+            names << path;
+    }
     if (isIIIFManifest(Files::join(folder, BookLayout::iiifManifest)))
         names << BookLayout::iiifManifest;
     return names;

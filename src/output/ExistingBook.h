@@ -22,9 +22,9 @@ bool isWebBookIn(const QString& folder);
 // included; empty when that can't be read.
 QStringList files(const QString& folder);
 
-// Paths, relative to the folder, of the files in a folder of BookLayout that have numbers in their
-// names.
-QStringList numberedFiles(const QString& folder, const QString& inFiles);
+// Paths, relative to the folder, of the files in a folder of BookLayout whose names are like those
+// of a book's.
+QStringList filesNamedAsIn(const QString& folder, const QString& inFiles);
 
 // Whether a file is the HTML page of a book, including that of a single-file book. The page with
 // the book's text is not.
@@ -33,7 +33,7 @@ bool isPage(const QString& file);
 // Whether a folder's book has the imported document to download.
 bool offersDocument(const QString& folder);
 
-// Whether a file has the texts of further languages.
+// Whether a file has the player's texts of a language, or of several.
 bool isLanguages(const QString& file);
 
 // Whether a file is the page of plain text of a web book.

@@ -5,6 +5,7 @@
 #include "output/BookXML.h"
 #include "output/ExistingBook.h"
 #include "output/ForeignFiles.h"
+#include "output/PlayerFile.h"
 #include "output/PublisherChoices.h"
 #include "output/StagingFolder.h"
 #include "system/Files.h"
@@ -54,9 +55,11 @@ QStringList FolveroOutput::foreignFiles() const {
                                       !ExistingBook::isWebBookIn(iSaveToFolder));
     if (!hasMovie && ForeignFiles::isThere(outputSWFName()))
         found << outputSWFName();
-    const QString languages = layout().at(BookLayout::languageScript);
-    if (ForeignFiles::isThere(languages) && !ExistingBook::isLanguages(languages))
-        found << languages;
+    for (const QString& path : PlayerFile::languages()) {
+        const QString language = layout().at(path);
+        if (ForeignFiles::isThere(language) && !ExistingBook::isLanguages(language))
+            found << language;
+    }
     // Callers ask before there is a document.
     const QString document = layout().at(BookLayout::document);
     if (PublisherChoices::offerDocument(iFlashTemplate.get()) &&

@@ -1,13 +1,13 @@
 #include "webbook/OfflineFiles.h"
 
 #include "output/ExistingBook.h"
+#include "output/PlayerFile.h"
 #include "output/PublishRun.h"
 #include "system/Files.h"
 #include "system/MediaType.h"
 #include "template/FlashTemplate.h"
 #include "util/ColorCategory.h"
 #include "util/NSData+CommonCrypto.h"
-#include "webbook/PlayerFile.h"
 #include "webbook/SharedPlayer.h"
 #include "webbook/WebBook.h"
 
@@ -52,7 +52,8 @@ Kind kindOf(const QString& path, const QString& page) {
         BookLayout::isIn(BookLayout::search, path) || path == BookLayout::searchScript)
         return Kind::text;
     if (BookLayout::isIn(BookLayout::largePages, path) ||
-        BookLayout::isIn(BookLayout::reading, path) || path == BookLayout::textPage ||
+        BookLayout::isIn(BookLayout::reading, path) ||
+        BookLayout::isIn(BookLayout::languages, path) || path == BookLayout::textPage ||
         BookLayout::laterScripts().contains(path))
         return Kind::last;
     if (BookLayout::isIn(BookLayout::pages, path))

@@ -3,6 +3,7 @@
 #include "base/PlatformException.h"
 #include "output/BookLayout.h"
 #include "output/BookName.h"
+#include "output/PlayerFile.h"
 #include "output/PublishTransaction.h"
 #include "system/Bundle.h"
 #include "system/Confinement.h"
@@ -10,7 +11,6 @@
 #include "system/NameAliases.h"
 #include "template/FlashTemplate.h"
 #include "util/NSData+CommonCrypto.h"
-#include "webbook/PlayerFile.h"
 #include "webbook/WebPageTemplate.h"
 
 #include <QDir>
@@ -103,7 +103,7 @@ void SharedPlayer::addFiles(const QString& bookFolder, const FlashTemplate& flas
     const BookLayout book(bookFolder);
     for (const QString& path :
          QStringList{BookLayout::webScript, BookLayout::webStyle, BookLayout::offlineScript} +
-             BookLayout::laterScripts())
+             BookLayout::laterScripts() + PlayerFile::languages())
         iFiles.push_back({BookLayout::inFiles(path), path,
                           PublishTransaction::contents(PlayerFile::installed(book, path))});
     iFiles.push_back(

@@ -4,6 +4,7 @@
 #include "base/Log.h"
 #include "base/PlatformException.h"
 #include "output/BookSteps.h"
+#include "output/PlayerFile.h"
 #include "output/WebScript.h"
 #include "pdf/AnnotationBudget.h"
 #include "pdf/PDFDocument.h"
@@ -12,7 +13,6 @@
 #include "template/FlashTemplate.h"
 #include "util/Base91.h"
 #include "webbook/PlainTextPage.h"
-#include "webbook/PlayerFile.h"
 #include "webbook/ReadingFiles.h"
 #include "webbook/SharedPlayer.h"
 #include "webbook/SingleFilePage.h"
@@ -329,16 +329,15 @@ SingleFilePage::Files orderedFiles(const BookLayout& layout, const PublishTransa
         take(WebBook::picturePath(page));
         take(BookLayout::text(page.number));
         if (i == 0) {
-            // Readers of other languages see nothing before it.
-            takePlayer(BookLayout::languageScript);
+            // Their readers see nothing before them.
+            for (const QString& language : PlayerFile::languages())
+                takePlayer(language);
             takeAll(BookLayout::settingsFiles);
         }
         if (i + 1 != std::min(firstPages, book.pages.size()))
             continue;
-        for (const QString& script : BookLayout::laterScripts()) {
-            if (script != BookLayout::languageScript)
-                takePlayer(script);
-        }
+        for (const QString& script : BookLayout::laterScripts())
+            takePlayer(script);
         takeAll(BookLayout::webData);
     }
     files.insert(files.end(), staged.begin(), staged.end());
@@ -414,8 +413,8 @@ void WebBookSteps::copyPlayer(PublishTarget& to, const WebBook& book) {
         }
         return;
     }
-    QStringList paths =
-        QStringList{BookLayout::webScript, BookLayout::webStyle} + BookLayout::laterScripts();
+    QStringList paths = QStringList{BookLayout::webScript, BookLayout::webStyle} +
+                        BookLayout::laterScripts() + PlayerFile::languages();
     if (book.isCourse)
         paths << BookLayout::courseScript;
     for (const QString& path : paths)

@@ -11,8 +11,8 @@ import globals from 'globals';
 const kind = (files, sourceType, names) => ({ files, languageOptions: { sourceType, globals: names } });
 
 /** The build puts them in. */
-const BUILT = { TURN: false, PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READING_TEXTS: false, READING_STYLE: false,
-  NOTES_TEXTS: false, NOTES_STYLE: false, VECTORS_TEXTS: false, VECTORS_STYLE: false };
+const BUILT = { TURN: false, LANGUAGES: false, PAGE_TEXTS: false, WEB_TEXTS: false, OFFLINE_TEXTS: false, READING_TEXTS: false,
+  READING_STYLE: false, NOTES_TEXTS: false, NOTES_STYLE: false, VECTORS_TEXTS: false, VECTORS_STYLE: false };
 
 export default [
   js.configs.recommended,

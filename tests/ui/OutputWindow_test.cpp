@@ -55,12 +55,9 @@ protected:
     }
     OutputWindow& window() { return sheet->window(); }
     void openForWebBook() {
-        for (const char* part :
-             {"web.js", "web.css", "vectors.js", "reading.js", "notes.js", "contents.js",
-              "search.js", "languages.js", "single.js", "offline.js", "sw.js"})
+        for (const char* part : {"web.js", "web.css", "vectors.js", "reading.js", "notes.js",
+                                 "contents.js", "search.js", "single.js", "offline.js", "sw.js"})
             book.library.addFile(QString("AppFiles/Web/") + part, part);
-        // Known by its beginning, or it would be the user's.
-        book.library.addFile("AppFiles/Web/languages.js", "window.folveroTexts={};");
         open();
         window().mOutputType->button(OutputWindow::webBook)->click();
     }

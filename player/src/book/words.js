@@ -6,34 +6,31 @@ import { fileAddress } from './values.js';
 /** @type {Map<string, string>} texts in the reader's language; a number in braces stands for a value */
 const texts = new Map();
 
-/** Codes of the browser's languages, the most preferred first. */
-const wanted = () => (navigator.languages ?? []).map((tag) => tag.toLowerCase().split('-')[0]);
-
 /**
- * Loads the texts of languages that scripts do not have, where the reader's is one of these.
- * @param {string} table as learn() takes it, with lines for these languages that have no texts
+ * Loads the texts of the most preferred of the browser's languages that there are; English is in the scripts.
+ * @param {string} languages codes of all others, with blanks between them
  */
-export async function loadMore(table) {
-  const lines = table.split('\n').map((line) => line.split('|'));
-  const line = wanted().map((code) => lines.find(([own]) => own === code)).find(Boolean);
-  // Where it fails, the reader's next language is used.
-  if (line?.length === 1 && !window.folveroTexts) {
-    await Promise.resolve(fileAddress('languages.js')).then(runScript).catch(() => {});
+export async function loadTexts(languages) {
+  const codes = languages.split(' ');
+  for (const tag of navigator.languages ?? []) {
+    const code = tag.toLowerCase().split('-')[0];
+    if (code === 'en' || window.folveroTexts) return;
+    // Where it fails, the reader's next language is used.
+    if (codes.includes(code)) await Promise.resolve(fileAddress(`languages/${code}.js`)).then(runScript).catch(() => {});
   }
 }
 
 /**
- * Adds texts in the most preferred of the browser's languages that there are, else in the table's first.
- * @param {string} table a line of names, then a line for each language: its code and the texts, with | between them
+ * Adds texts in the language that is loaded; those that it lacks are in English.
+ * @param {string} table a line of names, then one of English texts, with | between them
  * @param {string} section of the texts
  */
 export function learn(table, section) {
-  const all = [table, window.folveroTexts?.[section] ?? ''].flatMap((text) => {
-    const [names, ...languages] = text.split('\n').map((line) => line.split('|'));
-    return languages.filter((own) => own.length > 1).map((own) => ({ names, own }));
-  });
-  const { names, own } = wanted().map((code) => all.find(({ own: [known] }) => known === code)).find(Boolean) ?? all[0];
-  own.forEach((text, index) => texts.set(names[index], text));
+  for (const text of [table, window.folveroTexts?.[section] ?? '']) {
+    /** @type {string[][]} */
+    const [names, own = []] = text.split('\n').map((line) => line.split('|'));
+    own.forEach((one, index) => texts.set(names[index], one));
+  }
 }
 
 /**

@@ -1,5 +1,5 @@
 import { createHash } from 'node:crypto';
-import { mkdir, readFile, writeFile } from 'node:fs/promises';
+import { cp, mkdir, readFile, writeFile } from 'node:fs/promises';
 import path from 'node:path';
 import { png } from './png.mjs';
 import { CONFIG_KEY, rc4 } from './rc4.mjs';
@@ -71,6 +71,7 @@ export async function writeBook(folder, options) {
   const { template, pages, values, declaredSize, thumb, extras = {}, title = 'Test book' } = options;
   await mkdir(path.join(folder, 'files/page'), { recursive: true });
   await mkdir(path.join(folder, 'files/extfiles'), { recursive: true });
+  await cp(path.join(template, '../../Web/languages'), path.join(folder, 'files/languages'), { recursive: true });
   const shell = await readFile(path.join(template, 'index.html'), 'utf8');
   const scripts = [...shell.matchAll(/<script(?: data-shared="[^"]*")?>([^]*?)<\/script>/g)]
     .map(([, text]) => `'sha256-${createHash('sha256').update(text).digest('base64')}'`).join(' ');

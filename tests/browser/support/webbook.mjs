@@ -81,7 +81,7 @@ export async function makeWebBook(folder, description) {
   for (const [name, value] of Object.entries(dataOf(description))) {
     await writeFile(path.join(files, `${name}.js`), `folveroData(${JSON.stringify(name)}, ${JSON.stringify(value)});`);
   }
-  for (const name of ['web.js', 'web.css', 'vectors.js', 'reading.js', 'notes.js', 'contents.js', 'search.js', 'languages.js']) {
+  for (const name of ['web.js', 'web.css', 'vectors.js', 'reading.js', 'notes.js', 'contents.js', 'search.js']) {
     await copyFile(path.join(web, name), path.join(files, name));
   }
   const tags = '<link rel="stylesheet" href="files/web.css">\n<script src="files/web.js"></script>\n';

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 class BookLayout;
 
@@ -8,5 +8,8 @@ namespace PlayerFile {
 
 // The installed file of the player that a book has at that path. Fails when it is missing.
 QString installed(const BookLayout& layout, const QString& path);
+
+// The paths in a book of the texts that readers of each language load; English has none.
+QStringList languages();
 
 } // namespace PlayerFile
