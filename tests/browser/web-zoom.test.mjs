@@ -25,10 +25,7 @@ test('a double tap shows the column under the finger at the width of the screen,
   const whole = await width(book);
   const word = book.page.locator('.word', { hasText: 'wordB12' });
   const { x, y, height } = await word.boundingBox();
-  const tapTwice = async () => {
-    for (let tap = 0; tap < 2; tap += 1) await book.page.touchscreen.tap(x + 20, y + height / 2);
-  };
-  await tapTwice();
+  await book.tapTwice(x + 20, y + height / 2);
   await book.page.waitForSelector('.zoom-strip:not([hidden])');
   await book.rest();
   await book.page.waitForFunction(() => !document.querySelector('.book').style.willChange);
@@ -36,7 +33,7 @@ test('a double tap shows the column under the finger at the width of the screen,
   assert.ok(seen.width > 330 && seen.x > 0 && Math.abs(seen.x + seen.width / 2 - 195) < 3, `${seen.x}, ${seen.width}`);
   assert.ok(Math.abs(seen.y + seen.height / 2 - y - height / 2) < 3, 'the line stays where it was');
   assert.match(await figure(book), /^\d{3}%$/);
-  await tapTwice();
+  await book.tapTwice(x + 20, y + height / 2);
   await book.page.waitForFunction(() => document.querySelector('.zoom-strip').hidden);
   await book.page.waitForFunction(() => !document.querySelector('.book').style.willChange);
   assert.equal(await width(book), whole);
